@@ -1,0 +1,22 @@
+# Language level, warnings and sanitizers, the same for every target of the tree.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
+                    -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Werror)
+# Text literals and connections that Qt would convert behind our back do not compile.
+add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+                        QT_NO_KEYWORDS QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+if(VANTLE_SANITIZE STREQUAL "address")
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+elseif(VANTLE_SANITIZE STREQUAL "thread")
+    add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=thread)
+elseif(NOT VANTLE_SANITIZE STREQUAL "")
+    message(FATAL_ERROR "VANTLE_SANITIZE is '${VANTLE_SANITIZE}': address, thread or empty")
+endif()

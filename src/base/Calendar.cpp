@@ -1,0 +1,123 @@
+#include "base/Calendar.h"
+
+#include <unicode/calendar.h>
+#include <unicode/gregocal.h>
+#include <unicode/timezone.h>
+
+#include <cmath>
+#include <memory>
+
+namespace vantle {
+
+namespace {
+
+icu::UnicodeString toIcu(const QString& text) {
+    return {text.utf16(), static_cast<int32_t>(text.size())};
+}
+
+/// ICU counts in milliseconds; a fraction below that must not move a date into the next second.
+double milliseconds(Date date) { return std::floor(epochSeconds(date) * 1000.0); }
+
+Date fromMilliseconds(double ms) { return dateFromEpoch(ms / 1000.0); }
+
+/// ICU's calendar with these rules, set to `date`; null when ICU can't make one.
+std::unique_ptr<icu::GregorianCalendar> icuCalendar(const Calendar& rules, Date date) {
+    UErrorCode status = U_ZERO_ERROR;
+    auto calendar = std::make_unique<icu::GregorianCalendar>(
+        icu::TimeZone::createTimeZone(toIcu(rules.timeZone)),
+        icu::Locale::createFromName(rules.locale.toLatin1().constData()), status);
+    if (U_FAILURE(status)) return nullptr;
+    // The proleptic Gregorian calendar throughout, as in files.
+    calendar->setGregorianChange(-1e18, status);
+    calendar->setFirstDayOfWeek(static_cast<UCalendarDaysOfWeek>(rules.firstWeekday));
+    calendar->setMinimalDaysInFirstWeek(static_cast<uint8_t>(rules.minimalDays));
+    calendar->setTime(milliseconds(date), status);
+    return U_FAILURE(status) ? nullptr : std::move(calendar);
+}
+
+/// The locale in which the person writes times. ICU's own default follows the language of
+/// messages, which many people set to another country than that of their calendar.
+icu::Locale localeOfTimes() {
+    for (const char* name : {"LC_ALL", "LC_TIME", "LANG"}) {
+        const QByteArray value = qgetenv(name);
+        if (!value.isEmpty()) return icu::Locale::createCanonical(value.constData());
+    }
+    return icu::Locale::getDefault();
+}
+
+/// Moves `calendar` to the first moment of its day.
+std::optional<Date> firstMomentOfDay(icu::Calendar& calendar) {
+    UErrorCode status = U_ZERO_ERROR;
+    calendar.set(UCAL_HOUR_OF_DAY, 0);
+    calendar.set(UCAL_MINUTE, 0);
+    calendar.set(UCAL_SECOND, 0);
+    calendar.set(UCAL_MILLISECOND, 0);
+    // A skipped midnight resolves to the moment after the gap, a repeated one to its first pass.
+    calendar.setSkippedWallTimeOption(UCAL_WALLTIME_NEXT_VALID);
+    calendar.setRepeatedWallTimeOption(UCAL_WALLTIME_FIRST);
+    const double ms = calendar.getTime(status);
+    if (U_FAILURE(status)) return std::nullopt;
+    return fromMilliseconds(ms);
+}
+
+} // namespace
+
+Calendar Calendar::current() {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::detectHostTimeZone());
+    icu::UnicodeString zoneId;
+    zone->getID(zoneId);
+    const icu::Locale locale = localeOfTimes();
+    const std::unique_ptr<icu::Calendar> system(icu::Calendar::createInstance(locale, status));
+
+    Calendar calendar;
+    calendar.timeZone =
+        QString(reinterpret_cast<const QChar*>(zoneId.getBuffer()), zoneId.length());
+    calendar.locale = QString::fromLatin1(locale.getName());
+    if (U_SUCCESS(status)) {
+        calendar.firstWeekday = system->getFirstDayOfWeek();
+        calendar.minimalDays = system->getMinimalDaysInFirstWeek();
+    }
+    return calendar;
+}
+
+Date Calendar::startOfDay(Date date) const {
+    const auto calendar = icuCalendar(*this, date);
+    return calendar ? firstMomentOfDay(*calendar).value_or(date) : date;
+}
+
+std::optional<Date> Calendar::startOfWeek(Date date) const {
+    const auto calendar = icuCalendar(*this, date);
+    if (!calendar) return std::nullopt;
+    UErrorCode status = U_ZERO_ERROR;
+    const int weekday = calendar->get(UCAL_DAY_OF_WEEK, status);
+    if (U_FAILURE(status)) return std::nullopt;
+    const int daysIntoWeek = (weekday - firstWeekday + 7) % 7;
+    // Noon first: it exists on every day, so going back can't land in a gap and slip to another day.
+    calendar->set(UCAL_HOUR_OF_DAY, 12);
+    calendar->add(UCAL_DAY_OF_MONTH, -daysIntoWeek, status);
+    if (U_FAILURE(status)) return std::nullopt;
+    return firstMomentOfDay(*calendar);
+}
+
+std::optional<Date> Calendar::addingWeeks(Date date, int weeks) const {
+    const auto calendar = icuCalendar(*this, date);
+    if (!calendar) return std::nullopt;
+    UErrorCode status = U_ZERO_ERROR;
+    calendar->add(UCAL_WEEK_OF_YEAR, weeks, status);
+    const double ms = calendar->getTime(status);
+    if (U_FAILURE(status)) return std::nullopt;
+    return fromMilliseconds(ms);
+}
+
+std::optional<Calendar::WeekOfYear> Calendar::weekOfYear(Date date) const {
+    const auto calendar = icuCalendar(*this, date);
+    if (!calendar) return std::nullopt;
+    UErrorCode status = U_ZERO_ERROR;
+    const WeekOfYear week{calendar->get(UCAL_YEAR_WOY, status),
+                          calendar->get(UCAL_WEEK_OF_YEAR, status)};
+    if (U_FAILURE(status)) return std::nullopt;
+    return week;
+}
+
+} // namespace vantle

@@ -1,0 +1,80 @@
+#include "base/Iso8601.h"
+
+#include <cmath>
+
+namespace vantle::iso8601 {
+
+namespace {
+
+/// The number that `count` digits at `at` write, or -1 when one of them is no digit.
+int digits(const char* at, int count) {
+    int value = 0;
+    for (int i = 0; i < count; ++i) {
+        const unsigned digit = static_cast<unsigned char>(at[i]) - unsigned{'0'};
+        if (digit > 9) return -1;
+        value = value * 10 + static_cast<int>(digit);
+    }
+    return value;
+}
+
+void writeDigits(char* at, int count, unsigned value) {
+    for (int i = count - 1; i >= 0; --i) {
+        at[i] = static_cast<char>('0' + value % 10);
+        value /= 10;
+    }
+}
+
+} // namespace
+
+std::optional<std::array<char, kLength>> format(Date date) {
+    using namespace std::chrono;
+    constexpr double kFirst = -62135596800.0; // 0001-01-01T00:00:00Z
+    constexpr double kEnd = 253402300800.0;   // 10000-01-01T00:00:00Z
+    const double epoch = std::floor(epochSeconds(date));
+    if (!(epoch >= kFirst && epoch < kEnd)) return std::nullopt;
+
+    const sys_seconds whole{seconds(static_cast<std::int64_t>(epoch))};
+    const sys_days day = floor<days>(whole);
+    const year_month_day ymd{day};
+    const hh_mm_ss<seconds> time{whole - day};
+
+    std::array<char, kLength> text{};
+    char* out = text.data();
+    writeDigits(out, 4, static_cast<unsigned>(static_cast<int>(ymd.year())));
+    out[4] = '-';
+    writeDigits(out + 5, 2, static_cast<unsigned>(ymd.month()));
+    out[7] = '-';
+    writeDigits(out + 8, 2, static_cast<unsigned>(ymd.day()));
+    out[10] = 'T';
+    writeDigits(out + 11, 2, static_cast<unsigned>(time.hours().count()));
+    out[13] = ':';
+    writeDigits(out + 14, 2, static_cast<unsigned>(time.minutes().count()));
+    out[16] = ':';
+    writeDigits(out + 17, 2, static_cast<unsigned>(time.seconds().count()));
+    out[19] = 'Z';
+    return text;
+}
+
+std::optional<Date> parse(std::string_view text) {
+    using namespace std::chrono;
+    if (text.size() != kLength) return std::nullopt;
+    const char* in = text.data();
+    if (in[4] != '-' || in[7] != '-' || in[10] != 'T' || in[13] != ':' || in[16] != ':' ||
+        in[19] != 'Z')
+        return std::nullopt;
+    const int y = digits(in, 4);
+    const int mo = digits(in + 5, 2);
+    const int d = digits(in + 8, 2);
+    const int h = digits(in + 11, 2);
+    const int mi = digits(in + 14, 2);
+    const int s = digits(in + 17, 2);
+    if (y < 1 || mo < 1 || d < 1 || h < 0 || h > 23 || mi < 0 || mi > 59 || s < 0 || s > 59)
+        return std::nullopt;
+    const year_month_day ymd{year(y), month(static_cast<unsigned>(mo)),
+                             day(static_cast<unsigned>(d))};
+    if (!ymd.ok()) return std::nullopt;
+    const sys_seconds whole = sys_days(ymd) + hours(h) + minutes(mi) + seconds(s);
+    return Date(Seconds(static_cast<double>(whole.time_since_epoch().count())));
+}
+
+} // namespace vantle::iso8601

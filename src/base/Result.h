@@ -1,0 +1,66 @@
+// The outcome of an operation that the outside world can make fail.
+//
+// A Result can't be ignored, and its error always names the operation and the file. No exception
+// leaves a folder; operations that can fail give a Result instead. Plain values, any thread.
+#pragma once
+
+#include <QString>
+
+#include <optional>
+#include <utility>
+#include <variant>
+
+namespace vantle {
+
+/// What went wrong, where, and in the platform's own words.
+struct Error {
+    int code = 0;      ///< errno, or 0 where the platform gave none
+    QString operation; ///< what was tried, as in "write"
+    QString path;      ///< the file or directory concerned
+    QString text;      ///< the platform's text for the code, or our own where it has none
+
+    /// The platform's text with the operation and the file: "No space left on device (write
+    /// /home/ada/.local/share/Vantle/sessions.jsonl)".
+    [[nodiscard]] QString description() const;
+
+    /// An error made from errno.
+    [[nodiscard]] static Error fromErrno(int code, const QString& operation, const QString& path);
+};
+
+template <typename T = void> class [[nodiscard]] Result {
+public:
+    Result(T value) : m_outcome(std::in_place_index<0>, std::move(value)) {}
+    Result(Error error) : m_outcome(std::in_place_index<1>, std::move(error)) {}
+
+    [[nodiscard]] bool ok() const { return m_outcome.index() == 0; }
+    explicit operator bool() const { return ok(); }
+
+    /// The value. Only when ok().
+    [[nodiscard]] T& value() { return std::get<0>(m_outcome); }
+    [[nodiscard]] const T& value() const { return std::get<0>(m_outcome); }
+
+    /// The error. Only when not ok().
+    [[nodiscard]] const Error& error() const { return std::get<1>(m_outcome); }
+
+    /// Says that the failure is deliberately of no consequence here.
+    void ignore() const {}
+
+private:
+    std::variant<T, Error> m_outcome;
+};
+
+template <> class [[nodiscard]] Result<void> {
+public:
+    Result() = default;
+    Result(Error error) : m_error(std::move(error)) {}
+
+    [[nodiscard]] bool ok() const { return !m_error.has_value(); }
+    explicit operator bool() const { return ok(); }
+    [[nodiscard]] const Error& error() const { return *m_error; }
+    void ignore() const {}
+
+private:
+    std::optional<Error> m_error;
+};
+
+} // namespace vantle

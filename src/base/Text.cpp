@@ -1,0 +1,146 @@
+#include "base/Text.h"
+
+#include <unicode/brkiter.h>
+#include <unicode/normalizer2.h>
+#include <unicode/uchar.h>
+#include <unicode/unistr.h>
+#include <unicode/utext.h>
+#include <unicode/utf16.h>
+
+#include <QStringList>
+
+#include <memory>
+
+namespace vantle::text {
+
+namespace {
+
+/// An aliasing, read-only ICU view of `text`: no copy, valid while `text` is.
+icu::UnicodeString viewOf(QStringView text) {
+    return {false, text.utf16(), static_cast<int32_t>(text.size())};
+}
+
+QString fromIcu(const icu::UnicodeString& text) {
+    return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
+}
+
+/// A character iterator of this thread, made once: making one costs more than a short walk.
+icu::BreakIterator& characterIterator() {
+    thread_local const std::unique_ptr<icu::BreakIterator> iterator = [] {
+        UErrorCode status = U_ZERO_ERROR;
+        return std::unique_ptr<icu::BreakIterator>(
+            icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
+    }();
+    return *iterator;
+}
+
+bool isWhiteSpace(char32_t scalar) { return u_isUWhiteSpace(static_cast<UChar32>(scalar)); }
+
+/// Calls `visit(begin, end, scalar)` for each scalar; a lone surrogate counts as one.
+template <typename Visit> void forEachScalar(QStringView text, Visit visit) {
+    const char16_t* units = text.utf16();
+    const auto length = text.size();
+    for (qsizetype at = 0; at < length;) {
+        const qsizetype begin = at;
+        UChar32 scalar = 0;
+        U16_NEXT(units, at, length, scalar);
+        visit(begin, at, static_cast<char32_t>(scalar));
+    }
+}
+
+} // namespace
+
+QList<qsizetype> characterBoundaries(QStringView text) {
+    QList<qsizetype> bounds{0};
+    if (text.isEmpty()) return bounds;
+    icu::BreakIterator& iterator = characterIterator();
+    const icu::UnicodeString view = viewOf(text);
+    iterator.setText(view);
+    for (int32_t at = iterator.next(); at != icu::BreakIterator::DONE; at = iterator.next())
+        bounds.append(at);
+    iterator.setText(icu::UnicodeString());
+    return bounds;
+}
+
+qsizetype characterCount(QStringView text) { return characterBoundaries(text).size() - 1; }
+
+bool hasAtMost(QStringView text, qsizetype limit) {
+    // A character has at least one unit, so few units settle it without looking.
+    return text.size() <= limit || characterCount(text) <= limit;
+}
+
+QString firstCharacters(const QString& text, qsizetype count) {
+    if (text.size() <= count) return text;
+    const QList<qsizetype> bounds = characterBoundaries(text);
+    return bounds.size() - 1 <= count ? text : text.first(bounds[count]);
+}
+
+QString trimmed(const QString& text) {
+    qsizetype begin = -1;
+    qsizetype end = 0;
+    forEachScalar(text, [&](qsizetype from, qsizetype to, char32_t scalar) {
+        if (isWhiteSpace(scalar)) return;
+        if (begin < 0) begin = from;
+        end = to;
+    });
+    return begin < 0 ? QString() : text.sliced(begin, end - begin);
+}
+
+QString withSingleBlanks(const QString& text) {
+    QString result;
+    bool gap = false;
+    forEachScalar(text, [&](qsizetype from, qsizetype to, char32_t scalar) {
+        if (isWhiteSpace(scalar)) {
+            gap = !result.isEmpty();
+            return;
+        }
+        if (gap) result += QLatin1Char(' ');
+        gap = false;
+        result += QStringView(text).sliced(from, to - from);
+    });
+    return result;
+}
+
+QString foldedCaseAndDiacritics(const QString& text) {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::Normalizer2* nfd = icu::Normalizer2::getNFDInstance(status);
+    const icu::Normalizer2* nfc = icu::Normalizer2::getNFCInstance(status);
+    if (U_FAILURE(status)) return text;
+    const icu::UnicodeString decomposed = nfd->normalize(viewOf(text), status);
+    icu::UnicodeString bare;
+    for (int32_t at = 0; at < decomposed.length(); at = decomposed.moveIndex32(at, 1)) {
+        const UChar32 scalar = decomposed.char32At(at);
+        if (u_charType(scalar) != U_NON_SPACING_MARK) bare.append(scalar);
+    }
+    bare.foldCase(U_FOLD_CASE_DEFAULT);
+    const icu::UnicodeString composed = nfc->normalize(bare, status);
+    return U_FAILURE(status) ? text : fromIcu(composed);
+}
+
+QString lowerCased(const QString& text) {
+    icu::UnicodeString lower(text.utf16(), static_cast<int32_t>(text.size()));
+    lower.toLower(icu::Locale::getRoot());
+    return fromIcu(lower);
+}
+
+QString capitalizedWords(const QString& text) {
+    QStringList words = text.split(QLatin1Char(' '));
+    for (QString& word : words) {
+        if (word.isEmpty()) continue;
+        const QString first = firstCharacters(word, 1);
+        icu::UnicodeString upper(first.utf16(), static_cast<int32_t>(first.size()));
+        upper.toTitle(nullptr, icu::Locale::getRoot());
+        word = fromIcu(upper) + lowerCased(word.sliced(first.size()));
+    }
+    return words.join(QLatin1Char(' '));
+}
+
+bool isLetterOrNumber(QStringView character) {
+    if (character.isEmpty()) return false;
+    UChar32 scalar = 0;
+    U16_GET(character.utf16(), 0, 0, character.size(), scalar);
+    constexpr uint32_t kLettersAndNumbers = U_GC_L_MASK | U_GC_N_MASK;
+    return (U_GET_GC_MASK(scalar) & kLettersAndNumbers) != 0;
+}
+
+} // namespace vantle::text

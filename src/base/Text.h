@@ -1,0 +1,51 @@
+// Text as people see it: user-perceived characters, white space, case and letters by Unicode.
+//
+// Pure functions over QString, any thread. The tables are ICU's; no function depends on the
+// person's locale.
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace vantle::text {
+
+/// How many user-perceived characters (extended grapheme clusters) `text` holds.
+[[nodiscard]] qsizetype characterCount(QStringView text);
+
+/// Whether `text` has at most `limit` user-perceived characters. Cheap for short texts.
+[[nodiscard]] bool hasAtMost(QStringView text, qsizetype limit);
+
+/// The first `count` user-perceived characters of `text`; all of it when it has no more.
+[[nodiscard]] QString firstCharacters(const QString& text, qsizetype count);
+
+/// `text` without white space and newlines (Unicode White_Space) at both ends.
+[[nodiscard]] QString trimmed(const QString& text);
+
+/// The pieces of `text` between runs of white space and newlines, without empty ones, joined by
+/// one blank.
+[[nodiscard]] QString withSingleBlanks(const QString& text);
+
+/// The form under which texts that differ only in case and diacritics are the same.
+[[nodiscard]] QString foldedCaseAndDiacritics(const QString& text);
+
+/// Full lower-casing, independent of the locale.
+[[nodiscard]] QString lowerCased(const QString& text);
+
+/// Each word, the pieces between blanks (U+0020), with its first character in upper case and the
+/// rest in lower case.
+[[nodiscard]] QString capitalizedWords(const QString& text);
+
+/// What the first scalar of a user-perceived character says it is.
+[[nodiscard]] bool isLetterOrNumber(QStringView character);
+
+/// The boundaries of the user-perceived characters of `text`, from 0 to its length.
+[[nodiscard]] QList<qsizetype> characterBoundaries(QStringView text);
+
+/// Calls `visit(QStringView)` for each user-perceived character of `text`, in order.
+template <typename Visit> void forEachCharacter(const QString& text, Visit visit) {
+    const QList<qsizetype> bounds = characterBoundaries(text);
+    for (qsizetype i = 1; i < bounds.size(); ++i)
+        visit(QStringView(text).sliced(bounds[i - 1], bounds[i] - bounds[i - 1]));
+}
+
+} // namespace vantle::text

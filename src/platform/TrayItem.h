@@ -1,0 +1,35 @@
+// The program's place in the desktop's tray.
+#pragma once
+
+#include <QIcon>
+#include <QObject>
+#include <QPoint>
+#include <QRect>
+#include <QString>
+
+namespace vantle {
+
+/// One tray item. Shows itself as soon as the desktop has a tray, also when that comes later, and
+/// again when the tray comes back. Main thread.
+class TrayItem : public QObject {
+    Q_OBJECT
+
+public:
+    /// An image with the sizes that trays ask for. `isTemplate` says that only its shape counts
+    /// and that it takes the colour of the bar's text where the desktop can tell that.
+    virtual void setImage(const QIcon& image, bool isTemplate) = 0;
+    virtual void setToolTip(const QString& text) = 0;
+
+    /// Whether a tray shows the item.
+    [[nodiscard]] virtual bool isShown() const = 0;
+
+    /// Where the item is on the screen; empty where the desktop does not tell.
+    [[nodiscard]] virtual QRect geometry() const = 0;
+
+Q_SIGNALS:
+    /// A left or right click, with its place on the screen as far as known, else (0, 0).
+    void clicked(QPoint place);
+    void shownChanged();
+};
+
+} // namespace vantle

@@ -1,0 +1,97 @@
+// Time that passes only when a test says so: an hour in a microsecond.
+//
+// Two clocks: the wall clock, which can be shifted, and the timer clock, which drives timers and
+// delayed work. `advance` moves both. After each fired timer the I/O queues are run dry and then
+// the posted main-thread work, until nothing is left.
+#pragma once
+
+#include "base/Clock.h"
+#include "base/Scheduler.h"
+#include "base/SerialQueue.h"
+
+#include <cstdint>
+#include <deque>
+#include <list>
+#include <map>
+#include <utility>
+#include <vector>
+
+namespace vantle::fakes {
+
+/// A queue whose asynchronous jobs wait until somebody runs them: a synchronous job, a drain, or
+/// the virtual time settling.
+class ManualQueue final : public SerialQueue {
+public:
+    void async(std::function<void()> job) override { m_jobs.push_back(std::move(job)); }
+    void sync(const std::function<void()>& job) override {
+        runDry();
+        job();
+    }
+    void runDry() {
+        while (!m_jobs.empty()) {
+            const std::function<void()> job = std::move(m_jobs.front());
+            m_jobs.pop_front();
+            job();
+        }
+    }
+    /// Forgets what is queued, as a kill does.
+    void dropAll() { m_jobs.clear(); }
+    [[nodiscard]] bool empty() const { return m_jobs.empty(); }
+
+private:
+    std::deque<std::function<void()>> m_jobs;
+};
+
+class VirtualTime final : public Clock, public Scheduler {
+public:
+    explicit VirtualTime(Date start = dateFromEpoch(1772359200.0)) : m_wall(start) {}
+
+    // Clock
+    [[nodiscard]] Date now() const override { return m_wall; }
+
+    // Scheduler
+    [[nodiscard]] TimerHandle scheduleRepeatingTimer(Seconds every, Seconds tolerance,
+                                                     std::function<void()> work) override;
+    [[nodiscard]] TimerHandle scheduleOnce(Seconds delay, std::function<void()> work) override;
+    void post(std::function<void()> work) override { m_posted.push_back(std::move(work)); }
+
+    /// Makes `queue` run dry whenever time settles. It must outlive this object.
+    void attach(ManualQueue& queue) { m_queues.push_back(&queue); }
+
+    /// Moves both clocks on, firing each timer that is due on the way, in order of due time.
+    void advance(Seconds by);
+    void advance(double seconds) { advance(Seconds(seconds)); }
+
+    /// Moves the wall clock alone: somebody set it, or the machine slept.
+    void shiftWall(double seconds) { m_wall += Seconds(seconds); }
+
+    /// Runs the queues and the posted work until nothing is left.
+    void settle();
+
+    /// Seconds on the timer clock since the beginning.
+    [[nodiscard]] double timerClock() const { return m_timerClock; }
+    /// How many timers and delayed works there are.
+    [[nodiscard]] std::size_t timerCount() const { return m_timers.size(); }
+    /// How many repeating timers of that interval there are.
+    [[nodiscard]] std::size_t repeatingTimers(double every) const;
+
+private:
+    struct Entry {
+        double due = 0;
+        double every = 0; ///< 0 for delayed work
+        double madeAt = 0;
+        std::uint64_t fired = 0;
+        std::function<void()> work;
+    };
+    class Handle;
+    TimerHandle add(Entry entry);
+
+    Date m_wall;
+    double m_timerClock = 0;
+    std::uint64_t m_nextId = 0;
+    std::map<std::uint64_t, Entry> m_timers;
+    std::deque<std::function<void()>> m_posted;
+    std::vector<ManualQueue*> m_queues;
+};
+
+} // namespace vantle::fakes
