@@ -1,0 +1,44 @@
+// Preferences in memory, with the text behind each value open to the test. Main thread.
+#pragma once
+
+#include "platform/Preferences.h"
+
+#include <QMap>
+#include <QStringList>
+
+namespace vantle::fakes {
+
+class MemoryPreferences final : public Preferences {
+    Q_OBJECT
+
+public:
+    // Preferences
+    [[nodiscard]] std::optional<bool> boolean(const QString& key) const override;
+    [[nodiscard]] std::optional<qint64> integer(const QString& key) const override;
+    [[nodiscard]] std::optional<double> number(const QString& key) const override;
+    [[nodiscard]] std::optional<QString> string(const QString& key) const override;
+    void setBoolean(const QString& key, bool value) override;
+    void setInteger(const QString& key, qint64 value) override;
+    void setNumber(const QString& key, double value) override;
+    void setString(const QString& key, const QString& value) override;
+    void remove(const QString& key) override;
+    void removeAll() override;
+    void synchronize() override {}
+
+    /// Puts a text there as an editor outside the program would, without a word to anybody.
+    void setRaw(const QString& key, const QString& text) { m_texts[key] = text; }
+
+    /// Takes a key away, likewise.
+    void removeRaw(const QString& key) { m_texts.remove(key); }
+
+    /// The text behind a key; empty when the key is absent.
+    [[nodiscard]] std::optional<QString> raw(const QString& key) const { return string(key); }
+
+    /// All keys, sorted.
+    [[nodiscard]] QStringList keys() const { return m_texts.keys(); }
+
+private:
+    QMap<QString, QString> m_texts;
+};
+
+} // namespace vantle::fakes
