@@ -93,7 +93,8 @@ std::optional<Date> Calendar::startOfWeek(Date date) const {
     const int weekday = calendar->get(UCAL_DAY_OF_WEEK, status);
     if (U_FAILURE(status)) return std::nullopt;
     const int daysIntoWeek = (weekday - firstWeekday + 7) % 7;
-    // Noon first: it exists on every day, so going back can't land in a gap and slip to another day.
+    // Noon first: it exists on every day, so going back can't land in a gap and slip to another
+    // day.
     calendar->set(UCAL_HOUR_OF_DAY, 12);
     calendar->add(UCAL_DAY_OF_MONTH, -daysIntoWeek, status);
     if (U_FAILURE(status)) return std::nullopt;

@@ -27,7 +27,8 @@ struct Error {
     [[nodiscard]] static Error fromErrno(int code, const QString& operation, const QString& path);
 };
 
-template <typename T = void> class [[nodiscard]] Result {
+template <typename T = void>
+class [[nodiscard]] Result {
 public:
     Result(T value) : m_outcome(std::in_place_index<0>, std::move(value)) {}
     Result(Error error) : m_outcome(std::in_place_index<1>, std::move(error)) {}
@@ -49,7 +50,8 @@ private:
     std::variant<T, Error> m_outcome;
 };
 
-template <> class [[nodiscard]] Result<void> {
+template <>
+class [[nodiscard]] Result<void> {
 public:
     Result() = default;
     Result(Error error) : m_error(std::move(error)) {}

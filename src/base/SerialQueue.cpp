@@ -1,7 +1,6 @@
 #include "base/SerialQueue.h"
 
 #include <future>
-
 #include <pthread.h>
 
 namespace vantle {

@@ -31,7 +31,8 @@ public:
     }
 
     /// `sync` for a job that answers.
-    template <typename Job> [[nodiscard]] auto run(Job&& job) {
+    template <typename Job>
+    [[nodiscard]] auto run(Job&& job) {
         std::optional<std::invoke_result_t<Job>> answer;
         sync([&] { answer.emplace(job()); });
         return std::move(*answer);

@@ -1,13 +1,13 @@
 #include "base/Text.h"
 
+#include <QStringList>
+
 #include <unicode/brkiter.h>
 #include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 #include <unicode/utext.h>
 #include <unicode/utf16.h>
-
-#include <QStringList>
 
 #include <memory>
 
@@ -37,7 +37,8 @@ icu::BreakIterator& characterIterator() {
 bool isWhiteSpace(char32_t scalar) { return u_isUWhiteSpace(static_cast<UChar32>(scalar)); }
 
 /// Calls `visit(begin, end, scalar)` for each scalar; a lone surrogate counts as one.
-template <typename Visit> void forEachScalar(QStringView text, Visit visit) {
+template <typename Visit>
+void forEachScalar(QStringView text, Visit visit) {
     const char16_t* units = text.utf16();
     const auto length = text.size();
     for (qsizetype at = 0; at < length;) {

@@ -42,7 +42,8 @@ namespace vantle::text {
 [[nodiscard]] QList<qsizetype> characterBoundaries(QStringView text);
 
 /// Calls `visit(QStringView)` for each user-perceived character of `text`, in order.
-template <typename Visit> void forEachCharacter(const QString& text, Visit visit) {
+template <typename Visit>
+void forEachCharacter(const QString& text, Visit visit) {
     const QList<qsizetype> bounds = characterBoundaries(text);
     for (qsizetype i = 1; i < bounds.size(); ++i)
         visit(QStringView(text).sliced(bounds[i - 1], bounds[i] - bounds[i - 1]));

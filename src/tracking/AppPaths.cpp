@@ -1,0 +1,111 @@
+#include "tracking/AppPaths.h"
+
+#include "platform/FileSystem.h"
+
+#include <QUuid>
+
+namespace vantle {
+
+namespace {
+
+constexpr int kPrivateFile = 0600;
+constexpr int kPrivateDirectory = 0700;
+
+QString fileIn(const QString& directory, QLatin1String name) {
+    return directory + QLatin1Char('/') + name;
+}
+
+QString parentOf(const QString& path) { return path.left(path.lastIndexOf(QLatin1Char('/'))); }
+
+/// Creates `path` and fills it; the caller removes what is left of it on failure.
+Result<> writeNewFile(FileSystem& files, const QByteArray& data, const QString& path) {
+    auto file = files.open(path, FileSystem::OpenMode::CreateNew);
+    if (!file) return file.error();
+    if (const auto written = file.value()->write(data); !written) return written;
+    if (const auto synced = file.value()->sync(); !synced) return synced;
+    return file.value()->close();
+}
+
+} // namespace
+
+AppPaths::AppPaths(FileSystem& fileSystem, QString baseDirectory)
+    : m_fileSystem(fileSystem)
+    , m_base(std::move(baseDirectory)) {}
+
+QString AppPaths::supportDir() const {
+    const QString primary = fileIn(m_base, QLatin1String("Vantle"));
+    if (m_fileSystem.exists(primary)) return primary;
+    // Earlier versions used another name. Once the new directory is there, the old one is never
+    // looked at again, not even when moving it has failed.
+    const QString old = fileIn(m_base, QLatin1String("Hourfold"));
+    if (m_fileSystem.exists(old) && m_fileSystem.rename(old, primary).ok()) return primary;
+    m_fileSystem.makeDirectories(primary, std::nullopt).ignore();
+    return primary;
+}
+
+QString AppPaths::sessionsFile() const {
+    return fileIn(supportDir(), QLatin1String("sessions.jsonl"));
+}
+
+QString AppPaths::openSessionMarker() const {
+    return fileIn(supportDir(), QLatin1String("open-session.json"));
+}
+
+QString AppPaths::skillsFile() const { return fileIn(supportDir(), QLatin1String("skills.json")); }
+
+QString AppPaths::autoRulesFile() const {
+    return fileIn(supportDir(), QLatin1String("auto-rules.json"));
+}
+
+QString AppPaths::corruptSessionsFile() const {
+    return fileIn(supportDir(), QLatin1String("corrupt-sessions.jsonl"));
+}
+
+QString AppPaths::instanceLock() const {
+    return fileIn(supportDir(), QLatin1String(".instance.lock"));
+}
+
+QStringList AppPaths::allDataFiles() const {
+    return {sessionsFile(), openSessionMarker(), skillsFile(), autoRulesFile(),
+            corruptSessionsFile()};
+}
+
+Result<> AppPaths::writeProtected(const QByteArray& data, const QString& path) const {
+    const QString directory = parentOf(path);
+    if (const auto made = m_fileSystem.makeDirectories(directory, kPrivateDirectory); !made)
+        return made;
+    const QString temporary =
+        QStringLiteral("%1/.%2.%3.tmp")
+            .arg(directory, path.mid(directory.size() + 1),
+                 QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper());
+
+    Result<> outcome = writeNewFile(m_fileSystem, data, temporary);
+    if (outcome) outcome = m_fileSystem.rename(temporary, path);
+    if (!outcome) {
+        m_fileSystem.remove(temporary).ignore();
+        return outcome;
+    }
+    // Without this a power loss could bring the old file back. Not every file system can do it,
+    // and the new content is in place already.
+    m_fileSystem.syncDirectory(directory).ignore();
+    return {};
+}
+
+Result<> AppPaths::removeIfPresent(const QString& path) const {
+    if (!m_fileSystem.exists(path)) return {};
+    return m_fileSystem.remove(path);
+}
+
+void AppPaths::restrictToOwner(const QString& path) const {
+    m_fileSystem.setMode(path, kPrivateFile).ignore();
+}
+
+void AppPaths::enforcePrivatePermissions() const {
+    const QString directory = supportDir();
+    m_fileSystem.setMode(directory, kPrivateDirectory).ignore();
+    for (const QString& file : allDataFiles())
+        if (m_fileSystem.exists(file)) restrictToOwner(file);
+    removeIfPresent(fileIn(directory, QLatin1String("sync-queue.json"))).ignore();
+}
+
+} // namespace vantle

@@ -1,0 +1,58 @@
+#include "tracking/DurationStyle.h"
+
+#include "platform/Preferences.h"
+#include "tracking/DashFormat.h"
+#include "tracking/NotificationCenter.h"
+
+namespace vantle::durationstyle {
+
+QString rawValue(DurationStyle style) {
+    switch (style) {
+    case DurationStyle::Natural:
+        return QStringLiteral("natural");
+    case DurationStyle::HoursMinutes:
+        return QStringLiteral("hoursMinutes");
+    case DurationStyle::Minutes:
+        return QStringLiteral("minutes");
+    case DurationStyle::Clock:
+        return QStringLiteral("clock");
+    }
+    Q_UNREACHABLE();
+}
+
+std::optional<DurationStyle> fromRawValue(const QString& value) {
+    for (const DurationStyle style : all)
+        if (rawValue(style) == value) return style;
+    return std::nullopt;
+}
+
+QString label(DurationStyle style) {
+    switch (style) {
+    case DurationStyle::Natural:
+        return QStringLiteral("Natural");
+    case DurationStyle::HoursMinutes:
+        return QStringLiteral("Hours and minutes");
+    case DurationStyle::Minutes:
+        return QStringLiteral("Minutes only");
+    case DurationStyle::Clock:
+        return QStringLiteral("Clock");
+    }
+    Q_UNREACHABLE();
+}
+
+QString sample(DurationStyle style) {
+    constexpr double kSampleHours = 3.5033333333333334; // 3 h 30 min 12 s
+    return dashformat::inlineHours(kSampleHours, style);
+}
+
+DurationStyle current(const Preferences& preferences) {
+    const auto stored = preferences.string(QLatin1String(defaultsKey));
+    return stored ? fromRawValue(*stored).value_or(DurationStyle::Natural) : DurationStyle::Natural;
+}
+
+void adopt(DurationStyle style, Preferences& preferences, NotificationCenter& notifications) {
+    preferences.setString(QLatin1String(defaultsKey), rawValue(style));
+    Q_EMIT notifications.HFSessionsChanged();
+}
+
+} // namespace vantle::durationstyle

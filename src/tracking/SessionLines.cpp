@@ -1,0 +1,162 @@
+#include "tracking/SessionLines.h"
+
+#include "base/Iso8601.h"
+#include "tracking/JsonForm.h"
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace vantle::sessionlines {
+
+namespace {
+
+/// Walks over the bytes of a line. Every step tells whether the line still is in our own form.
+class Cursor {
+public:
+    explicit Cursor(QByteArrayView text) : m_at(text.data()), m_end(m_at + text.size()) {}
+
+    [[nodiscard]] const char* position() const { return m_at; }
+
+    template <std::size_t Size>
+    bool literal(const char (&text)[Size]) {
+        constexpr std::size_t length = Size - 1;
+        if (left() < length || std::memcmp(m_at, text, length) != 0) return false;
+        m_at += length;
+        return true;
+    }
+
+    /// Decimal digits as JSON has them: no sign, no leading zero, few enough to fit.
+    bool digits(std::int64_t& value) {
+        constexpr int kMaxDigits = 18;
+        const char* const begin = m_at;
+        value = 0;
+        for (; m_at < m_end; ++m_at) {
+            const unsigned digit = static_cast<unsigned char>(*m_at) - unsigned{'0'};
+            if (digit > 9) break;
+            value = value * 10 + digit;
+            if (m_at - begin >= kMaxDigits) return false;
+        }
+        const auto count = m_at - begin;
+        return count > 0 && (count == 1 || *begin != '0');
+    }
+
+    bool date(Date& date) {
+        if (left() < iso8601::kLength) return false;
+        const auto parsed = iso8601::parse(std::string_view(m_at, iso8601::kLength));
+        if (!parsed) return false;
+        date = *parsed;
+        m_at += iso8601::kLength;
+        return true;
+    }
+
+    bool id(QUuid& id);
+
+    /// The bytes up to the closing quote, if none of them needs a closer look: an escape, a control
+    /// character, or the lead byte of a newline beyond ASCII.
+    bool plainText(QByteArrayView& text);
+
+    [[nodiscard]] bool atLineEnd() const { return m_at == m_end || *m_at == '\n'; }
+
+private:
+    [[nodiscard]] std::size_t left() const { return static_cast<std::size_t>(m_end - m_at); }
+
+    const char* m_at;
+    const char* m_end;
+};
+
+constexpr std::array<std::uint8_t, 256> makeHexValues() {
+    std::array<std::uint8_t, 256> values{};
+    values.fill(0xFF);
+    for (unsigned c = '0'; c <= '9'; ++c)
+        values[c] = static_cast<std::uint8_t>(c - '0');
+    for (unsigned c = 'A'; c <= 'F'; ++c)
+        values[c] = static_cast<std::uint8_t>(c - 'A' + 10);
+    for (unsigned c = 'a'; c <= 'f'; ++c)
+        values[c] = static_cast<std::uint8_t>(c - 'a' + 10);
+    return values;
+}
+constexpr std::array<std::uint8_t, 256> kHexValues = makeHexValues();
+
+bool Cursor::id(QUuid& id) {
+    static constexpr std::array<std::uint8_t, 16> offsets = {0,  2,  4,  6,  9,  11, 14, 16,
+                                                             19, 21, 24, 26, 28, 30, 32, 34};
+    if (left() < 36) return false;
+    if (m_at[8] != '-' || m_at[13] != '-' || m_at[18] != '-' || m_at[23] != '-') return false;
+    std::array<std::uint8_t, 16> bytes{};
+    unsigned bad = 0;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const unsigned high = kHexValues[static_cast<unsigned char>(m_at[offsets[i]])];
+        const unsigned low = kHexValues[static_cast<unsigned char>(m_at[offsets[i] + 1])];
+        bad |= (high | low) & 0xF0u;
+        bytes[i] = static_cast<std::uint8_t>(high << 4 | low);
+    }
+    if (bad != 0) return false;
+    id = QUuid((uint(bytes[0]) << 24) | (uint(bytes[1]) << 16) | (uint(bytes[2]) << 8) | bytes[3],
+               static_cast<ushort>(bytes[4] << 8 | bytes[5]),
+               static_cast<ushort>(bytes[6] << 8 | bytes[7]), bytes[8], bytes[9], bytes[10],
+               bytes[11], bytes[12], bytes[13], bytes[14], bytes[15]);
+    m_at += 36;
+    return true;
+}
+
+bool Cursor::plainText(QByteArrayView& text) {
+    const char* const begin = m_at;
+    for (; m_at < m_end; ++m_at) {
+        const auto byte = static_cast<unsigned char>(*m_at);
+        if (byte == '"') {
+            text = QByteArrayView(begin, m_at - begin);
+            return true;
+        }
+        if (byte < 0x20 || byte == '\\') return false;
+        if ((byte == 0xC2 || byte == 0xE2) && newlineLength(QByteArrayView(m_at, m_end)) > 0)
+            return false;
+    }
+    return false;
+}
+
+} // namespace
+
+QString Reader::sharedSkillId(QByteArrayView utf8) {
+    if (utf8 != m_lastSkillUtf8) {
+        m_lastSkillUtf8 = utf8.toByteArray();
+        m_lastSkillId = QString::fromUtf8(utf8);
+    }
+    return m_lastSkillId;
+}
+
+std::optional<Session> Reader::decodeCanonical(QByteArrayView text, qsizetype& length) {
+    std::optional<Session> session(std::in_place);
+    QByteArrayView note;
+    QByteArrayView skillId;
+    QByteArrayView source;
+    Cursor cursor(text);
+    const bool canonical =
+        cursor.literal("{\"activeSeconds\":") && cursor.digits(session->activeSeconds) &&
+        cursor.literal(",\"endedAt\":\"") && cursor.date(session->endedAt) &&
+        cursor.literal("\",\"id\":\"") && cursor.id(session->id) &&
+        cursor.literal("\",\"note\":\"") && cursor.plainText(note) &&
+        cursor.literal("\",\"skillId\":\"") && cursor.plainText(skillId) &&
+        cursor.literal("\",\"source\":\"") && cursor.plainText(source) &&
+        cursor.literal("\",\"startedAt\":\"") && cursor.date(session->startedAt) &&
+        cursor.literal("\"}") && cursor.atLineEnd();
+    if (!canonical) return std::nullopt;
+    length = cursor.position() - text.data();
+    if (!note.isEmpty()) session->note = QString::fromUtf8(note);
+    session->skillId = sharedSkillId(skillId);
+    if (source == "mac_app")
+        session->source = sourceApp();
+    else if (source == "manual")
+        session->source = sourceManual();
+    else
+        session->source = QString::fromUtf8(source);
+    return session;
+}
+
+std::optional<Session> Reader::decode(QByteArrayView line) {
+    qsizetype length = 0;
+    if (auto session = decodeCanonical(line, length)) return session;
+    return json::decodeSession(line);
+}
+
+} // namespace vantle::sessionlines

@@ -1,0 +1,87 @@
+// Reading records out of the bytes of a log. Pure functions, any thread.
+#pragma once
+
+#include "tracking/Session.h"
+
+#include <QByteArray>
+
+#include <cstring>
+#include <optional>
+
+namespace vantle::sessionlines {
+
+/// The length of the newline character at the front of `rest`, 0 when there is none there.
+/// Every newline of Unicode ends a line: U+000A to U+000D, U+0085, U+2028, U+2029.
+[[nodiscard]] inline qsizetype newlineLength(QByteArrayView rest) {
+    const auto at = [&](qsizetype i) { return static_cast<unsigned char>(rest[i]); };
+    if (at(0) >= 0x0A && at(0) <= 0x0D) return 1;
+    if (at(0) == 0xC2 && rest.size() > 1 && at(1) == 0x85) return 2;
+    if (at(0) == 0xE2 && rest.size() > 2 && at(1) == 0x80 && (at(2) == 0xA8 || at(2) == 0xA9))
+        return 3;
+    return 0;
+}
+
+/// Calls `visit(QByteArrayView)` for each line of `text`, empty ones left out.
+template <typename Visit>
+void forEachLine(QByteArrayView text, Visit visit) {
+    qsizetype begin = 0;
+    for (qsizetype at = 0; at < text.size();) {
+        const qsizetype newline = newlineLength(text.sliced(at));
+        if (newline == 0) {
+            ++at;
+            continue;
+        }
+        if (at > begin) visit(text.sliced(begin, at - begin));
+        at += newline;
+        begin = at;
+    }
+    if (text.size() > begin) visit(text.sliced(begin));
+}
+
+/// Reads records line by line, quickly where a line stands in our own form. Keeps the texts that
+/// repeat, so that records share them. One reader a thread.
+class Reader {
+public:
+    /// The record that the line holds, fully validated; the rules for records are not applied.
+    /// Answers as json::decodeSession does for every input that is UTF-8. The line holds no
+    /// newline.
+    [[nodiscard]] std::optional<Session> decode(QByteArrayView line);
+
+    /// Reads `text`, a run of whole lines, and calls `visit(QByteArrayView line,
+    /// std::optional<Session>)` for each that is not empty.
+    template <typename Visit>
+    void read(QByteArrayView text, Visit visit);
+
+private:
+    /// The record at the front of `text`, when it stands there in our own form, followed by a line
+    /// feed or the end; sets `length` to that of the line. Empty says nothing about the line.
+    [[nodiscard]] std::optional<Session> decodeCanonical(QByteArrayView text, qsizetype& length);
+    [[nodiscard]] QString sharedSkillId(QByteArrayView utf8);
+
+    QByteArray m_lastSkillUtf8;
+    QString m_lastSkillId;
+};
+
+template <typename Visit>
+void Reader::read(QByteArrayView text, Visit visit) {
+    while (!text.isEmpty()) {
+        qsizetype length = 0;
+        if (auto session = decodeCanonical(text, length)) {
+            visit(text.first(length), std::move(session));
+        } else {
+            const void* feed =
+                std::memchr(text.data(), '\n', static_cast<std::size_t>(text.size()));
+            length = feed ? static_cast<const char*>(feed) - text.data() : text.size();
+            forEachLine(text.first(length),
+                        [&](QByteArrayView line) { visit(line, decode(line)); });
+        }
+        text = text.sliced(std::min(length + 1, text.size()));
+    }
+}
+
+/// A single line, as Reader::decode has it.
+[[nodiscard]] inline std::optional<Session> decode(QByteArrayView line) {
+    return Reader().decode(line);
+}
+
+} // namespace vantle::sessionlines

@@ -1,0 +1,142 @@
+#include "tracking/SessionLog.h"
+
+#include "platform/FileSystem.h"
+#include "tracking/AppPaths.h"
+#include "tracking/JsonForm.h"
+#include "tracking/SessionLines.h"
+
+#include <simdjson.h>
+
+#include <algorithm>
+
+namespace vantle {
+
+namespace {
+
+/// How much of the log is in memory at once while it is read, in bytes. Longer lines make it grow.
+constexpr qsizetype kBlockSize = 1 << 20;
+
+bool isUtf8(QByteArrayView bytes) {
+    return simdjson::validate_utf8(bytes.data(), static_cast<std::size_t>(bytes.size()));
+}
+
+Error recordRefused(const QString& path) {
+    return {0, QStringLiteral("check"), path,
+            QStringLiteral("The record breaks the rules of the log")};
+}
+
+/// Calls `visit` with the file block by block, each a run of whole lines; the last may lack its
+/// line feed. False when the file can't be read, or when `visit` returns false.
+template <typename Visit>
+bool forEachBlock(FileSystem& files, const QString& path, Visit visit) {
+    auto file = files.open(path, FileSystem::OpenMode::Read);
+    if (!file) return false;
+    QByteArray buffer(kBlockSize, Qt::Uninitialized);
+    qsizetype filled = 0;
+    for (;;) {
+        if (filled == buffer.size()) buffer.resize(buffer.size() * 2);
+        const auto count = file.value()->read(buffer.data() + filled, buffer.size() - filled);
+        if (!count) return false;
+        if (count.value() == 0) break;
+        // Only the new bytes can hold the last line feed of a line that spans blocks.
+        const QByteArrayView fresh(buffer.constData() + filled, count.value());
+        filled += count.value();
+        const qsizetype feed = fresh.lastIndexOf('\n');
+        if (feed < 0) continue;
+        const qsizetype whole = fresh.data() + feed + 1 - buffer.constData();
+        if (!visit(QByteArrayView(buffer.constData(), whole))) return false;
+        filled -= whole;
+        std::memmove(buffer.data(), buffer.constData() + whole, static_cast<std::size_t>(filled));
+    }
+    return filled == 0 || visit(QByteArrayView(buffer.constData(), filled));
+}
+
+Result<> appendToExisting(FileSystem& files, const QString& path, QByteArrayView line) {
+    auto opened = files.open(path, FileSystem::OpenMode::Append);
+    if (!opened) return opened.error();
+    File& file = *opened.value();
+    const auto before = file.size();
+    if (!before) return before.error();
+    Result<> outcome = file.write(line);
+    if (outcome) outcome = file.sync();
+    if (!outcome) {
+        // Half a line would swallow the next one.
+        file.truncate(before.value()).ignore();
+        return outcome;
+    }
+    return file.close();
+}
+
+} // namespace
+
+Result<> SessionLog::append(const Session& session) const {
+    const QString path = m_paths.sessionsFile();
+    if (!isAcceptable(session)) return recordRefused(path);
+    auto encoded = json::encode(session);
+    if (!encoded) return encoded.error();
+    const QByteArray line = encoded.value() + '\n';
+    FileSystem& files = m_paths.fileSystem();
+    if (!files.exists(path)) return m_paths.writeProtected(line, path);
+    if (auto appended = appendToExisting(files, path, line); !appended) return appended;
+    return files.setMode(path, 0600);
+}
+
+LogRead SessionLog::readAll() const {
+    LogRead log;
+    sessionlines::Reader reader;
+    const auto take = [&log](QByteArrayView, std::optional<Session>&& session) {
+        if (session && isAcceptable(*session))
+            log.sessions.push_back(std::move(*session));
+        else
+            ++log.unreadable;
+    };
+    const bool complete =
+        forEachBlock(m_paths.fileSystem(), m_paths.sessionsFile(), [&](QByteArrayView block) {
+            // One bad byte hides the whole log: what a damaged disk left is not guessed at.
+            if (!isUtf8(block)) return false;
+            reader.read(block, take);
+            return true;
+        });
+    if (!complete) return {};
+
+    std::vector<Session>& sessions = log.sessions;
+    if (!std::ranges::is_sorted(sessions, {}, &Session::endedAt))
+        std::ranges::stable_sort(sessions, {}, &Session::endedAt);
+    if (sessions.capacity() > sessions.size() + sessions.size() / 8) sessions.shrink_to_fit();
+    return log;
+}
+
+Result<bool> SessionLog::rewrite(const QUuid& id, const Transform& transform) const {
+    const QString path = m_paths.sessionsFile();
+    const auto bytes = m_paths.fileSystem().readAll(path);
+    if (!bytes || !isUtf8(bytes.value())) return false;
+
+    QByteArray output;
+    output.reserve(bytes.value().size() + 4096);
+    bool found = false;
+    std::optional<Error> failure;
+    sessionlines::Reader reader;
+    reader.read(bytes.value(), [&](QByteArrayView line, const std::optional<Session>& session) {
+        if (!session || session->id != id) {
+            output.append(line).append('\n');
+            return;
+        }
+        found = true;
+        const std::optional<Session> changed = transform(*session);
+        if (!changed) return;
+        const Result<QByteArray> encoded =
+            isAcceptable(*changed) ? json::encode(*changed) : recordRefused(path);
+        if (encoded)
+            output.append(encoded.value()).append('\n');
+        else if (!failure)
+            failure = encoded.error();
+    });
+    if (failure) return *failure;
+    if (!found) return false;
+    const Result<> outcome =
+        output.isEmpty() ? m_paths.removeIfPresent(path) : m_paths.writeProtected(output, path);
+    if (!outcome) return outcome.error();
+    return true;
+}
+
+} // namespace vantle

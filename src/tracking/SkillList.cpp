@@ -1,0 +1,217 @@
+#include "tracking/SkillList.h"
+
+#include "base/SerialQueue.h"
+#include "base/Text.h"
+#include "platform/FileSystem.h"
+#include "platform/Preferences.h"
+#include "tracking/AppPaths.h"
+#include "tracking/JsonForm.h"
+
+#include <algorithm>
+
+namespace vantle {
+
+namespace {
+
+constexpr std::uint32_t kGrey = 0x8E8E93;
+
+const Skill* findIn(const std::vector<Skill>& skills, const QString& id) {
+    const auto found = std::ranges::find(skills, id, &Skill::id);
+    return found == skills.end() ? nullptr : &*found;
+}
+
+/// The entry of a file as it may stand in the list; empty when it may not.
+std::optional<Skill> sanitized(const Skill& entry) {
+    if (!Skill::isAcceptableId(entry.id)) return std::nullopt;
+    const QString name = Skill::cleanedName(entry.name);
+    const bool nameFits = Skill::isAcceptableName(name);
+    const std::uint32_t color = entry.hexRGB & Skill::colorMask;
+    // A seed survives a bad name, since its own is known.
+    if (const auto seed = Skill::seedDefinition(entry.id))
+        return Skill{seed->id, nameFits ? name : seed->name, color, seed->builtin};
+    if (!nameFits) return std::nullopt;
+    return Skill{entry.id, name, color, false};
+}
+
+std::vector<Skill> sanitized(const std::vector<Skill>& entries) {
+    std::vector<Skill> kept;
+    for (const Skill& entry : entries) {
+        if (kept.size() == Skill::maxCount) break;
+        auto skill = sanitized(entry);
+        if (skill && !findIn(kept, skill->id)) kept.push_back(std::move(*skill));
+    }
+    return kept;
+}
+
+/// Gives seeds that still carry an old default name their new one. True when one changed.
+bool renameOldDefaults(std::vector<Skill>& skills) {
+    struct Rename {
+        QLatin1String id, oldName, newName;
+    };
+    static constexpr std::array<Rename, 3> renames = {{
+        {QLatin1String("product_design"), QLatin1String("Product design"),
+         QLatin1String("Product Design")},
+        {QLatin1String("founder_ops"), QLatin1String("Founder ops"), QLatin1String("Founder Ops")},
+        {QLatin1String("building"), QLatin1String("Building"), QLatin1String("Build")},
+    }};
+    bool changed = false;
+    for (Skill& skill : skills) {
+        for (const Rename& rename : renames) {
+            if (skill.id != rename.id || skill.name != rename.oldName) continue;
+            skill.name = rename.newName;
+            if (skill.id == QLatin1String("building") && skill.hexRGB == 0x64D2FF)
+                skill.hexRGB = 0x40C8E0;
+            changed = true;
+        }
+    }
+    return changed;
+}
+
+/// Adds the seed "Build" where neither it nor anything of its name is there. True when added.
+bool addMissingBuild(std::vector<Skill>& skills) {
+    const bool present = std::ranges::any_of(skills, [](const Skill& skill) {
+        return skill.id == QLatin1String("building") ||
+               Skill::comparisonKey(skill.name) == QLatin1String("build");
+    });
+    if (present || skills.size() >= Skill::maxCount) return false;
+    skills.push_back(Skill::defaults().front());
+    return true;
+}
+
+/// The id that a name suggests: its letters and numbers, lower-cased, joined by single `_`.
+QString baseIdFor(const QString& cleanedName) {
+    QString id;
+    bool gap = false;
+    text::forEachCharacter(text::lowerCased(cleanedName), [&](QStringView character) {
+        if (!text::isLetterOrNumber(character)) {
+            gap = !id.isEmpty();
+            return;
+        }
+        if (gap) id += QLatin1Char('_');
+        gap = false;
+        id += character;
+    });
+    return id.isEmpty() ? QStringLiteral("skill") : id;
+}
+
+} // namespace
+
+SkillList::SkillList(const AppPaths& paths, SerialQueue& ioQueue, Preferences& preferences)
+    : m_paths(paths)
+    , m_ioQueue(ioQueue)
+    , m_preferences(preferences) {}
+
+const std::vector<Skill>& SkillList::all() {
+    if (!m_all) m_all = loadSkills();
+    return *m_all;
+}
+
+std::optional<Skill> SkillList::find(const QString& id) {
+    const Skill* skill = findIn(all(), id);
+    return skill ? std::optional(*skill) : std::nullopt;
+}
+
+Skill SkillList::by(const QString& id) { return find(id).value_or(all().front()); }
+
+Skill SkillList::display(const QString& id) { return display(id, all()); }
+
+Skill SkillList::display(const QString& id, const std::vector<Skill>& skills) {
+    if (const Skill* skill = findIn(skills, id)) return *skill;
+    if (auto seed = Skill::seedDefinition(id)) return *std::move(seed);
+    QString name = id;
+    name.replace(QLatin1Char('_'), QLatin1Char(' '));
+    return {id, text::capitalizedWords(name), kGrey, false};
+}
+
+bool SkillList::saveSkills(const std::vector<Skill>& skills) {
+    return m_ioQueue.run(
+        [&] { return m_paths.writeProtected(json::encode(skills), m_paths.skillsFile()).ok(); });
+}
+
+std::vector<Skill> SkillList::loadSkills() {
+    const auto stored = m_ioQueue.run([this]() -> std::optional<std::vector<Skill>> {
+        const auto bytes = m_paths.fileSystem().readAll(m_paths.skillsFile());
+        return bytes ? json::decodeSkills(bytes.value()) : std::nullopt;
+    });
+    if (!stored) {
+        const std::vector<Skill> seeds(Skill::defaults().begin(), Skill::defaults().end());
+        if (saveSkills(seeds))
+            m_preferences.setInteger(QLatin1String(migrationKey), currentMigrationVersion);
+        return seeds;
+    }
+    std::vector<Skill> skills = sanitized(*stored);
+    migrate(skills);
+    if (skills.empty()) skills.push_back(Skill::defaults().front());
+    return skills;
+}
+
+void SkillList::migrate(std::vector<Skill>& skills) {
+    const QLatin1String key(migrationKey);
+    if (m_preferences.integer(key).value_or(0) >= currentMigrationVersion) return;
+    const bool renamed = renameOldDefaults(skills);
+    const bool added = addMissingBuild(skills);
+    // An unsaved change is tried again at the next launch.
+    if ((renamed || added) && !saveSkills(skills)) return;
+    m_preferences.setInteger(key, currentMigrationVersion);
+}
+
+bool SkillList::isTaken(const QString& name, const QString& exceptId) {
+    const QString key = Skill::comparisonKey(name);
+    return std::ranges::any_of(all(), [&](const Skill& skill) {
+        return skill.id != exceptId && Skill::comparisonKey(skill.name) == key;
+    });
+}
+
+QString SkillList::freeIdFor(const QString& cleanedName) {
+    const QString base = baseIdFor(cleanedName);
+    QString id = base;
+    for (int number = 2; contains(id); ++number)
+        id = QStringLiteral("%1_%2").arg(base).arg(number);
+    return id;
+}
+
+std::optional<Skill> SkillList::addCustom(const QString& name, std::uint32_t hexRGB) {
+    const QString cleaned = Skill::cleanedName(name);
+    if (!Skill::isAcceptableName(cleaned) || all().size() >= Skill::maxCount ||
+        isTaken(cleaned, QString()))
+        return std::nullopt;
+    const Skill skill{freeIdFor(cleaned), cleaned, hexRGB & Skill::colorMask, false};
+    m_all->push_back(skill);
+    if (!saveSkills(*m_all)) {
+        m_all->pop_back();
+        return std::nullopt;
+    }
+    return skill;
+}
+
+std::optional<Skill> SkillList::update(const QString& id, const QString& name,
+                                       std::uint32_t hexRGB) {
+    const QString cleaned = Skill::cleanedName(name);
+    if (!Skill::isAcceptableName(cleaned) || isTaken(cleaned, id)) return std::nullopt;
+    const auto skill = std::ranges::find(*m_all, id, &Skill::id);
+    if (skill == m_all->end()) return std::nullopt;
+    const Skill before = *skill;
+    skill->name = cleaned;
+    skill->hexRGB = hexRGB & Skill::colorMask;
+    if (!saveSkills(*m_all)) {
+        *skill = before;
+        return std::nullopt;
+    }
+    return *skill;
+}
+
+bool SkillList::remove(const QString& id) {
+    if (all().size() < 2 || !contains(id)) return false;
+    const std::vector<Skill> before = *m_all;
+    std::erase_if(*m_all, [&](const Skill& skill) { return skill.id == id; });
+    if (saveSkills(*m_all)) return true;
+    m_all = before;
+    return false;
+}
+
+void SkillList::resetAfterErase() {
+    m_all.emplace(Skill::defaults().begin(), Skill::defaults().end());
+    m_preferences.setInteger(QLatin1String(migrationKey), currentMigrationVersion);
+}
+
+} // namespace vantle

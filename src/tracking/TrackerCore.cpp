@@ -1,0 +1,233 @@
+#include "tracking/TrackerCore.h"
+
+#include "base/Rounding.h"
+#include "base/SerialQueue.h"
+#include "platform/Preferences.h"
+#include "tracking/AppPaths.h"
+#include "tracking/JsonForm.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vantle {
+
+namespace {
+
+constexpr Seconds kTickInterval{1.0};
+constexpr Seconds kTickTolerance{0.2};
+constexpr int kTicksBetweenMarkers = 60;
+constexpr Seconds kWelcomeBackTime{60.0};
+
+Seconds minutesAsSeconds(int minutes) { return Seconds(60.0 * minutes); }
+
+} // namespace
+
+TrackerCore::TrackerCore(const Environment& environment)
+    : m_env(environment)
+    , m_log(environment.paths) {
+    if (!m_env.encodeMarker)
+        m_env.encodeMarker = [](const OpenSessionMarker& marker) { return json::encode(marker); };
+}
+
+TrackerCore::~TrackerCore() = default;
+
+double TrackerCore::currentActiveSeconds() const {
+    double seconds = m_accumulatedSeconds;
+    if (m_state == State::Running && m_segmentStart)
+        seconds += (m_env.clock.now() - *m_segmentStart).count();
+    return seconds;
+}
+
+std::int64_t TrackerCore::roundedActiveSeconds() const {
+    return std::max<std::int64_t>(roundedToInteger(currentActiveSeconds()), 0);
+}
+
+std::int64_t TrackerCore::displayActiveSeconds() const {
+    // A clock shows only seconds that are over, so this one cuts off where records round.
+    return std::max<std::int64_t>(truncatedToInteger(currentActiveSeconds()), 0);
+}
+
+std::optional<int> TrackerCore::start(const Skill& skill, int backfillMinutes) {
+    if (m_state != State::Idle) return std::nullopt;
+    const Date now = m_env.clock.now();
+    const bool confirmed = backfillMinutes >= 1 && backfillMinutes <= maxBackfillMinutes &&
+                           m_idleMonitor && m_idleMonitor->wasActiveForLast(backfillMinutes);
+    const int applied = confirmed ? backfillMinutes : 0;
+
+    m_sessionId = QUuid::createUuid();
+    m_accumulatedSeconds = minutesAsSeconds(applied).count();
+    m_segmentStart = now;
+    m_lastKnownGoodAt = now;
+    setCurrentSkillId(skill.id);
+    setStartedAt(now - minutesAsSeconds(applied));
+    setState(State::Running);
+    m_env.preferences.setString(QLatin1String(lastUsedSkillKey), skill.id);
+    startTicking();
+    if (!writeMarker()) {
+        resetToIdle();
+        return std::nullopt;
+    }
+    if (onSessionStarted) onSessionStarted(skill, *m_startedAt);
+    return applied;
+}
+
+void TrackerCore::startTicking() {
+    m_tickTimer =
+        m_env.scheduler.scheduleRepeatingTimer(kTickInterval, kTickTolerance, [this] { tick(); });
+}
+
+void TrackerCore::tick() {
+    const Date now = m_env.clock.now();
+    if (m_state == State::Running) m_lastKnownGoodAt = now;
+    if (m_welcomeBackShownAt && now - *m_welcomeBackShownAt >= kWelcomeBackTime)
+        setWelcomeBack(std::nullopt, std::nullopt);
+    if (++m_ticksSinceMarkerWrite >= kTicksBetweenMarkers) writeMarker();
+}
+
+void TrackerCore::pause(Date date) {
+    if (m_state != State::Running) return;
+    if (m_segmentStart) {
+        // Nothing before the segment counts, and nothing that has not passed yet. With the clock
+        // set back since the segment began, now is the cut and takes seconds away.
+        const Date cut = std::min(std::max(*m_segmentStart, date), m_env.clock.now());
+        m_accumulatedSeconds += (cut - *m_segmentStart).count();
+        m_lastKnownGoodAt = cut;
+    }
+    m_segmentStart.reset();
+    setState(State::Paused);
+    setWelcomeBack(std::nullopt, std::nullopt);
+    writeMarker();
+    m_tickTimer.reset();
+}
+
+void TrackerCore::resume() {
+    if (m_state != State::Paused) return;
+    const Date now = m_env.clock.now();
+    if (m_lastKnownGoodAt) {
+        const std::int64_t minutes = roundedToInteger((now - *m_lastKnownGoodAt).count() / 60.0);
+        setWelcomeBack(QStringLiteral("welcome back, paused %1m").arg(minutes), now);
+    }
+    m_segmentStart = now;
+    m_lastKnownGoodAt = now;
+    setState(State::Running);
+    writeMarker();
+    startTicking();
+}
+
+std::optional<Session> TrackerCore::stop() {
+    if (m_state == State::Idle || !m_currentSkillId || !m_startedAt) return std::nullopt;
+    const Session session{m_sessionId ? *m_sessionId : QUuid::createUuid(),
+                          *m_currentSkillId,
+                          *m_startedAt,
+                          m_env.clock.now(),
+                          roundedActiveSeconds(),
+                          QString(),
+                          sourceApp()};
+    if (!appendToLog(session)) return std::nullopt;
+    removeMarkerAndWait();
+    resetToIdle();
+    if (onSessionEnded) onSessionEnded(session);
+    return session;
+}
+
+bool TrackerCore::applyBackfill(int minutes) {
+    if (m_state == State::Idle || !m_startedAt || minutes < 1 || minutes > maxBackfillMinutes)
+        return false;
+    const double elapsed = (m_env.clock.now() - *m_startedAt).count() / 60.0;
+    const auto wholeMinutes = truncatedToInteger(std::ceil(elapsed));
+    // The whole stretch from the new start up to now must have been active.
+    const auto asked = std::clamp<std::int64_t>(
+        wholeMinutes + minutes, std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
+    if (!m_idleMonitor || !m_idleMonitor->wasActiveForLast(static_cast<int>(asked))) return false;
+    setStartedAt(*m_startedAt - minutesAsSeconds(minutes));
+    m_accumulatedSeconds += minutesAsSeconds(minutes).count();
+    writeMarker();
+    return true;
+}
+
+void TrackerCore::discardOpenSessionForErase() { resetToIdle(); }
+
+void TrackerCore::debugAdvance(double seconds) {
+    if (m_state != State::Idle && seconds > 0) m_accumulatedSeconds += seconds;
+}
+
+bool TrackerCore::writeMarker() {
+    m_ticksSinceMarkerWrite = 0;
+    if (m_state == State::Idle || !m_currentSkillId || !m_startedAt) return false;
+    const OpenSessionMarker marker{m_sessionId ? *m_sessionId : QUuid::createUuid(),
+                                   *m_currentSkillId, *m_startedAt, roundedActiveSeconds(),
+                                   m_lastKnownGoodAt.value_or(m_env.clock.now())};
+    auto encoded = m_env.encodeMarker(marker);
+    if (!encoded) {
+        noteStorageFailure(encoded.error());
+        return false;
+    }
+    m_env.ioQueue.async([data = encoded.value(), &paths = m_env.paths, &scheduler = m_env.scheduler,
+                         self = QPointer(this)] {
+        const auto written = paths.writeProtected(data, paths.openSessionMarker());
+        if (written) return;
+        scheduler.post([self, error = written.error()] {
+            if (self) self->noteStorageFailure(error);
+        });
+    });
+    // Only queued so far; a failure of the disk arrives later and sets it again.
+    setStorageError(std::nullopt);
+    return true;
+}
+
+void TrackerCore::removeMarkerAndWait() {
+    m_env.ioQueue.sync(
+        [this] { m_env.paths.removeIfPresent(m_env.paths.openSessionMarker()).ignore(); });
+}
+
+void TrackerCore::resetToIdle() {
+    m_tickTimer.reset();
+    m_sessionId.reset();
+    m_segmentStart.reset();
+    m_lastKnownGoodAt.reset();
+    m_accumulatedSeconds = 0;
+    setCurrentSkillId(std::nullopt);
+    setStartedAt(std::nullopt);
+    setWelcomeBack(std::nullopt, std::nullopt);
+    setState(State::Idle);
+}
+
+TrackerCore::Internals TrackerCore::internals() const {
+    return {m_accumulatedSeconds, m_segmentStart, m_lastKnownGoodAt, m_ticksSinceMarkerWrite,
+            m_tickTimer != nullptr};
+}
+
+void TrackerCore::setState(State state) {
+    if (std::exchange(m_state, state) != state) Q_EMIT stateChanged();
+}
+
+void TrackerCore::setCurrentSkillId(std::optional<QString> id) {
+    if (m_currentSkillId == id) return;
+    m_currentSkillId = std::move(id);
+    Q_EMIT currentSkillIdChanged();
+}
+
+void TrackerCore::setStartedAt(std::optional<Date> date) {
+    if (std::exchange(m_startedAt, date) != date) Q_EMIT startedAtChanged();
+}
+
+void TrackerCore::setStorageError(std::optional<QString> text) {
+    if (m_storageError == text) return;
+    m_storageError = std::move(text);
+    Q_EMIT storageErrorChanged();
+}
+
+void TrackerCore::setDataWarning(std::optional<QString> text) {
+    if (m_dataWarning == text) return;
+    m_dataWarning = std::move(text);
+    Q_EMIT dataWarningChanged();
+}
+
+void TrackerCore::setWelcomeBack(std::optional<QString> text, std::optional<Date> shownAt) {
+    m_welcomeBackShownAt = shownAt;
+    if (m_welcomeBack == text) return;
+    m_welcomeBack = std::move(text);
+    Q_EMIT welcomeBackChanged();
+}
+
+} // namespace vantle

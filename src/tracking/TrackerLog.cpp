@@ -1,0 +1,125 @@
+// The tracker's operations on the log, and the recovery after a crash.
+#include "base/SerialQueue.h"
+#include "platform/FileSystem.h"
+#include "tracking/AppPaths.h"
+#include "tracking/CrashRecovery.h"
+#include "tracking/JsonForm.h"
+#include "tracking/NotificationCenter.h"
+#include "tracking/SkillList.h"
+#include "tracking/TrackerCore.h"
+
+#include <algorithm>
+
+namespace vantle {
+
+namespace {
+
+constexpr int kMaxManualMinutes = 960;
+
+QString warningFor(int unreadable) {
+    return unreadable == 1
+               ? QStringLiteral("1 unreadable session record is preserved in the export but "
+                                "excluded from totals.")
+               : QStringLiteral("%1 unreadable session records are preserved in the export but "
+                                "excluded from totals.")
+                     .arg(unreadable);
+}
+
+} // namespace
+
+bool TrackerCore::appendToLog(const Session& session) {
+    const Result<> outcome = m_env.ioQueue.run([&] { return m_log.append(session); });
+    if (!outcome) {
+        noteStorageFailure(outcome.error());
+        return false;
+    }
+    setStorageError(std::nullopt);
+    notifySessionsChanged();
+    return true;
+}
+
+std::vector<Session> TrackerCore::allSessions() {
+    LogRead log = m_env.ioQueue.run([this] { return m_log.readAll(); });
+    setDataWarning(log.unreadable > 0 ? std::optional(warningFor(log.unreadable)) : std::nullopt);
+    return std::move(log.sessions);
+}
+
+bool TrackerCore::rewriteSession(const QUuid& id, const SessionLog::Transform& transform) {
+    const Result<bool> outcome = m_env.ioQueue.run([&] { return m_log.rewrite(id, transform); });
+    if (!outcome) {
+        noteStorageFailure(outcome.error());
+        return false;
+    }
+    if (!outcome.value()) return false;
+    setStorageError(std::nullopt);
+    notifySessionsChanged();
+    return true;
+}
+
+bool TrackerCore::updateNote(const QUuid& sessionId, const QString& note) {
+    return rewriteSession(sessionId, [cleaned = cleanedNote(note)](const Session& session) {
+        Session changed = session;
+        changed.note = cleaned;
+        return std::optional(changed);
+    });
+}
+
+bool TrackerCore::deleteSession(const QUuid& id) {
+    return rewriteSession(id, [](const Session&) { return std::optional<Session>(); });
+}
+
+bool TrackerCore::logManual(const QString& skillId, int minutes, const QString& note) {
+    if (minutes < 1 || !m_env.skills.contains(skillId)) return false;
+    const std::int64_t seconds = std::int64_t{60} * std::min(minutes, kMaxManualMinutes);
+    const Date now = m_env.clock.now();
+    return appendToLog({QUuid::createUuid(), skillId, now - Seconds(static_cast<double>(seconds)),
+                        now, seconds, cleanedNote(note), sourceManual()});
+}
+
+void TrackerCore::notifySessionsChanged() {
+    m_env.scheduler.post([center = QPointer(&m_env.notifications)] {
+        if (center) Q_EMIT center->HFSessionsChanged();
+    });
+}
+
+bool TrackerCore::countsInTotals(const Session& session, Date asOf) {
+    return (session.startedAt - asOf).count() <= futureStartTolerance;
+}
+
+void TrackerCore::noteStorageFailure(const Error& error) {
+    setStorageError(QStringLiteral("Couldn’t save your hours. Check available disk space and "
+                                   "folder permissions, then try again. (%1)")
+                        .arg(error.description()));
+}
+
+void TrackerCore::clearStorageError() { setStorageError(std::nullopt); }
+
+void TrackerCore::drainPendingIO() { m_env.ioQueue.drain(); }
+
+std::optional<OpenSessionMarker> TrackerCore::takeOrphanedMarker() {
+    const auto bytes = m_env.ioQueue.run(
+        [this] { return m_env.paths.fileSystem().readAll(m_env.paths.openSessionMarker()); });
+    if (!bytes) return std::nullopt;
+    const auto marker = json::decodeMarker(bytes.value());
+    // The candidate is what an offer is made of; without one the marker is of no use. The file of
+    // a good one stays until the person has chosen, so that a second crash loses nothing.
+    if (marker && recovery::recoveryCandidate(*marker)) return marker;
+    removeMarkerAndWait();
+    return std::nullopt;
+}
+
+std::optional<Session> TrackerCore::recoverSession(const OpenSessionMarker& marker) {
+    const auto candidate = recovery::recoveryCandidate(marker);
+    if (!candidate) return std::nullopt;
+    // The crash may have come between the record and the marker's removal.
+    const std::vector<Session> sessions = allSessions();
+    const auto logged = std::ranges::find(sessions, candidate->id, &Session::id);
+    const bool isLogged = logged != sessions.end();
+    if (!isLogged && !appendToLog(*candidate)) return std::nullopt;
+    removeMarkerAndWait();
+    return isLogged ? *logged : *candidate;
+}
+
+void TrackerCore::discardRecovery(const OpenSessionMarker&) { removeMarkerAndWait(); }
+
+} // namespace vantle
