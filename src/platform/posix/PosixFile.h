@@ -1,0 +1,29 @@
+// An open file of the operating system.
+#pragma once
+
+#include "platform/FileSystem.h"
+#include "platform/posix/Descriptor.h"
+
+namespace vantle {
+
+/// Reads and writes through a descriptor, which it owns. Errors carry errno and the path under
+/// which the file was opened. Any thread, one at a time; all calls block.
+class PosixFile final : public File {
+public:
+    PosixFile(posix::Descriptor descriptor, QString path);
+
+    Result<qint64> read(char* buffer, qint64 capacity) override;
+    Result<> write(QByteArrayView bytes) override;
+    Result<qint64> size() override;
+    Result<> truncate(qint64 size) override;
+    Result<> sync() override;
+    Result<> close() override;
+
+private:
+    [[nodiscard]] Error failure(const QString& operation) const;
+
+    posix::Descriptor m_descriptor;
+    const QString m_path;
+};
+
+} // namespace vantle

@@ -1,0 +1,45 @@
+// The file systems that the contract is held against, each with a fresh directory to work in.
+#pragma once
+
+#include "platform/FileSystem.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace vantle {
+
+/// A file system and an empty directory of mode 0700 in it.
+class FileSystemWorld {
+public:
+    virtual ~FileSystemWorld() = default;
+    [[nodiscard]] virtual FileSystem& files() = 0;
+    [[nodiscard]] virtual QString root() const = 0;
+};
+
+struct FileSystemMaker {
+    const char* name;
+    std::function<std::unique_ptr<FileSystemWorld>()> make;
+};
+
+/// The real one in a temporary directory, and the one in memory.
+[[nodiscard]] std::vector<FileSystemMaker> fileSystemMakers();
+
+class FileSystemContract : public testing::TestWithParam<FileSystemMaker> {
+protected:
+    [[nodiscard]] FileSystem& files() const { return m_world->files(); }
+    [[nodiscard]] QString at(const char* name) const {
+        return m_world->root() + QLatin1Char('/') + QLatin1String(name);
+    }
+
+    /// Makes a file of that content, which must work.
+    void put(const QString& path, QByteArrayView content) const;
+
+    /// The content at the path, which must be readable.
+    [[nodiscard]] QByteArray contentOf(const QString& path) const;
+
+private:
+    const std::unique_ptr<FileSystemWorld> m_world = GetParam().make();
+};
+
+} // namespace vantle
