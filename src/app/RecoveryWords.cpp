@@ -1,0 +1,18 @@
+#include "app/RecoveryWords.h"
+
+#include "tracking/DashFormat.h"
+
+#include <algorithm>
+
+namespace vantle {
+
+RecoveryWords recoveryWords(const Session& candidate, DurationStyle style) {
+    const QString label =
+        dashformat::sessionDuration(std::max<std::int64_t>(candidate.activeSeconds, 60), style);
+    return {
+        QStringLiteral("Found %1 from the previous run · choose Keep or Discard").arg(label),
+        QStringLiteral("Recovered %1 from the previous run").arg(label),
+    };
+}
+
+} // namespace vantle
