@@ -7,3 +7,24 @@ function(vantle_library name)
     target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src")
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE ${ARG_PRIVATE_LINKS})
 endfunction()
+
+# A folder with views: a static library that is a QML module as well. Programs link NAME and NAMEplugin.
+function(vantle_qml_module name)
+    cmake_parse_arguments(ARG "" "URI" "SOURCES;QML_FILES;LINKS" ${ARGN})
+    string(REPLACE "." "/" path ${ARG_URI})
+    qt_add_library(${name} STATIC)
+    qt_add_qml_module(${name}
+        URI ${ARG_URI}
+        VERSION 1.0
+        RESOURCE_PREFIX /qt/qml
+        OUTPUT_DIRECTORY "${QT_QML_OUTPUT_DIRECTORY}/${path}"
+        IMPORT_PATH "${QT_QML_OUTPUT_DIRECTORY}"
+        QML_FILES ${ARG_QML_FILES}
+        SOURCES ${ARG_SOURCES})
+    # What Qt generates from the views shadows names and converts silently.
+    target_compile_options(${name} PRIVATE -Wno-shadow -Wno-conversion)
+    # The generated registration includes the headers of the module by their bare names.
+    target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src"
+                                       PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(${name} PUBLIC ${ARG_LINKS} Qt6::Quick)
+endfunction()

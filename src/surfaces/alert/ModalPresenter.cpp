@@ -1,0 +1,68 @@
+#include "surfaces/alert/ModalPresenter.h"
+
+#include "surfaces/alert/AlertModel.h"
+
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QScreen>
+
+namespace vantle::modalpresenter {
+
+namespace {
+
+/// Tells the model when the person closes the window.
+class AlertWindow final : public QQuickView {
+public:
+    explicit AlertWindow(AlertModel& model) : m_model(model) {}
+
+protected:
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::Close) m_model.dismiss();
+        return QQuickView::event(event);
+    }
+
+private:
+    AlertModel& m_model;
+};
+
+QPoint centered(const QSize& size, const QRect& area) {
+    return {area.x() + (area.width() - size.width()) / 2,
+            area.y() + (area.height() - size.height()) / 2};
+}
+
+} // namespace
+
+int runAlert(const Alert& alert) {
+    // No graphics driver is worth loading for a dialog.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    AlertModel model;
+    model.message = alert.message;
+    model.informativeText = alert.informativeText;
+    model.buttons = alert.buttons;
+
+    AlertWindow window(model);
+    window.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    window.setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&model)}});
+    window.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Alert/AlertView.qml")));
+
+    int chosen = static_cast<int>(alert.buttons.size()) - 1;
+    if (window.status() != QQuickView::Ready) return chosen;
+    QEventLoop loop;
+    QObject::connect(&model, &AlertModel::chosen, &loop, [&](int index) {
+        chosen = index;
+        loop.quit();
+    });
+    window.setTitle(QGuiApplication::applicationDisplayName());
+    window.setFlags(Qt::Dialog | Qt::WindowStaysOnTopHint);
+    window.setMinimumSize(window.size());
+    window.setMaximumSize(window.size());
+    window.setPosition(centered(window.size(), window.screen()->availableGeometry()));
+    window.show();
+    window.requestActivate();
+    loop.exec();
+    return chosen;
+}
+
+} // namespace vantle::modalpresenter

@@ -1,0 +1,24 @@
+// The one way in which the program asks something that can't wait.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace vantle {
+
+/// What an alert says.
+struct Alert {
+    QString message;
+    QString informativeText;
+    QStringList buttons; ///< at least one; the main one first
+};
+
+namespace modalpresenter {
+
+/// Shows the alert in front of everything, in a window with a place in the task bar, and returns
+/// the index of the chosen button. Escape and closing the window choose the last one. Runs the
+/// event loop until then. Main thread, after the application object.
+[[nodiscard]] int runAlert(const Alert& alert);
+
+} // namespace modalpresenter
+} // namespace vantle
