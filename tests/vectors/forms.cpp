@@ -3,7 +3,12 @@
 namespace vantle::vectors {
 
 const QList<Form>& allForms() {
-    static const QList<Form> forms = {};
+    static const QList<Form> forms =
+        QList<Form>{
+            durationsForm(), //
+            idleMonitorForm(), recordsForm(), skillsForm(), totalsForm(), weeksForm(),
+        } +
+        trackerForms();
     return forms;
 }
 

@@ -3,4 +3,16 @@
 
 #include "vectors/Form.h"
 
-namespace vantle::vectors {} // namespace vantle::vectors
+namespace vantle::vectors {
+
+[[nodiscard]] Form durationsForm();
+[[nodiscard]] Form idleMonitorForm();
+[[nodiscard]] Form recordsForm();
+[[nodiscard]] Form skillsForm();
+[[nodiscard]] Form totalsForm();
+[[nodiscard]] Form weeksForm();
+
+/// tracker, session_log, recovery and hand_logging: scripts over one world.
+[[nodiscard]] QList<Form> trackerForms();
+
+} // namespace vantle::vectors

@@ -1,0 +1,43 @@
+// An idle counter that reads what the test says.
+#pragma once
+
+#include "fakes/VirtualTime.h"
+#include "platform/IdleSource.h"
+
+namespace vantle::fakes {
+
+class FakeIdleSource final : public IdleSource {
+public:
+    explicit FakeIdleSource(const VirtualTime& time) : m_time(time) {}
+
+    /// Reads `seconds` until changed.
+    void fix(double seconds) { set(seconds, false); }
+
+    /// Reads `seconds` plus what has passed on the timer clock since this call.
+    void growFrom(double seconds) { set(seconds, true); }
+
+    /// Somebody touches the machine now, and not again.
+    void touch() { growFrom(0); }
+
+    /// The desktop does not tell any more.
+    void becomeUnknown() { m_base.reset(); }
+
+    [[nodiscard]] std::optional<double> secondsSinceLastInput() override {
+        if (!m_base) return std::nullopt;
+        return m_grows ? *m_base + m_time.timerClock() - m_setAt : *m_base;
+    }
+
+private:
+    void set(double seconds, bool grows) {
+        m_base = seconds;
+        m_grows = grows;
+        m_setAt = m_time.timerClock();
+    }
+
+    const VirtualTime& m_time;
+    std::optional<double> m_base = 0.0;
+    bool m_grows = false;
+    double m_setAt = 0;
+};
+
+} // namespace vantle::fakes

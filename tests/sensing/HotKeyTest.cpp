@@ -1,0 +1,180 @@
+#include "sensing/HotKey.h"
+
+#include "fakes/FakeHotKeyPort.h"
+#include "fakes/VirtualTime.h"
+
+#include <QVariant>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace vantle {
+namespace {
+
+using Registration = HotKeyPort::Registration;
+
+class HotKeyTest : public testing::Test {
+protected:
+    HotKeyTest() {
+        hotKey->onPressed = [this] { ++presses; };
+        QObject::connect(hotKey.get(), &HotKey::isRegisteredChanged,
+                         [this] { ++registeredChanges; });
+        QObject::connect(hotKey.get(), &HotKey::registrationErrorChanged,
+                         [this] { ++errorChanges; });
+    }
+
+    void expectHeld(bool held) {
+        EXPECT_EQ(hotKey->isRegistered(), held);
+        EXPECT_EQ(port.handlers, held ? 1 : 0);
+        EXPECT_EQ(port.keys, held ? 1 : 0);
+    }
+
+    fakes::VirtualTime time;
+    fakes::FakeHotKeyPort port;
+    std::unique_ptr<HotKey> hotKey = std::make_unique<HotKey>(port, time);
+    int presses = 0;
+    int registeredChanges = 0;
+    int errorChanges = 0;
+};
+
+TEST_F(HotKeyTest, HoldsNothingAtFirst) {
+    expectHeld(false);
+    EXPECT_EQ(hotKey->registrationError(), std::nullopt);
+}
+
+TEST_F(HotKeyTest, HoldsTheCombinationOnceRegistered) {
+    hotKey->registerHotKey();
+    expectHeld(true);
+    EXPECT_EQ(hotKey->registrationError(), std::nullopt);
+    EXPECT_EQ(registeredChanges, 1);
+    EXPECT_EQ(errorChanges, 0);
+}
+
+TEST_F(HotKeyTest, RegisteredTwiceInstallsOneHandler) {
+    hotKey->registerHotKey();
+    hotKey->registerHotKey();
+    expectHeld(true);
+    EXPECT_EQ(registeredChanges, 1);
+}
+
+TEST_F(HotKeyTest, DeliversAPressOnlyAfterTheHandlerHasReturned) {
+    hotKey->registerHotKey();
+    EXPECT_TRUE(port.press());
+    EXPECT_EQ(presses, 0);
+    time.settle();
+    EXPECT_EQ(presses, 1);
+}
+
+TEST_F(HotKeyTest, DeliversEveryPress) {
+    hotKey->registerHotKey();
+    port.press();
+    port.press();
+    time.settle();
+    EXPECT_EQ(presses, 2);
+}
+
+TEST_F(HotKeyTest, TakesAPressThatNobodyWaitsFor) {
+    hotKey->onPressed = nullptr;
+    hotKey->registerHotKey();
+    EXPECT_TRUE(port.press());
+    time.settle();
+    EXPECT_EQ(presses, 0);
+}
+
+TEST_F(HotKeyTest, ForgetsAPressWhenItIsGoneByThen) {
+    hotKey->registerHotKey();
+    port.press();
+    hotKey.reset();
+    time.settle();
+    EXPECT_EQ(presses, 0);
+}
+
+TEST_F(HotKeyTest, SaysThatAnotherApplicationHoldsTheCombination) {
+    port.outcome = {Registration::HeldByAnother, 10};
+    hotKey->registerHotKey();
+    EXPECT_EQ(hotKey->registrationError(),
+              QStringLiteral("\u2325\u2318B is already used by another app."));
+    expectHeld(false);
+    EXPECT_EQ(registeredChanges, 0);
+    EXPECT_EQ(errorChanges, 1);
+}
+
+TEST_F(HotKeyTest, SaysWhichStatusAFailureHad) {
+    port.outcome = {Registration::Failed, -50};
+    hotKey->registerHotKey();
+    EXPECT_EQ(hotKey->registrationError(),
+              QStringLiteral("Couldn\u2019t register \u2325\u2318B (-50)."));
+    expectHeld(false);
+}
+
+TEST_F(HotKeyTest, SaysThatNoHandlerCouldBeInstalled) {
+    port.installStatus = -1;
+    hotKey->registerHotKey();
+    EXPECT_EQ(hotKey->registrationError(),
+              QStringLiteral("Couldn\u2019t install the shortcut handler (-1)."));
+    expectHeld(false);
+}
+
+TEST_F(HotKeyTest, StartsCleanAfterAFailure) {
+    port.outcome = {Registration::HeldByAnother, 10};
+    hotKey->registerHotKey();
+    port.outcome = {Registration::Registered, 0};
+    hotKey->registerHotKey();
+    expectHeld(true);
+    EXPECT_EQ(hotKey->registrationError(), std::nullopt);
+    EXPECT_EQ(errorChanges, 2);
+}
+
+TEST_F(HotKeyTest, DoesNotTryAgainByItself) {
+    port.outcome = {Registration::HeldByAnother, 10};
+    hotKey->registerHotKey();
+    port.outcome = {Registration::Registered, 0};
+    time.advance(3600);
+    expectHeld(false);
+}
+
+TEST_F(HotKeyTest, GivesTheCombinationBack) {
+    hotKey->registerHotKey();
+    hotKey->unregisterHotKey();
+    expectHeld(false);
+    EXPECT_FALSE(port.press());
+    EXPECT_EQ(registeredChanges, 2);
+    hotKey->unregisterHotKey();
+    expectHeld(false);
+    EXPECT_EQ(registeredChanges, 2);
+}
+
+TEST_F(HotKeyTest, CanBeRegisteredAgainAfterItWasGivenBack) {
+    hotKey->registerHotKey();
+    hotKey->unregisterHotKey();
+    hotKey->registerHotKey();
+    expectHeld(true);
+    port.press();
+    time.settle();
+    EXPECT_EQ(presses, 1);
+}
+
+TEST_F(HotKeyTest, KeepsItsErrorWhenUnregistered) {
+    port.outcome = {Registration::HeldByAnother, 10};
+    hotKey->registerHotKey();
+    hotKey->unregisterHotKey();
+    EXPECT_NE(hotKey->registrationError(), std::nullopt);
+}
+
+TEST_F(HotKeyTest, GivesTheCombinationBackWhenItGoes) {
+    hotKey->registerHotKey();
+    hotKey.reset();
+    EXPECT_EQ(port.handlers, 0);
+    EXPECT_EQ(port.keys, 0);
+}
+
+TEST_F(HotKeyTest, PublishesItsStateAsProperties) {
+    EXPECT_EQ(hotKey->property("isRegistered"), QVariant(false));
+    EXPECT_EQ(hotKey->property("registrationError"), QVariant(QString()));
+    hotKey->registerHotKey();
+    EXPECT_EQ(hotKey->property("isRegistered"), QVariant(true));
+}
+
+} // namespace
+} // namespace vantle
