@@ -1,0 +1,103 @@
+#include "surfaces/menubar/MenuBarDrawing.h"
+
+#include <QColor>
+#include <QPainter>
+
+#include <cmath>
+#include <numbers>
+
+namespace vantle::menubar {
+namespace {
+
+constexpr double kSide = 18.0;
+constexpr double kBrickHeight = 3.2;
+constexpr QPointF kCentre{9.0, 9.0};
+
+/// A brick that lies: its left edge, its upper edge counted down from the top, its width.
+struct Brick {
+    double x;
+    double y;
+    double width;
+    double radius;
+};
+
+constexpr Brick kWall[] = {
+    {1.5, 13.3, 6.4, 1.0}, {9.1, 13.3, 7.4, 1.0},                        // bottom row
+    {1.5, 8.9, 4.4, 1.0},  {7.1, 8.9, 6.4, 1.0},  {14.7, 8.9, 1.8, 0.8}, // middle row
+    {1.5, 4.5, 6.4, 1.0},                                                // top row
+};
+
+/// The brick in the hand: where its centre is, and how far it is turned, its right end up.
+constexpr QPointF kLaidCentre{12.6, 4.4};
+constexpr double kLaidWidth = 5.8;
+constexpr double kLaidDegrees = -26.0;
+
+/// What a dot looks like. Radii in units, alphas from 0 to 1.
+struct Dot {
+    double coreRadius;
+    double coreAlpha;
+    double haloRadius;
+    double haloAlpha;
+};
+
+constexpr Dot kPausedDot{3.4, 0.45, 6.8, 0.12};
+constexpr QRectF kPauseBars[] = {{7.4, 6.8, 1.2, 4.4}, {9.4, 6.8, 1.2, 4.4}};
+constexpr double kPauseBarAlpha = 0.9;
+
+Dot breathingDot(int phase) {
+    const double turn = 2.0 * std::numbers::pi * phase / kPhases;
+    const double fullness = std::sin(turn) * 0.5 + 0.5;
+    const double coreRadius = 3.4 + 1.1 * fullness;
+    return {coreRadius, 0.62 + 0.38 * fullness, coreRadius + 3.4, 0.1 + 0.16 * fullness};
+}
+
+QColor withAlpha(QColor color, double alpha) {
+    color.setAlphaF(static_cast<float>(alpha));
+    return color;
+}
+
+void fillCircle(QPainter& painter, double radius, const QColor& color) {
+    painter.setBrush(color);
+    painter.drawEllipse(kCentre, radius, radius);
+}
+
+template <typename Draw>
+QImage drawn(int pixels, Draw draw) {
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(pixels / kSide, pixels / kSide);
+    painter.setPen(Qt::NoPen);
+    draw(painter);
+    return image;
+}
+
+} // namespace
+
+QImage drawBrick(int pixels) {
+    return drawn(pixels, [](QPainter& painter) {
+        painter.setBrush(Qt::black);
+        for (const Brick& brick : kWall)
+            painter.drawRoundedRect(QRectF(brick.x, brick.y, brick.width, kBrickHeight),
+                                    brick.radius, brick.radius);
+        painter.translate(kLaidCentre);
+        painter.rotate(kLaidDegrees);
+        painter.drawRoundedRect(
+            QRectF(-kLaidWidth / 2, -kBrickHeight / 2, kLaidWidth, kBrickHeight), 1.0, 1.0);
+    });
+}
+
+QImage drawStatusDot(int pixels, std::uint32_t hexRGB, int phase, bool paused) {
+    return drawn(pixels, [=](QPainter& painter) {
+        const QColor color(QRgb{hexRGB & 0xFFFFFFU});
+        const Dot dot = paused ? kPausedDot : breathingDot(phase);
+        fillCircle(painter, dot.haloRadius, withAlpha(color, dot.haloAlpha));
+        fillCircle(painter, dot.coreRadius, withAlpha(color, dot.coreAlpha));
+        if (!paused) return;
+        for (const QRectF& bar : kPauseBars)
+            painter.fillRect(bar, withAlpha(Qt::white, kPauseBarAlpha));
+    });
+}
+
+} // namespace vantle::menubar

@@ -1,0 +1,36 @@
+#include "surfaces/menubar/MenuBarIcon.h"
+
+#include "surfaces/menubar/MenuBarDrawing.h"
+
+#include <QPixmap>
+
+namespace vantle {
+namespace {
+
+// Pixels: the design's 18 at one to three pixels a point, and the other sizes of common trays.
+constexpr int kSizes[] = {16, 18, 22, 24, 32, 36, 48, 54};
+
+template <typename Draw>
+QIcon iconOf(Draw draw) {
+    QIcon icon;
+    for (const int pixels : kSizes)
+        icon.addPixmap(QPixmap::fromImage(draw(pixels)));
+    return icon;
+}
+
+} // namespace
+
+MenuBarIcon::MenuBarIcon() : m_brick(iconOf(menubar::drawBrick)) { m_brick.setIsMask(true); }
+
+QIcon MenuBarIcon::statusDot(std::uint32_t hexRGB, int phase, bool paused) {
+    const Key key{hexRGB, paused ? 0 : phase, paused};
+    const auto known = m_dotCache.constFind(key);
+    if (known != m_dotCache.constEnd()) return *known;
+    const QIcon icon = iconOf([&](int pixels) {
+        return menubar::drawStatusDot(pixels, key.hexRGB, key.phase, key.paused);
+    });
+    m_dotCache.insert(key, icon);
+    return icon;
+}
+
+} // namespace vantle

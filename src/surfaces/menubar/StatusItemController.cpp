@@ -1,0 +1,94 @@
+#include "surfaces/menubar/StatusItemController.h"
+
+#include "surfaces/menubar/MenuBarDrawing.h"
+
+#include <QPointer>
+
+namespace vantle {
+namespace {
+
+constexpr Seconds kPulseTolerance{0.02};
+
+// The fullest step of the breath: what a dot that can't breathe looks like.
+constexpr int kStillPhase = 2;
+
+} // namespace
+
+StatusItemController::StatusItemController(const Environment& environment) : m_env(environment) {
+    m_env.item.setImage(m_icons.brick(), true);
+    setStatusText({});
+    connect(&m_env.item, &TrayItem::clicked, this, [this](QPoint place) {
+        if (onClick) onClick(place);
+    });
+    connect(&m_env.tracker, &TrackerCore::stateChanged, this, &StatusItemController::applyLater);
+    connect(&m_env.tracker, &TrackerCore::currentSkillIdChanged, this,
+            &StatusItemController::applyLater);
+    connect(&m_env.item, &TrayItem::shownChanged, this, &StatusItemController::apply);
+    connect(&m_env.screens, &ScreenPower::slept, this, &StatusItemController::apply);
+    connect(&m_env.screens, &ScreenPower::woke, this, &StatusItemController::apply);
+    applyLater();
+}
+
+void StatusItemController::setStatusText(const QString& text) {
+    const QString name = QStringLiteral("Vantle");
+    m_env.item.setToolTip(text.isEmpty() ? name : name + QLatin1Char('\n') + text);
+}
+
+void StatusItemController::applyLater() {
+    // State and skill change one after the other; only the pair that they end up as is shown.
+    if (m_applyPosted) return;
+    m_applyPosted = true;
+    m_env.scheduler.post([self = QPointer<StatusItemController>(this)] {
+        if (!self) return;
+        self->m_applyPosted = false;
+        self->apply();
+    });
+}
+
+void StatusItemController::apply() {
+    switch (m_env.tracker.state()) {
+    case TrackerCore::State::Idle:
+        m_pulseTimer.reset();
+        m_env.item.setImage(m_icons.brick(), true);
+        return;
+    case TrackerCore::State::Paused:
+        m_pulseTimer.reset();
+        showDot(0, true);
+        return;
+    case TrackerCore::State::Running:
+        if (m_env.reducedMotion.enabled() || isHidden()) {
+            m_pulseTimer.reset();
+            showDot(kStillPhase, false);
+        } else {
+            startPulse();
+        }
+        return;
+    }
+}
+
+void StatusItemController::startPulse() {
+    if (m_pulseTimer) return;
+    m_pulseTimer = m_env.scheduler.scheduleRepeatingTimer(Seconds(pulseInterval), kPulseTolerance,
+                                                          [this] { tickPulse(); });
+    tickPulse();
+}
+
+void StatusItemController::tickPulse() {
+    m_pulsePhase = (m_pulsePhase + 1) % menubar::kPhases;
+    showDot(m_pulsePhase, false);
+}
+
+void StatusItemController::showDot(int phase, bool paused) {
+    m_env.item.setImage(m_icons.statusDot(currentSkill().hexRGB, phase, paused), false);
+}
+
+bool StatusItemController::isHidden() const {
+    return m_env.screens.asleep() || !m_env.item.isShown();
+}
+
+Skill StatusItemController::currentSkill() const {
+    const std::optional<QString>& id = m_env.tracker.currentSkillId();
+    return id ? m_env.skills.by(*id) : m_env.skills.all().front();
+}
+
+} // namespace vantle
