@@ -1,0 +1,87 @@
+"""The frame of every desktop test: a fresh desktop, the program on it, and a clean end."""
+
+import os
+import re
+import unittest
+from pathlib import Path
+
+from .bus import PROGRAM_NAME, owner_of
+from .desktop import Desktop
+from .notifier import Notifier
+from .program import Program
+from .waiting import wait_until
+
+ROOT = Path(__file__).resolve().parents[3]
+EXECUTABLE = Path(os.environ.get("VANTLE_EXECUTABLE", ROOT / "build" / "release" / "vantle"))
+PICTURES = Path(os.environ.get("VANTLE_DESKTOP_PICTURES", ROOT / "build" / "desktop-pictures"))
+
+SHORTCUT = "alt+super+b"
+
+# The skill that a first session runs under, and its colour.
+FIRST_SKILL = "building"
+FIRST_SKILL_COLOUR = 0x7A78FF
+
+
+class DesktopTest(unittest.TestCase):
+    """One desktop a test, with the tray that the class names; `self.vantle` is the program.
+
+    An XEmbed tray is looked at on the screen; of the other kind `self.tray` tells what is in it.
+    Every copy of the program has to have kept silent by the end of the test.
+    """
+
+    XEMBED, STATUS_NOTIFIER, NO_TRAY = range(3)
+    tray_kind = XEMBED
+
+    def setUp(self):
+        name = re.sub(r"^test_", "", self._testMethodName)
+        self.desktop = Desktop(PICTURES / name, tray=self.tray_kind == self.XEMBED)
+        self.addCleanup(self.desktop.stop)
+        self.desktop.start()
+        self.tray = None
+        if self.tray_kind == self.STATUS_NOTIFIER:
+            self.tray = Notifier(self.desktop)
+            self.addCleanup(self.tray.stop)
+            self.tray.start()
+        self.vantle = self.new_program()
+
+    def new_program(self):
+        program = Program(EXECUTABLE, self.desktop)
+        self.addCleanup(self._expect_silence, program)
+        self.addCleanup(program.kill)
+        return program
+
+    def _expect_silence(self, program):
+        self.assertEqual(program.printed(), "", "the program prints nothing")
+
+    # -- what the person does, each time until it has come about
+
+    def launch(self, program=None, **how):
+        """Starts the program and waits until the person can see that it runs."""
+        program = program or self.vantle
+        program.start(**how)
+        if self.tray_kind == self.STATUS_NOTIFIER:
+            self.tray.await_item()
+        elif self.tray_kind == self.XEMBED:
+            self.desktop.await_tray_item()
+        wait_until("the program on the bus", lambda: owner_of(self.desktop, PROGRAM_NAME))
+        self.assertTrue(program.is_running())
+
+    def begin_session(self):
+        """Presses the shortcut and waits for the marker of the session, which it returns."""
+        self.desktop.press(SHORTCUT)
+        return wait_until("a marker", self.vantle.marker)
+
+    def end_session(self):
+        """Presses the shortcut and waits for one more record in the log, which it returns."""
+        before = len(self.vantle.sessions())
+        self.desktop.press(SHORTCUT)
+        wait_until("a record", lambda: len(self.vantle.sessions()) > before)
+        wait_until("no marker", lambda: self.vantle.marker() is None)
+        self.assertEqual(len(self.vantle.sessions()), before + 1)
+        return self.vantle.sessions()[-1]
+
+    # -- what has to hold
+
+    def assert_one_record_and_no_marker(self):
+        self.assertEqual(len(self.vantle.sessions()), 1)
+        self.assertIsNone(self.vantle.marker())

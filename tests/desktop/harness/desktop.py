@@ -1,0 +1,150 @@
+"""A private desktop: X server, window manager, tray, bus and an empty home."""
+
+import os
+import re
+import socket
+import struct
+import subprocess
+from pathlib import Path
+
+from .picture import Picture
+from .waiting import wait_until
+
+WITH_DESKTOP = Path(__file__).resolve().parents[2] / "support" / "with-desktop"
+
+# Answers with its environment, then lives until its standard input is closed.
+HOLDER = ["bash", "-c", "env -0; echo; exec cat >/dev/null"]
+
+
+class Desktop:
+    """Lives from start() to stop(), and no longer than this process in any case.
+
+    `env` is the environment in which programs of this desktop are to be started; `directory` holds
+    its home and all XDG directories and goes with it; screenshots go to `pictures`, which stays.
+    """
+
+    def __init__(self, pictures, tray=True):
+        self.pictures = Path(pictures)
+        self.env = {}
+        self._tray = tray
+        self._holder = None
+
+    def start(self):
+        options = ["--tray"] if self._tray else []
+        self._holder = subprocess.Popen([WITH_DESKTOP, *options, "--", *HOLDER],
+                                        stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        answer = b""
+        while not answer.endswith(b"\0\n"):
+            part = os.read(self._holder.stdout.fileno(), 65536)
+            if not part:
+                raise RuntimeError("the private desktop did not come up")
+            answer += part
+        entries = (entry.partition("=") for entry in os.fsdecode(answer[:-2]).split("\0"))
+        self.env = {name: value for name, _, value in entries}
+        # The same words and dates on every machine; this locale is there without being generated.
+        self.env["LC_ALL"] = "C.UTF-8"
+        # Text that Qt would print goes to stderr, where the tests see it, not to a journal.
+        self.env["QT_LOGGING_TO_CONSOLE"] = "1"
+        # Away from the tray, and known: a window that appears under the pointer would be hovered.
+        self.tool("xdotool", "mousemove", "400", "500")
+
+    def stop(self):
+        if self._holder is None:
+            return
+        self._holder.stdin.close()
+        try:
+            self._holder.wait(10)
+        except subprocess.TimeoutExpired:
+            self._holder.terminate()
+            self._holder.wait()
+        self._holder.stdout.close()
+        self._holder = None
+
+    @property
+    def directory(self):
+        return Path(self.env["HOME"]).parent
+
+    def tool(self, *command):
+        """Runs a program of the desktop to its end and returns what it printed."""
+        done = subprocess.run(command, env=self.env, check=True, stdin=subprocess.DEVNULL,
+                              stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        return done.stdout
+
+    def open(self, *command):
+        """Opens another application, which ends with the desktop at the latest."""
+        return subprocess.Popen(command, env=self.env, stdin=subprocess.DEVNULL,
+                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def press(self, keys):
+        """Presses and releases keys as the person would, such as "alt+super+b"."""
+        self.tool("xdotool", "key", keys)
+
+    def type(self, text):
+        """Types text into whatever has the keyboard, at the speed of a quick hand."""
+        self.tool("xdotool", "type", "--delay", "25", text)
+
+    def nudge_pointer(self):
+        """Moves the pointer a little and back: input that changes nothing."""
+        self.tool("xdotool", "mousemove_relative", "3", "3",
+                  "mousemove_relative", "--", "-3", "-3")
+
+    def windows_titled(self, title):
+        """The visible windows with exactly this title."""
+        return self._asked("xdotool", "search", "--onlyvisible", "--name",
+                           f"^{re.escape(title)}$").split()
+
+    def focused_window_title(self):
+        return self._asked("xdotool", "getactivewindow", "getwindowname").strip()
+
+    def _asked(self, *command):
+        """What a tool answers, nothing where it fails because there is no such window."""
+        return subprocess.run(command, env=self.env, stdin=subprocess.DEVNULL,
+                              capture_output=True, check=False, text=True).stdout
+
+    def screenshot(self, name):
+        """Takes a picture of the whole screen and returns where it is."""
+        self.pictures.mkdir(parents=True, exist_ok=True)
+        path = self.pictures / f"{name}.png"
+        self.tool("import", "-window", "root", str(path))
+        return path
+
+    def picture(self, x, y, width, height):
+        """The pixels of a rectangle of the screen."""
+        raw = self.tool("import", "-window", "root", "-crop", f"{width}x{height}+{x}+{y}",
+                        "+repage", "-depth", "8", "rgb:-")
+        return Picture(width, height, raw)
+
+    def tray_picture(self):
+        """The pixels of the tray's whole bar, which is as wide as its icons."""
+        window = self.tool("xdotool", "search", "--onlyvisible", "--class", "trayer").split()[0]
+        geometry = dict(line.split("=") for line in
+                        self.tool("xdotool", "getwindowgeometry", "--shell",
+                                  window.decode()).decode().split())
+        return self.picture(*(int(geometry[key]) for key in ("X", "Y", "WIDTH", "HEIGHT")))
+
+    def tray_has_item(self):
+        picture = self.tray_picture()
+        return picture.width >= 16 and picture.inked() >= 20
+
+    def await_tray_item(self, deadline=10.0):
+        wait_until("an icon in the tray", self.tray_has_item, deadline)
+
+    def x_server_process(self):
+        """The process id of the X server."""
+        number = self.env["DISPLAY"].lstrip(":").partition(".")[0]
+        return _process_behind(f"/tmp/.X11-unix/X{number}")
+
+    def bus_process(self):
+        """The process id of the bus."""
+        address = self.env["DBUS_SESSION_BUS_ADDRESS"]
+        return _process_behind(re.search("path=([^,;]+)", address)[1])
+
+
+def _process_behind(path):
+    """Who listens at the socket, as the kernel tells whoever is connected to it."""
+    with socket.socket(socket.AF_UNIX) as connection:
+        connection.connect(path)
+        process_user_group = "3i"
+        peer = connection.getsockopt(socket.SOL_SOCKET, socket.SO_PEERCRED,
+                                     struct.calcsize(process_user_group))
+    return struct.unpack(process_user_group, peer)[0]

@@ -1,0 +1,65 @@
+"""The program's object on the session bus, for launchers and for keys bound on the desktop."""
+
+import subprocess
+import sys
+from pathlib import Path
+
+import dbus
+
+from harness.bus import activate, activate_action
+from harness.case import SHORTCUT, DesktopTest
+from harness.waiting import wait_until
+
+HOLD_KEY = Path(__file__).parent / "harness" / "hold_key.py"
+
+
+class BusActions(DesktopTest):
+
+    def test_the_toggle_action_starts_and_ends_a_session(self):
+        self.launch()
+        activate_action(self.desktop, "toggle")
+        wait_until("a marker", self.vantle.marker)
+        activate_action(self.desktop, "toggle")
+        wait_until("a record", self.vantle.sessions)
+        self.assert_one_record_and_no_marker()
+
+    def test_activation_leaves_a_running_session_alone(self):
+        self.launch()
+        marker = self.begin_session()
+        activate(self.desktop)
+        self.assertEqual(self.vantle.marker(), marker)
+        self.assertEqual(self.end_session()["id"], marker["id"])
+
+    def test_an_unknown_action_is_refused_and_changes_nothing(self):
+        self.launch()
+        with self.assertRaises(dbus.DBusException):
+            activate_action(self.desktop, "no-such-action")
+        self.assertTrue(self.vantle.is_running())
+        self.assertIsNone(self.vantle.marker())
+
+
+class HeldKey(DesktopTest):
+
+    def setUp(self):
+        super().setUp()
+        self._holder = subprocess.Popen([sys.executable, HOLD_KEY], env=self.desktop.env,
+                                        stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        self.addCleanup(self._let_go)
+        self.assertEqual(self._holder.stdout.readline(), b"held\n")
+
+    def _let_go(self):
+        self._holder.stdin.close()
+        self._holder.wait(10)
+        self._holder.stdout.close()
+
+    def test_with_the_shortcut_held_by_another_application_the_action_still_works(self):
+        self.launch()
+        self.desktop.press(SHORTCUT)
+        self.assertIsNone(self.vantle.marker())
+        activate_action(self.desktop, "toggle")
+        wait_until("a marker", self.vantle.marker)
+        self.desktop.press(SHORTCUT)
+        self.assertIsNotNone(self.vantle.marker())
+        activate_action(self.desktop, "toggle")
+        wait_until("a record", self.vantle.sessions)
+        self.assert_one_record_and_no_marker()

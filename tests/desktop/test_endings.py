@@ -1,0 +1,79 @@
+"""However the program is ended in order, the open session is in the log."""
+
+import os
+import signal
+import time
+
+from harness.bus import activate_action
+from harness.case import DesktopTest
+from harness.waiting import wait_until
+
+
+class Endings(DesktopTest):
+
+    def test_a_terminate_signal_logs_the_open_session(self):
+        self._a_signal_logs_the_open_session(signal.SIGTERM)
+
+    def test_an_interrupt_logs_the_open_session(self):
+        self._a_signal_logs_the_open_session(signal.SIGINT)
+
+    def test_a_hang_up_logs_the_open_session(self):
+        self._a_signal_logs_the_open_session(signal.SIGHUP)
+
+    def _a_signal_logs_the_open_session(self, number):
+        self.launch()
+        marker = self.begin_session()
+        time.sleep(1.2)  # work
+        self.assertEqual(self.vantle.stop(number), 0)
+        self.assert_one_record_and_no_marker()
+        record, = self.vantle.sessions()
+        self.assertEqual(record["id"], marker["id"])
+        self.assertIn(record["activeSeconds"], (1, 2))
+        self.assertFalse(self.vantle.left_children())
+
+    def test_a_signal_without_a_session_leaves_no_log(self):
+        self.launch()
+        self.assertEqual(self.vantle.stop(), 0)
+        self.assertFalse(self.vantle.log_file.exists())
+        self.assertIsNone(self.vantle.marker())
+
+    def test_two_signals_at_once_log_one_record(self):
+        self.launch()
+        self.begin_session()
+        self.vantle.send(signal.SIGTERM)
+        self.vantle.send(signal.SIGINT)
+        self.assertEqual(self.vantle.wait(), 0)
+        self.assert_one_record_and_no_marker()
+
+    def test_the_quit_action_logs_the_open_session(self):
+        self.launch()
+        self.begin_session()
+        activate_action(self.desktop, "quit")
+        self.assertEqual(self.vantle.wait(), 0)
+        self.assert_one_record_and_no_marker()
+
+    def test_the_end_of_the_x_server_logs_the_open_session(self):
+        self.launch()
+        marker = self.begin_session()
+        os.kill(self.desktop.x_server_process(), signal.SIGKILL)
+        self.vantle.wait()
+        self.assert_one_record_and_no_marker()
+        self.assertEqual(self.vantle.sessions()[0]["id"], marker["id"])
+
+    def test_the_end_of_the_bus_does_not_end_the_session(self):
+        self.launch()
+        self.begin_session()
+        os.kill(self.desktop.bus_process(), signal.SIGKILL)
+        time.sleep(0.5)  # for a program that would follow it
+        self.assertTrue(self.vantle.is_running())
+        self.end_session()
+
+    def test_the_next_start_works_after_each_end(self):
+        self.launch()
+        self.begin_session()
+        self.assertEqual(self.vantle.stop(), 0)
+        wait_until("an empty tray", lambda: not self.desktop.tray_has_item())
+        self.launch()
+        self.begin_session()
+        self.end_session()
+        self.assertEqual(len(self.vantle.sessions()), 2)

@@ -1,0 +1,133 @@
+"""A session from key press to key press, as it stands in the files and in the tray."""
+
+import json
+import stat
+import time
+from datetime import datetime, timezone
+
+from harness.case import FIRST_SKILL, FIRST_SKILL_COLOUR, DesktopTest
+from harness.picture import rgb_of
+from harness.waiting import wait_until
+
+KEYS_OF_A_RECORD = ["activeSeconds", "endedAt", "id", "note", "skillId", "source", "startedAt"]
+
+
+def moment(text):
+    return datetime.strptime(text, "%Y-%m-%dT%H:%M:%SZ").replace(tzinfo=timezone.utc)
+
+
+class Session(DesktopTest):
+
+    def test_one_press_starts_and_the_same_press_ends_on_a_machine_that_never_saw_the_program(self):
+        self.launch()
+        marker = self.begin_session()
+        self.assertEqual(marker["skillId"], FIRST_SKILL)
+        self.assertEqual(self.vantle.log_bytes(), b"")
+        time.sleep(2.2)  # work
+        record = self.end_session()
+
+        self.assertEqual(list(record), KEYS_OF_A_RECORD)
+        self.assertEqual(record["id"], marker["id"])
+        self.assertEqual(record["skillId"], FIRST_SKILL)
+        self.assertEqual(record["startedAt"], marker["startedAt"])
+        self.assertEqual((record["note"], record["source"]), ("", "mac_app"))
+        self.assertIn(record["activeSeconds"], (2, 3))
+        length = (moment(record["endedAt"]) - moment(record["startedAt"])).total_seconds()
+        self.assertLessEqual(abs(length - record["activeSeconds"]), 1)
+
+    def test_the_line_has_its_canonical_form_and_only_the_owner_may_read_it(self):
+        self.launch()
+        self.begin_session()
+        self.end_session()
+        self.begin_session()
+        record = self.end_session()
+        text = json.dumps(record, sort_keys=True, separators=(",", ":")).replace("/", "\\/")
+        lines = self.vantle.log_bytes().decode().split("\n")
+        self.assertEqual(lines[1:], [text, ""])
+        for path, mode in ((self.vantle.data_directory, 0o700), (self.vantle.log_file, 0o600)):
+            self.assertEqual(stat.S_IMODE(path.stat().st_mode), mode, path.name)
+
+    def test_the_marker_is_on_disk_within_a_second_of_the_press(self):
+        self.launch()
+        pressed = time.time()
+        self.begin_session()
+        self.assertLess(self.vantle.marker_file.stat().st_mtime - pressed, 1.0)
+        self.assertEqual(stat.S_IMODE(self.vantle.marker_file.stat().st_mode), 0o600)
+
+    def test_the_press_reaches_the_program_while_another_application_has_the_keyboard(self):
+        typed = self.desktop.directory / "typed"
+        self.desktop.open("xterm", "-T", "editor", "-e", f"cat > {typed}")
+        wait_until("the editor in front",
+                   lambda: self.desktop.focused_window_title() == "editor")
+        self.launch()
+        self.begin_session()
+        self.desktop.type("a line\n")
+        wait_until("the typed line", lambda: typed.read_text() == "a line\n")
+        self.end_session()
+        self.assertEqual(typed.read_text(), "a line\n", "no key of the shortcut gets through")
+
+    def test_keys_held_down_count_as_one_press(self):
+        self.launch()
+        self.desktop.tool("xdotool", "keydown", "alt", "keydown", "super", "keydown", "b",
+                          "sleep", "1.5", "keyup", "b", "keyup", "super", "keyup", "alt")
+        wait_until("a marker", self.vantle.marker)
+        self.assertEqual(self.vantle.sessions(), [])
+        self.end_session()
+
+
+class XEmbedTray(DesktopTest):
+
+    def test_the_tray_shows_the_brick_then_the_dot_in_the_skill_s_colour_then_the_brick(self):
+        colour = rgb_of(FIRST_SKILL_COLOUR)
+        self.launch()
+        wait_until("the brick", lambda: self.desktop.tray_picture().inked() > 60)
+        brick = self.desktop.tray_picture()
+        self.assertFalse(brick.shows(colour, tolerance=40))
+        self.desktop.screenshot("brick")
+
+        self.begin_session()
+        wait_until("the dot at its brightest",
+                   lambda: self.desktop.tray_picture().shows(colour), deadline=3)
+        self.desktop.screenshot("dot")
+        dots = {self.desktop.tray_picture() for _ in range(20)}
+        self.assertGreaterEqual(len(dots), 3, "the dot breathes")
+
+        self.end_session()
+        wait_until("the brick again", lambda: self.desktop.tray_picture() == brick)
+
+
+class StatusNotifierTray(DesktopTest):
+
+    tray_kind = DesktopTest.STATUS_NOTIFIER
+
+    def test_a_panel_is_told_the_brick_then_the_dot_then_the_brick(self):
+        colour = rgb_of(FIRST_SKILL_COLOUR)
+        self.launch()
+        self.assertEqual(self.tray.tool_tip(), "Vantle")
+        brick = self.tray.pixmap(18)
+        self.assertEqual((brick.width, brick.height), (18, 18))
+        corner_alphas = {brick.pixel(x, y)[0] for x in (0, 17) for y in (0, 17)}
+        self.assertEqual(corner_alphas, {0}, "the brick's ground is clear")
+
+        self.begin_session()
+        brightest = wait_until("the dot at its brightest",
+                               self._centre_if_opaque, deadline=3)
+        for channel, expected in zip(brightest[1:], colour):
+            self.assertLessEqual(abs(channel - expected), 3)
+
+        self.end_session()
+        wait_until("the brick again", lambda: self.tray.pixmap(18) == brick)
+
+    def _centre_if_opaque(self):
+        centre = self.tray.pixmap(18).centre()
+        return centre if centre[0] >= 250 else None
+
+
+class NoTray(DesktopTest):
+
+    tray_kind = DesktopTest.NO_TRAY
+
+    def test_without_any_tray_the_shortcut_still_works(self):
+        self.launch()
+        self.begin_session()
+        self.end_session()

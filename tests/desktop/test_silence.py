@@ -1,0 +1,74 @@
+"""Time away from keyboard and mouse is cut out of the session."""
+
+import time
+from datetime import datetime, timezone
+
+from harness.case import DesktopTest
+from harness.waiting import wait_until
+
+# The shortest threshold that the preference takes; the counter is looked at every 10 s, give or
+# take 2, so a silence is noticed within 22 s and input after it within 12.
+THRESHOLD = 10.0
+NOTICES_SILENCE = THRESHOLD + 12
+NOTICES_INPUT = 12
+
+
+def epoch(text):
+    parsed = datetime.strptime(text, "%Y-%m-%dT%H:%M:%SZ").replace(tzinfo=timezone.utc)
+    return parsed.timestamp()
+
+
+class Silence(DesktopTest):
+
+    def test_silence_pauses_back_to_the_last_input_and_motion_resumes(self):
+        self.vantle.write_preferences(idle__thresholdSeconds=THRESHOLD)
+        self.launch()
+        self.begin_session()
+        time.sleep(3)
+        self.desktop.nudge_pointer()
+        last_input = time.time()
+
+        paused = self._await_next_marker(NOTICES_SILENCE + 2)
+        self.assertGreaterEqual(time.time() - last_input, THRESHOLD)
+        self.assertLessEqual(abs(epoch(paused["lastSeenAt"]) - last_input), 1.5,
+                             "counting stopped at the last input, not when it was noticed")
+        self.assertIn(paused["activeSeconds"], (3, 4))
+        self.desktop.screenshot("paused")
+
+        self.desktop.nudge_pointer()
+        resumed = self._await_next_marker(NOTICES_INPUT + 2)
+        came_back = time.time()
+        self.assertEqual(resumed["id"], paused["id"])
+        self.assertEqual(resumed["activeSeconds"], paused["activeSeconds"])
+        self.desktop.screenshot("resumed")
+
+        time.sleep(2)
+        record = self.end_session()
+        worked = paused["activeSeconds"] + time.time() - came_back
+        self.assertLessEqual(abs(record["activeSeconds"] - worked), 1.5)
+        length = epoch(record["endedAt"]) - epoch(record["startedAt"])
+        self.assertGreaterEqual(length - record["activeSeconds"], THRESHOLD - 1)
+
+    def test_a_session_stopped_while_paused_keeps_what_was_worked(self):
+        self.vantle.write_preferences(idle__thresholdSeconds=THRESHOLD)
+        self.launch()
+        self.begin_session()
+        paused = self._await_next_marker(NOTICES_SILENCE + 2)
+        self.assertIn(paused["activeSeconds"], (0, 1))
+        # Not by a key press: that would be input.
+        self.assertEqual(self.vantle.stop(), 0)
+        self.assert_one_record_and_no_marker()
+        record, = self.vantle.sessions()
+        self.assertEqual(record["activeSeconds"], paused["activeSeconds"])
+        self.assertGreaterEqual(epoch(record["endedAt"]) - epoch(record["startedAt"]), THRESHOLD)
+
+    def _await_next_marker(self, deadline):
+        """Waits until the marker is written anew, which replaces the file, and returns it."""
+        old = self.vantle.marker_file.stat()
+        wait_until("a new marker", lambda: not _same_file(self.vantle.marker_file.stat(), old),
+                   deadline)
+        return self.vantle.marker()
+
+
+def _same_file(one, other):
+    return (one.st_ino, one.st_mtime_ns) == (other.st_ino, other.st_mtime_ns)
