@@ -3,12 +3,9 @@
 namespace vantle::vectors {
 
 const QList<Form>& allForms() {
-    static const QList<Form> forms =
-        QList<Form>{
-            durationsForm(), //
-            idleMonitorForm(), recordsForm(), skillsForm(), totalsForm(), weeksForm(),
-        } +
-        trackerForms();
+    static const QList<Form> forms = QList<Form>(trackerForms())
+                                     << durationsForm() << idleMonitorForm() << recordsForm()
+                                     << skillsForm() << totalsForm() << weeksForm();
     return forms;
 }
 

@@ -1,0 +1,45 @@
+// The records as they stand in cases: plain members, dates as seconds since 1970.
+#pragma once
+
+#include "tracking/Session.h"
+#include "tracking/Skill.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <optional>
+#include <vector>
+
+namespace vantle::vectors {
+
+[[nodiscard]] Session sessionFromJson(const QJsonValue& value);
+[[nodiscard]] OpenSessionMarker markerFromJson(const QJsonValue& value);
+[[nodiscard]] Skill skillFromJson(const QJsonValue& value);
+[[nodiscard]] std::vector<Session> sessionsFromJson(const QJsonValue& list);
+[[nodiscard]] std::vector<Skill> skillsFromJson(const QJsonValue& list);
+
+[[nodiscard]] QJsonValue toJson(const Session& session);
+[[nodiscard]] QJsonValue toJson(const OpenSessionMarker& marker);
+[[nodiscard]] QJsonValue toJson(const Skill& skill);
+[[nodiscard]] QJsonValue toJson(const QUuid& id);
+[[nodiscard]] QJsonValue toJson(const QString& text);
+[[nodiscard]] QJsonValue toJson(Date date);
+[[nodiscard]] QJsonValue toJson(std::int64_t number);
+
+template <typename Value>
+[[nodiscard]] QJsonValue toJson(const std::vector<Value>& values) {
+    QJsonArray list;
+    for (const Value& value : values)
+        list << toJson(value);
+    return list;
+}
+
+/// Nothing is null.
+template <typename Value>
+[[nodiscard]] QJsonValue toJson(const std::optional<Value>& value) {
+    return value ? toJson(*value) : QJsonValue(QJsonValue::Null);
+}
+
+[[nodiscard]] Date dateFromJson(const QJsonValue& epoch);
+
+} // namespace vantle::vectors
