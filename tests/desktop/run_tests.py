@@ -74,7 +74,8 @@ def main():
     result = unittest.TextTestRunner(verbosity=2, resultclass=Result).run(tests)
     wish, _, where = os.environ.get("GTEST_OUTPUT", "").partition(":")
     if wish == "xml" and where.endswith("/"):
-        write_report(Path(where) / f"desktop_{'_'.join(n.removeprefix('test_') for n in names)}.xml", result.cases)
+        name = "_".join(["desktop", *(name.removeprefix("test_") for name in names)])
+        write_report(Path(where) / f"{name}.xml", result.cases)
     sys.exit(0 if result.wasSuccessful() and result.cases else 1)
 
 

@@ -32,7 +32,8 @@ class Program:
             self._process = subprocess.Popen(
                 [*through, str(self._executable)], env=self._desktop.env,
                 cwd=self._desktop.env["HOME"], stdin=subprocess.DEVNULL, stdout=output,
-                stderr=output, start_new_session=True, restore_signals=restore_signals)
+                stderr=output, start_new_session=True, restore_signals=restore_signals,
+                preexec_fn=_hear_signals)
 
     @property
     def pid(self):
@@ -118,3 +119,9 @@ class Program:
         directory.mkdir(mode=0o700, parents=True, exist_ok=True)
         lines = [f"{name.replace('__', '.')}={value}\n" for name, value in values.items()]
         (directory / "preferences.ini").write_text("[General]\n" + "".join(lines))
+
+
+def _hear_signals():
+    """A caller in the background may have these ignored, which programs inherit."""
+    for number in (signal.SIGINT, signal.SIGHUP, signal.SIGTERM):
+        signal.signal(number, signal.SIG_DFL)
