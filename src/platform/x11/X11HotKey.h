@@ -1,0 +1,52 @@
+// Alt+Super+B, heard from any application.
+#pragma once
+
+#include "platform/HotKeyPort.h"
+#include "platform/x11/KeyRepeatFilter.h"
+#include "platform/x11/X11Connection.h"
+#include "platform/x11/X11KeyCombination.h"
+
+#include <memory>
+#include <optional>
+
+namespace vantle {
+
+class Scheduler;
+
+/// Grabs the combination on the root window. A change of the keyboard map grabs it anew at its new
+/// place; where that fails it is tried again at the next change.
+///
+/// While another program holds the whole keyboard, an open menu or a screen locker, presses don't
+/// reach us. In a Wayland session they would do so only over X11 windows: not to be used there.
+class X11HotKey final : public HotKeyPort {
+public:
+    /// Statuses beside the codes of X errors.
+    static constexpr int kNoConnection = X11Connection::kBroken;
+    static constexpr int kNoSuchKey = -2; ///< the keyboard map has no Alt or no Super
+
+    /// Both must outlive this.
+    X11HotKey(X11Connection& connection, Scheduler& scheduler);
+    ~X11HotKey() override;
+
+    [[nodiscard]] int installHandler(std::function<void()> pressed) override;
+    void removeHandler() override;
+    [[nodiscard]] Outcome registerKey() override;
+    void unregisterKey() override;
+
+private:
+    void handlePress(const xcb_key_press_event_t& event);
+    void handleRelease(const xcb_key_release_event_t& event);
+    void handleMapping();
+    [[nodiscard]] Outcome grab(const X11KeyCombination& combination);
+    void ungrab();
+
+    X11Connection& m_connection;
+    Scheduler& m_scheduler;
+    std::shared_ptr<std::function<void()>> m_pressed; ///< posted calls hold it weakly
+    bool m_registered = false;
+    std::optional<X11KeyCombination> m_grabbed;
+    KeyRepeatFilter m_repeats;
+    X11Connection::Subscription m_presses, m_releases, m_mappings;
+};
+
+} // namespace vantle

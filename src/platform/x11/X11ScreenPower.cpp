@@ -1,0 +1,65 @@
+#include "platform/x11/X11ScreenPower.h"
+
+#include <xcb/dpms.h>
+#include <xcb/screensaver.h>
+
+namespace vantle {
+
+namespace {
+
+enum Cause : unsigned { DisplaysOffCause, ScreenSaverCause };
+
+// Often enough that a pause starts about when the screen went dark; one round trip each.
+constexpr Seconds kPollInterval{3.0};
+constexpr Seconds kPollTolerance{1.0};
+
+} // namespace
+
+X11ScreenPower::DisplaysOff X11ScreenPower::powerManagement(X11Connection& connection) {
+    if (connection.extension(xcb_dpms_id) == nullptr) return {};
+    const auto capable =
+        connection.reply<xcb_dpms_capable_reply>(xcb_dpms_capable(connection.xcb()));
+    if (!capable || capable->capable == 0) return {};
+    return [&connection] {
+        if (!connection.isAlive()) return false;
+        const auto info = connection.reply<xcb_dpms_info_reply>(xcb_dpms_info(connection.xcb()));
+        return info && info->state != 0 && info->power_level != XCB_DPMS_DPMS_MODE_ON;
+    };
+}
+
+X11ScreenPower::X11ScreenPower(X11Connection& connection, Scheduler& scheduler,
+                               DisplaysOff displaysOff)
+    : m_connection(connection)
+    , m_displaysOff(std::move(displaysOff)) {
+    if (m_displaysOff) {
+        const auto poll = [this] { setCause(DisplaysOffCause, m_displaysOff()); };
+        poll();
+        m_poll = scheduler.scheduleRepeatingTimer(kPollInterval, kPollTolerance, poll);
+    }
+    followScreenSaver();
+    connect(&connection, &X11Connection::broken, this, [this] {
+        m_poll.reset();
+        setCause(DisplaysOffCause, false);
+        setCause(ScreenSaverCause, false);
+    });
+}
+
+void X11ScreenPower::followScreenSaver() {
+    const auto* extension = m_connection.extension(xcb_screensaver_id);
+    if (extension == nullptr) return;
+    m_screenSaver = m_connection.subscribe(
+        extension->first_event + XCB_SCREENSAVER_NOTIFY, [this](auto& event) {
+            const auto& notify = reinterpret_cast<const xcb_screensaver_notify_event_t&>(event);
+            // A saver that cycles is on and stays on; that state is not asked for, yet told.
+            if (notify.state == XCB_SCREENSAVER_STATE_ON) setCause(ScreenSaverCause, true);
+            if (notify.state == XCB_SCREENSAVER_STATE_OFF) setCause(ScreenSaverCause, false);
+        });
+    // Selected first, so that a change between the two requests is not missed.
+    xcb_screensaver_select_input(m_connection.xcb(), m_connection.root(),
+                                 XCB_SCREENSAVER_EVENT_NOTIFY_MASK);
+    const auto info = m_connection.reply<xcb_screensaver_query_info_reply>(
+        xcb_screensaver_query_info(m_connection.xcb(), m_connection.root()));
+    if (info && info->state == XCB_SCREENSAVER_STATE_ON) setCause(ScreenSaverCause, true);
+}
+
+} // namespace vantle
