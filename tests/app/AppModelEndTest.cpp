@@ -1,0 +1,181 @@
+// The ends: quitting, a crash and what follows it, and the erase of all data.
+#include "app/ModelWorld.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+namespace vantle::tests {
+namespace {
+
+using State = TrackerCore::State;
+using Operation = fakes::FaultyFileSystem::Operation;
+
+QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+
+class AppModelEndTest : public testing::Test {
+protected:
+    ModelWorld world;
+};
+
+TEST_F(AppModelEndTest, QuittingInASessionLogsItWithoutASummary) {
+    AppModel& model = world.launch();
+    world.press();
+    world.time.advance(100.0);
+    model.quit();
+    EXPECT_EQ(world.log().size(), 1u);
+    EXPECT_FALSE(world.hasMarker());
+    EXPECT_FALSE(world.told.has(text("summary")));
+    EXPECT_FALSE(world.hotKeyPort.press());
+    EXPECT_EQ(world.terminations, 1);
+}
+
+TEST_F(AppModelEndTest, TheStopRunsOnceHoweverOftenTheEndIsTold) {
+    AppModel& model = world.launch();
+    world.press();
+    model.quit();
+    model.prepareForTermination();
+    model.quit();
+    EXPECT_EQ(world.log().size(), 1u);
+    EXPECT_EQ(world.told.count(text("auto drain")), 1);
+    EXPECT_EQ(world.terminations, 2);
+}
+
+TEST_F(AppModelEndTest, AQuitThatCannotSaveLeavesTheMarkerForTheNextLaunch) {
+    AppModel& model = world.launch();
+    world.press();
+    world.time.advance(100.0);
+    world.breakWrites(text("sessions.jsonl"), true);
+    model.quit();
+    EXPECT_TRUE(world.hasMarker());
+    world.breakWrites(text("sessions.jsonl"), false);
+    world.kill();
+    world.launch();
+    EXPECT_TRUE(world.told.has(text("recovery 60")));
+}
+
+TEST_F(AppModelEndTest, AKilledSessionIsOfferedAndKept) {
+    world.launch();
+    world.press();
+    world.time.advance(130.0);
+    world.kill();
+    AppModel& model = world.launch();
+    EXPECT_EQ(world.note(), text("Found 2 min from the previous run · choose Keep or Discard"));
+    EXPECT_TRUE(world.told.has(text("recovery 120")));
+    EXPECT_TRUE(world.log().empty());
+    world.told.recoveryKeep();
+    EXPECT_EQ(world.note(), text("Recovered 2 min from the previous run"));
+    ASSERT_EQ(world.log().size(), 1u);
+    EXPECT_EQ(world.log().front().activeSeconds, 120);
+    EXPECT_FALSE(world.hasMarker());
+    EXPECT_EQ(model.tracker().state(), State::Idle);
+}
+
+TEST_F(AppModelEndTest, TheOfferComesBeforeTheIdleCapsule) {
+    world.launch();
+    world.press();
+    world.time.advance(130.0);
+    world.kill();
+    world.told.calls.clear();
+    world.launch();
+    EXPECT_LT(world.told.calls.indexOf(text("recovery 120")),
+              world.told.calls.indexOf(text("notch idle building flash 0")));
+}
+
+TEST_F(AppModelEndTest, AKilledSessionIsOfferedAndDiscarded) {
+    world.launch();
+    world.press();
+    world.time.advance(130.0);
+    world.kill();
+    world.launch();
+    world.told.recoveryDiscard();
+    EXPECT_EQ(world.note(), text("Discarded the recovered session"));
+    EXPECT_TRUE(world.log().empty());
+    EXPECT_FALSE(world.hasMarker());
+}
+
+TEST_F(AppModelEndTest, AnOfferThatIsNotAnsweredComesAgain) {
+    world.launch();
+    world.press();
+    world.time.advance(130.0);
+    world.kill();
+    world.launch().quit();
+    world.kill();
+    world.told.calls.clear();
+    world.launch();
+    EXPECT_TRUE(world.told.has(text("recovery 120")));
+}
+
+TEST_F(AppModelEndTest, AMarkerOfALoggedSessionIsNotLoggedTwice) {
+    world.launch();
+    world.press();
+    world.time.advance(130.0);
+    // The disk loses the removal of the marker, not the record.
+    world.files.fail(Operation::Remove, text("open-session.json"), EIO);
+    world.press();
+    world.files.healAll();
+    world.kill();
+    world.launch();
+    world.told.recoveryKeep();
+    EXPECT_EQ(world.log().size(), 1u);
+    EXPECT_FALSE(world.hasMarker());
+    EXPECT_EQ(world.note(), text("Recovered 2 min from the previous run"));
+}
+
+TEST_F(AppModelEndTest, EraseInASessionLeavesNothing) {
+    AppModel& model = world.launch();
+    world.press();
+    world.time.advance(100.0);
+    world.press();
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    world.press();
+    world.time.advance(100.0);
+    world.told.calls.clear();
+    EXPECT_EQ(model.eraseEverything(), std::nullopt);
+    world.settle();
+    EXPECT_EQ(world.note(), text("All local Vantle data was erased"));
+    EXPECT_EQ(model.tracker().state(), State::Idle);
+    EXPECT_EQ(model.selectedSkillId(), text("building"));
+    EXPECT_FALSE(world.told.has(text("focus ended")));
+    EXPECT_FALSE(world.told.has(text("summary")));
+    for (const QString& path : world.paths.allDataFiles())
+        EXPECT_FALSE(world.disk.exists(path)) << path.toStdString();
+    EXPECT_TRUE(model.needsWelcome());
+    EXPECT_EQ(world.preferences.string(text("skill.lastUsed")), std::nullopt);
+    EXPECT_EQ(world.told.calls.first(), text("recovery hide"));
+}
+
+TEST_F(AppModelEndTest, AnErasedSessionDoesNotComeBackFromAQueuedMarker) {
+    AppModel& model = world.launch();
+    model.toggleVantle(); // the marker is still queued
+    model.eraseEverything();
+    world.settle();
+    EXPECT_FALSE(world.hasMarker());
+}
+
+TEST_F(AppModelEndTest, AnUndeletableFileIsReportedWithItsReasonAndAsStillThere) {
+    AppModel& model = world.launch();
+    world.press();
+    world.press();
+    world.files.fail(Operation::Remove, text("sessions.jsonl"), EACCES);
+    const auto message = model.eraseEverything();
+    ASSERT_TRUE(message);
+    // Between the two stands the platform's own wording.
+    EXPECT_TRUE(message->startsWith(text("Some local data could not be erased: sessions.jsonl: "
+                                         "Permission denied")));
+    EXPECT_TRUE(message->endsWith(text("; sessions.jsonl still exists")));
+    EXPECT_EQ(world.note(), *message);
+}
+
+TEST_F(AppModelEndTest, ThePersonCanGoOnAfterAnErase) {
+    AppModel& model = world.launch();
+    model.eraseEverything();
+    model.markWelcomeDone();
+    world.press();
+    world.time.advance(60.0);
+    world.press();
+    EXPECT_EQ(world.log().size(), 1u);
+}
+
+} // namespace
+} // namespace vantle::tests

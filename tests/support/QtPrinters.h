@@ -1,0 +1,16 @@
+// Lets a failed expectation show Qt's texts as text.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <ostream>
+
+QT_BEGIN_NAMESPACE
+inline void PrintTo(const QString& text, std::ostream* out) {
+    *out << '"' << text.toStdString() << '"';
+}
+inline void PrintTo(const QStringList& texts, std::ostream* out) {
+    *out << '[' << texts.join(QLatin1String("\n ")).toStdString() << ']';
+}
+QT_END_NAMESPACE
