@@ -41,7 +41,10 @@ struct Dot {
 };
 
 constexpr Dot kPausedDot{3.4, 0.45, 6.8, 0.12};
-constexpr QRectF kPauseBars[] = {{7.4, 6.8, 1.2, 4.4}, {9.4, 6.8, 1.2, 4.4}};
+
+/// The bars of the pause, left and right of the centre.
+constexpr QSizeF kPauseBar{1.2, 4.4};
+constexpr double kPauseGap = 0.8;
 constexpr double kPauseBarAlpha = 0.9;
 
 Dot breathingDot(int phase) {
@@ -59,6 +62,21 @@ QColor withAlpha(QColor color, double alpha) {
 void fillCircle(QPainter& painter, double radius, const QColor& color) {
     painter.setBrush(color);
     painter.drawEllipse(kCentre, radius, radius);
+}
+
+/// The gap between the bars. Where it is under a pixel, smoothing would close it and leave a block,
+/// so there it is as many whole pixels as can lie in the middle: two, or one in an odd size.
+double pauseGap(int pixels) {
+    const double unit = pixels / kSide;
+    if (kPauseGap * unit >= 1.0) return kPauseGap;
+    return (pixels % 2 == 0 ? 2.0 : 1.0) / unit;
+}
+
+void fillPauseBars(QPainter& painter, double gap) {
+    const double top = kCentre.y() - kPauseBar.height() / 2;
+    const QColor color = withAlpha(Qt::white, kPauseBarAlpha);
+    for (const double left : {kCentre.x() - gap / 2 - kPauseBar.width(), kCentre.x() + gap / 2})
+        painter.fillRect(QRectF(QPointF(left, top), kPauseBar), color);
 }
 
 template <typename Draw>
@@ -94,9 +112,7 @@ QImage drawStatusDot(int pixels, std::uint32_t hexRGB, int phase, bool paused) {
         const Dot dot = paused ? kPausedDot : breathingDot(phase);
         fillCircle(painter, dot.haloRadius, withAlpha(color, dot.haloAlpha));
         fillCircle(painter, dot.coreRadius, withAlpha(color, dot.coreAlpha));
-        if (!paused) return;
-        for (const QRectF& bar : kPauseBars)
-            painter.fillRect(bar, withAlpha(Qt::white, kPauseBarAlpha));
+        if (paused) fillPauseBars(painter, pauseGap(pixels));
     });
 }
 
