@@ -1,0 +1,47 @@
+#include "platform/WholeFile.h"
+
+#include <QUuid>
+
+namespace vantle {
+
+namespace {
+
+constexpr int kPrivateDirectory = 0700;
+
+Result<> fill(File& file, QByteArrayView content) {
+    if (auto written = file.write(content); !written) return written;
+    if (auto synced = file.sync(); !synced) return synced;
+    return file.close();
+}
+
+} // namespace
+
+Result<> createFile(FileSystem& files, const QString& path, QByteArrayView content) {
+    const auto file = files.open(path, FileSystem::OpenMode::CreateNew);
+    if (!file) return file.error();
+    auto filled = fill(*file.value(), content);
+    if (!filled) files.remove(path).ignore();
+    return filled;
+}
+
+Result<> replaceFile(FileSystem& files, const QString& path, QByteArrayView content) {
+    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+    const QString directory = path.left(slash);
+    if (auto made = files.makeDirectories(directory, kPrivateDirectory); !made) return made;
+
+    const QString temporary =
+        QStringLiteral("%1/.%2.%3.tmp")
+            .arg(directory, path.mid(slash + 1),
+                 QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper());
+    if (auto created = createFile(files, temporary, content); !created) return created;
+    if (auto renamed = files.rename(temporary, path); !renamed) {
+        files.remove(temporary).ignore();
+        return renamed;
+    }
+    // Without this a power loss could bring the old file back. Not every file system can do it, and
+    // the new content is in place already.
+    files.syncDirectory(directory).ignore();
+    return {};
+}
+
+} // namespace vantle
