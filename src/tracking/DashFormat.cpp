@@ -6,6 +6,8 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 
 namespace vantle::dashformat {
 
@@ -24,10 +26,19 @@ const QString& hourUnit() {
     return unit;
 }
 
-/// "%.1f" without a trailing ".0"; from 99.95 on without any decimals.
+/// printf's "%.{decimals}f": exact ties of the binary value go to the even digit. (Qt's own
+/// formatting rounds them up.)
+QString fixed(double value, int decimals) {
+    std::array<char, 400> buffer{};
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                   std::chars_format::fixed, decimals);
+    return QString::fromLatin1(buffer.data(), end.ptr - buffer.data());
+}
+
+/// One decimal without a trailing ".0"; from 99.95 on without any decimals.
 QString decimalHours(double hours) {
-    if (hours >= 99.95) return QString::asprintf("%.0f", hours);
-    QString text = QString::asprintf("%.1f", hours);
+    if (hours >= 99.95) return fixed(hours, 0);
+    QString text = fixed(hours, 1);
     if (text.endsWith(QLatin1String(".0"))) text.chop(2);
     return text;
 }

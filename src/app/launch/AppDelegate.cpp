@@ -1,0 +1,121 @@
+#include "app/launch/AppDelegate.h"
+
+#include "app/launch/RecoveryActions.h"
+#include "platform/Autostart.h"
+#include "platform/Preferences.h"
+#include "platform/TrayItem.h"
+
+namespace vantle {
+
+namespace {
+
+/// The program has tried once to start at login. Whoever turns that off later stays off.
+constexpr QLatin1String kLoginAutoRegistered("login.autoRegistered");
+
+} // namespace
+
+AppDelegate::AppDelegate(const Environment& environment)
+    : m_env(environment)
+    , m_skills(m_env.paths, m_env.ioQueue, m_env.preferences) {}
+
+AppDelegate::~AppDelegate() = default;
+
+bool AppDelegate::applicationDidFinishLaunching() {
+    // Before anything else looks at the data.
+    if (!m_lock.acquire(m_env.paths)) {
+        m_env.alertAlreadyRunning();
+        return false;
+    }
+    registerLoginItemOnce();
+    makeModel();
+    makeStatusItem();
+    // As long as there is no welcome to walk through, nobody could ever finish it, and every
+    // session would count as practice.
+    if (m_model->needsWelcome()) m_model->markWelcomeDone();
+    if (m_env.startedAtLogin) return true;
+    m_env.scheduler.post([model = QPointer(m_model.get())] {
+        if (model) model->showCommandCenter();
+    });
+    return true;
+}
+
+void AppDelegate::registerLoginItemOnce() {
+    if (m_env.preferences.flag(kLoginAutoRegistered)) return;
+    m_env.preferences.setBoolean(kLoginAutoRegistered, true);
+    if (!m_env.autostart.isRegistered()) m_env.autostart.registerItem().ignore();
+}
+
+void AppDelegate::makeModel() {
+    Collaborators collaborators;
+    auto recovery = std::make_unique<RecoveryActions>();
+    m_recovery = recovery.get();
+    collaborators.recovery = std::move(recovery);
+    m_model = std::make_unique<AppModel>(AppModel::Environment{.clock = m_env.clock,
+                                                               .scheduler = m_env.scheduler,
+                                                               .ioQueue = m_env.ioQueue,
+                                                               .paths = m_env.paths,
+                                                               .preferences = m_env.preferences,
+                                                               .skills = m_skills,
+                                                               .notifications = m_notifications,
+                                                               .idleSource = m_env.idleSource,
+                                                               .screenPower = m_env.screenPower,
+                                                               .hotKeyPort = m_env.hotKeyPort,
+                                                               .reducedMotion = m_env.reducedMotion,
+                                                               .frontmostApp = nullptr,
+                                                               .calendar = m_env.calendar,
+                                                               .terminate = m_env.terminate},
+                                         std::move(collaborators));
+    m_model->showCommandCenter = [this] { showCommandCenter(); };
+}
+
+void AppDelegate::makeStatusItem() {
+    m_statusItem = std::make_unique<StatusItemController>(
+        StatusItemController::Environment{m_model->tracker(), m_skills, m_env.trayItem,
+                                          m_env.scheduler, m_env.reducedMotion, m_env.screenPower});
+    m_statusItem->onClick = [this](QPoint) {
+        showCommandCenter();
+        m_model->ensureIdleNotch();
+    };
+    StatusItemController* const item = m_statusItem.get();
+    const auto show = [this] { showStatus(); };
+    QObject::connect(m_model.get(), &AppModel::lastActionNoteChanged, item, show);
+    QObject::connect(&m_model->tracker(), &TrackerCore::storageErrorChanged, item, show);
+    QObject::connect(&m_model->hotKey(), &HotKey::registrationErrorChanged, item, show);
+    showStatus();
+}
+
+void AppDelegate::showStatus() {
+    const auto& note = m_model->lastActionNote();
+    const auto& storage = m_model->tracker().storageError();
+    const auto& hotKey = m_model->hotKey().registrationError();
+    m_statusItem->setStatusText(note.value_or(storage.value_or(hotKey.value_or(QString()))));
+}
+
+void AppDelegate::showCommandCenter() {
+    m_model->refreshPanelState();
+    m_model->flashIdleNotchIntroIfNeeded();
+}
+
+void AppDelegate::applicationShouldHandleReopen() {
+    if (!m_model) return;
+    m_model->showCommandCenter();
+    m_model->ensureIdleNotch();
+}
+
+void AppDelegate::applicationWillTerminate() {
+    if (m_model) m_model->prepareForTermination();
+}
+
+void AppDelegate::performAction(const QString& name) {
+    if (!m_model) return;
+    if (name == QLatin1String("toggle"))
+        m_model->toggleVantle();
+    else if (name == QLatin1String("keep"))
+        m_recovery->keep();
+    else if (name == QLatin1String("discard"))
+        m_recovery->discard();
+    else if (name == QLatin1String("quit"))
+        m_model->quit();
+}
+
+} // namespace vantle

@@ -1,0 +1,112 @@
+#include "app/launch/HourfoldApp.h"
+
+#include "app/launch/AppDelegate.h"
+#include "app/launch/PlatformFactory.h"
+#include "base/Clock.h"
+#include "base/SerialQueue.h"
+#include "surfaces/alert/ModalPresenter.h"
+#include "tracking/AppPaths.h"
+
+#include <QApplication>
+
+#include <cstdlib>
+
+namespace vantle {
+
+namespace {
+
+constexpr int kNoDesktop = 69; // EX_UNAVAILABLE
+
+/// The delegate of a running program, for the one exit that unwinds nothing: when the display
+/// server goes away, the toolkit calls exit() from inside the event loop.
+AppDelegate* runningDelegate = nullptr;
+
+void stopAtExit() {
+    if (runningDelegate) runningDelegate->applicationWillTerminate();
+}
+
+void alertAlreadyRunning() {
+    (void)modalpresenter::runAlert(
+        {QStringLiteral("Vantle is already running"),
+         QStringLiteral("Another copy of Vantle is already using this Mac's data. This one will "
+                        "close so your history stays safe."),
+         {QStringLiteral("OK")}});
+}
+
+/// Whether the desktop started the program at login. The mark is taken away, so that no child
+/// process inherits it.
+bool takeLoginMark() {
+    const bool marked = qEnvironmentVariableIsSet("VANTLE_AUTOSTART");
+    qunsetenv("VANTLE_AUTOSTART");
+    return marked;
+}
+
+void describeApplication() {
+    QApplication::setApplicationName(QStringLiteral("vantle"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Vantle"));
+    QApplication::setDesktopFileName(QStringLiteral("local.vantle.Vantle"));
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+int run(bool startedAtLogin) {
+    AppDelegate* delegate = nullptr;
+    const auto stop = [&delegate] {
+        if (delegate) delegate->applicationWillTerminate();
+    };
+    QtScheduler scheduler;
+    const std::unique_ptr<Platform> platform = platformfactory::makePlatform(
+        scheduler, {.activated =
+                        [&delegate] {
+                            if (delegate) delegate->applicationShouldHandleReopen();
+                        },
+                    .actionActivated =
+                        [&delegate](const QString& action) {
+                            if (delegate) delegate->performAction(action);
+                        },
+                    .endRequested = [] { QCoreApplication::quit(); },
+                    .displayLost = stop});
+    const SystemClock clock;
+    ThreadQueue ioQueue(QStringLiteral("local.vantle.tracker-io"));
+    const AppPaths paths(platform->fileSystem(), platform->dataHome());
+    AppDelegate app({.clock = clock,
+                     .scheduler = scheduler,
+                     .ioQueue = ioQueue,
+                     .paths = paths,
+                     .preferences = platform->preferences(),
+                     .idleSource = platform->idleSource(),
+                     .screenPower = platform->screenPower(),
+                     .hotKeyPort = platform->hotKeyPort(),
+                     .reducedMotion = platform->reducedMotion(),
+                     .autostart = platform->autostart(),
+                     .trayItem = platform->trayItem(),
+                     .calendar = &Calendar::current,
+                     .terminate = [] { QCoreApplication::quit(); },
+                     .alertAlreadyRunning = alertAlreadyRunning,
+                     .startedAtLogin = startedAtLogin});
+    if (!app.applicationDidFinishLaunching()) return EXIT_SUCCESS;
+    delegate = &app;
+    runningDelegate = &app;
+    std::atexit(stopAtExit);
+    platform->listen();
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, stop);
+    const int status = QApplication::exec();
+    runningDelegate = nullptr;
+    delegate = nullptr;
+    return status;
+}
+
+} // namespace
+
+int HourfoldMain(int argc, char** argv) {
+    // Nothing is ever printed, by the libraries either.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    const bool startedAtLogin = takeLoginMark();
+    if (!platformfactory::desktopIsReachable()) return kNoDesktop;
+    // In a Wayland session the windows are X11 windows, which can be placed and stay on top.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
+    describeApplication();
+    const QApplication application(argc, argv);
+    return run(startedAtLogin);
+}
+
+} // namespace vantle

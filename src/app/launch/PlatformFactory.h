@@ -1,0 +1,59 @@
+// The one place that knows which desktop the program runs on.
+#pragma once
+
+#include "base/Scheduler.h"
+#include "platform/Autostart.h"
+#include "platform/FileSystem.h"
+#include "platform/FrontmostApp.h"
+#include "platform/HotKeyPort.h"
+#include "platform/IdleSource.h"
+#include "platform/Preferences.h"
+#include "platform/ReducedMotion.h"
+#include "platform/ScreenPower.h"
+#include "platform/TrayItem.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace vantle {
+
+/// What the desktop asks of the program. Set before the platform is made; all on the main thread.
+struct PlatformEvents {
+    std::function<void()> activated;                            ///< started again, or clicked
+    std::function<void(const QString& action)> actionActivated; ///< by name
+    std::function<void()> endRequested;                         ///< logout, shutdown, Ctrl-C
+    std::function<void()> displayLost;                          ///< nothing can be shown any more
+};
+
+/// The desktop behind the ports. Make it on the main thread, after the application object.
+class Platform {
+public:
+    virtual ~Platform() = default;
+
+    [[nodiscard]] virtual FileSystem& fileSystem() = 0;
+    [[nodiscard]] virtual Preferences& preferences() = 0;
+    [[nodiscard]] virtual IdleSource& idleSource() = 0;
+    [[nodiscard]] virtual ScreenPower& screenPower() = 0;
+    [[nodiscard]] virtual HotKeyPort& hotKeyPort() = 0;
+    [[nodiscard]] virtual ReducedMotion& reducedMotion() = 0;
+    [[nodiscard]] virtual Autostart& autostart() = 0;
+    [[nodiscard]] virtual TrayItem& trayItem() = 0;
+
+    /// The directory under which the support directory lies.
+    [[nodiscard]] virtual QString dataHome() const = 0;
+
+    /// Answers other copies and the desktop from now on. Only the copy that holds the data does.
+    virtual void listen() = 0;
+};
+
+namespace platformfactory {
+
+/// Whether there is a desktop at all. Before the application object, which can't live without one.
+[[nodiscard]] bool desktopIsReachable();
+
+[[nodiscard]] std::unique_ptr<Platform> makePlatform(Scheduler& scheduler, PlatformEvents events);
+
+} // namespace platformfactory
+} // namespace vantle

@@ -1,0 +1,246 @@
+#include "app/launch/AppDelegate.h"
+
+#include "fakes/FakeHotKeyPort.h"
+#include "fakes/FakeIdleSource.h"
+#include "fakes/FakeReducedMotion.h"
+#include "fakes/FakeScreenPower.h"
+#include "fakes/FakeTrayItem.h"
+#include "fakes/MemoryFileSystem.h"
+#include "fakes/MemoryPreferences.h"
+#include "fakes/VirtualTime.h"
+#include "platform/Autostart.h"
+#include "support/QtPrinters.h"
+#include "tracking/AppPaths.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+namespace vantle::tests {
+namespace {
+
+using State = TrackerCore::State;
+
+QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+
+class FakeAutostart final : public Autostart {
+public:
+    [[nodiscard]] bool isRegistered() const override { return registered; }
+    Result<> registerItem() override {
+        ++attempts;
+        if (fails) return Error::fromErrno(EACCES, text("write"), text("autostart"));
+        registered = true;
+        return {};
+    }
+    Result<> unregisterItem() override {
+        registered = false;
+        return {};
+    }
+
+    bool registered = false;
+    bool fails = false;
+    int attempts = 0;
+};
+
+/// A machine on which copies of the program are started.
+class AppDelegateTest : public testing::Test {
+protected:
+    AppDelegateTest() { time.attach(ioQueue); }
+
+    std::unique_ptr<AppDelegate> makeCopy(bool atLogin = false) {
+        return std::make_unique<AppDelegate>(
+            AppDelegate::Environment{.clock = time,
+                                     .scheduler = time,
+                                     .ioQueue = ioQueue,
+                                     .paths = paths,
+                                     .preferences = preferences,
+                                     .idleSource = idleSource,
+                                     .screenPower = screens,
+                                     .hotKeyPort = hotKeyPort,
+                                     .reducedMotion = reducedMotion,
+                                     .autostart = autostart,
+                                     .trayItem = tray,
+                                     .calendar =
+                                         [] {
+                                             return Calendar{text("UTC"), 2, 4};
+                                         },
+                                     .terminate = [this] { ++terminations; },
+                                     .alertAlreadyRunning = [this] { ++alerts; },
+                                     .startedAtLogin = atLogin});
+    }
+
+    std::vector<Session> log() { return SessionLog(paths).readAll().sessions; }
+    bool exists(const char* name) {
+        return disk.exists(text("/data/Vantle/") + QLatin1String(name));
+    }
+
+    fakes::VirtualTime time;
+    fakes::ManualQueue ioQueue;
+    fakes::MemoryFileSystem disk;
+    fakes::MemoryPreferences preferences;
+    fakes::FakeIdleSource idleSource{time};
+    fakes::FakeScreenPower screens;
+    fakes::FakeHotKeyPort hotKeyPort;
+    fakes::FakeReducedMotion reducedMotion;
+    fakes::FakeTrayItem tray;
+    FakeAutostart autostart;
+    AppPaths paths{disk, text("/data")};
+    int terminations = 0;
+    int alerts = 0;
+};
+
+TEST_F(AppDelegateTest, ASecondCopyShowsOnlyTheAlertAndLeavesTheSessionOfTheFirst) {
+    const auto first = makeCopy();
+    ASSERT_TRUE(first->applicationDidFinishLaunching());
+    time.settle();
+    first->performAction(text("toggle"));
+    time.settle();
+    preferences.remove(text("login.autoRegistered"));
+
+    const auto second = makeCopy();
+    EXPECT_FALSE(second->applicationDidFinishLaunching());
+    EXPECT_EQ(alerts, 1);
+    EXPECT_EQ(second->model(), nullptr);
+    EXPECT_FALSE(preferences.flag(text("login.autoRegistered")));
+    EXPECT_EQ(first->model()->tracker().state(), State::Running);
+    EXPECT_TRUE(exists("open-session.json"));
+    second->applicationWillTerminate();
+    EXPECT_TRUE(log().empty());
+}
+
+TEST_F(AppDelegateTest, TheLockIsFreeAgainAfterTheFirstCopyHasGone) {
+    auto first = makeCopy();
+    ASSERT_TRUE(first->applicationDidFinishLaunching());
+    first.reset();
+    EXPECT_TRUE(makeCopy()->applicationDidFinishLaunching());
+    EXPECT_TRUE(exists(".instance.lock"));
+}
+
+TEST_F(AppDelegateTest, ABrokenSupportDirectoryIsNoReasonNotToStart) {
+    disk.setContent(text("/data"), "a file where a directory should be");
+    const auto app = makeCopy();
+    EXPECT_TRUE(app->applicationDidFinishLaunching());
+    time.settle();
+    app->performAction(text("toggle"));
+    time.settle();
+    EXPECT_EQ(app->model()->tracker().state(), State::Running);
+    EXPECT_TRUE(app->model()->tracker().storageError());
+    EXPECT_TRUE(tray.toolTip.contains(text("Couldn’t save your hours.")));
+}
+
+TEST_F(AppDelegateTest, TheProgramRegistersItselfAtLoginOnce) {
+    EXPECT_TRUE(makeCopy()->applicationDidFinishLaunching());
+    EXPECT_TRUE(autostart.registered);
+    autostart.registered = false; // the person turns it off
+    EXPECT_TRUE(makeCopy()->applicationDidFinishLaunching());
+    EXPECT_FALSE(autostart.registered);
+    EXPECT_EQ(autostart.attempts, 1);
+}
+
+TEST_F(AppDelegateTest, AFailedLoginRegistrationIsNotTriedAgain) {
+    autostart.fails = true;
+    EXPECT_TRUE(makeCopy()->applicationDidFinishLaunching());
+    EXPECT_TRUE(makeCopy()->applicationDidFinishLaunching());
+    EXPECT_EQ(autostart.attempts, 1);
+}
+
+TEST_F(AppDelegateTest, AnItemThatIsRegisteredAlreadyIsLeftAlone) {
+    autostart.registered = true;
+    EXPECT_TRUE(makeCopy()->applicationDidFinishLaunching());
+    EXPECT_EQ(autostart.attempts, 0);
+}
+
+TEST_F(AppDelegateTest, AStartByHandOpensThePanelAndAStartAtLoginDoesNot) {
+    const auto atLogin = makeCopy(true);
+    ASSERT_TRUE(atLogin->applicationDidFinishLaunching());
+    int opened = 0;
+    atLogin->model()->showCommandCenter = [&] { ++opened; };
+    time.settle();
+    EXPECT_EQ(opened, 0);
+}
+
+TEST_F(AppDelegateTest, AStartByHandOpensThePanel) {
+    const auto byHand = makeCopy();
+    ASSERT_TRUE(byHand->applicationDidFinishLaunching());
+    int opened = 0;
+    byHand->model()->showCommandCenter = [&] { ++opened; };
+    time.settle();
+    EXPECT_EQ(opened, 1);
+    byHand->applicationShouldHandleReopen();
+    EXPECT_EQ(opened, 2);
+}
+
+TEST_F(AppDelegateTest, DataFilesBecomePrivateAtLaunchAndTheRetiredOneGoes) {
+    disk.setDirectory(text("/data/Vantle"), 0755);
+    disk.setContent(text("/data/Vantle/sessions.jsonl"), QByteArray(), 0644);
+    disk.setContent(text("/data/Vantle/sync-queue.json"), "[1]", 0644);
+    const auto app = makeCopy();
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    EXPECT_EQ(disk.mode(text("/data/Vantle")).value(), 0700);
+    EXPECT_EQ(disk.mode(text("/data/Vantle/sessions.jsonl")).value(), 0600);
+    EXPECT_FALSE(exists("sync-queue.json"));
+}
+
+TEST_F(AppDelegateTest, TheTrayTellsWhatTheSurfacesWould) {
+    const auto app = makeCopy();
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    time.settle();
+    EXPECT_EQ(tray.toolTip, text("Vantle"));
+    app->model()->quickLog(text("building"), 5, QString());
+    EXPECT_EQ(tray.toolTip, text("Vantle\nLogged 5 min manually (stays on this Mac)"));
+}
+
+TEST_F(AppDelegateTest, AShortcutHeldByAnotherApplicationIsTold) {
+    hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};
+    const auto app = makeCopy();
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    time.settle();
+    EXPECT_EQ(tray.toolTip, text("Vantle\n⌥⌘B is already used by another app."));
+}
+
+TEST_F(AppDelegateTest, AnOfferedSessionIsKeptOrDiscardedByAction) {
+    for (const char* action : {"keep", "discard"}) {
+        auto app = makeCopy();
+        ASSERT_TRUE(app->applicationDidFinishLaunching());
+        time.settle();
+        app->performAction(text("toggle"));
+        idleSource.touch();
+        time.advance(130.0);
+        ioQueue.runDry();
+        app.reset(); // without any orderly end
+        app = makeCopy();
+        ASSERT_TRUE(app->applicationDidFinishLaunching());
+        time.settle();
+        EXPECT_EQ(tray.toolTip,
+                  text("Vantle\nFound 2 min from the previous run · choose Keep or Discard"));
+        const auto before = log().size();
+        app->performAction(text(action));
+        app->performAction(text(action));
+        EXPECT_EQ(log().size(), before + (QByteArray(action) == "keep" ? 1u : 0u));
+        EXPECT_FALSE(exists("open-session.json"));
+    }
+}
+
+TEST_F(AppDelegateTest, EndingInASessionLogsItOnce) {
+    const auto app = makeCopy();
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    time.settle();
+    app->performAction(text("toggle"));
+    time.advance(5.0);
+    app->performAction(text("quit"));
+    app->applicationWillTerminate();
+    EXPECT_EQ(log().size(), 1u);
+    EXPECT_FALSE(exists("open-session.json"));
+    EXPECT_EQ(terminations, 1);
+}
+
+TEST_F(AppDelegateTest, UnknownActionsDoNothing) {
+    const auto app = makeCopy();
+    app->performAction(text("toggle")); // before the launch
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    app->performAction(text("explode"));
+    EXPECT_EQ(app->model()->tracker().state(), State::Idle);
+}
+
+} // namespace
+} // namespace vantle::tests
