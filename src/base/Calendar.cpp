@@ -1,5 +1,7 @@
 #include "base/Calendar.h"
 
+#include <QFileInfo>
+
 #include <unicode/calendar.h>
 #include <unicode/gregocal.h>
 #include <unicode/timezone.h>
@@ -15,6 +17,10 @@ icu::UnicodeString toIcu(const QString& text) {
     return {text.utf16(), static_cast<int32_t>(text.size())};
 }
 
+QString fromIcu(const icu::UnicodeString& text) {
+    return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
+}
+
 /// ICU counts in milliseconds; a fraction below that must not move a date into the next second.
 double milliseconds(Date date) { return std::floor(epochSeconds(date) * 1000.0); }
 
@@ -23,9 +29,10 @@ Date fromMilliseconds(double ms) { return dateFromEpoch(ms / 1000.0); }
 /// ICU's calendar with these rules, set to `date`; null when ICU can't make one.
 std::unique_ptr<icu::GregorianCalendar> icuCalendar(const Calendar& rules, Date date) {
     UErrorCode status = U_ZERO_ERROR;
+    std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createTimeZone(toIcu(rules.timeZone)));
+    if (*zone == icu::TimeZone::getUnknown()) return nullptr;
     auto calendar = std::make_unique<icu::GregorianCalendar>(
-        icu::TimeZone::createTimeZone(toIcu(rules.timeZone)),
-        icu::Locale::createFromName(rules.locale.toLatin1().constData()), status);
+        zone.release(), icu::Locale::createFromName(rules.locale.toLatin1().constData()), status);
     if (U_FAILURE(status)) return nullptr;
     // The proleptic Gregorian calendar throughout, as in files.
     calendar->setGregorianChange(-1e18, status);
@@ -33,6 +40,31 @@ std::unique_ptr<icu::GregorianCalendar> icuCalendar(const Calendar& rules, Date 
     calendar->setMinimalDaysInFirstWeek(static_cast<uint8_t>(rules.minimalDays));
     calendar->setTime(milliseconds(date), status);
     return U_FAILURE(status) ? nullptr : std::move(calendar);
+}
+
+bool isKnownZone(const QString& id) {
+    const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createTimeZone(toIcu(id)));
+    return *zone != icu::TimeZone::getUnknown();
+}
+
+/// The zone whose file the path leads to, as in `/usr/share/zoneinfo/Europe/Berlin`; else empty.
+QString zoneOfFile(const QString& path) {
+    const QString target = QFileInfo(path).canonicalFilePath();
+    const QString folder = QStringLiteral("/zoneinfo/");
+    const qsizetype at = target.indexOf(folder);
+    return at < 0 ? QString() : target.sliced(at + folder.size());
+}
+
+/// The zone of this machine. ICU takes TZ for an id, but it may also be the path of a file, after a
+/// colon, as some desktops set it: `:/etc/localtime`.
+QString systemZone() {
+    const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::detectHostTimeZone());
+    icu::UnicodeString id;
+    const QString detected = fromIcu(zone->getID(id));
+    if (isKnownZone(detected)) return detected;
+    for (const QString& path : {detected, QStringLiteral("/etc/localtime")})
+        if (const QString named = zoneOfFile(path); isKnownZone(named)) return named;
+    return QStringLiteral("UTC");
 }
 
 /// The locale in which the person writes times. ICU's own default follows the language of
@@ -64,15 +96,11 @@ std::optional<Date> firstMomentOfDay(icu::Calendar& calendar) {
 
 Calendar Calendar::current() {
     UErrorCode status = U_ZERO_ERROR;
-    const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::detectHostTimeZone());
-    icu::UnicodeString zoneId;
-    zone->getID(zoneId);
     const icu::Locale locale = localeOfTimes();
     const std::unique_ptr<icu::Calendar> system(icu::Calendar::createInstance(locale, status));
 
     Calendar calendar;
-    calendar.timeZone =
-        QString(reinterpret_cast<const QChar*>(zoneId.getBuffer()), zoneId.length());
+    calendar.timeZone = systemZone();
     calendar.locale = QString::fromLatin1(locale.getName());
     if (U_SUCCESS(status)) {
         calendar.firstWeekday = system->getFirstDayOfWeek();

@@ -1,15 +1,23 @@
+#include "base/Rounding.h"
 #include "base/Scheduler.h"
 
 #include <QObject>
 #include <QTimer>
 
-#include <cmath>
+#include <algorithm>
 
 namespace vantle {
 
 class QtScheduler::Target : public QObject {};
 
 namespace {
+
+/// What QTimer takes: whole milliseconds, none below zero, and at the most about 24 days.
+int timerInterval(Seconds interval) {
+    constexpr std::int64_t kLongest = std::numeric_limits<int>::max();
+    const std::int64_t milliseconds = roundedToInteger(interval.count() * 1000.0);
+    return static_cast<int>(std::clamp<std::int64_t>(milliseconds, 0, kLongest));
+}
 
 class QtTimer final : public Timer {
 public:
@@ -25,7 +33,7 @@ public:
             const std::function<void()> call = work;
             call();
         });
-        m_timer->start(static_cast<int>(std::lround(interval.count() * 1000.0)));
+        m_timer->start(timerInterval(interval));
     }
     // Not deleted at once: this may run inside the timer's own signal.
     ~QtTimer() override {

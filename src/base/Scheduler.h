@@ -29,8 +29,8 @@ public:
     [[nodiscard]] virtual TimerHandle scheduleRepeatingTimer(Seconds every, Seconds tolerance,
                                                              std::function<void()> work) = 0;
 
-    /// Calls `work` once, `delay` seconds from now, unless the handle is destroyed before. Main
-    /// thread.
+    /// Calls `work` once, `delay` seconds from now, unless the handle is destroyed before. A delay
+    /// below zero counts as none; one of weeks may be cut to 24 days. Main thread.
     [[nodiscard]] virtual TimerHandle scheduleOnce(Seconds delay, std::function<void()> work) = 0;
 
     /// Runs `work` on the main thread after the work that it is doing now. In order of posting.
