@@ -78,6 +78,8 @@ TEST(IdleHistory, ShowsAnAbsenceThatAReadingInTheWindowCaught) {
     EXPECT_FALSE(history.showsPresenceSince(at(0), kThreshold));
     EXPECT_FALSE(history.showsPresenceSince(at(20), kThreshold));
     EXPECT_TRUE(history.showsPresenceSince(at(20), 190.125));
+    EXPECT_FALSE(historyOf({{0, 1}, {10, 180}}).showsPresenceSince(at(0), kThreshold));
+    EXPECT_TRUE(historyOf({{0, 1}, {10, 179.875}}).showsPresenceSince(at(0), kThreshold));
 }
 
 TEST(IdleHistory, ShowsAnAbsenceThatEndedBetweenTwoReadings) {
