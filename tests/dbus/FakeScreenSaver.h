@@ -1,0 +1,65 @@
+// The session's screen saver and the login manager, as the code under test meets them.
+#pragma once
+
+#include "support/Buses.h"
+
+#include <QDBusContext>
+#include <QDBusMessage>
+#include <QObject>
+
+#include <gtest/gtest.h>
+
+namespace vantle::tests {
+
+class FakeScreenSaver final : public QObject, protected QDBusContext {
+    Q_OBJECT
+
+public:
+    FakeScreenSaver(const QString& name, const QString& path) : m_name(name), m_path(path) {}
+
+    bool active = false;
+    bool silent = false; ///< never answers
+    int asked = 0;
+
+    void appear() {
+        m_client.bus().registerObject(m_path, m_name, this, QDBusConnection::ExportAllInvokables);
+        ASSERT_TRUE(m_client.takeName(m_name));
+    }
+    void disappear() { m_client.leave(); }
+
+    void change(bool to, const QString& path = {}) {
+        active = to;
+        auto signal = QDBusMessage::createSignal(path.isEmpty() ? m_path : path, m_name,
+                                                 QStringLiteral("ActiveChanged"));
+        signal << to;
+        m_client.bus().send(signal);
+    }
+
+    Q_INVOKABLE bool GetActive() {
+        ++asked;
+        if (silent) setDelayedReply(true);
+        return active;
+    }
+
+private:
+    QString m_name;
+    QString m_path;
+    BusClient m_client;
+};
+
+class FakeLoginManager {
+public:
+    FakeLoginManager() { EXPECT_TRUE(m_client.takeName(QStringLiteral("org.freedesktop.login1"))); }
+    void prepareForSleep(bool begins) {
+        auto signal = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/login1"),
+                                                 QStringLiteral("org.freedesktop.login1.Manager"),
+                                                 QStringLiteral("PrepareForSleep"));
+        signal << begins;
+        m_client.bus().send(signal);
+    }
+
+private:
+    BusClient m_client;
+};
+
+} // namespace vantle::tests
