@@ -32,11 +32,11 @@ Case caseFrom(const QJsonObject& object, const QString& folder) {
     const QJsonValue kind = object[QLatin1String("kind")];
     result.kind = (kind.isString() ? kind : result.input[QLatin1String("kind")]).toString();
     result.expect = object[QLatin1String("expect")];
-    for (const QJsonValue& other : object[QLatin1String("alternatives")].toArray())
+    for (const QJsonValue other : object[QLatin1String("alternatives")].toArray())
         result.alternatives << other.toObject()[QLatin1String("expect")];
     result.doubtful = object.contains(QLatin1String("doubtful"));
     if (result.doubtful) result.reading = compact(object[QLatin1String("doubtful")]);
-    for (const QJsonValue& need : object[QLatin1String("needs")].toArray())
+    for (const QJsonValue need : object[QLatin1String("needs")].toArray())
         result.needs << need.toString();
     result.folder = folder;
     return result;
@@ -57,7 +57,7 @@ Result<QList<Case>> loadCases(const QString& form, const QString& path) {
         if (!document.isArray())
             return Error{0, QStringLiteral("parse"), name, QStringLiteral("not a list of cases")};
         const QString folder = QFileInfo(name).absolutePath();
-        for (const QJsonValue& item : document.array())
+        for (const QJsonValue item : document.array())
             cases << caseFrom(item.toObject(), folder);
     }
     return cases;

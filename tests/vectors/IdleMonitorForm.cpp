@@ -50,7 +50,7 @@ private:
         }
         if (op == QLatin1String("wasActiveForLast")) {
             QJsonArray answers;
-            for (const QJsonValue& minutes : event[QLatin1String("minutes")].toArray())
+            for (const QJsonValue minutes : event[QLatin1String("minutes")].toArray())
                 answers << m_monitor.wasActiveForLast(minutes.toInt());
             return answers;
         }

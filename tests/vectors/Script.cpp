@@ -13,7 +13,7 @@ QJsonValue playScript(const Case& item,
         steps << ids.symbolic(step);
     };
     if (opening) add(opening());
-    for (const QJsonValue& event : item.input[QLatin1String("events")].toArray())
+    for (const QJsonValue event : item.input[QLatin1String("events")].toArray())
         add(perform(ids.actual(event).toObject()));
     return QJsonObject{{QStringLiteral("steps"), steps}};
 }

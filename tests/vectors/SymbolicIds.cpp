@@ -32,7 +32,7 @@ QJsonValue replaced(const QJsonValue& value, const QHash<QString, QString>& tabl
     }
     if (value.isArray()) {
         QJsonArray list;
-        for (const QJsonValue& item : value.toArray())
+        for (const QJsonValue item : value.toArray())
             list << replaced(item, table);
         return list;
     }
