@@ -72,8 +72,9 @@ public:
     void selectSkill(const QString& id, SkillSelectionOrigin origin);
 
     void addSkill(const QString& name, std::uint32_t hexRGB);
-    void updateSkill(const QString& skillId, const QString& name, std::uint32_t hexRGB);
-    void deleteSkill(const QString& skillId);
+    // By value: the caller's id may stand in the list that these replace.
+    void updateSkill(QString id, const QString& name, std::uint32_t hexRGB);
+    void deleteSkill(QString id);
 
     /// Starts a session that began `minutes` ago, or moves the start of the open one back.
     void startWithBackfill(int minutes);

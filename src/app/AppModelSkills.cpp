@@ -92,9 +92,8 @@ void AppModel::addSkill(const QString& name, std::uint32_t hexRGB) {
     setLastActionNote(QStringLiteral("Added %1").arg(added->name));
 }
 
-void AppModel::updateSkill(const QString& skillId, const QString& name, std::uint32_t hexRGB) {
+void AppModel::updateSkill(QString id, const QString& name, std::uint32_t hexRGB) {
     setLastActionNote(std::nullopt);
-    const QString id = skillId; // the caller's may stand in the list that is replaced below
     const QString key = Skill::comparisonKey(name);
     const bool taken = std::ranges::any_of(m_env.skills.all(), [&](const Skill& skill) {
         return skill.id != id && Skill::comparisonKey(skill.name) == key;
@@ -117,9 +116,8 @@ void AppModel::updateSkill(const QString& skillId, const QString& name, std::uin
     setLastActionNote(QStringLiteral("Saved %1").arg(updated->name));
 }
 
-void AppModel::deleteSkill(const QString& skillId) {
+void AppModel::deleteSkill(QString id) {
     setLastActionNote(std::nullopt);
-    const QString id = skillId; // as above
     const QString name = m_env.skills.by(id).name;
     if (!m_env.skills.remove(id)) {
         setLastActionNote(QStringLiteral("Keep at least one skill"));

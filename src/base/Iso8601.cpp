@@ -1,6 +1,7 @@
 #include "base/Iso8601.h"
 
 #include <cmath>
+#include <cstring>
 
 namespace vantle::iso8601 {
 
@@ -15,6 +16,20 @@ int digits(const char* at, int count) {
         value = value * 10 + static_cast<int>(digit);
     }
     return value;
+}
+
+/// The start in seconds since 1970 of the day that `YYYY-MM-DD` at `in` names, if there is one.
+std::optional<double> startOfDay(const char* in) {
+    using namespace std::chrono;
+    if (in[4] != '-' || in[7] != '-') return std::nullopt;
+    const int y = digits(in, 4);
+    const int m = digits(in + 5, 2);
+    const int d = digits(in + 8, 2);
+    if (y < 1 || m < 1 || d < 1) return std::nullopt;
+    const year_month_day ymd{year(y), month(static_cast<unsigned>(m)),
+                             day(static_cast<unsigned>(d))};
+    if (!ymd.ok()) return std::nullopt;
+    return static_cast<double>(sys_days(ymd).time_since_epoch().count()) * 86400.0;
 }
 
 void writeDigits(char* at, int count, unsigned value) {
@@ -55,26 +70,23 @@ std::optional<std::array<char, kLength>> format(Date date) {
     return text;
 }
 
-std::optional<Date> parse(std::string_view text) {
-    using namespace std::chrono;
+std::optional<Date> parse(std::string_view text) { return Parser().parse(text); }
+
+std::optional<Date> Parser::parse(std::string_view text) {
     if (text.size() != kLength) return std::nullopt;
     const char* in = text.data();
-    if (in[4] != '-' || in[7] != '-' || in[10] != 'T' || in[13] != ':' || in[16] != ':' ||
-        in[19] != 'Z')
-        return std::nullopt;
-    const int y = digits(in, 4);
-    const int mo = digits(in + 5, 2);
-    const int d = digits(in + 8, 2);
+    if (in[10] != 'T' || in[13] != ':' || in[16] != ':' || in[19] != 'Z') return std::nullopt;
     const int h = digits(in + 11, 2);
-    const int mi = digits(in + 14, 2);
+    const int m = digits(in + 14, 2);
     const int s = digits(in + 17, 2);
-    if (y < 1 || mo < 1 || d < 1 || h < 0 || h > 23 || mi < 0 || mi > 59 || s < 0 || s > 59)
-        return std::nullopt;
-    const year_month_day ymd{year(y), month(static_cast<unsigned>(mo)),
-                             day(static_cast<unsigned>(d))};
-    if (!ymd.ok()) return std::nullopt;
-    const sys_seconds whole = sys_days(ymd) + hours(h) + minutes(mi) + seconds(s);
-    return Date(Seconds(static_cast<double>(whole.time_since_epoch().count())));
+    if (h < 0 || h > 23 || m < 0 || m > 59 || s < 0 || s > 59) return std::nullopt;
+    if (std::memcmp(in, m_day.data(), kDayLength) != 0) {
+        const auto start = startOfDay(in);
+        if (!start) return std::nullopt;
+        m_startOfDay = *start;
+        std::memcpy(m_day.data(), in, kDayLength);
+    }
+    return dateFromEpoch(m_startOfDay + h * 3600 + m * 60 + s);
 }
 
 } // namespace vantle::iso8601

@@ -21,4 +21,17 @@ inline constexpr std::size_t kLength = 20;
 /// letters, dates that the calendar does not have, second 60 and year 0 are all refused.
 [[nodiscard]] std::optional<Date> parse(std::string_view text);
 
+/// Reads as `parse` does, and quicker where dates of one day come one after the other. One reader a
+/// thread.
+class Parser {
+public:
+    [[nodiscard]] std::optional<Date> parse(std::string_view text);
+
+private:
+    static constexpr std::size_t kDayLength = 11; ///< "2026-03-01T"
+
+    std::array<char, kDayLength> m_day{};
+    double m_startOfDay = 0; ///< of m_day, in seconds since 1970
+};
+
 } // namespace vantle::iso8601

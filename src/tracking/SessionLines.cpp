@@ -26,6 +26,13 @@ public:
         return true;
     }
 
+    bool bytes(QByteArrayView expected) {
+        const auto length = static_cast<std::size_t>(expected.size());
+        if (left() < length || std::memcmp(m_at, expected.data(), length) != 0) return false;
+        m_at += length;
+        return true;
+    }
+
     /// Decimal digits as JSON has them: no sign, no leading zero, few enough to fit.
     bool digits(std::int64_t& value) {
         constexpr int kMaxDigits = 18;
@@ -41,9 +48,9 @@ public:
         return count > 0 && (count == 1 || *begin != '0');
     }
 
-    bool date(Date& date) {
+    bool date(iso8601::Parser& parser, Date& date) {
         if (left() < iso8601::kLength) return false;
-        const auto parsed = iso8601::parse(std::string_view(m_at, iso8601::kLength));
+        const auto parsed = parser.parse(std::string_view(m_at, iso8601::kLength));
         if (!parsed) return false;
         date = *parsed;
         m_at += iso8601::kLength;
@@ -100,8 +107,25 @@ bool Cursor::id(QUuid& id) {
     return true;
 }
 
+/// Eight bytes as a number, and what each byte of a mask is about.
+constexpr std::uint64_t eachByte(std::uint8_t byte) { return 0x0101010101010101u * byte; }
+
+/// Whether one of eight bytes is a quote, a backslash, a control character or not ASCII.
+bool needsCloserLook(std::uint64_t bytes) {
+    const auto hasZeroByte = [](std::uint64_t word) {
+        return (word - eachByte(0x01)) & ~word & eachByte(0x80);
+    };
+    const std::uint64_t controls = (bytes - eachByte(0x20)) & ~bytes & eachByte(0x80);
+    return ((bytes & eachByte(0x80)) | controls | hasZeroByte(bytes ^ eachByte('"')) |
+            hasZeroByte(bytes ^ eachByte('\\'))) != 0;
+}
+
 bool Cursor::plainText(QByteArrayView& text) {
     const char* const begin = m_at;
+    for (std::uint64_t bytes = 0; left() >= sizeof bytes; m_at += sizeof bytes) {
+        std::memcpy(&bytes, m_at, sizeof bytes);
+        if (needsCloserLook(bytes)) break;
+    }
     for (; m_at < m_end; ++m_at) {
         const auto byte = static_cast<unsigned char>(*m_at);
         if (byte == '"') {
@@ -117,39 +141,42 @@ bool Cursor::plainText(QByteArrayView& text) {
 
 } // namespace
 
-QString Reader::sharedSkillId(QByteArrayView utf8) {
-    if (utf8 != m_lastSkillUtf8) {
-        m_lastSkillUtf8 = utf8.toByteArray();
-        m_lastSkillId = QString::fromUtf8(utf8);
-    }
-    return m_lastSkillId;
-}
-
 std::optional<Session> Reader::decodeCanonical(QByteArrayView text, qsizetype& length) {
     std::optional<Session> session(std::in_place);
     QByteArrayView note;
     QByteArrayView skillId;
-    QByteArrayView source;
     Cursor cursor(text);
+    const auto isSameSkill = [&] {
+        return !m_lastSkillUtf8.isEmpty() && cursor.bytes(m_lastSkillUtf8);
+    };
+    const auto isOtherSkill = [&] {
+        if (!cursor.plainText(skillId) || !cursor.literal("\"")) return false;
+        m_lastSkillUtf8 = QByteArray(skillId.data(), skillId.size() + 1);
+        m_lastSkillId = QString::fromUtf8(skillId);
+        return true;
+    };
+    const auto isKnownSource = [&] {
+        if (cursor.literal("mac_app\""))
+            session->source = sourceApp();
+        else if (cursor.literal("manual\""))
+            session->source = sourceManual();
+        else
+            return false;
+        return true;
+    };
     const bool canonical =
         cursor.literal("{\"activeSeconds\":") && cursor.digits(session->activeSeconds) &&
-        cursor.literal(",\"endedAt\":\"") && cursor.date(session->endedAt) &&
+        cursor.literal(",\"endedAt\":\"") && cursor.date(m_dates, session->endedAt) &&
         cursor.literal("\",\"id\":\"") && cursor.id(session->id) &&
         cursor.literal("\",\"note\":\"") && cursor.plainText(note) &&
-        cursor.literal("\",\"skillId\":\"") && cursor.plainText(skillId) &&
-        cursor.literal("\",\"source\":\"") && cursor.plainText(source) &&
-        cursor.literal("\",\"startedAt\":\"") && cursor.date(session->startedAt) &&
+        cursor.literal("\",\"skillId\":\"") && (isSameSkill() || isOtherSkill()) &&
+        cursor.literal(",\"source\":\"") && isKnownSource() &&
+        cursor.literal(",\"startedAt\":\"") && cursor.date(m_dates, session->startedAt) &&
         cursor.literal("\"}") && cursor.atLineEnd();
     if (!canonical) return std::nullopt;
     length = cursor.position() - text.data();
     if (!note.isEmpty()) session->note = QString::fromUtf8(note);
-    session->skillId = sharedSkillId(skillId);
-    if (source == "mac_app")
-        session->source = sourceApp();
-    else if (source == "manual")
-        session->source = sourceManual();
-    else
-        session->source = QString::fromUtf8(source);
+    session->skillId = m_lastSkillId;
     return session;
 }
 

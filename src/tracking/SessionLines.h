@@ -1,6 +1,7 @@
 // Reading records out of the bytes of a log. Pure functions, any thread.
 #pragma once
 
+#include "base/Iso8601.h"
 #include "tracking/Session.h"
 
 #include <QByteArray>
@@ -56,10 +57,10 @@ private:
     /// The record at the front of `text`, when it stands there in our own form, followed by a line
     /// feed or the end; sets `length` to that of the line. Empty says nothing about the line.
     [[nodiscard]] std::optional<Session> decodeCanonical(QByteArrayView text, qsizetype& length);
-    [[nodiscard]] QString sharedSkillId(QByteArrayView utf8);
 
-    QByteArray m_lastSkillUtf8;
+    QByteArray m_lastSkillUtf8; ///< of the last line, with the closing quote
     QString m_lastSkillId;
+    iso8601::Parser m_dates;
 };
 
 template <typename Visit>

@@ -25,17 +25,22 @@ Error recordRefused(const QString& path) {
             QStringLiteral("The record breaks the rules of the log")};
 }
 
+/// How many records a file of `fileSize` bytes will hold, after `count` in its first `bytes`; some
+/// more, since the estimate is not to fall short by a few.
+std::size_t expectedCount(std::size_t count, qsizetype bytes, qint64 fileSize) {
+    const double density = static_cast<double>(count) / static_cast<double>(bytes);
+    return count + static_cast<std::size_t>(density * 1.03 * static_cast<double>(fileSize));
+}
+
 /// Calls `visit` with the file block by block, each a run of whole lines; the last may lack its
 /// line feed. False when the file can't be read, or when `visit` returns false.
 template <typename Visit>
-bool forEachBlock(FileSystem& files, const QString& path, Visit visit) {
-    auto file = files.open(path, FileSystem::OpenMode::Read);
-    if (!file) return false;
+bool forEachBlock(File& file, Visit visit) {
     QByteArray buffer(kBlockSize, Qt::Uninitialized);
     qsizetype filled = 0;
     for (;;) {
         if (filled == buffer.size()) buffer.resize(buffer.size() * 2);
-        const auto count = file.value()->read(buffer.data() + filled, buffer.size() - filled);
+        const auto count = file.read(buffer.data() + filled, buffer.size() - filled);
         if (!count) return false;
         if (count.value() == 0) break;
         // Only the new bytes can hold the last line feed of a line that spans blocks.
@@ -82,6 +87,9 @@ Result<> SessionLog::append(const Session& session) const {
 }
 
 LogRead SessionLog::readAll() const {
+    auto file = m_paths.fileSystem().open(m_paths.sessionsFile(), FileSystem::OpenMode::Read);
+    if (!file) return {};
+    const auto size = file.value()->size();
     LogRead log;
     sessionlines::Reader reader;
     const auto take = [&log](QByteArrayView, std::optional<Session>&& session) {
@@ -90,13 +98,15 @@ LogRead SessionLog::readAll() const {
         else
             ++log.unreadable;
     };
-    const bool complete =
-        forEachBlock(m_paths.fileSystem(), m_paths.sessionsFile(), [&](QByteArrayView block) {
-            // One bad byte hides the whole log: what a damaged disk left is not guessed at.
-            if (!isUtf8(block)) return false;
-            reader.read(block, take);
-            return true;
-        });
+    const bool complete = forEachBlock(*file.value(), [&](QByteArrayView block) {
+        // One bad byte hides the whole log: what a damaged disk left is not guessed at.
+        if (!isUtf8(block)) return false;
+        const bool isFirst = log.sessions.empty();
+        reader.read(block, take);
+        if (isFirst && size)
+            log.sessions.reserve(expectedCount(log.sessions.size(), block.size(), size.value()));
+        return true;
+    });
     if (!complete) return {};
 
     std::vector<Session>& sessions = log.sessions;

@@ -134,7 +134,7 @@ std::vector<Skill> SkillList::loadSkills() {
         return bytes ? json::decodeSkills(bytes.value()) : std::nullopt;
     });
     if (!stored) {
-        const std::vector<Skill> seeds(Skill::defaults().begin(), Skill::defaults().end());
+        std::vector<Skill> seeds(Skill::defaults().begin(), Skill::defaults().end());
         if (saveSkills(seeds))
             m_preferences.setInteger(QLatin1String(migrationKey), currentMigrationVersion);
         return seeds;

@@ -100,7 +100,7 @@ std::optional<OpenSessionMarker> TrackerCore::takeOrphanedMarker() {
     const auto bytes = m_env.ioQueue.run(
         [this] { return m_env.paths.fileSystem().readAll(m_env.paths.openSessionMarker()); });
     if (!bytes) return std::nullopt;
-    const auto marker = json::decodeMarker(bytes.value());
+    auto marker = json::decodeMarker(bytes.value());
     // The candidate is what an offer is made of; without one the marker is of no use. The file of
     // a good one stays until the person has chosen, so that a second crash loses nothing.
     if (marker && recovery::recoveryCandidate(*marker)) return marker;

@@ -1,4 +1,4 @@
-// The login item of desktops that follow the autostart specification of freedesktop.org.
+// The login item of desktops with autostart entries as freedesktop.org describes them.
 #pragma once
 
 #include "platform/Autostart.h"

@@ -26,7 +26,7 @@ QIcon MenuBarIcon::statusDot(std::uint32_t hexRGB, int phase, bool paused) {
     const Key key{hexRGB, paused ? 0 : phase, paused};
     const auto known = m_dotCache.constFind(key);
     if (known != m_dotCache.constEnd()) return *known;
-    const QIcon icon = iconOf([&](int pixels) {
+    QIcon icon = iconOf([&](int pixels) {
         return menubar::drawStatusDot(pixels, key.hexRGB, key.phase, key.paused);
     });
     m_dotCache.insert(key, icon);
