@@ -35,14 +35,14 @@ public:
 
     /// Decimal digits as JSON has them: no sign, no leading zero, few enough to fit.
     bool digits(std::int64_t& value) {
-        constexpr int kMaxDigits = 18;
+        constexpr std::ptrdiff_t kMaxDigits = 18; // any such number fits
         const char* const begin = m_at;
         value = 0;
         for (; m_at < m_end; ++m_at) {
             const unsigned digit = static_cast<unsigned char>(*m_at) - unsigned{'0'};
             if (digit > 9) break;
+            if (m_at - begin == kMaxDigits) return false;
             value = value * 10 + digit;
-            if (m_at - begin >= kMaxDigits) return false;
         }
         const auto count = m_at - begin;
         return count > 0 && (count == 1 || *begin != '0');

@@ -1,0 +1,115 @@
+#include "app/launch/PlatformFactory.h"
+
+#include "platform/dbus/ApplicationService.h"
+#include "platform/dbus/DesktopReducedMotion.h"
+#include "platform/dbus/SessionScreenPower.h"
+#include "platform/desktop/DesktopAutostart.h"
+#include "platform/desktop/DesktopTrayItem.h"
+#include "platform/desktop/SettingsPreferences.h"
+#include "platform/posix/PosixFileSystem.h"
+#include "platform/posix/TerminationSignals.h"
+#include "platform/x11/X11Connection.h"
+#include "platform/x11/X11HotKey.h"
+#include "platform/x11/X11IdleSource.h"
+#include "platform/x11/X11ScreenPower.h"
+#include "sensing/ScreenPowerUnion.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDir>
+
+namespace vantle {
+
+namespace {
+
+/// A directory of the XDG kind: the variable if it holds an absolute path, else the one under home.
+QString xdgDirectory(const char* variable, const QString& underHome) {
+    const QString path = qEnvironmentVariable(variable);
+    return path.startsWith(QLatin1Char('/')) ? path : QDir::homePath() + underHome;
+}
+
+QString configHome() { return xdgDirectory("XDG_CONFIG_HOME", QStringLiteral("/.config")); }
+
+std::unique_ptr<ScreenPower> makeScreenPower(X11Connection& x11, Scheduler& scheduler,
+                                             const QDBusConnection& session) {
+    std::vector<std::unique_ptr<ScreenPower>> sources;
+    sources.push_back(
+        std::make_unique<X11ScreenPower>(x11, scheduler, X11ScreenPower::powerManagement(x11)));
+    sources.push_back(std::make_unique<SessionScreenPower>(session, QDBusConnection::systemBus()));
+    return std::make_unique<ScreenPowerUnion>(std::move(sources));
+}
+
+/// A desktop of the X11 and freedesktop.org kind.
+class X11Platform final : public Platform {
+public:
+    X11Platform(Scheduler& scheduler, PlatformEvents events)
+        : m_events(std::move(events))
+        , m_session(QDBusConnection::sessionBus())
+        , m_preferences(m_files, configHome() + QStringLiteral("/Vantle/preferences.ini"))
+        , m_idleSource(m_x11)
+        , m_screenPower(makeScreenPower(m_x11, scheduler, m_session))
+        , m_hotKey(m_x11, scheduler)
+        , m_reducedMotion(m_session, configHome())
+        , m_autostart(m_files,
+                      configHome() + QStringLiteral("/autostart/local.vantle.Vantle.desktop"),
+                      QCoreApplication::applicationFilePath())
+        , m_trayItem(m_session)
+        , m_service(m_session)
+        , m_signals([this](int) { m_events.endRequested(); }) {
+        QObject::connect(&m_x11, &X11Connection::broken, &m_x11,
+                         [this] { m_events.displayLost(); });
+        QObject::connect(&m_service, &ApplicationService::activated, &m_service,
+                         [this] { m_events.activated(); });
+        QObject::connect(&m_service, &ApplicationService::actionActivated, &m_service,
+                         [this](const QString& name) { m_events.actionActivated(name); });
+    }
+
+    [[nodiscard]] FileSystem& fileSystem() override { return m_files; }
+    [[nodiscard]] Preferences& preferences() override { return m_preferences; }
+    [[nodiscard]] IdleSource& idleSource() override { return m_idleSource; }
+    [[nodiscard]] ScreenPower& screenPower() override { return *m_screenPower; }
+    [[nodiscard]] HotKeyPort& hotKeyPort() override { return m_hotKey; }
+    [[nodiscard]] ReducedMotion& reducedMotion() override { return m_reducedMotion; }
+    [[nodiscard]] Autostart& autostart() override { return m_autostart; }
+    [[nodiscard]] TrayItem& trayItem() override { return m_trayItem; }
+    [[nodiscard]] QString dataHome() const override {
+        return xdgDirectory("XDG_DATA_HOME", QStringLiteral("/.local/share"));
+    }
+    void listen() override {
+        // Without the name nobody can reach this copy over the bus; all else works.
+        (void)m_service.start();
+    }
+
+private:
+    const PlatformEvents m_events;
+    QDBusConnection m_session;
+    PosixFileSystem m_files;
+    X11Connection m_x11;
+    SettingsPreferences m_preferences;
+    X11IdleSource m_idleSource;
+    std::unique_ptr<ScreenPower> m_screenPower;
+    X11HotKey m_hotKey;
+    DesktopReducedMotion m_reducedMotion;
+    DesktopAutostart m_autostart;
+    DesktopTrayItem m_trayItem;
+    ApplicationService m_service;
+    TerminationSignals m_signals;
+};
+
+} // namespace
+
+namespace platformfactory {
+
+bool desktopIsReachable() {
+    xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
+    const bool reachable = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return reachable;
+}
+
+std::unique_ptr<Platform> makePlatform(Scheduler& scheduler, PlatformEvents events) {
+    return std::make_unique<X11Platform>(scheduler, std::move(events));
+}
+
+} // namespace platformfactory
+} // namespace vantle
