@@ -1,0 +1,7 @@
+import QtQuick
+
+Item {
+    property var anything
+    required property var model
+    property string variable: "property var"
+}

@@ -1,0 +1,4 @@
+// What the program needs of a desktop.
+#pragma once
+
+#include "base/Clock.h"

@@ -1,0 +1,3 @@
+#include "platform/posix/Files.h"
+
+void write() { QFile::remove(QStringLiteral("a")); }

@@ -1,0 +1,4 @@
+// The files of this machine.
+#pragma once
+
+#include "platform/Port.h"

@@ -1,0 +1,3 @@
+#include "support/Await.h"
+
+void sleep() { screens.sleep(); }

@@ -1,0 +1,1 @@
+time.sleep(3)  # nobody touches anything

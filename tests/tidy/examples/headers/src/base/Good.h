@@ -1,0 +1,5 @@
+// The time of day.
+//
+// And more.
+
+#pragma once

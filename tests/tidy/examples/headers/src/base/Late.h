@@ -1,0 +1,4 @@
+// The time of day.
+#include <chrono>
+
+#pragma once

@@ -1,0 +1,2 @@
+// Clock.
+#pragma once

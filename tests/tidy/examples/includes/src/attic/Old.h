@@ -1,0 +1,2 @@
+// What nobody placed.
+#pragma once

@@ -1,0 +1,4 @@
+// The time of day.
+#pragma once
+
+#include "tracking/Log.h"

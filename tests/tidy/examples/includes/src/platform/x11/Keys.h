@@ -1,0 +1,4 @@
+// Keys of the X server.
+#pragma once
+
+#include "platform/posix/Files.h"

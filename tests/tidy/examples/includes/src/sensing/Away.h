@@ -1,0 +1,5 @@
+// Whether the person is away.
+#pragma once
+
+#include "review/stats/Totals.h"
+#include "tracking/Log.h"

@@ -1,0 +1,5 @@
+// What the person can ask for.
+#pragma once
+
+#include "base/Clock.h"
+#include "tracking/Log.h"

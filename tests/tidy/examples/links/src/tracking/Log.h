@@ -1,0 +1,4 @@
+// The log of what was done.
+#pragma once
+
+#include "base/Clock.h"

@@ -1,0 +1,2 @@
+// Included, but in no list.
+#pragma once

@@ -1,0 +1,120 @@
+#!/usr/bin/env python3
+"""Each rule of tools/tidy finds its bad examples, and nothing in a clean tree.
+
+examples/ holds one small tree a rule, with the findings it must give in expected.txt. Lengths are
+tried on files made here, since long examples would be long.
+"""
+
+import contextlib
+import io
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+HERE = Path(__file__).resolve().parent
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(HERE.parents[1] / "tools" / "tidy"))
+
+import tidy  # noqa: E402
+
+HEADER = "// What it is for.\n#pragma once\n"
+
+
+def findings(root):
+    return [str(finding) for finding in tidy.findings(root)]
+
+
+class Examples(unittest.TestCase):
+    maxDiff = None
+
+    def test_each_gives_the_findings_it_says(self):
+        examples = sorted(path for path in (HERE / "examples").iterdir() if path.is_dir())
+        self.assertIn(HERE / "examples" / "clean", examples)
+        for example in examples:
+            with self.subTest(example=example.name):
+                expected = (example / "expected.txt").read_text(encoding="utf-8").splitlines()
+                self.assertEqual(findings(example), expected)
+
+    def test_every_rule_has_one(self):
+        said = "".join(path.read_text(encoding="utf-8")
+                       for path in (HERE / "examples").glob("*/expected.txt"))
+        for check in tidy.CHECKS:
+            if check.RULE != "length":
+                self.assertIn(f"[{check.RULE}]", said)
+
+
+class Lengths(unittest.TestCase):
+    def setUp(self):
+        directory = tempfile.TemporaryDirectory()
+        self.addCleanup(directory.cleanup)
+        self.root = Path(directory.name)
+        self.put("src/CMakeLists.txt", "vantle_library(vantle_base SOURCES base/A.h base/A.qml)\n")
+
+    def put(self, path, text):
+        file = self.root / path
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_text(text, encoding="utf-8")
+
+    def put_header(self, lines):
+        self.put("src/base/A.h", HEADER + "\n" * (lines - 2))
+
+    def allow(self, text):
+        self.put("tools/tidy/allowed_long.txt", "# A comment.\n\n" + text)
+
+    def test_four_hundred_lines_are_enough(self):
+        self.put_header(400)
+        self.assertEqual(findings(self.root), [])
+        self.put_header(401)
+        self.assertEqual(findings(self.root),
+                         ["src/base/A.h:1: 401 lines; split it, 400 are enough [length]"])
+
+    def test_a_listed_file_may_stay_long_but_not_grow(self):
+        self.allow("src/base/A.h 450\n")
+        self.put_header(450)
+        self.assertEqual(findings(self.root), [])
+        self.put_header(451)
+        self.assertEqual(findings(self.root),
+                         ["src/base/A.h:1: has grown from 450 to 451 lines; split it [length]"])
+
+    def test_the_list_follows_a_file_that_shrinks(self):
+        self.allow("src/base/A.h 450\nsrc/base/Gone.h 500\n")
+        self.put_header(449)
+        self.assertEqual(findings(self.root), [
+            "tools/tidy/allowed_long.txt:3: src/base/A.h is down to 449 lines: say so here"
+            " [length]",
+            "tools/tidy/allowed_long.txt:4: src/base/Gone.h is short or gone: take it off the list"
+            " [length]"])
+
+    def test_no_list_allows_more_than_six_hundred_lines(self):
+        self.allow("src/base/A.h 700\n")
+        self.put_header(600)
+        self.assertNotIn("src/base/A.h:1", "".join(findings(self.root)))
+        self.put_header(601)
+        self.assertIn("src/base/A.h:1: 601 lines; 600 are the most [length]", findings(self.root))
+
+    def test_a_view_has_four_hundred_lines_at_the_most(self):
+        self.put("src/base/A.qml", "Item {}\n" + "\n" * 400)
+        self.assertEqual(findings(self.root),
+                         ["src/base/A.qml:1: 401 lines; 400 are the most [length]"])
+
+    def test_a_line_has_a_hundred_columns_at_the_most(self):
+        self.put("src/base/A.h", HEADER + "// " + "\u00e9" * 97 + "\n// " + "x" * 98 + "\n")
+        self.assertEqual(findings(self.root),
+                         ["src/base/A.h:4: 101 columns; 100 are the most [length]"])
+
+
+class Command(unittest.TestCase):
+    def test_the_exit_code_tells_whether_there_was_anything(self):
+        for example, code in (("clean", 0), ("unlisted", 1)):
+            with contextlib.redirect_stdout(io.StringIO()) as printed:
+                self.assertEqual(tidy.main(["tidy.py", str(HERE / "examples" / example)]), code)
+            expected = (HERE / "examples" / example / "expected.txt").read_text(encoding="utf-8")
+            self.assertEqual(printed.getvalue(), expected)
+
+    def test_the_examples_are_no_part_of_the_tree(self):
+        self.assertNotIn("tests/tidy/examples", "".join(findings(HERE.parents[1])))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,64 @@
+"""What README.md and docs/ name is there: paths of the tree in backticks, and links."""
+
+import posixpath
+import re
+
+from tree import Finding
+
+RULE = "docs"
+CODE_SPAN = re.compile(r"`([^`]+)`")
+LINK = re.compile(r"\]\(([^)\s]+)\)")
+PATH = re.compile(r"(?:\./)?[\w.@+*{},-]+(?:/[\w.@+*{},-]*)*")
+ALTERNATIVES = re.compile(r"\{([^{}]*)\}")
+GENERATED = {"build"}
+
+
+def _expanded(path):
+    """The paths that one with {several,alternatives} stands for."""
+    match = ALTERNATIVES.search(path)
+    if not match:
+        return [path]
+    return [expanded for word in match.group(1).split(",")
+            for expanded in _expanded(path[:match.start()] + word + path[match.end():])]
+
+
+def _tree_paths(tree, span):
+    """The paths of the tree that the text of a code span names: those that begin in it."""
+    word = span.split()[0] if span.split() else ""
+    word = re.sub(r":\d+$", "", word)
+    first = word.removeprefix("./").split("/")[0]
+    if "/" not in word or not PATH.fullmatch(word) or first in GENERATED:
+        return []
+    if word.startswith("./") or tree.exists(first) or tree.exists(f"src/{first}"):
+        return _expanded(word.removeprefix("./"))
+    return []
+
+
+def _is_there(tree, path):
+    pattern = path.rstrip("/")
+    return any(next(tree.root.glob(f"{base}{pattern}"), None) for base in ("", "src/"))
+
+
+def _prose(tree, path):
+    """The lines outside fenced blocks, which hold commands and pictures of folders."""
+    fenced = False
+    for line, text in tree.lines(path):
+        if text.lstrip().startswith("```"):
+            fenced = not fenced
+        elif not fenced:
+            yield line, text
+
+
+def check(tree):
+    documents = ["README.md"] if tree.exists("README.md") else []
+    for document in documents + tree.files((".md",), ("docs",)):
+        folder = posixpath.dirname(document)
+        for line, text in _prose(tree, document):
+            for span in CODE_SPAN.findall(text):
+                for path in _tree_paths(tree, span):
+                    if not _is_there(tree, path):
+                        yield Finding(document, line, RULE, f"there is no {path}")
+            for link in LINK.findall(text):
+                target = posixpath.normpath(posixpath.join(folder, link.split("#")[0]))
+                if not re.match(r"\w+:|#", link) and not tree.exists(target):
+                    yield Finding(document, line, RULE, f"there is no {target}")
