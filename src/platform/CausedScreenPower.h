@@ -8,7 +8,7 @@
 namespace vantle {
 
 /// Asleep while any cause holds. Tells `slept` when the first begins and `woke` when the last has
-/// ended, however they overlap. For backends to derive from; main thread.
+/// ended, however they overlap. For sources of it to derive from; main thread.
 class CausedScreenPower : public ScreenPower {
     Q_OBJECT
 
