@@ -1,6 +1,7 @@
 #include "base/Calendar.h"
 
 #include "base/Iso8601.h"
+#include "support/QtPrinters.h"
 
 #include <QDir>
 #include <QFile>

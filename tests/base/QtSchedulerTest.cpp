@@ -1,8 +1,8 @@
 // The scheduler over Qt's event loop, on real timers of a few milliseconds.
 #include "base/Scheduler.h"
+#include "support/Await.h"
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QThread>
@@ -18,22 +18,13 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Turns the event loop until `done` or, when the test is about to fail, a deadline.
-template <typename Condition>
-bool spinUntil(Condition done) {
-    const QDeadlineTimer deadline(10000);
-    while (!done() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 100);
-    return done();
-}
-
 class QtSchedulerTest : public testing::Test {
 protected:
     /// Lets a few milliseconds of timers pass.
     void letTimePass() {
         bool passed = false;
         const TimerHandle timer = m_scheduler.scheduleOnce(20ms, [&] { passed = true; });
-        EXPECT_TRUE(spinUntil([&] { return passed; }));
+        EXPECT_TRUE(tests::await([&] { return passed; }));
     }
 
     QtScheduler m_scheduler;
@@ -45,7 +36,7 @@ TEST_F(QtSchedulerTest, FiresOnceAfterTheDelay) {
     int fired = 0;
     const TimerHandle timer = m_scheduler.scheduleOnce(10ms, [&] { ++fired; });
     EXPECT_EQ(fired, 0);
-    EXPECT_TRUE(spinUntil([&] { return fired > 0; }));
+    EXPECT_TRUE(tests::await([&] { return fired > 0; }));
     EXPECT_GE(clock.elapsed(), 10);
     letTimePass();
     EXPECT_EQ(fired, 1);
@@ -55,7 +46,7 @@ TEST_F(QtSchedulerTest, FiresInOrderOfDelay) {
     std::vector<int> order;
     const TimerHandle late = m_scheduler.scheduleOnce(12ms, [&] { order.push_back(2); });
     const TimerHandle early = m_scheduler.scheduleOnce(2ms, [&] { order.push_back(1); });
-    EXPECT_TRUE(spinUntil([&] { return order.size() == 2; }));
+    EXPECT_TRUE(tests::await([&] { return order.size() == 2; }));
     EXPECT_EQ(order, (std::vector{1, 2}));
 }
 
@@ -63,7 +54,7 @@ TEST_F(QtSchedulerTest, TakesADelayThatIsOverAsNone) {
     bool fired = false;
     const TimerHandle timer = m_scheduler.scheduleOnce(Seconds(-3), [&] { fired = true; });
     EXPECT_FALSE(fired) << "later all the same";
-    EXPECT_TRUE(spinUntil([&] { return fired; }));
+    EXPECT_TRUE(tests::await([&] { return fired; }));
 }
 
 TEST_F(QtSchedulerTest, DoesNotFireAtOnceForADelayTooLongToCount) {
@@ -79,7 +70,7 @@ TEST_F(QtSchedulerTest, DoesNotFireAtOnceForADelayTooLongToCount) {
 TEST_F(QtSchedulerTest, RepeatsUntilTheHandleIsDestroyed) {
     int fired = 0;
     TimerHandle timer = m_scheduler.scheduleRepeatingTimer(2ms, Seconds::zero(), [&] { ++fired; });
-    EXPECT_TRUE(spinUntil([&] { return fired >= 3; }));
+    EXPECT_TRUE(tests::await([&] { return fired >= 3; }));
     timer.reset();
     const int atTheEnd = fired;
     letTimePass();
@@ -103,7 +94,7 @@ TEST_F(QtSchedulerTest, ACallbackMayDestroyItsOwnTimer) {
         ++*witness; // what the callback holds must outlive it
         ++fired;
     });
-    EXPECT_TRUE(spinUntil([&] { return fired > 0; }));
+    EXPECT_TRUE(tests::await([&] { return fired > 0; }));
     letTimePass();
     EXPECT_EQ(fired, 1);
     EXPECT_EQ(witness.use_count(), 1) << "and is let go afterwards";
@@ -116,7 +107,7 @@ TEST_F(QtSchedulerTest, ACallbackMayReplaceItsOwnTimer) {
         order.push_back(1);
         timer = m_scheduler.scheduleOnce(1ms, [&] { order.push_back(2); });
     });
-    EXPECT_TRUE(spinUntil([&] { return order.size() == 2; }));
+    EXPECT_TRUE(tests::await([&] { return order.size() == 2; }));
     EXPECT_EQ(order, (std::vector{1, 2}));
 }
 
@@ -140,14 +131,14 @@ TEST_F(QtSchedulerTest, RunsPostedWorkLaterAndInOrder) {
     });
     m_scheduler.post([&] { order.push_back(2); });
     EXPECT_TRUE(order.empty());
-    EXPECT_TRUE(spinUntil([&] { return order.size() == 3; }));
+    EXPECT_TRUE(tests::await([&] { return order.size() == 3; }));
     EXPECT_EQ(order, (std::vector{1, 2, 3}));
 }
 
 TEST_F(QtSchedulerTest, RunsWorkThatOtherThreadsPostOnTheMainThread) {
     QThread* ranOn = nullptr;
     std::thread([&] { m_scheduler.post([&] { ranOn = QThread::currentThread(); }); }).join();
-    EXPECT_TRUE(spinUntil([&] { return ranOn != nullptr; }));
+    EXPECT_TRUE(tests::await([&] { return ranOn != nullptr; }));
     EXPECT_EQ(ranOn, QCoreApplication::instance()->thread());
 }
 

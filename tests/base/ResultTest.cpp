@@ -1,5 +1,7 @@
 #include "base/Result.h"
 
+#include "support/QtPrinters.h"
+
 #include <gmock/gmock.h>
 
 #include <cerrno>

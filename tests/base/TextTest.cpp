@@ -1,5 +1,7 @@
 #include "base/Text.h"
 
+#include "support/QtPrinters.h"
+
 #include <QStringList>
 
 #include <gmock/gmock.h>

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/FileSystem.h"
+#include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,8 @@
 // What only the disk in memory can do: crash, fill up, and show what is on it.
 #include "fakes/MemoryFileSystem.h"
 
+#include "support/QtPrinters.h"
+
 #include <gmock/gmock.h>
 
 #include <cerrno>

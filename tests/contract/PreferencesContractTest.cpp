@@ -2,6 +2,7 @@
 #include "fakes/MemoryPreferences.h"
 #include "platform/desktop/SettingsPreferences.h"
 #include "platform/posix/PosixFileSystem.h"
+#include "support/QtPrinters.h"
 
 #include <QTemporaryDir>
 

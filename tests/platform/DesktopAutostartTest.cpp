@@ -4,6 +4,7 @@
 #include "fakes/MemoryFileSystem.h"
 #include "platform/desktop/DesktopEntry.h"
 #include "platform/posix/PosixFileSystem.h"
+#include "support/QtPrinters.h"
 
 #include <QProcess>
 #include <QTemporaryDir>

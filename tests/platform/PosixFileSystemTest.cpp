@@ -2,6 +2,7 @@
 #include "platform/posix/PosixFileSystem.h"
 
 #include "platform/posix/PosixFile.h"
+#include "support/QtPrinters.h"
 
 #include <QFile>
 #include <QTemporaryDir>

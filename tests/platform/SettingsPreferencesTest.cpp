@@ -3,6 +3,7 @@
 
 #include "fakes/FaultyFileSystem.h"
 #include "platform/posix/PosixFileSystem.h"
+#include "support/QtPrinters.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,7 +1,8 @@
 #include "platform/posix/TerminationSignals.h"
 
+#include "support/Await.h"
+
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QThread>
 
 #include <gmock/gmock.h>
@@ -15,15 +16,6 @@ namespace vantle {
 namespace {
 
 void doNothing(int) {}
-
-/// Turns the event loop until `done` or, when the test is about to fail, a deadline.
-template <typename Condition>
-bool spinUntil(Condition done) {
-    const QDeadlineTimer deadline(10000);
-    while (!done() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 100);
-    return done();
-}
 
 class TerminationSignalsTest : public testing::Test {
 protected:
@@ -57,7 +49,7 @@ TEST_F(TerminationSignalsTest, ReachTheCallbackFromTheEventLoop) {
         m_heard.clear();
         ASSERT_EQ(::raise(signal), 0);
         EXPECT_TRUE(m_heard.empty()) << "not inside the signal handler";
-        EXPECT_TRUE(spinUntil([&] { return !m_heard.empty(); }));
+        EXPECT_TRUE(tests::await([&] { return !m_heard.empty(); }));
         EXPECT_EQ(m_heard, std::vector{signal});
     }
 }
@@ -66,7 +58,7 @@ TEST_F(TerminationSignalsTest, EachReachesTheCallbackInOrder) {
     const TerminationSignals signals([&](int signal) { m_heard.push_back(signal); });
     for (const int signal : {SIGHUP, SIGTERM, SIGTERM, SIGINT})
         ASSERT_EQ(::raise(signal), 0);
-    EXPECT_TRUE(spinUntil([&] { return m_heard.size() == 4; }));
+    EXPECT_TRUE(tests::await([&] { return m_heard.size() == 4; }));
     EXPECT_THAT(m_heard, testing::ElementsAre(SIGHUP, SIGTERM, SIGTERM, SIGINT));
 }
 
@@ -76,7 +68,7 @@ TEST_F(TerminationSignalsTest, CallOnTheMainThreadWhoeverGotTheSignal) {
         onMainThread = QThread::currentThread() == QCoreApplication::instance()->thread();
     });
     std::thread([] { ::raise(SIGTERM); }).join();
-    EXPECT_TRUE(spinUntil([&] { return onMainThread.has_value(); }));
+    EXPECT_TRUE(tests::await([&] { return onMainThread.has_value(); }));
     EXPECT_EQ(onMainThread, true);
 }
 
@@ -95,7 +87,7 @@ TEST_F(TerminationSignalsTest, LeaveASignalIgnoredThatWasIgnored) {
     const TerminationSignals signals([&](int signal) { m_heard.push_back(signal); });
     ASSERT_EQ(::raise(SIGHUP), 0);
     ASSERT_EQ(::raise(SIGTERM), 0);
-    EXPECT_TRUE(spinUntil([&] { return !m_heard.empty(); }));
+    EXPECT_TRUE(tests::await([&] { return !m_heard.empty(); }));
     EXPECT_EQ(m_heard, std::vector{SIGTERM});
 }
 
@@ -107,7 +99,7 @@ TEST_F(TerminationSignalsTest, MayBeDestroyedByTheCallback) {
     });
     ASSERT_EQ(::raise(SIGTERM), 0);
     ASSERT_EQ(::raise(SIGTERM), 0);
-    EXPECT_TRUE(spinUntil([&] { return !signals; }));
+    EXPECT_TRUE(tests::await([&] { return !signals; }));
     QCoreApplication::processEvents();
     EXPECT_EQ(m_heard, std::vector{SIGTERM}) << "nothing is heard after the end";
 }
@@ -119,7 +111,7 @@ TEST_F(TerminationSignalsTest, DoNotHearWhatWasMeantForAnEarlierOne) {
     }
     const TerminationSignals signals([&](int signal) { m_heard.push_back(signal); });
     ASSERT_EQ(::raise(SIGINT), 0);
-    EXPECT_TRUE(spinUntil([&] { return !m_heard.empty(); }));
+    EXPECT_TRUE(tests::await([&] { return !m_heard.empty(); }));
     EXPECT_EQ(m_heard, std::vector{SIGINT});
 }
 

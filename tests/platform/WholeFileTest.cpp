@@ -2,6 +2,7 @@
 
 #include "fakes/FaultyFileSystem.h"
 #include "fakes/MemoryFileSystem.h"
+#include "support/QtPrinters.h"
 
 #include <gmock/gmock.h>
 
