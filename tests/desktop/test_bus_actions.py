@@ -43,6 +43,8 @@ class BusActions(DesktopTest):
 
 class HeldKey(DesktopTest):
 
+    tray_kind = DesktopTest.STATUS_NOTIFIER
+
     def setUp(self):
         super().setUp()
         self._holder = subprocess.Popen([sys.executable, HOLD_KEY], env=self.desktop.env,
@@ -57,6 +59,7 @@ class HeldKey(DesktopTest):
 
     def test_with_the_shortcut_held_by_another_application_the_action_still_works(self):
         self.launch()
+        self.assertIn("⌥⌘B is already used by another app.", self.tray.tool_tip())
         self.desktop.press(SHORTCUT)
         self.assertIsNone(self.vantle.marker())
         activate_action(self.desktop, "toggle")

@@ -6,7 +6,6 @@ import time
 
 from harness.bus import activate_action
 from harness.case import DesktopTest
-from harness.waiting import wait_until
 
 
 class Endings(DesktopTest):
@@ -72,7 +71,7 @@ class Endings(DesktopTest):
         self.launch()
         self.begin_session()
         self.assertEqual(self.vantle.stop(), 0)
-        wait_until("an empty tray", lambda: not self.desktop.tray_has_item())
+        self.await_empty_tray()
         self.launch()
         self.begin_session()
         self.end_session()

@@ -3,6 +3,7 @@
 import signal
 from datetime import datetime, timedelta, timezone
 
+from harness.bus import activate_action
 from harness.case import FIRST_SKILL, DesktopTest
 from harness.waiting import wait_until
 
@@ -34,10 +35,47 @@ class Recovery(DesktopTest):
         self.assertEqual(self.vantle.marker(), left)
         self.assertEqual(self.vantle.log_bytes(), b"")
 
-        # An unanswered offer comes again.
+        # An offer without an answer comes again.
         self.assertEqual(self.vantle.stop(), 0)
         self.assertEqual(self.vantle.marker(), left)
         self.assertEqual(self.vantle.log_bytes(), b"")
+
+    def test_kept_it_is_logged_as_it_was_last_seen(self):
+        started = self._crash_that_left(seconds=125)
+        self.launch()
+        activate_action(self.desktop, "keep")
+        wait_until("no marker", lambda: self.vantle.marker() is None)
+        record, = self.vantle.sessions()
+        self.assertEqual(record["id"], ID)
+        self.assertEqual(record["activeSeconds"], 125)
+        self.assertEqual(record["startedAt"], stamp(started))
+        self.assertEqual(record["endedAt"], stamp(started + timedelta(minutes=5)))
+        self.assertEqual((record["note"], record["source"]), ("", "mac_app"))
+        self.assertIn("Recovered 2 min from the previous run", self.tray.tool_tip())
+
+        activate_action(self.desktop, "keep")  # the offer is answered: nothing more comes of it
+        self.assertEqual(self.vantle.stop(), 0)
+        self.assertEqual(len(self.vantle.sessions()), 1)
+
+    def test_discarded_it_leaves_nothing(self):
+        self._crash_that_left(seconds=125)
+        self.launch()
+        activate_action(self.desktop, "discard")
+        wait_until("no marker", lambda: self.vantle.marker() is None)
+        self.assertEqual(self.vantle.log_bytes(), b"")
+        self.assertIn("Discarded the recovered session", self.tray.tool_tip())
+
+    def test_kept_after_a_crash_between_record_and_marker_it_is_not_logged_twice(self):
+        self.launch()
+        self.begin_session()
+        logged = self.end_session()
+        self.assertEqual(self.vantle.stop(), 0)
+        self._crash_that_left(seconds=125, id=logged["id"])
+        self.await_empty_tray()
+        self.launch()
+        activate_action(self.desktop, "keep")
+        wait_until("no marker", lambda: self.vantle.marker() is None)
+        self.assertEqual(self.vantle.sessions(), [logged])
 
     def test_less_than_a_minute_is_dropped_without_a_word(self):
         self._leave_marker(started=datetime.now(timezone.utc) - timedelta(hours=1), seconds=59,
@@ -54,8 +92,14 @@ class Recovery(DesktopTest):
                 self.launch()
                 self.assertIsNone(self.vantle.marker())
                 self.assertEqual(self.vantle.stop(), 0)
-                wait_until("an empty tray", lambda: not self.tray.items())
+                self.await_empty_tray()
 
-    def _leave_marker(self, started, seconds, lasting):
-        self.vantle.write_marker(id=ID, skillId=FIRST_SKILL, activeSeconds=seconds,
+    def _crash_that_left(self, seconds, id=ID):
+        """A session of five minutes, begun an hour ago; returns when."""
+        started = datetime.now(timezone.utc) - timedelta(hours=1)
+        self._leave_marker(started, seconds, timedelta(minutes=5), id)
+        return started
+
+    def _leave_marker(self, started, seconds, lasting, id=ID):
+        self.vantle.write_marker(id=id, skillId=FIRST_SKILL, activeSeconds=seconds,
                                  startedAt=stamp(started), lastSeenAt=stamp(started + lasting))

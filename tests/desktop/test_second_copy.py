@@ -55,6 +55,6 @@ class SecondCopy(DesktopTest):
     def test_after_a_kill_the_next_copy_is_not_taken_for_a_second_one(self):
         self.launch()
         self.vantle.kill()
-        wait_until("an empty tray", lambda: not self.desktop.tray_has_item())
+        self.await_empty_tray()
         self.launch()
         self.assertEqual(self.desktop.windows_titled(ALERT), [])

@@ -80,6 +80,13 @@ class DesktopTest(unittest.TestCase):
         self.assertEqual(len(self.vantle.sessions()), before + 1)
         return self.vantle.sessions()[-1]
 
+    def await_empty_tray(self):
+        """Waits until nothing of a copy that ended is left in the tray."""
+        if self.tray_kind == self.STATUS_NOTIFIER:
+            wait_until("an empty tray", lambda: not self.tray.items())
+        else:
+            wait_until("an empty tray", lambda: not self.desktop.tray_has_item())
+
     # -- what has to hold
 
     def assert_one_record_and_no_marker(self):
