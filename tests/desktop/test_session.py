@@ -58,7 +58,7 @@ class Session(DesktopTest):
         typed = self.desktop.directory / "typed"
         self.desktop.open("xterm", "-T", "editor", "-e", f"cat > {typed}")
         wait_until("the editor in front",
-                   lambda: self.desktop.focused_window_title() == "editor")
+                   lambda: self.desktop.active_window_title() == "editor")
         self.launch()
         self.begin_session()
         self.desktop.type("a line\n")

@@ -88,13 +88,25 @@ class Desktop:
         self.tool("xdotool", "mousemove_relative", "3", "3",
                   "mousemove_relative", "--", "-3", "-3")
 
-    def windows_titled(self, title):
-        """The visible windows with exactly this title."""
-        return self._asked("xdotool", "search", "--onlyvisible", "--name",
-                           f"^{re.escape(title)}$").split()
+    def dialogs(self, window_class):
+        """The visible windows of an application that are larger than an icon, by their ids."""
+        found = self._asked("xdotool", "search", "--onlyvisible", "--class", f"^{window_class}$")
+        return [window for window in found.split() if self._geometry(window)["WIDTH"] > 100]
 
-    def focused_window_title(self):
+    def active_window(self):
+        """The id of the window in front, empty if none is."""
+        return self._asked("xdotool", "getactivewindow").strip()
+
+    def active_window_title(self):
         return self._asked("xdotool", "getactivewindow", "getwindowname").strip()
+
+    def _geometry(self, window):
+        """X, Y, WIDTH and HEIGHT of a window; zeros for one that has gone meanwhile."""
+        lines = self._asked("xdotool", "getwindowgeometry", "--shell", window).split()
+        values = {"X": 0, "Y": 0, "WIDTH": 0, "HEIGHT": 0}
+        values.update((key, int(value)) for key, _, value in
+                      (line.partition("=") for line in lines))
+        return values
 
     def _asked(self, *command):
         """What a tool answers, nothing where it fails because there is no such window."""
@@ -117,10 +129,8 @@ class Desktop:
     def tray_picture(self):
         """The pixels of the tray's whole bar, which is as wide as its icons."""
         window = self.tool("xdotool", "search", "--onlyvisible", "--class", "trayer").split()[0]
-        geometry = dict(line.split("=") for line in
-                        self.tool("xdotool", "getwindowgeometry", "--shell",
-                                  window.decode()).decode().split())
-        return self.picture(*(int(geometry[key]) for key in ("X", "Y", "WIDTH", "HEIGHT")))
+        bar = self._geometry(window.decode())
+        return self.picture(bar["X"], bar["Y"], bar["WIDTH"], bar["HEIGHT"])
 
     def tray_has_item(self):
         picture = self.tray_picture()
