@@ -1,6 +1,7 @@
 #include "tracking/JsonForm.h"
 
 #include "tracking/Samples.h"
+#include "tracking/SessionLines.h"
 
 #include <gtest/gtest.h>
 
@@ -82,6 +83,14 @@ TEST(JsonForm, EscapesWhatNeedsItAndNothingElse) {
     // Neighbours of the line separators, which share their first bytes.
     EXPECT_EQ(encodedNote(QStringLiteral("\u0084\u0086\u2027\u202A")),
               "\"\u0084\u0086\u2027\u202A\"");
+}
+
+TEST(JsonForm, AByteOrderMarkInATextIsACharacterLikeOthers) {
+    Session session = goodSession();
+    session.note = QStringLiteral("\uFEFFmarked\uFEFF");
+    session.skillId = QStringLiteral("\uFEFF");
+    EXPECT_EQ(json::decodeSession(json::encode(session).value()), session);
+    EXPECT_EQ(sessionlines::decode(json::encode(session).value()), session);
 }
 
 TEST(JsonForm, DropsFractionsOfASecond) {
