@@ -166,6 +166,22 @@ TEST_F(SettingsPreferencesTest, ADamagedFileThatCanNotBeKeptIsLeftAlone) {
         << "the change reaches the file once there is room";
 }
 
+TEST_F(SettingsPreferencesTest, ADamagedFileIsNeverLostWhereverItsKeepingFails) {
+    for (int n = 1; n <= 16; ++n) {
+        QDir(at("")).removeRecursively();
+        put(kDamaged);
+        m_files.failNthCall(n, EIO);
+        writeAValue();
+        m_files.healAll();
+        const bool isInPlace = contentOf("preferences.ini") == kDamaged;
+        const bool isKept = m_disk.exists(at("preferences.ini.damaged")) &&
+                            contentOf("preferences.ini.damaged") == kDamaged;
+        EXPECT_TRUE(isInPlace || isKept) << "call " << n;
+        EXPECT_EQ(opened()->number(QStringLiteral("goal.dailyHours")), 3.0) << "call " << n;
+    }
+    EXPECT_EQ(names().size(), 2) << "the last round met no fault any more";
+}
+
 TEST_F(SettingsPreferencesTest, WhatCanNotBeReadIsMovedAside) {
     ASSERT_TRUE(m_disk.makeDirectories(at("preferences.ini/inside"), 0700));
     writeAValue();

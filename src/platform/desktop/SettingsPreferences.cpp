@@ -129,6 +129,9 @@ bool SettingsPreferences::keepDamagedOriginal() {
         ++number;
     if (m_original == Original::Unreadable) {
         if (!m_files.rename(m_path, nameOfCopy(number))) return false;
+        // What was read before it became unreadable goes into the new file.
+        const QStringList known = m_values.keys();
+        m_unsaved.unite(QSet(known.begin(), known.end()));
     } else {
         const auto content = m_files.readAll(m_path);
         if (!content || !createFile(m_files, nameOfCopy(number), content.value())) return false;
