@@ -23,6 +23,8 @@ QStringList removeDataFiles(const AppPaths& paths) {
             problems.append(
                 QStringLiteral("%1: %2").arg(nameOf(file), removed.error().description()));
     }
+    // So that nothing erased comes back after a power loss.
+    paths.fileSystem().syncDirectory(paths.supportDir()).ignore();
     return problems;
 }
 

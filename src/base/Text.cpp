@@ -51,6 +51,12 @@ void forEachScalar(QStringView text, Visit visit) {
 
 } // namespace
 
+QString fromUtf8(QByteArrayView utf8) {
+    constexpr QByteArrayView kMark("\xEF\xBB\xBF");
+    if (!utf8.startsWith(kMark)) return QString::fromUtf8(utf8);
+    return QChar(0xFEFF) + fromUtf8(utf8.sliced(kMark.size()));
+}
+
 QList<qsizetype> characterBoundaries(QStringView text) {
     QList<qsizetype> bounds{0};
     if (text.isEmpty()) return bounds;

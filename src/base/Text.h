@@ -4,10 +4,15 @@
 // person's locale.
 #pragma once
 
+#include <QByteArrayView>
 #include <QList>
 #include <QString>
 
 namespace vantle::text {
+
+/// The text of valid UTF-8, every character of it. (Qt's own reader takes U+FEFF at the front for a
+/// byte order mark and drops it; inside a file's strings it is a character like any other.)
+[[nodiscard]] QString fromUtf8(QByteArrayView utf8);
 
 /// How many user-perceived characters (extended grapheme clusters) `text` holds.
 [[nodiscard]] qsizetype characterCount(QStringView text);

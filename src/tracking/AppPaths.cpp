@@ -39,7 +39,9 @@ QString AppPaths::supportDir() const {
     // looked at again, not even when moving it has failed.
     const QString old = fileIn(m_base, QLatin1String("Hourfold"));
     if (m_fileSystem.exists(old) && m_fileSystem.rename(old, primary).ok()) return primary;
-    m_fileSystem.makeDirectories(primary, std::nullopt).ignore();
+    // Synchronised, or a power loss could take the new directory away with all that is in it.
+    if (m_fileSystem.makeDirectories(primary, std::nullopt))
+        m_fileSystem.syncDirectory(m_base).ignore();
     return primary;
 }
 

@@ -1,4 +1,5 @@
 #include "base/Iso8601.h"
+#include "base/Text.h"
 #include "tracking/JsonForm.h"
 
 #include <simdjson.h>
@@ -27,11 +28,11 @@ std::optional<dom::element> parse(QByteArrayView text) {
 }
 
 std::optional<QString> toText(dom::element element) {
-    std::string_view text;
-    if (element.get_string().get(text) != simdjson::SUCCESS) return std::nullopt;
+    std::string_view utf8;
+    if (element.get_string().get(utf8) != simdjson::SUCCESS) return std::nullopt;
     // Escapes of single surrogates pass the parser and are no text.
-    if (!simdjson::validate_utf8(text.data(), text.size())) return std::nullopt;
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    if (!simdjson::validate_utf8(utf8.data(), utf8.size())) return std::nullopt;
+    return text::fromUtf8(QByteArrayView(utf8.data(), static_cast<qsizetype>(utf8.size())));
 }
 
 std::optional<std::int64_t> toInteger(dom::element element) {

@@ -1,6 +1,7 @@
 #include "tracking/SessionLines.h"
 
 #include "base/Iso8601.h"
+#include "base/Text.h"
 #include "tracking/JsonForm.h"
 
 #include <array>
@@ -152,7 +153,7 @@ std::optional<Session> Reader::decodeCanonical(QByteArrayView text, qsizetype& l
     const auto isOtherSkill = [&] {
         if (!cursor.plainText(skillId) || !cursor.literal("\"")) return false;
         m_lastSkillUtf8 = QByteArray(skillId.data(), skillId.size() + 1);
-        m_lastSkillId = QString::fromUtf8(skillId);
+        m_lastSkillId = text::fromUtf8(skillId);
         return true;
     };
     const auto isKnownSource = [&] {
@@ -175,7 +176,7 @@ std::optional<Session> Reader::decodeCanonical(QByteArrayView text, qsizetype& l
         cursor.literal("\"}") && cursor.atLineEnd();
     if (!canonical) return std::nullopt;
     length = cursor.position() - text.data();
-    if (!note.isEmpty()) session->note = QString::fromUtf8(note);
+    if (!note.isEmpty()) session->note = text::fromUtf8(note);
     session->skillId = m_lastSkillId;
     return session;
 }

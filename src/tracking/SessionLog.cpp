@@ -8,6 +8,7 @@
 #include <simdjson.h>
 
 #include <algorithm>
+#include <cerrno>
 
 namespace vantle {
 
@@ -56,10 +57,7 @@ bool forEachBlock(File& file, Visit visit) {
     return filled == 0 || visit(QByteArrayView(buffer.constData(), filled));
 }
 
-Result<> appendToExisting(FileSystem& files, const QString& path, QByteArrayView line) {
-    auto opened = files.open(path, FileSystem::OpenMode::Append);
-    if (!opened) return opened.error();
-    File& file = *opened.value();
+Result<> appendTo(File& file, QByteArrayView line) {
     const auto before = file.size();
     if (!before) return before.error();
     Result<> outcome = file.write(line);
@@ -81,8 +79,12 @@ Result<> SessionLog::append(const Session& session) const {
     if (!encoded) return encoded.error();
     const QByteArray line = encoded.value() + '\n';
     FileSystem& files = m_paths.fileSystem();
-    if (!files.exists(path)) return m_paths.writeProtected(line, path);
-    if (auto appended = appendToExisting(files, path, line); !appended) return appended;
+    auto file = files.open(path, FileSystem::OpenMode::Append);
+    if (!file) {
+        // Only the certainty that there is no log may start a new one: it replaces what is there.
+        return file.error().code == ENOENT ? m_paths.writeProtected(line, path) : file.error();
+    }
+    if (auto appended = appendTo(*file.value(), line); !appended) return appended;
     return files.setMode(path, 0600);
 }
 

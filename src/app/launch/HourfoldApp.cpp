@@ -8,6 +8,7 @@
 #include "tracking/AppPaths.h"
 
 #include <QApplication>
+#include <QQuickWindow>
 
 #include <cstdlib>
 
@@ -63,7 +64,8 @@ int run(bool startedAtLogin) {
                         [&delegate](const QString& action) {
                             if (delegate) delegate->performAction(action);
                         },
-                    .endRequested = [] { QCoreApplication::quit(); },
+                    // Not quit(), which is deaf while an alert runs before the main loop.
+                    .endRequested = [] { QCoreApplication::exit(); },
                     .displayLost = stop});
     const SystemClock clock;
     ThreadQueue ioQueue(QStringLiteral("local.vantle.tracker-io"));
@@ -104,6 +106,9 @@ int HourfoldMain(int argc, char** argv) {
     if (!platformfactory::desktopIsReachable()) return kNoDesktop;
     // In a Wayland session the windows are X11 windows, which can be placed and stay on top.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
+    // Views are drawn in software: no graphics driver is mapped, and a third of the memory
+    // suffices.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     describeApplication();
     const QApplication application(argc, argv);
     return run(startedAtLogin);

@@ -1,6 +1,7 @@
 // An alert: what happened, what it means, and the buttons.
 pragma ComponentBehavior: Bound
 import QtQuick
+import Vantle.Alert
 import Vantle.Kit
 
 Rectangle {

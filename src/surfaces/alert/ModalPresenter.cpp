@@ -35,8 +35,6 @@ QPoint centered(const QSize& size, const QRect& area) {
 } // namespace
 
 int runAlert(const Alert& alert) {
-    // No graphics driver is worth loading for a dialog.
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     AlertModel model;
     model.message = alert.message;
     model.informativeText = alert.informativeText;
