@@ -7,6 +7,7 @@ from dataclasses import dataclass, field
 COMMAND = re.compile(r"(\w+)\s*\(([^()]*)\)")
 ARGUMENT = re.compile(r'"(?:\\.|[^"\\])*"|[^\s"]+')
 COMMENT = re.compile(r'("(?:\\.|[^"\\])*")|#[^\n]*')
+VARIABLE = re.compile(r"\$\{\w+\}")
 
 MAKES_TARGET = {"vantle_library", "vantle_qml_module", "vantle_test", "add_library",
                 "add_executable", "qt_add_library", "qt_add_executable", "qt_add_qml_module"}
@@ -75,9 +76,11 @@ def targets(tree, folders):
 
 
 def named_paths(tree, folders):
-    """Every path that a CMakeLists.txt below the folders could mean by one of its arguments."""
+    """Every path that a CMakeLists.txt below the folders could mean by one of its arguments, as
+    patterns: the variables of a loop stand for any part of a name."""
     paths = set()
     for path in tree.files(("CMakeLists.txt",), folders):
         for _, arguments in commands(tree.text(path)):
-            paths |= {resolved(text, posixpath.dirname(path)) for text, _ in arguments}
+            paths |= {VARIABLE.sub("*", resolved(text, posixpath.dirname(path)))
+                      for text, _ in arguments if posixpath.splitext(text)[1]}
     return paths

@@ -3,6 +3,7 @@
 A header that only tests share may do without, as long as one of them includes it.
 """
 
+import fnmatch
 import re
 
 import cmakelists
@@ -18,5 +19,6 @@ def check(tree):
     for path in tree.files(CPP + (".qml",)):
         shared = path.endswith(".h") and not path.startswith("src/") and \
             any(path.endswith(f"/{include}") for include in included)
-        if path not in named and not shared:
+        listed = any(fnmatch.fnmatchcase(path, pattern) for pattern in named)
+        if not listed and not shared:
             yield Finding(path, 1, RULE, "stands in no CMakeLists.txt")
