@@ -1,8 +1,7 @@
 #include "tracking/AppPaths.h"
 
 #include "platform/FileSystem.h"
-
-#include <QUuid>
+#include "platform/WholeFile.h"
 
 namespace vantle {
 
@@ -13,17 +12,6 @@ constexpr int kPrivateDirectory = 0700;
 
 QString fileIn(const QString& directory, QLatin1String name) {
     return directory + QLatin1Char('/') + name;
-}
-
-QString parentOf(const QString& path) { return path.left(path.lastIndexOf(QLatin1Char('/'))); }
-
-/// Creates `path` and fills it; the caller removes what is left of it on failure.
-Result<> writeNewFile(FileSystem& files, const QByteArray& data, const QString& path) {
-    auto file = files.open(path, FileSystem::OpenMode::CreateNew);
-    if (!file) return file.error();
-    if (const auto written = file.value()->write(data); !written) return written;
-    if (const auto synced = file.value()->sync(); !synced) return synced;
-    return file.value()->close();
 }
 
 } // namespace
@@ -73,24 +61,7 @@ QStringList AppPaths::allDataFiles() const {
 }
 
 Result<> AppPaths::writeProtected(const QByteArray& data, const QString& path) const {
-    const QString directory = parentOf(path);
-    if (const auto made = m_fileSystem.makeDirectories(directory, kPrivateDirectory); !made)
-        return made;
-    const QString temporary =
-        QStringLiteral("%1/.%2.%3.tmp")
-            .arg(directory, path.mid(directory.size() + 1),
-                 QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper());
-
-    Result<> outcome = writeNewFile(m_fileSystem, data, temporary);
-    if (outcome) outcome = m_fileSystem.rename(temporary, path);
-    if (!outcome) {
-        m_fileSystem.remove(temporary).ignore();
-        return outcome;
-    }
-    // Without this a power loss could bring the old file back. Not every file system can do it,
-    // and the new content is in place already.
-    m_fileSystem.syncDirectory(directory).ignore();
-    return {};
+    return replaceFile(m_fileSystem, path, data);
 }
 
 Result<> AppPaths::removeIfPresent(const QString& path) const {
