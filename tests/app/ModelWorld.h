@@ -3,6 +3,7 @@
 
 #include "app/AppModel.h"
 #include "app/PreferenceKeys.h"
+#include "fakes/FakeFrontmostApp.h"
 #include "fakes/FakeHotKeyPort.h"
 #include "fakes/FakeIdleSource.h"
 #include "fakes/FakeReducedMotion.h"
@@ -51,12 +52,6 @@ struct Told {
 /// Surfaces that only write down what they are told.
 [[nodiscard]] Collaborators recordingCollaborators(Told& told);
 
-class FakeFrontmostApp final : public FrontmostApp {
-public:
-    [[nodiscard]] std::optional<Application> frontmost() override { return application; }
-    std::optional<Application> application;
-};
-
 class ModelWorld {
 public:
     ModelWorld();
@@ -90,7 +85,7 @@ public:
     fakes::FakeScreenPower screens;
     fakes::FakeHotKeyPort hotKeyPort;
     fakes::FakeReducedMotion reducedMotion;
-    FakeFrontmostApp frontmost;
+    fakes::FakeFrontmostApp frontmost;
     NotificationCenter notifications;
     AppPaths paths{files, QStringLiteral("/home/ada/.local/share")};
     Told told;
