@@ -79,9 +79,9 @@ public:
 
     /// The outcome of `lock`.
     enum class LockOutcome {
-        Held,        ///< ours until the lock is destroyed
+        Held,         ///< ours until the lock is destroyed
         TakenByOther, ///< another process or another open of it holds it
-        Unavailable, ///< the file could not be opened at all
+        Unavailable,  ///< the file could not be opened at all
     };
     struct LockAttempt {
         LockOutcome outcome = LockOutcome::Unavailable;

@@ -38,7 +38,8 @@ std::size_t VirtualTime::repeatingTimers(double every) const {
 
 void VirtualTime::settle() {
     for (;;) {
-        for (ManualQueue* queue : m_queues) queue->runDry();
+        for (ManualQueue* queue : m_queues)
+            queue->runDry();
         if (m_posted.empty()) return;
         const std::function<void()> work = std::move(m_posted.front());
         m_posted.pop_front();
@@ -53,9 +54,8 @@ void VirtualTime::advance(Seconds by) {
     double shifted = 0; // shiftWall called from inside a callback
     settle();
     for (;;) {
-        auto next = std::ranges::min_element(m_timers, {}, [](const auto& item) {
-            return std::pair(item.second.due, item.first);
-        });
+        auto next = std::ranges::min_element(
+            m_timers, {}, [](const auto& item) { return std::pair(item.second.due, item.first); });
         if (next == m_timers.end() || next->second.due > target) break;
         Entry& entry = next->second;
         m_timerClock = entry.due;

@@ -1,0 +1,83 @@
+#include "platform/desktop/DesktopTrayItem.h"
+
+#include "platform/desktop/TemplateImage.h"
+
+#include <QApplication>
+#include <QEvent>
+
+namespace vantle {
+
+namespace {
+
+/// The template image in the icon theme, installed with the program.
+const QString kSymbolicName = QStringLiteral("local.vantle.Vantle-symbolic");
+
+} // namespace
+
+DesktopTrayItem::DesktopTrayItem(const QDBusConnection& session) : m_notifier(session) {
+    connect(&m_notifier, &StatusNotifierItem::clicked, this, &TrayItem::clicked);
+    connect(&m_notifier, &StatusNotifierItem::shownChanged, this, &DesktopTrayItem::updateShown);
+    connect(&m_notifier, &StatusNotifierItem::watcherChanged, this, &DesktopTrayItem::choose);
+    QCoreApplication::instance()->installEventFilter(this); // for changes of the palette
+}
+
+void DesktopTrayItem::choose() {
+    const bool wanted = m_notifier.hasWatcher() == false && !m_image.isNull() &&
+                        qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
+    if (wanted == (m_window != nullptr)) return;
+    if (wanted) {
+        m_window = std::make_unique<XEmbedTrayItem>(drawnImage(), m_toolTip);
+        connect(m_window.get(), &XEmbedTrayItem::clicked, this, &TrayItem::clicked);
+        connect(m_window.get(), &XEmbedTrayItem::shownChanged, this, &DesktopTrayItem::updateShown);
+    } else {
+        m_window.reset();
+    }
+    updateShown();
+}
+
+void DesktopTrayItem::updateShown() {
+    const bool shown = m_notifier.isShown() || (m_window && m_window->isShown());
+    if (shown == m_shown) return;
+    m_shown = shown;
+    Q_EMIT shownChanged();
+}
+
+void DesktopTrayItem::setImage(const QIcon& image, bool isTemplate) {
+    m_image = image;
+    m_isTemplate = isTemplate;
+    showImage();
+    choose(); // the first image is what a window waits for
+}
+
+void DesktopTrayItem::showImage() {
+    const QIcon& drawn = drawnImage();
+    const bool inTheme = m_isTemplate && QIcon::hasThemeIcon(kSymbolicName);
+    m_notifier.setImage(drawn, inTheme ? kSymbolicName : QString());
+    if (m_window) m_window->setImage(drawn);
+}
+
+const QIcon& DesktopTrayItem::drawnImage() {
+    if (!m_isTemplate) return m_image;
+    const QColor colour = barTextColour();
+    if (m_coloured.shapeKey != m_image.cacheKey() || m_coloured.colour != colour)
+        m_coloured = {m_image.cacheKey(), colour, inColour(m_image, colour)};
+    return m_coloured.image;
+}
+
+void DesktopTrayItem::setToolTip(const QString& text) {
+    if (text == m_toolTip) return;
+    m_toolTip = text;
+    m_notifier.setToolTip(text);
+    if (m_window) m_window->setToolTip(text);
+}
+
+QRect DesktopTrayItem::geometry() const { return m_window ? m_window->geometry() : QRect(); }
+
+bool DesktopTrayItem::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange && m_isTemplate &&
+        watched == QCoreApplication::instance())
+        showImage();
+    return TrayItem::eventFilter(watched, event);
+}
+
+} // namespace vantle

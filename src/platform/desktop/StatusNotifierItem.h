@@ -1,0 +1,78 @@
+// A tray item by the StatusNotifierItem protocol, over D-Bus.
+#pragma once
+
+#include "platform/desktop/TrayPixmaps.h"
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QPoint>
+
+#include <cstdint>
+#include <list>
+#include <optional>
+
+namespace vantle {
+
+class StatusNotifierAdaptor;
+
+/// The item stands at /StatusNotifierItem of the connection, so there is one a connection. It
+/// announces itself to org.kde.StatusNotifierWatcher whenever that comes or comes back; hosts, the
+/// programs that draw trays, learn of it there and read what they need. Main thread; nothing
+/// blocks.
+class StatusNotifierItem final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit StatusNotifierItem(const QDBusConnection& session);
+    ~StatusNotifierItem() override;
+
+    /// `themeName` is the name of the same image in the icon theme, for hosts that colour it by
+    /// themselves; empty for none. Cheap for images shown lately: each is turned into bytes once.
+    void setImage(const QIcon& image, const QString& themeName);
+
+    /// The first line is the title, the others are below it.
+    void setToolTip(const QString& text);
+
+    /// Whether there is a watcher. Empty until the bus has answered; false without a bus.
+    [[nodiscard]] std::optional<bool> hasWatcher() const { return m_hasWatcher; }
+
+    /// Whether the watcher knows the item and there is a host that draws it.
+    [[nodiscard]] bool isShown() const { return m_announced && m_hosted; }
+
+Q_SIGNALS:
+    void watcherChanged();
+    void shownChanged();
+    /// A click of whichever kind opens things, where the host says that it was, or at (0, 0).
+    void clicked(QPoint place);
+
+private Q_SLOTS:
+    void askForHost();
+
+private:
+    friend class StatusNotifierAdaptor;
+
+    void setWatcher(bool present);
+    void announce();
+    void setState(bool announced, bool hosted);
+    [[nodiscard]] const TrayPixmaps& pixmapsOf(const QIcon& image);
+
+    struct Serialised {
+        qint64 cacheKey = 0;
+        TrayPixmaps pixmaps;
+    };
+
+    QDBusConnection m_session;
+    StatusNotifierAdaptor* m_adaptor = nullptr;
+    std::optional<bool> m_hasWatcher;
+    std::uint64_t m_watcherGeneration = 0; ///< tells answers of a watcher that is gone
+    bool m_announced = false;
+    bool m_hosted = false;
+
+    std::list<Serialised> m_serialised; ///< the images shown lately, the last one first
+    qint64 m_imageKey = 0;
+    TrayPixmaps m_pixmaps;
+    QString m_themeName;
+    TrayToolTip m_toolTip;
+};
+
+} // namespace vantle

@@ -1,0 +1,46 @@
+// A tray item in the older trays, which take a window in (XEmbed).
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+#include <QRect>
+#include <QSystemTrayIcon>
+
+namespace vantle {
+
+/// Shows itself as soon as there is such a tray. Needs a QApplication. Main thread.
+///
+/// To be made only while there is no StatusNotifierWatcher: the toolkit would take that one, once
+/// and for the life of the process, and knows no way back to a window.
+class XEmbedTrayItem final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Shown from the start, so it needs an image.
+    XEmbedTrayItem(const QIcon& image, const QString& toolTip);
+    ~XEmbedTrayItem() override;
+
+    void setImage(const QIcon& image) { m_icon.setIcon(image); }
+    void setToolTip(const QString& text) { m_icon.setToolTip(text); }
+
+    [[nodiscard]] bool isShown() const { return m_shown; }
+    /// Where the tray has put it; empty while no tray has.
+    [[nodiscard]] QRect geometry() const { return m_shown ? m_icon.geometry() : QRect(); }
+
+Q_SIGNALS:
+    void shownChanged();
+    /// A left or right click, where the pointer is.
+    void clicked(QPoint place);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void tellIfChanged();
+
+    QSystemTrayIcon m_icon;
+    bool m_shown = false;
+    bool m_toldShown = false;
+};
+
+} // namespace vantle
