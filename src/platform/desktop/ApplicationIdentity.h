@@ -1,0 +1,24 @@
+// Finds the application that a window belongs to.
+#pragma once
+
+#include "platform/WindowHints.h"
+#include "platform/desktop/DesktopEntryIndex.h"
+#include "platform/desktop/ProcessScope.h"
+
+namespace vantle {
+
+/// The first of these that names an entry: the window's own application id; the sandbox of its
+/// process; the window class, then the instance, as StartupWMClass, as an id, as the last part of
+/// one, as the program of Exec; the program of the process; the unit that its process was started
+/// as, unless that is a terminal's. Where several entries share a mark, the one that the process's
+/// unit names is meant, else the first.
+///
+/// Without an entry, the id that a sandbox gives, else the class (or the instance, or the window's
+/// application id) is identity and name. All empty when the window tells nothing of itself.
+///
+/// The identity is the entry's id, or, for the tools that many people use, the one by which the
+/// tables of auto mode know them. Pure.
+[[nodiscard]] Application resolveIdentity(const WindowHints& hints, const ProcessScope& scope,
+                                          const DesktopEntryIndex& index);
+
+} // namespace vantle

@@ -1,0 +1,133 @@
+#include "platform/x11/X11WindowReader.h"
+
+#include "platform/x11/X11Connection.h"
+
+#include <QSysInfo>
+
+#include <cstring>
+
+namespace vantle {
+
+namespace {
+
+/// How many windows a chain of dialogs may have; a chain may run in a circle.
+constexpr int kMaxTransients = 8;
+/// Longest property read, in units of four bytes. Identities are far shorter.
+constexpr std::uint32_t kMaxWords = 256;
+
+using Property = XcbOwned<xcb_get_property_reply_t>;
+
+constexpr std::array<const char*, 8> kNames{
+    "_NET_ACTIVE_WINDOW",          "_NET_WM_PID",
+    "_NET_WM_WINDOW_TYPE",         "_NET_WM_WINDOW_TYPE_DOCK",
+    "_NET_WM_WINDOW_TYPE_DESKTOP", "_GTK_APPLICATION_ID",
+    "_KDE_NET_WM_DESKTOP_FILE",    "UTF8_STRING",
+};
+
+/// The first number of a property of numbers.
+std::optional<std::uint32_t> number(const xcb_get_property_reply_t* property) {
+    if (property == nullptr || property->format != 32 ||
+        xcb_get_property_value_length(property) < 4)
+        return std::nullopt;
+    std::uint32_t value = 0;
+    std::memcpy(&value, xcb_get_property_value(property), sizeof value);
+    return value;
+}
+
+QByteArray bytes(const xcb_get_property_reply_t* property) {
+    if (property == nullptr || property->format != 8) return {};
+    return {static_cast<const char*>(xcb_get_property_value(property)),
+            xcb_get_property_value_length(property)};
+}
+
+/// A text that may be closed by a zero byte.
+QString text(const xcb_get_property_reply_t* property) {
+    const QByteArray all = bytes(property);
+    return QString::fromUtf8(all.constData(), qstrnlen(all.constData(), all.size())).trimmed();
+}
+
+} // namespace
+
+X11WindowReader::X11WindowReader(X11Connection& connection)
+    : m_connection(connection)
+    , m_host(QSysInfo::machineHostName().toLocal8Bit()) {
+    static_assert(kNames.size() == AtomCount);
+    std::array<xcb_intern_atom_cookie_t, AtomCount> cookies{};
+    for (std::size_t i = 0; i < kNames.size(); ++i) {
+        const auto length = static_cast<std::uint16_t>(std::strlen(kNames[i]));
+        cookies[i] = xcb_intern_atom(m_connection.xcb(), 0, length, kNames[i]);
+    }
+    for (std::size_t i = 0; i < cookies.size(); ++i) {
+        const auto answer = m_connection.reply<xcb_intern_atom_reply>(cookies[i]);
+        if (answer) m_atoms[i] = answer->atom;
+    }
+}
+
+xcb_window_t X11WindowReader::activeWindow() {
+    const auto answer = m_connection.reply<xcb_get_property_reply>(xcb_get_property(
+        m_connection.xcb(), 0, m_connection.root(), m_atoms[ActiveWindow], XCB_ATOM_WINDOW, 0, 1));
+    return number(answer.get()).value_or(XCB_NONE);
+}
+
+std::optional<WindowHints> X11WindowReader::read(xcb_window_t window) {
+    std::optional<WindowHints> topmost;
+    for (int depth = 0; depth < kMaxTransients && window != XCB_NONE; ++depth) {
+        const auto read = readOne(window);
+        if (!read) return topmost; // a parent may be gone; the dialog still has its own word
+        if (!read->isApplication) return std::nullopt;
+        topmost = read->hints;
+        // A dialog of a whole group names the root window.
+        if (read->transientFor == m_connection.root() || read->transientFor == window) break;
+        window = read->transientFor;
+    }
+    return topmost;
+}
+
+bool X11WindowReader::isApplicationType(const xcb_get_property_reply_t* types) const {
+    const auto type = number(types); // the first is the one that the program likes best
+    return !type || (*type != m_atoms[TypeDock] && *type != m_atoms[TypeDesktop]);
+}
+
+std::optional<X11WindowReader::Window> X11WindowReader::readOne(xcb_window_t window) {
+    auto* const xcb = m_connection.xcb();
+    const auto ask = [&](xcb_atom_t name, xcb_atom_t type) {
+        return xcb_get_property(xcb, 0, window, name, type, 0, kMaxWords);
+    };
+    // All questions first, then the answers: one trip to the server for all of them.
+    const auto attributesCookie = xcb_get_window_attributes(xcb, window);
+    const auto classCookie = ask(XCB_ATOM_WM_CLASS, XCB_ATOM_STRING);
+    const auto transientCookie = ask(XCB_ATOM_WM_TRANSIENT_FOR, XCB_ATOM_WINDOW);
+    const auto machineCookie = ask(XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING);
+    const auto processCookie = ask(m_atoms[ProcessId], XCB_ATOM_CARDINAL);
+    const auto typeCookie = ask(m_atoms[WindowType], XCB_ATOM_ATOM);
+    const auto gtkCookie = ask(m_atoms[GtkApplicationId], m_atoms[Utf8]);
+    const auto kdeCookie = ask(m_atoms[KdeDesktopFile], XCB_GET_PROPERTY_TYPE_ANY);
+    const auto answer = [&](xcb_get_property_cookie_t cookie) {
+        return m_connection.reply<xcb_get_property_reply>(cookie);
+    };
+    const auto attributes = m_connection.reply<xcb_get_window_attributes_reply>(attributesCookie);
+    const Property classAnswer = answer(classCookie);
+    const Property transient = answer(transientCookie);
+    const Property machine = answer(machineCookie);
+    const Property process = answer(processCookie);
+    const Property type = answer(typeCookie);
+    const Property gtk = answer(gtkCookie);
+    const Property kde = answer(kdeCookie);
+    if (!attributes) return std::nullopt;
+
+    Window read;
+    read.isApplication = attributes->override_redirect == 0 && isApplicationType(type.get());
+    read.transientFor = number(transient.get()).value_or(XCB_NONE);
+    const QList<QByteArray> classParts = bytes(classAnswer.get()).split('\0');
+    read.hints.instance = QString::fromUtf8(classParts.value(0)).trimmed();
+    read.hints.windowClass = QString::fromUtf8(classParts.value(1)).trimmed();
+    read.hints.applicationId = text(gtk.get());
+    if (read.hints.applicationId.isEmpty()) read.hints.applicationId = text(kde.get());
+    // A process number from another machine would name a stranger here.
+    if (text(machine.get()) == QString::fromLocal8Bit(m_host)) {
+        if (const auto id = number(process.get()); id && *id > 0) read.hints.processId = *id;
+    }
+    return read;
+}
+
+} // namespace vantle
