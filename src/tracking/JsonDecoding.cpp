@@ -1,8 +1,5 @@
-#include "base/Iso8601.h"
-#include "base/Text.h"
 #include "tracking/JsonForm.h"
-
-#include <simdjson.h>
+#include "tracking/JsonReading.h"
 
 #include <string_view>
 
@@ -12,46 +9,12 @@ namespace {
 
 namespace dom = simdjson::dom;
 
-/// The parser of this thread. It validates the whole text, and what it gives is only used until
-/// the next call.
-dom::parser& parser() {
-    thread_local dom::parser instance;
-    return instance;
-}
-
-std::optional<dom::element> parse(QByteArrayView text) {
-    dom::element root;
-    const auto bytes = std::string_view(text.data(), static_cast<std::size_t>(text.size()));
-    if (parser().parse(bytes.data(), bytes.size()).get(root) != simdjson::SUCCESS)
-        return std::nullopt;
-    return root;
-}
-
-std::optional<QString> toText(dom::element element) {
-    std::string_view utf8;
-    if (element.get_string().get(utf8) != simdjson::SUCCESS) return std::nullopt;
-    // Escapes of single surrogates pass the parser and are no text.
-    if (!simdjson::validate_utf8(utf8.data(), utf8.size())) return std::nullopt;
-    return text::fromUtf8(QByteArrayView(utf8.data(), static_cast<qsizetype>(utf8.size())));
-}
-
-std::optional<std::int64_t> toInteger(dom::element element) {
-    std::int64_t value = 0;
-    if (element.get_int64().get(value) != simdjson::SUCCESS) return std::nullopt;
-    return value;
-}
-
-std::optional<bool> toBoolean(dom::element element) {
-    bool value = false;
-    if (element.get_bool().get(value) != simdjson::SUCCESS) return std::nullopt;
-    return value;
-}
-
-std::optional<Date> toDate(dom::element element) {
-    std::string_view text;
-    if (element.get_string().get(text) != simdjson::SUCCESS) return std::nullopt;
-    return iso8601::parse(text);
-}
+using reading::Field;
+using reading::readObject;
+using reading::toBoolean;
+using reading::toDate;
+using reading::toInteger;
+using reading::toText;
 
 int hexDigit(char c) {
     if (c >= '0' && c <= '9') return c - '0';
@@ -72,28 +35,6 @@ std::optional<QUuid> toId(dom::element element) {
     return QUuid::fromString(QLatin1String(text.data(), 36));
 }
 
-/// A field of a record under its key. Reading goes through all keys once, so that of a repeated
-/// one the last counts.
-template <typename Value>
-struct Field {
-    std::string_view key;
-    std::optional<Value> (*read)(dom::element);
-    std::optional<Value> value = std::nullopt;
-
-    void offer(const dom::key_value_pair& pair) {
-        if (pair.key == key) value = read(pair.value);
-    }
-};
-
-template <typename... Fields>
-bool readObject(dom::element element, Fields&... fields) {
-    dom::object object;
-    if (element.get_object().get(object) != simdjson::SUCCESS) return false;
-    for (const dom::key_value_pair pair : object)
-        (fields.offer(pair), ...);
-    return (fields.value.has_value() && ...);
-}
-
 std::optional<Skill> toSkill(dom::element element) {
     Field<bool> builtin{"builtin", toBoolean};
     Field<std::int64_t> hexRGB{"hexRGB", toInteger};
@@ -107,7 +48,7 @@ std::optional<Skill> toSkill(dom::element element) {
 } // namespace
 
 std::optional<Session> decodeSession(QByteArrayView text) {
-    const auto root = parse(text);
+    const auto root = reading::parse(text);
     if (!root) return std::nullopt;
     Field<std::int64_t> activeSeconds{"activeSeconds", toInteger};
     Field<Date> endedAt{"endedAt", toDate};
@@ -124,7 +65,7 @@ std::optional<Session> decodeSession(QByteArrayView text) {
 }
 
 std::optional<OpenSessionMarker> decodeMarker(QByteArrayView text) {
-    const auto root = parse(text);
+    const auto root = reading::parse(text);
     if (!root) return std::nullopt;
     Field<std::int64_t> activeSeconds{"activeSeconds", toInteger};
     Field<QUuid> id{"id", toId};
@@ -137,7 +78,7 @@ std::optional<OpenSessionMarker> decodeMarker(QByteArrayView text) {
 }
 
 std::optional<std::vector<Skill>> decodeSkills(QByteArrayView text) {
-    const auto root = parse(text);
+    const auto root = reading::parse(text);
     dom::array array;
     if (!root || root->get_array().get(array) != simdjson::SUCCESS) return std::nullopt;
     std::vector<Skill> skills;

@@ -1,95 +1,19 @@
-#include "base/Iso8601.h"
 #include "tracking/JsonForm.h"
+#include "tracking/JsonWriting.h"
 
 namespace vantle::json {
 
 namespace {
 
-constexpr char kHexDigits[] = "0123456789abcdef";
-
-void appendUnicodeEscape(QByteArray& out, unsigned unit) {
-    out += "\\u";
-    for (int shift = 12; shift >= 0; shift -= 4)
-        out += kHexDigits[(unit >> shift) & 0xF];
-}
-
-/// The escape of an ASCII character, or 0 when it stands for itself or needs the long form.
-char shortEscape(char character) {
-    switch (character) {
-    case '"':
-    case '\\':
-    case '/':
-        return character;
-    case '\b':
-        return 'b';
-    case '\f':
-        return 'f';
-    case '\n':
-        return 'n';
-    case '\r':
-        return 'r';
-    case '\t':
-        return 't';
-    default:
-        return 0;
-    }
-}
-
-/// Appends `text` quoted. The separators of lines beyond ASCII are escaped as well, so that no text
-/// can split the line that it stands on.
-void appendString(QByteArray& out, const QString& text) {
-    const QByteArray utf8 = text.toUtf8();
-    const qsizetype size = utf8.size();
-    out += '"';
-    for (qsizetype i = 0; i < size; ++i) {
-        const char c = utf8[i];
-        const auto byte = static_cast<unsigned char>(c);
-        const auto byteAt = [&](qsizetype at) {
-            return at < size ? static_cast<unsigned char>(utf8[at]) : 0u;
-        };
-        if (const char escape = shortEscape(c)) {
-            out += '\\';
-            out += escape;
-        } else if (byte < 0x20) {
-            appendUnicodeEscape(out, byte);
-        } else if (byte == 0xC2 && byteAt(i + 1) == 0x85) {
-            appendUnicodeEscape(out, 0x85);
-            i += 1;
-        } else if (byte == 0xE2 && byteAt(i + 1) == 0x80 && (byteAt(i + 2) | 1u) == 0xA9u) {
-            appendUnicodeEscape(out, 0x2000u | (byteAt(i + 2) - 0x80u));
-            i += 2;
-        } else {
-            out += c;
-        }
-    }
-    out += '"';
-}
-
-void appendKey(QByteArray& out, const char* key) {
-    out += out.endsWith('{') ? "\"" : ",\"";
-    out += key;
-    out += "\":";
-}
+using writing::appendDate;
+using writing::appendKey;
+using writing::appendString;
+using writing::unwritableDate;
 
 void appendId(QByteArray& out, const QUuid& id) {
     out += '"';
     out += id.toByteArray(QUuid::WithoutBraces).toUpper();
     out += '"';
-}
-
-/// False when the date has no written form.
-bool appendDate(QByteArray& out, Date date) {
-    const auto text = iso8601::format(date);
-    if (!text) return false;
-    out += '"';
-    out.append(text->data(), static_cast<qsizetype>(text->size()));
-    out += '"';
-    return true;
-}
-
-Error unwritableDate() {
-    return {0, QStringLiteral("encode"), QString(),
-            QStringLiteral("A date is outside of what a file can hold")};
 }
 
 } // namespace
