@@ -26,6 +26,9 @@ void DesktopTrayItem::choose() {
                         qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
     if (wanted == (m_window != nullptr)) return;
     if (wanted) {
+        // The toolkit would take a watcher that is there now, and never a window again. Where one
+        // has just come, the notifier is about to tell so.
+        if (!m_notifier.isSurelyWithoutWatcher()) return;
         m_window = std::make_unique<XEmbedTrayItem>(drawnImage(), m_toolTip);
         connect(m_window.get(), &XEmbedTrayItem::clicked, this, &TrayItem::clicked);
         connect(m_window.get(), &XEmbedTrayItem::shownChanged, this, &DesktopTrayItem::updateShown);

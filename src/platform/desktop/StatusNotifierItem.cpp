@@ -5,6 +5,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusReply>
 #include <QDBusServiceWatcher>
 
 #include <algorithm>
@@ -22,6 +23,16 @@ const QString kWatcherPath = QStringLiteral("/StatusNotifierWatcher");
 // A breath of the dot is eight images; with the others that come and go between, all of a session
 // stay serialised, at some 25 kB each.
 constexpr std::size_t kKeptImages = 16;
+
+constexpr int kBusLimitMs = 1000;
+
+QDBusMessage watcherQuestion() {
+    const QString bus = QStringLiteral("org.freedesktop.DBus");
+    auto question = QDBusMessage::createMethodCall(bus, QStringLiteral("/org/freedesktop/DBus"),
+                                                   bus, QStringLiteral("NameHasOwner"));
+    question << kWatcher;
+    return question;
+}
 
 /// Calls `take` with the reply, unless `owner` is gone by then.
 template <typename Take>
@@ -55,13 +66,16 @@ StatusNotifierItem::StatusNotifierItem(const QDBusConnection& session)
                                QStringLiteral("StatusNotifierHostUnregistered")})
         m_session.connect(kWatcher, kWatcherPath, kWatcher, signal, this, SLOT(askForHost()));
 
-    const QString bus = QStringLiteral("org.freedesktop.DBus");
-    auto question = QDBusMessage::createMethodCall(bus, QStringLiteral("/org/freedesktop/DBus"),
-                                                   bus, QStringLiteral("NameHasOwner"));
-    question << kWatcher;
-    whenAnswered(m_session.asyncCall(question), this, [this](const QDBusPendingReply<bool>& reply) {
-        if (!m_hasWatcher) setWatcher(reply.isValid() && reply.value());
-    });
+    whenAnswered(m_session.asyncCall(watcherQuestion()), this,
+                 [this](const QDBusPendingReply<bool>& reply) {
+                     if (!m_hasWatcher) setWatcher(reply.isValid() && reply.value());
+                 });
+}
+
+bool StatusNotifierItem::isSurelyWithoutWatcher() const {
+    if (!m_session.isConnected()) return true;
+    const QDBusReply<bool> hasOwner = m_session.call(watcherQuestion(), QDBus::Block, kBusLimitMs);
+    return !hasOwner.isValid() || !hasOwner.value();
 }
 
 StatusNotifierItem::~StatusNotifierItem() { m_session.unregisterObject(kItemPath); }

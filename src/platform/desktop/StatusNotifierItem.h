@@ -18,7 +18,7 @@ class StatusNotifierAdaptor;
 /// The item stands at /StatusNotifierItem of the connection, so there is one a connection. It
 /// announces itself to org.kde.StatusNotifierWatcher whenever that comes or comes back; hosts, the
 /// programs that draw trays, learn of it there and read what they need. Main thread; nothing
-/// blocks.
+/// blocks but what says so.
 class StatusNotifierItem final : public QObject {
     Q_OBJECT
 
@@ -35,6 +35,10 @@ public:
 
     /// Whether there is a watcher. Empty until the bus has answered; false without a bus.
     [[nodiscard]] std::optional<bool> hasWatcher() const { return m_hasWatcher; }
+
+    /// Asks the bus anew whether there is no watcher: one that came this moment may not have been
+    /// heard of. Waits for the bus, a second at the most; one that is silent by then has none.
+    [[nodiscard]] bool isSurelyWithoutWatcher() const;
 
     /// Whether the watcher knows the item and there is a host that draws it.
     [[nodiscard]] bool isShown() const { return m_announced && m_hosted; }
