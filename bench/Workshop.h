@@ -1,0 +1,44 @@
+// A directory of its own on a real disk, and the real tracker over it.
+#pragma once
+
+#include "base/Clock.h"
+#include "base/Scheduler.h"
+#include "base/SerialQueue.h"
+#include "platform/desktop/SettingsPreferences.h"
+#include "platform/posix/PosixFileSystem.h"
+#include "tracking/AppPaths.h"
+#include "tracking/NotificationCenter.h"
+#include "tracking/SkillList.h"
+#include "tracking/TrackerCore.h"
+
+#include <QTemporaryDir>
+
+namespace vantle::bench {
+
+/// Everything that the program itself would use, with a log of `count` sample records. The
+/// directory lies below the present one, and goes with this object.
+class Workshop {
+public:
+    explicit Workshop(int count);
+
+    [[nodiscard]] TrackerCore& tracker() { return m_tracker; }
+    [[nodiscard]] QString log() const { return m_paths.sessionsFile(); }
+    /// A file beside the log, for the bound.
+    [[nodiscard]] QString file(const QString& name) const {
+        return m_paths.supportDir() + QLatin1Char('/') + name;
+    }
+
+private:
+    QTemporaryDir m_directory;
+    PosixFileSystem m_files;
+    AppPaths m_paths;
+    SystemClock m_clock;
+    QtScheduler m_scheduler;
+    ThreadQueue m_queue{QStringLiteral("bench-io")};
+    SettingsPreferences m_preferences;
+    SkillList m_skills;
+    NotificationCenter m_notifications;
+    TrackerCore m_tracker;
+};
+
+} // namespace vantle::bench
