@@ -4,8 +4,9 @@ namespace vantle::vectors {
 
 const QList<Form>& allForms() {
     static const QList<Form> forms = QList<Form>(trackerForms())
-                                     << durationsForm() << idleMonitorForm() << recordsForm()
-                                     << skillsForm() << totalsForm() << weeksForm();
+                                     << autoRulesForm() << durationsForm() << dwellEngineForm()
+                                     << idleMonitorForm() << recordsForm() << skillsForm()
+                                     << totalsForm() << weeksForm();
     return forms;
 }
 

@@ -5,7 +5,9 @@
 
 namespace vantle::vectors {
 
+[[nodiscard]] Form autoRulesForm();
 [[nodiscard]] Form durationsForm();
+[[nodiscard]] Form dwellEngineForm();
 [[nodiscard]] Form idleMonitorForm();
 [[nodiscard]] Form recordsForm();
 [[nodiscard]] Form skillsForm();
