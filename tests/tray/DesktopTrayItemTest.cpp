@@ -82,9 +82,18 @@ TEST_F(DesktopTrayItemTest, TemplateTakesTheColourOfTheBarsText) {
     m_item->setImage(tests::disc(Qt::black), true);
     expectOnScreen(m_palette.color(QPalette::WindowText));
     QPalette palette = m_palette;
-    palette.setColor(QPalette::WindowText, Qt::green);
+    palette.setColor(QPalette::WindowText, Qt::blue);
     QGuiApplication::setPalette(palette);
-    expectOnScreen(Qt::green);
+    expectOnScreen(Qt::blue);
+}
+
+TEST_F(DesktopTrayItemTest, DarkTemplateIsWhiteOnADarkBar) {
+    QPalette palette = m_palette;
+    palette.setColor(QPalette::WindowText, Qt::black);
+    QGuiApplication::setPalette(palette);
+    const Trayer tray(QStringLiteral("--transparent true --alpha 0 --tint 0x202020"));
+    m_item->setImage(tests::disc(Qt::black), true);
+    expectOnScreen(Qt::white);
 }
 
 TEST_F(DesktopTrayItemTest, TrayThatComesLaterShowsIt) {

@@ -37,13 +37,33 @@ TEST(TemplateImage, TakesTheColourAndKeepsTheShape) {
     EXPECT_EQ(qAlpha(after.pixel(0, 0)), 0);
 }
 
-TEST(TemplateImage, BarsTextHasTheColourOfThePalettesWindowText) {
-    const QPalette before = QGuiApplication::palette();
-    QPalette palette = before;
-    palette.setColor(QPalette::WindowText, QColor(1, 2, 3));
-    QGuiApplication::setPalette(palette);
-    EXPECT_EQ(barTextColour(), QColor(1, 2, 3));
-    QGuiApplication::setPalette(before);
+class BarTextColour : public testing::Test {
+protected:
+    ~BarTextColour() override { QGuiApplication::setPalette(m_palette); }
+    static void setWindowText(const QColor& colour) {
+        QPalette palette;
+        palette.setColor(QPalette::WindowText, colour);
+        QGuiApplication::setPalette(palette);
+    }
+
+    const QPalette m_palette = QGuiApplication::palette();
+};
+
+TEST_F(BarTextColour, IsThePalettesWindowText) {
+    setWindowText(QColor(1, 2, 3));
+    EXPECT_EQ(barTextColour({}), QColor(1, 2, 3));
+}
+
+TEST_F(BarTextColour, StaysOnAGroundThatItIsSeenOn) {
+    setWindowText(QColor(0x20, 0x20, 0xa0));
+    EXPECT_EQ(barTextColour(QColor(0xda, 0xd8, 0xd2)), QColor(0x20, 0x20, 0xa0));
+}
+
+TEST_F(BarTextColour, GivesWayOnAGroundOfItsOwnKind) {
+    setWindowText(Qt::black);
+    EXPECT_EQ(barTextColour(QColor(0x20, 0x20, 0x20)), QColor(Qt::white));
+    setWindowText(Qt::white);
+    EXPECT_EQ(barTextColour(QColor(0xda, 0xd8, 0xd2)), QColor(Qt::black));
 }
 
 } // namespace

@@ -14,9 +14,9 @@ class Trayer {
 public:
     /// Returns when it shows. An item that docks while trayer starts, as one that waits for a tray
     /// does, may leave it without a visible panel for good; then it is started anew.
-    Trayer() {
+    explicit Trayer(const QString& options = {}) {
         for (int attempt = 0; attempt < 5; ++attempt) {
-            start();
+            start(options);
             if (await([] { return isVisible(); }, 2000)) return;
             stop();
         }
@@ -34,11 +34,12 @@ public:
     }
 
 private:
-    void start() {
+    void start(const QString& options) {
         m_process.setStandardErrorFile(QProcess::nullDevice());
         m_process.startCommand(
             QStringLiteral("trayer --edge top --align right --widthtype request --height 26 "
-                           "--SetDockType true --expand true"));
+                           "--SetDockType true --expand true ") +
+            options);
         m_process.waitForStarted();
     }
     static bool isVisible() {

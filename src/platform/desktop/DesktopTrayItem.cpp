@@ -32,8 +32,10 @@ void DesktopTrayItem::choose() {
         m_window = std::make_unique<XEmbedTrayItem>(drawnImage(), m_toolTip);
         connect(m_window.get(), &XEmbedTrayItem::clicked, this, &TrayItem::clicked);
         connect(m_window.get(), &XEmbedTrayItem::shownChanged, this, &DesktopTrayItem::updateShown);
+        connect(m_window.get(), &XEmbedTrayItem::groundChanged, this, &DesktopTrayItem::showImage);
     } else {
         m_window.reset();
+        showImage(); // in the colour for a bar that is not known
     }
     updateShown();
 }
@@ -61,7 +63,7 @@ void DesktopTrayItem::showImage() {
 
 const QIcon& DesktopTrayItem::drawnImage() {
     if (!m_isTemplate) return m_image;
-    const QColor colour = barTextColour();
+    const QColor colour = barTextColour(m_window ? m_window->ground() : std::nullopt);
     if (m_coloured.shapeKey != m_image.cacheKey() || m_coloured.colour != colour)
         m_coloured = {m_image.cacheKey(), colour, inColour(m_image, colour)};
     return m_coloured.image;

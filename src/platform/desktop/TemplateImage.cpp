@@ -7,9 +7,14 @@
 #include <QPalette>
 #include <QPixmap>
 
+#include <cstdlib>
+
 namespace vantle {
 
 namespace {
+
+constexpr int kMiddleGray = 128;
+constexpr int kSeenDifference = 64; ///< of the grays of two colours that can be told apart well
 
 QList<QSize> sizesOf(const QIcon& image) {
     QList<QSize> sizes = image.availableSizes();
@@ -34,10 +39,14 @@ QIcon inColour(const QIcon& shape, const QColor& colour) {
     return coloured;
 }
 
-QColor barTextColour() {
-    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr)
-        return QColor(Qt::white);
-    return QGuiApplication::palette().color(QPalette::Active, QPalette::WindowText);
+QColor barTextColour(const std::optional<QColor>& ground) {
+    QColor text = Qt::white;
+    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr)
+        text = QGuiApplication::palette().color(QPalette::Active, QPalette::WindowText);
+    if (!ground) return text;
+    const int groundGray = qGray(ground->rgb());
+    if (std::abs(groundGray - qGray(text.rgb())) >= kSeenDifference) return text;
+    return groundGray < kMiddleGray ? Qt::white : Qt::black;
 }
 
 } // namespace vantle

@@ -4,15 +4,18 @@
 #include <QColor>
 #include <QIcon>
 
+#include <optional>
+
 namespace vantle {
 
 /// The shape of `shape` in one colour, in every size that it has, or in those of trays if
 /// it has any; where it is half transparent the colour is too. GUI thread.
 [[nodiscard]] QIcon inColour(const QIcon& shape, const QColor& colour);
 
-/// The colour of text in bars, as far as it can be known: the window text of the application's
-/// palette, which follows the desktop's theme. No tray protocol tells the bar's own colours. White
-/// where there is no palette, since most bars are dark.
-[[nodiscard]] QColor barTextColour();
+/// The colour of a bar's text, as far as it can be known: the window text of the application's
+/// palette, which follows the desktop's theme; white where there is no palette. Where the bar's
+/// ground is known and that colour would hardly be seen on it, as without a theme on a dark bar,
+/// black or white.
+[[nodiscard]] QColor barTextColour(const std::optional<QColor>& ground);
 
 } // namespace vantle

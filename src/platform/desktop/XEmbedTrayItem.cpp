@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QCursor>
 #include <QEvent>
+#include <QImage>
+#include <QScreen>
 
 namespace vantle {
 
@@ -27,14 +29,46 @@ XEmbedTrayItem::~XEmbedTrayItem() {
 }
 
 bool XEmbedTrayItem::eventFilter(QObject* watched, QEvent* event) {
-    const bool shows = event->type() == QEvent::Show;
-    if ((shows || event->type() == QEvent::Hide) && !event->spontaneous() &&
-        watched->objectName() == QLatin1String("QSystemTrayIconSys")) {
-        m_shown = shows;
-        // Later, since a window may be hidden only to be made anew for the same tray.
-        QMetaObject::invokeMethod(this, &XEmbedTrayItem::tellIfChanged, Qt::QueuedConnection);
+    switch (event->type()) {
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::Move:
+    case QEvent::Paint:
+        if (watched->objectName() == QLatin1String("QSystemTrayIconSys")) followWindow(*event);
+        break;
+    default:
+        break;
     }
     return QObject::eventFilter(watched, event);
+}
+
+void XEmbedTrayItem::followWindow(const QEvent& event) {
+    if (event.type() == QEvent::Paint) {
+        if (!m_groundIsStale) return;
+        m_groundIsStale = false;
+        QMetaObject::invokeMethod(this, &XEmbedTrayItem::lookAtGround, Qt::QueuedConnection);
+        return;
+    }
+    m_groundIsStale = true;
+    if (event.type() == QEvent::Move || event.spontaneous()) return;
+    m_shown = event.type() == QEvent::Show;
+    // Later, since a window may be hidden only to be made anew for the same tray.
+    QMetaObject::invokeMethod(this, &XEmbedTrayItem::tellIfChanged, Qt::QueuedConnection);
+}
+
+void XEmbedTrayItem::lookAtGround() {
+    // No tray says what colour it has, so the screen is asked: the image leaves the corner free.
+    const QPoint corner = geometry().topLeft();
+    QScreen* screen = QGuiApplication::screenAt(corner);
+    if (!m_shown || screen == nullptr) {
+        m_groundIsStale = true; // docked, and not yet at its place
+        return;
+    }
+    const QPoint place = corner - screen->geometry().topLeft();
+    const QImage seen = screen->grabWindow(0, place.x(), place.y(), 1, 1).toImage();
+    if (seen.isNull() || m_ground == seen.pixelColor(0, 0)) return;
+    m_ground = seen.pixelColor(0, 0);
+    Q_EMIT groundChanged();
 }
 
 void XEmbedTrayItem::tellIfChanged() {

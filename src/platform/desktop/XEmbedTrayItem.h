@@ -1,10 +1,13 @@
 // A tray item in the older trays, which take a window in (XEmbed).
 #pragma once
 
+#include <QColor>
 #include <QObject>
 #include <QPoint>
 #include <QRect>
 #include <QSystemTrayIcon>
+
+#include <optional>
 
 namespace vantle {
 
@@ -27,8 +30,12 @@ public:
     /// Where the tray has put it; empty while no tray has.
     [[nodiscard]] QRect geometry() const { return m_shown ? m_icon.geometry() : QRect(); }
 
+    /// The colour of the tray around the image, as far as it has been seen.
+    [[nodiscard]] const std::optional<QColor>& ground() const { return m_ground; }
+
 Q_SIGNALS:
     void shownChanged();
+    void groundChanged();
     /// A left or right click, where the pointer is.
     void clicked(QPoint place);
 
@@ -36,11 +43,15 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void followWindow(const QEvent& event);
     void tellIfChanged();
+    void lookAtGround();
 
     QSystemTrayIcon m_icon;
     bool m_shown = false;
     bool m_toldShown = false;
+    std::optional<QColor> m_ground;
+    bool m_groundIsStale = true;
 };
 
 } // namespace vantle
