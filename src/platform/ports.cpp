@@ -4,6 +4,8 @@
 #include "platform/HotKeyPort.h"
 #include "platform/IdleSource.h"
 #include "platform/Preferences.h"
+#include "platform/ProcessRunner.h"
 #include "platform/ReducedMotion.h"
 #include "platform/ScreenPower.h"
 #include "platform/TrayItem.h"
+#include "platform/WindowHints.h"

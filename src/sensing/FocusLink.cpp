@@ -1,0 +1,40 @@
+#include "sensing/FocusLink.h"
+
+#include "platform/Preferences.h"
+#include "platform/ProcessRunner.h"
+
+#include <QStringDecoder>
+
+namespace vantle {
+
+namespace {
+
+QStringList namesIn(const std::optional<ProcessRunner::Output>& output) {
+    if (!output || output->exitStatus != 0) return {};
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString text = decode(output->standardOutput);
+    if (decode.hasError()) return {};
+    return text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+FocusLink::FocusLink(Preferences& preferences, ProcessRunner& runner, QString tool)
+    : m_preferences(preferences)
+    , m_runner(runner)
+    , m_tool(std::move(tool)) {}
+
+void FocusLink::listShortcuts(std::function<void(const QStringList&)> completion) {
+    m_runner.collect(
+        {m_tool, {QStringLiteral("list")}},
+        [completion = std::move(completion)](const auto& output) { completion(namesIn(output)); });
+}
+
+void FocusLink::run(QLatin1String nameKey) {
+    if (!m_preferences.flag(enabledKey)) return;
+    const QString name = m_preferences.string(nameKey).value_or(QString());
+    if (name.isEmpty()) return;
+    (void)m_runner.startDetached({m_tool, {QStringLiteral("run"), name}}); // silent when it fails
+}
+
+} // namespace vantle

@@ -1,0 +1,44 @@
+// vantle-shortcuts list         prints the names of the person's shortcuts, one a line
+// vantle-shortcuts run NAME     becomes that shortcut
+//
+// Exit status: 0, or of the shortcut; 64 wrong use; 66 no such shortcut, or one that can't be
+// started; 74 the list could not be printed.
+#include "sensing/shortcuts/ShortcutsFolder.h"
+
+#include <cerrno>
+#include <string_view>
+#include <sysexits.h>
+#include <unistd.h>
+
+namespace {
+
+/// Whether all of it reached the standard output.
+bool print(const QByteArray& text) {
+    qsizetype at = 0;
+    while (at < text.size()) {
+        const ssize_t count = ::write(STDOUT_FILENO, text.constData() + at,
+                                      static_cast<std::size_t>(text.size() - at));
+        if (count < 0 && errno == EINTR) continue;
+        if (count <= 0) return false;
+        at += count;
+    }
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const auto folder = vantle::ShortcutsFolder::standard();
+    const std::string_view verb = argc > 1 ? argv[1] : "";
+    if (verb == "list" && argc == 2) {
+        QByteArray text;
+        for (const QByteArray& name : folder.names())
+            text += name + '\n';
+        return print(text) ? EX_OK : EX_IOERR;
+    }
+    if (verb == "run" && argc == 3) {
+        folder.become(argv[2]);
+        return EX_NOINPUT;
+    }
+    return EX_USAGE;
+}

@@ -1,0 +1,38 @@
+// Other programs that never run; the test says what they print and when they end.
+#pragma once
+
+#include "platform/ProcessRunner.h"
+
+#include <deque>
+#include <utility>
+#include <vector>
+
+namespace vantle::fakes {
+
+class FakeProcessRunner final : public ProcessRunner {
+public:
+    void collect(const Command& command, std::function<void(std::optional<Output>)> done) override {
+        collected.push_back(command);
+        m_waiting.push_back(std::move(done));
+    }
+    bool startDetached(const Command& command) override {
+        detached.push_back(command);
+        return canStart;
+    }
+
+    /// The longest-running collected command ends.
+    void end(std::optional<Output> output) {
+        const auto done = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        done(std::move(output));
+    }
+
+    bool canStart = true;
+    std::vector<Command> collected;
+    std::vector<Command> detached;
+
+private:
+    std::deque<std::function<void(std::optional<Output>)>> m_waiting;
+};
+
+} // namespace vantle::fakes

@@ -1,0 +1,139 @@
+#include "platform/posix/PosixProcessRunner.h"
+
+#include "support/Await.h"
+#include "support/QtPrinters.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <memory>
+#include <unistd.h>
+
+namespace vantle {
+namespace {
+
+using Output = ProcessRunner::Output;
+
+QString q(const char* text) { return QString::fromUtf8(text); }
+Command shell(const char* script, const QStringList& more = {}) {
+    return {q("/bin/sh"), QStringList{q("-c"), q(script)} + more};
+}
+
+QByteArray contentOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The children of this process, ended ones that nobody asked about included.
+QList<QByteArray> children() {
+    const QByteArray self = QByteArray::number(::getpid());
+    const QByteArray all = contentOf(q("/proc/self/task/") + q(self.constData()) + q("/children"));
+    return all.simplified().isEmpty() ? QList<QByteArray>() : all.simplified().split(' ');
+}
+
+class PosixProcessRunnerTest : public testing::Test {
+protected:
+    [[nodiscard]] std::optional<Output> collected(const Command& command) {
+        std::optional<Output> result;
+        bool told = false;
+        m_runner->collect(command, [&](std::optional<Output> output) {
+            told = true;
+            result = std::move(output);
+        });
+        EXPECT_FALSE(told) << "within the call";
+        EXPECT_TRUE(tests::await([&] { return told; }));
+        return result;
+    }
+    [[nodiscard]] QString path(const char* name) const { return m_folder.filePath(q(name)); }
+
+    QTemporaryDir m_folder;
+    std::unique_ptr<PosixProcessRunner> m_runner = std::make_unique<PosixProcessRunner>();
+};
+
+TEST_F(PosixProcessRunnerTest, CollectsWhatTheCommandPrintsAndItsExitStatus) {
+    const auto output = collected(shell("printf 'one\\ntwo'; echo noise >&2; exit 3"));
+    ASSERT_TRUE(output);
+    EXPECT_EQ(output->standardOutput, "one\ntwo");
+    EXPECT_EQ(output->exitStatus, 3);
+}
+
+TEST_F(PosixProcessRunnerTest, ArgumentsArriveAsTheyStand) {
+    const QStringList arguments{q(" two  blanks "), q("\"quotes\" 'and' $HOME `x` *"), QString(),
+                                q("line\nfeed")};
+    const auto output = collected({q("/usr/bin/printf"), QStringList{q("[%s]")} + arguments});
+    ASSERT_TRUE(output);
+    EXPECT_EQ(QString::fromUtf8(output->standardOutput),
+              QLatin1Char('[') + arguments.join(q("][")) + QLatin1Char(']'));
+}
+
+TEST_F(PosixProcessRunnerTest, MissingProgramAndOneKilledGiveNothing) {
+    EXPECT_FALSE(collected({q("/nowhere/tool"), {}}));
+    EXPECT_FALSE(collected(shell("kill -KILL $$")));
+}
+
+TEST_F(PosixProcessRunnerTest, CommandThatPrintsWithoutEndIsEnded) {
+    EXPECT_FALSE(collected({q("/usr/bin/yes"), {}}));
+    EXPECT_TRUE(children().isEmpty());
+}
+
+TEST_F(PosixProcessRunnerTest, CommandReadsNothingOfOurs) {
+    const auto output = collected({q("/bin/cat"), {}});
+    ASSERT_TRUE(output);
+    EXPECT_EQ(output->standardOutput, "");
+}
+
+TEST_F(PosixProcessRunnerTest, CollectedCommandEndsWithTheRunner) {
+    bool told = false;
+    m_runner->collect({q("/bin/sleep"), {q("1000")}}, [&](const auto&) { told = true; });
+    EXPECT_TRUE(tests::await([] { return children().size() == 1; }));
+    m_runner.reset();
+    EXPECT_TRUE(children().isEmpty());
+    EXPECT_FALSE(told);
+}
+
+TEST_F(PosixProcessRunnerTest, RunnerMayEndInTheCallbackOfItsCommand) {
+    bool told = false;
+    m_runner->collect({q("/bin/true"), {}}, [&](const auto&) {
+        m_runner.reset();
+        told = true;
+    });
+    EXPECT_TRUE(tests::await([&] { return told; }));
+}
+
+TEST_F(PosixProcessRunnerTest, DetachedCommandsLeaveNoChildAndNothingWaits) {
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < 10; ++i)
+        EXPECT_TRUE(m_runner->startDetached(shell("exit 1")));
+    EXPECT_TRUE(m_runner->startDetached(
+        shell("echo $$ >\"$0.new\"; mv \"$0.new\" \"$0\"; exec sleep 1000", {path("pid")})));
+    EXPECT_LT(timer.elapsed(), 5000);
+    EXPECT_TRUE(children().isEmpty());
+
+    EXPECT_TRUE(tests::await([&] { return QFile::exists(path("pid")); }));
+    const pid_t sleeper = contentOf(path("pid")).trimmed().toInt();
+    ASSERT_GT(sleeper, 1);
+    m_runner.reset();
+    EXPECT_EQ(::kill(sleeper, 0), 0) << "outlives the runner";
+    ::kill(sleeper, SIGKILL);
+}
+
+TEST_F(PosixProcessRunnerTest, WhatADetachedCommandPrintsHoldsUpNobody) {
+    // Ten times what a pipe holds; one that nobody reads would stop it.
+    ASSERT_TRUE(m_runner->startDetached(shell(
+        "head -c 700000 /dev/zero; head -c 700000 /dev/zero >&2; : >\"$0\"", {path("done")})));
+    EXPECT_TRUE(tests::await([&] { return QFile::exists(path("done")); }));
+}
+
+TEST_F(PosixProcessRunnerTest, DetachedCommandThatCannotStartSaysSo) {
+    EXPECT_FALSE(m_runner->startDetached({q("/nowhere/tool"), {}}));
+    EXPECT_TRUE(children().isEmpty());
+}
+
+} // namespace
+} // namespace vantle
