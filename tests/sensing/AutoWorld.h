@@ -1,0 +1,82 @@
+// Auto mode on a disk, a clock and a desktop of its own.
+#pragma once
+
+#include "fakes/FakeFrontmostApp.h"
+#include "fakes/FakeIdleSource.h"
+#include "fakes/FaultyFileSystem.h"
+#include "fakes/MemoryFileSystem.h"
+#include "fakes/MemoryPreferences.h"
+#include "fakes/VirtualTime.h"
+#include "sensing/AutoRules.h"
+#include "sensing/AutoRulesJson.h"
+#include "support/QtPrinters.h"
+#include "tracking/AppPaths.h"
+#include "tracking/JsonForm.h"
+#include "tracking/SkillList.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace vantle {
+
+/// A text that reads short in a test.
+inline QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+
+inline Skill namedSkill(const char* id, const char* name) {
+    return {text(id), text(name), 0x123456, false};
+}
+
+struct AutoWorld {
+    using Operation = fakes::FaultyFileSystem::Operation;
+
+    AutoWorld() {
+        time.attach(queue);
+        skills.emplace(paths, queue, skillPreferences);
+    }
+
+    /// The person has exactly these skills from now on.
+    void setSkills(const std::vector<Skill>& list) {
+        disk.setContent(QStringLiteral("/data/Vantle/skills.json"), json::encode(list));
+        skillPreferences.setInteger(QLatin1String(SkillList::migrationKey), 1);
+        skills.emplace(paths, queue, skillPreferences);
+    }
+
+    void put(const QByteArray& content) { disk.setContent(file, content); }
+    void put(const AutoRulesState& state) { put(json::encode(state).value()); }
+    [[nodiscard]] bool hasFile() const { return disk.content(file).has_value(); }
+
+    /// What another run of the program would find, once everything is written.
+    [[nodiscard]] AutoRulesState stored() {
+        time.settle();
+        const auto content = disk.content(file);
+        if (!content) return {};
+        return json::decodeAutoRules(*content).value_or(StoredAutoRules()).state;
+    }
+
+    /// How many times the file was written since the last question.
+    [[nodiscard]] int takeWrites() {
+        time.settle();
+        int writes = 0;
+        for (const auto& call : files.calls())
+            if (call.operation == Operation::Rename && call.target == file) ++writes;
+        files.forgetCalls();
+        return writes;
+    }
+
+    [[nodiscard]] AutoRules::Environment rulesEnvironment() {
+        return {time, time, queue, paths, *skills};
+    }
+
+    const QString file = QStringLiteral("/data/Vantle/auto-rules.json");
+    const QString temporaryFile = QStringLiteral(".auto-rules.json.*.tmp");
+    fakes::VirtualTime time;
+    fakes::ManualQueue queue;
+    fakes::MemoryFileSystem disk;
+    fakes::FaultyFileSystem files{disk};
+    AppPaths paths{files, QStringLiteral("/data")};
+    fakes::MemoryPreferences skillPreferences;
+    std::optional<SkillList> skills; ///< replaced in place
+};
+
+} // namespace vantle
