@@ -1,0 +1,218 @@
+#include "app/launch/AppInstaller.h"
+
+#include "app/launch/InstallLocation.h"
+#include "fakes/FaultyFileSystem.h"
+#include "fakes/MemoryFileSystem.h"
+#include "fakes/MemoryPreferences.h"
+#include "platform/WholeFile.h"
+#include "support/QtPrinters.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <deque>
+#include <utility>
+#include <vector>
+
+namespace vantle {
+namespace {
+
+QString q(const char* text) { return QString::fromUtf8(text); }
+
+bool isProper(const char* program) { return installlocation::isProper(q(program), q("/home/ada")); }
+
+TEST(InstallLocation, SystemsFoldersAndThePersonsOwnAreProper) {
+    for (const char* program :
+         {"/usr/bin/vantle", "/usr/local/bin/vantle", "/opt/vantle/bin/vantle",
+          "/home/ada/.local/bin/vantle", "/home/ada/.local/lib/vantle/vantle", "/app/bin/vantle",
+          "/snap/vantle/4/bin/vantle"})
+        EXPECT_TRUE(isProper(program)) << program;
+}
+
+TEST(InstallLocation, AnyOtherFolderIsNot) {
+    for (const char* program :
+         {"/home/ada/Downloads/vantle", "/home/ada/vantle", "/home/ada/src/build/release/vantle",
+          "/tmp/.mount_vantle/usr/bin/vantle", "/media/ada/stick/vantle", "/usrlocal/vantle",
+          "/home/eve/.local/bin/vantle", "/home/ada/.localized/vantle",
+          "/home/ada/.local/share/Trash/files/vantle"})
+        EXPECT_FALSE(isProper(program)) << program;
+}
+
+/// A download, a disk, and a person who answers alerts.
+class AppInstallerTest : public testing::Test {
+protected:
+    AppInstallerTest() { put(m_place.program, "new program"); }
+
+    void put(const QString& path, const char* content) {
+        ASSERT_TRUE(m_disk.makeDirectories(path.section(QLatin1Char('/'), 0, -2), {}));
+        ASSERT_TRUE(replaceFile(m_disk, path, content));
+    }
+    [[nodiscard]] QByteArray at(const QString& path) {
+        const auto content = m_disk.readAll(path);
+        return content ? content.value() : QByteArray("nothing");
+    }
+    /// One launch, with the index of the button pressed at each alert.
+    [[nodiscard]] bool launch(std::initializer_list<int> answers) {
+        m_answers = answers;
+        m_alerts.clear();
+        AppInstaller installer(m_preferences, m_files, m_place, operations());
+        const bool moved = installer.offerMoveToApplicationsIfNeeded();
+        EXPECT_TRUE(m_answers.empty()) << "alerts that were expected";
+        return moved;
+    }
+    [[nodiscard]] AppInstaller::Operations operations() {
+        AppInstaller::Operations operations;
+        operations.runAlert = [this](const Alert& alert) {
+            m_alerts.push_back(alert);
+            if (m_answers.empty()) return static_cast<int>(alert.buttons.size()) - 1;
+            const int answer = m_answers.front();
+            m_answers.pop_front();
+            return answer;
+        };
+        operations.moveToTrash = [this](const QString& path) {
+            m_calls.append(q("trash ") + path);
+            return m_trashWorks ? Result<>() : Error{13, q("trash"), path, q("denied")};
+        };
+        operations.reveal = [this](const QString& path) { m_calls.append(q("reveal ") + path); };
+        operations.start = [this](const QString& path) {
+            m_calls.append(q("start ") + path);
+            return m_startWorks;
+        };
+        operations.terminate = [this] { m_calls.append(q("terminate")); };
+        return operations;
+    }
+    void expectMoveFailed() {
+        EXPECT_EQ(m_alerts.back().message, q("Couldn't move it automatically."));
+        EXPECT_EQ(m_alerts.back().informativeText,
+                  q("Drag Vantle into Applications yourself — it's selected in Finder now."));
+        EXPECT_EQ(m_calls.last(), q("reveal ") + m_place.program);
+        EXPECT_FALSE(m_calls.contains(q("terminate")));
+        EXPECT_FALSE(m_calls.contains(q("trash ") + m_place.program));
+    }
+
+    const QString m_target = q("/home/ada/.local/bin/vantle");
+    AppInstaller::Place m_place{
+        q("/home/ada/Downloads/new vérsion/vantle"), q("/home/ada"), {}, false};
+    fakes::MemoryPreferences m_preferences;
+    fakes::MemoryFileSystem m_disk;
+    fakes::FaultyFileSystem m_files{m_disk};
+    std::deque<int> m_answers;
+    std::vector<Alert> m_alerts;
+    QStringList m_calls;
+    bool m_trashWorks = true;
+    bool m_startWorks = true;
+};
+
+TEST_F(AppInstallerTest, FromItsProperPlaceNothingIsAsked) {
+    for (const char* program : {"/usr/bin/vantle", "/home/ada/.local/bin/vantle"}) {
+        m_place.program = q(program);
+        EXPECT_FALSE(launch({}));
+        EXPECT_TRUE(m_alerts.empty());
+    }
+}
+
+TEST_F(AppInstallerTest, ThePreferenceOfDevelopersAsksNothing) {
+    m_preferences.setBoolean(AppInstaller::skipPromptKey, true);
+    EXPECT_FALSE(launch({}));
+    EXPECT_TRUE(m_alerts.empty());
+}
+
+TEST_F(AppInstallerTest, OffersTheMoveInItsWords) {
+    EXPECT_FALSE(launch({1}));
+    ASSERT_EQ(m_alerts.size(), 1U);
+    EXPECT_EQ(m_alerts[0].message, q("Move Vantle to Applications?"));
+    EXPECT_EQ(m_alerts[0].informativeText,
+              q("Vantle runs best from your Applications folder — it keeps it out of Downloads and "
+                "lets it update cleanly. Move it there now?"));
+    EXPECT_EQ(m_alerts[0].buttons, (QStringList{q("Move to Applications"), q("Not Now")}));
+}
+
+TEST_F(AppInstallerTest, NotNowChangesNothingAndOffersAgainAtTheNextLaunch) {
+    EXPECT_FALSE(launch({1}));
+    EXPECT_FALSE(launch({1}));
+    EXPECT_EQ(m_alerts.size(), 1U);
+    EXPECT_EQ(m_calls, QStringList());
+    EXPECT_EQ(m_preferences.keys(), QStringList());
+    EXPECT_FALSE(m_disk.exists(m_target));
+}
+
+TEST_F(AppInstallerTest, MoveCopiesStartsTheCopyTrashesTheSourceAndEnds) {
+    EXPECT_TRUE(launch({0}));
+    EXPECT_EQ(at(m_target), "new program");
+    EXPECT_EQ(m_disk.mode(m_target).value(), 0755);
+    EXPECT_EQ(m_calls,
+              (QStringList{q("start ") + m_target, q("trash ") + m_place.program, q("terminate")}));
+}
+
+TEST_F(AppInstallerTest, CompanionsThatAreThereMoveAlong) {
+    m_place.companions = {q("vantle-shortcuts"), q("missing")};
+    const QString companion = q("/home/ada/Downloads/new vérsion/vantle-shortcuts");
+    put(companion, "tool");
+    EXPECT_TRUE(launch({0}));
+    EXPECT_EQ(at(q("/home/ada/.local/bin/vantle-shortcuts")), "tool");
+    EXPECT_EQ(m_disk.mode(q("/home/ada/.local/bin/vantle-shortcuts")).value(), 0755);
+    EXPECT_TRUE(m_calls.contains(q("trash ") + companion));
+}
+
+TEST_F(AppInstallerTest, CopyThatIsThereIsReplacedOnlyWhenThePersonSaysSo) {
+    put(m_target, "old program");
+    EXPECT_FALSE(launch({0, 1}));
+    ASSERT_EQ(m_alerts.size(), 2U);
+    EXPECT_EQ(m_alerts[1].message, q("Vantle is already in Applications."));
+    EXPECT_EQ(m_alerts[1].informativeText, q("Replace it with this version?"));
+    EXPECT_EQ(m_alerts[1].buttons, (QStringList{q("Replace"), q("Cancel")}));
+    EXPECT_EQ(at(m_target), "old program");
+    EXPECT_EQ(m_calls, QStringList());
+
+    EXPECT_TRUE(launch({0, 0}));
+    EXPECT_EQ(at(m_target), "new program");
+}
+
+TEST_F(AppInstallerTest, ReplacementThatFailsLeavesTheOldCopyAndShowsTheFolder) {
+    using Operation = fakes::FaultyFileSystem::Operation;
+    put(m_target, "old program");
+    const QString temporary = q(".vantle.*.tmp");
+    const std::vector<std::pair<Operation, QString>> faults{
+        {Operation::MakeDirectories, q("bin")}, {Operation::Open, q("vantle")},
+        {Operation::Create, temporary},         {Operation::Write, temporary},
+        {Operation::Sync, temporary},           {Operation::SetMode, temporary},
+        {Operation::Rename, temporary}};
+    for (const auto& [operation, name] : faults) {
+        m_calls.clear();
+        m_files.fail(operation, name, ENOSPC);
+        EXPECT_FALSE(launch({0, 0, 0})) << static_cast<int>(operation);
+        m_files.healAll();
+        expectMoveFailed();
+        EXPECT_EQ(at(m_target), "old program") << static_cast<int>(operation);
+    }
+    EXPECT_TRUE(launch({0, 0}));
+    EXPECT_EQ(at(m_target), "new program");
+}
+
+TEST_F(AppInstallerTest, FolderInTheWayEndsInTheNotice) {
+    ASSERT_TRUE(m_disk.makeDirectories(m_target, {}));
+    EXPECT_FALSE(launch({0, 0, 0}));
+    expectMoveFailed();
+}
+
+TEST_F(AppInstallerTest, FromAReadOnlyMountTheSourceIsLeftAlone) {
+    m_place.isReadOnly = true;
+    EXPECT_TRUE(launch({0}));
+    EXPECT_EQ(at(m_target), "new program");
+    EXPECT_EQ(m_calls, (QStringList{q("start ") + m_target, q("terminate")}));
+}
+
+TEST_F(AppInstallerTest, SourceThatCannotBeTrashedDoesNotHoldUpTheMove) {
+    m_trashWorks = false;
+    EXPECT_TRUE(launch({0}));
+    EXPECT_EQ(m_calls.last(), q("terminate"));
+}
+
+TEST_F(AppInstallerTest, CopyThatCannotBeStartedLeavesThisOneRunning) {
+    m_startWorks = false;
+    EXPECT_FALSE(launch({0, 0}));
+    expectMoveFailed();
+}
+
+} // namespace
+} // namespace vantle
