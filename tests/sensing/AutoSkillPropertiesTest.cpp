@@ -8,6 +8,12 @@
 namespace vantle {
 namespace {
 
+/// A choice among all that `gen` has, from the first case on.
+template <typename Value>
+Value any(rc::Gen<Value> gen) {
+    return *rc::gen::resize(rc::kNominalSize, std::move(gen));
+}
+
 /// The world, with what must hold at every moment of it.
 class RandomLife : public AutoSkillWorld {
 public:
@@ -40,36 +46,36 @@ public:
     }
 
     void step() {
-        switch (*rc::gen::inRange(0, 10)) {
+        switch (any(rc::gen::inRange(0, 12))) {
         case 0:
         case 1:
         case 2:
             switchApplication();
             break;
         case 3:
-            state = *rc::gen::element(State::Idle, State::Running, State::Paused);
+            state = any(rc::gen::element(State::Idle, State::Running, State::Paused));
             skillId = state == State::Idle ? std::nullopt : std::optional(anySkill());
             break;
         case 4:
             set(AutoSkillMonitor::enabledKey,
-                *rc::gen::weightedElement<bool>({{5, true}, {1, false}}));
+                any(rc::gen::weightedElement<bool>({{5, true}, {1, false}})));
             // Switched on, it takes what is in front for just activated.
             if (!wasRunning && monitor->isRunning()) lastSwitchAt = time.timerClock();
             break;
         case 5:
-            set(AutoSkillMonitor::autoStartKey, *rc::gen::arbitrary<bool>());
+            set(AutoSkillMonitor::autoStartKey, any(rc::gen::arbitrary<bool>()));
             break;
         case 6:
             answer();
             break;
         case 7:
-            monitor->rules().setRule(anyApplication().bundleId,
-                                     *rc::gen::element(std::optional(anySkill()),
-                                                       std::optional(text("ignore")),
-                                                       std::optional<QString>()));
+            monitor->rules().setRule(
+                anyApplication().bundleId,
+                any(rc::gen::element(std::optional(anySkill()), std::optional(text("ignore")),
+                                     std::optional<QString>())));
             break;
         default:
-            time.advance(*rc::gen::inRange(0, 800) / 8.0);
+            time.advance(any(rc::gen::element(0.125, 10.0, 20.0, 45.0, 90.0, 120.0, 900.0)));
         }
         wasRunning = monitor->isRunning();
         RC_ASSERT(time.timerCount() <= (wasRunning ? 1u : 0u));
@@ -83,10 +89,10 @@ public:
 
 private:
     Application anyApplication() {
-        return *rc::gen::element(xcode, figma, slack, finder, viewer, safari, own);
+        return any(rc::gen::element(xcode, figma, slack, finder, viewer, safari, own));
     }
     QString anySkill() {
-        return *rc::gen::element(text("building"), text("marketing"), text("connections"));
+        return any(rc::gen::element(text("building"), text("marketing"), text("connections")));
     }
     void switchApplication() {
         activate(anyApplication());
@@ -119,7 +125,7 @@ private:
 
 RC_GTEST_PROP(AutoSkillProperties, WaitsForOneThingAtATimeAndAsksAboutNothingTwice, ()) {
     RandomLife life;
-    const int steps = *rc::gen::inRange(1, 80);
+    const int steps = any(rc::gen::inRange(1, 80));
     for (int i = 0; i < steps; ++i)
         life.step();
     RC_CLASSIFY(life.retags > 0, "retag");
