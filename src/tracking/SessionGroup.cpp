@@ -13,6 +13,7 @@ constexpr Seconds kSeparateGap{180.0};
 
 std::vector<SessionGroup> SessionGroup::grouped(const std::vector<Session>& sessions) {
     std::vector<SessionGroup> groups;
+    groups.reserve(sessions.size());
     Date lastEnd;
     for (const Session& session : sessions) {
         const bool manual = session.source == sourceManual();

@@ -7,13 +7,12 @@
 #include <array>
 #include <cstdint>
 #include <string_view>
+#include <utility>
 
 namespace vantle::sessionlines {
 
-namespace {
-
 /// Walks over the bytes of a line. Every step tells whether the line still is in our own form.
-class Cursor {
+class Reader::Cursor {
 public:
     explicit Cursor(QByteArrayView text) : m_at(text.data()), m_end(m_at + text.size()) {}
 
@@ -73,6 +72,8 @@ private:
     const char* m_end;
 };
 
+namespace {
+
 constexpr std::array<std::uint8_t, 256> makeHexValues() {
     std::array<std::uint8_t, 256> values{};
     values.fill(0xFF);
@@ -86,7 +87,9 @@ constexpr std::array<std::uint8_t, 256> makeHexValues() {
 }
 constexpr std::array<std::uint8_t, 256> kHexValues = makeHexValues();
 
-bool Cursor::id(QUuid& id) {
+} // namespace
+
+bool Reader::Cursor::id(QUuid& id) {
     static constexpr std::array<std::uint8_t, 16> offsets = {0,  2,  4,  6,  9,  11, 14, 16,
                                                              19, 21, 24, 26, 28, 30, 32, 34};
     if (left() < 36) return false;
@@ -108,6 +111,8 @@ bool Cursor::id(QUuid& id) {
     return true;
 }
 
+namespace {
+
 /// Eight bytes as a number, and what each byte of a mask is about.
 constexpr std::uint64_t eachByte(std::uint8_t byte) { return 0x0101010101010101u * byte; }
 
@@ -121,7 +126,9 @@ bool needsCloserLook(std::uint64_t bytes) {
             hasZeroByte(bytes ^ eachByte('\\'))) != 0;
 }
 
-bool Cursor::plainText(QByteArrayView& text) {
+} // namespace
+
+bool Reader::Cursor::plainText(QByteArrayView& text) {
     const char* const begin = m_at;
     for (std::uint64_t bytes = 0; left() >= sizeof bytes; m_at += sizeof bytes) {
         std::memcpy(&bytes, m_at, sizeof bytes);
@@ -140,22 +147,28 @@ bool Cursor::plainText(QByteArrayView& text) {
     return false;
 }
 
-} // namespace
+bool Reader::readSkillId(Cursor& cursor, QString& id) {
+    for (std::size_t i = 0; i < m_skills.size(); ++i) {
+        if (!cursor.bytes(m_skills[i].utf8)) continue;
+        std::swap(m_skills.front(), m_skills[i]);
+        id = m_skills.front().id;
+        return true;
+    }
+    QByteArrayView text;
+    if (!cursor.plainText(text) || !cursor.literal("\"")) return false;
+    id = text::fromUtf8(text);
+    KnownSkill skill{QByteArray(text.data(), text.size() + 1), id};
+    if (m_skills.size() < kKnownSkills)
+        m_skills.push_back(std::move(skill));
+    else
+        m_skills[m_replacedNext++ % kKnownSkills] = std::move(skill);
+    return true;
+}
 
 std::optional<Session> Reader::decodeCanonical(QByteArrayView text, qsizetype& length) {
     std::optional<Session> session(std::in_place);
     QByteArrayView note;
-    QByteArrayView skillId;
     Cursor cursor(text);
-    const auto isSameSkill = [&] {
-        return !m_lastSkillUtf8.isEmpty() && cursor.bytes(m_lastSkillUtf8);
-    };
-    const auto isOtherSkill = [&] {
-        if (!cursor.plainText(skillId) || !cursor.literal("\"")) return false;
-        m_lastSkillUtf8 = QByteArray(skillId.data(), skillId.size() + 1);
-        m_lastSkillId = text::fromUtf8(skillId);
-        return true;
-    };
     const auto isKnownSource = [&] {
         if (cursor.literal("mac_app\""))
             session->source = sourceApp();
@@ -170,14 +183,13 @@ std::optional<Session> Reader::decodeCanonical(QByteArrayView text, qsizetype& l
         cursor.literal(",\"endedAt\":\"") && cursor.date(m_dates, session->endedAt) &&
         cursor.literal("\",\"id\":\"") && cursor.id(session->id) &&
         cursor.literal("\",\"note\":\"") && cursor.plainText(note) &&
-        cursor.literal("\",\"skillId\":\"") && (isSameSkill() || isOtherSkill()) &&
+        cursor.literal("\",\"skillId\":\"") && readSkillId(cursor, session->skillId) &&
         cursor.literal(",\"source\":\"") && isKnownSource() &&
         cursor.literal(",\"startedAt\":\"") && cursor.date(m_dates, session->startedAt) &&
         cursor.literal("\"}") && cursor.atLineEnd();
     if (!canonical) return std::nullopt;
     length = cursor.position() - text.data();
     if (!note.isEmpty()) session->note = text::fromUtf8(note);
-    session->skillId = m_lastSkillId;
     return session;
 }
 

@@ -8,6 +8,7 @@
 
 #include <cstring>
 #include <optional>
+#include <vector>
 
 namespace vantle::sessionlines {
 
@@ -58,8 +59,18 @@ private:
     /// feed or the end; sets `length` to that of the line. Empty says nothing about the line.
     [[nodiscard]] std::optional<Session> decodeCanonical(QByteArrayView text, qsizetype& length);
 
-    QByteArray m_lastSkillUtf8; ///< of the last line, with the closing quote
-    QString m_lastSkillId;
+    /// A skill id as it stands in a line, and as the records share it.
+    struct KnownSkill {
+        QByteArray utf8; ///< with the closing quote
+        QString id;
+    };
+    static constexpr std::size_t kKnownSkills = 16;
+
+    class Cursor;
+    [[nodiscard]] bool readSkillId(Cursor& cursor, QString& id);
+
+    std::vector<KnownSkill> m_skills; ///< the one of the last line first
+    std::size_t m_replacedNext = 0;
     iso8601::Parser m_dates;
 };
 

@@ -17,6 +17,9 @@ namespace {
 /// How much of the log is in memory at once while it is read, in bytes. Longer lines make it grow.
 constexpr qsizetype kBlockSize = 1 << 20;
 
+/// By how many bytes a rewritten log may well grow.
+constexpr qint64 kRoomForANote = 4096;
+
 bool isUtf8(QByteArrayView bytes) {
     return simdjson::validate_utf8(bytes.data(), static_cast<std::size_t>(bytes.size()));
 }
@@ -56,6 +59,32 @@ bool forEachBlock(File& file, Visit visit) {
     }
     return filled == 0 || visit(QByteArrayView(buffer.constData(), filled));
 }
+
+/// Copies lines byte for byte, each with a line feed after it; neighbours go in one piece.
+class LineCopier {
+public:
+    explicit LineCopier(QByteArray& output) : m_output(output) {}
+
+    void add(QByteArrayView line) {
+        if (m_begin && line.data() == m_end + 1 && *m_end == '\n') {
+            m_end = line.data() + line.size();
+            return;
+        }
+        flush();
+        m_begin = line.data();
+        m_end = m_begin + line.size();
+    }
+
+    void flush() {
+        if (m_begin) m_output.append(m_begin, m_end - m_begin).append('\n');
+        m_begin = nullptr;
+    }
+
+private:
+    QByteArray& m_output;
+    const char* m_begin = nullptr; ///< of the piece that is not copied yet
+    const char* m_end = nullptr;
+};
 
 Result<> appendTo(File& file, QByteArrayView line) {
     const auto before = file.size();
@@ -120,19 +149,21 @@ LogRead SessionLog::readAll() const {
 
 Result<bool> SessionLog::rewrite(const QUuid& id, const Transform& transform) const {
     const QString path = m_paths.sessionsFile();
-    const auto bytes = m_paths.fileSystem().readAll(path);
-    if (!bytes || !isUtf8(bytes.value())) return false;
+    auto file = m_paths.fileSystem().open(path, FileSystem::OpenMode::Read);
+    if (!file) return false;
 
     QByteArray output;
-    output.reserve(bytes.value().size() + 4096);
+    if (const auto size = file.value()->size()) output.reserve(size.value() + kRoomForANote);
     bool found = false;
     std::optional<Error> failure;
     sessionlines::Reader reader;
-    reader.read(bytes.value(), [&](QByteArrayView line, const std::optional<Session>& session) {
+    LineCopier kept(output);
+    const auto take = [&](QByteArrayView line, const std::optional<Session>& session) {
         if (!session || session->id != id) {
-            output.append(line).append('\n');
+            kept.add(line);
             return;
         }
+        kept.flush();
         found = true;
         const std::optional<Session> changed = transform(*session);
         if (!changed) return;
@@ -142,7 +173,14 @@ Result<bool> SessionLog::rewrite(const QUuid& id, const Transform& transform) co
             output.append(encoded.value()).append('\n');
         else if (!failure)
             failure = encoded.error();
+    };
+    const bool complete = forEachBlock(*file.value(), [&](QByteArrayView block) {
+        if (!isUtf8(block)) return false;
+        reader.read(block, take);
+        kept.flush(); // the block's bytes are not there any more after this
+        return true;
     });
+    if (!complete) return false;
     if (failure) return *failure;
     if (!found) return false;
     const Result<> outcome =

@@ -3,6 +3,8 @@
 #include "tracking/SkillList.h"
 #include "tracking/TrackerCore.h"
 
+#include <algorithm>
+
 namespace vantle::totals {
 
 namespace {
@@ -74,6 +76,12 @@ std::vector<Badge> badges(const std::vector<Session>& sessions, Date now) {
 std::vector<DotRun> hourDotRuns(const std::vector<Session>& sessions, Date now,
                                 const std::vector<Skill>& skills) {
     std::vector<DotRun> runs;
+    // To find out how to show a skill that is gone costs more than the rest of the wall.
+    std::vector<Skill> known;
+    const auto shown = [&](const QString& id) {
+        const auto found = std::ranges::find(known, id, &Skill::id);
+        return found != known.end() ? *found : known.emplace_back(SkillList::display(id, skills));
+    };
     std::int64_t carry = 0;
     for (const Session& session : sessions) {
         if (!TrackerCore::countsInTotals(session, now)) continue;
@@ -84,7 +92,7 @@ std::vector<DotRun> hourDotRuns(const std::vector<Session>& sessions, Date now,
         if (!runs.empty() && runs.back().skill.id == session.skillId)
             runs.back().count += finished;
         else
-            runs.push_back({SkillList::display(session.skillId, skills), finished});
+            runs.push_back({shown(session.skillId), finished});
     }
     return runs;
 }

@@ -119,7 +119,9 @@ public:
 
     /// Whether the record counts in totals: it starts at most five minutes after `asOf`. Later
     /// ones come from a clock that was set back since.
-    [[nodiscard]] static bool countsInTotals(const Session& session, Date asOf);
+    [[nodiscard]] static bool countsInTotals(const Session& session, Date asOf) {
+        return (session.startedAt - asOf).count() <= futureStartTolerance;
+    }
 
     /// Returns when everything queued for the disk so far has run. [blocks]
     void drainPendingIO();

@@ -82,10 +82,6 @@ void TrackerCore::notifySessionsChanged() {
     });
 }
 
-bool TrackerCore::countsInTotals(const Session& session, Date asOf) {
-    return (session.startedAt - asOf).count() <= futureStartTolerance;
-}
-
 void TrackerCore::noteStorageFailure(const Error& error) {
     setStorageError(QStringLiteral("Couldn’t save your hours. Check available disk space and "
                                    "folder permissions, then try again. (%1)")
