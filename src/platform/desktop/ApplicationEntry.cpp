@@ -1,5 +1,6 @@
 #include "platform/desktop/ApplicationEntry.h"
 
+#include <QByteArrayView>
 #include <QHash>
 
 #include <array>
@@ -14,21 +15,33 @@ constexpr qsizetype kMaxName = 200;
 
 using Values = QHash<QString, QString>;
 
+/// Whether a key is looked at; most of an entry is texts in other languages.
+bool isOfUse(QByteArrayView key, const QStringList& locales) {
+    const qsizetype bracket = key.indexOf('[');
+    if (bracket < 0) return true;
+    if (key.first(bracket) != "Name" || !key.endsWith(']')) return false;
+    const QByteArrayView locale = key.sliced(bracket + 1).chopped(1);
+    return locales.contains(QLatin1String(locale.data(), locale.size()));
+}
+
 /// The keys of the group "Desktop Entry", values as they stand. Of several, the first.
-Values valuesOf(const QByteArray& content) {
+Values valuesOf(QByteArrayView content, const QStringList& locales) {
     Values values;
     bool inEntry = false;
-    for (const QByteArray& bytes : content.split('\n')) {
-        const QByteArray line = bytes.trimmed();
-        if (line.isEmpty() || line.startsWith('#')) continue;
+    while (!content.isEmpty()) {
+        const qsizetype end = content.indexOf('\n');
+        const QByteArrayView line = (end < 0 ? content : content.first(end)).trimmed();
+        content = end < 0 ? QByteArrayView() : content.sliced(end + 1);
         if (line.startsWith('[')) {
             if (inEntry) break; // actions and the like
             inEntry = line == "[Desktop Entry]";
             continue;
         }
         const qsizetype equals = line.indexOf('=');
-        if (!inEntry || equals <= 0) continue;
-        const QString key = QString::fromUtf8(line.first(equals).trimmed());
+        if (!inEntry || equals <= 0 || line.startsWith('#')) continue;
+        const QByteArrayView name = line.first(equals).trimmed();
+        if (!isOfUse(name, locales)) continue;
+        const QString key = QString::fromUtf8(name);
         if (!values.contains(key))
             values.insert(key, QString::fromUtf8(line.sliced(equals + 1).trimmed()));
     }
@@ -113,7 +126,7 @@ QString programOf(const QString& command) {
 
 std::optional<ApplicationEntry> ApplicationEntry::read(const QString& id, const QByteArray& content,
                                                        const QStringList& locales) {
-    const Values values = valuesOf(content);
+    const Values values = valuesOf(content, locales);
     if (values.value(QStringLiteral("Type")) != QLatin1String("Application")) return std::nullopt;
     if (isTrue(values, QStringLiteral("Hidden"))) return std::nullopt;
     ApplicationEntry entry;
