@@ -4,6 +4,7 @@
 #include "sensing/SuggestionTables.h"
 
 #include <algorithm>
+#include <bitset>
 
 namespace vantle::autosuggestion {
 
@@ -11,19 +12,42 @@ namespace {
 
 using suggestiontables::Group;
 
-/// The text in which the words, which are ASCII, are looked for.
-QByteArray searchText(const QString& bundleId, const QString& appName) {
-    return text::lowerCased(bundleId + QLatin1Char(' ') + appName).toUtf8();
-}
+/// A text in lower case in which words, which are ASCII and longer than one letter, are looked for.
+class SearchText {
+public:
+    SearchText(const QString& first, const QString& second)
+        : m_utf8(lowerCased(first + QLatin1Char(' ') + second)) {
+        for (qsizetype i = 1; i < m_utf8.size(); ++i)
+            m_pairs.set(pairAt(m_utf8.data() + i - 1));
+    }
 
-bool holds(QByteArrayView text, std::string_view word) {
-    return std::string_view(text.data(), static_cast<std::size_t>(text.size())).find(word) !=
-           std::string_view::npos;
-}
+    [[nodiscard]] bool holds(std::string_view word) const {
+        // Most words are ruled out by their first two letters.
+        return m_pairs.test(pairAt(word.data())) &&
+               std::string_view(m_utf8.data(), static_cast<std::size_t>(m_utf8.size()))
+                       .find(word) != std::string_view::npos;
+    }
 
-bool holdsAny(QByteArrayView text, std::span<const std::string_view> words) {
-    return std::ranges::any_of(words, [&](std::string_view word) { return holds(text, word); });
-}
+    [[nodiscard]] bool holdsAny(std::span<const std::string_view> words) const {
+        return std::ranges::any_of(words, [&](std::string_view word) { return holds(word); });
+    }
+
+private:
+    static QByteArray lowerCased(const QString& text) {
+        const QByteArray utf8 = text.toUtf8();
+        // As many bytes as UTF-16 units: nothing but ASCII, for which no tables are needed.
+        return utf8.size() == text.size() ? utf8.toLower() : text::lowerCased(text).toUtf8();
+    }
+
+    /// A number for two letters. Other pairs may have the same.
+    static std::size_t pairAt(const char* letters) {
+        const auto low = [](char letter) { return static_cast<unsigned char>(letter) & 0x1Fu; };
+        return low(letters[0]) << 5 | low(letters[1]);
+    }
+
+    QByteArray m_utf8;
+    std::bitset<1024> m_pairs; ///< those that occur
+};
 
 std::optional<QString> skillOfId(std::string_view id, const std::vector<Skill>& skills) {
     const QLatin1String wanted(id.data(), static_cast<qsizetype>(id.size()));
@@ -35,31 +59,31 @@ std::optional<QString> skillOfId(std::string_view id, const std::vector<Skill>& 
 /// The order of the hints outranks that of the skills.
 std::optional<QString> skillByHints(std::span<const std::string_view> hints,
                                     const std::vector<Skill>& skills) {
-    std::vector<QByteArray> labels;
+    std::vector<SearchText> labels;
     labels.reserve(skills.size());
     for (const Skill& skill : skills) {
         QString id = skill.id;
-        labels.push_back(searchText(id.replace(QLatin1Char('_'), QLatin1Char(' ')), skill.name));
+        labels.emplace_back(id.replace(QLatin1Char('_'), QLatin1Char(' ')), skill.name);
     }
     for (const std::string_view hint : hints)
         for (std::size_t i = 0; i < skills.size(); ++i)
-            if (holds(labels[i], hint)) return skills[i].id;
+            if (labels[i].holds(hint)) return skills[i].id;
     return std::nullopt;
 }
 
 } // namespace
 
 bool isBrowser(const QString& bundleId, const QString& appName) {
-    return holdsAny(searchText(bundleId, appName), suggestiontables::browserWords());
+    return SearchText(bundleId, appName).holdsAny(suggestiontables::browserWords());
 }
 
 std::optional<QString> suggestedSkillId(const QString& bundleId, const QString& appName,
                                         const std::vector<Skill>& skills) {
-    const QByteArray text = searchText(bundleId, appName);
-    if (holdsAny(text, suggestiontables::browserWords())) return std::nullopt;
+    const SearchText text(bundleId, appName);
+    if (text.holdsAny(suggestiontables::browserWords())) return std::nullopt;
     const auto groups = suggestiontables::groups();
     const auto group = std::ranges::find_if(
-        groups, [&](const Group& candidate) { return holdsAny(text, candidate.words); });
+        groups, [&](const Group& candidate) { return text.holdsAny(candidate.words); });
     if (group == groups.end()) return std::nullopt;
     if (auto first = skillOfId(group->firstChoice, skills)) return first;
     if (auto second = skillOfId(group->secondChoice, skills)) return second;
