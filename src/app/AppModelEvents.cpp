@@ -103,7 +103,8 @@ void AppModel::resolveTag(const QString& bundleId,
 void AppModel::onSessionStarted(const Skill& skill, Date) {
     m_sessionBundleId.reset();
     if (m_env.frontmostApp)
-        if (const auto application = m_env.frontmostApp->frontmost())
+        if (const auto application = m_env.frontmostApp->frontmost();
+            application && !application->bundleId.isEmpty())
             m_sessionBundleId = application->bundleId;
     if (m_isRetagging) {
         m_collaborators.notch->retag(skill, true);

@@ -1,7 +1,9 @@
 #include "app/launch/AppDelegate.h"
 
+#include "fakes/FakeFrontmostApp.h"
 #include "fakes/FakeHotKeyPort.h"
 #include "fakes/FakeIdleSource.h"
+#include "fakes/FakeProcessRunner.h"
 #include "fakes/FakeReducedMotion.h"
 #include "fakes/FakeScreenPower.h"
 #include "fakes/FakeTrayItem.h"
@@ -45,25 +47,33 @@ public:
 /// A machine on which copies of the program are started.
 class AppDelegateTest : public testing::Test {
 protected:
-    AppDelegateTest() { time.attach(ioQueue); }
+    AppDelegateTest() {
+        time.attach(ioQueue);
+        time.attach(autoSkillQueue);
+    }
 
     std::unique_ptr<AppDelegate> makeCopy(bool atLogin = false) {
         return std::make_unique<AppDelegate>(
             AppDelegate::Environment{.clock = time,
                                      .scheduler = time,
                                      .ioQueue = ioQueue,
+                                     .autoSkillQueue = autoSkillQueue,
                                      .paths = paths,
                                      .preferences = preferences,
                                      .idleSource = idleSource,
                                      .screenPower = screens,
                                      .hotKeyPort = hotKeyPort,
+                                     .frontmostApp = frontmostApp,
+                                     .processRunner = processRunner,
                                      .reducedMotion = reducedMotion,
                                      .autostart = autostart,
                                      .trayItem = tray,
+                                     .shortcutsTool = text("/bin/vantle-shortcuts"),
                                      .calendar =
                                          [] {
                                              return Calendar{text("UTC"), 2, 4};
                                          },
+                                     .offerMoveToApplications = [this] { return movesAway; },
                                      .terminate = [this] { ++terminations; },
                                      .alertAlreadyRunning = [this] { ++alerts; },
                                      .startedAtLogin = atLogin});
@@ -76,17 +86,21 @@ protected:
 
     fakes::VirtualTime time;
     fakes::ManualQueue ioQueue;
+    fakes::ManualQueue autoSkillQueue;
     fakes::MemoryFileSystem disk;
     fakes::MemoryPreferences preferences;
     fakes::FakeIdleSource idleSource{time};
     fakes::FakeScreenPower screens;
     fakes::FakeHotKeyPort hotKeyPort;
+    fakes::FakeFrontmostApp frontmostApp;
+    fakes::FakeProcessRunner processRunner;
     fakes::FakeReducedMotion reducedMotion;
     fakes::FakeTrayItem tray;
     FakeAutostart autostart;
     AppPaths paths{disk, text("/data")};
     int terminations = 0;
     int alerts = 0;
+    bool movesAway = false;
 };
 
 TEST_F(AppDelegateTest, ASecondCopyShowsOnlyTheAlertAndLeavesTheSessionOfTheFirst) {
@@ -232,6 +246,46 @@ TEST_F(AppDelegateTest, EndingInASessionLogsItOnce) {
     EXPECT_EQ(log().size(), 1u);
     EXPECT_FALSE(exists("open-session.json"));
     EXPECT_EQ(terminations, 1);
+}
+
+TEST_F(AppDelegateTest, AProgramThatIsBeingMovedDoesNothingElse) {
+    movesAway = true;
+    const auto app = makeCopy();
+    EXPECT_FALSE(app->applicationDidFinishLaunching());
+    EXPECT_EQ(app->model(), nullptr);
+    EXPECT_EQ(alerts, 0);
+    EXPECT_FALSE(exists(".instance.lock"));
+}
+
+TEST_F(AppDelegateTest, WorkInAnotherKnownApplicationSplitsTheSession) {
+    const auto app = makeCopy();
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    time.settle();
+    app->performAction(text("toggle"));
+    idleSource.fix(0);
+    time.advance(100.0);
+    frontmostApp.activate(Application{text("com.figma.Desktop"), text("Figma")});
+    time.advance(44.0);
+    EXPECT_TRUE(log().empty());
+    time.advance(2.0);
+    ASSERT_EQ(log().size(), 1u);
+    EXPECT_EQ(log().front().skillId, text("building"));
+    EXPECT_EQ(app->model()->tracker().currentSkillId(), text("product_design"));
+    EXPECT_EQ(log().front().endedAt, app->model()->tracker().startedAt());
+}
+
+TEST_F(AppDelegateTest, ThePersonsShortcutsRunAtBothEndsOfASession) {
+    preferences.setBoolean(text("focus.linked"), true);
+    preferences.setString(text("focus.shortcut.start"), text("quiet please"));
+    preferences.setString(text("focus.shortcut.stop"), text("all clear"));
+    const auto app = makeCopy();
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    app->performAction(text("toggle"));
+    app->performAction(text("toggle"));
+    const QString tool = text("/bin/vantle-shortcuts");
+    EXPECT_EQ(processRunner.detached,
+              (std::vector<Command>{{tool, {text("run"), text("quiet please")}},
+                                    {tool, {text("run"), text("all clear")}}}));
 }
 
 TEST_F(AppDelegateTest, UnknownActionsDoNothing) {

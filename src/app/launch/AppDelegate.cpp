@@ -1,5 +1,7 @@
 #include "app/launch/AppDelegate.h"
 
+#include "app/launch/AutoSkillAdapter.h"
+#include "app/launch/FocusLinkAdapter.h"
 #include "app/launch/RecoveryActions.h"
 #include "platform/Autostart.h"
 #include "platform/Preferences.h"
@@ -12,15 +14,26 @@ namespace {
 /// The program has tried once to start at login. Whoever turns that off later stays off.
 constexpr QLatin1String kLoginAutoRegistered("login.autoRegistered");
 
+/// The identity under which the desktop knows the program's own windows.
+const QString& ownBundleId() {
+    static const QString id = QStringLiteral("local.vantle.Vantle");
+    return id;
+}
+
 } // namespace
 
 AppDelegate::AppDelegate(const Environment& environment)
     : m_env(environment)
-    , m_skills(m_env.paths, m_env.ioQueue, m_env.preferences) {}
+    , m_skills(m_env.paths, m_env.ioQueue, m_env.preferences)
+    , m_autoSkill({m_env.clock, m_env.scheduler, m_env.autoSkillQueue, m_env.paths,
+                   m_env.preferences, m_skills, m_env.frontmostApp, m_env.idleSource,
+                   ownBundleId()})
+    , m_focusLink(m_env.preferences, m_env.processRunner, m_env.shortcutsTool) {}
 
 AppDelegate::~AppDelegate() = default;
 
 bool AppDelegate::applicationDidFinishLaunching() {
+    if (m_env.offerMoveToApplications()) return false;
     // Before anything else looks at the data.
     if (!m_lock.acquire(m_env.paths)) {
         m_env.alertAlreadyRunning();
@@ -50,6 +63,8 @@ void AppDelegate::makeModel() {
     auto recovery = std::make_unique<RecoveryActions>();
     m_recovery = recovery.get();
     collaborators.recovery = std::move(recovery);
+    collaborators.autoSkill = std::make_unique<AutoSkillAdapter>(m_autoSkill);
+    collaborators.focusLink = std::make_unique<FocusLinkAdapter>(m_focusLink);
     m_model = std::make_unique<AppModel>(AppModel::Environment{.clock = m_env.clock,
                                                                .scheduler = m_env.scheduler,
                                                                .ioQueue = m_env.ioQueue,
@@ -61,7 +76,7 @@ void AppDelegate::makeModel() {
                                                                .screenPower = m_env.screenPower,
                                                                .hotKeyPort = m_env.hotKeyPort,
                                                                .reducedMotion = m_env.reducedMotion,
-                                                               .frontmostApp = nullptr,
+                                                               .frontmostApp = &m_env.frontmostApp,
                                                                .calendar = m_env.calendar,
                                                                .terminate = m_env.terminate},
                                          std::move(collaborators));

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "app/AppModel.h"
+#include "sensing/AutoSkillMonitor.h"
+#include "sensing/FocusLink.h"
 #include "surfaces/menubar/StatusItemController.h"
 #include "tracking/NotificationCenter.h"
 #include "tracking/SingleInstanceLock.h"
@@ -13,6 +15,7 @@
 namespace vantle {
 
 class Autostart;
+class ProcessRunner;
 class RecoveryActions;
 class TrayItem;
 
@@ -24,15 +27,21 @@ public:
         const Clock& clock;
         Scheduler& scheduler;
         SerialQueue& ioQueue;
+        SerialQueue& autoSkillQueue; ///< of auto mode's own file
         const AppPaths& paths;
         Preferences& preferences;
         IdleSource& idleSource;
         ScreenPower& screenPower;
         HotKeyPort& hotKeyPort;
+        FrontmostApp& frontmostApp;
+        ProcessRunner& processRunner;
         const ReducedMotion& reducedMotion;
         Autostart& autostart;
         TrayItem& trayItem;
+        QString shortcutsTool; ///< absolute path of the program that runs shortcuts
         std::function<Calendar()> calendar;
+        /// Offers to move a downloaded program; true when a copy elsewhere takes over.
+        std::function<bool()> offerMoveToApplications;
         std::function<void()> terminate;           ///< ends the process
         std::function<void()> alertAlreadyRunning; ///< tells the person, and returns when they know
         bool startedAtLogin = false;               ///< then nothing may pop up
@@ -41,8 +50,8 @@ public:
     explicit AppDelegate(const Environment& environment);
     ~AppDelegate();
 
-    /// Brings the program up. False when another copy holds the data: the person was told, nothing
-    /// was touched, and the process is to end.
+    /// Brings the program up. False when another copy takes over or holds the data: the person
+    /// knows, nothing was touched, and the process is to end.
     [[nodiscard]] bool applicationDidFinishLaunching();
 
     /// The person started the program again while it runs.
@@ -69,6 +78,8 @@ private:
     SingleInstanceLock m_lock;
     NotificationCenter m_notifications;
     SkillList m_skills;
+    AutoSkillMonitor m_autoSkill;
+    FocusLink m_focusLink;
     RecoveryActions* m_recovery = nullptr; ///< owned by the model
     std::unique_ptr<AppModel> m_model;
     std::unique_ptr<StatusItemController> m_statusItem;

@@ -1,14 +1,20 @@
 #include "app/launch/HourfoldApp.h"
 
 #include "app/launch/AppDelegate.h"
+#include "app/launch/AppInstaller.h"
+#include "app/launch/InstallLocation.h"
 #include "app/launch/PlatformFactory.h"
 #include "base/Clock.h"
 #include "base/SerialQueue.h"
+#include "sensing/AutoRules.h"
 #include "surfaces/alert/ModalPresenter.h"
 #include "tracking/AppPaths.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QQuickWindow>
+#include <QStorageInfo>
 
 #include <cstdlib>
 
@@ -42,6 +48,39 @@ bool takeLoginMark() {
     return marked;
 }
 
+/// The small program that runs the person's shortcuts lies beside this one.
+QString shortcutsTool() {
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/vantle-shortcuts");
+}
+
+/// Where this program lies, as the installer wants to know it. A build tree is the proper place of
+/// a developer's own build, so it counts as one that nothing is moved from.
+AppInstaller::Place thisProgram(Platform& platform) {
+    const QString folder = QCoreApplication::applicationDirPath();
+    const bool isBuildTree =
+        platform.fileSystem().exists(folder + QStringLiteral("/CMakeCache.txt"));
+    const QString home = QFileInfo(QDir::homePath()).canonicalFilePath();
+    AppInstaller::Place place;
+    place.home = home;
+    place.program = isBuildTree
+                        ? installlocation::target(home)
+                        : QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
+    place.companions = {QStringLiteral("vantle-shortcuts")};
+    place.isReadOnly = QStorageInfo(folder).isReadOnly();
+    return place;
+}
+
+AppInstaller::Operations installOperations(Platform& platform) {
+    return {.runAlert = [](const Alert& alert) { return modalpresenter::runAlert(alert); },
+            .moveToTrash = [&platform](const QString& path) { return platform.moveToTrash(path); },
+            .reveal = [&platform](const QString& path) { platform.reveal(path); },
+            .start =
+                [&platform](const QString& program) {
+                    return platform.processRunner().startDetached({program, {}});
+                },
+            .terminate = [] { QCoreApplication::exit(); }};
+}
+
 void describeApplication() {
     QApplication::setApplicationName(QStringLiteral("vantle"));
     QApplication::setApplicationDisplayName(QStringLiteral("Vantle"));
@@ -69,19 +108,28 @@ int run(bool startedAtLogin) {
                     .displayLost = stop});
     const SystemClock clock;
     ThreadQueue ioQueue(QStringLiteral("local.vantle.tracker-io"));
+    ThreadQueue autoSkillQueue{QLatin1String(AutoRules::ioQueueLabel)};
+    AppInstaller installer(platform->preferences(), platform->fileSystem(), thisProgram(*platform),
+                           installOperations(*platform));
     const AppPaths paths(platform->fileSystem(), platform->dataHome());
     AppDelegate app({.clock = clock,
                      .scheduler = scheduler,
                      .ioQueue = ioQueue,
+                     .autoSkillQueue = autoSkillQueue,
                      .paths = paths,
                      .preferences = platform->preferences(),
                      .idleSource = platform->idleSource(),
                      .screenPower = platform->screenPower(),
                      .hotKeyPort = platform->hotKeyPort(),
+                     .frontmostApp = platform->frontmostApp(),
+                     .processRunner = platform->processRunner(),
                      .reducedMotion = platform->reducedMotion(),
                      .autostart = platform->autostart(),
                      .trayItem = platform->trayItem(),
+                     .shortcutsTool = shortcutsTool(),
                      .calendar = &Calendar::current,
+                     .offerMoveToApplications =
+                         [&installer] { return installer.offerMoveToApplicationsIfNeeded(); },
                      .terminate = [] { QCoreApplication::quit(); },
                      .alertAlreadyRunning = alertAlreadyRunning,
                      .startedAtLogin = startedAtLogin});

@@ -3,12 +3,17 @@
 #include "platform/dbus/ApplicationService.h"
 #include "platform/dbus/DesktopReducedMotion.h"
 #include "platform/dbus/SessionScreenPower.h"
+#include "platform/desktop/ApplicationEntry.h"
+#include "platform/desktop/DesktopApplications.h"
 #include "platform/desktop/DesktopAutostart.h"
 #include "platform/desktop/DesktopTrayItem.h"
+#include "platform/desktop/FileManager.h"
 #include "platform/desktop/SettingsPreferences.h"
 #include "platform/posix/PosixFileSystem.h"
+#include "platform/posix/PosixProcessRunner.h"
 #include "platform/posix/TerminationSignals.h"
 #include "platform/x11/X11Connection.h"
+#include "platform/x11/X11FrontmostApp.h"
 #include "platform/x11/X11HotKey.h"
 #include "platform/x11/X11IdleSource.h"
 #include "platform/x11/X11ScreenPower.h"
@@ -17,6 +22,7 @@
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDir>
+#include <QLocale>
 
 namespace vantle {
 
@@ -49,6 +55,10 @@ public:
         , m_idleSource(m_x11)
         , m_screenPower(makeScreenPower(m_x11, scheduler, m_session))
         , m_hotKey(m_x11, scheduler)
+        , m_applications(DesktopApplications::standardFolders(),
+                         ApplicationEntry::localeNames(QLocale::system()))
+        , m_frontmostApp(
+              m_x11, [this](const WindowHints& hints) { return m_applications.identify(hints); })
         , m_reducedMotion(m_session, configHome())
         , m_autostart(m_files,
                       configHome() + QStringLiteral("/autostart/local.vantle.Vantle.desktop"),
@@ -69,12 +79,18 @@ public:
     [[nodiscard]] IdleSource& idleSource() override { return m_idleSource; }
     [[nodiscard]] ScreenPower& screenPower() override { return *m_screenPower; }
     [[nodiscard]] HotKeyPort& hotKeyPort() override { return m_hotKey; }
+    [[nodiscard]] FrontmostApp& frontmostApp() override { return m_frontmostApp; }
+    [[nodiscard]] ProcessRunner& processRunner() override { return m_processRunner; }
     [[nodiscard]] ReducedMotion& reducedMotion() override { return m_reducedMotion; }
     [[nodiscard]] Autostart& autostart() override { return m_autostart; }
     [[nodiscard]] TrayItem& trayItem() override { return m_trayItem; }
     [[nodiscard]] QString dataHome() const override {
         return xdgDirectory("XDG_DATA_HOME", QStringLiteral("/.local/share"));
     }
+    [[nodiscard]] Result<> moveToTrash(const QString& path) override {
+        return filemanager::moveToTrash(path);
+    }
+    void reveal(const QString& path) override { filemanager::reveal(m_session, path); }
     void listen() override {
         // Without the name nobody can reach this copy over the bus; all else works.
         (void)m_service.start();
@@ -89,6 +105,9 @@ private:
     X11IdleSource m_idleSource;
     std::unique_ptr<ScreenPower> m_screenPower;
     X11HotKey m_hotKey;
+    DesktopApplications m_applications;
+    X11FrontmostApp m_frontmostApp;
+    PosixProcessRunner m_processRunner;
     DesktopReducedMotion m_reducedMotion;
     DesktopAutostart m_autostart;
     DesktopTrayItem m_trayItem;

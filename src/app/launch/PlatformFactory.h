@@ -8,6 +8,7 @@
 #include "platform/HotKeyPort.h"
 #include "platform/IdleSource.h"
 #include "platform/Preferences.h"
+#include "platform/ProcessRunner.h"
 #include "platform/ReducedMotion.h"
 #include "platform/ScreenPower.h"
 #include "platform/TrayItem.h"
@@ -37,12 +38,19 @@ public:
     [[nodiscard]] virtual IdleSource& idleSource() = 0;
     [[nodiscard]] virtual ScreenPower& screenPower() = 0;
     [[nodiscard]] virtual HotKeyPort& hotKeyPort() = 0;
+    [[nodiscard]] virtual FrontmostApp& frontmostApp() = 0;
+    [[nodiscard]] virtual ProcessRunner& processRunner() = 0;
     [[nodiscard]] virtual ReducedMotion& reducedMotion() = 0;
     [[nodiscard]] virtual Autostart& autostart() = 0;
     [[nodiscard]] virtual TrayItem& trayItem() = 0;
 
     /// The directory under which the support directory lies.
     [[nodiscard]] virtual QString dataHome() const = 0;
+
+    /// Puts a file into the person's trash. Blocks.
+    [[nodiscard]] virtual Result<> moveToTrash(const QString& path) = 0;
+    /// Shows the file in the person's file manager, if there is one.
+    virtual void reveal(const QString& path) = 0;
 
     /// Answers other copies and the desktop from now on. Only the copy that holds the data does.
     virtual void listen() = 0;
