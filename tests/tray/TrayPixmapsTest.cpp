@@ -21,7 +21,7 @@ TEST(TrayPixmaps, PixelsAreAlphaRedGreenBlue) {
     ASSERT_EQ(pixmaps.size(), 1);
     EXPECT_EQ(pixmaps[0].width, 16);
     EXPECT_EQ(pixmaps[0].height, 16);
-    EXPECT_EQ(pixmaps[0].argb, QByteArray::fromHex("ff112233").repeated(16 * 16));
+    EXPECT_EQ(pixmaps[0].argb, QByteArray::fromHex("ff112233").repeated(256));
 }
 
 TEST(TrayPixmaps, ColoursAreNotDarkenedByTheirAlpha) {
@@ -35,7 +35,7 @@ TEST(TrayPixmaps, RowsComeFromTheTop) {
     QPainter(&pixmap).fillRect(0, 0, 16, 1, Qt::red);
     const auto pixmaps = trayPixmaps(QIcon(pixmap));
     EXPECT_EQ(pixmaps.at(0).argb, QByteArray::fromHex("ffff0000").repeated(16) +
-                                      QByteArray::fromHex("ff0000ff").repeated(16 * 15));
+                                      QByteArray::fromHex("ff0000ff").repeated(240));
 }
 
 TEST(TrayPixmaps, AllSizesOfTraysThatTheImageHasAreThere) {

@@ -20,12 +20,10 @@ public:
         , m_service(service) {}
 
 public Q_SLOTS:
-    // NOLINTBEGIN(readability-identifier-naming): names of the interface
     void Activate(const QVariantMap& platformData);
     void Open(const QStringList& uris, const QVariantMap& platformData);
     void ActivateAction(const QString& name, const QVariantList& parameter,
                         const QVariantMap& platformData);
-    // NOLINTEND(readability-identifier-naming)
 
 private:
     ApplicationService& m_service;
