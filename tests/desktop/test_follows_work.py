@@ -27,23 +27,53 @@ class FollowsWork(DesktopTest):
         self.desktop.open("xterm", "-class", window_class, "-T", title)
         wait_until(f"{title} in front", lambda: self.desktop.active_window_title() == title)
 
+    def stay(self, seconds):
+        """Works where the keyboard is: the pointer moves now and then."""
+        until = time.monotonic() + seconds
+        while time.monotonic() < until:
+            self.desktop.nudge_pointer()
+            time.sleep(0.5)
+
     def test_a_while_in_a_known_application_files_the_rest_under_its_skill(self):
         self.install_application("gimp")
         self.launch()
         self.open_in_front("XTerm", "a terminal")
         self.begin_session()
         self.open_in_front("Painter", "a painting")
-        stayed_from = time.monotonic()
-        # Somebody works there: the pointer moves now and then.
-        while not self.vantle.sessions() and time.monotonic() - stayed_from < DWELL + 20:
-            self.desktop.nudge_pointer()
-            time.sleep(1)
-        self.assertGreater(time.monotonic() - stayed_from, DWELL - 2)
+        self.stay(DWELL - 5)
+        self.assertEqual(self.vantle.sessions(), [])
+        self.stay(10)
+        wait_until("the split", self.vantle.sessions)
         record, = self.vantle.sessions()
         marker = wait_until("the session goes on", self.vantle.marker)
         self.assertEqual(record["skillId"], FIRST_SKILL)
         self.assertEqual(marker["skillId"], "product_design")
         self.assertEqual(marker["startedAt"], record["endedAt"], "nothing is lost at the seam")
+
+    def test_a_short_trip_elsewhere_keeps_what_was_banked(self):
+        self.install_application("gimp")
+        self.launch()
+        self.open_in_front("XTerm", "a terminal")
+        self.begin_session()
+        self.open_in_front("Painter", "a painting")
+        self.stay(30)
+        self.desktop.tool("xdotool", "search", "--name", "a terminal", "windowactivate")
+        self.stay(3)
+        self.assertEqual(self.vantle.sessions(), [])
+        self.desktop.tool("xdotool", "search", "--name", "a painting", "windowactivate")
+        self.stay(DWELL - 30 + 5)  # with what the first stay put by, this is enough
+        wait_until("the split", self.vantle.sessions)
+        self.assertEqual(self.vantle.marker()["skillId"], "product_design")
+
+    def test_two_minutes_in_a_known_application_start_a_session_where_that_is_wanted(self):
+        self.install_application("gimp")
+        self.vantle.write_preferences(auto__autostart="true")
+        self.launch()
+        self.open_in_front("Painter", "a painting")
+        self.stay(110)
+        self.assertIsNone(self.vantle.marker())
+        self.stay(15)
+        self.assertEqual(wait_until("a session", self.vantle.marker)["skillId"], "product_design")
 
     def test_the_persons_shortcuts_run_at_both_ends(self):
         shortcuts = Path(self.desktop.env["XDG_CONFIG_HOME"], "Vantle", "shortcuts")

@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <random>
 
 namespace vantle::tests {
 namespace {
@@ -272,6 +273,48 @@ TEST_F(AppDelegateTest, WorkInAnotherKnownApplicationSplitsTheSession) {
     EXPECT_EQ(log().front().skillId, text("building"));
     EXPECT_EQ(app->model()->tracker().currentSkillId(), text("product_design"));
     EXPECT_EQ(log().front().endedAt, app->model()->tracker().startedAt());
+}
+
+TEST_F(AppDelegateTest, HoweverAutoModeSplitsASessionNoSecondIsLost) {
+    const std::vector<Application> applications = {
+        {text("com.figma.Desktop"), text("Figma")},
+        {text("com.apple.dt.Xcode"), text("Xcode")},
+        {text("com.tinyspeck.slackmacgap"), text("Slack")},
+        {text("org.example.Unknown"), text("Unknown")}};
+    std::mt19937 random(20260301);
+    const auto pick = [&](int count) {
+        return std::uniform_int_distribution(0, count - 1)(random);
+    };
+    const auto app = makeCopy();
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    time.settle();
+    idleSource.fix(0);
+    std::size_t splits = 0;
+    for (int life = 0; life < 40; ++life) {
+        const auto before = log().size();
+        app->performAction(text("toggle"));
+        double elapsed = 0;
+        for (int step = 0; step < 30; ++step) {
+            if (pick(4) == 0) preferences.setBoolean(text("auto.enabled"), pick(4) != 0);
+            frontmostApp.activate(applications[static_cast<std::size_t>(pick(4))]);
+            const double stay = 1 + pick(90);
+            time.advance(stay);
+            elapsed += stay;
+        }
+        app->performAction(text("toggle"));
+        const auto sessions = log();
+        std::int64_t counted = 0;
+        for (std::size_t i = before; i < sessions.size(); ++i) {
+            counted += sessions[i].activeSeconds;
+            if (i > before) {
+                EXPECT_EQ(sessions[i].startedAt, sessions[i - 1].endedAt);
+                EXPECT_NE(sessions[i].skillId, sessions[i - 1].skillId);
+            }
+        }
+        EXPECT_EQ(static_cast<double>(counted), elapsed) << "life " << life;
+        splits += sessions.size() - before - 1;
+    }
+    EXPECT_GT(splits, 40u); // or nothing was tried
 }
 
 TEST_F(AppDelegateTest, ThePersonsShortcutsRunAtBothEndsOfASession) {
