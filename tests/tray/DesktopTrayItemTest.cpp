@@ -98,6 +98,8 @@ TEST_F(DesktopTrayItemTest, DarkTemplateIsWhiteOnADarkBar) {
 
 TEST_F(DesktopTrayItemTest, TrayThatComesLaterShowsIt) {
     m_item->setImage(m_red, false);
+    // The toolkit may hear only now that the tray of the test before has gone.
+    ASSERT_TRUE(await([&] { return !m_item->isShown(); }));
     tests::runFor(200);
     EXPECT_FALSE(m_item->isShown());
     EXPECT_TRUE(m_item->geometry().isEmpty());
