@@ -43,7 +43,8 @@ QByteArray bytes(const xcb_get_property_reply_t* property) {
 /// A text that may be closed by a zero byte.
 QString text(const xcb_get_property_reply_t* property) {
     const QByteArray all = bytes(property);
-    return QString::fromUtf8(all.constData(), qstrnlen(all.constData(), all.size())).trimmed();
+    const qsizetype end = all.indexOf('\0');
+    return QString::fromUtf8(end < 0 ? all : all.first(end)).trimmed();
 }
 
 } // namespace
