@@ -135,9 +135,9 @@ bool TrackerCore::applyBackfill(int minutes) {
         return false;
     const double elapsed = (m_env.clock.now() - *m_startedAt).count() / 60.0;
     // The whole stretch from the new start up to now must have been active.
-    const auto asked = std::clamp<std::int64_t>(truncatedToInteger(std::ceil(elapsed) + minutes),
-                                                std::numeric_limits<int>::min(),
-                                                std::numeric_limits<int>::max());
+    const auto asked =
+        std::clamp<std::int64_t>(truncatedToInteger(std::ceil(elapsed) + minutes),
+                                 std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     if (!m_idleMonitor || !m_idleMonitor->wasActiveForLast(static_cast<int>(asked))) return false;
     setStartedAt(*m_startedAt - minutesAsSeconds(minutes));
     m_accumulatedSeconds += minutesAsSeconds(minutes).count();
