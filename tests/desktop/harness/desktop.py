@@ -23,15 +23,14 @@ class Desktop:
     its home and all XDG directories and goes with it; screenshots go to `pictures`, which stays.
     """
 
-    def __init__(self, pictures, tray=True):
+    def __init__(self, pictures, tray=True, compositor=False):
         self.pictures = Path(pictures)
         self.env = {}
-        self._tray = tray
+        self._options = ["--tray"] * tray + ["--compositor"] * compositor
         self._holder = None
 
     def start(self):
-        options = ["--tray"] if self._tray else []
-        self._holder = subprocess.Popen([WITH_DESKTOP, *options, "--", *HOLDER],
+        self._holder = subprocess.Popen([WITH_DESKTOP, *self._options, "--", *HOLDER],
                                         stdin=subprocess.PIPE, stdout=subprocess.PIPE)
         answer = b""
         while not answer.endswith(b"\0\n"):
