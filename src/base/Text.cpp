@@ -6,9 +6,11 @@
 #include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
+#include <unicode/ustring.h>
 #include <unicode/utext.h>
 #include <unicode/utf16.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace vantle::text {
@@ -34,7 +36,47 @@ icu::BreakIterator& characterIterator() {
     return *iterator;
 }
 
-bool isWhiteSpace(char32_t scalar) { return u_isUWhiteSpace(static_cast<UChar32>(scalar)); }
+bool isWhiteSpace(char32_t scalar) {
+    // Most text is ASCII, and a blank the only white space in it.
+    if (scalar > U' ' && scalar < U'\x7F') return false;
+    return u_isUWhiteSpace(static_cast<UChar32>(scalar));
+}
+
+constexpr uint32_t kLetters = U_GC_L_MASK;
+constexpr uint32_t kLettersAndNumbers = U_GC_L_MASK | U_GC_N_MASK;
+constexpr uint32_t kWordCategories = U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK;
+
+bool isInWord(char32_t scalar) {
+    if (scalar < 0x80) {
+        const char32_t lower = scalar | 0x20;
+        return (lower >= U'a' && lower <= U'z') || (scalar >= U'0' && scalar <= U'9');
+    }
+    return (U_GET_GC_MASK(static_cast<UChar32>(scalar)) & kWordCategories) != 0;
+}
+
+UChar32 firstScalar(QStringView character) {
+    UChar32 scalar = 0;
+    if (!character.isEmpty()) U16_GET(character.utf16(), 0, 0, character.size(), scalar);
+    return scalar;
+}
+
+/// Whether every unit is a character of its own: nothing in it joins, and no line ends with CR LF.
+bool unitsAreCharacters(QStringView text) {
+    constexpr char16_t kFirstMark = 0x300;
+    return std::ranges::all_of(
+        text, [](QChar unit) { return unit.unicode() < kFirstMark && unit != QLatin1Char('\r'); });
+}
+
+/// Whether `text` has no white space but single blanks between pieces.
+bool hasSingleBlanks(QStringView text) {
+    bool afterPiece = false;
+    for (const QChar unit : text) {
+        const bool gap = isWhiteSpace(unit.unicode()); // no surrogate is, nor any pair of them
+        if (gap && (unit != QLatin1Char(' ') || !afterPiece)) return false;
+        afterPiece = !gap;
+    }
+    return afterPiece || text.isEmpty();
+}
 
 /// Calls `visit(begin, end, scalar)` for each scalar; a lone surrogate counts as one.
 template <typename Visit>
@@ -69,7 +111,9 @@ QList<qsizetype> characterBoundaries(QStringView text) {
     return bounds;
 }
 
-qsizetype characterCount(QStringView text) { return characterBoundaries(text).size() - 1; }
+qsizetype characterCount(QStringView text) {
+    return unitsAreCharacters(text) ? text.size() : characterBoundaries(text).size() - 1;
+}
 
 bool hasAtMost(QStringView text, qsizetype limit) {
     // A character has at least one unit, so few units settle it without looking.
@@ -94,6 +138,7 @@ QString trimmed(const QString& text) {
 }
 
 QString withSingleBlanks(const QString& text) {
+    if (hasSingleBlanks(text)) return text;
     QString result;
     bool gap = false;
     forEachScalar(text, [&](qsizetype from, qsizetype to, char32_t scalar) {
@@ -142,12 +187,47 @@ QString capitalizedWords(const QString& text) {
     return words.join(QLatin1Char(' '));
 }
 
+QString upperCased(const QString& text) {
+    icu::UnicodeString upper(text.utf16(), static_cast<int32_t>(text.size()));
+    upper.toUpper(icu::Locale::getRoot());
+    return fromIcu(upper);
+}
+
+bool isLetter(QStringView character) {
+    return (U_GET_GC_MASK(firstScalar(character)) & kLetters) != 0;
+}
+
 bool isLetterOrNumber(QStringView character) {
-    if (character.isEmpty()) return false;
-    UChar32 scalar = 0;
-    U16_GET(character.utf16(), 0, 0, character.size(), scalar);
-    constexpr uint32_t kLettersAndNumbers = U_GC_L_MASK | U_GC_N_MASK;
-    return (U_GET_GC_MASK(scalar) & kLettersAndNumbers) != 0;
+    return (U_GET_GC_MASK(firstScalar(character)) & kLettersAndNumbers) != 0;
+}
+
+bool isNumeric(QStringView character) {
+    return u_getIntPropertyValue(firstScalar(character), UCHAR_NUMERIC_TYPE) != U_NT_NONE;
+}
+
+QStringView takeWord(QStringView& rest) {
+    const char16_t* const units = rest.utf16();
+    const qsizetype length = rest.size();
+    qsizetype begin = -1;
+    qsizetype at = 0;
+    while (at < length) {
+        const qsizetype before = at;
+        UChar32 scalar = 0;
+        U16_NEXT(units, at, length, scalar);
+        if (isInWord(static_cast<char32_t>(scalar))) {
+            if (begin < 0) begin = before;
+        } else if (begin >= 0) {
+            rest = rest.sliced(at);
+            return {units + begin, before - begin};
+        }
+    }
+    rest = rest.last(0);
+    return begin < 0 ? QStringView() : QStringView(units + begin, length - begin);
+}
+
+bool codePointLess(QStringView left, QStringView right) {
+    return u_strCompare(left.utf16(), static_cast<int32_t>(left.size()), right.utf16(),
+                        static_cast<int32_t>(right.size()), true) < 0;
 }
 
 } // namespace vantle::text

@@ -27,7 +27,7 @@ namespace vantle::text {
 [[nodiscard]] QString trimmed(const QString& text);
 
 /// The pieces of `text` between runs of white space and newlines, without empty ones, joined by
-/// one blank.
+/// one blank. The text itself, without a copy, where that is what it is already.
 [[nodiscard]] QString withSingleBlanks(const QString& text);
 
 /// The form under which texts that differ only in case and diacritics are the same.
@@ -40,8 +40,24 @@ namespace vantle::text {
 /// rest in lower case.
 [[nodiscard]] QString capitalizedWords(const QString& text);
 
-/// What the first scalar of a user-perceived character says it is.
+/// Full upper-casing, independent of the locale.
+[[nodiscard]] QString upperCased(const QString& text);
+
+/// What the first scalar of a user-perceived character says it is: by its general category.
+[[nodiscard]] bool isLetter(QStringView character);
 [[nodiscard]] bool isLetterOrNumber(QStringView character);
+
+/// Whether the first scalar of a user-perceived character has a numeric value: digits of every
+/// script, fractions, and the ideographs that numbers are written with.
+[[nodiscard]] bool isNumeric(QStringView character);
+
+/// Takes the first run of letters, marks and numbers off the front of `rest`, along with what
+/// stands before it. Empty when none is left. Marks are of the run, so a letter keeps its accent.
+[[nodiscard]] QStringView takeWord(QStringView& rest);
+
+/// Whether `left` comes before `right` by code points. Plain `<` goes by UTF-16 units, and sorts
+/// characters beyond the first plane before some within it.
+[[nodiscard]] bool codePointLess(QStringView left, QStringView right);
 
 /// The boundaries of the user-perceived characters of `text`, from 0 to its length.
 [[nodiscard]] QList<qsizetype> characterBoundaries(QStringView text);

@@ -78,6 +78,9 @@ TEST(Text, PutsSingleBlanksBetweenPieces) {
               QStringLiteral("a b c"));
     EXPECT_EQ(withSingleBlanks(QStringLiteral(" \n ")), QString());
     EXPECT_EQ(withSingleBlanks(QStringLiteral("a")), QStringLiteral("a"));
+    EXPECT_EQ(withSingleBlanks(QStringLiteral("a\u00A0b")), QStringLiteral("a b"));
+    EXPECT_EQ(withSingleBlanks(QStringLiteral("a b ")), QStringLiteral("a b"));
+    EXPECT_EQ(withSingleBlanks(QStringLiteral(" a")), QStringLiteral("a"));
     EXPECT_EQ(withSingleBlanks(kBrick + QStringLiteral("  ") + kFamily),
               kBrick + QLatin1Char(' ') + kFamily);
 }
@@ -129,6 +132,72 @@ TEST(Text, TellsLettersAndNumbersByTheirFirstScalar) {
          {QString(), QStringLiteral("_"), QStringLiteral("-"), QStringLiteral(" "), kBrick, kFamily,
           QStringLiteral("\u0301"), loneSurrogate()})
         EXPECT_FALSE(isLetterOrNumber(character)) << character.toStdString();
+}
+
+TEST(Text, TextThatHasSingleBlanksAlreadyIsNotCopied) {
+    const QString clean = QStringLiteral("fixed the ") + kBrick;
+    EXPECT_EQ(withSingleBlanks(clean).constData(), clean.constData());
+}
+
+TEST(Text, UpperCasesWithoutALocale) {
+    EXPECT_EQ(upperCased(QStringLiteral("istanbul")), QStringLiteral("ISTANBUL"));
+    EXPECT_EQ(upperCased(QStringLiteral("stra\u00DFe")), QStringLiteral("STRASSE"));
+    EXPECT_EQ(upperCased(QStringLiteral("\u03BF\u03C2")), QStringLiteral("\u039F\u03A3"));
+    EXPECT_EQ(upperCased(QString()), QString());
+}
+
+TEST(Text, TellsLettersApartFromNumbersAndMarks) {
+    EXPECT_TRUE(isLetter(u"a"));
+    EXPECT_TRUE(isLetter(kEAcute));
+    EXPECT_TRUE(isLetter(u"\u6F22"));
+    EXPECT_FALSE(isLetter(u"7"));
+    EXPECT_FALSE(isLetter(u"\u2164")) << "a Roman numeral";
+    EXPECT_FALSE(isLetter(u"\u0301"));
+    EXPECT_FALSE(isLetter(u""));
+}
+
+TEST(Text, TellsWhatHasANumericValue) {
+    EXPECT_TRUE(isNumeric(u"7"));
+    EXPECT_TRUE(isNumeric(u"\u00B2"));
+    EXPECT_TRUE(isNumeric(u"\u0663"));
+    EXPECT_TRUE(isNumeric(u"\u2164"));
+    EXPECT_TRUE(isNumeric(u"\u4E09")) << "the ideograph for three";
+    EXPECT_FALSE(isNumeric(u"x"));
+    EXPECT_FALSE(isNumeric(u"\u6F22"));
+    EXPECT_FALSE(isNumeric(u""));
+}
+
+QStringList words(const QString& text) {
+    QStringList found;
+    QStringView rest = text;
+    for (QStringView word = takeWord(rest); !word.isEmpty(); word = takeWord(rest))
+        found += word.toString();
+    EXPECT_TRUE(rest.isEmpty());
+    return found;
+}
+
+TEST(Text, TakesWordsOfLettersMarksAndNumbers) {
+    EXPECT_EQ(words(QStringLiteral(" don't ship v2/API_x!")),
+              (QStringList{QStringLiteral("don"), QStringLiteral("t"), QStringLiteral("ship"),
+                           QStringLiteral("v2"), QStringLiteral("API"), QStringLiteral("x")}));
+    EXPECT_EQ(words(QStringLiteral("a") + kBrick + QStringLiteral("b")),
+              (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
+    EXPECT_EQ(words(kEAcute + QStringLiteral("t") + kEAcute),
+              QStringList{kEAcute + QStringLiteral("t") + kEAcute});
+    EXPECT_EQ(words(QStringLiteral("\u6771\u4EAC\u3001\U00020BB7")),
+              (QStringList{QStringLiteral("\u6771\u4EAC"), QStringLiteral("\U00020BB7")}));
+    EXPECT_EQ(words(loneSurrogate() + QLatin1Char('a')), QStringList{QStringLiteral("a")});
+    EXPECT_EQ(words(QStringLiteral(" .. ")), QStringList());
+    EXPECT_EQ(words(QString()), QStringList());
+}
+
+TEST(Text, OrdersByCodePointsAlsoBeyondTheFirstPlane) {
+    EXPECT_TRUE(codePointLess(u"a", u"b"));
+    EXPECT_TRUE(codePointLess(u"a", u"ab"));
+    EXPECT_TRUE(codePointLess(u"Z", u"a"));
+    EXPECT_FALSE(codePointLess(u"a", u"a"));
+    EXPECT_TRUE(codePointLess(u"\uFF21", u"\U00020BB7"));
+    EXPECT_FALSE(codePointLess(u"\U00020BB7", u"\uFF21"));
 }
 
 TEST(Text, VisitsEachCharacterInOrder) {
