@@ -1,0 +1,113 @@
+#include "review/stats/NoteThemes.h"
+
+#include "base/Text.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <vector>
+
+namespace vantle {
+
+namespace {
+
+constexpr qsizetype kFewestCharacters = 3;
+constexpr qsizetype kLongestAcronym = 6;
+
+/// Words that say nothing of the work, since every note has some of them.
+bool isStopWord(QStringView key) {
+    static const QSet<QStringView> words = {
+        u"about",   u"after", u"again",  u"also",   u"been",    u"before", u"being",   u"build",
+        u"building", u"could", u"did",   u"does",   u"doing",   u"done",   u"from",    u"getting",
+        u"going",   u"good",  u"have",   u"into",   u"just",    u"like",   u"made",    u"make",
+        u"more",    u"need",  u"next",   u"only",   u"other",   u"over",   u"really",  u"session",
+        u"some",    u"still", u"than",   u"that",   u"the",     u"their",  u"them",    u"then",
+        u"there",   u"these", u"they",   u"thing",  u"this",    u"those",  u"through", u"today",
+        u"very",    u"want",  u"was",    u"were",   u"what",    u"when",   u"where",   u"which",
+        u"while",   u"will",  u"with",   u"work",   u"worked",  u"working", u"would",  u"your"};
+    return words.contains(key);
+}
+
+bool isAscii(QStringView text) {
+    return std::ranges::all_of(text, [](QChar unit) { return unit.unicode() < 0x80; });
+}
+
+char16_t asciiLower(char16_t unit) {
+    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit | 0x20) : unit;
+}
+
+template <typename Holds>
+bool allCharacters(const QString& text, Holds holds) {
+    bool all = true;
+    text::forEachCharacter(text, [&](QStringView character) { all = all && holds(character); });
+    return all;
+}
+
+bool countsAsTheme(const QString& key) {
+    return !text::hasAtMost(key, kFewestCharacters - 1) && !isStopWord(key) &&
+           !allCharacters(key, text::isNumeric);
+}
+
+bool isAcronym(const QString& piece) {
+    return text::hasAtMost(piece, kLongestAcronym) && piece == text::upperCased(piece) &&
+           !allCharacters(piece, [](QStringView character) { return !text::isLetter(character); });
+}
+
+} // namespace
+
+void NoteThemes::addNote(QStringView note) {
+    for (QStringView word = text::takeWord(note); !word.isEmpty(); word = text::takeWord(note))
+        addWord(word);
+    ++m_note;
+}
+
+void NoteThemes::addWord(QStringView piece) {
+    // A character has at least one unit, so this settles the shortest without a look.
+    if (piece.size() < kFewestCharacters && isAscii(piece)) return;
+    Word& word = entryFor(lowerCased(piece), piece);
+    if (word.lastNote == m_note) return;
+    word.lastNote = m_note;
+    ++word.noteCount;
+}
+
+QStringView NoteThemes::lowerCased(QStringView piece) {
+    if (!isAscii(piece)) return m_key = text::lowerCased(piece.toString());
+    m_key.resize(piece.size());
+    std::ranges::transform(piece, m_key.begin(),
+                           [](QChar unit) { return QChar(asciiLower(unit.unicode())); });
+    return m_key;
+}
+
+NoteThemes::Word& NoteThemes::entryFor(QStringView key, QStringView piece) {
+    if (Word* const known = m_index.value(key)) return *known;
+    Word& word = m_words.emplace_back();
+    word.key = key.toString();
+    word.firstNote = m_note;
+    if (countsAsTheme(word.key)) {
+        const QString written = piece.toString();
+        word.display = isAcronym(written) ? written : word.key;
+    }
+    m_index.insert(word.key, &word);
+    return word;
+}
+
+bool NoteThemes::comesBefore(const Word& left, const Word& right) {
+    if (left.noteCount != right.noteCount) return left.noteCount > right.noteCount;
+    if (left.firstNote != right.firstNote) return left.firstNote < right.firstNote;
+    return text::codePointLess(left.key, right.key);
+}
+
+QStringList NoteThemes::mostFrequent(std::size_t limit) const {
+    std::vector<const Word*> returning;
+    for (const Word& word : m_words)
+        if (word.noteCount > 1 && !word.display.isEmpty()) returning.push_back(&word);
+    const auto end = returning.begin() +
+                     static_cast<std::ptrdiff_t>(std::min(limit, returning.size()));
+    std::partial_sort(returning.begin(), end, returning.end(),
+                      [](const Word* left, const Word* right) { return comesBefore(*left, *right); });
+    QStringList themes;
+    std::for_each(returning.begin(), end, [&](const Word* word) { themes += word->display; });
+    return themes;
+}
+
+} // namespace vantle
