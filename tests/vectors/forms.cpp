@@ -4,9 +4,9 @@ namespace vantle::vectors {
 
 const QList<Form>& allForms() {
     static const QList<Form> forms = QList<Form>(trackerForms())
-                                     << autoRulesForm() << durationsForm() << dwellEngineForm()
-                                     << idleMonitorForm() << recordsForm() << skillsForm()
-                                     << totalsForm() << weeksForm();
+                                     << autoRulesForm() << cardSlotForm() << durationsForm()
+                                     << dwellEngineForm() << idleMonitorForm() << recordsForm()
+                                     << skillsForm() << totalsForm() << weeksForm();
     return forms;
 }
 

@@ -6,6 +6,7 @@
 namespace vantle::vectors {
 
 [[nodiscard]] Form autoRulesForm();
+[[nodiscard]] Form cardSlotForm();
 [[nodiscard]] Form durationsForm();
 [[nodiscard]] Form dwellEngineForm();
 [[nodiscard]] Form idleMonitorForm();
