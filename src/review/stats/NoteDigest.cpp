@@ -56,8 +56,8 @@ std::vector<WrappedNoteDigest::Highlight> highlightsOf(const std::vector<Note>& 
         const QString key = text::lowerCased(text);
         if (shown.contains(key)) continue;
         shown += key;
-        highlights.push_back({session->id, text, SkillList::display(session->skillId, skills),
-                              session->endedAt});
+        highlights.push_back(
+            {session->id, text, SkillList::display(session->skillId, skills), session->endedAt});
     }
     return highlights;
 }

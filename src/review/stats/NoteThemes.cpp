@@ -17,14 +17,14 @@ constexpr qsizetype kLongestAcronym = 6;
 /// Words that say nothing of the work, since every note has some of them.
 bool isStopWord(QStringView key) {
     static const QSet<QStringView> words = {
-        u"about",   u"after", u"again",  u"also",   u"been",    u"before", u"being",   u"build",
-        u"building", u"could", u"did",   u"does",   u"doing",   u"done",   u"from",    u"getting",
-        u"going",   u"good",  u"have",   u"into",   u"just",    u"like",   u"made",    u"make",
-        u"more",    u"need",  u"next",   u"only",   u"other",   u"over",   u"really",  u"session",
-        u"some",    u"still", u"than",   u"that",   u"the",     u"their",  u"them",    u"then",
-        u"there",   u"these", u"they",   u"thing",  u"this",    u"those",  u"through", u"today",
-        u"very",    u"want",  u"was",    u"were",   u"what",    u"when",   u"where",   u"which",
-        u"while",   u"will",  u"with",   u"work",   u"worked",  u"working", u"would",  u"your"};
+        u"about",    u"after", u"again", u"also",  u"been",   u"before",  u"being",   u"build",
+        u"building", u"could", u"did",   u"does",  u"doing",  u"done",    u"from",    u"getting",
+        u"going",    u"good",  u"have",  u"into",  u"just",   u"like",    u"made",    u"make",
+        u"more",     u"need",  u"next",  u"only",  u"other",  u"over",    u"really",  u"session",
+        u"some",     u"still", u"than",  u"that",  u"the",    u"their",   u"them",    u"then",
+        u"there",    u"these", u"they",  u"thing", u"this",   u"those",   u"through", u"today",
+        u"very",     u"want",  u"was",   u"were",  u"what",   u"when",    u"where",   u"which",
+        u"while",    u"will",  u"with",  u"work",  u"worked", u"working", u"would",   u"your"};
     return words.contains(key);
 }
 
@@ -63,7 +63,7 @@ void NoteThemes::addNote(QStringView note) {
 
 void NoteThemes::addWord(QStringView piece) {
     // A character has at least one unit, so this settles the shortest without a look.
-    if (piece.size() < kFewestCharacters && isAscii(piece)) return;
+    if (piece.size() < kFewestCharacters) return;
     Word& word = entryFor(lowerCased(piece), piece);
     if (word.lastNote == m_note) return;
     word.lastNote = m_note;
@@ -101,10 +101,11 @@ QStringList NoteThemes::mostFrequent(std::size_t limit) const {
     std::vector<const Word*> returning;
     for (const Word& word : m_words)
         if (word.noteCount > 1 && !word.display.isEmpty()) returning.push_back(&word);
-    const auto end = returning.begin() +
-                     static_cast<std::ptrdiff_t>(std::min(limit, returning.size()));
-    std::partial_sort(returning.begin(), end, returning.end(),
-                      [](const Word* left, const Word* right) { return comesBefore(*left, *right); });
+    const auto end =
+        returning.begin() + static_cast<std::ptrdiff_t>(std::min(limit, returning.size()));
+    std::partial_sort(
+        returning.begin(), end, returning.end(),
+        [](const Word* left, const Word* right) { return comesBefore(*left, *right); });
     QStringList themes;
     std::for_each(returning.begin(), end, [&](const Word* word) { themes += word->display; });
     return themes;

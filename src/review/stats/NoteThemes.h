@@ -16,13 +16,17 @@ namespace vantle {
 /// of the words that every note has ("the", "today", "working", ...).
 class NoteThemes {
 public:
+    NoteThemes() = default;
+    NoteThemes(const NoteThemes&) = delete; // its index points into it
+    NoteThemes& operator=(const NoteThemes&) = delete;
+
     /// Counts each word of the note once, however often it stands there.
     void addNote(QStringView note);
 
     /// The words that stand in two notes or more, at most `limit` of them, as they are shown: the
-    /// most frequent first, of those the one that is in the newer note, of those the smaller by code
-    /// points. A word is shown in lower case, unless it was met first as an acronym, at most six
-    /// characters all in upper case.
+    /// most frequent first, of those the one that is in the newer note, of those the smaller by
+    /// code points. A word is shown in lower case, unless it was met first as an acronym, at most
+    /// six characters all in upper case.
     [[nodiscard]] QStringList mostFrequent(std::size_t limit) const;
 
 private:
@@ -39,10 +43,10 @@ private:
     [[nodiscard]] Word& entryFor(QStringView key, QStringView piece);
     [[nodiscard]] static bool comesBefore(const Word& left, const Word& right);
 
-    int m_note = 0;                  ///< the position of the note being counted
-    std::deque<Word> m_words;        ///< stays in place, since the keys of the index point into it
+    int m_note = 0;           ///< the position of the note being counted
+    std::deque<Word> m_words; ///< stays in place, since the keys of the index point into it
     QHash<QStringView, Word*> m_index; ///< by key
-    QString m_key;                   ///< the word at hand; kept to save its memory being made anew
+    QString m_key; ///< the word at hand; kept to save its memory being made anew
 };
 
 } // namespace vantle
