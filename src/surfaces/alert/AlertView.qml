@@ -26,32 +26,18 @@ Rectangle {
         width: parent.width - 2 * DarkUI.space20
         spacing: DarkUI.space8
 
-        Text {
+        DarkText {
             width: parent.width
             text: view.model.message
-            color: DarkUI.textPrimary
+            role: DarkUI.cardTitle
             wrapMode: Text.Wrap
-            lineHeightMode: Text.FixedHeight
-            lineHeight: DarkUI.cardTitleLine
-            font.family: DarkUI.displayFamily
-            font.pixelSize: DarkUI.cardTitleSize
-            font.weight: Font.DemiBold
-            font.letterSpacing: DarkUI.titleTracking * DarkUI.cardTitleSize
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
         }
 
-        Text {
+        DarkText {
             width: parent.width
             text: view.model.informativeText
-            color: DarkUI.textSecondary
+            color: DarkUI.t2
             wrapMode: Text.Wrap
-            lineHeightMode: Text.FixedHeight
-            lineHeight: DarkUI.bodyLine
-            font.family: DarkUI.textFamily
-            font.pixelSize: DarkUI.bodySize
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
         }
     }
 

@@ -1,48 +1,442 @@
-// The tokens of the dark look: colours, type, space, shape and motion. No view has a number or a
-// colour of its own for any of these.
+// The tokens of the dark look: colours, type, space, shape, depth and motion. No view has a number
+// or a colour of its own for any of these. Lengths are device-independent pixels, times
+// milliseconds, tracking em.
+//
+// Chrome is white at low opacity. Only worked time gives light: dots, tiles, bars, a skill's colour.
+// The accent marks the one main action and the keyboard focus, nothing else.
 pragma Singleton
 import QtQuick
 
 QtObject {
-    // Grounds and text
+    // --- Grounds ---------------------------------------------------------------------------------
     readonly property color base: "#0A0A0F"
-    readonly property color ink: "#0A0A0F"
+    readonly property color ink: base // text on the accent and on full skill colours
+    readonly property color card: Qt.rgba(1, 1, 1, 0.06)
     readonly property color hairline: Qt.rgba(1, 1, 1, 0.08)
-    readonly property color cardFill: Qt.rgba(1, 1, 1, 0.06)
-    readonly property color cardFillHover: Qt.rgba(1, 1, 1, 0.10)
-    readonly property color cardFillPressed: Qt.rgba(1, 1, 1, 0.14)
-    readonly property color textPrimary: Qt.rgba(1, 1, 1, 0.95)
-    readonly property color textSecondary: Qt.rgba(1, 1, 1, 0.68)
+    readonly property color windowEdge: Qt.rgba(1, 1, 1, 0.09) // outside the window's ground
+    readonly property color capsule: "#000000"
+    readonly property color capsuleEdge: Qt.rgba(1, 1, 1, 0.06) // along the inside of its bottom
+    readonly property color menu: "#17171D"
+    readonly property color floating: Qt.rgba(10 / 255, 10 / 255, 15 / 255, 0.96)
+    readonly property color popover: Qt.rgba(10 / 255, 10 / 255, 15 / 255, 0.97)
+    readonly property color overBlur: Qt.rgba(10 / 255, 10 / 255, 15 / 255, 0.82)
 
-    // The one main action and the keyboard focus
+    // --- Fills: rest, hover, pressed -------------------------------------------------------------
+    readonly property color fill: card
+    readonly property color fillHover: Qt.rgba(1, 1, 1, 0.10)
+    readonly property color fillPressed: Qt.rgba(1, 1, 1, 0.14)
+    readonly property color fillDisabled: Qt.rgba(1, 1, 1, 0.08)
+    readonly property color clear: Qt.rgba(1, 1, 1, 0)
+    readonly property color quietHover: Qt.rgba(1, 1, 1, 0.08) // icon buttons, menu rows
+    readonly property color navHover: card // rows that lead somewhere
+    readonly property color rowHover: Qt.rgba(1, 1, 1, 0.05) // rows of a list
+    readonly property color stripHover: Qt.rgba(1, 1, 1, 0.10) // the window's two round buttons
+    readonly property color stepper: Qt.rgba(1, 1, 1, 0.08)
+    readonly property color segment: Qt.rgba(1, 1, 1, 0.14)
+    readonly property color trough: Qt.rgba(1, 1, 1, 0.08) // of bars
+    readonly property color sliderTrack: Qt.rgba(1, 1, 1, 0.10)
+    readonly property color scrollbar: Qt.rgba(1, 1, 1, 0.16)
+    readonly property color well: Qt.rgba(1, 1, 1, 0.05)
+    readonly property color wellFocused: Qt.rgba(1, 1, 1, 0.07)
+    readonly property color keycapEdge: Qt.rgba(1, 1, 1, 0.12)
+    readonly property color switchTrack: Qt.rgba(1, 1, 1, 0.14)
+    readonly property color switchEdge: Qt.rgba(1, 1, 1, 0.40)
+    readonly property color switchKnob: Qt.rgba(1, 1, 1, 0.92)
+    readonly property color knob: "#FFFFFF" // of a switch that is on, of a slider
+    readonly property color pageDot: Qt.rgba(1, 1, 1, 0.22)
+    readonly property color pageDotCurrent: Qt.rgba(1, 1, 1, 0.92)
+    readonly property color chosenRing: Qt.rgba(1, 1, 1, 0.95) // around the chosen swatch
+
+    // --- Text and icons --------------------------------------------------------------------------
+    readonly property color t1: Qt.rgba(1, 1, 1, 0.95) // what is read
+    readonly property color t2: Qt.rgba(1, 1, 1, 0.68) // what goes with it
+    readonly property color t3: Qt.rgba(1, 1, 1, 0.54) // what may be passed over
+    readonly property color t4: Qt.rgba(1, 1, 1, 0.32) // disabled and separators only
+    readonly property color textCaption: Qt.rgba(1, 1, 1, 0.62) // captions of settings
+    readonly property color capsuleName: Qt.rgba(1, 1, 1, 0.62)
+    readonly property color chipName: Qt.rgba(1, 1, 1, 0.90)
+    readonly property color iconQuiet: Qt.rgba(1, 1, 1, 0.54)
+    readonly property color iconStrip: Qt.rgba(1, 1, 1, 0.62)
+    readonly property color icon: Qt.rgba(1, 1, 1, 0.80)
+    readonly property color iconDisabled: Qt.rgba(1, 1, 1, 0.30)
+
+    // --- Accents ---------------------------------------------------------------------------------
     readonly property color accent: "#7A78FF"
     readonly property color accentHover: "#8E8CFF"
     readonly property color accentPressed: "#706EEE"
-    readonly property color focusRing: "#A3A1FF"
+    readonly property color accentText: "#A3A1FF"
+    readonly property color accentTextOnTint: "#B4B2FF"
+    readonly property color focusRing: accentText
+    readonly property color caret: accentText
+    readonly property color danger: "#FF6482"
+    readonly property color dangerText: "#FF8BA2" // on base
+    readonly property color dangerTextOnFill: "#FF9BAE"
+    readonly property color warning: "#FF9F0A"
+    readonly property color good: "#30D158"
+    readonly property color barToday: "#FF375F"
+    readonly property color barWeek: accent
+    readonly property color barAllTime: "#64D2FF"
 
-    // Type: families, sizes and line heights in px
-    readonly property string textFamily: "Inter"
-    readonly property string displayFamily: "Inter Display"
-    readonly property int bodySize: 13
-    readonly property int bodyLine: 20
-    readonly property int cardTitleSize: 17
-    readonly property int cardTitleLine: 22
-    readonly property real titleTracking: -0.010 // em
+    // Opacities of a colour: give them to Tint.alpha().
+    readonly property real dangerFill: 0.16
+    readonly property real dangerFillHover: 0.24
+    readonly property real dangerFillPressed: 0.32
+    readonly property real dangerEdge: 0.42
+    readonly property real tintFill: 0.18 // of a selected chip
+    readonly property real tintFillHover: 0.26
+    readonly property real tintFillPressed: 0.32
+    readonly property real popoverCommit: 0.60
+    readonly property real popoverCommitPressed: 0.95
+    readonly property real popoverCommitDisabled: 0.24
+    readonly property real bannerFill: 0.10
+    readonly property real bannerEdge: 0.30
+    readonly property real disabledOpacity: 0.45 // of a whole chip, switch or slider
 
-    // Space in px
+    // --- Type ------------------------------------------------------------------------------------
+    readonly property TypeRole heroReview: TypeRole {
+        family: Typeface.display
+        size: 116
+        line: 100
+        weight: Font.DemiBold
+        tracking: -0.020
+    }
+    readonly property TypeRole heroPoster: TypeRole {
+        family: Typeface.display
+        size: 84
+        line: 72
+        weight: Font.DemiBold
+        tracking: -0.020
+    }
+    readonly property TypeRole nameReview: TypeRole {
+        family: Typeface.display
+        size: 52
+        line: 58
+        weight: Font.DemiBold
+        tracking: -0.028
+    }
+    readonly property TypeRole namePoster: TypeRole {
+        family: Typeface.display
+        size: 42
+        line: 48
+        weight: Font.DemiBold
+        tracking: -0.026
+    }
+    readonly property TypeRole duration: TypeRole {
+        family: Typeface.display
+        size: 40
+        line: 46
+        weight: Font.DemiBold
+        tracking: -0.015
+    }
+    readonly property TypeRole statValue: TypeRole {
+        family: Typeface.display
+        size: 32
+        line: 36
+        weight: Font.DemiBold
+        tracking: -0.014
+    }
+    readonly property TypeRole statUnit: TypeRole {
+        size: 14
+        line: 20
+        weight: Font.Medium
+    }
+    readonly property TypeRole quotation: TypeRole {
+        family: Typeface.display
+        size: 30
+        line: 41
+        weight: Font.Medium
+        tracking: -0.016
+    }
+    readonly property TypeRole titleXL: TypeRole {
+        family: Typeface.display
+        size: 28
+        line: 34
+        weight: Font.DemiBold
+        tracking: -0.018
+    }
+    readonly property TypeRole titleL: TypeRole {
+        family: Typeface.display
+        size: 24
+        line: 30
+        weight: Font.DemiBold
+        tracking: -0.014
+    }
+    readonly property TypeRole capsuleClock: TypeRole {
+        family: Typeface.display
+        size: 23
+        line: 28
+        weight: Font.DemiBold
+        tracking: -0.010
+    }
+    readonly property TypeRole titleM: TypeRole {
+        family: Typeface.display
+        size: 20
+        line: 28
+        weight: Font.DemiBold
+        tracking: -0.012
+    }
+    readonly property TypeRole cardTitle: TypeRole {
+        family: Typeface.display
+        size: 17
+        line: 22
+        weight: Font.DemiBold
+        tracking: -0.010
+    }
+    readonly property TypeRole panelTitle: TypeRole {
+        family: Typeface.display
+        size: 15
+        line: 20
+        weight: Font.DemiBold
+        tracking: -0.010
+    }
+    readonly property TypeRole lead: TypeRole {
+        size: 15
+        line: 23
+    }
+    readonly property TypeRole leadButton: TypeRole { // on the wide primary button
+        size: 15
+        line: 20
+        weight: Font.DemiBold
+    }
+    readonly property TypeRole note: TypeRole {
+        size: 14
+        line: 20
+    }
+    readonly property TypeRole body: TypeRole {
+        size: 13
+        line: 20
+    }
+    readonly property TypeRole bodyMedium: TypeRole { // rows, secondary buttons
+        size: 13
+        line: 20
+        weight: Font.Medium
+    }
+    readonly property TypeRole bodyStrong: TypeRole { // primary buttons, headings of cards
+        size: 13
+        line: 20
+        weight: Font.DemiBold
+    }
+    readonly property TypeRole caption: TypeRole {
+        size: 12
+        line: 17
+    }
+    readonly property TypeRole captionMedium: TypeRole { // labels, menus, large chips
+        size: 12
+        line: 17
+        weight: Font.Medium
+    }
+    readonly property TypeRole captionStrong: TypeRole { // day headings
+        size: 12
+        line: 17
+        weight: Font.DemiBold
+    }
+    readonly property TypeRole small: TypeRole {
+        size: 11
+        line: 15
+    }
+    readonly property TypeRole smallMedium: TypeRole { // chips
+        size: 11
+        line: 15
+        weight: Font.Medium
+    }
+    readonly property TypeRole kicker: TypeRole {
+        size: 11
+        line: 14
+        weight: Font.DemiBold
+        tracking: 0.080
+    }
+    readonly property TypeRole capsuleSkill: TypeRole {
+        size: 10
+        line: 13
+        tracking: 0.09
+    }
+    readonly property real heroUnitScale: 0.36 // of a hero figure's size
+
+    // --- Space -----------------------------------------------------------------------------------
     readonly property int space2: 2
-    readonly property int space8: 8
+    readonly property int space4: 4
+    readonly property int space6: 6
+    readonly property int space8: 8 // between a label and its control
+    readonly property int space10: 10
+    readonly property int space12: 12 // within a group
     readonly property int space14: 14
-    readonly property int space20: 20
+    readonly property int space16: 16
+    readonly property int space20: 20 // between groups
+    readonly property int space24: 24
+    readonly property int space28: 28
+    readonly property int space36: 36
+    readonly property int space44: 44
+    readonly property int space64: 64
 
-    // Shape in px
-    readonly property int buttonRadius: 9
-    readonly property int buttonHeight: 32
+    // --- Shape -----------------------------------------------------------------------------------
+    readonly property real radiusYearTile: 2.8
+    readonly property int radiusBar: 3
+    readonly property int radiusKeycap: 6
+    readonly property int radiusMenuRow: 6
+    readonly property int radiusSegment: 7
+    readonly property int radiusSmall: 8 // icon buttons, steppers, menus
+    readonly property int radiusButton: 9 // and fields
+    readonly property int radiusBanner: 10 // and hovered rows
+    readonly property int radiusTile: 11
+    readonly property int radiusCard: 12
+    readonly property int radiusWindow: 14 // and popovers, and the wide primary button
+    readonly property int radiusFloating: 18 // capsule, floating cards and panels
+
     readonly property int hairlineWidth: 1
     readonly property int focusWidth: 2
-    readonly property int focusGap: 2
-    readonly property int cardWidth: 380
+    readonly property int focusGap: 2 // clear space between a control and its ring
+    readonly property int focusRadius: 3 // more than the control's own
+    readonly property real fieldEdge: 1.5 // of a focused field, or of one that is wrong
+    readonly property real caretWidth: 1.5
 
-    // Motion in ms
-    readonly property int hoverTime: 120
+    // --- Sizes of controls -----------------------------------------------------------------------
+    readonly property int buttonHeight: 32
+    readonly property int buttonPadding: 14
+    readonly property int formButtonHeight: 36
+    readonly property int formButtonPadding: 18
+    readonly property int wideButtonHeight: 52
+    readonly property int popoverButtonHeight: 26
+    readonly property int iconButton: 26
+    readonly property int closeButton: 22 // the round one of corner cards
+    readonly property int iconSize: 16
+    readonly property int chipHeight: 24
+    readonly property int largeChipHeight: 28
+    readonly property int chipGap: 6
+    readonly property int chipDot: 7 // also the flat dot of labels
+    readonly property int switchWidth: 38
+    readonly property int switchHeight: 22
+    readonly property int stepperSize: 26
+    readonly property int formStepperSize: 36
+    readonly property int menuHeight: 30
+    readonly property int menuRowHeight: 28
+    readonly property int fieldHeight: 36
+    readonly property int popoverFieldHeight: 28
+    readonly property int editorFieldHeight: 34
+    readonly property int formFieldHeight: 40
+    readonly property int figureFieldHeight: 44
+    readonly property int welcomeFieldHeight: 48
+    readonly property int searchFieldHeight: 32
+    readonly property int fieldPadding: 12
+    readonly property int sliderTrackHeight: 4
+    readonly property int sliderKnob: 18
+    readonly property int barStat: 4
+    readonly property int barTable: 5
+    readonly property int barReview: 6
+    readonly property int swatch: 18
+    readonly property int swatchCell: 24
+    readonly property int scrollbarWidth: 5
+    readonly property int scrollbarInset: 4
+    readonly property int edgeFade: 36
+    readonly property int stripHeight: 36
+    readonly property int stripButton: 24
+    readonly property int navRowHeight: 38
+    readonly property int pageDotSize: 6
+    readonly property int popoverWidth: 284
+    readonly property int cardWidth: 380 // corner cards and alerts
+    readonly property int cardRight: 12 // from the right edge of the screen's free area
+    readonly property int cardTop: 10
+
+    // --- Depth -----------------------------------------------------------------------------------
+    readonly property ShadowToken shadowWindow: ShadowToken {
+        offset: 24
+        blur: 64
+        strength: 0.50
+        tightOffset: 4
+        tightBlur: 14
+        tightStrength: 0.34
+    }
+    readonly property ShadowToken shadowFloating: ShadowToken {
+        offset: 18
+        blur: 48
+        strength: 0.45
+        tightOffset: 2
+        tightBlur: 8
+        tightStrength: 0.30
+    }
+    readonly property ShadowToken shadowPopover: ShadowToken {
+        offset: 16
+        blur: 40
+        strength: 0.50
+    }
+    readonly property ShadowToken shadowToast: ShadowToken {
+        offset: 10
+        blur: 28
+        strength: 0.40
+    }
+    readonly property ShadowToken shadowCapsule: ShadowToken {
+        offset: 10
+        blur: 30
+        strength: 0.45
+    }
+
+    // --- Motion ----------------------------------------------------------------------------------
+    readonly property SpringToken springCapsule: SpringToken {
+        stiffness: 195
+        damping: 22.3
+    }
+    readonly property SpringToken springPage: SpringToken {
+        stiffness: 273.4
+        damping: 27.1
+    }
+    readonly property SpringToken springCascade: SpringToken {
+        stiffness: 223.8
+        damping: 23.9
+    }
+    readonly property SpringToken springSlam: SpringToken {
+        stiffness: 385.5
+        damping: 28.3
+    }
+    readonly property SpringToken springPop: SpringToken {
+        stiffness: 380
+        damping: 16
+    }
+    readonly property SpringToken springGrow: SpringToken {
+        stiffness: 157.9
+        damping: 20.1
+    }
+    readonly property int pageSlide: 56 // px
+    readonly property int cascadeRise: 14 // px
+    readonly property int cascadeDelay: Motion.time(50)
+    readonly property int cascadeStep: Motion.time(75)
+    readonly property real slamFrom: 1.12 // scale
+    readonly property real popFrom: 0.4 // scale
+    readonly property int popStep: Motion.time(70)
+    readonly property int growStep: Motion.time(60)
+
+    // With reduced motion all times are 0 but those of plain fades, which say so.
+    readonly property int hoverTime: Motion.time(120)
+    readonly property int pressTime: Motion.time(80)
+    readonly property int switchTime: Motion.time(160)
+    readonly property int segmentTime: Motion.time(180)
+    readonly property int cardInTime: Motion.reduced ? crossFadeTime : 180
+    readonly property int cardOutTime: Motion.reduced ? crossFadeTime : 140
+    readonly property int cardRise: Motion.reduced ? 0 : 6 // px, downwards
+    readonly property int toastInTime: 220 // fades in any case
+    readonly property int toastOutTime: 350
+    readonly property int toastMoveTime: Motion.time(180)
+    readonly property int capsuleCloseTime: Motion.time(220)
+    readonly property int capsuleRowTime: Motion.time(300)
+    readonly property int capsuleRowDelay: Motion.time(100)
+    readonly property int capsuleRowOutTime: Motion.time(140)
+    readonly property int clockDotTime: 1100 // each way; runs only while Motion.reduced is false
+    readonly property real clockDotOpacity: 0.45
+    readonly property real clockDotScale: 0.7
+    readonly property int invitationTime: 1100 // each way; a steady halo with reduced motion
+    readonly property int invitationHalo: 4 // px
+    readonly property real invitationHaloOpacity: 0.16
+    readonly property int invitationGlow: 22 // px
+    readonly property real invitationGlowOpacity: 0.30
+    readonly property int pulseOnTime: Motion.time(300)
+    readonly property int pulseOffTime: Motion.time(450)
+    readonly property real pulseScale: 1.025
+    readonly property int pulseGlow: 24 // px
+    readonly property real pulseGlowOpacity: 0.5
+    readonly property int tileTime: Motion.time(600)
+    readonly property int tileDelay: Motion.time(200)
+    readonly property int tileStep: Motion.time(50)
+    readonly property int countUpTime: Motion.time(800)
+    readonly property int stageFadeTime: Motion.reduced ? crossFadeTime : 200
+    readonly property int crossFadeTime: 120 // what pages and cards do instead of moving
+    readonly property int scrollbarHold: 800
+    readonly property int scrollbarFadeTime: 200 // fades in any case
 }

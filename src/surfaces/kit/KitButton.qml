@@ -12,12 +12,12 @@ Rectangle {
     function colorFor(pressed: bool, hovered: bool): color {
         if (button.primary)
             return pressed ? DarkUI.accentPressed : hovered ? DarkUI.accentHover : DarkUI.accent;
-        return pressed ? DarkUI.cardFillPressed : hovered ? DarkUI.cardFillHover : DarkUI.cardFill;
+        return pressed ? DarkUI.fillPressed : hovered ? DarkUI.fillHover : DarkUI.fill;
     }
 
-    implicitWidth: label.implicitWidth + 2 * DarkUI.space14
+    implicitWidth: label.implicitWidth + 2 * DarkUI.buttonPadding
     implicitHeight: DarkUI.buttonHeight
-    radius: DarkUI.buttonRadius
+    radius: DarkUI.radiusButton
     color: colorFor(tap.pressed, hover.hovered)
     border.width: primary ? 0 : DarkUI.hairlineWidth
     border.color: DarkUI.hairline
@@ -43,10 +43,8 @@ Rectangle {
         id: label
         anchors.centerIn: parent
         text: button.text
-        color: button.primary ? DarkUI.ink : DarkUI.textPrimary
-        font.family: DarkUI.textFamily
-        font.pixelSize: DarkUI.bodySize
-        font.weight: button.primary ? Font.DemiBold : Font.Medium
+        color: button.primary ? DarkUI.ink : DarkUI.t1
+        font: (button.primary ? DarkUI.bodyStrong : DarkUI.bodyMedium).font
     }
 
     Rectangle {

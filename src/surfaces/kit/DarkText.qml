@@ -1,0 +1,22 @@
+// A text in a role of the type scale, read out as it stands.
+pragma ComponentBehavior: Bound
+import QtQuick
+
+Text {
+    id: label
+
+    property TypeRole role: DarkUI.body
+
+    color: DarkUI.t1
+    font: role.font
+    lineHeightMode: Text.FixedHeight
+    lineHeight: role.line
+    textFormat: Text.PlainText
+    // Crisp stems for small text on plain screens; elsewhere whole-pixel glyphs would jump.
+    renderType: role.size <= 15 && Screen.devicePixelRatio === 1 ? Text.NativeRendering
+                                                                 : Text.QtRendering
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+    Accessible.ignored: text === ""
+}

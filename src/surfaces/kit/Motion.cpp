@@ -1,0 +1,33 @@
+#include "surfaces/kit/Motion.h"
+
+#include "surfaces/kit/Spring.h"
+
+#include <cmath>
+
+namespace vantle {
+namespace {
+
+constexpr double kMillisecond = 0.001;
+// A thousandth of a way of some hundred pixels can't be seen.
+constexpr double kAtRest = 0.001;
+
+} // namespace
+
+void Motion::setReduced(bool reduced) {
+    if (m_reduced == reduced) return;
+    m_reduced = reduced;
+    Q_EMIT reducedChanged();
+}
+
+int Motion::time(int milliseconds) const { return m_reduced ? 0 : milliseconds; }
+
+double Motion::springAt(double stiffness, double damping, double milliseconds) {
+    return Spring{stiffness, damping}.progressAt(milliseconds * kMillisecond);
+}
+
+int Motion::springTime(double stiffness, double damping) {
+    return static_cast<int>(
+        std::ceil(Spring{stiffness, damping}.settlingTime(kAtRest) / kMillisecond));
+}
+
+} // namespace vantle

@@ -1,0 +1,40 @@
+// How things move, for the views: springs, and the person's wish for less movement.
+#pragma once
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace vantle {
+
+/// One for each QML engine. Every time and spring of the kit goes through it, so that one switch
+/// stills them all. Main thread.
+class Motion : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    /// The person asked the desktop for less movement. Set through kit::setReducedMotion().
+    Q_PROPERTY(bool reduced READ reduced WRITE setReduced NOTIFY reducedChanged)
+
+public:
+    explicit Motion(QObject* parent = nullptr) : QObject(parent) {}
+
+    [[nodiscard]] bool reduced() const { return m_reduced; }
+    void setReduced(bool reduced);
+
+    /// The time that a movement takes, in milliseconds: as given, or 0 with reduced motion.
+    Q_INVOKABLE [[nodiscard]] int time(int milliseconds) const;
+
+    /// How far a spring has come `milliseconds` after it was let go: 0 at first, 1 in the end.
+    Q_INVOKABLE [[nodiscard]] static double springAt(double stiffness, double damping,
+                                                     double milliseconds);
+    /// When it has come to rest as far as eyes can tell, in milliseconds.
+    Q_INVOKABLE [[nodiscard]] static int springTime(double stiffness, double damping);
+
+Q_SIGNALS:
+    void reducedChanged();
+
+private:
+    bool m_reduced = false;
+};
+
+} // namespace vantle
