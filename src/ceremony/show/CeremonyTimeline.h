@@ -1,0 +1,27 @@
+// What depends on nothing but the time within the show. Pure functions, any thread.
+//
+// t is in seconds from the start of the show; opacities are 0 to 1, lengths in points.
+#pragma once
+
+#include "ceremony/show/CeremonyVariant.h"
+
+namespace vantle::ceremonytimeline {
+
+/// Whether the show is over: nothing is painted from here on.
+[[nodiscard]] bool hasEnded(double t);
+
+/// Of the black plate behind everything, at most 0.52.
+[[nodiscard]] double plateAlpha(CeremonyVariant variant, double t);
+
+/// Of the title pill.
+[[nodiscard]] double titleOpacity(double t);
+
+/// How far the title pill stands above its place, upwards; negative is below.
+[[nodiscard]] double titleRise(double t);
+
+/// How bright the glow behind the title is, 0 to 1.
+[[nodiscard]] double titleGlow(double t);
+
+[[nodiscard]] double captionOpacity(double t);
+
+} // namespace vantle::ceremonytimeline
