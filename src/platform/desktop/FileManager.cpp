@@ -2,8 +2,10 @@
 
 #include <QDBusMessage>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QUrl>
 
 namespace vantle::filemanager {
@@ -16,6 +18,9 @@ constexpr int kAnswerMs = 2000;
 } // namespace
 
 Result<> moveToTrash(const QString& path) {
+    // Qt makes the trash but not the folder above it; without that one the file would land in the
+    // working directory.
+    QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     QFile file(path);
     if (file.moveToTrash()) return {};
     return Error{0, QStringLiteral("move to trash"), path, file.errorString()};
