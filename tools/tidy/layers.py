@@ -14,8 +14,8 @@ RULE = "layers"
 ROWS = (
     ("base",),
     ("platform", "surfaces/kit"),
-    ("tracking",),
-    ("sensing", "review/stats", "ceremony/show"),
+    ("tracking", "surfaces/panel"),
+    ("sensing", "review/stats", "review/narrative", "ceremony/show"),
     ("app",),
     ("surfaces/*", "review", "ceremony"),
     ("app/launch", "platform/*"),

@@ -1,0 +1,107 @@
+#include "platform/x11/X11PanelHost.h"
+
+#include "platform/x11/X11Connection.h"
+
+#include <QGuiApplication>
+
+#include <xcb/shape.h>
+
+#include <vector>
+
+namespace vantle {
+
+namespace {
+
+/// Null where Qt's windows are not X11 windows.
+xcb_connection_t* windowConnection() {
+    auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    xcb_connection_t* const connection = x11 != nullptr ? x11->connection() : nullptr;
+    return connection != nullptr && xcb_connection_has_error(connection) == 0 ? connection
+                                                                              : nullptr;
+}
+
+xcb_window_t focus(xcb_connection_t* connection) {
+    const XcbOwned<xcb_get_input_focus_reply_t> answer(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    return answer ? answer->focus : XCB_NONE;
+}
+
+/// Whether the window could take it.
+bool setFocus(xcb_connection_t* connection, xcb_window_t window) {
+    const XcbOwned<xcb_generic_error_t> error(xcb_request_check(
+        connection,
+        xcb_set_input_focus_checked(connection, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME)));
+    return !error;
+}
+
+/// The edges in pixels of the device, of which one of ours may be several.
+xcb_rectangle_t toDevice(const QRect& rect, double ratio) {
+    const int left = qRound(rect.x() * ratio);
+    const int top = qRound(rect.y() * ratio);
+    const int right = qRound((rect.x() + rect.width()) * ratio);
+    const int bottom = qRound((rect.y() + rect.height()) * ratio);
+    return {static_cast<std::int16_t>(left), static_cast<std::int16_t>(top),
+            static_cast<std::uint16_t>(right - left), static_cast<std::uint16_t>(bottom - top)};
+}
+
+} // namespace
+
+bool X11PanelHost::isComposited() {
+    if (m_compositor == XCB_ATOM_NONE) m_compositor = atom("_NET_WM_CM_S0");
+    const auto owner = m_x11.reply<xcb_get_selection_owner_reply>(
+        xcb_get_selection_owner(m_x11.xcb(), m_compositor));
+    return owner && owner->owner != XCB_NONE;
+}
+
+void X11PanelHost::setInputRegion(QWindow& window, const QRegion& region) {
+    xcb_connection_t* const connection = windowConnection();
+    if (connection == nullptr) return;
+    const auto* shape = xcb_get_extension_data(connection, &xcb_shape_id);
+    if (shape == nullptr || shape->present == 0) return;
+    std::vector<xcb_rectangle_t> rectangles;
+    for (const QRect& rect : region)
+        rectangles.push_back(toDevice(rect, window.devicePixelRatio()));
+    xcb_shape_rectangles(connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT,
+                         XCB_CLIP_ORDERING_UNSORTED, static_cast<xcb_window_t>(window.winId()), 0,
+                         0, static_cast<std::uint32_t>(rectangles.size()), rectangles.data());
+    xcb_flush(connection);
+}
+
+void X11PanelHost::takeKeyboard(QWindow& window) {
+    xcb_connection_t* const connection = windowConnection();
+    if (connection == nullptr) return;
+    const auto id = static_cast<xcb_window_t>(window.winId());
+    const xcb_window_t before = focus(connection);
+    if (before == id || !setFocus(connection, id)) return;
+    m_before[window.winId()] = before;
+}
+
+void X11PanelHost::returnKeyboard(QWindow& window) {
+    xcb_connection_t* const connection = windowConnection();
+    const auto found = m_before.find(window.winId());
+    if (found == m_before.end()) return;
+    const xcb_window_t before = found->second;
+    m_before.erase(found);
+    if (connection == nullptr || focus(connection) != static_cast<xcb_window_t>(window.winId()))
+        return;
+    if (before == XCB_NONE || !setFocus(connection, before)) {
+        const xcb_window_t active = activeWindow();
+        if (active == XCB_NONE || !setFocus(connection, active))
+            (void)setFocus(connection, XCB_INPUT_FOCUS_POINTER_ROOT);
+    }
+}
+
+xcb_atom_t X11PanelHost::atom(const QByteArray& name) {
+    const auto answer = m_x11.reply<xcb_intern_atom_reply>(
+        xcb_intern_atom(m_x11.xcb(), 0, static_cast<std::uint16_t>(name.size()), name.constData()));
+    return answer ? answer->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+xcb_window_t X11PanelHost::activeWindow() {
+    const auto answer = m_x11.reply<xcb_get_property_reply>(xcb_get_property(
+        m_x11.xcb(), 0, m_x11.root(), atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, 0, 1));
+    if (!answer || xcb_get_property_value_length(answer.get()) < 4) return XCB_NONE;
+    return *static_cast<const xcb_window_t*>(xcb_get_property_value(answer.get()));
+}
+
+} // namespace vantle

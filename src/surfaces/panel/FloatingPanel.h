@@ -1,0 +1,78 @@
+// The window of everything that floats above the desktop: the capsule, the cards, the toast.
+#pragma once
+
+#include "platform/PanelHost.h"
+
+#include <QQuickView>
+#include <QRegion>
+#include <QVariantMap>
+
+class QQmlEngine;
+
+namespace vantle {
+
+/// A transparent window without a frame, above all others and on every workspace, in no task bar
+/// and no switcher. It never takes the keyboard by being shown or clicked: only when a text field
+/// in it is clicked, or when told to, and then it gives the keyboard back. Where it is not told to
+/// feel the pointer, clicks reach the window below. Main thread.
+class FloatingPanel : public QQuickView {
+    Q_OBJECT
+
+public:
+    /// Both must outlive the panel.
+    FloatingPanel(QQmlEngine& engine, PanelHost& host);
+    ~FloatingPanel() override;
+
+    /// Makes the view from its file and its required properties. False when the file is no good.
+    [[nodiscard]] bool load(const QUrl& source, const QVariantMap& properties);
+
+    /// Shows the panel there, in px of the desktop, without taking the keyboard. Until
+    /// setInputRegion() is called all of it feels the pointer.
+    void showAt(const QRect& frame);
+
+    /// Only this part feels the pointer, in px from the panel's top left. Holds until it is set
+    /// again; a change under a resting pointer counts as entering or leaving.
+    void setInputRegion(const QRegion& region);
+    [[nodiscard]] const QRegion& inputRegion() const { return m_inputRegion; }
+
+    /// Where the desktop mixes no transparency, only this part of the panel is there at all; it is
+    /// drawn with square corners and without a shadow. Ignored on other desktops. Not empty.
+    void setOpaqueRegion(const QRegion& region);
+
+    /// Whether what is transparent shows what lies below. As of the last showAt().
+    [[nodiscard]] bool isComposited() const { return m_composited; }
+
+    /// Whether the pointer is where the panel feels it. Asks the desktop.
+    [[nodiscard]] bool pointerInside() const;
+
+    void takeKeyboard();
+    /// Gives the keyboard back to who had it. Hiding the panel does that as well.
+    void returnKeyboard();
+
+Q_SIGNALS:
+    /// The pointer came into the part that feels it, or left it.
+    void pointerEntered();
+    void pointerLeft();
+    /// The keyboard went elsewhere after takeKeyboard(): the person clicked another window.
+    void keyboardLost();
+
+protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void exposeEvent(QExposeEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void applyRegions();
+    void takeKeyboardForField(QPointF place);
+
+    PanelHost& m_host;
+    QRegion m_inputRegion;
+    QRegion m_opaqueRegion;
+    bool m_hasInputRegion = false;
+    bool m_composited = true;
+    bool m_hasKeyboard = false;
+    bool m_wasExposed = false;
+};
+
+} // namespace vantle

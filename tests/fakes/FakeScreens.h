@@ -1,0 +1,25 @@
+// Screens as the test arranges them.
+#pragma once
+
+#include "platform/Screens.h"
+
+#include <utility>
+
+namespace vantle::fakes {
+
+class FakeScreens final : public Screens {
+public:
+    [[nodiscard]] std::vector<ScreenShape> all() const override { return shapes; }
+
+    /// Another arrangement, told of at once.
+    void arrange(std::vector<ScreenShape> other) {
+        shapes = std::move(other);
+        Q_EMIT changed();
+    }
+
+    /// One plain screen, with a bar of 28 px at its top.
+    std::vector<ScreenShape> shapes{
+        {.frame = QRectF(0, 0, 1440, 900), .available = QRectF(0, 28, 1440, 872)}};
+};
+
+} // namespace vantle::fakes

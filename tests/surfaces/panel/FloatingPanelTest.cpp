@@ -1,0 +1,187 @@
+// The panel on a real X server with a window manager.
+#include "surfaces/panel/FloatingPanel.h"
+
+#include "platform/desktop/QtScreens.h"
+#include "platform/x11/X11Connection.h"
+#include "platform/x11/X11PanelHost.h"
+#include "support/Await.h"
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <xcb/shape.h>
+
+namespace vantle::tests {
+namespace {
+
+constexpr QRect kFrame(300, 200, 200, 100);
+constexpr QPoint kFar(1200, 800);
+
+/// A panel of 200 by 100 with a text field in its upper half, above a window of some application.
+class FloatingPanelTest : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(x11.isAlive());
+        QFile file(folder.filePath(QStringLiteral("View.qml")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("import QtQuick\nItem { TextInput { width: 200; height: 50 } }");
+        file.close();
+        QCursor::setPos(kFar);
+        below.setGeometry(250, 150, 400, 300);
+        below.show();
+        ASSERT_TRUE(await([&] { return focus() == below.winId(); }));
+        ASSERT_TRUE(panel.load(QUrl::fromLocalFile(file.fileName()), {}));
+    }
+
+    void show() {
+        panel.showAt(kFrame);
+        ASSERT_TRUE(await([&] { return panel.isExposed(); }));
+    }
+
+    [[nodiscard]] WId focus() {
+        const auto answer = x11.reply<xcb_get_input_focus_reply>(xcb_get_input_focus(x11.xcb()));
+        return answer ? answer->focus : 0;
+    }
+
+    [[nodiscard]] QRegion regionOnServer() {
+        const auto answer = x11.reply<xcb_shape_get_rectangles_reply>(xcb_shape_get_rectangles(
+            x11.xcb(), static_cast<xcb_window_t>(panel.winId()), XCB_SHAPE_SK_INPUT));
+        QRegion region;
+        for (int i = 0; i < xcb_shape_get_rectangles_rectangles_length(answer.get()); ++i) {
+            const auto& r = xcb_shape_get_rectangles_rectangles(answer.get())[i];
+            region += QRect(r.x, r.y, r.width, r.height);
+        }
+        return region;
+    }
+
+    void click(QPoint place) {
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, place, panel.mapToGlobal(place), Qt::LeftButton,
+                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                              Qt::NoModifier);
+            QCoreApplication::sendEvent(&panel, &event);
+        }
+    }
+
+    QTemporaryDir folder;
+    X11Connection x11;
+    X11PanelHost host{x11};
+    QQmlEngine engine;
+    QWindow below;
+    FloatingPanel panel{engine, host};
+};
+
+TEST_F(FloatingPanelTest, ShowingItLeavesTheKeyboardWithTheWindowBelow) {
+    show();
+    EXPECT_EQ(focus(), below.winId());
+    EXPECT_EQ(panel.geometry(), kFrame);
+}
+
+TEST_F(FloatingPanelTest, NoWindowManagerKnowsIt) {
+    show();
+    const auto attributes = x11.reply<xcb_get_window_attributes_reply>(
+        xcb_get_window_attributes(x11.xcb(), static_cast<xcb_window_t>(panel.winId())));
+    ASSERT_TRUE(attributes);
+    EXPECT_EQ(attributes->override_redirect, 1);
+    EXPECT_EQ(panel.format().alphaBufferSize(), 8);
+}
+
+TEST_F(FloatingPanelTest, OnlyTheRegionFeelsThePointer) {
+    panel.setInputRegion(QRect(10, 10, 50, 20));
+    show();
+    EXPECT_TRUE(await([&] { return regionOnServer() == QRegion(10, 10, 50, 20); }));
+    panel.resize(220, 120);
+    panel.setInputRegion(QRegion(0, 0, 30, 30) + QRegion(60, 0, 30, 30));
+    EXPECT_TRUE(
+        await([&] { return regionOnServer() == QRegion(0, 0, 30, 30) + QRegion(60, 0, 30, 30); }));
+    panel.setInputRegion({});
+    EXPECT_TRUE(await([&] { return regionOnServer().isEmpty(); }));
+}
+
+TEST_F(FloatingPanelTest, TheRegionGrowingUnderARestingPointerCountsAsEntering) {
+    int entered = 0;
+    int left = 0;
+    QObject::connect(&panel, &FloatingPanel::pointerEntered, [&] { ++entered; });
+    QObject::connect(&panel, &FloatingPanel::pointerLeft, [&] { ++left; });
+    panel.setInputRegion(QRect(0, 0, 20, 10));
+    show();
+    QCursor::setPos(kFrame.topLeft() + QPoint(100, 50));
+    EXPECT_FALSE(panel.pointerInside());
+    panel.setInputRegion(QRect(0, 0, 150, 80));
+    EXPECT_TRUE(await([&] { return entered == 1; }));
+    EXPECT_TRUE(panel.pointerInside());
+    panel.setInputRegion(QRect(0, 0, 20, 10));
+    EXPECT_TRUE(await([&] { return left == 1; }));
+    EXPECT_FALSE(panel.pointerInside());
+}
+
+TEST_F(FloatingPanelTest, AClickBesideTheTextFieldLeavesTheKeyboardWhereItIs) {
+    show();
+    click({20, 80});
+    EXPECT_EQ(focus(), below.winId());
+}
+
+TEST_F(FloatingPanelTest, AClickIntoTheTextFieldTakesTheKeyboardAndItIsGivenBack) {
+    show();
+    click({20, 20});
+    EXPECT_TRUE(await([&] { return focus() == panel.winId() && panel.isActive(); }));
+    panel.returnKeyboard();
+    EXPECT_TRUE(await([&] { return focus() == below.winId(); }));
+}
+
+TEST_F(FloatingPanelTest, HidingItGivesTheKeyboardBack) {
+    show();
+    panel.takeKeyboard();
+    EXPECT_TRUE(await([&] { return focus() == panel.winId(); }));
+    panel.hide();
+    EXPECT_TRUE(await([&] { return focus() == below.winId(); }));
+}
+
+TEST_F(FloatingPanelTest, TheKeyboardGoesToTheWindowInFrontWhereItsOwnerIsGone) {
+    QWindow other;
+    other.setGeometry(700, 150, 200, 200);
+    other.show();
+    ASSERT_TRUE(await([&] { return focus() == other.winId(); }));
+    show();
+    panel.takeKeyboard();
+    ASSERT_TRUE(await([&] { return focus() == panel.winId(); }));
+    other.destroy();
+    ASSERT_TRUE(await([&] { return focus() != 0; }));
+    panel.returnKeyboard();
+    EXPECT_TRUE(await([&] { return focus() != panel.winId(); }));
+}
+
+TEST_F(FloatingPanelTest, LosingTheKeyboardToAnotherWindowIsTold) {
+    int lost = 0;
+    QObject::connect(&panel, &FloatingPanel::keyboardLost, [&] { ++lost; });
+    show();
+    panel.takeKeyboard();
+    ASSERT_TRUE(await([&] { return panel.isActive(); }));
+    below.requestActivate();
+    EXPECT_TRUE(await([&] { return lost == 1; }));
+    panel.returnKeyboard(); // not its to give any more
+    EXPECT_TRUE(await([&] { return focus() == below.winId(); }));
+}
+
+TEST_F(FloatingPanelTest, WithoutACompositorOnlyTheOpaquePartIsThere) {
+    panel.setOpaqueRegion(QRect(0, 0, 120, 60));
+    show();
+    EXPECT_FALSE(panel.isComposited());
+    EXPECT_EQ(panel.mask(), QRegion(0, 0, 120, 60));
+}
+
+TEST(QtScreens, TheMainScreenIsAPlainOne) {
+    const QtScreens screens;
+    const auto shapes = screens.all();
+    ASSERT_EQ(shapes.size(), 1U);
+    EXPECT_EQ(shapes[0].frame, QRectF(0, 0, 1440, 900));
+    EXPECT_EQ(shapes[0].safeAreaTop, 0.0);
+    EXPECT_FALSE(shapes[0].auxiliaryTopLeft);
+}
+
+} // namespace
+} // namespace vantle::tests
