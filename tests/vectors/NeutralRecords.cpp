@@ -1,5 +1,7 @@
 #include "vectors/NeutralRecords.h"
 
+#include "base/Iso8601.h"
+
 namespace vantle::vectors {
 
 namespace {
@@ -10,7 +12,16 @@ QUuid id(const QJsonObject& object) { return QUuid::fromString(text(object, QLat
 
 } // namespace
 
-Date dateFromJson(const QJsonValue& epoch) { return dateFromEpoch(epoch.toDouble()); }
+Date dateFromJson(const QJsonValue& value) {
+    if (!value.isString()) return dateFromEpoch(value.toDouble());
+    return iso8601::parse(value.toString().toStdString()).value_or(Date());
+}
+
+QJsonValue instantText(Date date) {
+    const auto text = iso8601::format(date);
+    if (!text) return QJsonValue::Null;
+    return QString::fromLatin1(text->data(), qsizetype(text->size()));
+}
 
 Session sessionFromJson(const QJsonValue& value) {
     const QJsonObject object = value.toObject();

@@ -1,4 +1,4 @@
-// The records as they stand in cases: plain members, dates as seconds since 1970.
+// The records as they stand in cases: plain members, dates mostly as seconds since 1970.
 #pragma once
 
 #include "tracking/Session.h"
@@ -40,6 +40,10 @@ template <typename Value>
     return value ? toJson(*value) : QJsonValue(QJsonValue::Null);
 }
 
-[[nodiscard]] Date dateFromJson(const QJsonValue& epoch);
+/// From seconds since 1970, or from a text as the files have it: each form has one of them.
+[[nodiscard]] Date dateFromJson(const QJsonValue& value);
+
+/// As the files have it: "2026-03-01T10:00:00Z".
+[[nodiscard]] QJsonValue instantText(Date date);
 
 } // namespace vantle::vectors

@@ -5,8 +5,9 @@ namespace vantle::vectors {
 const QList<Form>& allForms() {
     static const QList<Form> forms = QList<Form>(trackerForms())
                                      << autoRulesForm() << cardSlotForm() << durationsForm()
-                                     << dwellEngineForm() << idleMonitorForm() << recordsForm()
-                                     << skillsForm() << totalsForm() << weeksForm();
+                                     << dwellEngineForm() << idleMonitorForm() << narrativeForm()
+                                     << noteDigestForm() << recordsForm() << skillsForm()
+                                     << totalsForm() << weeksForm();
     return forms;
 }
 

@@ -10,6 +10,8 @@ namespace vantle::vectors {
 [[nodiscard]] Form durationsForm();
 [[nodiscard]] Form dwellEngineForm();
 [[nodiscard]] Form idleMonitorForm();
+[[nodiscard]] Form narrativeForm();
+[[nodiscard]] Form noteDigestForm();
 [[nodiscard]] Form recordsForm();
 [[nodiscard]] Form skillsForm();
 [[nodiscard]] Form totalsForm();
