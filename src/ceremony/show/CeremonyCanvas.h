@@ -5,6 +5,7 @@
 // time.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -47,15 +48,12 @@ public:
 
     /// One pixel, which may lie outside.
     void blendAt(int column, int row, std::uint32_t color, double alpha);
-    /// The columns `first` to `last` of a row; both must lie inside.
-    void blendRow(int row, int first, int last, std::uint32_t color, double alpha);
-    /// A whole column, which may lie outside.
+    /// A whole row or column, which may lie outside.
+    void blendRow(int row, std::uint32_t color, double alpha);
     void blendColumn(int column, std::uint32_t color, double alpha);
 
     /// A point between pixels: spread over the four around it. Pixel centres are at halves.
     void plot(double x, double y, std::uint32_t color, double alpha);
-    /// The same, left out altogether when it is too faint to see.
-    void splat(double x, double y, std::uint32_t color, double alpha);
 
     /// A soft ring around the centre; lengths in points.
     void stampRing(double radius, double lineWidth, std::uint32_t color, double alpha);
@@ -69,14 +67,9 @@ public:
     };
     [[nodiscard]] Box centeredBox(double radius) const;
 
-    /// Blends one strength (0 to 255) a pixel, from column `first` of a row on. Strengths below 2
-    /// count as 0.
-    void blendStrengths(int row, int first, std::span<const std::uint8_t> strengths,
-                        std::uint32_t color);
-    /// Room for the strengths of a row.
-    [[nodiscard]] std::span<std::uint8_t> strengthRoom() { return m_strengths; }
-
 private:
+    [[nodiscard]] std::size_t offset(int column, int row) const;
+
     int m_width = 0;
     int m_height = 0;
     double m_scale = 0;
@@ -87,7 +80,7 @@ private:
     PixelOrder m_order;
     std::vector<std::uint32_t> m_pixels;
     std::vector<float> m_distances;
-    std::vector<std::uint8_t> m_strengths;
+    std::vector<std::uint32_t> m_strengths; ///< of a row, four times each
 };
 
 } // namespace vantle

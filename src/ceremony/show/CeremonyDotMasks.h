@@ -1,7 +1,7 @@
 // How much of each pixel a dot covers, for the six sizes of dots. Plain values, any thread.
 #pragma once
 
-#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -9,36 +9,49 @@ namespace vantle {
 
 class CeremonyCanvas;
 
-/// The coverage of one sort of dot: side x side bytes, row by row.
+/// The coverage of one sort of dot.
 class CeremonyDotMask {
 public:
-    /// A disc of `radius` pixels in the middle of a square of `side`, with a soft edge and a faint
-    /// halo of `halo` times its strength.
+    /// A disc of `radius` pixels in the middle of a square of `side`, with a soft edge and a halo
+    /// of at most `halo` (0 to 1) around it.
     CeremonyDotMask(int side, double radius, double halo);
 
-    [[nodiscard]] int side() const { return m_side; }
+    /// side x side bytes, row by row.
     [[nodiscard]] const std::vector<std::uint8_t>& coverage() const { return m_coverage; }
 
-    /// Blends the dot with its upper left corner at (x, y); what lies outside is left out.
-    /// `strength` is 0 to 255.
+    /// Blends the dot with its upper left corner at (x, y), at a strength of 0 to 255. What lies
+    /// outside the canvas is left out.
     void stamp(CeremonyCanvas& canvas, int x, int y, std::uint32_t color, int strength) const;
 
 private:
+    void prepareRows();
+    void stampRows(std::uint32_t* corner, std::size_t stride, std::uint32_t color,
+                   std::uint16_t strength) const;
+    void stampClipped(CeremonyCanvas& canvas, int x, int y, std::uint32_t color,
+                      unsigned strength) const;
+
     int m_side;
     std::vector<std::uint8_t> m_coverage;
+
+    // The covered rows again, ready for vectors: eight pixels from m_left on, a weight (coverage
+    // + 1, or 0) for each of their channels. Empty where eight pixels are too few.
+    std::vector<std::uint16_t> m_weights;
+    int m_left = 0;
+    int m_top = 0;
+    int m_rows = 0;
 };
 
 struct CeremonyDotMasks {
-    /// For a grid pitch in pixels.
+    /// For a grid with that pitch in pixels.
     explicit CeremonyDotMasks(double pitch);
 
-    /// Odd, 5 to 9: twice the pitch.
+    /// How wide and high the sprite of a dot is: about two pitches, odd, 5 to 9 pixels.
     [[nodiscard]] static int sideFor(double pitch);
 
     int side;
     CeremonyDotMask back;
     CeremonyDotMask small;
-    CeremonyDotMask smallOver; ///< while it is young
+    CeremonyDotMask smallOver; ///< while the dot is young
     CeremonyDotMask big;
     CeremonyDotMask bigOver;
     CeremonyDotMask flash; ///< while it is just born

@@ -12,6 +12,8 @@ namespace vantle::ceremonytimeline {
 
 /// Of the black plate behind everything, at most 0.52.
 [[nodiscard]] double plateAlpha(CeremonyVariant variant, double t);
+/// The same as the alpha of a pixel, 0 to 255.
+[[nodiscard]] int plateByte(CeremonyVariant variant, double t);
 
 /// Of the title pill.
 [[nodiscard]] double titleOpacity(double t);

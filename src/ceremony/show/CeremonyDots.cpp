@@ -1,0 +1,112 @@
+#include "ceremony/show/CeremonyDots.h"
+
+#include "ceremony/show/CeremonyCanvas.h"
+#include "ceremony/show/CeremonyPaletteRGB.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+namespace vantle {
+
+namespace {
+
+// Seconds in the life of a dot.
+constexpr double kFlash = 0.13;
+constexpr double kYoung = 0.3;
+constexpr double kSettled = 0.32;
+constexpr double kDying = 0.22;
+constexpr double kFading = 0.3; // of one behind
+
+constexpr double kStrobe = 25; // half-cycles a second
+constexpr double kSmall = 0.8; // how bright a small dot is beside a large one
+
+int strengthOf(double alpha) { return static_cast<int>(alpha * 255); }
+
+std::vector<CeremonyDots::Place> placesOf(const std::vector<std::int32_t>& indices,
+                                          const CeremonyGridModel& model,
+                                          const CeremonyCanvas& canvas, int side) {
+    const double pitch = model.cell / canvas.scale();
+    // Where the sprite is larger than the canvas it starts at its edge.
+    const auto start = [&](int cell, int size) {
+        const auto wanted = static_cast<int>(std::round(pitch * (cell + 0.5) - side / 2.0));
+        return std::clamp(wanted, 0, std::max(size - side, 0));
+    };
+    std::vector<CeremonyDots::Place> places;
+    places.reserve(indices.size());
+    for (const std::int32_t index : indices)
+        places.push_back({start(index % model.cols, canvas.width()),
+                          start(index / model.cols, canvas.height())});
+    return places;
+}
+
+} // namespace
+
+CeremonyDots::CeremonyDots(const CeremonyGridModel& model, const CeremonyCanvas& canvas)
+    : m_masks(model.cell / canvas.scale())
+    , m_frontPlaces(placesOf(model.fieldIndex, model, canvas, m_masks.side))
+    , m_backPlaces(placesOf(model.backIndex, model, canvas, m_masks.side)) {
+    for (std::size_t i = 0; i < m_palette.size(); ++i) {
+        m_palette[i] = canvas.packed(ceremonypalette::field[i]);
+        m_flashPalette[i] = canvas.packed(flashColor(ceremonypalette::field[i]));
+    }
+}
+
+std::uint32_t CeremonyDots::flashColor(std::uint32_t rgb) {
+    std::uint32_t raised = 0;
+    for (const int shift : {16, 8, 0}) {
+        const std::uint32_t channel = rgb >> shift & 0xFF;
+        const auto missing = static_cast<std::uint32_t>((255 - channel) * 0.45);
+        raised |= (channel + missing) << shift;
+    }
+    return raised;
+}
+
+void CeremonyDots::drawBack(CeremonyCanvas& canvas, const CeremonyGridModel& model,
+                            double t) const {
+    for (std::size_t i = 0; i < m_backPlaces.size(); ++i) {
+        const double born = model.backBorn[i];
+        if (born > t) continue;
+        const double past = t - double{model.backVanish[i]};
+        if (past > kFading) continue;
+        double alpha = 0;
+        if (past > 0)
+            alpha = (1 - past / kFading) * 0.16;
+        else
+            alpha = std::min(4 * (t - born), 1.0) *
+                    (0.05 * std::sin(3 * t + double{model.backPhase[i]}) + 0.11);
+        m_masks.back.stamp(canvas, m_backPlaces[i].x, m_backPlaces[i].y,
+                           m_palette[model.backColor[i]], strengthOf(alpha));
+    }
+}
+
+void CeremonyDots::drawFront(CeremonyCanvas& canvas, const CeremonyGridModel& model,
+                             double t) const {
+    for (std::size_t i = 0; i < m_frontPlaces.size(); ++i) {
+        const double age = t - double{model.fieldBorn[i]};
+        const double past = t - double{model.fieldVanish[i]};
+        if (age < 0 || past > kDying) continue;
+        const auto stamp = [&](const CeremonyDotMask& mask, std::uint32_t color, double alpha) {
+            mask.stamp(canvas, m_frontPlaces[i].x, m_frontPlaces[i].y, color, strengthOf(alpha));
+        };
+        const std::uint32_t color = m_palette[model.fieldColor[i]];
+        if (past > 0) {
+            const bool dark = (model.fieldFlicker[i] + static_cast<int>(kStrobe * past)) % 2 == 0;
+            if (!dark) stamp(m_masks.small, color, (1 - past / kDying) * 0.7);
+            continue;
+        }
+        if (age < kFlash) {
+            stamp(m_masks.flash, m_flashPalette[model.fieldColor[i]], 1);
+            continue;
+        }
+        const double twinkle = 0.3 * std::sin(5 * t + double{model.fieldPhase[i]});
+        const double alpha = std::min(0.5 * std::max(1 - age / kSettled, 0.0) + twinkle + 0.5, 1.0);
+        const bool young = age < kYoung;
+        if (model.fieldBright[i] != 0)
+            stamp(young ? m_masks.bigOver : m_masks.big, color, alpha);
+        else
+            stamp(young ? m_masks.smallOver : m_masks.small, color, alpha * kSmall);
+    }
+}
+
+} // namespace vantle
