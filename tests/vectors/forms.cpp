@@ -4,9 +4,11 @@ namespace vantle::vectors {
 
 const QList<Form>& allForms() {
     static const QList<Form> forms = QList<Form>(trackerForms())
-                                     << autoRulesForm() << cardSlotForm() << durationsForm()
-                                     << dwellEngineForm() << idleMonitorForm() << narrativeForm()
-                                     << noteDigestForm() << recordsForm() << skillsForm()
+                                     << autoRulesForm() << cardSlotForm() << choreographyForm()
+                                     << durationsForm() << dwellEngineForm() << idleMonitorForm()
+                                     << narrativeForm() << noteDigestForm() << overlayControlForm()
+                                     << personaForm() << recordsForm() << rendererForm()
+                                     << rhythmSuperlativesForm() << skillsForm() << statisticsForm()
                                      << totalsForm() << weeksForm();
     return forms;
 }

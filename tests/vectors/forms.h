@@ -7,13 +7,19 @@ namespace vantle::vectors {
 
 [[nodiscard]] Form autoRulesForm();
 [[nodiscard]] Form cardSlotForm();
+[[nodiscard]] Form choreographyForm();
 [[nodiscard]] Form durationsForm();
 [[nodiscard]] Form dwellEngineForm();
 [[nodiscard]] Form idleMonitorForm();
 [[nodiscard]] Form narrativeForm();
 [[nodiscard]] Form noteDigestForm();
+[[nodiscard]] Form overlayControlForm();
+[[nodiscard]] Form personaForm();
 [[nodiscard]] Form recordsForm();
+[[nodiscard]] Form rendererForm();
+[[nodiscard]] Form rhythmSuperlativesForm();
 [[nodiscard]] Form skillsForm();
+[[nodiscard]] Form statisticsForm();
 [[nodiscard]] Form totalsForm();
 [[nodiscard]] Form weeksForm();
 
