@@ -1,0 +1,32 @@
+// Where cards and the toast stand: in the top right corner, clear of its edges and of each other.
+//
+// Pure functions over rectangles in px of the desktop, y downwards. Any thread.
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+
+#include <vector>
+
+namespace vantle::cardplacement {
+
+inline constexpr int kCardWidth = 380;
+inline constexpr int kRightInset = 12;
+inline constexpr int kTopInset = 10;
+inline constexpr int kToastGap = 12;       ///< between the toast and what stands above it
+inline constexpr int kCornerDistance = 80; ///< what is as near to both edges is in the corner
+
+/// How wide a card is: as designed, on a narrow screen as wide as leaves both insets free.
+/// `visibleFrame` is the screen without the desktop's bars.
+[[nodiscard]] int cardWidth(const QRect& visibleFrame);
+
+/// The top left of a card of that size.
+[[nodiscard]] QPoint card(const QRect& visibleFrame, const QSize& size);
+
+/// The top left of a toast of that size: on the line of the cards, below those of `panels` that
+/// stand in the corner.
+[[nodiscard]] QPoint toast(const QRect& visibleFrame, const QSize& size,
+                           const std::vector<QRect>& panels);
+
+} // namespace vantle::cardplacement

@@ -1,0 +1,33 @@
+#include "surfaces/cards/CornerCard.h"
+
+#include "surfaces/cards/CardPlacement.h"
+
+#include <utility>
+
+namespace vantle {
+
+bool CornerCard::present(CardView view, const std::shared_ptr<QObject>& model) {
+    takeDown();
+    const auto visibleFrame = m_stage.visibleFrame();
+    if (!visibleFrame) return false;
+    m_panel = m_stage.raise(view, model);
+    if (!m_panel) return false;
+    m_model = model;
+    m_panel->showAt(cardplacement::card(*visibleFrame, m_panel->size()));
+    return true;
+}
+
+void CornerCard::dismissAfter(Seconds delay, std::function<void()> work) {
+    m_autoDismissTimer = m_scheduler.scheduleOnce(delay, std::move(work));
+}
+
+bool CornerCard::takeDown() {
+    m_autoDismissTimer.reset();
+    if (!m_panel) return false;
+    m_stage.dismiss(std::move(m_panel));
+    // It may be one of the model's own signals that brought us here.
+    m_scheduler.post([spent = std::move(m_model)] {});
+    return true;
+}
+
+} // namespace vantle

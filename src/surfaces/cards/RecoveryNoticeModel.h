@@ -1,0 +1,50 @@
+// What the notice about a session that a crash interrupted says, as its view sees it.
+#pragma once
+
+#include "tracking/DurationStyle.h"
+#include "tracking/Session.h"
+#include "tracking/Skill.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QStringList>
+
+namespace vantle {
+
+/// Main thread.
+class RecoveryNoticeModel final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the controller.")
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString body READ body CONSTANT)
+    /// The body in pieces: plain ones and ones to stress take turns, a plain one first.
+    Q_PROPERTY(QStringList bodyPieces READ bodyPieces CONSTANT)
+    Q_PROPERTY(QString discardHelp READ discardHelp CONSTANT)
+    Q_PROPERTY(QString keepHelp READ keepHelp CONSTANT)
+
+public:
+    RecoveryNoticeModel(const Session& session, const Skill& skill, DurationStyle style);
+
+    [[nodiscard]] QString title() const { return QStringLiteral("Recover your last session?"); }
+    [[nodiscard]] QString body() const { return m_bodyPieces.join(QString()); }
+    [[nodiscard]] const QStringList& bodyPieces() const { return m_bodyPieces; }
+    [[nodiscard]] QString discardHelp() const {
+        return QStringLiteral("Deletes the interrupted session without saving it");
+    }
+    [[nodiscard]] QString keepHelp() const {
+        return QStringLiteral("Saves the interrupted session to your local log");
+    }
+
+    Q_INVOKABLE void discard() { Q_EMIT discarded(); }
+    Q_INVOKABLE void keep() { Q_EMIT kept(); }
+
+Q_SIGNALS:
+    void discarded();
+    void kept();
+
+private:
+    const QStringList m_bodyPieces;
+};
+
+} // namespace vantle

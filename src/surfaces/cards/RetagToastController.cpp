@@ -1,0 +1,50 @@
+#include "surfaces/cards/RetagToastController.h"
+
+#include "surfaces/cards/CardPlacement.h"
+#include "surfaces/cards/RetagToastModel.h"
+#include "surfaces/cards/SavedTime.h"
+
+#include <utility>
+
+namespace vantle {
+
+namespace {
+
+constexpr Seconds kRepositionTolerance{0.1};
+
+} // namespace
+
+void RetagToastController::show(const QString& name, std::uint32_t color, std::int64_t seconds) {
+    m_dismissTimer.reset();
+    m_repositionTimer.reset();
+    m_panel.reset();
+    if (!m_env.stage.visibleFrame()) return;
+    const QString saved = savedTime(seconds, durationstyle::current(m_env.preferences));
+    m_panel =
+        m_env.stage.raise(CardView::RetagToast,
+                          std::make_shared<RetagToastModel>(saved, name, QColor::fromRgb(color)));
+    if (!m_panel) return;
+    m_panel->showAt(place().value_or(QPoint()));
+    m_dismissTimer = m_env.scheduler.scheduleOnce(Seconds(visibleSeconds), [this] { fadeOut(); });
+    m_repositionTimer = m_env.scheduler.scheduleRepeatingTimer(
+        Seconds(repositionSeconds), kRepositionTolerance, [this] { reposition(); });
+}
+
+std::optional<QPoint> RetagToastController::place() const {
+    const auto visibleFrame = m_env.stage.visibleFrame();
+    if (!visibleFrame) return std::nullopt;
+    return cardplacement::toast(*visibleFrame, m_panel->size(), m_env.stage.panelFrames());
+}
+
+void RetagToastController::reposition() {
+    if (const auto target = place(); target && *target != m_panel->frame().topLeft())
+        m_panel->moveTo(*target);
+}
+
+void RetagToastController::fadeOut() {
+    m_dismissTimer.reset();
+    m_repositionTimer.reset();
+    m_env.stage.dismiss(std::move(m_panel));
+}
+
+} // namespace vantle

@@ -1,0 +1,36 @@
+// What the short word after a change of skill says, as its view sees it.
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QQmlEngine>
+
+namespace vantle {
+
+/// Main thread.
+class RetagToastModel final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the controller.")
+    Q_PROPERTY(QString text READ text CONSTANT)
+    /// The skill that the time went to.
+    Q_PROPERTY(QString skillName READ skillName CONSTANT)
+    Q_PROPERTY(QColor skillColor READ skillColor CONSTANT)
+
+public:
+    RetagToastModel(const QString& savedTime, const QString& skillName, const QColor& skillColor)
+        : m_text(QStringLiteral("%1 saved").arg(savedTime))
+        , m_skillName(skillName)
+        , m_skillColor(skillColor) {}
+
+    [[nodiscard]] const QString& text() const { return m_text; }
+    [[nodiscard]] const QString& skillName() const { return m_skillName; }
+    [[nodiscard]] const QColor& skillColor() const { return m_skillColor; }
+
+private:
+    const QString m_text;
+    const QString m_skillName;
+    const QColor m_skillColor;
+};
+
+} // namespace vantle

@@ -1,0 +1,65 @@
+#include "surfaces/cards/StopSummaryController.h"
+
+#include "app/TopRightCardSlot.h"
+#include "base/Text.h"
+#include "surfaces/cards/StopSummaryModel.h"
+#include "tracking/NotificationCenter.h"
+#include "tracking/SkillList.h"
+
+#include <utility>
+
+namespace vantle {
+
+namespace {
+
+std::optional<QString> noteOf(const QString& typed) {
+    const QString note = text::trimmed(typed);
+    return note.isEmpty() ? std::nullopt : std::optional(note);
+}
+
+} // namespace
+
+StopSummaryController::StopSummaryController(const CardEnvironment& environment)
+    : m_env(environment)
+    , m_card(environment) {}
+
+StopSummaryController::~StopSummaryController() { m_env.slot.release(this); }
+
+void StopSummaryController::show(const Content& content,
+                                 std::function<void(const std::optional<QString>& note)> onClose) {
+    finish(std::nullopt);
+    m_completion = std::move(onClose);
+    if (!m_env.stage.visibleFrame()) return finish(std::nullopt);
+    m_env.slot.takeForSummary(this, [this] { finish(std::nullopt); });
+    const auto model =
+        std::make_shared<StopSummaryModel>(content, m_env.skills.display(content.session.skillId),
+                                           durationstyle::current(m_env.preferences));
+    connect(model.get(), &StopSummaryModel::interacted, this, [this] { m_card.stay(); });
+    connect(model.get(), &StopSummaryModel::done, this,
+            [this](const QString& note) { finish(noteOf(note)); });
+    connect(model.get(), &StopSummaryModel::keyboardReleased, this, [this] {
+        if (m_card.panel() != nullptr) m_card.panel()->returnKeyboard();
+    });
+    if (!m_card.present(CardView::StopSummary, model)) return finish(std::nullopt);
+    m_model = model.get();
+    if (content.spotlightNote) {
+        m_card.panel()->takeKeyboard();
+        m_env.scheduler.post([self = QPointer(this), shown = m_model] {
+            if (self && shown && self->m_model == shown) shown->inviteNote();
+        });
+    }
+    m_card.dismissAfter(
+        Seconds(content.spotlightNote ? spotlightDismissSeconds : autoDismissSeconds),
+        [this] { finish(std::nullopt); });
+}
+
+void StopSummaryController::finish(const std::optional<QString>& note) {
+    if (m_model) disconnect(m_model, nullptr, this, nullptr);
+    m_model = nullptr;
+    const bool wasUp = m_card.takeDown();
+    if (const auto completion = std::exchange(m_completion, {})) completion(note);
+    m_env.slot.release(this);
+    if (wasUp) Q_EMIT m_env.notifications.HFStopSummaryResolved();
+}
+
+} // namespace vantle

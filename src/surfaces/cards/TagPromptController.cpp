@@ -1,0 +1,66 @@
+#include "surfaces/cards/TagPromptController.h"
+
+#include "app/TopRightCardSlot.h"
+#include "surfaces/cards/CorrectionPromptModel.h"
+#include "surfaces/cards/TagPromptModel.h"
+
+#include <utility>
+
+namespace vantle {
+
+TagPromptController::TagPromptController(const CardEnvironment& environment)
+    : m_env(environment)
+    , m_card(environment) {}
+
+TagPromptController::~TagPromptController() { m_env.slot.release(this); }
+
+bool TagPromptController::show(const QString& appName, const std::vector<Skill>& skills,
+                               bool isCounting, bool isBrowser,
+                               std::function<void(const Outcome&)> onResolve) {
+    if (!takeCorner()) return false;
+    const auto model = std::make_shared<TagPromptModel>(appName, skills, isCounting, isBrowser);
+    connect(model.get(), &TagPromptModel::interacted, this, [this] { m_card.stay(); });
+    connect(model.get(), &TagPromptModel::resolved, this, &TagPromptController::finish);
+    return present(CardView::TagPrompt, model, std::move(onResolve));
+}
+
+bool TagPromptController::showCorrection(const QString& appName, const Skill& skill,
+                                         std::function<void(bool)> onResolve) {
+    if (!takeCorner()) return false;
+    const auto model = std::make_shared<CorrectionPromptModel>(appName, skill);
+    connect(model.get(), &CorrectionPromptModel::accepted, this, [this, id = skill.id] {
+        finish({Outcome::Kind::Tagged, id});
+    });
+    connect(model.get(), &CorrectionPromptModel::declined, this, [this] { finish({}); });
+    return present(CardView::CorrectionPrompt, model,
+                   [onResolve = std::move(onResolve)](const Outcome& outcome) {
+                       onResolve(outcome.kind == Outcome::Kind::Tagged);
+                   });
+}
+
+bool TagPromptController::takeCorner() {
+    finish({});
+    return m_env.slot.request(this, TopRightCardSlot::Kind::Prompt, [this] { finish({}); }, {});
+}
+
+bool TagPromptController::present(CardView view, const std::shared_ptr<QObject>& model,
+                                  std::function<void(const Outcome&)> completion) {
+    if (!m_card.present(view, model)) {
+        m_env.slot.release(this);
+        return false;
+    }
+    m_model = model.get();
+    m_completion = std::move(completion);
+    m_card.dismissAfter(Seconds(autoDismissSeconds), [this] { finish({}); });
+    return true;
+}
+
+void TagPromptController::finish(const Outcome& outcome) {
+    if (m_model) disconnect(m_model, nullptr, this, nullptr);
+    m_model = nullptr;
+    m_card.takeDown();
+    if (const auto completion = std::exchange(m_completion, {})) completion(outcome);
+    m_env.slot.release(this);
+}
+
+} // namespace vantle

@@ -1,0 +1,50 @@
+#include "surfaces/cards/TagPromptModel.h"
+
+namespace vantle {
+
+TagPromptModel::TagPromptModel(const QString& appName, const std::vector<Skill>& skills,
+                               bool isCounting, bool isBrowser)
+    : m_appName(appName)
+    , m_isCounting(isCounting)
+    , m_isBrowser(isBrowser)
+    , m_choices(skills) {}
+
+QString TagPromptModel::headline() const {
+    if (m_isBrowser) return QStringLiteral("What is %1 usually?").arg(m_appName);
+    if (m_isCounting) return QStringLiteral("Counting time in %1").arg(m_appName);
+    return QStringLiteral("Count %1 toward a skill?").arg(m_appName);
+}
+
+QString TagPromptModel::subtitle() const {
+    if (m_isBrowser)
+        return QStringLiteral("A browser can be anything; pick its usual job or keep it flexible.");
+    if (m_isCounting) return QStringLiteral("Which skill is this?");
+    return QStringLiteral("Auto mode remembers your choice.");
+}
+
+QString TagPromptModel::ignoreText() const {
+    return m_isBrowser ? QStringLiteral("Keep it flexible") : QStringLiteral("Ignore this app");
+}
+
+QString TagPromptModel::ignoreHelp() const {
+    return m_isBrowser ? QStringLiteral("Auto mode never guesses for this browser; switch "
+                                        "categories from the notch any time")
+                       : QStringLiteral("Auto mode never reacts to this app");
+}
+
+void TagPromptModel::pick(int index) {
+    const auto& skills = m_choices.skills();
+    if (index < 0 || index >= static_cast<int>(skills.size())) return;
+    resolve({Outcome::Kind::Tagged, skills[static_cast<std::size_t>(index)].id});
+}
+
+void TagPromptModel::ignore() { resolve({Outcome::Kind::Ignore, {}}); }
+
+void TagPromptModel::dismiss() { resolve({Outcome::Kind::Dismiss, {}}); }
+
+void TagPromptModel::resolve(const Outcome& outcome) {
+    Q_EMIT interacted();
+    Q_EMIT resolved(outcome);
+}
+
+} // namespace vantle

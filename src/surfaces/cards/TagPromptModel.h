@@ -1,0 +1,54 @@
+// The question what an unknown application is for, as its view sees it.
+#pragma once
+
+#include "app/Collaborators.h"
+#include "surfaces/cards/SkillChoices.h"
+
+#include <QObject>
+#include <QQmlEngine>
+
+namespace vantle {
+
+/// Main thread.
+class TagPromptModel final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the controller.")
+    Q_PROPERTY(QString headline READ headline CONSTANT)
+    Q_PROPERTY(QString subtitle READ subtitle CONSTANT)
+    Q_PROPERTY(vantle::SkillChoices* choices READ choices CONSTANT)
+    Q_PROPERTY(QString ignoreText READ ignoreText CONSTANT)
+    Q_PROPERTY(QString ignoreHelp READ ignoreHelp CONSTANT)
+
+public:
+    using Outcome = collaborators::TagPrompt::Outcome;
+
+    TagPromptModel(const QString& appName, const std::vector<Skill>& skills, bool isCounting,
+                   bool isBrowser);
+
+    [[nodiscard]] QString headline() const;
+    [[nodiscard]] QString subtitle() const;
+    [[nodiscard]] SkillChoices* choices() { return &m_choices; }
+    [[nodiscard]] QString ignoreText() const;
+    [[nodiscard]] QString ignoreHelp() const;
+
+    /// The chip at that place among the choices.
+    Q_INVOKABLE void pick(int index);
+    Q_INVOKABLE void ignore();
+    Q_INVOKABLE void dismiss();
+
+Q_SIGNALS:
+    /// The person touched the card. Before each answer.
+    void interacted();
+    void resolved(const vantle::collaborators::TagPrompt::Outcome& outcome);
+
+private:
+    void resolve(const Outcome& outcome);
+
+    const QString m_appName;
+    const bool m_isCounting;
+    const bool m_isBrowser;
+    SkillChoices m_choices;
+};
+
+} // namespace vantle

@@ -1,0 +1,51 @@
+// The corner of the screen, its cards, and time that passes when a test says so.
+#pragma once
+
+#include "app/TopRightCardSlot.h"
+#include "fakes/FakeCardStage.h"
+#include "fakes/MemoryFileSystem.h"
+#include "fakes/MemoryPreferences.h"
+#include "fakes/VirtualTime.h"
+#include "support/QtPrinters.h"
+#include "surfaces/cards/CornerCard.h"
+#include "tracking/AppPaths.h"
+#include "tracking/DurationStyle.h"
+#include "tracking/NotificationCenter.h"
+#include "tracking/SkillList.h"
+
+namespace vantle::tests {
+
+class CardWorld {
+public:
+    CardWorld() { time.attach(ioQueue); }
+
+    void setStyle(DurationStyle style) {
+        preferences.setString(QLatin1String(durationstyle::defaultsKey),
+                              durationstyle::rawValue(style));
+    }
+
+    [[nodiscard]] static Session session(std::int64_t seconds,
+                                         const QString& skillId = QStringLiteral("building")) {
+        Session made;
+        made.id = QUuid::createUuid();
+        made.skillId = skillId;
+        made.startedAt = dateFromEpoch(1772359200.0);
+        made.endedAt = made.startedAt + Seconds(static_cast<double>(seconds));
+        made.activeSeconds = seconds;
+        made.source = sourceApp();
+        return made;
+    }
+
+    fakes::VirtualTime time;
+    fakes::ManualQueue ioQueue;
+    fakes::MemoryFileSystem disk;
+    fakes::MemoryPreferences preferences;
+    AppPaths paths{disk, QStringLiteral("/data")};
+    SkillList skills{paths, ioQueue, preferences};
+    NotificationCenter notifications;
+    TopRightCardSlot slot;
+    fakes::FakeCardStage stage;
+    CardEnvironment environment{time, preferences, skills, notifications, slot, stage};
+};
+
+} // namespace vantle::tests

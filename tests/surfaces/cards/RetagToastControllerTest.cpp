@@ -1,0 +1,109 @@
+#include "surfaces/cards/RetagToastController.h"
+
+#include "surfaces/cards/CardWorld.h"
+#include "surfaces/cards/RetagToastModel.h"
+#include "surfaces/cards/StopSummaryController.h"
+
+#include <gtest/gtest.h>
+
+namespace vantle::tests {
+namespace {
+
+QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+
+class RetagToastTest : public testing::Test, protected CardWorld {
+protected:
+    void show(std::int64_t seconds = 720) { controller.show(text("Build"), 0x7A78FF, seconds); }
+    [[nodiscard]] fakes::FakeCardPanel* toast() const { return stage.up(CardView::RetagToast); }
+    [[nodiscard]] RetagToastModel* model() const {
+        return stage.modelOf<RetagToastModel>(CardView::RetagToast);
+    }
+
+    RetagToastController controller{environment};
+};
+
+TEST_F(RetagToastTest, ItSaysHowMuchWasSavedAndWhere) {
+    show();
+    ASSERT_NE(model(), nullptr);
+    EXPECT_EQ(model()->text(), text("12 min saved"));
+    EXPECT_EQ(model()->skillName(), text("Build"));
+    EXPECT_EQ(model()->skillColor(), QColor::fromRgb(0x7A78FF));
+    EXPECT_EQ(toast()->frame(), QRect(1440 - 12 - 206, 38, 206, 40));
+}
+
+TEST_F(RetagToastTest, ItWritesDurationsAsThePersonLikesThem) {
+    setStyle(DurationStyle::Clock);
+    show(65);
+    EXPECT_EQ(model()->text(), text("1:05 saved"));
+}
+
+TEST_F(RetagToastTest, ItGoesAfterTwoSecondsAndLeavesNoTimer) {
+    show();
+    time.advance(1.9);
+    EXPECT_NE(toast(), nullptr);
+    time.advance(0.2);
+    EXPECT_EQ(toast(), nullptr);
+    EXPECT_EQ(stage.dismissed, 1) << "it fades";
+    EXPECT_EQ(time.timerCount(), 0u);
+}
+
+TEST_F(RetagToastTest, ANewOneReplacesTheOldAtOnceAndStaysItsFullTime) {
+    show(60);
+    time.advance(1.5);
+    show(120);
+    EXPECT_EQ(stage.panels.size(), 1u);
+    EXPECT_EQ(stage.dismissed, 0) << "the old one does not fade beside the new one";
+    EXPECT_EQ(model()->text(), text("2 min saved"));
+    time.advance(1.5);
+    EXPECT_NE(toast(), nullptr);
+    time.advance(1);
+    EXPECT_EQ(toast(), nullptr);
+}
+
+TEST_F(RetagToastTest, ItDoesNotCompeteForTheCorner) {
+    const int prompt = 0;
+    (void)slot.request(&prompt, TopRightCardSlot::Kind::Prompt, [] { FAIL() << "evicted"; }, {});
+    show();
+    EXPECT_NE(toast(), nullptr);
+    EXPECT_EQ(slot.holder()->owner, &prompt);
+}
+
+TEST_F(RetagToastTest, AStopSummaryThatComesMovesItBelowWithinAQuarterOfASecond) {
+    StopSummaryController summary(environment);
+    show();
+    time.advance(0.6);
+    summary.show({.session = session(60)}, {});
+    time.advance(0.25);
+    EXPECT_EQ(toast()->frame().y(), 38 + 263 + 12);
+    EXPECT_EQ(toast()->moves, 1);
+    time.advance(0.5);
+    EXPECT_EQ(toast()->moves, 1) << "it stays where it is";
+}
+
+TEST_F(RetagToastTest, ItMovesUpAgainWhenTheCardAboveGoes) {
+    stage.others = {QRect(1068, 34, 360, 534)};
+    show();
+    EXPECT_EQ(toast()->frame().y(), 34 + 534 + 12);
+    stage.others.clear();
+    time.advance(0.25);
+    EXPECT_EQ(toast()->frame().y(), 38);
+}
+
+TEST_F(RetagToastTest, WithoutAScreenThereIsNone) {
+    stage.screen.reset();
+    show();
+    EXPECT_EQ(stage.raised, 0);
+    EXPECT_EQ(time.timerCount(), 0u);
+}
+
+TEST_F(RetagToastTest, AScreenThatGoesMeanwhileLeavesItWhereItIs) {
+    show();
+    stage.screen.reset();
+    time.advance(1);
+    EXPECT_EQ(toast()->moves, 0);
+    time.advance(2);
+    EXPECT_EQ(toast(), nullptr);
+}
+
+} // namespace
+} // namespace vantle::tests

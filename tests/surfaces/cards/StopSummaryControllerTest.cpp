@@ -1,0 +1,189 @@
+#include "surfaces/cards/StopSummaryController.h"
+
+#include "surfaces/cards/CardWorld.h"
+#include "surfaces/cards/RecoveryNoticeController.h"
+#include "surfaces/cards/StopSummaryModel.h"
+
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+namespace vantle::tests {
+namespace {
+
+using Kind = TopRightCardSlot::Kind;
+
+QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+
+class StopSummaryTest : public testing::Test, protected CardWorld {
+protected:
+    void show(bool spotlightNote = false) {
+        collaborators::StopSummary::Content content;
+        content.session = session(300);
+        content.carrySeconds = 300;
+        content.spotlightNote = spotlightNote;
+        controller.show(content, [this](const std::optional<QString>& note) {
+            closes.push_back(note);
+            resolvedBeforeClose = resolved.count();
+        });
+    }
+    [[nodiscard]] bool isUp() const { return stage.up(CardView::StopSummary) != nullptr; }
+    [[nodiscard]] StopSummaryModel& model() const {
+        return *stage.modelOf<StopSummaryModel>(CardView::StopSummary);
+    }
+
+    StopSummaryController controller{environment};
+    QSignalSpy resolved{&notifications, &NotificationCenter::HFStopSummaryResolved};
+    std::vector<std::optional<QString>> closes;
+    qsizetype resolvedBeforeClose = -1;
+};
+
+using Closes = std::vector<std::optional<QString>>;
+
+TEST_F(StopSummaryTest, TheCardStandsInTheCornerWithoutTheKeyboard) {
+    show();
+    ASSERT_TRUE(isUp());
+    EXPECT_EQ(stage.up(CardView::StopSummary)->frame(), QRect(1048, 38, 380, 263));
+    EXPECT_FALSE(stage.up(CardView::StopSummary)->hasKeyboard);
+    ASSERT_TRUE(slot.holder());
+    EXPECT_EQ(slot.holder()->kind, Kind::Summary);
+}
+
+TEST_F(StopSummaryTest, LeftAloneItClosesAfterTwentySecondsWithoutANote) {
+    show();
+    time.advance(19.9);
+    EXPECT_TRUE(isUp());
+    EXPECT_EQ(closes, Closes{});
+    time.advance(0.2);
+    EXPECT_FALSE(isUp());
+    EXPECT_EQ(closes, Closes{std::nullopt});
+    EXPECT_EQ(resolved.count(), 1);
+    EXPECT_FALSE(slot.holder());
+}
+
+TEST_F(StopSummaryTest, ACardThatAsksForTheNoteWaitsFortyFiveSecondsAndHasTheKeyboard) {
+    show(true);
+    time.settle();
+    EXPECT_TRUE(stage.up(CardView::StopSummary)->hasKeyboard);
+    time.advance(44.9);
+    EXPECT_TRUE(isUp());
+    time.advance(0.2);
+    EXPECT_EQ(closes, Closes{std::nullopt});
+}
+
+TEST_F(StopSummaryTest, TheCursorIsPutIntoTheFieldOnTheNextTurnWhichIsNotThePersonsDoing) {
+    show(true);
+    const QSignalSpy asked(&model(), &StopSummaryModel::noteFocusRequested);
+    QObject::connect(&model(), &StopSummaryModel::noteFocusRequested, &model(),
+                     [this] { model().noteFocused(); });
+    EXPECT_EQ(asked.count(), 0);
+    time.settle();
+    EXPECT_EQ(asked.count(), 1);
+    time.advance(46);
+    EXPECT_FALSE(isUp());
+}
+
+TEST_F(StopSummaryTest, OneKeystrokeKeepsItUpForGoodAlsoWhenItIsDeleted) {
+    show();
+    time.advance(19);
+    (void)model().takeNote(text("a"));
+    (void)model().takeNote(QString());
+    time.advance(3600);
+    EXPECT_TRUE(isUp());
+    EXPECT_EQ(time.timerCount(), 0u);
+    model().submit();
+    EXPECT_EQ(closes, Closes{std::nullopt});
+}
+
+TEST_F(StopSummaryTest, AClickIntoTheFieldKeepsItUp) {
+    show();
+    model().noteFocused();
+    time.advance(60);
+    EXPECT_TRUE(isUp());
+}
+
+TEST_F(StopSummaryTest, ATypedNoteIsHandedOverTrimmedAndOnce) {
+    show();
+    (void)model().takeNote(text("  Retries land in order\n"));
+    StopSummaryModel& shown = model();
+    const auto kept = stage.up(CardView::StopSummary)->model;
+    shown.submit();
+    EXPECT_EQ(closes, Closes{text("Retries land in order")});
+    shown.submit(); // a second click while the card fades
+    EXPECT_EQ(closes.size(), 1u);
+    EXPECT_EQ(resolved.count(), 1);
+}
+
+TEST_F(StopSummaryTest, TheNoteIsDeliveredBeforeAnybodyHearsThatTheCardHasGone) {
+    show();
+    model().submit();
+    EXPECT_EQ(resolvedBeforeClose, 0);
+    EXPECT_EQ(resolved.count(), 1);
+}
+
+TEST_F(StopSummaryTest, ANoteOfSpacesIsNone) {
+    show();
+    (void)model().takeNote(text(" \n\t "));
+    model().submit();
+    EXPECT_EQ(closes, Closes{std::nullopt});
+}
+
+TEST_F(StopSummaryTest, EscapeGivesTheKeyboardBackAndKeepsTheNote) {
+    show(true);
+    (void)model().takeNote(text("half a thought"));
+    model().turnAway();
+    EXPECT_FALSE(stage.up(CardView::StopSummary)->hasKeyboard);
+    model().submit();
+    EXPECT_EQ(closes, Closes{text("half a thought")});
+}
+
+TEST_F(StopSummaryTest, ASecondSessionClosesTheCardOfTheFirstWithoutItsNote) {
+    show();
+    (void)model().takeNote(text("unsaved"));
+    show();
+    EXPECT_EQ(closes, Closes{std::nullopt});
+    EXPECT_TRUE(isUp());
+    EXPECT_FALSE(model().hasNote());
+    EXPECT_EQ(stage.panels.size(), 1u);
+    time.advance(21);
+    EXPECT_EQ(closes, Closes({std::nullopt, std::nullopt}));
+}
+
+TEST_F(StopSummaryTest, WithoutAnyScreenTheSessionGoesOnUnchanged) {
+    stage.screen.reset();
+    show();
+    EXPECT_EQ(closes, Closes{std::nullopt});
+    EXPECT_EQ(resolved.count(), 0) << "no card was there to close";
+    EXPECT_FALSE(slot.holder());
+    EXPECT_EQ(time.timerCount(), 0u);
+}
+
+TEST_F(StopSummaryTest, APromptIsPushedOutForGood) {
+    int evictions = 0;
+    const int prompt = 0;
+    (void)slot.request(&prompt, Kind::Prompt, [&] { ++evictions; }, {});
+    show();
+    EXPECT_EQ(evictions, 1);
+    EXPECT_TRUE(isUp());
+    EXPECT_FALSE(slot.hasQueued());
+}
+
+TEST_F(StopSummaryTest, ARecoveryNoticeReturnsWhenTheCardCloses) {
+    RecoveryNoticeController recovery(environment);
+    recovery.show(session(600), {}, {});
+    show();
+    EXPECT_EQ(stage.up(CardView::RecoveryNotice), nullptr);
+    time.advance(21);
+    EXPECT_FALSE(isUp());
+    EXPECT_NE(stage.up(CardView::RecoveryNotice), nullptr);
+}
+
+TEST_F(StopSummaryTest, ADeletedSkillIsStillNamed) {
+    collaborators::StopSummary::Content content;
+    content.session = session(300, text("wood_work"));
+    controller.show(content, {});
+    EXPECT_EQ(model().skillName(), skills.display(text("wood_work")).name);
+}
+
+} // namespace
+} // namespace vantle::tests
