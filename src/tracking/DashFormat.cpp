@@ -1,13 +1,12 @@
 #include "tracking/DashFormat.h"
 
+#include "base/Decimals.h"
 #include "base/Rounding.h"
 #include "tracking/Totals.h"
 
 #include <QLocale>
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 
 namespace vantle::dashformat {
 
@@ -26,19 +25,10 @@ const QString& hourUnit() {
     return unit;
 }
 
-/// printf's "%.{decimals}f": exact ties of the binary value go to the even digit. (Qt's own
-/// formatting rounds them up.)
-QString fixed(double value, int decimals) {
-    std::array<char, 400> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                   std::chars_format::fixed, decimals);
-    return QString::fromLatin1(buffer.data(), end.ptr - buffer.data());
-}
-
 /// One decimal without a trailing ".0"; from 99.95 on without any decimals.
 QString decimalHours(double hours) {
-    if (hours >= 99.95) return fixed(hours, 0);
-    QString text = fixed(hours, 1);
+    if (hours >= 99.95) return fixedDecimals(hours, 0);
+    QString text = fixedDecimals(hours, 1);
     if (text.endsWith(QLatin1String(".0"))) text.chop(2);
     return text;
 }

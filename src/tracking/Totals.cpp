@@ -1,9 +1,7 @@
 #include "tracking/Totals.h"
 
-#include "tracking/SkillList.h"
+#include "tracking/RunningTotals.h"
 #include "tracking/TrackerCore.h"
-
-#include <algorithm>
 
 namespace vantle::totals {
 
@@ -61,40 +59,18 @@ std::vector<SkillTotal> perSkillTotals(const std::vector<Session>& sessions, Dat
 }
 
 std::vector<Badge> badges(const std::vector<Session>& sessions, Date now) {
-    std::vector<Badge> earned;
-    std::int64_t seconds = 0;
-    for (const Session& session : sessions) {
-        if (!TrackerCore::countsInTotals(session, now)) continue;
-        seconds += session.activeSeconds;
-        while (earned.size() < milestoneLadder.size() &&
-               seconds >= milestoneLadder[earned.size()] * kHour)
-            earned.push_back({milestoneLadder[earned.size()], session.endedAt});
-    }
-    return earned;
+    BadgeTally tally;
+    for (const Session& session : sessions)
+        if (TrackerCore::countsInTotals(session, now)) tally.add(session);
+    return tally.earned();
 }
 
 std::vector<DotRun> hourDotRuns(const std::vector<Session>& sessions, Date now,
                                 const std::vector<Skill>& skills) {
-    std::vector<DotRun> runs;
-    // To find out how to show a skill that is gone costs more than the rest of the wall.
-    std::vector<Skill> known;
-    const auto shown = [&](const QString& id) {
-        const auto found = std::ranges::find(known, id, &Skill::id);
-        return found != known.end() ? *found : known.emplace_back(SkillList::display(id, skills));
-    };
-    std::int64_t carry = 0;
-    for (const Session& session : sessions) {
-        if (!TrackerCore::countsInTotals(session, now)) continue;
-        carry += session.activeSeconds;
-        const std::int64_t finished = carry / kHour;
-        if (finished == 0) continue;
-        carry %= kHour;
-        if (!runs.empty() && runs.back().skill.id == session.skillId)
-            runs.back().count += finished;
-        else
-            runs.push_back({shown(session.skillId), finished});
-    }
-    return runs;
+    DotTally tally(skills);
+    for (const Session& session : sessions)
+        if (TrackerCore::countsInTotals(session, now)) tally.add(session);
+    return tally.takeRuns();
 }
 
 std::vector<Skill> hourDots(const std::vector<Session>& sessions, Date now,

@@ -63,6 +63,12 @@ std::vector<Skill> skillsFromJson(const QJsonValue& list) {
     return skills;
 }
 
+Calendar calendarFromJson(const QJsonValue& value) {
+    const QJsonObject object = value.toObject();
+    return {text(object, QLatin1String("timeZone")), object[QLatin1String("firstWeekday")].toInt(),
+            object[QLatin1String("minimalDays")].toInt(), text(object, QLatin1String("locale"))};
+}
+
 QJsonValue toJson(const QUuid& id) { return id.toString(QUuid::WithoutBraces).toUpper(); }
 
 QJsonValue toJson(const QString& text) { return text; }

@@ -1,6 +1,7 @@
 // The records as they stand in cases: plain members, dates mostly as seconds since 1970.
 #pragma once
 
+#include "base/Calendar.h"
 #include "tracking/Session.h"
 #include "tracking/Skill.h"
 
@@ -39,6 +40,8 @@ template <typename Value>
 [[nodiscard]] QJsonValue toJson(const std::optional<Value>& value) {
     return value ? toJson(*value) : QJsonValue(QJsonValue::Null);
 }
+
+[[nodiscard]] Calendar calendarFromJson(const QJsonValue& value);
 
 /// From seconds since 1970, or from a text as the files have it: each form has one of them.
 [[nodiscard]] Date dateFromJson(const QJsonValue& value);

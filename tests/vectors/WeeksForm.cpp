@@ -8,14 +8,8 @@ namespace vantle::vectors {
 
 namespace {
 
-Calendar calendarFromJson(const QJsonObject& object) {
-    return {
-        object[QLatin1String("timeZone")].toString(), object[QLatin1String("firstWeekday")].toInt(),
-        object[QLatin1String("minimalDays")].toInt(), object[QLatin1String("locale")].toString()};
-}
-
 QJsonValue week(const QJsonObject& input) {
-    const Calendar calendar = calendarFromJson(input[QLatin1String("calendar")].toObject());
+    const Calendar calendar = calendarFromJson(input[QLatin1String("calendar")]);
     const Date date = dateFromJson(input[QLatin1String("date")]);
     const auto last = weeklyreview::lastWeekInterval(date, calendar);
     QJsonObject answer{{QStringLiteral("seenKey"), weeklyreview::wrappedSeenKey(date, calendar)},
@@ -31,7 +25,7 @@ QJsonValue week(const QJsonObject& input) {
 }
 
 QJsonValue ready(const QJsonObject& input) {
-    const Calendar calendar = calendarFromJson(input[QLatin1String("calendar")].toObject());
+    const Calendar calendar = calendarFromJson(input[QLatin1String("calendar")]);
     fakes::MemoryPreferences preferences;
     for (const QJsonValue& key : input[QLatin1String("seenKeys")].toArray())
         preferences.setBoolean(key.toString(), true);

@@ -33,6 +33,11 @@ inline constexpr std::array pickerCases = {WrappedPeriod::Today, WrappedPeriod::
 /// The period with that id.
 [[nodiscard]] std::optional<WrappedPeriod> fromId(const QString& id);
 
+/// Whether the period is a week of the calendar.
+[[nodiscard]] constexpr bool isAWeek(WrappedPeriod period) {
+    return period == WrappedPeriod::Week || period == WrappedPeriod::LastWeek;
+}
+
 /// The first moment of the period; none for all time.
 [[nodiscard]] std::optional<Date> start(WrappedPeriod period, Date now, const Calendar& calendar);
 

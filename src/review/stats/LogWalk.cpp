@@ -1,0 +1,29 @@
+#include "review/stats/LogWalk.h"
+
+#include "tracking/RunningTotals.h"
+#include "tracking/TrackerCore.h"
+
+#include <algorithm>
+
+namespace vantle {
+
+LogWalk::LogWalk(const std::vector<Session>& sessions, const Plan& plan, LocalTime& local) {
+    totals::BadgeTally badgeTally;
+    // Most reviews are about the end of the log; one comparison tells that a record lies before.
+    const Date first = std::min({plan.period.start, plan.thisWeek.start, plan.earlierWeek.start});
+    for (const Session& session : sessions) {
+        const bool counts = TrackerCore::countsInTotals(session, plan.now);
+        if (session.endedAt >= first) {
+            if (counts && plan.period.contains(session.endedAt)) period.push_back(&session);
+            if (plan.thisWeek.contains(session.endedAt)) thisWeek.push_back(&session);
+            if (plan.earlierWeek.contains(session.endedAt)) earlierWeek.push_back(&session);
+        }
+        if (!counts) continue;
+        badgeTally.add(session);
+        days.add(local.at(session.endedAt).day, skills.of(session.skillId), session.activeSeconds);
+    }
+    days.close();
+    badges = badgeTally.earned();
+}
+
+} // namespace vantle

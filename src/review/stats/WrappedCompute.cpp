@@ -1,0 +1,206 @@
+// How a WrappedStats comes about.
+#include "base/Rounding.h"
+#include "base/Text.h"
+#include "review/stats/EarlierWeeks.h"
+#include "review/stats/LogWalk.h"
+#include "review/stats/PersonaWindow.h"
+#include "review/stats/WrappedStats.h"
+#include "tracking/RunningTotals.h"
+#include "tracking/SkillList.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace vantle {
+
+namespace {
+
+double asHours(std::int64_t seconds) { return static_cast<double>(seconds) / 3600.0; }
+
+Interval intervalOf(WrappedPeriod period, const WrappedSettings& settings) {
+    Interval interval;
+    if (const auto start = wrappedperiod::start(period, settings.now, settings.calendar))
+        interval.start = *start;
+    if (const auto end = wrappedperiod::end(period, settings.now, settings.calendar))
+        interval.end = *end;
+    return interval;
+}
+
+std::vector<Skill> shownSkills(const SkillNumbers& numbers, const std::vector<Skill>& skills) {
+    std::vector<Skill> shown;
+    for (std::size_t number = 0; number < numbers.count(); ++number)
+        shown.push_back(SkillList::display(numbers.idOf(number), skills));
+    return shown;
+}
+
+/// For each skill by number, how many ids come before its own.
+std::vector<std::size_t> placesById(const SkillNumbers& numbers) {
+    std::vector<std::size_t> inOrder(numbers.count());
+    std::iota(inOrder.begin(), inOrder.end(), std::size_t{0});
+    std::ranges::sort(inOrder, [&](std::size_t left, std::size_t right) {
+        return text::codePointLess(numbers.idOf(left), numbers.idOf(right));
+    });
+    std::vector<std::size_t> places(inOrder.size());
+    for (std::size_t place = 0; place < inOrder.size(); ++place)
+        places[inOrder[place]] = place;
+    return places;
+}
+
+/// The days of the whole log: `workedDays` and `activeYears`.
+void addDays(WrappedStats& stats, const LogWalk& walk, const std::vector<Skill>& skills,
+             LocalTime& local) {
+    const std::vector<Skill> shown = shownSkills(walk.skills, skills);
+    const std::vector<std::size_t> places = placesById(walk.skills);
+    const auto isMore = [&](const DayLedger::Share& left, const DayLedger::Share& right) {
+        if (left.seconds != right.seconds) return left.seconds > right.seconds;
+        return places[left.skill] < places[right.skill];
+    };
+    stats.workedDays.reserve(walk.days.entries().size());
+    for (const DayLedger::Entry& entry : walk.days.entries()) {
+        const auto winner = std::ranges::min_element(walk.days.shares(entry), isMore);
+        stats.workedDays.push_back(
+            {local.startOfDay(entry.day), asHours(entry.seconds), shown[winner->skill].hexRGB});
+        if (entry.seconds < 1) continue;
+        const int year = localtime::yearOf(entry.day);
+        if (stats.activeYears.empty() || stats.activeYears.back() != year)
+            stats.activeYears.push_back(year);
+    }
+    std::ranges::reverse(stats.activeYears);
+}
+
+/// Sums over the period's records, one by one.
+void addRecords(WrappedStats& stats, SessionRefs sessions, const std::vector<Skill>& skills) {
+    std::int64_t tracked = 0;
+    std::int64_t manual = 0;
+    const Session* longest = nullptr;
+    totals::DotTally dots(skills);
+    for (const Session* session : sessions) {
+        (session->source == sourceManual() ? manual : tracked) += session->activeSeconds;
+        if (!session->note.isEmpty()) ++stats.notedSessionCount;
+        if (!longest || session->activeSeconds > longest->activeSeconds) longest = session;
+        dots.add(*session);
+    }
+    stats.sessionCount = static_cast<int>(sessions.size());
+    stats.totalHours = asHours(tracked + manual);
+    stats.verifiedHours = asHours(tracked);
+    stats.manualHours = asHours(manual);
+    if (longest) stats.longest = *longest;
+    stats.hourDots = dots.takeRuns();
+}
+
+void addSkillHours(WrappedStats& stats, const DayLedger& days, const SkillNumbers& numbers,
+                   const std::vector<Skill>& skills) {
+    const std::vector<Skill> shown = shownSkills(numbers, skills);
+    const std::vector<std::int64_t> seconds = days.secondsPerSkill();
+    for (std::size_t number = 0; number < seconds.size(); ++number)
+        if (seconds[number] > 0)
+            stats.skillHours.push_back({shown[number], asHours(seconds[number])});
+    std::ranges::sort(stats.skillHours, [](const auto& left, const auto& right) {
+        if (left.hours != right.hours) return left.hours > right.hours;
+        return text::codePointLess(left.skill.id, right.skill.id);
+    });
+}
+
+/// Sums over the period's days.
+void addPeriodDays(WrappedStats& stats, const DayLedger& days, double dailyGoalHours,
+                   LocalTime& local) {
+    const std::int64_t goal = std::max<std::int64_t>(60, roundedToInteger(dailyGoalHours * 3600.0));
+    const DayLedger::Entry* biggest = nullptr;
+    for (const DayLedger::Entry& entry : days.entries()) {
+        if (entry.seconds >= 1) ++stats.activeDays;
+        if (entry.seconds >= goal) ++stats.goalHitDays;
+        if (!biggest || entry.seconds >= biggest->seconds) biggest = &entry;
+    }
+    if (biggest) stats.biggestDay = {local.startOfDay(biggest->day), asHours(biggest->seconds)};
+}
+
+/// A ledger of the period alone.
+DayLedger daysOf(SessionRefs sessions, SkillNumbers& numbers, LocalTime& local) {
+    DayLedger days;
+    for (const Session* session : sessions)
+        days.add(local.at(session->endedAt).day, numbers.of(session->skillId),
+                 session->activeSeconds);
+    days.close();
+    return days;
+}
+
+std::vector<totals::Badge> earnedIn(const Interval& period, std::vector<totals::Badge> badges) {
+    std::erase_if(badges,
+                  [&](const totals::Badge& badge) { return !period.contains(badge.earnedAt); });
+    return badges;
+}
+
+void addStarts(WrappedStats& stats, SessionRefs sessions, const Calendar& calendar) {
+    const StartTimes starts(sessions, calendar);
+    stats.typicalStart = starts.typicalStart(calendar.locale);
+    stats.startRhythm = StartRhythm::compute(starts);
+}
+
+/// What the period's ledger tells, in which skills have these numbers.
+void addLedger(WrappedStats& stats, const DayLedger& days, const SkillNumbers& numbers,
+               const WrappedSettings& settings, LocalTime& local) {
+    addSkillHours(stats, days, numbers, settings.skills);
+    addPeriodDays(stats, days, settings.dailyGoalHours, local);
+}
+
+void addPersona(WrappedStats& stats, const LogWalk& walk, const WrappedSettings& settings,
+                LocalTime& local) {
+    const PersonaWindow window = PersonaWindow::choose(stats.period, walk);
+    stats.personaSessionCount = static_cast<int>(window.sessions.size());
+    stats.personaScope = window.scope;
+    if (window.isEnough(local))
+        stats.persona =
+            builderpersona::compute(window.sessions, settings.calendar, settings.durationStyle);
+}
+
+void addSuperlatives(WrappedStats& stats, std::optional<int> weekRank,
+                     const WrappedSettings& settings) {
+    SuperlativeFacts facts;
+    facts.period = stats.period;
+    facts.totalHours = stats.totalHours;
+    facts.activeDays = stats.activeDays;
+    facts.daysElapsed = wrappedperiod::daysElapsed(stats.period, settings.now, settings.calendar);
+    facts.goalHitDays = stats.goalHitDays;
+    facts.biggestDayHours = stats.biggestDay ? stats.biggestDay->hours : 0.0;
+    facts.longest = stats.longest;
+    facts.weekRank = weekRank;
+    stats.superlatives = pickSuperlatives(facts, settings.skills, settings.durationStyle);
+}
+
+} // namespace
+
+WrappedStats WrappedStats::compute(const std::vector<Session>& allSessions, WrappedPeriod period,
+                                   const WrappedSettings& settings) {
+    const Calendar& calendar = settings.calendar;
+    LocalTime local(calendar);
+    LogWalk::Plan plan{settings.now, intervalOf(period, settings)};
+    PersonaWindow::addWeeks(plan, period, calendar);
+    const LogWalk walk(allSessions, plan, local);
+
+    WrappedStats stats;
+    stats.period = period;
+    addDays(stats, walk, settings.skills, local);
+    addRecords(stats, walk.period, settings.skills);
+    if (period == WrappedPeriod::AllTime) {
+        addLedger(stats, walk.days, walk.skills, settings, local);
+    } else {
+        SkillNumbers numbers;
+        const DayLedger days = daysOf(walk.period, numbers, local);
+        addLedger(stats, days, numbers, settings, local);
+    }
+    stats.milestones = earnedIn(plan.period, walk.badges);
+    addStarts(stats, walk.period, calendar);
+    stats.noteDigest = WrappedNoteDigest::compute(walk.period, settings.skills);
+    addPersona(stats, walk, settings, local);
+
+    std::optional<int> weekRank;
+    if (wrappedperiod::isAWeek(period)) {
+        const EarlierWeeks weeks(allSessions, settings.now, plan.period.start, calendar);
+        stats.lastWeekHours = weeks.lastWeekHours;
+        weekRank = weeks.rankOf(stats.totalHours);
+    }
+    addSuperlatives(stats, weekRank, settings);
+    return stats;
+}
+
+} // namespace vantle
