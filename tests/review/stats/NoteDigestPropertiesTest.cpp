@@ -23,26 +23,25 @@ rc::Gen<std::vector<Session>> noted() {
                                       "caf\u00E9", "CAF\u00C9", "\U0001F680", "\u6771\u4EAC\u99C5",
                                       "\n", "  ", "cafe\u0301", "page,"),
         [](const std::string& text) { return QString::fromStdString(text); });
-    const auto words =
-        rc::gen::map(rc::gen::container<std::vector<QString>>(word), [](const auto& ws) {
-            return QStringList(ws.begin(), ws.end()).join(QLatin1Char(' '));
-        });
-    const auto note = rc::gen::weightedOneOf<QString>({{4, words}, {1, generators::text()}});
+    const auto words = rc::gen::map(
+        rc::gen::resize(8, rc::gen::container<std::vector<QString>>(word)),
+        [](const auto& ws) { return QStringList(ws.begin(), ws.end()).join(QLatin1Char(' ')); });
+    const auto note = rc::gen::weightedOneOf<QString>({{4, words}, {1, generators::text(12)}});
     const auto session =
-        rc::gen::map(rc::gen::tuple(generators::acceptableSession(), note, rc::gen::inRange(0, 8)),
-                     [](const auto& parts) {
-                         auto [made, text, hour] = parts;
-                         made.note = text;
-                         made.endedAt = samples::morning() + Seconds(3600.0 * hour);
-                         return made;
-                     });
-    return rc::gen::map(
-        rc::gen::container<std::vector<Session>>(session), [](std::vector<Session> sessions) {
-            int number = 0;
-            for (Session& made : sessions)
-                made.id = samples::id(number += 7919); // no two of a log are the same
-            return sessions;
+        rc::gen::map(rc::gen::pair(note, rc::gen::inRange(0, 8)), [](const auto& parts) {
+            Session made = samples::session();
+            made.note = parts.first;
+            made.endedAt = samples::morning() + Seconds(3600.0 * parts.second);
+            return made;
         });
+    return rc::gen::map(rc::gen::resize(30, rc::gen::container<std::vector<Session>>(session)),
+                        [](std::vector<Session> sessions) {
+                            int number = 0;
+                            for (Session& made : sessions)
+                                made.id =
+                                    samples::id(number += 7919); // no two of a log are the same
+                            return sessions;
+                        });
 }
 
 std::optional<WrappedNoteDigest> digestOf(const std::vector<Session>& sessions) {
