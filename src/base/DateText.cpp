@@ -1,0 +1,59 @@
+#include "base/DateText.h"
+
+#include <unicode/dtptngen.h>
+#include <unicode/smpdtfmt.h>
+#include <unicode/timezone.h>
+
+namespace vantle {
+
+struct DateText::Format {
+    std::unique_ptr<icu::SimpleDateFormat> icu; ///< null where ICU can't make one
+};
+
+namespace {
+
+icu::UnicodeString toIcu(const QString& text) {
+    return {text.utf16(), static_cast<int32_t>(text.size())};
+}
+
+icu::Locale localeOf(const Calendar& calendar) {
+    return icu::Locale::createFromName(calendar.locale.toLatin1().constData());
+}
+
+std::unique_ptr<icu::SimpleDateFormat> make(const icu::UnicodeString& pattern,
+                                            const Calendar& calendar) {
+    UErrorCode status = U_ZERO_ERROR;
+    auto format = std::make_unique<icu::SimpleDateFormat>(pattern, localeOf(calendar), status);
+    if (U_FAILURE(status)) return nullptr;
+    format->adoptTimeZone(icu::TimeZone::createTimeZone(toIcu(calendar.timeZone)));
+    return format;
+}
+
+} // namespace
+
+DateText::DateText(std::unique_ptr<Format> format) : m_format(std::move(format)) {}
+DateText::~DateText() = default;
+DateText::DateText(DateText&&) noexcept = default;
+DateText& DateText::operator=(DateText&&) noexcept = default;
+
+DateText DateText::fixed(const QString& pattern, const Calendar& calendar) {
+    return DateText(std::make_unique<Format>(Format{make(toIcu(pattern), calendar)}));
+}
+
+DateText DateText::time(const Calendar& calendar) {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::DateTimePatternGenerator> patterns(
+        icu::DateTimePatternGenerator::createInstance(localeOf(calendar), status));
+    icu::UnicodeString pattern = u"HH:mm";
+    if (U_SUCCESS(status)) pattern = patterns->getBestPattern(u"jmm", status);
+    return DateText(std::make_unique<Format>(Format{make(pattern, calendar)}));
+}
+
+QString DateText::operator()(Date date) const {
+    if (!m_format->icu) return {};
+    icu::UnicodeString text;
+    m_format->icu->format(epochSeconds(date) * 1000.0, text);
+    return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
+}
+
+} // namespace vantle

@@ -1,0 +1,135 @@
+#include "surfaces/notes/LogView.h"
+
+#include "base/Clock.h"
+#include "base/LocalTime.h"
+#include "base/Text.h"
+#include "tracking/NotificationCenter.h"
+#include "tracking/SkillList.h"
+#include "tracking/TrackerCore.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vantle {
+
+LogView::LogView(Environment environment) : m_env(std::move(environment)) {
+    connect(&m_env.notifications, &NotificationCenter::HFSessionsChanged, this, &LogView::reload);
+    reload();
+}
+
+LogView::~LogView() = default;
+
+void LogView::reload() {
+    m_rows.update(content(noteslog::read(m_env.tracker.allSessions(), [this](const QString& id) {
+        return m_env.skills.display(id);
+    })));
+    m_filters.setSkills(m_rows.content().log.skills);
+    if (!m_editingId.isNull() && !entry(m_editingId)) cancelEdit();
+
+    LocalTime wall(m_rows.content().calendar);
+    const Date now = m_rows.content().now;
+    m_dayEnds = m_env.scheduler.scheduleOnce(wall.startOfDay(wall.at(now).day + 1) - now,
+                                             [this] { reload(); });
+    Q_EMIT shownChanged();
+}
+
+NoteRows::Content LogView::content(NotesLog log) const {
+    noteslog::Places visible = noteslog::visible(log, m_filter);
+    return {std::move(log), std::move(visible), m_env.clock.now(), m_env.calendar(),
+            durationstyle::current(m_env.preferences)};
+}
+
+void LogView::narrow(LogFilter filter) {
+    m_filter = std::move(filter);
+    m_filters.select(m_filter.skillId);
+    m_rows.narrow(m_filter);
+    Q_EMIT filterChanged();
+    Q_EMIT shownChanged();
+}
+
+void LogView::setQuery(const QString& query) {
+    if (query != m_filter.query) narrow({query, m_filter.skillId});
+}
+
+void LogView::showSkill(const QString& skillId) { narrow({m_filter.query, skillId}); }
+void LogView::showAll() { narrow({m_filter.query, std::nullopt}); }
+void LogView::clearFilters() { narrow({}); }
+
+LogView::State LogView::state() const {
+    if (m_rows.content().log.entries.empty()) return State::Empty;
+    return m_rows.content().visible.empty() ? State::NothingFits : State::Listed;
+}
+
+QString LogView::countText() const {
+    const std::size_t count = m_rows.content().visible.size();
+    return QString::number(count) + QLatin1Char(' ') + noteslog::countWord(count);
+}
+
+QString LogView::subtitleText() const {
+    const auto& [log, visible, now, calendar, style] = m_rows.content();
+    return noteslog::subtitleText(log, visible, m_filter.isFiltering(), style);
+}
+
+QString LogView::footerText() const {
+    const auto& [log, visible, now, calendar, style] = m_rows.content();
+    return noteslog::footerText(log, visible, style);
+}
+
+const LogEntry* LogView::entry(const QUuid& id) const {
+    const auto& entries = m_rows.content().log.entries;
+    const auto found = std::ranges::find(entries, id, &LogEntry::id);
+    return found == entries.end() ? nullptr : &*found;
+}
+
+void LogView::copyNote(const QUuid& id) {
+    const LogEntry* copied = entry(id);
+    if (!copied) return;
+    m_env.copy(copied->note);
+    setCopiedId(id);
+    m_copiedEnds =
+        m_env.scheduler.scheduleOnce(Seconds(copiedSeconds), [this] { setCopiedId(QUuid()); });
+}
+
+void LogView::setCopiedId(const QUuid& id) {
+    m_copiedId = id;
+    Q_EMIT copiedIdChanged();
+}
+
+void LogView::beginEdit(const QUuid& id) {
+    const LogEntry* edited = entry(id);
+    if (!edited) return;
+    setDraft(edited->note);
+    m_editingId = id;
+    Q_EMIT editingChanged();
+}
+
+void LogView::setDraft(const QString& draft) {
+    if (draft == m_draft) return;
+    m_draft = draft;
+    Q_EMIT draftChanged();
+}
+
+void LogView::commitEdit() {
+    const LogEntry* edited = entry(m_editingId);
+    if (!edited) return;
+    const QString note = text::trimmed(m_draft);
+    bool isSaved = true;
+    if (note != edited->note) isSaved = m_env.tracker.updateNote(edited->id, note);
+    setFailure(isSaved ? QString() : m_env.tracker.storageError().value_or(QString()));
+    cancelEdit();
+    reload();
+}
+
+void LogView::cancelEdit() {
+    m_editingId = QUuid();
+    setDraft({});
+    Q_EMIT editingChanged();
+}
+
+void LogView::setFailure(const QString& failure) {
+    if (failure == m_failure) return;
+    m_failure = failure;
+    Q_EMIT failureChanged();
+}
+
+} // namespace vantle

@@ -1,0 +1,124 @@
+// The notes window: every session with a note, to be searched, copied and corrected.
+#pragma once
+
+#include "base/Calendar.h"
+#include "base/Scheduler.h"
+#include "surfaces/notes/NoteFilters.h"
+#include "surfaces/notes/NoteRows.h"
+
+#include <QObject>
+#include <QQmlEngine>
+
+#include <functional>
+#include <optional>
+
+namespace vantle {
+
+class Clock;
+class NotificationCenter;
+class Preferences;
+class SkillList;
+class TrackerCore;
+
+/// What the window shows and does. Reads the log when it is made, after every change of it, and
+/// after an edit; searching is done in memory. A failed write is told in `failure`, and the note
+/// stays as it was. Main thread.
+class LogView final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the window router.")
+    Q_PROPERTY(vantle::NoteRows* rows READ rows CONSTANT FINAL)
+    Q_PROPERTY(vantle::NoteFilters* filters READ filters CONSTANT FINAL)
+    Q_PROPERTY(State state READ state NOTIFY shownChanged FINAL)
+    /// How many notes are shown, and the word after it.
+    Q_PROPERTY(QString countText READ countText NOTIFY shownChanged FINAL)
+    Q_PROPERTY(QString subtitleText READ subtitleText NOTIFY shownChanged FINAL)
+    Q_PROPERTY(QString footerText READ footerText NOTIFY shownChanged FINAL)
+    Q_PROPERTY(bool showsFilters READ showsFilters NOTIFY shownChanged FINAL)
+    Q_PROPERTY(bool showsAll READ showsAll NOTIFY filterChanged FINAL)
+    Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY filterChanged FINAL)
+    /// The one row that is being edited, and what is typed there; null when there is none.
+    Q_PROPERTY(QUuid editingId READ editingId NOTIFY editingChanged FINAL)
+    Q_PROPERTY(QString draft READ draft WRITE setDraft NOTIFY draftChanged FINAL)
+    /// The row whose note was copied a moment ago.
+    Q_PROPERTY(QUuid copiedId READ copiedId NOTIFY copiedIdChanged FINAL)
+    /// Why the last edit could not be saved; empty otherwise.
+    Q_PROPERTY(QString failure READ failure NOTIFY failureChanged FINAL)
+
+public:
+    enum class State { Empty, NothingFits, Listed };
+    Q_ENUM(State)
+
+    static constexpr double copiedSeconds = 1.4;
+
+    /// What the window works with. All of it must outlive the view.
+    struct Environment {
+        TrackerCore& tracker;
+        SkillList& skills;
+        NotificationCenter& notifications;
+        const Preferences& preferences;
+        const Clock& clock;
+        Scheduler& scheduler;
+        std::function<Calendar()> calendar;
+        std::function<void(const QString&)> copy; ///< puts a text on the clipboard
+    };
+
+    explicit LogView(Environment environment);
+    ~LogView() override;
+
+    [[nodiscard]] NoteRows* rows() { return &m_rows; }
+    [[nodiscard]] NoteFilters* filters() { return &m_filters; }
+    [[nodiscard]] State state() const;
+    [[nodiscard]] QString countText() const;
+    [[nodiscard]] QString subtitleText() const;
+    [[nodiscard]] QString footerText() const;
+    [[nodiscard]] bool showsFilters() const { return !m_rows.content().log.skills.empty(); }
+    [[nodiscard]] bool showsAll() const { return !m_filter.skillId; }
+    [[nodiscard]] const QString& query() const { return m_filter.query; }
+    [[nodiscard]] QUuid editingId() const { return m_editingId; }
+    [[nodiscard]] const QString& draft() const { return m_draft; }
+    [[nodiscard]] QUuid copiedId() const { return m_copiedId; }
+    [[nodiscard]] const QString& failure() const { return m_failure; }
+
+    void setQuery(const QString& query);
+    Q_INVOKABLE void showSkill(const QString& skillId);
+    Q_INVOKABLE void showAll();
+    Q_INVOKABLE void clearFilters();
+
+    Q_INVOKABLE void copyNote(const QUuid& id);
+
+    Q_INVOKABLE void beginEdit(const QUuid& id);
+    void setDraft(const QString& draft);
+    /// Saves the draft, if it says something else than the note, and ends the edit.
+    Q_INVOKABLE void commitEdit();
+    Q_INVOKABLE void cancelEdit();
+
+Q_SIGNALS:
+    void shownChanged();
+    void filterChanged();
+    void editingChanged();
+    void draftChanged();
+    void copiedIdChanged();
+    void failureChanged();
+
+private:
+    void reload();
+    void narrow(LogFilter filter);
+    [[nodiscard]] NoteRows::Content content(NotesLog log) const;
+    [[nodiscard]] const LogEntry* entry(const QUuid& id) const;
+    void setFailure(const QString& failure);
+    void setCopiedId(const QUuid& id);
+
+    const Environment m_env;
+    NoteRows m_rows;
+    NoteFilters m_filters;
+    LogFilter m_filter;
+    QUuid m_editingId;
+    QString m_draft;
+    QUuid m_copiedId;
+    QString m_failure;
+    TimerHandle m_copiedEnds;
+    TimerHandle m_dayEnds; ///< then "Today" is another day
+};
+
+} // namespace vantle

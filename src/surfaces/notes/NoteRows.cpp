@@ -1,0 +1,108 @@
+#include "surfaces/notes/NoteRows.h"
+
+#include "tracking/DashFormat.h"
+
+#include <QColor>
+
+#include <algorithm>
+#include <utility>
+
+namespace vantle {
+
+NoteRows::NoteRows() : m_time(DateText::time(m_content.calendar)) {}
+
+NoteRows::Lines NoteRows::linesOf(const Content& content) {
+    Lines lines;
+    lines.days = noteslog::days(content.log, content.visible, content.calendar);
+    lines.rows.reserve(content.visible.size());
+    for (std::size_t day = 0; day < lines.days.size(); ++day)
+        for (const std::size_t place : lines.days[day].entries)
+            lines.rows.push_back({place, day});
+    return lines;
+}
+
+void NoteRows::adopt(Content content, Lines lines) {
+    m_content = std::move(content);
+    m_lines = std::move(lines);
+    m_time = DateText::time(m_content.calendar);
+}
+
+void NoteRows::narrow(const LogFilter& filter) {
+    beginResetModel();
+    m_content.visible = noteslog::visible(m_content.log, filter);
+    m_lines = linesOf(m_content);
+    endResetModel();
+}
+
+void NoteRows::update(Content content) {
+    Lines lines = linesOf(content);
+    const auto isSame = [&](const Row& old, const Row& fresh) {
+        return entryOf(old).id == content.log.entries[fresh.place].id;
+    };
+    const auto& before = m_lines.rows;
+    const auto& after = lines.rows;
+    const auto head =
+        std::mismatch(before.begin(), before.end(), after.begin(), after.end(), isSame);
+    const auto tail =
+        std::mismatch(before.rbegin(), std::make_reverse_iterator(head.first), after.rbegin(),
+                      std::make_reverse_iterator(head.second), isSame);
+    const int first = static_cast<int>(head.first - before.begin());
+    const int removed = static_cast<int>(tail.first.base() - head.first);
+    const int inserted = static_cast<int>(tail.second.base() - head.second);
+
+    // Between the two steps the model holds the old list without the rows that go.
+    if (removed > 0) {
+        beginRemoveRows({}, first, first + removed - 1);
+        m_lines.rows.erase(head.first, tail.first.base());
+        endRemoveRows();
+    }
+    if (inserted > 0) {
+        beginInsertRows({}, first, first + inserted - 1);
+        adopt(std::move(content), std::move(lines));
+        endInsertRows();
+    } else {
+        adopt(std::move(content), std::move(lines));
+    }
+    // Rows that stay may still say something else: a note that was edited, a day that has passed.
+    if (!m_lines.rows.empty()) Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+}
+
+int NoteRows::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_lines.rows.size());
+}
+
+QVariant NoteRows::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    const Row& row = m_lines.rows[static_cast<std::size_t>(index.row())];
+    const LogEntry& entry = entryOf(row);
+    const Skill& skill = m_content.log.skillOf(entry);
+    switch (role) {
+    case IdRole:
+        return entry.id;
+    case NoteRole:
+        return entry.note;
+    case TimeRole:
+        return m_time(entry.startedAt);
+    case SkillNameRole:
+        return skill.name;
+    case SkillColorRole:
+        return QColor::fromRgb(skill.hexRGB);
+    case DurationRole:
+        return dashformat::sessionDuration(entry.activeSeconds, m_content.style);
+    case IsManualRole:
+        return entry.isManual;
+    case DayRole:
+        return noteslog::dayLabel(m_lines.days[row.day].day, m_content.now, m_content.calendar);
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> NoteRows::roleNames() const {
+    return {{IdRole, "sessionId"},          {NoteRole, "note"},
+            {TimeRole, "timeText"},         {SkillNameRole, "skillName"},
+            {SkillColorRole, "skillColor"}, {DurationRole, "durationText"},
+            {IsManualRole, "isManual"},     {DayRole, "dayText"}};
+}
+
+} // namespace vantle

@@ -1,0 +1,74 @@
+// The rows of the notes window, for a list view with a heading for each day.
+#pragma once
+
+#include "base/DateText.h"
+#include "surfaces/notes/NotesLog.h"
+
+#include <QAbstractListModel>
+#include <QQmlEngine>
+
+namespace vantle {
+
+/// What is shown now. Texts are made when a row comes into sight. Main thread.
+class NoteRows : public QAbstractListModel {
+    Q_OBJECT
+    QML_ANONYMOUS
+
+public:
+    enum Role {
+        IdRole = Qt::UserRole,
+        NoteRole,
+        TimeRole,
+        SkillNameRole,
+        SkillColorRole,
+        DurationRole,
+        IsManualRole,
+        DayRole, ///< the heading that the row stands under
+    };
+
+    /// All that the rows are made of.
+    struct Content {
+        NotesLog log;
+        noteslog::Places visible;
+        Date now; ///< for "Today"
+        Calendar calendar;
+        DurationStyle style = DurationStyle::Natural;
+    };
+
+    NoteRows();
+
+    [[nodiscard]] const Content& content() const { return m_content; }
+
+    /// Shows what passes the filter, from the top.
+    void narrow(const LogFilter& filter);
+
+    /// Shows what has become of the same list: rows that stay keep their place and their view.
+    void update(Content content);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+private:
+    /// A row in the order of the days.
+    struct Row {
+        std::size_t place = 0; ///< in the log
+        std::size_t day = 0;   ///< in m_days
+    };
+    /// All that follows from a content.
+    struct Lines {
+        std::vector<noteslog::LogDay> days;
+        std::vector<Row> rows;
+    };
+    [[nodiscard]] static Lines linesOf(const Content& content);
+    void adopt(Content content, Lines lines);
+    [[nodiscard]] const LogEntry& entryOf(const Row& row) const {
+        return m_content.log.entries[row.place];
+    }
+
+    Content m_content;
+    Lines m_lines;
+    DateText m_time;
+};
+
+} // namespace vantle

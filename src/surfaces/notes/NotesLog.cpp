@@ -1,0 +1,154 @@
+#include "surfaces/notes/NotesLog.h"
+
+#include "base/DateText.h"
+#include "base/LocalTime.h"
+#include "base/Text.h"
+#include "tracking/DashFormat.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <map>
+#include <ranges>
+
+namespace vantle {
+
+bool LogFilter::isFiltering() const {
+    return skillId.has_value() || !text::trimmed(query).isEmpty();
+}
+
+namespace noteslog {
+
+namespace {
+
+/// Newest first, as the log lists them, whatever the order of the sessions.
+std::vector<const Session*> newestFirst(const std::vector<Session>& sessions) {
+    std::vector<const Session*> ordered;
+    for (const Session& session : sessions)
+        if (!session.note.isEmpty()) ordered.push_back(&session);
+    std::ranges::stable_sort(ordered, std::ranges::greater(),
+                             [](const Session* session) { return session->startedAt; });
+    return ordered;
+}
+
+/// How many of the shown entries each skill has.
+std::vector<std::size_t> notesPerSkill(const NotesLog& log, const Places& visible) {
+    std::vector<std::size_t> counts(log.skills.size());
+    for (const std::size_t place : visible)
+        ++counts[log.entries[place].skill];
+    return counts;
+}
+
+struct CodePointLess {
+    bool operator()(const QString& left, const QString& right) const {
+        return text::codePointLess(left, right);
+    }
+};
+
+} // namespace
+
+NotesLog read(const std::vector<Session>& sessions, const SkillLookup& skillOf) {
+    NotesLog log;
+    QHash<QString, std::size_t> places;
+    for (const Session* session : newestFirst(sessions)) {
+        QString note = text::trimmed(session->note);
+        if (note.isEmpty()) continue;
+        auto place = places.constFind(session->skillId);
+        if (place == places.constEnd()) {
+            place = places.insert(session->skillId, log.skills.size());
+            log.skills.push_back(skillOf(session->skillId));
+        }
+        QString searchable = text::lowerCased(note);
+        log.entries.push_back({session->id, *place, std::move(note), session->startedAt,
+                               session->activeSeconds, session->source == sourceManual(),
+                               std::move(searchable)});
+    }
+    return log;
+}
+
+Places visible(const NotesLog& log, const LogFilter& filter) {
+    const QString sought = text::lowerCased(text::trimmed(filter.query));
+    // What a skill has to say is asked once a skill, not once a note.
+    std::vector<bool> isShown;
+    std::vector<bool> isFound;
+    for (const Skill& skill : log.skills) {
+        isShown.push_back(!filter.skillId || *filter.skillId == skill.id);
+        isFound.push_back(sought.isEmpty() || text::lowerCased(skill.name).contains(sought));
+    }
+    Places places;
+    for (std::size_t place = 0; place < log.entries.size(); ++place) {
+        const LogEntry& entry = log.entries[place];
+        if (isShown[entry.skill] && (isFound[entry.skill] || entry.searchable.contains(sought)))
+            places.push_back(place);
+    }
+    return places;
+}
+
+std::vector<LogDay> days(const NotesLog& log, const Places& visible, const Calendar& calendar) {
+    LocalTime wall(calendar);
+    std::vector<LogDay> days;
+    std::vector<localtime::Day> numbers;
+    for (const std::size_t place : visible) {
+        const localtime::Day number = wall.at(log.entries[place].startedAt).day;
+        // Nearly always the last one. A clock that is set back over midnight returns to a day.
+        if (numbers.empty() || numbers.back() != number) {
+            const auto at = std::ranges::lower_bound(numbers, number, std::ranges::greater());
+            const auto index = at - numbers.begin();
+            if (at == numbers.end() || *at != number) {
+                numbers.insert(at, number);
+                days.insert(days.begin() + index, {wall.startOfDay(number), {}});
+            }
+            days[static_cast<std::size_t>(index)].entries.push_back(place);
+        } else {
+            days.back().entries.push_back(place);
+        }
+    }
+    return days;
+}
+
+QString dayLabel(Date day, Date now, const Calendar& calendar) {
+    LocalTime wall(calendar);
+    const localtime::Day number = wall.at(day).day;
+    const localtime::Day today = wall.at(now).day;
+    if (number == today) return QStringLiteral("Today");
+    if (number == today - 1) return QStringLiteral("Yesterday");
+    const bool isThisYear = localtime::yearOf(number) == localtime::yearOf(today);
+    const QString pattern =
+        isThisYear ? QStringLiteral("EEE, MMM d") : QStringLiteral("MMM d, yyyy");
+    return DateText::fixed(pattern, calendar)(day);
+}
+
+QString countWord(std::size_t count) {
+    return count == 1 ? QStringLiteral("note") : QStringLiteral("notes");
+}
+
+QString subtitleText(const NotesLog& log, const Places& visible, bool isFiltering,
+                     DurationStyle style) {
+    std::int64_t seconds = 0;
+    for (const std::size_t place : visible)
+        seconds += log.entries[place].activeSeconds;
+    const QString form = isFiltering ? QStringLiteral("Across %1 of the work you filtered to.")
+                                     : QStringLiteral("Across %1 of tracked work.");
+    return form.arg(dashformat::sessionDuration(seconds, style));
+}
+
+QString footerText(const NotesLog& log, const Places& visible, DurationStyle style) {
+    if (visible.empty()) return {};
+    const auto secondsOf = [&](std::size_t place) { return log.entries[place].activeSeconds; };
+    const std::size_t longest = *std::ranges::max_element(visible, {}, secondsOf);
+
+    // Skills of one name count together, and the smaller name comes first.
+    std::map<QString, std::size_t, CodePointLess> notes;
+    const std::vector<std::size_t> counts = notesPerSkill(log, visible);
+    for (std::size_t skill = 0; skill < counts.size(); ++skill)
+        notes[log.skills[skill].name] += counts[skill];
+    const auto most =
+        std::ranges::max_element(notes, {}, [](const auto& pair) { return pair.second; });
+
+    const QString duration = dashformat::sessionDuration(secondsOf(longest), style);
+    return QStringLiteral("Longest noted session: ") + duration + QStringLiteral(". Most noted: ") +
+           most->first + QLatin1Char('.');
+}
+
+} // namespace noteslog
+} // namespace vantle
