@@ -9,17 +9,25 @@ function(vantle_library name)
 endfunction()
 
 # A folder with views: a static library that is a QML module as well. Programs link NAME and NAMEplugin.
+option(VANTLE_QML_AHEAD "Compile the views ahead of time; costs most of a build's time" ON)
 function(vantle_qml_module name)
-    cmake_parse_arguments(ARG "" "URI" "SOURCES;QML_FILES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "" "URI" "SOURCES;QML_FILES;RESOURCES;LINKS" ${ARGN})
     string(REPLACE "." "/" path ${ARG_URI})
+    set(cache NO_CACHEGEN)
+    if(VANTLE_QML_AHEAD)
+        set(cache "")
+    endif()
     qt_add_library(${name} STATIC)
     qt_add_qml_module(${name}
         URI ${ARG_URI}
         VERSION 1.0
+        ${cache}
         RESOURCE_PREFIX /qt/qml
         OUTPUT_DIRECTORY "${QT_QML_OUTPUT_DIRECTORY}/${path}"
         IMPORT_PATH "${QT_QML_OUTPUT_DIRECTORY}"
+        DEPENDENCIES QtQuick
         QML_FILES ${ARG_QML_FILES}
+        RESOURCES ${ARG_RESOURCES}
         SOURCES ${ARG_SOURCES})
     # What Qt generates from the views shadows names and converts silently.
     target_compile_options(${name} PRIVATE -Wno-shadow -Wno-conversion)
