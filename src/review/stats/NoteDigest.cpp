@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <ranges>
 #include <tuple>
 
 namespace vantle {
@@ -37,10 +36,9 @@ bool isNewer(const Note& left, const Note& right) {
 std::vector<Note> notesNewestFirst(SessionRefs sessions) {
     std::vector<Note> notes;
     // A log has the oldest first, so from its back hardly anything is left to sort.
-    for (const Session* session : std::views::reverse(sessions)) {
-        if (session->note.isEmpty()) continue;
-        QString text = text::withSingleBlanks(session->note);
-        if (!text.isEmpty()) notes.push_back({session, std::move(text)});
+    for (auto at = sessions.rbegin(); at != sessions.rend(); ++at) {
+        QString text = text::withSingleBlanks((*at)->note);
+        if (!text.isEmpty()) notes.push_back({*at, std::move(text)});
     }
     if (!std::ranges::is_sorted(notes, isNewer)) std::ranges::sort(notes, isNewer);
     return notes;
