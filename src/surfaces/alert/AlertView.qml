@@ -56,7 +56,7 @@ Rectangle {
                 required property string modelData
                 required property int index
                 text: modelData
-                primary: index === 0
+                kind: index === 0 ? KitButton.Primary : KitButton.Secondary
                 focus: index === 0
                 onClicked: view.model.choose(index)
             }

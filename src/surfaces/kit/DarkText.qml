@@ -1,6 +1,7 @@
 // A text in a role of the type scale, read out as it stands.
 pragma ComponentBehavior: Bound
 import QtQuick
+import Vantle.Kit
 
 Text {
     id: label
@@ -11,6 +12,9 @@ Text {
     font: role.font
     lineHeightMode: Text.FixedHeight
     lineHeight: role.line
+    // A fixed line would leave all of the space below the letters.
+    topPadding: role.leading
+    bottomPadding: -role.leading
     textFormat: Text.PlainText
     // Crisp stems for small text on plain screens; elsewhere whole-pixel glyphs would jump.
     renderType: role.size <= 15 && Screen.devicePixelRatio === 1 ? Text.NativeRendering

@@ -2,10 +2,11 @@
 // or a colour of its own for any of these. Lengths are device-independent pixels, times
 // milliseconds, tracking em.
 //
-// Chrome is white at low opacity. Only worked time gives light: dots, tiles, bars, a skill's colour.
-// The accent marks the one main action and the keyboard focus, nothing else.
+// Chrome is white at low opacity. Only worked time gives light: dots, tiles, bars, a skill's
+// colour. The accent marks the one main action and the keyboard focus, nothing else.
 pragma Singleton
 import QtQuick
+import Vantle.Kit
 
 QtObject {
     // --- Grounds ---------------------------------------------------------------------------------
@@ -93,163 +94,43 @@ QtObject {
     readonly property real disabledOpacity: 0.45 // of a whole chip, switch or slider
 
     // --- Type ------------------------------------------------------------------------------------
-    readonly property TypeRole heroReview: TypeRole {
-        family: Typeface.display
-        size: 116
-        line: 100
-        weight: Font.DemiBold
-        tracking: -0.020
+    readonly property TypeRole heroReview: DisplayRole { size: 116; line: 100; tracking: -0.020 }
+    readonly property TypeRole heroPoster: DisplayRole { size: 84; line: 72; tracking: -0.020 }
+    readonly property TypeRole nameReview: DisplayRole { size: 52; line: 58; tracking: -0.028 }
+    readonly property TypeRole namePoster: DisplayRole { size: 42; line: 48; tracking: -0.026 }
+    readonly property TypeRole duration: DisplayRole { size: 40; line: 46; tracking: -0.015 }
+    readonly property TypeRole statValue: DisplayRole { size: 32; line: 36; tracking: -0.014 }
+    readonly property TypeRole statUnit: TypeRole { size: 14; line: 20; weight: Font.Medium }
+    readonly property TypeRole quotation: DisplayRole {
+        size: 30; line: 41; weight: Font.Medium; tracking: -0.016
     }
-    readonly property TypeRole heroPoster: TypeRole {
-        family: Typeface.display
-        size: 84
-        line: 72
-        weight: Font.DemiBold
-        tracking: -0.020
-    }
-    readonly property TypeRole nameReview: TypeRole {
-        family: Typeface.display
-        size: 52
-        line: 58
-        weight: Font.DemiBold
-        tracking: -0.028
-    }
-    readonly property TypeRole namePoster: TypeRole {
-        family: Typeface.display
-        size: 42
-        line: 48
-        weight: Font.DemiBold
-        tracking: -0.026
-    }
-    readonly property TypeRole duration: TypeRole {
-        family: Typeface.display
-        size: 40
-        line: 46
-        weight: Font.DemiBold
-        tracking: -0.015
-    }
-    readonly property TypeRole statValue: TypeRole {
-        family: Typeface.display
-        size: 32
-        line: 36
-        weight: Font.DemiBold
-        tracking: -0.014
-    }
-    readonly property TypeRole statUnit: TypeRole {
-        size: 14
-        line: 20
-        weight: Font.Medium
-    }
-    readonly property TypeRole quotation: TypeRole {
-        family: Typeface.display
-        size: 30
-        line: 41
-        weight: Font.Medium
-        tracking: -0.016
-    }
-    readonly property TypeRole titleXL: TypeRole {
-        family: Typeface.display
-        size: 28
-        line: 34
-        weight: Font.DemiBold
-        tracking: -0.018
-    }
-    readonly property TypeRole titleL: TypeRole {
-        family: Typeface.display
-        size: 24
-        line: 30
-        weight: Font.DemiBold
-        tracking: -0.014
-    }
-    readonly property TypeRole capsuleClock: TypeRole {
-        family: Typeface.display
-        size: 23
-        line: 28
-        weight: Font.DemiBold
-        tracking: -0.010
-    }
-    readonly property TypeRole titleM: TypeRole {
-        family: Typeface.display
-        size: 20
-        line: 28
-        weight: Font.DemiBold
-        tracking: -0.012
-    }
-    readonly property TypeRole cardTitle: TypeRole {
-        family: Typeface.display
-        size: 17
-        line: 22
-        weight: Font.DemiBold
-        tracking: -0.010
-    }
-    readonly property TypeRole panelTitle: TypeRole {
-        family: Typeface.display
-        size: 15
-        line: 20
-        weight: Font.DemiBold
-        tracking: -0.010
-    }
-    readonly property TypeRole lead: TypeRole {
-        size: 15
-        line: 23
-    }
-    readonly property TypeRole leadButton: TypeRole { // on the wide primary button
-        size: 15
-        line: 20
-        weight: Font.DemiBold
-    }
-    readonly property TypeRole note: TypeRole {
-        size: 14
-        line: 20
-    }
-    readonly property TypeRole body: TypeRole {
-        size: 13
-        line: 20
-    }
-    readonly property TypeRole bodyMedium: TypeRole { // rows, secondary buttons
-        size: 13
-        line: 20
-        weight: Font.Medium
-    }
-    readonly property TypeRole bodyStrong: TypeRole { // primary buttons, headings of cards
-        size: 13
-        line: 20
-        weight: Font.DemiBold
-    }
-    readonly property TypeRole caption: TypeRole {
-        size: 12
-        line: 17
-    }
-    readonly property TypeRole captionMedium: TypeRole { // labels, menus, large chips
-        size: 12
-        line: 17
-        weight: Font.Medium
-    }
-    readonly property TypeRole captionStrong: TypeRole { // day headings
-        size: 12
-        line: 17
-        weight: Font.DemiBold
-    }
-    readonly property TypeRole small: TypeRole {
-        size: 11
-        line: 15
-    }
-    readonly property TypeRole smallMedium: TypeRole { // chips
-        size: 11
-        line: 15
-        weight: Font.Medium
-    }
+    readonly property TypeRole titleXL: DisplayRole { size: 28; line: 34; tracking: -0.018 }
+    readonly property TypeRole titleL: DisplayRole { size: 24; line: 30; tracking: -0.014 }
+    readonly property TypeRole capsuleClock: DisplayRole { size: 23; line: 28; tracking: -0.010 }
+    readonly property TypeRole titleM: DisplayRole { size: 20; line: 28; tracking: -0.012 }
+    readonly property TypeRole cardTitle: DisplayRole { size: 17; line: 22; tracking: -0.010 }
+    readonly property TypeRole panelTitle: DisplayRole { size: 15; line: 20; tracking: -0.010 }
+    readonly property TypeRole lead: TypeRole { size: 15; line: 23 }
+    // on the wide primary button
+    readonly property TypeRole leadButton: TypeRole { size: 15; line: 20; weight: Font.DemiBold }
+    readonly property TypeRole note: TypeRole { size: 14; line: 20 }
+    readonly property TypeRole body: TypeRole { size: 13; line: 20 }
+    // rows, secondary buttons
+    readonly property TypeRole bodyMedium: TypeRole { size: 13; line: 20; weight: Font.Medium }
+    // primary buttons, headings of cards
+    readonly property TypeRole bodyStrong: TypeRole { size: 13; line: 20; weight: Font.DemiBold }
+    readonly property TypeRole caption: TypeRole { size: 12; line: 17 }
+    // labels, menus, large chips
+    readonly property TypeRole captionMedium: TypeRole { size: 12; line: 17; weight: Font.Medium }
+    // day headings
+    readonly property TypeRole captionStrong: TypeRole { size: 12; line: 17; weight: Font.DemiBold }
+    readonly property TypeRole small: TypeRole { size: 11; line: 15 }
+    // chips
+    readonly property TypeRole smallMedium: TypeRole { size: 11; line: 15; weight: Font.Medium }
     readonly property TypeRole kicker: TypeRole {
-        size: 11
-        line: 14
-        weight: Font.DemiBold
-        tracking: 0.080
+        size: 11; line: 14; weight: Font.DemiBold; tracking: 0.080
     }
-    readonly property TypeRole capsuleSkill: TypeRole {
-        size: 10
-        line: 13
-        tracking: 0.09
-    }
+    readonly property TypeRole capsuleSkill: TypeRole { size: 10; line: 13; tracking: 0.09 }
     readonly property real heroUnitScale: 0.36 // of a hero figure's size
 
     // --- Space -----------------------------------------------------------------------------------
@@ -338,62 +219,30 @@ QtObject {
 
     // --- Depth -----------------------------------------------------------------------------------
     readonly property ShadowToken shadowWindow: ShadowToken {
-        offset: 24
-        blur: 64
-        strength: 0.50
-        tightOffset: 4
-        tightBlur: 14
-        tightStrength: 0.34
+        offset: 24; blur: 64; strength: 0.50
+        tightOffset: 4; tightBlur: 14; tightStrength: 0.34
     }
     readonly property ShadowToken shadowFloating: ShadowToken {
-        offset: 18
-        blur: 48
-        strength: 0.45
-        tightOffset: 2
-        tightBlur: 8
-        tightStrength: 0.30
+        offset: 18; blur: 48; strength: 0.45
+        tightOffset: 2; tightBlur: 8; tightStrength: 0.30
     }
     readonly property ShadowToken shadowPopover: ShadowToken {
-        offset: 16
-        blur: 40
-        strength: 0.50
+        offset: 16; blur: 40; strength: 0.50
     }
     readonly property ShadowToken shadowToast: ShadowToken {
-        offset: 10
-        blur: 28
-        strength: 0.40
+        offset: 10; blur: 28; strength: 0.40
     }
     readonly property ShadowToken shadowCapsule: ShadowToken {
-        offset: 10
-        blur: 30
-        strength: 0.45
+        offset: 10; blur: 30; strength: 0.45
     }
 
     // --- Motion ----------------------------------------------------------------------------------
-    readonly property SpringToken springCapsule: SpringToken {
-        stiffness: 195
-        damping: 22.3
-    }
-    readonly property SpringToken springPage: SpringToken {
-        stiffness: 273.4
-        damping: 27.1
-    }
-    readonly property SpringToken springCascade: SpringToken {
-        stiffness: 223.8
-        damping: 23.9
-    }
-    readonly property SpringToken springSlam: SpringToken {
-        stiffness: 385.5
-        damping: 28.3
-    }
-    readonly property SpringToken springPop: SpringToken {
-        stiffness: 380
-        damping: 16
-    }
-    readonly property SpringToken springGrow: SpringToken {
-        stiffness: 157.9
-        damping: 20.1
-    }
+    readonly property SpringToken springCapsule: SpringToken { stiffness: 195; damping: 22.3 }
+    readonly property SpringToken springPage: SpringToken { stiffness: 273.4; damping: 27.1 }
+    readonly property SpringToken springCascade: SpringToken { stiffness: 223.8; damping: 23.9 }
+    readonly property SpringToken springSlam: SpringToken { stiffness: 385.5; damping: 28.3 }
+    readonly property SpringToken springPop: SpringToken { stiffness: 380; damping: 16 }
+    readonly property SpringToken springGrow: SpringToken { stiffness: 157.9; damping: 20.1 }
     readonly property int pageSlide: 56 // px
     readonly property int cascadeRise: 14 // px
     readonly property int cascadeDelay: Motion.time(50)

@@ -1,68 +1,124 @@
-// A push button. The primary one is the main action of its surface.
+// A push button. A surface has one primary button at most: its main action.
 pragma ComponentBehavior: Bound
 import QtQuick
+import Vantle.Kit
 
-Rectangle {
+KitPressable {
     id: button
 
-    required property string text
-    property bool primary: false
-    signal clicked
-
-    function colorFor(pressed: bool, hovered: bool): color {
-        if (button.primary)
-            return pressed ? DarkUI.accentPressed : hovered ? DarkUI.accentHover : DarkUI.accent;
-        return pressed ? DarkUI.fillPressed : hovered ? DarkUI.fillHover : DarkUI.fill;
+    enum Kind {
+        Primary,
+        Secondary,
+        Danger,
+        Text
     }
 
-    implicitWidth: label.implicitWidth + 2 * DarkUI.buttonPadding
-    implicitHeight: DarkUI.buttonHeight
-    radius: DarkUI.radiusButton
-    color: colorFor(tap.pressed, hover.hovered)
-    border.width: primary ? 0 : DarkUI.hairlineWidth
-    border.color: DarkUI.hairline
-    activeFocusOnTab: true
+    required property string text
+    property int kind: KitButton.Secondary
+    property string icon // in front of the text; empty for none
+    property color accent: DarkUI.accent // the fill of the primary button
+    property TypeRole role: kind === KitButton.Primary || kind === KitButton.Danger
+                            ? DarkUI.bodyStrong : DarkUI.bodyMedium
+    property real padding: kind === KitButton.Text ? 0 : DarkUI.buttonPadding
+    property real radius: DarkUI.radiusButton
+    property real fillOpacity: 1
+    readonly property bool ownAccent: accent !== DarkUI.accent
 
-    Accessible.role: Accessible.Button
-    Accessible.name: text
-    Accessible.focusable: true
-    Accessible.onPressAction: button.clicked()
-
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
-    Keys.onSpacePressed: clicked()
-
-    Behavior on color {
-        ColorAnimation {
-            duration: DarkUI.hoverTime
-            easing.type: Easing.OutCubic
+    function primaryFill(): color {
+        if (!enabled)
+            return DarkUI.fillDisabled;
+        if (pressed)
+            return ownAccent ? Qt.darker(accent, 1.08) : DarkUI.accentPressed;
+        if (hovered)
+            return ownAccent ? Tint.lightened(accent, 0.15) : DarkUI.accentHover;
+        return accent;
+    }
+    function dangerFill(): color {
+        if (!enabled)
+            return DarkUI.card;
+        return Tint.alpha(DarkUI.danger, pressed ? DarkUI.dangerFillPressed
+                                       : hovered ? DarkUI.dangerFillHover : DarkUI.dangerFill);
+    }
+    function secondaryFill(): color {
+        if (!enabled)
+            return DarkUI.card;
+        return pressed ? DarkUI.fillPressed : hovered ? DarkUI.fillHover : DarkUI.fill;
+    }
+    function fill(): color {
+        switch (kind) {
+        case KitButton.Primary:
+            return primaryFill();
+        case KitButton.Danger:
+            return dangerFill();
+        case KitButton.Text:
+            return DarkUI.clear;
+        default:
+            return secondaryFill();
+        }
+    }
+    function edge(): color {
+        if (kind === KitButton.Primary || kind === KitButton.Text)
+            return DarkUI.clear;
+        return kind === KitButton.Danger && enabled ? Tint.alpha(DarkUI.danger, DarkUI.dangerEdge)
+                                                    : DarkUI.hairline;
+    }
+    function textColor(): color {
+        if (!enabled)
+            return DarkUI.t4;
+        switch (kind) {
+        case KitButton.Primary:
+            return Tint.inkOn(accent);
+        case KitButton.Danger:
+            return DarkUI.dangerTextOnFill;
+        case KitButton.Text:
+            return hovered || pressed || ringed ? DarkUI.t1 : DarkUI.t2;
+        default:
+            return DarkUI.t1;
         }
     }
 
-    Text {
-        id: label
-        anchors.centerIn: parent
-        text: button.text
-        color: button.primary ? DarkUI.ink : DarkUI.t1
-        font: (button.primary ? DarkUI.bodyStrong : DarkUI.bodyMedium).font
-    }
+    implicitWidth: content.implicitWidth + 2 * padding
+    implicitHeight: DarkUI.buttonHeight
+    name: text
 
-    Rectangle {
+    Plate {
         anchors.fill: parent
-        anchors.margins: -(DarkUI.focusWidth + DarkUI.focusGap)
-        visible: button.activeFocus
-        radius: button.radius + DarkUI.focusWidth + DarkUI.focusGap - 1
-        color: "transparent"
-        border.width: DarkUI.focusWidth
-        border.color: DarkUI.focusRing
+        radius: button.radius
+        opacity: button.fillOpacity
+        color: button.fill()
+        edge: button.edge()
+
+        Behavior on color {
+            ColorAnimation {
+                duration: button.stateTime
+                easing.type: Easing.OutCubic
+            }
+        }
     }
 
-    HoverHandler {
-        id: hover
+    Row {
+        id: content
+        anchors.centerIn: parent
+        spacing: DarkUI.space6
+
+        KitIcon {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: button.icon !== ""
+            name: button.icon
+            color: label.color
+        }
+
+        DarkText {
+            id: label
+            text: button.text
+            role: button.role
+            color: button.textColor()
+            Accessible.ignored: true
+        }
     }
 
-    TapHandler {
-        id: tap
-        onTapped: button.clicked()
+    FocusRing {
+        shown: button.ringed
+        controlRadius: button.radius
     }
 }

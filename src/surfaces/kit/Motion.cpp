@@ -2,6 +2,8 @@
 
 #include "surfaces/kit/Spring.h"
 
+#include <QQmlEngine>
+
 #include <cmath>
 
 namespace vantle {
@@ -12,6 +14,16 @@ constexpr double kMillisecond = 0.001;
 constexpr double kAtRest = 0.001;
 
 } // namespace
+
+Motion* Motion::of(QQmlEngine& engine) {
+    if (auto* motion = engine.findChild<Motion*>(QString(), Qt::FindDirectChildrenOnly))
+        return motion;
+    auto* motion = new Motion(&engine);
+    QQmlEngine::setObjectOwnership(motion, QQmlEngine::CppOwnership);
+    return motion;
+}
+
+Motion* Motion::create(QQmlEngine* engine, QJSEngine* /*scripts*/) { return of(*engine); }
 
 void Motion::setReduced(bool reduced) {
     if (m_reduced == reduced) return;

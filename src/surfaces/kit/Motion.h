@@ -4,6 +4,9 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
+class QJSEngine;
+class QQmlEngine;
+
 namespace vantle {
 
 /// One for each QML engine. Every time and spring of the kit goes through it, so that one switch
@@ -12,11 +15,14 @@ class Motion : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    /// The person asked the desktop for less movement. Set through kit::setReducedMotion().
+    /// The person asked the desktop for less movement. Whoever shows a surface sets it from there.
     Q_PROPERTY(bool reduced READ reduced WRITE setReduced NOTIFY reducedChanged)
 
 public:
-    explicit Motion(QObject* parent = nullptr) : QObject(parent) {}
+    /// The one of an engine, which it belongs to.
+    [[nodiscard]] static Motion* of(QQmlEngine& engine);
+    /// For the engine itself.
+    static Motion* create(QQmlEngine* engine, QJSEngine* scripts);
 
     [[nodiscard]] bool reduced() const { return m_reduced; }
     void setReduced(bool reduced);
@@ -34,6 +40,8 @@ Q_SIGNALS:
     void reducedChanged();
 
 private:
+    explicit Motion(QObject* parent) : QObject(parent) {}
+
     bool m_reduced = false;
 };
 

@@ -11,16 +11,24 @@ constexpr double kStandInTracking = -0.004;
 
 } // namespace
 
-Typeface::Typeface(QObject* parent)
-    : QObject(parent)
-    , m_text(QStringLiteral("Inter"))
-    , m_display(QStringLiteral("Inter Display")) {
-    QFont::insertSubstitutions(m_text, {QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"),
-                                        QStringLiteral("sans-serif")});
-    if (!QFontDatabase::hasFamily(m_display)) {
-        m_display = m_text;
-        m_displayTracking = kStandInTracking;
-    }
+const Typeface& Typeface::text() {
+    static const Typeface face = [] {
+        const QString family = QStringLiteral("Inter");
+        QFont::insertSubstitutions(family,
+                                   {QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"),
+                                    QStringLiteral("sans-serif")});
+        return Typeface{family};
+    }();
+    return face;
+}
+
+const Typeface& Typeface::display() {
+    static const Typeface face = [] {
+        const QString family = QStringLiteral("Inter Display");
+        if (QFontDatabase::hasFamily(family)) return Typeface{family};
+        return Typeface{text().family, kStandInTracking};
+    }();
+    return face;
 }
 
 } // namespace vantle

@@ -1,31 +1,22 @@
 // The two families of the type scale, or what stands in for them on this machine.
+//
+// Main thread, after the application object. The fonts of the machine are asked once.
 #pragma once
 
-#include <QObject>
-#include <QtQml/qqmlregistration.h>
+#include <QString>
 
 namespace vantle {
 
-/// One for each QML engine. Main thread.
-class Typeface : public QObject {
-    Q_OBJECT
-    QML_ELEMENT
-    QML_SINGLETON
+struct Typeface {
+    QString family;
+    /// What it needs beside the tracking of a role, in em: a text family is drawn wider than a
+    /// display family, and is set closer where it has to stand in for one.
+    double tracking = 0.0;
+
     /// For text up to 15 px.
-    Q_PROPERTY(QString text MEMBER m_text CONSTANT)
+    [[nodiscard]] static const Typeface& text();
     /// For titles and figures from 15 px upwards.
-    Q_PROPERTY(QString display MEMBER m_display CONSTANT)
-    /// What the display family needs beside the tracking of its role, in em: a text family is drawn
-    /// wider than a display family, and is set closer where it has to stand in for one.
-    Q_PROPERTY(double displayTracking MEMBER m_displayTracking CONSTANT)
-
-public:
-    explicit Typeface(QObject* parent = nullptr);
-
-private:
-    QString m_text;
-    QString m_display;
-    double m_displayTracking = 0.0;
+    [[nodiscard]] static const Typeface& display();
 };
 
 } // namespace vantle

@@ -1,0 +1,67 @@
+// Makes controls that stand together one stop of the Tab key; the arrow keys lead from one to the
+// next, Home and End to the first and the last. Its children, or those of `list`, are the stops.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+FocusScope {
+    id: group
+
+    property Item list: group
+    property int current: 0 // the stop that Tab leads to
+    property bool wraps: false
+
+    function stops() {
+        const found = [];
+        for (let i = 0; i < list.children.length; ++i) {
+            const control = list.children[i] as KitControl;
+            if (control && control.visible && control.enabled)
+                found.push(control);
+        }
+        return found;
+    }
+    // Only one of them is in the order of the Tab key.
+    function refresh(): void {
+        const all = stops();
+        current = Math.max(0, Math.min(current, all.length - 1));
+        for (let i = 0; i < all.length; ++i) {
+            all[i].activeFocusOnTab = i === current;
+            all[i].focus = i === current;
+        }
+    }
+    function goTo(index: int): void {
+        const all = stops();
+        const goal = wraps ? (index + all.length) % all.length
+                           : Math.max(0, Math.min(index, all.length - 1));
+        if (goal === current || !all[goal])
+            return;
+        current = goal;
+        refresh();
+        all[goal].focusByKeyboard();
+    }
+
+    Accessible.role: Accessible.Grouping
+
+    Keys.onPressed: event => {
+        event.accepted = true;
+        switch (event.key) {
+        case Qt.Key_Right:
+        case Qt.Key_Down:
+            goTo(current + 1);
+            break;
+        case Qt.Key_Left:
+        case Qt.Key_Up:
+            goTo(current - 1);
+            break;
+        case Qt.Key_Home:
+            goTo(0);
+            break;
+        case Qt.Key_End:
+            goTo(stops().length - 1);
+            break;
+        default:
+            event.accepted = false;
+        }
+    }
+    Component.onCompleted: refresh()
+}

@@ -1,0 +1,23 @@
+// A card on the ground. No card stands in a card.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Plate {
+    id: card
+
+    property real padding: DarkUI.space16
+    default property alias content: inside.data
+
+    implicitWidth: inside.childrenRect.width + 2 * padding
+    implicitHeight: inside.childrenRect.height + 2 * padding
+    radius: DarkUI.radiusCard
+    color: DarkUI.card
+    edge: DarkUI.hairline
+
+    Item {
+        id: inside
+        anchors.fill: parent
+        anchors.margins: card.padding
+    }
+}

@@ -1,0 +1,29 @@
+// The caret of a text field. It blinks as the desktop says, and stands still with reduced motion.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Rectangle {
+    id: caret
+
+    property bool shown: false
+    property bool lit: true
+
+    width: DarkUI.caretWidth
+    color: DarkUI.caret
+    visible: shown && lit
+    // Moving it lights it up.
+    onXChanged: {
+        lit = true;
+        blink.restart();
+    }
+
+    Timer {
+        id: blink
+        interval: Math.max(Application.styleHints.cursorFlashTime / 2, 1)
+        repeat: true
+        running: caret.shown && !Motion.reduced && Application.styleHints.cursorFlashTime > 1
+        onTriggered: caret.lit = !caret.lit
+        onRunningChanged: caret.lit = true
+    }
+}

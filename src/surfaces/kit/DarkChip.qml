@@ -1,0 +1,95 @@
+// A chip: a name with a dot or a sign in front. In a group of chips the arrow keys lead from one
+// to the next.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+KitPressable {
+    id: chip
+
+    required property string text
+    property color dotColor: DarkUI.clear // clear for no dot
+    property color selectedTint: DarkUI.clear // a colour when chosen
+    property bool large: false
+    property bool checked: false // shows the check of a large chip
+    property bool playOnHover: false // the dot turns into a play sign
+    property int key: -1 // whatever the group's owner knows it by
+    readonly property bool hasDot: dotColor.a > 0
+    readonly property bool showsPlay: playOnHover && (hovered || ringed)
+    readonly property real leading: large ? DarkUI.space10 : DarkUI.space8
+    readonly property real gap: large ? DarkUI.space8 : DarkUI.space8
+    signal contextMenuRequested
+
+    implicitWidth: (hasDot ? leading + DarkUI.chipDot + gap : leading + DarkUI.space2)
+                   + label.implicitWidth + (check.visible ? gap + check.width : 0)
+                   + (large ? DarkUI.space12 : 13)
+    implicitHeight: large ? DarkUI.largeChipHeight : DarkUI.chipHeight
+    opacity: enabled ? 1 : DarkUI.disabledOpacity
+    name: text
+
+    Accessible.checkable: selectedTint.a > 0 || checked
+    Accessible.checked: selectedTint.a > 0 || checked
+
+    GlassChipBackground {
+        id: ground
+        anchors.fill: parent
+        selectedTint: chip.selectedTint
+        hovering: chip.hovered
+        pressed: chip.pressed
+    }
+
+    Rectangle {
+        x: chip.leading
+        anchors.verticalCenter: parent.verticalCenter
+        visible: chip.hasDot && !chip.showsPlay
+        width: DarkUI.chipDot
+        height: DarkUI.chipDot
+        radius: width / 2
+        color: chip.dotColor
+    }
+
+    KitIcon {
+        x: chip.leading - 1.5
+        anchors.verticalCenter: parent.verticalCenter
+        visible: chip.showsPlay
+        width: DarkUI.space10
+        height: DarkUI.space10
+        name: "play"
+        color: chip.dotColor
+    }
+
+    DarkText {
+        id: label
+        x: chip.hasDot ? chip.leading + DarkUI.chipDot + chip.gap : chip.leading + DarkUI.space2
+        anchors.verticalCenter: parent.verticalCenter
+        text: chip.text
+        role: chip.large ? DarkUI.captionMedium : DarkUI.smallMedium
+        color: DarkUI.chipName
+        Accessible.ignored: true
+    }
+
+    KitIcon {
+        id: check
+        anchors.right: parent.right
+        anchors.rightMargin: DarkUI.space12
+        anchors.verticalCenter: parent.verticalCenter
+        visible: chip.large && chip.checked
+        width: DarkUI.space10
+        height: DarkUI.space10
+        name: "check"
+        color: DarkUI.t1
+    }
+
+    FocusRing {
+        shown: chip.ringed
+        controlRadius: ground.radius
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: chip.contextMenuRequested()
+    }
+
+    Keys.onMenuPressed: chip.contextMenuRequested()
+}

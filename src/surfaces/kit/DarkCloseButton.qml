@@ -1,0 +1,15 @@
+// The round button that closes a card.
+import QtQuick
+import Vantle.Kit
+
+DarkIconButton {
+    implicitWidth: DarkUI.closeButton
+    implicitHeight: DarkUI.closeButton
+    name: qsTr("Close")
+    icon: "close"
+    iconSize: DarkUI.space10
+    radius: DarkUI.closeButton / 2
+    fill: DarkUI.quietHover
+    fillHover: DarkUI.fillPressed
+    fillPressed: DarkUI.pageDot
+}

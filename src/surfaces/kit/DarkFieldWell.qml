@@ -1,0 +1,32 @@
+// The well around a text field; its edge shows the focus, and what is wrong.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Plate {
+    id: well
+
+    property bool focused: false
+    property bool wrong: false
+    property real minHeight: DarkUI.fieldHeight
+    property color accent: DarkUI.accent
+    default property alias content: inside.data
+
+    implicitHeight: Math.max(minHeight, inside.childrenRect.height)
+    radius: DarkUI.radiusButton
+    color: focused ? DarkUI.wellFocused : DarkUI.well
+    edge: wrong ? DarkUI.danger : focused ? accent : DarkUI.hairline
+    edgeWidth: wrong || focused ? DarkUI.fieldEdge : DarkUI.hairlineWidth
+
+    Behavior on color {
+        ColorAnimation {
+            duration: DarkUI.hoverTime
+            easing.type: Easing.OutCubic
+        }
+    }
+
+    Item {
+        id: inside
+        anchors.fill: parent
+    }
+}

@@ -1,0 +1,33 @@
+// A text that leads somewhere else.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+KitPressable {
+    id: link
+
+    required property string text
+    property bool onTint: false // stands on a tint of the accent
+    property TypeRole role: DarkUI.captionMedium
+
+    implicitWidth: label.implicitWidth
+    implicitHeight: DarkUI.stripButton // more than the text, to be hit
+    name: text
+    cursorShape: Qt.PointingHandCursor
+    Accessible.role: Accessible.Link
+
+    DarkText {
+        id: label
+        anchors.verticalCenter: parent.verticalCenter
+        text: link.text
+        role: link.role
+        color: link.onTint ? DarkUI.accentTextOnTint : DarkUI.accentText
+        font.underline: link.hovered || link.pressed
+        Accessible.ignored: true
+    }
+
+    FocusRing {
+        shown: link.ringed
+        controlRadius: DarkUI.radiusBar
+    }
+}

@@ -1,0 +1,63 @@
+// A menu over everything else in its window: below what it belongs to, or above it where there is
+// more room. A press beside it closes it.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Item {
+    id: menu
+
+    property string name
+    property bool opened: false
+    property real minimumWidth: 0
+    property Item anchorItem: null
+    property Item focusBefore: null
+    readonly property Item area: Window.contentItem
+    property alias panel: panel
+    default property alias rows: panel.rows
+
+    function openAt(item: Item, row: int): void {
+        anchorItem = item;
+        focusBefore = Window.activeFocusItem;
+        place(item.mapToItem(area, 0, 0), item.height);
+        opened = true;
+        panel.forceActiveFocus(Qt.PopupFocusReason);
+        if (row >= 0)
+            panel.focusRow(row);
+    }
+    function place(corner: point, height: real): void {
+        const gap = DarkUI.space4;
+        const below = corner.y + height + gap;
+        const fits = below + panel.height + gap <= area.height;
+        panel.x = Math.max(gap, Math.min(corner.x, area.width - panel.width - gap));
+        panel.y = fits ? below : Math.max(gap, corner.y - panel.height - gap);
+    }
+    function close(): void {
+        if (!opened)
+            return;
+        opened = false;
+        if (focusBefore)
+            focusBefore.forceActiveFocus(Qt.PopupFocusReason);
+    }
+
+    Item {
+        parent: menu.area
+        anchors.fill: parent
+        z: 1000 // above all that a window has
+        visible: menu.opened
+
+        MouseArea {
+            anchors.fill: parent
+            acceptedButtons: Qt.AllButtons
+            onPressed: menu.close()
+            onWheel: wheel => wheel.accepted = true
+        }
+
+        DarkMenuPanel {
+            id: panel
+            width: Math.max(implicitWidth, menu.minimumWidth)
+            name: menu.name
+            onDismissed: menu.close()
+        }
+    }
+}

@@ -1,0 +1,78 @@
+// The panel of a menu: rows (DarkMenuRow) and separators, one below the other. The arrow keys lead
+// through the rows. Whoever shows it closes it on dismissed() and after a row was triggered.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+FocusScope {
+    id: panel
+
+    property string name
+    property real padding: DarkUI.space4
+    property bool shadowed: true
+    default property alias rows: column.data
+    signal dismissed
+
+    function stops() {
+        const found = [];
+        for (let i = 0; i < column.children.length; ++i) {
+            const row = column.children[i] as DarkMenuRow;
+            if (row && row.visible && row.enabled)
+                found.push(row);
+        }
+        return found;
+    }
+    function focusRow(index: int): void {
+        const all = stops();
+        if (all.length > 0)
+            all[(index + all.length) % all.length].focusByKeyboard();
+    }
+    // The row that has the mark, among those that can be chosen; -1 for none.
+    function focusedRow(): int {
+        return stops().findIndex(row => row.activeFocus);
+    }
+
+    implicitWidth: column.widest + 2 * padding
+    implicitHeight: column.height + 2 * padding
+
+    Accessible.role: Accessible.PopupMenu
+    Accessible.name: name
+
+    Keys.onEscapePressed: dismissed()
+    Keys.onTabPressed: dismissed()
+    Keys.onDownPressed: focusRow(focusedRow() + 1)
+    Keys.onUpPressed: focusRow(focusedRow() < 0 ? -1 : focusedRow() - 1)
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End;
+        if (event.accepted)
+            focusRow(event.key === Qt.Key_Home ? 0 : -1);
+    }
+
+    GlassBackground {
+        anchors.fill: parent
+        material: GlassBackground.Menu
+        radius: DarkUI.radiusBanner
+        shadowed: panel.shadowed
+    }
+
+    Column {
+        id: column
+        // As wide as the widest row; all rows are as wide as that.
+        readonly property real widest: {
+            let most = 0;
+            for (let i = 0; i < children.length; ++i)
+                most = Math.max(most, children[i].implicitWidth);
+            return most;
+        }
+        x: panel.padding
+        y: panel.padding
+        width: Math.max(widest, panel.width - 2 * panel.padding)
+        onWidthChanged: spread()
+        onChildrenChanged: spread()
+
+        function spread(): void {
+            for (let i = 0; i < children.length; ++i)
+                children[i].width = width;
+        }
+    }
+}

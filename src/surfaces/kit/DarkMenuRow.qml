@@ -1,0 +1,52 @@
+// A row of a menu. It takes the focus from the pointer, so that only one row is ever marked.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+KitPressable {
+    id: row
+
+    required property string text
+    property bool danger: false
+    property bool checkable: false
+    property bool checked: false
+    signal triggered
+
+    implicitWidth: label.x + label.implicitWidth + DarkUI.space12
+    implicitHeight: DarkUI.menuRowHeight
+    name: text
+    ringed: false
+    activeFocusOnTab: false
+    Accessible.role: Accessible.MenuItem
+    Accessible.checkable: checkable
+    Accessible.checked: checked
+    onClicked: triggered()
+    onHoveredChanged: if (hovered) forceActiveFocus(Qt.MouseFocusReason)
+
+    Rectangle {
+        anchors.fill: parent
+        visible: row.activeFocus || row.hovered
+        radius: DarkUI.radiusMenuRow
+        color: row.pressed ? DarkUI.fillPressed : DarkUI.fillHover
+    }
+
+    KitIcon {
+        x: DarkUI.space8
+        anchors.verticalCenter: parent.verticalCenter
+        visible: row.checked
+        width: DarkUI.space12
+        height: DarkUI.space12
+        name: "check"
+        color: DarkUI.t1
+    }
+
+    DarkText {
+        id: label
+        x: row.checkable ? DarkUI.space24 + DarkUI.space2 : DarkUI.space10
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.text
+        role: DarkUI.captionMedium
+        color: !row.enabled ? DarkUI.t4 : row.danger ? DarkUI.dangerTextOnFill : DarkUI.t1
+        Accessible.ignored: true
+    }
+}

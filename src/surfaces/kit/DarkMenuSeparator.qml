@@ -1,0 +1,14 @@
+// Parts the rows of a menu into groups.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Item {
+    implicitHeight: DarkUI.space8 + DarkUI.hairlineWidth
+
+    DarkDivider {
+        x: DarkUI.space10
+        anchors.verticalCenter: parent.verticalCenter
+        width: parent.width - 2 * DarkUI.space10
+    }
+}

@@ -1,0 +1,50 @@
+// A small panel that belongs to something above it, at which its arrow points. Whoever shows it
+// closes it on dismissed().
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+FocusScope {
+    id: popover
+
+    property real arrowX: width / 2 // the arrow's tip
+    property bool arrowed: true
+    property string name
+    readonly property real arrowSide: DarkUI.space12
+    readonly property real arrowHeight: Math.round(arrowSide * Math.SQRT1_2)
+    default property alias content: ground.data
+    signal dismissed
+
+    implicitWidth: DarkUI.popoverWidth
+    Accessible.role: Accessible.Dialog
+    Accessible.name: name
+
+    Keys.onEscapePressed: popover.dismissed()
+
+    GlassBackground {
+        id: ground
+        anchors.fill: parent
+        material: GlassBackground.Popover
+    }
+
+    Item {
+        x: popover.arrowX - width / 2
+        y: -popover.arrowHeight
+        visible: popover.arrowed
+        width: 2 * popover.arrowHeight + DarkUI.space2
+        height: popover.arrowHeight + DarkUI.hairlineWidth // over the panel's edge
+        clip: true
+
+        Plate {
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: (parent.height - DarkUI.hairlineWidth) - width / 2
+            width: popover.arrowSide
+            height: popover.arrowSide
+            rotation: 45
+            antialiasing: true
+            radius: DarkUI.space2
+            color: DarkUI.base
+            edge: DarkUI.hairline
+        }
+    }
+}

@@ -1,0 +1,94 @@
+// Scrolls what is higher than it, by wheel, pointer and keys, and stops at its ends. What gets the
+// keyboard's focus comes into sight.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+FocusScope {
+    id: view
+
+    default property alias content: flickable.flickableData
+    property alias flickable: flickable
+    property alias contentHeight: flickable.contentHeight
+    property alias contentY: flickable.contentY
+    property bool faded: true // fades at the edges
+    property color ground: DarkUI.base
+    property bool scrollbarShown: false
+
+    function scrollTo(y: real): void {
+        flickable.contentY = Math.max(0, Math.min(y, flickable.contentHeight - flickable.height));
+    }
+    function bringIntoSight(item: Item): void {
+        let above = item;
+        while (above && above !== flickable.contentItem)
+            above = above.parent;
+        if (!above)
+            return;
+        const top = item.mapToItem(flickable.contentItem, 0, 0).y;
+        const margin = DarkUI.edgeFade;
+        if (top - margin < flickable.contentY)
+            scrollTo(top - margin);
+        else if (top + item.height + margin > flickable.contentY + flickable.height)
+            scrollTo(top + item.height + margin - flickable.height);
+    }
+
+    Accessible.role: Accessible.Pane
+
+    Flickable {
+        id: flickable
+        anchors.fill: parent
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        contentWidth: width
+        contentHeight: contentItem.childrenRect.height
+        interactive: contentHeight > height
+        pixelAligned: true
+    }
+
+    EdgeFade {
+        anchors.top: parent.top
+        width: parent.width
+        visible: view.faded && !flickable.atYBeginning
+        edge: Qt.TopEdge
+        ground: view.ground
+    }
+
+    EdgeFade {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        visible: view.faded && !flickable.atYEnd
+        edge: Qt.BottomEdge
+        ground: view.ground
+    }
+
+    DarkScrollbar {
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        view: flickable
+        shown: view.scrollbarShown
+    }
+
+    Keys.onPressed: event => {
+        event.accepted = true;
+        if (event.key === Qt.Key_PageDown)
+            scrollTo(flickable.contentY + flickable.height - DarkUI.edgeFade);
+        else if (event.key === Qt.Key_PageUp)
+            scrollTo(flickable.contentY - flickable.height + DarkUI.edgeFade);
+        else if (event.key === Qt.Key_Home)
+            scrollTo(0);
+        else if (event.key === Qt.Key_End)
+            scrollTo(flickable.contentHeight);
+        else
+            event.accepted = false;
+    }
+
+    Connections {
+        target: view.Window.window
+        function onActiveFocusItemChanged(): void {
+            const item = view.Window.activeFocusItem;
+            if (item)
+                view.bringIntoSight(item);
+        }
+    }
+}

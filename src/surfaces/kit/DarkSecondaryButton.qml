@@ -1,0 +1,7 @@
+// An action beside the main one.
+import QtQuick
+import Vantle.Kit
+
+KitButton {
+    kind: KitButton.Secondary
+}

@@ -1,0 +1,7 @@
+// A heading over a group, in small capitals.
+import QtQuick
+import Vantle.Kit
+
+DarkKicker {
+    font.capitalization: Font.AllUppercase
+}

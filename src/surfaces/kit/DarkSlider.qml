@@ -1,0 +1,114 @@
+// Chooses a number by dragging. It shows `value` and asks for another by moved().
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+KitControl {
+    id: slider
+
+    property string name
+    property real minimumValue: 0
+    property real maximumValue: 1
+    property real stepSize: 0 // 0 for any number; then an arrow key goes a twentieth
+    property real value: 0
+    property string valueText // what is read out instead of the number
+    property bool ringed: keyboardFocus
+    readonly property real position: (value - minimumValue)
+                                     / Math.max(maximumValue - minimumValue, 1e-9)
+    readonly property real keyStep: stepSize > 0 ? stepSize : (maximumValue - minimumValue) / 20
+    signal moved(real value)
+
+    function ask(wanted: real): void {
+        const stepped = stepSize > 0
+            ? minimumValue + Math.round((wanted - minimumValue) / stepSize) * stepSize : wanted;
+        const kept = Math.max(minimumValue, Math.min(stepped, maximumValue));
+        if (kept !== value)
+            moved(kept);
+    }
+    function askAt(x: real): void {
+        const way = Math.max(width - DarkUI.sliderKnob, 1);
+        const part = (x - DarkUI.sliderKnob / 2) / way;
+        ask(minimumValue + Math.max(0, Math.min(part, 1)) * (maximumValue - minimumValue));
+    }
+
+    implicitWidth: 200
+    implicitHeight: DarkUI.swatchCell
+    opacity: enabled ? 1 : DarkUI.disabledOpacity
+
+    Accessible.role: Accessible.Slider
+    Accessible.name: name
+    Accessible.description: valueText
+    Accessible.focusable: true
+    Accessible.onIncreaseAction: slider.ask(slider.value + slider.keyStep)
+    Accessible.onDecreaseAction: slider.ask(slider.value - slider.keyStep)
+
+    Keys.onPressed: event => {
+        event.accepted = true;
+        switch (event.key) {
+        case Qt.Key_Right:
+        case Qt.Key_Up:
+            ask(value + keyStep);
+            break;
+        case Qt.Key_Left:
+        case Qt.Key_Down:
+            ask(value - keyStep);
+            break;
+        case Qt.Key_PageUp:
+            ask(value + 5 * keyStep);
+            break;
+        case Qt.Key_PageDown:
+            ask(value - 5 * keyStep);
+            break;
+        case Qt.Key_Home:
+            ask(minimumValue);
+            break;
+        case Qt.Key_End:
+            ask(maximumValue);
+            break;
+        default:
+            event.accepted = false;
+        }
+    }
+
+    Rectangle {
+        id: track
+        x: 0
+        anchors.verticalCenter: parent.verticalCenter
+        width: parent.width
+        height: DarkUI.sliderTrackHeight
+        radius: height / 2
+        color: DarkUI.sliderTrack
+
+        Rectangle {
+            width: knob.x + knob.width / 2
+            height: parent.height
+            radius: height / 2
+            color: DarkUI.accent
+        }
+    }
+
+    Rectangle {
+        id: knob
+        x: slider.position * (slider.width - width)
+        anchors.verticalCenter: parent.verticalCenter
+        width: DarkUI.sliderKnob
+        height: DarkUI.sliderKnob
+        radius: width / 2
+        color: DarkUI.knob
+
+        FocusRing {
+            shown: slider.ringed
+            controlRadius: knob.radius
+        }
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        preventStealing: true
+        onPressed: mouse => {
+            slider.forgetKeyboard();
+            slider.askAt(mouse.x);
+        }
+        onPositionChanged: mouse => slider.askAt(mouse.x)
+    }
+}

@@ -1,0 +1,69 @@
+// The strip at the top of a window that draws its own frame: drag it anywhere to move the window.
+// What is put into it stands at the left of the two round buttons.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Item {
+    id: strip
+
+    property string title // empty where the content opens with one
+    property bool minimisable: true
+    default property alias content: inside.data
+    signal closeRequested
+    signal minimiseRequested
+
+    implicitHeight: DarkUI.stripHeight
+
+    DragHandler {
+        target: null
+        grabPermissions: PointerHandler.CanTakeOverFromAnything
+        onActiveChanged: if (active && strip.Window.window) strip.Window.window.startSystemMove()
+    }
+
+    DarkText {
+        anchors.centerIn: parent
+        visible: strip.title !== ""
+        text: strip.title
+        role: DarkUI.bodyMedium
+        color: DarkUI.t2
+    }
+
+    Item {
+        id: inside
+        anchors.left: parent.left
+        anchors.right: buttons.left
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+    }
+
+    Row {
+        id: buttons
+        anchors.right: parent.right
+        anchors.rightMargin: DarkUI.space8
+        y: DarkUI.space6
+        spacing: DarkUI.space4
+
+        component StripButton: DarkIconButton {
+            implicitWidth: DarkUI.stripButton
+            implicitHeight: DarkUI.stripButton
+            iconSize: DarkUI.space12
+            iconColor: DarkUI.iconStrip
+            radius: DarkUI.stripButton / 2
+            fillHover: DarkUI.stripHover
+        }
+
+        StripButton {
+            visible: strip.minimisable
+            name: qsTr("Minimise")
+            icon: "minimise"
+            onClicked: strip.minimiseRequested()
+        }
+
+        StripButton {
+            name: qsTr("Close")
+            icon: "close"
+            onClicked: strip.closeRequested()
+        }
+    }
+}

@@ -1,0 +1,27 @@
+// Fades what scrolls into the ground at an edge, while there is more beyond it.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Rectangle {
+    id: fade
+
+    property int edge: Qt.BottomEdge
+    property color ground: DarkUI.base
+    readonly property bool horizontal: edge === Qt.LeftEdge || edge === Qt.RightEdge
+    readonly property bool toGround: edge === Qt.BottomEdge || edge === Qt.RightEdge
+
+    implicitWidth: DarkUI.edgeFade
+    implicitHeight: DarkUI.edgeFade
+    gradient: Gradient {
+        orientation: fade.horizontal ? Gradient.Horizontal : Gradient.Vertical
+        GradientStop {
+            position: 0
+            color: fade.toGround ? Tint.alpha(fade.ground, 0) : fade.ground
+        }
+        GradientStop {
+            position: 1
+            color: fade.toGround ? fade.ground : Tint.alpha(fade.ground, 0)
+        }
+    }
+}

@@ -1,0 +1,34 @@
+// The ground of what floats over other windows, with its edge and its shadow. It is dense enough
+// to read on without anything that blurs what is behind.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Plate {
+    id: ground
+
+    enum Material {
+        Floating, // cards and panels
+        Popover,
+        Menu,
+        OverBlur // where the desktop blurs what is behind
+    }
+
+    property int material: GlassBackground.Floating
+    property ShadowToken shadow: material === GlassBackground.Floating ? DarkUI.shadowFloating
+                                                                       : DarkUI.shadowPopover
+    property bool shadowed: true
+
+    radius: material === GlassBackground.Floating ? DarkUI.radiusFloating : DarkUI.radiusWindow
+    color: material === GlassBackground.Floating ? DarkUI.floating
+         : material === GlassBackground.Popover ? DarkUI.popover
+         : material === GlassBackground.Menu ? DarkUI.menu : DarkUI.overBlur
+    edge: DarkUI.hairline
+
+    DarkShadow {
+        anchors.fill: parent
+        visible: ground.shadowed
+        level: ground.shadow
+        radius: ground.radius
+    }
+}

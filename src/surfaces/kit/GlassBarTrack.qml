@@ -1,0 +1,11 @@
+// The trough of a bar.
+import QtQuick
+import Vantle.Kit
+
+Rectangle {
+    property real cornerRadius: DarkUI.radiusBar
+
+    implicitHeight: DarkUI.barStat
+    radius: Math.min(cornerRadius, height / 2)
+    color: DarkUI.trough
+}

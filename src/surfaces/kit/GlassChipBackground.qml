@@ -1,0 +1,26 @@
+// The ground of a chip: quiet, or in a colour when it is the chosen one.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Plate {
+    id: ground
+
+    property color selectedTint: DarkUI.clear // a colour when the chip is chosen
+    property bool hovering: false
+    property bool pressed: false
+    readonly property bool selected: selectedTint.a > 0
+
+    radius: height / 2
+    color: selected ? Tint.alpha(selectedTint, pressed ? DarkUI.tintFillPressed
+                                             : hovering ? DarkUI.tintFillHover : DarkUI.tintFill)
+         : pressed ? DarkUI.fillPressed : hovering ? DarkUI.fillHover : DarkUI.fill
+    edge: selected ? selectedTint : DarkUI.hairline
+
+    Behavior on color {
+        ColorAnimation {
+            duration: ground.pressed ? DarkUI.pressTime : DarkUI.hoverTime
+            easing.type: Easing.OutCubic
+        }
+    }
+}

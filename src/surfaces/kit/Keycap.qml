@@ -1,0 +1,24 @@
+// A key, or keys, as they are written on the keyboard.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Plate {
+    id: cap
+
+    required property string text
+
+    implicitWidth: label.implicitWidth + 2 * DarkUI.space6
+    implicitHeight: DarkUI.space20
+    radius: DarkUI.radiusKeycap
+    color: DarkUI.rowHover
+    edge: DarkUI.keycapEdge
+
+    DarkText {
+        id: label
+        anchors.centerIn: parent
+        text: cap.text
+        role: DarkUI.smallMedium
+        color: DarkUI.t2
+    }
+}

@@ -1,0 +1,27 @@
+// Where one is among a few pages.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Row {
+    id: dots
+
+    required property int count
+    property int current: 0
+
+    spacing: DarkUI.space8
+    Accessible.role: Accessible.Indicator
+    Accessible.name: qsTr("Page %1 of %2").arg(current + 1).arg(count)
+
+    Repeater {
+        model: dots.count
+
+        Rectangle {
+            required property int index
+            width: DarkUI.pageDotSize
+            height: DarkUI.pageDotSize
+            radius: width / 2
+            color: index === dots.current ? DarkUI.pageDotCurrent : DarkUI.pageDot
+        }
+    }
+}

@@ -1,0 +1,23 @@
+// A rounded ground with an edge drawn over its rim. (The edge of a Rectangle takes the place of
+// the fill, and white on nothing is darker than white on white.)
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Rectangle {
+    id: plate
+
+    property color edge: DarkUI.clear
+    property real edgeWidth: DarkUI.hairlineWidth
+
+    color: DarkUI.card
+
+    Rectangle {
+        anchors.fill: parent
+        visible: plate.edge.a > 0
+        radius: plate.radius
+        color: "transparent"
+        border.width: plate.edgeWidth
+        border.color: plate.edge
+    }
+}

@@ -1,0 +1,94 @@
+// One of a few, side by side. It shows `currentIndex` and asks for another by activated().
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+ArrowGroup {
+    id: picker
+
+    required property list<string> options
+    property int currentIndex: 0
+    property string name
+    property TypeRole role: DarkUI.captionMedium
+    property real radius: DarkUI.radiusBanner
+    readonly property real inset: DarkUI.space2
+    readonly property real segmentWidth: (width - 2 * inset) / Math.max(options.length, 1)
+    signal activated(int index)
+
+    implicitWidth: 300
+    implicitHeight: DarkUI.buttonHeight
+    list: segments
+    current: currentIndex
+
+    Accessible.role: Accessible.PageTabList
+    Accessible.name: name
+
+    Rectangle {
+        anchors.fill: parent
+        radius: picker.radius
+        color: DarkUI.card
+    }
+
+    Rectangle {
+        x: picker.inset + picker.currentIndex * picker.segmentWidth
+        y: picker.inset
+        visible: picker.currentIndex >= 0
+        width: picker.segmentWidth
+        height: parent.height - 2 * picker.inset
+        radius: picker.radius - picker.inset
+        color: DarkUI.segment
+
+        Behavior on x {
+            NumberAnimation {
+                duration: DarkUI.segmentTime
+                easing.type: Easing.OutCubic
+            }
+        }
+    }
+
+    Row {
+        id: segments
+        x: picker.inset
+        y: picker.inset
+        height: parent.height - 2 * picker.inset
+
+        Repeater {
+            model: picker.options
+
+            KitPressable {
+                id: segment
+                required property string modelData
+                required property int index
+                readonly property bool chosen: index === picker.currentIndex
+
+                width: picker.segmentWidth
+                height: parent ? parent.height : 0
+                name: modelData
+                Accessible.role: Accessible.PageTab
+                Accessible.checkable: true
+                Accessible.checked: chosen
+                onClicked: picker.activated(index)
+                // The arrow keys choose as they go, as in every such picker.
+                onKeyboardFocusChanged: if (keyboardFocus && !chosen) picker.activated(index)
+
+                DarkText {
+                    anchors.centerIn: parent
+                    text: segment.modelData
+                    role: segment.chosen ? DarkUI.captionStrong : picker.role
+                    color: segment.chosen || segment.hovered ? DarkUI.t1 : DarkUI.t2
+                    Accessible.ignored: true
+                }
+
+                FocusRing {
+                    shown: segment.ringed
+                    controlRadius: picker.radius - picker.inset
+                }
+            }
+        }
+    }
+
+    onCurrentIndexChanged: {
+        current = currentIndex;
+        refresh();
+    }
+}

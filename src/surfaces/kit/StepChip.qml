@@ -1,0 +1,47 @@
+// A small plus or minus for stepping a value. The larger form stands in forms.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+KitPressable {
+    id: chip
+
+    required property string label // "+" or "−"
+    property bool large: false
+    readonly property bool plus: label === "+"
+    signal action
+
+    implicitWidth: large ? DarkUI.formStepperSize : DarkUI.stepperSize
+    implicitHeight: implicitWidth
+    name: plus ? qsTr("More") : qsTr("Less")
+    onClicked: action()
+
+    Plate {
+        id: ground
+        anchors.fill: parent
+        radius: chip.large ? DarkUI.radiusBanner : DarkUI.radiusSmall
+        color: chip.pressed && chip.enabled ? DarkUI.fillPressed
+             : chip.hovered ? DarkUI.fillHover : chip.large ? DarkUI.card : DarkUI.stepper
+        edge: chip.large ? DarkUI.hairline : DarkUI.clear
+
+        Behavior on color {
+            ColorAnimation {
+                duration: chip.stateTime
+                easing.type: Easing.OutCubic
+            }
+        }
+    }
+
+    KitIcon {
+        anchors.centerIn: parent
+        width: DarkUI.space12
+        height: DarkUI.space12
+        name: chip.plus ? "plus" : "minus"
+        color: chip.enabled ? DarkUI.t1 : DarkUI.iconDisabled
+    }
+
+    FocusRing {
+        shown: chip.ringed
+        controlRadius: ground.radius
+    }
+}

@@ -1,0 +1,74 @@
+// A row of colours to choose one of, spread over the row's width.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+ArrowGroup {
+    id: row
+
+    required property list<color> colors
+    property list<string> names // read out, in the order of the colours
+    property int currentIndex: -1
+    readonly property real pitch: colors.length > 1
+                                  ? (width - DarkUI.swatchCell) / (colors.length - 1) : 0
+    signal activated(int index)
+
+    implicitWidth: colors.length * DarkUI.swatchCell
+    implicitHeight: DarkUI.swatchCell
+    list: cells
+    current: Math.max(currentIndex, 0)
+
+    Item {
+        id: cells
+        anchors.fill: parent
+
+        Repeater {
+            model: row.colors
+
+            KitPressable {
+                id: cell
+                required property color modelData
+                required property int index
+                readonly property bool chosen: index === row.currentIndex
+
+                x: Math.round(index * row.pitch)
+                width: DarkUI.swatchCell
+                height: DarkUI.swatchCell
+                name: row.names[index] ?? modelData.toString()
+                Accessible.role: Accessible.RadioButton
+                Accessible.checkable: true
+                Accessible.checked: chosen
+                onClicked: row.activated(index)
+                onKeyboardFocusChanged: if (keyboardFocus && !chosen) row.activated(index)
+
+                Rectangle {
+                    anchors.centerIn: parent
+                    width: DarkUI.swatch
+                    height: DarkUI.swatch
+                    radius: width / 2
+                    color: cell.hovered && !cell.chosen ? Tint.lightened(cell.modelData, 0.15)
+                                                        : cell.modelData
+                }
+
+                Rectangle {
+                    anchors.fill: parent
+                    visible: cell.chosen
+                    radius: width / 2
+                    color: "transparent"
+                    border.width: DarkUI.focusWidth
+                    border.color: DarkUI.chosenRing
+                }
+
+                FocusRing {
+                    shown: cell.ringed
+                    controlRadius: cell.width / 2
+                }
+            }
+        }
+    }
+
+    onCurrentIndexChanged: {
+        current = Math.max(currentIndex, 0);
+        refresh();
+    }
+}

@@ -1,0 +1,26 @@
+#include "surfaces/kit/TypeRole.h"
+
+#include "surfaces/kit/Typeface.h"
+
+#include <QFontMetricsF>
+
+#include <cmath>
+
+namespace vantle {
+
+QFont TypeRole::font() const {
+    const Typeface& face = m_display ? Typeface::display() : Typeface::text();
+    QFont font(face.family);
+    font.setPixelSize(m_size);
+    font.setWeight(static_cast<QFont::Weight>(m_weight));
+    font.setLetterSpacing(QFont::AbsoluteSpacing, m_size * (m_tracking + face.tracking));
+    font.setHintingPreference(QFont::PreferVerticalHinting);
+    return font;
+}
+
+double TypeRole::leading() const {
+    const QFontMetricsF metrics(font());
+    return std::round((m_line - metrics.ascent() - metrics.descent()) / 2);
+}
+
+} // namespace vantle

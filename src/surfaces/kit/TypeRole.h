@@ -1,0 +1,59 @@
+// One step of the type scale. The steps themselves stand in DarkUI.
+#pragma once
+
+#include <QFont>
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace vantle {
+
+/// Text up to 15 px. Main thread.
+class TypeRole : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    /// px
+    Q_PROPERTY(int size MEMBER m_size NOTIFY changed)
+    /// px from baseline to baseline
+    Q_PROPERTY(int line MEMBER m_line NOTIFY changed)
+    Q_PROPERTY(int weight MEMBER m_weight NOTIFY changed)
+    /// em
+    Q_PROPERTY(double tracking MEMBER m_tracking NOTIFY changed)
+    Q_PROPERTY(QFont font READ font NOTIFY changed)
+    /// Half of what a line has beyond the font's own height, px: what stands above the letters and
+    /// below them. Negative for lines that are set close.
+    Q_PROPERTY(double leading READ leading NOTIFY changed)
+
+public:
+    explicit TypeRole(QObject* parent = nullptr) : QObject(parent) {}
+
+    [[nodiscard]] QFont font() const;
+    [[nodiscard]] double leading() const;
+
+Q_SIGNALS:
+    void changed();
+
+protected:
+    TypeRole(bool display, int weight, QObject* parent)
+        : QObject(parent)
+        , m_display(display)
+        , m_weight(weight) {}
+
+private:
+    bool m_display = false;
+    int m_size = 13;
+    int m_line = 20;
+    int m_weight = QFont::Normal;
+    double m_tracking = 0.0;
+};
+
+/// Titles and figures from 15 px upwards, in semibold. (The checker of the views finds a base class
+/// by its full name only.)
+class DisplayRole : public vantle::TypeRole {
+    Q_OBJECT
+    QML_ELEMENT
+
+public:
+    explicit DisplayRole(QObject* parent = nullptr) : TypeRole(true, QFont::DemiBold, parent) {}
+};
+
+} // namespace vantle
