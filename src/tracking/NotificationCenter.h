@@ -1,4 +1,4 @@
-// News for every history view.
+// News for whoever watches: history views, and the welcome.
 #pragma once
 
 #include <QObject>
@@ -12,6 +12,12 @@ class NotificationCenter : public QObject {
 Q_SIGNALS:
     /// The log, or the way in which durations are written, has changed: reload.
     void HFSessionsChanged();
+
+    /// The card after a session has closed, whichever way.
+    void HFStopSummaryResolved();
+
+    /// The person asks for the welcome again.
+    void HFShowWelcome();
 };
 
 } // namespace vantle

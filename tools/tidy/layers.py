@@ -16,7 +16,7 @@ ROWS = (
     ("platform", "surfaces/kit"),
     ("tracking", "surfaces/panel"),
     ("sensing", "review/stats", "review/narrative", "ceremony/show"),
-    ("app",),
+    ("app", "surfaces/window"),
     ("surfaces/*", "review", "ceremony"),
     ("app/launch", "platform/*"),
 )

@@ -1,0 +1,126 @@
+#include "surfaces/window/ManagedWindow.h"
+
+#include "platform/PanelHost.h"
+#include "platform/Preferences.h"
+#include "platform/Screens.h"
+#include "surfaces/window/ForegroundActivation.h"
+#include "surfaces/window/MemoryReturn.h"
+#include "surfaces/window/SharedEngine.h"
+#include "surfaces/window/WindowPlacement.h"
+#include "surfaces/window/WindowShell.h"
+
+#include <QQmlEngine>
+
+namespace vantle {
+
+namespace {
+
+constexpr int kStripHeight = 36;
+constexpr int kMinContentHeight = 320; // of a resizable window
+
+} // namespace
+
+ManagedWindow::ManagedWindow(const WindowEnvironment& environment, const WindowRules& rules,
+                             WindowContent content)
+    : m_env(environment)
+    , m_rules(rules)
+    , m_content(std::move(content)) {}
+
+ManagedWindow::~ManagedWindow() {
+    if (m_shell == nullptr) return;
+    keepFrame();
+    delete m_shell;
+}
+
+QWindow* ManagedWindow::window() const { return m_shell; }
+
+bool ManagedWindow::show() {
+    if (m_shell == nullptr && !open()) return false;
+    if (m_shell->windowStates().testFlag(Qt::WindowMinimized)) m_shell->showNormal();
+    m_shell->show();
+    m_shell->raise();
+    m_shell->requestActivate();
+    return true;
+}
+
+bool ManagedWindow::open() {
+    auto shell = std::make_unique<WindowShell>(m_env.engine.acquire());
+    // Queued: the view that asks for it is destroyed by it.
+    const auto closeLater = [window = QPointer(this)] {
+        if (window) QMetaObject::invokeMethod(window, &ManagedWindow::close, Qt::QueuedConnection);
+    };
+    shell->setTitle(m_rules.title);
+    if (!shell->load(m_rules, m_content.view, m_content.makeModel(closeLater),
+                     m_env.host.isComposited()))
+        return false;
+    connect(shell.get(), &WindowShell::closeRequested, this, closeLater);
+    connect(shell.get(), &WindowShell::quitRequested, this, [this] {
+        if (m_env.quit) m_env.quit();
+    });
+    connect(shell.get(), &WindowShell::fittingSizeChanged, this, &ManagedWindow::refit);
+    m_shell = shell.release();
+    place();
+    m_env.activation.windowAppeared();
+    return true;
+}
+
+QSize ManagedWindow::wantedSize() const {
+    if (m_rules.contentSize.isEmpty()) return m_shell->fittingSize();
+    return m_rules.contentSize + QSize(0, kStripHeight);
+}
+
+void ManagedWindow::place() {
+    const auto screens = m_env.screens.all();
+    const QRectF area = screens.empty() ? QRectF() : screens.front().available;
+    const QSize size = screens.empty() ? wantedSize() : windowplacement::fitted(wantedSize(), area);
+    QRect frame = windowplacement::centred(size, area);
+    if (!m_rules.frameAutosaveName.isEmpty()) {
+        const auto kept = windowplacement::decode(
+            m_env.preferences.string(m_rules.frameAutosaveName).value_or(QString()));
+        if (kept) frame = windowplacement::onScreen(*kept, screens).value_or(frame);
+    }
+    if (m_rules.resizable) {
+        m_shell->setMinimumSize(
+            QSize(m_rules.minContentWidth, kMinContentHeight + kStripHeight).boundedTo(size));
+    } else {
+        m_shell->setMinimumSize(frame.size());
+        m_shell->setMaximumSize(frame.size());
+    }
+    m_shell->setGeometry(frame);
+    m_placedFrame = frame;
+}
+
+void ManagedWindow::refit() {
+    if (m_shell == nullptr || m_rules.resizable || !m_rules.contentSize.isEmpty()) return;
+    const auto screens = m_env.screens.all();
+    const QRect wanted(m_shell->position(), m_shell->fittingSize());
+    const QRect frame = windowplacement::onScreen(wanted, screens).value_or(wanted);
+    // In an order that never asks for a size outside the bounds of the moment.
+    m_shell->setMinimumSize(frame.size().boundedTo(m_shell->size()));
+    m_shell->setMaximumSize(frame.size().expandedTo(m_shell->size()));
+    m_shell->setGeometry(frame);
+    m_shell->setMinimumSize(frame.size());
+    m_shell->setMaximumSize(frame.size());
+}
+
+void ManagedWindow::keepFrame() {
+    // A window that was not moved keeps nothing: after all data was erased none comes back.
+    if (m_rules.frameAutosaveName.isEmpty() || m_shell->geometry() == m_placedFrame) return;
+    if (m_shell->windowStates() != Qt::WindowNoState) return;
+    m_env.preferences.setString(m_rules.frameAutosaveName,
+                                windowplacement::encode(m_shell->geometry()));
+}
+
+void ManagedWindow::close() {
+    if (m_shell == nullptr) return;
+    keepFrame();
+    WindowShell* const shell = std::exchange(m_shell, nullptr);
+    shell->disconnect(this);
+    shell->hide();
+    connect(shell, &QObject::destroyed, &giveMemoryBack);
+    shell->deleteLater();
+    m_env.activation.windowDisappeared();
+    Q_EMIT closed();
+}
+
+} // namespace vantle

@@ -1,0 +1,61 @@
+#include "surfaces/window/WindowPlacement.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+
+namespace vantle::windowplacement {
+
+namespace {
+
+double areaOf(const QRectF& rect) { return rect.width() * rect.height(); }
+
+int clampedTo(int value, double low, double high) {
+    return static_cast<int>(std::max(low, std::min<double>(value, high)));
+}
+
+} // namespace
+
+QSize fitted(const QSize& size, const QRectF& area) { return size.boundedTo(area.size().toSize()); }
+
+QRect centred(const QSize& size, const QRectF& area) {
+    return {qRound(area.x() + (area.width() - size.width()) / 2),
+            qRound(area.y() + (area.height() - size.height()) / 2), size.width(), size.height()};
+}
+
+std::optional<QRect> onScreen(const QRect& frame, const std::vector<ScreenShape>& screens) {
+    const auto shown = [&](const ScreenShape& screen) {
+        return areaOf(screen.available.intersected(frame));
+    };
+    const auto best = std::ranges::max_element(screens, {}, shown);
+    if (best == screens.end() || shown(*best) <= 0) return std::nullopt;
+    const QRectF& area = best->available;
+    const QSize size = fitted(frame.size(), area);
+    return QRect(clampedTo(frame.x(), area.left(), area.right() - size.width()),
+                 clampedTo(frame.y(), area.top(), area.bottom() - size.height()), size.width(),
+                 size.height());
+}
+
+QString encode(const QRect& frame) {
+    return QStringLiteral("%1 %2 %3 %4")
+        .arg(frame.x())
+        .arg(frame.y())
+        .arg(frame.width())
+        .arg(frame.height());
+}
+
+std::optional<QRect> decode(const QString& text) {
+    const QStringList parts = text.split(QLatin1Char(' '));
+    std::array<int, 4> numbers{};
+    if (parts.size() != static_cast<qsizetype>(numbers.size())) return std::nullopt;
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        bool ok = false;
+        numbers.at(i) = parts.at(static_cast<qsizetype>(i)).toInt(&ok);
+        if (!ok) return std::nullopt;
+    }
+    if (numbers[2] <= 0 || numbers[3] <= 0) return std::nullopt;
+    return QRect(numbers[0], numbers[1], numbers[2], numbers[3]);
+}
+
+} // namespace vantle::windowplacement

@@ -1,0 +1,61 @@
+#include "surfaces/window/WindowShell.h"
+
+#include "surfaces/window/WindowKind.h"
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+
+namespace vantle {
+
+WindowShell::WindowShell(std::shared_ptr<QQmlEngine> engine) : m_engine(std::move(engine)) {
+    QSurfaceFormat translucent = format();
+    translucent.setAlphaBufferSize(8);
+    setFormat(translucent);
+    setColor(Qt::transparent);
+    setFlags(Qt::Window | Qt::FramelessWindowHint);
+}
+
+WindowShell::~WindowShell() = default;
+
+bool WindowShell::load(const WindowRules& rules, const QUrl& view, std::unique_ptr<QObject> model,
+                       bool rounded) {
+    m_model = std::move(model);
+    QQmlComponent component(m_engine.get(),
+                            QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Window/WindowFrame.qml")));
+    m_frame.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
+        {{QStringLiteral("shell"), QVariant::fromValue(this)},
+         {QStringLiteral("title"), rules.showsTitle ? rules.title : QString()},
+         {QStringLiteral("resizable"), rules.resizable},
+         {QStringLiteral("rounded"), rounded},
+         {QStringLiteral("minimumHeight"), rules.scrollableHeight},
+         {QStringLiteral("view"), view},
+         {QStringLiteral("model"), QVariant::fromValue(m_model.get())}})));
+    if (!m_frame) return false;
+    m_frame->setParentItem(contentItem());
+    const auto changed = [this] { Q_EMIT fittingSizeChanged(); };
+    connect(m_frame.get(), &QQuickItem::implicitWidthChanged, this, changed);
+    connect(m_frame.get(), &QQuickItem::implicitHeightChanged, this, changed);
+    return m_frame->property("ready").toBool();
+}
+
+QSize WindowShell::fittingSize() const {
+    return {qCeil(m_frame->implicitWidth()), qCeil(m_frame->implicitHeight())};
+}
+
+bool WindowShell::event(QEvent* event) {
+    if (event->type() == QEvent::Close) {
+        // The owner decides; by then the window is hidden and on its way out.
+        event->ignore();
+        Q_EMIT closeRequested();
+        return true;
+    }
+    return QQuickWindow::event(event);
+}
+
+void WindowShell::resizeEvent(QResizeEvent* event) {
+    QQuickWindow::resizeEvent(event);
+    if (m_frame) m_frame->setSize(size());
+}
+
+} // namespace vantle

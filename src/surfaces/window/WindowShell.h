@@ -1,0 +1,61 @@
+// The desktop's side of a managed window, with its view tree.
+#pragma once
+
+#include <QQuickWindow>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+class QQmlEngine;
+
+namespace vantle {
+
+struct WindowRules;
+
+/// A window without the desktop's frame, which has a place in the task bar and takes the keyboard
+/// as any other. It owns the view tree, then the view model, then its share of the engine, and
+/// gives them up in this order. Main thread.
+class WindowShell : public QQuickWindow {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by its managed window.")
+
+public:
+    explicit WindowShell(std::shared_ptr<QQmlEngine> engine);
+    ~WindowShell() override;
+
+    /// Makes the frame with the view in it. False when the view is no good. `rounded` says that the
+    /// corners may be transparent.
+    [[nodiscard]] bool load(const WindowRules& rules, const QUrl& view,
+                            std::unique_ptr<QObject> model, bool rounded);
+
+    /// What the frame asks for: the view's own size and the strip. After load().
+    [[nodiscard]] QSize fittingSize() const;
+
+    // What the frame's strip and edges do.
+    Q_INVOKABLE void beginMove() { (void)startSystemMove(); }
+    Q_INVOKABLE void beginResize(int edges) { (void)startSystemResize(Qt::Edges(edges)); }
+    Q_INVOKABLE void minimise() { showMinimized(); }
+    /// Asks the owner; the window goes after the present handler.
+    Q_INVOKABLE void requestClose() { Q_EMIT closeRequested(); }
+    Q_INVOKABLE void requestQuit() { Q_EMIT quitRequested(); }
+
+Q_SIGNALS:
+    /// The person or the desktop wants the window closed.
+    void closeRequested();
+    /// The person pressed the program's own key for its end.
+    void quitRequested();
+    /// The view asks for another size.
+    void fittingSizeChanged();
+
+protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    std::shared_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QObject> m_model;
+    std::unique_ptr<QQuickItem> m_frame;
+};
+
+} // namespace vantle

@@ -1,0 +1,214 @@
+#include "surfaces/window/ManagedWindow.h"
+
+#include "fakes/FakePanelHost.h"
+#include "fakes/FakeScreens.h"
+#include "fakes/MemoryPreferences.h"
+#include "support/Await.h"
+#include "surfaces/window/ForegroundActivation.h"
+#include "surfaces/window/SharedEngine.h"
+
+#include <QPointer>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+#include <gtest/gtest.h>
+
+namespace vantle::tests {
+namespace {
+
+constexpr int kStrip = 36;
+
+class ManagedWindowTest : public testing::Test {
+protected:
+    ManagedWindowTest() {
+        fixed.title = QStringLiteral("Fixed");
+        filling.title = QStringLiteral("Filling");
+        filling.resizable = true;
+        filling.minContentWidth = 380;
+        filling.contentSize = {612, 512};
+        filling.frameAutosaveName = QStringLiteral("a.frame");
+    }
+
+    WindowContent content(const char* view) {
+        return {QUrl(QStringLiteral("qrc:/views/") + QLatin1String(view)),
+                [this](std::function<void()> close) {
+                    auto made = std::make_unique<QObject>();
+                    made->setProperty("tall", tall);
+                    model = made.get();
+                    closeFromView = std::move(close);
+                    return made;
+                }};
+    }
+
+    static QSize contentSize(const ManagedWindow& window) {
+        return window.window()->size() - QSize(0, kStrip);
+    }
+
+    fakes::FakeScreens screens;
+    fakes::FakePanelHost host;
+    fakes::MemoryPreferences preferences;
+    ForegroundActivation activation;
+    SharedEngine engine;
+    WindowRules fixed;
+    WindowRules filling;
+    bool tall = false;
+    QPointer<QObject> model; ///< of the window that was opened last
+    std::function<void()> closeFromView;
+    WindowEnvironment environment{engine, activation, preferences, screens, host, {}};
+};
+
+TEST_F(ManagedWindowTest, AFixedWindowIsAsLargeAsItsViewAsksFor) {
+    ManagedWindow window(environment, fixed, content("Fixed.qml"));
+    ASSERT_TRUE(window.show());
+    EXPECT_EQ(contentSize(window), QSize(200, 100));
+    EXPECT_EQ(window.window()->maximumSize(), window.window()->minimumSize());
+    EXPECT_EQ(window.window()->title(), QStringLiteral("Fixed"));
+    // in the middle of the free area
+    EXPECT_EQ(window.window()->geometry(), QRect(620, 396, 200, 136));
+}
+
+TEST_F(ManagedWindowTest, AResizableWindowHasItsSizeAndItsLeastSize) {
+    ManagedWindow window(environment, filling, content("Filling.qml"));
+    ASSERT_TRUE(window.show());
+    EXPECT_EQ(contentSize(window), QSize(612, 512));
+    EXPECT_EQ(window.window()->minimumSize(), QSize(380, 320 + kStrip));
+}
+
+TEST_F(ManagedWindowTest, AClosedWindowLeavesNothingOfItsView) {
+    ManagedWindow window(environment, fixed, content("Fixed.qml"));
+    ASSERT_TRUE(window.show());
+    const QPointer<QWindow> shell = window.window();
+    window.close();
+    EXPECT_FALSE(window.isOpen());
+    EXPECT_TRUE(await([&] { return shell.isNull(); }));
+    EXPECT_TRUE(model.isNull());
+    EXPECT_FALSE(engine.isAlive());
+}
+
+TEST_F(ManagedWindowTest, AReopenedWindowHasAFreshViewTree) {
+    ManagedWindow window(environment, fixed, content("Fixed.qml"));
+    ASSERT_TRUE(window.show());
+    const QPointer<QObject> first = model;
+    window.close();
+    ASSERT_TRUE(window.show());
+    EXPECT_NE(model, first);
+    EXPECT_TRUE(await([&] { return first.isNull(); }));
+    EXPECT_FALSE(model.isNull());
+}
+
+TEST_F(ManagedWindowTest, ASecondShowBringsTheSameWindowForward) {
+    ManagedWindow window(environment, fixed, content("Fixed.qml"));
+    ASSERT_TRUE(window.show());
+    QWindow* const shell = window.window();
+    ASSERT_TRUE(window.show());
+    EXPECT_EQ(window.window(), shell);
+    EXPECT_EQ(activation.openWindows(), 1);
+}
+
+TEST_F(ManagedWindowTest, TheFrameIsRestoredUnderItsName) {
+    ManagedWindow window(environment, filling, content("Filling.qml"));
+    ASSERT_TRUE(window.show());
+    window.window()->setGeometry(100, 120, 700, 600);
+    window.close();
+    EXPECT_EQ(preferences.string(QStringLiteral("a.frame")), QStringLiteral("100 120 700 600"));
+    ASSERT_TRUE(window.show());
+    EXPECT_EQ(window.window()->geometry(), QRect(100, 120, 700, 600));
+}
+
+TEST_F(ManagedWindowTest, AFrameOnAScreenThatIsGoneIsForgotten) {
+    preferences.setString(QStringLiteral("a.frame"), QStringLiteral("2000 120 700 600"));
+    ManagedWindow window(environment, filling, content("Filling.qml"));
+    ASSERT_TRUE(window.show());
+    EXPECT_EQ(window.window()->geometry(), QRect(414, 190, 612, 548));
+}
+
+TEST_F(ManagedWindowTest, AWindowThatWasNotMovedKeepsNothing) {
+    ManagedWindow window(environment, filling, content("Filling.qml"));
+    ASSERT_TRUE(window.show());
+    window.close();
+    EXPECT_EQ(preferences.string(QStringLiteral("a.frame")), std::nullopt);
+}
+
+TEST_F(ManagedWindowTest, AWindowWithoutANameKeepsNoFrame) {
+    int writes = 0;
+    QObject::connect(&preferences, &Preferences::changed, [&] { ++writes; });
+    ManagedWindow window(environment, fixed, content("Fixed.qml"));
+    ASSERT_TRUE(window.show());
+    window.window()->setPosition(10, 40);
+    window.close();
+    EXPECT_EQ(writes, 0);
+}
+
+TEST_F(ManagedWindowTest, OnALowScreenAFixedWindowShrinksAndScrollsItsView) {
+    tall = true;
+    ManagedWindow window(environment, fixed, content("Fixed.qml"));
+    ASSERT_TRUE(window.show());
+    EXPECT_EQ(window.window()->height(), 872);
+    auto* const field = window.window()->findChild<QQuickItem*>(QStringLiteral("field"));
+    ASSERT_NE(field, nullptr);
+    EXPECT_EQ(field->parentItem()->height(), 2000);
+}
+
+TEST_F(ManagedWindowTest, AWindowFollowsAViewThatGrows) {
+    ManagedWindow window(environment, fixed, content("Fixed.qml"));
+    ASSERT_TRUE(window.show());
+    auto* const field = window.window()->findChild<QQuickItem*>(QStringLiteral("field"));
+    field->parentItem()->setImplicitHeight(132);
+    EXPECT_EQ(contentSize(window), QSize(200, 132));
+}
+
+TEST_F(ManagedWindowTest, AViewMayCloseItsWindowFromItsOwnHandler) {
+    ManagedWindow window(environment, fixed, content("Fixed.qml"));
+    ASSERT_TRUE(window.show());
+    closeFromView();
+    EXPECT_TRUE(window.isOpen());
+    EXPECT_TRUE(await([&] { return !window.isOpen(); }));
+}
+
+TEST_F(ManagedWindowTest, TheDesktopMayCloseTheWindow) {
+    ManagedWindow window(environment, fixed, content("Fixed.qml"));
+    ASSERT_TRUE(window.show());
+    window.window()->close();
+    EXPECT_TRUE(await([&] { return !window.isOpen() && activation.openWindows() == 0; }));
+}
+
+TEST_F(ManagedWindowTest, AViewThatIsNoGoodOpensNothing) {
+    ManagedWindow window(environment, fixed, content("Missing.qml"));
+    EXPECT_FALSE(window.show());
+    EXPECT_FALSE(window.isOpen());
+    EXPECT_EQ(activation.openWindows(), 0);
+}
+
+TEST_F(ManagedWindowTest, WindowsShareOneEngine) {
+    ManagedWindow one(environment, fixed, content("Fixed.qml"));
+    ManagedWindow other(environment, filling, content("Filling.qml"));
+    ASSERT_TRUE(one.show());
+    const QQmlEngine* const shared = engine.acquire().get();
+    ASSERT_TRUE(other.show());
+    EXPECT_EQ(engine.acquire().get(), shared);
+}
+
+TEST(ForegroundActivation, TheProgramIsRegularFromTheFirstWindowToTheLast) {
+    ForegroundActivation activation;
+    int changes = 0;
+    QObject::connect(&activation, &ForegroundActivation::regularChanged, [&] { ++changes; });
+    activation.windowAppeared();
+    activation.windowAppeared();
+    activation.windowDisappeared();
+    EXPECT_TRUE(activation.isRegular());
+    activation.windowDisappeared();
+    EXPECT_FALSE(activation.isRegular());
+    EXPECT_EQ(changes, 2);
+}
+
+TEST(ForegroundActivation, OneMoreDisappearanceLeavesTheCountAtZero) {
+    ForegroundActivation activation;
+    activation.windowDisappeared();
+    EXPECT_EQ(activation.openWindows(), 0);
+    activation.windowAppeared();
+    EXPECT_EQ(activation.openWindows(), 1);
+}
+
+} // namespace
+} // namespace vantle::tests

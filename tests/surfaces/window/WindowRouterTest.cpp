@@ -1,0 +1,93 @@
+#include "surfaces/window/WindowRouter.h"
+
+#include "fakes/FakePanelHost.h"
+#include "fakes/FakeScreens.h"
+#include "fakes/MemoryPreferences.h"
+#include "surfaces/window/ForegroundActivation.h"
+#include "surfaces/window/SharedEngine.h"
+#include "tracking/NotificationCenter.h"
+
+#include <QWindow>
+
+#include <gtest/gtest.h>
+
+namespace vantle::tests {
+namespace {
+
+class WindowRouterTest : public testing::Test {
+protected:
+    void registerAll() {
+        for (const auto id : {WindowId::Dashboard, WindowId::Wrapped, WindowId::Log,
+                              WindowId::QuickLog, WindowId::Welcome, WindowId::Settings})
+            router.registerWindow(
+                id, {QUrl(QStringLiteral("qrc:/views/Fixed.qml")),
+                     [](const std::function<void()>&) { return std::make_unique<QObject>(); }});
+    }
+
+    fakes::FakeScreens screens;
+    fakes::FakePanelHost host;
+    fakes::MemoryPreferences preferences;
+    ForegroundActivation activation;
+    SharedEngine engine;
+    NotificationCenter notifications;
+    WindowRouter router{{engine, activation, preferences, screens, host, {}}, notifications};
+};
+
+TEST_F(WindowRouterTest, AWindowThatNobodyRegisteredDoesNotOpen) {
+    router.showSettings();
+    EXPECT_FALSE(router.isOpen(WindowId::Settings));
+    EXPECT_EQ(activation.openWindows(), 0);
+}
+
+TEST_F(WindowRouterTest, EachCommandOpensItsWindow) {
+    registerAll();
+    router.showLog();
+    router.showQuickLog();
+    router.showSettings();
+    router.showWelcome();
+    EXPECT_EQ(router.window(WindowId::Log)->title(), QStringLiteral("Your notes"));
+    EXPECT_EQ(router.window(WindowId::QuickLog)->title(), QStringLiteral("Quick Log"));
+    EXPECT_EQ(router.window(WindowId::Settings)->title(), QStringLiteral("Settings"));
+    EXPECT_EQ(router.window(WindowId::Welcome)->title(), QStringLiteral("Welcome"));
+    EXPECT_EQ(activation.openWindows(), 4);
+}
+
+TEST_F(WindowRouterTest, ClosingOneOfTwoWindowsKeepsThePlaceInTheTaskBar) {
+    registerAll();
+    router.showLog();
+    router.showSettings();
+    router.close(WindowId::Log);
+    EXPECT_TRUE(activation.isRegular());
+    router.close(WindowId::Settings);
+    EXPECT_FALSE(activation.isRegular());
+}
+
+TEST_F(WindowRouterTest, TheDashboardAndTheReviewAreNeverOpenTogether) {
+    registerAll();
+    router.showWrapped();
+    EXPECT_EQ(router.window(WindowId::Wrapped)->title(), QStringLiteral("Wrapped"));
+    router.showDashboard();
+    EXPECT_FALSE(router.isOpen(WindowId::Wrapped));
+    EXPECT_EQ(router.window(WindowId::Dashboard)->title(), QStringLiteral("Your hours"));
+    EXPECT_EQ(activation.openWindows(), 1);
+    router.showWrapped();
+    EXPECT_FALSE(router.isOpen(WindowId::Dashboard));
+    EXPECT_EQ(activation.openWindows(), 1);
+}
+
+TEST_F(WindowRouterTest, TheReviewKnowsThePeriodThatItWasAskedToOpenOn) {
+    registerAll();
+    router.showWrapped(WrappedPeriod::LastWeek);
+    EXPECT_EQ(router.wrappedInitialPeriod(), WrappedPeriod::LastWeek);
+    router.showWrapped();
+    EXPECT_EQ(router.wrappedInitialPeriod(), std::nullopt);
+}
+
+TEST_F(WindowRouterTest, TheWelcomeOpensWhenItIsAskedForAgain) {
+    registerAll();
+    Q_EMIT notifications.HFShowWelcome();
+    EXPECT_TRUE(router.isOpen(WindowId::Welcome));
+}
+
+} // namespace
+} // namespace vantle::tests
