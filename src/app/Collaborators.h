@@ -18,10 +18,24 @@
 namespace vantle {
 
 /// What the ceremony plays.
-enum class CeremonyShow {
-    Full,     ///< a session started by the person
-    Quick,    ///< a session started by auto mode
-    Collapse, ///< a session ended
+struct CeremonyShow {
+    enum Kind {
+        Full,      ///< a session started by the person
+        Quick,     ///< a session started by auto mode
+        Collapse,  ///< a session ended
+        Milestone, ///< a round number of hours was reached
+    };
+
+    constexpr CeremonyShow(Kind k) : kind(k) {} // NOLINT: a kind without hours is a show
+    [[nodiscard]] static constexpr CeremonyShow milestone(std::int64_t hours) {
+        CeremonyShow show(Milestone);
+        show.hours = hours;
+        return show;
+    }
+    friend bool operator==(const CeremonyShow&, const CeremonyShow&) = default;
+
+    Kind kind;
+    std::int64_t hours = 0; ///< of a milestone
 };
 
 namespace collaborators {

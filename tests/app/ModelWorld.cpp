@@ -19,7 +19,7 @@ public:
         const QString shows[] = {QStringLiteral("full"), QStringLiteral("quick"),
                                  QStringLiteral("collapse")};
         m_told.calls << QStringLiteral("ripple %1 %2 %3")
-                            .arg(shows[static_cast<int>(show)], hex(rgb),
+                            .arg(shows[show.kind], hex(rgb),
                                  name.value_or(QStringLiteral("-")));
     }
 

@@ -1,0 +1,73 @@
+#include "ceremony/CeremonyPage.h"
+
+#include "ceremony/show/VantleCopy.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace vantle::ceremonypage {
+
+namespace {
+
+/// A session's end never plays on a page; it would be a full show there.
+QString modeName(CeremonyShow show) {
+    if (show.kind == CeremonyShow::Milestone) return QStringLiteral("milestone");
+    return show.kind == CeremonyShow::Quick ? QStringLiteral("quick") : QStringLiteral("full");
+}
+
+QString hexText(std::uint32_t rgb) {
+    return QStringLiteral("#%1").arg(rgb & 0xFFFFFFu, 6, 16, QLatin1Char('0')).toUpper();
+}
+
+/// JSON may hold characters that end a line or a script element where it stands in a script. Inside
+/// of texts, the only place for them, they can be written as escapes.
+QByteArray fitForScripts(const QByteArray& json) {
+    QByteArray ascii;
+    ascii.reserve(json.size());
+    const QString text = QString::fromUtf8(json);
+    for (const QChar unit : text) {
+        if (unit.unicode() < 0x80 && unit != QLatin1Char('<'))
+            ascii += unit.toLatin1();
+        else
+            ascii += QByteArrayLiteral("\\u") +
+                     QByteArray::number(unit.unicode(), 16).rightJustified(4, '0');
+    }
+    return ascii;
+}
+
+} // namespace
+
+QByteArray configuration(CeremonyShow show, CeremonyVariant variant, std::uint32_t hexRGB,
+                         const std::optional<QString>& skillName, bool blackout) {
+    const QString title = vantlecopy::ceremonyTitle(skillName.value_or(QString()));
+    if (!title.isValidUtf16()) return QByteArrayLiteral(R"({"title":"You are in Vantle"})");
+    const bool isMilestone = show.kind == CeremonyShow::Milestone;
+    const QJsonObject object{
+        {QStringLiteral("variant"), QString(ceremonyvariant::name(variant))},
+        {QStringLiteral("accent"), hexText(hexRGB)},
+        // Whoever wants less movement gets the fade, never a page.
+        {QStringLiteral("reduced"), false},
+        {QStringLiteral("mode"), modeName(show)},
+        {QStringLiteral("milestone"),
+         isMilestone ? static_cast<qint64>(std::max<std::int64_t>(show.hours, 1)) : qint64{0}},
+        {QStringLiteral("title"), title},
+        {QStringLiteral("blackout"), blackout},
+    };
+    return fitForScripts(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+QString script(const QByteArray& configuration) {
+    return QStringLiteral("window.__CEREMONY = ") + QString::fromUtf8(configuration) +
+           QLatin1Char(';');
+}
+
+Message messageOf(const QJsonValue& body) {
+    const QString type = body.toObject()[QLatin1String("type")].toString();
+    if (type == QLatin1String("started")) return Message::Started;
+    if (type == QLatin1String("done")) return Message::Done;
+    return Message::None;
+}
+
+} // namespace vantle::ceremonypage

@@ -1,0 +1,30 @@
+// Pages shown by the module with the web engine, as far as both are there.
+#pragma once
+
+#include "ceremony/OverlayStage.h"
+
+#include <functional>
+
+namespace vantle {
+
+class WebCeremonyModule;
+
+/// The module is loaded when there is a page to show, and not before: the engine takes a hundred
+/// megabytes, and gives nothing back. One that can't be loaded counts as missing for this run.
+class ModuleWebStage final : public WebStage {
+public:
+    /// `modulePath` is the module's file; `findPage` gives the page's, empty where there is none.
+    ModuleWebStage(QString modulePath, std::function<QString()> findPage);
+
+    [[nodiscard]] bool hasPage() override;
+    [[nodiscard]] std::unique_ptr<OverlayWindow> putUp(const QRect& frame, const QString& script,
+                                                       MessageHandler message) override;
+
+private:
+    const QString m_modulePath;
+    const std::function<QString()> m_findPage;
+    bool m_wasTried = false;
+    WebCeremonyModule* m_module = nullptr; ///< owned by the plugin system
+};
+
+} // namespace vantle

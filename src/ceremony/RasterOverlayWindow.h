@@ -1,0 +1,44 @@
+// One window over one screen.
+#pragma once
+
+#include "ceremony/OverlayView.h"
+
+#include <QRasterWindow>
+
+#include <memory>
+
+namespace vantle {
+
+class Clock;
+class PanelHost;
+
+/// Shows the present moment of a view whenever refresh() is called. Main thread.
+class RasterOverlayWindow final : public QRasterWindow {
+    Q_OBJECT
+
+public:
+    /// Not visible yet. `clock` and `host` must outlive this.
+    RasterOverlayWindow(QScreen& screen, std::unique_ptr<OverlayView> view, const Clock& clock,
+                        PanelHost& host);
+    ~RasterOverlayWindow() override;
+
+    /// Shows the next frame, or hides the window when its view is over.
+    void refresh();
+
+    /// The view is over, or the screen is gone: nothing shows any more.
+    [[nodiscard]] bool isOver() const { return m_view == nullptr; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] Seconds elapsed() const;
+    [[nodiscard]] bool takeShape();
+    void end();
+
+    std::unique_ptr<OverlayView> m_view; ///< null from its end on, so that its memory is free
+    const Clock& m_clock;
+    PanelHost& m_host;
+};
+
+} // namespace vantle

@@ -1,0 +1,99 @@
+// Overlay windows and pages that exist in the test alone.
+#pragma once
+
+#include "ceremony/CeremonyLayerView.h"
+#include "ceremony/CollapseRippleView.h"
+#include "ceremony/OverlayStage.h"
+#include "ceremony/ReducedMotionFadeView.h"
+#include "ceremony/show/CeremonyFrameRenderer.h"
+
+#include <QList>
+
+#include <algorithm>
+#include <optional>
+
+namespace vantle::tests {
+
+/// What a window that is up shows, and where.
+struct ShownWindow {
+    enum class Kind { Fade, Collapse, Native, Web };
+    Kind kind = Kind::Web;
+    QRect frame;
+    std::optional<CeremonyVariant> variant; ///< of a native show
+    QString script;                         ///< of a page
+    Date start{};                           ///< of a view
+};
+
+/// Windows in the order in which they were put up, as long as somebody keeps them.
+class ShownWindows {
+public:
+    std::unique_ptr<OverlayWindow> add(ShownWindow window) {
+        return std::make_unique<Place>(*this, std::move(window));
+    }
+    [[nodiscard]] QList<ShownWindow> all() const {
+        QList<ShownWindow> windows;
+        for (const Place* place : m_places)
+            windows << place->window;
+        return windows;
+    }
+    [[nodiscard]] qsizetype count() const { return m_places.size(); }
+
+private:
+    struct Place final : OverlayWindow {
+        Place(ShownWindows& owner, ShownWindow shown) : window(std::move(shown)), places(owner) {
+            places.m_places << this;
+        }
+        ~Place() override { places.m_places.removeOne(this); }
+        ShownWindow window;
+        ShownWindows& places;
+    };
+    QList<Place*> m_places;
+};
+
+class FakeStage final : public OverlayStage {
+public:
+    explicit FakeStage(ShownWindows& windows) : m_windows(windows) {}
+
+    std::unique_ptr<OverlayWindow> putUp(const QRect& frame,
+                                         std::unique_ptr<OverlayView> view) override {
+        ShownWindow window;
+        window.frame = frame;
+        window.start = view->start();
+        if (const auto* show = dynamic_cast<const CeremonyLayerView*>(view.get())) {
+            window.kind = ShownWindow::Kind::Native;
+            window.variant = show->renderer().model().variant;
+        } else if (dynamic_cast<const CollapseRippleView*>(view.get())) {
+            window.kind = ShownWindow::Kind::Collapse;
+        } else if (dynamic_cast<const ReducedMotionFadeView*>(view.get())) {
+            window.kind = ShownWindow::Kind::Fade;
+        }
+        return m_windows.add(std::move(window));
+    }
+
+private:
+    ShownWindows& m_windows;
+};
+
+/// Keeps the handlers of pages that are gone: their messages may still be on the way.
+class FakeWebStage final : public WebStage {
+public:
+    explicit FakeWebStage(ShownWindows& windows) : m_windows(windows) {}
+
+    [[nodiscard]] bool hasPage() override { return pageExists; }
+    std::unique_ptr<OverlayWindow> putUp(const QRect& frame, const QString& script,
+                                         MessageHandler message) override {
+        pages << std::move(message);
+        ShownWindow window;
+        window.frame = frame;
+        window.script = script;
+        return m_windows.add(std::move(window));
+    }
+
+    bool pageExists = false;
+    QList<MessageHandler> pages; ///< of all shows so far
+
+private:
+    ShownWindows& m_windows;
+};
+
+} // namespace vantle::tests
