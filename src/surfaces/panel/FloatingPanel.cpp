@@ -71,10 +71,11 @@ void FloatingPanel::setOpaqueRegion(const QRegion& region) {
 }
 
 bool FloatingPanel::pointerInside() const {
-    if (!isVisible()) return false;
-    const QPoint place = mapFromGlobal(QCursor::pos());
-    return m_hasInputRegion ? m_inputRegion.contains(place)
-                            : QRect(QPoint(), size()).contains(place);
+    return pointerInside(m_hasInputRegion ? m_inputRegion : QRegion(QRect(QPoint(), size())));
+}
+
+bool FloatingPanel::pointerInside(const QRegion& part) const {
+    return isVisible() && part.contains(mapFromGlobal(QCursor::pos()));
 }
 
 void FloatingPanel::takeKeyboard() {

@@ -44,6 +44,9 @@ public:
 
     /// Whether the pointer is where the panel feels it. Asks the desktop.
     [[nodiscard]] bool pointerInside() const;
+    /// Whether it is in that part, in px from the panel's top left, felt or not. False while the
+    /// panel is hidden.
+    [[nodiscard]] bool pointerInside(const QRegion& part) const;
 
     void takeKeyboard();
     /// Gives the keyboard back to who had it. Hiding the panel does that as well.

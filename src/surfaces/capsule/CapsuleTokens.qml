@@ -1,0 +1,36 @@
+// Lengths that are the capsule's own, in px, beside the tokens of the kit.
+pragma Singleton
+import QtQuick
+import Vantle.Kit
+
+QtObject {
+    readonly property real inset: 18 // of everything, from the left and the right
+    readonly property real rowHeight: 58
+    readonly property real dotTop: 15
+    readonly property real skillLineLeft: 33
+    readonly property real skillLineTop: 12
+    readonly property real clockTop: 25
+    readonly property real roundChip: 26
+    readonly property real roundChipTop: 16
+    readonly property real stopGlyph: 9
+    readonly property real playGlyph: 13 // on the icons' grid; the triangle itself is 8 wide
+    readonly property real glow: 10 // how far the ring's glow reaches
+    readonly property real glowOpacity: 0.55
+    readonly property real ringOpacity: 0.6
+    readonly property color roundChipFill: DarkUI.fillHover
+    readonly property color glyph: Qt.rgba(1, 1, 1, 0.92)
+    readonly property real pausedDot: 0.4 // opacity
+
+    readonly property real chipsTop: 60
+    readonly property real lineBelowChips: 12 // from the chips to the line above the add row
+    readonly property real addRowHeight: 44
+    readonly property real addSquare: 22
+    readonly property color addSquareFill: DarkUI.quietHover
+    readonly property color addName: Qt.rgba(1, 1, 1, 0.72)
+
+    readonly property int dotDelay: 400 // ms before the dot begins to breathe
+    readonly property int fadeTime: 280 // ms, of a capsule that goes
+
+    readonly property real overlayMargin: 8 // from the sides of the window
+    readonly property real popoverGap: 2 // between what it belongs to and its arrow
+}

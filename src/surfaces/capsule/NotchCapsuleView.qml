@@ -1,0 +1,92 @@
+// The capsule: the black shape that grows out of the top edge, and what hangs below it for editing.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Capsule
+import Vantle.Kit
+
+Item {
+    id: view
+
+    required property NotchCapsule capsule
+    property bool composited: true // else corners can't be round, and nothing may be see-through
+
+    readonly property real radius: composited ? capsule.bottomRadius : 0
+
+    opacity: capsule.leaving ? 0 : 1
+
+    Behavior on opacity {
+        NumberAnimation {
+            duration: Motion.time(CapsuleTokens.fadeTime)
+            easing.type: Easing.OutCubic
+        }
+    }
+
+    CapsuleMorph {
+        id: morph
+        target: view.capsule.frame
+        opening: view.capsule.expanded
+        still: !view.composited
+    }
+
+    // The part that feels the pointer. Menu and editor are not in it.
+    Item {
+        x: view.capsule.hoverRect.x
+        y: view.capsule.hoverRect.y
+        width: view.capsule.hoverRect.width
+        height: view.capsule.hoverRect.height
+
+        HoverHandler {
+            onHoveredChanged: view.capsule.setHovered(hovered)
+        }
+    }
+
+    DarkShadow {
+        x: morph.x
+        y: morph.y
+        width: morph.width
+        height: morph.height
+        visible: body.visible && view.composited && (view.capsule.expanded || morph.running)
+        level: DarkUI.shadowCapsule
+        radius: view.radius
+    }
+
+    Item {
+        id: body
+        x: morph.x
+        y: morph.y
+        width: morph.width
+        height: morph.height
+        visible: view.capsule.hasNotch || view.capsule.expanded || morph.running
+        clip: true
+
+        // A line of light along the inside of the bottom.
+        Rectangle {
+            y: -view.radius
+            width: parent.width
+            height: parent.height + view.radius
+            radius: view.radius
+            color: Qt.tint(DarkUI.capsule, DarkUI.capsuleEdge)
+
+            Rectangle {
+                width: parent.width
+                height: parent.height - DarkUI.hairlineWidth
+                radius: view.radius
+                color: DarkUI.capsule
+            }
+        }
+
+        CapsuleContent {
+            x: (body.width - width) / 2
+            y: view.capsule.notchHeight
+            width: view.capsule.openFrame.width
+            height: view.capsule.rowViewHeight
+            capsule: view.capsule
+        }
+    }
+
+    CapsuleOverlay {
+        anchors.fill: parent
+        capsule: view.capsule
+        composited: view.composited
+    }
+}
