@@ -11,7 +11,9 @@
 #include <unicode/utf16.h>
 
 #include <algorithm>
+#include <array>
 #include <memory>
+#include <string_view>
 
 namespace vantle::text {
 
@@ -36,9 +38,11 @@ icu::BreakIterator& characterIterator() {
     return *iterator;
 }
 
+constexpr char32_t kAsciiEnd = 0x80;
+
 bool isWhiteSpace(char32_t scalar) {
-    // Most text is ASCII, and a blank the only white space in it.
-    if (scalar > U' ' && scalar < U'\x7F') return false;
+    // Most text is ASCII, so that is settled without the tables.
+    if (scalar < kAsciiEnd) return scalar == U' ' || (scalar >= U'\t' && scalar <= U'\r');
     return u_isUWhiteSpace(static_cast<UChar32>(scalar));
 }
 
@@ -46,12 +50,34 @@ constexpr uint32_t kLetters = U_GC_L_MASK;
 constexpr uint32_t kLettersAndNumbers = U_GC_L_MASK | U_GC_N_MASK;
 constexpr uint32_t kWordCategories = U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK;
 
-bool isInWord(char32_t scalar) {
-    if (scalar < 0x80) {
-        const char32_t lower = scalar | 0x20;
-        return (lower >= U'a' && lower <= U'z') || (scalar >= U'0' && scalar <= U'9');
+constexpr std::array<bool, kAsciiEnd> kIsInAsciiWord = [] {
+    std::array<bool, kAsciiEnd> isIn{};
+    for (const std::string_view units :
+         {"0123456789", "ABCDEFGHIJKLMNOPQRSTUVWXYZ", "abcdefghijklmnopqrstuvwxyz"})
+        for (const char unit : units)
+            isIn[static_cast<std::size_t>(unit)] = true;
+    return isIn;
+}();
+
+/// For what is beyond ASCII.
+bool isInWord(UChar32 scalar) { return (U_GET_GC_MASK(scalar) & kWordCategories) != 0; }
+
+/// The first place at or after `at` where a scalar is in a word, or is not; else the end.
+qsizetype nextPlace(QStringView text, qsizetype at, bool inWord) {
+    const char16_t* const units = text.utf16();
+    const qsizetype length = text.size();
+    while (at < length) {
+        if (units[at] < kAsciiEnd) {
+            if (kIsInAsciiWord[units[at]] == inWord) return at;
+            ++at;
+            continue;
+        }
+        const qsizetype before = at;
+        UChar32 scalar = 0;
+        U16_NEXT(units, at, length, scalar);
+        if (isInWord(scalar) == inWord) return before;
     }
-    return (U_GET_GC_MASK(static_cast<UChar32>(scalar)) & kWordCategories) != 0;
+    return length;
 }
 
 UChar32 firstScalar(QStringView character) {
@@ -206,23 +232,11 @@ bool isNumeric(QStringView character) {
 }
 
 QStringView takeWord(QStringView& rest) {
-    const char16_t* const units = rest.utf16();
-    const qsizetype length = rest.size();
-    qsizetype begin = -1;
-    qsizetype at = 0;
-    while (at < length) {
-        const qsizetype before = at;
-        UChar32 scalar = 0;
-        U16_NEXT(units, at, length, scalar);
-        if (isInWord(static_cast<char32_t>(scalar))) {
-            if (begin < 0) begin = before;
-        } else if (begin >= 0) {
-            rest = rest.sliced(at);
-            return {units + begin, before - begin};
-        }
-    }
-    rest = rest.last(0);
-    return begin < 0 ? QStringView() : QStringView(units + begin, length - begin);
+    const qsizetype begin = nextPlace(rest, 0, true);
+    const qsizetype end = nextPlace(rest, begin, false);
+    const QStringView word = rest.sliced(begin, end - begin);
+    rest = rest.sliced(end);
+    return word;
 }
 
 bool codePointLess(QStringView left, QStringView right) {

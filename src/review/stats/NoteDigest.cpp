@@ -35,6 +35,7 @@ bool isNewer(const Note& left, const Note& right) {
 
 std::vector<Note> notesNewestFirst(SessionRefs sessions) {
     std::vector<Note> notes;
+    notes.reserve(sessions.size());
     // A log has the oldest first, so from its back hardly anything is left to sort.
     for (auto at = sessions.rbegin(); at != sessions.rend(); ++at) {
         QString text = text::withSingleBlanks((*at)->note);
@@ -72,19 +73,19 @@ QString enumerated(const QStringList& words) {
 
 std::optional<WrappedNoteDigest> WrappedNoteDigest::compute(SessionRefs sessions,
                                                             const std::vector<Skill>& skills) {
-    const std::vector<Note> notes = notesNewestFirst(sessions);
+    std::vector<Note> notes = notesNewestFirst(sessions);
     if (notes.empty()) return std::nullopt;
 
     WrappedNoteDigest digest;
     digest.noteCount = static_cast<int>(notes.size());
-    digest.allNotes.reserve(digest.noteCount);
     NoteThemes themes;
-    for (const Note& note : notes) {
+    for (const Note& note : notes)
         themes.addNote(note.text);
-        digest.allNotes += note.text;
-    }
     digest.themes = themes.mostFrequent(kMostThemes);
     digest.highlights = highlightsOf(notes, skills);
+    digest.allNotes.reserve(digest.noteCount);
+    for (Note& note : notes)
+        digest.allNotes += std::move(note.text);
     return digest;
 }
 

@@ -28,13 +28,23 @@ bool isStopWord(QStringView key) {
     return words.contains(key);
 }
 
-bool isAscii(QStringView text) {
-    return std::ranges::all_of(text, [](QChar unit) { return unit.unicode() < 0x80; });
+std::u16string_view unitsOf(QStringView text) {
+    return {text.utf16(), static_cast<std::size_t>(text.size())};
 }
 
 char16_t asciiLower(char16_t unit) {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit | 0x20) : unit;
 }
+
+/// FNV-1a over units.
+class Hash {
+public:
+    void add(char16_t unit) { m_value = (m_value ^ unit) * 0x100000001B3u; }
+    [[nodiscard]] std::size_t value() const { return m_value; }
+
+private:
+    std::size_t m_value = 0xCBF29CE484222325u;
+};
 
 template <typename Holds>
 bool allCharacters(const QString& text, Holds holds) {
@@ -64,30 +74,41 @@ void NoteThemes::addNote(QStringView note) {
 void NoteThemes::addWord(QStringView piece) {
     // A character has at least one unit, so this settles the shortest without a look.
     if (piece.size() < kFewestCharacters) return;
-    Word& word = entryFor(lowerCased(piece), piece);
+    Word& word = entryFor(keyOf(piece), piece);
     if (word.lastNote == m_note) return;
     word.lastNote = m_note;
     ++word.noteCount;
 }
 
-QStringView NoteThemes::lowerCased(QStringView piece) {
-    if (!isAscii(piece)) return m_key = text::lowerCased(piece.toString());
-    m_key.resize(piece.size());
-    std::ranges::transform(piece, m_key.begin(),
-                           [](QChar unit) { return QChar(asciiLower(unit.unicode())); });
-    return m_key;
+NoteThemes::Key NoteThemes::keyOf(QStringView piece) {
+    const std::u16string_view units = unitsOf(piece);
+    m_key.resize(units.size());
+    Hash hash;
+    char16_t allBits = 0;
+    for (std::size_t i = 0; i < units.size(); ++i) {
+        m_key[i] = asciiLower(units[i]);
+        allBits |= units[i];
+        hash.add(m_key[i]);
+    }
+    if (allBits < 0x80) return {m_key, hash.value()};
+
+    m_key = text::lowerCased(piece.toString()).toStdU16String();
+    hash = {};
+    for (const char16_t unit : m_key)
+        hash.add(unit);
+    return {m_key, hash.value()};
 }
 
-NoteThemes::Word& NoteThemes::entryFor(QStringView key, QStringView piece) {
+NoteThemes::Word& NoteThemes::entryFor(const Key& key, QStringView piece) {
     if (Word* const known = m_index.value(key)) return *known;
     Word& word = m_words.emplace_back();
-    word.key = key.toString();
+    word.key = QString::fromStdU16String(m_key);
     word.firstNote = m_note;
     if (countsAsTheme(word.key)) {
         const QString written = piece.toString();
         word.display = isAcronym(written) ? written : word.key;
     }
-    m_index.insert(word.key, &word);
+    m_index.insert({unitsOf(word.key), key.hash}, &word);
     return word;
 }
 
