@@ -22,8 +22,15 @@ KitPressable {
         text: link.text
         role: link.role
         color: link.onTint ? DarkUI.accentTextOnTint : DarkUI.accentText
-        font.underline: link.hovered || link.pressed
         Accessible.ignored: true
+
+        Rectangle {
+            y: label.baselineOffset + DarkUI.space2
+            visible: link.hovered || link.pressed
+            width: label.width
+            height: DarkUI.hairlineWidth
+            color: label.color
+        }
     }
 
     FocusRing {

@@ -12,22 +12,25 @@ Item {
     property real minimumWidth: 0
     property Item anchorItem: null
     property Item focusBefore: null
-    readonly property Item area: Window.contentItem
     property alias panel: panel
     default property alias rows: panel.rows
 
     function openAt(item: Item, row: int): void {
         anchorItem = item;
+        // Not bound: a window that is being destroyed must not be reached into.
+        overlay.parent = Window.contentItem;
         focusBefore = Window.activeFocusItem;
-        place(item.mapToItem(area, 0, 0), item.height);
+        place();
         opened = true;
         panel.forceActiveFocus(Qt.PopupFocusReason);
         if (row >= 0)
             panel.focusRow(row);
     }
-    function place(corner: point, height: real): void {
+    function place(): void {
         const gap = DarkUI.space4;
-        const below = corner.y + height + gap;
+        const area = overlay;
+        const corner = anchorItem.mapToItem(area, 0, 0);
+        const below = corner.y + anchorItem.height + gap;
         const fits = below + panel.height + gap <= area.height;
         panel.x = Math.max(gap, Math.min(corner.x, area.width - panel.width - gap));
         panel.y = fits ? below : Math.max(gap, corner.y - panel.height - gap);
@@ -41,10 +44,19 @@ Item {
     }
 
     Item {
-        parent: menu.area
+        id: overlay
+
+        function follow(): void {
+            if (menu.opened)
+                menu.place();
+        }
+
+        parent: null
         anchors.fill: parent
         z: 1000 // above all that a window has
         visible: menu.opened
+        onWidthChanged: follow()
+        onHeightChanged: follow()
 
         MouseArea {
             anchors.fill: parent

@@ -10,6 +10,8 @@ KitPressable {
     required property list<string> options
     property int currentIndex: -1
     property string placeholder // shown while nothing is chosen
+    property TypeRole role: DarkUI.captionMedium
+    property real textLeft: DarkUI.space10 // a larger one leaves room for a sign
     property alias opened: menu.opened
     readonly property string currentText: options[currentIndex] ?? placeholder
     signal activated(int index)
@@ -18,7 +20,7 @@ KitPressable {
         menu.openAt(picker, Math.max(currentIndex, 0));
     }
 
-    implicitWidth: DarkUI.space10 + label.implicitWidth + DarkUI.space8 + chevron.width
+    implicitWidth: textLeft + label.implicitWidth + DarkUI.space8 + chevron.width
                    + DarkUI.space8
     implicitHeight: DarkUI.menuHeight
     name: title
@@ -49,12 +51,12 @@ KitPressable {
     DarkText {
         id: label
         anchors.left: parent.left
-        anchors.leftMargin: DarkUI.space10
+        anchors.leftMargin: picker.textLeft
         anchors.right: chevron.left
         anchors.rightMargin: DarkUI.space8
         anchors.verticalCenter: parent.verticalCenter
         text: picker.currentText
-        role: DarkUI.captionMedium
+        role: picker.role
         color: picker.enabled ? DarkUI.t1 : DarkUI.t4
         elide: Text.ElideRight
         Accessible.ignored: true

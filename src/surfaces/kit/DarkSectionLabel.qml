@@ -3,5 +3,5 @@ import QtQuick
 import Vantle.Kit
 
 DarkKicker {
-    font.capitalization: Font.AllUppercase
+    role: DarkUI.sectionLabel
 }

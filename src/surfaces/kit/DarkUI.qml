@@ -130,6 +130,9 @@ QtObject {
     readonly property TypeRole kicker: TypeRole {
         size: 11; line: 14; weight: Font.DemiBold; tracking: 0.080
     }
+    readonly property TypeRole sectionLabel: TypeRole {
+        size: 11; line: 14; weight: Font.DemiBold; tracking: 0.080; capitals: true
+    }
     readonly property TypeRole capsuleSkill: TypeRole { size: 10; line: 13; tracking: 0.09 }
     readonly property real heroUnitScale: 0.36 // of a hero figure's size
 
@@ -254,6 +257,7 @@ QtObject {
 
     // With reduced motion all times are 0 but those of plain fades, which say so.
     readonly property int hoverTime: Motion.time(120)
+    readonly property int helpDelay: 600 // until a resting pointer is told what a control does
     readonly property int pressTime: Motion.time(80)
     readonly property int switchTime: Motion.time(160)
     readonly property int segmentTime: Motion.time(180)

@@ -8,6 +8,7 @@ KitControl {
     id: pressable
 
     property string name // what is read out
+    property string help // what it does, shown to a pointer that rests on it; empty for nothing
     property bool hovered: hover.hovered && enabled
     property bool pressed: tap.pressed || spaceHeld
     property bool ringed: keyboardFocus
@@ -18,6 +19,7 @@ KitControl {
 
     Accessible.role: Accessible.Button
     Accessible.name: name
+    Accessible.description: help
     Accessible.focusable: true
     Accessible.pressed: pressed
     Accessible.onPressAction: if (pressable.enabled) pressable.clicked()
@@ -50,5 +52,14 @@ KitControl {
         gesturePolicy: TapHandler.ReleaseWithinBounds
         onPressedChanged: if (pressed) pressable.forgetKeyboard()
         onTapped: pressable.clicked()
+    }
+
+    Loader {
+        active: pressable.help !== ""
+        sourceComponent: HoverHelp {
+            control: pressable
+            text: pressable.help
+            pointed: pressable.hovered && !pressable.pressed
+        }
     }
 }

@@ -1,5 +1,6 @@
 #include "surfaces/kit/TabularLine.h"
 
+#include <QImage>
 #include <QPainter>
 
 #include <cmath>
@@ -40,11 +41,27 @@ QMarginsF TabularLine::bleed() const {
 }
 
 void TabularLine::paint(QPainter& painter, double scale) {
-    painter.setPen(m_color);
+    // Qt draws text on an opaque ground heavier than on a clear one. So it is drawn in white on
+    // black, and the light is taken for its shape: it then looks like the text beside it.
+    const QRectF area = boundingRect().marginsAdded(bleed());
+    QImage light((area.size() * scale).toSize() + QSize(1, 1), QImage::Format_RGB32);
+    light.fill(Qt::black);
+    QPainter text(&light);
+    text.setRenderHint(QPainter::Antialiasing);
+    text.scale(scale, scale);
+    text.translate(-area.topLeft());
+    text.setPen(Qt::white);
     const double leading = (height() - m_line.ascent - m_line.descent) / 2;
     const double baseline = std::round((std::round(leading) + m_line.ascent) * scale) / scale;
     for (const QGlyphRun& run : m_line.runs)
-        painter.drawGlyphRun({0.0, baseline}, run);
+        text.drawGlyphRun({0.0, baseline}, run);
+    text.end();
+
+    QImage shape(light.size(), QImage::Format_ARGB32_Premultiplied);
+    shape.fill(m_color);
+    shape.setAlphaChannel(light.convertToFormat(QImage::Format_Grayscale8));
+    shape.setDevicePixelRatio(scale);
+    painter.drawImage(area.topLeft(), shape);
 }
 
 } // namespace vantle

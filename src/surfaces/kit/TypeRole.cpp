@@ -14,6 +14,7 @@ QFont TypeRole::font() const {
     font.setPixelSize(m_size);
     font.setWeight(static_cast<QFont::Weight>(m_weight));
     font.setLetterSpacing(QFont::AbsoluteSpacing, m_size * (m_tracking + face.tracking));
+    if (m_capitals) font.setCapitalization(QFont::AllUppercase);
     font.setHintingPreference(QFont::PreferVerticalHinting);
     return font;
 }

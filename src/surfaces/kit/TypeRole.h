@@ -18,6 +18,8 @@ class TypeRole : public QObject {
     Q_PROPERTY(int weight MEMBER m_weight NOTIFY changed)
     /// em
     Q_PROPERTY(double tracking MEMBER m_tracking NOTIFY changed)
+    /// Small letters are set as capitals.
+    Q_PROPERTY(bool capitals MEMBER m_capitals NOTIFY changed)
     Q_PROPERTY(QFont font READ font NOTIFY changed)
     /// Half of what a line has beyond the font's own height, px: what stands above the letters and
     /// below them. Negative for lines that are set close.
@@ -44,6 +46,7 @@ private:
     int m_line = 20;
     int m_weight = QFont::Normal;
     double m_tracking = 0.0;
+    bool m_capitals = false;
 };
 
 /// Titles and figures from 15 px upwards, in semibold. (The checker of the views finds a base class

@@ -1,0 +1,73 @@
+// The gallery: every surface in every state, with made-up data.
+//
+//     vantle_gallery <folder> [scene...]     writes pictures, of all scenes when none is named
+//     vantle_gallery --show <scene>          opens one to be played with
+//     vantle_gallery --list
+//
+// Pictures are drawn at the scale that QT_SCALE_FACTOR says; above 1 only the scenes that ask for
+// it, into files named …@2x.png.
+#include "gallery/Scenes.h"
+#include "gallery/Stage.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+#include <cstdio>
+
+namespace vantle {
+namespace {
+
+int fail(const QString& what) {
+    std::fprintf(stderr, "%s\n", qUtf8Printable(what));
+    return 1;
+}
+
+int list() {
+    for (const Scene& scene : allScenes())
+        std::printf("%s\n", qUtf8Printable(scene.name));
+    return 0;
+}
+
+int play(const QString& name) {
+    for (const Scene& scene : allScenes()) {
+        if (scene.name != name) continue;
+        Stage stage(scene, false);
+        if (!stage.error().isEmpty()) return fail(stage.error());
+        return QCoreApplication::exec();
+    }
+    return fail(QStringLiteral("No scene is called %1").arg(name));
+}
+
+int draw(const QDir& folder, const QStringList& wanted) {
+    int drawn = 0;
+    for (const Scene& scene : allScenes()) {
+        if (!wanted.isEmpty() && !wanted.contains(scene.name)) continue;
+        ++drawn;
+        Stage stage(scene, true);
+        if (!stage.error().isEmpty()) return fail(stage.error());
+        const double scale = stage.window().effectiveDevicePixelRatio();
+        if (scale > 1.0 && !scene.twice) continue;
+        const QString ending = scale > 1.0 ? QStringLiteral("@2x.png") : QStringLiteral(".png");
+        const QString path = folder.filePath(scene.name + ending);
+        constexpr int kSmallest = 0; // the slowest compression
+        if (!stage.picture().save(path, "PNG", kSmallest))
+            return fail(QStringLiteral("Can't write %1").arg(path));
+    }
+    if (!wanted.isEmpty() && drawn < wanted.size())
+        return fail(QStringLiteral("Not all of these are scenes; see --list"));
+    return 0;
+}
+
+} // namespace
+} // namespace vantle
+
+int main(int argc, char** argv) {
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QGuiApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    if (arguments.isEmpty() || arguments.first() == QLatin1String("--list")) return vantle::list();
+    if (arguments.first() == QLatin1String("--show")) return vantle::play(arguments.value(1));
+    return vantle::draw(QDir(arguments.first()), arguments.mid(1));
+}

@@ -1,0 +1,8 @@
+// A word below a sample.
+import QtQuick
+import Vantle.Kit
+
+DarkText {
+    role: DarkUI.small
+    color: DarkUI.t3
+}

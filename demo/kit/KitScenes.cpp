@@ -1,0 +1,31 @@
+#include "gallery/Scenes.h"
+
+#include <QMetaObject>
+#include <QQuickItem>
+
+namespace vantle {
+namespace {
+
+Scene scene(const QString& name, const QString& view, bool twice = false) {
+    Scene made;
+    made.name = name;
+    made.view = QUrl(QStringLiteral("qrc:/qt/qml/Vantle/DemoKit/%1.qml").arg(view));
+    made.twice = twice;
+    return made;
+}
+
+} // namespace
+
+QList<Scene> kitScenes() {
+    Scene scroll = scene(QStringLiteral("kit-scroll"), QStringLiteral("ScrollScene"));
+    scroll.arrange = [](QQuickItem& view) { QMetaObject::invokeMethod(&view, "openMenu"); };
+    return {scene(QStringLiteral("kit-controls"), QStringLiteral("ControlsScene"), true),
+            scene(QStringLiteral("kit-chips"), QStringLiteral("ChipsScene")),
+            scroll,
+            scene(QStringLiteral("kit-type"), QStringLiteral("TypeScene")),
+            scene(QStringLiteral("kit-icons"), QStringLiteral("IconsScene")),
+            scene(QStringLiteral("kit-dots"), QStringLiteral("DotsScene"), true),
+            scene(QStringLiteral("kit-wall"), QStringLiteral("WallScene"))};
+}
+
+} // namespace vantle

@@ -1,0 +1,23 @@
+// A control with a word below it.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Column {
+    id: sample
+
+    required property string caption
+
+    spacing: DarkUI.space10
+
+    // The caption comes last, whatever was put in.
+    Component.onCompleted: {
+        word.parent = null;
+        word.parent = sample;
+    }
+
+    Caption {
+        id: word
+        text: sample.caption
+    }
+}
