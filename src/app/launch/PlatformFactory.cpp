@@ -9,6 +9,7 @@
 #include "platform/desktop/DesktopTrayItem.h"
 #include "platform/desktop/FileManager.h"
 #include "platform/desktop/SettingsPreferences.h"
+#include "platform/localmodel/SocketLanguageModel.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/PosixProcessRunner.h"
 #include "platform/posix/TerminationSignals.h"
@@ -64,6 +65,8 @@ public:
                       configHome() + QStringLiteral("/autostart/local.vantle.Vantle.desktop"),
                       QCoreApplication::applicationFilePath())
         , m_trayItem(m_session)
+        , m_languageModel(m_files, configHome() + QStringLiteral("/Vantle/language-model.conf"),
+                          scheduler)
         , m_service(m_session)
         , m_signals([this](int) { m_events.endRequested(); }) {
         QObject::connect(&m_x11, &X11Connection::broken, &m_x11,
@@ -84,6 +87,7 @@ public:
     [[nodiscard]] ReducedMotion& reducedMotion() override { return m_reducedMotion; }
     [[nodiscard]] Autostart& autostart() override { return m_autostart; }
     [[nodiscard]] TrayItem& trayItem() override { return m_trayItem; }
+    [[nodiscard]] LanguageModel& languageModel() override { return m_languageModel; }
     [[nodiscard]] QString dataHome() const override {
         return xdgDirectory("XDG_DATA_HOME", QStringLiteral("/.local/share"));
     }
@@ -111,6 +115,7 @@ private:
     DesktopReducedMotion m_reducedMotion;
     DesktopAutostart m_autostart;
     DesktopTrayItem m_trayItem;
+    SocketLanguageModel m_languageModel;
     ApplicationService m_service;
     TerminationSignals m_signals;
 };

@@ -7,6 +7,7 @@
 #include "platform/FrontmostApp.h"
 #include "platform/HotKeyPort.h"
 #include "platform/IdleSource.h"
+#include "platform/LanguageModel.h"
 #include "platform/Preferences.h"
 #include "platform/ProcessRunner.h"
 #include "platform/ReducedMotion.h"
@@ -43,6 +44,7 @@ public:
     [[nodiscard]] virtual ReducedMotion& reducedMotion() = 0;
     [[nodiscard]] virtual Autostart& autostart() = 0;
     [[nodiscard]] virtual TrayItem& trayItem() = 0;
+    [[nodiscard]] virtual LanguageModel& languageModel() = 0;
 
     /// The directory under which the support directory lies.
     [[nodiscard]] virtual QString dataHome() const = 0;
