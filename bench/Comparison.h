@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,33 @@ double secondsFor(Work& work) {
     const auto begin = std::chrono::steady_clock::now();
     work();
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+}
+
+/// Time of this thread's on a processor: for work that waits for nothing, whatever else runs.
+template <typename Work>
+double processorSecondsFor(Work& work) {
+    const auto now = [] {
+        timespec time{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
+    };
+    const double begin = now();
+    work();
+    return now() - begin;
+}
+
+/// As `compare`, for computations on one thread: processor time, which other programs' turns take
+/// no part in.
+template <typename Ours, typename Bound>
+void compareComputing(benchmark::State& state, const Goal& goal, Ours ours, Bound bound) {
+    std::vector<double> oursTook;
+    std::vector<double> boundTook;
+    for (auto _ : state) {
+        oursTook.push_back(processorSecondsFor(ours));
+        boundTook.push_back(processorSecondsFor(bound));
+        state.SetIterationTime(oursTook.back());
+    }
+    report(state, medianOf(oursTook) / goal.items, medianOf(boundTook) / goal.items, goal);
 }
 
 /// Runs ours and the bound in turn, so that a slow moment of the machine meets both, and reports

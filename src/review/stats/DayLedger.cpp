@@ -4,6 +4,11 @@
 
 namespace vantle {
 
+void DayLedger::reserve(std::size_t records) {
+    m_entries.reserve(records);
+    m_shares.reserve(records);
+}
+
 void DayLedger::close() {
     writeDown();
     // Strictly: a day that was left and came back has two entries.
@@ -34,7 +39,8 @@ void DayLedger::writeDown() {
     std::int64_t seconds = 0;
     for (const Share& share : m_openShares)
         seconds += share.seconds;
-    m_entries.push_back({m_openDay, seconds, m_shares.size(), m_openShares.size()});
+    m_entries.push_back({m_openDay, seconds, static_cast<std::uint32_t>(m_shares.size()),
+                         static_cast<std::uint32_t>(m_openShares.size())});
     m_shares.insert(m_shares.end(), m_openShares.begin(), m_openShares.end());
     m_openShares.clear();
 }

@@ -14,6 +14,10 @@ namespace vantle {
 /// has them; any order gives the same ledger.
 class DayLedger {
 public:
+    /// Makes room for so many records, which saves copying what is written as it grows. Room that
+    /// is never written costs nothing.
+    void reserve(std::size_t records);
+
     /// Skills are numbers from 0 (SkillNumbers). A day of 0 seconds is a day, too.
     void add(localtime::Day day, std::size_t skill, std::int64_t seconds) {
         if (day != m_openDay || m_openShares.empty())
@@ -31,8 +35,8 @@ public:
     struct Entry {
         localtime::Day day = 0;
         std::int64_t seconds = 0;
-        std::size_t firstShare = 0;
-        std::size_t shareCount = 0;
+        std::uint32_t firstShare = 0;
+        std::uint32_t shareCount = 0;
     };
 
     /// Call once, after the last record and before reading.

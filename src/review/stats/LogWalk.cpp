@@ -11,6 +11,8 @@ LogWalk::LogWalk(const std::vector<Session>& sessions, const Plan& plan, LocalTi
     totals::BadgeTally badgeTally;
     // Most reviews are about the end of the log; one comparison tells that a record lies before.
     const Date first = std::min({plan.period.start, plan.thisWeek.start, plan.earlierWeek.start});
+    days.reserve(sessions.size());
+    period.reserve(sessions.size());
     for (const Session& session : sessions) {
         const bool counts = TrackerCore::countsInTotals(session, plan.now);
         if (session.endedAt >= first) {

@@ -28,7 +28,9 @@ public:
     [[nodiscard]] std::array<int, 24> perHour() const;
 
 private:
-    std::array<int, 24 * 60> m_perMinute{};
+    static constexpr std::size_t kMinutesPerDay = 1440;
+
+    std::array<int, kMinutesPerDay> m_perMinute{};
     int m_total = 0;
 };
 
