@@ -28,9 +28,9 @@ inline constexpr int kLeastStrength = 2;
     return strength > 254 ? 255 : strength;
 }
 
+/// Products of 16 bits, so that eight of them go into a vector register.
 [[nodiscard]] inline std::uint8_t blended(std::uint8_t picture, std::uint8_t source,
                                           std::uint16_t strength) {
-    // Products of 16 bits, so that eight of them go into a vector register.
     const auto kept = static_cast<std::uint16_t>((256 - strength) * picture);
     const auto added = static_cast<std::uint16_t>((strength + 1) * source);
     return static_cast<std::uint8_t>((kept >> 8) + (added >> 8));

@@ -26,9 +26,9 @@ public:
 private:
     void prepareRows();
     void stampRows(std::uint32_t* corner, std::size_t stride, std::uint32_t color,
-                   std::uint16_t strength) const;
+                   std::uint8_t strength) const;
     void stampClipped(CeremonyCanvas& canvas, int x, int y, std::uint32_t color,
-                      unsigned strength) const;
+                      std::uint8_t strength) const;
 
     int m_side;
     std::vector<std::uint8_t> m_coverage;

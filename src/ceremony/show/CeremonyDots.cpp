@@ -40,12 +40,35 @@ std::vector<CeremonyDots::Place> placesOf(const std::vector<std::int32_t>& indic
     return places;
 }
 
+std::vector<CeremonyDots::Wave> wavesOf(const std::vector<float>& phases) {
+    std::vector<CeremonyDots::Wave> waves;
+    waves.reserve(phases.size());
+    for (const float phase : phases)
+        waves.push_back({std::sin(double{phase}), std::cos(double{phase})});
+    return waves;
+}
+
+/// The sine of x + phase for an x that many dots share.
+class SharedSine {
+public:
+    explicit SharedSine(double x) : m_sine(std::sin(x)), m_cosine(std::cos(x)) {}
+    [[nodiscard]] double at(const CeremonyDots::Wave& phase) const {
+        return m_sine * phase.cosine + m_cosine * phase.sine;
+    }
+
+private:
+    double m_sine;
+    double m_cosine;
+};
+
 } // namespace
 
 CeremonyDots::CeremonyDots(const CeremonyGridModel& model, const CeremonyCanvas& canvas)
     : m_masks(model.cell / canvas.scale())
     , m_frontPlaces(placesOf(model.fieldIndex, model, canvas, m_masks.side))
-    , m_backPlaces(placesOf(model.backIndex, model, canvas, m_masks.side)) {
+    , m_backPlaces(placesOf(model.backIndex, model, canvas, m_masks.side))
+    , m_frontWaves(wavesOf(model.fieldPhase))
+    , m_backWaves(wavesOf(model.backPhase)) {
     for (std::size_t i = 0; i < m_palette.size(); ++i) {
         m_palette[i] = canvas.packed(ceremonypalette::field[i]);
         m_flashPalette[i] = canvas.packed(flashColor(ceremonypalette::field[i]));
@@ -64,6 +87,7 @@ std::uint32_t CeremonyDots::flashColor(std::uint32_t rgb) {
 
 void CeremonyDots::drawBack(CeremonyCanvas& canvas, const CeremonyGridModel& model,
                             double t) const {
+    const SharedSine sine(3 * t);
     for (std::size_t i = 0; i < m_backPlaces.size(); ++i) {
         const double born = model.backBorn[i];
         if (born > t) continue;
@@ -73,8 +97,7 @@ void CeremonyDots::drawBack(CeremonyCanvas& canvas, const CeremonyGridModel& mod
         if (past > 0)
             alpha = (1 - past / kFading) * 0.16;
         else
-            alpha = std::min(4 * (t - born), 1.0) *
-                    (0.05 * std::sin(3 * t + double{model.backPhase[i]}) + 0.11);
+            alpha = std::min(4 * (t - born), 1.0) * (0.05 * sine.at(m_backWaves[i]) + 0.11);
         m_masks.back.stamp(canvas, m_backPlaces[i].x, m_backPlaces[i].y,
                            m_palette[model.backColor[i]], strengthOf(alpha));
     }
@@ -82,6 +105,7 @@ void CeremonyDots::drawBack(CeremonyCanvas& canvas, const CeremonyGridModel& mod
 
 void CeremonyDots::drawFront(CeremonyCanvas& canvas, const CeremonyGridModel& model,
                              double t) const {
+    const SharedSine sine(5 * t);
     for (std::size_t i = 0; i < m_frontPlaces.size(); ++i) {
         const double age = t - double{model.fieldBorn[i]};
         const double past = t - double{model.fieldVanish[i]};
@@ -99,7 +123,7 @@ void CeremonyDots::drawFront(CeremonyCanvas& canvas, const CeremonyGridModel& mo
             stamp(m_masks.flash, m_flashPalette[model.fieldColor[i]], 1);
             continue;
         }
-        const double twinkle = 0.3 * std::sin(5 * t + double{model.fieldPhase[i]});
+        const double twinkle = 0.3 * sine.at(m_frontWaves[i]);
         const double alpha = std::min(0.5 * std::max(1 - age / kSettled, 0.0) + twinkle + 0.5, 1.0);
         const bool young = age < kYoung;
         if (model.fieldBright[i] != 0)

@@ -24,6 +24,13 @@ public:
         std::int32_t y = 0;
     };
 
+    /// The phase of a dot's twinkle. sin(x + phase) is a product and a sum then, so that a frame
+    /// needs no sine for each dot.
+    struct Wave {
+        double sine = 0;
+        double cosine = 0;
+    };
+
     /// Paint what is alive at `t` seconds, in the order of the arrays. Model and canvas are those
     /// of the construction.
     void drawBack(CeremonyCanvas& canvas, const CeremonyGridModel& model, double t) const;
@@ -40,6 +47,8 @@ private:
     CeremonyDotMasks m_masks;
     std::vector<Place> m_frontPlaces;
     std::vector<Place> m_backPlaces;
+    std::vector<Wave> m_frontWaves;
+    std::vector<Wave> m_backWaves;
     std::array<std::uint32_t, 5> m_palette{};
     std::array<std::uint32_t, 5> m_flashPalette{};
 };

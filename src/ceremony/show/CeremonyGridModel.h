@@ -56,9 +56,9 @@ struct CeremonyGridModel {
 
     /// The title pill and the caption, at two pixels a point; null where there is none.
     QImage titleImage;
-    QSizeF titleSize; ///< points; 0 x 0 where there is none
+    QSizeF titleSize{0, 0}; ///< points; 0 x 0 where there is none
     QImage captionImage;
-    QSizeF captionSize;
+    QSizeF captionSize{0, 0};
 
     static constexpr double detonation = 0.5; ///< when the charge of `Nova` bursts
     static constexpr double endTime = 3.1;

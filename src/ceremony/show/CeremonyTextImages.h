@@ -8,8 +8,8 @@
 namespace vantle::ceremonytext {
 
 struct TextImage {
-    QImage image; ///< two pixels a point, premultiplied; null when there is nothing to show
-    QSizeF size;  ///< points; 0 x 0 when there is nothing to show
+    QImage image;      ///< two pixels a point, premultiplied; null when there is nothing to show
+    QSizeF size{0, 0}; ///< points; 0 x 0 when there is nothing to show
 };
 
 /// White text on a dark pill with a fine edge, as large as suits a screen of that width in points.

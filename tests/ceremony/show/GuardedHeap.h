@@ -1,0 +1,15 @@
+// Watches the heap of this test program: every block stands between guard bytes, which are looked
+// at when it is given back, and every request is counted.
+#pragma once
+
+#include <cstdint>
+
+namespace vantle::tests::guardedheap {
+
+/// Requests since the start of the program.
+[[nodiscard]] std::int64_t allocations();
+
+/// Blocks next to which something was written, since the start of the program.
+[[nodiscard]] std::int64_t damagedBlocks();
+
+} // namespace vantle::tests::guardedheap
