@@ -3,12 +3,13 @@
 // measure misses its goal.
 #include "TableReporter.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 #include <cstdio>
 
 int main(int argc, char** argv) {
-    const QCoreApplication application(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // texts are drawn, but nothing is shown
+    const QGuiApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
     vantle::bench::TableReporter reporter;

@@ -1,0 +1,143 @@
+// The ceremony on a screen of 1440 x 900, as its overlay has it: all scripts, 60 frames a second.
+// The bound is a memset of a frame, in turn with the frames and as cold as they are.
+#include "Comparison.h"
+#include "base/RandomSource.h"
+#include "ceremony/show/CeremonyFrameRenderer.h"
+
+#include <algorithm>
+#include <cstring>
+#include <map>
+#include <vector>
+
+namespace vantle::bench {
+namespace {
+
+constexpr QSizeF kScreen(1440, 900);
+constexpr double kFrame = 1.0 / 60;
+constexpr int kFrames = 187; // until the show ends
+const QString kSkill = QStringLiteral("Writing");
+
+CeremonyFrameRenderer rendererOf(CeremonyVariant variant) {
+    SystemRandom random;
+    return CeremonyFrameRenderer(CeremonyGridModel::build(variant, kScreen, kSkill, random),
+                                 PixelOrder::Bgra);
+}
+
+CeremonyFrameRenderer& shown(CeremonyVariant variant) {
+    static std::map<CeremonyVariant, CeremonyFrameRenderer> renderers;
+    const auto known = renderers.find(variant);
+    if (known != renderers.end()) return known->second;
+    return renderers.emplace(variant, rendererOf(variant)).first->second;
+}
+
+/// What a frame is at the least: its memory written once.
+void clearFrame() {
+    static std::vector<std::uint32_t> frame(shown(CeremonyVariant::Nova).fieldBuffer().size());
+    std::memset(frame.data(), 1, frame.size() * sizeof(frame.front()));
+    benchmark::DoNotOptimize(frame.data());
+    benchmark::ClobberMemory();
+}
+
+/// Between two frames the picture is stretched over the window, which takes it out of the near
+/// cache.
+void stretchOverWindow() {
+    static std::vector<std::uint32_t> window(
+        static_cast<std::size_t>(kScreen.width() * kScreen.height()));
+    std::ranges::fill(window, 1U);
+    benchmark::DoNotOptimize(window.data());
+    benchmark::ClobberMemory();
+}
+
+/// The fastest of several runs: what else the machine does is not our own.
+class Fastest {
+public:
+    template <typename Work>
+    void time(Work work) {
+        m_seconds = std::min(m_seconds, secondsFor(work));
+    }
+    [[nodiscard]] double seconds() const { return m_seconds; }
+
+private:
+    double m_seconds = 1;
+};
+
+/// The frames of a show, each by its fastest run, and in turn with each a memset of one.
+struct Show {
+    std::vector<Fastest> frames = std::vector<Fastest>(static_cast<std::size_t>(kFrames));
+    std::vector<Fastest> bounds = frames;
+
+    void play(CeremonyFrameRenderer& renderer) {
+        for (std::size_t i = 0; i < frames.size(); ++i) {
+            stretchOverWindow();
+            frames[i].time([&] { renderer.fillField(static_cast<double>(i) * kFrame); });
+            stretchOverWindow();
+            bounds[i].time(clearFrame);
+        }
+    }
+};
+
+double meanOf(const std::vector<Fastest>& all) {
+    double sum = 0;
+    for (const Fastest& one : all)
+        sum += one.seconds();
+    return sum / static_cast<double>(all.size());
+}
+
+double longestOf(const std::vector<Fastest>& all) {
+    return std::ranges::max_element(all, {}, &Fastest::seconds)->seconds();
+}
+
+using Summary = double (*)(const std::vector<Fastest>&);
+
+void frames(benchmark::State& state, CeremonyVariant variant, const Goal& goal, Summary summary) {
+    CeremonyFrameRenderer& renderer = shown(variant);
+    Show show;
+    for (auto _ : state) {
+        show.play(renderer);
+        state.SetIterationTime(meanOf(show.frames));
+    }
+    report(state, summary(show.frames), meanOf(show.bounds), goal);
+}
+
+void meanFrame(benchmark::State& state, CeremonyVariant variant, const Goal& goal) {
+    frames(state, variant, goal, meanOf);
+}
+
+void worstFrame(benchmark::State& state, CeremonyVariant variant, const Goal& goal) {
+    frames(state, variant, goal, longestOf);
+}
+
+void construction(benchmark::State& state, CeremonyVariant variant, const Goal& goal) {
+    Fastest ours;
+    Fastest bound;
+    for (auto _ : state) {
+        ours.time([&] { benchmark::DoNotOptimize(rendererOf(variant).fieldBuffer().data()); });
+        bound.time(clearFrame);
+        state.SetIterationTime(ours.seconds());
+    }
+    report(state, ours.seconds(), bound.seconds(), goal);
+}
+
+template <typename Function>
+void add(const char* what, CeremonyVariant variant, Function function, const Goal& goal) {
+    const std::string name = ceremonyvariant::name(variant).data() + std::string(": ") + what;
+    benchmark::RegisterBenchmark(name.c_str(), function, variant, goal)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(15);
+}
+
+[[maybe_unused]] const bool kRegistered = [] {
+    constexpr double kMillisecond = 1e6; // nanoseconds
+    for (const CeremonyVariant variant : ceremonyvariant::all) {
+        add("frame, mean of a show", variant, meanFrame, {Goal::Kind::Ratio, 12, 1});
+        add("worst frame", variant, worstFrame,
+            {Goal::Kind::NanosecondsEach, 2.5 * kMillisecond, 1});
+        add("model and renderer", variant, construction,
+            {Goal::Kind::NanosecondsEach, 12 * kMillisecond, 1});
+    }
+    return true;
+}();
+
+} // namespace
+} // namespace vantle::bench
