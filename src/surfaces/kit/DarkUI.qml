@@ -91,6 +91,9 @@ QtObject {
     readonly property real popoverCommitDisabled: 0.24
     readonly property real bannerFill: 0.10
     readonly property real bannerEdge: 0.30
+    readonly property real wrappedFill: 0.14 // of the row of a review that waits
+    readonly property real wrappedEdge: 0.34
+    readonly property real pausedOpacity: 0.78 // of the wide button while time is paused
     readonly property real disabledOpacity: 0.45 // of a whole chip, switch or slider
 
     // --- Type ------------------------------------------------------------------------------------
@@ -145,6 +148,7 @@ QtObject {
     readonly property int space12: 12 // within a group
     readonly property int space14: 14
     readonly property int space16: 16
+    readonly property int space18: 18 // above the content of the command center
     readonly property int space20: 20 // between groups
     readonly property int space24: 24
     readonly property int space28: 28
@@ -216,6 +220,8 @@ QtObject {
     readonly property int navRowHeight: 38
     readonly property int pageDotSize: 6
     readonly property int popoverWidth: 284
+    readonly property int commandCenterWidth: 360
+    readonly property int backfillChipWidth: 40
     readonly property int cardWidth: 380 // corner cards and alerts
     readonly property int cardRight: 12 // from the right edge of the screen's free area
     readonly property int cardTop: 10
