@@ -71,7 +71,7 @@ void activation(benchmark::State& state) {
                               QStringLiteral("local.vantle.Vantle")});
     // A session under another skill, so that each switch begins a stay and ends one.
     monitor.sessionState = [] { return TrackerCore::State::Running; };
-    monitor.sessionSkillId = [] { return QStringLiteral("founder-ops"); };
+    monitor.sessionSkillId = [] { return QStringLiteral("founder_ops"); };
     monitor.sessionBundleId = []() -> std::optional<QString> { return std::nullopt; };
     monitor.onRetagSuggested = [](const QString&) {};
     monitor.onTagPromptSuggested = [](const QString&, const QString&) {};

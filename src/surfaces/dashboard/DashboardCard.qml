@@ -1,0 +1,43 @@
+// A card with a heading, and a quiet text at the other end of that line.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+DarkCard {
+    id: card
+
+    required property string heading
+    property string detail
+    default property alias inner: area.data
+    readonly property real innerWidth: width - 2 * DarkUI.space16
+
+    padding: 0
+
+    DarkText {
+        id: title
+        x: DarkUI.space16
+        y: 11
+        text: card.heading
+        role: DarkUI.bodyStrong
+        Accessible.role: Accessible.Heading
+    }
+
+    DarkText {
+        anchors.right: parent.right
+        anchors.rightMargin: DarkUI.space16
+        anchors.baseline: title.baseline
+        width: Math.min(implicitWidth, card.innerWidth - title.width - DarkUI.space12)
+        text: card.detail
+        role: DarkUI.caption
+        color: DarkUI.t3
+        elide: Text.ElideRight
+    }
+
+    Item {
+        id: area
+        x: DarkUI.space16
+        y: 38
+        width: card.innerWidth
+        height: card.height - y - DarkUI.space12
+    }
+}

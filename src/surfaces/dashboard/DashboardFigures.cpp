@@ -1,0 +1,137 @@
+#include "surfaces/dashboard/DashboardFigures.h"
+
+#include "base/DateText.h"
+#include "base/Decimals.h"
+#include "tracking/DailyGoal.h"
+#include "tracking/DashFormat.h"
+#include "tracking/SessionGroup.h"
+#include "tracking/SkillList.h"
+#include "tracking/Totals.h"
+
+#include <algorithm>
+#include <cmath>
+#include <ranges>
+
+namespace vantle::dashboard {
+
+namespace {
+
+constexpr std::uint32_t kPink = 0xFF375F;
+constexpr std::uint32_t kViolet = 0x7A78FF;
+constexpr std::uint32_t kSky = 0x64D2FF;
+
+/// A slice below this is not to be seen.
+constexpr double kTrace = 0.02;
+
+StatBlock block(const QString& title, double hours, double goal, std::uint32_t accent,
+                DurationStyle style) {
+    StatBlock stat;
+    stat.title = title;
+    stat.fraction = hours / goal;
+    stat.accent = QColor::fromRgb(accent);
+    if (hours > 0) {
+        const auto text = dashformat::statValue(hours, style);
+        stat.value = text.value;
+        stat.unit = text.unit;
+    }
+    return stat;
+}
+
+StatBlock goalBlock(const QString& title, double hours, double goal, std::uint32_t accent,
+                    const QString& contextForm, DurationStyle style) {
+    StatBlock stat = block(title, hours, goal, accent, style);
+    const QString goalText = dashformat::inlineHours(goal, style);
+    stat.context = contextForm.arg(goalText);
+    stat.invitation = QStringLiteral("%1 goal · a session starts the bar").arg(goalText);
+    return stat;
+}
+
+} // namespace
+
+std::vector<StatBlock> stats(const Sessions& sessions, const DashboardSetting& setting) {
+    const auto& [now, calendar, skills, style, goal] = setting;
+    const double allTime = totals::hoursAllTime(sessions, now);
+    const double milestone = dashformat::nextMilestone(allTime);
+    StatBlock all = block(QStringLiteral("All time"), allTime, milestone, kSky, style);
+    all.context =
+        QStringLiteral("next milestone %1").arg(dashformat::inlineHours(milestone, style));
+    all.invitation = QStringLiteral("Your first dot lights at 1 h");
+    return {goalBlock(QStringLiteral("Today"), totals::hoursToday(sessions, now, calendar), goal,
+                      kPink, QStringLiteral("of %1 goal"), style),
+            goalBlock(QStringLiteral("This week"), totals::hoursThisWeek(sessions, now, calendar),
+                      goal * 7, kViolet, QStringLiteral("of %1"), style),
+            std::move(all)};
+}
+
+QList<QColor> wallColors(const Sessions& sessions, const DashboardSetting& setting) {
+    QList<QColor> newestFirst;
+    for (const auto& run :
+         std::views::reverse(totals::hourDotRuns(sessions, setting.now, setting.skills)))
+        for (std::int64_t i = 0; i < run.count && newestFirst.size() < wallCells; ++i)
+            newestFirst << QColor::fromRgb(run.skill.hexRGB);
+    std::ranges::reverse(newestFirst);
+    return newestFirst;
+}
+
+QString wallText(std::int64_t dots) {
+    if (dots == 0) return QStringLiteral("Your first hour lights the first dot");
+    return dots == 1 ? QStringLiteral("1 hour") : QStringLiteral("%1 hours").arg(dots);
+}
+
+double partialFraction(std::int64_t loggedSeconds, std::int64_t activeSeconds) {
+    const std::int64_t seconds = loggedSeconds % 3600 + std::max<std::int64_t>(activeSeconds, 0);
+    return std::min(static_cast<double>(std::max<std::int64_t>(seconds, 0)) / 3600.0, 0.999);
+}
+
+double sliceFraction(double partialFraction, std::int64_t dots) {
+    return partialFraction > kTrace && dots < wallCells ? partialFraction : 0;
+}
+
+QString wallLabel(std::int64_t dots, double partialFraction) {
+    return QStringLiteral("Hour wall, %1 completed hours, current hour %2 percent complete")
+        .arg(dots)
+        .arg(std::lround(partialFraction * 100));
+}
+
+std::vector<SkillTotalLine> skillTotals(const Sessions& sessions, const DashboardSetting& setting) {
+    auto totals = totals::perSkillTotals(sessions, setting.now, setting.skills);
+    std::erase_if(totals, [](const auto& total) { return total.hours <= 0; });
+    std::ranges::stable_sort(totals, std::ranges::greater(), &totals::SkillTotal::hours);
+    double whole = 0;
+    for (const auto& total : totals)
+        whole += total.hours;
+    std::vector<SkillTotalLine> lines;
+    for (const auto& [skill, hours] : totals)
+        lines.push_back({skill.name, QColor::fromRgb(skill.hexRGB), hours / totals.front().hours,
+                         dashformat::inlineHours(hours, setting.style), shareText(hours, whole)});
+    return lines;
+}
+
+QString shareText(double part, double whole) {
+    const double percent = part / whole * 100;
+    if (percent > 0 && percent < 0.5) return QStringLiteral("<1%");
+    return fixedDecimals(percent, 0) + QLatin1Char('%');
+}
+
+std::vector<RecentLine> recent(const Sessions& sessions, const DashboardSetting& setting) {
+    const auto groups = SessionGroup::grouped(sessions);
+    const DateText date = DateText::fixed(QStringLiteral("MMM d · HH:mm"), setting.calendar);
+    std::vector<RecentLine> lines;
+    for (const SessionGroup& group :
+         groups | std::views::reverse | std::views::take(recentGroups)) {
+        const Skill skill = SkillList::display(group.skillId, setting.skills);
+        lines.push_back({date(group.endedAt), QColor::fromRgb(skill.hexRGB), skill.name,
+                         dashformat::sessionDuration(group.seconds, setting.style),
+                         group.allManual});
+    }
+    return lines;
+}
+
+QString recentText(std::size_t count, std::int64_t seconds, DurationStyle style) {
+    if (count == 0) return {};
+    const QString words = count == 1 ? QStringLiteral("session") : QStringLiteral("sessions");
+    return QString::number(count) + QLatin1Char(' ') + words + QStringLiteral(" · ") +
+           dashformat::sessionDuration(seconds, style);
+}
+
+} // namespace vantle::dashboard

@@ -1,0 +1,81 @@
+// The hours window: head, progress, the hour wall, hours by skill and recent sessions.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Dashboard
+
+FocusScope {
+    id: page
+
+    required property DashboardView model
+    readonly property real margin: DarkUI.space24
+    readonly property real inner: width - 2 * margin
+    readonly property bool stacked: width < 560
+
+    implicitWidth: 612
+    implicitHeight: 512
+
+    DarkScrollView {
+        anchors.fill: parent
+        focus: true
+
+        Column {
+            x: page.margin
+            topPadding: DarkUI.space6
+            bottomPadding: DarkUI.space24
+            width: page.inner
+            spacing: DarkUI.space12
+
+            DashboardHead {
+                width: page.inner
+                model: page.model
+                focus: true
+            }
+
+            WarningBanner {
+                width: page.inner
+                visible: page.model.warning !== ""
+                text: page.model.warning
+            }
+
+            Row {
+                topPadding: DarkUI.space4
+                spacing: DarkUI.space12
+
+                Repeater {
+                    model: page.model.stats
+
+                    StatBlockView {
+                        required property statBlock modelData
+                        width: (page.inner - 2 * DarkUI.space12) / 3
+                        stat: modelData
+                    }
+                }
+            }
+
+            HourWallCard {
+                width: page.inner
+                model: page.model
+            }
+
+            Flow {
+                width: page.inner
+                spacing: DarkUI.space12
+
+                SkillTotalsCard {
+                    width: page.stacked ? page.inner : 246
+                    height: 208
+                    lines: page.model.skillTotals
+                }
+
+                RecentSessionsCard {
+                    width: page.stacked ? page.inner : page.inner - 246 - DarkUI.space12
+                    height: 208
+                    lines: page.model.recent
+                    summary: page.model.recentText
+                    onStartRequested: page.model.toggle()
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,135 @@
+#include "surfaces/dashboard/DashboardView.h"
+
+#include "app/AppModel.h"
+#include "base/LocalTime.h"
+#include "ceremony/show/VantleCopy.h"
+#include "tracking/DailyGoal.h"
+#include "tracking/DashFormat.h"
+#include "tracking/NotificationCenter.h"
+#include "tracking/SkillList.h"
+#include "tracking/Totals.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vantle {
+
+namespace {
+
+/// The current hour's colour before there is a session.
+constexpr std::uint32_t kNoColor = 0x7A78FF;
+
+template <typename Line>
+QVariantList asList(const std::vector<Line>& lines) {
+    QVariantList list;
+    for (const Line& line : lines)
+        list << QVariant::fromValue(line);
+    return list;
+}
+
+} // namespace
+
+DashboardView::DashboardView(Environment environment) : m_env(std::move(environment)) {
+    connect(&m_env.notifications, &NotificationCenter::HFSessionsChanged, this,
+            &DashboardView::reload);
+    connect(&tracker(), &TrackerCore::stateChanged, this, &DashboardView::followState);
+    connect(&tracker(), &TrackerCore::currentSkillIdChanged, this, &DashboardView::ticked);
+    connect(&m_env.model, &AppModel::skillsChanged, this, &DashboardView::reload);
+    connect(&tracker(), &TrackerCore::storageErrorChanged, this, &DashboardView::warningChanged);
+    connect(&tracker(), &TrackerCore::dataWarningChanged, this, &DashboardView::warningChanged);
+    followState();
+}
+
+DashboardView::~DashboardView() = default;
+
+TrackerCore& DashboardView::tracker() const { return m_env.model.tracker(); }
+
+void DashboardView::followState() {
+    m_tick = {};
+    if (isOpen())
+        m_tick = m_env.scheduler.scheduleRepeatingTimer(Seconds(1), Seconds(0.1),
+                                                        [this] { Q_EMIT ticked(); });
+    reload();
+}
+
+DashboardSetting DashboardView::setting() const {
+    return {m_env.clock.now(), m_env.calendar(), m_env.model.skills(),
+            durationstyle::current(m_env.preferences), dailygoal::hours(m_env.preferences)};
+}
+
+void DashboardView::reload() {
+    const std::vector<Session> sessions = tracker().allSessions();
+    const DashboardSetting now = setting();
+    m_stats = asList(dashboard::stats(sessions, now));
+    m_skillTotals = asList(dashboard::skillTotals(sessions, now));
+    m_recent = asList(dashboard::recent(sessions, now));
+    m_wallColors = dashboard::wallColors(sessions, now);
+    m_dots = totals::hourDotCount(sessions, now.now);
+    m_loggedSeconds = totals::secondsAllTime(sessions, now.now);
+    m_count = sessions.size();
+    m_lastColor = QColor::fromRgb(
+        sessions.empty() ? kNoColor
+                         : SkillList::display(sessions.back().skillId, now.skills).hexRGB);
+
+    LocalTime wall(now.calendar);
+    m_dayEnds = m_env.scheduler.scheduleOnce(wall.startOfDay(wall.at(now.now).day + 1) - now.now,
+                                             [this] { reload(); });
+    Q_EMIT figuresChanged();
+    Q_EMIT ticked();
+}
+
+QString DashboardView::recentText() const {
+    return dashboard::recentText(m_count, m_loggedSeconds,
+                                 durationstyle::current(m_env.preferences));
+}
+
+bool DashboardView::isOpen() const { return tracker().state() != TrackerCore::State::Idle; }
+bool DashboardView::isPaused() const { return tracker().state() == TrackerCore::State::Paused; }
+
+std::int64_t DashboardView::activeSeconds() const {
+    return isOpen() ? std::max<std::int64_t>(tracker().displayActiveSeconds(), 0) : 0;
+}
+
+double DashboardView::partialFraction() const {
+    return dashboard::partialFraction(m_loggedSeconds, activeSeconds());
+}
+
+double DashboardView::sliceFraction() const {
+    return dashboard::sliceFraction(partialFraction(), m_dots);
+}
+
+QColor DashboardView::sliceColor() const { return isOpen() ? chipColor() : m_lastColor; }
+
+QString DashboardView::wallLabel() const { return dashboard::wallLabel(m_dots, partialFraction()); }
+
+Skill DashboardView::openSkill() const {
+    return SkillList::display(tracker().currentSkillId().value_or(m_env.model.selectedSkillId()),
+                              m_env.model.skills());
+}
+
+QColor DashboardView::chipColor() const { return QColor::fromRgb(openSkill().hexRGB); }
+
+QString DashboardView::elapsed() const {
+    return dashformat::sessionDuration(activeSeconds(), durationstyle::current(m_env.preferences));
+}
+
+QString DashboardView::chipText() const {
+    if (isPaused()) return QStringLiteral("Paused · ") + elapsed();
+    return vantlecopy::activeStatus(openSkill().name) + QStringLiteral(" · ") + elapsed();
+}
+
+QString DashboardView::chipHoverText() const { return QStringLiteral("Stop · ") + elapsed(); }
+
+QString DashboardView::chipLabel() const {
+    return chipText() + QStringLiteral(". Stops the session.");
+}
+
+QString DashboardView::warning() const {
+    const auto& text =
+        tracker().storageError() ? tracker().storageError() : tracker().dataWarning();
+    return text ? QStringLiteral("Data warning: ") + *text : QString();
+}
+
+void DashboardView::toggle() { m_env.model.toggleVantle(); }
+
+} // namespace vantle

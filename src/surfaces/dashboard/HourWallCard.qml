@@ -1,0 +1,26 @@
+// One dot for each finished hour; the current hour fills as a slice.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Dashboard
+
+DashboardCard {
+    id: card
+
+    required property DashboardView model
+
+    implicitHeight: 90
+    heading: qsTr("Hour wall")
+    detail: model.wallText
+    Accessible.role: Accessible.Graphic
+    Accessible.name: model.wallLabel
+
+    GlassDotWall {
+        y: DarkUI.space4
+        width: card.innerWidth
+        height: 36
+        colors: card.model.wallColors
+        sliceFraction: card.model.sliceFraction
+        sliceColor: card.model.sliceColor
+    }
+}

@@ -1,0 +1,46 @@
+// The newest sessions; before there is one, the way to it.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+DashboardCard {
+    id: card
+
+    required property var lines
+    required property string summary
+    signal startRequested
+
+    heading: qsTr("Recent sessions")
+    detail: summary
+
+    Column {
+        anchors.centerIn: parent
+        visible: card.lines.length === 0
+        spacing: DarkUI.space10
+
+        DarkPrimaryButton {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: qsTr("Start your first session")
+            onClicked: card.startRequested()
+        }
+
+        DarkText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: qsTr("⌥⌘B works from anywhere")
+            role: DarkUI.caption
+            color: DarkUI.t3
+        }
+    }
+
+    Column {
+        Repeater {
+            model: card.lines
+
+            SessionGroupRow {
+                required property recentLine modelData
+                width: card.innerWidth
+                line: modelData
+            }
+        }
+    }
+}

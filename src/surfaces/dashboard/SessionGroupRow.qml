@@ -1,0 +1,65 @@
+// A stretch of work: when it ended, its skill, how long.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Dashboard
+
+Item {
+    id: row
+
+    required property recentLine line
+
+    implicitHeight: 26
+    Accessible.role: Accessible.StaticText
+    Accessible.name: (line.isManual ? qsTr("%1, %2, %3, manual") : qsTr("%1, %2, %3"))
+                         .arg(line.date).arg(line.skillName).arg(line.duration)
+
+    DarkText {
+        anchors.verticalCenter: parent.verticalCenter
+        width: 96 - DarkUI.space4
+        text: row.line.date
+        role: DarkUI.caption
+        color: DarkUI.t3
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+
+    Rectangle {
+        x: 96
+        anchors.verticalCenter: parent.verticalCenter
+        width: DarkUI.chipDot
+        height: DarkUI.chipDot
+        radius: width / 2
+        color: row.line.color
+    }
+
+    DarkText {
+        id: name
+        x: 111
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, duration.x - x - DarkUI.space8
+                                       - (tag.visible ? tag.width + DarkUI.space8 : 0))
+        text: row.line.skillName
+        role: DarkUI.caption
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+
+    ManualTag {
+        id: tag
+        anchors.left: name.right
+        anchors.leftMargin: DarkUI.space8
+        anchors.verticalCenter: parent.verticalCenter
+        visible: row.line.isManual
+    }
+
+    TabularText {
+        id: duration
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.line.duration
+        role: DarkUI.caption
+        color: DarkUI.t2
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,54 @@
+// One skill: its name, a bar, its hours and its share.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Dashboard
+
+Item {
+    id: row
+
+    required property skillTotalLine line
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: qsTr("%1, %2, %3").arg(line.name).arg(line.hours).arg(line.share)
+
+    DarkText {
+        anchors.verticalCenter: parent.verticalCenter
+        width: 84 - DarkUI.space8
+        text: row.line.name
+        role: DarkUI.caption
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+
+    GlassBarTrack {
+        x: 84
+        anchors.verticalCenter: parent.verticalCenter
+        width: row.width - x - 84 - DarkUI.space8 + DarkUI.space10
+        implicitHeight: DarkUI.barTable
+
+        GlassBarFill {
+            color: row.line.color
+            fraction: row.line.fraction
+        }
+    }
+
+    TabularText {
+        anchors.right: parent.right
+        anchors.rightMargin: 36
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.line.hours
+        role: DarkUI.caption
+        color: DarkUI.t2
+        Accessible.ignored: true
+    }
+
+    TabularText {
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.line.share
+        role: DarkUI.caption
+        color: DarkUI.t3
+        Accessible.ignored: true
+    }
+}

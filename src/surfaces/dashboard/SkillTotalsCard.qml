@@ -1,0 +1,37 @@
+// Hours by skill, most hours first.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+DashboardCard {
+    id: card
+
+    required property var lines
+    // All of them fit, however many the person has.
+    readonly property real pitch: Math.min(26, (height - 38 - DarkUI.space12)
+                                               / Math.max(lines.length, 1))
+
+    heading: qsTr("Hours by skill")
+
+    DarkText {
+        width: card.innerWidth
+        visible: card.lines.length === 0
+        text: qsTr("Your active skills will appear after the first session.")
+        role: DarkUI.caption
+        color: DarkUI.t3
+        wrapMode: Text.Wrap
+    }
+
+    Column {
+        Repeater {
+            model: card.lines
+
+            SkillTotalRow {
+                required property skillTotalLine modelData
+                width: card.innerWidth
+                height: card.pitch
+                line: modelData
+            }
+        }
+    }
+}

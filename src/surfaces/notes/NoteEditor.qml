@@ -1,0 +1,39 @@
+// The field in place of a note that is being edited.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Notes
+
+Column {
+    id: editor
+
+    required property LogView log
+
+    spacing: DarkUI.space6
+    bottomPadding: DarkUI.space2
+
+    Component.onCompleted: {
+        field.text = editor.log.draft;
+        field.forceActiveFocus(Qt.OtherFocusReason);
+        field.input.cursorPosition = field.text.length;
+    }
+
+    DarkTextField {
+        id: field
+        width: parent.width
+        minHeight: DarkUI.editorFieldHeight
+        role: DarkUI.note
+        name: qsTr("Note")
+        placeholder: qsTr("What moved forward")
+        onEdited: editor.log.draft = field.text
+        onAccepted: editor.log.commitEdit()
+        Keys.onEscapePressed: editor.log.cancelEdit()
+    }
+
+    DarkText {
+        x: DarkUI.space12
+        text: qsTr("Return saves. Esc cancels.")
+        role: DarkUI.small
+        color: DarkUI.t3
+    }
+}

@@ -1,0 +1,135 @@
+// One note with its time, skill and duration; under the pointer it can be copied and edited.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Notes
+
+Item {
+    id: row
+
+    required property LogView log
+    required property bool current // the keyboard is on it
+
+    required property var sessionId
+    required property string note
+    required property string timeText
+    required property string skillName
+    required property color skillColor
+    required property string durationText
+    required property bool isManual
+
+    readonly property bool editing: log.editingId === sessionId
+    readonly property bool copied: log.copiedId === sessionId
+    readonly property bool active: (hover.hovered || current) && !editing
+    readonly property real textX: DarkUI.space28 + 54
+
+    implicitHeight: content.height + 2 * DarkUI.space8
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: qsTr("%1, %2, %3, %4").arg(note).arg(timeText).arg(skillName).arg(durationText)
+    Accessible.focusable: true
+
+    Keys.onReturnPressed: log.beginEdit(sessionId)
+    Keys.onPressed: event => {
+        event.accepted = event.matches(StandardKey.Copy);
+        if (event.accepted)
+            row.log.copyNote(row.sessionId);
+    }
+
+    HoverHandler {
+        id: hover
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.leftMargin: DarkUI.space16
+        anchors.rightMargin: DarkUI.space16
+        radius: DarkUI.radiusBanner
+        color: row.active || row.editing ? DarkUI.rowHover : DarkUI.clear
+
+        FocusRing {
+            shown: row.current && !row.editing
+            controlRadius: DarkUI.radiusBanner
+        }
+    }
+
+    DarkText {
+        x: DarkUI.space28
+        y: content.y + (row.editing ? DarkUI.space6 : 0)
+        text: row.timeText
+        role: DarkUI.body
+        color: DarkUI.t3
+        Accessible.ignored: true
+    }
+
+    Column {
+        id: content
+        x: row.textX
+        y: DarkUI.space8
+        width: parent.width - x - DarkUI.space28
+        spacing: 3
+
+        DarkText {
+            visible: !row.editing
+            // The room of the two buttons stays free, so that no line moves under the pointer.
+            width: parent.width - 2 * DarkUI.iconButton - DarkUI.space12
+            text: row.note
+            role: DarkUI.note
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+
+        Loader {
+            active: row.editing
+            visible: active
+            x: -DarkUI.space12
+            width: parent.width + DarkUI.space12
+            sourceComponent: NoteEditor {
+                log: row.log
+            }
+        }
+
+        NoteMeta {
+            skillName: row.skillName
+            skillColor: row.skillColor
+            durationText: row.durationText
+            isManual: row.isManual
+        }
+    }
+
+    Row {
+        anchors.right: parent.right
+        anchors.rightMargin: DarkUI.space28
+        y: DarkUI.space8
+        visible: row.active && !row.copied
+        spacing: DarkUI.space4
+
+        DarkIconButton {
+            name: qsTr("Copy this note")
+            help: name
+            icon: "copy"
+            iconSize: DarkUI.space14
+            activeFocusOnTab: row.current
+            onClicked: row.log.copyNote(row.sessionId)
+        }
+
+        DarkIconButton {
+            name: qsTr("Edit this note")
+            help: name
+            icon: "pencil"
+            iconSize: DarkUI.space14
+            activeFocusOnTab: row.current
+            onClicked: row.log.beginEdit(row.sessionId)
+        }
+    }
+
+    DarkText {
+        anchors.right: parent.right
+        anchors.rightMargin: DarkUI.space28
+        y: DarkUI.space8
+        visible: row.copied
+        text: qsTr("Copied")
+        role: DarkUI.caption
+        color: DarkUI.t2
+    }
+}

@@ -1,0 +1,42 @@
+// What the window says before there is a note.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Item {
+    Column {
+        anchors.centerIn: parent
+        // The title strip above belongs to the window as well.
+        anchors.verticalCenterOffset: -DarkUI.stripHeight / 2
+        spacing: DarkUI.space8
+
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: DarkUI.space14
+            bottomPadding: DarkUI.space14
+
+            Repeater {
+                model: 3
+                GlassDot {
+                    width: DarkUI.iconSize
+                    height: DarkUI.iconSize
+                    filled: false
+                }
+            }
+        }
+
+        DarkText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: qsTr("No notes yet")
+            role: DarkUI.titleM
+            Accessible.role: Accessible.Heading
+        }
+
+        DarkText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            horizontalAlignment: Text.AlignHCenter
+            text: qsTr("When you stop a session, jot one line about what you did.\nThey collect here, newest first.")
+            color: DarkUI.t2
+        }
+    }
+}

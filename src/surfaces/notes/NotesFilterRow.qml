@@ -1,0 +1,89 @@
+// One chip for all notes and one for each skill, on one line that scrolls sideways.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Notes
+
+Item {
+    id: row
+
+    required property LogView model
+
+    implicitHeight: DarkUI.chipHeight
+
+    // The chip with the focus comes into sight.
+    function bringIntoSight(chip: Item): void {
+        const left = chip.mapToItem(chips, 0, 0).x;
+        const room = area.width - DarkUI.edgeFade;
+        if (left < area.contentX)
+            area.contentX = left;
+        else if (left + chip.width > area.contentX + room)
+            area.contentX = Math.min(left + chip.width - room, area.contentWidth - area.width);
+    }
+
+    Flickable {
+        id: area
+        anchors.fill: parent
+        // Room for the focus ring, which would be cut.
+        anchors.margins: -(DarkUI.focusWidth + DarkUI.focusGap)
+        contentWidth: chips.width + 2 * chips.x
+        contentHeight: height
+        flickableDirection: Flickable.HorizontalFlick
+        boundsBehavior: Flickable.StopAtBounds
+        interactive: contentWidth > width
+        clip: true
+
+        ArrowGroup {
+            x: DarkUI.focusWidth + DarkUI.focusGap
+            y: x
+            width: chips.width
+            height: chips.height
+            list: chips
+
+            Row {
+                id: chips
+                spacing: DarkUI.chipGap
+
+                DarkChip {
+                    text: qsTr("All")
+                    selectedTint: row.model.showsAll ? DarkUI.t3 : DarkUI.clear
+                    onClicked: row.model.showAll()
+                    onActiveFocusChanged: if (activeFocus) row.bringIntoSight(this)
+                }
+
+                Repeater {
+                    model: row.model.filters
+
+                    DarkChip {
+                        id: chip
+                        required property string skillId
+                        required property color skillColor
+                        required property bool selected
+
+                        required name
+                        text: name
+                        dotColor: skillColor
+                        selectedTint: selected ? skillColor : DarkUI.clear
+                        onClicked: row.model.showSkill(skillId)
+                        onActiveFocusChanged: if (activeFocus) row.bringIntoSight(chip)
+                    }
+                }
+            }
+        }
+    }
+
+    EdgeFade {
+        anchors.right: parent.right
+        width: 104
+        height: parent.height
+        edge: Qt.RightEdge
+        visible: !area.atXEnd
+    }
+
+    EdgeFade {
+        width: DarkUI.edgeFade
+        height: parent.height
+        edge: Qt.LeftEdge
+        visible: !area.atXBeginning
+    }
+}

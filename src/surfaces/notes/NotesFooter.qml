@@ -1,0 +1,32 @@
+// A line about the notes that are shown; above it, why an edit could not be saved.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Item {
+    id: footer
+
+    required property string text
+    required property string failure
+    readonly property bool filled: text !== "" || failure !== ""
+
+    implicitHeight: filled ? 40 : 0
+    visible: filled
+
+    DarkDivider {
+        width: parent.width
+    }
+
+    DarkText {
+        anchors.left: parent.left
+        anchors.leftMargin: DarkUI.space28
+        anchors.right: parent.right
+        anchors.rightMargin: DarkUI.space28
+        anchors.verticalCenter: parent.verticalCenter
+        text: footer.failure !== "" ? footer.failure : footer.text
+        role: DarkUI.caption
+        color: footer.failure !== "" ? DarkUI.dangerText : DarkUI.t3
+        elide: Text.ElideRight
+        Accessible.role: footer.failure !== "" ? Accessible.AlertMessage : Accessible.StaticText
+    }
+}

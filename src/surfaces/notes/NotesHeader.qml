@@ -1,0 +1,83 @@
+// How many notes there are, the search, and the filters.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Notes
+
+FocusScope {
+    id: header
+
+    required property LogView model
+
+    implicitHeight: line.y + line.height
+
+    DarkText {
+        id: title
+        x: DarkUI.space28
+        y: DarkUI.space6
+        width: search.x - x - DarkUI.space12
+        text: header.model.countText
+        role: DarkUI.titleL
+        elide: Text.ElideRight
+        Accessible.role: Accessible.Heading
+    }
+
+    DarkText {
+        x: DarkUI.space28
+        y: title.y + title.height + DarkUI.space2
+        width: title.width
+        text: header.model.subtitleText
+        role: DarkUI.caption
+        color: DarkUI.t2
+        elide: Text.ElideRight
+    }
+
+    DarkTextField {
+        id: search
+        anchors.right: parent.right
+        anchors.rightMargin: DarkUI.space28
+        y: DarkUI.space14
+        width: 190
+        minHeight: DarkUI.searchFieldHeight
+        icon: "search"
+        name: qsTr("Search notes")
+        placeholder: qsTr("Search notes")
+        clearable: true
+        focus: true
+        onEdited: header.model.query = search.text
+        Keys.onEscapePressed: {
+            header.model.query = "";
+            search.focus = false;
+        }
+
+        Connections {
+            target: header.model
+            function onFilterChanged(): void {
+                if (search.text !== header.model.query)
+                    search.text = header.model.query;
+            }
+        }
+    }
+
+    NotesFilterRow {
+        id: filters
+        anchors.left: parent.left
+        anchors.leftMargin: DarkUI.space28
+        anchors.right: parent.right
+        anchors.rightMargin: DarkUI.space28
+        y: 69
+        visible: header.model.showsFilters
+        model: header.model
+    }
+
+    DarkDivider {
+        id: line
+        y: filters.y + filters.height + DarkUI.space14
+        width: parent.width
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Find]
+        onActivated: search.forceActiveFocus(Qt.ShortcutFocusReason)
+    }
+}

@@ -1,0 +1,51 @@
+// The notes window: a head with the search and the filters, the notes by days, a foot.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Notes
+
+FocusScope {
+    id: window
+
+    required property LogView model
+
+    implicitWidth: 520
+    implicitHeight: 620
+
+    NotesEmpty {
+        anchors.fill: parent
+        visible: window.model.state === LogView.Empty
+    }
+
+    NotesHeader {
+        id: header
+        width: parent.width
+        visible: window.model.state !== LogView.Empty
+        model: window.model
+        focus: true
+    }
+
+    NotesNoMatch {
+        anchors.top: header.bottom
+        anchors.bottom: footer.top
+        width: parent.width
+        visible: window.model.state === LogView.NothingFits
+        onClearRequested: window.model.clearFilters()
+    }
+
+    NotesList {
+        anchors.top: header.bottom
+        anchors.bottom: footer.top
+        width: parent.width
+        visible: window.model.state === LogView.Listed
+        model: window.model
+    }
+
+    NotesFooter {
+        id: footer
+        anchors.bottom: parent.bottom
+        width: parent.width
+        text: window.model.footerText
+        failure: window.model.failure
+    }
+}

@@ -1,0 +1,29 @@
+// What the window says when nothing passes the filters.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Item {
+    id: area
+
+    signal clearRequested
+
+    Column {
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: -DarkUI.stripHeight / 2
+        spacing: DarkUI.space14
+
+        DarkText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: qsTr("Nothing matches that yet.")
+            role: DarkUI.lead
+            color: DarkUI.t2
+        }
+
+        DarkSecondaryButton {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: qsTr("Clear the filters")
+            onClicked: area.clearRequested()
+        }
+    }
+}

@@ -1,0 +1,33 @@
+// A field for a whole number, with its unit behind it.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+DarkTextField {
+    id: field
+
+    required property string unit
+    signal left
+
+    implicitWidth: 118
+    minHeight: DarkUI.figureFieldHeight
+    role: DarkUI.titleM
+    input.inputMethodHints: Qt.ImhDigitsOnly
+    input.maximumLength: 6 // more than any time that can be logged
+    input.onActiveFocusChanged: {
+        if (input.activeFocus)
+            input.selectAll();
+        else
+            field.left();
+    }
+
+    DarkText {
+        anchors.right: parent.right
+        anchors.rightMargin: DarkUI.fieldPadding
+        anchors.verticalCenter: parent.verticalCenter
+        text: field.unit
+        role: DarkUI.caption
+        color: DarkUI.t3
+        Accessible.ignored: true
+    }
+}

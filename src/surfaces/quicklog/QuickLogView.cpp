@@ -1,0 +1,75 @@
+#include "surfaces/quicklog/QuickLogView.h"
+
+#include "app/AppModel.h"
+#include "platform/Preferences.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vantle {
+
+namespace {
+
+/// What the form opens with.
+constexpr int kFirstMinutes = 30;
+
+} // namespace
+
+QuickLogView::QuickLogView(AppModel& model, const Preferences& preferences,
+                           std::function<void()> onClose)
+    : m_model(model)
+    , m_skills(model.skills())
+    , m_onClose(std::move(onClose))
+    , m_duration(QuickLogDuration::of(kFirstMinutes)) {
+    const auto lastUsed = preferences.string(QLatin1String(TrackerCore::lastUsedSkillKey));
+    const auto found = std::ranges::find(m_skills, lastUsed, &Skill::id);
+    if (found != m_skills.end()) m_skillIndex = static_cast<int>(found - m_skills.begin());
+}
+
+QStringList QuickLogView::skillNames() const {
+    QStringList names;
+    for (const Skill& skill : m_skills)
+        names << skill.name;
+    return names;
+}
+
+void QuickLogView::setSkillIndex(int index) {
+    if (index < 0 || index >= static_cast<int>(m_skills.size()) || index == m_skillIndex) return;
+    m_skillIndex = index;
+    Q_EMIT skillIndexChanged();
+}
+
+QColor QuickLogView::skillColor() const {
+    return QColor::fromRgb(m_skills[static_cast<std::size_t>(m_skillIndex)].hexRGB);
+}
+
+void QuickLogView::setDuration(const QuickLogDuration& duration) {
+    if (duration == m_duration) return;
+    m_duration = duration;
+    Q_EMIT durationChanged();
+    if (m_isTimeWrong && m_duration.validMinutes()) setError({}, false);
+}
+
+void QuickLogView::setError(const QString& message, bool isTimeWrong) {
+    m_errorMessage = message;
+    m_isTimeWrong = isTimeWrong;
+    Q_EMIT errorMessageChanged();
+}
+
+void QuickLogView::logEntry() {
+    const auto minutes = m_duration.validMinutes();
+    if (!minutes) {
+        setError(QStringLiteral("Enter a time between 1 minute and 16 hours."), true);
+        Q_EMIT hoursWanted();
+        return;
+    }
+    const Skill& skill = m_skills[static_cast<std::size_t>(m_skillIndex)];
+    if (m_model.quickLog(skill.id, *minutes, m_note)) {
+        m_onClose();
+        return;
+    }
+    const QString reason = m_model.tracker().storageError().value_or(QString());
+    setError(reason.isEmpty() ? QStringLiteral("Couldn’t save that entry.") : reason, false);
+}
+
+} // namespace vantle

@@ -1,0 +1,84 @@
+// The form that adds time by hand, for work that the clock did not see.
+#pragma once
+
+#include "surfaces/quicklog/QuickLogDuration.h"
+#include "tracking/Skill.h"
+
+#include <QColor>
+#include <QObject>
+#include <QQmlEngine>
+#include <QStringList>
+
+#include <functional>
+#include <vector>
+
+namespace vantle {
+
+class AppModel;
+class Preferences;
+
+/// What the form holds and does. An entry that can't be logged leaves everything as it was typed,
+/// with the reason in `errorMessage`. Main thread.
+class QuickLogView final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the window router.")
+    Q_PROPERTY(QStringList skillNames READ skillNames CONSTANT FINAL)
+    Q_PROPERTY(int skillIndex READ skillIndex WRITE setSkillIndex NOTIFY skillIndexChanged FINAL)
+    Q_PROPERTY(QColor skillColor READ skillColor NOTIFY skillIndexChanged FINAL)
+    Q_PROPERTY(QString hoursText READ hoursText WRITE setHoursText NOTIFY durationChanged FINAL)
+    Q_PROPERTY(
+        QString minutesText READ minutesText WRITE setMinutesText NOTIFY durationChanged FINAL)
+    Q_PROPERTY(QString note MEMBER m_note NOTIFY noteChanged FINAL)
+    Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged FINAL)
+    /// The error is about the time, not about the log.
+    Q_PROPERTY(bool isTimeWrong READ isTimeWrong NOTIFY errorMessageChanged FINAL)
+
+public:
+    /// `onClose` closes the form. The model and the preferences must outlive it.
+    QuickLogView(AppModel& model, const Preferences& preferences, std::function<void()> onClose);
+
+    [[nodiscard]] QStringList skillNames() const;
+    [[nodiscard]] int skillIndex() const { return m_skillIndex; }
+    void setSkillIndex(int index);
+    [[nodiscard]] QColor skillColor() const;
+
+    [[nodiscard]] const QString& hoursText() const { return m_duration.hours; }
+    void setHoursText(const QString& text) { setDuration({text, m_duration.minutes}); }
+    [[nodiscard]] const QString& minutesText() const { return m_duration.minutes; }
+    void setMinutesText(const QString& text) { setDuration({m_duration.hours, text}); }
+
+    [[nodiscard]] const QString& errorMessage() const { return m_errorMessage; }
+    [[nodiscard]] bool isTimeWrong() const { return m_isTimeWrong; }
+
+    /// When a field loses the focus.
+    Q_INVOKABLE void normalizeDuration() { setDuration(m_duration.normalized()); }
+    Q_INVOKABLE void stepDuration(int steps) { setDuration(m_duration.stepped(steps)); }
+
+    /// Adds the entry and closes the form.
+    Q_INVOKABLE void logEntry();
+    Q_INVOKABLE void cancel() { m_onClose(); }
+
+Q_SIGNALS:
+    void skillIndexChanged();
+    void durationChanged();
+    void noteChanged();
+    void errorMessageChanged();
+    /// The field for hours is to take the focus.
+    void hoursWanted();
+
+private:
+    void setDuration(const QuickLogDuration& duration);
+    void setError(const QString& message, bool isTimeWrong);
+
+    AppModel& m_model;
+    const std::vector<Skill> m_skills; ///< never empty
+    const std::function<void()> m_onClose;
+    int m_skillIndex = 0;
+    QuickLogDuration m_duration;
+    QString m_note;
+    QString m_errorMessage;
+    bool m_isTimeWrong = false;
+};
+
+} // namespace vantle

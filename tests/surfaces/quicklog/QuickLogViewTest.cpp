@@ -1,0 +1,99 @@
+#include "surfaces/quicklog/QuickLogView.h"
+
+#include "app/ModelWorld.h"
+
+#include <gtest/gtest.h>
+
+namespace vantle {
+namespace {
+
+class QuickLogViewTest : public testing::Test, protected tests::ModelWorld {
+protected:
+    QuickLogView& open() {
+        if (!model) launch();
+        return m_view.emplace(*model, preferences, [this] { ++m_closed; });
+    }
+    void type(const char* hours, const char* minutes) {
+        m_view->setHoursText(QString::fromUtf8(hours));
+        m_view->setMinutesText(QString::fromUtf8(minutes));
+    }
+
+    int m_closed = 0;
+    std::optional<QuickLogView> m_view;
+};
+
+TEST_F(QuickLogViewTest, OpensWithTheSkillThatWasUsedLast) {
+    launch();
+    preferences.setString(QLatin1String(TrackerCore::lastUsedSkillKey), model->skills()[2].id);
+    EXPECT_EQ(open().skillIndex(), 2);
+    preferences.setString(QLatin1String(TrackerCore::lastUsedSkillKey), QStringLiteral("gone"));
+    EXPECT_EQ(open().skillIndex(), 0);
+    preferences.remove(QLatin1String(TrackerCore::lastUsedSkillKey));
+    EXPECT_EQ(open().skillIndex(), 0);
+}
+
+TEST_F(QuickLogViewTest, EntryIsLoggedUnderItsSkillAndTheFormCloses) {
+    QuickLogView& view = open();
+    view.setSkillIndex(1);
+    type("1", "30");
+    view.setProperty("note", QStringLiteral(" Drafted the landing page "));
+    view.logEntry();
+    ASSERT_EQ(log().size(), 1U);
+    EXPECT_EQ(log()[0].skillId, model->skills()[1].id);
+    EXPECT_EQ(log()[0].activeSeconds, 5400);
+    EXPECT_EQ(log()[0].note, QStringLiteral("Drafted the landing page"));
+    EXPECT_EQ(log()[0].source, sourceManual());
+    EXPECT_EQ(m_closed, 1);
+}
+
+TEST_F(QuickLogViewTest, NoTimeAtAllIsToldAtTheHours) {
+    QuickLogView& view = open();
+    int wanted = 0;
+    QObject::connect(&view, &QuickLogView::hoursWanted, [&] { ++wanted; });
+    type("0", "0");
+    view.logEntry();
+    EXPECT_EQ(view.errorMessage(), QStringLiteral("Enter a time between 1 minute and 16 hours."));
+    EXPECT_TRUE(view.isTimeWrong());
+    EXPECT_EQ(wanted, 1);
+    EXPECT_EQ(m_closed, 0);
+    EXPECT_TRUE(log().empty());
+}
+
+TEST_F(QuickLogViewTest, TooLongIsToldUnlessTheFieldWasLeftBefore) {
+    QuickLogView& view = open();
+    type("16", "1");
+    view.logEntry();
+    EXPECT_TRUE(view.isTimeWrong());
+    view.normalizeDuration();
+    EXPECT_EQ(view.hoursText(), QStringLiteral("16"));
+    EXPECT_EQ(view.minutesText(), QStringLiteral("0"));
+    EXPECT_EQ(view.errorMessage(), QString());
+    view.logEntry();
+    EXPECT_EQ(m_closed, 1);
+}
+
+TEST_F(QuickLogViewTest, RefusedEntryStaysAsTypedWithTheReason) {
+    QuickLogView& view = open();
+    type("2", "0");
+    view.setProperty("note", QStringLiteral("work"));
+    breakWrites(QStringLiteral("sessions.jsonl"), true);
+    view.logEntry();
+    EXPECT_EQ(view.errorMessage(), model->tracker().storageError().value_or(QString()));
+    EXPECT_FALSE(view.errorMessage().isEmpty());
+    EXPECT_FALSE(view.isTimeWrong());
+    EXPECT_EQ(view.hoursText(), QStringLiteral("2"));
+    EXPECT_EQ(view.property("note").toString(), QStringLiteral("work"));
+    EXPECT_EQ(m_closed, 0);
+    breakWrites(QStringLiteral("sessions.jsonl"), false);
+    view.logEntry();
+    EXPECT_EQ(m_closed, 1);
+}
+
+TEST_F(QuickLogViewTest, CancelClosesAndLogsNothing) {
+    open().cancel();
+    EXPECT_EQ(m_closed, 1);
+    EXPECT_TRUE(log().empty());
+}
+
+} // namespace
+} // namespace vantle
