@@ -8,11 +8,13 @@ SharedEngine::SharedEngine(std::function<void(QQmlEngine&)> prepare)
     : m_prepare(std::move(prepare)) {}
 
 std::shared_ptr<QQmlEngine> SharedEngine::acquire() {
-    if (auto engine = m_engine.lock()) return engine;
-    auto engine = std::make_shared<QQmlEngine>();
-    engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    auto engine = m_engine.lock();
+    if (!engine) {
+        engine = std::make_shared<QQmlEngine>();
+        engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+        m_engine = engine;
+    }
     if (m_prepare) m_prepare(*engine);
-    m_engine = engine;
     return engine;
 }
 

@@ -12,7 +12,7 @@ namespace vantle {
 /// shows a view keeps what acquire() gave until the view is destroyed. Main thread.
 class SharedEngine {
 public:
-    /// `prepare` runs once for each engine, before the first view is made from it.
+    /// `prepare` runs at each acquire(), before the view is made: for what views have to know.
     explicit SharedEngine(std::function<void(QQmlEngine&)> prepare = {});
 
     [[nodiscard]] std::shared_ptr<QQmlEngine> acquire();

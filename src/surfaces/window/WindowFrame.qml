@@ -22,21 +22,11 @@ Item {
     implicitWidth: loader.implicitWidth
     implicitHeight: loader.implicitHeight + DarkUI.stripHeight
 
-    component StripButton: DarkIconButton {
-        implicitWidth: DarkUI.stripButton
-        implicitHeight: DarkUI.stripButton
-        radius: DarkUI.stripButton / 2
-        iconSize: DarkUI.space12
-        iconColor: DarkUI.iconStrip
-        fillHover: DarkUI.stripHover
-    }
-
     Component.onCompleted: loader.setSource(frame.view, { "model": frame.model })
 
-    Rectangle {
+    DarkWindowGlass {
         anchors.fill: parent
-        radius: frame.rounded ? DarkUI.radiusWindow : 0
-        color: DarkUI.base
+        composited: frame.rounded
     }
 
     // Any empty place moves the window.
@@ -72,40 +62,11 @@ Item {
         }
     }
 
-    DarkText {
-        anchors.horizontalCenter: parent.horizontalCenter
-        height: DarkUI.stripHeight
-        verticalAlignment: Text.AlignVCenter
-        text: frame.title
-        role: DarkUI.bodyMedium
-        color: DarkUI.t2
-    }
-
-    Row {
-        anchors.right: parent.right
-        anchors.rightMargin: DarkUI.space8
-        y: DarkUI.space6
-        spacing: DarkUI.space4
-
-        StripButton {
-            name: qsTr("Minimise")
-            icon: "minimise"
-            onClicked: frame.shell.minimise()
-        }
-
-        StripButton {
-            name: qsTr("Close")
-            icon: "close"
-            onClicked: frame.shell.requestClose()
-        }
-    }
-
-    Rectangle {
-        anchors.fill: parent
-        radius: frame.rounded ? DarkUI.radiusWindow : 0
-        color: "transparent"
-        border.width: DarkUI.hairlineWidth
-        border.color: DarkUI.windowEdge
+    DarkTopStrip {
+        width: parent.width
+        title: frame.title
+        onMinimiseRequested: frame.shell.minimise()
+        onCloseRequested: frame.shell.requestClose()
     }
 
     ResizeEdges {

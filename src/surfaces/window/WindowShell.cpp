@@ -32,6 +32,7 @@ bool WindowShell::load(const WindowRules& rules, const QUrl& view, std::unique_p
          {QStringLiteral("view"), view},
          {QStringLiteral("model"), QVariant::fromValue(m_model.get())}})));
     if (!m_frame) return false;
+    m_frame->setParent(this);
     m_frame->setParentItem(contentItem());
     const auto changed = [this] { Q_EMIT fittingSizeChanged(); };
     connect(m_frame.get(), &QQuickItem::implicitWidthChanged, this, changed);

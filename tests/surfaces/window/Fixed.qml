@@ -6,7 +6,7 @@ FocusScope {
     required property QtObject model
 
     implicitWidth: 200
-    implicitHeight: view.model["tall"] === true ? 2000 : 100
+    implicitHeight: view.model.objectName === "tall" ? 2000 : 100
 
     TextInput {
         objectName: "field"
