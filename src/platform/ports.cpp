@@ -5,6 +5,7 @@
 #include "platform/IdleSource.h"
 #include "platform/LanguageModel.h"
 #include "platform/PanelHost.h"
+#include "platform/PointerPresses.h"
 #include "platform/Preferences.h"
 #include "platform/ProcessRunner.h"
 #include "platform/ReducedMotion.h"

@@ -1,0 +1,21 @@
+// A pointer in the hand of the test.
+#pragma once
+
+#include "platform/PointerPresses.h"
+
+namespace vantle::fakes {
+
+class FakePointerPresses final : public PointerPresses {
+public:
+    void watch() override { watched = true; }
+    void ignore() override { watched = false; }
+
+    /// The person presses there; told only while somebody watches.
+    void press(QPoint place) {
+        if (watched) Q_EMIT pressed(place);
+    }
+
+    bool watched = false;
+};
+
+} // namespace vantle::fakes
