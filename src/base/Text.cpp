@@ -55,7 +55,7 @@ constexpr std::array<bool, kAsciiEnd> kIsInAsciiWord = [] {
     for (const std::string_view units :
          {"0123456789", "ABCDEFGHIJKLMNOPQRSTUVWXYZ", "abcdefghijklmnopqrstuvwxyz"})
         for (const char unit : units)
-            isIn[static_cast<std::size_t>(unit)] = true;
+            isIn[static_cast<unsigned char>(unit)] = true;
     return isIn;
 }();
 
