@@ -10,6 +10,7 @@ FocusScope {
     property Item list: group
     property int current: 0 // the stop that Tab leads to
     property bool wraps: false
+    signal moved(int index) // by an arrow key
 
     function stops() {
         const found = [];
@@ -20,13 +21,18 @@ FocusScope {
         }
         return found;
     }
-    // Only one of them is in the order of the Tab key.
+    // Only one of them is in the order of the Tab key. It comes first: the one that has the focus
+    // can't leave that order.
     function refresh(): void {
         const all = stops();
         current = Math.max(0, Math.min(current, all.length - 1));
+        if (all.length === 0)
+            return;
+        all[current].activeFocusOnTab = true;
+        all[current].focus = true;
         for (let i = 0; i < all.length; ++i) {
-            all[i].activeFocusOnTab = i === current;
-            all[i].focus = i === current;
+            if (i !== current)
+                all[i].activeFocusOnTab = false;
         }
     }
     function goTo(index: int): void {
@@ -35,9 +41,10 @@ FocusScope {
                            : Math.max(0, Math.min(index, all.length - 1));
         if (goal === current || !all[goal])
             return;
+        all[goal].focusByKeyboard();
         current = goal;
         refresh();
-        all[goal].focusByKeyboard();
+        moved(goal);
     }
 
     Accessible.role: Accessible.Grouping

@@ -38,13 +38,12 @@ KitPressable {
         pressed: chip.pressed
     }
 
-    Rectangle {
+    FlatDot {
         x: chip.leading
         anchors.verticalCenter: parent.verticalCenter
         visible: chip.hasDot && !chip.showsPlay
         width: DarkUI.chipDot
         height: DarkUI.chipDot
-        radius: width / 2
         color: chip.dotColor
     }
 

@@ -12,7 +12,7 @@ Plate {
     property color accent: DarkUI.accent
     default property alias content: inside.data
 
-    implicitHeight: Math.max(minHeight, inside.childrenRect.height)
+    implicitHeight: minHeight
     radius: DarkUI.radiusButton
     color: focused ? DarkUI.wellFocused : DarkUI.well
     edge: wrong ? DarkUI.danger : focused ? accent : DarkUI.hairline

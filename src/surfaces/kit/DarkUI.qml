@@ -254,29 +254,29 @@ QtObject {
     readonly property SpringToken springGrow: SpringToken { stiffness: 157.9; damping: 20.1 }
     readonly property int pageSlide: 56 // px
     readonly property int cascadeRise: 14 // px
-    readonly property int cascadeDelay: Motion.time(50)
-    readonly property int cascadeStep: Motion.time(75)
+    readonly property int cascadeDelay: 50 * Motion.pace
+    readonly property int cascadeStep: 75 * Motion.pace
     readonly property real slamFrom: 1.12 // scale
     readonly property real popFrom: 0.4 // scale
-    readonly property int popStep: Motion.time(70)
-    readonly property int growStep: Motion.time(60)
+    readonly property int popStep: 70 * Motion.pace
+    readonly property int growStep: 60 * Motion.pace
 
     // With reduced motion all times are 0 but those of plain fades, which say so.
-    readonly property int hoverTime: Motion.time(120)
+    readonly property int hoverTime: 120 * Motion.pace
     readonly property int helpDelay: 600 // until a resting pointer is told what a control does
-    readonly property int pressTime: Motion.time(80)
-    readonly property int switchTime: Motion.time(160)
-    readonly property int segmentTime: Motion.time(180)
+    readonly property int pressTime: 80 * Motion.pace
+    readonly property int switchTime: 160 * Motion.pace
+    readonly property int segmentTime: 180 * Motion.pace
     readonly property int cardInTime: Motion.reduced ? crossFadeTime : 180
     readonly property int cardOutTime: Motion.reduced ? crossFadeTime : 140
     readonly property int cardRise: Motion.reduced ? 0 : 6 // px, downwards
     readonly property int toastInTime: 220 // fades in any case
     readonly property int toastOutTime: 350
-    readonly property int toastMoveTime: Motion.time(180)
-    readonly property int capsuleCloseTime: Motion.time(220)
-    readonly property int capsuleRowTime: Motion.time(300)
-    readonly property int capsuleRowDelay: Motion.time(100)
-    readonly property int capsuleRowOutTime: Motion.time(140)
+    readonly property int toastMoveTime: 180 * Motion.pace
+    readonly property int capsuleCloseTime: 220 * Motion.pace
+    readonly property int capsuleRowTime: 300 * Motion.pace
+    readonly property int capsuleRowDelay: 100 * Motion.pace
+    readonly property int capsuleRowOutTime: 140 * Motion.pace
     readonly property int clockDotTime: 1100 // each way; runs only while Motion.reduced is false
     readonly property real clockDotOpacity: 0.45
     readonly property real clockDotScale: 0.7
@@ -285,15 +285,15 @@ QtObject {
     readonly property real invitationHaloOpacity: 0.16
     readonly property int invitationGlow: 22 // px
     readonly property real invitationGlowOpacity: 0.30
-    readonly property int pulseOnTime: Motion.time(300)
-    readonly property int pulseOffTime: Motion.time(450)
+    readonly property int pulseOnTime: 300 * Motion.pace
+    readonly property int pulseOffTime: 450 * Motion.pace
     readonly property real pulseScale: 1.025
     readonly property int pulseGlow: 24 // px
     readonly property real pulseGlowOpacity: 0.5
-    readonly property int tileTime: Motion.time(600)
-    readonly property int tileDelay: Motion.time(200)
-    readonly property int tileStep: Motion.time(50)
-    readonly property int countUpTime: Motion.time(800)
+    readonly property int tileTime: 600 * Motion.pace
+    readonly property int tileDelay: 200 * Motion.pace
+    readonly property int tileStep: 50 * Motion.pace
+    readonly property int countUpTime: 800 * Motion.pace
     readonly property int stageFadeTime: Motion.reduced ? crossFadeTime : 200
     readonly property int crossFadeTime: 120 // what pages and cards do instead of moving
     readonly property int scrollbarHold: 800

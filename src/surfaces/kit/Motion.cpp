@@ -31,8 +31,6 @@ void Motion::setReduced(bool reduced) {
     Q_EMIT reducedChanged();
 }
 
-int Motion::time(int milliseconds) const { return m_reduced ? 0 : milliseconds; }
-
 double Motion::springAt(double stiffness, double damping, double milliseconds) {
     return Spring{stiffness, damping}.progressAt(milliseconds * kMillisecond);
 }

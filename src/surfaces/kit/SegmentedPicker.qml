@@ -20,6 +20,9 @@ ArrowGroup {
     list: segments
     current: currentIndex
 
+    // The arrow keys choose as they go.
+    onMoved: index => activated(index)
+
     Accessible.role: Accessible.PageTabList
     Accessible.name: name
 
@@ -68,8 +71,6 @@ ArrowGroup {
                 Accessible.checkable: true
                 Accessible.checked: chosen
                 onClicked: picker.activated(index)
-                // The arrow keys choose as they go, as in every such picker.
-                onKeyboardFocusChanged: if (keyboardFocus && !chosen) picker.activated(index)
 
                 DarkText {
                     anchors.centerIn: parent

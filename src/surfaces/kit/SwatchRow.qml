@@ -17,6 +17,7 @@ ArrowGroup {
     implicitHeight: DarkUI.swatchCell
     list: cells
     current: Math.max(currentIndex, 0)
+    onMoved: index => activated(index) // the arrow keys choose as they go
 
     Item {
         id: cells
@@ -39,7 +40,6 @@ ArrowGroup {
                 Accessible.checkable: true
                 Accessible.checked: chosen
                 onClicked: row.activated(index)
-                onKeyboardFocusChanged: if (keyboardFocus && !chosen) row.activated(index)
 
                 Rectangle {
                     anchors.centerIn: parent
