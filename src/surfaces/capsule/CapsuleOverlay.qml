@@ -12,9 +12,13 @@ FocusScope {
     required property bool composited
 
     readonly property bool hasMenu: capsule.menuSkillId !== ""
-    readonly property Item shown: (hasMenu ? menu.item : editor.item) as Item
+    property Item shown: null
     readonly property rect anchor: capsule.overlayAnchor
 
+    function present(item: Item): void {
+        shown = item;
+        item.forceActiveFocus(Qt.PopupFocusReason);
+    }
     function clamped(left: real, wide: real): real {
         const margin = CapsuleTokens.overlayMargin;
         return Math.round(Math.max(margin, Math.min(left, width - wide - margin)));
@@ -35,14 +39,17 @@ FocusScope {
         onPressed: overlay.capsule.dismissOverlay()
     }
 
-    Loader {
-        id: menu
-        active: overlay.hasMenu
-        focus: active
-        onLoaded: item.forceActiveFocus(Qt.PopupFocusReason)
-        sourceComponent: ChipMenu {
+    // Repeaters of one: a Loader can't make bound components with Qt 6.4.
+    Repeater {
+        model: overlay.hasMenu ? 1 : 0
+        onItemAdded: (index, item) => overlay.present(item)
+        onItemRemoved: overlay.shown = null
+
+        ChipMenu {
             x: overlay.clamped(overlay.anchor.x, width)
             y: overlay.anchor.y + overlay.anchor.height + DarkUI.space4
+            width: implicitWidth
+            height: implicitHeight
             skillName: overlay.capsule.menuSkillName
             shadowed: overlay.composited
             onRenameRequested: overlay.capsule.chipRequestsRename()
@@ -52,18 +59,19 @@ FocusScope {
         }
     }
 
-    Loader {
-        id: editor
-        active: overlay.capsule.editor !== null
-        focus: active
-        onLoaded: item.forceActiveFocus(Qt.PopupFocusReason)
-        sourceComponent: SkillPopoverView {
+    Repeater {
+        model: overlay.capsule.editor ? [overlay.capsule.editor] : []
+        onItemAdded: (index, item) => overlay.present(item)
+        onItemRemoved: overlay.shown = null
+
+        SkillPopoverView {
+            required property SkillPopoverEditor modelData
             readonly property real middle: overlay.anchor.x + overlay.anchor.width / 2
 
             x: overlay.clamped(middle - width / 2, width)
             y: overlay.anchor.y + overlay.anchor.height + CapsuleTokens.popoverGap + arrowHeight
             arrowX: middle - x
-            editor: overlay.capsule.editor
+            editor: modelData
         }
     }
 }

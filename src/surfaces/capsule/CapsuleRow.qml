@@ -12,13 +12,13 @@ Item {
 
     readonly property color tint: Tint.fromHex(capsule.skillHex)
 
-    Rectangle {
+    FlatDot {
         id: dot
         x: CapsuleTokens.inset
         y: CapsuleTokens.dotTop
         width: DarkUI.chipDot
         height: DarkUI.chipDot
-        radius: width / 2
+        antialiasing: true
         color: row.tint
         opacity: row.capsule.paused ? CapsuleTokens.pausedDot : 1
 

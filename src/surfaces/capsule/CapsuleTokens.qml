@@ -31,6 +31,6 @@ QtObject {
     readonly property int dotDelay: 400 // ms before the dot begins to breathe
     readonly property int fadeTime: 280 // ms, of a capsule that goes
 
-    readonly property real overlayMargin: 8 // from the sides of the window
+    readonly property real overlayMargin: 44 // from the sides of the window, for the shadow
     readonly property real popoverGap: 2 // between what it belongs to and its arrow
 }

@@ -107,7 +107,7 @@ void NotchCapsule::retire() {
     m_tickTimer.reset();
     if (m_form.tracker) m_form.tracker->disconnect(this);
     if (!m_editor && m_menuSkillId.isEmpty()) return;
-    m_editor.reset();
+    const auto closing = std::move(m_editor); // outlives the view that shows it
     m_menuSkillId.clear();
     Q_EMIT overlayChanged();
     if (m_stage != nullptr) m_stage->returnKeyboard();

@@ -86,7 +86,7 @@ void NotchCapsule::closeMenu() {
 
 void NotchCapsule::closeEditor() {
     if (!m_editor) return;
-    m_editor.reset();
+    const auto closing = std::move(m_editor); // outlives the view that shows it
     Q_EMIT overlayChanged();
     if (m_stage != nullptr) m_stage->returnKeyboard();
     m_opening.popCollapseSuspend();

@@ -31,6 +31,14 @@ DarkPopover {
     Keys.onReturnPressed: editor.commit()
     Keys.onEnterPressed: editor.commit()
 
+    // The names of the chips below would show through.
+    Rectangle {
+        anchors.fill: parent
+        z: -1
+        radius: DarkUI.radiusWindow
+        color: DarkUI.base
+    }
+
     DarkText {
         x: DarkUI.space16
         y: popover.titleTop
@@ -62,7 +70,7 @@ DarkPopover {
         width: parent.width - 2 * DarkUI.space16
         visible: popover.editor.hasName
         focus: popover.editor.hasName
-        minHeight: DarkUI.popoverFieldHeight
+        height: DarkUI.popoverFieldHeight
         padding: DarkUI.space10
         limit: popover.editor.maxNameLength
         name: qsTr("Skill name")

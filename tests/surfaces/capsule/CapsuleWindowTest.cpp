@@ -1,0 +1,287 @@
+// The views of the capsule in a window, worked by pointer and keys.
+#include "surfaces/capsule/CapsuleWindow.h"
+
+#include "CapsuleWorld.h"
+#include "fakes/FakePanelHost.h"
+#include "support/QtPrinters.h"
+#include "surfaces/kit/Motion.h"
+
+#include <QAccessible>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointingDevice>
+#include <QQmlEngine>
+#include <QQuickItem>
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+namespace vantle::tests {
+namespace {
+
+QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+
+class CapsuleWindowTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        engine = new QQmlEngine; // reads the views once for all tests
+        engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+        Motion::of(*engine)->setReduced(true); // all is where it belongs at once
+    }
+    static void TearDownTestSuite() { delete std::exchange(engine, nullptr); }
+
+    CapsuleWindowTest() {
+        QObject::connect(engine, &QQmlEngine::warnings, &context,
+                         [this](const QList<QQmlError>& errors) {
+                             for (const QQmlError& error : errors)
+                                 warnings << error.toString();
+                         });
+    }
+    ~CapsuleWindowTest() override {
+        window.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(warnings, QStringList());
+    }
+
+    void raise(NotchCapsule::Form form) {
+        auto capsule = std::make_unique<NotchCapsule>(world.environment(), std::move(form),
+                                                      world.screens.shapes.front());
+        const QRectF frame = capsule::panelFrame(capsule->metrics(), world.screens.shapes.front());
+        window = CapsuleWindow::raise(std::move(capsule), frame, *engine, host);
+        ASSERT_TRUE(window);
+        window->capsule().expand();
+        settle();
+    }
+    void raiseIdle() { raise(world.idleForm()); }
+
+    /// Lets the views catch up, and what was put off run.
+    void settle() {
+        world.tracking.time.settle();
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    void mouse(QEvent::Type type, QPointF place, Qt::MouseButton button, Qt::MouseButtons held) {
+        QMouseEvent event(type, place, window->panel().mapToGlobal(place), button, held,
+                          Qt::NoModifier, QPointingDevice::primaryPointingDevice());
+        QCoreApplication::sendEvent(&window->panel(), &event);
+    }
+    void moveTo(QPointF place) {
+        mouse(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton);
+        settle();
+    }
+    void click(QPointF place, Qt::MouseButton button = Qt::LeftButton) {
+        moveTo(place);
+        mouse(QEvent::MouseButtonPress, place, button, button);
+        mouse(QEvent::MouseButtonRelease, place, button, Qt::NoButton);
+        settle();
+    }
+    void press(int key, const QString& typed = {}) {
+        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, key, Qt::NoModifier, typed);
+            QCoreApplication::sendEvent(&window->panel(), &event);
+        }
+        settle();
+    }
+    void type(const QString& words) {
+        for (const QChar letter : words)
+            press(0, letter);
+    }
+
+    /// The visible item that is read out as that; null when there is none.
+    [[nodiscard]] QQuickItem* item(const QString& name) const {
+        return find(window->panel().contentItem(), name);
+    }
+    [[nodiscard]] QPointF middleOf(const QString& name) const {
+        const QQuickItem* const found = item(name);
+        EXPECT_NE(found, nullptr) << name.toStdString();
+        return found == nullptr
+                   ? QPointF()
+                   : found->mapToScene(QPointF(found->width() / 2, found->height() / 2));
+    }
+
+    CapsuleWorld world;
+    fakes::FakePanelHost host;
+    static inline QQmlEngine* engine = nullptr;
+    QObject context;
+    QStringList warnings;
+    std::unique_ptr<CapsuleWindow> window;
+
+private:
+    static QQuickItem* find(QQuickItem* root, const QString& name) {
+        if (!root->isVisible()) return nullptr;
+        if (auto* const access = QAccessible::queryAccessibleInterface(root);
+            access != nullptr && access->text(QAccessible::Name) == name)
+            return root;
+        for (QQuickItem* const child : root->childItems())
+            if (QQuickItem* const found = find(child, name)) return found;
+        return nullptr;
+    }
+};
+
+TEST_F(CapsuleWindowTest, TheWindowFollowsTheCapsuleInWhatFeelsThePointer) {
+    raiseIdle();
+    EXPECT_EQ(window->panel().geometry(), QRect(451, 0, 538, 219));
+    EXPECT_EQ(host.inputRegion, QRegion(window->capsule().openFrame().toRect()));
+    window->capsule().collapse();
+    EXPECT_EQ(host.inputRegion, QRegion(154, 0, 230, 10));
+}
+
+TEST_F(CapsuleWindowTest, AClickOnAChipPicksItsSkillAndOneBesideItStarts) {
+    raiseIdle();
+    click(middleOf(text("Design")));
+    EXPECT_EQ(world.calls, QStringList(text("pick product_design")));
+    click({269, 30});
+    EXPECT_EQ(world.calls.size(), 2);
+    EXPECT_EQ(world.calls.last(), text("tap"));
+    click(middleOf(text("Start")));
+    EXPECT_EQ(world.calls.size(), 3);
+    EXPECT_EQ(world.calls.last(), text("tap"));
+}
+
+TEST_F(CapsuleWindowTest, HoveringAChipOfTheIdleFormShowsThePlaySign) {
+    raiseIdle();
+    QQuickItem* const chip = item(text("Design"));
+    ASSERT_NE(chip, nullptr);
+    EXPECT_FALSE(chip->property("showsPlay").toBool());
+    moveTo(middleOf(text("Design")));
+    EXPECT_TRUE(chip->property("showsPlay").toBool());
+    moveTo({269, 30});
+    EXPECT_FALSE(chip->property("showsPlay").toBool());
+}
+
+TEST_F(CapsuleWindowTest, ARunningChipShowsNoPlaySignAndHasNoMenu) {
+    ASSERT_TRUE(world.tracking.tracker.start(world.skills[0], 0));
+    raise(world.runningForm());
+    moveTo(middleOf(text("Design")));
+    EXPECT_FALSE(item(text("Design"))->property("showsPlay").toBool());
+    click(middleOf(text("Design")), Qt::RightButton);
+    EXPECT_EQ(item(text("Rename…")), nullptr);
+    EXPECT_TRUE(world.calls.isEmpty());
+}
+
+TEST_F(CapsuleWindowTest, ARightClickOpensTheMenuWithTheKeyboardAndEscapeClosesIt) {
+    raiseIdle();
+    click(middleOf(text("Design")), Qt::RightButton);
+    EXPECT_NE(item(text("Rename…")), nullptr);
+    EXPECT_NE(item(text("Change color…")), nullptr);
+    EXPECT_NE(item(text("Delete Design")), nullptr);
+    EXPECT_EQ(host.keyboardOwner, &window->panel());
+    const QQuickItem* const row = item(text("Delete Design"));
+    const QPointF corner = row->mapToScene(QPointF(row->width(), row->height()));
+    EXPECT_TRUE(host.inputRegion.contains((corner - QPointF(2, 2)).toPoint()));
+    EXPECT_GT(window->panel().height(), corner.y());
+    press(Qt::Key_Escape);
+    EXPECT_EQ(item(text("Rename…")), nullptr);
+    EXPECT_EQ(host.keyboardOwner, nullptr);
+    EXPECT_TRUE(world.calls.isEmpty());
+    EXPECT_EQ(window->capsule().collapseSuspendCount(), 0);
+}
+
+TEST_F(CapsuleWindowTest, APressBesideTheMenuClosesItAndDoesNothingElse) {
+    raiseIdle();
+    click(middleOf(text("Design")), Qt::RightButton);
+    click({269, 30});
+    EXPECT_EQ(item(text("Rename…")), nullptr);
+    EXPECT_TRUE(world.calls.isEmpty());
+}
+
+TEST_F(CapsuleWindowTest, TheMenuWorksByKeysAlone) {
+    raiseIdle();
+    click(middleOf(text("Design")), Qt::RightButton);
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    ASSERT_NE(window->capsule().editor(), nullptr);
+    EXPECT_EQ(window->capsule().editor()->mode(), SkillPopoverEditor::Mode::Recolor);
+}
+
+TEST_F(CapsuleWindowTest, DeletingFromTheMenuReachesTheModel) {
+    raiseIdle();
+    click(middleOf(text("Design")), Qt::RightButton);
+    click(middleOf(text("Delete Design")));
+    EXPECT_EQ(world.calls, QStringList(text("delete product_design")));
+}
+
+TEST_F(CapsuleWindowTest, ANewNameIsTypedOverTheOldOneAndReturnSavesIt) {
+    raiseIdle();
+    click(middleOf(text("Design")), Qt::RightButton);
+    click(middleOf(text("Rename…")));
+    EXPECT_EQ(host.keyboardOwner, &window->panel());
+    ASSERT_NE(item(text("Skill name")), nullptr);
+    EXPECT_NE(item(text("Rename skill")), nullptr);
+    type(text("Sketching"));
+    press(Qt::Key_Return);
+    EXPECT_EQ(world.calls, QStringList(text("update product_design Sketching bf5af2")));
+    EXPECT_EQ(item(text("Skill name")), nullptr);
+    EXPECT_EQ(host.keyboardOwner, nullptr);
+}
+
+TEST_F(CapsuleWindowTest, EscapeInTheFieldLeavesTheNameAsItWas) {
+    raiseIdle();
+    click(middleOf(text("Design")), Qt::RightButton);
+    click(middleOf(text("Rename…")));
+    type(text("Sketching"));
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(world.calls.isEmpty());
+    EXPECT_EQ(window->capsule().editor(), nullptr);
+}
+
+TEST_F(CapsuleWindowTest, ANameOfBlanksKeepsTheButtonDisabledAndReturnDoesNothing) {
+    raiseIdle();
+    click(middleOf(text("New skill")));
+    ASSERT_NE(item(text("Create skill")), nullptr);
+    EXPECT_FALSE(item(text("Create skill"))->isEnabled());
+    type(text("   "));
+    EXPECT_FALSE(item(text("Create skill"))->isEnabled());
+    press(Qt::Key_Return);
+    EXPECT_NE(window->capsule().editor(), nullptr);
+    EXPECT_TRUE(world.calls.isEmpty());
+}
+
+TEST_F(CapsuleWindowTest, TheTwentyFirstCharacterIsCutAsItIsTypedWithTheCaretAtTheEnd) {
+    raiseIdle();
+    click(middleOf(text("New skill")));
+    type(text("abcdefghijklmnopqrst"));
+    EXPECT_EQ(window->capsule().editor()->name(), text("abcdefghijklmnopqrst"));
+    type(text("u"));
+    EXPECT_EQ(window->capsule().editor()->name(), text("abcdefghijklmnopqrst"));
+    press(Qt::Key_Backspace);
+    type(text("z"));
+    EXPECT_EQ(window->capsule().editor()->name(), text("abcdefghijklmnopqrsz"));
+}
+
+TEST_F(CapsuleWindowTest, ANewSkillTakesTheColourThatWasClicked) {
+    raiseIdle();
+    click(middleOf(text("New skill")));
+    type(text("Writing"));
+    click(middleOf(text("#ffd60a")));
+    click(middleOf(text("Create skill")));
+    EXPECT_EQ(world.calls, QStringList(text("add Writing ffd60a")));
+}
+
+TEST_F(CapsuleWindowTest, WhoeverClicksAnotherWindowHasTurnedAwayFromTheEditor) {
+    raiseIdle();
+    click(middleOf(text("New skill")));
+    Q_EMIT window->panel().keyboardLost();
+    settle();
+    EXPECT_EQ(window->capsule().editor(), nullptr);
+}
+
+TEST_F(CapsuleWindowTest, ACapsuleThatGoesWhileItIsClickedGoesQuietly) {
+    auto form = world.idleForm();
+    form.onPick = [this](const QString&) { window.reset(); };
+    raise(std::move(form));
+    const QPointF place = middleOf(text("Design"));
+    QPointer<FloatingPanel> panel(&window->panel());
+    mouse(QEvent::MouseButtonPress, place, Qt::LeftButton, Qt::LeftButton);
+    mouse(QEvent::MouseButtonRelease, place, Qt::LeftButton, Qt::NoButton);
+    EXPECT_EQ(window, nullptr);
+    settle();
+    EXPECT_TRUE(panel.isNull());
+}
+
+} // namespace
+} // namespace vantle::tests
