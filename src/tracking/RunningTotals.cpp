@@ -30,15 +30,33 @@ void DotTally::add(const Session& session) {
     const std::int64_t finished = m_carry / kHour;
     if (finished == 0) return;
     m_carry %= kHour;
-    if (!m_runs.empty() && m_runs.back().skill.id == session.skillId)
+    const std::size_t skill = placeOf(session.skillId);
+    if (!m_runs.empty() && m_runs.back().skill == skill)
         m_runs.back().count += finished;
     else
-        m_runs.push_back({shown(session.skillId), finished});
+        m_runs.push_back({skill, finished});
 }
 
-const Skill& DotTally::shown(const QString& id) {
-    const auto found = std::ranges::find(m_known, id, &Skill::id);
-    return found != m_known.end() ? *found : m_known.emplace_back(SkillList::display(id, m_skills));
+std::vector<DotRun> DotTally::runs(const std::vector<Skill>& skills) const {
+    std::vector<Skill> shown;
+    for (const QString& id : m_ids)
+        shown.push_back(SkillList::display(id, skills));
+    std::vector<DotRun> runs;
+    runs.reserve(m_runs.size());
+    for (const Run& run : m_runs)
+        runs.push_back({shown[run.skill], run.count});
+    return runs;
+}
+
+std::size_t DotTally::placeOf(const QString& skillId) {
+    // Records of a log share the texts of their skills, so the address mostly tells.
+    const auto found = std::ranges::find_if(m_ids, [&](const QString& id) {
+        return id.size() == skillId.size() &&
+               (id.constData() == skillId.constData() || id == skillId);
+    });
+    if (found != m_ids.end()) return static_cast<std::size_t>(found - m_ids.begin());
+    m_ids.push_back(skillId);
+    return m_ids.size() - 1;
 }
 
 } // namespace vantle::totals

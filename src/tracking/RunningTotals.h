@@ -33,21 +33,23 @@ private:
 
 class DotTally {
 public:
-    /// The list gives names and colours, and must outlive the tally.
-    explicit DotTally(const std::vector<Skill>& skills) : m_skills(skills) {}
-
     void add(const Session& session);
 
-    [[nodiscard]] std::vector<DotRun> takeRuns() { return std::move(m_runs); }
+    /// The wall so far; `skills` gives names and colours.
+    [[nodiscard]] std::vector<DotRun> runs(const std::vector<Skill>& skills) const;
 
 private:
-    [[nodiscard]] const Skill& shown(const QString& id);
+    /// A run by the place of its skill in `m_ids`: a few numbers for each of very many.
+    struct Run {
+        std::size_t skill = 0;
+        std::int64_t count = 0;
+    };
 
-    const std::vector<Skill>& m_skills;
-    std::vector<Skill>
-        m_known; ///< to find out how to show a deleted skill costs more than the rest
-    std::int64_t m_carry = 0;
-    std::vector<DotRun> m_runs;
+    [[nodiscard]] std::size_t placeOf(const QString& skillId);
+
+    std::vector<QString> m_ids;
+    std::vector<Run> m_runs;
+    std::int64_t m_carry = 0; ///< seconds short of an hour
 };
 
 } // namespace vantle::totals

@@ -67,10 +67,10 @@ std::vector<Badge> badges(const std::vector<Session>& sessions, Date now) {
 
 std::vector<DotRun> hourDotRuns(const std::vector<Session>& sessions, Date now,
                                 const std::vector<Skill>& skills) {
-    DotTally tally(skills);
+    DotTally tally;
     for (const Session& session : sessions)
         if (TrackerCore::countsInTotals(session, now)) tally.add(session);
-    return tally.takeRuns();
+    return tally.runs(skills);
 }
 
 std::vector<Skill> hourDots(const std::vector<Session>& sessions, Date now,

@@ -73,7 +73,7 @@ void addRecords(WrappedStats& stats, SessionRefs sessions, const std::vector<Ski
     std::int64_t tracked = 0;
     std::int64_t manual = 0;
     const Session* longest = nullptr;
-    totals::DotTally dots(skills);
+    totals::DotTally dots;
     for (const Session* session : sessions) {
         (session->source == sourceManual() ? manual : tracked) += session->activeSeconds;
         if (!session->note.isEmpty()) ++stats.notedSessionCount;
@@ -85,7 +85,7 @@ void addRecords(WrappedStats& stats, SessionRefs sessions, const std::vector<Ski
     stats.verifiedHours = asHours(tracked);
     stats.manualHours = asHours(manual);
     if (longest) stats.longest = *longest;
-    stats.hourDots = dots.takeRuns();
+    stats.hourDots = dots.runs(skills);
 }
 
 void addSkillHours(WrappedStats& stats, const DayLedger& days, const SkillNumbers& numbers,
