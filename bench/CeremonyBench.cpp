@@ -53,7 +53,7 @@ class Fastest {
 public:
     template <typename Work>
     void time(Work work) {
-        m_seconds = std::min(m_seconds, secondsFor(work));
+        m_seconds = std::min(m_seconds, processorSecondsFor(work));
     }
     [[nodiscard]] double seconds() const { return m_seconds; }
 
@@ -108,14 +108,9 @@ void worstFrame(benchmark::State& state, CeremonyVariant variant, const Goal& go
 }
 
 void construction(benchmark::State& state, CeremonyVariant variant, const Goal& goal) {
-    Fastest ours;
-    Fastest bound;
-    for (auto _ : state) {
-        ours.time([&] { benchmark::DoNotOptimize(rendererOf(variant).fieldBuffer().data()); });
-        bound.time(clearFrame);
-        state.SetIterationTime(ours.seconds());
-    }
-    report(state, ours.seconds(), bound.seconds(), goal);
+    compareComputing(
+        state, goal, [&] { benchmark::DoNotOptimize(rendererOf(variant).fieldBuffer().data()); },
+        clearFrame);
 }
 
 template <typename Function>

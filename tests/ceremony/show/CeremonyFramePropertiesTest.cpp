@@ -32,8 +32,7 @@ TEST(GuardedHeap, NoticesAByteBesideABlock) {
     const auto before = guardedheap::damagedBlocks();
     const auto requests = guardedheap::allocations();
     auto block = std::make_unique<std::array<unsigned char, 10>>();
-    const volatile std::size_t beside = block->size(); // so that no compiler sees the mistake
-    block->data()[beside] = 1;
+    guardedheap::writeBehind(block.get(), block->size());
     block.reset();
     EXPECT_EQ(guardedheap::damagedBlocks(), before + 1);
     EXPECT_EQ(guardedheap::allocations(), requests + 1);

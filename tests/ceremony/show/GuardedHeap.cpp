@@ -58,4 +58,6 @@ namespace vantle::tests::guardedheap {
 std::int64_t allocations() { return allocationCount; }
 std::int64_t damagedBlocks() { return damageCount; }
 
+void writeBehind(void* block, std::size_t size) { static_cast<unsigned char*>(block)[size] = 1; }
+
 } // namespace vantle::tests::guardedheap
