@@ -1,0 +1,95 @@
+// Credits time before the present, as far as it is confirmed.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Item {
+    id: row
+
+    required property list<int> choices // minutes
+    signal chosen(int minutes)
+
+    implicitHeight: DarkUI.space12 + DarkUI.largeChipHeight
+
+    component BackfillChip: KitPressable {
+        id: chip
+
+        required property int minutes
+
+        implicitWidth: DarkUI.backfillChipWidth
+        implicitHeight: DarkUI.chipHeight
+        name: qsTr("%1 min").arg(minutes)
+        Accessible.description: question.Accessible.description
+        onClicked: row.chosen(minutes)
+
+        GlassChipBackground {
+            id: ground
+            anchors.fill: parent
+            hovering: chip.hovered
+            pressed: chip.pressed
+        }
+        DarkText {
+            anchors.centerIn: parent
+            text: chip.minutes
+            role: DarkUI.captionMedium
+            Accessible.ignored: true
+        }
+        FocusRing {
+            shown: chip.ringed
+            controlRadius: ground.radius
+        }
+    }
+
+    Item {
+        y: DarkUI.space12
+        width: parent.width
+        height: DarkUI.largeChipHeight
+
+        DarkText {
+            id: question
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("Started earlier?")
+            role: DarkUI.caption
+            color: DarkUI.t2
+            Accessible.description: qsTr("Credit time back, only if this Mac was really active.")
+        }
+
+        ArrowGroup {
+            id: group
+            anchors.right: unit.left
+            anchors.rightMargin: DarkUI.space8
+            anchors.verticalCenter: parent.verticalCenter
+            width: chips.width
+            height: DarkUI.chipHeight
+            list: chips
+            Accessible.name: question.text
+            Accessible.description: question.Accessible.description
+
+            Row {
+                id: chips
+                spacing: DarkUI.chipGap
+
+                Repeater {
+                    model: row.choices
+                    onItemAdded: group.refresh()
+                    onItemRemoved: group.refresh()
+
+                    BackfillChip {
+                        required property int modelData
+                        minutes: modelData
+                    }
+                }
+            }
+        }
+
+        DarkText {
+            id: unit
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("min")
+            role: DarkUI.caption
+            color: DarkUI.t3
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,259 @@
+// What the command center holds, from top to bottom: the state and the way in, the modes, the doors
+// to the windows, the way out.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.CommandCenter
+import Vantle.Kit
+
+FocusScope {
+    id: content
+
+    required property CommandCenterModel model
+    readonly property int margin: DarkUI.space20
+    readonly property int inner: width - 2 * margin
+
+    implicitWidth: DarkUI.commandCenterWidth
+    implicitHeight: column.implicitHeight
+
+    component SectionBreak: Item {
+        width: content.width
+        height: DarkUI.space16 + DarkUI.hairlineWidth + DarkUI.space14
+
+        DarkDivider {
+            y: DarkUI.space16
+            width: parent.width
+        }
+    }
+
+    component Gap: Item {
+        width: content.width
+    }
+
+    Column {
+        id: column
+        width: parent.width
+
+        Item {
+            x: content.margin
+            width: content.inner
+            height: headline.height + DarkUI.space2 + explanation.height + DarkUI.space18
+
+            DarkText {
+                id: headline
+                y: DarkUI.space18
+                width: parent.width - keycap.width - DarkUI.space12
+                text: content.model.title
+                role: DarkUI.panelTitle
+                elide: Text.ElideRight
+                Accessible.role: Accessible.Heading
+            }
+            DarkText {
+                id: explanation
+                anchors.top: headline.bottom
+                anchors.topMargin: DarkUI.space2
+                width: parent.width - keycap.width - DarkUI.space12
+                text: content.model.subtitle
+                role: DarkUI.caption
+                color: DarkUI.t2
+                elide: Text.ElideRight
+            }
+            Keycap {
+                id: keycap
+                anchors.right: parent.right
+                anchors.top: parent.top
+                anchors.topMargin: DarkUI.space18
+                text: content.model.shortcut
+            }
+        }
+
+        WrappedReadyRow {
+            x: content.margin
+            width: content.inner
+            visible: content.model.wrappedReady
+            onClicked: content.model.openLastWeek()
+        }
+
+        Gap {
+            height: DarkUI.space14
+        }
+
+        EnterButton {
+            id: enter
+            x: content.margin
+            width: content.inner
+            text: content.model.primaryText
+            accent: content.model.primaryColor
+            paused: content.model.paused
+            focus: true
+            onClicked: content.model.pressPrimary()
+        }
+
+        BackfillRow {
+            x: content.margin
+            width: content.inner
+            visible: content.model.backfillChoices.length > 0
+            choices: content.model.backfillChoices
+            onChosen: minutes => content.model.backfill(minutes)
+        }
+
+        DarkText {
+            x: content.margin
+            width: content.inner
+            visible: text !== ""
+            topPadding: DarkUI.space10
+            text: content.model.note
+            role: DarkUI.caption
+            color: DarkUI.t2
+            wrapMode: Text.Wrap
+            maximumLineCount: 3
+            elide: Text.ElideRight
+        }
+
+        SectionBreak {}
+
+        Item {
+            x: content.margin
+            width: content.inner
+            height: Math.max(choose.height, anytime.height)
+
+            DarkKicker {
+                id: choose
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("CHOOSE A MODE")
+            }
+            DarkText {
+                id: anytime
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("Switch anytime")
+                role: DarkUI.small
+                color: DarkUI.t3
+            }
+        }
+
+        Gap {
+            height: DarkUI.space12
+        }
+
+        ModeChips {
+            x: content.margin
+            width: content.inner
+            modes: content.model.modes
+            adding: content.model.editor.shown && content.model.editor.adding
+            onChosen: id => content.model.selectMode(id)
+            onEditWanted: id => content.model.editMode(id)
+            onDeleteWanted: id => content.model.deleteMode(id)
+            onAddWanted: content.model.addMode()
+        }
+
+        Gap {
+            visible: content.model.editor.shown
+            height: DarkUI.space14
+        }
+
+        ModeEditorView {
+            x: content.margin
+            width: content.inner
+            visible: content.model.editor.shown
+            editor: content.model.editor
+        }
+
+        SectionBreak {}
+
+        DarkKicker {
+            x: content.margin
+            text: qsTr("REVIEW")
+        }
+
+        Gap {
+            height: DarkUI.space6
+        }
+
+        NavRow {
+            x: content.margin - DarkUI.space10
+            width: content.inner + DarkUI.space20
+            title: qsTr("Dashboard")
+            shortcut: "⌘D"
+            keys: ["Ctrl+D", "Meta+D"]
+            onClicked: content.model.openDashboard()
+        }
+        NavRow {
+            x: content.margin - DarkUI.space10
+            width: content.inner + DarkUI.space20
+            title: qsTr("Wrapped")
+            onClicked: content.model.openWrapped()
+        }
+        NavRow {
+            x: content.margin - DarkUI.space10
+            width: content.inner + DarkUI.space20
+            title: qsTr("Notes")
+            onClicked: content.model.openNotes()
+        }
+        NavRow {
+            x: content.margin - DarkUI.space10
+            width: content.inner + DarkUI.space20
+            title: qsTr("Settings")
+            shortcut: "⌘,"
+            keys: ["Ctrl+,", "Meta+,"]
+            onClicked: content.model.openSettings()
+        }
+
+        Gap {
+            height: DarkUI.space10
+        }
+
+        DarkDivider {
+            width: content.width
+        }
+
+        Item {
+            x: content.margin
+            width: content.inner
+            height: DarkUI.space44
+
+            DarkText {
+                anchors.left: parent.left
+                anchors.right: quit.left
+                anchors.rightMargin: DarkUI.space12
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("Your focus history stays private on this Mac")
+                role: DarkUI.small
+                color: DarkUI.t3
+                elide: Text.ElideRight
+            }
+            DarkText {
+                id: quitKeys
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                text: "⌘Q"
+                role: DarkUI.small
+                color: DarkUI.t3
+                Accessible.ignored: true
+            }
+            DarkTextButton {
+                id: quit
+                anchors.right: quitKeys.left
+                anchors.rightMargin: DarkUI.space8
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("Quit")
+                role: DarkUI.captionMedium
+                Accessible.description: qsTr("Quit Vantle (⌘Q)")
+                onClicked: content.model.quit()
+            }
+            Shortcut {
+                sequences: ["Ctrl+Q", "Meta+Q"]
+                onActivated: content.model.quit()
+            }
+        }
+    }
+
+    Component.onCompleted: if (content.model.takePrimaryPulse()) enter.pulse()
+
+    Connections {
+        target: content.model
+        function onPrimaryPulseWanted(): void {
+            if (content.model.takePrimaryPulse())
+                enter.pulse();
+        }
+    }
+}

@@ -1,0 +1,164 @@
+#include "surfaces/commandcenter/CommandCenterController.h"
+
+#include "app/AppModel.h"
+#include "platform/PointerPresses.h"
+#include "surfaces/panel/FloatingPanel.h"
+#include "surfaces/window/SharedEngine.h"
+#include "surfaces/window/WindowRouter.h"
+
+#include <QQmlEngine>
+#include <QQuickItem>
+
+namespace vantle {
+
+CommandCenterController::CommandCenterController(const Environment& environment)
+    : m_env(environment)
+    , m_content({m_env.model, m_env.skills, m_env.preferences, m_env.scheduler}, actions()) {
+    connect(&m_env.presses, &PointerPresses::pressed, this, &CommandCenterController::onPress);
+    connect(&m_env.screens, &Screens::changed, this, &CommandCenterController::repositionSoon);
+}
+
+CommandCenterController::~CommandCenterController() {
+    hide();
+    m_env.presses.ignore();
+    delete m_hidden; // its view looks at what goes with this
+}
+
+std::function<void()> CommandCenterController::afterHiding(void (WindowRouter::*open)()) {
+    return [this, open] {
+        hide();
+        (m_env.router.*open)();
+    };
+}
+
+CommandCenterActions CommandCenterController::actions() {
+    AppModel& model = m_env.model;
+    return {
+        .toggleVantle = [&model] { model.toggleVantle(); },
+        .selectSkill =
+            [&model](const QString& id) {
+                model.selectSkill(id, AppModel::SkillSelectionOrigin::Human);
+            },
+        .addSkill = [&model](const QString& name,
+                             std::uint32_t hexRGB) { model.addSkill(name, hexRGB); },
+        .updateSkill = [&model](const QString& id, const QString& name,
+                                std::uint32_t hexRGB) { model.updateSkill(id, name, hexRGB); },
+        .deleteSkill = [&model](const QString& id) { model.deleteSkill(id); },
+        .backfill = [&model](int minutes) { model.startWithBackfill(minutes); },
+        .openDashboard = afterHiding(&WindowRouter::showDashboard),
+        .openWrapped =
+            [this](std::optional<WrappedPeriod> period) {
+                hide();
+                m_env.router.showWrapped(period);
+            },
+        .openQuickLog = afterHiding(&WindowRouter::showQuickLog),
+        .openNotes = afterHiding(&WindowRouter::showLog),
+        .openSettings = afterHiding(&WindowRouter::showSettings),
+        .quit = [&model] { model.quit(); },
+        .relayout = [this] { repositionSoon(); },
+    };
+}
+
+void CommandCenterController::toggle(QPoint click) {
+    if (m_outside.takeClick(click, m_env.clock.now())) return;
+    if (isShown()) {
+        hide();
+        return;
+    }
+    m_click = click;
+    show();
+}
+
+void CommandCenterController::show() {
+    m_env.model.refreshPanelState();
+    if (!m_panel && !makePanel()) return;
+    reposition();
+    m_panel->takeKeyboard();
+    if (m_env.model.highlightStatusItem) m_env.model.highlightStatusItem(true);
+    m_env.presses.watch();
+}
+
+bool CommandCenterController::makePanel() {
+    auto engine = m_env.engine.acquire();
+    auto panel = std::make_unique<FloatingPanel>(*engine, m_env.host);
+    panel->setTitle(QStringLiteral("Vantle Command Center"));
+    m_content.setShown(true);
+    if (!panel->load(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/CommandCenter/CommandCenterView.qml")),
+                     {{QStringLiteral("model"), QVariant::fromValue(&m_content)},
+                      {QStringLiteral("composited"), m_env.host.isComposited()}})) {
+        m_content.setShown(false);
+        return false;
+    }
+    const QQuickItem* const view = panel->rootObject();
+    connect(view, &QQuickItem::implicitHeightChanged, this,
+            &CommandCenterController::repositionSoon);
+    connect(view, SIGNAL(dismissed()), this, SLOT(hide()));
+    connect(panel.get(), &FloatingPanel::keyboardLost, this,
+            &CommandCenterController::onKeyboardLost);
+    // The engine has to outlive the view.
+    connect(panel.get(), &QObject::destroyed, [engine] {});
+    m_panel = panel.release();
+    return true;
+}
+
+QRect CommandCenterController::itemGeometry() const {
+    return statusItemGeometry ? statusItemGeometry() : QRect();
+}
+
+void CommandCenterController::reposition() {
+    QQuickItem* const view = m_panel->rootObject();
+    const auto screens = m_env.screens.all();
+    const commandcenterplacement::Anchor anchor{itemGeometry(), m_click};
+    view->setProperty("maximumHeight", commandcenterplacement::maximumHeight(anchor, screens));
+    const QRect ground = view->property("groundRect").toRectF().toRect();
+    m_frame = commandcenterplacement::place(ground.size(), anchor, screens);
+    m_panel->setOpaqueRegion(ground);
+    m_panel->setInputRegion(ground);
+    const QSize size = QSizeF(view->implicitWidth(), view->implicitHeight()).toSize();
+    m_panel->showAt(QRect(m_frame.topLeft() - ground.topLeft(), size));
+}
+
+void CommandCenterController::repositionSoon() {
+    // A change of the content comes as several changes of its height.
+    if (m_repositionPosted || !isShown()) return;
+    m_repositionPosted = true;
+    m_env.scheduler.post([self = QPointer(this)] {
+        if (!self) return;
+        self->m_repositionPosted = false;
+        if (self->isShown()) self->reposition();
+    });
+}
+
+void CommandCenterController::onPress(QPoint place) {
+    if (!isShown()) {
+        m_outside.nextPress();
+        m_env.presses.ignore();
+        return;
+    }
+    // A press on the tray item is answered by toggle().
+    if (m_frame.contains(place) || itemGeometry().contains(place)) return;
+    hide();
+    m_outside.closedPanel(place, m_env.clock.now());
+    m_env.presses.watch(); // until the next press
+}
+
+void CommandCenterController::onKeyboardLost() {
+    // Later, since the press that took it may be on the tray item.
+    m_env.scheduler.post([self = QPointer(this)] {
+        if (self) self->hide();
+    });
+}
+
+void CommandCenterController::hide() {
+    if (!m_panel) return;
+    m_env.presses.ignore();
+    if (m_env.model.highlightStatusItem) m_env.model.highlightStatusItem(false);
+    FloatingPanel* const panel = std::exchange(m_panel, nullptr);
+    panel->disconnect(this);
+    panel->hide();
+    m_hidden = panel;
+    panel->deleteLater(); // it may be in the middle of an event of the person's
+    m_content.setShown(false);
+}
+
+} // namespace vantle

@@ -1,0 +1,128 @@
+#include "surfaces/commandcenter/CommandCenterModel.h"
+
+#include "app/AppModel.h"
+#include "tracking/DashFormat.h"
+#include "tracking/SkillList.h"
+
+namespace vantle {
+
+namespace {
+
+constexpr Seconds kSecond{1.0};
+constexpr Seconds kTolerance{0.1};
+
+} // namespace
+
+CommandCenterModel::CommandCenterModel(const Environment& environment, CommandCenterActions actions)
+    : m_env(environment)
+    , m_actions(std::move(actions))
+    , m_editor([this](const std::optional<QString>& id, const QString& name, std::uint32_t hexRGB) {
+        commitEdit(id, name, hexRGB);
+    }) {
+    follow();
+    refreshModes();
+    refreshStatus();
+}
+
+void CommandCenterModel::follow() {
+    AppModel& model = m_env.model;
+    TrackerCore& tracker = model.tracker();
+    connect(&tracker, &TrackerCore::stateChanged, this, &CommandCenterModel::refreshStatus);
+    connect(&tracker, &TrackerCore::currentSkillIdChanged, this,
+            &CommandCenterModel::refreshStatus);
+    connect(&tracker, &TrackerCore::welcomeBackChanged, this, &CommandCenterModel::refreshStatus);
+    connect(&model, &AppModel::selectedSkillIdChanged, this, [this] {
+        refreshModes();
+        refreshStatus();
+    });
+    connect(&model, &AppModel::skillsChanged, this, [this] {
+        refreshModes();
+        refreshStatus();
+    });
+    connect(&model, &AppModel::wrappedReadyChanged, this, &CommandCenterModel::wrappedReadyChanged);
+    connect(&model, &AppModel::backfillCoverageMinutesChanged, this,
+            &CommandCenterModel::backfillChoicesChanged);
+    connect(&model, &AppModel::lastActionNoteChanged, this, &CommandCenterModel::noteChanged);
+    connect(&model, &AppModel::pulsePrimaryOnceChanged, this, [this] {
+        if (m_env.model.pulsePrimaryOnce()) Q_EMIT primaryPulseWanted();
+    });
+    const auto relayout = [this] { m_actions.relayout(); };
+    connect(&m_editor, &ModeEditor::shownChanged, this, relayout);
+}
+
+void CommandCenterModel::setShown(bool shown) {
+    m_shown = shown;
+    refreshStatus();
+}
+
+void CommandCenterModel::refreshStatus() {
+    TrackerCore& tracker = m_env.model.tracker();
+    m_status.state = tracker.state();
+    const std::optional<QString>& id = tracker.currentSkillId();
+    m_status.skillName = id ? m_env.skills.display(*id).name : QString();
+    m_status.welcomeBack = tracker.welcomeBack().value_or(QString());
+    m_status.time = dashformat::sessionDuration(tracker.displayActiveSeconds(),
+                                                durationstyle::current(m_env.preferences));
+    refreshClock();
+    Q_EMIT statusChanged();
+}
+
+void CommandCenterModel::refreshClock() {
+    const bool moves = m_shown && m_status.state == TrackerCore::State::Running;
+    if (!moves)
+        m_clock.reset();
+    else if (!m_clock)
+        m_clock = m_env.scheduler.scheduleRepeatingTimer(kSecond, kTolerance,
+                                                         [this] { refreshStatus(); });
+}
+
+void CommandCenterModel::refreshModes() {
+    m_modes.show(m_env.model.skills(), m_env.model.selectedSkillId());
+}
+
+Skill CommandCenterModel::chosenSkill() const {
+    return m_env.skills.by(m_env.model.selectedSkillId());
+}
+
+QString CommandCenterModel::primaryText() const {
+    return commandcentertext::primary(m_status, chosenSkill().name);
+}
+
+QColor CommandCenterModel::primaryColor() const { return QColor::fromRgb(chosenSkill().hexRGB); }
+
+bool CommandCenterModel::isWrappedReady() const { return m_env.model.wrappedReady(); }
+
+QList<int> CommandCenterModel::backfillChoices() const {
+    return commandcentertext::backfillChoices(m_env.model.backfillCoverageMinutes());
+}
+
+QString CommandCenterModel::note() const {
+    return m_env.model.lastActionNote().value_or(QString());
+}
+
+void CommandCenterModel::editMode(const QString& id) {
+    if (const auto skill = m_env.skills.find(id)) m_editor.openFor(*skill);
+}
+
+void CommandCenterModel::deleteMode(const QString& id) {
+    if (m_editor.editingSkillId() == id) m_editor.close();
+    m_actions.deleteSkill(id);
+}
+
+void CommandCenterModel::addMode() { m_editor.openNew(m_env.model.skills()); }
+
+void CommandCenterModel::commitEdit(const std::optional<QString>& id, const QString& name,
+                                    std::uint32_t hexRGB) {
+    if (id)
+        m_actions.updateSkill(*id, name, hexRGB);
+    else
+        m_actions.addSkill(name, hexRGB);
+}
+
+bool CommandCenterModel::takePrimaryPulse() {
+    const bool wanted = m_env.model.pulsePrimaryOnce();
+    if (wanted) m_env.model.setPulsePrimaryOnce(false);
+    return wanted;
+}
+
+} // namespace vantle

@@ -1,0 +1,108 @@
+// What the command center shows, and what its controls do.
+#pragma once
+
+#include "base/Scheduler.h"
+#include "surfaces/commandcenter/CommandCenterActions.h"
+#include "surfaces/commandcenter/CommandCenterText.h"
+#include "surfaces/commandcenter/ModeEditor.h"
+#include "surfaces/commandcenter/ModeListModel.h"
+
+#include <QColor>
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace vantle {
+
+class AppModel;
+class Preferences;
+class SkillList;
+
+/// Follows the application model and the tracker as long as it lives; it keeps the texts of the
+/// running clock current only while the panel is shown. Main thread.
+class CommandCenterModel final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by its controller.")
+    Q_PROPERTY(QString title READ title NOTIFY statusChanged)
+    Q_PROPERTY(QString subtitle READ subtitle NOTIFY statusChanged)
+    Q_PROPERTY(QString shortcut READ shortcut CONSTANT)
+    Q_PROPERTY(QString primaryText READ primaryText NOTIFY statusChanged)
+    /// Of the chosen skill.
+    Q_PROPERTY(QColor primaryColor READ primaryColor NOTIFY statusChanged)
+    Q_PROPERTY(bool paused READ isPaused NOTIFY statusChanged)
+    Q_PROPERTY(bool wrappedReady READ isWrappedReady NOTIFY wrappedReadyChanged)
+    /// Minutes; empty when nothing can be credited.
+    Q_PROPERTY(QList<int> backfillChoices READ backfillChoices NOTIFY backfillChoicesChanged)
+    /// What became of the last command; empty when there is nothing to say.
+    Q_PROPERTY(QString note READ note NOTIFY noteChanged)
+    Q_PROPERTY(vantle::ModeListModel* modes READ modes CONSTANT)
+    Q_PROPERTY(vantle::ModeEditor* editor READ editor CONSTANT)
+
+public:
+    /// What the model works with. All of it must outlive the model.
+    struct Environment {
+        AppModel& model;
+        SkillList& skills;
+        const Preferences& preferences;
+        Scheduler& scheduler;
+    };
+
+    CommandCenterModel(const Environment& environment, CommandCenterActions actions);
+
+    /// The panel has come up, or gone away.
+    void setShown(bool shown);
+
+    [[nodiscard]] QString title() const { return commandcentertext::title(m_status); }
+    [[nodiscard]] QString subtitle() const { return commandcentertext::subtitle(m_status.state); }
+    [[nodiscard]] static QString shortcut() { return QStringLiteral("⌥⌘B"); }
+    [[nodiscard]] QString primaryText() const;
+    [[nodiscard]] QColor primaryColor() const;
+    [[nodiscard]] bool isPaused() const { return m_status.state == TrackerCore::State::Paused; }
+    [[nodiscard]] bool isWrappedReady() const;
+    [[nodiscard]] QList<int> backfillChoices() const;
+    [[nodiscard]] QString note() const;
+    [[nodiscard]] ModeListModel* modes() { return &m_modes; }
+    [[nodiscard]] ModeEditor* editor() { return &m_editor; }
+
+    // What the controls do.
+    Q_INVOKABLE void pressPrimary() { m_actions.toggleVantle(); }
+    Q_INVOKABLE void backfill(int minutes) { m_actions.backfill(minutes); }
+    Q_INVOKABLE void selectMode(const QString& id) { m_actions.selectSkill(id); }
+    Q_INVOKABLE void editMode(const QString& id);
+    Q_INVOKABLE void deleteMode(const QString& id);
+    Q_INVOKABLE void addMode();
+    Q_INVOKABLE void openDashboard() { m_actions.openDashboard(); }
+    Q_INVOKABLE void openWrapped() { m_actions.openWrapped(std::nullopt); }
+    Q_INVOKABLE void openLastWeek() { m_actions.openWrapped(WrappedPeriod::LastWeek); }
+    Q_INVOKABLE void openNotes() { m_actions.openNotes(); }
+    Q_INVOKABLE void openSettings() { m_actions.openSettings(); }
+    Q_INVOKABLE void quit() { m_actions.quit(); }
+    /// The view has drawn the attention that was asked for, or is about to: whether it was.
+    Q_INVOKABLE bool takePrimaryPulse();
+
+Q_SIGNALS:
+    void statusChanged();
+    void wrappedReadyChanged();
+    void backfillChoicesChanged();
+    void noteChanged();
+    /// The primary button is to draw attention to itself, once.
+    void primaryPulseWanted();
+
+private:
+    void follow();
+    void refreshStatus();
+    void refreshModes();
+    void refreshClock();
+    void commitEdit(const std::optional<QString>& id, const QString& name, std::uint32_t hexRGB);
+    [[nodiscard]] Skill chosenSkill() const;
+
+    Environment m_env;
+    CommandCenterActions m_actions;
+    commandcentertext::Status m_status;
+    ModeListModel m_modes;
+    ModeEditor m_editor;
+    TimerHandle m_clock; ///< there exactly while a running session is looked at
+    bool m_shown = false;
+};
+
+} // namespace vantle

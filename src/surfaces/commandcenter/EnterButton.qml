@@ -1,0 +1,87 @@
+// The wide button that starts and stops, in the colour of the chosen mode.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.CommandCenter
+import Vantle.Kit
+
+KitPressable {
+    id: button
+
+    required property string text
+    required property color accent
+    property bool paused: false
+    property real glow: 0
+
+    function pulse(): void {
+        pulsing.restart();
+    }
+
+    implicitHeight: DarkUI.wideButtonHeight
+    name: text
+
+    SequentialAnimation {
+        id: pulsing
+
+        NumberAnimation {
+            target: button
+            property: "glow"
+            to: 1
+            duration: DarkUI.pulseOnTime
+            easing.type: Easing.InOutQuad
+        }
+        PauseAnimation {
+            duration: Motion.time(20)
+        }
+        NumberAnimation {
+            target: button
+            property: "glow"
+            to: 0
+            duration: DarkUI.pulseOffTime
+            easing.type: Easing.InOutQuad
+        }
+    }
+
+    Item {
+        anchors.fill: parent
+        scale: 1 + (DarkUI.pulseScale - 1) * button.glow
+
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: -DarkUI.space4 * button.glow
+            visible: button.glow > 0
+            radius: plate.radius + DarkUI.space4 * button.glow
+            color: Tint.alpha(button.accent, DarkUI.pulseGlowOpacity * button.glow)
+        }
+
+        Rectangle {
+            id: plate
+            anchors.fill: parent
+            radius: DarkUI.radiusWindow
+            opacity: button.paused ? DarkUI.pausedOpacity : 1
+            color: button.pressed ? Qt.darker(button.accent, 1.08)
+                 : button.hovered ? Tint.lightened(button.accent, 0.15) : button.accent
+
+            Behavior on color {
+                ColorAnimation {
+                    duration: button.stateTime
+                    easing.type: Easing.OutCubic
+                }
+            }
+        }
+
+        DarkText {
+            anchors.centerIn: parent
+            width: Math.min(implicitWidth, parent.width - 2 * DarkUI.space14)
+            text: button.text
+            role: DarkUI.leadButton
+            color: Tint.inkOn(button.accent)
+            elide: Text.ElideMiddle
+            Accessible.ignored: true
+        }
+    }
+
+    FocusRing {
+        shown: button.ringed
+        controlRadius: plate.radius
+    }
+}

@@ -1,0 +1,98 @@
+// The modes to choose from, and the way to another one.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.CommandCenter
+import Vantle.Kit
+
+Item {
+    id: chips
+
+    required property ModeListModel modes
+    required property bool adding // the editor is open for a new mode
+    signal chosen(string id)
+    signal editWanted(string id)
+    signal deleteWanted(string id)
+    signal addWanted
+
+    implicitHeight: flow.implicitHeight
+
+    component SkillChip: DarkChip {
+        id: chip
+
+        required property string skillId
+        required property int hexRGB
+        required property bool selected
+        required property bool deletable
+
+        large: true
+        width: Math.min(implicitWidth, chips.width)
+        dotColor: Tint.fromHex(hexRGB)
+        selectedTint: selected ? dotColor : DarkUI.clear
+        checked: selected
+        Accessible.description: selected ? qsTr("Selected") : qsTr("Not selected")
+        onClicked: chips.chosen(skillId)
+        onContextMenuRequested: menu.openFor(chip)
+        Keys.onDeletePressed: if (deletable) chips.deleteWanted(skillId)
+    }
+
+    ArrowGroup {
+        id: group
+        anchors.fill: parent
+        list: flow
+        Accessible.name: qsTr("Modes")
+
+        Flow {
+            id: flow
+            width: parent.width
+            spacing: DarkUI.chipGap
+
+            Repeater {
+                model: chips.modes
+                onItemAdded: group.refresh()
+                onItemRemoved: group.refresh()
+
+                SkillChip {
+                    required property string name
+                    text: name
+                }
+            }
+
+            DarkChip {
+                id: newMode
+                large: true
+                text: qsTr("New Mode")
+                onClicked: chips.addWanted()
+            }
+        }
+    }
+
+    DarkMenu {
+        id: menu
+
+        property SkillChip chip: null
+
+        function openFor(target: SkillChip): void {
+            chip = target;
+            openAt(target, 0);
+        }
+
+        name: chip ? chip.text : ""
+
+        DarkMenuRow {
+            text: qsTr("Change color…")
+            onTriggered: {
+                menu.close();
+                chips.editWanted(menu.chip.skillId);
+            }
+        }
+        DarkMenuRow {
+            visible: menu.chip !== null && menu.chip.deletable
+            text: menu.chip ? qsTr("Delete %1").arg(menu.chip.text) : ""
+            danger: true
+            onTriggered: {
+                menu.close();
+                chips.deleteWanted(menu.chip.skillId);
+            }
+        }
+    }
+}

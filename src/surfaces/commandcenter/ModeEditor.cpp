@@ -1,0 +1,105 @@
+#include "surfaces/commandcenter/ModeEditor.h"
+
+#include "base/Text.h"
+#include "surfaces/commandcenter/CommandCenterText.h"
+
+#include <algorithm>
+
+namespace vantle {
+
+void ModeEditor::openFor(const Skill& skill) { open(skill.id, skill.name, skill.hexRGB); }
+
+void ModeEditor::openNew(const std::vector<Skill>& skills) {
+    const auto isFree = [&](std::uint32_t hexRGB) {
+        return std::ranges::none_of(skills, [&](const Skill& s) { return s.hexRGB == hexRGB; });
+    };
+    const auto* const free = std::ranges::find_if(Skill::palette, isFree);
+    open(std::nullopt, {}, free == Skill::palette.end() ? Skill::palette.front() : *free);
+}
+
+void ModeEditor::open(std::optional<QString> id, const QString& name, std::uint32_t hexRGB) {
+    m_editingSkillId = std::move(id);
+    m_name = name;
+    m_hexRGB = hexRGB;
+    m_shown = true;
+    Q_EMIT nameChanged();
+    Q_EMIT colorChanged();
+    Q_EMIT shownChanged();
+    Q_EMIT opened();
+}
+
+void ModeEditor::commit() {
+    if (!canCommit()) return;
+    m_commit(m_editingSkillId, text::trimmed(m_name), m_hexRGB);
+    close();
+}
+
+void ModeEditor::close() {
+    m_shown = false;
+    m_editingSkillId.reset();
+    m_name.clear();
+    Q_EMIT nameChanged();
+    Q_EMIT shownChanged();
+}
+
+void ModeEditor::chooseColor(int index) {
+    if (index < 0 || index >= static_cast<int>(Skill::palette.size())) return;
+    m_hexRGB = Skill::palette.at(static_cast<std::size_t>(index));
+    Q_EMIT colorChanged();
+}
+
+QString ModeEditor::title() const {
+    return isAdding() ? QStringLiteral("Name your mode") : QStringLiteral("Rename mode");
+}
+
+QString ModeEditor::help() {
+    return QStringLiteral("Choose a short name you will recognize at a glance.");
+}
+
+QString ModeEditor::fieldLabel() { return QStringLiteral("Mode name"); }
+QString ModeEditor::placeholder() { return QStringLiteral("e.g. Writing"); }
+QString ModeEditor::cancelText() { return QStringLiteral("Cancel"); }
+
+QString ModeEditor::fieldName() const {
+    return isAdding() ? QStringLiteral("New mode name") : fieldLabel();
+}
+
+QString ModeEditor::confirmText() const {
+    return isAdding() ? QStringLiteral("Add mode") : QStringLiteral("Save");
+}
+
+void ModeEditor::setName(const QString& name) {
+    const QString cut = text::hasAtMost(name, Skill::maxNameLength)
+                            ? name
+                            : text::firstCharacters(name, Skill::maxNameLength);
+    if (cut == m_name) return;
+    m_name = cut;
+    Q_EMIT nameChanged();
+}
+
+QString ModeEditor::counter() const {
+    return QStringLiteral("%1/%2").arg(text::characterCount(m_name)).arg(Skill::maxNameLength);
+}
+
+bool ModeEditor::canCommit() const { return !text::trimmed(m_name).isEmpty(); }
+
+QList<QColor> ModeEditor::palette() {
+    QList<QColor> colors;
+    for (const std::uint32_t hexRGB : Skill::palette)
+        colors.append(QColor::fromRgb(hexRGB));
+    return colors;
+}
+
+QStringList ModeEditor::colorNames() {
+    QStringList names;
+    for (const std::uint32_t hexRGB : Skill::palette)
+        names.append(commandcentertext::colorName(hexRGB));
+    return names;
+}
+
+int ModeEditor::colorIndex() const {
+    const auto* const found = std::ranges::find(Skill::palette, m_hexRGB);
+    return found == Skill::palette.end() ? -1 : static_cast<int>(found - Skill::palette.begin());
+}
+
+} // namespace vantle

@@ -1,0 +1,34 @@
+// The modes to choose from, as chips.
+#pragma once
+
+#include "tracking/Skill.h"
+
+#include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
+
+#include <vector>
+
+namespace vantle {
+
+/// One row a skill, in the stored order. Main thread.
+class ModeListModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the command center.")
+
+public:
+    enum Role { SkillId = Qt::UserRole, Name, HexRGB, Selected, Deletable };
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    /// Rows that stay are kept, so that a chip does not lose the keyboard by being chosen.
+    void show(const std::vector<Skill>& skills, const QString& selectedId);
+
+private:
+    std::vector<Skill> m_skills;
+    QString m_selectedId;
+};
+
+} // namespace vantle

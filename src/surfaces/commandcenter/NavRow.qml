@@ -1,0 +1,59 @@
+// A row that leads to a window.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+KitPressable {
+    id: row
+
+    required property string title
+    property string shortcut // as it is written; empty for none
+    property list<string> keys // that do the same
+
+    implicitHeight: DarkUI.navRowHeight
+    name: title
+    Accessible.description: shortcut
+
+    Rectangle {
+        id: ground
+        anchors.fill: parent
+        radius: DarkUI.radiusButton
+        color: row.pressed ? DarkUI.fillHover : row.hovered ? DarkUI.navHover : DarkUI.clear
+
+        Behavior on color {
+            ColorAnimation {
+                duration: row.stateTime
+                easing.type: Easing.OutCubic
+            }
+        }
+    }
+
+    DarkText {
+        anchors.left: parent.left
+        anchors.leftMargin: DarkUI.space10
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.title
+        role: DarkUI.bodyMedium
+        Accessible.ignored: true
+    }
+    DarkText {
+        anchors.right: parent.right
+        anchors.rightMargin: DarkUI.space10
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.shortcut
+        role: DarkUI.caption
+        color: DarkUI.t3
+        Accessible.ignored: true
+    }
+
+    FocusRing {
+        shown: row.ringed
+        controlRadius: ground.radius
+    }
+
+    Shortcut {
+        sequences: row.keys
+        enabled: row.keys.length > 0
+        onActivated: row.clicked()
+    }
+}

@@ -1,0 +1,46 @@
+// Leads to the review of last week, while it waits.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+KitPressable {
+    id: row
+
+    implicitHeight: DarkUI.space14 + DarkUI.navRowHeight
+    name: qsTr("Your Wrapped is ready. Opens last week's recap.")
+    Accessible.description: qsTr("Opens last week's Wrapped")
+
+    Plate {
+        id: ground
+        y: DarkUI.space14
+        width: parent.width
+        height: DarkUI.navRowHeight
+        radius: DarkUI.radiusBanner
+        color: Tint.alpha(DarkUI.accent, row.pressed ? DarkUI.tintFillPressed
+                                       : row.hovered ? DarkUI.tintFillHover : DarkUI.wrappedFill)
+        edge: Tint.alpha(DarkUI.accent, DarkUI.wrappedEdge)
+
+        DarkText {
+            anchors.left: parent.left
+            anchors.leftMargin: DarkUI.space12
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("Your Wrapped is ready")
+            role: DarkUI.bodyMedium
+            Accessible.ignored: true
+        }
+        DarkText {
+            anchors.right: parent.right
+            anchors.rightMargin: DarkUI.space12
+            anchors.verticalCenter: parent.verticalCenter
+            text: qsTr("View it ›")
+            role: DarkUI.captionStrong
+            color: DarkUI.accentTextOnTint
+            Accessible.ignored: true
+        }
+
+        FocusRing {
+            shown: row.ringed
+            controlRadius: ground.radius
+        }
+    }
+}

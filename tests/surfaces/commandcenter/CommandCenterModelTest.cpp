@@ -1,0 +1,177 @@
+#include "surfaces/commandcenter/CommandCenterModel.h"
+
+#include "app/ModelWorld.h"
+
+#include <gtest/gtest.h>
+
+namespace vantle::tests {
+namespace {
+
+class CommandCenterModelTest : public testing::Test {
+protected:
+    CommandCenterModelTest() {
+        world.idleSource.fix(0); // somebody is at work all the time
+        world.launch();
+        world.settle();
+        content = std::make_unique<CommandCenterModel>(
+            CommandCenterModel::Environment{*world.model, *world.skills, world.preferences,
+                                            world.time},
+            actions());
+        content->setShown(true);
+    }
+
+    CommandCenterActions actions() {
+        AppModel& model = *world.model;
+        const auto told = [this](const char* what) {
+            return [this, what] { calls.append(QLatin1String(what)); };
+        };
+        return {
+            .toggleVantle = [&model] { model.toggleVantle(); },
+            .selectSkill =
+                [&model](const QString& id) {
+                    model.selectSkill(id, AppModel::SkillSelectionOrigin::Human);
+                },
+            .addSkill = [&model](const QString& name,
+                                 std::uint32_t hexRGB) { model.addSkill(name, hexRGB); },
+            .updateSkill = [&model](const QString& id, const QString& name,
+                                    std::uint32_t hexRGB) { model.updateSkill(id, name, hexRGB); },
+            .deleteSkill = [&model](const QString& id) { model.deleteSkill(id); },
+            .backfill = [&model](int minutes) { model.startWithBackfill(minutes); },
+            .openDashboard = told("dashboard"),
+            .openWrapped =
+                [this](std::optional<WrappedPeriod> period) {
+                    calls.append(QStringLiteral("wrapped ") +
+                                 (period ? wrappedperiod::id(*period) : QString()));
+                },
+            .openQuickLog = told("quick log"),
+            .openNotes = told("notes"),
+            .openSettings = told("settings"),
+            .quit = told("quit"),
+            .relayout = told("relayout")};
+    }
+
+    [[nodiscard]] QVariant mode(int row, int role) const {
+        return content->modes()->index(row).data(role);
+    }
+
+    ModelWorld world;
+    QStringList calls;
+    std::unique_ptr<CommandCenterModel> content;
+};
+
+TEST_F(CommandCenterModelTest, AtRestItOffersTheChosenMode) {
+    EXPECT_EQ(content->title(), QStringLiteral("Ready to focus"));
+    EXPECT_EQ(content->primaryText(), QStringLiteral("Enter Vantle"));
+    EXPECT_EQ(content->primaryColor(), QColor(0x7A, 0x78, 0xFF));
+    EXPECT_EQ(content->shortcut(), QStringLiteral("⌥⌘B"));
+}
+
+TEST_F(CommandCenterModelTest, ChoosingAModeNamesItOnTheButton) {
+    content->selectMode(mode(1, ModeListModel::SkillId).toString());
+    EXPECT_EQ(content->primaryText(), QStringLiteral("Enter Design Mode"));
+    EXPECT_FALSE(mode(0, ModeListModel::Selected).toBool());
+    EXPECT_TRUE(mode(1, ModeListModel::Selected).toBool());
+}
+
+TEST_F(CommandCenterModelTest, TheRunningTimeGoesOnWhileItIsLookedAt) {
+    content->pressPrimary();
+    world.settle();
+    world.time.advance(Seconds(180));
+    EXPECT_EQ(content->primaryText(), QStringLiteral("Stop · 3 min"));
+    EXPECT_EQ(content->title(), QStringLiteral("In Vantle · 3 min"));
+    content->pressPrimary();
+    EXPECT_EQ(content->title(), QStringLiteral("Ready to focus"));
+}
+
+TEST_F(CommandCenterModelTest, NobodyWhoLooksNeedsNoClock) {
+    content->pressPrimary();
+    world.settle();
+    int changes = 0;
+    QObject::connect(content.get(), &CommandCenterModel::statusChanged, [&] { ++changes; });
+    world.time.advance(Seconds(10));
+    EXPECT_GE(changes, 9);
+    content->setShown(false);
+    changes = 0;
+    world.time.advance(Seconds(10));
+    EXPECT_EQ(changes, 0);
+}
+
+TEST_F(CommandCenterModelTest, APausedSessionSaysSo) {
+    content->pressPrimary();
+    world.settle();
+    world.time.advance(Seconds(180));
+    world.model->tracker().pause(world.time.now());
+    EXPECT_TRUE(content->isPaused());
+    EXPECT_EQ(content->title(), QStringLiteral("Paused (away) · Build · 3 min"));
+    EXPECT_EQ(content->primaryText(), QStringLiteral("Stop · 3 min · paused"));
+}
+
+TEST_F(CommandCenterModelTest, AModeIsAddedByTheEditor) {
+    content->addMode();
+    content->editor()->setName(QStringLiteral("Research"));
+    content->editor()->commit();
+    EXPECT_EQ(content->modes()->rowCount(), 7);
+    EXPECT_EQ(mode(6, ModeListModel::Name), QStringLiteral("Research"));
+    EXPECT_EQ(content->note(), QStringLiteral("Added Research"));
+    EXPECT_FALSE(content->editor()->isShown());
+    EXPECT_EQ(calls.count(QStringLiteral("relayout")), 2);
+}
+
+TEST_F(CommandCenterModelTest, AModeIsRenamedAndRecolouredByTheEditor) {
+    content->editMode(mode(1, ModeListModel::SkillId).toString());
+    content->editor()->setName(QStringLiteral("Drawing"));
+    content->editor()->chooseColor(3);
+    content->editor()->commit();
+    EXPECT_EQ(mode(1, ModeListModel::Name), QStringLiteral("Drawing"));
+    EXPECT_EQ(mode(1, ModeListModel::HexRGB).toUInt(), Skill::palette[3]);
+}
+
+TEST_F(CommandCenterModelTest, AnUnknownModeIsNotEdited) {
+    content->editMode(QStringLiteral("nobody"));
+    EXPECT_FALSE(content->editor()->isShown());
+}
+
+TEST_F(CommandCenterModelTest, TheLastModeCanNotBeDeleted) {
+    while (content->modes()->rowCount() > 1) {
+        EXPECT_TRUE(mode(0, ModeListModel::Deletable).toBool());
+        content->deleteMode(mode(0, ModeListModel::SkillId).toString());
+    }
+    EXPECT_FALSE(mode(0, ModeListModel::Deletable).toBool());
+}
+
+TEST_F(CommandCenterModelTest, DeletingTheModeThatIsEditedClosesTheEditor) {
+    const QString id = mode(1, ModeListModel::SkillId).toString();
+    content->editMode(id);
+    content->deleteMode(id);
+    EXPECT_FALSE(content->editor()->isShown());
+}
+
+TEST_F(CommandCenterModelTest, TheDoorsLeadToTheWindows) {
+    content->openDashboard();
+    content->openWrapped();
+    content->openLastWeek();
+    content->openNotes();
+    content->openSettings();
+    content->quit();
+    EXPECT_EQ(calls, QStringList({QStringLiteral("dashboard"), QStringLiteral("wrapped "),
+                                  QStringLiteral("wrapped lastWeek"), QStringLiteral("notes"),
+                                  QStringLiteral("settings"), QStringLiteral("quit")}));
+}
+
+TEST_F(CommandCenterModelTest, TheButtonDrawsAttentionOnce) {
+    int wanted = 0;
+    QObject::connect(content.get(), &CommandCenterModel::primaryPulseWanted, [&] { ++wanted; });
+    world.model->setPulsePrimaryOnce(true);
+    EXPECT_EQ(wanted, 1);
+    EXPECT_TRUE(content->takePrimaryPulse());
+    EXPECT_FALSE(content->takePrimaryPulse());
+    EXPECT_EQ(wanted, 1);
+}
+
+TEST_F(CommandCenterModelTest, ACreditThatCanNotBeConfirmedIsExplained) {
+    content->backfill(10);
+    EXPECT_EQ(content->note(), QStringLiteral("Started now · couldn't confirm 10 min of activity"));
+}
+
+} // namespace
+} // namespace vantle::tests

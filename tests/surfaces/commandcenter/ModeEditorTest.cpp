@@ -1,0 +1,98 @@
+#include "surfaces/commandcenter/ModeEditor.h"
+
+#include "support/QtPrinters.h"
+
+#include <gtest/gtest.h>
+
+namespace vantle {
+namespace {
+
+class ModeEditorTest : public testing::Test {
+protected:
+    struct Done {
+        std::optional<QString> id;
+        QString name;
+        std::uint32_t hexRGB = 0;
+    };
+    std::vector<Skill> skills{Skill::defaults().begin(), Skill::defaults().end()};
+    std::vector<Done> done;
+    ModeEditor editor{
+        [this](const std::optional<QString>& id, const QString& name, std::uint32_t hexRGB) {
+            done.push_back({id, name, hexRGB});
+        }};
+};
+
+TEST_F(ModeEditorTest, ANewModeStartsEmptyInAColourThatIsFree) {
+    editor.openNew(skills);
+    EXPECT_TRUE(editor.isShown());
+    EXPECT_EQ(editor.title(), QStringLiteral("Name your mode"));
+    EXPECT_EQ(editor.confirmText(), QStringLiteral("Add mode"));
+    EXPECT_EQ(editor.fieldName(), QStringLiteral("New mode name"));
+    EXPECT_EQ(editor.name(), QString());
+    EXPECT_EQ(editor.color(), QColor(0xFF, 0xD6, 0x0A));
+    EXPECT_EQ(editor.counter(), QStringLiteral("0/20"));
+}
+
+TEST_F(ModeEditorTest, WhereNoColourIsFreeItIsTheFirst) {
+    skills.clear();
+    for (const std::uint32_t hexRGB : Skill::palette)
+        skills.push_back({.id = QString::number(hexRGB), .name = {}, .hexRGB = hexRGB});
+    editor.openNew(skills);
+    EXPECT_EQ(editor.colorIndex(), 0);
+}
+
+TEST_F(ModeEditorTest, AModeIsEditedFromWhatItHas) {
+    editor.openFor(skills[1]);
+    EXPECT_EQ(editor.title(), QStringLiteral("Rename mode"));
+    EXPECT_EQ(editor.confirmText(), QStringLiteral("Save"));
+    EXPECT_EQ(editor.fieldName(), QStringLiteral("Mode name"));
+    EXPECT_EQ(editor.name(), skills[1].name);
+    EXPECT_EQ(editor.color(), QColor::fromRgb(skills[1].hexRGB));
+    editor.setName(QStringLiteral("  Drawing "));
+    editor.chooseColor(0);
+    editor.commit();
+    ASSERT_EQ(done.size(), 1U);
+    EXPECT_EQ(done[0].id, skills[1].id);
+    EXPECT_EQ(done[0].name, QStringLiteral("Drawing"));
+    EXPECT_EQ(done[0].hexRGB, Skill::palette[0]);
+    EXPECT_FALSE(editor.isShown());
+}
+
+TEST_F(ModeEditorTest, AColourOutsideThePaletteIsNoneOfIt) {
+    editor.openFor({.id = QStringLiteral("x"), .name = QStringLiteral("X"), .hexRGB = 0x123456});
+    EXPECT_EQ(editor.colorIndex(), -1);
+    editor.chooseColor(10);
+    editor.chooseColor(-1);
+    EXPECT_EQ(editor.color(), QColor::fromRgb(0x123456));
+}
+
+TEST_F(ModeEditorTest, AnEmptyNameCanNotBeCommitted) {
+    editor.openNew(skills);
+    for (const char* name : {"", "   "}) {
+        editor.setName(QString::fromLatin1(name));
+        EXPECT_FALSE(editor.canCommit());
+        editor.commit();
+        EXPECT_TRUE(editor.isShown());
+    }
+    EXPECT_TRUE(done.empty());
+}
+
+TEST_F(ModeEditorTest, TwentyCharactersAsPeopleCountThemFit) {
+    editor.openNew(skills);
+    const QString family = QStringLiteral("👩‍👩‍👧");
+    editor.setName(family.repeated(21));
+    EXPECT_EQ(editor.name(), family.repeated(20));
+    EXPECT_EQ(editor.counter(), QStringLiteral("20/20"));
+}
+
+TEST_F(ModeEditorTest, TurningAwayLeavesNothing) {
+    editor.openFor(skills[1]);
+    editor.close();
+    EXPECT_FALSE(editor.isShown());
+    EXPECT_TRUE(done.empty());
+    editor.openNew(skills);
+    EXPECT_EQ(editor.name(), QString());
+}
+
+} // namespace
+} // namespace vantle
