@@ -63,6 +63,7 @@ void AppDelegate::makeModel() {
     auto recovery = std::make_unique<RecoveryActions>();
     m_recovery = recovery.get();
     collaborators.recovery = std::move(recovery);
+    if (m_env.makeRipple) collaborators.ripple = m_env.makeRipple();
     collaborators.autoSkill = std::make_unique<AutoSkillAdapter>(m_autoSkill);
     collaborators.focusLink = std::make_unique<FocusLinkAdapter>(m_focusLink);
     m_model = std::make_unique<AppModel>(AppModel::Environment{.clock = m_env.clock,

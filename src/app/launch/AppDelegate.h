@@ -39,6 +39,8 @@ public:
         Autostart& autostart;
         TrayItem& trayItem;
         QString shortcutsTool; ///< absolute path of the program that runs shortcuts
+        /// Makes what plays at both ends of a session; nothing plays without.
+        std::function<std::unique_ptr<collaborators::Ripple>()> makeRipple = {};
         std::function<Calendar()> calendar;
         /// Offers to move a downloaded program; true when a copy elsewhere takes over.
         std::function<bool()> offerMoveToApplications;

@@ -2,6 +2,7 @@
 
 #include "app/launch/AppDelegate.h"
 #include "app/launch/AppInstaller.h"
+#include "app/launch/Ceremony.h"
 #include "app/launch/InstallLocation.h"
 #include "app/launch/PlatformFactory.h"
 #include "base/Clock.h"
@@ -112,6 +113,12 @@ int run(bool startedAtLogin) {
     AppInstaller installer(platform->preferences(), platform->fileSystem(), thisProgram(*platform),
                            installOperations(*platform));
     const AppPaths paths(platform->fileSystem(), platform->dataHome());
+    Ceremony ceremony({.clock = clock,
+                       .scheduler = scheduler,
+                       .preferences = platform->preferences(),
+                       .reducedMotion = platform->reducedMotion(),
+                       .screens = platform->screens(),
+                       .panelHost = platform->panelHost()});
     AppDelegate app({.clock = clock,
                      .scheduler = scheduler,
                      .ioQueue = ioQueue,
@@ -127,6 +134,7 @@ int run(bool startedAtLogin) {
                      .autostart = platform->autostart(),
                      .trayItem = platform->trayItem(),
                      .shortcutsTool = shortcutsTool(),
+                     .makeRipple = [&ceremony] { return ceremony.makeRipple(); },
                      .calendar = &Calendar::current,
                      .offerMoveToApplications =
                          [&installer] { return installer.offerMoveToApplicationsIfNeeded(); },

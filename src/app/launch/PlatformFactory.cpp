@@ -8,6 +8,7 @@
 #include "platform/desktop/DesktopAutostart.h"
 #include "platform/desktop/DesktopTrayItem.h"
 #include "platform/desktop/FileManager.h"
+#include "platform/desktop/QtScreens.h"
 #include "platform/desktop/SettingsPreferences.h"
 #include "platform/localmodel/SocketLanguageModel.h"
 #include "platform/posix/PosixFileSystem.h"
@@ -17,6 +18,7 @@
 #include "platform/x11/X11FrontmostApp.h"
 #include "platform/x11/X11HotKey.h"
 #include "platform/x11/X11IdleSource.h"
+#include "platform/x11/X11PanelHost.h"
 #include "platform/x11/X11ScreenPower.h"
 #include "sensing/ScreenPowerUnion.h"
 
@@ -65,6 +67,7 @@ public:
                       configHome() + QStringLiteral("/autostart/local.vantle.Vantle.desktop"),
                       QCoreApplication::applicationFilePath())
         , m_trayItem(m_session)
+        , m_panelHost(m_x11)
         , m_languageModel(m_files, configHome() + QStringLiteral("/Vantle/language-model.conf"),
                           scheduler)
         , m_service(m_session)
@@ -87,6 +90,8 @@ public:
     [[nodiscard]] ReducedMotion& reducedMotion() override { return m_reducedMotion; }
     [[nodiscard]] Autostart& autostart() override { return m_autostart; }
     [[nodiscard]] TrayItem& trayItem() override { return m_trayItem; }
+    [[nodiscard]] Screens& screens() override { return m_screens; }
+    [[nodiscard]] PanelHost& panelHost() override { return m_panelHost; }
     [[nodiscard]] LanguageModel& languageModel() override { return m_languageModel; }
     [[nodiscard]] QString dataHome() const override {
         return xdgDirectory("XDG_DATA_HOME", QStringLiteral("/.local/share"));
@@ -115,6 +120,8 @@ private:
     DesktopReducedMotion m_reducedMotion;
     DesktopAutostart m_autostart;
     DesktopTrayItem m_trayItem;
+    QtScreens m_screens;
+    X11PanelHost m_panelHost;
     SocketLanguageModel m_languageModel;
     ApplicationService m_service;
     TerminationSignals m_signals;

@@ -7,11 +7,13 @@
 #include "platform/FrontmostApp.h"
 #include "platform/HotKeyPort.h"
 #include "platform/IdleSource.h"
+#include "platform/PanelHost.h"
 #include "platform/LanguageModel.h"
 #include "platform/Preferences.h"
 #include "platform/ProcessRunner.h"
 #include "platform/ReducedMotion.h"
 #include "platform/ScreenPower.h"
+#include "platform/Screens.h"
 #include "platform/TrayItem.h"
 
 #include <QString>
@@ -44,6 +46,8 @@ public:
     [[nodiscard]] virtual ReducedMotion& reducedMotion() = 0;
     [[nodiscard]] virtual Autostart& autostart() = 0;
     [[nodiscard]] virtual TrayItem& trayItem() = 0;
+    [[nodiscard]] virtual Screens& screens() = 0;
+    [[nodiscard]] virtual PanelHost& panelHost() = 0;
     [[nodiscard]] virtual LanguageModel& languageModel() = 0;
 
     /// The directory under which the support directory lies.

@@ -1,0 +1,53 @@
+#include "app/launch/Ceremony.h"
+
+#include "app/launch/ResourceFolders.h"
+#include "ceremony/RippleOverlayController.h"
+#include "ceremony/show/CeremonyFonts.h"
+#include "ceremony/show/CeremonyFrameRenderer.h"
+
+#include <QCoreApplication>
+
+namespace vantle {
+
+namespace {
+
+/// Lies beside the program, where the system has a web engine to build it with.
+QString webModulePath() {
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/vantle-webceremony.so");
+}
+
+RippleOverlayController::Prepare preparation() {
+    // Of its own, since it is used on the queue; shared, since functions get copied.
+    return [random = std::make_shared<SystemRandom>()](CeremonyVariant variant, QSizeF size,
+                                                       const std::optional<QString>& skillName) {
+        return std::make_unique<CeremonyFrameRenderer>(
+            CeremonyGridModel::build(variant, size, skillName.value_or(QString()), *random),
+            PixelOrder::Bgra);
+    };
+}
+
+} // namespace
+
+Ceremony::Ceremony(const Environment& environment)
+    : m_env(environment)
+    , m_stage(m_env.clock, m_env.scheduler, m_env.panelHost)
+    , m_web(webModulePath(), [] { return resourcefolders::find(QStringLiteral("ceremony.html")); })
+    , m_prepQueue(QLatin1String(RippleOverlayController::prepQueueLabel)) {
+    ceremonyfonts::registerBundledFonts(resourcefolders::all());
+}
+
+std::unique_ptr<collaborators::Ripple> Ceremony::makeRipple() {
+    return std::make_unique<RippleOverlayController>(
+        RippleOverlayController::Environment{.clock = m_env.clock,
+                                             .scheduler = m_env.scheduler,
+                                             .prepQueue = m_prepQueue,
+                                             .preferences = m_env.preferences,
+                                             .reducedMotion = m_env.reducedMotion,
+                                             .screens = m_env.screens,
+                                             .stage = m_stage,
+                                             .web = m_web,
+                                             .random = m_random,
+                                             .prepare = preparation()});
+}
+
+} // namespace vantle

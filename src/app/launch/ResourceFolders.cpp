@@ -1,0 +1,22 @@
+#include "app/launch/ResourceFolders.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace vantle::resourcefolders {
+
+QStringList all() {
+    const QString installed = QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                                              QStringLiteral("/../share/vantle"));
+    return {installed, QStringLiteral(VANTLE_SOURCE_RESOURCES)};
+}
+
+QString find(const QString& name) {
+    for (const QString& folder : all())
+        if (const QFileInfo file(folder + QLatin1Char('/') + name); file.isFile())
+            return file.absoluteFilePath();
+    return {};
+}
+
+} // namespace vantle::resourcefolders
