@@ -8,7 +8,7 @@ Rectangle {
     id: scene
 
     implicitWidth: 1000
-    implicitHeight: 640
+    implicitHeight: 550
     color: DarkUI.base
 
     Column {
@@ -202,19 +202,6 @@ Rectangle {
                             GlassBarFill { color: DarkUI.barAllTime; fraction: 0.92 }
                         }
                     }
-                    Keycap {
-                        anchors.verticalCenter: parent.verticalCenter
-                        text: "⌥⌘B"
-                    }
-                    DarkLink {
-                        anchors.verticalCenter: parent.verticalCenter
-                        text: "Open shortcuts"
-                    }
-                    PageDots {
-                        anchors.verticalCenter: parent.verticalCenter
-                        count: 5
-                        current: 1
-                    }
                 }
             }
         }
@@ -222,13 +209,35 @@ Rectangle {
         Column {
             spacing: DarkUI.space16
             DarkKicker {
-                text: "Skill colours and accents"
+                text: "Skill colours, keys, links, pages"
             }
-            SwatchRow {
-                width: 360
-                colors: ["#FF375F", "#FF9F0A", "#7A78FF", "#30D158", "#64D2FF", "#FFD60A",
-                         "#BF5AF2", "#FF6482", "#40C8E0", "#ACF35C"]
-                currentIndex: 6
+            Row {
+                spacing: DarkUI.space44
+
+                SwatchRow {
+                    width: 360
+                    colors: ["#FF375F", "#FF9F0A", "#7A78FF", "#30D158", "#64D2FF", "#FFD60A",
+                             "#BF5AF2", "#FF6482", "#40C8E0", "#ACF35C"]
+                    currentIndex: 6
+                }
+                Keycap {
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: "⌥⌘B"
+                }
+                DarkLink {
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: "Open shortcuts"
+                }
+                DarkLink {
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: "Open shortcuts"
+                    hovered: true
+                }
+                PageDots {
+                    anchors.verticalCenter: parent.verticalCenter
+                    count: 5
+                    current: 1
+                }
             }
         }
     }

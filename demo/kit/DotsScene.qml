@@ -2,11 +2,10 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
-import Vantle.DemoKit
 
 Rectangle {
     implicitWidth: 1000
-    implicitHeight: 520
+    implicitHeight: 470
     color: DarkUI.base
 
     DarkKicker {
@@ -97,7 +96,7 @@ Rectangle {
         x: 676
         y: 356
         columns: 5
-        spacing: 18
+        spacing: 24
 
         Repeater {
             model: ["#FF375F", "#FF9F0A", "#7A78FF", "#30D158", "#64D2FF", "#FFD60A", "#BF5AF2",

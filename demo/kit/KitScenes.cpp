@@ -24,7 +24,7 @@ QList<Scene> kitScenes() {
             scroll,
             scene(QStringLiteral("kit-type"), QStringLiteral("TypeScene")),
             scene(QStringLiteral("kit-icons"), QStringLiteral("IconsScene")),
-            scene(QStringLiteral("kit-dots"), QStringLiteral("DotsScene"), true),
+            scene(QStringLiteral("kit-dots"), QStringLiteral("DotsScene")),
             scene(QStringLiteral("kit-wall"), QStringLiteral("WallScene"))};
 }
 

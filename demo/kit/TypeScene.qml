@@ -5,7 +5,7 @@ import Vantle.Kit
 
 Rectangle {
     implicitWidth: 1000
-    implicitHeight: 620
+    implicitHeight: 570
     color: DarkUI.base
 
     component Step: Row {

@@ -9,6 +9,9 @@ Rectangle {
 
     property color edge: DarkUI.clear
     property real edgeWidth: DarkUI.hairlineWidth
+    // Whole device pixels: a part of one would be brighter at one side than at another.
+    readonly property real snappedEdge: Math.max(1, Math.round(edgeWidth * Screen.devicePixelRatio))
+                                        / Screen.devicePixelRatio
 
     color: DarkUI.card
 
@@ -17,7 +20,7 @@ Rectangle {
         visible: plate.edge.a > 0
         radius: plate.radius
         color: "transparent"
-        border.width: plate.edgeWidth
+        border.width: plate.snappedEdge
         border.color: plate.edge
     }
 }
