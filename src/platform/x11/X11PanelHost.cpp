@@ -6,6 +6,8 @@
 
 #include <xcb/shape.h>
 
+#include <array>
+#include <utility>
 #include <vector>
 
 namespace vantle {
@@ -44,6 +46,37 @@ xcb_rectangle_t toDevice(const QRect& rect, double ratio) {
             static_cast<std::uint16_t>(right - left), static_cast<std::uint16_t>(bottom - top)};
 }
 
+/// An unmanaged window that has no picture at all.
+class X11PointerSensor final : public PointerSensor {
+public:
+    X11PointerSensor(X11Connection& x11, const xcb_rectangle_t& place,
+                     std::function<void()> entered)
+        : m_x11(x11)
+        , m_window(xcb_generate_id(x11.xcb()))
+        , m_entered(x11.subscribe(XCB_ENTER_NOTIFY, [window = m_window, tell = std::move(entered)](
+                                                        const xcb_generic_event_t& event) {
+            const auto& enter = reinterpret_cast<const xcb_enter_notify_event_t&>(event);
+            if (enter.event == window) tell();
+        })) {
+        const std::array<std::uint32_t, 2> values = {1, XCB_EVENT_MASK_ENTER_WINDOW};
+        xcb_create_window(x11.xcb(), XCB_COPY_FROM_PARENT, m_window, x11.root(), place.x, place.y,
+                          place.width, place.height, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
+                          XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK,
+                          values.data());
+        xcb_map_window(x11.xcb(), m_window);
+        x11.flush();
+    }
+    ~X11PointerSensor() override {
+        xcb_destroy_window(m_x11.xcb(), m_window);
+        m_x11.flush();
+    }
+
+private:
+    X11Connection& m_x11;
+    xcb_window_t m_window;
+    X11Connection::Subscription m_entered;
+};
+
 } // namespace
 
 bool X11PanelHost::isComposited() {
@@ -65,6 +98,13 @@ void X11PanelHost::setInputRegion(QWindow& window, const QRegion& region) {
                          XCB_CLIP_ORDERING_UNSORTED, static_cast<xcb_window_t>(window.winId()), 0,
                          0, static_cast<std::uint32_t>(rectangles.size()), rectangles.data());
     xcb_flush(connection);
+}
+
+std::unique_ptr<PointerSensor> X11PanelHost::senseAt(const QRect& part,
+                                                     std::function<void()> entered) {
+    if (!m_x11.isAlive()) return nullptr;
+    return std::make_unique<X11PointerSensor>(m_x11, toDevice(part, qGuiApp->devicePixelRatio()),
+                                              std::move(entered));
 }
 
 void X11PanelHost::takeKeyboard(QWindow& window) {

@@ -21,6 +21,8 @@ public:
 
     [[nodiscard]] bool isComposited() override;
     void setInputRegion(QWindow& window, const QRegion& region) override;
+    [[nodiscard]] std::unique_ptr<PointerSensor> senseAt(const QRect& part,
+                                                         std::function<void()> entered) override;
     void takeKeyboard(QWindow& window) override;
     void returnKeyboard(QWindow& window) override;
 

@@ -21,18 +21,21 @@ std::unique_ptr<CapsuleWindow> CapsuleWindow::raise(std::unique_ptr<NotchCapsule
     if (!window->panel().load(
             QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Capsule/NotchCapsuleView.qml")),
             {{QStringLiteral("capsule"), QVariant::fromValue(&shown)},
-             {QStringLiteral("composited"), host.isComposited()}}))
+             {QStringLiteral("composited"), window->m_composited}}))
         return nullptr;
     window->follow();
-    window->panel().showAt(window->windowFrame());
+    if (window->m_composited) window->panel().showAt(window->windowFrame());
     return window;
 }
 
 CapsuleWindow::CapsuleWindow(std::unique_ptr<NotchCapsule> capsule, const QRectF& panelFrame,
                              QQmlEngine& engine, PanelHost& host)
-    : m_panelFrame(panelFrame)
+    : m_host(host)
+    , m_composited(host.isComposited())
+    , m_panelFrame(panelFrame)
     , m_capsule(capsule.release())
     , m_panel(new FloatingPanel(engine, host)) {
+    m_panel->setTitle(QStringLiteral("Vantle Capsule"));
     m_capsule->setStage(this);
     QObject::connect(m_panel.get(), &FloatingPanel::keyboardLost, m_capsule.get(),
                      &NotchCapsule::dismissOverlay);
@@ -52,8 +55,21 @@ bool CapsuleWindow::pointerInside(const QRectF& part) const {
 void CapsuleWindow::follow() {
     const QRect frame = windowFrame();
     if (m_panel->isVisible() && m_panel->geometry() != frame) m_panel->setGeometry(frame);
-    m_panel->setOpaqueRegion(m_capsule->opaqueRegion());
     m_panel->setInputRegion(m_capsule->inputRegion());
+    if (!m_composited) followUncomposited();
+}
+
+void CapsuleWindow::followUncomposited() {
+    if (m_capsule->isExpanded()) {
+        m_sensor.reset();
+        m_panel->setOpaqueRegion(m_capsule->opaqueRegion());
+        if (!m_panel->isVisible()) m_panel->showAt(windowFrame());
+        return;
+    }
+    m_panel->hide();
+    if (m_sensor || m_capsule->isLeaving()) return;
+    const QRectF strip = m_capsule->hoverRect().translated(m_panelFrame.topLeft());
+    m_sensor = m_host.senseAt(strip.toAlignedRect(), [this] { m_capsule->setHovered(true); });
 }
 
 QRect CapsuleWindow::windowFrame() const {

@@ -74,11 +74,7 @@ QRegion NotchCapsule::inputRegion() const {
 }
 
 QRegion NotchCapsule::opaqueRegion() const {
-    if (isExpanded()) return QRegion(m_openFrame.toAlignedRect()) + m_overlayRect.toAlignedRect();
-    // On a plain screen a line at the very edge remains, to feel the pointer with.
-    const QRectF strip = capsule::hoverStrip(m_metrics);
-    return hasNotch() ? restingFrame().toAlignedRect()
-                      : QRect(strip.toAlignedRect().topLeft(), QSize(qRound(strip.width()), 1));
+    return QRegion(m_openFrame.toAlignedRect()) + m_overlayRect.toAlignedRect();
 }
 
 void NotchCapsule::retag(const Skill& skill, bool flash) {

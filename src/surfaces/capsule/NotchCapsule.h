@@ -149,7 +149,7 @@ public:
 
     /// What feels the pointer.
     [[nodiscard]] QRegion inputRegion() const;
-    /// What is there at all where the desktop mixes no transparency. Never empty.
+    /// What is there at all, while it is open, where the desktop mixes no transparency.
     [[nodiscard]] QRegion opaqueRegion() const;
 
 Q_SIGNALS:

@@ -129,6 +129,23 @@ TEST_F(CapsuleWindowTest, TheWindowFollowsTheCapsuleInWhatFeelsThePointer) {
     EXPECT_EQ(host.inputRegion, QRegion(154, 0, 230, 10));
 }
 
+TEST_F(CapsuleWindowTest, WithoutACompositorThereIsNoWindowWhileItRests) {
+    host.composited = false;
+    raiseIdle();
+    EXPECT_TRUE(window->panel().isVisible());
+    EXPECT_EQ(window->panel().mask(), QRegion(window->capsule().openFrame().toRect()));
+    EXPECT_FALSE(host.sensor);
+    window->capsule().collapse();
+    EXPECT_FALSE(window->panel().isVisible());
+    ASSERT_TRUE(host.sensor);
+    EXPECT_EQ(host.sensor->part, QRect(605, 0, 230, 10));
+    const auto entered = host.sensor->entered;
+    entered();
+    EXPECT_TRUE(window->capsule().isExpanded());
+    EXPECT_TRUE(window->panel().isVisible());
+    EXPECT_FALSE(host.sensor);
+}
+
 TEST_F(CapsuleWindowTest, AClickOnAChipPicksItsSkillAndOneBesideItStarts) {
     raiseIdle();
     click(middleOf(text("Design")));

@@ -174,6 +174,21 @@ TEST_F(FloatingPanelTest, WithoutACompositorOnlyTheOpaquePartIsThere) {
     EXPECT_EQ(panel.mask(), QRegion(0, 0, 120, 60));
 }
 
+TEST_F(FloatingPanelTest, ASensorFeelsThePointerUntilItIsGone) {
+    int entered = 0;
+    auto sensor = host.senseAt({600, 0, 230, 10}, [&] { ++entered; });
+    ASSERT_TRUE(sensor);
+    QCursor::setPos(700, 400);
+    QCursor::setPos(700, 5);
+    EXPECT_TRUE(await([&] { return entered == 1; }));
+    QCursor::setPos(700, 400);
+    sensor.reset();
+    QCursor::setPos(700, 5);
+    x11.drain();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(entered, 1);
+}
+
 TEST(QtScreens, TheMainScreenIsAPlainOne) {
     const QtScreens screens;
     const auto shapes = screens.all();

@@ -1,0 +1,215 @@
+"""The capsule at the top of the screen: by real pointer and keys."""
+
+import json
+import time
+
+from harness.case import FIRST_SKILL, DesktopTest
+from harness.picture import is_near
+from harness.waiting import wait_until
+
+TITLE = "Vantle Capsule"
+
+SCREEN_WIDTH = 1440
+MIDDLE = SCREEN_WIDTH // 2
+BLACK = (0, 0, 0)
+
+# In px from the middle of the screen's top edge.
+STRIP = (0, 4)
+CHIP_BUILD = (-140, 72)
+CHIP_DESIGN = (-70, 72)
+ADD_ROW = (-140, 149)
+BESIDE_THE_CHIPS = (60, 30)
+BESIDE_THE_CAPSULE = (-230, 100)
+MENU_RENAME = (-60, 106)
+
+DESIGN = "product_design"
+
+
+class CapsuleTest(DesktopTest):
+    """On a desktop with a compositor, where corners are round and shadows soft."""
+
+    compositor = True
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.tool("xsetroot", "-solid", "#5A6478")  # else it is as black as the capsule
+        self.desktop.env["VANTLE_AUTOSTART"] = "1"  # nothing else pops up
+        self.vantle.write_preferences(onboard__done="true", ripple__disabled="true",
+                                      notch__intro__flashed="true")
+
+    def launch(self, program=None, **how):
+        super().launch(program, **how)
+        wait_until("the capsule's window", lambda: self.desktop.windows_named(TITLE))
+
+    # -- what the person does
+
+    def point_at(self, place):
+        self.desktop.tool("xdotool", "mousemove", str(MIDDLE + place[0]), str(place[1]),
+                          "sleep", "0.1")
+
+    def click(self, place, button=1):
+        self.point_at(place)
+        self.desktop.tool("xdotool", "click", str(button))
+
+    def turn_away(self):
+        self.desktop.tool("xdotool", "mousemove", "400", "700")
+
+    def open_capsule(self):
+        self.point_at(STRIP)
+        wait_until("an open capsule", self.is_open)
+        time.sleep(0.5)  # until the spring has come to rest
+
+    def open_editor(self):
+        """Another application, below the capsule, with the keyboard; returns the file that its
+        lines land in."""
+        typed = self.desktop.directory / "typed"
+        self.desktop.open("xterm", "-T", "editor", "-geometry", "120x40+300+0", "-e",
+                          f"cat > {typed}")
+        wait_until("the editor in front", lambda: self.desktop.active_window_title() == "editor")
+        return typed
+
+    # -- what can be seen
+
+    def is_open(self):
+        return is_near(next(self.desktop.picture(MIDDLE + 100, 50, 1, 1).pixels()), BLACK, 2)
+
+    def skills(self):
+        path = self.vantle.data_directory / "skills.json"
+        return {skill["id"]: skill for skill in json.loads(path.read_bytes())}
+
+
+class OpensAndCloses(CapsuleTest):
+
+    def test_at_rest_nothing_is_drawn_and_the_pointer_at_the_top_centre_opens_it(self):
+        self.launch()
+        time.sleep(0.5)
+        self.assertEqual(len(self.desktop.picture(MIDDLE - 270, 0, 540, 220).colours()), 1)
+        self.open_capsule()
+        self.desktop.screenshot("open")
+
+    def test_it_closes_half_a_second_after_the_pointer_left(self):
+        self.launch()
+        self.open_capsule()
+        self.turn_away()
+        left = time.monotonic()
+        time.sleep(0.3)
+        self.assertTrue(self.is_open())
+        wait_until("a closed capsule", lambda: not self.is_open())
+        self.assertGreater(time.monotonic() - left, 0.5)
+        self.assertLess(time.monotonic() - left, 2.5)
+
+
+class OpensSquare(CapsuleTest):
+
+    compositor = False
+
+    def test_without_a_compositor_it_opens_and_closes_as_well(self):
+        self.launch()
+        self.open_capsule()
+        self.desktop.screenshot("square")
+        self.turn_away()
+        wait_until("a closed capsule", lambda: not self.is_open())
+
+
+class LetsThrough(CapsuleTest):
+
+    def test_clicks_beside_it_and_keys_go_to_the_window_below(self):
+        typed = self.open_editor()
+        self.desktop.open("xterm", "-T", "other", "-geometry", "40x10+900+600")
+        wait_until("the other in front", lambda: self.desktop.active_window_title() == "other")
+        self.launch()
+        self.open_capsule()
+        self.assertEqual(self.desktop.active_window_title(), "other")
+        self.click(BESIDE_THE_CAPSULE)
+        wait_until("the editor in front", lambda: self.desktop.active_window_title() == "editor")
+        self.open_capsule()
+        self.desktop.type("below\n")
+        wait_until("the typed line", lambda: typed.read_text() == "below\n")
+        self.assertEqual(self.vantle.sessions(), [])
+        self.assertIsNone(self.vantle.marker())
+
+
+class Works(CapsuleTest):
+
+    def test_a_click_beside_the_chips_starts_and_another_stops(self):
+        self.launch()
+        self.open_capsule()
+        self.click(BESIDE_THE_CHIPS)
+        marker = wait_until("a marker", self.vantle.marker)
+        self.assertEqual(marker["skillId"], FIRST_SKILL)
+        self.turn_away()
+        time.sleep(2.5)  # until the flash of the start is over
+        self.open_capsule()
+        self.desktop.screenshot("running")
+        self.click(BESIDE_THE_CHIPS)
+        wait_until("a record", lambda: len(self.vantle.sessions()) == 1)
+        self.assertIsNone(self.vantle.marker())
+
+    def test_a_click_on_a_chip_splits_the_session_and_no_second_is_lost(self):
+        typed = self.open_editor()
+        self.launch()
+        began = time.time()
+        self.begin_session()
+        time.sleep(2.2)  # work, and the flash of the start
+        self.open_capsule()
+        self.click(CHIP_DESIGN)
+        wait_until("the other skill", lambda: (self.vantle.marker() or {}).get("skillId") == DESIGN)
+        self.turn_away()
+        time.sleep(2.0)
+        self.end_session()
+        length = time.time() - began
+        first, second = self.vantle.sessions()
+        self.assertEqual([first["skillId"], second["skillId"]], [FIRST_SKILL, DESIGN])
+        self.assertEqual(first["endedAt"], second["startedAt"])
+        self.assertLessEqual(abs(first["activeSeconds"] + second["activeSeconds"] - length), 2)
+        self.desktop.type("still here\n")
+        wait_until("the typed line", lambda: typed.read_text() == "still here\n")
+
+
+class Edits(CapsuleTest):
+
+    def test_a_name_typed_into_the_editor_lands_in_the_list_and_the_keyboard_goes_back(self):
+        typed = self.open_editor()
+        self.launch()
+        self.open_capsule()
+        self.click(CHIP_DESIGN, button=3)
+        time.sleep(0.3)
+        self.desktop.screenshot("menu")
+        self.click(MENU_RENAME)
+        time.sleep(0.3)
+        self.desktop.type("Sketching")
+        self.desktop.screenshot("rename")
+        self.desktop.press("Return")
+        wait_until("the new name", lambda: self.skills()[DESIGN]["name"] == "Sketching")
+        self.assertEqual(typed.read_text(), "")
+        self.desktop.type("mine\n")
+        wait_until("the typed line", lambda: typed.read_text() == "mine\n")
+
+    def test_a_new_skill_is_added_in_place_and_escape_adds_none(self):
+        self.launch()
+        self.open_capsule()
+        self.click(ADD_ROW)
+        time.sleep(0.3)
+        self.desktop.type("Nothing")
+        self.desktop.press("Escape")
+        time.sleep(0.3)
+        self.click(ADD_ROW)
+        time.sleep(0.3)
+        self.desktop.type("Research")
+        self.desktop.screenshot("create")
+        self.desktop.press("Return")
+        wait_until("the list", lambda: (self.vantle.data_directory / "skills.json").exists())
+        names = [skill["name"] for skill in self.skills().values()]
+        self.assertEqual(names[-1], "Research")
+        self.assertNotIn("Nothing", names)
+
+    def test_a_click_in_another_window_turns_away_from_the_editor(self):
+        typed = self.open_editor()
+        self.launch()
+        self.open_capsule()
+        self.click(ADD_ROW)
+        time.sleep(0.3)
+        self.desktop.tool("xdotool", "mousemove", "400", "400", "sleep", "0.1", "click", "1")
+        wait_until("a closed capsule", lambda: not self.is_open())
+        self.desktop.type("mine\n")
+        wait_until("the typed line", lambda: typed.read_text() == "mine\n")
