@@ -5,6 +5,10 @@ namespace vantle {
 QList<Scene> allScenes() {
     QList<Scene> scenes;
     scenes += kitScenes();
+    scenes += capsuleScenes();
+    scenes += cardScenes();
+    scenes += commandCenterScenes();
+    scenes += windowScenes();
     return scenes;
 }
 

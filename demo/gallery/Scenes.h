@@ -6,7 +6,11 @@
 
 namespace vantle {
 
+[[nodiscard]] QList<Scene> capsuleScenes();
+[[nodiscard]] QList<Scene> cardScenes();
+[[nodiscard]] QList<Scene> commandCenterScenes();
 [[nodiscard]] QList<Scene> kitScenes();
+[[nodiscard]] QList<Scene> windowScenes();
 
 [[nodiscard]] QList<Scene> allScenes();
 

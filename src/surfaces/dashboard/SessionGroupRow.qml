@@ -24,12 +24,11 @@ Item {
         Accessible.ignored: true
     }
 
-    Rectangle {
+    FlatDot {
         x: 96
         anchors.verticalCenter: parent.verticalCenter
         width: DarkUI.chipDot
         height: DarkUI.chipDot
-        radius: width / 2
         color: row.line.color
     }
 

@@ -25,12 +25,11 @@ KitPressable {
         edge: Tint.alpha(chip.model.chipColor, 0.70)
     }
 
-    Rectangle {
+    FlatDot {
         x: DarkUI.space12
         anchors.verticalCenter: parent.verticalCenter
         width: DarkUI.chipDot
         height: DarkUI.chipDot
-        radius: width / 2
         color: chip.model.chipColor
         opacity: chip.model.isPaused ? 0.4 : 1
     }

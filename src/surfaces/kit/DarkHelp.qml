@@ -7,14 +7,18 @@ import Vantle.Kit
 Item {
     id: help
 
-    required property Item control
-    required property string text
-    readonly property Item area: control.Window.contentItem
+    property Item control
+    property string text
+    property Item area: null // that of the window, taken once: a live binding outlasts the window
     readonly property point below: area ? control.mapToItem(area, control.width / 2, control.height)
                                         : Qt.point(0, 0)
     readonly property bool fitsBelow: area && below.y + DarkUI.space6 + height <= area.height
 
-    parent: area
+    onControlChanged: {
+        area = control.Window.contentItem;
+        parent = area;
+    }
+
     z: 1000
     width: label.implicitWidth + 2 * DarkUI.space8
     height: label.implicitHeight + 2 * DarkUI.space4

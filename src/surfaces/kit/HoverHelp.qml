@@ -6,9 +6,9 @@ import Vantle.Kit
 Item {
     id: watch
 
-    required property Item control
-    required property string text
-    required property bool pointed // the pointer rests on the control
+    property Item control
+    property string text
+    property bool pointed // the pointer rests on the control
 
     onPointedChanged: shown.active = false
 
@@ -21,9 +21,11 @@ Item {
     Loader {
         id: shown
         active: false
-        sourceComponent: DarkHelp {
-            control: watch.control
-            text: watch.text
+        source: "DarkHelp.qml"
+        onLoaded: {
+            const help = item as DarkHelp;
+            help.text = watch.text;
+            help.control = watch.control;
         }
     }
 }

@@ -56,10 +56,12 @@ KitControl {
 
     Loader {
         active: pressable.help !== ""
-        sourceComponent: HoverHelp {
-            control: pressable
-            text: pressable.help
-            pointed: pressable.hovered && !pressable.pressed
+        source: "HoverHelp.qml"
+        onLoaded: {
+            const watch = item as HoverHelp;
+            watch.control = pressable;
+            watch.text = Qt.binding(() => pressable.help);
+            watch.pointed = Qt.binding(() => pressable.hovered && !pressable.pressed);
         }
     }
 }

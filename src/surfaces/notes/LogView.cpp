@@ -24,7 +24,7 @@ void LogView::reload() {
         return m_env.skills.display(id);
     })));
     m_filters.setSkills(m_rows.content().log.skills);
-    if (!m_editingId.isNull() && !entry(m_editingId)) cancelEdit();
+    if (!m_editingId.isEmpty() && !entry(m_editingId)) cancelEdit();
 
     LocalTime wall(m_rows.content().calendar);
     const Date now = m_rows.content().now;
@@ -75,27 +75,33 @@ QString LogView::footerText() const {
     return noteslog::footerText(log, visible, style);
 }
 
-const LogEntry* LogView::entry(const QUuid& id) const {
+QString LogView::widestTimeText() const {
+    LocalTime wall(m_rows.content().calendar);
+    const Date midnight = wall.startOfDay(wall.at(m_rows.content().now).day);
+    return DateText::time(m_rows.content().calendar)(midnight + Seconds(22 * 3600.0));
+}
+
+const LogEntry* LogView::entry(const QString& id) const {
     const auto& entries = m_rows.content().log.entries;
-    const auto found = std::ranges::find(entries, id, &LogEntry::id);
+    const auto found = std::ranges::find(entries, QUuid::fromString(id), &LogEntry::id);
     return found == entries.end() ? nullptr : &*found;
 }
 
-void LogView::copyNote(const QUuid& id) {
+void LogView::copyNote(const QString& id) {
     const LogEntry* copied = entry(id);
     if (!copied) return;
     m_env.copy(copied->note);
     setCopiedId(id);
     m_copiedEnds =
-        m_env.scheduler.scheduleOnce(Seconds(copiedSeconds), [this] { setCopiedId(QUuid()); });
+        m_env.scheduler.scheduleOnce(Seconds(copiedSeconds), [this] { setCopiedId(QString()); });
 }
 
-void LogView::setCopiedId(const QUuid& id) {
+void LogView::setCopiedId(const QString& id) {
     m_copiedId = id;
     Q_EMIT copiedIdChanged();
 }
 
-void LogView::beginEdit(const QUuid& id) {
+void LogView::beginEdit(const QString& id) {
     const LogEntry* edited = entry(id);
     if (!edited) return;
     setDraft(edited->note);
@@ -121,7 +127,7 @@ void LogView::commitEdit() {
 }
 
 void LogView::cancelEdit() {
-    m_editingId = QUuid();
+    m_editingId.clear();
     setDraft({});
     Q_EMIT editingChanged();
 }

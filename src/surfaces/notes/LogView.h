@@ -34,14 +34,16 @@ class LogView final : public QObject {
     Q_PROPERTY(QString countText READ countText NOTIFY shownChanged FINAL)
     Q_PROPERTY(QString subtitleText READ subtitleText NOTIFY shownChanged FINAL)
     Q_PROPERTY(QString footerText READ footerText NOTIFY shownChanged FINAL)
+    /// As wide as a time of day can be, for the column of times.
+    Q_PROPERTY(QString widestTimeText READ widestTimeText NOTIFY shownChanged FINAL)
     Q_PROPERTY(bool showsFilters READ showsFilters NOTIFY shownChanged FINAL)
     Q_PROPERTY(bool showsAll READ showsAll NOTIFY filterChanged FINAL)
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY filterChanged FINAL)
-    /// The one row that is being edited, and what is typed there; null when there is none.
-    Q_PROPERTY(QUuid editingId READ editingId NOTIFY editingChanged FINAL)
+    /// The one row that is being edited, and what is typed there; empty when there is none.
+    Q_PROPERTY(QString editingId READ editingId NOTIFY editingChanged FINAL)
     Q_PROPERTY(QString draft READ draft WRITE setDraft NOTIFY draftChanged FINAL)
     /// The row whose note was copied a moment ago.
-    Q_PROPERTY(QUuid copiedId READ copiedId NOTIFY copiedIdChanged FINAL)
+    Q_PROPERTY(QString copiedId READ copiedId NOTIFY copiedIdChanged FINAL)
     /// Why the last edit could not be saved; empty otherwise.
     Q_PROPERTY(QString failure READ failure NOTIFY failureChanged FINAL)
 
@@ -72,12 +74,13 @@ public:
     [[nodiscard]] QString countText() const;
     [[nodiscard]] QString subtitleText() const;
     [[nodiscard]] QString footerText() const;
+    [[nodiscard]] QString widestTimeText() const;
     [[nodiscard]] bool showsFilters() const { return !m_rows.content().log.skills.empty(); }
     [[nodiscard]] bool showsAll() const { return !m_filter.skillId; }
     [[nodiscard]] const QString& query() const { return m_filter.query; }
-    [[nodiscard]] QUuid editingId() const { return m_editingId; }
+    [[nodiscard]] const QString& editingId() const { return m_editingId; }
     [[nodiscard]] const QString& draft() const { return m_draft; }
-    [[nodiscard]] QUuid copiedId() const { return m_copiedId; }
+    [[nodiscard]] const QString& copiedId() const { return m_copiedId; }
     [[nodiscard]] const QString& failure() const { return m_failure; }
 
     void setQuery(const QString& query);
@@ -85,9 +88,9 @@ public:
     Q_INVOKABLE void showAll();
     Q_INVOKABLE void clearFilters();
 
-    Q_INVOKABLE void copyNote(const QUuid& id);
+    Q_INVOKABLE void copyNote(const QString& id);
 
-    Q_INVOKABLE void beginEdit(const QUuid& id);
+    Q_INVOKABLE void beginEdit(const QString& id);
     void setDraft(const QString& draft);
     /// Saves the draft, if it says something else than the note, and ends the edit.
     Q_INVOKABLE void commitEdit();
@@ -105,17 +108,17 @@ private:
     void reload();
     void narrow(LogFilter filter);
     [[nodiscard]] NoteRows::Content content(NotesLog log) const;
-    [[nodiscard]] const LogEntry* entry(const QUuid& id) const;
+    [[nodiscard]] const LogEntry* entry(const QString& id) const;
     void setFailure(const QString& failure);
-    void setCopiedId(const QUuid& id);
+    void setCopiedId(const QString& id);
 
     const Environment m_env;
     NoteRows m_rows;
     NoteFilters m_filters;
     LogFilter m_filter;
-    QUuid m_editingId;
+    QString m_editingId;
     QString m_draft;
-    QUuid m_copiedId;
+    QString m_copiedId;
     QString m_failure;
     TimerHandle m_copiedEnds;
     TimerHandle m_dayEnds; ///< then "Today" is another day

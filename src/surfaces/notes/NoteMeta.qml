@@ -19,11 +19,10 @@ Row {
         Accessible.ignored: true
     }
 
-    Rectangle {
+    FlatDot {
         anchors.verticalCenter: parent.verticalCenter
         width: DarkUI.chipDot
         height: DarkUI.chipDot
-        radius: width / 2
         color: meta.skillColor
     }
 

@@ -4,13 +4,14 @@ import QtQuick
 import Vantle.Kit
 import Vantle.Notes
 
-Item {
+KitControl {
     id: row
 
     required property LogView log
-    required property bool current // the keyboard is on it
+    required property real timeWidth // of the column, the same for all rows
+    signal leftBehind(int step) // an arrow key leads to a row before or after
 
-    required property var sessionId
+    required property string sessionId
     required property string note
     required property string timeText
     required property string skillName
@@ -20,8 +21,15 @@ Item {
 
     readonly property bool editing: log.editingId === sessionId
     readonly property bool copied: log.copiedId === sessionId
-    readonly property bool active: (hover.hovered || current) && !editing
-    readonly property real textX: DarkUI.space28 + 54
+    readonly property bool active: (hover.hovered || keyboardFocus) && !editing
+    readonly property real textX: DarkUI.space28 + timeWidth
+
+    function showEditor(): void {
+        if (editing)
+            editor.setSource("NoteEditor.qml", { "log": log });
+        else
+            editor.source = "";
+    }
 
     implicitHeight: content.height + 2 * DarkUI.space8
 
@@ -29,7 +37,12 @@ Item {
     Accessible.name: qsTr("%1, %2, %3, %4").arg(note).arg(timeText).arg(skillName).arg(durationText)
     Accessible.focusable: true
 
+    onEditingChanged: showEditor()
+    Component.onCompleted: showEditor()
+
     Keys.onReturnPressed: log.beginEdit(sessionId)
+    Keys.onUpPressed: leftBehind(-1)
+    Keys.onDownPressed: leftBehind(1)
     Keys.onPressed: event => {
         event.accepted = event.matches(StandardKey.Copy);
         if (event.accepted)
@@ -48,7 +61,7 @@ Item {
         color: row.active || row.editing ? DarkUI.rowHover : DarkUI.clear
 
         FocusRing {
-            shown: row.current && !row.editing
+            shown: row.keyboardFocus && !row.editing
             controlRadius: DarkUI.radiusBanner
         }
     }
@@ -80,13 +93,10 @@ Item {
         }
 
         Loader {
-            active: row.editing
-            visible: active
+            id: editor
+            visible: row.editing
             x: -DarkUI.space12
             width: parent.width + DarkUI.space12
-            sourceComponent: NoteEditor {
-                log: row.log
-            }
         }
 
         NoteMeta {
@@ -109,7 +119,7 @@ Item {
             help: name
             icon: "copy"
             iconSize: DarkUI.space14
-            activeFocusOnTab: row.current
+            activeFocusOnTab: row.active
             onClicked: row.log.copyNote(row.sessionId)
         }
 
@@ -118,7 +128,7 @@ Item {
             help: name
             icon: "pencil"
             iconSize: DarkUI.space14
-            activeFocusOnTab: row.current
+            activeFocusOnTab: row.active
             onClicked: row.log.beginEdit(row.sessionId)
         }
     }

@@ -78,7 +78,7 @@ QVariant NoteRows::data(const QModelIndex& index, int role) const {
     const Skill& skill = m_content.log.skillOf(entry);
     switch (role) {
     case IdRole:
-        return entry.id;
+        return entry.id.toString();
     case NoteRole:
         return entry.note;
     case TimeRole:

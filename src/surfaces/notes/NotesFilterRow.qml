@@ -9,6 +9,8 @@ Item {
 
     required property LogView model
 
+    readonly property real ringRoom: DarkUI.focusWidth + DarkUI.focusGap
+
     implicitHeight: DarkUI.chipHeight
 
     // The chip with the focus comes into sight.
@@ -25,7 +27,7 @@ Item {
         id: area
         anchors.fill: parent
         // Room for the focus ring, which would be cut.
-        anchors.margins: -(DarkUI.focusWidth + DarkUI.focusGap)
+        anchors.margins: -row.ringRoom
         contentWidth: chips.width + 2 * chips.x
         contentHeight: height
         flickableDirection: Flickable.HorizontalFlick
@@ -34,7 +36,7 @@ Item {
         clip: true
 
         ArrowGroup {
-            x: DarkUI.focusWidth + DarkUI.focusGap
+            x: row.ringRoom
             y: x
             width: chips.width
             height: chips.height
@@ -73,7 +75,7 @@ Item {
     }
 
     EdgeFade {
-        anchors.right: parent.right
+        anchors.right: area.right
         width: 104
         height: parent.height
         edge: Qt.RightEdge
@@ -81,6 +83,7 @@ Item {
     }
 
     EdgeFade {
+        anchors.left: area.left
         width: DarkUI.edgeFade
         height: parent.height
         edge: Qt.LeftEdge

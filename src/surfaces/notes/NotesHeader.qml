@@ -77,7 +77,7 @@ FocusScope {
     }
 
     Shortcut {
-        sequences: [StandardKey.Find]
+        sequence: "Ctrl+F"
         onActivated: search.forceActiveFocus(Qt.ShortcutFocusReason)
     }
 }

@@ -9,34 +9,46 @@ FocusScope {
 
     required property LogView model
 
+    function goBy(step: int): void {
+        list.currentIndex = Math.max(0, Math.min(list.currentIndex + step, list.count - 1));
+        const row = list.currentItem as NoteRow;
+        if (row)
+            row.focusByKeyboard();
+    }
+
+    TextMetrics {
+        id: widestTime
+        font: DarkUI.body.font
+        text: area.model.widestTimeText
+    }
+
     ListView {
         id: list
         anchors.fill: parent
         clip: true
         boundsBehavior: Flickable.StopAtBounds
-        activeFocusOnTab: true
         focus: true
-        keyNavigationEnabled: true
-        currentIndex: -1
+        keyNavigationEnabled: false // the rows pass the focus on, as the keyboard does
         highlightMoveDuration: 0
         model: area.model.rows
         bottomMargin: DarkUI.space14
         // Notes are of many heights; some more of them keep the scroll bar steady.
-        cacheBuffer: height
+        cacheBuffer: Math.max(0, height)
 
         section.property: "dayText"
-        section.delegate: NotesDayHeading {}
+        // From its file: a list can't make a component that is bound to this one.
+        section.delegate: Qt.createComponent("NotesDayHeading.qml")
 
         delegate: NoteRow {
             width: ListView.view.width
             log: area.model
-            current: ListView.isCurrentItem && list.activeFocus
+            activeFocusOnTab: ListView.isCurrentItem
+            timeWidth: Math.max(54, widestTime.width + DarkUI.space10)
+            onLeftBehind: step => area.goBy(step)
         }
 
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Notes")
-
-        onActiveFocusChanged: if (activeFocus && currentIndex < 0) currentIndex = 0
     }
 
     EdgeFade {

@@ -1,7 +1,6 @@
 // The notes window: a head with the search and the filters, the notes by days, a foot.
 pragma ComponentBehavior: Bound
 import QtQuick
-import Vantle.Kit
 import Vantle.Notes
 
 FocusScope {

@@ -7,7 +7,7 @@ DarkTextField {
     id: field
 
     required property string unit
-    signal left
+    signal focusLost
 
     implicitWidth: 118
     minHeight: DarkUI.figureFieldHeight
@@ -18,7 +18,7 @@ DarkTextField {
         if (input.activeFocus)
             input.selectAll();
         else
-            field.left();
+            field.focusLost();
     }
 
     DarkText {

@@ -83,7 +83,7 @@ FocusScope {
                 wrong: form.model.isTimeWrong
                 text: form.model.hoursText
                 onEdited: form.model.hoursText = hours.text
-                onLeft: form.model.normalizeDuration()
+                onFocusLost: form.model.normalizeDuration()
                 onAccepted: form.model.logEntry()
             }
 
@@ -96,7 +96,7 @@ FocusScope {
                 input.Accessible.description: qsTr("Enter a number of minutes")
                 text: form.model.minutesText
                 onEdited: form.model.minutesText = minutes.text
-                onLeft: form.model.normalizeDuration()
+                onFocusLost: form.model.normalizeDuration()
                 onAccepted: form.model.logEntry()
             }
 
@@ -146,13 +146,13 @@ FocusScope {
             Accessible.ignored: true
         }
 
-        Row {
+        Item {
             visible: form.model.errorMessage !== ""
-            topPadding: DarkUI.space16
-            spacing: DarkUI.space8
+            width: parent.width
+            height: DarkUI.space16 + message.height
 
             KitIcon {
-                y: parent.topPadding + (message.lineHeight - height) / 2
+                y: DarkUI.space16 + (DarkUI.captionMedium.line - height) / 2
                 width: DarkUI.space14
                 height: DarkUI.space14
                 name: "warning"
@@ -161,7 +161,9 @@ FocusScope {
 
             DarkText {
                 id: message
-                width: Math.min(implicitWidth, column.width - DarkUI.space14 - DarkUI.space8)
+                x: DarkUI.space14 + DarkUI.space8
+                y: DarkUI.space16
+                width: parent.width - x
                 text: form.model.errorMessage
                 role: DarkUI.captionMedium
                 color: DarkUI.dangerText

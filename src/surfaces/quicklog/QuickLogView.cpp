@@ -26,8 +26,8 @@ QuickLogView::QuickLogView(AppModel& model, const Preferences& preferences,
     if (found != m_skills.end()) m_skillIndex = static_cast<int>(found - m_skills.begin());
 }
 
-QStringList QuickLogView::skillNames() const {
-    QStringList names;
+QList<QString> QuickLogView::skillNames() const {
+    QList<QString> names;
     for (const Skill& skill : m_skills)
         names << skill.name;
     return names;

@@ -23,7 +23,7 @@ class QuickLogView final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the window router.")
-    Q_PROPERTY(QStringList skillNames READ skillNames CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> skillNames READ skillNames CONSTANT FINAL)
     Q_PROPERTY(int skillIndex READ skillIndex WRITE setSkillIndex NOTIFY skillIndexChanged FINAL)
     Q_PROPERTY(QColor skillColor READ skillColor NOTIFY skillIndexChanged FINAL)
     Q_PROPERTY(QString hoursText READ hoursText WRITE setHoursText NOTIFY durationChanged FINAL)
@@ -38,7 +38,7 @@ public:
     /// `onClose` closes the form. The model and the preferences must outlive it.
     QuickLogView(AppModel& model, const Preferences& preferences, std::function<void()> onClose);
 
-    [[nodiscard]] QStringList skillNames() const;
+    [[nodiscard]] QList<QString> skillNames() const;
     [[nodiscard]] int skillIndex() const { return m_skillIndex; }
     void setSkillIndex(int index);
     [[nodiscard]] QColor skillColor() const;

@@ -12,12 +12,11 @@ DarkMenuPicker {
     textLeft: DarkUI.fieldPadding + DarkUI.chipDot + DarkUI.space10
     role: DarkUI.body
 
-    Rectangle {
+    FlatDot {
         x: DarkUI.fieldPadding
         anchors.verticalCenter: parent.verticalCenter
         width: DarkUI.chipDot
         height: DarkUI.chipDot
-        radius: width / 2
         color: picker.skillColor
     }
 }

@@ -49,8 +49,9 @@ protected:
             if (session.id == samples::id(number)) return session.note;
         return QStringLiteral("gone");
     }
+    [[nodiscard]] static QString idOf(int number) { return samples::id(number).toString(); }
     void edit(int number, const char* draft) {
-        m_view->beginEdit(samples::id(number));
+        m_view->beginEdit(idOf(number));
         m_view->setDraft(QString::fromUtf8(draft));
         m_view->commitEdit();
     }
@@ -117,23 +118,23 @@ TEST_F(LogViewTest, ChipOfTheSkillThatIsShownIsTheSelectedOne) {
 TEST_F(LogViewTest, CopiedNoteSaysSoForAMoment) {
     write({" alpha "});
     LogView& view = open();
-    view.copyNote(samples::id(1));
+    view.copyNote(idOf(1));
     EXPECT_EQ(m_clipboard, QStringLiteral("alpha"));
     time.advance(1.3);
-    EXPECT_EQ(view.copiedId(), samples::id(1));
+    EXPECT_EQ(view.copiedId(), idOf(1));
     time.advance(0.2);
-    EXPECT_TRUE(view.copiedId().isNull());
+    EXPECT_TRUE(view.copiedId().isEmpty());
 }
 
 TEST_F(LogViewTest, EditIsSavedAndListed) {
     write({"alpha", "beta"});
     LogView& view = open();
-    view.beginEdit(samples::id(1));
-    EXPECT_EQ(view.editingId(), samples::id(1));
+    view.beginEdit(idOf(1));
+    EXPECT_EQ(view.editingId(), idOf(1));
     EXPECT_EQ(view.draft(), QStringLiteral("alpha"));
     view.setDraft(QStringLiteral("  gamma "));
     view.commitEdit();
-    EXPECT_TRUE(view.editingId().isNull());
+    EXPECT_TRUE(view.editingId().isEmpty());
     EXPECT_EQ(view.draft(), QString());
     EXPECT_EQ(shown(), (QStringList{QStringLiteral("beta"), QStringLiteral("gamma")}));
     EXPECT_EQ(stored(1), QStringLiteral("gamma"));
@@ -146,7 +147,7 @@ TEST_F(LogViewTest, SameTextWithMoreBlanksIsNotWritten) {
     edit(1, "\n alpha  ");
     for (const auto& call : files.calls())
         EXPECT_NE(call.operation, Operation::Rename);
-    EXPECT_TRUE(m_view->editingId().isNull());
+    EXPECT_TRUE(m_view->editingId().isEmpty());
 }
 
 TEST_F(LogViewTest, EmptiedNoteLeavesTheListAndTheLastOneLeavesItEmpty) {
@@ -160,10 +161,10 @@ TEST_F(LogViewTest, EmptiedNoteLeavesTheListAndTheLastOneLeavesItEmpty) {
 TEST_F(LogViewTest, EscapeLeavesTheNoteAsItWas) {
     write({"alpha"});
     LogView& view = open();
-    view.beginEdit(samples::id(1));
+    view.beginEdit(idOf(1));
     view.setDraft(QStringLiteral("beta"));
     view.cancelEdit();
-    EXPECT_TRUE(view.editingId().isNull());
+    EXPECT_TRUE(view.editingId().isEmpty());
     EXPECT_EQ(view.draft(), QString());
     EXPECT_EQ(stored(1), QStringLiteral("alpha"));
 }
@@ -185,7 +186,7 @@ TEST_F(LogViewTest, FailedWriteKeepsTheOldNoteAndSaysWhy) {
 TEST_F(LogViewTest, SessionThatEndsAppearsWithoutDisturbingAnEdit) {
     write({"alpha", "beta"});
     LogView& view = open();
-    view.beginEdit(samples::id(1));
+    view.beginEdit(idOf(1));
     view.setDraft(QStringLiteral("half typed"));
     int resets = 0;
     int inserted = 0;
@@ -199,17 +200,17 @@ TEST_F(LogViewTest, SessionThatEndsAppearsWithoutDisturbingAnEdit) {
                                     QStringLiteral("alpha")}));
     EXPECT_EQ(resets, 0);
     EXPECT_EQ(inserted, 1);
-    EXPECT_EQ(view.editingId(), samples::id(1));
+    EXPECT_EQ(view.editingId(), idOf(1));
     EXPECT_EQ(view.draft(), QStringLiteral("half typed"));
 }
 
 TEST_F(LogViewTest, EditOfASessionThatIsErasedEnds) {
     write({"alpha"});
     LogView& view = open();
-    view.beginEdit(samples::id(1));
+    view.beginEdit(idOf(1));
     put(log, "");
     Q_EMIT process.notifications.HFSessionsChanged();
-    EXPECT_TRUE(view.editingId().isNull());
+    EXPECT_TRUE(view.editingId().isEmpty());
     EXPECT_EQ(view.state(), State::Empty);
 }
 

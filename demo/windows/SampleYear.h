@@ -1,0 +1,16 @@
+// A made-up log: some weeks of somebody who builds, designs and talks to people.
+#pragma once
+
+#include "tracking/Session.h"
+
+#include <QByteArray>
+
+namespace vantle {
+
+/// The moment at which the pictures are taken: a Friday afternoon, 2025-11-21 in UTC.
+[[nodiscard]] Date sampleNow();
+
+/// Sessions over 46 hours, the newest of them with notes, as the log file holds them.
+[[nodiscard]] QByteArray sampleLog();
+
+} // namespace vantle
