@@ -91,9 +91,12 @@ void FloatingPanel::returnKeyboard() {
 }
 
 bool FloatingPanel::event(QEvent* event) {
+    const bool isPress = event->type() == QEvent::MouseButtonPress;
+    // Delivering the press to an item turns its place into the item's own.
+    const QPointF place =
+        isPress ? static_cast<const QMouseEvent*>(event)->position() : QPointF();
     const bool handled = QQuickView::event(event);
-    if (event->type() == QEvent::MouseButtonPress)
-        takeKeyboardForField(static_cast<QMouseEvent*>(event)->position());
+    if (isPress) takeKeyboardForField(place);
     if (event->type() == QEvent::Enter) Q_EMIT pointerEntered();
     if (event->type() == QEvent::Leave) Q_EMIT pointerLeft();
     return handled;
