@@ -3,6 +3,7 @@
 #include "ceremony/OverlayScreens.h"
 #include "ceremony/WebCeremonyModule.h"
 
+#include <QCoreApplication>
 #include <QPluginLoader>
 
 namespace vantle {
@@ -12,6 +13,7 @@ ModuleWebStage::ModuleWebStage(QString modulePath, std::function<QString()> find
     , m_findPage(std::move(findPage)) {}
 
 bool ModuleWebStage::hasPage() {
+    if (!QCoreApplication::testAttribute(Qt::AA_ShareOpenGLContexts)) return false;
     if (m_findPage().isEmpty()) return false;
     if (!std::exchange(m_wasTried, true))
         m_module = qobject_cast<WebCeremonyModule*>(QPluginLoader(m_modulePath).instance());

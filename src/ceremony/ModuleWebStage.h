@@ -10,7 +10,9 @@ namespace vantle {
 class WebCeremonyModule;
 
 /// The module is loaded when there is a page to show, and not before: the engine takes a hundred
-/// megabytes, and gives nothing back. One that can't be loaded counts as missing for this run.
+/// megabytes, and gives nothing back. One that can't be loaded counts as missing for this run; so
+/// does any, unless AA_ShareOpenGLContexts was set before the application object was made: the
+/// engine would crash.
 class ModuleWebStage final : public WebStage {
 public:
     /// `modulePath` is the module's file; `findPage` gives the page's, empty where there is none.

@@ -6,6 +6,7 @@
 #include "ceremony/show/CeremonyFrameRenderer.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 namespace vantle {
 
@@ -13,8 +14,10 @@ namespace {
 
 /// Lies beside the program, where the system has a web engine to build it with.
 QString webModulePath() {
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/vantle-webceremony.so");
+    return resourcefolders::ofProgram() + QStringLiteral("/vantle-webceremony.so");
 }
+
+QString findPage() { return resourcefolders::find(QStringLiteral("ceremony.html")); }
 
 RippleOverlayController::Prepare preparation() {
     // Of its own, since it is used on the queue; shared, since functions get copied.
@@ -28,10 +31,15 @@ RippleOverlayController::Prepare preparation() {
 
 } // namespace
 
+void Ceremony::prepareProcess() {
+    if (QFileInfo::exists(webModulePath()) && !findPage().isEmpty())
+        QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+}
+
 Ceremony::Ceremony(const Environment& environment)
     : m_env(environment)
     , m_stage(m_env.clock, m_env.scheduler, m_env.panelHost)
-    , m_web(webModulePath(), [] { return resourcefolders::find(QStringLiteral("ceremony.html")); })
+    , m_web(webModulePath(), findPage)
     , m_prepQueue(QLatin1String(RippleOverlayController::prepQueueLabel)) {
     ceremonyfonts::registerBundledFonts(resourcefolders::all());
 }

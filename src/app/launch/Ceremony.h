@@ -29,6 +29,11 @@ public:
         PanelHost& panelHost;
     };
 
+    /// Where there is a page, lets its engine share what it draws with the program. That loads the
+    /// graphics driver, so people without a page are spared it. To be called before there is an
+    /// application object; a page that is put in its place later plays from the next run on.
+    static void prepareProcess();
+
     /// Makes the ceremony's typeface known, if there is one.
     explicit Ceremony(const Environment& environment);
 

@@ -165,6 +165,7 @@ int HourfoldMain(int argc, char** argv) {
     // Views are drawn in software: no graphics driver is mapped, and a third of the memory
     // suffices.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    Ceremony::prepareProcess();
     describeApplication();
     const QApplication application(argc, argv);
     return run(startedAtLogin);

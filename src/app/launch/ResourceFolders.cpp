@@ -7,8 +7,7 @@
 namespace vantle::resourcefolders {
 
 QStringList all() {
-    const QString installed = QDir::cleanPath(QCoreApplication::applicationDirPath() +
-                                              QStringLiteral("/../share/vantle"));
+    const QString installed = QDir::cleanPath(ofProgram() + QStringLiteral("/../share/vantle"));
     return {installed, QStringLiteral(VANTLE_SOURCE_RESOURCES)};
 }
 
@@ -18,5 +17,7 @@ QString find(const QString& name) {
             return file.absoluteFilePath();
     return {};
 }
+
+QString ofProgram() { return QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath(); }
 
 } // namespace vantle::resourcefolders

@@ -1,0 +1,23 @@
+// The door of the module.
+#pragma once
+
+#include "ceremony/WebCeremonyModule.h"
+
+#include <QObject>
+
+namespace vantle {
+
+class WebCeremonyPlugin final : public QObject, public WebCeremonyModule {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "local.vantle.WebCeremonyModule/1")
+    Q_INTERFACES(vantle::WebCeremonyModule)
+
+public:
+    WebCeremonyPlugin();
+
+    [[nodiscard]] std::unique_ptr<OverlayWindow> putUp(QScreen& screen, const QString& page,
+                                                       const QString& script,
+                                                       WebStage::MessageHandler message) override;
+};
+
+} // namespace vantle

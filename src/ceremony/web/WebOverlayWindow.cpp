@@ -1,0 +1,66 @@
+#include "ceremony/web/WebOverlayWindow.h"
+
+#include "ceremony/OverlayScreens.h"
+#include "ceremony/web/LocalFilesOnly.h"
+
+#include <QGuiApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWebEngineProfile>
+#include <QScreen>
+#include <QUrl>
+#include <QUuid>
+
+namespace vantle {
+
+namespace {
+
+/// What the page finds when it begins: its configuration, and somebody to post messages to. A
+/// message goes out as a line of the console that begins with `prefix`.
+QString firstScript(const QString& configuration, const QString& prefix) {
+    return QStringLiteral("(function(){"
+                          "const log=console.log.bind(console),text=JSON.stringify;"
+                          "%1"
+                          "window.webkit={messageHandlers:{ceremony:{postMessage:"
+                          "function(body){log('%2'+text([body]));}}}};"
+                          "})();")
+        .arg(configuration, prefix);
+}
+
+} // namespace
+
+WebOverlayWindow::WebOverlayWindow(QScreen& screen, const QString& page, const QString& script,
+                                   WebStage::MessageHandler message)
+    : m_message(std::move(message)) {
+    overlayscreens::cover(*this, screen);
+    setColor(Qt::transparent);
+    setResizeMode(QQuickView::SizeRootObjectToView);
+    const QString prefix = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    const QUrl url = QUrl::fromLocalFile(page);
+    setInitialProperties({{QStringLiteral("page"), url},
+                          {QStringLiteral("script"), firstScript(script, prefix)},
+                          {QStringLiteral("messagePrefix"), prefix}});
+    setSource(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/CeremonyWeb/CeremonyPage.qml")));
+    QQuickItem* const view = rootObject();
+    if (!view) return; // the engine's own QML files are missing: the hard stop ends it
+    connect(view, SIGNAL(messagePosted(QString)), this, SLOT(receive(QString)));
+    connect(view, SIGNAL(crashed()), this, SLOT(hide()));
+    auto* const profile = view->property("profile").value<QQuickWebEngineProfile*>();
+    profile->setUrlRequestInterceptor(new LocalFilesOnly(profile));
+    connect(qApp, &QGuiApplication::screenRemoved, this, [this, &screen](QScreen* removed) {
+        if (removed == &screen) hide();
+    });
+    connect(&screen, &QScreen::geometryChanged, this, &QWindow::hide);
+    view->setProperty("url", url);
+    show();
+}
+
+void WebOverlayWindow::receive(const QString& body) {
+    // In an array, since a body may be a plain text or number.
+    const QJsonArray wrapped = QJsonDocument::fromJson(body.toUtf8()).array();
+    m_message(wrapped.isEmpty() ? QJsonValue() : wrapped.first());
+}
+
+} // namespace vantle
