@@ -31,10 +31,12 @@ class DesktopTest(unittest.TestCase):
 
     XEMBED, STATUS_NOTIFIER, NO_TRAY = range(3)
     tray_kind = XEMBED
+    compositor = False
 
     def setUp(self):
         name = re.sub(r"^test_", "", self._testMethodName)
-        self.desktop = Desktop(PICTURES / name, tray=self.tray_kind == self.XEMBED)
+        self.desktop = Desktop(PICTURES / name, tray=self.tray_kind == self.XEMBED,
+                               compositor=self.compositor)
         self.addCleanup(self.desktop.stop)
         self.desktop.start()
         self.tray = None

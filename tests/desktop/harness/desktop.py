@@ -92,6 +92,15 @@ class Desktop:
         found = self._asked("xdotool", "search", "--onlyvisible", "--class", f"^{window_class}$")
         return [window for window in found.split() if self._geometry(window)["WIDTH"] > 100]
 
+    def windows_named(self, title):
+        """The visible windows of that title, by their ids."""
+        return self._asked("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
+
+    def frame_of(self, window):
+        """Where a window is: x, y, width, height."""
+        values = self._geometry(window)
+        return (values["X"], values["Y"], values["WIDTH"], values["HEIGHT"])
+
     def active_window(self):
         """The id of the window in front, empty if none is."""
         return self._asked("xdotool", "getactivewindow").strip()

@@ -11,6 +11,17 @@ class Picture:
     height: int
     rgb: bytes
 
+    @property
+    def size(self):
+        """How many pixels there are."""
+        return self.width * self.height
+
+    def part(self, left, right):
+        """The columns from `left` to before `right`."""
+        rows = (self.rgb[3 * (row * self.width + left):3 * (row * self.width + right)]
+                for row in range(self.height))
+        return Picture(right - left, self.height, b"".join(rows))
+
     def pixels(self):
         values = iter(self.rgb)
         return zip(values, values, values)

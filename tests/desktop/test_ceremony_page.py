@@ -1,0 +1,141 @@
+"""A ceremony page in place of the native show: what it is told, what it may say, how it ends."""
+
+import os
+import signal
+import socket
+import time
+from pathlib import Path
+
+from harness.case import EXECUTABLE, FIRST_SKILL_COLOUR, SHORTCUT
+from harness.ceremony import ALL_GONE, GROUND_RGB, CeremonyCase
+from harness.picture import is_near, rgb_of
+from harness.program import Program
+from harness.waiting import wait_until
+
+PAGE = Path(__file__).resolve().parent / "pages" / "ceremony.html"
+PARTS = ("vantle", "vantle-shortcuts", "vantle-webceremony.so")
+
+ACCENT = rgb_of(FIRST_SKILL_COLOUR)
+
+
+class Page(CeremonyCase):
+
+    def new_program(self):
+        """A copy of the program that is installed with a page of its own."""
+        prefix = self.desktop.directory / "installed"
+        (prefix / "bin").mkdir(parents=True)
+        (prefix / "share" / "vantle").mkdir(parents=True)
+        for part in PARTS:
+            os.link(EXECUTABLE.parent / part, prefix / "bin" / part)
+        self.page = prefix / "share" / "vantle" / "ceremony.html"
+        if os.getuid() == 0:
+            # The engine refuses to run its sandbox as root.
+            self.desktop.env["QTWEBENGINE_DISABLE_SANDBOX"] = "1"
+        program = Program(prefix / "bin" / "vantle", self.desktop)
+        self.addCleanup(self._expect_silence, program)
+        self.addCleanup(program.kill)
+        program.write_preferences(dev__skipInstallPrompt="true")
+        return program
+
+    def launch_with(self, behaviour, address=""):
+        text = PAGE.read_text().replace("BEHAVIOUR", behaviour).replace("ADDRESS", address)
+        self.page.write_text(text)
+        self.launch()
+
+    def shows_square(self):
+        return is_near(self.spot(720, 450), ACCENT, 4)
+
+    def await_square(self):
+        wait_until("the page", self.shows_square, deadline=3)
+
+    def renderers(self):
+        """The engine's processes that run the page."""
+        found = []
+        for entry in Path("/proc").glob("[0-9]*/cmdline"):
+            try:
+                words = entry.read_bytes()
+                group = os.getpgid(int(entry.parent.name))
+            except OSError:
+                continue
+            if b"--type=renderer" in words and group == self.vantle.pid:
+                found.append(int(entry.parent.name))
+        return found
+
+    def test_a_page_plays_over_the_desktop_and_goes_when_it_is_done(self):
+        self.launch_with("done")
+        self.desktop.press(SHORTCUT)
+        self.await_square()
+        shown = time.monotonic()
+        self.desktop.screenshot("page")
+        self.assertEqual(self.spot(20, 700), GROUND_RGB, "the page is see-through")
+        wait_until("the end of the page", lambda: not self.overlays(), deadline=2.2)
+        self.assertLess(time.monotonic() - shown, 2.5)
+        self.assertEqual(self.spot(720, 450), GROUND_RGB)
+        self.vantle.stop()
+        wait_until("the end of the engine", lambda: not self.vantle.left_children())
+
+    def test_the_work_below_goes_on_through_a_page(self):
+        typed = self.desktop.directory / "typed"
+        self.desktop.open("xterm", "-T", "editor", "-geometry", "40x10+20+100",
+                          "-e", f"cat > {typed}")
+        wait_until("the editor in front",
+                   lambda: self.desktop.active_window_title() == "editor")
+        self.launch_with("never")
+        self.desktop.press(SHORTCUT)
+        self.await_square()
+        self.desktop.type("a line\n")
+        wait_until("the typed line", lambda: typed.read_text() == "a line\n", deadline=1)
+        self.assertEqual(len(self.overlays()), 1)
+
+    def test_a_page_that_never_says_anything_goes_at_the_hard_stop(self):
+        self.launch_with("never")
+        self.assert_all_gone(self.press_and_play())
+
+    def test_a_page_that_talks_nonsense_goes_at_the_hard_stop_and_not_before(self):
+        self.launch_with("garbage")
+        pressed = self.press_and_play()
+        self.await_square()
+        self.wait_for_moment(pressed, 2.9)
+        self.assertEqual(len(self.overlays()), 1)
+        self.assert_all_gone(pressed)
+
+    def test_a_page_that_begins_late_has_its_whole_time_from_then(self):
+        self.launch_with("late")
+        pressed = self.press_and_play()
+        self.wait_for_moment(pressed, 4.5)
+        self.assertEqual(len(self.overlays()), 1)
+        self.assert_all_gone(pressed, after=2 + 1 + ALL_GONE)
+
+    def test_a_page_that_crashes_is_gone_and_the_next_one_plays(self):
+        self.launch_with("never")
+        pressed = self.press_and_play()
+        self.await_square()
+        renderers = self.renderers()
+        self.assertTrue(renderers)
+        for renderer in renderers:
+            os.kill(renderer, signal.SIGKILL)
+        wait_until("nothing to see", lambda: self.spot(720, 450) == GROUND_RGB, deadline=1)
+        self.assert_all_gone(pressed)
+        self.assertTrue(self.vantle.is_running())
+        self.desktop.press(SHORTCUT)  # ends the session, with the ring
+        time.sleep(1.2)
+        self.desktop.press(SHORTCUT)
+        self.await_square()
+
+    def test_a_page_reaches_nobody_over_the_network(self):
+        with socket.create_server(("127.0.0.1", 0)) as server:
+            server.settimeout(2.5)
+            self.launch_with("reachOut", f"127.0.0.1:{server.getsockname()[1]}")
+            self.desktop.press(SHORTCUT)
+            self.await_square()
+            with self.assertRaises(TimeoutError):
+                server.accept()
+
+    def test_without_the_module_the_native_show_plays(self):
+        (self.page.parents[2] / "bin" / "vantle-webceremony.so").unlink()
+        self.launch_with("done")
+        pressed = self.press_and_play()
+        self.wait_for_moment(pressed, 2.3)
+        middle = self.desktop.picture(520, 400, 400, 100)
+        self.assertTrue(middle.shows((255, 255, 255), tolerance=20))
+        self.assert_all_gone(pressed)
