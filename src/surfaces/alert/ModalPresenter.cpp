@@ -7,6 +7,7 @@
 #include <QQuickItem>
 #include <QQuickView>
 #include <QScreen>
+#include <QThread>
 
 namespace vantle::modalpresenter {
 
@@ -32,9 +33,7 @@ QPoint centered(const QSize& size, const QRect& area) {
             area.y() + (area.height() - size.height()) / 2};
 }
 
-} // namespace
-
-int runAlert(const Alert& alert) {
+int runOnMainThread(const Alert& alert) {
     AlertModel model;
     model.message = alert.message;
     model.informativeText = alert.informativeText;
@@ -54,12 +53,24 @@ int runAlert(const Alert& alert) {
     });
     window.setTitle(QGuiApplication::applicationDisplayName());
     window.setFlags(Qt::Dialog | Qt::WindowStaysOnTopHint);
+    // The rest of the program waits for the answer.
+    window.setModality(Qt::ApplicationModal);
     window.setMinimumSize(window.size());
     window.setMaximumSize(window.size());
     window.setPosition(centered(window.size(), window.screen()->availableGeometry()));
     window.show();
     window.requestActivate();
     loop.exec();
+    return chosen;
+}
+
+} // namespace
+
+int runAlert(const Alert& alert) {
+    if (QThread::currentThread() == qApp->thread()) return runOnMainThread(alert);
+    int chosen = 0;
+    QMetaObject::invokeMethod(
+        qApp, [&] { chosen = runOnMainThread(alert); }, Qt::BlockingQueuedConnection);
     return chosen;
 }
 

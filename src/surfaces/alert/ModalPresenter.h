@@ -17,7 +17,8 @@ namespace modalpresenter {
 
 /// Shows the alert in front of everything, in a window with a place in the task bar, and returns
 /// the index of the chosen button. Escape and closing the window choose the last one. Runs the
-/// event loop until then. Main thread, after the application object.
+/// event loop until then; the program's other windows wait. Any thread, after the application
+/// object: off the main thread it waits for the answer there.
 [[nodiscard]] int runAlert(const Alert& alert);
 
 } // namespace modalpresenter

@@ -1,10 +1,12 @@
 #include "surfaces/alert/ModalPresenter.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QQuickItem>
 #include <QQuickView>
+#include <QThread>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -52,6 +54,32 @@ TEST(ModalPresenter, TabReachesTheOtherButton) {
                   press(view, Qt::Key_Space);
               }),
               1);
+}
+
+TEST(ModalPresenter, OffTheMainThreadTheQuestionIsAskedOnIt) {
+    const QThread* askedOn = nullptr;
+    int chosen = -1;
+    QTimer glance;
+    QObject::connect(&glance, &QTimer::timeout, [&] {
+        for (QWindow* window : QGuiApplication::topLevelWindows())
+            if (auto* view = qobject_cast<QQuickView*>(window); view && view->isVisible()) {
+                askedOn = view->thread();
+                press(*view, Qt::Key_Escape);
+            }
+    });
+    glance.start(5);
+    const std::unique_ptr<QThread> worker(QThread::create([&] {
+        chosen = modalpresenter::runAlert({QStringLiteral("Something happened"),
+                                           QStringLiteral("It means this."),
+                                           {QStringLiteral("Replace"), QStringLiteral("Cancel")}});
+    }));
+    QEventLoop loop;
+    QObject::connect(worker.get(), &QThread::finished, &loop, &QEventLoop::quit);
+    worker->start();
+    loop.exec();
+    worker->wait();
+    EXPECT_EQ(chosen, 1);
+    EXPECT_EQ(askedOn, QCoreApplication::instance()->thread());
 }
 
 } // namespace
