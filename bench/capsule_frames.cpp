@@ -1,0 +1,99 @@
+// capsule_frames: opens and closes a capsule on the display and prints what it saw, in a line:
+// frames a second while it opens, the longest wait for a frame in ms, and how many frames were
+// drawn in ten seconds with the capsule closed.
+#include "base/Scheduler.h"
+#include "platform/ReducedMotion.h"
+#include "platform/desktop/SettingsPreferences.h"
+#include "platform/posix/PosixFileSystem.h"
+#include "platform/x11/X11Connection.h"
+#include "platform/x11/X11PanelHost.h"
+#include "surfaces/capsule/CapsuleWindow.h"
+
+#include <QGuiApplication>
+#include <QQmlEngine>
+#include <QTimer>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+
+namespace vantle::bench {
+namespace {
+
+constexpr int kRounds = 12;
+constexpr int kOpening = 700; // ms, in which the spring comes to rest
+constexpr int kClosing = 400;
+constexpr int kClosed = 10'000;
+
+class Moving final : public ReducedMotion {
+public:
+    [[nodiscard]] bool enabled() const override { return false; }
+};
+
+double now() {
+    using namespace std::chrono;
+    return duration<double, std::milli>(steady_clock::now().time_since_epoch()).count();
+}
+
+void runFor(int milliseconds) {
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+std::unique_ptr<NotchCapsule> makeCapsule(const NotchCapsule::Environment& environment,
+                                          const ScreenShape& screen) {
+    NotchCapsule::Form form;
+    form.skills = {Skill::defaults().begin(), Skill::defaults().end()};
+    form.skill = form.skills.front();
+    return std::make_unique<NotchCapsule>(environment, std::move(form), screen);
+}
+
+int run() {
+    QtScheduler scheduler;
+    PosixFileSystem files;
+    SettingsPreferences preferences(files, QStringLiteral("/nonexistent/preferences.ini"));
+    const Moving motion;
+    const CapsuleText text;
+    X11Connection x11;
+    X11PanelHost host(x11);
+    QQmlEngine engine;
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    const ScreenShape screen{.frame = QRectF(0, 0, 1440, 900),
+                             .available = QRectF(0, 0, 1440, 900)};
+    auto capsule = makeCapsule({scheduler, preferences, motion, text}, screen);
+    const QRectF frame = capsule::panelFrame(capsule->metrics(), screen);
+    const auto window = CapsuleWindow::raise(std::move(capsule), frame, engine, host);
+    if (!window) return 1;
+    runFor(1000);
+
+    std::vector<double> frames;
+    QObject::connect(&window->panel(), &QQuickWindow::frameSwapped, &window->panel(),
+                     [&] { frames.push_back(now()); });
+    double longest = 0;
+    double perSecond = 0;
+    for (int round = 0; round < kRounds; ++round) {
+        frames = {now()};
+        window->capsule().expand();
+        runFor(kOpening);
+        for (std::size_t i = 1; i < frames.size(); ++i)
+            longest = std::max(longest, frames[i] - frames[i - 1]);
+        perSecond += 1000 * static_cast<double>(frames.size() - 1) /
+                     (frames.back() - frames.front()) / kRounds;
+        window->capsule().collapse();
+        runFor(kClosing);
+    }
+    frames.clear();
+    runFor(kClosed);
+    std::printf("%.2f %.2f %zu\n", perSecond, longest, frames.size());
+    return 0;
+}
+
+} // namespace
+} // namespace vantle::bench
+
+int main(int argc, char** argv) {
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    const QGuiApplication application(argc, argv);
+    return vantle::bench::run();
+}
