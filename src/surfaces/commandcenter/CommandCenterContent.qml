@@ -12,6 +12,12 @@ FocusScope {
     readonly property int margin: DarkUI.space20
     readonly property int inner: width - 2 * margin
 
+    // Lays out at once what would wait for the next frame, for whoever needs the height now.
+    function settle(): void {
+        modes.settle();
+        column.forceLayout();
+    }
+
     implicitWidth: DarkUI.commandCenterWidth
     implicitHeight: column.implicitHeight
 
@@ -114,7 +120,7 @@ FocusScope {
         Item {
             x: content.margin
             width: content.inner
-            height: Math.max(choose.height, anytime.height)
+            height: choose.height
 
             DarkKicker {
                 id: choose
@@ -136,6 +142,7 @@ FocusScope {
         }
 
         ModeChips {
+            id: modes
             x: content.margin
             width: content.inner
             modes: content.model.modes
@@ -247,7 +254,11 @@ FocusScope {
         }
     }
 
-    Component.onCompleted: if (content.model.takePrimaryPulse()) enter.pulse()
+    Component.onCompleted: {
+        settle();
+        if (content.model.takePrimaryPulse())
+            enter.pulse();
+    }
 
     Connections {
         target: content.model

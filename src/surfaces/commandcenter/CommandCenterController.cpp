@@ -6,6 +6,7 @@
 #include "surfaces/window/SharedEngine.h"
 #include "surfaces/window/WindowRouter.h"
 
+#include <QCoreApplication>
 #include <QQmlEngine>
 #include <QQuickItem>
 
@@ -21,7 +22,8 @@ CommandCenterController::CommandCenterController(const Environment& environment)
 CommandCenterController::~CommandCenterController() {
     hide();
     m_env.presses.ignore();
-    delete m_hidden; // its view looks at what goes with this
+    // Views of panels that were hidden look at what goes with this.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 std::function<void()> CommandCenterController::afterHiding(void (WindowRouter::*open)()) {
@@ -71,7 +73,7 @@ void CommandCenterController::toggle(QPoint click) {
 
 void CommandCenterController::show() {
     m_env.model.refreshPanelState();
-    if (!m_panel && !makePanel()) return;
+    if (m_env.screens.all().empty() || (!m_panel && !makePanel())) return;
     reposition();
     m_panel->takeKeyboard();
     if (m_env.model.highlightStatusItem) m_env.model.highlightStatusItem(true);
@@ -116,6 +118,7 @@ void CommandCenterController::reposition() {
     m_panel->setInputRegion(ground);
     const QSize size = QSizeF(view->implicitWidth(), view->implicitHeight()).toSize();
     m_panel->showAt(QRect(m_frame.topLeft() - ground.topLeft(), size));
+    view->setProperty("up", true);
 }
 
 void CommandCenterController::repositionSoon() {
@@ -156,7 +159,6 @@ void CommandCenterController::hide() {
     FloatingPanel* const panel = std::exchange(m_panel, nullptr);
     panel->disconnect(this);
     panel->hide();
-    m_hidden = panel;
     panel->deleteLater(); // it may be in the middle of an event of the person's
     m_content.setShown(false);
 }

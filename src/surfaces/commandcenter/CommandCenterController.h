@@ -45,7 +45,7 @@ public:
 
     /// A click on the tray item, at that place as far as known, else (0, 0).
     void toggle(QPoint click);
-    void show();
+    void show(); ///< nothing where there is no screen
     Q_SLOT void hide();
     [[nodiscard]] bool isShown() const { return m_panel != nullptr; }
 
@@ -67,7 +67,6 @@ private:
     Environment m_env;
     CommandCenterModel m_content;
     FloatingPanel* m_panel = nullptr; ///< deletes itself after hiding
-    QPointer<FloatingPanel> m_hidden; ///< until it has deleted itself
     QRect m_frame;                    ///< of what the person sees, without its shadow
     QPoint m_click;                   ///< at which it was opened; (0, 0) when unknown
     OutsidePress m_outside;

@@ -26,7 +26,7 @@ std::optional<Target> target(const Anchor& anchor, const std::vector<ScreenShape
     if (!anchor.item.isEmpty())
         if (auto found = on(anchor.item, screens)) return found;
     if (anchor.click.isNull()) return std::nullopt;
-    return on(QRectF(anchor.click, QSizeF(1, 1)), screens);
+    return on(QRectF(anchor.click - QPointF(0.5, 0.5), QSizeF(1, 1)), screens);
 }
 
 /// The lower bound wins where both can't hold.

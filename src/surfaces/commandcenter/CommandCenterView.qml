@@ -10,6 +10,7 @@ FocusScope {
 
     required property CommandCenterModel model
     required property bool composited // else the ground alone is there, with square corners
+    property bool up: false // set once the window is shown
     property int maximumHeight: 1000000 // px, of the ground
 
     readonly property ShadowToken shadow: DarkUI.shadowFloating
@@ -32,7 +33,7 @@ FocusScope {
     GlassBackground {
         id: ground
 
-        property real shown: 0
+        property real shown: view.up ? 1 : 0
 
         x: view.aside
         y: view.above - (1 - shown) * DarkUI.cardRise
@@ -42,7 +43,6 @@ FocusScope {
         color: view.composited ? DarkUI.floating : DarkUI.base
         shadowed: view.composited
         opacity: shown
-        Component.onCompleted: shown = 1
 
         Behavior on shown {
             NumberAnimation {

@@ -16,6 +16,10 @@ Item {
 
     implicitHeight: flow.implicitHeight
 
+    function settle(): void {
+        flow.forceLayout();
+    }
+
     component SkillChip: DarkChip {
         id: chip
 
@@ -43,7 +47,7 @@ Item {
 
         Flow {
             id: flow
-            width: parent.width
+            width: chips.width
             spacing: DarkUI.chipGap
 
             Repeater {
@@ -57,10 +61,8 @@ Item {
                 }
             }
 
-            DarkChip {
-                id: newMode
-                large: true
-                text: qsTr("New Mode")
+            NewModeChip {
+                active: chips.adding
                 onClicked: chips.addWanted()
             }
         }

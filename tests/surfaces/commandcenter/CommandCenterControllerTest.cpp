@@ -4,6 +4,7 @@
 #include "fakes/FakePanelHost.h"
 #include "fakes/FakePointerPresses.h"
 #include "fakes/FakeScreens.h"
+#include "support/Await.h"
 #include "surfaces/panel/FloatingPanel.h"
 #include "surfaces/window/ForegroundActivation.h"
 #include "surfaces/window/SharedEngine.h"
@@ -121,6 +122,8 @@ TEST_F(CommandCenterControllerTest, EscapeHidesItAndLeavesTheEditorAsItWas) {
 
 TEST_F(CommandCenterControllerTest, ReturnStartsWithoutHidingIt) {
     controller->show();
+    controller->panel()->requestActivate(); // as taking the keyboard does
+    ASSERT_TRUE(await([&] { return controller->panel()->isActive(); }));
     press(Qt::Key_Return);
     EXPECT_EQ(world.model->tracker().state(), TrackerCore::State::Running);
     EXPECT_TRUE(controller->isShown());
@@ -145,10 +148,10 @@ TEST_F(CommandCenterControllerTest, ItGrowsWithTheEditor) {
     controller->show();
     const int before = frame().height();
     controller->content().addMode();
-    world.settle();
-    QCoreApplication::sendPostedEvents();
-    world.settle();
-    EXPECT_GT(frame().height(), before + 100);
+    EXPECT_TRUE(await([&] {
+        world.settle();
+        return frame().height() > before + 100;
+    }));
     EXPECT_EQ(frame().y(), 36);
 }
 

@@ -1,0 +1,47 @@
+// The chip behind the modes that opens the editor for another one.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+KitPressable {
+    id: chip
+
+    required property bool active // the editor is open for a new mode
+
+    implicitWidth: sign.x + sign.width + DarkUI.space8 + label.implicitWidth + DarkUI.space12
+    implicitHeight: DarkUI.largeChipHeight
+    name: qsTr("New Mode")
+
+    GlassChipBackground {
+        id: ground
+        anchors.fill: parent
+        hovering: chip.hovered || chip.active
+        pressed: chip.pressed
+    }
+
+    KitIcon {
+        id: sign
+        x: DarkUI.space8
+        anchors.verticalCenter: parent.verticalCenter
+        width: DarkUI.space12
+        height: DarkUI.space12
+        name: "plus"
+        color: label.color
+    }
+
+    DarkText {
+        id: label
+        anchors.left: sign.right
+        anchors.leftMargin: DarkUI.space8
+        anchors.verticalCenter: parent.verticalCenter
+        text: chip.name
+        role: DarkUI.captionMedium
+        color: chip.hovered || chip.active || chip.ringed ? DarkUI.t1 : DarkUI.t2
+        Accessible.ignored: true
+    }
+
+    FocusRing {
+        shown: chip.ringed
+        controlRadius: ground.radius
+    }
+}
