@@ -20,4 +20,15 @@ RecoveryNoticeModel::RecoveryNoticeModel(const Session& session, const Skill& sk
           QStringLiteral(" of "), skill.name,
           QStringLiteral("? Nothing is saved unless you choose Keep.")} {}
 
+QString RecoveryNoticeModel::styledBody(const QColor& stressed) const {
+    QString body;
+    for (qsizetype i = 0; i < m_bodyPieces.size(); ++i) {
+        const QString piece = m_bodyPieces[i].toHtmlEscaped();
+        body += i % 2 == 0 ? piece
+                           : QStringLiteral("<font color=\"%1\">%2</font>")
+                                 .arg(stressed.name(QColor::HexArgb), piece);
+    }
+    return body;
+}
+
 } // namespace vantle

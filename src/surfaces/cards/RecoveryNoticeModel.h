@@ -5,6 +5,7 @@
 #include "tracking/Session.h"
 #include "tracking/Skill.h"
 
+#include <QColor>
 #include <QObject>
 #include <QQmlEngine>
 #include <QStringList>
@@ -18,8 +19,6 @@ class RecoveryNoticeModel final : public QObject {
     QML_UNCREATABLE("Made by the controller.")
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString body READ body CONSTANT)
-    /// The body in pieces: plain ones and ones to stress take turns, a plain one first.
-    Q_PROPERTY(QStringList bodyPieces READ bodyPieces CONSTANT)
     Q_PROPERTY(QString discardHelp READ discardHelp CONSTANT)
     Q_PROPERTY(QString keepHelp READ keepHelp CONSTANT)
 
@@ -28,6 +27,7 @@ public:
 
     [[nodiscard]] QString title() const { return QStringLiteral("Recover your last session?"); }
     [[nodiscard]] QString body() const { return m_bodyPieces.join(QString()); }
+    /// Plain pieces and ones to stress take turns, a plain one first.
     [[nodiscard]] const QStringList& bodyPieces() const { return m_bodyPieces; }
     [[nodiscard]] QString discardHelp() const {
         return QStringLiteral("Deletes the interrupted session without saving it");
@@ -36,6 +36,8 @@ public:
         return QStringLiteral("Saves the interrupted session to your local log");
     }
 
+    /// The body as styled text, with the pieces to stress in that colour.
+    Q_INVOKABLE [[nodiscard]] QString styledBody(const QColor& stressed) const;
     Q_INVOKABLE void discard() { Q_EMIT discarded(); }
     Q_INVOKABLE void keep() { Q_EMIT kept(); }
 

@@ -13,7 +13,8 @@ namespace vantle {
 /// Fixed from the beginning. Main thread.
 class SkillChoices final : public QAbstractListModel {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the model of a question.")
 
 public:
     enum Role { NameRole = Qt::UserRole, ColorRole };

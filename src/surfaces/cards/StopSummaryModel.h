@@ -37,6 +37,8 @@ class StopSummaryModel final : public QObject {
     Q_PROPERTY(QString lockText READ lockText CONSTANT)
     Q_PROPERTY(QString hintText READ hintText CONSTANT)
 
+    /// The most user-perceived characters that a note may have.
+    Q_PROPERTY(int noteLimit READ noteLimit CONSTANT)
     Q_PROPERTY(bool hasNote READ hasNote NOTIFY noteChanged)
     /// Empty until the note comes near its limit.
     Q_PROPERTY(QString counterText READ counterText NOTIFY noteChanged)
@@ -64,13 +66,14 @@ public:
     [[nodiscard]] QString lockText() const;
     [[nodiscard]] QString hintText() const;
 
+    [[nodiscard]] static int noteLimit() { return kMaxNoteLength; }
     [[nodiscard]] const QString& note() const { return m_note; }
     [[nodiscard]] bool hasNote() const { return !m_note.isEmpty(); }
     [[nodiscard]] QString counterText() const;
     [[nodiscard]] QString doneText() const;
     [[nodiscard]] QString closeLabel() const;
 
-    /// Takes what stands in the field, and returns what may stay there: 500 characters at most.
+    /// Takes what stands in the field, and returns what may stay there: no more than its limit.
     Q_INVOKABLE QString takeNote(const QString& text);
     /// The field has the keyboard now.
     Q_INVOKABLE void noteFocused();

@@ -11,6 +11,7 @@
 #include "tracking/AppPaths.h"
 #include "tracking/DurationStyle.h"
 #include "tracking/NotificationCenter.h"
+#include "tracking/Session.h"
 #include "tracking/SkillList.h"
 
 namespace vantle::tests {

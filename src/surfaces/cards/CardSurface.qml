@@ -1,0 +1,64 @@
+// The ground of a card or a toast in its window: its place, its shadow, and how it comes and goes.
+// The window is larger than the ground by the room that the shadow takes.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+FocusScope {
+    id: surface
+
+    required property bool composited // else the ground alone is there, with square corners
+    property bool up: false // set once the window is shown, and cleared when it is to go
+    property int inTime: DarkUI.cardInTime
+    property int outTime: DarkUI.cardOutTime
+    property int moveTime: DarkUI.toastMoveTime // of the window, when something else takes its place
+    property int drop: DarkUI.cardRise // px that it comes down by
+    property real radius: DarkUI.radiusFloating
+    property ShadowToken shadow: DarkUI.shadowFloating
+    property real groundWidth: DarkUI.cardWidth
+    property real groundHeight: 0
+    readonly property real aside: composited ? shadow.blur : 0
+    readonly property real above: composited ? Math.max(0, shadow.blur - shadow.offset) : 0
+    readonly property real below: composited ? shadow.blur + shadow.offset : 0
+    readonly property rect groundRect: Qt.rect(aside, above, groundWidth, groundHeight)
+    readonly property real shown: ground.shown // 0 to 1, while it comes and goes
+    default property alias content: inside.data
+    signal gone // it can't be seen any more
+
+    implicitWidth: groundWidth + 2 * aside
+    implicitHeight: groundHeight + above + below
+    enabled: up
+    focus: true
+    // It may have to go before anything of it was seen.
+    onUpChanged: if (!up && shown === 0) surface.gone()
+
+    GlassBackground {
+        id: ground
+
+        property real shown: surface.up ? 1 : 0
+
+        x: surface.aside
+        y: surface.above - (surface.up ? (1 - shown) * surface.drop : 0)
+        width: surface.groundWidth
+        height: surface.groundHeight
+        radius: surface.composited ? surface.radius : 0
+        color: surface.composited ? DarkUI.floating : DarkUI.base
+        shadow: surface.shadow
+        shadowed: surface.composited
+        opacity: shown
+        onShownChanged: if (shown === 0 && !surface.up) surface.gone()
+
+        Behavior on shown {
+            NumberAnimation {
+                // Without a compositor there is nothing to fade into.
+                duration: !surface.composited ? 0 : surface.up ? surface.inTime : surface.outTime
+                easing.type: Easing.OutCubic
+            }
+        }
+
+        Item {
+            id: inside
+            anchors.fill: parent
+        }
+    }
+}

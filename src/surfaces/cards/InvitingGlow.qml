@@ -1,0 +1,59 @@
+// The light around a field that asks to be filled in. It breathes; with reduced motion it is a
+// steady halo.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Item {
+    id: light
+
+    property real radius: DarkUI.radiusButton
+    property real phase: Motion.reduced ? 1 : 0 // 0 dark, 1 bright
+    readonly property int ringWidth: DarkUI.space2
+
+    z: -1
+
+    SequentialAnimation on phase {
+        running: light.visible && !Motion.reduced
+        loops: Animation.Infinite
+
+        NumberAnimation {
+            to: 1
+            duration: DarkUI.invitationTime
+            easing.type: Easing.InOutSine
+        }
+        NumberAnimation {
+            to: 0
+            duration: DarkUI.invitationTime
+            easing.type: Easing.InOutSine
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: -DarkUI.invitationHalo
+        radius: light.radius + DarkUI.invitationHalo
+        color: "transparent"
+        border.width: DarkUI.invitationHalo
+        border.color: Tint.alpha(DarkUI.accent, DarkUI.invitationHaloOpacity * light.phase)
+    }
+
+    // The glow is made of rings, so that none of it lies under the field, which is not opaque.
+    Repeater {
+        model: Motion.reduced ? 0 : DarkUI.invitationGlow / light.ringWidth
+
+        Rectangle {
+            required property int index
+            readonly property real reach: (index + 1) * light.ringWidth // px beyond the field
+            readonly property real nearness: 1 - reach / (DarkUI.invitationGlow + light.ringWidth)
+
+            anchors.fill: parent
+            anchors.margins: -reach
+            radius: light.radius + reach
+            color: "transparent"
+            border.width: light.ringWidth
+            border.color: Tint.alpha(DarkUI.accent, DarkUI.invitationGlowOpacity * light.phase
+                                                    * nearness * nearness)
+        }
+    }
+}

@@ -1,0 +1,177 @@
+#include "surfaces/cards/QuickCardStage.h"
+
+#include "platform/Screens.h"
+#include "surfaces/cards/CardPlacement.h"
+#include "surfaces/panel/FloatingPanel.h"
+
+#include <QGuiApplication>
+#include <QPropertyAnimation>
+#include <QQmlEngine>
+#include <QQuickItem>
+
+#include <utility>
+
+namespace vantle {
+
+namespace {
+
+QUrl sourceOf(CardView view) {
+    const auto named = [](const char* name) {
+        return QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Cards/%1.qml").arg(QLatin1String(name)));
+    };
+    switch (view) {
+    case CardView::StopSummary:
+        return named("StopSummaryView");
+    case CardView::RecoveryNotice:
+        return named("RecoveryNoticeView");
+    case CardView::TagPrompt:
+        return named("TagPromptView");
+    case CardView::CorrectionPrompt:
+        return named("CorrectionPromptView");
+    case CardView::RetagToast:
+        return named("RetagToastView");
+    }
+    Q_UNREACHABLE();
+}
+
+/// What window managers, assistive tools and tests know the window by.
+QString titleOf(CardView view) {
+    switch (view) {
+    case CardView::StopSummary:
+        return QStringLiteral("Vantle Session Summary");
+    case CardView::RecoveryNotice:
+        return QStringLiteral("Vantle Recovery");
+    case CardView::TagPrompt:
+    case CardView::CorrectionPrompt:
+        return QStringLiteral("Vantle Question");
+    case CardView::RetagToast:
+        return QStringLiteral("Vantle Saved Time");
+    }
+    Q_UNREACHABLE();
+}
+
+/// Rows and columns arrange their items only before a frame is drawn, which is too late to measure
+/// them.
+void arrange(QQuickItem& item) {
+    const QList<QQuickItem*> children = item.childItems();
+    for (QQuickItem* child : children)
+        arrange(*child);
+    item.ensurePolished();
+}
+
+/// A card in its window, which is larger than the card by the room for its shadow.
+class QuickCardPanel final : public CardPanel {
+public:
+    /// The view of the panel is loaded. The panel is owned by this from now on.
+    QuickCardPanel(FloatingPanel& panel, bool feelsPointer)
+        : m_panel(&panel)
+        , m_feelsPointer(feelsPointer)
+        , m_frame(QPoint(), ground().size()) {}
+
+    ~QuickCardPanel() override {
+        if (!m_panel) return;
+        m_panel->hide();
+        // It may be in the middle of an event of the person's.
+        m_panel->deleteLater();
+    }
+
+    [[nodiscard]] QSize size() const override { return m_frame.size(); }
+
+    void showAt(QPoint topLeft) override {
+        m_frame.moveTopLeft(topLeft);
+        m_panel->setOpaqueRegion(ground());
+        m_panel->setInputRegion(m_feelsPointer ? QRegion(ground()) : QRegion());
+        m_panel->showAt(QRect(topLeft - ground().topLeft(), windowSize()));
+        root().setProperty("up", true);
+    }
+
+    void moveTo(QPoint topLeft) override {
+        m_frame.moveTopLeft(topLeft);
+        delete m_glide;
+        m_glide = new QPropertyAnimation(m_panel, "y", m_panel);
+        m_glide->setDuration(root().property("moveTime").toInt());
+        m_glide->setEasingCurve(QEasingCurve::OutCubic);
+        m_glide->setEndValue(topLeft.y() - ground().y());
+        m_glide->start(QAbstractAnimation::DeleteWhenStopped);
+        m_panel->setX(topLeft.x() - ground().x());
+    }
+
+    [[nodiscard]] QRect frame() const override { return m_frame; }
+    void takeKeyboard() override { m_panel->takeKeyboard(); }
+    void returnKeyboard() override { m_panel->returnKeyboard(); }
+
+    /// Leaves the window to itself: it goes once nothing of it can be seen.
+    void fade() {
+        m_panel->returnKeyboard();
+        if (!m_panel->isVisible()) return;
+        m_panel->setInputRegion(QRegion());
+        QObject::connect(&root(), SIGNAL(gone()), m_panel, SLOT(deleteLater()));
+        root().setProperty("up", false);
+        m_panel = nullptr;
+    }
+
+private:
+    [[nodiscard]] QQuickItem& root() const { return *m_panel->rootObject(); }
+    /// Where the card is within its window.
+    [[nodiscard]] QRect ground() const { return root().property("groundRect").toRectF().toRect(); }
+    [[nodiscard]] QSize windowSize() const {
+        return QSizeF(root().implicitWidth(), root().implicitHeight()).toSize();
+    }
+
+    FloatingPanel* m_panel;
+    const bool m_feelsPointer;
+    QRect m_frame; ///< of the card
+    QPointer<QPropertyAnimation> m_glide;
+};
+
+} // namespace
+
+QuickCardStage::QuickCardStage(Environment environment) : m_env(std::move(environment)) {}
+
+QuickCardStage::~QuickCardStage() {
+    for (const auto& window : m_windows)
+        delete window.data();
+}
+
+std::optional<QRect> QuickCardStage::visibleFrame() const {
+    const std::vector<ScreenShape> screens = m_env.screens.all();
+    if (screens.empty()) return std::nullopt;
+    return screens.front().available.toRect();
+}
+
+std::unique_ptr<CardPanel> QuickCardStage::raise(CardView view, std::shared_ptr<QObject> model) {
+    const auto frame = visibleFrame();
+    if (!frame) return nullptr;
+    const bool isToast = view == CardView::RetagToast;
+    QVariantMap properties{{QStringLiteral("model"), QVariant::fromValue(model.get())},
+                           {QStringLiteral("composited"), m_env.panelHost.isComposited()}};
+    if (!isToast)
+        properties.insert(QStringLiteral("groundWidth"), cardplacement::cardWidth(*frame));
+    auto panel = std::make_unique<FloatingPanel>(m_env.engine(), m_env.panelHost);
+    if (!panel->load(sourceOf(view), properties)) return nullptr;
+    arrange(*panel->rootObject());
+    panel->setTitle(titleOf(view));
+    std::erase_if(m_windows, [](const auto& window) { return window.isNull(); });
+    m_windows.emplace_back(panel.get());
+    // It has to outlive the view, which may fade for a while.
+    QObject::connect(panel.get(), &QObject::destroyed, [model = std::move(model)] {});
+    return std::make_unique<QuickCardPanel>(*panel.release(), !isToast);
+}
+
+void QuickCardStage::dismiss(std::unique_ptr<CardPanel> panel) {
+    static_cast<QuickCardPanel&>(*panel).fade();
+}
+
+std::vector<QRect> QuickCardStage::panelFrames() const {
+    std::vector<QRect> frames;
+    for (const QWindow* window : QGuiApplication::allWindows()) {
+        const auto* const panel = qobject_cast<const FloatingPanel*>(window);
+        if (!panel || !panel->isVisible()) continue;
+        // What the pointer goes through, toasts and fading cards, is in nobody's way.
+        const QRect felt = panel->inputRegion().boundingRect();
+        if (!felt.isEmpty()) frames.push_back(felt.translated(panel->position()));
+    }
+    return frames;
+}
+
+} // namespace vantle

@@ -1,0 +1,68 @@
+// The short word after a change of skill.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Cards
+import Vantle.Kit
+
+CardSurface {
+    id: view
+
+    required property RetagToastModel model
+
+    inTime: DarkUI.toastInTime
+    outTime: DarkUI.toastOutTime
+    drop: 0
+    radius: groundHeight / 2
+    shadow: DarkUI.shadowToast
+    groundWidth: line.width + DarkUI.space12 + DarkUI.space16
+    groundHeight: height40
+
+    readonly property int height40: 40
+
+    Accessible.role: Accessible.Notification
+    Accessible.name: view.model.text
+
+    Row {
+        id: line
+        x: DarkUI.space12
+        height: parent.height
+        spacing: DarkUI.space10
+
+        Rectangle {
+            anchors.verticalCenter: parent.verticalCenter
+            width: DarkUI.swatch
+            height: DarkUI.swatch
+            radius: DarkUI.swatch / 2
+            color: Tint.alpha(view.model.skillColor, 0.22)
+
+            KitIcon {
+                anchors.centerIn: parent
+                width: DarkUI.space10
+                height: DarkUI.space10
+                name: "check"
+                color: view.model.skillColor
+            }
+        }
+
+        DarkText {
+            anchors.verticalCenter: parent.verticalCenter
+            text: view.model.text
+            role: DarkUI.bodyMedium
+        }
+
+        Rectangle {
+            anchors.verticalCenter: parent.verticalCenter
+            width: DarkUI.hairlineWidth
+            height: DarkUI.space14
+            color: DarkUI.fillPressed
+        }
+
+        SkillLabel {
+            anchors.verticalCenter: parent.verticalCenter
+            role: DarkUI.body
+            gap: DarkUI.space10
+            skillName: view.model.skillName
+            skillColor: view.model.skillColor
+        }
+    }
+}

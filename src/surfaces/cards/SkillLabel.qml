@@ -1,0 +1,29 @@
+// A skill by its dot and its name.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Row {
+    id: label
+
+    required property string skillName
+    required property color skillColor
+    property TypeRole role: DarkUI.caption
+    property real gap: DarkUI.space8
+
+    spacing: gap
+
+    Rectangle {
+        anchors.verticalCenter: parent.verticalCenter
+        width: DarkUI.chipDot
+        height: DarkUI.chipDot
+        radius: DarkUI.chipDot / 2
+        color: label.skillColor
+    }
+
+    DarkText {
+        text: label.skillName
+        role: label.role
+        color: DarkUI.t2
+    }
+}

@@ -1,0 +1,230 @@
+// The card after a session: what was added to the wall, and one line for a note.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Cards
+import Vantle.Kit
+
+CardSurface {
+    id: view
+
+    required property StopSummaryModel model
+    property alias noteText: note.text
+
+    groundHeight: footer.y + footer.height + DarkUI.space20
+
+    Accessible.role: Accessible.Dialog
+    Accessible.name: view.model.durationLabel
+
+    Keys.onEscapePressed: view.model.turnAway()
+    Keys.onReturnPressed: view.model.submit()
+    Keys.onEnterPressed: view.model.submit()
+
+    Connections {
+        target: view.model
+        function onNoteFocusRequested(): void {
+            note.input.forceActiveFocus(Qt.OtherFocusReason);
+        }
+    }
+
+    Column {
+        id: said
+        x: DarkUI.space20
+        y: DarkUI.space20 - DarkUI.space2
+        width: parent.width - 2 * DarkUI.space20
+
+        Row {
+            height: DarkUI.duration.line
+            spacing: DarkUI.duration.size * wordSpace
+            readonly property real wordSpace: 0.24 // em
+
+            Accessible.role: Accessible.StaticText
+            Accessible.name: view.model.durationLabel
+
+            Repeater {
+                model: view.model.durationWords
+
+                DarkText {
+                    required property string modelData
+                    required property int index
+                    text: modelData
+                    role: DarkUI.duration
+                    color: index % 2 === 0 ? DarkUI.t1 : DarkUI.t3
+                    Accessible.ignored: true
+                }
+            }
+        }
+
+        Item {
+            width: 1
+            height: DarkUI.space4
+        }
+
+        SkillLabel {
+            skillName: view.model.skillName
+            skillColor: view.model.skillColor
+        }
+
+        Item {
+            width: 1
+            height: DarkUI.space14
+        }
+
+        DarkText {
+            visible: text !== ""
+            text: view.model.firstSessionText
+            role: DarkUI.panelTitle
+        }
+
+        Item {
+            visible: view.model.firstSessionText !== ""
+            width: 1
+            height: DarkUI.space4
+        }
+
+        Flow {
+            width: parent.width
+            spacing: view.model.dotCount > 0 ? DarkUI.space10 : DarkUI.space8
+
+            Row {
+                visible: view.model.dotCount > 0
+                height: result.height
+                spacing: dotGap
+                readonly property int dotGap: 5
+                readonly property int dotSize: 13
+
+                Repeater {
+                    model: view.model.dotCount
+
+                    GlassDot {
+                        anchors.verticalCenter: parent?.verticalCenter
+                        width: (parent as Row)?.dotSize ?? 0
+                        height: width
+                        color: view.model.skillColor
+                    }
+                }
+            }
+
+            Item {
+                visible: view.model.sliceFraction > 0
+                width: DarkUI.radiusTile
+                height: result.height
+
+                PartialDot {
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: parent.width
+                    fraction: view.model.sliceFraction
+                    color: view.model.skillColor
+                }
+            }
+
+            DarkText {
+                id: result
+                text: view.model.resultText
+                role: view.model.dotCount > 0 ? DarkUI.bodyMedium : DarkUI.body
+                color: view.model.dotCount > 0 ? DarkUI.t1 : DarkUI.t2
+            }
+        }
+
+        Item {
+            visible: view.model.invitationText !== ""
+            width: 1
+            height: DarkUI.space14
+        }
+
+        DarkText {
+            visible: text !== ""
+            width: parent.width
+            text: view.model.invitationText
+            role: DarkUI.caption
+            color: DarkUI.t1
+            wrapMode: Text.Wrap
+        }
+    }
+
+    DarkTextField {
+        id: note
+        x: DarkUI.space20
+        y: said.y + said.height + (view.model.spotlightNote ? DarkUI.space10 : DarkUI.space16)
+        width: said.width
+        focus: true
+        name: qsTr("Work note")
+        placeholder: qsTr("What did you work on? Optional")
+        limit: view.model.noteLimit
+        clearable: true
+        clearName: qsTr("Clear note")
+        onTextChanged: view.model.takeNote(text)
+        onFocusedChanged: if (focused) view.model.noteFocused()
+        onAccepted: view.model.submit()
+
+        InvitingGlow {
+            anchors.fill: parent
+            visible: view.model.spotlightNote
+        }
+    }
+
+    Item {
+        id: below
+        x: note.x
+        y: note.y + note.height + DarkUI.space8 + 1
+        width: note.width
+        height: lockText.height
+
+        KitIcon {
+            id: lockIcon
+            anchors.verticalCenter: parent.verticalCenter
+            width: DarkUI.space12
+            height: DarkUI.space12
+            name: "lock"
+            color: DarkUI.t3
+        }
+
+        DarkText {
+            id: lockText
+            x: lockIcon.width + DarkUI.space4
+            text: view.model.lockText
+            role: DarkUI.small
+            color: DarkUI.t3
+        }
+
+        TabularText {
+            anchors.right: parent.right
+            text: view.model.counterText
+            role: DarkUI.small
+            color: DarkUI.t3
+        }
+    }
+
+    Item {
+        id: footer
+        x: note.x
+        y: below.y + below.height + DarkUI.space16
+        width: note.width
+        height: done.height
+
+        DarkText {
+            anchors.left: parent.left
+            anchors.right: done.left
+            anchors.rightMargin: DarkUI.space20
+            anchors.verticalCenter: parent.verticalCenter
+            text: view.model.hintText
+            role: DarkUI.small
+            color: DarkUI.t3
+            wrapMode: Text.Wrap
+        }
+
+        DarkPrimaryButton {
+            id: done
+            anchors.right: parent.right
+            text: view.model.doneText
+            onClicked: view.model.submit()
+        }
+    }
+
+    DarkCloseButton {
+        anchors.right: parent.right
+        y: DarkUI.space16
+        anchors.rightMargin: DarkUI.space16
+        name: view.model.closeLabel
+        onClicked: view.model.submit()
+    }
+}

@@ -1,0 +1,183 @@
+"""The small cards in the corner of the screen: by real clicks and keys."""
+
+import json
+import time
+from datetime import datetime, timedelta, timezone
+from pathlib import Path
+
+from harness.case import FIRST_SKILL, DesktopTest
+from harness.waiting import wait_until
+
+SUMMARY = "Vantle Session Summary"
+RECOVERY = "Vantle Recovery"
+QUESTION = "Vantle Question"
+SAVED = "Vantle Saved Time"
+
+CARD_WIDTH = 380
+RIGHT_INSET = 12
+TOP_INSET = 10
+SCREEN_WIDTH = 1440
+
+UNKNOWN_FOR = 90  # seconds in an unknown application until it is asked about
+
+ENTRY = """[Desktop Entry]
+Type=Application
+Name=Loom
+Exec=xterm -class Loom
+StartupWMClass=Loom
+"""
+
+
+def stamp(moment):
+    return moment.strftime("%Y-%m-%dT%H:%M:%SZ")
+
+
+class CardTest(DesktopTest):
+    """Without a compositor the window of a card is the card."""
+
+    def await_card(self, title):
+        """Waits for the card and returns where it is: x, y, width, height."""
+        window = wait_until(f"the card {title}", lambda: self.desktop.windows_named(title))[0]
+        frame = self.desktop.frame_of(window)
+        self.assertEqual(frame[2], CARD_WIDTH)
+        self.assertEqual(frame[0], SCREEN_WIDTH - RIGHT_INSET - CARD_WIDTH)
+        return frame
+
+    def is_up(self, title):
+        # A look at the windows fails now and then while another one comes or goes.
+        return any(self.desktop.windows_named(title) for _ in range(3))
+
+    def click(self, x, y):
+        self.desktop.tool("xdotool", "mousemove", str(x), str(y), "sleep", "0.1", "click", "1")
+
+    def open_editor(self):
+        """Another application with the keyboard; returns the file that its lines land in."""
+        typed = self.desktop.directory / "typed"
+        self.desktop.open("xterm", "-T", "editor", "-e", f"cat > {typed}")
+        wait_until("the editor in front", lambda: self.desktop.active_window_title() == "editor")
+        return typed
+
+
+class StopSummary(CardTest):
+
+    def click_note(self, card):
+        x, y, _, height = card
+        self.click(x + 120, y + height - 110)
+
+    def test_a_note_typed_into_the_card_lands_in_the_log_and_the_keyboard_goes_back(self):
+        typed = self.open_editor()
+        self.launch()
+        self.begin_session()
+        self.end_session()
+        card = self.await_card(SUMMARY)
+        self.desktop.type("still mine\n")
+        wait_until("the line in the editor", lambda: typed.read_text() == "still mine\n")
+        self.click_note(card)
+        self.desktop.type("Retries land in order")
+        self.desktop.screenshot("note")
+        self.desktop.press("Return")
+        wait_until("the note in the log",
+                   lambda: self.vantle.sessions()[-1]["note"] == "Retries land in order")
+        wait_until("the card gone", lambda: not self.is_up(SUMMARY))
+        self.desktop.type("mine again\n")
+        wait_until("the keyboard back", lambda: typed.read_text() == "still mine\nmine again\n")
+
+    def test_left_alone_the_card_goes_by_itself(self):
+        self.launch()
+        self.begin_session()
+        self.end_session()
+        self.await_card(SUMMARY)
+        shown = time.monotonic()
+        wait_until("the card gone", lambda: not self.is_up(SUMMARY), deadline=30)
+        self.assertGreater(time.monotonic() - shown, 18)
+        self.assertEqual(self.vantle.sessions()[-1]["note"], "")
+
+    def test_the_card_takes_no_keyboard_from_a_click_on_its_button(self):
+        typed = self.open_editor()
+        self.launch()
+        self.begin_session()
+        self.end_session()
+        x, y, width, height = self.await_card(SUMMARY)
+        self.click(x + width - 50, y + height - 36)
+        wait_until("the card gone", lambda: not self.is_up(SUMMARY))
+        self.desktop.type("still mine\n")
+        wait_until("the line in the editor", lambda: typed.read_text() == "still mine\n")
+
+
+class Recovery(CardTest):
+
+    tray_kind = DesktopTest.STATUS_NOTIFIER
+
+    def setUp(self):
+        super().setUp()
+        started = datetime.now(timezone.utc) - timedelta(hours=1)
+        self.vantle.write_marker(
+            id="0F6B1D1E-4A52-4C1B-9A1E-7F3B2C5D8E90", skillId=FIRST_SKILL, activeSeconds=125,
+            startedAt=stamp(started), lastSeenAt=stamp(started + timedelta(minutes=5)))
+        self.launch()
+        self.card = self.await_card(RECOVERY)
+
+    def answer(self, from_right):
+        x, y, width, height = self.card
+        self.click(x + width - from_right, y + height - 36)
+        wait_until("no marker", lambda: self.vantle.marker() is None)
+        wait_until("the card gone", lambda: not self.is_up(RECOVERY))
+
+    def test_a_click_on_keep_logs_the_session(self):
+        self.desktop.screenshot("notice")
+        self.answer(from_right=50)
+        self.assertEqual(self.vantle.sessions()[0]["activeSeconds"], 125)
+        self.assertIn("Recovered 2 min from the previous run", self.tray.tool_tip())
+
+    def test_a_click_on_discard_leaves_nothing(self):
+        self.answer(from_right=130)
+        self.assertEqual(self.vantle.log_bytes(), b"")
+        self.assertIn("Discarded the recovered session", self.tray.tool_tip())
+
+    def test_pushed_out_by_a_summary_the_notice_comes_back(self):
+        self.begin_session()
+        self.end_session()
+        x, y, width, height = self.await_card(SUMMARY)
+        self.assertFalse(self.is_up(RECOVERY))
+        self.click(x + width - 50, y + height - 36)
+        self.await_card(RECOVERY)
+
+
+class TagPrompt(CardTest):
+
+    def test_an_unknown_application_is_asked_about_and_the_answer_becomes_its_rule(self):
+        folder = Path(self.desktop.env["XDG_DATA_HOME"], "applications")
+        folder.mkdir(parents=True, exist_ok=True)
+        (folder / "org.example.Loom.desktop").write_text(ENTRY)
+        self.launch()
+        self.begin_session()
+        self.desktop.open("xterm", "-class", "Loom", "-T", "a loom")
+        wait_until("the loom in front", lambda: self.desktop.active_window_title() == "a loom")
+        until = time.monotonic() + UNKNOWN_FOR + 20
+        while not self.is_up(QUESTION) and time.monotonic() < until:
+            self.desktop.nudge_pointer()  # work
+            time.sleep(0.5)
+        x, y, _, _ = self.await_card(QUESTION)
+        self.desktop.screenshot("question")
+        self.click(x + 131, y + 96)  # Design
+        wait_until("the card gone", lambda: not self.is_up(QUESTION))
+        rules = self.vantle.data_directory / "auto-rules.json"
+        wait_until("the rule", lambda: rules.exists() and
+                   "product_design" in json.dumps(json.loads(rules.read_text())))
+        self.assertEqual(self.vantle.marker()["skillId"], "product_design")
+
+
+class Toast(CardTest):
+
+    def test_a_click_on_another_skill_says_what_was_saved_and_lets_clicks_through(self):
+        self.launch()
+        self.begin_session()
+        # The capsule opens where the pointer rests at the top of the screen.
+        self.desktop.tool("xdotool", "mousemove", "720", "2", "sleep", "1.0")
+        self.click(SCREEN_WIDTH // 2 - 189 + 110, 72)
+        wait_until("the split", self.vantle.sessions)
+        window = wait_until("the toast", lambda: self.desktop.windows_named(SAVED))[0]
+        x, y, width, height = self.desktop.frame_of(window)
+        self.assertEqual((x + width, height), (SCREEN_WIDTH - RIGHT_INSET, 40))
+        self.desktop.screenshot("toast")
+        wait_until("the toast gone", lambda: not self.is_up(SAVED), deadline=5)

@@ -1,0 +1,91 @@
+// Cards in windows of their own, and a person in front of them.
+#pragma once
+
+#include "fakes/FakePanelHost.h"
+#include "fakes/FakeScreens.h"
+#include "support/Await.h"
+#include "surfaces/cards/CardWorld.h"
+#include "surfaces/cards/QuickCardStage.h"
+#include "surfaces/kit/Motion.h"
+#include "surfaces/panel/FloatingPanel.h"
+
+#include <QGuiApplication>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace vantle::tests {
+
+class CardViewWorld : protected CardWorld {
+public:
+    CardViewWorld() {
+        engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+        Motion::of(engine)->setReduced(true); // they come and go faster
+    }
+
+    /// The windows that are up and feel the pointer; a fading one is neither.
+    [[nodiscard]] static QList<FloatingPanel*> windows() {
+        QList<FloatingPanel*> found;
+        for (QWindow* window : QGuiApplication::allWindows())
+            if (auto* panel = qobject_cast<FloatingPanel*>(window);
+                panel && panel->isVisible() && panel->rootObject()->property("up").toBool())
+                found << panel;
+        return found;
+    }
+    [[nodiscard]] static FloatingPanel* window() {
+        return windows().isEmpty() ? nullptr : windows().first();
+    }
+
+    /// The item of the window that is read out by that name.
+    [[nodiscard]] static QQuickItem* named(const QString& name) {
+        return find(window()->rootObject(), [&](const QQuickItem& item) {
+            return item.property("name").toString() == name && item.isVisible();
+        });
+    }
+    /// The field that text goes into.
+    [[nodiscard]] static QQuickItem* field() {
+        return find(window()->rootObject(), [](const QQuickItem& item) {
+            return item.flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
+        });
+    }
+
+    static QPoint centreOf(const QQuickItem& item) {
+        return item.mapToScene({item.width() / 2, item.height() / 2}).toPoint();
+    }
+    static void click(const QString& name) {
+        ASSERT_NE(named(name), nullptr) << name.toStdString();
+        QTest::mouseClick(window(), Qt::LeftButton, {}, centreOf(*named(name)));
+    }
+    static void type(const QString& text) {
+        for (const QChar letter : text)
+            QTest::keyClick(window(), letter.toLatin1());
+    }
+    static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(window(), key, modifiers);
+    }
+    /// As the desktop does when the window asks for the keyboard.
+    static void giveKeyboard() {
+        window()->requestActivate();
+        ASSERT_TRUE(await([] { return window()->isActive(); }));
+    }
+
+private:
+    template <typename Matches>
+    static QQuickItem* find(QQuickItem* item, const Matches& matches) {
+        if (matches(*item)) return item;
+        for (QQuickItem* child : item->childItems())
+            if (QQuickItem* const found = find(child, matches)) return found;
+        return nullptr;
+    }
+
+protected:
+    QQmlEngine engine;
+    fakes::FakePanelHost host;
+    fakes::FakeScreens screens;
+    QuickCardStage windowStage{{[this]() -> QQmlEngine& { return engine; }, host, screens}};
+    CardEnvironment windowEnvironment{time, preferences, skills, notifications, slot, windowStage};
+};
+
+} // namespace vantle::tests

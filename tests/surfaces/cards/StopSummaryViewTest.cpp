@@ -1,0 +1,160 @@
+// The card after a session under the person's hands.
+#include "surfaces/cards/CardViewWorld.h"
+#include "surfaces/cards/StopSummaryController.h"
+
+#include <QClipboard>
+
+#include <gtest/gtest.h>
+
+namespace vantle::tests {
+namespace {
+
+QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+
+class StopSummaryViewTest : public testing::Test, protected CardViewWorld {
+protected:
+    void show(bool spotlightNote = false) {
+        collaborators::StopSummary::Content content;
+        content.session = session(2280);
+        content.carrySeconds = 2280;
+        content.spotlightNote = spotlightNote;
+        controller.show(content,
+                        [this](const std::optional<QString>& note) { closes.push_back(note); });
+        time.settle();
+        ASSERT_NE(window(), nullptr);
+    }
+    void clickField() { click(text("Work note")); }
+    static QString noteText() { return field()->property("text").toString(); }
+    [[nodiscard]] bool hasKeyboard() const { return host.keyboardOwner == window(); }
+
+    StopSummaryController controller{windowEnvironment};
+    std::vector<std::optional<QString>> closes;
+};
+
+using Closes = std::vector<std::optional<QString>>;
+
+TEST_F(StopSummaryViewTest, TheCardIsAsLargeAsDesignedAndOnlyItFeelsThePointer) {
+    show();
+    const QRect felt = host.inputRegion.boundingRect().translated(window()->position());
+    EXPECT_EQ(felt.topLeft(), QPoint(1440 - 12 - 380, 28 + 10));
+    EXPECT_EQ(felt.size(), QSize(380, 263));
+}
+
+TEST_F(StopSummaryViewTest, TheKeyboardIsAskedForByAClickIntoTheField) {
+    show();
+    EXPECT_FALSE(hasKeyboard());
+    clickField();
+    EXPECT_TRUE(hasKeyboard());
+    EXPECT_TRUE(field()->hasActiveFocus());
+}
+
+TEST_F(StopSummaryViewTest, ReturnSavesTheNoteAndGivesTheKeyboardBack) {
+    show();
+    clickField();
+    type(text("Retries land in order "));
+    press(Qt::Key_Return);
+    EXPECT_EQ(closes, Closes{text("Retries land in order")});
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_EQ(host.keyboardOwner, nullptr);
+}
+
+TEST_F(StopSummaryViewTest, EscapeLeavesTheFieldOfANoteAndClosesACardWithout) {
+    show();
+    clickField();
+    type(text("half"));
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(hasKeyboard());
+    ASSERT_NE(window(), nullptr);
+    EXPECT_EQ(noteText(), text("half"));
+    click(text("Clear note"));
+    EXPECT_EQ(noteText(), QString());
+    press(Qt::Key_Escape);
+    EXPECT_EQ(closes, Closes{std::nullopt});
+}
+
+TEST_F(StopSummaryViewTest, OfSixHundredPastedCharactersFiveHundredStay) {
+    show();
+    clickField();
+    QGuiApplication::clipboard()->setText(QString(600, QLatin1Char('a')));
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(noteText(), QString(500, QLatin1Char('a')));
+    press(Qt::Key_Home);
+    type(text("b"));
+    EXPECT_EQ(noteText().size(), 500);
+    EXPECT_EQ(noteText().at(0), QLatin1Char('b'));
+}
+
+TEST_F(StopSummaryViewTest, TheButtonTellsWhetherANoteIsSaved) {
+    show();
+    EXPECT_NE(named(text("Done")), nullptr);
+    EXPECT_EQ(named(text("Clear note")), nullptr);
+    clickField();
+    type(text("x"));
+    EXPECT_EQ(named(text("Done")), nullptr);
+    click(text("Save note"));
+    EXPECT_EQ(closes, Closes{text("x")});
+}
+
+TEST_F(StopSummaryViewTest, TheCloseButtonSavesTheNoteToo) {
+    show();
+    clickField();
+    type(text("x"));
+    click(text("Close and save note"));
+    EXPECT_EQ(closes, Closes{text("x")});
+}
+
+TEST_F(StopSummaryViewTest, AClickIntoTheFieldKeepsTheCard) {
+    show();
+    clickField();
+    time.advance(60);
+    EXPECT_NE(window(), nullptr);
+}
+
+TEST_F(StopSummaryViewTest, TheFirstCardHasTheCursorInTheFieldAndStillGoesByItself) {
+    show(true);
+    EXPECT_TRUE(hasKeyboard());
+    EXPECT_TRUE(field()->hasActiveFocus());
+    time.advance(46);
+    EXPECT_EQ(closes, Closes{std::nullopt});
+}
+
+TEST_F(StopSummaryViewTest, ItFadesAwayAndItsWindowIsGone) {
+    show();
+    const QPointer<FloatingPanel> shown = window();
+    ASSERT_TRUE(await([&] { return shown->rootObject()->property("shown").toDouble() == 1; }));
+    click(text("Done"));
+    ASSERT_TRUE(shown) << "it fades";
+    EXPECT_TRUE(shown->inputRegion().isEmpty()) << "clicks go through it";
+    EXPECT_TRUE(await([&] {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return shown.isNull();
+    }));
+}
+
+TEST_F(StopSummaryViewTest, ACardThatGoesBeforeItWasSeenLeavesNoWindow) {
+    show();
+    const QPointer<FloatingPanel> shown = window();
+    show(); // the next session ends at once
+    EXPECT_TRUE(await([&] {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return shown.isNull();
+    }));
+    EXPECT_NE(window(), nullptr);
+}
+
+TEST_F(StopSummaryViewTest, OnANarrowScreenBothInsetsStay) {
+    screens.shapes = {{.frame = QRectF(0, 0, 360, 640), .available = QRectF(0, 0, 360, 640)}};
+    show();
+    const QRect felt = host.inputRegion.boundingRect().translated(window()->position());
+    EXPECT_EQ(felt.x(), 12);
+    EXPECT_EQ(felt.width(), 336);
+}
+
+TEST_F(StopSummaryViewTest, WithoutACompositorTheCardIsItsWholeWindow) {
+    host.composited = false;
+    show();
+    EXPECT_EQ(window()->geometry(), QRect(1048, 38, 380, 263));
+}
+
+} // namespace
+} // namespace vantle::tests
