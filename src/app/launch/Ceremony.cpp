@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <malloc.h>
+
 namespace vantle {
 
 namespace {
@@ -32,6 +34,8 @@ RippleOverlayController::Prepare preparation() {
 } // namespace
 
 void Ceremony::prepareProcess() {
+    // One heap for all threads: what a show took can only be given back from the first one.
+    mallopt(M_ARENA_MAX, 1);
     if (QFileInfo::exists(webModulePath()) && !findPage().isEmpty())
         QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
 }

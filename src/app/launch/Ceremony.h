@@ -29,9 +29,10 @@ public:
         PanelHost& panelHost;
     };
 
-    /// Where there is a page, lets its engine share what it draws with the program. That loads the
-    /// graphics driver, so people without a page are spared it. To be called before there is an
-    /// application object; a page that is put in its place later plays from the next run on.
+    /// To be called before there are threads and an application object: sees that shows can give
+    /// their memory back, and that a page's engine can share what it draws with the program. The
+    /// latter loads the graphics driver, so it is done only where there is a page; one that is put
+    /// in its place later plays from the next run on.
     static void prepareProcess();
 
     /// Makes the ceremony's typeface known, if there is one.
