@@ -10,7 +10,7 @@ Item {
 
     required property NotchCapsule capsule
 
-    readonly property color tint: Tint.fromHex(capsule.skillHex)
+    readonly property color tint: capsule.tint
 
     FlatDot {
         id: dot

@@ -48,7 +48,7 @@ class NotchCapsule final : public QObject {
     Q_PROPERTY(QRectF hoverRect READ hoverRect NOTIFY frameChanged)
     Q_PROPERTY(QString skillLine READ skillLine NOTIFY labelChanged)
     Q_PROPERTY(QString clock READ clock NOTIFY labelChanged)
-    Q_PROPERTY(uint skillHex READ skillHex NOTIFY labelChanged)
+    Q_PROPERTY(QColor tint READ tint NOTIFY labelChanged)
     Q_PROPERTY(bool paused READ showsPaused NOTIFY labelChanged)
     /// The capsule is fading away, and deaf.
     Q_PROPERTY(bool leaving READ isLeaving NOTIFY leavingChanged)
@@ -134,7 +134,7 @@ public:
     [[nodiscard]] QRectF hoverRect() const;
     [[nodiscard]] QString skillLine() const;
     [[nodiscard]] const QString& clock() const { return m_clock; }
-    [[nodiscard]] uint skillHex() const { return m_form.skill.hexRGB; }
+    [[nodiscard]] QColor tint() const { return QColor::fromRgb(m_form.skill.hexRGB); }
     [[nodiscard]] const Skill& skill() const { return m_form.skill; }
     [[nodiscard]] bool showsPaused() const { return m_showsPaused; }
     [[nodiscard]] bool isLeaving() const { return m_leaving; }

@@ -175,7 +175,7 @@ TEST_F(NotchCapsuleTest, AChangeOfSkillRecoloursTheDotAndMovesTheHighlight) {
     make(world.runningForm());
     capsule->retag(world.skills[1], false);
     EXPECT_FALSE(capsule->isExpanded());
-    EXPECT_EQ(capsule->skillHex(), world.skills[1].hexRGB);
+    EXPECT_EQ(capsule->tint(), QColor::fromRgb(world.skills[1].hexRGB));
     EXPECT_EQ(capsule->skillLine(), text("DESIGN"));
     const auto highlighted = [&](int row) {
         return capsule->chips()

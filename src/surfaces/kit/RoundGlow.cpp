@@ -1,4 +1,4 @@
-#include "surfaces/capsule/RoundGlow.h"
+#include "surfaces/kit/RoundGlow.h"
 
 #include <QPainter>
 #include <QRadialGradient>

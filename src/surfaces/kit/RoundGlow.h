@@ -8,7 +8,7 @@
 namespace vantle {
 
 /// Takes the place of the control and glows around it, not below it. Main thread.
-class RoundGlow : public BakedItem {
+class RoundGlow : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
     /// With the opacity that the glow would have below the control.
