@@ -11,6 +11,7 @@ inline constexpr QLatin1String hotkeyHintShown("hint.hotkey.shown"); ///< bool: 
 inline constexpr QLatin1String projectName("project.name");          ///< string: what is built
 inline constexpr QLatin1String notchIntroFlashed("notch.intro.flashed"); ///< bool: intro played
 inline constexpr QLatin1String rippleDisabled("ripple.disabled");        ///< bool: no ceremony
+inline constexpr QLatin1String ceremonyBlackout("ceremony.blackout");    ///< bool, true when absent
 inline constexpr QLatin1String autoModeEnabled("auto.enabled");          ///< bool, true when absent
 
 } // namespace vantle::preferencekeys

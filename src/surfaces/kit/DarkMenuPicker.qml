@@ -10,6 +10,7 @@ KitPressable {
     required property list<string> options
     property int currentIndex: -1
     property string placeholder // shown while nothing is chosen
+    property bool quiet: false // what is chosen stands for nothing
     property TypeRole role: DarkUI.captionMedium
     property real textLeft: DarkUI.space10 // a larger one leaves room for a sign
     property alias opened: menu.opened
@@ -57,7 +58,7 @@ KitPressable {
         anchors.verticalCenter: parent.verticalCenter
         text: picker.currentText
         role: picker.role
-        color: picker.enabled ? DarkUI.t1 : DarkUI.t4
+        color: !picker.enabled ? DarkUI.t4 : picker.quiet ? DarkUI.t2 : DarkUI.t1
         elide: Text.ElideRight
         Accessible.ignored: true
     }

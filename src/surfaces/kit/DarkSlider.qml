@@ -13,8 +13,9 @@ KitControl {
     property real value: 0
     property string valueText // what is read out instead of the number
     property bool ringed: keyboardFocus
-    readonly property real position: (value - minimumValue)
-                                     / Math.max(maximumValue - minimumValue, 1e-9)
+    // A value beyond the ends stands at an end.
+    readonly property real position: Math.max(0, Math.min((value - minimumValue)
+                                     / Math.max(maximumValue - minimumValue, 1e-9), 1))
     readonly property real keyStep: stepSize > 0 ? stepSize : (maximumValue - minimumValue) / 20
     signal moved(real value)
 

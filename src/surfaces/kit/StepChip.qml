@@ -8,13 +8,14 @@ KitPressable {
 
     required property string label // "+" or "−"
     property bool large: false
+    property bool exhausted: false // nothing more this way; it keeps the focus all the same
     readonly property bool plus: label === "+"
     signal action
 
     implicitWidth: large ? DarkUI.formStepperSize : DarkUI.stepperSize
     implicitHeight: implicitWidth
     name: plus ? qsTr("More") : qsTr("Less")
-    onClicked: action()
+    onClicked: if (!exhausted) action()
 
     Plate {
         id: ground
@@ -37,7 +38,7 @@ KitPressable {
         width: DarkUI.space12
         height: DarkUI.space12
         name: chip.plus ? "plus" : "minus"
-        color: chip.enabled ? DarkUI.t1 : DarkUI.iconDisabled
+        color: chip.enabled && !chip.exhausted ? DarkUI.t1 : DarkUI.iconDisabled
     }
 
     FocusRing {

@@ -1,0 +1,85 @@
+// One application, what its time counts as, and a button that forgets it.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Settings
+
+Item {
+    id: row
+
+    required property SettingsView settings
+
+    required property string bundleId
+    required property string name
+    required property bool isAutomatic
+    required property int choice
+    required property bool isSkill
+    required property color skillColor
+    required property string menuLabel
+    required property string forgetLabel
+
+    implicitHeight: 40
+
+    DarkText {
+        id: label
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, picker.x - DarkUI.space12
+                                       - (row.isAutomatic ? DarkUI.space36 : 0))
+        text: row.name
+        role: DarkUI.bodyMedium
+        elide: Text.ElideRight
+    }
+
+    KitIcon {
+        id: sparkles
+        anchors.left: label.right
+        anchors.leftMargin: DarkUI.space10
+        anchors.verticalCenter: parent.verticalCenter
+        visible: row.isAutomatic
+        width: DarkUI.space14
+        height: DarkUI.space14
+        name: "sparkles"
+        color: DarkUI.accentText
+
+        Accessible.role: Accessible.Graphic
+        Accessible.name: qsTr("Categorized automatically on this Mac")
+        Accessible.ignored: !visible
+
+        HoverHandler {
+            id: hover
+        }
+
+        HoverHelp {
+            control: sparkles
+            text: qsTr("Categorized automatically")
+            pointed: hover.hovered && row.isAutomatic
+        }
+    }
+
+    ChoiceMenu {
+        id: picker
+        anchors.right: forget.left
+        anchors.rightMargin: DarkUI.space10
+        anchors.verticalCenter: parent.verticalCenter
+        title: row.menuLabel
+        options: row.settings.appChoices
+        currentIndex: row.choice
+        isSkill: row.isSkill
+        skillColor: row.skillColor
+        quiet: !row.isSkill
+        onActivated: index => row.settings.chooseSkill(row.bundleId, index)
+    }
+
+    DarkIconButton {
+        id: forget
+        anchors.right: parent.right
+        anchors.rightMargin: -DarkUI.space6 // the sign ends with the text above
+        anchors.verticalCenter: parent.verticalCenter
+        name: row.forgetLabel
+        help: row.forgetLabel
+        icon: "close"
+        iconSize: DarkUI.space12
+        iconColor: DarkUI.iconStrip
+        onClicked: row.settings.forgetApp(row.bundleId)
+    }
+}

@@ -1,0 +1,22 @@
+// A menu of a row. A choice that stands for none is shown quietly.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+DarkMenuPicker {
+    id: picker
+
+    property bool isSkill: false
+    property color skillColor: DarkUI.clear
+
+    textLeft: isSkill ? DarkUI.space10 + DarkUI.chipDot + DarkUI.space8 : DarkUI.space10
+
+    FlatDot {
+        x: DarkUI.space10
+        anchors.verticalCenter: parent.verticalCenter
+        visible: picker.isSkill
+        width: DarkUI.chipDot
+        height: DarkUI.chipDot
+        color: picker.skillColor
+    }
+}

@@ -1,0 +1,60 @@
+// The person's data: to be looked at, and to be erased.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Settings
+
+SettingsCard {
+    id: card
+
+    required property SettingsView model
+
+    function cancelErase(): void {
+        erase.cancelled();
+    }
+
+    Item {
+        width: parent.width
+        implicitHeight: column.y + column.height + DarkUI.space14
+
+        Column {
+            id: column
+            x: DarkUI.space16
+            y: DarkUI.space14
+            width: parent.width - 2 * x
+            spacing: DarkUI.space6
+
+            Item {
+                width: parent.width
+                height: reveal.height
+
+                SettingsCaption {
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: parent.width - reveal.width - DarkUI.space12
+                    text: card.model.caption(SettingsView.ExportRow)
+                }
+
+                DarkSecondaryButton {
+                    id: reveal
+                    anchors.right: parent.right
+                    text: card.model.action(SettingsView.ExportRow)
+                    help: card.model.help(SettingsView.ExportRow)
+                    role: DarkUI.captionMedium
+                    onClicked: card.model.exportData()
+                }
+            }
+
+            SettingsFeedback {
+                width: parent.width
+                failed: card.model.exportFailed
+                text: card.model.exportFeedback
+            }
+        }
+    }
+
+    EraseRow {
+        id: erase
+        width: parent.width
+        model: card.model
+    }
+}

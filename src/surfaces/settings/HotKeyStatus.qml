@@ -1,0 +1,41 @@
+// Whether the shortcut works.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Settings
+
+Row {
+    id: status
+
+    required property SettingsView model
+
+    spacing: DarkUI.space8
+
+    KitIcon {
+        anchors.verticalCenter: parent.verticalCenter
+        visible: status.model.isHotKeyActive
+        width: DarkUI.space14
+        height: DarkUI.space14
+        name: "check-circle"
+        color: DarkUI.good
+    }
+
+    DarkText {
+        id: label
+        anchors.verticalCenter: parent.verticalCenter
+        text: status.model.hotKeyText
+        role: DarkUI.captionMedium
+        color: status.model.isHotKeyActive ? DarkUI.t1 : DarkUI.dangerText
+        Accessible.description: status.model.hotKeyFailure
+
+        HoverHandler {
+            id: hover
+        }
+
+        HoverHelp {
+            control: label
+            text: status.model.hotKeyFailure
+            pointed: hover.hovered
+        }
+    }
+}

@@ -1,0 +1,20 @@
+// A group of rows with a hairline between each two.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Plate {
+    id: card
+
+    default property alias rows: column.data
+
+    implicitHeight: column.height
+    radius: DarkUI.radiusCard
+    color: DarkUI.card
+    edge: DarkUI.hairline
+
+    Column {
+        id: column
+        width: parent.width
+    }
+}

@@ -1,0 +1,48 @@
+// Export and erase in the settings.
+#include "app/AppModel.h"
+#include "base/SerialQueue.h"
+#include "platform/FileSystem.h"
+#include "surfaces/settings/SettingsView.h"
+#include "tracking/AppPaths.h"
+
+namespace vantle {
+
+Result<> SettingsView::ensureLog() const {
+    return m_env.ioQueue.run([this]() -> Result<> {
+        const QString log = m_env.paths.sessionsFile();
+        if (m_env.paths.fileSystem().exists(log)) return {};
+        return m_env.paths.writeProtected({}, log);
+    });
+}
+
+void SettingsView::exportData() {
+    const Result<> there = ensureLog();
+    m_exportFailed = !there;
+    m_exportFeedback = there ? QStringLiteral("Revealed in Finder")
+                             : QStringLiteral("Couldn't export: ") + there.error().description();
+    Q_EMIT exportChanged();
+    if (there) m_env.reveal(m_env.paths.sessionsFile());
+}
+
+void SettingsView::setConfirmingErase(bool confirming) {
+    m_confirmingErase = confirming;
+    Q_EMIT eraseChanged();
+}
+
+void SettingsView::confirmErase() {
+    if (!m_confirmingErase) return;
+    m_confirmingErase = false;
+    m_eraseStatus = m_env.eraseAllData().value_or(QStringLiteral("Erased all local Vantle data."));
+    // What was exported is gone with the rest.
+    m_exportFailed = false;
+    m_exportFeedback.reset();
+    readState();
+    Q_EMIT exportChanged();
+    Q_EMIT eraseChanged();
+}
+
+bool SettingsView::eraseSucceeded() const {
+    return eraseStatus().startsWith(QLatin1String("Erased"));
+}
+
+} // namespace vantle

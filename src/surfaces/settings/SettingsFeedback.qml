@@ -1,0 +1,13 @@
+// What came of an action, where it was asked for.
+import QtQuick
+import Vantle.Kit
+
+DarkText {
+    property bool failed: false
+
+    visible: text !== ""
+    role: DarkUI.captionMedium
+    color: failed ? DarkUI.dangerText : DarkUI.good
+    wrapMode: Text.Wrap
+    Accessible.role: Accessible.AlertMessage
+}

@@ -1,0 +1,67 @@
+// The settings window: every preference, in sections below each other.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Settings
+
+FocusScope {
+    id: page
+
+    required property SettingsView model
+    readonly property real margin: DarkUI.space24
+    property alias scroll: scroll
+    property alias content: content
+
+    implicitWidth: 480
+    implicitHeight: 620
+
+    Keys.onEscapePressed: event => {
+        event.accepted = page.model.confirmingErase;
+        if (event.accepted)
+            general.cancelErase();
+    }
+
+    DarkScrollView {
+        id: scroll
+        anchors.fill: parent
+        focus: true
+        faded: false // the rows go under the title strip
+
+        Column {
+            id: content
+            x: page.margin
+            width: page.width - 2 * page.margin
+            topPadding: -DarkUI.space16 // the first heading has less above it
+            bottomPadding: DarkUI.space28
+
+            FocusSection {
+                width: parent.width
+                model: page.model
+            }
+
+            CeremonySection {
+                width: parent.width
+                model: page.model
+            }
+
+            AutoModeSection {
+                width: parent.width
+                model: page.model
+            }
+
+            GeneralSection {
+                id: general
+                width: parent.width
+                model: page.model
+            }
+
+            DarkText {
+                anchors.horizontalCenter: parent.horizontalCenter
+                topPadding: role.leading + DarkUI.space24
+                text: page.model.versionLine
+                role: DarkUI.small
+                color: DarkUI.t3
+            }
+        }
+    }
+}

@@ -1,0 +1,19 @@
+// A heading with its cards.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Column {
+    id: section
+
+    required property string title
+
+    spacing: DarkUI.space12
+
+    DarkSectionLabel {
+        x: DarkUI.space4
+        topPadding: role.leading + 26
+        bottomPadding: -role.leading - DarkUI.space2 // 10 with the spacing
+        text: section.title
+    }
+}

@@ -1,0 +1,66 @@
+// The person's own shortcuts in the settings.
+#include "platform/Preferences.h"
+#include "sensing/FocusLink.h"
+#include "surfaces/settings/SettingsView.h"
+
+#include <QPointer>
+
+namespace vantle {
+
+void SettingsView::setFocusLinked(bool linked) {
+    m_focusLinked = linked;
+    m_env.preferences.setBoolean(FocusLink::enabledKey, linked);
+    Q_EMIT switched();
+    if (linked) listShortcuts();
+}
+
+void SettingsView::listShortcuts() {
+    const int listing = ++m_listings;
+    m_env.focusLink.listShortcuts([view = QPointer(this), listing](const QStringList& names) {
+        if (!view || listing != view->m_listings) return; // a later list is under way
+        view->m_focusShortcutNames = names;
+        Q_EMIT view->shortcutsChanged();
+    });
+}
+
+bool SettingsView::hasNoShortcuts() const {
+    return m_focusShortcutNames && m_focusShortcutNames->isEmpty();
+}
+
+/// A shortcut that is no longer there is offered as long as it is the chosen one: it would still be
+/// asked for at the next session.
+QList<QString> SettingsView::choices(const QString& chosen) const {
+    QList<QString> all{QStringLiteral("Choose a Shortcut")};
+    all += m_focusShortcutNames.value_or(QStringList());
+    if (!chosen.isEmpty() && all.indexOf(chosen, 1) < 0) all << chosen;
+    return all;
+}
+
+int SettingsView::choice(const QString& chosen) const {
+    return chosen.isEmpty() ? 0 : static_cast<int>(choices(chosen).indexOf(chosen, 1));
+}
+
+void SettingsView::chooseStartShortcut(int choice) {
+    m_focusStartShortcut = choice > 0 ? startChoices().value(choice) : QString();
+    setFocusShortcut(FocusLink::startShortcutKey, m_focusStartShortcut);
+}
+
+void SettingsView::chooseStopShortcut(int choice) {
+    m_focusStopShortcut = choice > 0 ? stopChoices().value(choice) : QString();
+    setFocusShortcut(FocusLink::stopShortcutKey, m_focusStopShortcut);
+}
+
+void SettingsView::setFocusShortcut(QLatin1String key, const QString& name) {
+    m_env.preferences.setString(key, name);
+    Q_EMIT shortcutsChanged();
+}
+
+void SettingsView::openShortcuts() {
+    const Result<> opened = m_env.openShortcuts();
+    m_shortcutsFailure =
+        opened ? QString()
+               : QStringLiteral("Couldn't open Shortcuts: ") + opened.error().description();
+    Q_EMIT shortcutsChanged();
+}
+
+} // namespace vantle

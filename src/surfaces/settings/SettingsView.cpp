@@ -1,0 +1,155 @@
+#include "surfaces/settings/SettingsView.h"
+
+#include "app/AppModel.h"
+#include "app/PreferenceKeys.h"
+#include "platform/Autostart.h"
+#include "platform/Preferences.h"
+#include "sensing/AutoRules.h"
+#include "sensing/AutoSkillMonitor.h"
+#include "sensing/FocusLink.h"
+#include "tracking/DailyGoal.h"
+#include "tracking/NotificationCenter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace vantle {
+
+namespace {
+
+constexpr double kSecondsPerMinute = 60;
+constexpr QLatin1String kIdleKey(IdleMonitor::thresholdDefaultsKey);
+constexpr QLatin1String kAutoModeKey(AutoSkillMonitor::enabledKey);
+constexpr QLatin1String kAutoStartKey(AutoSkillMonitor::autoStartKey);
+
+QString storedText(const Preferences& preferences, QLatin1String key) {
+    return preferences.string(key).value_or(QString());
+}
+
+} // namespace
+
+SettingsView::SettingsView(Environment environment) : m_env(std::move(environment)) {
+    m_env.rules.loadIfNeeded();
+    readState();
+    refreshApps();
+    follow();
+    if (m_focusLinked) listShortcuts();
+}
+
+SettingsView::~SettingsView() = default;
+
+void SettingsView::follow() {
+    const HotKey& hotKey = m_env.model.hotKey();
+    connect(&hotKey, &HotKey::isRegisteredChanged, this, &SettingsView::hotKeyChanged);
+    connect(&hotKey, &HotKey::registrationErrorChanged, this, &SettingsView::hotKeyChanged);
+    connect(&m_env.rules, &AutoRules::rulesChanged, this, &SettingsView::refreshApps);
+    connect(&m_env.rules, &AutoRules::seenAppsChanged, this, &SettingsView::refreshApps);
+    connect(&m_env.rules, &AutoRules::persistenceErrorChanged, this,
+            &SettingsView::appsFailureChanged);
+    connect(&m_env.model, &AppModel::skillsChanged, this, &SettingsView::refreshApps);
+}
+
+void SettingsView::readState() {
+    const Preferences& stored = m_env.preferences;
+    m_idleMinutes = m_env.model.idle().thresholdSeconds() / kSecondsPerMinute;
+    m_dailyGoalHours = dailygoal::hours(stored);
+    m_rippleOn = !stored.flag(preferencekeys::rippleDisabled);
+    m_ceremonyBlackout = stored.boolean(preferencekeys::ceremonyBlackout).value_or(true);
+    m_autoModeOn = stored.boolean(kAutoModeKey).value_or(true);
+    m_autoStartOn = stored.flag(kAutoStartKey);
+    m_focusLinked = stored.flag(FocusLink::enabledKey);
+    m_focusStartShortcut = storedText(stored, FocusLink::startShortcutKey);
+    m_focusStopShortcut = storedText(stored, FocusLink::stopShortcutKey);
+    m_launchAtLogin = m_env.autostart.isRegistered();
+    m_durationStyle = durationstyle::current(stored);
+    Q_EMIT idleChanged();
+    Q_EMIT goalChanged();
+    Q_EMIT switched();
+    Q_EMIT shortcutsChanged();
+    Q_EMIT durationChanged();
+}
+
+void SettingsView::setIdleMinutes(double minutes) {
+    m_idleMinutes = std::clamp(std::round(minutes), minIdleMinutes, maxIdleMinutes);
+    m_env.preferences.setNumber(kIdleKey, m_idleMinutes * kSecondsPerMinute);
+    Q_EMIT idleChanged();
+}
+
+QString SettingsView::goalText() const {
+    return dailygoal::label(m_dailyGoalHours, m_durationStyle);
+}
+
+void SettingsView::stepGoal(int steps) {
+    m_dailyGoalHours =
+        std::clamp(m_dailyGoalHours + steps * goalStepHours, minGoalHours, maxGoalHours);
+    dailygoal::setHours(m_dailyGoalHours, m_env.preferences);
+    Q_EMIT goalChanged();
+}
+
+void SettingsView::setRippleOn(bool on) {
+    m_rippleOn = on;
+    m_env.preferences.setBoolean(preferencekeys::rippleDisabled, !on);
+    Q_EMIT switched();
+}
+
+void SettingsView::setCeremonyBlackout(bool on) {
+    m_ceremonyBlackout = on;
+    m_env.preferences.setBoolean(preferencekeys::ceremonyBlackout, on);
+    Q_EMIT switched();
+}
+
+void SettingsView::setAutoModeOn(bool on) {
+    m_autoModeOn = on;
+    m_env.preferences.setBoolean(kAutoModeKey, on);
+    Q_EMIT switched();
+}
+
+void SettingsView::setAutoStartOn(bool on) {
+    m_autoStartOn = on;
+    m_env.preferences.setBoolean(kAutoStartKey, on);
+    Q_EMIT switched();
+}
+
+void SettingsView::setLaunchAtLogin(bool on) {
+    (on ? m_env.autostart.registerItem() : m_env.autostart.unregisterItem()).ignore();
+    // Whether it worked shows by where the switch stands.
+    m_launchAtLogin = m_env.autostart.isRegistered();
+    Q_EMIT switched();
+}
+
+bool SettingsView::isHotKeyActive() const { return m_env.model.hotKey().isRegistered(); }
+
+QString SettingsView::hotKeyFailure() const {
+    if (isHotKeyActive()) return {};
+    return m_env.model.hotKey().registrationError().value_or(QString());
+}
+
+QList<QString> SettingsView::durationChoices() const {
+    QList<QString> choices;
+    for (const DurationStyle style : durationstyle::all)
+        choices << QStringLiteral("%1 · %2").arg(durationstyle::label(style),
+                                                 durationstyle::sample(style));
+    return choices;
+}
+
+int SettingsView::durationChoice() const {
+    return static_cast<int>(std::ranges::find(durationstyle::all, m_durationStyle) -
+                            durationstyle::all.begin());
+}
+
+void SettingsView::chooseDuration(int choice) {
+    if (choice < 0 || choice >= static_cast<int>(durationstyle::all.size())) return;
+    m_durationStyle = durationstyle::all.at(static_cast<std::size_t>(choice));
+    durationstyle::adopt(m_durationStyle, m_env.preferences, m_env.notifications);
+    Q_EMIT durationChanged();
+    Q_EMIT goalChanged(); // is a duration itself
+}
+
+void SettingsView::replayWelcome() {
+    m_welcomeReplayArmed = true;
+    Q_EMIT welcomeReplayArmedChanged();
+    Q_EMIT m_env.notifications.HFShowWelcome();
+}
+
+} // namespace vantle

@@ -1,0 +1,258 @@
+// The settings window: every preference, each with what it does and what went wrong with it.
+#pragma once
+
+#include "base/Result.h"
+#include "surfaces/settings/SeenAppRows.h"
+#include "tracking/DurationStyle.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+
+namespace vantle {
+
+class AppModel;
+class AppPaths;
+class AutoRules;
+class Autostart;
+class FocusLink;
+class NotificationCenter;
+class Preferences;
+class SerialQueue;
+
+/// What the window shows and does. All state is read when it is made, and again after an erase;
+/// each change is stored at once. A failure is told in the row where it happened, and nowhere else.
+/// Main thread.
+class SettingsView final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the window router.")
+    /// Minutes without input after which a session pauses. One that was stored by other means may
+    /// lie outside of what can be chosen here.
+    Q_PROPERTY(double idleMinutes READ idleMinutes WRITE setIdleMinutes NOTIFY idleChanged FINAL)
+    Q_PROPERTY(QString idleTitle READ idleTitle NOTIFY idleChanged FINAL)
+    Q_PROPERTY(QString idleCaption READ idleCaption NOTIFY idleChanged FINAL)
+    Q_PROPERTY(QString goalText READ goalText NOTIFY goalChanged FINAL)
+    Q_PROPERTY(bool isGoalLowest READ isGoalLowest NOTIFY goalChanged FINAL)
+    Q_PROPERTY(bool isGoalHighest READ isGoalHighest NOTIFY goalChanged FINAL)
+
+    Q_PROPERTY(bool focusLinked READ focusLinked WRITE setFocusLinked NOTIFY switched FINAL)
+    Q_PROPERTY(bool rippleOn READ rippleOn WRITE setRippleOn NOTIFY switched FINAL)
+    Q_PROPERTY(
+        bool ceremonyBlackout READ ceremonyBlackout WRITE setCeremonyBlackout NOTIFY switched FINAL)
+    Q_PROPERTY(bool autoModeOn READ autoModeOn WRITE setAutoModeOn NOTIFY switched FINAL)
+    Q_PROPERTY(bool autoStartOn READ autoStartOn WRITE setAutoStartOn NOTIFY switched FINAL)
+    Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY switched FINAL)
+
+    /// The tool has answered that there are none.
+    Q_PROPERTY(bool hasNoShortcuts READ hasNoShortcuts NOTIFY shortcutsChanged FINAL)
+    /// What the two menus offer, the empty choice first, and what is chosen.
+    Q_PROPERTY(QList<QString> startChoices READ startChoices NOTIFY shortcutsChanged FINAL)
+    Q_PROPERTY(int startChoice READ startChoice NOTIFY shortcutsChanged FINAL)
+    Q_PROPERTY(QList<QString> stopChoices READ stopChoices NOTIFY shortcutsChanged FINAL)
+    Q_PROPERTY(int stopChoice READ stopChoice NOTIFY shortcutsChanged FINAL)
+    /// Why their folder could not be opened; empty otherwise.
+    Q_PROPERTY(QString shortcutsFailure READ shortcutsFailure NOTIFY shortcutsChanged FINAL)
+
+    Q_PROPERTY(vantle::SeenAppRows* apps READ apps CONSTANT FINAL)
+    Q_PROPERTY(QString appsNote READ appsNote NOTIFY appsChanged FINAL)
+    /// What the menu of each application offers: the skills, "Ignore" and "Not set".
+    Q_PROPERTY(QList<QString> appChoices READ appChoices NOTIFY appsChanged FINAL)
+    /// Why the choices could not be saved; empty otherwise.
+    Q_PROPERTY(QString appsFailure READ appsFailure NOTIFY appsFailureChanged FINAL)
+
+    Q_PROPERTY(bool isHotKeyActive READ isHotKeyActive NOTIFY hotKeyChanged FINAL)
+    Q_PROPERTY(QString hotKeyText READ hotKeyText NOTIFY hotKeyChanged FINAL)
+    /// Why the shortcut could not be taken; empty otherwise.
+    Q_PROPERTY(QString hotKeyFailure READ hotKeyFailure NOTIFY hotKeyChanged FINAL)
+
+    Q_PROPERTY(QList<QString> durationChoices READ durationChoices CONSTANT FINAL)
+    Q_PROPERTY(
+        int durationChoice READ durationChoice WRITE chooseDuration NOTIFY durationChanged FINAL)
+    Q_PROPERTY(QString welcomeCaption READ welcomeCaption NOTIFY welcomeReplayArmedChanged FINAL)
+
+    /// What came of the export; empty before one.
+    Q_PROPERTY(QString exportFeedback READ exportFeedback NOTIFY exportChanged FINAL)
+    Q_PROPERTY(bool exportFailed READ exportFailed NOTIFY exportChanged FINAL)
+    Q_PROPERTY(bool confirmingErase READ confirmingErase NOTIFY eraseChanged FINAL)
+    /// What came of the erase; empty before one.
+    Q_PROPERTY(QString eraseStatus READ eraseStatus NOTIFY eraseChanged FINAL)
+    Q_PROPERTY(bool eraseSucceeded READ eraseSucceeded NOTIFY eraseChanged FINAL)
+    Q_PROPERTY(QString versionLine READ versionLine CONSTANT FINAL)
+
+public:
+    static constexpr double minIdleMinutes = 1;
+    static constexpr double maxIdleMinutes = 10;
+    static constexpr double minGoalHours = 0.5;
+    static constexpr double maxGoalHours = 12;
+    static constexpr double goalStepHours = 0.5;
+
+    /// The rows whose words never change.
+    enum Row {
+        GoalRow,
+        FocusLinkRow,
+        StartShortcutRow,
+        StopShortcutRow,
+        RippleRow,
+        BlackoutRow,
+        AutoModeRow,
+        AutoModePrivacyRow,
+        AutoStartRow,
+        LoginRow,
+        HotKeyRow,
+        DurationRow,
+        WelcomeRow,
+        ExportRow,
+        EraseRow,
+    };
+    Q_ENUM(Row)
+
+    /// What the window works with. All of it must outlive the view.
+    struct Environment {
+        AppModel& model;
+        AutoRules& rules; ///< of auto mode
+        FocusLink& focusLink;
+        Autostart& autostart;
+        Preferences& preferences;
+        NotificationCenter& notifications;
+        const AppPaths& paths;
+        SerialQueue& ioQueue;
+        std::function<void(const QString& path)> reveal; ///< shows a file in the file manager
+        std::function<Result<>()> openShortcuts;         ///< opens the folder of shortcuts
+        /// Erases everything; empty on full success, else what the person is told.
+        std::function<std::optional<QString>()> eraseAllData;
+    };
+
+    explicit SettingsView(Environment environment);
+    ~SettingsView() override;
+
+    /// "Vantle 1.0 (1)".
+    [[nodiscard]] static QString versionLine();
+
+    // The words of a row: in front of its control, below it, and on its button. Empty for none.
+    Q_INVOKABLE static QString title(Row row);
+    Q_INVOKABLE static QString caption(Row row);
+    Q_INVOKABLE static QString action(Row row);
+    /// What the control of a row does, for a pointer that rests on it.
+    Q_INVOKABLE static QString help(Row row);
+
+    [[nodiscard]] double idleMinutes() const { return m_idleMinutes; }
+    void setIdleMinutes(double minutes);
+    [[nodiscard]] QString idleTitle() const;
+    [[nodiscard]] QString idleCaption() const;
+
+    [[nodiscard]] double dailyGoalHours() const { return m_dailyGoalHours; }
+    [[nodiscard]] QString goalText() const;
+    [[nodiscard]] bool isGoalLowest() const { return m_dailyGoalHours <= minGoalHours; }
+    [[nodiscard]] bool isGoalHighest() const { return m_dailyGoalHours >= maxGoalHours; }
+    /// So many half hours more. The chips can't leave their range.
+    Q_INVOKABLE void stepGoal(int steps);
+
+    [[nodiscard]] bool focusLinked() const { return m_focusLinked; }
+    void setFocusLinked(bool linked);
+    [[nodiscard]] bool rippleOn() const { return m_rippleOn; }
+    void setRippleOn(bool on);
+    [[nodiscard]] bool ceremonyBlackout() const { return m_ceremonyBlackout; }
+    void setCeremonyBlackout(bool on);
+    [[nodiscard]] bool autoModeOn() const { return m_autoModeOn; }
+    void setAutoModeOn(bool on);
+    [[nodiscard]] bool autoStartOn() const { return m_autoStartOn; }
+    void setAutoStartOn(bool on);
+    [[nodiscard]] bool launchAtLogin() const { return m_launchAtLogin; }
+    void setLaunchAtLogin(bool on);
+
+    [[nodiscard]] bool hasNoShortcuts() const;
+    [[nodiscard]] QList<QString> startChoices() const { return choices(m_focusStartShortcut); }
+    [[nodiscard]] int startChoice() const { return choice(m_focusStartShortcut); }
+    Q_INVOKABLE void chooseStartShortcut(int choice);
+    [[nodiscard]] QList<QString> stopChoices() const { return choices(m_focusStopShortcut); }
+    [[nodiscard]] int stopChoice() const { return choice(m_focusStopShortcut); }
+    Q_INVOKABLE void chooseStopShortcut(int choice);
+    [[nodiscard]] const QString& shortcutsFailure() const { return m_shortcutsFailure; }
+    Q_INVOKABLE void openShortcuts();
+
+    [[nodiscard]] SeenAppRows* apps() { return &m_apps; }
+    [[nodiscard]] QString appsNote() const;
+    [[nodiscard]] QList<QString> appChoices() const;
+    [[nodiscard]] QString appsFailure() const;
+    Q_INVOKABLE void chooseSkill(const QString& bundleId, int choice);
+    Q_INVOKABLE void forgetApp(QString bundleId);
+
+    [[nodiscard]] bool isHotKeyActive() const;
+    [[nodiscard]] QString hotKeyText() const;
+    [[nodiscard]] QString hotKeyFailure() const;
+
+    /// Each style with an example of it.
+    [[nodiscard]] QList<QString> durationChoices() const;
+    [[nodiscard]] int durationChoice() const;
+    void chooseDuration(int choice);
+
+    [[nodiscard]] bool welcomeReplayArmed() const { return m_welcomeReplayArmed; }
+    [[nodiscard]] QString welcomeCaption() const;
+    Q_INVOKABLE void replayWelcome();
+
+    [[nodiscard]] QString exportFeedback() const { return m_exportFeedback.value_or(QString()); }
+    [[nodiscard]] bool exportFailed() const { return m_exportFailed; }
+    /// Shows the log in the file manager; there is one afterwards, if an empty one.
+    Q_INVOKABLE void exportData();
+
+    [[nodiscard]] bool confirmingErase() const { return m_confirmingErase; }
+    [[nodiscard]] QString eraseStatus() const { return m_eraseStatus.value_or(QString()); }
+    [[nodiscard]] bool eraseSucceeded() const;
+    Q_INVOKABLE void askToErase() { setConfirmingErase(true); }
+    Q_INVOKABLE void cancelErase() { setConfirmingErase(false); }
+    /// Erases everything, once it was asked for.
+    Q_INVOKABLE void confirmErase();
+
+Q_SIGNALS:
+    void idleChanged();
+    void goalChanged();
+    void switched();
+    void shortcutsChanged();
+    void appsChanged();
+    void appsFailureChanged();
+    void hotKeyChanged();
+    void durationChanged();
+    void welcomeReplayArmedChanged();
+    void exportChanged();
+    void eraseChanged();
+
+private:
+    void follow();
+    void readState();
+    void listShortcuts();
+    [[nodiscard]] QList<QString> choices(const QString& chosen) const;
+    [[nodiscard]] int choice(const QString& chosen) const;
+    void setFocusShortcut(QLatin1String key, const QString& name);
+    void refreshApps();
+    [[nodiscard]] SeenAppRows::Row rowOf(const SeenApp& app) const;
+    [[nodiscard]] Result<> ensureLog() const;
+    void setConfirmingErase(bool confirming);
+
+    const Environment m_env;
+    SeenAppRows m_apps;
+    double m_idleMinutes = 0;
+    double m_dailyGoalHours = 0;
+    bool m_rippleOn = true;
+    bool m_ceremonyBlackout = true;
+    bool m_autoModeOn = true;
+    bool m_welcomeReplayArmed = false;
+    bool m_focusLinked = false;
+    std::optional<QStringList> m_focusShortcutNames; ///< empty until the tool has answered
+    int m_listings = 0;                              ///< how often it was asked
+    QString m_focusStartShortcut;
+    QString m_focusStopShortcut;
+    QString m_shortcutsFailure;
+    bool m_autoStartOn = false;
+    bool m_launchAtLogin = false;
+    DurationStyle m_durationStyle = DurationStyle::Natural;
+    bool m_confirmingErase = false;
+    bool m_exportFailed = false;
+    std::optional<QString> m_exportFeedback;
+    std::optional<QString> m_eraseStatus;
+};
+
+} // namespace vantle

@@ -1,0 +1,18 @@
+// A row with a switch.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+SettingsRow {
+    id: row
+
+    property bool checked: false
+    signal toggled(bool checked)
+
+    control: BrandToggle {
+        name: row.title
+        checked: row.checked
+        onToggled: checked => row.toggled(checked)
+        Accessible.description: row.caption
+    }
+}

@@ -1,0 +1,28 @@
+// A desktop's login items, as far as this program is concerned.
+#pragma once
+
+#include "platform/Autostart.h"
+
+#include <cerrno>
+
+namespace vantle::fakes {
+
+class FakeAutostart final : public Autostart {
+public:
+    [[nodiscard]] bool isRegistered() const override { return registered; }
+    Result<> registerItem() override { return set(true); }
+    Result<> unregisterItem() override { return set(false); }
+
+    bool registered = false;
+    bool refuses = false;
+
+private:
+    Result<> set(bool on) {
+        if (refuses)
+            return Error::fromErrno(EACCES, QStringLiteral("write"), QStringLiteral("autostart"));
+        registered = on;
+        return {};
+    }
+};
+
+} // namespace vantle::fakes

@@ -1,0 +1,200 @@
+#include "surfaces/settings/SettingsWorld.h"
+
+#include <gtest/gtest.h>
+
+namespace vantle {
+namespace {
+
+QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+
+class SettingsViewTest : public testing::Test, protected tests::SettingsWorld {};
+
+TEST_F(SettingsViewTest, NewPersonFindsTheDefaults) {
+    const SettingsView& settings = open();
+    EXPECT_EQ(settings.idleMinutes(), 3);
+    EXPECT_EQ(settings.dailyGoalHours(), 2);
+    EXPECT_EQ(settings.goalText(), text("2 h"));
+    EXPECT_FALSE(settings.focusLinked());
+    EXPECT_TRUE(settings.rippleOn());
+    EXPECT_TRUE(settings.ceremonyBlackout());
+    EXPECT_TRUE(settings.autoModeOn());
+    EXPECT_FALSE(settings.autoStartOn());
+    EXPECT_FALSE(settings.launchAtLogin());
+    EXPECT_EQ(settings.durationChoice(), 0);
+}
+
+TEST_F(SettingsViewTest, EverySwitchIsStoredAtOnceAndFoundAgain) {
+    SettingsView& settings = open();
+    settings.setCeremonyBlackout(false);
+    EXPECT_EQ(stored("ceremony.blackout"), text("false"));
+    settings.setAutoModeOn(false);
+    EXPECT_EQ(stored("auto.enabled"), text("false"));
+    settings.setAutoStartOn(true);
+    EXPECT_EQ(stored("auto.autostart"), text("true"));
+    settings.setFocusLinked(true);
+    EXPECT_EQ(stored("focus.linked"), text("true"));
+    const SettingsView& again = open();
+    EXPECT_FALSE(again.ceremonyBlackout());
+    EXPECT_FALSE(again.autoModeOn());
+    EXPECT_TRUE(again.autoStartOn());
+    EXPECT_TRUE(again.focusLinked());
+}
+
+TEST_F(SettingsViewTest, TurningTheCeremonyOffStoresThatItIsDisabled) {
+    SettingsView& settings = open();
+    settings.setRippleOn(false);
+    EXPECT_EQ(stored("ripple.disabled"), text("true"));
+    EXPECT_FALSE(open().rippleOn());
+    view->setRippleOn(true);
+    EXPECT_EQ(stored("ripple.disabled"), text("false"));
+}
+
+TEST_F(SettingsViewTest, AwayLimitIsStoredInSecondsAndHoldsAtOnce) {
+    SettingsView& settings = open();
+    settings.setIdleMinutes(7);
+    EXPECT_EQ(preferences.number(text("idle.thresholdSeconds")), 420);
+    EXPECT_EQ(model->idle().thresholdSeconds(), 420);
+    EXPECT_EQ(open().idleMinutes(), 7);
+}
+
+TEST_F(SettingsViewTest, AwayLimitIsOneToTenWholeMinutes) {
+    SettingsView& settings = open();
+    settings.setIdleMinutes(0);
+    EXPECT_EQ(settings.idleMinutes(), 1);
+    settings.setIdleMinutes(11);
+    EXPECT_EQ(settings.idleMinutes(), 10);
+    settings.setIdleMinutes(4.4);
+    EXPECT_EQ(settings.idleMinutes(), 4);
+}
+
+TEST_F(SettingsViewTest, AwayLimitOfAnotherMakingIsToldAsItIs) {
+    preferences.setNumber(text("idle.thresholdSeconds"), 1800);
+    EXPECT_EQ(open().idleTitle(), text("Auto-pause after 30 min"));
+    preferences.setNumber(text("idle.thresholdSeconds"), 20);
+    EXPECT_EQ(open().idleTitle(), text("Auto-pause after 1 min"));
+    preferences.setNumber(text("idle.thresholdSeconds"), 9); // counts as none
+    EXPECT_EQ(open().idleTitle(), text("Auto-pause after 3 min"));
+}
+
+TEST_F(SettingsViewTest, StoredGoalOutOfReasonIsReadAsEverywhereElse) {
+    for (const double stored : {0.0, -3.0}) {
+        preferences.setNumber(text("goal.dailyHours"), stored);
+        EXPECT_EQ(open().dailyGoalHours(), 2) << stored;
+    }
+    preferences.setNumber(text("goal.dailyHours"), 30);
+    EXPECT_EQ(open().goalText(), text("24 h"));
+}
+
+TEST_F(SettingsViewTest, GoalGoesByHalfHoursAndIsStored) {
+    SettingsView& settings = open();
+    settings.stepGoal(1);
+    EXPECT_EQ(settings.goalText(), text("2.5 h"));
+    EXPECT_EQ(preferences.number(text("goal.dailyHours")), 2.5);
+    settings.stepGoal(-1);
+    EXPECT_EQ(preferences.number(text("goal.dailyHours")), 2);
+}
+
+TEST_F(SettingsViewTest, ChipsCannotLeaveTheRangeOfTheGoal) {
+    SettingsView& settings = open();
+    EXPECT_FALSE(settings.isGoalLowest());
+    for (int i = 0; i < 5; ++i)
+        settings.stepGoal(-1);
+    EXPECT_EQ(settings.dailyGoalHours(), 0.5);
+    EXPECT_EQ(settings.goalText(), text("30 min"));
+    EXPECT_TRUE(settings.isGoalLowest());
+    for (int i = 0; i < 30; ++i)
+        settings.stepGoal(1);
+    EXPECT_EQ(settings.dailyGoalHours(), 12);
+    EXPECT_TRUE(settings.isGoalHighest());
+}
+
+TEST_F(SettingsViewTest, GoalAboveTheRangeComesBackIntoItByTheFirstStep) {
+    preferences.setNumber(text("goal.dailyHours"), 20);
+    SettingsView& settings = open();
+    EXPECT_TRUE(settings.isGoalHighest());
+    settings.stepGoal(-1);
+    EXPECT_EQ(settings.dailyGoalHours(), 12);
+}
+
+TEST_F(SettingsViewTest, LoginSwitchDrivesTheDesktop) {
+    SettingsView& settings = open();
+    settings.setLaunchAtLogin(true);
+    EXPECT_TRUE(autostart.registered);
+    EXPECT_TRUE(settings.launchAtLogin());
+    settings.setLaunchAtLogin(false);
+    EXPECT_FALSE(autostart.registered);
+    EXPECT_FALSE(settings.launchAtLogin());
+    autostart.registered = true; // by the desktop's own settings
+    EXPECT_TRUE(open().launchAtLogin());
+}
+
+TEST_F(SettingsViewTest, LoginSwitchFlipsBackWhenTheDesktopRefuses) {
+    SettingsView& settings = open();
+    autostart.refuses = true;
+    int times = 0;
+    QObject::connect(&settings, &SettingsView::switched, [&] { ++times; });
+    settings.setLaunchAtLogin(true);
+    EXPECT_FALSE(settings.launchAtLogin());
+    EXPECT_EQ(times, 1);
+    autostart.registered = true;
+    SettingsView& again = open();
+    again.setLaunchAtLogin(false);
+    EXPECT_TRUE(again.launchAtLogin());
+}
+
+TEST_F(SettingsViewTest, ShortcutInUseIsActive) {
+    const SettingsView& settings = open();
+    EXPECT_TRUE(settings.isHotKeyActive());
+    EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B · active"));
+    EXPECT_EQ(settings.hotKeyFailure(), QString());
+}
+
+TEST_F(SettingsViewTest, ShortcutThatAnotherApplicationHoldsIsUnavailable) {
+    hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};
+    const SettingsView& settings = open();
+    EXPECT_FALSE(settings.isHotKeyActive());
+    EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B unavailable"));
+    EXPECT_EQ(settings.hotKeyFailure(), text("⌥⌘B is already used by another app."));
+    int times = 0;
+    QObject::connect(&settings, &SettingsView::hotKeyChanged, [&] { ++times; });
+    hotKeyPort.outcome = {HotKeyPort::Registration::Registered, 0};
+    model->hotKey().registerHotKey();
+    EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B · active"));
+    EXPECT_GT(times, 0);
+}
+
+TEST_F(SettingsViewTest, EachStyleOfDurationsIsOfferedWithAnExample) {
+    EXPECT_EQ(open().durationChoices(),
+              (QList<QString>{text("Natural · 3.5 h"), text("Hours and minutes · 3 h 30 min"),
+                              text("Minutes only · 210 min"), text("Clock · 3:30:12")}));
+}
+
+TEST_F(SettingsViewTest, ChosenStyleHoldsEverywhereAtOnce) {
+    SettingsView& settings = open();
+    settings.stepGoal(1);
+    int times = 0;
+    QObject::connect(&notifications, &NotificationCenter::HFSessionsChanged, [&] { ++times; });
+    settings.chooseDuration(1);
+    EXPECT_EQ(stored("format.duration"), text("hoursMinutes"));
+    EXPECT_EQ(times, 1);
+    EXPECT_EQ(settings.goalText(), text("2 h 30 min"));
+    EXPECT_EQ(open().durationChoice(), 1);
+    view->chooseDuration(4); // there is none
+    EXPECT_EQ(view->durationChoice(), 1);
+}
+
+TEST_F(SettingsViewTest, WelcomeIsAskedForAndSaysSo) {
+    SettingsView& settings = open();
+    int asked = 0;
+    QObject::connect(&notifications, &NotificationCenter::HFShowWelcome, [&] { ++asked; });
+    EXPECT_EQ(settings.welcomeCaption(),
+              text("Opens the welcome again, right away. Your log is untouched."));
+    settings.replayWelcome();
+    EXPECT_EQ(asked, 1);
+    EXPECT_TRUE(settings.welcomeReplayArmed());
+    EXPECT_EQ(settings.welcomeCaption(), text("The welcome window is open."));
+    EXPECT_FALSE(open().welcomeReplayArmed());
+}
+
+} // namespace
+} // namespace vantle

@@ -1,0 +1,66 @@
+// The settings of a program on a disk, a clock and a desktop of its own.
+#pragma once
+
+#include "app/ModelWorld.h"
+#include "fakes/FakeAutostart.h"
+#include "fakes/FakeProcessRunner.h"
+#include "sensing/AutoRules.h"
+#include "sensing/FocusLink.h"
+#include "surfaces/settings/SettingsView.h"
+
+#include <cerrno>
+#include <optional>
+
+namespace vantle::tests {
+
+class SettingsWorld : public ModelWorld {
+public:
+    SettingsWorld() { time.attach(autoQueue); }
+
+    /// The program, started unless it runs.
+    AppModel& program() {
+        if (!model) launch();
+        if (!rules) rules.emplace(AutoRules::Environment{time, time, autoQueue, paths, *skills});
+        return *model;
+    }
+    /// The window opens, for the first time or again.
+    SettingsView& open() {
+        program();
+        return view.emplace(environment());
+    }
+    [[nodiscard]] SettingsView::Environment environment() {
+        return {*model,
+                *rules,
+                focusLink,
+                autostart,
+                preferences,
+                notifications,
+                paths,
+                ioQueue,
+                [this](const QString& path) { revealed << path; },
+                [this]() -> Result<> {
+                    ++foldersOpened;
+                    if (!folderRefuses) return {};
+                    return Error::fromErrno(EACCES, QStringLiteral("make"), QStringLiteral("x"));
+                },
+                [this] { return model->eraseEverything(); }};
+    }
+    /// The tool that lists shortcuts answers.
+    void answer(const QByteArray& names) { runner.end(ProcessRunner::Output{0, names}); }
+
+    [[nodiscard]] std::optional<QString> stored(const char* key) const {
+        return preferences.raw(QLatin1String(key));
+    }
+
+    fakes::ManualQueue autoQueue;
+    fakes::FakeAutostart autostart;
+    fakes::FakeProcessRunner runner;
+    FocusLink focusLink{preferences, runner, QStringLiteral("/opt/vantle-shortcuts")};
+    std::optional<AutoRules> rules;
+    QStringList revealed;
+    int foldersOpened = 0;
+    bool folderRefuses = false;
+    std::optional<SettingsView> view;
+};
+
+} // namespace vantle::tests
