@@ -53,6 +53,7 @@ public:
         ScreenPower& screenPower;
         HotKeyPort& hotKeyPort;
         const ReducedMotion& reducedMotion;
+        TopRightCardSlot& cardSlot; ///< which its cards ask for the corner
         FrontmostApp* frontmostApp = nullptr; ///< null where the desktop can't tell
         std::function<Calendar()> calendar;   ///< the person's calendar at the moment
         std::function<void()> terminate = {}; ///< ends the process once the model has stopped
@@ -120,7 +121,6 @@ public:
     [[nodiscard]] IdleMonitor& idle() { return m_idle; }
     [[nodiscard]] HotKey& hotKey() { return m_hotKey; }
     [[nodiscard]] Collaborators& collaborators() { return m_collaborators; }
-    [[nodiscard]] TopRightCardSlot& cardSlot() { return m_cardSlot; }
 
     [[nodiscard]] const QString& selectedSkillId() const { return m_selectedSkillId; }
     [[nodiscard]] const std::vector<Skill>& skills() const { return m_skills; }
@@ -181,7 +181,6 @@ private:
 
     Environment m_env;
     Collaborators m_collaborators;
-    TopRightCardSlot m_cardSlot;
     TrackerCore m_tracker;
     IdleMonitor m_idle;
     HotKey m_hotKey;

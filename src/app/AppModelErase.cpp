@@ -42,7 +42,7 @@ std::optional<QString> AppModel::eraseEverything() {
     setLastActionNote(std::nullopt);
     // A pending offer must not act on erased data.
     m_collaborators.recovery->hideForEviction();
-    m_cardSlot.release(m_collaborators.recovery.get());
+    m_env.cardSlot.release(m_collaborators.recovery.get());
     m_tracker.discardOpenSessionForErase();
     m_collaborators.autoSkill->eraseAllData();
     // Nothing that is queued may bring a file back after it was removed.

@@ -197,6 +197,7 @@ AppModel& ModelWorld::launch() {
                               .screenPower = screens,
                               .hotKeyPort = hotKeyPort,
                               .reducedMotion = reducedMotion,
+                              .cardSlot = cardSlot,
                               .frontmostApp = &frontmost,
                               .calendar =
                                   [] {

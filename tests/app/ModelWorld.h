@@ -87,6 +87,7 @@ public:
     fakes::FakeReducedMotion reducedMotion;
     fakes::FakeFrontmostApp frontmost;
     NotificationCenter notifications;
+    TopRightCardSlot cardSlot;
     AppPaths paths{files, QStringLiteral("/home/ada/.local/share")};
     Told told;
     int terminations = 0;

@@ -93,7 +93,16 @@ class XEmbedTray(DesktopTest):
         self.assertGreaterEqual(len(dots), 3, "the dot breathes")
 
         self.end_session()
+        self.turn_away_from_card()
         wait_until("the brick again", lambda: self.desktop.tray_picture() == brick)
+
+    def turn_away_from_card(self):
+        """The card after a session may cover the tray."""
+        title = "Vantle Session Summary"
+        card = wait_until("the card", lambda: self.desktop.windows_named(title))[0]
+        x, y, width, _ = self.desktop.frame_of(card)
+        self.desktop.tool("xdotool", "mousemove", str(x + width - 27), str(y + 27), "sleep", "0.2",
+                          "click", "1", "mousemove", "400", "500")
 
 
 class StatusNotifierTray(DesktopTest):

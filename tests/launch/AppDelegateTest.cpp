@@ -1,17 +1,22 @@
 #include "app/launch/AppDelegate.h"
 
+#include "fakes/FakeCardStage.h"
 #include "fakes/FakeFrontmostApp.h"
 #include "fakes/FakeHotKeyPort.h"
 #include "fakes/FakeIdleSource.h"
+#include "fakes/FakePanelHost.h"
+#include "fakes/FakePointerPresses.h"
 #include "fakes/FakeProcessRunner.h"
 #include "fakes/FakeReducedMotion.h"
 #include "fakes/FakeScreenPower.h"
+#include "fakes/FakeScreens.h"
 #include "fakes/FakeTrayItem.h"
 #include "fakes/MemoryFileSystem.h"
 #include "fakes/MemoryPreferences.h"
 #include "fakes/VirtualTime.h"
 #include "platform/Autostart.h"
 #include "support/QtPrinters.h"
+#include "surfaces/window/SharedEngine.h"
 #include "tracking/AppPaths.h"
 
 #include <gtest/gtest.h>
@@ -51,6 +56,7 @@ protected:
     AppDelegateTest() {
         time.attach(ioQueue);
         time.attach(autoSkillQueue);
+        shapes.shapes.clear(); // nothing to show the panel on, which takes its time
     }
 
     std::unique_ptr<AppDelegate> makeCopy(bool atLogin = false) {
@@ -69,6 +75,11 @@ protected:
                                      .reducedMotion = reducedMotion,
                                      .autostart = autostart,
                                      .trayItem = tray,
+                                     .cardStage = cardStage,
+                                     .viewEngine = viewEngine,
+                                     .panelHost = panelHost,
+                                     .screens = shapes,
+                                     .pointerPresses = pointerPresses,
                                      .shortcutsTool = text("/bin/vantle-shortcuts"),
                                      .calendar =
                                          [] {
@@ -97,6 +108,11 @@ protected:
     fakes::FakeProcessRunner processRunner;
     fakes::FakeReducedMotion reducedMotion;
     fakes::FakeTrayItem tray;
+    fakes::FakeCardStage cardStage;
+    SharedEngine viewEngine;
+    fakes::FakePanelHost panelHost;
+    fakes::FakeScreens shapes;
+    fakes::FakePointerPresses pointerPresses;
     FakeAutostart autostart;
     AppPaths paths{disk, text("/data")};
     int terminations = 0;
@@ -183,6 +199,36 @@ TEST_F(AppDelegateTest, AStartByHandOpensThePanel) {
     EXPECT_EQ(opened, 1);
     byHand->applicationShouldHandleReopen();
     EXPECT_EQ(opened, 2);
+}
+
+TEST_F(AppDelegateTest, ThePanelOfAStartByHandIsThere) {
+    shapes.shapes = fakes::FakeScreens().shapes;
+    const auto byHand = makeCopy();
+    ASSERT_TRUE(byHand->applicationDidFinishLaunching());
+    EXPECT_FALSE(byHand->commandCenter()->isShown());
+    time.settle();
+    EXPECT_TRUE(byHand->commandCenter()->isShown());
+}
+
+TEST_F(AppDelegateTest, AClickOnTheTrayItemShowsThePanelAndAnotherHidesIt) {
+    shapes.shapes = fakes::FakeScreens().shapes;
+    const auto app = makeCopy(true);
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    time.settle();
+    ASSERT_FALSE(app->commandCenter()->isShown());
+    Q_EMIT tray.clicked({1000, 14});
+    EXPECT_TRUE(app->commandCenter()->isShown());
+    Q_EMIT tray.clicked({1000, 14});
+    EXPECT_FALSE(app->commandCenter()->isShown());
+}
+
+TEST_F(AppDelegateTest, TheDesktopMayCallForAWindow) {
+    const auto app = makeCopy(true);
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    app->performAction(text("quick-log"));
+    EXPECT_TRUE(app->router()->isOpen(WindowId::QuickLog));
+    app->performAction(text("no-such-window"));
+    EXPECT_FALSE(app->router()->isOpen(WindowId::Settings));
 }
 
 TEST_F(AppDelegateTest, DataFilesBecomePrivateAtLaunchAndTheRetiredOneGoes) {

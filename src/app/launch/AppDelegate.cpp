@@ -2,10 +2,14 @@
 
 #include "app/launch/AutoSkillAdapter.h"
 #include "app/launch/FocusLinkAdapter.h"
-#include "app/launch/RecoveryActions.h"
+#include "app/launch/Windows.h"
 #include "platform/Autostart.h"
 #include "platform/Preferences.h"
 #include "platform/TrayItem.h"
+#include "surfaces/cards/RecoveryNoticeController.h"
+#include "surfaces/cards/RetagToastController.h"
+#include "surfaces/cards/StopSummaryController.h"
+#include "surfaces/cards/TagPromptController.h"
 
 namespace vantle {
 
@@ -41,6 +45,7 @@ bool AppDelegate::applicationDidFinishLaunching() {
     }
     registerLoginItemOnce();
     makeModel();
+    makeWindows();
     makeStatusItem();
     // As long as there is no welcome to walk through, nobody could ever finish it, and every
     // session would count as practice.
@@ -60,9 +65,8 @@ void AppDelegate::registerLoginItemOnce() {
 
 void AppDelegate::makeModel() {
     Collaborators collaborators;
-    auto recovery = std::make_unique<RecoveryActions>();
-    m_recovery = recovery.get();
-    collaborators.recovery = std::move(recovery);
+    makeCards(collaborators);
+    if (m_env.makeNotch) collaborators.notch = m_env.makeNotch();
     if (m_env.makeRipple) collaborators.ripple = m_env.makeRipple();
     collaborators.autoSkill = std::make_unique<AutoSkillAdapter>(m_autoSkill);
     collaborators.focusLink = std::make_unique<FocusLinkAdapter>(m_focusLink);
@@ -77,6 +81,7 @@ void AppDelegate::makeModel() {
                                                                .screenPower = m_env.screenPower,
                                                                .hotKeyPort = m_env.hotKeyPort,
                                                                .reducedMotion = m_env.reducedMotion,
+                                                               .cardSlot = m_cardSlot,
                                                                .frontmostApp = &m_env.frontmostApp,
                                                                .calendar = m_env.calendar,
                                                                .terminate = m_env.terminate},
@@ -84,12 +89,37 @@ void AppDelegate::makeModel() {
     m_model->showCommandCenter = [this] { showCommandCenter(); };
 }
 
+void AppDelegate::makeCards(Collaborators& collaborators) {
+    const CardEnvironment cards{m_env.scheduler, m_env.preferences, m_skills,
+                                m_notifications, m_cardSlot,        m_env.cardStage};
+    auto recovery = std::make_unique<RecoveryNoticeController>(cards);
+    m_recovery = recovery.get();
+    collaborators.recovery = std::move(recovery);
+    collaborators.stopSummary = std::make_unique<StopSummaryController>(cards);
+    collaborators.tagPrompt = std::make_unique<TagPromptController>(cards);
+    collaborators.retagToast = std::make_unique<RetagToastController>(cards);
+}
+
+void AppDelegate::makeWindows() {
+    m_router = std::make_unique<WindowRouter>(
+        WindowEnvironment{m_env.viewEngine, m_activation, m_env.preferences, m_env.screens,
+                          m_env.panelHost, [this] { m_model->quit(); }},
+        m_notifications);
+    registerWindows({*m_model, m_skills, m_notifications, m_env.preferences, m_env.clock,
+                     m_env.scheduler, m_env.calendar, *m_router});
+    m_commandCenter =
+        std::make_unique<CommandCenterController>(CommandCenterController::Environment{
+            *m_model, m_skills, m_env.preferences, m_env.clock, m_env.scheduler, *m_router,
+            m_env.viewEngine, m_env.panelHost, m_env.screens, m_env.pointerPresses});
+    m_commandCenter->statusItemGeometry = [this] { return m_statusItem->geometry(); };
+}
+
 void AppDelegate::makeStatusItem() {
     m_statusItem = std::make_unique<StatusItemController>(
         StatusItemController::Environment{m_model->tracker(), m_skills, m_env.trayItem,
                                           m_env.scheduler, m_env.reducedMotion, m_env.screenPower});
-    m_statusItem->onClick = [this](QPoint) {
-        showCommandCenter();
+    m_statusItem->onClick = [this](QPoint place) {
+        m_commandCenter->toggle(place);
         m_model->ensureIdleNotch();
     };
     StatusItemController* const item = m_statusItem.get();
@@ -108,7 +138,7 @@ void AppDelegate::showStatus() {
 }
 
 void AppDelegate::showCommandCenter() {
-    m_model->refreshPanelState();
+    m_commandCenter->show();
     m_model->flashIdleNotchIntroIfNeeded();
 }
 
@@ -130,6 +160,16 @@ void AppDelegate::performAction(const QString& name) {
         m_recovery->keep();
     else if (name == QLatin1String("discard"))
         m_recovery->discard();
+    else if (name == QLatin1String("dashboard"))
+        m_router->showDashboard();
+    else if (name == QLatin1String("wrapped"))
+        m_router->showWrapped();
+    else if (name == QLatin1String("notes"))
+        m_router->showLog();
+    else if (name == QLatin1String("quick-log"))
+        m_router->showQuickLog();
+    else if (name == QLatin1String("settings"))
+        m_router->showSettings();
     else if (name == QLatin1String("quit"))
         m_model->quit();
 }

@@ -4,7 +4,10 @@
 #include "app/AppModel.h"
 #include "sensing/AutoSkillMonitor.h"
 #include "sensing/FocusLink.h"
+#include "surfaces/commandcenter/CommandCenterController.h"
 #include "surfaces/menubar/StatusItemController.h"
+#include "surfaces/window/ForegroundActivation.h"
+#include "surfaces/window/WindowRouter.h"
 #include "tracking/NotificationCenter.h"
 #include "tracking/SingleInstanceLock.h"
 #include "tracking/SkillList.h"
@@ -15,8 +18,13 @@
 namespace vantle {
 
 class Autostart;
+class CardStage;
+class PanelHost;
+class PointerPresses;
 class ProcessRunner;
-class RecoveryActions;
+class RecoveryNoticeController;
+class Screens;
+class SharedEngine;
 class TrayItem;
 
 /// Owns the top-level objects for the life of the process. Main thread.
@@ -38,7 +46,14 @@ public:
         const ReducedMotion& reducedMotion;
         Autostart& autostart;
         TrayItem& trayItem;
+        CardStage& cardStage;
+        SharedEngine& viewEngine; ///< of the panel and the windows
+        PanelHost& panelHost;
+        const Screens& screens;
+        PointerPresses& pointerPresses;
         QString shortcutsTool; ///< absolute path of the program that runs shortcuts
+        /// Makes the capsule; there is none without.
+        std::function<std::unique_ptr<collaborators::Notch>()> makeNotch = {};
         /// Makes what plays at both ends of a session; nothing plays without.
         std::function<std::unique_ptr<collaborators::Ripple>()> makeRipple = {};
         std::function<Calendar()> calendar;
@@ -62,16 +77,21 @@ public:
     /// The process is about to end, for whatever reason. Does nothing the second time.
     void applicationWillTerminate();
 
-    /// One of the actions that the desktop may call by name: "toggle", "keep", "discard", "quit".
-    /// Unknown names do nothing.
+    /// One of the actions that the desktop may call by name: "toggle", "keep", "discard", "quit",
+    /// and the windows "dashboard", "wrapped", "notes", "quick-log", "settings". Unknown names do
+    /// nothing.
     void performAction(const QString& name);
 
     /// Null before the launch, and in a second copy.
     [[nodiscard]] AppModel* model() { return m_model.get(); }
+    [[nodiscard]] CommandCenterController* commandCenter() { return m_commandCenter.get(); }
+    [[nodiscard]] WindowRouter* router() { return m_router.get(); }
 
 private:
     void registerLoginItemOnce();
     void makeModel();
+    void makeCards(Collaborators& collaborators);
+    void makeWindows();
     void makeStatusItem();
     void showCommandCenter();
     void showStatus();
@@ -82,8 +102,12 @@ private:
     SkillList m_skills;
     AutoSkillMonitor m_autoSkill;
     FocusLink m_focusLink;
-    RecoveryActions* m_recovery = nullptr; ///< owned by the model
+    TopRightCardSlot m_cardSlot;
+    RecoveryNoticeController* m_recovery = nullptr; ///< owned by the model
     std::unique_ptr<AppModel> m_model;
+    ForegroundActivation m_activation;
+    std::unique_ptr<WindowRouter> m_router;
+    std::unique_ptr<CommandCenterController> m_commandCenter;
     std::unique_ptr<StatusItemController> m_statusItem;
 };
 

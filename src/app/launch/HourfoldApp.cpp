@@ -3,12 +3,16 @@
 #include "app/launch/AppDelegate.h"
 #include "app/launch/AppInstaller.h"
 #include "app/launch/Ceremony.h"
+#include "app/launch/FloatingSurfaces.h"
 #include "app/launch/InstallLocation.h"
 #include "app/launch/PlatformFactory.h"
 #include "base/Clock.h"
 #include "base/SerialQueue.h"
+#include "platform/ReducedMotion.h"
 #include "sensing/AutoRules.h"
 #include "surfaces/alert/ModalPresenter.h"
+#include "surfaces/kit/Motion.h"
+#include "surfaces/window/SharedEngine.h"
 #include "tracking/AppPaths.h"
 
 #include <QApplication>
@@ -119,6 +123,15 @@ int run(bool startedAtLogin) {
                        .reducedMotion = platform->reducedMotion(),
                        .screens = platform->screens(),
                        .panelHost = platform->panelHost()});
+    SharedEngine viewEngine([&motion = platform->reducedMotion()](QQmlEngine& engine) {
+        Motion::of(engine)->setReduced(motion.enabled());
+    });
+    FloatingSurfaces surfaces({.engine = viewEngine,
+                               .scheduler = scheduler,
+                               .preferences = platform->preferences(),
+                               .reducedMotion = platform->reducedMotion(),
+                               .screens = platform->screens(),
+                               .panelHost = platform->panelHost()});
     AppDelegate app({.clock = clock,
                      .scheduler = scheduler,
                      .ioQueue = ioQueue,
@@ -133,7 +146,13 @@ int run(bool startedAtLogin) {
                      .reducedMotion = platform->reducedMotion(),
                      .autostart = platform->autostart(),
                      .trayItem = platform->trayItem(),
+                     .cardStage = surfaces.cardStage(),
+                     .viewEngine = viewEngine,
+                     .panelHost = platform->panelHost(),
+                     .screens = platform->screens(),
+                     .pointerPresses = platform->pointerPresses(),
                      .shortcutsTool = shortcutsTool(),
+                     .makeNotch = [&surfaces] { return surfaces.makeNotch(); },
                      .makeRipple = [&ceremony] { return ceremony.makeRipple(); },
                      .calendar = &Calendar::current,
                      .offerMoveToApplications =

@@ -19,6 +19,7 @@
 #include "platform/x11/X11HotKey.h"
 #include "platform/x11/X11IdleSource.h"
 #include "platform/x11/X11PanelHost.h"
+#include "platform/x11/X11PointerPresses.h"
 #include "platform/x11/X11ScreenPower.h"
 #include "sensing/ScreenPowerUnion.h"
 
@@ -68,6 +69,7 @@ public:
                       QCoreApplication::applicationFilePath())
         , m_trayItem(m_session)
         , m_panelHost(m_x11)
+        , m_pointerPresses(m_x11)
         , m_languageModel(m_files, configHome() + QStringLiteral("/Vantle/language-model.conf"),
                           scheduler)
         , m_service(m_session)
@@ -90,9 +92,10 @@ public:
     [[nodiscard]] ReducedMotion& reducedMotion() override { return m_reducedMotion; }
     [[nodiscard]] Autostart& autostart() override { return m_autostart; }
     [[nodiscard]] TrayItem& trayItem() override { return m_trayItem; }
+    [[nodiscard]] LanguageModel& languageModel() override { return m_languageModel; }
     [[nodiscard]] Screens& screens() override { return m_screens; }
     [[nodiscard]] PanelHost& panelHost() override { return m_panelHost; }
-    [[nodiscard]] LanguageModel& languageModel() override { return m_languageModel; }
+    [[nodiscard]] PointerPresses& pointerPresses() override { return m_pointerPresses; }
     [[nodiscard]] QString dataHome() const override {
         return xdgDirectory("XDG_DATA_HOME", QStringLiteral("/.local/share"));
     }
@@ -122,6 +125,7 @@ private:
     DesktopTrayItem m_trayItem;
     QtScreens m_screens;
     X11PanelHost m_panelHost;
+    X11PointerPresses m_pointerPresses;
     SocketLanguageModel m_languageModel;
     ApplicationService m_service;
     TerminationSignals m_signals;

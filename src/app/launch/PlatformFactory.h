@@ -7,8 +7,9 @@
 #include "platform/FrontmostApp.h"
 #include "platform/HotKeyPort.h"
 #include "platform/IdleSource.h"
-#include "platform/PanelHost.h"
 #include "platform/LanguageModel.h"
+#include "platform/PanelHost.h"
+#include "platform/PointerPresses.h"
 #include "platform/Preferences.h"
 #include "platform/ProcessRunner.h"
 #include "platform/ReducedMotion.h"
@@ -46,9 +47,10 @@ public:
     [[nodiscard]] virtual ReducedMotion& reducedMotion() = 0;
     [[nodiscard]] virtual Autostart& autostart() = 0;
     [[nodiscard]] virtual TrayItem& trayItem() = 0;
+    [[nodiscard]] virtual LanguageModel& languageModel() = 0;
     [[nodiscard]] virtual Screens& screens() = 0;
     [[nodiscard]] virtual PanelHost& panelHost() = 0;
-    [[nodiscard]] virtual LanguageModel& languageModel() = 0;
+    [[nodiscard]] virtual PointerPresses& pointerPresses() = 0;
 
     /// The directory under which the support directory lies.
     [[nodiscard]] virtual QString dataHome() const = 0;

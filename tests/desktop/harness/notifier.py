@@ -81,6 +81,11 @@ class Notifier:
         fitting = [image for image in images if image.width == size]
         return (fitting or sorted(images, key=lambda image: image.width))[-1]
 
+    def activate(self, x, y):
+        """A click on the item, which is told only where that was."""
+        (service, path), = self.items()
+        call(self._desktop, service, path, ITEM, "Activate", x, y)
+
     def _read(self, name):
         (service, path), = self.items()
         return call(self._desktop, service, path, PROPERTIES, "Get", ITEM, name)

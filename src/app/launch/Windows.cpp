@@ -1,0 +1,69 @@
+#include "app/launch/Windows.h"
+
+#include "app/AppModel.h"
+#include "surfaces/dashboard/DashboardView.h"
+#include "surfaces/notes/LogView.h"
+#include "surfaces/quicklog/QuickLogView.h"
+#include "surfaces/window/WindowRouter.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+namespace vantle {
+
+namespace {
+
+using Close = std::function<void()>;
+
+QUrl viewAt(const char* place) {
+    return QUrl(QStringLiteral("qrc:/qt/qml/Vantle/%1.qml").arg(QLatin1String(place)));
+}
+
+std::unique_ptr<QObject> makeDashboard(const WindowParts& parts) {
+    WindowRouter& router = parts.router;
+    return std::make_unique<DashboardView>(DashboardView::Environment{
+        .model = parts.model,
+        .notifications = parts.notifications,
+        .preferences = parts.preferences,
+        .clock = parts.clock,
+        .scheduler = parts.scheduler,
+        .calendar = parts.calendar,
+        .openQuickLog = [&router] { router.showQuickLog(); },
+        // The review closes the window that asks for it.
+        .openWrapped =
+            [&router] {
+                QMetaObject::invokeMethod(
+                    &router, [&router] { router.showWrapped(); }, Qt::QueuedConnection);
+            }});
+}
+
+std::unique_ptr<QObject> makeLog(const WindowParts& parts) {
+    return std::make_unique<LogView>(LogView::Environment{
+        .tracker = parts.model.tracker(),
+        .skills = parts.skills,
+        .notifications = parts.notifications,
+        .preferences = parts.preferences,
+        .clock = parts.clock,
+        .scheduler = parts.scheduler,
+        .calendar = parts.calendar,
+        .copy = [](const QString& text) { QGuiApplication::clipboard()->setText(text); }});
+}
+
+} // namespace
+
+void registerWindows(const WindowParts& parts) {
+    const auto add = [&](WindowId id, const char* view, auto make) {
+        parts.router.registerWindow(
+            id, {viewAt(view), [parts, make](const Close& close) { return make(parts, close); }});
+    };
+    add(WindowId::Dashboard, "Dashboard/DashboardPage",
+        [](const WindowParts& p, const Close&) { return makeDashboard(p); });
+    add(WindowId::Log, "Notes/NotesLogView",
+        [](const WindowParts& p, const Close&) { return makeLog(p); });
+    add(WindowId::QuickLog, "QuickLog/QuickLogForm",
+        [](const WindowParts& p, const Close& close) -> std::unique_ptr<QObject> {
+            return std::make_unique<QuickLogView>(p.model, p.preferences, close);
+        });
+}
+
+} // namespace vantle
