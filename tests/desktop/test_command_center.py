@@ -1,6 +1,7 @@
 """The panel that drops from the tray item, worked by pointer and keys."""
 
 import time
+from pathlib import Path
 
 from harness.bus import activate
 from harness.case import FIRST_SKILL, PANEL_TITLE, DesktopTest
@@ -16,8 +17,7 @@ class Panel(DesktopTest):
 
     def tray_item(self):
         """The middle of the item."""
-        window = self.desktop.tool("xdotool", "search", "--onlyvisible", "--class", "trayer")
-        x, y, width, height = self.desktop.frame_of(window.split()[0].decode())
+        x, y, width, height = self.desktop.tray_frame()
         return x + width // 2, y + height // 2
 
     def click(self, x, y, button=1):
@@ -158,6 +158,31 @@ class ByKeys(Panel):
         self.assertEqual(self.frame()[3], height)
         self.desktop.screenshot("editor")
         self.assertNotIn("Resea", self.skills())
+
+
+class Memory(Panel):
+
+    tray_kind = DesktopTest.NO_TRAY
+
+    def resident_kilobytes(self):
+        for line in Path(f"/proc/{self.vantle.pid}/status").read_text().splitlines():
+            if line.startswith("VmRSS:"):
+                return int(line.split()[1])
+        return 0
+
+    def round(self):
+        activate(self.desktop)
+        self.await_shown()
+        self.desktop.press("Escape")
+        self.await_hidden()
+        time.sleep(0.3)
+
+    def test_ten_rounds_leave_the_memory_as_it_was(self):
+        self.round()
+        after_one = self.resident_kilobytes()
+        for _ in range(10):
+            self.round()
+        self.assertLess(self.resident_kilobytes() - after_one, 5 * 1024)
 
 
 class Activated(Panel):

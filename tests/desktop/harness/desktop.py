@@ -136,9 +136,17 @@ class Desktop:
 
     def tray_picture(self):
         """The pixels of the tray's whole bar, which is as wide as its icons."""
-        window = self.tool("xdotool", "search", "--onlyvisible", "--class", "trayer").split()[0]
-        bar = self._geometry(window.decode())
+        bar = self._geometry(self._tray_window())
         return self.picture(bar["X"], bar["Y"], bar["WIDTH"], bar["HEIGHT"])
+
+    def tray_frame(self):
+        """Where the tray's bar is: x, y, width, height."""
+        return self.frame_of(self._tray_window())
+
+    def _tray_window(self):
+        # A search fails now and then while some window comes or goes.
+        search = ("xdotool", "search", "--onlyvisible", "--class", "trayer")
+        return wait_until("the tray", lambda: self._asked(*search).split())[0]
 
     def tray_has_item(self):
         picture = self.tray_picture()
