@@ -9,6 +9,7 @@ QList<Scene> allScenes() {
     scenes += cardScenes();
     scenes += commandCenterScenes();
     scenes += windowScenes();
+    scenes += settingsScenes();
     return scenes;
 }
 

@@ -26,8 +26,8 @@ SettingsCard {
             }
 
             SettingsCaption {
-                topPadding: role.leading + 5
-                bottomPadding: -role.leading + (rows.count > 0 ? DarkUI.space6 : 0)
+                topPadding: role.leading + DarkUI.space4
+                bottomPadding: -role.leading + (rows.count > 0 ? DarkUI.space8 : 0)
                 width: parent.width
                 text: card.model.appsNote
             }

@@ -32,7 +32,7 @@ FocusScope {
             x: page.margin
             width: page.width - 2 * page.margin
             topPadding: -DarkUI.space16 // the first heading has less above it
-            bottomPadding: DarkUI.space28
+            bottomPadding: DarkUI.space28 + DarkUI.space4
 
             FocusSection {
                 width: parent.width

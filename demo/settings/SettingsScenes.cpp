@@ -1,0 +1,157 @@
+#include "gallery/Scenes.h"
+#include "surfaces/settings/SettingsWorld.h"
+#include "windows/SampleYear.h"
+
+#include <QEventLoop>
+#include <QQuickItem>
+#include <QTimer>
+
+#include <array>
+
+namespace vantle {
+
+namespace {
+
+/// The program behind the window, for as long as the picture is made.
+class DemoSettings final : public QObject, public tests::SettingsWorld {
+public:
+    explicit DemoSettings(QObject* owner) : QObject(owner) {
+        idleSource.fix(0);
+        time.shiftWall(epochSeconds(sampleNow()) - epochSeconds(time.now()));
+        autostart.registered = true;
+        preferences.setBoolean(FocusLink::enabledKey, true);
+        preferences.setString(FocusLink::startShortcutKey, QStringLiteral("Deep Work On"));
+    }
+
+    QByteArray shortcuts = "Deep Work On\nDeep Work Off\nCall Mode\n";
+};
+
+struct SampleApp {
+    const char* name;
+    const char* ruling; ///< empty for none
+    bool isAutomatic = false;
+};
+
+constexpr std::array kApps = {
+    SampleApp{"Video Player", "ignore"},         SampleApp{"Thunderbird", "connections", true},
+    SampleApp{"Terminal", "building", true},     SampleApp{"Ledger", "founder_ops"},
+    SampleApp{"GIMP", "product_design", true},   SampleApp{"Firefox", ""},
+    SampleApp{"Blender", "product_design", true}};
+
+void useApps(DemoSettings& world) {
+    for (const SampleApp& app : kApps) {
+        const QString id = QLatin1String(app.name);
+        world.time.advance(90);
+        world.rules->recordSeen(id, id);
+        if (app.isAutomatic)
+            world.rules->setAutomaticRule(id, QLatin1String(app.ruling));
+        else if (*app.ruling != '\0')
+            world.rules->setRule(id, QString(QLatin1String(app.ruling)));
+    }
+}
+
+using Prepare = std::function<void(DemoSettings&)>;
+/// Where the window is scrolled to, given its sections from the top.
+using Place = std::function<double(const QList<QQuickItem*>& sections)>;
+
+/// For what is laid out at the next frame, and for the scroll bar, which comes in softly.
+void settle() {
+    QEventLoop loop;
+    QTimer::singleShot(250, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void scrollTo(QQuickItem& frame, const Place& place) {
+    auto* const page = frame.property("item").value<QQuickItem*>();
+    auto* const scroll = page->property("scroll").value<QQuickItem*>();
+    const auto* const content = page->property("content").value<QQuickItem*>();
+    scroll->setProperty("scrollbarShown", true);
+    QMetaObject::invokeMethod(scroll, "scrollTo", Q_ARG(double, place(content->childItems())));
+    settle();
+}
+
+/// The heading of a section at the place where that of the first one is at first.
+Place section(int number) {
+    return [number](const QList<QQuickItem*>& sections) {
+        return sections.value(number)->y() - sections.value(0)->y();
+    };
+}
+
+/// The end of a section with some space below it.
+Place endOf(int number) {
+    return [number](const QList<QQuickItem*>& sections) {
+        const QQuickItem& last = *sections.value(number);
+        return last.y() + last.height() + 20 - 620;
+    };
+}
+
+double end(const QList<QQuickItem*>& sections) {
+    return sections.last()->y(); // which is more than there is to scroll
+}
+
+Scene settings(const char* name, Prepare prepare, Place place,
+               std::function<void(SettingsView&)> then = {}) {
+    Scene made;
+    made.name = QLatin1String(name);
+    made.view = QUrl(QStringLiteral("qrc:/qt/qml/Vantle/DemoWindows/FramedScene.qml"));
+    made.ground = kDesk;
+    made.properties = [=](QObject* owner) {
+        auto* const world = new DemoSettings(owner);
+        if (prepare) prepare(*world);
+        world->program();
+        world->rules->loadIfNeeded();
+        useApps(*world);
+        SettingsView& view = world->open();
+        world->answer(world->shortcuts);
+        if (then) then(view);
+        return QVariantMap{{QStringLiteral("view"),
+                            QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Settings/SettingsPage.qml"))},
+                           {QStringLiteral("title"), QStringLiteral("Settings")},
+                           {QStringLiteral("model"), QVariant::fromValue(&view)}};
+    };
+    made.arrange = [place](QQuickItem& frame) { scrollTo(frame, place); };
+    return made;
+}
+
+QQuickItem* buttonNamed(QQuickItem* item, const QString& name) {
+    if (item->isVisible() && item->property("name").toString() == name) return item;
+    for (QQuickItem* child : item->childItems())
+        if (QQuickItem* const found = buttonNamed(child, name)) return found;
+    return nullptr;
+}
+
+Scene eraseQuestion() {
+    Scene made = settings("settings-erase-confirm", {}, end);
+    made.arrange = [](QQuickItem& frame) {
+        auto* const erase = buttonNamed(&frame, QStringLiteral("Erase everything"));
+        QMetaObject::invokeMethod(erase, "focusByKeyboard");
+        QMetaObject::invokeMethod(erase, "clicked");
+        settle();
+        scrollTo(frame, end);
+    };
+    return made;
+}
+
+} // namespace
+
+QList<Scene> settingsScenes() {
+    Scene first = settings("settings", {}, section(0));
+    first.twice = true;
+    return {first,
+            settings("settings-ceremony", {}, section(1)),
+            settings("settings-apps", {}, endOf(2)),
+            settings("settings-general", {}, end),
+            eraseQuestion(),
+            settings(
+                "settings-no-shortcuts", [](DemoSettings& world) { world.shortcuts.clear(); },
+                section(0)),
+            settings(
+                "settings-failures",
+                [](DemoSettings& world) {
+                    world.hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};
+                    world.breakWrites(QStringLiteral("sessions.jsonl"), true);
+                },
+                end, [](SettingsView& view) { view.exportData(); })};
+}
+
+} // namespace vantle
