@@ -61,6 +61,10 @@ public:
     /// Takes all windows down. The hard stop stays armed, and finds nothing.
     void dismiss();
 
+    /// A page of the show with that number posted a message. Garbage, and what comes from an
+    /// earlier show, is ignored.
+    void receive(int generation, const QJsonValue& body);
+
     /// How long after `play`, or after a page has begun, all windows go in any case.
     [[nodiscard]] static Seconds hardStopSeconds(CeremonyShow show);
 
@@ -94,7 +98,6 @@ private:
     void showPrepared(std::vector<Prepared>& prepared, Date start);
     void playWebCeremony(CeremonyShow show, CeremonyVariant variant, std::uint32_t hexRGB,
                          const std::optional<QString>& skillName);
-    void receive(int generation, const QJsonValue& body);
 
     [[nodiscard]] std::vector<QRect> screenFrames() const;
     [[nodiscard]] CeremonyVariant pickVariant();

@@ -114,18 +114,15 @@ private:
         const QString op = operation(event);
         RippleOverlayController& controller = m_world.controller;
         if (op == QLatin1String("play")) {
-            const qsizetype pagesBefore = m_world.web.pages.size();
             controller.play(showFromText(event[QLatin1String("show")].toString()), 0x7A78FF,
                             QStringLiteral("Writing"));
-            if (m_world.web.pages.size() > pagesBefore)
-                m_pages[controller.generation()] = m_world.web.pages.back();
         } else if (op == QLatin1String("dismiss")) {
             controller.dismiss();
         } else if (op == QLatin1String("set")) {
             set(event[QLatin1String("values")].toObject());
         } else if (op == QLatin1String("message")) {
-            const auto page = m_pages.find(event[QLatin1String("generation")].toInt());
-            if (page != m_pages.end()) page->second(event[QLatin1String("body")]);
+            controller.receive(event[QLatin1String("generation")].toInt(),
+                               event[QLatin1String("body")]);
         }
     }
 
@@ -219,7 +216,6 @@ private:
         return {};
     }
 
-    std::map<int, WebStage::MessageHandler> m_pages; ///< of each show one
     QJsonArray m_trace;
     double m_hardStopDue = 0;
     fakes::VirtualTime m_time{dateFromEpoch(0)};
