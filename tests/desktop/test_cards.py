@@ -22,9 +22,9 @@ UNKNOWN_FOR = 90  # seconds in an unknown application until it is asked about
 
 ENTRY = """[Desktop Entry]
 Type=Application
-Name=Loom
-Exec=xterm -class Loom
-StartupWMClass=Loom
+Name=Quern
+Exec=xterm -class Quern
+StartupWMClass=Quern
 """
 
 
@@ -148,11 +148,11 @@ class TagPrompt(CardTest):
     def test_an_unknown_application_is_asked_about_and_the_answer_becomes_its_rule(self):
         folder = Path(self.desktop.env["XDG_DATA_HOME"], "applications")
         folder.mkdir(parents=True, exist_ok=True)
-        (folder / "org.example.Loom.desktop").write_text(ENTRY)
+        (folder / "org.example.Quern.desktop").write_text(ENTRY)
         self.launch()
         self.begin_session()
-        self.desktop.open("xterm", "-class", "Loom", "-T", "a loom")
-        wait_until("the loom in front", lambda: self.desktop.active_window_title() == "a loom")
+        self.desktop.open("xterm", "-class", "Quern", "-T", "a quern")
+        wait_until("the quern in front", lambda: self.desktop.active_window_title() == "a quern")
         until = time.monotonic() + UNKNOWN_FOR + 20
         while not self.is_up(QUESTION) and time.monotonic() < until:
             self.desktop.nudge_pointer()  # work

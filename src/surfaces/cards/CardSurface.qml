@@ -11,7 +11,7 @@ FocusScope {
     property bool up: false // set once the window is shown, and cleared when it is to go
     property int inTime: DarkUI.cardInTime
     property int outTime: DarkUI.cardOutTime
-    property int moveTime: DarkUI.toastMoveTime // of the window, when something else takes its place
+    property int moveTime: DarkUI.toastMoveTime // of the window, out of the way of another
     property int drop: DarkUI.cardRise // px that it comes down by
     property real radius: DarkUI.radiusFloating
     property ShadowToken shadow: DarkUI.shadowFloating
