@@ -21,7 +21,7 @@ WebEngineView {
     signal crashed()
 
     function isOfPage(target: url): bool {
-        return target.toString().split("#")[0] === view.page.toString();
+        return String(target).split("#")[0] === String(view.page);
     }
 
     backgroundColor: "transparent"
