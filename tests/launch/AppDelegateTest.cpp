@@ -16,6 +16,7 @@
 #include "fakes/VirtualTime.h"
 #include "platform/Autostart.h"
 #include "support/QtPrinters.h"
+#include "surfaces/cards/StopSummaryModel.h"
 #include "surfaces/window/SharedEngine.h"
 #include "tracking/AppPaths.h"
 
@@ -201,25 +202,32 @@ TEST_F(AppDelegateTest, AStartByHandOpensThePanel) {
     EXPECT_EQ(opened, 2);
 }
 
-TEST_F(AppDelegateTest, ThePanelOfAStartByHandIsThere) {
-    shapes.shapes = fakes::FakeScreens().shapes;
-    const auto byHand = makeCopy();
-    ASSERT_TRUE(byHand->applicationDidFinishLaunching());
-    EXPECT_FALSE(byHand->commandCenter()->isShown());
-    time.settle();
-    EXPECT_TRUE(byHand->commandCenter()->isShown());
-}
-
-TEST_F(AppDelegateTest, AClickOnTheTrayItemShowsThePanelAndAnotherHidesIt) {
-    shapes.shapes = fakes::FakeScreens().shapes;
+TEST_F(AppDelegateTest, ANoteTypedIntoTheCardAfterASessionLandsInTheLog) {
     const auto app = makeCopy(true);
     ASSERT_TRUE(app->applicationDidFinishLaunching());
     time.settle();
-    ASSERT_FALSE(app->commandCenter()->isShown());
-    Q_EMIT tray.clicked({1000, 14});
+    app->performAction(text("toggle"));
+    time.advance(2400);
+    app->performAction(text("toggle"));
+    auto* const card = cardStage.modelOf<StopSummaryModel>(CardView::StopSummary);
+    ASSERT_NE(card, nullptr);
+    EXPECT_EQ(log().back().note, QString());
+    (void)card->takeNote(text(" Retries land in order "));
+    card->submit();
+    time.settle();
+    EXPECT_EQ(log().back().note, text("Retries land in order"));
+}
+
+TEST_F(AppDelegateTest, AClickOnTheTrayItemHidesThePanelOfAStartByHandAndAnotherShowsIt) {
+    shapes.shapes = fakes::FakeScreens().shapes;
+    const auto app = makeCopy();
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    time.settle();
     EXPECT_TRUE(app->commandCenter()->isShown());
     Q_EMIT tray.clicked({1000, 14});
     EXPECT_FALSE(app->commandCenter()->isShown());
+    Q_EMIT tray.clicked({1000, 14});
+    EXPECT_TRUE(app->commandCenter()->isShown());
 }
 
 TEST_F(AppDelegateTest, TheDesktopMayCallForAWindow) {
