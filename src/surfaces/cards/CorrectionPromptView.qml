@@ -71,6 +71,7 @@ CardSurface {
         DarkPrimaryButton {
             id: always
             anchors.right: parent.right
+            width: Math.ceil(implicitWidth) // so that both of its edges are sharp
             text: qsTr("Always")
             Accessible.description: view.model.alwaysHelp
             Accessible.defaultButton: true

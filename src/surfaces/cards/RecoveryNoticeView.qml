@@ -69,6 +69,7 @@ CardSurface {
         DarkPrimaryButton {
             id: keep
             anchors.right: parent.right
+            width: Math.ceil(implicitWidth) // so that both of its edges are sharp
             text: qsTr("Keep")
             Accessible.description: view.model.keepHelp
             Accessible.defaultButton: true

@@ -215,6 +215,7 @@ CardSurface {
         DarkPrimaryButton {
             id: done
             anchors.right: parent.right
+            width: Math.ceil(implicitWidth) // so that both of its edges are sharp
             text: view.model.doneText
             onClicked: view.model.submit()
         }
