@@ -36,7 +36,12 @@ public:
         shown += uris;
     }
 
-    QStringList shown; ///< read it once the call has returned
+    Q_INVOKABLE void ShowFolders(const QStringList& uris, const QString& /*startupId*/) {
+        opened += uris;
+    }
+
+    QStringList shown;  ///< read it once the call has returned
+    QStringList opened; ///< likewise
 
 private:
     tests::BusClient m_client;
@@ -49,6 +54,14 @@ TEST(FileManager, ShowsTheFileUnderAnAddressThatAnyNameFitsIn) {
     filemanager::reveal(client.bus(), QStringLiteral("/tmp/Füße & 100 %/log#1.jsonl"));
     EXPECT_EQ(manager.shown, QStringList{QStringLiteral(
                                  "file:///tmp/F%C3%BC%C3%9Fe%20&%20100%20%25/log%231.jsonl")});
+}
+
+TEST(FileManager, OpensAFolderRatherThanShowingItInTheOneAbove) {
+    FakeFileManager manager;
+    tests::BusClient client;
+    filemanager::openFolder(client.bus(), QStringLiteral("/tmp/short cuts"));
+    EXPECT_EQ(manager.opened, QStringList{QStringLiteral("file:///tmp/short%20cuts")});
+    EXPECT_TRUE(manager.shown.isEmpty());
 }
 
 TEST(FileManager, TrashedFileIsGoneFromItsPlaceAndKeptInTheTrash) {

@@ -52,6 +52,10 @@ public:
         const Screens& screens;
         PointerPresses& pointerPresses;
         QString shortcutsTool; ///< absolute path of the program that runs shortcuts
+        /// Shows a file in the person's file manager, if there is one.
+        std::function<void(const QString& path)> reveal = [](const QString&) {};
+        /// Opens the folder of shortcuts there.
+        std::function<Result<>()> openShortcuts = [] { return Result<>(); };
         /// Makes the capsule; there is none without.
         std::function<std::unique_ptr<collaborators::Notch>()> makeNotch = {};
         /// Makes what plays at both ends of a session; nothing plays without.

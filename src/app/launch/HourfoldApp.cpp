@@ -152,6 +152,8 @@ int run(bool startedAtLogin) {
                      .screens = platform->screens(),
                      .pointerPresses = platform->pointerPresses(),
                      .shortcutsTool = shortcutsTool(),
+                     .reveal = [&platform](const QString& path) { platform->reveal(path); },
+                     .openShortcuts = [&platform] { return platform->openShortcuts(); },
                      .makeNotch = [&surfaces] { return surfaces.makeNotch(); },
                      .makeRipple = [&ceremony] { return ceremony.makeRipple(); },
                      .calendar = &Calendar::current,

@@ -103,6 +103,13 @@ public:
         return filemanager::moveToTrash(path);
     }
     void reveal(const QString& path) override { filemanager::reveal(m_session, path); }
+    [[nodiscard]] Result<> openShortcuts() override {
+        constexpr int kPrivateDirectory = 0700;
+        const QString folder = configHome() + QStringLiteral("/Vantle/shortcuts");
+        if (auto made = m_files.makeDirectories(folder, kPrivateDirectory); !made) return made;
+        filemanager::openFolder(m_session, folder);
+        return {};
+    }
     void listen() override {
         // Without the name nobody can reach this copy over the bus; all else works.
         (void)m_service.start();

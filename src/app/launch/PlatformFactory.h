@@ -59,6 +59,8 @@ public:
     [[nodiscard]] virtual Result<> moveToTrash(const QString& path) = 0;
     /// Shows the file in the person's file manager, if there is one.
     virtual void reveal(const QString& path) = 0;
+    /// Opens the folder of the person's shortcuts there; makes it, private, if it is missing.
+    [[nodiscard]] virtual Result<> openShortcuts() = 0;
 
     /// Answers other copies and the desktop from now on. Only the copy that holds the data does.
     virtual void listen() = 0;

@@ -4,6 +4,7 @@
 #include "surfaces/dashboard/DashboardView.h"
 #include "surfaces/notes/LogView.h"
 #include "surfaces/quicklog/QuickLogView.h"
+#include "surfaces/settings/SettingsView.h"
 #include "surfaces/window/WindowRouter.h"
 
 #include <QClipboard>
@@ -49,6 +50,21 @@ std::unique_ptr<QObject> makeLog(const WindowParts& parts) {
         .copy = [](const QString& text) { QGuiApplication::clipboard()->setText(text); }});
 }
 
+std::unique_ptr<QObject> makeSettings(const WindowParts& parts) {
+    return std::make_unique<SettingsView>(SettingsView::Environment{
+        .model = parts.model,
+        .rules = parts.autoRules,
+        .focusLink = parts.focusLink,
+        .autostart = parts.autostart,
+        .preferences = parts.preferences,
+        .notifications = parts.notifications,
+        .paths = parts.paths,
+        .ioQueue = parts.ioQueue,
+        .reveal = parts.reveal,
+        .openShortcuts = parts.openShortcuts,
+        .eraseAllData = [&model = parts.model] { return model.eraseEverything(); }});
+}
+
 } // namespace
 
 void registerWindows(const WindowParts& parts) {
@@ -64,6 +80,8 @@ void registerWindows(const WindowParts& parts) {
         [](const WindowParts& p, const Close& close) -> std::unique_ptr<QObject> {
             return std::make_unique<QuickLogView>(p.model, p.preferences, close);
         });
+    add(WindowId::Settings, "Settings/SettingsPage",
+        [](const WindowParts& p, const Close&) { return makeSettings(p); });
 }
 
 } // namespace vantle

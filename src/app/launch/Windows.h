@@ -2,16 +2,22 @@
 #pragma once
 
 #include "base/Calendar.h"
+#include "base/Result.h"
 
 #include <functional>
 
 namespace vantle {
 
 class AppModel;
+class AppPaths;
+class AutoRules;
+class Autostart;
 class Clock;
+class FocusLink;
 class NotificationCenter;
 class Preferences;
 class Scheduler;
+class SerialQueue;
 class SkillList;
 class WindowRouter;
 
@@ -25,6 +31,13 @@ struct WindowParts {
     Scheduler& scheduler;
     std::function<Calendar()> calendar;
     WindowRouter& router;
+    AutoRules& autoRules;
+    FocusLink& focusLink;
+    Autostart& autostart;
+    const AppPaths& paths;
+    SerialQueue& ioQueue;
+    std::function<void(const QString& path)> reveal; ///< shows a file in the file manager
+    std::function<Result<>()> openShortcuts;         ///< opens the folder of shortcuts
 };
 
 /// Tells the router of every window that there is. Main thread, once.

@@ -15,6 +15,16 @@ namespace {
 /// Longest wait for a file manager that the bus may have to start first.
 constexpr int kAnswerMs = 2000;
 
+/// Whether there is a file manager on the bus that has done as it was asked.
+bool ask(const QDBusConnection& bus, const QString& method, const QString& path) {
+    auto call =
+        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.FileManager1"),
+                                       QStringLiteral("/org/freedesktop/FileManager1"),
+                                       QStringLiteral("org.freedesktop.FileManager1"), method);
+    call << QStringList{QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded)} << QString();
+    return bus.call(call, QDBus::Block, kAnswerMs).type() == QDBusMessage::ReplyMessage;
+}
+
 } // namespace
 
 Result<> moveToTrash(const QString& path) {
@@ -27,14 +37,13 @@ Result<> moveToTrash(const QString& path) {
 }
 
 void reveal(const QDBusConnection& bus, const QString& path) {
-    auto call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.FileManager1"),
-                                               QStringLiteral("/org/freedesktop/FileManager1"),
-                                               QStringLiteral("org.freedesktop.FileManager1"),
-                                               QStringLiteral("ShowItems"));
-    call << QStringList{QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded)} << QString();
-    const auto answer = bus.call(call, QDBus::Block, kAnswerMs);
-    if (answer.type() == QDBusMessage::ReplyMessage) return;
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path).path()));
+    if (!ask(bus, QStringLiteral("ShowItems"), path))
+        QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path).path()));
+}
+
+void openFolder(const QDBusConnection& bus, const QString& path) {
+    if (!ask(bus, QStringLiteral("ShowFolders"), path))
+        QDesktopServices::openUrl(QUrl::fromLocalFile(path));
 }
 
 } // namespace vantle::filemanager

@@ -16,4 +16,7 @@ namespace vantle::filemanager {
 /// What goes wrong shows nothing.
 void reveal(const QDBusConnection& bus, const QString& path);
 
+/// The same for a folder, of which the content is shown.
+void openFolder(const QDBusConnection& bus, const QString& path);
+
 } // namespace vantle::filemanager
