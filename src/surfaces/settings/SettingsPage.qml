@@ -26,6 +26,8 @@ FocusScope {
         anchors.fill: parent
         focus: true
         faded: false // the rows go under the title strip
+        // The question before an erase is seen as a whole.
+        onContentHeightChanged: if (page.model.confirmingErase) scrollTo(contentHeight)
 
         Column {
             id: content

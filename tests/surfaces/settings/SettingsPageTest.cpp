@@ -174,6 +174,15 @@ TEST_F(SettingsPageTest, EraseAsksFirstWithTheFocusOnCancel) {
     EXPECT_FALSE(disk.content(file("sessions.jsonl")));
 }
 
+TEST_F(SettingsPageTest, QuestionBeforeAnEraseIsSeenAsAWhole) {
+    const auto* const scroll = show().property("scroll").value<QQuickItem*>();
+    press("Erase everything");
+    (void)m_window.grabWindow(); // lays everything out
+    (void)m_window.grabWindow();
+    EXPECT_EQ(scroll->property("contentY").toDouble() + scroll->height(),
+              scroll->property("contentHeight").toDouble());
+}
+
 TEST_F(SettingsPageTest, EscapeCancelsTheErase) {
     show();
     press("Erase everything");
