@@ -1,0 +1,45 @@
+#include "review/CardWords.h"
+
+#include "base/Decimals.h"
+#include "tracking/DashFormat.h"
+
+#include <algorithm>
+#include <ranges>
+
+namespace vantle::cardwords {
+
+std::uint32_t leadingColor(const WrappedStats& stats) {
+    const auto top = stats.topSkill();
+    return top ? top->hexRGB : accent;
+}
+
+QString sessions(int count) {
+    return count == 1 ? QStringLiteral("1 session") : QStringLiteral("%1 sessions").arg(count);
+}
+
+ReviewFigure figure(double hours, DurationStyle style) {
+    const auto text = dashformat::statValue(hours, style);
+    return {text.value, text.unit};
+}
+
+QString share(double hours, const WrappedStats& stats) {
+    return fixedDecimals(hours / stats.totalHours * 100, 0) + QLatin1Char('%');
+}
+
+QList<QColor> dotColors(const WrappedStats& stats, std::int64_t limit) {
+    QList<QColor> newestFirst;
+    for (const totals::DotRun& run : std::views::reverse(stats.hourDots))
+        for (std::int64_t i = 0; i < run.count && newestFirst.size() < limit; ++i)
+            newestFirst << QColor::fromRgb(run.skill.hexRGB);
+    std::ranges::reverse(newestFirst);
+    return newestFirst;
+}
+
+std::int64_t dotCount(const WrappedStats& stats) {
+    std::int64_t count = 0;
+    for (const totals::DotRun& run : stats.hourDots)
+        count += run.count;
+    return count;
+}
+
+} // namespace vantle::cardwords

@@ -1,0 +1,55 @@
+// What the texts of the pages of a review are made of. Plain values and pure functions, any thread.
+#pragma once
+
+#include "review/stats/WrappedStats.h"
+
+#include <QColor>
+#include <QObject>
+#include <QQmlEngine>
+#include <QString>
+#include <QVariantList>
+
+namespace vantle {
+
+/// A large figure and the small unit beside it, which may be empty.
+struct ReviewFigure {
+    Q_GADGET
+    QML_VALUE_TYPE(reviewFigure)
+    Q_PROPERTY(QString value MEMBER value CONSTANT)
+    Q_PROPERTY(QString unit MEMBER unit CONSTANT)
+
+public:
+    QString value;
+    QString unit;
+
+    friend bool operator==(const ReviewFigure&, const ReviewFigure&) = default;
+};
+
+namespace cardwords {
+
+/// What is coloured when no skill lends its colour, 0xRRGGBB.
+inline constexpr std::uint32_t accent = 0x7A78FF;
+
+/// The colour of the skill with the most time, else the accent.
+[[nodiscard]] std::uint32_t leadingColor(const WrappedStats& stats);
+
+[[nodiscard]] QString sessions(int count); ///< "1 session", "2 sessions"
+[[nodiscard]] ReviewFigure figure(double hours, DurationStyle style);
+
+/// A part of all hours of the period: "45%".
+[[nodiscard]] QString share(double hours, const WrappedStats& stats);
+
+/// One colour for each finished hour of the period, oldest first; the last `limit` of them.
+[[nodiscard]] QList<QColor> dotColors(const WrappedStats& stats, std::int64_t limit);
+[[nodiscard]] std::int64_t dotCount(const WrappedStats& stats);
+
+template <typename Value>
+[[nodiscard]] QVariantList asList(const std::vector<Value>& values) {
+    QVariantList list;
+    for (const Value& value : values)
+        list << QVariant::fromValue(value);
+    return list;
+}
+
+} // namespace cardwords
+} // namespace vantle

@@ -1,0 +1,94 @@
+#include "review/HoursCards.h"
+
+#include "base/DateText.h"
+#include "tracking/DashFormat.h"
+
+#include <ranges>
+
+namespace vantle::reviewcards {
+
+namespace {
+
+QString weekBefore(const WrappedStats& stats, DurationStyle style) {
+    if (!stats.lastWeekHours) return {};
+    const QString week = stats.period == WrappedPeriod::LastWeek ? QStringLiteral("The week before")
+                                                                 : QStringLiteral("Last week");
+    return week + QLatin1String(": ") + dashformat::inlineHours(*stats.lastWeekHours, style);
+}
+
+QString origin(const WrappedStats& stats, DurationStyle style) {
+    const bool isTracked = stats.verifiedHours > 0;
+    if (stats.manualHours <= 0)
+        return isTracked ? QStringLiteral("All of it tracked live") : QString();
+    if (!isTracked) return QStringLiteral("All of it logged by hand");
+    return dashformat::inlineHours(stats.verifiedHours, style) +
+           QStringLiteral(" tracked live · ") + dashformat::inlineHours(stats.manualHours, style) +
+           QLatin1String(" logged by hand");
+}
+
+QString noted(int count) {
+    if (count < 1) return {};
+    return count == 1 ? QStringLiteral("1 session has a note")
+                      : QStringLiteral("%1 sessions have notes").arg(count);
+}
+
+} // namespace
+
+HeroCard hero(const WrappedStats& stats, const WrappedSettings& settings) {
+    const DurationStyle style = settings.durationStyle;
+    QStringList quiet = {weekBefore(stats, style), origin(stats, style),
+                         noted(stats.notedSessionCount)};
+    quiet.removeAll(QString());
+    return {QStringLiteral("WRAPPED"),
+            QStringLiteral("You built for"),
+            stats.totalHours,
+            dashformat::inlineHours(stats.totalHours, style),
+            cardwords::figure(stats.totalHours, style),
+            wrappedperiod::inSentence(stats.period),
+            cardwords::sessions(stats.sessionCount),
+            quiet};
+}
+
+std::vector<SkillLine> skillLines(const WrappedStats& stats, const WrappedSettings& settings,
+                                  std::size_t shown) {
+    std::vector<SkillLine> lines;
+    for (const auto& [skill, hours] :
+         stats.skillHours | std::views::take(static_cast<std::ptrdiff_t>(shown)))
+        lines.push_back({skill.name, QColor::fromRgb(skill.hexRGB),
+                         dashformat::inlineHours(hours, settings.durationStyle),
+                         cardwords::share(hours, stats), hours / stats.skillHours.front().hours});
+    return lines;
+}
+
+std::optional<SkillsCard> skills(const WrappedStats& stats, const WrappedSettings& settings,
+                                 std::size_t shown) {
+    std::vector<SkillLine> lines = skillLines(stats, settings, std::max<std::size_t>(shown, 1));
+    if (lines.empty()) return std::nullopt;
+    SkillsCard card;
+    card.kicker = QStringLiteral("TOP SKILL");
+    card.top = lines.front();
+    card.topFigure = cardwords::figure(stats.skillHours.front().hours, settings.durationStyle);
+    if (stats.skillHours.size() > 1) card.breakdownKicker = QStringLiteral("THE BREAKDOWN");
+    if (const std::size_t left = stats.skillHours.size() - lines.size(); left > 0)
+        card.more = QStringLiteral("+%1 more").arg(left);
+    card.others.assign(lines.begin() + 1, lines.end());
+    return card;
+}
+
+std::optional<MilestonesCard> milestones(const WrappedStats& stats,
+                                         const WrappedSettings& settings) {
+    if (stats.milestones.empty()) return std::nullopt;
+    MilestonesCard card;
+    card.kicker = QStringLiteral("MILESTONES");
+    const QString what = stats.milestones.size() == 1
+                             ? QStringLiteral("a milestone")
+                             : QStringLiteral("%1 milestones").arg(stats.milestones.size());
+    card.sentence = QStringLiteral("You crossed ") + what + QLatin1Char(' ') +
+                    wrappedperiod::inSentence(stats.period);
+    const DateText date = DateText::fixed(QStringLiteral("MMM d"), settings.calendar);
+    for (const totals::Badge& badge : stats.milestones)
+        card.badges.push_back({badge.hours, date(badge.earnedAt)});
+    return card;
+}
+
+} // namespace vantle::reviewcards

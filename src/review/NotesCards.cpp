@@ -1,0 +1,52 @@
+#include "review/NotesCards.h"
+
+#include "base/DateText.h"
+#include "base/Text.h"
+
+#include <ranges>
+
+namespace vantle::reviewcards {
+
+namespace {
+
+QString moreNotes(qsizetype left) {
+    if (left <= 0) return {};
+    return left == 1 ? QStringLiteral("1 more note is in your log")
+                     : QStringLiteral("%1 more notes are in your log").arg(left);
+}
+
+} // namespace
+
+NarrativeCard narrative(WrappedPeriod period, const QString& text) {
+    return {text::upperCased(wrappedperiod::label(period)) + QStringLiteral(", IN WORDS"), text,
+            QStringLiteral("Written on your Mac. Nothing was sent anywhere.")};
+}
+
+std::optional<NotesCard> notes(const WrappedStats& stats, const WrappedSettings& settings,
+                               std::size_t shown) {
+    if (!stats.noteDigest) return std::nullopt;
+    const WrappedNoteDigest& digest = *stats.noteDigest;
+    NotesCard card;
+    card.kicker = QStringLiteral("WHAT MOVED FORWARD");
+    card.story = digest.storyLine();
+    card.themes = digest.themes;
+    const DateText date = DateText::fixed(QStringLiteral("MMM d"), settings.calendar);
+    for (const auto& note :
+         digest.highlights | std::views::take(static_cast<std::ptrdiff_t>(shown)))
+        card.highlights.push_back(
+            {note.text, note.skill.name, QColor::fromRgb(note.skill.hexRGB), date(note.endedAt)});
+    card.more = moreNotes(digest.noteCount - static_cast<qsizetype>(card.highlights.size()));
+    card.foot = QStringLiteral("Made only from notes saved on this Mac");
+    return card;
+}
+
+SummaryCard summary(const WrappedStats& stats, const WrappedSettings& settings) {
+    return {wrappedperiod::summaryTitle(stats.period), stats.closingLine(settings.durationStyle),
+            QStringLiteral("Made on this Mac, ready to share"), posterFileName(stats.period)};
+}
+
+QString posterFileName(WrappedPeriod period) {
+    return QStringLiteral("wrapped-%1.png").arg(wrappedperiod::fileSuffix(period));
+}
+
+} // namespace vantle::reviewcards

@@ -1,0 +1,146 @@
+#include "review/RhythmCard.h"
+
+#include "base/DateText.h"
+#include "tracking/DashFormat.h"
+
+#include <algorithm>
+
+namespace vantle {
+
+namespace {
+
+constexpr double kHairline = 1;
+
+QVariantList tilesOf(const std::vector<RhythmPicture::Week>& weeks) {
+    QVariantList list;
+    for (const auto& week : weeks)
+        for (const DayTile& tile : week)
+            list << QVariant::fromValue(tile);
+    return list;
+}
+
+QColor withOpacity(std::uint32_t hexRGB, double opacity) {
+    QColor color = QColor::fromRgb(hexRGB);
+    color.setAlphaF(static_cast<float>(opacity));
+    return color;
+}
+
+/// Makes tiles of days.
+class TileMaker {
+public:
+    TileMaker(const WrappedStats& stats, const WrappedSettings& settings)
+        : m_accent(cardwords::leadingColor(stats))
+        , m_style(settings.durationStyle)
+        , m_date(DateText::fixed(QStringLiteral("EEE, MMM d"), settings.calendar)) {}
+
+    [[nodiscard]] std::vector<RhythmPicture::Week>
+    weeks(const std::vector<rhythmshape::Week>& grid) const {
+        std::vector<RhythmPicture::Week> made(grid.size());
+        for (std::size_t i = 0; i < grid.size(); ++i)
+            std::ranges::transform(grid[i], made[i].begin(), [this](const auto& day) {
+                return day ? tile(*day) : DayTile();
+            });
+        return made;
+    }
+
+private:
+    [[nodiscard]] DayTile tile(const GridDay& day) const {
+        const auto look = rhythmmap::tile(day, m_accent);
+        DayTile made;
+        made.isDay = true;
+        made.isFuture = day.isFuture;
+        made.isToday = day.isToday;
+        made.hasFill = look.fill.has_value();
+        if (look.fill) made.fill = withOpacity(*look.fill, look.fillOpacity);
+        if (look.outline) {
+            made.outline = withOpacity(0xFFFFFF, look.outline->opacity);
+            made.outlineWidth = look.outline->width.value_or(kHairline);
+        }
+        made.help = m_date(day.date);
+        if (rhythmmap::opacity(day.hours))
+            made.help += QStringLiteral(" · ") + dashformat::inlineHours(day.hours, m_style);
+        return made;
+    }
+
+    std::uint32_t m_accent;
+    DurationStyle m_style;
+    DateText m_date;
+};
+
+std::vector<rhythmshape::Week> weekStrip(WrappedPeriod period, const RhythmDays& days) {
+    const auto list = rhythmshape::weekDays(period, days);
+    if (list.empty()) return {};
+    std::vector<rhythmshape::Week> strip(1);
+    std::ranges::copy(list, strip.front().begin());
+    return strip;
+}
+
+QString wallCaption(std::int64_t leftOut) {
+    if (leftOut <= 0)
+        return QStringLiteral("One dot per finished hour, in the skill that earned it.");
+    return QStringLiteral("One dot per finished hour. %1 earlier %2 off the top.")
+        .arg(leftOut)
+        .arg(leftOut == 1 ? QStringLiteral("hour") : QStringLiteral("hours"));
+}
+
+} // namespace
+
+QVariantList RhythmPicture::tileList() const { return tilesOf(weeks); }
+
+QVariantList RhythmPicture::monthList() const {
+    QVariantList list;
+    for (const auto& month : months)
+        list.append(QVariant(tilesOf(month)));
+    return list;
+}
+
+namespace reviewcards {
+
+RhythmPicture rhythmPicture(const WrappedStats& stats, const WrappedSettings& settings, int year) {
+    const RhythmDays days = RhythmDays::of(stats, settings);
+    const TileMaker maker(stats, settings);
+    RhythmPicture picture;
+    picture.letters = rhythmmap::headerLetters(settings.calendar);
+    switch (rhythmmap::picture(stats.period)) {
+    case rhythmmap::Picture::Week:
+        picture.kind = RhythmPicture::WeekStrip;
+        picture.weeks = maker.weeks(weekStrip(stats.period, days));
+        break;
+    case rhythmmap::Picture::Month:
+        picture.kind = RhythmPicture::MonthGrid;
+        picture.weeks = maker.weeks(rhythmshape::monthWeeks(days));
+        break;
+    case rhythmmap::Picture::Year:
+        picture.kind = RhythmPicture::YearMap;
+        picture.year = year;
+        picture.weeks = maker.weeks(rhythmshape::yearWeeks(year, days));
+        for (const auto& month : rhythmshape::yearMonths(year, days))
+            picture.months.push_back(maker.weeks(rhythmshape::inWeeks(month, days.calendar)));
+        break;
+    }
+    return picture;
+}
+
+RhythmCard rhythm(const WrappedStats& stats, const WrappedSettings& settings,
+                  std::optional<int> chosenYear, std::int64_t wallCapacity) {
+    const RhythmDays today{settings.now, settings.calendar, {}};
+    const int year = rhythmmap::yearShown(chosenYear, stats.activeYears, today);
+    RhythmCard card;
+    card.kicker = QStringLiteral("YOUR RHYTHM");
+    card.picture = rhythmPicture(stats, settings, year);
+    card.caption = rhythmmap::caption(stats.period, year, today);
+    card.label = rhythmmap::label(stats.period, year);
+    if (card.picture.kind == RhythmPicture::YearMap)
+        for (const int choice : rhythmmap::yearChoices(stats.activeYears))
+            card.years.push_back({choice, rhythmmap::yearChoiceLabel(choice)});
+    // A month or more has no room for its wall.
+    if (card.picture.kind == RhythmPicture::WeekStrip && !stats.hourDots.empty()) {
+        card.wallKicker = QStringLiteral("EVERY HOUR, ON THE WALL");
+        card.wallCaption = wallCaption(cardwords::dotCount(stats) - wallCapacity);
+        card.wallColors = cardwords::dotColors(stats, wallCapacity);
+    }
+    return card;
+}
+
+} // namespace reviewcards
+} // namespace vantle

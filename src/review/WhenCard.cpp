@@ -1,0 +1,60 @@
+#include "review/WhenCard.h"
+
+#include "base/DateText.h"
+#include "base/HourLabel.h"
+#include "review/RhythmMap.h"
+#include "tracking/DashFormat.h"
+
+namespace vantle::reviewcards {
+
+namespace {
+
+std::vector<FactBox> facts(const WrappedStats& stats, const WrappedSettings& settings) {
+    const DurationStyle style = settings.durationStyle;
+    std::vector<FactBox> boxes;
+    if (stats.typicalStart)
+        boxes.push_back({QStringLiteral("TYPICAL START"), *stats.typicalStart, {}});
+    if (stats.longest)
+        boxes.push_back({QStringLiteral("LONGEST SESSION"),
+                         dashformat::sessionDuration(stats.longest->activeSeconds, style),
+                         {}});
+    if (stats.biggestDay) {
+        const DateText date = DateText::fixed(QStringLiteral("EEE, MMM d"), settings.calendar);
+        boxes.push_back({QStringLiteral("BIGGEST DAY"),
+                         dashformat::inlineHours(stats.biggestDay->hours, style),
+                         date(stats.biggestDay->day)});
+    }
+    return boxes;
+}
+
+} // namespace
+
+std::optional<WhenCard> when(const WrappedStats& stats, const WrappedSettings& settings) {
+    if (!stats.startRhythm) return std::nullopt;
+    const StartRhythm& rhythm = *stats.startRhythm;
+    const auto bars = rhythmmap::startBars(rhythm.counts);
+    WhenCard card;
+    card.kicker = QStringLiteral("WHEN YOU BUILD");
+    card.headline = rhythm.headline;
+    card.detail = rhythm.detail.value_or(QString());
+    card.bars = QList<double>(bars.begin(), bars.end());
+    card.peakBar = rhythm.peakHour / 2;
+    card.accent = QColor::fromRgb(cardwords::leadingColor(stats));
+    card.chartCaption = QStringLiteral("when sessions begin");
+    card.chartLabel = QStringLiteral("Session starts by hour of day");
+    card.peak = QStringLiteral("PEAK · ") + hourLabel(rhythm.peakHour, settings.calendar.locale);
+    card.facts = facts(stats, settings);
+    return card;
+}
+
+HighPointsCard highPoints(const WrappedStats& stats) {
+    HighPointsCard card;
+    card.kicker = QStringLiteral("HIGH POINTS");
+    card.sentence = QStringLiteral("The numbers worth saying out loud ") +
+                    wrappedperiod::inSentence(stats.period);
+    for (const SuperlativeLine& line : stats.superlatives)
+        card.lines.push_back({line.icon, QColor::fromRgb(line.tintHex), line.text});
+    return card;
+}
+
+} // namespace vantle::reviewcards

@@ -1,0 +1,90 @@
+// The pages about when somebody builds, and about what is worth saying out loud.
+//
+// Plain values and pure functions, any thread.
+#pragma once
+
+#include "review/CardWords.h"
+
+namespace vantle {
+
+/// A fact in a box of its own.
+struct FactBox {
+    Q_GADGET
+    QML_VALUE_TYPE(factBox)
+    Q_PROPERTY(QString title MEMBER title CONSTANT)
+    Q_PROPERTY(QString value MEMBER value CONSTANT)
+    Q_PROPERTY(QString detail MEMBER detail CONSTANT)
+
+public:
+    QString title;
+    QString value;
+    QString detail; ///< stands before the value; may be empty
+};
+
+struct WhenCard {
+    Q_GADGET
+    QML_VALUE_TYPE(whenCard)
+    Q_PROPERTY(QString kicker MEMBER kicker CONSTANT)
+    Q_PROPERTY(QString headline MEMBER headline CONSTANT)
+    Q_PROPERTY(QString detail MEMBER detail CONSTANT)
+    Q_PROPERTY(QList<double> bars MEMBER bars CONSTANT)
+    Q_PROPERTY(int peakBar MEMBER peakBar CONSTANT)
+    Q_PROPERTY(QColor accent MEMBER accent CONSTANT)
+    Q_PROPERTY(QString chartCaption MEMBER chartCaption CONSTANT)
+    Q_PROPERTY(QString chartLabel MEMBER chartLabel CONSTANT)
+    Q_PROPERTY(QString peak MEMBER peak CONSTANT)
+    Q_PROPERTY(QVariantList facts READ factList CONSTANT)
+
+public:
+    QString kicker;
+    QString headline;
+    QString detail;     ///< may be empty
+    QList<double> bars; ///< one for two hours, parts of the highest
+    int peakBar = 0;    ///< the bar that holds the hour of the peak
+    QColor accent;
+    QString chartCaption;
+    QString chartLabel; ///< for assistive tools
+    QString peak;
+    std::vector<FactBox> facts;
+
+    [[nodiscard]] QVariantList factList() const { return cardwords::asList(facts); }
+};
+
+struct HighPoint {
+    Q_GADGET
+    QML_VALUE_TYPE(highPoint)
+    Q_PROPERTY(QString icon MEMBER icon CONSTANT)
+    Q_PROPERTY(QColor tint MEMBER tint CONSTANT)
+    Q_PROPERTY(QString text MEMBER text CONSTANT)
+
+public:
+    QString icon; ///< name of its symbol
+    QColor tint;
+    QString text;
+};
+
+struct HighPointsCard {
+    Q_GADGET
+    QML_VALUE_TYPE(highPointsCard)
+    Q_PROPERTY(QString kicker MEMBER kicker CONSTANT)
+    Q_PROPERTY(QString sentence MEMBER sentence CONSTANT)
+    Q_PROPERTY(QVariantList lines READ lineList CONSTANT)
+
+public:
+    QString kicker;
+    QString sentence;
+    std::vector<HighPoint> lines;
+
+    [[nodiscard]] QVariantList lineList() const { return cardwords::asList(lines); }
+};
+
+namespace reviewcards {
+
+/// None of a period with too few starts to tell.
+[[nodiscard]] std::optional<WhenCard> when(const WrappedStats& stats,
+                                           const WrappedSettings& settings);
+
+[[nodiscard]] HighPointsCard highPoints(const WrappedStats& stats);
+
+} // namespace reviewcards
+} // namespace vantle

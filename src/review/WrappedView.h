@@ -1,0 +1,200 @@
+// The review window: a picker of periods above cards that are paged through one at a time.
+#pragma once
+
+#include "base/Scheduler.h"
+#include "review/HoursCards.h"
+#include "review/NotesCards.h"
+#include "review/PersonaCard.h"
+#include "review/RhythmCard.h"
+#include "review/SharePoster.h"
+#include "review/WhenCard.h"
+#include "review/WrappedReview.h"
+#include "review/narrative/NoteNarrative.h"
+
+#include <QObject>
+
+#include <functional>
+
+namespace vantle {
+
+class Clock;
+class NotificationCenter;
+
+/// What the window shows and does. Holds a copy of the log, which it reads when the window opens
+/// and on every change; everything else is computed from it. The sentence about the notes comes
+/// later, if there is a model to write it, and its card with it. Main thread.
+class WrappedView final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the window router.")
+    /// The picker.
+    Q_PROPERTY(QStringList segmentLabels READ segmentLabels NOTIFY reviewChanged FINAL)
+    Q_PROPERTY(int segmentIndex READ segmentIndex NOTIFY reviewChanged FINAL)
+
+    /// The pager. `cards` are the ids of the pages in order, as in "hero".
+    Q_PROPERTY(QStringList cards READ cards NOTIFY cardsChanged FINAL)
+    Q_PROPERTY(bool hasPager READ hasPager NOTIFY cardsChanged FINAL)
+    Q_PROPERTY(int page READ page NOTIFY pageChanged FINAL)
+    Q_PROPERTY(QString card READ card NOTIFY pageChanged FINAL)
+    Q_PROPERTY(QString pageKey READ pageKey NOTIFY pageChanged FINAL)
+    Q_PROPERTY(double pageDirection READ pageDirection NOTIFY pageChanged FINAL)
+    Q_PROPERTY(bool canTurnBack READ canTurnBack NOTIFY pageChanged FINAL)
+    Q_PROPERTY(bool canTurnOn READ canTurnOn NOTIFY pageChanged FINAL)
+
+    /// Without pages, this stands there.
+    Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY cardsChanged FINAL)
+    Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY reviewChanged FINAL)
+    Q_PROPERTY(QString emptyText READ emptyText NOTIFY reviewChanged FINAL)
+    Q_PROPERTY(bool canEnter READ canEnter CONSTANT FINAL)
+
+    /// What stands on each page.
+    Q_PROPERTY(vantle::HeroCard hero READ hero NOTIFY reviewChanged FINAL)
+    Q_PROPERTY(vantle::SkillsCard skills READ skills NOTIFY reviewChanged FINAL)
+    Q_PROPERTY(vantle::PersonaCard persona READ persona NOTIFY reviewChanged FINAL)
+    Q_PROPERTY(vantle::RhythmCard rhythm READ rhythm NOTIFY rhythmChanged FINAL)
+    Q_PROPERTY(vantle::WhenCard when READ when NOTIFY reviewChanged FINAL)
+    Q_PROPERTY(vantle::HighPointsCard highPoints READ highPoints NOTIFY reviewChanged FINAL)
+    Q_PROPERTY(vantle::MilestonesCard milestones READ milestones NOTIFY reviewChanged FINAL)
+    Q_PROPERTY(vantle::NarrativeCard narrative READ narrative NOTIFY cardsChanged FINAL)
+    Q_PROPERTY(vantle::NotesCard notes READ notes NOTIFY reviewChanged FINAL)
+    Q_PROPERTY(vantle::SummaryCard summary READ summary NOTIFY reviewChanged FINAL)
+    Q_PROPERTY(vantle::SharePoster poster READ poster NOTIFY reviewChanged FINAL)
+
+    /// How many dots the wall on the rhythm page has room for.
+    Q_PROPERTY(int wallCapacity READ wallCapacity WRITE setWallCapacity NOTIFY rhythmChanged FINAL)
+
+    /// Sharing. A failure stands under the buttons; empty when there is none.
+    Q_PROPERTY(bool copied READ copied NOTIFY shareChanged FINAL)
+    Q_PROPERTY(QString copyText READ copyText NOTIFY shareChanged FINAL)
+    Q_PROPERTY(QString shareFeedback READ shareFeedback NOTIFY shareChanged FINAL)
+
+public:
+    enum class Saved { Written, Failed, Cancelled };
+
+    static constexpr double copiedSeconds = 1.6;
+    static constexpr std::size_t skillsShown = 6; ///< the top one and five below
+    static constexpr std::size_t highlightsShown = 4;
+
+    /// What the window works with. All of it must outlive the view.
+    struct Environment {
+        NotificationCenter& notifications;
+        Preferences& preferences;
+        LanguageModel& model;
+        const Clock& clock;
+        Scheduler& scheduler;
+        std::function<Calendar()> calendar;
+        std::function<std::vector<Session>()> allSessions;
+        std::function<std::vector<Skill>()> skills;
+        std::optional<WrappedPeriod> initialPeriod; ///< none: the view finds one
+        std::function<void()> enterVantle;          ///< may be empty: then nothing offers it
+
+        /// The poster as PNG; nothing when it can't be drawn.
+        std::function<std::optional<QByteArray>(const SharePoster&)> renderPng;
+        std::function<void(const QByteArray& png)> copyPng;
+        /// Asks for a place, suggesting the name, and writes there. Answers at once or later.
+        std::function<void(const QByteArray& png, const QString& name, std::function<void(Saved)>)>
+            savePng;
+    };
+
+    /// Reads the log and settles the period.
+    explicit WrappedView(Environment environment);
+    ~WrappedView() override;
+
+    /// The window has come up once more; the period that it had stays.
+    Q_INVOKABLE void open();
+
+    Q_INVOKABLE void pickSegment(int index);
+    Q_INVOKABLE void turnBack() { turn(-1); }
+    Q_INVOKABLE void turnOn() { turn(+1); }
+    Q_INVOKABLE void showYear(int year);
+    Q_INVOKABLE void enterVantle();
+    Q_INVOKABLE void copyImage();
+    Q_INVOKABLE void saveImage();
+
+    /// The big figure `seconds` after its page came, on its way up.
+    Q_INVOKABLE [[nodiscard]] vantle::ReviewFigure countedUp(double seconds) const;
+
+    [[nodiscard]] const WrappedReview& review() const { return m_review; }
+
+    [[nodiscard]] QStringList segmentLabels() const;
+    [[nodiscard]] int segmentIndex() const;
+    [[nodiscard]] QStringList cards() const { return m_cards; }
+    [[nodiscard]] bool hasPager() const { return m_cards.size() > 1; }
+    [[nodiscard]] int page() const { return m_review.page(); }
+    [[nodiscard]] QString card() const { return m_cards.value(page()); }
+    [[nodiscard]] QString pageKey() const { return m_review.pageKey(); }
+    [[nodiscard]] double pageDirection() const { return m_review.pageDirection(); }
+    [[nodiscard]] bool canTurnBack() const { return page() > 0; }
+    [[nodiscard]] bool canTurnOn() const { return page() + 1 < m_cards.size(); }
+    [[nodiscard]] bool isEmpty() const { return m_cards.isEmpty(); }
+    [[nodiscard]] QString emptyTitle() const;
+    [[nodiscard]] QString emptyText() const;
+    [[nodiscard]] bool canEnter() const { return static_cast<bool>(m_env.enterVantle); }
+    [[nodiscard]] const HeroCard& hero() const { return m_texts.hero; }
+    [[nodiscard]] const SkillsCard& skills() const { return m_texts.skills; }
+    [[nodiscard]] const PersonaCard& persona() const { return m_texts.persona; }
+    [[nodiscard]] const RhythmCard& rhythm() const { return m_rhythm; }
+    [[nodiscard]] const WhenCard& when() const { return m_texts.when; }
+    [[nodiscard]] const HighPointsCard& highPoints() const { return m_texts.highPoints; }
+    [[nodiscard]] const MilestonesCard& milestones() const { return m_texts.milestones; }
+    [[nodiscard]] NarrativeCard narrative() const;
+    [[nodiscard]] const NotesCard& notes() const { return m_texts.notes; }
+    [[nodiscard]] const SummaryCard& summary() const { return m_texts.summary; }
+    [[nodiscard]] const SharePoster& poster() const { return m_texts.poster; }
+    [[nodiscard]] int wallCapacity() const { return m_wallCapacity; }
+    void setWallCapacity(int capacity);
+    [[nodiscard]] bool copied() const { return m_review.isCopied(); }
+    [[nodiscard]] QString copyText() const;
+    [[nodiscard]] QString shareFeedback() const;
+
+Q_SIGNALS:
+    void reviewChanged(); ///< another period or another log
+    void cardsChanged();
+    void pageChanged();
+    void rhythmChanged();
+    void shareChanged();
+
+private:
+    /// Made anew with every review, so that views can read them freely.
+    struct Texts {
+        HeroCard hero;
+        SkillsCard skills;
+        PersonaCard persona;
+        WhenCard when;
+        HighPointsCard highPoints;
+        MilestonesCard milestones;
+        NotesCard notes;
+        SummaryCard summary;
+        SharePoster poster;
+    };
+    struct Asked {
+        WrappedPeriod period;
+        wrappedreview::NarrativeQuestion question;
+        friend bool operator==(const Asked&, const Asked&) = default;
+    };
+
+    void reload();
+    void turn(int by);
+    [[nodiscard]] WrappedSettings settings() const;
+    void showReview();
+    void showRhythm();
+    void showCards();
+    void synthesizeNarrative();
+    [[nodiscard]] std::optional<QByteArray> renderedPoster();
+    void setCopied(bool copied);
+    void setShareFeedback(std::optional<QString> feedback);
+
+    const Environment m_env;
+    const NoteNarrative m_narrator;
+    WrappedReview m_review;
+    Texts m_texts;
+    RhythmCard m_rhythm;
+    QStringList m_cards;
+    int m_wallCapacity = 48;
+    std::optional<int> m_chosenYear; ///< for as long as the page stays
+    std::optional<Asked> m_asked;    ///< what the last question was
+    NoteNarrative::RequestHandle m_request;
+    TimerHandle m_copiedEnds;
+};
+
+} // namespace vantle
