@@ -14,9 +14,11 @@ namespace vantle::vectors {
 [[nodiscard]] Form narrativeForm();
 [[nodiscard]] Form noteDigestForm();
 [[nodiscard]] Form overlayControlForm();
+[[nodiscard]] Form pagerForm();
 [[nodiscard]] Form personaForm();
 [[nodiscard]] Form recordsForm();
 [[nodiscard]] Form rendererForm();
+[[nodiscard]] Form rhythmMapForm();
 [[nodiscard]] Form rhythmSuperlativesForm();
 [[nodiscard]] Form skillsForm();
 [[nodiscard]] Form statisticsForm();
