@@ -1,7 +1,6 @@
 // The wide button that starts and stops, in the colour of the chosen mode.
 pragma ComponentBehavior: Bound
 import QtQuick
-import Vantle.CommandCenter
 import Vantle.Kit
 
 KitPressable {

@@ -37,7 +37,7 @@ class ModeEditor final : public QObject {
     Q_PROPERTY(QColor color READ color NOTIFY colorChanged)
     Q_PROPERTY(QList<QColor> palette READ palette CONSTANT)
     /// Read out for the colours, in the order of the palette.
-    Q_PROPERTY(QStringList colorNames READ colorNames CONSTANT)
+    Q_PROPERTY(QList<QString> colorNames READ colorNames CONSTANT)
     /// Which colour of the palette is chosen; -1 for one that is not in it.
     Q_PROPERTY(int colorIndex READ colorIndex NOTIFY colorChanged)
 

@@ -8,7 +8,7 @@ KitPressable {
 
     required property string title
     property string shortcut // as it is written; empty for none
-    property list<string> keys // that do the same
+    property var keys: [] // sequences that do the same
 
     implicitHeight: DarkUI.navRowHeight
     name: title

@@ -29,16 +29,24 @@ Item {
         composited: frame.rounded
     }
 
-    // Any empty place moves the window.
+    // Any empty place moves the window, as the strip does by itself. The window manager is asked
+    // once: to be asked again after the release, it would hold on to the pointer.
     MouseArea {
         property point pressedAt
+        property bool asked: false
 
         anchors.fill: parent
-        onPressed: mouse => pressedAt = Qt.point(mouse.x, mouse.y)
+        anchors.topMargin: DarkUI.stripHeight
+        onPressed: mouse => {
+            pressedAt = Qt.point(mouse.x, mouse.y);
+            asked = false;
+        }
         onPositionChanged: mouse => {
             const distance = Math.abs(mouse.x - pressedAt.x) + Math.abs(mouse.y - pressedAt.y);
-            if (distance >= Application.styleHints.startDragDistance)
-                frame.shell.beginMove();
+            if (asked || distance < Application.styleHints.startDragDistance)
+                return;
+            asked = true;
+            frame.shell.beginMove();
         }
     }
 
