@@ -28,6 +28,10 @@ QtObject {
     readonly property color addSquareFill: DarkUI.quietHover
     readonly property color addName: Qt.rgba(1, 1, 1, 0.72)
 
+    readonly property real tipHeight: 22
+    readonly property real tipTop: 8 // below the capsule
+    readonly property int tipDelay: 1500 // ms that the pointer has to rest
+
     readonly property int dotDelay: 400 // ms before the dot begins to breathe
     readonly property int fadeTime: 280 // ms, of a capsule that goes
 

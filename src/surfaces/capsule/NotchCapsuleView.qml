@@ -36,6 +36,7 @@ Item {
         height: view.capsule.hoverRect.height
 
         HoverHandler {
+            id: hover
             onHoveredChanged: view.capsule.setHovered(hovered)
         }
     }
@@ -84,7 +85,16 @@ Item {
         }
     }
 
+    // Below the capsule is nothing but shadow, which there is only with a compositor.
+    CapsuleToolTip {
+        x: Math.round((view.width - width) / 2)
+        y: view.capsule.openFrame.y + view.capsule.openFrame.height + CapsuleTokens.tipTop
+        capsule: view.capsule
+        wanted: hover.hovered && view.composited && view.capsule.expanded && !overlay.shown
+    }
+
     CapsuleOverlay {
+        id: overlay
         anchors.fill: parent
         capsule: view.capsule
         composited: view.composited

@@ -1,0 +1,52 @@
+// What a click would do, told below the capsule to a pointer that has rested on it for a while.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Capsule
+import Vantle.Kit
+
+GlassBackground {
+    id: tip
+
+    required property NotchCapsule capsule
+    required property bool wanted
+
+    material: GlassBackground.Menu
+    shadowed: false
+    radius: DarkUI.radiusKeycap
+    width: label.implicitWidth + 2 * DarkUI.space8
+    height: CapsuleTokens.tipHeight
+    visible: opacity > 0
+    opacity: 0
+
+    states: State {
+        name: "wanted"
+        when: tip.wanted
+
+        PropertyChanges {
+            tip.opacity: 1
+        }
+    }
+
+    transitions: Transition {
+        to: "wanted"
+
+        SequentialAnimation {
+            PauseAnimation {
+                duration: CapsuleTokens.tipDelay
+            }
+            NumberAnimation {
+                property: "opacity"
+                duration: DarkUI.hoverTime
+            }
+        }
+    }
+
+    DarkText {
+        id: label
+        anchors.centerIn: parent
+        text: tip.capsule.toolTip
+        role: DarkUI.small
+        color: DarkUI.t2
+        Accessible.ignored: true
+    }
+}
