@@ -1,0 +1,204 @@
+// What the pages say where the recorded cases don't reach.
+#include "review/HoursCards.h"
+#include "review/NotesCards.h"
+#include "review/PersonaCard.h"
+#include "review/RhythmCard.h"
+#include "review/WhenCard.h"
+#include "review/stats/ReviewSamples.h"
+
+#include <gtest/gtest.h>
+
+namespace vantle {
+namespace {
+
+using samples::worked;
+
+const WrappedSettings& settings() {
+    static const WrappedSettings settings = samples::settingsAt("2026-03-11T14:00:00Z");
+    return settings;
+}
+
+WrappedStats week(const std::vector<Session>& log) {
+    return WrappedStats::compute(log, WrappedPeriod::Week, settings());
+}
+
+/// Six skills, an hour more each.
+std::vector<Session> sixSkills() {
+    std::vector<Session> log;
+    int hours = 0;
+    for (const Skill& skill : settings().skills)
+        log.push_back(worked("2026-03-10T01:00:00Z", 60 * ++hours, skill.id));
+    return log;
+}
+
+TEST(HeroCard, TellsTheWeekBeforeByTheNameItHasFromThere) {
+    const std::vector<Session> log = {worked("2026-02-24T09:00:00Z", 60),
+                                      worked("2026-03-03T09:00:00Z", 120),
+                                      worked("2026-03-10T09:00:00Z", 60)};
+    EXPECT_EQ(reviewcards::hero(week(log), settings()).quiet.value(0),
+              QStringLiteral("Last week: 2 h"));
+    const auto last = WrappedStats::compute(log, WrappedPeriod::LastWeek, settings());
+    EXPECT_EQ(reviewcards::hero(last, settings()).quiet.value(0),
+              QStringLiteral("The week before: 1 h"));
+}
+
+TEST(HeroCard, SessionsOfNoTimeAreNeitherTrackedNorLogged) {
+    EXPECT_TRUE(
+        reviewcards::hero(week({worked("2026-03-10T09:00:00Z", 0)}), settings()).quiet.isEmpty());
+}
+
+TEST(SkillsCard, ShowsTheTopSkillAndTheOthersBelowIt) {
+    const auto stats = week(sixSkills());
+    const auto card = reviewcards::skills(stats, settings(), 6).value();
+    EXPECT_EQ(card.top.name, settings().skills.back().name);
+    EXPECT_EQ(card.topFigure.value, QStringLiteral("6"));
+    ASSERT_EQ(card.others.size(), 5U);
+    EXPECT_EQ(card.others.front().name, settings().skills[4].name);
+    EXPECT_DOUBLE_EQ(card.others.front().fraction, 5.0 / 6);
+    EXPECT_EQ(card.others.front().share, QStringLiteral("24%")) << "5 of 21 hours";
+    EXPECT_TRUE(card.more.isEmpty());
+    EXPECT_EQ(reviewcards::skills(stats, settings(), 4)->more, QStringLiteral("+2 more"));
+}
+
+TEST(SkillsCard, SingleSkillHasNoBreakdown) {
+    const auto card =
+        reviewcards::skills(week({worked("2026-03-10T09:00:00Z", 60)}), settings(), 6).value();
+    EXPECT_TRUE(card.breakdownKicker.isEmpty());
+    EXPECT_TRUE(card.others.empty());
+    EXPECT_EQ(card.top.share, QStringLiteral("100%"));
+}
+
+TEST(SkillsCard, IsNotThereWithoutHours) {
+    EXPECT_FALSE(reviewcards::skills(week({worked("2026-03-10T09:00:00Z", 0)}), settings(), 6));
+}
+
+TEST(PersonaCard, TakingShapeTellsHowFarItIs) {
+    const auto card = reviewcards::persona(week({worked("2026-03-10T09:00:00Z", 60)}));
+    EXPECT_TRUE(card.name.isEmpty());
+    EXPECT_EQ(card.facts,
+              (QStringList{QStringLiteral("1 / 5 sessions"), QStringLiteral("1 / 2 days")}));
+    EXPECT_TRUE(card.celebrationColors.isEmpty());
+}
+
+TEST(PersonaCard, CelebratesInItsOwnColoursAndThoseOfTheTopSkills) {
+    auto log = sixSkills();
+    log.push_back(worked("2026-03-11T09:00:00Z", 60));
+    const auto stats = week(log);
+    ASSERT_TRUE(stats.persona);
+    const auto card = reviewcards::persona(stats);
+    EXPECT_EQ(card.celebrationColors,
+              (QList<QColor>{QColor::fromRgb(stats.persona->startHex),
+                             QColor::fromRgb(stats.persona->endHex),
+                             QColor::fromRgb(stats.skillHours[0].skill.hexRGB),
+                             QColor::fromRgb(stats.skillHours[1].skill.hexRGB),
+                             QColor::fromRgb(stats.skillHours[2].skill.hexRGB)}));
+    EXPECT_EQ(card.facts.value(2), QStringLiteral("7 sessions"));
+    EXPECT_EQ(card.quiet, QStringLiteral("From this week"));
+}
+
+TEST(RhythmCard, WallShowsTheNewestDotsThatFit) {
+    const auto stats = week({worked("2026-03-09T09:00:00Z", 120),
+                             worked("2026-03-10T09:00:00Z", 60, QStringLiteral("marketing"))});
+    const auto card = reviewcards::rhythm(stats, settings(), std::nullopt, 2);
+    EXPECT_EQ(card.wallCaption,
+              QStringLiteral("One dot per finished hour. 1 earlier hour off the top."));
+    EXPECT_EQ(card.wallColors,
+              (QList<QColor>{QColor::fromRgb(0x7A78FF), QColor::fromRgb(0xFF375F)}));
+    EXPECT_EQ(reviewcards::rhythm(stats, settings(), std::nullopt, 3).wallCaption,
+              QStringLiteral("One dot per finished hour, in the skill that earned it."));
+}
+
+TEST(RhythmCard, MonthAndAllTimeHaveNoWall) {
+    const std::vector<Session> log = {worked("2026-03-09T09:00:00Z", 120)};
+    for (const auto period : {WrappedPeriod::Month, WrappedPeriod::AllTime}) {
+        const auto stats = WrappedStats::compute(log, period, settings());
+        const auto card = reviewcards::rhythm(stats, settings(), std::nullopt, 9);
+        EXPECT_TRUE(card.wallKicker.isEmpty());
+        EXPECT_TRUE(card.wallColors.isEmpty());
+    }
+}
+
+TEST(RhythmCard, TilesCarryTheirColourTheirOutlineAndTheirWords) {
+    const auto stats = week({worked("2026-03-09T09:00:00Z", 90)});
+    const auto picture = reviewcards::rhythm(stats, settings(), std::nullopt, 9).picture;
+    EXPECT_EQ(picture.kind, RhythmPicture::WeekStrip);
+    EXPECT_EQ(picture.letters.join(u' '), QStringLiteral("M T W T F S S"));
+    ASSERT_EQ(picture.weeks.size(), 1U);
+    const auto& tiles = picture.weeks.front();
+    EXPECT_EQ(tiles[0].help, QStringLiteral("Mon, Mar 9 · 1.5 h"));
+    EXPECT_EQ(tiles[0].fill.rgb(), QColor::fromRgb(0x7A78FF).rgb());
+    EXPECT_NEAR(tiles[0].fill.alphaF(), 0.78, 0.001);
+    EXPECT_FALSE(tiles[1].hasFill);
+    EXPECT_EQ(tiles[1].help, QStringLiteral("Tue, Mar 10"));
+    EXPECT_TRUE(tiles[2].isToday);
+    EXPECT_EQ(tiles[2].outlineWidth, 1.5);
+    EXPECT_TRUE(tiles[3].isFuture);
+    EXPECT_EQ(tiles[3].outlineWidth, 1);
+    EXPECT_EQ(picture.tileList().size(), 7);
+}
+
+TEST(RhythmCard, YearComesAsOneMapAndMonthByMonth) {
+    const std::vector<Session> log = {worked("2024-03-09T09:00:00Z", 90),
+                                      worked("2026-03-09T09:00:00Z", 90)};
+    const auto stats = WrappedStats::compute(log, WrappedPeriod::AllTime, settings());
+    const auto card = reviewcards::rhythm(stats, settings(), 2024, 9);
+    EXPECT_EQ(card.picture.kind, RhythmPicture::YearMap);
+    EXPECT_EQ(card.picture.year, 2024);
+    EXPECT_EQ(card.picture.tileList().size() % 7, 0);
+    ASSERT_EQ(card.picture.months.size(), 12U);
+    // 2024-02-01 was a Thursday.
+    EXPECT_FALSE(card.picture.months[1].front()[2].isDay);
+    EXPECT_EQ(card.picture.months[1].front()[3].help, QStringLiteral("Thu, Feb 1"));
+    EXPECT_EQ(card.picture.monthList().size(), 12);
+    ASSERT_EQ(card.years.size(), 2U);
+    EXPECT_EQ(card.years[1].label, QStringLiteral("Show 2024"));
+    EXPECT_TRUE(reviewcards::rhythm(week(log), settings(), std::nullopt, 9).years.empty());
+}
+
+TEST(WhenCard, NeedsThreeStarts) {
+    std::vector<Session> log = {worked("2026-03-09T09:00:00Z", 60),
+                                worked("2026-03-10T09:00:00Z", 30)};
+    EXPECT_FALSE(reviewcards::when(week(log), settings()));
+    log.push_back(worked("2026-03-10T14:00:00Z", 90));
+    const auto card = reviewcards::when(week(log), settings()).value();
+    ASSERT_EQ(card.bars.size(), 12);
+    EXPECT_EQ(card.bars[4], 1);
+    EXPECT_EQ(card.bars[7], 0.5);
+    EXPECT_EQ(card.peakBar, 4);
+    ASSERT_EQ(card.facts.size(), 3U);
+    EXPECT_EQ(card.facts[1].value, QStringLiteral("1 h 30 min"));
+    EXPECT_EQ(card.facts[2].value, QStringLiteral("2 h"));
+    EXPECT_EQ(card.facts[2].detail, QStringLiteral("Tue, Mar 10"));
+}
+
+TEST(NotesCard, NotesHaveTheirSkillAndTheirDay) {
+    Session session = worked("2026-03-10T09:00:00Z", 60, QStringLiteral("marketing"));
+    session.note = QStringLiteral("Drafted the landing page");
+    const auto card = reviewcards::notes(week({session}), settings(), 4).value();
+    ASSERT_EQ(card.highlights.size(), 1U);
+    EXPECT_EQ(card.highlights[0].text, session.note);
+    EXPECT_EQ(card.highlights[0].skillName, QStringLiteral("Marketing"));
+    EXPECT_EQ(card.highlights[0].skillColor, QColor::fromRgb(0xFF375F));
+    EXPECT_EQ(card.highlights[0].date, QStringLiteral("Mar 10"));
+    EXPECT_TRUE(card.more.isEmpty());
+}
+
+TEST(NotesCard, NotesThatSayTheSameAreInTheLogNevertheless) {
+    std::vector<Session> log;
+    for (int i = 0; i < 3; ++i) {
+        log.push_back(worked("2026-03-10T09:00:00Z", 60));
+        log.back().note = QStringLiteral("again");
+    }
+    const auto card = reviewcards::notes(week(log), settings(), 4).value();
+    EXPECT_EQ(card.highlights.size(), 1U);
+    EXPECT_EQ(card.more, QStringLiteral("2 more notes are in your log"));
+}
+
+TEST(NarrativeCard, NamesItsPeriodInCapitals) {
+    const auto card = reviewcards::narrative(WrappedPeriod::AllTime, QStringLiteral("You did."));
+    EXPECT_EQ(card.kicker, QStringLiteral("ALL TIME, IN WORDS"));
+    EXPECT_EQ(card.text, QStringLiteral("You did."));
+}
+
+} // namespace
+} // namespace vantle

@@ -1,0 +1,219 @@
+#include "review/WrappedReview.h"
+
+#include "fakes/MemoryPreferences.h"
+#include "review/stats/ReviewSamples.h"
+
+#include <gtest/gtest.h>
+
+namespace vantle {
+namespace {
+
+using samples::worked;
+using enum WrappedCard;
+
+constexpr auto kNow = "2026-03-11T14:00:00Z"; // a Wednesday, in a week that began on the 9th
+
+class WrappedReviewTest : public testing::Test {
+protected:
+    void open(WrappedReview::Sessions log, std::optional<WrappedPeriod> initial = {}) {
+        review.open(std::move(log), settings, initial);
+    }
+    void pick(WrappedPeriod period) { review.pick(period, settings); }
+    [[nodiscard]] bool has(WrappedCard card) const {
+        const auto cards = review.cards();
+        return std::ranges::find(cards, card) != cards.end();
+    }
+    void turnToTheEnd() {
+        while (review.turn(+1))
+            ;
+    }
+
+    const WrappedSettings settings = samples::settingsAt(kNow);
+    const Session lastMonday = worked("2026-03-02T09:00:00Z", 60);
+    const Session monday = worked("2026-03-09T09:00:00Z", 60);
+    const Session today = worked("2026-03-11T09:00:00Z", 60);
+    WrappedReview review;
+};
+
+TEST_F(WrappedReviewTest, OpensOnLastWeekWhenThisOneIsEmpty) {
+    open({lastMonday});
+    EXPECT_EQ(review.period(), WrappedPeriod::LastWeek);
+    EXPECT_EQ(review.page(), 0);
+    EXPECT_EQ(review.stats().sessionCount, 1);
+}
+
+TEST_F(WrappedReviewTest, OpensOnThisWeekWhenThatHasWork) {
+    open({lastMonday, monday});
+    EXPECT_EQ(review.period(), WrappedPeriod::Week);
+}
+
+TEST_F(WrappedReviewTest, OpensOnThisWeekWhenBothAreEmpty) {
+    open({worked("2026-01-02T09:00:00Z", 60)});
+    EXPECT_EQ(review.period(), WrappedPeriod::Week);
+    EXPECT_TRUE(review.cards().empty());
+    EXPECT_FALSE(review.isLogEmpty());
+}
+
+TEST_F(WrappedReviewTest, GoingBackToThisWeekDoesNotLeadToLastWeekAgain) {
+    open({lastMonday});
+    pick(WrappedPeriod::Week);
+    EXPECT_EQ(review.period(), WrappedPeriod::Week);
+    open({lastMonday});
+    EXPECT_EQ(review.period(), WrappedPeriod::Week);
+    review.reload({lastMonday}, settings);
+    EXPECT_EQ(review.period(), WrappedPeriod::Week);
+}
+
+TEST_F(WrappedReviewTest, AskedForLastWeekShowsItEvenWhenItIsEmpty) {
+    open({monday}, WrappedPeriod::LastWeek);
+    EXPECT_EQ(review.period(), WrappedPeriod::LastWeek);
+    EXPECT_EQ(review.stats().sessionCount, 0);
+}
+
+TEST_F(WrappedReviewTest, AskedForThisWeekStaysThereWhenItIsEmpty) {
+    open({lastMonday}, WrappedPeriod::Week);
+    EXPECT_EQ(review.period(), WrappedPeriod::Week);
+}
+
+TEST_F(WrappedReviewTest, NarrativeOfAnotherPeriodIsDropped) {
+    open({monday});
+    pick(WrappedPeriod::Month);
+    review.narrativeArrived(WrappedPeriod::Week, QStringLiteral("You did it."));
+    EXPECT_FALSE(review.narrative());
+    EXPECT_FALSE(has(Narrative));
+}
+
+TEST_F(WrappedReviewTest, NarrativeCardGoesWithItsPeriodAndComesBackWithIt) {
+    open({monday});
+    review.narrativeArrived(WrappedPeriod::Week, QStringLiteral("You did it."));
+    EXPECT_TRUE(has(Narrative));
+    pick(WrappedPeriod::Month);
+    EXPECT_FALSE(has(Narrative));
+    EXPECT_EQ(review.narrativePeriod(), WrappedPeriod::Week);
+    pick(WrappedPeriod::Week);
+    EXPECT_TRUE(has(Narrative));
+    review.narrativeArrived(WrappedPeriod::Week, std::nullopt);
+    EXPECT_FALSE(has(Narrative));
+    EXPECT_FALSE(review.narrativePeriod());
+}
+
+TEST_F(WrappedReviewTest, LastPageStaysTheLastWhenThereAreFewer) {
+    open({monday, today});
+    turnToTheEnd();
+    const int end = review.page();
+    pick(WrappedPeriod::Today);
+    EXPECT_LT(review.page(), end);
+    EXPECT_EQ(review.cards()[static_cast<std::size_t>(review.page())], Summary);
+}
+
+TEST_F(WrappedReviewTest, PageStaysOnAnotherPeriod) {
+    open({monday});
+    review.turn(+1);
+    pick(WrappedPeriod::Month);
+    EXPECT_EQ(review.page(), 1);
+    EXPECT_EQ(review.pageKey(), QStringLiteral("month-1"));
+    EXPECT_EQ(review.pageDirection(), 1.0);
+}
+
+TEST_F(WrappedReviewTest, EmptiedLogLeadsToTheFirstPage) {
+    open({monday});
+    turnToTheEnd();
+    review.reload({}, settings);
+    EXPECT_EQ(review.page(), 0);
+    EXPECT_TRUE(review.cards().empty());
+    EXPECT_FALSE(review.turn(+1));
+    EXPECT_FALSE(review.turn(-1));
+}
+
+TEST_F(WrappedReviewTest, TurnsNoFurtherThanItsEnds) {
+    open({monday});
+    EXPECT_FALSE(review.turn(-1));
+    EXPECT_EQ(review.pageDirection(), 1.0);
+    turnToTheEnd();
+    EXPECT_EQ(review.page() + 1, static_cast<int>(review.cards().size()));
+    EXPECT_TRUE(review.turn(-1));
+    EXPECT_EQ(review.pageDirection(), -1.0);
+}
+
+TEST_F(WrappedReviewTest, TodayShowsNeitherATypeNorARhythm) {
+    open({today});
+    EXPECT_TRUE(has(Persona));
+    EXPECT_TRUE(has(Rhythm));
+    pick(WrappedPeriod::Today);
+    EXPECT_FALSE(has(Persona));
+    EXPECT_FALSE(has(Rhythm));
+    EXPECT_TRUE(has(Summary));
+}
+
+TEST_F(WrappedReviewTest, PickingThePeriodThatIsShownChangesNothing) {
+    open({monday});
+    review.setCopied(true);
+    EXPECT_FALSE(review.pick(WrappedPeriod::Week, settings));
+    EXPECT_TRUE(review.isCopied());
+    EXPECT_TRUE(review.pick(WrappedPeriod::Month, settings));
+    EXPECT_FALSE(review.isCopied());
+}
+
+TEST_F(WrappedReviewTest, WordsAboutSharingGoWithThePeriod) {
+    open({monday});
+    review.setShareFeedback(QStringLiteral("no"));
+    pick(WrappedPeriod::Month);
+    EXPECT_FALSE(review.shareFeedback());
+}
+
+TEST(WrappedCards, OneHighPointWithoutADayThatReachedTheGoalIsNoPage) {
+    wrappedcards::Facts facts;
+    facts.sessionCount = 3;
+    facts.superlativeCount = 1;
+    const auto has = [&] {
+        const auto cards = wrappedcards::cards(facts);
+        return std::ranges::find(cards, Superlatives) != cards.end();
+    };
+    EXPECT_FALSE(has());
+    facts.goalHitDays = 1;
+    EXPECT_TRUE(has());
+    facts.goalHitDays = 0;
+    facts.superlativeCount = 2;
+    EXPECT_TRUE(has());
+}
+
+TEST(WrappedCards, FullReviewHasTenPagesInOrder) {
+    const wrappedcards::Facts facts{WrappedPeriod::Week, 9, true, 3, 2, 1, true, true};
+    EXPECT_EQ(wrappedcards::cards(facts),
+              (std::vector{Hero, Skills, Persona, Rhythm, When, Superlatives, Milestones, Narrative,
+                           Notes, Summary}));
+}
+
+TEST(WrappedCards, LastWeekStandsInThePickerWhileItIsShown) {
+    using enum WrappedPeriod;
+    EXPECT_EQ(wrappedcards::segments(Week), (std::vector{Today, Week, Month, AllTime}));
+    EXPECT_EQ(wrappedcards::segments(LastWeek),
+              (std::vector{LastWeek, Today, Week, Month, AllTime}));
+}
+
+TEST(WrappedCards, EmptyCardKnowsWhyItIsEmpty) {
+    EXPECT_EQ(wrappedcards::emptyCard(WrappedPeriod::LastWeek, true).title,
+              QStringLiteral("Ready when you are"));
+    EXPECT_EQ(wrappedcards::emptyCard(WrappedPeriod::LastWeek, false).text,
+              QStringLiteral("Start a session and this week's page fills in."));
+    EXPECT_EQ(wrappedcards::emptyCard(WrappedPeriod::Month, false).title,
+              QStringLiteral("Nothing this month yet"));
+}
+
+TEST(WrappedReviewSeen, OpeningMarksTheWeekBefore) {
+    fakes::MemoryPreferences preferences;
+    const Calendar calendar = samples::calendarIn(QStringLiteral("UTC"));
+    wrappedreview::markLastWeekSeen(samples::at(kNow), calendar, preferences);
+    EXPECT_TRUE(preferences.flag(QStringLiteral("wrapped.seen.2026-10")));
+    EXPECT_EQ(preferences.keys().size(), 1);
+}
+
+TEST(WrappedReviewSeen, CalendarWithoutWeeksMarksNothing) {
+    fakes::MemoryPreferences preferences;
+    wrappedreview::markLastWeekSeen(samples::at(kNow),
+                                    samples::calendarIn(QStringLiteral("No/Where")), preferences);
+    EXPECT_TRUE(preferences.keys().isEmpty());
+}
+
+} // namespace
+} // namespace vantle

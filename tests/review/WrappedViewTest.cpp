@@ -1,0 +1,338 @@
+#include "review/WrappedView.h"
+
+#include "fakes/FakeLanguageModel.h"
+#include "fakes/MemoryPreferences.h"
+#include "fakes/VirtualTime.h"
+#include "review/stats/ReviewSamples.h"
+#include "tracking/NotificationCenter.h"
+
+#include <gtest/gtest.h>
+
+namespace vantle {
+namespace {
+
+using samples::worked;
+using Saved = WrappedView::Saved;
+
+const QString kSentence = QStringLiteral("You shipped the landing page and mended the login.");
+
+class WrappedViewTest : public testing::Test {
+protected:
+    WrappedView& open(std::optional<WrappedPeriod> initial = {}) {
+        return *(view = std::make_unique<WrappedView>(WrappedView::Environment{
+                     .notifications = notifications,
+                     .preferences = preferences,
+                     .model = model,
+                     .clock = time,
+                     .scheduler = time,
+                     .calendar = [] { return samples::calendarIn(QStringLiteral("UTC")); },
+                     .allSessions = [this] { return log; },
+                     .skills = [] { return samples::seeds(); },
+                     .initialPeriod = initial,
+                     .enterVantle = [this] { ++entered; },
+                     .renderPng =
+                         [this](const SharePoster& poster) {
+                             rendered = poster.title;
+                             return png;
+                         },
+                     .copyPng = [this](const QByteArray& image) { copied << image; },
+                     .savePng =
+                         [this](const QByteArray& image, const QString& name,
+                                std::function<void(Saved)> done) {
+                             saved << image;
+                             suggested = name;
+                             answerSave = std::move(done);
+                         }}));
+    }
+
+    /// Work with a note, this week (the 9th to the 15th).
+    void logNotes(int count = 3) {
+        for (int i = 0; i < count; ++i) {
+            log.push_back(worked("2026-03-10T09:00:00Z", 60));
+            log.back().note = QStringLiteral("Drafted and shipped part %1 of the page").arg(i);
+        }
+    }
+    void pick(const QString& label) {
+        view->pickSegment(static_cast<int>(view->segmentLabels().indexOf(label)));
+    }
+    [[nodiscard]] QString shown() const { return view->segmentLabels()[view->segmentIndex()]; }
+    [[nodiscard]] bool has(const char* card) const {
+        return view->cards().contains(QLatin1String(card));
+    }
+    void answerModel(const std::optional<QString>& text = kSentence) {
+        model.answer(text);
+        time.settle();
+    }
+
+    fakes::VirtualTime time{samples::at("2026-03-11T14:00:00Z")}; // a Wednesday
+    fakes::MemoryPreferences preferences;
+    fakes::FakeLanguageModel model;
+    NotificationCenter notifications;
+    std::vector<Session> log;
+    std::optional<QByteArray> png = QByteArray("png");
+    QString rendered;
+    QList<QByteArray> copied;
+    QList<QByteArray> saved;
+    QString suggested;
+    std::function<void(Saved)> answerSave;
+    int entered = 0;
+    std::unique_ptr<WrappedView> view;
+};
+
+TEST_F(WrappedViewTest, WithoutALogInvites) {
+    open();
+    EXPECT_TRUE(view->isEmpty());
+    EXPECT_FALSE(view->hasPager());
+    EXPECT_EQ(view->emptyTitle(), QStringLiteral("Ready when you are"));
+    EXPECT_TRUE(view->canEnter());
+    view->enterVantle();
+    EXPECT_EQ(entered, 1);
+}
+
+TEST_F(WrappedViewTest, OpensOnLastWeekOnceAndOffersItWhileItIsShown) {
+    log = {worked("2026-03-03T09:00:00Z", 60)};
+    open();
+    EXPECT_EQ(shown(), QStringLiteral("Last week"));
+    EXPECT_EQ(view->segmentLabels().size(), 5);
+    pick(QStringLiteral("Week"));
+    EXPECT_EQ(shown(), QStringLiteral("Week"));
+    EXPECT_EQ(view->segmentLabels().size(), 4);
+    view->open();
+    EXPECT_EQ(shown(), QStringLiteral("Week"));
+    EXPECT_EQ(view->emptyTitle(), QStringLiteral("Nothing this week yet"));
+}
+
+TEST_F(WrappedViewTest, OpensOnThePeriodThatItIsAskedFor) {
+    log = {worked("2026-03-10T09:00:00Z", 60)};
+    open(WrappedPeriod::LastWeek);
+    EXPECT_EQ(shown(), QStringLiteral("Last week"));
+    EXPECT_EQ(view->emptyTitle(), QStringLiteral("Nothing tracked last week"));
+}
+
+TEST_F(WrappedViewTest, OpeningMarksLastWeekAsSeen) {
+    open();
+    EXPECT_TRUE(preferences.flag(QStringLiteral("wrapped.seen.2026-10")));
+}
+
+TEST_F(WrappedViewTest, PagesFromEndToEnd) {
+    log = {worked("2026-03-10T09:00:00Z", 60)};
+    open();
+    EXPECT_EQ(view->card(), QStringLiteral("hero"));
+    EXPECT_FALSE(view->canTurnBack());
+    int turns = 0;
+    QObject::connect(view.get(), &WrappedView::pageChanged, [&] { ++turns; });
+    while (view->canTurnOn())
+        view->turnOn();
+    EXPECT_EQ(view->card(), QStringLiteral("summary"));
+    EXPECT_EQ(turns, view->cards().size() - 1);
+    view->turnOn();
+    EXPECT_EQ(turns, view->cards().size() - 1);
+    view->turnBack();
+    EXPECT_EQ(view->pageDirection(), -1.0);
+}
+
+TEST_F(WrappedViewTest, ChangedLogIsReadAtOnce) {
+    open();
+    ASSERT_TRUE(view->isEmpty());
+    log = {worked("2026-03-11T09:00:00Z", 90)};
+    Q_EMIT notifications.HFSessionsChanged();
+    EXPECT_FALSE(view->isEmpty());
+    EXPECT_EQ(view->hero().hoursText, QStringLiteral("1.5 h"));
+    EXPECT_EQ(shown(), QStringLiteral("Week"));
+}
+
+TEST_F(WrappedViewTest, PeriodIsOfTheMomentWhenItIsPicked) {
+    log = {worked("2026-03-11T09:00:00Z", 60)};
+    open();
+    time.advance(24 * 3600.0);
+    pick(QStringLiteral("Today"));
+    EXPECT_TRUE(view->isEmpty()) << "the work is yesterday's by now";
+}
+
+TEST_F(WrappedViewTest, DurationStyleIsTakenFromTheSettings) {
+    log = {worked("2026-03-11T09:00:00Z", 90)};
+    preferences.setString(QStringLiteral("format.duration"), QStringLiteral("hoursMinutes"));
+    open();
+    EXPECT_EQ(view->hero().hoursText, QStringLiteral("1 h 30 min"));
+    EXPECT_EQ(view->countedUp(0.8).value, view->hero().figure.value);
+}
+
+TEST_F(WrappedViewTest, NarrativeCardComesWithTheAnswer) {
+    logNotes();
+    open();
+    EXPECT_EQ(model.waiting(), 1U);
+    EXPECT_FALSE(has("narrative"));
+    answerModel();
+    EXPECT_TRUE(has("narrative"));
+    EXPECT_EQ(view->cards().indexOf(QStringLiteral("narrative")) + 1,
+              view->cards().indexOf(QStringLiteral("notes")));
+    EXPECT_EQ(view->narrative().text, QStringLiteral("3 h this week, mostly Build. ") + kSentence);
+    EXPECT_EQ(view->narrative().kicker, QStringLiteral("THIS WEEK, IN WORDS"));
+}
+
+TEST_F(WrappedViewTest, NarrativeThatComesAfterAChangeOfPeriodIsDropped) {
+    logNotes();
+    open();
+    pick(QStringLiteral("Month"));
+    EXPECT_EQ(model.openSessions(), 1) << "the question about the week was given up";
+    pick(QStringLiteral("Today")); // without notes
+    EXPECT_EQ(model.openSessions(), 0);
+    answerModel();
+    EXPECT_FALSE(has("narrative"));
+    EXPECT_TRUE(view->narrative().text.isEmpty());
+}
+
+TEST_F(WrappedViewTest, AnswerOnItsWayWhenThePeriodChangesIsDropped) {
+    logNotes();
+    open();
+    model.answer(kSentence); // given, not yet told
+    pick(QStringLiteral("Month"));
+    time.settle();
+    EXPECT_FALSE(has("narrative"));
+    answerModel();
+    EXPECT_EQ(view->narrative().kicker, QStringLiteral("THIS MONTH, IN WORDS"));
+    EXPECT_TRUE(has("narrative"));
+}
+
+TEST_F(WrappedViewTest, NarrativeGoesAtOnceWithItsPeriod) {
+    logNotes();
+    open();
+    answerModel();
+    ASSERT_TRUE(has("narrative"));
+    pick(QStringLiteral("Month"));
+    EXPECT_FALSE(has("narrative"));
+    EXPECT_EQ(model.waiting(), 1U);
+}
+
+TEST_F(WrappedViewTest, SameNotesAreAskedAboutOnce) {
+    logNotes();
+    open();
+    answerModel();
+    Q_EMIT notifications.HFSessionsChanged();
+    EXPECT_EQ(model.waiting(), 0U);
+    EXPECT_TRUE(has("narrative"));
+    logNotes(1);
+    Q_EMIT notifications.HFSessionsChanged();
+    EXPECT_EQ(model.waiting(), 1U);
+}
+
+TEST_F(WrappedViewTest, WithoutAModelTheRestOfTheReviewIsTheSame) {
+    logNotes();
+    model.available = false;
+    open();
+    EXPECT_FALSE(has("narrative"));
+    EXPECT_TRUE(has("notes"));
+    EXPECT_TRUE(model.calls.empty());
+    model.available = true;
+    Q_EMIT notifications.HFSessionsChanged();
+    EXPECT_EQ(model.waiting(), 1U);
+}
+
+TEST_F(WrappedViewTest, ClosedWindowAsksNothingAnyMore) {
+    logNotes();
+    open();
+    view.reset();
+    EXPECT_EQ(model.openSessions(), 0);
+    time.settle();
+}
+
+TEST_F(WrappedViewTest, CopiedIsSaidForAMoment) {
+    logNotes();
+    open();
+    EXPECT_EQ(view->copyText(), QStringLiteral("Copy image"));
+    view->copyImage();
+    EXPECT_EQ(copied, QList<QByteArray>{"png"});
+    EXPECT_EQ(rendered, QStringLiteral("YOUR WEEK, IN FULL"));
+    EXPECT_EQ(view->copyText(), QStringLiteral("Copied"));
+    time.advance(1.59);
+    EXPECT_TRUE(view->copied());
+    time.advance(0.02);
+    EXPECT_FALSE(view->copied());
+}
+
+TEST_F(WrappedViewTest, CopyingAgainBeginsTheMomentAnew) {
+    logNotes();
+    open();
+    view->copyImage();
+    time.advance(1.0);
+    view->copyImage();
+    time.advance(1.0);
+    EXPECT_TRUE(view->copied());
+    time.advance(0.7);
+    EXPECT_FALSE(view->copied());
+}
+
+TEST_F(WrappedViewTest, PosterThatCannotBeDrawnIsNeitherCopiedNorSaved) {
+    logNotes();
+    open();
+    png.reset();
+    view->copyImage();
+    EXPECT_EQ(view->shareFeedback(), QStringLiteral("Couldn't render the image"));
+    EXPECT_FALSE(view->copied());
+    view->saveImage();
+    EXPECT_TRUE(copied.isEmpty() && saved.isEmpty());
+    png = QByteArray("png");
+    view->copyImage();
+    EXPECT_TRUE(view->shareFeedback().isEmpty());
+}
+
+TEST_F(WrappedViewTest, SavesUnderTheNameOfThePeriod) {
+    logNotes();
+    open();
+    view->saveImage();
+    EXPECT_EQ(suggested, QStringLiteral("wrapped-this-week.png"));
+    EXPECT_EQ(saved, QList<QByteArray>{"png"});
+    answerSave(Saved::Failed);
+    EXPECT_EQ(view->shareFeedback(),
+              QStringLiteral("Couldn't save there. Try a different folder."));
+    view->saveImage();
+    answerSave(Saved::Cancelled);
+    EXPECT_FALSE(view->shareFeedback().isEmpty()) << "nothing was tried since";
+    view->saveImage();
+    answerSave(Saved::Written);
+    EXPECT_TRUE(view->shareFeedback().isEmpty());
+}
+
+TEST_F(WrappedViewTest, AnswerOfTheSaveDialogAfterTheWindowClosedHarmsNobody) {
+    logNotes();
+    open();
+    view->saveImage();
+    view.reset();
+    answerSave(Saved::Failed);
+}
+
+TEST_F(WrappedViewTest, WordsAboutSharingGoWithThePeriod) {
+    logNotes();
+    open();
+    view->copyImage();
+    pick(QStringLiteral("Month"));
+    EXPECT_FALSE(view->copied());
+    png.reset();
+    view->copyImage();
+    pick(QStringLiteral("Week"));
+    EXPECT_TRUE(view->shareFeedback().isEmpty());
+}
+
+TEST_F(WrappedViewTest, ChosenYearHoldsForAsLongAsThePageStays) {
+    log = {worked("2024-03-10T09:00:00Z", 60), worked("2026-03-10T09:00:00Z", 60)};
+    open(WrappedPeriod::AllTime);
+    EXPECT_EQ(view->rhythm().picture.year, 2026);
+    view->showYear(2024);
+    EXPECT_EQ(view->rhythm().picture.year, 2024);
+    EXPECT_TRUE(view->rhythm().caption.startsWith(QStringLiteral("2024, ")));
+    view->turnOn();
+    EXPECT_EQ(view->rhythm().picture.year, 2026);
+}
+
+TEST_F(WrappedViewTest, WallTakesTheRoomThatThePageHas) {
+    log = {worked("2026-03-10T01:00:00Z", 5 * 60)};
+    open();
+    EXPECT_EQ(view->rhythm().wallColors.size(), 5);
+    view->setWallCapacity(2);
+    EXPECT_EQ(view->rhythm().wallColors.size(), 2);
+    EXPECT_EQ(view->rhythm().wallCaption,
+              QStringLiteral("One dot per finished hour. 3 earlier hours off the top."));
+}
+
+} // namespace
+} // namespace vantle
