@@ -22,6 +22,11 @@ public:
     explicit Workshop(int count);
 
     [[nodiscard]] TrackerCore& tracker() { return m_tracker; }
+    [[nodiscard]] SkillList& skills() { return m_skills; }
+    [[nodiscard]] NotificationCenter& notifications() { return m_notifications; }
+    [[nodiscard]] const Preferences& preferences() const { return m_preferences; }
+    [[nodiscard]] const Clock& clock() const { return m_clock; }
+    [[nodiscard]] Scheduler& scheduler() { return m_scheduler; }
     [[nodiscard]] QString log() const { return m_paths.sessionsFile(); }
     /// A file beside the log, for the bound.
     [[nodiscard]] QString file(const QString& name) const {
