@@ -19,8 +19,7 @@ public:
         const QString shows[] = {QStringLiteral("full"), QStringLiteral("quick"),
                                  QStringLiteral("collapse")};
         m_told.calls << QStringLiteral("ripple %1 %2 %3")
-                            .arg(shows[show.kind], hex(rgb),
-                                 name.value_or(QStringLiteral("-")));
+                            .arg(shows[show.kind], hex(rgb), name.value_or(QStringLiteral("-")));
     }
 
 private:

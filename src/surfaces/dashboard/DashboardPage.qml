@@ -65,15 +65,13 @@ FocusScope {
                 SkillTotalsCard {
                     width: page.stacked ? page.inner : 246
                     height: 208
-                    lines: page.model.skillTotals
+                    model: page.model
                 }
 
                 RecentSessionsCard {
                     width: page.stacked ? page.inner : page.inner - 246 - DarkUI.space12
                     height: 208
-                    lines: page.model.recent
-                    summary: page.model.recentText
-                    onStartRequested: page.model.toggle()
+                    model: page.model
                 }
             }
         }

@@ -7,22 +7,20 @@ import Vantle.Dashboard
 DashboardCard {
     id: card
 
-    required property var lines
-    required property string summary
-    signal startRequested
+    required property DashboardView model
 
     heading: qsTr("Recent sessions")
-    detail: summary
+    detail: model.recentText
 
     Column {
         anchors.centerIn: parent
-        visible: card.lines.length === 0
+        visible: card.model.recent.length === 0
         spacing: DarkUI.space10
 
         DarkPrimaryButton {
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTr("Start your first session")
-            onClicked: card.startRequested()
+            onClicked: card.model.toggle()
         }
 
         DarkText {
@@ -35,7 +33,7 @@ DashboardCard {
 
     Column {
         Repeater {
-            model: card.lines
+            model: card.model.recent
 
             SessionGroupRow {
                 required property recentLine modelData

@@ -7,16 +7,16 @@ import Vantle.Dashboard
 DashboardCard {
     id: card
 
-    required property var lines
+    required property DashboardView model
     // All of them fit, however many the person has.
     readonly property real pitch: Math.min(26, (height - 38 - DarkUI.space12)
-                                               / Math.max(lines.length, 1))
+                                               / Math.max(model.skillTotals.length, 1))
 
     heading: qsTr("Hours by skill")
 
     DarkText {
         width: card.innerWidth
-        visible: card.lines.length === 0
+        visible: card.model.skillTotals.length === 0
         text: qsTr("Your active skills will appear after the first session.")
         role: DarkUI.caption
         color: DarkUI.t3
@@ -25,7 +25,7 @@ DashboardCard {
 
     Column {
         Repeater {
-            model: card.lines
+            model: card.model.skillTotals
 
             SkillTotalRow {
                 required property skillTotalLine modelData

@@ -35,7 +35,8 @@ Item {
         DarkText {
             anchors.horizontalCenter: parent.horizontalCenter
             horizontalAlignment: Text.AlignHCenter
-            text: qsTr("When you stop a session, jot one line about what you did.\nThey collect here, newest first.")
+            text: qsTr("When you stop a session, jot one line about what you did.\n"
+                       + "They collect here, newest first.")
             color: DarkUI.t2
         }
     }

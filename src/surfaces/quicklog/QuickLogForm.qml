@@ -30,7 +30,8 @@ FocusScope {
         DarkText {
             width: parent.width
             topPadding: DarkUI.space2
-            text: qsTr("For work the clock didn’t see. It joins your totals and is marked as manual.")
+            text: qsTr("For work the clock didn’t see. "
+                       + "It joins your totals and is marked as manual.")
             role: DarkUI.caption
             color: DarkUI.t2
             wrapMode: Text.Wrap
