@@ -29,14 +29,12 @@ Item {
         composited: frame.rounded
     }
 
-    // Any empty place moves the window, as the strip does by itself. The window manager is asked
-    // once: to be asked again after the release, it would hold on to the pointer.
-    MouseArea {
+    // Moves the window. The window manager is asked once: asked again after the release, it would
+    // hold on to the pointer.
+    component MoveArea: MouseArea {
         property point pressedAt
         property bool asked: false
 
-        anchors.fill: parent
-        anchors.topMargin: DarkUI.stripHeight
         onPressed: mouse => {
             pressedAt = Qt.point(mouse.x, mouse.y);
             asked = false;
@@ -48,6 +46,10 @@ Item {
             asked = true;
             frame.shell.beginMove();
         }
+    }
+
+    MoveArea {
+        anchors.fill: parent
     }
 
     // Where the screen is too low for the view, it scrolls under the strip.
@@ -75,6 +77,12 @@ Item {
         title: frame.title
         onMinimiseRequested: frame.shell.minimise()
         onCloseRequested: frame.shell.requestClose()
+    }
+
+    // Over the strip, whose own handler would miss the release that the window manager takes.
+    MoveArea {
+        width: parent.width - 2 * (DarkUI.stripButton + DarkUI.space8)
+        height: DarkUI.stripHeight
     }
 
     ResizeEdges {
