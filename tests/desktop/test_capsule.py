@@ -60,6 +60,14 @@ class CapsuleTest(DesktopTest):
         wait_until("an open capsule", self.is_open)
         time.sleep(0.5)  # until the spring has come to rest
 
+    def await_keyboard(self):
+        """Waits until the capsule's menu or editor has the keyboard."""
+        def has_it():
+            focus = self.desktop.tool("xdotool", "getwindowfocus").decode().strip()
+            return focus in self.desktop.windows_named(TITLE)
+
+        wait_until("the keyboard", has_it)
+
     def open_editor(self):
         """Another application, below the capsule, with the keyboard; returns the file that its
         lines land in."""
@@ -75,8 +83,15 @@ class CapsuleTest(DesktopTest):
         return is_near(next(self.desktop.picture(MIDDLE + 100, 50, 1, 1).pixels()), BLACK, 2)
 
     def skills(self):
+        """The list as it stands in its file; empty before there is one."""
         path = self.vantle.data_directory / "skills.json"
-        return {skill["id"]: skill for skill in json.loads(path.read_bytes())}
+        return json.loads(path.read_bytes()) if path.exists() else []
+
+    def skill_names(self):
+        return [skill["name"] for skill in self.skills()]
+
+    def name_of(self, skill_id):
+        return next((skill["name"] for skill in self.skills() if skill["id"] == skill_id), None)
 
 
 class OpensAndCloses(CapsuleTest):
@@ -174,14 +189,16 @@ class Edits(CapsuleTest):
         self.launch()
         self.open_capsule()
         self.click(CHIP_DESIGN, button=3)
-        time.sleep(0.3)
+        self.await_keyboard()
+        time.sleep(0.2)  # until it is drawn
         self.desktop.screenshot("menu")
         self.click(MENU_RENAME)
         time.sleep(0.3)
+        self.await_keyboard()
         self.desktop.type("Sketching")
         self.desktop.screenshot("rename")
         self.desktop.press("Return")
-        wait_until("the new name", lambda: self.skills()[DESIGN]["name"] == "Sketching")
+        wait_until("the new name", lambda: self.name_of(DESIGN) == "Sketching")
         self.assertEqual(typed.read_text(), "")
         self.desktop.type("mine\n")
         wait_until("the typed line", lambda: typed.read_text() == "mine\n")
@@ -190,26 +207,25 @@ class Edits(CapsuleTest):
         self.launch()
         self.open_capsule()
         self.click(ADD_ROW)
-        time.sleep(0.3)
+        self.await_keyboard()
         self.desktop.type("Nothing")
         self.desktop.press("Escape")
         time.sleep(0.3)
         self.click(ADD_ROW)
-        time.sleep(0.3)
+        self.await_keyboard()
         self.desktop.type("Research")
         self.desktop.screenshot("create")
         self.desktop.press("Return")
-        wait_until("the list", lambda: (self.vantle.data_directory / "skills.json").exists())
-        names = [skill["name"] for skill in self.skills().values()]
-        self.assertEqual(names[-1], "Research")
-        self.assertNotIn("Nothing", names)
+        wait_until("the new skill", lambda: "Research" in self.skill_names())
+        self.assertEqual(self.skill_names()[-1], "Research")
+        self.assertNotIn("Nothing", self.skill_names())
 
     def test_a_click_in_another_window_turns_away_from_the_editor(self):
         typed = self.open_editor()
         self.launch()
         self.open_capsule()
         self.click(ADD_ROW)
-        time.sleep(0.3)
+        self.await_keyboard()
         self.desktop.tool("xdotool", "mousemove", "400", "400", "sleep", "0.1", "click", "1")
         wait_until("a closed capsule", lambda: not self.is_open())
         self.desktop.type("mine\n")
