@@ -149,9 +149,15 @@ QList<Scene> settingsScenes() {
                 "settings-failures",
                 [](DemoSettings& world) {
                     world.hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};
-                    world.breakWrites(QStringLiteral("sessions.jsonl"), true);
+                    const QString log = QStringLiteral("sessions.jsonl");
+                    world.disk.setContent(DemoSettings::file("sessions.jsonl"), sampleLog());
+                    world.files.fail(fakes::FaultyFileSystem::Operation::Remove, log, EACCES);
                 },
-                end, [](SettingsView& view) { view.exportData(); })};
+                end,
+                [](SettingsView& view) {
+                    view.askToErase();
+                    view.confirmErase();
+                })};
 }
 
 } // namespace vantle

@@ -21,8 +21,9 @@ KitPressable {
         menu.openAt(picker, Math.max(currentIndex, 0));
     }
 
-    implicitWidth: textLeft + label.implicitWidth + DarkUI.space8 + chevron.width
-                   + DarkUI.space8
+    // Whole pixels, so that its right edge is as sharp as its left one.
+    implicitWidth: Math.ceil(textLeft + label.implicitWidth + DarkUI.space8 + chevron.width
+                             + DarkUI.space8)
     implicitHeight: DarkUI.menuHeight
     name: title
     onClicked: open()

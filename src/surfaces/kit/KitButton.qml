@@ -77,7 +77,7 @@ KitPressable {
         }
     }
 
-    implicitWidth: content.implicitWidth + 2 * padding
+    implicitWidth: Math.ceil(content.implicitWidth + 2 * padding) // sharp at both edges
     implicitHeight: DarkUI.buttonHeight
     name: text
 
