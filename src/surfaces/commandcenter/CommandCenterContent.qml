@@ -181,7 +181,7 @@ FocusScope {
             width: content.inner + DarkUI.space20
             title: qsTr("Dashboard")
             shortcut: "⌘D"
-            keys: ["Ctrl+D", "Meta+D"]
+            key: "D"
             onClicked: content.model.openDashboard()
         }
         NavRow {
@@ -201,7 +201,7 @@ FocusScope {
             width: content.inner + DarkUI.space20
             title: qsTr("Settings")
             shortcut: "⌘,"
-            keys: ["Ctrl+,", "Meta+,"]
+            key: ","
             onClicked: content.model.openSettings()
         }
 

@@ -8,7 +8,7 @@ KitPressable {
 
     required property string title
     property string shortcut // as it is written; empty for none
-    property var keys: [] // sequences that do the same
+    property string key // which does the same with ⌘ or Ctrl; empty for none
 
     implicitHeight: DarkUI.navRowHeight
     name: title
@@ -52,8 +52,8 @@ KitPressable {
     }
 
     Shortcut {
-        sequences: row.keys
-        enabled: row.keys.length > 0
+        sequences: ["Ctrl+" + row.key, "Meta+" + row.key]
+        enabled: row.key !== ""
         onActivated: row.clicked()
     }
 }
