@@ -4,7 +4,6 @@
 #include "tracking/DashFormat.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace vantle::cardwords {
 
@@ -28,9 +27,9 @@ QString share(double hours, const WrappedStats& stats) {
 
 QList<QColor> dotColors(const WrappedStats& stats, std::int64_t limit) {
     QList<QColor> newestFirst;
-    for (const totals::DotRun& run : std::views::reverse(stats.hourDots))
-        for (std::int64_t i = 0; i < run.count && newestFirst.size() < limit; ++i)
-            newestFirst << QColor::fromRgb(run.skill.hexRGB);
+    for (auto run = stats.hourDots.rbegin(); run != stats.hourDots.rend(); ++run)
+        for (std::int64_t i = 0; i < run->count && newestFirst.size() < limit; ++i)
+            newestFirst << QColor::fromRgb(run->skill.hexRGB);
     std::ranges::reverse(newestFirst);
     return newestFirst;
 }

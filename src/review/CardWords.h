@@ -9,6 +9,9 @@
 #include <QString>
 #include <QVariantList>
 
+#include <algorithm>
+#include <span>
+
 namespace vantle {
 
 /// A large figure and the small unit beside it, which may be empty.
@@ -42,6 +45,12 @@ inline constexpr std::uint32_t accent = 0x7A78FF;
 /// One colour for each finished hour of the period, oldest first; the last `limit` of them.
 [[nodiscard]] QList<QColor> dotColors(const WrappedStats& stats, std::int64_t limit);
 [[nodiscard]] std::int64_t dotCount(const WrappedStats& stats);
+
+/// The first values, as many as there is room for.
+template <typename Value>
+[[nodiscard]] std::span<const Value> firstOf(const std::vector<Value>& values, std::size_t room) {
+    return std::span(values).first(std::min(room, values.size()));
+}
 
 template <typename Value>
 [[nodiscard]] QVariantList asList(const std::vector<Value>& values) {

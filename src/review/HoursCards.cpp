@@ -3,7 +3,7 @@
 #include "base/DateText.h"
 #include "tracking/DashFormat.h"
 
-#include <ranges>
+#include <algorithm>
 
 namespace vantle::reviewcards {
 
@@ -52,8 +52,7 @@ HeroCard hero(const WrappedStats& stats, const WrappedSettings& settings) {
 std::vector<SkillLine> skillLines(const WrappedStats& stats, const WrappedSettings& settings,
                                   std::size_t shown) {
     std::vector<SkillLine> lines;
-    for (const auto& [skill, hours] :
-         stats.skillHours | std::views::take(static_cast<std::ptrdiff_t>(shown)))
+    for (const auto& [skill, hours] : cardwords::firstOf(stats.skillHours, shown))
         lines.push_back({skill.name, QColor::fromRgb(skill.hexRGB),
                          dashformat::inlineHours(hours, settings.durationStyle),
                          cardwords::share(hours, stats), hours / stats.skillHours.front().hours});

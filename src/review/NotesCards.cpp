@@ -3,8 +3,6 @@
 #include "base/DateText.h"
 #include "base/Text.h"
 
-#include <ranges>
-
 namespace vantle::reviewcards {
 
 namespace {
@@ -31,8 +29,7 @@ std::optional<NotesCard> notes(const WrappedStats& stats, const WrappedSettings&
     card.story = digest.storyLine();
     card.themes = digest.themes;
     const DateText date = DateText::fixed(QStringLiteral("MMM d"), settings.calendar);
-    for (const auto& note :
-         digest.highlights | std::views::take(static_cast<std::ptrdiff_t>(shown)))
+    for (const auto& note : cardwords::firstOf(digest.highlights, shown))
         card.highlights.push_back(
             {note.text, note.skill.name, QColor::fromRgb(note.skill.hexRGB), date(note.endedAt)});
     card.more = moreNotes(digest.noteCount - static_cast<qsizetype>(card.highlights.size()));

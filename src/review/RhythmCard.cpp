@@ -101,17 +101,15 @@ RhythmPicture rhythmPicture(const WrappedStats& stats, const WrappedSettings& se
     const TileMaker maker(stats, settings);
     RhythmPicture picture;
     picture.letters = rhythmmap::headerLetters(settings.calendar);
-    switch (rhythmmap::picture(stats.period)) {
+    picture.kind = rhythmmap::picture(stats.period);
+    switch (picture.kind) {
     case rhythmmap::Picture::Week:
-        picture.kind = RhythmPicture::WeekStrip;
         picture.weeks = maker.weeks(weekStrip(stats.period, days));
         break;
     case rhythmmap::Picture::Month:
-        picture.kind = RhythmPicture::MonthGrid;
         picture.weeks = maker.weeks(rhythmshape::monthWeeks(days));
         break;
     case rhythmmap::Picture::Year:
-        picture.kind = RhythmPicture::YearMap;
         picture.year = year;
         picture.weeks = maker.weeks(rhythmshape::yearWeeks(year, days));
         for (const auto& month : rhythmshape::yearMonths(year, days))
@@ -130,11 +128,11 @@ RhythmCard rhythm(const WrappedStats& stats, const WrappedSettings& settings,
     card.picture = rhythmPicture(stats, settings, year);
     card.caption = rhythmmap::caption(stats.period, year, today);
     card.label = rhythmmap::label(stats.period, year);
-    if (card.picture.kind == RhythmPicture::YearMap)
+    if (card.picture.isYear())
         for (const int choice : rhythmmap::yearChoices(stats.activeYears))
             card.years.push_back({choice, rhythmmap::yearChoiceLabel(choice)});
     // A month or more has no room for its wall.
-    if (card.picture.kind == RhythmPicture::WeekStrip && !stats.hourDots.empty()) {
+    if (card.picture.isWeek() && !stats.hourDots.empty()) {
         card.wallKicker = QStringLiteral("EVERY HOUR, ON THE WALL");
         card.wallCaption = wallCaption(cardwords::dotCount(stats) - wallCapacity);
         card.wallColors = cardwords::dotColors(stats, wallCapacity);

@@ -48,23 +48,26 @@ public:
 struct RhythmPicture {
     Q_GADGET
     QML_VALUE_TYPE(rhythmPicture)
-    Q_PROPERTY(Kind kind MEMBER kind CONSTANT)
+    Q_PROPERTY(bool isWeek READ isWeek CONSTANT)
+    Q_PROPERTY(bool isMonth READ isMonth CONSTANT)
+    Q_PROPERTY(bool isYear READ isYear CONSTANT)
     Q_PROPERTY(int year MEMBER year CONSTANT)
     Q_PROPERTY(QStringList letters MEMBER letters CONSTANT)
     Q_PROPERTY(QVariantList tiles READ tileList CONSTANT)
     Q_PROPERTY(QVariantList months READ monthList CONSTANT)
 
 public:
-    enum Kind { WeekStrip, MonthGrid, YearMap };
-    Q_ENUM(Kind)
-
     using Week = std::array<DayTile, 7>;
 
-    Kind kind = WeekStrip;
+    rhythmmap::Picture kind = rhythmmap::Picture::Week;
     int year = 0;                          ///< of a year map
     QStringList letters;                   ///< of the weekdays, in the order of the tiles
     std::vector<Week> weeks;               ///< empty where the calendar can't tell
     std::vector<std::vector<Week>> months; ///< of a year map
+
+    [[nodiscard]] bool isWeek() const { return kind == rhythmmap::Picture::Week; }
+    [[nodiscard]] bool isMonth() const { return kind == rhythmmap::Picture::Month; }
+    [[nodiscard]] bool isYear() const { return kind == rhythmmap::Picture::Year; }
 
     /// The tiles week after week, blanks included.
     [[nodiscard]] QVariantList tileList() const;

@@ -121,7 +121,7 @@ TEST(RhythmCard, MonthAndAllTimeHaveNoWall) {
 TEST(RhythmCard, TilesCarryTheirColourTheirOutlineAndTheirWords) {
     const auto stats = week({worked("2026-03-09T09:00:00Z", 90)});
     const auto picture = reviewcards::rhythm(stats, settings(), std::nullopt, 9).picture;
-    EXPECT_EQ(picture.kind, RhythmPicture::WeekStrip);
+    EXPECT_TRUE(picture.isWeek());
     EXPECT_EQ(picture.letters.join(u' '), QStringLiteral("M T W T F S S"));
     ASSERT_EQ(picture.weeks.size(), 1U);
     const auto& tiles = picture.weeks.front();
@@ -142,7 +142,7 @@ TEST(RhythmCard, YearComesAsOneMapAndMonthByMonth) {
                                       worked("2026-03-09T09:00:00Z", 90)};
     const auto stats = WrappedStats::compute(log, WrappedPeriod::AllTime, settings());
     const auto card = reviewcards::rhythm(stats, settings(), 2024, 9);
-    EXPECT_EQ(card.picture.kind, RhythmPicture::YearMap);
+    EXPECT_TRUE(card.picture.isYear());
     EXPECT_EQ(card.picture.year, 2024);
     EXPECT_EQ(card.picture.tileList().size() % 7, 0);
     ASSERT_EQ(card.picture.months.size(), 12U);

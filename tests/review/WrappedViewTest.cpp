@@ -6,7 +6,13 @@
 #include "review/stats/ReviewSamples.h"
 #include "tracking/NotificationCenter.h"
 
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlExpression>
+
 #include <gtest/gtest.h>
+
+#include <map>
 
 namespace vantle {
 namespace {
@@ -332,6 +338,42 @@ TEST_F(WrappedViewTest, WallTakesTheRoomThatThePageHas) {
     EXPECT_EQ(view->rhythm().wallColors.size(), 2);
     EXPECT_EQ(view->rhythm().wallCaption,
               QStringLiteral("One dot per finished hour. 3 earlier hours off the top."));
+}
+
+/// What a view reads by such an expression, as text.
+QString readByAView(WrappedView& view, const char* expression) {
+    QQmlEngine engine;
+    engine.rootContext()->setContextProperty(QStringLiteral("view"), &view);
+    QQmlExpression asked(engine.rootContext(), nullptr, QLatin1String(expression));
+    const QString text = asked.evaluate().toString();
+    return asked.hasError() ? asked.error().description() : text;
+}
+
+TEST_F(WrappedViewTest, ViewsCanReadIntoEveryPage) {
+    logNotes();
+    log.push_back(worked("2026-03-09T09:00:00Z", 12 * 60, QStringLiteral("marketing")));
+    open();
+    const std::map<const char*, QString> pages = {
+        {"view.hero.figure.value", QStringLiteral("15")},
+        {"view.hero.quiet[0]", QStringLiteral("All of it tracked live")},
+        {"view.skills.top.name", QStringLiteral("Marketing")},
+        {"view.skills.others[0].share", QStringLiteral("20%")},
+        {"view.persona.facts[1]", QStringLiteral("2 / 2 days")},
+        {"view.rhythm.picture.isWeek", QStringLiteral("true")},
+        {"view.rhythm.picture.tiles[0].hasFill", QStringLiteral("true")},
+        {"view.rhythm.wallColors.length", QStringLiteral("15")},
+        {"view.when.bars.length", QStringLiteral("12")},
+        {"view.when.facts[1].value", QStringLiteral("12 h")},
+        {"view.highPoints.lines.length > 0", QStringLiteral("true")},
+        {"view.milestones.badges[0].hours", QStringLiteral("10")},
+        {"view.narrative.kicker", QStringLiteral("THIS WEEK, IN WORDS")},
+        {"view.notes.highlights[0].skillName", QStringLiteral("Build")},
+        {"view.summary.fileName", QStringLiteral("wrapped-this-week.png")},
+        {"view.poster.figures[1].figure.value", QStringLiteral("4")},
+        {"view.poster.rhythm.tiles[2].isToday", QStringLiteral("true")},
+        {"view.countedUp(0.8).unit", QStringLiteral("h")}};
+    for (const auto& [expression, text] : pages)
+        EXPECT_EQ(readByAView(*view, expression), text) << expression;
 }
 
 } // namespace
