@@ -53,7 +53,7 @@ public:
         ScreenPower& screenPower;
         HotKeyPort& hotKeyPort;
         const ReducedMotion& reducedMotion;
-        TopRightCardSlot& cardSlot; ///< which its cards ask for the corner
+        TopRightCardSlot& cardSlot;           ///< which its cards ask for the corner
         FrontmostApp* frontmostApp = nullptr; ///< null where the desktop can't tell
         std::function<Calendar()> calendar;   ///< the person's calendar at the moment
         std::function<void()> terminate = {}; ///< ends the process once the model has stopped

@@ -93,8 +93,7 @@ void FloatingPanel::returnKeyboard() {
 bool FloatingPanel::event(QEvent* event) {
     const bool isPress = event->type() == QEvent::MouseButtonPress;
     // Delivering the press to an item turns its place into the item's own.
-    const QPointF place =
-        isPress ? static_cast<const QMouseEvent*>(event)->position() : QPointF();
+    const QPointF place = isPress ? static_cast<const QMouseEvent*>(event)->position() : QPointF();
     const bool handled = QQuickView::event(event);
     if (isPress) takeKeyboardForField(place);
     if (event->type() == QEvent::Enter) Q_EMIT pointerEntered();
