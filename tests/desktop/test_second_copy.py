@@ -53,7 +53,7 @@ class SecondCopy(DesktopTest):
         copies = [self.vantle, self.new_program()]
         for copy in copies:
             copy.start()
-        self.await_alert()
+        wait_until("the alert", self.alerts)
         self.desktop.await_tray_item()
 
         def one_is_left():

@@ -1,0 +1,2 @@
+// Holds the precompiled headers; nothing else is in this library.
+#include "support/headers.h"
