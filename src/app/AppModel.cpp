@@ -110,8 +110,11 @@ void AppModel::markWelcomeDone() {
 
 void AppModel::refreshPanelState() {
     const Date now = m_env.clock.now();
-    const bool ready = weeklyreview::wrappedIsReady(m_tracker.allSessions(), now, m_env.calendar(),
-                                                    m_env.preferences);
+    const Calendar calendar = m_env.calendar();
+    // The log is read only where it decides: it may hold years.
+    const bool ready =
+        !weeklyreview::lastWeekIsDone(now, calendar, m_env.preferences) &&
+        weeklyreview::wrappedIsReady(m_tracker.allSessions(), now, calendar, m_env.preferences);
     if (std::exchange(m_wrappedReady, ready) != ready) Q_EMIT wrappedReadyChanged();
     const int coverage = m_idle.coverageMinutes(now);
     if (std::exchange(m_backfillCoverageMinutes, coverage) != coverage)

@@ -26,10 +26,15 @@ QString wrappedSeenKey(Date forWeekContaining, const Calendar& calendar) {
     return QStringLiteral("wrapped.seen.%1-%2").arg(week.yearForWeekOfYear).arg(week.weekOfYear);
 }
 
+bool lastWeekIsDone(Date now, const Calendar& calendar, const Preferences& preferences) {
+    const auto week = lastWeekInterval(now, calendar);
+    return !week || preferences.flag(wrappedSeenKey(week->start, calendar));
+}
+
 bool wrappedIsReady(const std::vector<Session>& sessions, Date now, const Calendar& calendar,
                     const Preferences& preferences) {
+    if (lastWeekIsDone(now, calendar, preferences)) return false;
     const auto week = lastWeekInterval(now, calendar);
-    if (!week || preferences.flag(wrappedSeenKey(week->start, calendar))) return false;
     return std::ranges::count_if(sessions, [&](const Session& session) {
                return session.endedAt >= week->start && session.endedAt < week->end;
            }) >= kMinSessions;

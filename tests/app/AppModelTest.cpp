@@ -1,4 +1,5 @@
 #include "app/ModelWorld.h"
+#include "app/WeeklyReview.h"
 
 #include <gtest/gtest.h>
 
@@ -458,6 +459,17 @@ TEST_F(AppModelTest, PanelStateTellsTheReviewAndTheCoverage) {
     world.time.advance(Seconds(7 * 86400.0));
     model.refreshPanelState();
     EXPECT_TRUE(model.wrappedReady());
+}
+
+TEST_F(AppModelTest, PanelOfAWeekThatWasSeenReadsNoLog) {
+    AppModel& model = launched();
+    const Calendar utc{text("UTC"), 2, 4};
+    const auto week = weeklyreview::lastWeekInterval(world.time.now(), utc);
+    ASSERT_TRUE(week);
+    world.preferences.setBoolean(weeklyreview::wrappedSeenKey(week->start, utc), true);
+    world.files.forgetCalls();
+    model.refreshPanelState();
+    EXPECT_TRUE(world.files.calls().empty());
 }
 
 } // namespace
