@@ -1,5 +1,4 @@
 #include "app/ModelWorld.h"
-#include "app/WeeklyReview.h"
 
 #include <gtest/gtest.h>
 
@@ -446,30 +445,6 @@ TEST_F(AppModelTest, TheProjectNameIsTrimmedAndMayBeMissing) {
     EXPECT_EQ(model.projectName(), std::nullopt);
     model.setProjectName(text("  a boat "));
     EXPECT_EQ(model.projectName(), text("a boat"));
-}
-
-TEST_F(AppModelTest, PanelStateTellsTheReviewAndTheCoverage) {
-    AppModel& model = launched();
-    world.time.advance(330.0);
-    model.refreshPanelState();
-    EXPECT_EQ(model.backfillCoverageMinutes(), 5);
-    EXPECT_FALSE(model.wrappedReady());
-    model.quickLog(text("building"), 5, QString());
-    model.quickLog(text("building"), 5, QString());
-    world.time.advance(Seconds(7 * 86400.0));
-    model.refreshPanelState();
-    EXPECT_TRUE(model.wrappedReady());
-}
-
-TEST_F(AppModelTest, PanelOfAWeekThatWasSeenReadsNoLog) {
-    AppModel& model = launched();
-    const Calendar utc{text("UTC"), 2, 4};
-    const auto week = weeklyreview::lastWeekInterval(world.time.now(), utc);
-    ASSERT_TRUE(week);
-    world.preferences.setBoolean(weeklyreview::wrappedSeenKey(week->start, utc), true);
-    world.files.forgetCalls();
-    model.refreshPanelState();
-    EXPECT_TRUE(world.files.calls().empty());
 }
 
 } // namespace

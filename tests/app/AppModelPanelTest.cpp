@@ -1,0 +1,43 @@
+#include "app/ModelWorld.h"
+#include "app/WeeklyReview.h"
+
+#include <gtest/gtest.h>
+
+namespace vantle::tests {
+namespace {
+
+class AppModelPanelTest : public testing::Test {
+protected:
+    AppModel& launched() { return world.launch(); }
+
+    ModelWorld world;
+};
+
+QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+
+TEST_F(AppModelPanelTest, PanelStateTellsTheReviewAndTheCoverage) {
+    AppModel& model = launched();
+    world.time.advance(330.0);
+    model.refreshPanelState();
+    EXPECT_EQ(model.backfillCoverageMinutes(), 5);
+    EXPECT_FALSE(model.wrappedReady());
+    model.quickLog(text("building"), 5, QString());
+    model.quickLog(text("building"), 5, QString());
+    world.time.advance(Seconds(7 * 86400.0));
+    model.refreshPanelState();
+    EXPECT_TRUE(model.wrappedReady());
+}
+
+TEST_F(AppModelPanelTest, PanelOfAWeekThatWasSeenReadsNoLog) {
+    AppModel& model = launched();
+    const Calendar utc{text("UTC"), 2, 4};
+    const auto week = weeklyreview::lastWeekInterval(world.time.now(), utc);
+    ASSERT_TRUE(week);
+    world.preferences.setBoolean(weeklyreview::wrappedSeenKey(week->start, utc), true);
+    world.files.forgetCalls();
+    model.refreshPanelState();
+    EXPECT_TRUE(world.files.calls().empty());
+}
+
+} // namespace
+} // namespace vantle::tests
