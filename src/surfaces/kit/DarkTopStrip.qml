@@ -1,4 +1,5 @@
-// The strip at the top of a window that draws its own frame: drag it anywhere to move the window.
+// The strip at the top of a window that draws its own frame. What lies behind it moves the window:
+// asked from two places, a window manager would hold on to the pointer after the release.
 // What is put into it stands at the left of the two round buttons.
 pragma ComponentBehavior: Bound
 import QtQuick
@@ -14,12 +15,6 @@ Item {
     signal minimiseRequested
 
     implicitHeight: DarkUI.stripHeight
-
-    DragHandler {
-        target: null
-        grabPermissions: PointerHandler.CanTakeOverFromAnything
-        onActiveChanged: if (active && strip.Window.window) strip.Window.window.startSystemMove()
-    }
 
     DarkText {
         anchors.centerIn: parent

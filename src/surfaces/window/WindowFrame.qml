@@ -29,12 +29,13 @@ Item {
         composited: frame.rounded
     }
 
-    // Moves the window. The window manager is asked once: asked again after the release, it would
-    // hold on to the pointer.
-    component MoveArea: MouseArea {
+    // Any empty place moves the window. The window manager is asked once: asked again after the
+    // release, it would hold on to the pointer.
+    MouseArea {
         property point pressedAt
         property bool asked: false
 
+        anchors.fill: parent
         onPressed: mouse => {
             pressedAt = Qt.point(mouse.x, mouse.y);
             asked = false;
@@ -46,10 +47,6 @@ Item {
             asked = true;
             frame.shell.beginMove();
         }
-    }
-
-    MoveArea {
-        anchors.fill: parent
     }
 
     // Where the screen is too low for the view, it scrolls under the strip.
@@ -77,12 +74,6 @@ Item {
         title: frame.title
         onMinimiseRequested: frame.shell.minimise()
         onCloseRequested: frame.shell.requestClose()
-    }
-
-    // Over the strip, whose own handler would miss the release that the window manager takes.
-    MoveArea {
-        width: parent.width - 2 * (DarkUI.stripButton + DarkUI.space8)
-        height: DarkUI.stripHeight
     }
 
     ResizeEdges {
