@@ -12,6 +12,7 @@ FocusScope {
     readonly property real inner: width - 2 * margin
     readonly property bool stacked: width < 560
 
+    focus: true
     implicitWidth: 612
     implicitHeight: 512
 

@@ -8,6 +8,7 @@ FocusScope {
 
     required property LogView model
 
+    focus: true
     implicitWidth: 520
     implicitHeight: 620
 

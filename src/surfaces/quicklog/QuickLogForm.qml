@@ -10,6 +10,7 @@ FocusScope {
     required property QuickLogView model
     readonly property real margin: 32
 
+    focus: true
     implicitWidth: 460
     implicitHeight: column.y + column.height + DarkUI.space20
 
