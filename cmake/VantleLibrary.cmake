@@ -32,6 +32,9 @@ function(vantle_qml_module name)
     # Byte code spares the start the parsing. Going on to C++ would take half of a build's time, and
     # the views hold nothing that would run faster for it.
     set_target_properties(${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS "--only-bytecode")
+    # What is generated is many small files that include the same headers: a few are compiled at once.
+    set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 32)
+    set_source_files_properties(${ARG_SOURCES} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     # What Qt generates from the views shadows names and converts silently.
     target_compile_options(${name} PRIVATE -Wno-shadow -Wno-conversion)
     # The generated registration includes the headers of the module by their bare names.
