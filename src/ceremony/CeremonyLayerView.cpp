@@ -58,7 +58,7 @@ void CeremonyLayerView::paintField(QPainter& painter) {
     const int height = m_renderer->bufferHeight();
     // Wraps the buffer without a copy.
     const QImage field(reinterpret_cast<const uchar*>(m_renderer->fieldBuffer().data()), width,
-                       height, width * 4, QImage::Format_ARGB32_Premultiplied);
+                       height, qsizetype{width} * 4, QImage::Format_ARGB32_Premultiplied);
     const double scale = m_renderer->bufferScale();
     // The ground is clear, so there is nothing to blend with, which is a good deal cheaper.
     painter.setCompositionMode(QPainter::CompositionMode_Source);

@@ -93,80 +93,92 @@ void describeApplication() {
     QApplication::setQuitOnLastWindowClosed(false);
 }
 
+/// Everything real that the program stands on, made in the order in which one needs the other.
+struct Ground {
+    explicit Ground(PlatformEvents events)
+        : platform(platformfactory::makePlatform(scheduler, std::move(events))) {}
+
+    QtScheduler scheduler;
+    const std::unique_ptr<Platform> platform;
+    const SystemClock clock{};
+    ThreadQueue ioQueue{QStringLiteral("local.vantle.tracker-io")};
+    ThreadQueue autoSkillQueue{QLatin1String(AutoRules::ioQueueLabel)};
+    AppInstaller installer{platform->preferences(), platform->fileSystem(), thisProgram(*platform),
+                           installOperations(*platform)};
+    const AppPaths paths{platform->fileSystem(), platform->dataHome()};
+    Ceremony ceremony{{.clock = clock,
+                       .scheduler = scheduler,
+                       .preferences = platform->preferences(),
+                       .reducedMotion = platform->reducedMotion(),
+                       .screens = platform->screens(),
+                       .panelHost = platform->panelHost()}};
+    SharedEngine viewEngine{[&motion = platform->reducedMotion()](QQmlEngine& engine) {
+        Motion::of(engine)->setReduced(motion.enabled());
+    }};
+    FloatingSurfaces surfaces{{.engine = viewEngine,
+                               .scheduler = scheduler,
+                               .preferences = platform->preferences(),
+                               .reducedMotion = platform->reducedMotion(),
+                               .screens = platform->screens(),
+                               .panelHost = platform->panelHost()}};
+};
+
+AppDelegate::Environment environmentOn(Ground& ground, bool startedAtLogin) {
+    Platform& platform = *ground.platform;
+    return {.clock = ground.clock,
+            .scheduler = ground.scheduler,
+            .ioQueue = ground.ioQueue,
+            .autoSkillQueue = ground.autoSkillQueue,
+            .paths = ground.paths,
+            .preferences = platform.preferences(),
+            .idleSource = platform.idleSource(),
+            .screenPower = platform.screenPower(),
+            .hotKeyPort = platform.hotKeyPort(),
+            .frontmostApp = platform.frontmostApp(),
+            .processRunner = platform.processRunner(),
+            .reducedMotion = platform.reducedMotion(),
+            .autostart = platform.autostart(),
+            .trayItem = platform.trayItem(),
+            .cardStage = ground.surfaces.cardStage(),
+            .viewEngine = ground.viewEngine,
+            .panelHost = platform.panelHost(),
+            .screens = platform.screens(),
+            .pointerPresses = platform.pointerPresses(),
+            .shortcutsTool = shortcutsTool(),
+            .reveal = [&platform](const QString& path) { platform.reveal(path); },
+            .openShortcuts = [&platform] { return platform.openShortcuts(); },
+            .makeNotch = [&ground] { return ground.surfaces.makeNotch(); },
+            .makeRipple = [&ground] { return ground.ceremony.makeRipple(); },
+            .calendar = &Calendar::current,
+            .offerMoveToApplications =
+                [&ground] { return ground.installer.offerMoveToApplicationsIfNeeded(); },
+            .terminate = [] { QCoreApplication::quit(); },
+            .alertAlreadyRunning = alertAlreadyRunning,
+            .startedAtLogin = startedAtLogin};
+}
+
 int run(bool startedAtLogin) {
     AppDelegate* delegate = nullptr;
     const auto stop = [&delegate] {
         if (delegate) delegate->applicationWillTerminate();
     };
-    QtScheduler scheduler;
-    const std::unique_ptr<Platform> platform = platformfactory::makePlatform(
-        scheduler, {.activated =
-                        [&delegate] {
-                            if (delegate) delegate->applicationShouldHandleReopen();
-                        },
-                    .actionActivated =
-                        [&delegate](const QString& action) {
-                            if (delegate) delegate->performAction(action);
-                        },
-                    // Not quit(), which is deaf while an alert runs before the main loop.
-                    .endRequested = [] { QCoreApplication::exit(); },
-                    .displayLost = stop});
-    const SystemClock clock;
-    ThreadQueue ioQueue(QStringLiteral("local.vantle.tracker-io"));
-    ThreadQueue autoSkillQueue{QLatin1String(AutoRules::ioQueueLabel)};
-    AppInstaller installer(platform->preferences(), platform->fileSystem(), thisProgram(*platform),
-                           installOperations(*platform));
-    const AppPaths paths(platform->fileSystem(), platform->dataHome());
-    Ceremony ceremony({.clock = clock,
-                       .scheduler = scheduler,
-                       .preferences = platform->preferences(),
-                       .reducedMotion = platform->reducedMotion(),
-                       .screens = platform->screens(),
-                       .panelHost = platform->panelHost()});
-    SharedEngine viewEngine([&motion = platform->reducedMotion()](QQmlEngine& engine) {
-        Motion::of(engine)->setReduced(motion.enabled());
-    });
-    FloatingSurfaces surfaces({.engine = viewEngine,
-                               .scheduler = scheduler,
-                               .preferences = platform->preferences(),
-                               .reducedMotion = platform->reducedMotion(),
-                               .screens = platform->screens(),
-                               .panelHost = platform->panelHost()});
-    AppDelegate app({.clock = clock,
-                     .scheduler = scheduler,
-                     .ioQueue = ioQueue,
-                     .autoSkillQueue = autoSkillQueue,
-                     .paths = paths,
-                     .preferences = platform->preferences(),
-                     .idleSource = platform->idleSource(),
-                     .screenPower = platform->screenPower(),
-                     .hotKeyPort = platform->hotKeyPort(),
-                     .frontmostApp = platform->frontmostApp(),
-                     .processRunner = platform->processRunner(),
-                     .reducedMotion = platform->reducedMotion(),
-                     .autostart = platform->autostart(),
-                     .trayItem = platform->trayItem(),
-                     .cardStage = surfaces.cardStage(),
-                     .viewEngine = viewEngine,
-                     .panelHost = platform->panelHost(),
-                     .screens = platform->screens(),
-                     .pointerPresses = platform->pointerPresses(),
-                     .shortcutsTool = shortcutsTool(),
-                     .reveal = [&platform](const QString& path) { platform->reveal(path); },
-                     .openShortcuts = [&platform] { return platform->openShortcuts(); },
-                     .makeNotch = [&surfaces] { return surfaces.makeNotch(); },
-                     .makeRipple = [&ceremony] { return ceremony.makeRipple(); },
-                     .calendar = &Calendar::current,
-                     .offerMoveToApplications =
-                         [&installer] { return installer.offerMoveToApplicationsIfNeeded(); },
-                     .terminate = [] { QCoreApplication::quit(); },
-                     .alertAlreadyRunning = alertAlreadyRunning,
-                     .startedAtLogin = startedAtLogin});
+    Ground ground({.activated =
+                       [&delegate] {
+                           if (delegate) delegate->applicationShouldHandleReopen();
+                       },
+                   .actionActivated =
+                       [&delegate](const QString& action) {
+                           if (delegate) delegate->performAction(action);
+                       },
+                   // Not quit(), which is deaf while an alert runs before the main loop.
+                   .endRequested = [] { QCoreApplication::exit(); },
+                   .displayLost = stop});
+    AppDelegate app(environmentOn(ground, startedAtLogin));
     if (!app.applicationDidFinishLaunching()) return EXIT_SUCCESS;
     delegate = &app;
     runningDelegate = &app;
     std::atexit(stopAtExit);
-    platform->listen();
+    ground.platform->listen();
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, stop);
     const int status = QApplication::exec();
     runningDelegate = nullptr;

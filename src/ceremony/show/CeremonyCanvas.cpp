@@ -154,7 +154,7 @@ void CeremonyCanvas::drawCenteredGlow(double radius, std::uint32_t color, double
     if (!(radius > 1 && centerAlpha > kFaint)) return;
     const double r = radius / m_scale;
     const Box box = centeredBox(r);
-    const auto count = static_cast<std::size_t>(box.right - box.left + 1);
+    const auto count = static_cast<std::size_t>(box.right - box.left) + 1;
     for (int row = box.top; row <= box.bottom; ++row) {
         const float* distance = m_distances.data() + offset(box.left, row);
         for (std::size_t i = 0; i < count; ++i) {

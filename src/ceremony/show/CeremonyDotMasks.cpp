@@ -27,7 +27,7 @@ std::uint8_t coverageOf(int x, int y, double center, double radius, double halo)
     for (int i = 0; i < kSamples; ++i)
         for (int j = 0; j < kSamples; ++j)
             sum += sample(x + (j + 0.5) / kSamples, y + (i + 0.5) / kSamples, center, radius, halo);
-    const int byte = static_cast<int>(sum / (kSamples * kSamples) * 255 + 0.5);
+    const int byte = static_cast<int>(std::lround(sum / (kSamples * kSamples) * 255));
     return static_cast<std::uint8_t>(std::min(byte, 255));
 }
 
@@ -59,9 +59,7 @@ void CeremonyDotMask::prepareRows() {
     int right = -1;
     int top = m_side;
     int bottom = -1;
-    const auto weight = [this](int x, int y) {
-        return weightOf(m_coverage[static_cast<std::size_t>(y * m_side + x)]);
-    };
+    const auto weight = [this](int x, int y) { return weightOf(m_coverage[place(x, y)]); };
     for (int y = 0; y < m_side; ++y) {
         for (int x = 0; x < m_side; ++x) {
             if (weight(x, y) == 0) continue;
@@ -119,8 +117,7 @@ void CeremonyDotMask::stampClipped(CeremonyCanvas& canvas, int x, int y, std::ui
     const int endRow = std::min(m_side, canvas.height() - y);
     for (int row = firstRow; row < endRow; ++row) {
         for (int column = firstColumn; column < endColumn; ++column) {
-            const auto weight =
-                weightOf(m_coverage[static_cast<std::size_t>(row * m_side + column)]);
+            const auto weight = weightOf(m_coverage[place(column, row)]);
             const auto pixel =
                 static_cast<std::size_t>(y + row) * static_cast<std::size_t>(canvas.width()) +
                 static_cast<std::size_t>(x + column);

@@ -24,6 +24,11 @@ public:
     void stamp(CeremonyCanvas& canvas, int x, int y, std::uint32_t color, int strength) const;
 
 private:
+    /// Where the byte of a pixel stands in the coverage.
+    [[nodiscard]] std::size_t place(int x, int y) const {
+        return static_cast<std::size_t>(y) * static_cast<std::size_t>(m_side) +
+               static_cast<std::size_t>(x);
+    }
     void prepareRows();
     void stampRows(std::uint32_t* corner, std::size_t stride, std::uint32_t color,
                    std::uint8_t strength) const;

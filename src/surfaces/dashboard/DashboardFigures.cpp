@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 namespace vantle::dashboard {
 
@@ -65,10 +64,10 @@ std::vector<StatBlock> stats(const Sessions& sessions, const DashboardSetting& s
 
 QList<QColor> wallColors(const Sessions& sessions, const DashboardSetting& setting) {
     QList<QColor> newestFirst;
-    for (const auto& run :
-         std::views::reverse(totals::hourDotRuns(sessions, setting.now, setting.skills)))
-        for (std::int64_t i = 0; i < run.count && newestFirst.size() < wallCells; ++i)
-            newestFirst << QColor::fromRgb(run.skill.hexRGB);
+    const auto runs = totals::hourDotRuns(sessions, setting.now, setting.skills);
+    for (auto run = runs.rbegin(); run != runs.rend(); ++run)
+        for (std::int64_t i = 0; i < run->count && newestFirst.size() < wallCells; ++i)
+            newestFirst << QColor::fromRgb(run->skill.hexRGB);
     std::ranges::reverse(newestFirst);
     return newestFirst;
 }
@@ -117,12 +116,12 @@ std::vector<RecentLine> recent(const Sessions& sessions, const DashboardSetting&
     const auto groups = SessionGroup::grouped(sessions);
     const DateText date = DateText::fixed(QStringLiteral("MMM d · HH:mm"), setting.calendar);
     std::vector<RecentLine> lines;
-    for (const SessionGroup& group :
-         groups | std::views::reverse | std::views::take(recentGroups)) {
-        const Skill skill = SkillList::display(group.skillId, setting.skills);
-        lines.push_back({date(group.endedAt), QColor::fromRgb(skill.hexRGB), skill.name,
-                         dashformat::sessionDuration(group.seconds, setting.style),
-                         group.allManual});
+    for (auto group = groups.rbegin(); group != groups.rend() && lines.size() < recentGroups;
+         ++group) {
+        const Skill skill = SkillList::display(group->skillId, setting.skills);
+        lines.push_back({date(group->endedAt), QColor::fromRgb(skill.hexRGB), skill.name,
+                         dashformat::sessionDuration(group->seconds, setting.style),
+                         group->allManual});
     }
     return lines;
 }

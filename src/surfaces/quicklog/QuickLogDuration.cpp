@@ -45,7 +45,8 @@ QuickLogDuration QuickLogDuration::normalized() const {
 }
 
 QuickLogDuration QuickLogDuration::stepped(int steps) const {
-    return of(sum(parse(hours).value_or(0), parse(minutes).value_or(0)) + steps * stepMinutes);
+    return of(sum(parse(hours).value_or(0), parse(minutes).value_or(0)) +
+              std::int64_t{steps} * stepMinutes);
 }
 
 } // namespace vantle
