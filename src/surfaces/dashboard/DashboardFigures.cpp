@@ -100,6 +100,7 @@ std::vector<SkillTotalLine> skillTotals(const Sessions& sessions, const Dashboar
     for (const auto& total : totals)
         whole += total.hours;
     std::vector<SkillTotalLine> lines;
+    lines.reserve(totals.size());
     for (const auto& [skill, hours] : totals)
         lines.push_back({skill.name, QColor::fromRgb(skill.hexRGB), hours / totals.front().hours,
                          dashformat::inlineHours(hours, setting.style), shareText(hours, whole)});
