@@ -52,6 +52,8 @@ class Endings(DesktopTest):
         self.assert_one_record_and_no_marker()
 
     def test_the_end_of_the_x_server_logs_the_open_session(self):
+        # The toolkit ends the process where it stands: what was in use then is no leak.
+        self.desktop.env["ASAN_OPTIONS"] = "detect_leaks=0"
         self.launch()
         marker = self.begin_session()
         os.kill(self.desktop.x_server_process(), signal.SIGKILL)

@@ -7,5 +7,8 @@
 int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
     testing::InitGoogleMock(&argc, argv);
-    return RUN_ALL_TESTS();
+    const int result = RUN_ALL_TESTS();
+    // What deletes itself later does so now, as it would in an event loop.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return result;
 }

@@ -28,8 +28,12 @@ CommandCenterController::~CommandCenterController() {
 
 std::function<void()> CommandCenterController::afterHiding(void (WindowRouter::*open)()) {
     return [this, open] {
+        // Hiding the panel destroys its content, and this function with it: what comes after needs
+        // copies of its own.
+        WindowRouter& router = m_env.router;
+        const auto openWindow = open;
         hide();
-        (m_env.router.*open)();
+        (router.*openWindow)();
     };
 }
 
