@@ -61,6 +61,9 @@ public:
     /// change of the clock skips midnight.
     [[nodiscard]] Date startOfDay(localtime::Day day);
 
+    /// The first moment of the day after the one that holds `date`.
+    [[nodiscard]] Date endOfDay(Date date) { return startOfDay(at(date).day + 1); }
+
     /// The first day of the week that holds `day`, by the calendar's rules. Empty in an unknown
     /// zone.
     [[nodiscard]] std::optional<localtime::Day> firstOfWeek(localtime::Day day) const;

@@ -71,8 +71,7 @@ void DashboardView::reload() {
         sessions.empty() ? kNoColor
                          : SkillList::display(sessions.back().skillId, now.skills).hexRGB);
 
-    LocalTime wall(now.calendar);
-    m_dayEnds = m_env.scheduler.scheduleOnce(wall.startOfDay(wall.at(now.now).day + 1) - now.now,
+    m_dayEnds = m_env.scheduler.scheduleOnce(LocalTime(now.calendar).endOfDay(now.now) - now.now,
                                              [this] { reload(); });
     Q_EMIT figuresChanged();
     Q_EMIT ticked();

@@ -26,10 +26,9 @@ void LogView::reload() {
     m_filters.setSkills(m_rows.content().log.skills);
     if (!m_editingId.isEmpty() && !entry(m_editingId)) cancelEdit();
 
-    LocalTime wall(m_rows.content().calendar);
-    const Date now = m_rows.content().now;
-    m_dayEnds = m_env.scheduler.scheduleOnce(wall.startOfDay(wall.at(now).day + 1) - now,
-                                             [this] { reload(); });
+    const auto& [log, visible, now, calendar, style] = m_rows.content();
+    m_dayEnds =
+        m_env.scheduler.scheduleOnce(LocalTime(calendar).endOfDay(now) - now, [this] { reload(); });
     Q_EMIT shownChanged();
 }
 
@@ -73,12 +72,6 @@ QString LogView::subtitleText() const {
 QString LogView::footerText() const {
     const auto& [log, visible, now, calendar, style] = m_rows.content();
     return noteslog::footerText(log, visible, style);
-}
-
-QString LogView::widestTimeText() const {
-    LocalTime wall(m_rows.content().calendar);
-    const Date midnight = wall.startOfDay(wall.at(m_rows.content().now).day);
-    return DateText::time(m_rows.content().calendar)(midnight + Seconds(22 * 3600.0));
 }
 
 const LogEntry* LogView::entry(const QString& id) const {

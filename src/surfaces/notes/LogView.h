@@ -74,7 +74,7 @@ public:
     [[nodiscard]] QString countText() const;
     [[nodiscard]] QString subtitleText() const;
     [[nodiscard]] QString footerText() const;
-    [[nodiscard]] QString widestTimeText() const;
+    [[nodiscard]] const QString& widestTimeText() const { return m_rows.widestTimeText(); }
     [[nodiscard]] bool showsFilters() const { return !m_rows.content().log.skills.empty(); }
     [[nodiscard]] bool showsAll() const { return !m_filter.skillId; }
     [[nodiscard]] const QString& query() const { return m_filter.query; }

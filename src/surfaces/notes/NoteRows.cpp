@@ -9,6 +9,13 @@
 
 namespace vantle {
 
+namespace {
+
+/// Ten in the evening: two digits in clocks of 12 and of 24 hours.
+constexpr Seconds kWidestTime(22 * 3600.0);
+
+} // namespace
+
 NoteRows::NoteRows() : m_time(DateText::time(m_content.calendar)) {}
 
 NoteRows::Lines NoteRows::linesOf(const Content& content) {
@@ -25,6 +32,9 @@ void NoteRows::adopt(Content content, Lines lines) {
     m_content = std::move(content);
     m_lines = std::move(lines);
     m_time = DateText::time(m_content.calendar);
+    m_dayLabels = std::make_unique<DayLabels>(m_content.now, m_content.calendar);
+    LocalTime wall(m_content.calendar);
+    m_widestTime = m_time(wall.startOfDay(wall.at(m_content.now).day) + kWidestTime);
 }
 
 void NoteRows::narrow(const LogFilter& filter) {
@@ -92,7 +102,7 @@ QVariant NoteRows::data(const QModelIndex& index, int role) const {
     case IsManualRole:
         return entry.isManual;
     case DayRole:
-        return noteslog::dayLabel(m_lines.days[row.day].day, m_content.now, m_content.calendar);
+        return (*m_dayLabels)(m_lines.days[row.day].day);
     default:
         return {};
     }

@@ -2,10 +2,13 @@
 #pragma once
 
 #include "base/DateText.h"
+#include "surfaces/notes/DayLabels.h"
 #include "surfaces/notes/NotesLog.h"
 
 #include <QAbstractListModel>
 #include <QQmlEngine>
+
+#include <memory>
 
 namespace vantle {
 
@@ -38,6 +41,8 @@ public:
     NoteRows();
 
     [[nodiscard]] const Content& content() const { return m_content; }
+    /// As wide as a time of day can be.
+    [[nodiscard]] const QString& widestTimeText() const { return m_widestTime; }
 
     /// Shows what passes the filter, from the top.
     void narrow(const LogFilter& filter);
@@ -69,6 +74,8 @@ private:
     Content m_content;
     Lines m_lines;
     DateText m_time;
+    std::unique_ptr<DayLabels> m_dayLabels; ///< none before there is a content
+    QString m_widestTime;
 };
 
 } // namespace vantle

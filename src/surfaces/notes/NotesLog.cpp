@@ -1,6 +1,5 @@
 #include "surfaces/notes/NotesLog.h"
 
-#include "base/DateText.h"
 #include "base/LocalTime.h"
 #include "base/Text.h"
 #include "tracking/DashFormat.h"
@@ -104,18 +103,6 @@ std::vector<LogDay> days(const NotesLog& log, const Places& visible, const Calen
         }
     }
     return days;
-}
-
-QString dayLabel(Date day, Date now, const Calendar& calendar) {
-    LocalTime wall(calendar);
-    const localtime::Day number = wall.at(day).day;
-    const localtime::Day today = wall.at(now).day;
-    if (number == today) return QStringLiteral("Today");
-    if (number == today - 1) return QStringLiteral("Yesterday");
-    const bool isThisYear = localtime::yearOf(number) == localtime::yearOf(today);
-    const QString pattern =
-        isThisYear ? QStringLiteral("EEE, MMM d") : QStringLiteral("MMM d, yyyy");
-    return DateText::fixed(pattern, calendar)(day);
 }
 
 QString countWord(std::size_t count) {

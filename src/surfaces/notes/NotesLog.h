@@ -70,9 +70,6 @@ struct LogDay {
 [[nodiscard]] std::vector<LogDay> days(const NotesLog& log, const Places& visible,
                                        const Calendar& calendar);
 
-/// "Today", "Yesterday", "Wed, Nov 19", and with the year where it is another one than now's.
-[[nodiscard]] QString dayLabel(Date day, Date now, const Calendar& calendar);
-
 /// "note" or "notes", to stand after the count.
 [[nodiscard]] QString countWord(std::size_t count);
 

@@ -1,6 +1,7 @@
 #include "surfaces/notes/NotesLog.h"
 
 #include "support/QtPrinters.h"
+#include "surfaces/notes/DayLabels.h"
 #include "tracking/Samples.h"
 
 #include <gtest/gtest.h>
@@ -139,9 +140,7 @@ TEST(NotesLog, ClockSetBackOverMidnightReturnsToTheSameDay) {
 
 TEST(NotesLog, DayIsCalledByWhatItIsToday) {
     const Date now = samples::at("2026-01-02T10:00:00Z");
-    const auto label = [&](const char* day) {
-        return noteslog::dayLabel(samples::at(day), now, kUtc);
-    };
+    const auto label = [&](const char* day) { return DayLabels(now, kUtc)(samples::at(day)); };
     EXPECT_EQ(label("2026-01-02T00:00:00Z"), QStringLiteral("Today"));
     EXPECT_EQ(label("2026-01-01T00:00:00Z"), QStringLiteral("Yesterday"));
     EXPECT_EQ(label("2025-12-31T00:00:00Z"), QStringLiteral("Dec 31, 2025"));
