@@ -110,11 +110,9 @@ void AppModel::markWelcomeDone() {
 
 void AppModel::refreshPanelState() {
     const Date now = m_env.clock.now();
-    const Calendar calendar = m_env.calendar();
+    const auto week = weeklyreview::unseenLastWeek(now, m_env.calendar(), m_env.preferences);
     // The log is read only where it decides: it may hold years.
-    const bool ready =
-        !weeklyreview::lastWeekIsDone(now, calendar, m_env.preferences) &&
-        weeklyreview::wrappedIsReady(m_tracker.allSessions(), now, calendar, m_env.preferences);
+    const bool ready = week && weeklyreview::holdsAReview(m_tracker.allSessions(), *week);
     if (std::exchange(m_wrappedReady, ready) != ready) Q_EMIT wrappedReadyChanged();
     const int coverage = m_idle.coverageMinutes(now);
     if (std::exchange(m_backfillCoverageMinutes, coverage) != coverage)

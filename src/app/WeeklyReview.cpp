@@ -26,17 +26,16 @@ QString wrappedSeenKey(Date forWeekContaining, const Calendar& calendar) {
     return QStringLiteral("wrapped.seen.%1-%2").arg(week.yearForWeekOfYear).arg(week.weekOfYear);
 }
 
-bool lastWeekIsDone(Date now, const Calendar& calendar, const Preferences& preferences) {
+std::optional<WeekInterval> unseenLastWeek(Date now, const Calendar& calendar,
+                                           const Preferences& preferences) {
     const auto week = lastWeekInterval(now, calendar);
-    return !week || preferences.flag(wrappedSeenKey(week->start, calendar));
+    if (week && preferences.flag(wrappedSeenKey(week->start, calendar))) return std::nullopt;
+    return week;
 }
 
-bool wrappedIsReady(const std::vector<Session>& sessions, Date now, const Calendar& calendar,
-                    const Preferences& preferences) {
-    if (lastWeekIsDone(now, calendar, preferences)) return false;
-    const auto week = lastWeekInterval(now, calendar);
+bool holdsAReview(const std::vector<Session>& sessions, const WeekInterval& week) {
     return std::ranges::count_if(sessions, [&](const Session& session) {
-               return session.endedAt >= week->start && session.endedAt < week->end;
+               return session.endedAt >= week.start && session.endedAt < week.end;
            }) >= kMinSessions;
 }
 

@@ -26,13 +26,12 @@ struct WeekInterval {
 /// The preference that says that the review of the week was opened: "wrapped.seen.2026-9".
 [[nodiscard]] QString wrappedSeenKey(Date forWeekContaining, const Calendar& calendar);
 
-/// Whether last week's review was opened, or there is no such week: then the log need not be asked.
-[[nodiscard]] bool lastWeekIsDone(Date now, const Calendar& calendar,
-                                  const Preferences& preferences);
+/// Last week, if its review was not looked at yet. Empty: then the log need not be asked.
+[[nodiscard]] std::optional<WeekInterval> unseenLastWeek(Date now, const Calendar& calendar,
+                                                         const Preferences& preferences);
 
-/// Whether last week holds at least two ends of sessions and was not looked at yet.
-[[nodiscard]] bool wrappedIsReady(const std::vector<Session>& sessions, Date now,
-                                  const Calendar& calendar, const Preferences& preferences);
+/// Whether the week holds at least two ends of sessions.
+[[nodiscard]] bool holdsAReview(const std::vector<Session>& sessions, const WeekInterval& week);
 
 } // namespace weeklyreview
 } // namespace vantle

@@ -31,8 +31,9 @@ QJsonValue ready(const QJsonObject& input) {
         preferences.setBoolean(key.toString(), true);
     const std::vector<Session> sessions = sessionsFromJson(input[QLatin1String("sessions")]);
     const Date now = dateFromJson(input[QLatin1String("now")]);
-    return QJsonObject{{QStringLiteral("ready"),
-                        weeklyreview::wrappedIsReady(sessions, now, calendar, preferences)}};
+    const auto week = weeklyreview::unseenLastWeek(now, calendar, preferences);
+    return QJsonObject{
+        {QStringLiteral("ready"), week && weeklyreview::holdsAReview(sessions, *week)}};
 }
 
 QJsonValue answer(const Case& item) {
