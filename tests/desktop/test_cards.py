@@ -138,7 +138,7 @@ class Recovery(CardTest):
         self.begin_session()
         self.end_session()
         x, y, width, height = self.await_card(SUMMARY)
-        self.assertFalse(self.is_up(RECOVERY))
+        wait_until("the notice gone", lambda: not self.is_up(RECOVERY), deadline=2)
         self.click(x + width - 50, y + height - 36)
         self.await_card(RECOVERY)
 
