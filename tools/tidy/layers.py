@@ -17,7 +17,8 @@ ROWS = (
     ("tracking", "surfaces/panel"),
     ("sensing", "review/stats", "review/narrative", "ceremony/show"),
     ("app", "surfaces/window"),
-    ("surfaces/*", "review", "ceremony"),
+    ("review",),
+    ("surfaces/*", "ceremony"),
     ("app/launch", "platform/*"),
 )
 RANKS = {folder: rank for rank, row in enumerate(ROWS) for folder in row}
