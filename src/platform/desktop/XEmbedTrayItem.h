@@ -26,7 +26,9 @@ public:
     void setImage(const QIcon& image) { m_icon.setIcon(image); }
     void setToolTip(const QString& text) { m_icon.setToolTip(text); }
 
-    [[nodiscard]] bool isShown() const { return m_shown; }
+    /// What shownChanged() told last: a tray that dies while the item is made shows it for an
+    /// instant that nobody hears of.
+    [[nodiscard]] bool isShown() const { return m_toldShown; }
     /// Where the tray has put it; empty while no tray has.
     [[nodiscard]] QRect geometry() const { return m_shown ? m_icon.geometry() : QRect(); }
 
