@@ -37,12 +37,13 @@ class Windows(DesktopTest):
     def open(self, action, title):
         """Opens a window and waits until it has the keyboard."""
         activate_action(self.desktop, action)
-        window, = wait_until(title, lambda: self.desktop.windows_named(title + ".*"))
+        window, = wait_until(title, lambda: self.desktop.windows_named(title))
         wait_until("the window in front", lambda: self.desktop.active_window() == window)
+        self.assertEqual(self.desktop.active_window_title(), title)
         return window
 
     def await_closed(self, title):
-        wait_until("the window gone", lambda: not self.desktop.windows_named(title + ".*"))
+        wait_until("the window gone", lambda: not self.desktop.windows_named(title))
 
     def drag(self, x, y, by_x, by_y):
         """Presses there, moves in two steps as a hand does, and lets go."""
@@ -97,7 +98,7 @@ class Windows(DesktopTest):
         session, = self.vantle.sessions()
         self.assertEqual(session["activeSeconds"], 5400)
         self.assertEqual(session["source"], "manual")
-        wait_until("the dashboard", lambda: self.desktop.active_window_title().startswith("Your"))
+        wait_until("the dashboard", lambda: self.desktop.active_window_title() == "Your hours")
         wait_until("the dashboard drawn anew", lambda: self.desktop.picture(
             *self.desktop.frame_of(self.desktop.active_window())) != empty)
 
@@ -110,7 +111,7 @@ class Windows(DesktopTest):
         self.desktop.type("0")
         self.desktop.press("Return")
         self.desktop.screenshot("refused")
-        self.assertTrue(self.desktop.windows_named("Quick Log.*"))
+        self.assertTrue(self.desktop.windows_named("Quick Log"))
         self.desktop.press("Escape")
         self.await_closed("Quick Log")
         self.assertEqual(self.vantle.sessions(), [])

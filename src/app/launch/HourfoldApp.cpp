@@ -87,8 +87,8 @@ AppInstaller::Operations installOperations(Platform& platform) {
 }
 
 void describeApplication() {
+    // No display name besides: it would be appended to the title of every window.
     QApplication::setApplicationName(QStringLiteral("vantle"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Vantle"));
     QApplication::setDesktopFileName(QStringLiteral("local.vantle.Vantle"));
     QApplication::setQuitOnLastWindowClosed(false);
 }

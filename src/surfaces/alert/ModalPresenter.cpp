@@ -51,7 +51,7 @@ int runOnMainThread(const Alert& alert) {
         chosen = index;
         loop.quit();
     });
-    window.setTitle(QGuiApplication::applicationDisplayName());
+    window.setTitle(QStringLiteral("Vantle"));
     window.setFlags(Qt::Dialog | Qt::WindowStaysOnTopHint);
     // The rest of the program waits for the answer.
     window.setModality(Qt::ApplicationModal);
