@@ -6,6 +6,7 @@
 #include "ceremony/show/CeremonyFrameRenderer.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 
 #include <malloc.h>
@@ -14,9 +15,13 @@ namespace vantle {
 
 namespace {
 
-/// Lies beside the program, where the system has a web engine to build it with.
+/// Lies beside the program where both were built, and among what is its own where they were
+/// installed. There is none where the system has no web engine to build it with.
 QString webModulePath() {
-    return resourcefolders::ofProgram() + QStringLiteral("/vantle-webceremony.so");
+    const QString name = QStringLiteral("/vantle-webceremony.so");
+    const QString built = resourcefolders::ofProgram() + name;
+    if (QFileInfo::exists(built)) return built;
+    return QDir::cleanPath(resourcefolders::ofProgram() + QStringLiteral("/../lib/vantle") + name);
 }
 
 QString findPage() { return resourcefolders::find(QStringLiteral("ceremony.html")); }

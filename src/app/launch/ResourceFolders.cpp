@@ -7,8 +7,11 @@
 namespace vantle::resourcefolders {
 
 QStringList all() {
-    const QString installed = QDir::cleanPath(ofProgram() + QStringLiteral("/../share/vantle"));
-    return {installed, QStringLiteral(VANTLE_SOURCE_RESOURCES)};
+    QStringList folders{QDir::cleanPath(ofProgram() + QStringLiteral("/../share/vantle"))};
+#ifdef VANTLE_SOURCE_RESOURCES
+    folders << QStringLiteral(VANTLE_SOURCE_RESOURCES);
+#endif
+    return folders;
 }
 
 QString find(const QString& name) {
