@@ -1,0 +1,41 @@
+// The poster on the page that shares it.
+#pragma once
+
+#include "review/SharePoster.h"
+#include "surfaces/kit/BakedItem.h"
+
+namespace vantle {
+
+/// As wide as it is given, and as high as the poster is then; sharp at the scale of its window.
+/// Main thread.
+class SharePosterPicture : public vantle::BakedItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(vantle::SharePoster poster READ poster WRITE setPoster NOTIFY changed)
+    /// Of the corners, px; with one there is a fine edge as well.
+    Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY changed)
+
+public:
+    explicit SharePosterPicture(QQuickItem* parent = nullptr);
+
+    [[nodiscard]] const SharePoster& poster() const { return m_poster; }
+    void setPoster(const SharePoster& poster);
+    [[nodiscard]] double radius() const { return m_radius; }
+    void setRadius(double radius);
+
+Q_SIGNALS:
+    void changed();
+
+protected:
+    void paint(QPainter& painter, double scale) override;
+    void geometryChange(const QRectF& now, const QRectF& before) override;
+
+private:
+    void wantHeight();
+    void drawEdge(QPainter& painter);
+
+    SharePoster m_poster;
+    double m_radius = 0;
+};
+
+} // namespace vantle

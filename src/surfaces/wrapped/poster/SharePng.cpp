@@ -1,0 +1,29 @@
+#include "surfaces/wrapped/poster/SharePng.h"
+
+#include "surfaces/wrapped/poster/SharePosterPainter.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QImage>
+#include <QPainter>
+
+namespace vantle {
+
+std::optional<QByteArray> renderSharePNG(const SharePoster& poster) {
+    const QSize pixels = (shareposter::size(poster) * kShareScale).toSize();
+    QImage image(pixels, QImage::Format_RGB32);
+    if (image.isNull()) return std::nullopt;
+    {
+        QPainter painter(&image);
+        painter.scale(kShareScale, kShareScale);
+        shareposter::draw(painter, poster, kShareScale);
+    }
+    image.setColorSpace(QColorSpace::SRgb);
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    if (!image.save(&buffer, "PNG")) return std::nullopt;
+    return png;
+}
+
+} // namespace vantle
