@@ -36,8 +36,10 @@ FocusScope {
         cacheBuffer: Math.max(0, height)
 
         section.property: "dayText"
-        // From its file: a list can't make a component that is bound to this one.
-        section.delegate: Qt.createComponent("NotesDayHeading.qml")
+        // From its file: a list can't make a component that is bound to this one. The list holds
+        // it, or the collector would take it while headings are still made of it.
+        section.delegate: Qt.createComponent("NotesDayHeading.qml", Component.PreferSynchronous,
+                                             list)
 
         delegate: NoteRow {
             width: ListView.view.width
