@@ -7,7 +7,7 @@ ArrowGroup {
     id: row
 
     required property list<color> colors
-    property list<string> names // read out, in the order of the colours
+    property list<string> names // read out instead of their digits, in the order of the colours
     property int currentIndex: -1
     readonly property real pitch: colors.length > 1
                                   ? (width - DarkUI.swatchCell) / (colors.length - 1) : 0
@@ -17,6 +17,7 @@ ArrowGroup {
     implicitHeight: DarkUI.swatchCell
     list: cells
     current: Math.max(currentIndex, 0)
+    Accessible.name: qsTr("Color")
     onMoved: index => activated(index) // the arrow keys choose as they go
 
     Item {
@@ -35,10 +36,12 @@ ArrowGroup {
                 x: Math.round(index * row.pitch)
                 width: DarkUI.swatchCell
                 height: DarkUI.swatchCell
-                name: row.names[index] ?? modelData.toString()
+                name: row.names[index]
+                      ?? qsTr("Color %1").arg(modelData.toString().slice(1).toUpperCase())
                 Accessible.role: Accessible.RadioButton
                 Accessible.checkable: true
                 Accessible.checked: chosen
+                Accessible.description: chosen ? qsTr("Selected") : qsTr("Not selected")
                 onClicked: row.activated(index)
 
                 Rectangle {

@@ -41,6 +41,7 @@ Item {
             width: chips.width
             height: chips.height
             list: chips
+            Accessible.name: qsTr("Filter by skill")
 
             Row {
                 id: chips

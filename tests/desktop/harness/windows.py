@@ -1,0 +1,84 @@
+"""The frame of tests about the program's windows."""
+
+import json
+
+from .bus import activate_action
+from .case import DesktopTest
+from .reader import Reader
+from .waiting import wait_until
+
+# The action that opens a window, and its title.
+DASHBOARD = ("dashboard", "Your hours")
+NOTES = ("notes", "Your notes")
+QUICK_LOG = ("quick-log", "Quick Log")
+SETTINGS = ("settings", "Settings")
+
+
+def record(number, note, source="mac_app"):
+    """A session of half an hour on a day of long ago."""
+    return {
+        "id": f"5A3B1D1E-4A52-4C1B-9A1E-{number:012d}",
+        "skillId": "building",
+        "startedAt": f"2025-11-{number:02d}T09:00:00Z",
+        "endedAt": f"2025-11-{number:02d}T09:30:00Z",
+        "activeSeconds": 1800,
+        "note": note,
+        "source": source,
+    }
+
+
+class WindowCase(DesktopTest):
+
+    compositor = True
+
+    def write_records(self, records):
+        directory = self.vantle.data_directory
+        directory.mkdir(mode=0o700, parents=True, exist_ok=True)
+        self.vantle.log_file.write_text("".join(json.dumps(one) + "\n" for one in records))
+
+    def write_log(self, *notes):
+        self.write_records(record(number, note) for number, note in enumerate(notes, 1))
+
+    def notes(self):
+        return [session["note"] for session in self.vantle.sessions()]
+
+    def open(self, action, title):
+        """Opens a window and waits until it has the keyboard."""
+        activate_action(self.desktop, action)
+        window, = wait_until(title, lambda: self.desktop.windows_named(title))
+        wait_until("the window in front", lambda: self.desktop.active_window() == window)
+        self.assertEqual(self.desktop.active_window_title(), title)
+        return window
+
+    def await_closed(self, title):
+        wait_until("the window gone", lambda: not self.desktop.windows_named(title))
+
+    def close(self, title):
+        self.desktop.press("ctrl+w")
+        self.await_closed(title)
+
+
+class ReaderCase(WindowCase):
+    """With a screen reader, `self.reader`; the capsule and the tray stay away."""
+
+    tray_kind = DesktopTest.NO_TRAY
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.env["VANTLE_AUTOSTART"] = "1"  # nothing pops up by itself
+        self.reader = Reader(self.desktop)
+        self.addCleanup(self.reader.stop)
+        self.reader.start()
+
+    def await_told(self, title, role, name):
+        """Waits until the window tells of the one element of that role and name."""
+        def told():
+            try:
+                return self.reader.window(title).find(role, name)
+            except LookupError:
+                return None
+
+        try:
+            return wait_until(f"{role} {name!r}", told)
+        except AssertionError as failure:
+            raise AssertionError(f"{failure}:\n{self.reader.window(title).told()}") from None

@@ -1,0 +1,196 @@
+"""What a screen reader is told of every surface, and what it can do there."""
+
+import unittest
+from datetime import datetime, timedelta, timezone
+
+from harness.bus import activate
+from harness.case import FIRST_SKILL, PANEL_TITLE
+from harness.waiting import wait_until
+from harness.windows import DASHBOARD, NOTES, QUICK_LOG, ReaderCase, record
+
+CAPSULE = "Vantle Capsule"
+SUMMARY = "Vantle Session Summary"
+RECOVERY = "Vantle Recovery"
+
+MODES = ("Build", "Design", "Marketing", "Distribution", "Founder Ops", "Connections")
+
+
+def stamp(moment):
+    return moment.strftime("%Y-%m-%dT%H:%M:%SZ")
+
+
+class ScreenReader(ReaderCase):
+
+    def assert_told(self, window, *expected):
+        """Of each role and name exactly one; a third text is the description."""
+        for role, name, *description in expected:
+            with self.subTest(name=name):
+                found = window.find(role, name)
+                self.assertIn("enabled", found.states)
+                if description:
+                    self.assertEqual([found.description], description)
+
+    def assert_nothing_is_nameless(self, window):
+        pressed = ("push button", "check box", "combo box", "text", "slider", "radio button",
+                   "link", "list item", "graphic", "dialog")
+        nameless = [one for one in window.all() if one.role in pressed and not one.name]
+        self.assertEqual(nameless, [], window.told())
+
+
+class OfWindows(ScreenReader):
+
+    def test_the_hours(self):
+        self.write_records([record(1, ""), record(2, "", "manual"), record(3, "")])
+        self.launch()
+        self.open(*DASHBOARD)
+        window = self.reader.window("Your hours")
+        self.assert_nothing_is_nameless(window)
+        self.assert_told(
+            window, ("heading", "Your hours"), ("push button", "Log time"),
+            ("push button", "Wrapped", "A recap of your work, computed on this Mac"),
+            ("push button", "Start building"),
+            ("panel", "Today: 2 h goal · a session starts the bar"),
+            ("panel", "All time: 1.5 h, next milestone 10 h"),
+            ("graphic", "Hour wall, 1 completed hours, current hour 50 percent complete"),
+            ("heading", "Hours by skill"), ("label", "Build, 1.5 h, 100%"),
+            ("heading", "Recent sessions"),
+            ("label", "Nov 3 · 09:30, Build, 30 min"),
+            ("label", "Nov 2 · 09:30, Build, 30 min, manual"))
+        self.reader.press(window.find("push button", "Start building"))
+        wait_until("a marker", self.vantle.marker)
+        window = self.reader.window("Your hours")
+        chip, = [one for one in window.all() if one.name.endswith(". Stops the session.")]
+        self.assertRegex(chip.name, r"^In Vantle · \d+ sec\. Stops the session\.$")
+        self.assertEqual((chip.role, chip.description), ("push button", "Stop the session"))
+
+    def test_the_notes(self):
+        self.write_log("first draft", "second draft")
+        self.launch()
+        self.open(*NOTES)
+        window = self.reader.window("Your notes")
+        self.assert_nothing_is_nameless(window)
+        self.assert_told(
+            window, ("heading", "2 notes"), ("label", "Across 1 h of tracked work."),
+            ("text", "Search notes"), ("panel", "Filter by skill"), ("push button", "All"),
+            ("push button", "Build"), ("list", "Notes"), ("heading", "Nov 2, 2025"),
+            ("list item", "second draft, 09:00, Build, 30 min"),
+            ("label", "Longest noted session: 30 min. Most noted: Build."))
+        self.assertIn("checked", window.find("push button", "All").states)
+        self.assertNotIn("checked", window.find("push button", "Build").states)
+        self.desktop.type("nowhere")
+        self.await_told("Your notes", "label", "Nothing matches that yet.")
+        window = self.reader.window("Your notes")
+        self.assert_told(window, ("push button", "Clear the filters"), ("heading", "0 notes"))
+        self.reader.press(window.find("push button", "Clear the filters"))
+        self.await_told("Your notes", "heading", "2 notes")
+
+    def test_the_form_for_time_by_hand(self):
+        self.launch()
+        self.open(*QUICK_LOG)
+        window = self.reader.window("Quick Log")
+        self.assert_nothing_is_nameless(window)
+        self.assert_told(
+            window, ("heading", "Add time manually"), ("combo box", "Skill", "Build"),
+            ("text", "Hours worked"), ("text", "Minutes worked", "Enter a number of minutes"),
+            ("push button", "5 minutes less"), ("push button", "5 minutes more"),
+            ("text", "Work note", "Optional. Helps you remember what moved forward."),
+            ("push button", "Cancel"), ("push button", "Add to history"))
+        self.desktop.press("ctrl+a")
+        self.desktop.type("0")
+        self.desktop.press("Tab")
+        self.desktop.type("0")
+        self.desktop.press("Return")
+        self.await_told("Quick Log", "alert message", "Enter a time between 1 minute and 16 hours.")
+
+
+class OfFloatingSurfaces(ScreenReader):
+
+    def test_the_panel_and_its_editor(self):
+        self.launch()
+        activate(self.desktop)
+        self.await_told(PANEL_TITLE, "push button", "New Mode")
+        window = self.reader.window(PANEL_TITLE)
+        self.assert_nothing_is_nameless(window)
+        self.assert_told(
+            window, ("dialog", PANEL_TITLE), ("heading", "Ready to focus"),
+            ("push button", "Enter Vantle"), ("panel", "Modes"), ("push button", "Build", "Selected"),
+            *(("push button", name, "Not selected") for name in MODES[1:]),
+            ("push button", "Dashboard"), ("push button", "Wrapped"), ("push button", "Notes"),
+            ("push button", "Settings"), ("push button", "Quit", "Quit Vantle (⌘Q)"))
+        self.assertIn("focused", window.find("push button", "Enter Vantle").states)
+        self.reader.press(window.find("push button", "New Mode"))
+        self.await_told(PANEL_TITLE, "text", "New mode name")
+        window = self.reader.window(PANEL_TITLE)
+        self.assert_told(window, ("panel", "Name your mode"), ("push button", "Cancel"),
+                         ("panel", "Color"))
+        swatches = [one for one in window.all() if one.name.startswith("Color ")]
+        self.assertRegex(swatches[0].name, "^Color [0-9A-F]{6}$")
+        chosen = ["Selected" if "checked" in one.states else "Not selected" for one in swatches]
+        self.assertEqual([one.description for one in swatches], chosen)
+        self.assertEqual(chosen.count("Selected"), 1)
+
+    def test_the_capsule_and_its_editor(self):
+        self.launch()
+        self.desktop.tool("xdotool", "mousemove", "720", "2")
+        self.await_told(CAPSULE, "push button", "Start")
+        window = self.reader.window(CAPSULE)
+        self.assert_nothing_is_nameless(window)
+        self.assert_told(window, *(("push button", name) for name in MODES),
+                         ("push button", "New skill", "Add a skill"))
+        self.assertIn("checked", window.find("push button", "Build").states)
+        self.reader.press(window.find("push button", "New skill"))
+        field = self.await_told(CAPSULE, "text", "Skill name")
+        self.assertEqual(field.description, "e.g. Writing")
+        self.assert_told(self.reader.window(CAPSULE), ("heading", "Create a skill"),
+                         ("push button", "Cancel"), ("radio button", "Color 7A78FF"))
+
+    def test_an_alert(self):
+        self.launch()
+        second = self.new_program()
+        second.start()
+        self.await_told("Vantle", "push button", "OK")
+        window = self.reader.window("Vantle")
+        self.assert_nothing_is_nameless(window)
+        alert, = [one for one in window.all() if one.role == "alert message"]
+        self.assert_told(window, ("label", alert.name), ("label", alert.description))
+        self.reader.press(window.find("push button", "OK"))
+        self.assertEqual(second.wait(), 0)
+
+    def test_the_card_after_a_session(self):
+        self.launch()
+        self.begin_session()
+        self.end_session()
+        self.await_told(SUMMARY, "text", "Work note")
+        window = self.reader.window(SUMMARY)
+        self.assert_nothing_is_nameless(window)
+        dialog, = [one for one in window.all() if one.role == "dialog"]
+        self.assertRegex(dialog.name, r"^\d+ sec of Build$")
+        self.assert_told(window, ("label", dialog.name), ("push button", "Close"))
+        x, y, width, height = window.find("text", "Work note").frame
+        self.desktop.tool("xdotool", "mousemove", str(x + width // 2), str(y + height // 2),
+                          "click", "1")
+        self.desktop.type("a word")
+        self.await_told(SUMMARY, "push button", "Close and save note")
+        self.assert_told(self.reader.window(SUMMARY), ("push button", "Clear note"))
+
+    def test_the_offer_to_keep_a_session(self):
+        started = datetime.now(timezone.utc) - timedelta(hours=1)
+        self.vantle.write_marker(
+            id="0F6B1D1E-4A52-4C1B-9A1E-7F3B2C5D8E90", skillId=FIRST_SKILL, activeSeconds=125,
+            startedAt=stamp(started), lastSeenAt=stamp(started + timedelta(minutes=5)))
+        self.launch()
+        title = "Recover your last session?"
+        dialog = self.await_told(RECOVERY, "dialog", title)
+        self.assertRegex(dialog.description, r"Keep 2 min of Build\?")
+        window = self.reader.window(RECOVERY)
+        self.assert_nothing_is_nameless(window)
+        self.assert_told(
+            window,
+            ("push button", "Discard", "Deletes the interrupted session without saving it"),
+            ("push button", "Keep", "Saves the interrupted session to your local log"))
+        self.reader.press(window.find("push button", "Keep"))
+        wait_until("a record", self.vantle.sessions)
+
+
+if __name__ == "__main__":
+    unittest.main()
