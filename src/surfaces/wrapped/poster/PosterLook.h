@@ -34,13 +34,14 @@ struct Role {
 
 inline constexpr Role kWordmark{true, 17, QFont::DemiBold, -0.010};
 inline constexpr Role kKicker{false, 11, QFont::DemiBold, 0.080};
+inline constexpr Role kSmallKicker{false, 10, QFont::DemiBold, 0.080};
 inline constexpr Role kName{true, 42, QFont::DemiBold, -0.026};
 inline constexpr Role kHours{true, 84, QFont::DemiBold, -0.020};
 inline constexpr Role kHoursUnit{true, 30, QFont::DemiBold, -0.020};
 inline constexpr Role kClosing{false, 15, QFont::Normal, 0};
 inline constexpr Role kLetter{false, 11, QFont::Normal, 0};
 inline constexpr Role kSkill{false, 13, QFont::Medium, 0};
-inline constexpr Role kSkillHours{false, 13, QFont::Normal, 0};
+inline constexpr Role kSkillHours{false, 13, QFont::Medium, 0};
 inline constexpr Role kFigure{true, 24, QFont::DemiBold, -0.014};
 inline constexpr Role kFooter{false, 11, QFont::Normal, 0};
 

@@ -13,6 +13,7 @@ struct TileShape {
     QSizeF size;
     double radius = 0;
     bool hasEdge = true; ///< too fine a line for small tiles
+    double ringAway = 3; ///< from the tile to the outer edge of the ring around today's
 };
 
 constexpr double kEdgeWidth = 1;
@@ -29,7 +30,7 @@ const TileShape& monthTile() {
     return shape;
 }
 const TileShape& yearTile() {
-    static const TileShape shape{{10.5, 10.5}, 2.8, false};
+    static const TileShape shape{{10.5, 10.5}, 2.8, false, 1.25};
     return shape;
 }
 
@@ -59,8 +60,7 @@ void drawTile(QPainter& painter, QPointF topLeft, const DayTile& tile, const Til
                    kEdgeWidth);
     }
     if (!tile.isToday || tile.outlineWidth <= 0) return;
-    // Today's ring stands around the tile, as far away as it is wide, where there is room for that.
-    const double away = shape.hasEdge ? 2 * tile.outlineWidth : 0;
+    const double away = shape.ringAway;
     edgeInside(painter, area.adjusted(-away, -away, away, away), shape.radius + away, tile.outline,
                tile.outlineWidth);
 }

@@ -3,11 +3,63 @@
 #include "surfaces/kit/Typeface.h"
 
 #include <QFontMetricsF>
+#include <QGlyphRun>
 #include <QPainter>
-#include <QPen>
+#include <QPainterPath>
+#include <QRawFont>
 #include <QTextLayout>
 
 namespace vantle::postertext {
+
+namespace {
+
+/// Whether the typeface has pictures in place of outlines, as those of emoji do.
+bool hasPictures(const QRawFont& face) {
+    for (const char* const table : {"CBDT", "sbix", "COLR"})
+        if (!face.fontTable(table).isEmpty()) return true;
+    return false;
+}
+
+/// The letters of a line about its baseline. Outlines are filled as they are: a desktop's taste in
+/// rendering text, stronger here and finer there, does not get into the picture.
+struct Shaped {
+    Shaped(const QString& text, const QFont& font) {
+        QTextLayout layout(text, font);
+        QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+        option.setWrapMode(QTextOption::NoWrap);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        const QTextLine line = layout.createLine();
+        layout.endLayout();
+        if (!line.isValid()) return;
+        for (QGlyphRun run : line.glyphRuns()) {
+            QList<QPointF> places = run.positions();
+            for (QPointF& place : places)
+                place.ry() -= line.ascent();
+            run.setPositions(places);
+            add(run);
+        }
+    }
+
+    QPainterPath outlines;
+    QList<QGlyphRun> pictures;
+
+private:
+    void add(const QGlyphRun& run) {
+        const QRawFont face = run.rawFont();
+        if (hasPictures(face)) {
+            pictures << run;
+            return;
+        }
+        const auto glyphs = run.glyphIndexes();
+        const auto places = run.positions();
+        for (qsizetype i = 0; i < glyphs.size(); ++i)
+            outlines.addPath(face.pathForGlyph(glyphs[i]).translated(places[i]));
+        outlines.setFillRule(Qt::WindingFill);
+    }
+};
+
+} // namespace
 
 QFont font(const posterlook::Role& role) {
     const Typeface& face = role.display ? Typeface::display() : Typeface::text();
@@ -16,9 +68,6 @@ QFont font(const posterlook::Role& role) {
     font.setWeight(role.weight);
     font.setLetterSpacing(QFont::AbsoluteSpacing, role.size * (role.tracking + face.tracking));
     font.setHintingPreference(QFont::PreferNoHinting);
-    // No coloured edges: nobody knows on what screen the picture will be looked at.
-    font.setStyleStrategy(
-        static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
     return font;
 }
 
@@ -61,9 +110,14 @@ QStringList broken(const QString& text, const QFont& font, double room, int most
 
 void draw(QPainter& painter, QPointF baseline, const QString& text, const QFont& font,
           const QBrush& brush) {
-    painter.setFont(font);
-    painter.setPen(QPen(brush, 0));
-    painter.drawText(baseline, text);
+    const Shaped shaped(text, font);
+    painter.setPen(Qt::NoPen);
+    painter.translate(baseline);
+    painter.fillPath(shaped.outlines, brush);
+    painter.setPen(Qt::white); // of which pictures take the opacity alone
+    for (const QGlyphRun& picture : shaped.pictures)
+        painter.drawGlyphRun({}, picture);
+    painter.translate(-baseline);
 }
 
 void drawBefore(QPainter& painter, QPointF baseline, const QString& text, const QFont& font,
@@ -74,6 +128,10 @@ void drawBefore(QPainter& painter, QPointF baseline, const QString& text, const 
 void drawAround(QPainter& painter, QPointF baseline, const QString& text, const QFont& font,
                 const QBrush& brush) {
     draw(painter, baseline - QPointF(width(text, font) / 2, 0), text, font, brush);
+}
+
+double inkLeft(const QString& text, const QFont& font) {
+    return Shaped(text, font).outlines.boundingRect().left();
 }
 
 } // namespace vantle::postertext

@@ -44,4 +44,7 @@ void drawBefore(QPainter& painter, QPointF baseline, const QString& text, const 
 void drawAround(QPainter& painter, QPointF baseline, const QString& text, const QFont& font,
                 const QBrush& brush);
 
+/// How far right of its place the first letter shows, which large letters make visible.
+[[nodiscard]] double inkLeft(const QString& text, const QFont& font);
+
 } // namespace vantle::postertext

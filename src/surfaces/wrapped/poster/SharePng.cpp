@@ -5,6 +5,7 @@
 #include <QBuffer>
 #include <QColorSpace>
 #include <QImage>
+#include <QImageWriter>
 #include <QPainter>
 
 namespace vantle {
@@ -21,8 +22,8 @@ std::optional<QByteArray> renderSharePNG(const SharePoster& poster) {
     image.setColorSpace(QColorSpace::SRgb);
     QByteArray png;
     QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    if (!image.save(&buffer, "PNG")) return std::nullopt;
+    QImageWriter writer(&buffer, "png");
+    if (!writer.write(image)) return std::nullopt;
     return png;
 }
 

@@ -21,6 +21,12 @@ constexpr double kHoursUnitGap = 8;
 constexpr double kNameRoom = Layout::kBarLeft - Layout::kMargin - 12;
 constexpr double kRowLine = 4; // from the middle of a row to its baseline
 constexpr double kColumnGap = 10;
+constexpr double kSmallInk = 0.5; // where small letters show beside the margin
+
+/// Where large text has to stand for its letters to begin with those of the small texts.
+double optical(const QString& text, const QFont& font) {
+    return Layout::kMargin + kSmallInk - postertext::inkLeft(text, font);
+}
 
 void drawHeader(QPainter& painter, const SharePoster& poster) {
     QSvgRenderer icon(QStringLiteral(":/vantle/poster/app-icon.svg"));
@@ -28,17 +34,18 @@ void drawHeader(QPainter& painter, const SharePoster& poster) {
     postertext::draw(painter, {Layout::kBesideIcon, Layout::kWordmarkLine}, poster.wordmark,
                      postertext::font(kWordmark), t1());
     postertext::draw(painter, {Layout::kBesideIcon, Layout::kTitleLine}, poster.title,
-                     postertext::font(kKicker), t2());
+                     postertext::font(kSmallKicker), t2());
 }
 
 void drawName(QPainter& painter, const SharePoster& poster, double line) {
     const QFont font =
         postertext::fitted(postertext::font(kName), poster.personaName, Layout::kColumn);
     const double width = postertext::width(poster.personaName, font);
-    QLinearGradient gradient(Layout::kMargin, 0, Layout::kMargin + width, 0);
+    QLinearGradient gradient(0, 0, width, 0); // from where the text stands
     gradient.setColorAt(0, poster.startColor);
     gradient.setColorAt(1, poster.endColor);
-    postertext::draw(painter, {Layout::kMargin, line}, poster.personaName, font, gradient);
+    postertext::draw(painter, {optical(poster.personaName, font), line}, poster.personaName, font,
+                     gradient);
 }
 
 void drawHours(QPainter& painter, const ReviewFigure& hours, double line) {
@@ -47,8 +54,9 @@ void drawHours(QPainter& painter, const ReviewFigure& hours, double line) {
         hours.unit.isEmpty() ? 0 : kHoursUnitGap + postertext::width(hours.unit, unitFont);
     const QFont font =
         postertext::fitted(postertext::font(kHours), hours.value, Layout::kColumn - unitRoom);
-    postertext::draw(painter, {Layout::kMargin, line}, hours.value, font, t1());
-    const double end = Layout::kMargin + postertext::width(hours.value, font);
+    const double left = optical(hours.value, font);
+    postertext::draw(painter, {left, line}, hours.value, font, t1());
+    const double end = left + postertext::width(hours.value, font);
     postertext::draw(painter, {end + kHoursUnitGap, line}, hours.unit, unitFont, t3());
 }
 
@@ -91,7 +99,7 @@ void drawBreakdown(QPainter& painter, const SharePoster& poster, const Layout& a
 
 void drawFigures(QPainter& painter, const SharePoster& poster, const Layout& at) {
     painter.fillRect(QRectF(Layout::kMargin, at.divider, Layout::kColumn, 1), hairline());
-    const QFont titleFont = postertext::font(kKicker);
+    const QFont titleFont = postertext::font(kSmallKicker);
     const double pitch = Layout::kColumn / double(std::max<std::size_t>(poster.figures.size(), 1));
     for (std::size_t i = 0; i < poster.figures.size(); ++i) {
         const auto& [figure, title] = poster.figures[i];
