@@ -75,6 +75,15 @@ std::vector<rhythmshape::Week> weekStrip(WrappedPeriod period, const RhythmDays&
     return strip;
 }
 
+void addMonths(RhythmPicture& picture, const std::vector<std::vector<GridDay>>& months,
+               const TileMaker& maker, const Calendar& calendar) {
+    const DateText name = DateText::fixed(QStringLiteral("LLL"), calendar);
+    for (const auto& month : months) {
+        picture.months.push_back(maker.weeks(rhythmshape::inWeeks(month, calendar)));
+        picture.monthNames << (month.empty() ? QString() : name(month.front().date));
+    }
+}
+
 QString wallCaption(std::int64_t leftOut) {
     if (leftOut <= 0)
         return QStringLiteral("One dot per finished hour, in the skill that earned it.");
@@ -112,8 +121,7 @@ RhythmPicture rhythmPicture(const WrappedStats& stats, const WrappedSettings& se
     case rhythmmap::Picture::Year:
         picture.year = year;
         picture.weeks = maker.weeks(rhythmshape::yearWeeks(year, days));
-        for (const auto& month : rhythmshape::yearMonths(year, days))
-            picture.months.push_back(maker.weeks(rhythmshape::inWeeks(month, days.calendar)));
+        addMonths(picture, rhythmshape::yearMonths(year, days), maker, settings.calendar);
         break;
     }
     return picture;

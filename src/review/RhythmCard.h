@@ -64,6 +64,7 @@ public:
     QStringList letters;                   ///< of the weekdays, in the order of the tiles
     std::vector<Week> weeks;               ///< empty where the calendar can't tell
     std::vector<std::vector<Week>> months; ///< of a year map
+    QStringList monthNames;                ///< of a year map, short: "Jan"
 
     [[nodiscard]] bool isWeek() const { return kind == rhythmmap::Picture::Week; }
     [[nodiscard]] bool isMonth() const { return kind == rhythmmap::Picture::Month; }

@@ -1,0 +1,83 @@
+#include "review/drawing/RhythmTilePainter.h"
+
+#include "surfaces/kit/ColorMath.h"
+
+#include <QPainter>
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vantle::rhythmtile {
+
+namespace {
+
+constexpr double kEdge = 1;
+constexpr double kEdgeOpacity = 0.16;
+constexpr double kEmptyOpacity = 0.05;
+
+/// Where the painter's pixels are, if they are straight.
+class Pixels {
+public:
+    explicit Pixels(const QPainter& painter) : m_device(painter.deviceTransform()) {}
+
+    /// Every tile of a size keeps the same one; only the gaps may differ by a pixel.
+    [[nodiscard]] QRectF snapped(const QRectF& area) const {
+        if (m_device.type() > QTransform::TxScale) return area;
+        const QRectF there = m_device.mapRect(area);
+        const QRectF whole(std::round(there.x()), std::round(there.y()),
+                           std::max(1.0, std::round(there.width())),
+                           std::max(1.0, std::round(there.height())));
+        return m_device.inverted().mapRect(whole);
+    }
+
+    /// A fine line is as many whole pixels wide.
+    [[nodiscard]] double snapped(double width) const {
+        if (m_device.type() > QTransform::TxScale) return width;
+        const double scale = std::abs(m_device.m11());
+        return std::max(1.0, std::round(width * scale)) / scale;
+    }
+
+private:
+    QTransform m_device;
+};
+
+void fill(QPainter& painter, const QRectF& area, double radius, const QColor& color) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawRoundedRect(area, radius, radius);
+}
+
+/// A line along the inside of the area.
+void edge(QPainter& painter, const QRectF& area, double radius, const QColor& color, double width) {
+    const double half = width / 2;
+    painter.setPen(QPen(color, width));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(area.adjusted(half, half, -half, -half), radius - half, radius - half);
+}
+
+} // namespace
+
+void draw(QPainter& painter, QPointF topLeft, const TileShape& shape, const DayTile& tile) {
+    if (!tile.isDay) return;
+    const Pixels pixels(painter);
+    const QRectF area = pixels.snapped(QRectF(topLeft, shape.size));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    fill(painter, area, shape.radius,
+         tile.hasFill ? tile.fill : colormath::withAlpha(Qt::white, kEmptyOpacity));
+    if (tile.isFuture)
+        edge(painter, area, shape.radius, tile.outline, pixels.snapped(tile.outlineWidth));
+    else if (tile.hasFill && !shape.isSmall)
+        edge(painter, area, shape.radius, colormath::withAlpha(Qt::white, kEdgeOpacity),
+             pixels.snapped(kEdge));
+    if (tile.isToday) {
+        // A ring around the tile, as far away as it is wide where there is room for that.
+        const double away = shape.isSmall ? tile.outlineWidth : 2 * tile.outlineWidth;
+        edge(painter, area.adjusted(-away, -away, away, away), shape.radius + away, tile.outline,
+             tile.outlineWidth);
+    }
+    painter.restore();
+}
+
+} // namespace vantle::rhythmtile
