@@ -3,6 +3,10 @@
 #include "base/DateText.h"
 #include "base/Text.h"
 
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+
 namespace vantle::reviewcards {
 
 namespace {
@@ -13,10 +17,18 @@ QString moreNotes(qsizetype left) {
                      : QStringLiteral("%1 more notes are in your log").arg(left);
 }
 
+/// The length of the first sentence, with the space after it.
+qsizetype firstSentence(const QString& text) {
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Sentence, text);
+    return std::max<qsizetype>(finder.toNextBoundary(), 0);
+}
+
 } // namespace
 
 NarrativeCard narrative(WrappedPeriod period, const QString& text) {
+    const auto opening = firstSentence(text);
     return {text::upperCased(wrappedperiod::label(period)) + QStringLiteral(", IN WORDS"), text,
+            text.left(opening), text.mid(opening),
             QStringLiteral("Written on your Mac. Nothing was sent anywhere.")};
 }
 

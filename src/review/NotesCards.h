@@ -14,11 +14,15 @@ struct NarrativeCard {
     QML_VALUE_TYPE(narrativeCard)
     Q_PROPERTY(QString kicker MEMBER kicker CONSTANT)
     Q_PROPERTY(QString text MEMBER text CONSTANT)
+    Q_PROPERTY(QString opening MEMBER opening CONSTANT)
+    Q_PROPERTY(QString rest MEMBER rest CONSTANT)
     Q_PROPERTY(QString quiet MEMBER quiet CONSTANT)
 
 public:
     QString kicker;
     QString text;
+    QString opening; ///< the first sentence of the text, with the space after it
+    QString rest;
     QString quiet;
 };
 

@@ -93,6 +93,7 @@ QtObject {
     readonly property real bannerEdge: 0.30
     readonly property real wrappedFill: 0.14 // of the row of a review that waits
     readonly property real wrappedEdge: 0.34
+    readonly property real pointTint: 0.14 // of the disc of a high point
     readonly property real pausedOpacity: 0.78 // of the wide button while time is paused
     readonly property real disabledOpacity: 0.45 // of a whole chip, switch or slider
 
@@ -111,7 +112,16 @@ QtObject {
     readonly property TypeRole titleL: DisplayRole { size: 24; line: 30; tracking: -0.014 }
     readonly property TypeRole capsuleClock: DisplayRole { size: 23; line: 28; tracking: -0.010 }
     readonly property TypeRole titleM: DisplayRole { size: 20; line: 28; tracking: -0.012 }
+    // a sentence of its own as a title
+    readonly property TypeRole titleMWide: DisplayRole { size: 22; line: 28; tracking: -0.012 }
+    // what leads up to a hero figure, and what follows it
+    readonly property TypeRole titleMQuiet: DisplayRole {
+        size: 20; line: 28; weight: Font.Medium; tracking: -0.012
+    }
     readonly property TypeRole cardTitle: DisplayRole { size: 17; line: 22; tracking: -0.010 }
+    readonly property TypeRole cardTitleQuiet: DisplayRole {
+        size: 17; line: 22; weight: Font.Medium; tracking: -0.010
+    }
     readonly property TypeRole panelTitle: DisplayRole { size: 15; line: 20; tracking: -0.010 }
     readonly property TypeRole lead: TypeRole { size: 15; line: 23 }
     // on the wide primary button
@@ -152,6 +162,7 @@ QtObject {
     readonly property int space20: 20 // between groups
     readonly property int space24: 24
     readonly property int space28: 28
+    readonly property int space32: 32 // beside the picker of the review
     readonly property int space36: 36
     readonly property int space44: 44
     readonly property int space64: 64
@@ -219,6 +230,10 @@ QtObject {
     readonly property int stripButton: 24
     readonly property int navRowHeight: 38
     readonly property int pageDotSize: 6
+    readonly property int pagerButton: 32
+    readonly property int pointDisc: 44 // behind the icon of a high point
+    readonly property int personaDisc: 132
+    readonly property int posterWidth: 264 // of the poster in the last card of the review
     readonly property int popoverWidth: 284
     readonly property int commandCenterWidth: 360
     readonly property int backfillChipWidth: 40
@@ -294,6 +309,10 @@ QtObject {
     readonly property int tileDelay: 200 * Motion.pace
     readonly property int tileStep: 50 * Motion.pace
     readonly property int countUpTime: 800 * Motion.pace
+    readonly property int typingStep: 50 // between two letters of a name that is revealed
+    readonly property int burstTime: 900 // of the dots that fly from a centre
+    readonly property int burstHold: 1000 // until nothing is kept of them
+    readonly property int ambientStep: 100 // the dots behind the review's pages change that slowly
     readonly property int stageFadeTime: Motion.reduced ? crossFadeTime : 200
     readonly property int crossFadeTime: 120 // what pages and cards do instead of moving
     readonly property int scrollbarHold: 800

@@ -32,6 +32,10 @@ void GlassDotWall::setSliceColor(const QColor& color) {
     if (show(m_sliceColor, color)) Q_EMIT sliceChanged();
 }
 
+void GlassDotWall::setSockets(bool sockets) {
+    if (show(m_hasSockets, sockets)) Q_EMIT socketsChanged();
+}
+
 WallGrid GlassDotWall::grid() const { return {m_columns, m_rows, size()}; }
 
 QMarginsF GlassDotWall::bleed() const {
@@ -55,7 +59,7 @@ void GlassDotWall::paint(QPainter& painter, double scale) {
     const bool hasSlice = m_sliceFraction > 0.0 && lit < wall.cells();
     const int firstSocket = lit + (hasSlice ? 1 : 0);
 
-    for (int i = firstSocket; i < wall.cells(); ++i)
+    for (int i = firstSocket; m_hasSockets && i < wall.cells(); ++i)
         m_images.draw(painter, wall.center(i), {}, radius, scale);
     if (hasSlice)
         glassdotpainter::drawSlice(painter, wall.center(lit), radius, m_sliceColor,

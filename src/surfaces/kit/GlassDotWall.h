@@ -11,8 +11,8 @@
 namespace vantle {
 
 /// Fills its size with `columns` by `rows` cells: a lit dot for each of `colors`, then a slice if
-/// there is one, then sockets. Colours beyond the last cell are not drawn. The glow of the outer
-/// dots reaches beyond the item. Main thread.
+/// there is one, then sockets if they are wanted. Colours beyond the last cell are not drawn. The
+/// glow of the outer dots reaches beyond the item. Main thread.
 class GlassDotWall : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -25,6 +25,8 @@ class GlassDotWall : public vantle::BakedItem {
     /// The current hour: how much of it is done, 0 for none, and its colour.
     Q_PROPERTY(double sliceFraction READ sliceFraction WRITE setSliceFraction NOTIFY sliceChanged)
     Q_PROPERTY(QColor sliceColor READ sliceColor WRITE setSliceColor NOTIFY sliceChanged)
+    /// Whether the hours to come have their sockets.
+    Q_PROPERTY(bool sockets READ hasSockets WRITE setSockets NOTIFY socketsChanged)
     /// The radius of a dot, px.
     Q_PROPERTY(double dotRadius READ dotRadius NOTIFY gridChanged)
 
@@ -43,6 +45,8 @@ public:
     void setSliceFraction(double fraction);
     [[nodiscard]] QColor sliceColor() const { return m_sliceColor; }
     void setSliceColor(const QColor& color);
+    [[nodiscard]] bool hasSockets() const { return m_hasSockets; }
+    void setSockets(bool sockets);
     [[nodiscard]] double dotRadius() const { return grid().radius(); }
 
     /// The cell under a point of the item; -1 for none. Finished hours come first.
@@ -55,6 +59,7 @@ Q_SIGNALS:
     void gridChanged();
     void filledCountChanged();
     void sliceChanged();
+    void socketsChanged();
 
 protected:
     void paint(QPainter& painter, double scale) override;
@@ -70,6 +75,7 @@ private:
     int m_filledCount = -1;
     double m_sliceFraction = 0.0;
     QColor m_sliceColor;
+    bool m_hasSockets = true;
     GlassDotImages m_images;
 };
 

@@ -11,7 +11,7 @@ ArrowGroup {
     property string name
     property TypeRole role: DarkUI.captionMedium
     property real radius: DarkUI.radiusBanner
-    readonly property real inset: DarkUI.space2
+    readonly property real inset: radius - DarkUI.radiusSegment
     readonly property real segmentWidth: (width - 2 * inset) / Math.max(options.length, 1)
     signal activated(int index)
 
@@ -70,6 +70,9 @@ ArrowGroup {
                 Accessible.role: Accessible.PageTab
                 Accessible.checkable: true
                 Accessible.checked: chosen
+                Accessible.selectable: true
+                Accessible.selected: chosen
+                Accessible.description: chosen ? qsTr("Selected") : qsTr("Not selected")
                 onClicked: picker.activated(index)
 
                 DarkText {

@@ -1,14 +1,83 @@
-// The review window: a picker of periods above cards that are paged through one at a time.
+// The review window: a picker of periods above cards that are paged through one at a time, with the
+// arrow keys, Home and End as well.
 pragma ComponentBehavior: Bound
 import QtQuick
+import Vantle.Kit
 import Vantle.Review
 
 FocusScope {
-    id: page
+    id: view
 
     required property WrappedView model
+    readonly property alias turning: stack.turning
+
+    function turnToFirst(): void {
+        while (model.canTurnBack)
+            model.turnBack();
+    }
+    function turnToLast(): void {
+        while (model.canTurnOn)
+            model.turnOn();
+    }
 
     focus: true
     implicitWidth: 440
     implicitHeight: 660
+
+    Keys.onPressed: event => {
+        event.accepted = true;
+        switch (event.key) {
+        case Qt.Key_Left:
+            model.turnBack();
+            break;
+        case Qt.Key_Right:
+            model.turnOn();
+            break;
+        case Qt.Key_Home:
+            turnToFirst();
+            break;
+        case Qt.Key_End:
+            turnToLast();
+            break;
+        case Qt.Key_Escape:
+            view.Window.window.close();
+            break;
+        default:
+            event.accepted = false;
+        }
+    }
+
+    AmbientDotField {
+        anchors.fill: parent
+    }
+
+    SegmentedPicker {
+        x: DarkUI.space32
+        y: DarkUI.space8
+        width: view.width - 2 * x
+        name: qsTr("Period")
+        options: view.model.segmentLabels
+        currentIndex: view.model.segmentIndex
+        onActivated: index => view.model.pickSegment(index)
+    }
+
+    // What is below it is the pager's, and the room for what is told about sharing.
+    PageStack {
+        id: stack
+        x: DarkUI.space36
+        y: DarkUI.space64
+        width: view.width - 2 * x
+        height: 514
+        focus: true
+        model: view.model
+    }
+
+    Pager {
+        x: DarkUI.space32
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: DarkUI.space20
+        width: view.width - 2 * x
+        visible: view.model.hasPager
+        model: view.model
+    }
 }

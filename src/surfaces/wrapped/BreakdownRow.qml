@@ -1,0 +1,62 @@
+// A skill beside the top one: its name, hours and share over a bar.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Review
+
+Item {
+    id: row
+
+    required property reviewSkillLine line
+    property bool animated: false
+    property int order: 0
+
+    implicitHeight: 34
+    Accessible.role: Accessible.StaticText
+    Accessible.name: qsTr("%1, %2, %3").arg(line.name).arg(line.hours).arg(line.share)
+
+    DarkText {
+        width: hours.x - DarkUI.space12
+        text: row.line.name
+        role: DarkUI.note
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+
+    TabularText {
+        id: hours
+        anchors.right: parent.right
+        anchors.rightMargin: 48
+        text: row.line.hours
+        role: DarkUI.note
+        color: DarkUI.t2
+        Accessible.ignored: true
+    }
+
+    TabularText {
+        anchors.right: parent.right
+        text: row.line.share
+        role: DarkUI.note
+        color: DarkUI.t3
+        Accessible.ignored: true
+    }
+
+    GlassBarTrack {
+        anchors.bottom: parent.bottom
+        width: row.width
+        implicitHeight: DarkUI.barReview
+
+        GlassBarFill {
+            visible: growth.way > 0
+            color: row.line.color
+            fraction: row.line.fraction * growth.way
+        }
+    }
+
+    GrowIn {
+        id: growth
+        animated: row.animated
+        order: row.order
+        baseDelay: DarkUI.cascadeDelay + 2 * DarkUI.cascadeStep
+    }
+}

@@ -1,0 +1,41 @@
+// A burst over a page, some time after the page has come. A second after its end nothing is left.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Item {
+    id: celebration
+
+    property list<color> colors
+    property int delay: 0 // ms
+    property bool animated: false
+    readonly property bool pending: animated && !Motion.reduced && !over
+    property bool over: false
+
+    implicitWidth: 320
+    implicitHeight: 100
+
+    DotBurst {
+        id: burst
+        anchors.fill: parent
+        visible: celebration.pending
+        colors: celebration.pending ? celebration.colors : []
+    }
+
+    SequentialAnimation {
+        running: celebration.pending
+
+        PauseAnimation {
+            duration: celebration.delay
+        }
+        ScriptAction {
+            script: burst.play()
+        }
+        PauseAnimation {
+            duration: DarkUI.burstTime + DarkUI.burstHold
+        }
+        ScriptAction {
+            script: celebration.over = true
+        }
+    }
+}

@@ -1,0 +1,26 @@
+// Dots that fly from a centre when play() is called, and fade. Not with reduced motion.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+BurstDots {
+    id: burst
+
+    readonly property bool playing: flight.running
+    signal ended
+
+    function play(): void {
+        if (!Motion.reduced)
+            flight.restart();
+    }
+
+    NumberAnimation {
+        id: flight
+        target: burst
+        property: "progress"
+        from: 0
+        to: 1
+        duration: DarkUI.burstTime
+        onFinished: burst.ended()
+    }
+}

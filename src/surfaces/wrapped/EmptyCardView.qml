@@ -1,0 +1,84 @@
+// What stands there in place of pages: nothing was tracked in the period.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+ReviewPage {
+    id: page
+
+    required property string title
+    required property string words
+
+    Column {
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.verticalCenterOffset: DarkUI.pagerButton // no pager stands below
+        width: page.width
+
+        CascadeIn {
+            animated: page.animated
+
+            Row {
+                spacing: DarkUI.space14
+                bottomPadding: DarkUI.space28
+
+                Repeater {
+                    model: 3
+
+                    GlassDot {
+                        width: DarkUI.space18
+                        height: DarkUI.space18
+                        filled: false
+                    }
+                }
+            }
+        }
+
+        CascadeIn {
+            animated: page.animated
+            order: 1
+
+            DarkText {
+                width: page.width
+                text: page.title
+                role: DarkUI.titleXL
+                wrapMode: Text.Wrap
+                Accessible.role: Accessible.Heading
+            }
+        }
+
+        Item {
+            width: 1
+            height: DarkUI.space8
+        }
+
+        CascadeIn {
+            animated: page.animated
+            order: 2
+
+            DarkText {
+                width: page.width
+                text: page.words
+                role: DarkUI.lead
+                color: DarkUI.t2
+                wrapMode: Text.Wrap
+            }
+        }
+
+        Item {
+            width: 1
+            height: DarkUI.space24
+        }
+
+        CascadeIn {
+            visible: page.model.canEnter
+            animated: page.animated
+            order: 3
+
+            DarkPrimaryButton {
+                implicitHeight: DarkUI.formButtonHeight
+                text: qsTr("Enter Vantle")
+                onClicked: page.model.enterVantle()
+            }
+        }
+    }
+}

@@ -1,0 +1,44 @@
+// A fact: its title at the left, its value at the right.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Review
+
+Plate {
+    id: box
+
+    required property factBox fact
+
+    implicitHeight: 46
+    radius: DarkUI.radiusCard
+    edge: DarkUI.hairline
+    Accessible.role: Accessible.StaticText
+    Accessible.name: [fact.title, fact.detail, fact.value].filter(part => part !== "").join(", ")
+
+    DarkKicker {
+        x: DarkUI.space16
+        anchors.verticalCenter: parent.verticalCenter
+        text: box.fact.title
+        Accessible.ignored: true
+    }
+
+    DarkText {
+        anchors.right: value.left
+        anchors.rightMargin: DarkUI.space12
+        anchors.baseline: value.baseline
+        text: box.fact.detail
+        role: DarkUI.caption
+        color: DarkUI.t3
+        Accessible.ignored: true
+    }
+
+    DarkText {
+        id: value
+        anchors.right: parent.right
+        anchors.rightMargin: DarkUI.space16
+        anchors.verticalCenter: parent.verticalCenter
+        text: box.fact.value
+        role: DarkUI.cardTitle
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,62 @@
+// A milestone in a ring of dots, and the day on which it was passed.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Review
+
+Plate {
+    id: card
+
+    required property milestoneBadge badge
+    required property list<color> colors
+    property bool small: false // several in a row
+
+    implicitHeight: small ? 128 : 168
+    radius: DarkUI.radiusCard
+    edge: DarkUI.hairline
+    Accessible.role: Accessible.StaticText
+    Accessible.name: qsTr("%1 hours, %2").arg(badge.hours).arg(badge.date)
+
+    DotRing {
+        id: ring
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: card.small ? DarkUI.space14 : DarkUI.space24
+        width: card.small ? 60 : 78
+        height: width
+        dotRadius: card.small ? 3 : 3.75
+        colors: card.colors
+
+        DarkText {
+            anchors.centerIn: parent
+            width: ring.width - 6 * ring.dotRadius
+            horizontalAlignment: Text.AlignHCenter
+            text: card.badge.hours
+            role: card.small ? DarkUI.titleM : DarkUI.titleXL
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 10
+            Accessible.ignored: true
+        }
+    }
+
+    Column {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.top: ring.bottom
+        anchors.topMargin: card.small ? DarkUI.space6 : DarkUI.space14
+
+        DarkText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: qsTr("hours")
+            role: DarkUI.captionMedium
+            color: DarkUI.t2
+            Accessible.ignored: true
+        }
+
+        DarkText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: card.badge.date
+            role: DarkUI.caption
+            color: DarkUI.t3
+            Accessible.ignored: true
+        }
+    }
+}

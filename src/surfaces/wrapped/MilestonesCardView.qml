@@ -1,0 +1,69 @@
+// The milestones that were passed.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Review
+
+ReviewPage {
+    id: page
+
+    required property milestonesCard content
+    required property list<color> dotColors
+    readonly property int count: content.badges.length
+    readonly property int columns: count <= 4 ? 2 : count <= 9 ? 3 : 4
+    readonly property real gap: DarkUI.space12
+    readonly property real cellWidth: (width - (columns - 1) * gap) / columns
+
+    kicker: content.kicker
+
+    CascadeIn {
+        id: sentence
+        y: page.kickerHeight + DarkUI.space16
+        animated: page.animated
+        order: 1
+
+        DarkText {
+            width: 300
+            text: page.content.sentence
+            role: DarkUI.titleXL
+            wrapMode: Text.Wrap
+        }
+    }
+
+    Grid {
+        id: grid
+        readonly property real room: page.height - sentence.y - sentence.height - DarkUI.space24
+        // A little above the middle of the room.
+        y: page.height - room + Math.max(0, Math.round((room - height) * 0.4))
+        columns: page.columns
+        spacing: page.gap
+
+        Repeater {
+            model: page.content.badges
+
+            PopIn {
+                id: entrance
+                required property milestoneBadge modelData
+                required property int index
+                animated: page.animated
+                order: index
+                baseDelay: DarkUI.cascadeDelay + 2 * DarkUI.cascadeStep
+
+                MilestoneBadgeView {
+                    width: page.cellWidth
+                    badge: entrance.modelData
+                    colors: page.dotColors
+                    small: page.columns > 2
+                }
+            }
+        }
+    }
+
+    CelebrationBurst {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: grid.y + (grid.height - height) / 2
+        animated: page.animated
+        delay: DarkUI.cascadeDelay + 2 * DarkUI.cascadeStep + page.count * DarkUI.popStep
+        colors: page.dotColors
+    }
+}

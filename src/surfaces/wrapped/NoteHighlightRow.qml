@@ -1,0 +1,66 @@
+// A note, what it was about and of which day.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Review
+
+Item {
+    id: row
+
+    required property noteHighlight note
+    property int mostLines: 2
+    property real gap: DarkUI.space12 // above the line below it
+    property bool last: false
+
+    implicitHeight: words.height + DarkUI.space4 + meta.height
+                    + (last ? 0 : gap + DarkUI.hairlineWidth)
+    Accessible.role: Accessible.StaticText
+    Accessible.name: qsTr("%1, %2, %3").arg(note.text).arg(note.skillName).arg(note.date)
+
+    DarkText {
+        id: words
+        width: row.width
+        text: row.note.text
+        role: DarkUI.note
+        wrapMode: Text.Wrap
+        maximumLineCount: row.mostLines
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+
+    Row {
+        id: meta
+        y: words.height + DarkUI.space4
+        spacing: DarkUI.space6
+
+        FlatDot {
+            anchors.verticalCenter: parent.verticalCenter
+            width: DarkUI.chipDot
+            height: DarkUI.chipDot
+            color: row.note.skillColor
+        }
+
+        DarkText {
+            leftPadding: 1
+            width: Math.min(implicitWidth, row.width - 100)
+            text: row.note.skillName
+            role: DarkUI.caption
+            color: DarkUI.t3
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+
+        DarkText {
+            text: qsTr("·  %1").arg(row.note.date)
+            role: DarkUI.caption
+            color: DarkUI.t3
+            Accessible.ignored: true
+        }
+    }
+
+    DarkDivider {
+        anchors.bottom: parent.bottom
+        width: row.width
+        visible: !row.last
+    }
+}

@@ -1,0 +1,142 @@
+// What the notes tell: what they return to, and a few of them.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Review
+
+ReviewPage {
+    id: page
+
+    required property notesCard content
+    readonly property real room: foot.y - notes.y - DarkUI.space20
+    // Two lines for each note, as long as all of them find room.
+    readonly property bool tight: noteHeights() > room
+
+    function noteHeights(): real {
+        let sum = -DarkUI.space12;
+        for (const note of content.highlights) {
+            const lines = metrics.advanceWidth(note.text) > width ? 2 : 1;
+            sum += lines * DarkUI.note.line + DarkUI.caption.line + DarkUI.space4
+                   + DarkUI.space24 + DarkUI.hairlineWidth;
+        }
+        return sum;
+    }
+
+    kicker: content.kicker
+
+    FontMetrics {
+        id: metrics
+        font: DarkUI.note.font
+    }
+
+    Column {
+        id: head
+        y: page.kickerHeight + DarkUI.space14
+        width: page.width
+        spacing: DarkUI.space14
+
+        CascadeIn {
+            width: page.width
+            animated: page.animated
+            order: 1
+
+            DarkText {
+                width: page.width
+                text: page.content.story
+                role: DarkUI.titleMWide
+                wrapMode: Text.Wrap
+                maximumLineCount: 3
+                elide: Text.ElideRight
+            }
+        }
+
+        CascadeIn {
+            width: page.width
+            visible: page.content.themes.length > 0
+            animated: page.animated
+            order: 2
+
+            Flow {
+                width: page.width
+                spacing: DarkUI.chipGap
+
+                Repeater {
+                    model: page.content.themes
+
+                    ThemeChip {
+                        required property string modelData
+                        text: modelData
+                    }
+                }
+            }
+        }
+    }
+
+    Column {
+        id: notes
+        y: head.y + head.height + DarkUI.space28
+        width: page.width
+        spacing: page.tight ? DarkUI.space10 : DarkUI.space12
+
+        Repeater {
+            model: page.content.highlights
+
+            CascadeIn {
+                id: entrance
+                required property noteHighlight modelData
+                required property int index
+                width: page.width
+                animated: page.animated
+                order: 3 + index
+
+                NoteHighlightRow {
+                    width: page.width
+                    note: entrance.modelData
+                    mostLines: page.tight ? 1 : 2
+                    gap: notes.spacing
+                    last: entrance.index === page.content.highlights.length - 1
+                }
+            }
+        }
+    }
+
+    Column {
+        id: foot
+        anchors.bottom: parent.bottom
+        width: page.width
+        spacing: DarkUI.space4
+
+        CascadeIn {
+            visible: page.content.more !== ""
+            animated: page.animated
+            order: 7
+
+            DarkText {
+                text: page.content.more
+                color: DarkUI.t3
+            }
+        }
+
+        CascadeIn {
+            animated: page.animated
+            order: 8
+
+            Row {
+                spacing: DarkUI.space6
+
+                KitIcon {
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: DarkUI.space12
+                    height: DarkUI.space12
+                    name: "lock"
+                    color: DarkUI.iconQuiet
+                }
+
+                DarkText {
+                    text: page.content.foot
+                    color: DarkUI.t3
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,60 @@
+// The quiet lines at the bottom of a page, over a hairline where one is wanted.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Item {
+    id: foot
+
+    property list<string> lines
+    property bool ruled: false
+    property bool animated: false
+    property int order: 0
+    default property alias content: above.data // stands between the hairline and the lines
+
+    anchors.left: parent ? parent.left : undefined
+    anchors.right: parent ? parent.right : undefined
+    anchors.bottom: parent ? parent.bottom : undefined
+    implicitHeight: inside.implicitHeight
+
+    CascadeIn {
+        id: inside
+        width: foot.width
+        animated: foot.animated
+        order: foot.order
+
+        Column {
+            width: foot.width
+
+            DarkDivider {
+                width: foot.width
+                visible: foot.ruled
+            }
+
+            Item {
+                width: 1
+                height: DarkUI.space14
+                visible: foot.ruled
+            }
+
+            Item {
+                id: above
+                width: foot.width
+                height: childrenRect.height
+                visible: children.length > 0
+            }
+
+            Repeater {
+                model: foot.lines
+
+                DarkText {
+                    required property string modelData
+                    width: foot.width
+                    text: modelData
+                    color: DarkUI.t3
+                    elide: Text.ElideRight
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,39 @@
+// A dot for each finished hour of the period, as many as there is room for.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Review
+
+Column {
+    id: wall
+
+    required property WrappedView model
+    required property rhythmCard content
+    readonly property int columns: 12
+    readonly property int mostRows: 4
+    readonly property int rowHeight: 28
+
+    spacing: DarkUI.space18
+    Component.onCompleted: model.wallCapacity = columns * mostRows
+
+    DarkKicker {
+        text: wall.content.wallKicker
+    }
+
+    GlassDotWall {
+        width: wall.width
+        height: rows * wall.rowHeight
+        columns: wall.columns
+        rows: Math.max(1, Math.ceil(colors.length / columns))
+        colors: wall.content.wallColors
+        sockets: false
+        Accessible.ignored: true
+    }
+
+    DarkText {
+        width: wall.width
+        text: wall.content.wallCaption
+        color: DarkUI.t3
+        elide: Text.ElideRight
+    }
+}

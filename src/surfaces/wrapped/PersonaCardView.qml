@@ -1,0 +1,61 @@
+// Which kind of builder somebody is; while that is taking shape, what is needed for it.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Review
+
+ReviewPage {
+    id: page
+
+    required property personaCard content
+    readonly property bool known: content.name !== ""
+
+    kicker: content.kicker
+
+    Column {
+        y: Math.round((foot.y - height) / 2)
+        width: page.width
+        spacing: DarkUI.space28
+
+        PopIn {
+            animated: page.animated
+            baseDelay: DarkUI.cascadeDelay + DarkUI.cascadeStep
+
+            PersonaDisc {
+                width: DarkUI.personaDisc
+                height: DarkUI.personaDisc
+                card: page.content
+            }
+        }
+
+        PersonaWords {
+            width: page.width
+            visible: page.known
+            content: page.content
+            animated: page.animated && page.known
+            torn: page.leaving
+        }
+
+        PersonaShaping {
+            width: page.width
+            visible: !page.known
+            content: page.content
+            animated: page.animated && !page.known
+        }
+    }
+
+    PageFoot {
+        id: foot
+        lines: [page.content.quiet]
+        ruled: page.known
+        animated: page.animated
+        order: 5
+
+        PersonaFacts {
+            width: page.width
+            visible: page.known
+            height: visible ? implicitHeight : 0
+            facts: page.known ? page.content.facts : []
+        }
+    }
+}

@@ -1,0 +1,30 @@
+// What all pages of a review have in common: a heading at the top, and room below it. A page shows
+// the values that it was given: it must not change while it is on its way out.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Review
+
+FocusScope {
+    id: page
+
+    required property WrappedView model
+    property string kicker
+    property bool animated: false // its parts come in one after the other
+    property bool leaving: false
+    readonly property real kickerHeight: DarkUI.kicker.line
+
+    width: parent ? parent.width : 0
+    height: parent ? parent.height : 0
+    enabled: !leaving
+    Accessible.role: Accessible.Pane
+    Accessible.name: kicker
+
+    CascadeIn {
+        animated: page.animated
+
+        DarkKicker {
+            text: page.kicker
+        }
+    }
+}

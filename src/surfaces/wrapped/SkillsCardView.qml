@@ -1,0 +1,126 @@
+// What the hours went into.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Review
+
+ReviewPage {
+    id: page
+
+    required property skillsCard content
+
+    kicker: content.kicker
+
+    PopIn {
+        id: dot
+        anchors.verticalCenter: name.verticalCenter
+        animated: page.animated
+        baseDelay: DarkUI.cascadeDelay + DarkUI.cascadeStep
+
+        GlassDot {
+            width: DarkUI.iconButton
+            height: DarkUI.iconButton
+            color: page.content.top.color
+        }
+    }
+
+    CascadeIn {
+        id: name
+        x: dot.width + DarkUI.space16
+        y: page.kickerHeight + DarkUI.space20
+        width: page.width - x
+        animated: page.animated
+        order: 1
+        slam: true
+
+        DarkText {
+            width: name.width
+            text: page.content.top.name
+            role: DarkUI.nameReview
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: DarkUI.titleXL.size
+            elide: Text.ElideRight
+        }
+    }
+
+    CascadeIn {
+        y: name.y + name.height + DarkUI.space14
+        animated: page.animated
+        order: 2
+
+        Row {
+            Accessible.role: Accessible.StaticText
+            Accessible.name: qsTr("%1, %2").arg(page.content.top.hours)
+                                           .arg(page.content.top.share)
+
+            component Part: DarkText {
+                role: DarkUI.titleMQuiet
+                Accessible.ignored: true
+            }
+
+            Part {
+                text: page.content.topFigure.value
+            }
+
+            Part {
+                text: " " + page.content.topFigure.unit
+                color: DarkUI.t3
+                rightPadding: DarkUI.space20
+            }
+
+            Part {
+                text: page.content.top.share
+                color: DarkUI.t2
+            }
+        }
+    }
+
+    Column {
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: page.content.more === "" ? DarkUI.space8 : 0
+        width: page.width
+        spacing: DarkUI.space16
+
+        CascadeIn {
+            animated: page.animated
+            order: 3
+
+            DarkKicker {
+                text: page.content.breakdownKicker
+                bottomPadding: DarkUI.space4
+            }
+        }
+
+        Repeater {
+            model: page.content.others
+
+            CascadeIn {
+                id: entrance
+                required property reviewSkillLine modelData
+                required property int index
+                width: page.width
+                animated: page.animated
+                order: 4 + index
+
+                BreakdownRow {
+                    width: page.width
+                    line: entrance.modelData
+                    animated: page.animated
+                    order: 2 + entrance.index
+                }
+            }
+        }
+
+        CascadeIn {
+            visible: page.content.more !== ""
+            animated: page.animated
+            order: 4 + page.content.others.length
+
+            DarkText {
+                text: page.content.more
+                role: DarkUI.caption
+                color: DarkUI.t3
+            }
+        }
+    }
+}

@@ -1,0 +1,100 @@
+// The period in full: the poster, and the ways to share it.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Review
+
+ReviewPage {
+    id: page
+
+    required property summaryCard content
+    required property sharePoster poster
+
+    kicker: content.title
+
+    CascadeIn {
+        id: closing
+        y: page.kickerHeight + DarkUI.space8
+        animated: page.animated
+        order: 1
+
+        DarkText {
+            width: page.width
+            text: page.content.closing
+            role: DarkUI.note
+            color: DarkUI.t2
+            elide: Text.ElideRight
+        }
+    }
+
+    CascadeIn {
+        id: picture
+        readonly property real top: closing.y + closing.height + DarkUI.space10
+        readonly property real room: share.y - DarkUI.space12 - top
+        x: Math.round((page.width - width) / 2)
+        y: Math.round(top + (room - height) / 2)
+        animated: page.animated
+        order: 2
+        slam: true
+
+        SharePosterPicture {
+            // The poster of a year is too high for the page at the width of the others.
+            function fit(): void {
+                width = DarkUI.posterWidth;
+                if (implicitHeight > picture.room)
+                    width = Math.floor(width * picture.room / implicitHeight);
+            }
+
+            height: implicitHeight
+            radius: DarkUI.radiusWindow
+            poster: page.poster
+            Component.onCompleted: fit()
+            Accessible.role: Accessible.Graphic
+            Accessible.name: qsTr("%1. %2").arg(page.poster.title).arg(page.poster.closing)
+        }
+    }
+
+    Item {
+        id: share
+        anchors.bottom: parent.bottom
+        width: page.width
+        height: DarkUI.buttonHeight
+
+        DarkText {
+            anchors.verticalCenter: parent.verticalCenter
+            width: 112
+            text: page.content.foot
+            role: DarkUI.caption
+            color: DarkUI.t3
+            wrapMode: Text.Wrap
+        }
+
+        Row {
+            anchors.right: parent.right
+            spacing: DarkUI.space8
+
+            DarkSecondaryButton {
+                text: qsTr("Save image…")
+                onClicked: page.model.saveImage()
+            }
+
+            DarkPrimaryButton {
+                text: page.model.copyText
+                onClicked: page.model.copyImage()
+            }
+        }
+    }
+
+    DarkText {
+        anchors.top: share.bottom
+        anchors.topMargin: DarkUI.space8
+        anchors.right: parent.right
+        width: page.width
+        horizontalAlignment: Text.AlignRight
+        text: page.model.shareFeedback
+        role: DarkUI.caption
+        color: DarkUI.dangerText
+        elide: Text.ElideLeft
+        Accessible.role: Accessible.AlertMessage
+    }
+}

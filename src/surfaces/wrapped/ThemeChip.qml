@@ -1,0 +1,22 @@
+// A word that the notes return to. Nothing to press.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Plate {
+    id: chip
+
+    required property string text
+
+    implicitWidth: Math.ceil(label.implicitWidth) + 2 * DarkUI.space12
+    implicitHeight: DarkUI.largeChipHeight
+    radius: height / 2
+    edge: DarkUI.hairline
+
+    DarkText {
+        id: label
+        anchors.centerIn: parent
+        text: chip.text
+        role: DarkUI.captionMedium
+    }
+}
