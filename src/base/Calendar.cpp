@@ -1,5 +1,7 @@
 #include "base/Calendar.h"
 
+#include "base/IcuText.h"
+
 #include <QFileInfo>
 
 #include <unicode/calendar.h>
@@ -13,13 +15,8 @@ namespace vantle {
 
 namespace {
 
-icu::UnicodeString toIcu(const QString& text) {
-    return {text.utf16(), static_cast<int32_t>(text.size())};
-}
-
-QString fromIcu(const icu::UnicodeString& text) {
-    return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
-}
+using icutext::fromIcu;
+using icutext::toIcu;
 
 /// ICU counts in milliseconds; a fraction below that must not move a date into the next second.
 double milliseconds(Date date) { return std::floor(epochSeconds(date) * 1000.0); }
@@ -32,7 +29,7 @@ std::unique_ptr<icu::GregorianCalendar> icuCalendar(const Calendar& rules, Date 
     std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createTimeZone(toIcu(rules.timeZone)));
     if (*zone == icu::TimeZone::getUnknown()) return nullptr;
     auto calendar = std::make_unique<icu::GregorianCalendar>(
-        zone.release(), icu::Locale::createFromName(rules.locale.toLatin1().constData()), status);
+        zone.release(), icutext::localeNamed(rules.locale), status);
     if (U_FAILURE(status)) return nullptr;
     // The proleptic Gregorian calendar throughout, as in files.
     calendar->setGregorianChange(-1e18, status);

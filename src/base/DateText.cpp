@@ -1,5 +1,7 @@
 #include "base/DateText.h"
 
+#include "base/IcuText.h"
+
 #include <unicode/dtptngen.h>
 #include <unicode/smpdtfmt.h>
 #include <unicode/timezone.h>
@@ -12,18 +14,14 @@ struct DateText::Format {
 
 namespace {
 
-icu::UnicodeString toIcu(const QString& text) {
-    return {text.utf16(), static_cast<int32_t>(text.size())};
-}
-
-icu::Locale localeOf(const Calendar& calendar) {
-    return icu::Locale::createFromName(calendar.locale.toLatin1().constData());
-}
+using icutext::localeNamed;
+using icutext::toIcu;
 
 std::unique_ptr<icu::SimpleDateFormat> make(const icu::UnicodeString& pattern,
                                             const Calendar& calendar) {
     UErrorCode status = U_ZERO_ERROR;
-    auto format = std::make_unique<icu::SimpleDateFormat>(pattern, localeOf(calendar), status);
+    auto format =
+        std::make_unique<icu::SimpleDateFormat>(pattern, localeNamed(calendar.locale), status);
     if (U_FAILURE(status)) return nullptr;
     format->adoptTimeZone(icu::TimeZone::createTimeZone(toIcu(calendar.timeZone)));
     return format;
@@ -43,7 +41,7 @@ DateText DateText::fixed(const QString& pattern, const Calendar& calendar) {
 DateText DateText::time(const Calendar& calendar) {
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<icu::DateTimePatternGenerator> patterns(
-        icu::DateTimePatternGenerator::createInstance(localeOf(calendar), status));
+        icu::DateTimePatternGenerator::createInstance(localeNamed(calendar.locale), status));
     icu::UnicodeString pattern = u"HH:mm";
     if (U_SUCCESS(status)) pattern = patterns->getBestPattern(u"jmm", status);
     return DateText(std::make_unique<Format>(Format{make(pattern, calendar)}));
@@ -53,7 +51,7 @@ QString DateText::operator()(Date date) const {
     if (!m_format->icu) return {};
     icu::UnicodeString text;
     m_format->icu->format(epochSeconds(date) * 1000.0, text);
-    return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
+    return icutext::fromIcu(text);
 }
 
 } // namespace vantle

@@ -1,5 +1,7 @@
 #include "base/LocalTime.h"
 
+#include "base/IcuText.h"
+
 #include <unicode/basictz.h>
 #include <unicode/tztrans.h>
 
@@ -31,9 +33,8 @@ struct LocalTime::Zone {
 };
 
 LocalTime::LocalTime(const Calendar& calendar) : m_firstWeekday(calendar.firstWeekday) {
-    const icu::UnicodeString id(calendar.timeZone.utf16(),
-                                static_cast<int32_t>(calendar.timeZone.size()));
-    std::unique_ptr<const icu::TimeZone> zone(icu::TimeZone::createTimeZone(id));
+    std::unique_ptr<const icu::TimeZone> zone(
+        icu::TimeZone::createTimeZone(icutext::toIcu(calendar.timeZone)));
     if (*zone == icu::TimeZone::getUnknown()) return;
     // Each zone that ICU makes from an id can tell its changes.
     if (const auto* rules = dynamic_cast<const icu::BasicTimeZone*>(zone.get())) {

@@ -1,5 +1,7 @@
 #include "base/Text.h"
 
+#include "base/IcuText.h"
+
 #include <QStringList>
 
 #include <unicode/brkiter.h>
@@ -19,13 +21,11 @@ namespace vantle::text {
 
 namespace {
 
+using icutext::fromIcu;
+
 /// An aliasing, read-only ICU view of `text`: no copy, valid while `text` is.
 icu::UnicodeString viewOf(QStringView text) {
     return {false, text.utf16(), static_cast<int32_t>(text.size())};
-}
-
-QString fromIcu(const icu::UnicodeString& text) {
-    return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
 }
 
 /// A character iterator of this thread, made once: making one costs more than a short walk.
