@@ -21,7 +21,8 @@ constexpr double kFading = 0.3; // of one behind
 constexpr double kStrobe = 25; // half-cycles a second
 constexpr double kSmall = 0.8; // how bright a small dot is beside a large one
 
-int strengthOf(double alpha) { return static_cast<int>(alpha * 255); }
+/// Opacities here stay below 1: nothing to clamp.
+int stampStrength(double alpha) { return static_cast<int>(alpha * 255); }
 
 std::vector<CeremonyDots::Place> placesOf(const std::vector<std::int32_t>& indices,
                                           const CeremonyGridModel& model,
@@ -99,7 +100,7 @@ void CeremonyDots::drawBack(CeremonyCanvas& canvas, const CeremonyGridModel& mod
         else
             alpha = std::min(4 * (t - born), 1.0) * (0.05 * sine.at(m_backWaves[i]) + 0.11);
         m_masks.back.stamp(canvas, m_backPlaces[i].x, m_backPlaces[i].y,
-                           m_palette[model.backColor[i]], strengthOf(alpha));
+                           m_palette[model.backColor[i]], stampStrength(alpha));
     }
 }
 
@@ -111,7 +112,7 @@ void CeremonyDots::drawFront(CeremonyCanvas& canvas, const CeremonyGridModel& mo
         const double past = t - double{model.fieldVanish[i]};
         if (age < 0 || past > kDying) continue;
         const auto stamp = [&](const CeremonyDotMask& mask, std::uint32_t color, double alpha) {
-            mask.stamp(canvas, m_frontPlaces[i].x, m_frontPlaces[i].y, color, strengthOf(alpha));
+            mask.stamp(canvas, m_frontPlaces[i].x, m_frontPlaces[i].y, color, stampStrength(alpha));
         };
         const std::uint32_t color = m_palette[model.fieldColor[i]];
         if (past > 0) {
