@@ -1,5 +1,6 @@
 #include "platform/dbus/ApplicationService.h"
 
+#include "platform/dbus/AnswerLimit.h"
 #include "platform/dbus/ApplicationAdaptor.h"
 
 #include <QDBusMessage>
@@ -9,7 +10,7 @@ namespace vantle {
 namespace {
 
 const QString kName = QStringLiteral("local.vantle.Vantle");
-const QString kPath = QStringLiteral("/local/vantle/Vantle");
+const QString kObjectPath = QStringLiteral("/local/vantle/Vantle");
 
 const QString kBus = QStringLiteral("org.freedesktop.DBus");
 const QString kBusPath = QStringLiteral("/org/freedesktop/DBus");
@@ -17,7 +18,6 @@ const QString kBusPath = QStringLiteral("/org/freedesktop/DBus");
 constexpr uint kDoNotQueue = 4;   // RequestName: a name that is taken is not waited for
 constexpr uint kPrimaryOwner = 1; // its answer: the name is ours now
 constexpr uint kAlreadyOwner = 4; // or has been
-constexpr int kAnswerLimitMs = 2000;
 
 } // namespace
 
@@ -27,7 +27,7 @@ ApplicationService::ApplicationService(const QDBusConnection& session) : m_sessi
 
 ApplicationService::~ApplicationService() {
     if (!m_serving) return;
-    m_session.unregisterObject(kPath);
+    m_session.unregisterObject(kObjectPath);
     auto release =
         QDBusMessage::createMethodCall(kBus, kBusPath, kBus, QStringLiteral("ReleaseName"));
     release << kName;
@@ -38,7 +38,7 @@ ApplicationService::Outcome ApplicationService::start() {
     if (m_serving) return Outcome::Serving;
     // The object first: who finds the name may call at once.
     if (!m_session.isConnected() ||
-        !m_session.registerObject(kPath, this, QDBusConnection::ExportAdaptors))
+        !m_session.registerObject(kObjectPath, this, QDBusConnection::ExportAdaptors))
         return Outcome::NoBus;
     auto request =
         QDBusMessage::createMethodCall(kBus, kBusPath, kBus, QStringLiteral("RequestName"));
@@ -49,7 +49,7 @@ ApplicationService::Outcome ApplicationService::start() {
     const uint answer = answered ? reply.arguments().constFirst().toUInt() : 0;
     m_serving = answer == kPrimaryOwner || answer == kAlreadyOwner;
     if (m_serving) return Outcome::Serving;
-    m_session.unregisterObject(kPath);
+    m_session.unregisterObject(kObjectPath);
     return answered ? Outcome::NameTaken : Outcome::NoBus;
 }
 

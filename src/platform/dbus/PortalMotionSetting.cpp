@@ -1,5 +1,7 @@
 #include "platform/dbus/PortalMotionSetting.h"
 
+#include "platform/dbus/AnswerLimit.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -10,16 +12,13 @@ namespace vantle {
 namespace {
 
 const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString kPortalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
 
 const QString kAppearance = QStringLiteral("org.freedesktop.appearance");
 const QString kReducedMotion = QStringLiteral("reduced-motion"); // 0 no wish, 1 reduce
 const QString kGnomeInterface = QStringLiteral("org.gnome.desktop.interface");
 const QString kEnableAnimations = QStringLiteral("enable-animations"); // a bool
-
-// The first call may start the portal, which takes its time.
-constexpr int kAnswerLimitMs = 2000;
 
 /// The value inside of however many variants: Read wraps it twice, a signal once.
 QVariant unwrapped(QVariant value) {
@@ -32,7 +31,7 @@ QVariant unwrapped(QVariant value) {
 
 PortalMotionSetting::PortalMotionSetting(const QDBusConnection& session) : m_session(session) {
     if (!m_session.isConnected()) return;
-    m_session.connect(kService, kPath, kInterface, QStringLiteral("SettingChanged"), this,
+    m_session.connect(kService, kPortalPath, kInterface, QStringLiteral("SettingChanged"), this,
                       SLOT(takeChange(QString, QString, QDBusVariant)));
     auto* watcher = new QDBusServiceWatcher(kService, m_session,
                                             QDBusServiceWatcher::WatchForRegistration, this);
@@ -46,7 +45,8 @@ void PortalMotionSetting::ask() {
 }
 
 void PortalMotionSetting::ask(const QString& space, const QString& key) {
-    auto call = QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Read"));
+    auto call =
+        QDBusMessage::createMethodCall(kService, kPortalPath, kInterface, QStringLiteral("Read"));
     call << space << key;
     auto* answer = new QDBusPendingCallWatcher(m_session.asyncCall(call, kAnswerLimitMs), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, space, key] {

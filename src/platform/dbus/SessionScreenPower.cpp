@@ -1,5 +1,7 @@
 #include "platform/dbus/SessionScreenPower.h"
 
+#include "platform/dbus/AnswerLimit.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -10,8 +12,6 @@ namespace vantle {
 namespace {
 
 enum Cause : unsigned { FreedesktopCause, GnomeCause, SuspensionCause };
-
-constexpr int kAnswerLimitMs = 2000;
 
 } // namespace
 
