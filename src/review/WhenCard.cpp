@@ -39,6 +39,8 @@ std::optional<WhenCard> when(const WrappedStats& stats, const WrappedSettings& s
     card.detail = rhythm.detail.value_or(QString());
     card.bars = QList<double>(bars.begin(), bars.end());
     card.peakBar = rhythm.peakHour / 2;
+    for (const int hour : {0, 6, 12, 18, 0})
+        card.hourMarks << hourLabel(hour, settings.calendar.locale);
     card.accent = QColor::fromRgb(cardwords::leadingColor(stats));
     card.chartCaption = QStringLiteral("when sessions begin");
     card.chartLabel = QStringLiteral("Session starts by hour of day");

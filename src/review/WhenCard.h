@@ -5,6 +5,8 @@
 
 #include "review/CardWords.h"
 
+#include <QStringList>
+
 namespace vantle {
 
 /// A fact in a box of its own.
@@ -29,6 +31,7 @@ struct WhenCard {
     Q_PROPERTY(QString detail MEMBER detail CONSTANT)
     Q_PROPERTY(QList<double> bars MEMBER bars CONSTANT)
     Q_PROPERTY(int peakBar MEMBER peakBar CONSTANT)
+    Q_PROPERTY(QStringList hourMarks MEMBER hourMarks CONSTANT)
     Q_PROPERTY(QColor accent MEMBER accent CONSTANT)
     Q_PROPERTY(QString chartCaption MEMBER chartCaption CONSTANT)
     Q_PROPERTY(QString chartLabel MEMBER chartLabel CONSTANT)
@@ -38,9 +41,10 @@ struct WhenCard {
 public:
     QString kicker;
     QString headline;
-    QString detail;     ///< may be empty
-    QList<double> bars; ///< one for two hours, parts of the highest
-    int peakBar = 0;    ///< the bar that holds the hour of the peak
+    QString detail;        ///< may be empty
+    QList<double> bars;    ///< one for two hours, parts of the highest
+    int peakBar = 0;       ///< the bar that holds the hour of the peak
+    QStringList hourMarks; ///< every six hours, from one midnight to the next
     QColor accent;
     QString chartCaption;
     QString chartLabel; ///< for assistive tools

@@ -67,7 +67,8 @@ RhythmLayout byMonths(const RhythmPicture& picture, double width) {
     const double down = kMonthHeight + kMonthGap;
     int index = 0;
     for (const auto& month : picture.months) {
-        const QPointF corner(across * (index % kMonthColumns), down * (index / kMonthColumns));
+        const int row = index / kMonthColumns;
+        const QPointF corner(across * (index % kMonthColumns), down * row);
         layout.labels.push_back({picture.monthNames.value(index), corner, false, isFuture(month)});
         addRows(layout, month, corner + QPointF(0, RhythmLayout::labelLine + kBelowName),
                 kYearPitch);

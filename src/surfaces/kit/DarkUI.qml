@@ -54,6 +54,8 @@ QtObject {
     readonly property color t3: Qt.rgba(1, 1, 1, 0.54) // what may be passed over
     readonly property color t4: Qt.rgba(1, 1, 1, 0.32) // disabled and separators only
     readonly property color textCaption: Qt.rgba(1, 1, 1, 0.62) // captions of settings
+    readonly property color weekday: Qt.rgba(1, 1, 1, 0.55) // letters and months of a calendar
+    readonly property color weekdayFuture: Qt.rgba(1, 1, 1, 0.30) // of days to come
     readonly property color capsuleName: Qt.rgba(1, 1, 1, 0.62)
     readonly property color chipName: Qt.rgba(1, 1, 1, 0.90)
     readonly property color iconQuiet: Qt.rgba(1, 1, 1, 0.54)
@@ -94,6 +96,7 @@ QtObject {
     readonly property real wrappedFill: 0.14 // of the row of a review that waits
     readonly property real wrappedEdge: 0.34
     readonly property real pointTint: 0.14 // of the disc of a high point
+    readonly property real columnRest: 0.62 // of the columns of a chart beside its highest
     readonly property real pausedOpacity: 0.78 // of the wide button while time is paused
     readonly property real disabledOpacity: 0.45 // of a whole chip, switch or slider
 
@@ -172,6 +175,7 @@ QtObject {
     readonly property int radiusBar: 3
     readonly property int radiusKeycap: 6
     readonly property int radiusMenuRow: 6
+    readonly property int radiusColumn: 6 // of a chart
     readonly property int radiusSegment: 7
     readonly property int radiusSmall: 8 // icon buttons, steppers, menus
     readonly property int radiusButton: 9 // and fields
@@ -221,6 +225,8 @@ QtObject {
     readonly property int barStat: 4
     readonly property int barTable: 5
     readonly property int barReview: 6
+    readonly property int columnWidth: 22 // of a chart
+    readonly property int columnHeight: 112
     readonly property int swatch: 18
     readonly property int swatchCell: 24
     readonly property int scrollbarWidth: 5

@@ -1,0 +1,31 @@
+// The picture of a kind of builder on its page.
+#pragma once
+
+#include "review/PersonaCard.h"
+#include "surfaces/kit/BakedItem.h"
+
+namespace vantle {
+
+/// As large as the item; of a kind that is taking shape, how far it is. Main thread.
+class PersonaDisc : public vantle::BakedItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(vantle::PersonaCard card READ card WRITE setCard NOTIFY changed)
+
+public:
+    explicit PersonaDisc(QQuickItem* parent = nullptr) : BakedItem(parent) {}
+
+    [[nodiscard]] const PersonaCard& card() const { return m_card; }
+    void setCard(const PersonaCard& card);
+
+Q_SIGNALS:
+    void changed();
+
+protected:
+    void paint(QPainter& painter, double scale) override;
+
+private:
+    PersonaCard m_card;
+};
+
+} // namespace vantle

@@ -1,0 +1,78 @@
+// When sessions begin: a column for each two hours of the day, as high as its part of the highest.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Review
+
+Item {
+    id: chart
+
+    required property whenCard card
+    property bool animated: false
+    readonly property int columns: card.bars.length
+    readonly property real pitch: (width - DarkUI.columnWidth) / Math.max(columns - 1, 1)
+
+    implicitHeight: DarkUI.columnHeight + DarkUI.space8 + DarkUI.small.line
+    Accessible.role: Accessible.Graphic
+    Accessible.name: card.chartLabel
+
+    Repeater {
+        model: chart.columns
+
+        Item {
+            id: column
+            required property int index
+            readonly property bool isPeak: index === chart.card.peakBar
+
+            x: Math.round(index * chart.pitch)
+            width: DarkUI.columnWidth
+            height: DarkUI.columnHeight
+
+            GrowIn {
+                id: entrance
+                animated: chart.animated
+                order: column.index
+            }
+
+            Rectangle {
+                anchors.bottom: parent.bottom
+                width: parent.width
+                height: DarkUI.barStat
+                radius: height / 2
+                color: DarkUI.trough
+                visible: bar.height < height
+            }
+
+            Rectangle {
+                id: bar
+                anchors.bottom: parent.bottom
+                width: parent.width
+                height: Math.round(chart.card.bars[column.index] * parent.height * entrance.way)
+                radius: Math.min(DarkUI.radiusColumn, height / 2)
+                color: column.isPeak ? chart.card.accent
+                                     : Tint.alpha(chart.card.accent, DarkUI.columnRest)
+            }
+        }
+    }
+
+    // Each hour stands at the place in the day that it names.
+    Repeater {
+        model: chart.card.hourMarks
+
+        DarkText {
+            id: mark
+            required property string modelData
+            required property int index
+            readonly property int last: chart.card.hourMarks.length - 1
+            readonly property real place: chart.width * index / last
+
+            x: index === 0 ? 0 : index === last ? place - implicitWidth
+                                                : Math.round(place - implicitWidth / 2)
+            y: DarkUI.columnHeight + DarkUI.space8
+            text: modelData
+            role: DarkUI.small
+            color: DarkUI.t3
+            Accessible.ignored: true
+        }
+    }
+}
