@@ -4,6 +4,7 @@
 #include "fakes/FakeFrontmostApp.h"
 #include "fakes/FakeHotKeyPort.h"
 #include "fakes/FakeIdleSource.h"
+#include "fakes/FakeLanguageModel.h"
 #include "fakes/FakePanelHost.h"
 #include "fakes/FakePointerPresses.h"
 #include "fakes/FakeProcessRunner.h"
@@ -16,6 +17,7 @@
 #include "fakes/VirtualTime.h"
 #include "platform/Autostart.h"
 #include "support/QtPrinters.h"
+#include "support/Text.h"
 #include "surfaces/cards/StopSummaryModel.h"
 #include "surfaces/window/SharedEngine.h"
 #include "tracking/AppPaths.h"
@@ -29,8 +31,6 @@ namespace vantle::tests {
 namespace {
 
 using State = TrackerCore::State;
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 class FakeAutostart final : public Autostart {
 public:
@@ -73,6 +73,7 @@ protected:
                                      .hotKeyPort = hotKeyPort,
                                      .frontmostApp = frontmostApp,
                                      .processRunner = processRunner,
+                                     .languageModel = languageModel,
                                      .reducedMotion = reducedMotion,
                                      .autostart = autostart,
                                      .trayItem = tray,
@@ -107,6 +108,7 @@ protected:
     fakes::FakeHotKeyPort hotKeyPort;
     fakes::FakeFrontmostApp frontmostApp;
     fakes::FakeProcessRunner processRunner;
+    fakes::FakeLanguageModel languageModel;
     fakes::FakeReducedMotion reducedMotion;
     fakes::FakeTrayItem tray;
     fakes::FakeCardStage cardStage;

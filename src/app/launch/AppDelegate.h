@@ -19,6 +19,7 @@ namespace vantle {
 
 class Autostart;
 class CardStage;
+class LanguageModel;
 class PanelHost;
 class PointerPresses;
 class ProcessRunner;
@@ -43,6 +44,7 @@ public:
         HotKeyPort& hotKeyPort;
         FrontmostApp& frontmostApp;
         ProcessRunner& processRunner;
+        LanguageModel& languageModel;
         const ReducedMotion& reducedMotion;
         Autostart& autostart;
         TrayItem& trayItem;

@@ -136,6 +136,7 @@ AppDelegate::Environment environmentOn(Ground& ground, bool startedAtLogin) {
             .hotKeyPort = platform.hotKeyPort(),
             .frontmostApp = platform.frontmostApp(),
             .processRunner = platform.processRunner(),
+            .languageModel = platform.languageModel(),
             .reducedMotion = platform.reducedMotion(),
             .autostart = platform.autostart(),
             .trayItem = platform.trayItem(),

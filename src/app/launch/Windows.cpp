@@ -1,11 +1,13 @@
 #include "app/launch/Windows.h"
 
 #include "app/AppModel.h"
+#include "review/WrappedView.h"
 #include "surfaces/dashboard/DashboardView.h"
 #include "surfaces/notes/LogView.h"
 #include "surfaces/quicklog/QuickLogView.h"
 #include "surfaces/settings/SettingsView.h"
 #include "surfaces/window/WindowRouter.h"
+#include "tracking/SkillList.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -50,6 +52,32 @@ std::unique_ptr<QObject> makeLog(const WindowParts& parts) {
         .copy = [](const QString& text) { QGuiApplication::clipboard()->setText(text); }});
 }
 
+std::unique_ptr<QObject> makeWrapped(const WindowParts& parts) {
+    AppModel& model = parts.model;
+    return std::make_unique<WrappedView>(WrappedView::Environment{
+        .notifications = parts.notifications,
+        .preferences = parts.preferences,
+        .model = parts.languageModel,
+        .clock = parts.clock,
+        .scheduler = parts.scheduler,
+        .calendar = parts.calendar,
+        .allSessions = [&model] { return model.tracker().allSessions(); },
+        .skills = [&skills = parts.skills] { return skills.all(); },
+        .initialPeriod = parts.router.wrappedInitialPeriod(),
+        // It starts a session, and ends none that was started elsewhere meanwhile.
+        .enterVantle =
+            [&model] {
+                if (model.tracker().state() == TrackerCore::State::Idle) model.toggleVantle();
+            },
+        .renderPng = [](const SharePoster&) { return std::nullopt; },
+        .copyPng = [](const QByteArray&) {},
+        .savePng =
+            [](const QByteArray&, const QString&,
+               const std::function<void(WrappedView::Saved)>& answer) {
+                answer(WrappedView::Saved::Failed);
+            }});
+}
+
 std::unique_ptr<QObject> makeSettings(const WindowParts& parts) {
     return std::make_unique<SettingsView>(SettingsView::Environment{
         .model = parts.model,
@@ -80,6 +108,8 @@ void registerWindows(const WindowParts& parts) {
         [](const WindowParts& p, const Close& close) -> std::unique_ptr<QObject> {
             return std::make_unique<QuickLogView>(p.model, p.preferences, close);
         });
+    add(WindowId::Wrapped, "Wrapped/WrappedPage",
+        [](const WindowParts& p, const Close&) { return makeWrapped(p); });
     add(WindowId::Settings, "Settings/SettingsPage",
         [](const WindowParts& p, const Close&) { return makeSettings(p); });
 }

@@ -14,6 +14,7 @@ class AutoRules;
 class Autostart;
 class Clock;
 class FocusLink;
+class LanguageModel;
 class NotificationCenter;
 class Preferences;
 class Scheduler;
@@ -38,6 +39,7 @@ struct WindowParts {
     SerialQueue& ioQueue;
     std::function<void(const QString& path)> reveal; ///< shows a file in the file manager
     std::function<Result<>()> openShortcuts;         ///< opens the folder of shortcuts
+    LanguageModel& languageModel;
 };
 
 /// Tells the router of every window that there is. Main thread, once.
