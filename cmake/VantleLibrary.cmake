@@ -9,9 +9,10 @@ function(vantle_library name)
 endfunction()
 
 # A folder with views: a static library that is a QML module as well. Programs link NAME and NAMEplugin.
+# DEPENDENCIES names the modules of which it uses C++ types for its own, for the views' checker.
 option(VANTLE_QML_AHEAD "Turn the views into byte code ahead of time" ON)
 function(vantle_qml_module name)
-    cmake_parse_arguments(ARG "" "URI" "SOURCES;QML_FILES;RESOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "" "URI" "SOURCES;QML_FILES;RESOURCES;LINKS;DEPENDENCIES" ${ARGN})
     string(REPLACE "." "/" path ${ARG_URI})
     set(cache NO_CACHEGEN)
     if(VANTLE_QML_AHEAD)
@@ -25,7 +26,7 @@ function(vantle_qml_module name)
         RESOURCE_PREFIX /qt/qml
         OUTPUT_DIRECTORY "${QT_QML_OUTPUT_DIRECTORY}/${path}"
         IMPORT_PATH "${QT_QML_OUTPUT_DIRECTORY}"
-        DEPENDENCIES QtQuick
+        DEPENDENCIES QtQuick ${ARG_DEPENDENCIES}
         QML_FILES ${ARG_QML_FILES}
         RESOURCES ${ARG_RESOURCES}
         SOURCES ${ARG_SOURCES})
@@ -34,7 +35,9 @@ function(vantle_qml_module name)
     set_target_properties(${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS "--only-bytecode")
     # What is generated is many small files that include the same headers: a few are compiled at once.
     set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 32)
-    set_source_files_properties(${ARG_SOURCES} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+    if(NOT CMAKE_UNITY_BUILD) # in the sanitizers' builds what is written by hand may be too
+        set_source_files_properties(${ARG_SOURCES} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+    endif()
     # What Qt generates from the views shadows names and converts silently.
     target_compile_options(${name} PRIVATE -Wno-shadow -Wno-conversion)
     # The generated registration includes the headers of the module by their bare names.
