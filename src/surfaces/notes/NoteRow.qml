@@ -21,14 +21,20 @@ KitControl {
 
     readonly property bool editing: log.editingId === sessionId
     readonly property bool copied: log.copiedId === sessionId
-    readonly property bool active: (hover.hovered || keyboardFocus) && !editing
+    readonly property bool ringed: keyboardFocus && !editing
+    readonly property bool active: (hover.hovered || keyboardFocus || copy.keyboardFocus
+                                    || edit.keyboardFocus) && !editing
     readonly property real textX: DarkUI.space28 + timeWidth
 
     function showEditor(): void {
-        if (editing)
+        if (editing) {
             editor.setSource("NoteEditor.qml", { "log": log });
-        else
-            editor.source = "";
+            return;
+        }
+        const hadFocus = editor.activeFocus;
+        editor.source = "";
+        if (hadFocus)
+            row.focusByKeyboard(); // a key has ended the edit
     }
 
     implicitHeight: content.height + 2 * DarkUI.space8
@@ -61,7 +67,7 @@ KitControl {
         color: row.active || row.editing ? DarkUI.rowHover : DarkUI.clear
 
         FocusRing {
-            shown: row.keyboardFocus && !row.editing
+            shown: row.ringed
             controlRadius: DarkUI.radiusBanner
         }
     }
@@ -107,28 +113,36 @@ KitControl {
         }
     }
 
+    // Transparent while nobody is at the row: hidden, they would lose the focus on its way to them.
     Row {
         anchors.right: parent.right
         anchors.rightMargin: DarkUI.space28
         y: DarkUI.space8
-        visible: row.active && !row.copied
+        visible: !row.editing && !row.copied
+        opacity: row.active ? 1 : 0
         spacing: DarkUI.space4
 
         DarkIconButton {
+            id: copy
             name: qsTr("Copy this note")
             help: name
             icon: "copy"
             iconSize: DarkUI.space14
-            activeFocusOnTab: row.active
-            onClicked: row.log.copyNote(row.sessionId)
+            activeFocusOnTab: row.activeFocusOnTab || activeFocus
+            onClicked: {
+                if (keyboardFocus)
+                    row.focusByKeyboard(); // the word in its place takes none
+                row.log.copyNote(row.sessionId);
+            }
         }
 
         DarkIconButton {
+            id: edit
             name: qsTr("Edit this note")
             help: name
             icon: "pencil"
             iconSize: DarkUI.space14
-            activeFocusOnTab: row.active
+            activeFocusOnTab: row.activeFocusOnTab || activeFocus
             onClicked: row.log.beginEdit(row.sessionId)
         }
     }

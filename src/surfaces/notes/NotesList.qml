@@ -44,7 +44,8 @@ FocusScope {
         delegate: NoteRow {
             width: ListView.view.width
             log: area.model
-            activeFocusOnTab: ListView.isCurrentItem
+            // What has the focus can't leave the order of the Tab key.
+            activeFocusOnTab: ListView.isCurrentItem || activeFocus
             timeWidth: Math.max(54, widestTime.width + DarkUI.space10)
             onLeftBehind: step => area.goBy(step)
         }
