@@ -12,6 +12,7 @@ FocusScope {
     property alias scroll: scroll
     property alias content: content
 
+    focus: true
     implicitWidth: 480
     implicitHeight: 620
 
