@@ -113,7 +113,8 @@ class OfFloatingSurfaces(ScreenReader):
         self.assert_nothing_is_nameless(window)
         self.assert_told(
             window, ("dialog", PANEL_TITLE), ("heading", "Ready to focus"),
-            ("push button", "Enter Vantle"), ("panel", "Modes"), ("push button", "Build", "Selected"),
+            ("push button", "Enter Vantle"), ("panel", "Modes"),
+            ("push button", "Build", "Selected"),
             *(("push button", name, "Not selected") for name in MODES[1:]),
             ("push button", "Dashboard"), ("push button", "Wrapped"), ("push button", "Notes"),
             ("push button", "Settings"), ("push button", "Quit", "Quit Vantle (⌘Q)"))

@@ -1,0 +1,152 @@
+"""Every window worked by the keyboard alone, on a screen of twice the usual density.
+
+There a window has half the room, so most of them scroll; what has the focus is in sight all the
+same, with its ring.
+"""
+
+import unittest
+
+from harness.bus import activate
+from harness.case import PANEL_TITLE
+from harness.eyes import Eyes
+from harness.picture import rgb_of
+from harness.waiting import wait_until
+from harness.windows import DASHBOARD, NOTES, QUICK_LOG, SETTINGS, ReaderCase, record
+
+SCALE = 2
+SCREEN = (1440, 900)
+
+RING = 0xA3A1FF  # around what the keyboard has brought the focus to
+FIELD_EDGE = 0x7A78FF  # of a text field that has it
+REACH = 16 * SCALE  # of a ring or an edge around what has the focus, at the most
+ENOUGH = 150  # px of a colour that make up a ring, even around the knob of a slider
+
+STRIP = ("Minimise", "Close")
+
+
+class ByKeys(ReaderCase):
+
+    def setUp(self):
+        super().setUp()
+        resources = self.desktop.directory / "resources"
+        resources.write_text(f"Xft.dpi: {96 * SCALE}\n")
+        self.desktop.tool("xrdb", "-nocpp", "-merge", str(resources))
+        self.eyes = Eyes(self.desktop.env["DISPLAY"])
+        self.addCleanup(self.eyes.close)
+
+    def focused(self, title):
+        """The innermost element that has the focus."""
+        return [one for one in self.reader.window(title).all() if "focused" in one.states][-1]
+
+    def step(self, title, before):
+        """Presses Tab; returns what has the focus now, once it shows that."""
+        self.desktop.press("Tab")
+
+        def moved():
+            now = self.focused(title)
+            return now.reference != before.reference and self.is_ringed(now) and now
+
+        try:
+            return wait_until("the focus on something else", moved)
+        except AssertionError:
+            self.desktop.screenshot("no-ring")
+            self.fail(f"no ring around {self.focused(title)}, after {before}")
+
+    def await_focus(self, title, name):
+        try:
+            wait_until(f"the focus on {name!r}", lambda: self.focused(title).name == name)
+        except AssertionError as failure:
+            self.fail(f"{failure}; it is on {self.focused(title)}")
+
+    def is_ringed(self, element):
+        colour = FIELD_EDGE if element.role == "text" else RING
+        # Qt tells of places in the pixels of a plain screen.
+        x, y, width, height = (SCALE * part for part in element.frame)
+        left, top = max(x - REACH, 0), max(y - REACH, 0)
+        right, bottom = min(x + width + REACH, SCREEN[0]), min(y + height + REACH, SCREEN[1])
+        around = self.count(colour, left, top, right - left, bottom - top)
+        alone = element.role == "text" or around == self.count(RING, 0, 0, *SCREEN)
+        return around > ENOUGH and alone
+
+    def count(self, colour, x, y, width, height):
+        """How many pixels of a part of the screen have exactly that colour."""
+        return self.eyes.raw(x, y, width, height).count(bytes(reversed(rgb_of(colour))))
+
+    def tour(self, title):
+        """Once around by the Tab key: the names of all stops, from the first that it leads to."""
+        first = here = self.step(title, self.focused(title))
+        names = []
+        while not names or here.reference != first.reference:
+            with self.subTest(stop=here.name):
+                self.assertIn("showing", here.states)
+            names.append(here.name)
+            self.assertLess(len(names), 60, names)
+            here = self.step(title, here)
+        return names
+
+    def go_to(self, title, name):
+        """Presses Tab until something of that name has the focus."""
+        here = self.focused(title)
+        while here.name != name:
+            here = self.step(title, here)
+
+    def test_the_hours(self):
+        self.write_records([record(1, ""), record(2, "")])
+        self.launch()
+        window = self.open(*DASHBOARD)
+        self.assertEqual(self.desktop.frame_of(window)[2], 612 * SCALE)
+        self.assertEqual(self.tour("Your hours"),
+                         [*STRIP, "Log time", "Wrapped", "Start building"])
+        self.desktop.screenshot("toured")
+
+    def test_the_notes(self):
+        self.write_log("first draft", "second draft")
+        self.launch()
+        self.open(*NOTES)
+        newest = "second draft, 09:00, Build, 30 min"
+        self.assertEqual(self.tour("Your notes"), ["All", newest, "Copy this note",
+                                                   "Edit this note", *STRIP, "Search notes"])
+        # An arrow key leads to the note below, from a button as well; it is copied and edited
+        # without the pointer, and has the focus again each time.
+        self.go_to("Your notes", "Copy this note")
+        self.desktop.press("Down")
+        oldest = "first draft, 09:00, Build, 30 min"
+        self.await_focus("Your notes", oldest)
+        self.go_to("Your notes", "Copy this note")
+        self.desktop.press("space")
+        self.await_told("Your notes", "label", "Copied")
+        self.await_focus("Your notes", oldest)
+        self.go_to("Your notes", "Edit this note")
+        self.desktop.press("Return")
+        self.await_focus("Your notes", "Note")
+        self.desktop.press("Escape")
+        self.await_focus("Your notes", oldest)
+
+    def test_the_form_for_time_by_hand(self):
+        self.launch()
+        self.open(*QUICK_LOG)
+        self.assertEqual(self.tour("Quick Log"),
+                         ["Minutes worked", "5 minutes less", "5 minutes more", "Work note",
+                          "Cancel", "Add to history", *STRIP, "Skill", "Hours worked"])
+
+    def test_the_settings(self):
+        self.launch()
+        self.open(*SETTINGS)
+        self.assertEqual(
+            self.tour("Settings"),
+            ["Auto-pause after 3 min", "Half an hour less", "Half an hour more",
+             "Focus with sessions", "Ripple ceremony", "Black out the screen", "Auto mode",
+             "Start sessions automatically", "Launch at login", "How time reads",
+             "Show the welcome again", "Export my data", "Erase everything", *STRIP])
+
+    def test_the_panel(self):
+        self.launch()
+        activate(self.desktop)
+        wait_until("the panel", lambda: self.desktop.windows_named(PANEL_TITLE))
+        self.assertEqual(self.tour(PANEL_TITLE),
+                         ["Build", "Dashboard", "Wrapped", "Notes", "Settings", "Quit",
+                          "Enter Vantle"])
+
+
+if __name__ == "__main__":
+    unittest.main()
