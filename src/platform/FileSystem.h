@@ -74,6 +74,10 @@ public:
     virtual Result<> setMode(const QString& path, int mode) = 0;
     virtual Result<int> mode(const QString& path) = 0;
 
+    /// The mode that this person's programs give to new files.
+    [[nodiscard]] virtual int usualMode() { return kUsualMode; }
+    static constexpr int kUsualMode = 0644;
+
     /// Returns when creations, renames and removals in the directory are on the disk.
     virtual Result<> syncDirectory(const QString& path) = 0;
 

@@ -44,4 +44,12 @@ Result<> replaceFile(FileSystem& files, const QString& path, QByteArrayView cont
     return {};
 }
 
+Result<> exportFile(FileSystem& files, const QString& path, QByteArrayView content) {
+    const auto mode = files.exists(path) ? files.mode(path) : Result<int>(files.usualMode());
+    if (auto replaced = replaceFile(files, path, content); !replaced) return replaced;
+    // Some disks know no modes.
+    if (mode) files.setMode(path, mode.value()).ignore();
+    return {};
+}
+
 } // namespace vantle

@@ -1,6 +1,7 @@
 // Writing a file in one piece: all of it, or as if nothing had been tried.
 //
-// On top of FileSystem; blocks until the content is on the disk. Files get mode 0600.
+// On top of FileSystem; blocks until the content is on the disk. Files get mode 0600 but
+// where it is said otherwise.
 #pragma once
 
 #include "platform/FileSystem.h"
@@ -15,5 +16,9 @@ Result<> createFile(FileSystem& files, const QString& path, QByteArrayView conte
 /// `.{name}.{uuid}.tmp`, is filled and renamed. Missing directories above are made with mode 0700.
 /// On failure the path holds what it held before, and no temporary file stays.
 Result<> replaceFile(FileSystem& files, const QString& path, QByteArrayView content);
+
+/// As replaceFile, for a file that the person takes away: it has the mode of what stood there, else
+/// that of the person's other new files.
+Result<> exportFile(FileSystem& files, const QString& path, QByteArrayView content);
 
 } // namespace vantle

@@ -69,6 +69,13 @@ TEST_F(PosixFileSystemTest, TheUmaskRulesWhereNoModeWasAskedFor) {
     EXPECT_EQ(m_files.mode(at("x")).value(), 0750);
 }
 
+TEST_F(PosixFileSystemTest, TellsTheModeThatTheUmaskLeavesToNewFiles) {
+    for (const auto& [mask, left] : {std::pair(0022, 0644), {0077, 0600}, {0002, 0664}}) {
+        const Umask umask(static_cast<mode_t>(mask));
+        EXPECT_EQ(m_files.usualMode(), left);
+    }
+}
+
 TEST_F(PosixFileSystemTest, AFullDeviceIsToldOnWriting) {
     auto file = m_files.open(QStringLiteral("/dev/full"), OpenMode::Append);
     ASSERT_TRUE(file);

@@ -51,6 +51,18 @@ TEST_F(WholeFile, MakesTheDirectoryForItsOwnerOnly) {
     EXPECT_EQ(m_disk.mode(QStringLiteral("/home/ada/config")).value(), 0700);
 }
 
+TEST_F(WholeFile, TakenAwayHasTheModeOfThePersonsOtherFiles) {
+    EXPECT_TRUE(exportFile(m_files, kPath, "new"));
+    EXPECT_EQ(m_disk.content(kPath), "new");
+    EXPECT_EQ(m_disk.mode(kPath).value(), 0644);
+}
+
+TEST_F(WholeFile, TakenAwayOverAnotherKeepsThatOnesMode) {
+    m_disk.setContent(kPath, "old", 0640);
+    EXPECT_TRUE(exportFile(m_files, kPath, "new"));
+    EXPECT_EQ(m_disk.mode(kPath).value(), 0640);
+}
+
 TEST_F(WholeFile, KeepsTheOldOneWhereverReplacingFails) {
     int failures = 0;
     for (int n = 1; n < 10; ++n) {

@@ -5,6 +5,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -19,6 +20,8 @@ namespace {
 
 constexpr mode_t kPrivateFile = 0600;
 constexpr mode_t kAllModeBits = 07777;
+constexpr int kAnybodysFile = 0666;
+constexpr qsizetype kStatusStart = 512; // bytes
 
 Error failure(int code, const QString& operation, const QString& path) {
     return Error::fromErrno(code, operation, path);
@@ -127,6 +130,22 @@ Result<> PosixFileSystem::setMode(const QString& path, int mode) {
     if (::chmod(QFile::encodeName(path).constData(), static_cast<mode_t>(mode)) != 0)
         return failure(errno, QStringLiteral("set mode of"), path);
     return {};
+}
+
+int PosixFileSystem::usualMode() {
+    // To ask the C library for the umask is to change it, for all threads. The kernel tells it in
+    // the first lines of this file.
+    const Descriptor status = openedAt(QStringLiteral("/proc/self/status"), O_RDONLY);
+    QByteArray text(kStatusStart, '\0');
+    const auto length =
+        status ? retried([&] { return ::read(status.get(), text.data(), text.size()); }) : 0;
+    text.truncate(std::max<qsizetype>(length, 0));
+    const qsizetype at = text.indexOf("Umask:");
+    if (at < 0) return kUsualMode;
+    const qsizetype begin = at + qsizetype(sizeof "Umask:") - 1;
+    const int umask =
+        text.mid(begin, text.indexOf('\n', begin) - begin).trimmed().toInt(nullptr, 8);
+    return kAnybodysFile & ~umask;
 }
 
 Result<int> PosixFileSystem::mode(const QString& path) {

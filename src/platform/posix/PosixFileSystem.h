@@ -17,6 +17,7 @@ public:
     Result<> remove(const QString& path) override;
     Result<> setMode(const QString& path, int mode) override;
     Result<int> mode(const QString& path) override;
+    [[nodiscard]] int usualMode() override;
     Result<> syncDirectory(const QString& path) override;
     [[nodiscard]] LockAttempt lock(const QString& path) override;
 };

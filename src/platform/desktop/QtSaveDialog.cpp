@@ -1,0 +1,91 @@
+#include "platform/desktop/QtSaveDialog.h"
+
+#include <QFileDialog>
+#include <QPointer>
+#include <QStandardPaths>
+#include <QWindow>
+
+namespace vantle {
+
+namespace {
+
+/// The colours of the program's windows, so that Qt's own dialog doesn't shine among them.
+QPalette darkPalette() {
+    const QColor ground(0x17, 0x17, 0x1D);
+    const QColor well(0x0A, 0x0A, 0x0F);
+    const QColor raised(0x26, 0x26, 0x2E);
+    const QColor text(0xF2, 0xF2, 0xF2);
+    const QColor quiet(0x8E, 0x8E, 0x90);
+    const QColor accent(0x7A, 0x78, 0xFF);
+    QPalette palette(text, raised, QColor(0x3A, 0x3A, 0x44), well, QColor(0x20, 0x20, 0x28), text,
+                     Qt::white, well, ground);
+    palette.setColor(QPalette::AlternateBase, ground);
+    palette.setColor(QPalette::ToolTipBase, ground);
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::PlaceholderText, quiet);
+    palette.setColor(QPalette::Highlight, accent);
+    palette.setColor(QPalette::HighlightedText, well);
+    palette.setColor(QPalette::Link, accent);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, quiet);
+    return palette;
+}
+
+QString firstFolder(const SaveQuestion& question) {
+    return question.folder.isEmpty()
+               ? QStandardPaths::writableLocation(QStandardPaths::HomeLocation)
+               : question.folder;
+}
+
+void takeAway(QFileDialog& dialog) {
+    dialog.disconnect();
+    dialog.hide();
+    dialog.deleteLater();
+}
+
+class OpenDialog final : public OpenSaveDialog {
+public:
+    explicit OpenDialog(QFileDialog* dialog) : m_dialog(dialog) {}
+    ~OpenDialog() override {
+        if (m_dialog) takeAway(*m_dialog);
+    }
+    OpenDialog(const OpenDialog&) = delete;
+    OpenDialog& operator=(const OpenDialog&) = delete;
+
+private:
+    const QPointer<QFileDialog> m_dialog; ///< empty once it has closed by itself
+};
+
+void placeAbove(QFileDialog& dialog, QWindow* window) {
+    if (!window) return;
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.winId(); // gives it a window that can have another one below
+    dialog.windowHandle()->setTransientParent(window);
+    QObject::connect(window, &QObject::destroyed, &dialog, [&dialog] { takeAway(dialog); });
+}
+
+} // namespace
+
+std::unique_ptr<OpenSaveDialog> QtSaveDialog::ask(const SaveQuestion& question, QWindow* above,
+                                                  Answer answer) {
+    auto* const dialog = new QFileDialog(nullptr, question.title, firstFolder(question));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setPalette(darkPalette());
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setNameFilter(QStringLiteral("%1 (*.%2)").arg(question.kind, question.ending));
+    dialog->setDefaultSuffix(question.ending);
+    dialog->selectFile(question.suggestedName);
+    placeAbove(*dialog, above);
+    QObject::connect(dialog, &QDialog::finished, dialog, [dialog, answer](int result) {
+        const QStringList chosen = dialog->selectedFiles();
+        if (result == QDialog::Accepted && !chosen.isEmpty())
+            answer(chosen.first());
+        else
+            answer(std::nullopt);
+    });
+    dialog->show();
+    return std::make_unique<OpenDialog>(dialog);
+}
+
+} // namespace vantle

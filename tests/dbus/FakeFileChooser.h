@@ -1,0 +1,79 @@
+// The portal's file chooser, as the code under test meets it.
+#pragma once
+
+#include "support/Buses.h"
+
+#include <QDBusArgument>
+#include <QDBusContext>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QObject>
+#include <QVariantMap>
+
+#include <gtest/gtest.h>
+
+namespace vantle::tests {
+
+/// One question, on the screen until somebody calls respond().
+class FakeFileChooser final : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
+
+public:
+    FakeFileChooser() {
+        m_client.bus().registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), this,
+                                      QDBusConnection::ExportAllInvokables);
+        EXPECT_TRUE(m_client.takeName(QStringLiteral("org.freedesktop.portal.Desktop")));
+    }
+
+    bool hasDialog = true; ///< false as on a desktop whose portal lacks this part
+    bool asked = false;
+    bool closed = false;
+    QString parent;
+    QString title;
+    QVariantMap options;
+
+    [[nodiscard]] QString filterSignature() const {
+        return options[QStringLiteral("filters")].value<QDBusArgument>().currentSignature();
+    }
+
+    /// What the person does: 0 for choosing the file.
+    void respond(uint response, const QString& uri) {
+        auto signal = QDBusMessage::createSignal(m_request.path(),
+                                                 QStringLiteral("org.freedesktop.portal.Request"),
+                                                 QStringLiteral("Response"));
+        QVariantMap results;
+        if (!uri.isEmpty()) results.insert(QStringLiteral("uris"), QStringList{uri});
+        signal << response << results;
+        m_client.bus().send(signal);
+    }
+
+    Q_INVOKABLE QDBusObjectPath SaveFile(const QString& parentWindow, const QString& dialogTitle,
+                                         const QVariantMap& with) {
+        if (!hasDialog) {
+            sendErrorReply(QDBusError::UnknownMethod, QStringLiteral("No such interface"));
+            return {};
+        }
+        parent = parentWindow;
+        title = dialogTitle;
+        options = with;
+        QString sender = message().service().mid(1);
+        sender.replace(QLatin1Char('.'), QLatin1Char('_'));
+        m_request =
+            QDBusObjectPath(QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2")
+                                .arg(sender, options[QStringLiteral("handle_token")].toString()));
+        m_client.bus().registerObject(m_request.path(),
+                                      QStringLiteral("org.freedesktop.portal.Request"), this,
+                                      QDBusConnection::ExportAllInvokables);
+        asked = true;
+        return m_request;
+    }
+
+    Q_INVOKABLE void Close() { closed = true; }
+
+private:
+    BusClient m_client;
+    QDBusObjectPath m_request;
+};
+
+} // namespace vantle::tests
