@@ -94,6 +94,8 @@ bool AppModel::quickLog(const QString& skillId, int minutes, const QString& note
     return true;
 }
 
+void AppModel::markSessionAsPractice() { m_isPracticeMarked = !isIdle(); }
+
 void AppModel::discardPracticeSession() {
     setLastActionNote(std::nullopt);
     if (isIdle()) return;

@@ -86,6 +86,9 @@ public:
     /// Erases all data and preferences. Empty on full success, else what the person is told.
     std::optional<QString> eraseEverything();
 
+    /// Makes the open session practice: neither it nor what it is split into stays in the log.
+    /// Before the welcome is done every session is.
+    void markSessionAsPractice();
     /// Throws the practice session of the welcome away.
     void discardPracticeSession();
     void markWelcomeDone();
@@ -157,7 +160,7 @@ private:
 
     void onSessionStarted(const Skill& skill, Date startedAt);
     void onSessionEnded(const Session& session);
-    void showStopSummary(const Session& session, bool isPractice, bool spotlightNote);
+    void showStopSummary(const Session& session, bool isPractice);
     void recoverAndNotify(const OpenSessionMarker& marker);
     void showIdleNotchPrompt(bool flash);
 
@@ -202,5 +205,6 @@ private:
 
     std::list<TimerHandle> m_delayedWork;
 };
+    bool m_isPracticeMarked = false; ///< of the open session
 
 } // namespace vantle

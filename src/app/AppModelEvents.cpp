@@ -110,6 +110,7 @@ void AppModel::onSessionStarted(const Skill& skill, Date) {
         m_collaborators.notch->retag(skill, true);
         return;
     }
+    m_isPracticeMarked = false;
     m_collaborators.focusLink->sessionStarted();
     const bool ceremonyPlays =
         !m_env.preferences.flag(preferencekeys::rippleDisabled) && !m_env.reducedMotion.enabled();
@@ -131,15 +132,18 @@ void AppModel::onSessionStarted(const Skill& skill, Date) {
 }
 
 void AppModel::onSessionEnded(const Session& session) {
-    if (m_isRetagging) return;
+    const bool onboarded = isOnboarded();
+    const bool isPractice = !onboarded || m_isPracticeMarked || m_isDiscardingPractice;
+    if (m_isRetagging) {
+        if (isPractice) m_tracker.deleteSession(session.id);
+        return;
+    }
     m_sessionBundleId.reset();
     m_collaborators.autoSkill->clearSessionOverrides();
     m_collaborators.focusLink->sessionEnded();
     m_collaborators.notch->hide();
     m_collaborators.ripple->play(CeremonyShow::Collapse,
                                  m_env.skills.display(session.skillId).hexRGB, std::nullopt);
-    const bool onboarded = isOnboarded();
-    const bool isPractice = !onboarded || m_isDiscardingPractice;
     // A practice session leaves no trace in the log.
     if (isPractice) m_tracker.deleteSession(session.id);
     if (m_isDiscardingPractice) {
@@ -147,11 +151,11 @@ void AppModel::onSessionEnded(const Session& session) {
         return;
     }
     if (m_isQuitting) return;
-    showStopSummary(session, isPractice, !onboarded);
+    showStopSummary(session, isPractice);
     if (onboarded) showIdleNotchPrompt(false);
 }
 
-void AppModel::showStopSummary(const Session& session, bool isPractice, bool spotlightNote) {
+void AppModel::showStopSummary(const Session& session, bool isPractice) {
     const Date now = m_env.clock.now();
     std::vector<Session> sessions = m_tracker.allSessions();
     collaborators::StopSummary::Content content;
@@ -165,7 +169,7 @@ void AppModel::showStopSummary(const Session& session, bool isPractice, bool spo
     content.showHotkeyHint =
         !m_stopViaHotkey && !m_env.preferences.flag(preferencekeys::hotkeyHintShown);
     if (content.showHotkeyHint) m_env.preferences.setBoolean(preferencekeys::hotkeyHintShown, true);
-    content.spotlightNote = spotlightNote;
+    content.spotlightNote = isPractice;
     m_collaborators.stopSummary->show(content, [self = QPointer(this), isPractice, id = session.id](
                                                    const std::optional<QString>& note) {
         if (!self || !note || isPractice) return;

@@ -19,6 +19,7 @@ ROWS = (
     ("app", "surfaces/window"),
     ("review",),
     ("surfaces/*", "ceremony"),
+    ("surfaces/welcome",),
     ("app/launch", "platform/*"),
 )
 RANKS = {folder: rank for rank, row in enumerate(ROWS) for folder in row}

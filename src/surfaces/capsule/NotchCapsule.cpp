@@ -50,6 +50,8 @@ NotchCapsule::NotchCapsule(const Environment& environment, Form form, const Scre
         connect(m_form.tracker, &TrackerCore::stateChanged, this, later);
         connect(m_form.tracker, &TrackerCore::startedAtChanged, this, later);
         refreshLabel();
+    } else {
+        m_clock = m_form.clock;
     }
     recomputeWidth();
 }

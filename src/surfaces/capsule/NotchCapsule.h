@@ -79,6 +79,7 @@ public:
         std::function<void()> onTap;
         std::function<void(const QString& skillId)> onPick;
         std::optional<collaborators::SkillEditCallbacks> edit;
+        QString clock = {}; ///< what it reads without a tracker: for pictures of a capsule
     };
 
     NotchCapsule(const Environment& environment, Form form, const ScreenShape& screen);

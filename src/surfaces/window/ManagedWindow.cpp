@@ -116,6 +116,7 @@ void ManagedWindow::close() {
     keepFrame();
     WindowShell* const shell = std::exchange(m_shell, nullptr);
     shell->disconnect(this);
+    if (m_content.willClose) m_content.willClose(shell->model());
     shell->hide();
     connect(shell, &QObject::destroyed, &giveMemoryBack);
     shell->deleteLater();

@@ -34,6 +34,8 @@ struct WindowContent {
     /// Makes the view model for one opening of the window; it goes when the window closes.
     /// `close` closes the window; it may be called from a handler of the view.
     std::function<std::unique_ptr<QObject>(std::function<void()> close)> makeModel;
+    /// Told when the window closes, with the view model; not when the program ends meanwhile.
+    std::function<void(QObject& model)> willClose = {};
 };
 
 /// The rules of each window.

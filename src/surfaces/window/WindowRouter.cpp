@@ -2,6 +2,8 @@
 
 #include "tracking/NotificationCenter.h"
 
+#include <QWindow>
+
 namespace vantle {
 
 WindowRouter::WindowRouter(const WindowEnvironment& environment, NotificationCenter& notifications)
@@ -37,6 +39,10 @@ void WindowRouter::showLog() { show(WindowId::Log); }
 void WindowRouter::showQuickLog() { show(WindowId::QuickLog); }
 void WindowRouter::showWelcome() { show(WindowId::Welcome); }
 void WindowRouter::showSettings() { show(WindowId::Settings); }
+
+void WindowRouter::orderOut(WindowId id) {
+    if (QWindow* const open = window(id)) open->hide();
+}
 
 void WindowRouter::close(WindowId id) {
     if (const auto found = m_windows.find(id); found != m_windows.end()) found->second->close();

@@ -36,6 +36,8 @@ public:
         return m_wrappedInitialPeriod;
     }
 
+    /// Takes an open window from the screen with all that it holds; to show it brings it back.
+    void orderOut(WindowId id);
     void close(WindowId id);
     void closeAll();
     [[nodiscard]] bool isOpen(WindowId id) const;

@@ -31,6 +31,8 @@ public:
 
     /// What the frame asks for: the view's own size and the strip. After load().
     [[nodiscard]] QSize fittingSize() const;
+    /// The view model. After load().
+    [[nodiscard]] QObject& model() const { return *m_model; }
 
     // What the frame's strip and edges do.
     Q_INVOKABLE void beginMove() { (void)startSystemMove(); }

@@ -1,0 +1,20 @@
+// The program's own sign.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Welcome
+
+Item {
+    id: picture
+
+    required property WelcomeView model
+
+    implicitHeight: WelcomeTokens.stageHeight
+
+    SvgPicture {
+        anchors.centerIn: parent
+        width: WelcomeTokens.appIcon
+        height: WelcomeTokens.appIcon
+        source: "qrc:/vantle/poster/app-icon.svg"
+    }
+}

@@ -1,0 +1,66 @@
+// The modes, each with a way to rename it and to remove it, and the way to another one.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Welcome
+
+FocusScope {
+    id: picture
+
+    required property WelcomeView model
+    readonly property bool editing: model.category.shown
+    readonly property bool low: editing || tags.count > 6
+    readonly property real pitch: low ? WelcomeTokens.tagLowPitch : WelcomeTokens.tagPitch
+
+    implicitHeight: WelcomeTokens.stageHeight
+
+    Column {
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: picture.editing ? 0 : -DarkUI.space2
+        width: WelcomeTokens.tagsWidth
+        spacing: picture.low ? DarkUI.space8 : DarkUI.space10
+
+        Item {
+            width: parent.width
+            height: Math.ceil(tags.count / 2) * picture.pitch
+            Accessible.role: Accessible.List
+            Accessible.name: picture.model.title
+
+            Repeater {
+                id: tags
+                model: picture.model.modes
+
+                ModeTag {
+                    required property int index
+                    x: index % 2 * WelcomeTokens.tagColumn
+                    y: Math.floor(index / 2) * picture.pitch
+                    width: WelcomeTokens.tagWidth
+                    height: picture.low ? WelcomeTokens.tagLowHeight : WelcomeTokens.tagHeight
+                    onRenameWanted: picture.model.beginRename(skillId)
+                    onRemoveWanted: picture.model.removeCategory(skillId)
+                }
+            }
+        }
+
+        AddCategoryButton {
+            visible: picture.model.canAddCategory && !picture.editing
+            onClicked: picture.model.addCategory()
+        }
+
+        CategoryRow {
+            width: parent.width
+            visible: picture.editing
+            model: picture.model
+        }
+
+        DarkText {
+            width: parent.width
+            visible: text !== "" && !picture.editing
+            text: picture.model.modesNote
+            role: DarkUI.small
+            color: DarkUI.t3
+            elide: Text.ElideRight
+            Accessible.role: Accessible.AlertMessage
+        }
+    }
+}

@@ -1,0 +1,85 @@
+// A wall that waits for its first brick to be followed by others.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Welcome
+
+Item {
+    id: picture
+
+    required property WelcomeView model
+    // The courses from the bottom up: where the first brick begins, then the lengths.
+    readonly property list<string> courses: [
+        "-28 96 96 80 74 96 82", "-64 96 88 96 80 88 96 88", "-22 96 88 74 96 88 80",
+        "-70 96 96 88 74 96 88 80", "-28 96 96 80 74 96 82", "-64 96 88 96 80 88 96 88",
+        "-22 96 88 74 96 88 80"
+    ]
+    readonly property real lowest: 172 // of the lowest course's upper edge
+
+    implicitHeight: WelcomeTokens.pickStageHeight
+
+    // What the next brick begins at: after `count` bricks of a course.
+    function begin(course: string, count: int): real {
+        const numbers = course.split(" ").map(Number);
+        return numbers.slice(1, count + 1).reduce((x, w) => x + w + WelcomeTokens.brickGap,
+                                                  numbers[0]);
+    }
+
+    Item {
+        anchors.fill: parent
+        clip: true
+
+        Repeater {
+            model: picture.courses
+
+            Repeater {
+                id: course
+
+                required property string modelData
+                required property int index
+                readonly property int row: index
+                readonly property string plan: modelData
+
+                model: plan.split(" ").length - 1
+
+                Rectangle {
+                    required property int index
+                    readonly property real share: course.row / (picture.courses.length - 1)
+
+                    x: picture.begin(course.plan, index)
+                    y: picture.lowest - course.row * WelcomeTokens.brickPitch
+                    visible: course.row > 0 || index !== 2
+                    width: Number(course.plan.split(" ")[index + 1])
+                    height: WelcomeTokens.brickHeight
+                    radius: DarkUI.radiusSmall
+                    color: Qt.rgba(1, 1, 1, WelcomeTokens.brickPlainest
+                                   + (WelcomeTokens.brickFaintest - WelcomeTokens.brickPlainest)
+                                   * share)
+                }
+            }
+        }
+    }
+
+    SoftGlow {
+        anchors.fill: first
+    }
+
+    Rectangle {
+        id: first
+        x: picture.begin(picture.courses[0], 2)
+        y: picture.lowest
+        width: 80
+        height: WelcomeTokens.brickHeight
+        radius: DarkUI.radiusSmall
+        color: DarkUI.accent
+
+        Rectangle {
+            x: DarkUI.radiusBar
+            y: DarkUI.radiusBar
+            width: parent.width - 2 * x
+            height: DarkUI.radiusButton
+            radius: height / 2
+            color: WelcomeTokens.brickShine
+        }
+    }
+}

@@ -1,0 +1,48 @@
+// One application with the chip of its mode.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Welcome
+
+Item {
+    id: row
+
+    required property sampleApp app
+    required property bool ruled // a line above it
+
+    implicitHeight: WelcomeTokens.appRow
+
+    DarkDivider {
+        width: parent.width
+        visible: row.ruled
+    }
+
+    Rectangle {
+        anchors.verticalCenter: parent.verticalCenter
+        width: WelcomeTokens.appTile
+        height: WelcomeTokens.appTile
+        radius: DarkUI.radiusSegment
+        color: DarkUI.quietHover
+
+        DarkText {
+            anchors.centerIn: parent
+            text: row.app.initial
+            role: DarkUI.captionStrong
+            color: DarkUI.t2
+        }
+    }
+
+    DarkText {
+        x: WelcomeTokens.appTile + DarkUI.space12
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.app.name
+        role: DarkUI.bodyMedium
+    }
+
+    DarkChip {
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.app.skillName
+        dotColor: row.app.color
+    }
+}

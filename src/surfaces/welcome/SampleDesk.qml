@@ -1,0 +1,34 @@
+// A desktop in a picture: its ground and the bar at its top.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Welcome
+
+Rectangle {
+    id: desk
+
+    required property real barHeight
+    default property alias content: inside.data
+
+    radius: DarkUI.radiusCard
+    color: WelcomeTokens.desk
+
+    Item {
+        width: parent.width
+        height: desk.barHeight
+        clip: true
+
+        Rectangle {
+            width: parent.width
+            height: parent.height + radius
+            radius: desk.radius
+            color: WelcomeTokens.bar
+        }
+    }
+
+    Item {
+        id: inside
+        anchors.fill: parent
+        clip: true
+    }
+}

@@ -1,0 +1,36 @@
+// A picture made of real controls: it can be looked at, and that is all. For assistive tools it is
+// one picture.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+Item {
+    id: sample
+
+    default property alias content: inside.data
+    property string label
+
+    // Controls in a picture are no controls. (Disabled they would look it.)
+    function quieten(item: Item): void {
+        item.Accessible.ignored = true;
+        item.activeFocusOnTab = false;
+        for (let i = 0; i < item.children.length; ++i)
+            quieten(item.children[i]);
+    }
+
+    Accessible.role: Accessible.Graphic
+    Accessible.name: label
+    Accessible.ignored: label === ""
+
+    Component.onCompleted: quieten(inside)
+
+    Item {
+        id: inside
+        anchors.fill: parent
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        hoverEnabled: true
+    }
+}

@@ -1,0 +1,30 @@
+// The steps: those behind, the present one, those to come.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Welcome
+
+Item {
+    id: dots
+
+    required property int count
+    required property int current
+
+    implicitWidth: (count - 1) * WelcomeTokens.dotPitch + WelcomeTokens.dot
+    implicitHeight: WelcomeTokens.dot
+    Accessible.role: Accessible.Indicator
+    Accessible.name: qsTr("Step %1 of %2").arg(current + 1).arg(count)
+
+    Repeater {
+        model: dots.count
+
+        FlatDot {
+            required property int index
+            x: index * WelcomeTokens.dotPitch
+            width: WelcomeTokens.dot
+            height: WelcomeTokens.dot
+            color: index === dots.current ? WelcomeTokens.dotCurrent
+                 : index < dots.current ? WelcomeTokens.dotPast : WelcomeTokens.dotToCome
+        }
+    }
+}

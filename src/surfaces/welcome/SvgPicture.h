@@ -1,0 +1,34 @@
+// A picture in its own colours.
+#pragma once
+
+#include "surfaces/kit/BakedItem.h"
+
+#include <QUrl>
+
+namespace vantle {
+
+/// Draws an SVG file of the program's resources, fitted into the item. Nothing when there is no
+/// such file. Main thread.
+class SvgPicture : public vantle::BakedItem {
+    Q_OBJECT
+    QML_ELEMENT
+    /// Such as "qrc:/qt/qml/Vantle/Welcome/pictures/brick.svg".
+    Q_PROPERTY(QUrl source READ source WRITE setSource NOTIFY sourceChanged)
+
+public:
+    explicit SvgPicture(QQuickItem* parent = nullptr) : BakedItem(parent) {}
+
+    [[nodiscard]] QUrl source() const { return m_source; }
+    void setSource(const QUrl& source);
+
+Q_SIGNALS:
+    void sourceChanged();
+
+protected:
+    void paint(QPainter& painter, double scale) override;
+
+private:
+    QUrl m_source;
+};
+
+} // namespace vantle

@@ -1,0 +1,143 @@
+#include "surfaces/welcome/WelcomeSamples.h"
+
+#include "platform/Preferences.h"
+#include "platform/ReducedMotion.h"
+#include "surfaces/capsule/CapsuleText.h"
+#include "surfaces/dashboard/DashboardFigures.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vantle {
+
+namespace {
+
+QString words(const char* utf8) { return QString::fromUtf8(utf8); }
+
+Skill seed(const char* id) {
+    return Skill::seedDefinition(QLatin1String(id)).value_or(Skill::defaults().front());
+}
+
+QColor colorOf(const char* id) { return QColor::fromRgb(seed(id).hexRGB); }
+
+SampleApp app(const char* name, const char* skill) {
+    return {words(name), seed(skill).name, colorOf(skill)};
+}
+
+StatBlock stat(const char* title, const char* value, const char* context, double fraction,
+               std::uint32_t accent) {
+    StatBlock made;
+    made.title = words(title);
+    made.value = words(value);
+    made.unit = words("h");
+    made.context = words(context);
+    made.fraction = fraction;
+    made.accent = QColor::fromRgb(accent);
+    return made;
+}
+
+SkillTotalLine total(const char* skill, double fraction, const char* hours, const char* share) {
+    return {seed(skill).name, colorOf(skill), fraction, words(hours), words(share)};
+}
+
+RecentLine line(const char* date, const char* skill, const char* duration) {
+    return {words(date), colorOf(skill), seed(skill).name, words(duration), false};
+}
+
+/// A letter an hour: the first of the mode's name.
+constexpr const char* kWall = "BFBBBBDDFMMCCCCCDDDDBBBBSSBMMBDBDSSSSSBBBSDDBD";
+
+const char* idOf(char letter) {
+    switch (letter) {
+    case 'D':
+        return "product_design";
+    case 'M':
+        return "marketing";
+    case 'S':
+        return "distribution";
+    case 'F':
+        return "founder_ops";
+    case 'C':
+        return "connections";
+    default:
+        return "building";
+    }
+}
+
+/// The screen that the capsule of the picture hangs from: one without a housing.
+ScreenShape sampleScreen() {
+    return {.frame = QRectF(0, 0, 1440, 900), .available = QRectF(0, 28, 1440, 872)};
+}
+
+constexpr int kHoveredChip = 3;
+
+} // namespace
+
+WelcomeSamples::WelcomeSamples(const Environment& environment) : m_env(environment) {}
+WelcomeSamples::~WelcomeSamples() = default;
+
+void WelcomeSamples::showModes(const std::vector<Skill>& skills) {
+    if (skills == m_skills) return;
+    m_skills = skills;
+    if (!m_capsule) return;
+    m_capsule.release()->deleteLater(); // its view lets go of it after the signal
+    Q_EMIT capsuleChanged();
+}
+
+QVariantList WelcomeSamples::apps() {
+    QVariantList list;
+    for (const SampleApp& one : {app("Terminal", "building"), app("Blender", "product_design"),
+                                 app("Thunderbird", "connections"), app("Ledger", "founder_ops")})
+        list << QVariant::fromValue(one);
+    return list;
+}
+
+QVariantList WelcomeSamples::stats() {
+    return {QVariant::fromValue(stat("Today", "1.4", "of 2 h goal", 0.71, 0xFF375F)),
+            QVariant::fromValue(stat("This week", "9.2", "of 14 h", 0.66, 0x7A78FF)),
+            QVariant::fromValue(stat("All time", "46.3", "next milestone 50 h", 0.926, 0x64D2FF))};
+}
+
+QList<QColor> WelcomeSamples::wall() {
+    QList<QColor> colors;
+    for (const char letter : QByteArray(kWall))
+        colors << colorOf(idOf(letter));
+    return colors;
+}
+
+QVariantList WelcomeSamples::totals() {
+    return {QVariant::fromValue(total("building", 1.0, "21.4 h", "46%")),
+            QVariant::fromValue(total("product_design", 0.49, "10.5 h", "23%"))};
+}
+
+QVariantList WelcomeSamples::recent() {
+    return {QVariant::fromValue(line("Nov 21 · 13:12", "building", "1 h 12 min")),
+            QVariant::fromValue(line("Nov 20 · 18:26", "product_design", "48 min"))};
+}
+
+QVariantList WelcomeSamples::modes() {
+    QVariantList list;
+    for (const Skill& skill : Skill::defaults())
+        list << QVariant::fromValue(SampleApp{{}, skill.name, QColor::fromRgb(skill.hexRGB)});
+    return list;
+}
+
+NotchCapsule* WelcomeSamples::capsule() {
+    if (m_capsule || m_skills.empty()) return m_capsule.get();
+    if (!m_capsuleText) m_capsuleText = std::make_unique<CapsuleText>();
+    NotchCapsule::Form form;
+    form.skill = m_skills.front();
+    form.skills = m_skills;
+    form.clock = words("1 h 12 min");
+    m_capsule = std::make_unique<NotchCapsule>(
+        NotchCapsule::Environment{m_env.scheduler, m_env.preferences, m_env.reducedMotion,
+                                  *m_capsuleText},
+        std::move(form), sampleScreen());
+    return m_capsule.get();
+}
+
+int WelcomeSamples::hoveredChip() const {
+    return std::min(kHoveredChip, static_cast<int>(m_skills.size()) - 1);
+}
+
+} // namespace vantle

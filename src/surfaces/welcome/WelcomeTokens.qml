@@ -1,0 +1,76 @@
+// Lengths and colours that are the welcome's own, in px, beside the tokens of the kit.
+pragma Singleton
+import QtQuick
+import Vantle.Kit
+
+QtObject {
+    readonly property real width: 560
+    readonly property real height: 572
+    readonly property real margin: 44 // of the words
+    readonly property real footBottom: 28
+    readonly property real wordsTop: 30 // below the stage
+
+    readonly property real stageLeft: 20
+    readonly property real stageWidth: width - 2 * stageLeft
+    readonly property color stage: Qt.rgba(1, 1, 1, 0.025)
+    readonly property real stageHeight: 300
+    readonly property real pickStageHeight: 220
+    readonly property real panelStageHeight: 376
+    readonly property real posterStageHeight: 352
+
+    readonly property real dot: 6 // of the row that shows the step
+    readonly property real dotPitch: 13
+    readonly property color dotPast: Qt.rgba(1, 1, 1, 0.38)
+    readonly property color dotCurrent: DarkUI.t1
+    readonly property color dotToCome: Qt.rgba(1, 1, 1, 0.143)
+
+    readonly property real brickHeight: 26
+    readonly property real brickPitch: 32 // of the courses
+    readonly property real brickGap: 6
+    readonly property real brickFaintest: 0.015 // opacity of white, at the top
+    readonly property real brickPlainest: 0.06 // at the bottom
+    readonly property color brickShine: Qt.rgba(1, 1, 1, 0.20)
+    readonly property real glowReach: 14
+    readonly property real glowOpacity: 0.34
+    readonly property int glowTime: 700 // ms each way
+    readonly property int glowTimes: 3
+
+    readonly property real tagHeight: 46
+    readonly property real tagPitch: 56
+    readonly property real tagLowHeight: 34 // where many tags, or the row below them, need room
+    readonly property real tagLowPitch: 40
+    readonly property real tagWidth: 211
+    readonly property real tagColumn: 221
+    readonly property real tagsWidth: tagColumn + tagWidth
+
+    readonly property real key: 92
+    readonly property real keyGap: 16
+    readonly property real keyFront: 4 // the side of the key that one sees
+    readonly property TypeRole keySign: DisplayRole { size: 32; line: 36; weight: Font.Medium }
+
+    readonly property TypeRole clock: DisplayRole { size: 70; line: 78; tracking: -0.018 }
+    readonly property TypeRole clockSkill: TypeRole { size: 12; line: 16; tracking: 0.09 }
+    readonly property real clockDot: 13
+    readonly property real wordSpace: 0.24 // em
+
+    readonly property color desk: "#3D4454" // a desktop in the pictures
+    readonly property color bar: "#14161C"
+    readonly property real windowBar: 34
+    readonly property real panelBar: 28
+    readonly property real notchBar: 24
+    readonly property real brickSign: 16
+    readonly property real brickPlaceWidth: 38
+    readonly property real brickPlaceHeight: 28
+
+    readonly property real appsLeft: 60
+    readonly property real appsWidth: 400
+    readonly property real appRow: 41
+    readonly property real appTile: 26
+
+    readonly property real notchScale: 1.28 // of the pictures, against the real thing
+    readonly property real windowScale: 0.66
+    readonly property real panelScale: 0.6
+    readonly property real windowWidth: 612
+    readonly property real posterWidth: 212
+    readonly property real appIcon: 168
+}

@@ -1,0 +1,236 @@
+#include "surfaces/welcome/WelcomeView.h"
+
+#include "app/AppModel.h"
+#include "app/PreferenceKeys.h"
+#include "base/Text.h"
+#include "platform/Preferences.h"
+#include "platform/ReducedMotion.h"
+#include "tracking/DashFormat.h"
+#include "tracking/NotificationCenter.h"
+#include "tracking/SkillList.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vantle {
+
+namespace {
+
+using namespace welcometext;
+
+/// The ceremony lasts 3.1 seconds.
+constexpr Seconds kOutOfTheWay{3.6};
+constexpr Seconds kTick{1.0};
+constexpr Seconds kTickTolerance{0.2};
+/// Fewer characters are a slip of the hand, not a name.
+constexpr qsizetype kShortestName = 2;
+/// What the practice runs under, when it is there.
+constexpr QLatin1String kPracticeSkill("building");
+
+bool isName(const QString& trimmed) { return text::characterCount(trimmed) >= kShortestName; }
+
+} // namespace
+
+WelcomeView::WelcomeView(Environment environment)
+    : m_env(std::move(environment))
+    , m_category(
+          [this](const std::optional<QString>& id, const QString& name, std::uint32_t hexRGB) {
+              if (!isName(name)) return;
+              if (id)
+                  m_env.model.updateSkill(*id, name, hexRGB);
+              else
+                  m_env.model.addSkill(name, hexRGB);
+          })
+    , m_sessionOpen(tracker().state() != TrackerCore::State::Idle)
+    , m_samples(std::make_unique<WelcomeSamples>(
+          WelcomeSamples::Environment{m_env.scheduler, m_env.preferences, m_env.reducedMotion})) {
+    // A change of mode ends a session and starts another: what counts is how the turn ends.
+    connect(&tracker(), &TrackerCore::stateChanged, this, [this] {
+        m_env.scheduler.post([self = QPointer(this)] {
+            if (self) self->followState();
+        });
+    });
+    connect(&m_env.notifications, &NotificationCenter::HFStopSummaryResolved, this,
+            &WelcomeView::stopCardClosed);
+    connect(&m_env.model, &AppModel::skillsChanged, this, &WelcomeView::refreshModes);
+    connect(&m_env.model.hotKey(), &HotKey::registrationErrorChanged, this,
+            &WelcomeView::shortcutProblemChanged);
+    connect(&m_category, &ModeEditor::nameChanged, this, &WelcomeView::categoryChanged);
+    refreshModes();
+}
+
+WelcomeView::~WelcomeView() = default;
+
+TrackerCore& WelcomeView::tracker() const { return m_env.model.tracker(); }
+
+QString WelcomeView::body() const {
+    return welcometext::body(m_step, m_env.model.projectName().value_or(QString()));
+}
+
+QString WelcomeView::shortcutProblem() const {
+    return m_step == Press ? m_env.model.hotKey().registrationError().value_or(QString())
+                           : QString();
+}
+
+void WelcomeView::goTo(int step) {
+    m_step = step;
+    Q_EMIT stepChanged();
+    Q_EMIT shortcutProblemChanged();
+}
+
+void WelcomeView::pressPrimary() {
+    if (!canPressPrimary()) return;
+    switch (m_step) {
+    case Press:
+    case Stop:
+        m_env.model.toggleVantle();
+        return;
+    case Done:
+        finish();
+        return;
+    case Pick:
+        commitPick();
+        break;
+    case Modes:
+        m_category.close();
+        break;
+    default:
+        break;
+    }
+    goTo(m_step + 1);
+    // Before the welcome is done every session is practice, so one that runs already will do.
+    if (m_step == Press && m_sessionOpen && m_env.model.needsWelcome()) beginPractice();
+}
+
+void WelcomeView::pressQuiet() {
+    if (m_step == Pick) finish();
+    if (m_step == Wrapped) m_env.openWrapped();
+}
+
+void WelcomeView::commitPick() {
+    const QString name = text::trimmed(m_productName);
+    if (isName(name)) m_env.model.setProjectName(name);
+    const auto& skills = m_env.model.skills();
+    const bool isThere =
+        std::ranges::any_of(skills, [](const Skill& skill) { return skill.id == kPracticeSkill; });
+    // An open session is real work, and stays under the mode that it has.
+    if (isThere && !m_sessionOpen)
+        m_env.model.selectSkill(kPracticeSkill, AppModel::SkillSelectionOrigin::Human);
+}
+
+void WelcomeView::finish() {
+    if (std::exchange(m_finished, true)) return;
+    m_env.model.markWelcomeDone();
+    if (m_practiceRunning) m_env.model.discardPracticeSession();
+    m_env.model.ensureIdleNotch();
+    m_env.onClose();
+}
+
+// -- the practice session
+
+void WelcomeView::followState() {
+    const bool open = tracker().state() != TrackerCore::State::Idle;
+    if (m_finished || std::exchange(m_sessionOpen, open) == open) return;
+    if (open && (m_step == Press || m_step == Stop)) {
+        beginPractice();
+        bowOutForCeremony();
+    } else if (!open && m_practiceRunning) {
+        refreshClock();
+        m_clock.reset();
+        m_practiceRunning = false;
+        m_waitingForStopCard = true;
+        Q_EMIT practiceChanged();
+    }
+}
+
+void WelcomeView::beginPractice() {
+    m_env.model.markSessionAsPractice();
+    m_practiceRunning = true;
+    m_waitingForStopCard = false;
+    refreshClock();
+    m_clock =
+        m_env.scheduler.scheduleRepeatingTimer(kTick, kTickTolerance, [this] { refreshClock(); });
+    if (m_step == Press) goTo(Stop);
+    Q_EMIT practiceChanged();
+}
+
+void WelcomeView::stopCardClosed() {
+    if (!std::exchange(m_waitingForStopCard, false)) return;
+    goTo(Success);
+    Q_EMIT practiceChanged();
+    bringForward();
+}
+
+void WelcomeView::bowOutForCeremony() {
+    if (m_env.preferences.flag(preferencekeys::rippleDisabled) || m_env.reducedMotion.enabled())
+        return;
+    m_env.orderOut();
+    m_return = m_env.scheduler.scheduleOnce(kOutOfTheWay, [this] { bringForward(); });
+}
+
+void WelcomeView::bringForward() {
+    m_return.reset();
+    m_env.bringForward();
+}
+
+void WelcomeView::refreshClock() {
+    if (const auto id = tracker().currentSkillId(); id && *id != m_practiceSkillId) {
+        m_practiceSkillId = *id;
+        Q_EMIT practiceChanged();
+    }
+    if (tracker().state() == TrackerCore::State::Idle) return; // what it came to stays
+    const auto seconds = std::max<std::int64_t>(tracker().displayActiveSeconds(), 0);
+    m_practiceWords =
+        dashformat::sessionDuration(seconds, durationstyle::current(m_env.preferences))
+            .split(QLatin1Char(' '));
+    Q_EMIT practiceTicked();
+}
+
+Skill WelcomeView::practisedSkill() const {
+    return SkillList::display(m_practiceSkillId, m_env.model.skills());
+}
+
+QString WelcomeView::practiceSkill() const { return text::upperCased(practisedSkill().name); }
+QColor WelcomeView::practiceColor() const { return QColor::fromRgb(practisedSkill().hexRGB); }
+
+// -- the modes
+
+void WelcomeView::refreshModes() {
+    m_modes.show(m_env.model.skills(), {});
+    m_samples->showModes(m_env.model.skills());
+    Q_EMIT modesChanged();
+}
+
+bool WelcomeView::canAddCategory() const {
+    return m_env.model.skills().size() < static_cast<std::size_t>(Skill::maxCount);
+}
+
+bool WelcomeView::canCommitCategory() const { return isName(text::trimmed(m_category.name())); }
+
+void WelcomeView::addCategory() {
+    if (canAddCategory()) m_category.openNew(m_env.model.skills());
+}
+
+void WelcomeView::beginRename(const QString& skillId) {
+    const auto& skills = m_env.model.skills();
+    const auto found = std::ranges::find(skills, skillId, &Skill::id);
+    if (found != skills.end()) m_category.openFor(*found);
+}
+
+void WelcomeView::removeCategory(const QString& skillId) {
+    m_category.close();
+    m_env.model.deleteSkill(skillId);
+    m_modesNote = m_env.model.lastActionNote().value_or(QString());
+    Q_EMIT modesChanged();
+}
+
+void WelcomeView::commitCategory() {
+    const bool changes = canCommitCategory();
+    if (changes) m_category.commit();
+    m_category.close();
+    if (!changes) return;
+    m_modesNote = m_env.model.lastActionNote().value_or(QString());
+    Q_EMIT modesChanged();
+}
+
+} // namespace vantle

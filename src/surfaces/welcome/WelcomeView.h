@@ -1,0 +1,159 @@
+// The welcome: ten steps through the program, and one practice session in the middle.
+#pragma once
+
+#include "base/Scheduler.h"
+#include "surfaces/commandcenter/ModeEditor.h"
+#include "surfaces/commandcenter/ModeListModel.h"
+#include "surfaces/welcome/WelcomeSamples.h"
+#include "surfaces/welcome/WelcomeText.h"
+#include "tracking/TrackerCore.h"
+
+#include <QColor>
+#include <QObject>
+#include <QQmlEngine>
+#include <QStringList>
+
+#include <functional>
+
+namespace vantle {
+
+class AppModel;
+class NotificationCenter;
+class Preferences;
+class ReducedMotion;
+
+/// Where somebody is in the welcome, and what each step does. The step is nowhere stored: each
+/// opening starts with the first. What ends the flow for good is the preference that the
+/// application model sets in finish(). Main thread.
+class WelcomeView final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the window router.")
+    Q_PROPERTY(int step READ step NOTIFY stepChanged FINAL)
+    Q_PROPERTY(int stepCount READ stepCount CONSTANT FINAL)
+    Q_PROPERTY(QString title READ title NOTIFY stepChanged FINAL)
+    Q_PROPERTY(QString body READ body NOTIFY stepChanged FINAL)
+    Q_PROPERTY(QString sampleLine READ sampleLine NOTIFY stepChanged FINAL)
+    Q_PROPERTY(QString sampleLabel READ sampleLabel NOTIFY stepChanged FINAL)
+    /// Why the shortcut does not work, on the step that asks for it; empty when it does.
+    Q_PROPERTY(QString shortcutProblem READ shortcutProblem NOTIFY shortcutProblemChanged FINAL)
+    Q_PROPERTY(QString primaryText READ primaryText NOTIFY stepChanged FINAL)
+    Q_PROPERTY(bool canPressPrimary READ canPressPrimary NOTIFY practiceChanged FINAL)
+    Q_PROPERTY(QString quietText READ quietText NOTIFY stepChanged FINAL)
+    Q_PROPERTY(QString asideText READ asideText NOTIFY stepChanged FINAL)
+    Q_PROPERTY(QString productName MEMBER m_productName NOTIFY productNameChanged FINAL)
+
+    Q_PROPERTY(vantle::ModeListModel* modes READ modes CONSTANT FINAL)
+    /// The row that adds a mode or renames one.
+    Q_PROPERTY(vantle::ModeEditor* category READ category CONSTANT FINAL)
+    /// The name in that row is long enough.
+    Q_PROPERTY(bool canCommitCategory READ canCommitCategory NOTIFY categoryChanged FINAL)
+    Q_PROPERTY(bool canAddCategory READ canAddCategory NOTIFY modesChanged FINAL)
+    /// What became of the last change to a mode; empty before the first.
+    Q_PROPERTY(QString modesNote READ modesNote NOTIFY modesChanged FINAL)
+
+    /// The practice session: its skill, and its time in words, figures and units in turn.
+    Q_PROPERTY(QString practiceSkill READ practiceSkill NOTIFY practiceChanged FINAL)
+    Q_PROPERTY(QColor practiceColor READ practiceColor NOTIFY practiceChanged FINAL)
+    Q_PROPERTY(QStringList practiceWords READ practiceWords NOTIFY practiceTicked FINAL)
+    Q_PROPERTY(bool practiceRunning READ isPracticeRunning NOTIFY practiceChanged FINAL)
+
+    /// The pictures of the steps.
+    Q_PROPERTY(vantle::WelcomeSamples* samples READ samples CONSTANT FINAL)
+
+public:
+    /// What the welcome works with. All of it must outlive the view.
+    struct Environment {
+        AppModel& model;
+        NotificationCenter& notifications;
+        const Preferences& preferences;
+        const ReducedMotion& reducedMotion;
+        Scheduler& scheduler;
+        std::function<void()> orderOut;     ///< takes the window from the screen, for a while
+        std::function<void()> bringForward; ///< shows it, in front and with the keyboard
+        std::function<void()> openWrapped;
+        std::function<void()> onClose;
+    };
+
+    explicit WelcomeView(Environment environment);
+    ~WelcomeView() override;
+
+    /// The main button of the step.
+    Q_INVOKABLE void pressPrimary();
+    /// The quiet one.
+    Q_INVOKABLE void pressQuiet();
+    /// Ends the flow for good and closes the window. Closing the window comes to the same.
+    Q_INVOKABLE void finish();
+
+    Q_INVOKABLE void addCategory();
+    Q_INVOKABLE void beginRename(const QString& skillId);
+    Q_INVOKABLE void removeCategory(const QString& skillId);
+    /// Adds or renames, where the name is long enough; closes the row in any case.
+    Q_INVOKABLE void commitCategory();
+
+    [[nodiscard]] int step() const { return m_step; }
+    [[nodiscard]] static int stepCount() { return welcometext::stepCount; }
+    [[nodiscard]] QString title() const { return welcometext::title(m_step); }
+    [[nodiscard]] QString body() const;
+    [[nodiscard]] QString sampleLine() const { return welcometext::sampleLine(m_step); }
+    [[nodiscard]] QString sampleLabel() const { return welcometext::sampleLabel(m_step); }
+    [[nodiscard]] QString shortcutProblem() const;
+    [[nodiscard]] QString primaryText() const { return welcometext::primary(m_step); }
+    [[nodiscard]] bool canPressPrimary() const { return !m_waitingForStopCard; }
+    [[nodiscard]] QString quietText() const { return welcometext::quiet(m_step); }
+    [[nodiscard]] QString asideText() const { return welcometext::aside(m_step); }
+
+    [[nodiscard]] ModeListModel* modes() { return &m_modes; }
+    [[nodiscard]] ModeEditor* category() { return &m_category; }
+    [[nodiscard]] bool canCommitCategory() const;
+    [[nodiscard]] bool canAddCategory() const;
+    [[nodiscard]] const QString& modesNote() const { return m_modesNote; }
+
+    [[nodiscard]] QString practiceSkill() const;
+    [[nodiscard]] QColor practiceColor() const;
+    [[nodiscard]] const QStringList& practiceWords() const { return m_practiceWords; }
+    [[nodiscard]] bool isPracticeRunning() const { return m_practiceRunning; }
+    [[nodiscard]] bool isWaitingForStopCard() const { return m_waitingForStopCard; }
+
+    [[nodiscard]] WelcomeSamples* samples() { return m_samples.get(); }
+
+Q_SIGNALS:
+    void stepChanged();
+    void shortcutProblemChanged();
+    void productNameChanged();
+    void modesChanged();
+    void categoryChanged();
+    void practiceChanged();
+    void practiceTicked();
+
+private:
+    void goTo(int step);
+    void commitPick();
+    void followState();
+    void beginPractice();
+    void stopCardClosed();
+    void bowOutForCeremony();
+    void bringForward();
+    void refreshModes();
+    void refreshClock();
+    [[nodiscard]] TrackerCore& tracker() const;
+    [[nodiscard]] Skill practisedSkill() const;
+
+    const Environment m_env;
+    int m_step = welcometext::Pick;
+    bool m_finished = false;
+    QString m_productName;
+    ModeListModel m_modes;
+    ModeEditor m_category;
+    QString m_modesNote;
+    bool m_sessionOpen = false; ///< as the view last saw it
+    bool m_practiceRunning = false;
+    bool m_waitingForStopCard = false;
+    QString m_practiceSkillId;
+    QStringList m_practiceWords;
+    std::unique_ptr<WelcomeSamples> m_samples;
+    TimerHandle m_return; ///< while the window is out of the ceremony's way
+    TimerHandle m_clock;
+};
+
+} // namespace vantle

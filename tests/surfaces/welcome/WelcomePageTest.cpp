@@ -1,0 +1,195 @@
+// The view over the real model: every step draws, and its controls and keys do what they say.
+#include "surfaces/kit/Motion.h"
+#include "surfaces/welcome/WelcomeWorld.h"
+
+#include <QAccessible>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QKeyEvent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+
+#include <gtest/gtest.h>
+
+namespace vantle {
+namespace {
+
+using namespace welcometext;
+
+class WelcomePageTest : public testing::Test, protected tests::WelcomeWorld {
+protected:
+    QQuickItem& show() {
+        open();
+        m_window.engine()->addImportPath(text("qrc:/qt/qml"));
+        Motion::of(*m_window.engine())->setReduced(true);
+        QObject::connect(m_window.engine(), &QQmlEngine::warnings, [this](const auto& list) {
+            for (const QQmlError& one : list)
+                m_warnings << one.toString();
+        });
+        m_window.setInitialProperties({{text("model"), QVariant::fromValue(&*view)}});
+        m_window.setSource(QUrl(text("qrc:/qt/qml/Vantle/Welcome/WelcomePage.qml")));
+        m_window.show();
+        m_window.requestActivate();
+        QCoreApplication::processEvents();
+        return *m_window.rootObject();
+    }
+    template <typename Fits>
+    static QQuickItem* search(QQuickItem* item, const Fits& fits) {
+        if (!item->isVisible()) return nullptr;
+        if (fits(*item)) return item;
+        for (QQuickItem* child : item->childItems())
+            if (QQuickItem* const found = search(child, fits)) return found;
+        return nullptr;
+    }
+    [[nodiscard]] bool shows(const char* words) {
+        return search(m_window.contentItem(), [&](const QQuickItem& item) {
+                   return item.property("text").toString() == text(words);
+               }) != nullptr;
+    }
+    [[nodiscard]] QQuickItem* control(const char* name) {
+        return search(m_window.contentItem(), [&](const QQuickItem& item) {
+            return item.property("name").toString() == text(name) &&
+                   item.metaObject()->indexOfSignal("clicked()") >= 0;
+        });
+    }
+    void click(const char* name) {
+        QQuickItem* const item = control(name);
+        ASSERT_NE(item, nullptr) << name;
+        QMetaObject::invokeMethod(item, "clicked");
+        settle();
+        QCoreApplication::processEvents();
+    }
+    void key(int code, const QString& typed = {}) {
+        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, code, Qt::NoModifier, typed);
+            QCoreApplication::sendEvent(&m_window, &event);
+        }
+        settle();
+        QCoreApplication::processEvents();
+    }
+    void type(const char* word) {
+        for (const QChar letter : text(word))
+            key(0, QString(letter));
+    }
+    /// What assistive tools find, by role: their names.
+    void collect(QAccessible::Role role, QAccessibleInterface* of, QStringList& names) {
+        if (of == nullptr || of->state().invisible) return;
+        if (of->role() == role) names << of->text(QAccessible::Name);
+        for (int i = 0; i < of->childCount(); ++i)
+            collect(role, of->child(i), names);
+    }
+    [[nodiscard]] QStringList readAs(QAccessible::Role role) {
+        QStringList names;
+        collect(role, QAccessible::queryAccessibleInterface(m_window.rootObject()), names);
+        return names;
+    }
+
+    /// The picture of the step before fades away in a moment of real time.
+    [[nodiscard]] QStringList pictures() {
+        const QDeadlineTimer soon(5000);
+        while (readAs(QAccessible::Graphic).size() > 1 && !soon.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        return readAs(QAccessible::Graphic);
+    }
+
+    QStringList m_warnings;
+    QQuickView m_window;
+};
+
+TEST_F(WelcomePageTest, IsAsLargeAsItsWindowAndDrawsEveryStepWithoutAWarning) {
+    const QQuickItem& page = show();
+    EXPECT_EQ(page.implicitWidth(), 560);
+    EXPECT_EQ(page.implicitHeight(), 572);
+    for (int step = 0; step < stepCount; ++step) {
+        walkTo(step);
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(m_window.grabWindow().isNull());
+        EXPECT_TRUE(shows(view->title().toUtf8().constData())) << step;
+        EXPECT_TRUE(shows(view->body().toUtf8().constData())) << step;
+    }
+    EXPECT_EQ(m_warnings, QStringList());
+}
+
+TEST_F(WelcomePageTest, GoesByTheKeyboardAloneFromTheFirstWordToTheLastButton) {
+    show();
+    type("Lumen");
+    key(Qt::Key_Return);
+    EXPECT_EQ(view->step(), Modes);
+    EXPECT_EQ(model->projectName(), text("Lumen"));
+    key(Qt::Key_Return);
+    EXPECT_EQ(view->step(), Press);
+    key(Qt::Key_Return);
+    EXPECT_EQ(view->step(), Stop);
+    EXPECT_TRUE(shows("BUILD"));
+    key(Qt::Key_Return);
+    EXPECT_FALSE(control("Stop Vantle")->isEnabled());
+    key(Qt::Key_Return);
+    EXPECT_EQ(view->step(), Stop) << "it waits for the card";
+    EXPECT_FALSE(view->isPracticeRunning());
+    closeCard();
+    QCoreApplication::processEvents();
+    for (int step = Success; step < Done; ++step) {
+        EXPECT_EQ(view->step(), step);
+        key(Qt::Key_Return);
+    }
+    key(Qt::Key_Escape);
+    EXPECT_EQ(closed, 0) << "only a button ends it";
+    key(Qt::Key_Space);
+    EXPECT_EQ(closed, 1);
+}
+
+TEST_F(WelcomePageTest, TabLeadsFromTheFieldToSkipping) {
+    show();
+    key(Qt::Key_Tab);
+    key(Qt::Key_Space);
+    EXPECT_EQ(closed, 1);
+}
+
+TEST_F(WelcomePageTest, ModesAreChangedByTheKeyboard) {
+    show();
+    walkTo(Modes);
+    QCoreApplication::processEvents();
+    click("Add your own");
+    type("Investors");
+    key(Qt::Key_Return);
+    EXPECT_TRUE(shows("Investors"));
+    EXPECT_TRUE(shows("Added Investors"));
+    click("Rename Marketing");
+    EXPECT_TRUE(control("Save")->isEnabled());
+    type("Growth");
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(shows("Marketing")) << "Escape leaves it as it was";
+    click("Remove Connections");
+    EXPECT_FALSE(shows("Connections"));
+    EXPECT_EQ(view->step(), Modes);
+}
+
+TEST_F(WelcomePageTest, PicturesAreOnePictureForAssistiveToolsAndNoStopForTheKeyboard) {
+    show();
+    for (const int step : {int(Success), int(Notch), int(Dashboard), int(Brick), int(Wrapped)}) {
+        walkTo(step);
+        time.advance(1);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(pictures(), QStringList{view->sampleLabel()}) << step;
+        QStringList buttons{text("Continue")};
+        if (step == Wrapped) buttons.prepend(text("Open Wrapped"));
+        EXPECT_EQ(readAs(QAccessible::Button), buttons) << step;
+        for (int tabs = 0; tabs < 4; ++tabs) {
+            key(Qt::Key_Tab);
+            EXPECT_TRUE(buttons.contains(m_window.activeFocusItem()->property("name").toString()));
+        }
+    }
+}
+
+TEST_F(WelcomePageTest, TellsAssistiveToolsTheStepAndTheTitle) {
+    show();
+    walkTo(Press);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(readAs(QAccessible::Heading), QStringList{text("Press it now")});
+    EXPECT_EQ(readAs(QAccessible::Indicator), QStringList{text("Step 3 of 10")});
+    EXPECT_EQ(pictures(), QStringList{text("The keys Alt, Super and B")});
+}
+
+} // namespace
+} // namespace vantle

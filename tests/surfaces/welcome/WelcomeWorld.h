@@ -1,0 +1,71 @@
+// The welcome over the whole model, on virtual time.
+#pragma once
+
+#include "app/ModelWorld.h"
+#include "surfaces/welcome/WelcomeView.h"
+
+#include <optional>
+
+namespace vantle::tests {
+
+class WelcomeWorld : public ModelWorld {
+public:
+    WelcomeWorld() {
+        preferences.remove(preferencekeys::onboardDone);
+        idleSource.fix(0); // somebody is there all the time
+    }
+
+    [[nodiscard]] static QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+
+    /// A first launch with the welcome open, or the same again after a launch.
+    WelcomeView& open() {
+        if (!model) launch();
+        view.emplace(WelcomeView::Environment{.model = *model,
+                                              .notifications = notifications,
+                                              .preferences = preferences,
+                                              .reducedMotion = reducedMotion,
+                                              .scheduler = time,
+                                              .orderOut = [this] { isInSight = false; },
+                                              .bringForward =
+                                                  [this] {
+                                                      isInSight = true;
+                                                      ++broughtForward;
+                                                  },
+                                              .openWrapped = [this] { ++wrappedOpened; },
+                                              .onClose = [this] { ++closed; }});
+        return *view;
+    }
+    /// Presses main buttons up to the step; the steps of the practice are gone through.
+    void walkTo(int step) {
+        while (view->step() < step) {
+            if (view->step() == welcometext::Stop) {
+                endPractice();
+                continue;
+            }
+            view->pressPrimary();
+            settle();
+        }
+    }
+    /// Presses the shortcut at the step that asks for it.
+    void beginPractice() {
+        walkTo(welcometext::Press);
+        press();
+    }
+    void endPractice() {
+        press();
+        closeCard();
+    }
+    /// The card after a session goes, whichever way.
+    void closeCard() {
+        if (told.closeSummary) told.closeSummary(std::nullopt);
+        Q_EMIT notifications.HFStopSummaryResolved();
+    }
+
+    std::optional<WelcomeView> view;
+    bool isInSight = true;
+    int broughtForward = 0;
+    int wrappedOpened = 0;
+    int closed = 0;
+};
+
+} // namespace vantle::tests
