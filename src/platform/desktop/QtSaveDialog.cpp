@@ -37,23 +37,21 @@ QString firstFolder(const SaveQuestion& question) {
                : question.folder;
 }
 
-void takeAway(QFileDialog& dialog) {
-    dialog.disconnect();
-    dialog.hide();
-    dialog.deleteLater();
-}
-
 class OpenDialog final : public OpenSaveDialog {
 public:
-    explicit OpenDialog(QFileDialog* dialog) : m_dialog(dialog) {}
+    OpenDialog(QFileDialog* dialog, std::shared_ptr<const bool> answered)
+        : m_dialog(dialog)
+        , m_answered(std::move(answered)) {}
     ~OpenDialog() override {
-        if (m_dialog) takeAway(*m_dialog);
+        // One that has answered is about to go by itself.
+        if (!*m_answered) delete m_dialog;
     }
     OpenDialog(const OpenDialog&) = delete;
     OpenDialog& operator=(const OpenDialog&) = delete;
 
 private:
-    const QPointer<QFileDialog> m_dialog; ///< empty once it has closed by itself
+    const QPointer<QFileDialog> m_dialog; ///< empty once it has gone
+    const std::shared_ptr<const bool> m_answered;
 };
 
 void placeAbove(QFileDialog& dialog, QWindow* window) {
@@ -61,7 +59,11 @@ void placeAbove(QFileDialog& dialog, QWindow* window) {
     dialog.setWindowModality(Qt::WindowModal);
     dialog.winId(); // gives it a window that can have another one below
     dialog.windowHandle()->setTransientParent(window);
-    QObject::connect(window, &QObject::destroyed, &dialog, [&dialog] { takeAway(dialog); });
+    QObject::connect(window, &QObject::destroyed, &dialog, [&dialog] {
+        dialog.disconnect();
+        dialog.hide();
+        dialog.deleteLater();
+    });
 }
 
 } // namespace
@@ -77,7 +79,9 @@ std::unique_ptr<OpenSaveDialog> QtSaveDialog::ask(const SaveQuestion& question, 
     dialog->setDefaultSuffix(question.ending);
     dialog->selectFile(question.suggestedName);
     placeAbove(*dialog, above);
-    QObject::connect(dialog, &QDialog::finished, dialog, [dialog, answer](int result) {
+    const auto answered = std::make_shared<bool>(false);
+    QObject::connect(dialog, &QDialog::finished, dialog, [dialog, answer, answered](int result) {
+        *answered = true;
         const QStringList chosen = dialog->selectedFiles();
         if (result == QDialog::Accepted && !chosen.isEmpty())
             answer(chosen.first());
@@ -85,7 +89,7 @@ std::unique_ptr<OpenSaveDialog> QtSaveDialog::ask(const SaveQuestion& question, 
             answer(std::nullopt);
     });
     dialog->show();
-    return std::make_unique<OpenDialog>(dialog);
+    return std::make_unique<OpenDialog>(dialog, answered);
 }
 
 } // namespace vantle
