@@ -9,13 +9,13 @@ ReviewPage {
 
     required property rhythmCard content
     readonly property bool hasWall: content.wallKicker !== ""
-    readonly property real top: content.years.length > 0 ? years.height + DarkUI.space14
+    readonly property real below: content.years.length > 0 ? years.height + DarkUI.space14
                                                          : kickerHeight + DarkUI.space14
 
     kicker: content.kicker
 
     Column {
-        y: Math.max(page.top, Math.round((page.height - height) / 2))
+        y: Math.max(page.below, Math.round((page.height - height) / 2))
         width: page.width
 
         CascadeIn {
