@@ -10,7 +10,7 @@ Item {
     required property string failure
     readonly property bool filled: text !== "" || failure !== ""
 
-    implicitHeight: filled ? 40 : 0
+    implicitHeight: filled ? Math.max(40, line.height + 2 * DarkUI.space10) : 0
     visible: filled
 
     DarkDivider {
@@ -18,6 +18,7 @@ Item {
     }
 
     DarkText {
+        id: line
         anchors.left: parent.left
         anchors.leftMargin: DarkUI.space28
         anchors.right: parent.right
@@ -27,6 +28,8 @@ Item {
         role: DarkUI.caption
         color: footer.failure !== "" ? DarkUI.dangerText : DarkUI.t3
         elide: Text.ElideRight
+        // A reason is read to its end.
+        wrapMode: footer.failure !== "" ? Text.Wrap : Text.NoWrap
         Accessible.role: footer.failure !== "" ? Accessible.AlertMessage : Accessible.StaticText
     }
 }
