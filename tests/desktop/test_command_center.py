@@ -1,7 +1,6 @@
 """The panel that drops from the tray item, worked by pointer and keys."""
 
 import time
-from pathlib import Path
 
 from harness.bus import activate
 from harness.case import FIRST_SKILL, PANEL_TITLE, DesktopTest
@@ -158,31 +157,6 @@ class ByKeys(Panel):
         self.assertEqual(self.frame()[3], height)
         self.desktop.screenshot("editor")
         self.assertNotIn("Resea", self.skills())
-
-
-class Memory(Panel):
-
-    tray_kind = DesktopTest.NO_TRAY
-
-    def resident_kilobytes(self):
-        for line in Path(f"/proc/{self.vantle.pid}/status").read_text().splitlines():
-            if line.startswith("VmRSS:"):
-                return int(line.split()[1])
-        return 0
-
-    def round(self):
-        activate(self.desktop)
-        self.await_shown()
-        self.desktop.press("Escape")
-        self.await_hidden()
-        time.sleep(0.3)
-
-    def test_ten_rounds_leave_the_memory_as_it_was(self):
-        self.round()
-        after_one = self.resident_kilobytes()
-        for _ in range(10):
-            self.round()
-        self.assertLess(self.resident_kilobytes() - after_one, 5 * 1024)
 
 
 class Activated(Panel):

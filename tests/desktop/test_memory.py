@@ -1,0 +1,66 @@
+"""What opening and closing windows leaves in memory."""
+
+import unittest
+from pathlib import Path
+
+from harness.bus import activate
+from harness.case import PANEL_TITLE, DesktopTest
+from harness.waiting import wait_until
+from harness.windows import DASHBOARD, NOTES, QUICK_LOG, SETTINGS, WindowCase, record
+
+ROUNDS = 10
+SESSIONS = 10000  # so many that a window that keeps them is noticed
+MAY_KEEP = 5 * 1024  # KB
+
+
+class Memory(WindowCase):
+
+    tray_kind = DesktopTest.NO_TRAY
+
+    def resident_kilobytes(self):
+        for line in Path(f"/proc/{self.vantle.pid}/smaps_rollup").read_text().splitlines():
+            if line.startswith("Rss:"):
+                return int(line.split()[1])
+        raise AssertionError("the kernel does not tell")
+
+    def assert_rounds_keep_little(self, play):
+        play()
+        first = self.resident_kilobytes()
+        for _ in range(ROUNDS):
+            play()
+
+        def kept():
+            return self.resident_kilobytes() - first
+
+        # What closed last is given back a moment later.
+        try:
+            wait_until("the memory back", lambda: kept() < MAY_KEEP, deadline=3)
+        except AssertionError:
+            self.fail(f"{kept()} KB more than after the first of {ROUNDS + 1} rounds")
+
+    def play_window(self, window):
+        self.open(*window)
+        self.close(window[1])
+
+    def play_panel(self):
+        activate(self.desktop)
+        window, = wait_until("the panel", lambda: self.desktop.windows_named(PANEL_TITLE))
+        wait_until("its keyboard", lambda: self.desktop.tool(
+            "xdotool", "getwindowfocus").decode().strip() == window)
+        self.desktop.press("Escape")
+        wait_until("no panel", lambda: not self.desktop.windows_named(PANEL_TITLE))
+
+    def test_rounds_of_every_window_leave_the_memory_as_it_was(self):
+        self.desktop.env["VANTLE_AUTOSTART"] = "1"
+        self.write_records({**record(1, f"note {number}"), "id": record(number, "")["id"]}
+                           for number in range(SESSIONS))
+        self.launch()
+        for window in (DASHBOARD, NOTES, QUICK_LOG, SETTINGS):
+            with self.subTest(window=window):
+                self.assert_rounds_keep_little(lambda: self.play_window(window))
+        with self.subTest(window=PANEL_TITLE):
+            self.assert_rounds_keep_little(self.play_panel)
+
+
+if __name__ == "__main__":
+    unittest.main()
