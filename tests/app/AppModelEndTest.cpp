@@ -1,5 +1,6 @@
 // The ends: quitting, a crash and what follows it, and the erase of all data.
 #include "app/ModelWorld.h"
+#include "support/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -10,8 +11,6 @@ namespace {
 
 using State = TrackerCore::State;
 using Operation = fakes::FaultyFileSystem::Operation;
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 class AppModelEndTest : public testing::Test {
 protected:

@@ -1,5 +1,6 @@
 #include "app/ModelWorld.h"
 #include "app/WeeklyReview.h"
+#include "support/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -12,8 +13,6 @@ protected:
 
     ModelWorld world;
 };
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 TEST_F(AppModelPanelTest, PanelStateTellsTheReviewAndTheCoverage) {
     AppModel& model = launched();

@@ -1,11 +1,10 @@
 #include "app/ModelWorld.h"
+#include "support/Text.h"
 
 #include <gtest/gtest.h>
 
 namespace vantle::tests {
 namespace {
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 class AppModelSkillsTest : public testing::Test {
 protected:

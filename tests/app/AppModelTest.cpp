@@ -1,4 +1,5 @@
 #include "app/ModelWorld.h"
+#include "support/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -13,8 +14,6 @@ protected:
 
     ModelWorld world;
 };
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 TEST_F(AppModelTest, APressStartsASessionAndTheNextOnePutsItIntoTheLog) {
     AppModel& model = launched();

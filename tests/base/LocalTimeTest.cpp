@@ -11,23 +11,23 @@
 namespace vantle {
 namespace {
 
-Calendar calendarIn(const char* zone, int firstWeekday = 2) {
+Calendar weeksFrom(const char* zone, int firstWeekday = 2) {
     return {QLatin1String(zone), firstWeekday, 4, QStringLiteral("en_US")};
 }
 
-Date at(const char* text) { return iso8601::parse(text).value(); }
+Date moment(const char* text) { return iso8601::parse(text).value(); }
 
 TEST(LocalTime, ReadsTheWallClockOnBothSidesOfAChange) {
-    LocalTime berlin(calendarIn("Europe/Berlin"));
-    EXPECT_EQ(berlin.at(at("2026-03-29T00:59:59Z")).second, 2 * 3600 - 1);
-    EXPECT_EQ(berlin.at(at("2026-03-29T01:00:00Z")).hour(), 3);
-    EXPECT_EQ(berlin.at(at("2026-10-25T00:30:00Z")).hour(), 2);
-    EXPECT_EQ(berlin.at(at("2026-10-25T01:30:00Z")).hour(), 2);
-    EXPECT_EQ(berlin.at(at("2026-10-25T01:30:00Z")).minute(), 30);
+    LocalTime berlin(weeksFrom("Europe/Berlin"));
+    EXPECT_EQ(berlin.at(moment("2026-03-29T00:59:59Z")).second, 2 * 3600 - 1);
+    EXPECT_EQ(berlin.at(moment("2026-03-29T01:00:00Z")).hour(), 3);
+    EXPECT_EQ(berlin.at(moment("2026-10-25T00:30:00Z")).hour(), 2);
+    EXPECT_EQ(berlin.at(moment("2026-10-25T01:30:00Z")).hour(), 2);
+    EXPECT_EQ(berlin.at(moment("2026-10-25T01:30:00Z")).minute(), 30);
 }
 
 TEST(LocalTime, CutsFractionsDownwards) {
-    LocalTime utc(calendarIn("UTC"));
+    LocalTime utc(weeksFrom("UTC"));
     const auto before = utc.at(dateFromEpoch(-0.0001));
     EXPECT_EQ(before.day, -1);
     EXPECT_EQ(before.second, 86399);
@@ -35,32 +35,32 @@ TEST(LocalTime, CutsFractionsDownwards) {
 }
 
 TEST(LocalTime, KnowsYearsAndMonths) {
-    LocalTime utc(calendarIn("UTC"));
-    EXPECT_EQ(localtime::yearOf(utc.at(at("2026-12-31T23:59:59Z")).day), 2026);
-    EXPECT_EQ(localtime::yearOf(utc.at(at("2027-01-01T00:00:00Z")).day), 2027);
-    EXPECT_EQ(localtime::yearOf(utc.at(at("1969-12-31T23:59:59Z")).day), 1969);
-    const auto first = localtime::firstOfMonth(utc.at(at("2024-02-29T12:00:00Z")).day);
-    EXPECT_EQ(utc.startOfDay(first), at("2024-02-01T00:00:00Z"));
+    LocalTime utc(weeksFrom("UTC"));
+    EXPECT_EQ(localtime::yearOf(utc.at(moment("2026-12-31T23:59:59Z")).day), 2026);
+    EXPECT_EQ(localtime::yearOf(utc.at(moment("2027-01-01T00:00:00Z")).day), 2027);
+    EXPECT_EQ(localtime::yearOf(utc.at(moment("1969-12-31T23:59:59Z")).day), 1969);
+    const auto first = localtime::firstOfMonth(utc.at(moment("2024-02-29T12:00:00Z")).day);
+    EXPECT_EQ(utc.startOfDay(first), moment("2024-02-01T00:00:00Z"));
 }
 
 TEST(LocalTime, ADayThatNeverWasStartsWithTheNext) {
     // Samoa went over the date line, and had no 30 December.
-    LocalTime apia(calendarIn("Pacific/Apia"));
-    const auto last = apia.at(at("2011-12-30T09:59:59Z")).day;
-    EXPECT_EQ(apia.at(at("2011-12-30T10:00:00Z")).day, last + 2);
-    EXPECT_EQ(apia.startOfDay(last + 1), at("2011-12-30T10:00:00Z"));
-    EXPECT_EQ(apia.startOfDay(last + 2), at("2011-12-30T10:00:00Z"));
+    LocalTime apia(weeksFrom("Pacific/Apia"));
+    const auto last = apia.at(moment("2011-12-30T09:59:59Z")).day;
+    EXPECT_EQ(apia.at(moment("2011-12-30T10:00:00Z")).day, last + 2);
+    EXPECT_EQ(apia.startOfDay(last + 1), moment("2011-12-30T10:00:00Z"));
+    EXPECT_EQ(apia.startOfDay(last + 2), moment("2011-12-30T10:00:00Z"));
 }
 
 TEST(LocalTime, AnUnknownZoneIsUtcWithoutWeeks) {
-    LocalTime nowhere(calendarIn("Middle/Earth"));
+    LocalTime nowhere(weeksFrom("Middle/Earth"));
     EXPECT_FALSE(nowhere.knowsZone());
-    EXPECT_EQ(nowhere.at(at("2026-03-01T09:30:05Z")).hour(), 9);
+    EXPECT_EQ(nowhere.at(moment("2026-03-01T09:30:05Z")).hour(), 9);
     EXPECT_EQ(nowhere.firstOfWeek(0), std::nullopt);
 }
 
 TEST(LocalTime, SurvivesDatesThatAreNone) {
-    LocalTime berlin(calendarIn("Europe/Berlin"));
+    LocalTime berlin(weeksFrom("Europe/Berlin"));
     for (const double epoch :
          {std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(), 1e300,
           -1e300, std::numeric_limits<double>::quiet_NaN()}) {
@@ -75,7 +75,7 @@ RC_GTEST_PROP(LocalTime, AnswersAsTheCalendarDoes, ()) {
     const auto zone = *rc::gen::element<const char*>(
         "UTC", "Europe/Berlin", "America/New_York", "America/Sao_Paulo", "America/Havana",
         "America/St_Johns", "Australia/Lord_Howe", "Asia/Kathmandu", "Asia/Beirut");
-    const Calendar calendar = calendarIn(zone, *rc::gen::inRange(1, 8));
+    const Calendar calendar = weeksFrom(zone, *rc::gen::inRange(1, 8));
     LocalTime local(calendar);
     const auto dates =
         *rc::gen::container<std::vector<int>>(5, rc::gen::inRange<int>(-1500000000, 2000000000));

@@ -1,5 +1,7 @@
 #include "ceremony/CeremonyPage.h"
 
+#include "support/Text.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -14,8 +16,6 @@ QJsonObject configured(CeremonyShow show, std::uint32_t hexRGB = 0x7A78FF,
                ceremonypage::configuration(show, CeremonyVariant::Rain, hexRGB, skill, blackout))
         .object();
 }
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 TEST(CeremonyPage, ThePageIsToldEverythingByName) {
     EXPECT_EQ(configured(CeremonyShow::Full, 0xFF375F, text("Writing"), false),

@@ -9,13 +9,14 @@ namespace {
 
 using samples::worked;
 
-const WrappedSettings& settings() {
+const WrappedSettings& posterSettings() {
     static const WrappedSettings settings = samples::settingsAt("2026-03-11T14:00:00Z");
     return settings;
 }
 
 SharePoster posterOf(const std::vector<Session>& log, WrappedPeriod period = WrappedPeriod::Week) {
-    return reviewcards::poster(WrappedStats::compute(log, period, settings()), settings());
+    return reviewcards::poster(WrappedStats::compute(log, period, posterSettings()),
+                               posterSettings());
 }
 
 TEST(SharePoster, ShowsTheHoursWhileThereIsNoType) {
@@ -44,7 +45,7 @@ TEST(SharePoster, CountsOneAndManyInTheirOwnWords) {
 TEST(SharePoster, BreaksDownToThreeSkills) {
     std::vector<Session> log;
     int hours = 9;
-    for (const Skill& skill : settings().skills)
+    for (const Skill& skill : posterSettings().skills)
         log.push_back(worked("2026-03-10T01:00:00Z", 60 * --hours, skill.id));
     log.push_back(worked("2026-03-11T01:00:00Z", 60));
     const auto poster = posterOf(log);

@@ -10,6 +10,7 @@
 #include "sensing/AutoRules.h"
 #include "sensing/AutoRulesJson.h"
 #include "support/QtPrinters.h"
+#include "support/Text.h"
 #include "tracking/AppPaths.h"
 #include "tracking/JsonForm.h"
 #include "tracking/SkillList.h"
@@ -20,8 +21,7 @@
 
 namespace vantle {
 
-/// A text that reads short in a test.
-inline QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+using tests::text;
 
 inline Skill namedSkill(const char* id, const char* name) {
     return {text(id), text(name), 0x123456, false};

@@ -10,7 +10,7 @@ namespace {
 
 using enum DurationStyle;
 
-const QString kKey = QLatin1String(durationstyle::defaultsKey);
+const QString kStyleKey = QLatin1String(durationstyle::defaultsKey);
 
 TEST(DurationStyle, HasAStoredValueALabelAndASample) {
     const std::array<std::array<const char*, 3>, 4> expected = {{
@@ -32,10 +32,10 @@ TEST(DurationStyle, AbsentOrUnknownReadsAsNatural) {
     fakes::MemoryPreferences preferences;
     EXPECT_EQ(durationstyle::current(preferences), Natural);
     for (const char* stored : {"", "Clock", " clock", "fortnights"}) {
-        preferences.setString(kKey, QLatin1String(stored));
+        preferences.setString(kStyleKey, QLatin1String(stored));
         EXPECT_EQ(durationstyle::current(preferences), Natural) << stored;
     }
-    preferences.setString(kKey, QStringLiteral("hoursMinutes"));
+    preferences.setString(kStyleKey, QStringLiteral("hoursMinutes"));
     EXPECT_EQ(durationstyle::current(preferences), HoursMinutes);
 }
 
@@ -49,7 +49,7 @@ TEST(DurationStyle, IsStoredBeforeHistoryViewsAreToldAndTheyAreToldAtOnce) {
     });
     durationstyle::adopt(Clock, preferences, center);
     EXPECT_EQ(told, 1);
-    EXPECT_EQ(preferences.string(kKey), QStringLiteral("clock"));
+    EXPECT_EQ(preferences.string(kStyleKey), QStringLiteral("clock"));
 }
 
 } // namespace

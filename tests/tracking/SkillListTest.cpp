@@ -1,5 +1,6 @@
 #include "tracking/SkillList.h"
 
+#include "support/Text.h"
 #include "tracking/TrackingWorld.h"
 
 #include <gmock/gmock.h>
@@ -10,7 +11,7 @@ namespace {
 using Operation = fakes::FaultyFileSystem::Operation;
 using testing::ElementsAre;
 
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+using tests::text;
 
 Skill custom(const char* id, const char* name, std::uint32_t color = 0x123456) {
     return {text(id), text(name), color, false};

@@ -44,7 +44,7 @@ rc::Gen<std::vector<Session>> noted() {
                         });
 }
 
-std::optional<WrappedNoteDigest> digestOf(const std::vector<Session>& sessions) {
+std::optional<WrappedNoteDigest> digestOfLog(const std::vector<Session>& sessions) {
     return WrappedNoteDigest::compute(refsTo(sessions), samples::seeds());
 }
 
@@ -59,12 +59,12 @@ QSet<QString> keysIn(const QString& note) {
 
 RC_GTEST_PROP(NoteDigest, OrderOfTheSessionsChangesNothing, ()) {
     std::vector<Session> sessions = *noted();
-    const auto digest = digestOf(sessions);
+    const auto digest = digestOfLog(sessions);
     const auto turn = *rc::gen::inRange<std::size_t>(0, sessions.size() + 1);
     std::ranges::rotate(sessions, sessions.begin() + static_cast<std::ptrdiff_t>(turn));
-    RC_ASSERT(digestOf(sessions) == digest);
+    RC_ASSERT(digestOfLog(sessions) == digest);
     std::ranges::reverse(sessions);
-    RC_ASSERT(digestOf(sessions) == digest);
+    RC_ASSERT(digestOfLog(sessions) == digest);
 }
 
 RC_GTEST_PROP(NoteDigest, EveryNoteWithTextIsKeptAndNoOther, ()) {
@@ -74,7 +74,7 @@ RC_GTEST_PROP(NoteDigest, EveryNoteWithTextIsKeptAndNoOther, ()) {
         const QString text = text::withSingleBlanks(session.note);
         if (!text.isEmpty()) expected += text;
     }
-    const auto digest = digestOf(sessions);
+    const auto digest = digestOfLog(sessions);
     RC_ASSERT(digest.has_value() == !expected.isEmpty());
     if (!digest) return;
     RC_ASSERT(digest->noteCount == expected.size());
@@ -85,7 +85,7 @@ RC_GTEST_PROP(NoteDigest, EveryNoteWithTextIsKeptAndNoOther, ()) {
 }
 
 RC_GTEST_PROP(NoteDigest, ThemesStandInTwoNotesAndNoWordThatIsMoreFrequentIsLeftOut, ()) {
-    const auto digest = digestOf(*noted());
+    const auto digest = digestOfLog(*noted());
     if (!digest) return;
     QHash<QString, int> counts;
     for (const QString& note : digest->allNotes)
@@ -109,7 +109,7 @@ RC_GTEST_PROP(NoteDigest, ThemesStandInTwoNotesAndNoWordThatIsMoreFrequentIsLeft
 }
 
 RC_GTEST_PROP(NoteDigest, HighlightsAreTheFirstDistinctNotes, ()) {
-    const auto digest = digestOf(*noted());
+    const auto digest = digestOfLog(*noted());
     if (!digest) return;
     QStringList expected;
     QSet<QString> seen;

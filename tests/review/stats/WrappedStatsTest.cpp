@@ -13,7 +13,7 @@ using samples::worked;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const QString kBerlin = QStringLiteral("Europe/Berlin");
+const QString kBerlinZone = QStringLiteral("Europe/Berlin");
 const QString kDesign = QStringLiteral("product_design");
 
 /// Twelve sessions of ten minutes on Monday and Tuesday of the week of 9 March 2026.
@@ -54,7 +54,7 @@ TEST(WrappedStats, OfNothingIsNothing) {
 TEST(WrappedStats, ASessionAcrossMidnightBelongsToTheDayOfItsEndButStartsBefore) {
     // 23:50 to 00:20 in Berlin, three times over.
     const std::vector sessions(3, worked("2026-03-10T22:50:00Z", 30));
-    const auto settings = settingsAt("2026-03-11T14:00:00Z", kBerlin);
+    const auto settings = settingsAt("2026-03-11T14:00:00Z", kBerlinZone);
     const auto stats = WrappedStats::compute(sessions, WrappedPeriod::Today, settings);
     EXPECT_EQ(stats.totalHours, 1.5);
     EXPECT_EQ(stats.typicalStart, QStringLiteral("11\u202FPM"));

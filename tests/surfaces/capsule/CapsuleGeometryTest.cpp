@@ -8,7 +8,7 @@ namespace {
 const ScreenShape kScreen{.frame = QRectF(0, 0, 1440, 900), .available = QRectF(0, 0, 1440, 900)};
 
 /// A housing of 200 by 32 in the middle.
-ScreenShape notched() {
+ScreenShape notchedScreen() {
     ScreenShape screen = kScreen;
     screen.safeAreaTop = 32;
     screen.auxiliaryTopLeft = QRectF(0, 0, 620, 32);
@@ -42,7 +42,7 @@ TEST(CapsuleGeometry, TheWidthIsThatOfTheWidestPartAndAtLeast340) {
 }
 
 TEST(CapsuleGeometry, AWideHousingIsCoveredWhole) {
-    ScreenShape screen = notched();
+    ScreenShape screen = notchedScreen();
     screen.auxiliaryTopLeft = QRectF(0, 0, 500, 32);
     const auto metrics = NotchMetrics::of(screen, 0);
     EXPECT_EQ(metrics.notchWidth, 320);
@@ -69,12 +69,13 @@ TEST(CapsuleGeometry, TheOpenCapsuleIsEvenCentredAndNeverWiderThanTheNotchAnd260
 
 TEST(CapsuleGeometry, AtRestItIsFlushWithTheTop) {
     EXPECT_EQ(capsule::restingFrame(NotchMetrics::of(kScreen, 68)), QRectF(170, 0, 198, 0.5));
-    EXPECT_EQ(capsule::restingFrame(NotchMetrics::of(notched(), 68)), QRectF(154, 0, 200, 32));
+    EXPECT_EQ(capsule::restingFrame(NotchMetrics::of(notchedScreen(), 68)),
+              QRectF(154, 0, 200, 32));
 }
 
 TEST(CapsuleGeometry, TheStripAtTheEdgeFeelsThePointer) {
     EXPECT_EQ(capsule::hoverStrip(NotchMetrics::of(kScreen, 68)), QRectF(154, 0, 230, 10));
-    EXPECT_EQ(capsule::hoverStrip(NotchMetrics::of(notched(), 68)), QRectF(154, 0, 200, 38));
+    EXPECT_EQ(capsule::hoverStrip(NotchMetrics::of(notchedScreen(), 68)), QRectF(154, 0, 200, 38));
 }
 
 TEST(CapsuleGeometry, AnOpenCapsuleFeelsThePointerAsAWhole) {

@@ -4,6 +4,7 @@
 #include "CapsuleWorld.h"
 #include "fakes/FakePanelHost.h"
 #include "support/QtPrinters.h"
+#include "support/Text.h"
 #include "surfaces/kit/Motion.h"
 
 #include <QAccessible>
@@ -20,8 +21,6 @@
 
 namespace vantle::tests {
 namespace {
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 class CapsuleWindowTest : public testing::Test {
 protected:

@@ -1,5 +1,6 @@
 #include "CapsuleWorld.h"
 #include "support/QtPrinters.h"
+#include "support/Text.h"
 #include "surfaces/capsule/NotchCapsule.h"
 
 #include <gtest/gtest.h>
@@ -8,8 +9,6 @@ namespace vantle::tests {
 namespace {
 
 using Mode = SkillPopoverEditor::Mode;
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 /// An open idle capsule with the pointer on the chip of "Design".
 class NotchCapsuleEditingTest : public testing::Test {

@@ -2,14 +2,13 @@
 
 #include "CapsuleWorld.h"
 #include "support/QtPrinters.h"
+#include "support/Text.h"
 #include "tracking/DurationStyle.h"
 
 #include <gtest/gtest.h>
 
 namespace vantle::tests {
 namespace {
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 class NotchCapsuleTest : public testing::Test {
 protected:

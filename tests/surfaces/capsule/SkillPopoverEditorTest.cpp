@@ -1,6 +1,7 @@
 #include "surfaces/capsule/SkillPopoverEditor.h"
 
 #include "support/QtPrinters.h"
+#include "support/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +10,6 @@ namespace {
 
 using Mode = SkillPopoverEditor::Mode;
 using Kind = SkillPopoverEditor::Result::Kind;
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 class SkillPopoverEditorTest : public testing::Test {
 protected:

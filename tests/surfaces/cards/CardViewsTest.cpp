@@ -1,4 +1,5 @@
 // The recovery notice, the two questions and the toast under the person's hands.
+#include "support/Text.h"
 #include "surfaces/cards/CardViewWorld.h"
 #include "surfaces/cards/RecoveryNoticeController.h"
 #include "surfaces/cards/RetagToastController.h"
@@ -10,8 +11,6 @@ namespace vantle::tests {
 namespace {
 
 using Outcome = collaborators::TagPrompt::Outcome;
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 class CardViewsTest : public testing::Test, protected CardViewWorld {
 protected:

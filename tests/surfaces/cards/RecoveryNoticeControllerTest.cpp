@@ -1,5 +1,6 @@
 #include "surfaces/cards/RecoveryNoticeController.h"
 
+#include "support/Text.h"
 #include "surfaces/cards/CardWorld.h"
 #include "surfaces/cards/RecoveryNoticeModel.h"
 
@@ -7,8 +8,6 @@
 
 namespace vantle::tests {
 namespace {
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 class RecoveryNoticeTest : public testing::Test, protected CardWorld {
 protected:

@@ -1,5 +1,6 @@
 #include "surfaces/cards/RetagToastController.h"
 
+#include "support/Text.h"
 #include "surfaces/cards/CardWorld.h"
 #include "surfaces/cards/RetagToastModel.h"
 #include "surfaces/cards/StopSummaryController.h"
@@ -8,8 +9,6 @@
 
 namespace vantle::tests {
 namespace {
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 class RetagToastTest : public testing::Test, protected CardWorld {
 protected:

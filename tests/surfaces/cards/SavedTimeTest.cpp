@@ -1,13 +1,14 @@
 #include "surfaces/cards/SavedTime.h"
 
 #include "support/QtPrinters.h"
+#include "support/Text.h"
 
 #include <gtest/gtest.h>
 
 namespace vantle {
 namespace {
 
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+using tests::text;
 
 TEST(SavedTime, InWordsItCountsSecondsThenMinutesThenHours) {
     EXPECT_EQ(savedTime(1, DurationStyle::Natural), text("1 sec"));

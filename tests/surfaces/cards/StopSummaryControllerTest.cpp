@@ -1,5 +1,6 @@
 #include "surfaces/cards/StopSummaryController.h"
 
+#include "support/Text.h"
 #include "surfaces/cards/CardWorld.h"
 #include "surfaces/cards/RecoveryNoticeController.h"
 #include "surfaces/cards/StopSummaryModel.h"
@@ -12,8 +13,6 @@ namespace vantle::tests {
 namespace {
 
 using Kind = TopRightCardSlot::Kind;
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 class StopSummaryTest : public testing::Test, protected CardWorld {
 protected:

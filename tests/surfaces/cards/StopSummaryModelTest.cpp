@@ -1,5 +1,6 @@
 #include "surfaces/cards/StopSummaryModel.h"
 
+#include "support/Text.h"
 #include "surfaces/cards/CardWorld.h"
 
 #include <QSignalSpy>
@@ -10,8 +11,6 @@ namespace vantle::tests {
 namespace {
 
 using Content = collaborators::StopSummary::Content;
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 Content afterMinutes(int minutes) {
     Content content;

@@ -1,4 +1,5 @@
 // The card after a session under the person's hands.
+#include "support/Text.h"
 #include "surfaces/cards/CardViewWorld.h"
 #include "surfaces/cards/StopSummaryController.h"
 
@@ -8,8 +9,6 @@
 
 namespace vantle::tests {
 namespace {
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 class StopSummaryViewTest : public testing::Test, protected CardViewWorld {
 protected:

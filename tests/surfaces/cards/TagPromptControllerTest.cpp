@@ -1,5 +1,6 @@
 #include "surfaces/cards/TagPromptController.h"
 
+#include "support/Text.h"
 #include "surfaces/cards/CardWorld.h"
 #include "surfaces/cards/CorrectionPromptModel.h"
 #include "surfaces/cards/StopSummaryController.h"
@@ -13,8 +14,6 @@ namespace vantle::tests {
 namespace {
 
 using Outcome = collaborators::TagPrompt::Outcome;
-
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 class TagPromptTest : public testing::Test, protected CardWorld {
 protected:

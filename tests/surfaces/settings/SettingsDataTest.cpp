@@ -1,3 +1,4 @@
+#include "support/Text.h"
 #include "surfaces/settings/SettingsWorld.h"
 
 #include <gtest/gtest.h>
@@ -7,7 +8,7 @@ namespace {
 
 using Operation = fakes::FaultyFileSystem::Operation;
 
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+using tests::text;
 
 class SettingsDataTest : public testing::Test, protected tests::SettingsWorld {
 protected:

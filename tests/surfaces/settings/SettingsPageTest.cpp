@@ -1,4 +1,5 @@
 // The view over the real model: what is on it, and that its controls reach what they are for.
+#include "support/Text.h"
 #include "surfaces/settings/SettingsWorld.h"
 
 #include <QCoreApplication>
@@ -11,7 +12,7 @@
 namespace vantle {
 namespace {
 
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+using tests::text;
 
 class SettingsPageTest : public testing::Test, protected tests::SettingsWorld {
 protected:

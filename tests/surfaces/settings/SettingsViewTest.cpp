@@ -1,3 +1,4 @@
+#include "support/Text.h"
 #include "surfaces/settings/SettingsWorld.h"
 
 #include <gtest/gtest.h>
@@ -5,7 +6,7 @@
 namespace vantle {
 namespace {
 
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+using tests::text;
 
 class SettingsViewTest : public testing::Test, protected tests::SettingsWorld {};
 
