@@ -3,11 +3,12 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
+import Vantle.Wrapped
 
 AmbientDots {
     id: field
 
-    readonly property int starStep: Math.ceil(1000 / 30) // ms, what a star wants and the most there is
+    readonly property int starStep: Math.ceil(1000 / 30) // ms; no more moments a second than that
 
     Timer {
         interval: field.hasStar ? field.starStep : DarkUI.ambientStep

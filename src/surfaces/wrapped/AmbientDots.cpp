@@ -25,7 +25,7 @@ const std::array<AmbientDot, wrappedmotion::ambientDots>& dots() {
     return made;
 }
 
-constexpr double kDarkest = 0.2; // of the brightest light
+constexpr double kDarkest = 0.4; // of the brightest light
 
 /// An image of its own with an opacity of its own.
 class LitImage : public QSGOpacityNode {

@@ -14,48 +14,67 @@ Item {
     readonly property bool counts: animated && !Motion.reduced && content.hours > 0
     property reviewFigure shown: content.figure
     property real seconds: 0
-    readonly property real gap: Math.round(DarkUI.heroReview.size * 0.1)
-    readonly property real valueWidth: Math.min(full.implicitWidth,
-                                                width - (unit.text === "" ? 0 : unit.width + gap))
+    // A figure that is too wide for the page is set smaller, with its unit.
+    readonly property real fit: width > 0 ? Math.min(1, width / full.implicitWidth) : 1
+    readonly property int unitSize: Math.round(DarkUI.heroReview.size * DarkUI.heroUnitScale)
 
     implicitHeight: DarkUI.heroReview.line
     Accessible.role: Accessible.StaticText
     Accessible.name: content.hoursText
 
-    component Figure: DarkText {
-        width: number.valueWidth
-        role: DarkUI.heroReview
-        fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 12
+    component Value: DarkText {
+        Accessible.ignored: true
+    }
+    component Unit: DarkText {
+        leftPadding: Math.round(role.size * 0.25)
+        color: DarkUI.t3
         Accessible.ignored: true
     }
 
-    // The final figure keeps the room, and says how small it has to be.
-    Figure {
+    DisplayRole {
+        id: valueRole
+        size: Math.floor(DarkUI.heroReview.size * number.fit)
+        line: DarkUI.heroReview.line
+        tracking: DarkUI.heroReview.tracking
+    }
+
+    DisplayRole {
+        id: unitRole
+        size: Math.round(number.unitSize * number.fit)
+        line: number.unitSize
+    }
+
+    Row {
         id: full
         visible: false
-        text: number.content.figure.value
+
+        Value {
+            id: fullValue
+            text: number.content.figure.value
+            role: DarkUI.heroReview
+        }
+
+        Unit {
+            text: number.content.figure.unit
+            role: DisplayRole {
+                size: number.unitSize
+                line: number.unitSize
+            }
+        }
     }
 
-    Figure {
+    Value {
         id: value
         text: number.shown.value
-        font.pixelSize: full.fontInfo.pixelSize
+        role: valueRole
     }
 
-    DarkText {
-        id: unit
-        x: number.valueWidth + number.gap
+    // It stands where it will stand in the end.
+    Unit {
+        x: fullValue.implicitWidth * number.fit
         anchors.baseline: value.baseline
         text: number.shown.unit
-        font: Qt.font({
-            "family": DarkUI.heroReview.font.family,
-            "weight": DarkUI.heroReview.font.weight,
-            "pixelSize": Math.round(value.fontInfo.pixelSize * DarkUI.heroUnitScale)
-        })
-        color: DarkUI.t3
-        renderType: Text.QtRendering
-        Accessible.ignored: true
+        role: unitRole
     }
 
     NumberAnimation on seconds {

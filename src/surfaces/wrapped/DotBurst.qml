@@ -2,6 +2,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
+import Vantle.Wrapped
 
 BurstDots {
     id: burst

@@ -35,8 +35,8 @@ ReviewPage {
 
         DarkText {
             width: page.width
-            text: page.escaped(page.content.opening)
-                  + "<font color=\"" + DarkUI.t2 + "\">" + page.escaped(page.content.rest) + "</font>"
+            text: page.escaped(page.content.opening) + "<font color=\"" + DarkUI.t2 + "\">"
+                  + page.escaped(page.content.rest) + "</font>"
             textFormat: Text.StyledText
             role: page.role
             wrapMode: Text.Wrap

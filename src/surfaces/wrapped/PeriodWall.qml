@@ -12,6 +12,7 @@ Column {
     readonly property int columns: 12
     readonly property int mostRows: 4
     readonly property int rowHeight: 28
+    readonly property int rowCount: Math.max(1, Math.ceil(content.wallColors.length / columns))
 
     spacing: DarkUI.space18
     Component.onCompleted: model.wallCapacity = columns * mostRows
@@ -22,9 +23,9 @@ Column {
 
     GlassDotWall {
         width: wall.width
-        height: rows * wall.rowHeight
+        height: wall.rowCount * wall.rowHeight
         columns: wall.columns
-        rows: Math.max(1, Math.ceil(colors.length / columns))
+        rows: wall.rowCount
         colors: wall.content.wallColors
         sockets: false
         Accessible.ignored: true

@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
 import Vantle.Review
+import Vantle.Wrapped
 
 ReviewPage {
     id: page
@@ -29,25 +30,28 @@ ReviewPage {
 
     CascadeIn {
         id: picture
-        readonly property real top: closing.y + closing.height + DarkUI.space10
-        readonly property real room: share.y - DarkUI.space12 - top
+        readonly property real highest: closing.y + closing.height + DarkUI.space10
+        readonly property real room: share.y - DarkUI.space12 - highest
         x: Math.round((page.width - width) / 2)
-        y: Math.round(top + (room - height) / 2)
+        y: Math.round(highest + (room - height) / 2)
         animated: page.animated
         order: 2
         slam: true
 
         SharePosterPicture {
+            readonly property real room: picture.room
+
             // The poster of a year is too high for the page at the width of the others.
             function fit(): void {
                 width = DarkUI.posterWidth;
-                if (implicitHeight > picture.room)
-                    width = Math.floor(width * picture.room / implicitHeight);
+                if (room > 0 && implicitHeight > room)
+                    width = Math.floor(width * room / implicitHeight);
             }
 
             height: implicitHeight
             radius: DarkUI.radiusWindow
             poster: page.poster
+            onRoomChanged: fit()
             Component.onCompleted: fit()
             Accessible.role: Accessible.Graphic
             Accessible.name: qsTr("%1. %2").arg(page.poster.title).arg(page.poster.closing)
