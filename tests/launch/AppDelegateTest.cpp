@@ -1,14 +1,17 @@
 #include "app/launch/AppDelegate.h"
 
+#include "app/launch/PosterSharing.h"
 #include "fakes/FakeCardStage.h"
 #include "fakes/FakeFrontmostApp.h"
 #include "fakes/FakeHotKeyPort.h"
 #include "fakes/FakeIdleSource.h"
+#include "fakes/FakeImageClipboard.h"
 #include "fakes/FakeLanguageModel.h"
 #include "fakes/FakePanelHost.h"
 #include "fakes/FakePointerPresses.h"
 #include "fakes/FakeProcessRunner.h"
 #include "fakes/FakeReducedMotion.h"
+#include "fakes/FakeSaveDialog.h"
 #include "fakes/FakeScreenPower.h"
 #include "fakes/FakeScreens.h"
 #include "fakes/FakeTrayItem.h"
@@ -74,6 +77,7 @@ protected:
                                      .frontmostApp = frontmostApp,
                                      .processRunner = processRunner,
                                      .languageModel = languageModel,
+                                     .posterSharing = posterSharing,
                                      .reducedMotion = reducedMotion,
                                      .autostart = autostart,
                                      .trayItem = tray,
@@ -118,6 +122,9 @@ protected:
     fakes::FakePointerPresses pointerPresses;
     FakeAutostart autostart;
     AppPaths paths{disk, text("/data")};
+    fakes::FakeImageClipboard clipboard;
+    fakes::FakeSaveDialog saveDialog;
+    PosterSharing posterSharing{{clipboard, saveDialog, disk, time, ioQueue}};
     int terminations = 0;
     int alerts = 0;
     bool movesAway = false;

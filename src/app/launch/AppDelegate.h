@@ -22,6 +22,7 @@ class CardStage;
 class LanguageModel;
 class PanelHost;
 class PointerPresses;
+class PosterSharing;
 class ProcessRunner;
 class RecoveryNoticeController;
 class Screens;
@@ -45,6 +46,7 @@ public:
         FrontmostApp& frontmostApp;
         ProcessRunner& processRunner;
         LanguageModel& languageModel;
+        PosterSharing& posterSharing;
         const ReducedMotion& reducedMotion;
         Autostart& autostart;
         TrayItem& trayItem;

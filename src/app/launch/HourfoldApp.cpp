@@ -6,6 +6,7 @@
 #include "app/launch/FloatingSurfaces.h"
 #include "app/launch/InstallLocation.h"
 #include "app/launch/PlatformFactory.h"
+#include "app/launch/PosterSharing.h"
 #include "base/Clock.h"
 #include "base/SerialQueue.h"
 #include "platform/ReducedMotion.h"
@@ -103,6 +104,9 @@ struct Ground {
     const SystemClock clock{};
     ThreadQueue ioQueue{QStringLiteral("local.vantle.tracker-io")};
     ThreadQueue autoSkillQueue{QLatin1String(AutoRules::ioQueueLabel)};
+    ThreadQueue exportQueue{QStringLiteral("local.vantle.export-io")};
+    PosterSharing posterSharing{{platform->imageClipboard(), platform->saveDialog(),
+                                 platform->fileSystem(), scheduler, exportQueue}};
     AppInstaller installer{platform->preferences(), platform->fileSystem(), thisProgram(*platform),
                            installOperations(*platform)};
     const AppPaths paths{platform->fileSystem(), platform->dataHome()};
@@ -137,6 +141,7 @@ AppDelegate::Environment environmentOn(Ground& ground, bool startedAtLogin) {
             .frontmostApp = platform.frontmostApp(),
             .processRunner = platform.processRunner(),
             .languageModel = platform.languageModel(),
+            .posterSharing = ground.posterSharing,
             .reducedMotion = platform.reducedMotion(),
             .autostart = platform.autostart(),
             .trayItem = platform.trayItem(),

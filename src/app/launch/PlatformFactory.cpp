@@ -2,12 +2,15 @@
 
 #include "platform/dbus/ApplicationService.h"
 #include "platform/dbus/DesktopReducedMotion.h"
+#include "platform/dbus/PortalSaveDialog.h"
 #include "platform/dbus/SessionScreenPower.h"
 #include "platform/desktop/ApplicationEntry.h"
 #include "platform/desktop/DesktopApplications.h"
 #include "platform/desktop/DesktopAutostart.h"
 #include "platform/desktop/DesktopTrayItem.h"
 #include "platform/desktop/FileManager.h"
+#include "platform/desktop/QtImageClipboard.h"
+#include "platform/desktop/QtSaveDialog.h"
 #include "platform/desktop/QtScreens.h"
 #include "platform/desktop/SettingsPreferences.h"
 #include "platform/localmodel/SocketLanguageModel.h"
@@ -72,6 +75,7 @@ public:
         , m_pointerPresses(m_x11)
         , m_languageModel(m_files, configHome() + QStringLiteral("/Vantle/language-model.conf"),
                           scheduler)
+        , m_saveDialog(m_session, m_qtSaveDialog)
         , m_service(m_session)
         , m_signals([this](int) { m_events.endRequested(); }) {
         QObject::connect(&m_x11, &X11Connection::broken, &m_x11,
@@ -96,6 +100,8 @@ public:
     [[nodiscard]] Screens& screens() override { return m_screens; }
     [[nodiscard]] PanelHost& panelHost() override { return m_panelHost; }
     [[nodiscard]] PointerPresses& pointerPresses() override { return m_pointerPresses; }
+    [[nodiscard]] ImageClipboard& imageClipboard() override { return m_imageClipboard; }
+    [[nodiscard]] SaveDialog& saveDialog() override { return m_saveDialog; }
     [[nodiscard]] QString dataHome() const override {
         return xdgDirectory("XDG_DATA_HOME", QStringLiteral("/.local/share"));
     }
@@ -134,6 +140,9 @@ private:
     X11PanelHost m_panelHost;
     X11PointerPresses m_pointerPresses;
     SocketLanguageModel m_languageModel;
+    QtImageClipboard m_imageClipboard;
+    QtSaveDialog m_qtSaveDialog;
+    PortalSaveDialog m_saveDialog;
     ApplicationService m_service;
     TerminationSignals m_signals;
 };

@@ -7,12 +7,14 @@
 #include "platform/FrontmostApp.h"
 #include "platform/HotKeyPort.h"
 #include "platform/IdleSource.h"
+#include "platform/ImageClipboard.h"
 #include "platform/LanguageModel.h"
 #include "platform/PanelHost.h"
 #include "platform/PointerPresses.h"
 #include "platform/Preferences.h"
 #include "platform/ProcessRunner.h"
 #include "platform/ReducedMotion.h"
+#include "platform/SaveDialog.h"
 #include "platform/ScreenPower.h"
 #include "platform/Screens.h"
 #include "platform/TrayItem.h"
@@ -51,6 +53,8 @@ public:
     [[nodiscard]] virtual Screens& screens() = 0;
     [[nodiscard]] virtual PanelHost& panelHost() = 0;
     [[nodiscard]] virtual PointerPresses& pointerPresses() = 0;
+    [[nodiscard]] virtual ImageClipboard& imageClipboard() = 0;
+    [[nodiscard]] virtual SaveDialog& saveDialog() = 0;
 
     /// The directory under which the support directory lies.
     [[nodiscard]] virtual QString dataHome() const = 0;

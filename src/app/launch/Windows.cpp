@@ -1,12 +1,14 @@
 #include "app/launch/Windows.h"
 
 #include "app/AppModel.h"
+#include "app/launch/PosterSharing.h"
 #include "review/WrappedView.h"
 #include "surfaces/dashboard/DashboardView.h"
 #include "surfaces/notes/LogView.h"
 #include "surfaces/quicklog/QuickLogView.h"
 #include "surfaces/settings/SettingsView.h"
 #include "surfaces/window/WindowRouter.h"
+#include "surfaces/wrapped/poster/SharePng.h"
 #include "tracking/SkillList.h"
 
 #include <QClipboard>
@@ -54,6 +56,7 @@ std::unique_ptr<QObject> makeLog(const WindowParts& parts) {
 
 std::unique_ptr<QObject> makeWrapped(const WindowParts& parts) {
     AppModel& model = parts.model;
+    PosterSharing& sharing = parts.posterSharing;
     return std::make_unique<WrappedView>(WrappedView::Environment{
         .notifications = parts.notifications,
         .preferences = parts.preferences,
@@ -69,12 +72,12 @@ std::unique_ptr<QObject> makeWrapped(const WindowParts& parts) {
             [&model] {
                 if (model.tracker().state() == TrackerCore::State::Idle) model.toggleVantle();
             },
-        .renderPng = [](const SharePoster&) { return std::nullopt; },
-        .copyPng = [](const QByteArray&) {},
+        .renderPng = renderSharePNG,
+        .copyPng = [&sharing](const QByteArray& png) { sharing.copy(png); },
         .savePng =
-            [](const QByteArray&, const QString&,
-               const std::function<void(WrappedView::Saved)>& answer) {
-                answer(WrappedView::Saved::Failed);
+            [&sharing, &router = parts.router](const QByteArray& png, const QString& name,
+                                               std::function<void(WrappedView::Saved)> done) {
+                sharing.save(png, name, router.window(WindowId::Wrapped), std::move(done));
             }});
 }
 

@@ -16,6 +16,7 @@ class Clock;
 class FocusLink;
 class LanguageModel;
 class NotificationCenter;
+class PosterSharing;
 class Preferences;
 class Scheduler;
 class SerialQueue;
@@ -40,6 +41,7 @@ struct WindowParts {
     std::function<void(const QString& path)> reveal; ///< shows a file in the file manager
     std::function<Result<>()> openShortcuts;         ///< opens the folder of shortcuts
     LanguageModel& languageModel;
+    PosterSharing& posterSharing;
 };
 
 /// Tells the router of every window that there is. Main thread, once.
