@@ -127,12 +127,12 @@ class Recovery(CardTest):
         self.desktop.screenshot("notice")
         self.answer(from_right=50)
         self.assertEqual(self.vantle.sessions()[0]["activeSeconds"], 125)
-        self.assertIn("Recovered 2 min from the previous run", self.tray.tool_tip())
+        self.await_tool_tip("Recovered 2 min from the previous run")
 
     def test_a_click_on_discard_leaves_nothing(self):
         self.answer(from_right=130)
         self.assertEqual(self.vantle.log_bytes(), b"")
-        self.assertIn("Discarded the recovered session", self.tray.tool_tip())
+        self.await_tool_tip("Discarded the recovered session")
 
     def test_pushed_out_by_a_summary_the_notice_comes_back(self):
         self.begin_session()
@@ -149,6 +149,7 @@ class TagPrompt(CardTest):
         folder = Path(self.desktop.env["XDG_DATA_HOME"], "applications")
         folder.mkdir(parents=True, exist_ok=True)
         (folder / "org.example.Quern.desktop").write_text(ENTRY)
+        reader = self.start_reader()
         self.launch()
         self.begin_session()
         self.desktop.open("xterm", "-class", "Quern", "-T", "a quern")
@@ -159,6 +160,10 @@ class TagPrompt(CardTest):
             time.sleep(0.5)
         x, y, _, _ = self.await_card(QUESTION)
         self.desktop.screenshot("question")
+        told = reader.window(QUESTION)
+        self.assertIn("Quern", next(one for one in told.all() if one.role == "dialog").name)
+        for button in ("Build", "Design", "Not now"):
+            told.find("push button", button)
         self.click(x + 131, y + 96)  # Design
         wait_until("the card gone", lambda: not self.is_up(QUESTION))
         rules = self.vantle.data_directory / "auto-rules.json"
@@ -170,6 +175,7 @@ class TagPrompt(CardTest):
 class Toast(CardTest):
 
     def test_a_click_on_another_skill_says_what_was_saved_and_lets_clicks_through(self):
+        reader = self.start_reader()
         self.launch()
         self.begin_session()
         # The capsule opens where the pointer rests at the top of the screen.
@@ -180,4 +186,6 @@ class Toast(CardTest):
         x, y, width, height = self.desktop.frame_of(window)
         self.assertEqual((x + width, height), (SCREEN_WIDTH - RIGHT_INSET, 40))
         self.desktop.screenshot("toast")
+        notice, = [one for one in reader.window(SAVED).all() if one.role == "notification"]
+        self.assertRegex(notice.name, r"^\d+ sec saved")
         wait_until("the toast gone", lambda: not self.is_up(SAVED), deadline=5)

@@ -51,7 +51,7 @@ class Recovery(DesktopTest):
         self.assertEqual(record["startedAt"], stamp(started))
         self.assertEqual(record["endedAt"], stamp(started + timedelta(minutes=5)))
         self.assertEqual((record["note"], record["source"]), ("", "mac_app"))
-        self.assertIn("Recovered 2 min from the previous run", self.tray.tool_tip())
+        self.await_tool_tip("Recovered 2 min from the previous run")
 
         activate_action(self.desktop, "keep")  # the offer is answered: nothing more comes of it
         self.assertEqual(self.vantle.stop(), 0)
@@ -63,7 +63,7 @@ class Recovery(DesktopTest):
         activate_action(self.desktop, "discard")
         wait_until("no marker", lambda: self.vantle.marker() is None)
         self.assertEqual(self.vantle.log_bytes(), b"")
-        self.assertIn("Discarded the recovered session", self.tray.tool_tip())
+        self.await_tool_tip("Discarded the recovered session")
 
     def test_kept_after_a_crash_between_record_and_marker_it_is_not_logged_twice(self):
         self.launch()
@@ -82,7 +82,7 @@ class Recovery(DesktopTest):
                            lasting=timedelta(minutes=30))
         self.launch()
         self.assertIsNone(self.vantle.marker())
-        self.assertEqual(self.tray.tool_tip(), "Vantle")
+        wait_until("the plain tool tip", lambda: self.tray.tool_tip() == "Vantle")
 
     def test_a_marker_of_garbage_is_removed(self):
         for garbage in (b"", b"\x00\xff{", b'{"id":"x"}', b"[" * 5000):

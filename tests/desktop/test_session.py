@@ -112,7 +112,7 @@ class StatusNotifierTray(DesktopTest):
     def test_a_panel_is_told_the_brick_then_the_dot_then_the_brick(self):
         colour = rgb_of(FIRST_SKILL_COLOUR)
         self.launch()
-        self.assertEqual(self.tray.tool_tip(), "Vantle")
+        wait_until("the plain tool tip", lambda: self.tray.tool_tip() == "Vantle")
         brick = self.tray.pixmap(18)
         self.assertEqual((brick.width, brick.height), (18, 18))
         corner_alphas = {brick.pixel(x, y)[0] for x in (0, 17) for y in (0, 17)}

@@ -9,6 +9,7 @@ from .bus import PROGRAM_NAME, owner_of
 from .desktop import Desktop
 from .notifier import Notifier
 from .program import Program
+from .reader import Reader
 from .waiting import wait_until
 
 ROOT = Path(__file__).resolve().parents[3]
@@ -52,6 +53,13 @@ class DesktopTest(unittest.TestCase):
         self.addCleanup(self._expect_silence, program)
         self.addCleanup(program.kill)
         return program
+
+    def start_reader(self):
+        """A screen reader. To be started before the program is."""
+        reader = Reader(self.desktop)
+        self.addCleanup(reader.stop)
+        reader.start()
+        return reader
 
     def _expect_silence(self, program):
         self.assertEqual(program.printed(), "", "the program prints nothing")
@@ -106,5 +114,9 @@ class DesktopTest(unittest.TestCase):
     # -- what has to hold
 
     def assert_one_record_and_no_marker(self):
+        # The marker goes after the record has come: never is there neither.
+        wait_until("no marker", lambda: self.vantle.marker() is None)
         self.assertEqual(len(self.vantle.sessions()), 1)
-        self.assertIsNone(self.vantle.marker())
+
+    def await_tool_tip(self, part):
+        wait_until(f"the tool tip with {part!r}", lambda: part in self.tray.tool_tip())
