@@ -1,12 +1,15 @@
 #include "surfaces/welcome/SamplePoster.h"
 
-#include "tracking/Skill.h"
+#include "surfaces/welcome/SampleSkills.h"
 
 #include <array>
 
 namespace vantle {
 
 namespace {
+
+using samples::seed;
+using samples::words;
 
 struct Hours {
     const char* skill;
@@ -28,12 +31,6 @@ constexpr std::array kWeek = {Day{"building", 1.0F},      Day{"product_design", 
                               Day{"building", 1.0F},      Day{"connections", 0.5F},
                               Day{"marketing", 1.0F},     Day{nullptr, 0.0F},
                               Day{"product_design", 1.0F}};
-
-QString words(const char* utf8) { return QString::fromUtf8(utf8); }
-
-Skill seed(const char* id) {
-    return Skill::seedDefinition(QLatin1String(id)).value_or(Skill::defaults().front());
-}
 
 DayTile tile(const Day& day) {
     DayTile made;

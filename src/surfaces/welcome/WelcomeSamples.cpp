@@ -4,6 +4,7 @@
 #include "platform/ReducedMotion.h"
 #include "surfaces/capsule/CapsuleText.h"
 #include "surfaces/dashboard/DashboardFigures.h"
+#include "surfaces/welcome/SampleSkills.h"
 
 #include <algorithm>
 #include <array>
@@ -12,11 +13,8 @@ namespace vantle {
 
 namespace {
 
-QString words(const char* utf8) { return QString::fromUtf8(utf8); }
-
-Skill seed(const char* id) {
-    return Skill::seedDefinition(QLatin1String(id)).value_or(Skill::defaults().front());
-}
+using samples::seed;
+using samples::words;
 
 QColor colorOf(const char* id) { return QColor::fromRgb(seed(id).hexRGB); }
 
