@@ -4,7 +4,6 @@ import json
 
 from .bus import activate_action
 from .case import DesktopTest
-from .reader import Reader
 from .waiting import wait_until
 
 # The action that opens a window, and its title.
@@ -66,9 +65,7 @@ class ReaderCase(WindowCase):
     def setUp(self):
         super().setUp()
         self.desktop.env["VANTLE_AUTOSTART"] = "1"  # nothing pops up by itself
-        self.reader = Reader(self.desktop)
-        self.addCleanup(self.reader.stop)
-        self.reader.start()
+        self.reader = self.start_reader()
 
     def await_told(self, title, role, name):
         """Waits until the window tells of the one element of that role and name."""
