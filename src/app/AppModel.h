@@ -97,6 +97,10 @@ public:
     /// offer to recover a session must not vanish because the panel opens.
     void refreshPanelState();
 
+    /// Tells the person something in `lastActionNote`, where the tracker's own words about storage
+    /// win over it.
+    void report(const QString& text);
+
     /// Puts the idle capsule up, when the welcome is done and no session is open.
     void ensureIdleNotch();
 
@@ -174,7 +178,6 @@ private:
     void select(const QString& id);
     void publishSkills();
     void setLastActionNote(std::optional<QString> note);
-    void report(const QString& text);
     void afterDelay(Seconds delay, std::function<void()> work);
     [[nodiscard]] bool isIdle() const { return m_tracker.state() == TrackerCore::State::Idle; }
     [[nodiscard]] bool isOnboarded() const { return !needsWelcome(); }

@@ -24,6 +24,10 @@ public:
     /// Takes the combination, in every state of the lock keys or not at all.
     [[nodiscard]] virtual Outcome registerKey() = 0;
     virtual void unregisterKey() = 0;
+
+    /// False where presses may not arrive while another application has the keyboard, although the
+    /// combination is taken. Does not change while the program runs.
+    [[nodiscard]] virtual bool hearsEveryApp() const { return true; }
 };
 
 } // namespace vantle

@@ -38,6 +38,8 @@ public:
     [[nodiscard]] const std::optional<QString>& registrationError() const {
         return m_registrationError;
     }
+    /// Whether it works over every application while it is active.
+    [[nodiscard]] bool hearsEveryApp() const { return m_port.hearsEveryApp(); }
 
     /// Called at each press, after the platform's own handler has returned. Set once by the owner,
     /// which it must hold weakly.

@@ -25,6 +25,7 @@ public:
         return outcome;
     }
     void unregisterKey() override { --keys; }
+    [[nodiscard]] bool hearsEveryApp() const override { return isHeardEverywhere; }
 
     /// The person presses the combination. Whether anybody was there to hear it.
     bool press() {
@@ -36,6 +37,7 @@ public:
     // What the next attempt comes to.
     int installStatus = 0;
     Outcome outcome{Registration::Registered, 0};
+    bool isHeardEverywhere = true;
 
     // What is held now; more than one, or fewer than none, is a fault of the code under test.
     int handlers = 0;

@@ -32,7 +32,10 @@ AppDelegate::AppDelegate(const Environment& environment)
     , m_autoSkill({m_env.clock, m_env.scheduler, m_env.autoSkillQueue, m_env.paths,
                    m_env.preferences, m_skills, m_env.frontmostApp, m_env.idleSource,
                    ownBundleId()})
-    , m_focusLink(m_env.preferences, m_env.processRunner, m_env.shortcutsTool) {}
+    , m_focusLink(m_env.preferences, m_env.processRunner, m_env.shortcutsTool)
+    , m_missingTray({m_env.scheduler, m_env.preferences, m_env.trayItem,
+                     [this] { return m_commandCenter->isShown() && !m_model->lastActionNote(); },
+                     [this](const QString& text) { m_model->report(text); }}) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -108,7 +111,7 @@ void AppDelegate::makeWindows() {
     registerWindows({*m_model, m_skills, m_notifications, m_env.preferences, m_env.clock,
                      m_env.scheduler, m_env.calendar, *m_router, m_autoSkill.rules(), m_focusLink,
                      m_env.autostart, m_env.paths, m_env.ioQueue, m_env.reveal, m_env.openShortcuts,
-                     m_env.languageModel, m_env.posterSharing});
+                     m_env.languageModel, m_env.posterSharing, m_env.trayItem});
     m_commandCenter =
         std::make_unique<CommandCenterController>(CommandCenterController::Environment{
             *m_model, m_skills, m_env.preferences, m_env.clock, m_env.scheduler, *m_router,
@@ -142,6 +145,7 @@ void AppDelegate::showStatus() {
 void AppDelegate::showCommandCenter() {
     m_commandCenter->show();
     m_model->flashIdleNotchIntroIfNeeded();
+    m_missingTray.panelOpened();
 }
 
 void AppDelegate::applicationShouldHandleReopen() {

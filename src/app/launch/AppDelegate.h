@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/AppModel.h"
+#include "app/launch/MissingTray.h"
 #include "sensing/AutoSkillMonitor.h"
 #include "sensing/FocusLink.h"
 #include "surfaces/commandcenter/CommandCenterController.h"
@@ -117,6 +118,7 @@ private:
     std::unique_ptr<WindowRouter> m_router;
     std::unique_ptr<CommandCenterController> m_commandCenter;
     std::unique_ptr<StatusItemController> m_statusItem;
+    MissingTray m_missingTray;
 };
 
 } // namespace vantle

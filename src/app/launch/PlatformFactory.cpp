@@ -43,6 +43,12 @@ QString xdgDirectory(const char* variable, const QString& underHome) {
 
 QString configHome() { return xdgDirectory("XDG_CONFIG_HOME", QStringLiteral("/.config")); }
 
+/// Whether the X server is one beside a Wayland compositor.
+bool isWaylandSession() {
+    return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String("wayland");
+}
+
 std::unique_ptr<ScreenPower> makeScreenPower(X11Connection& x11, Scheduler& scheduler,
                                              const QDBusConnection& session) {
     std::vector<std::unique_ptr<ScreenPower>> sources;
@@ -61,7 +67,7 @@ public:
         , m_preferences(m_files, configHome() + QStringLiteral("/Vantle/preferences.ini"))
         , m_idleSource(m_x11)
         , m_screenPower(makeScreenPower(m_x11, scheduler, m_session))
-        , m_hotKey(m_x11, scheduler)
+        , m_hotKey(m_x11, scheduler, isWaylandSession())
         , m_applications(DesktopApplications::standardFolders(),
                          ApplicationEntry::localeNames(QLocale::system()))
         , m_frontmostApp(

@@ -93,6 +93,8 @@ std::unique_ptr<QObject> makeSettings(const WindowParts& parts) {
         .ioQueue = parts.ioQueue,
         .reveal = parts.reveal,
         .openShortcuts = parts.openShortcuts,
+        .tray = parts.tray,
+        .copy = [](const QString& text) { QGuiApplication::clipboard()->setText(text); },
         .eraseAllData = [&model = parts.model] { return model.eraseEverything(); }});
 }
 

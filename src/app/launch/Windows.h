@@ -21,6 +21,7 @@ class Preferences;
 class Scheduler;
 class SerialQueue;
 class SkillList;
+class TrayItem;
 class WindowRouter;
 
 /// What view models of windows are made from. All of it must outlive the windows.
@@ -42,6 +43,7 @@ struct WindowParts {
     std::function<Result<>()> openShortcuts;         ///< opens the folder of shortcuts
     LanguageModel& languageModel;
     PosterSharing& posterSharing;
+    const TrayItem& tray;
 };
 
 /// Tells the router of every window that there is. Main thread, once.

@@ -15,9 +15,10 @@ const Event& as(const xcb_generic_event_t& event) {
 
 } // namespace
 
-X11HotKey::X11HotKey(X11Connection& connection, Scheduler& scheduler)
+X11HotKey::X11HotKey(X11Connection& connection, Scheduler& scheduler, bool inWaylandSession)
     : m_connection(connection)
-    , m_scheduler(scheduler) {}
+    , m_scheduler(scheduler)
+    , m_inWaylandSession(inWaylandSession) {}
 
 X11HotKey::~X11HotKey() { unregisterKey(); }
 

@@ -17,21 +17,22 @@ class Scheduler;
 /// place; where that fails it is tried again at the next change.
 ///
 /// While another program holds the whole keyboard, an open menu or a screen locker, presses don't
-/// reach us. In a Wayland session they would do so only over X11 windows: not to be used there.
+/// reach us. In a Wayland session they do so only while an X11 window has it.
 class X11HotKey final : public HotKeyPort {
 public:
     /// Statuses beside the codes of X errors.
     static constexpr int kNoConnection = X11Connection::kBroken;
     static constexpr int kNoSuchKey = -2; ///< the keyboard map has no Alt or no Super
 
-    /// Both must outlive this.
-    X11HotKey(X11Connection& connection, Scheduler& scheduler);
+    /// Both must outlive this. `inWaylandSession`: the X server is one beside a Wayland compositor.
+    X11HotKey(X11Connection& connection, Scheduler& scheduler, bool inWaylandSession = false);
     ~X11HotKey() override;
 
     [[nodiscard]] int installHandler(std::function<void()> pressed) override;
     void removeHandler() override;
     [[nodiscard]] Outcome registerKey() override;
     void unregisterKey() override;
+    [[nodiscard]] bool hearsEveryApp() const override { return !m_inWaylandSession; }
 
 private:
     void handlePress(const xcb_key_press_event_t& event);
@@ -42,6 +43,7 @@ private:
 
     X11Connection& m_connection;
     Scheduler& m_scheduler;
+    const bool m_inWaylandSession;
     std::shared_ptr<std::function<void()>> m_pressed; ///< posted calls hold it weakly
     bool m_registered = false;
     std::optional<X11KeyCombination> m_grabbed;

@@ -35,6 +35,18 @@ SettingsSection {
             control: HotKeyStatus {
                 model: section.model
             }
+
+            HotKeyAdvice {
+                width: parent.width
+                model: section.model
+            }
+        }
+
+        SettingsRow {
+            width: parent.width
+            visible: section.model.gaps.trayAdvice !== ""
+            title: section.model.title(SettingsView.TrayRow)
+            caption: section.model.gaps.trayAdvice
         }
 
         SettingsRow {

@@ -36,6 +36,8 @@ QString SettingsView::title(Row row) {
         return QStringLiteral("Launch at login");
     case HotKeyRow:
         return QStringLiteral("Global hotkey");
+    case TrayRow:
+        return QStringLiteral("Tray");
     case DurationRow:
         return QStringLiteral("How time reads");
     case WelcomeRow:
@@ -99,6 +101,7 @@ QString SettingsView::caption(Row row) {
                               "removes all of it.");
     case StartShortcutRow:
     case StopShortcutRow:
+    case TrayRow:    // says what is missing
     case WelcomeRow: // has one for each state
         return {};
     }
@@ -146,7 +149,9 @@ QString SettingsView::idleCaption() const {
 }
 
 QString SettingsView::hotKeyText() const {
-    return isHotKeyActive() ? QStringLiteral("⌥⌘B · active") : QStringLiteral("⌥⌘B unavailable");
+    if (isHotKeyActive()) return QStringLiteral("⌥⌘B · active");
+    return m_env.model.hotKey().isRegistered() ? QStringLiteral("⌥⌘B · only over some apps")
+                                               : QStringLiteral("⌥⌘B unavailable");
 }
 
 QString SettingsView::welcomeCaption() const {

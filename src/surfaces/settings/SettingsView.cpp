@@ -29,7 +29,9 @@ QString storedText(const Preferences& preferences, QLatin1String key) {
 
 } // namespace
 
-SettingsView::SettingsView(Environment environment) : m_env(std::move(environment)) {
+SettingsView::SettingsView(Environment environment)
+    : m_env(std::move(environment))
+    , m_gaps(m_env.model.hotKey(), m_env.tray, m_env.copy) {
     m_env.rules.loadIfNeeded();
     readState();
     refreshApps();
@@ -118,10 +120,13 @@ void SettingsView::setLaunchAtLogin(bool on) {
     Q_EMIT switched();
 }
 
-bool SettingsView::isHotKeyActive() const { return m_env.model.hotKey().isRegistered(); }
+bool SettingsView::isHotKeyActive() const {
+    const HotKey& hotKey = m_env.model.hotKey();
+    return hotKey.isRegistered() && hotKey.hearsEveryApp();
+}
 
 QString SettingsView::hotKeyFailure() const {
-    if (isHotKeyActive()) return {};
+    if (m_env.model.hotKey().isRegistered()) return {};
     return m_env.model.hotKey().registrationError().value_or(QString());
 }
 

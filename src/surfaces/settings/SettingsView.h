@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "surfaces/settings/DesktopGaps.h"
 #include "surfaces/settings/SeenAppRows.h"
 #include "tracking/DurationStyle.h"
 
@@ -22,6 +23,7 @@ class FocusLink;
 class NotificationCenter;
 class Preferences;
 class SerialQueue;
+class TrayItem;
 
 /// What the window shows and does. All state is read when it is made, and again after an erase;
 /// each change is stored at once. A failure is told in the row where it happened, and nowhere else.
@@ -64,6 +66,9 @@ class SettingsView final : public QObject {
     /// Why the choices could not be saved; empty otherwise.
     Q_PROPERTY(QString appsFailure READ appsFailure NOTIFY appsFailureChanged FINAL)
 
+    /// What this desktop lacks.
+    Q_PROPERTY(vantle::DesktopGaps* gaps READ gaps CONSTANT FINAL)
+    /// It works, and over every application.
     Q_PROPERTY(bool isHotKeyActive READ isHotKeyActive NOTIFY hotKeyChanged FINAL)
     Q_PROPERTY(QString hotKeyText READ hotKeyText NOTIFY hotKeyChanged FINAL)
     /// Why the shortcut could not be taken; empty otherwise.
@@ -103,6 +108,7 @@ public:
         AutoStartRow,
         LoginRow,
         HotKeyRow,
+        TrayRow,
         DurationRow,
         WelcomeRow,
         ExportRow,
@@ -122,6 +128,8 @@ public:
         SerialQueue& ioQueue;
         std::function<void(const QString& path)> reveal; ///< shows a file in the file manager
         std::function<Result<>()> openShortcuts;         ///< opens the folder of shortcuts
+        const TrayItem& tray;
+        std::function<void(const QString& text)> copy; ///< puts it into the clipboard
         /// Erases everything; empty on full success, else what the person is told.
         std::function<std::optional<QString>()> eraseAllData;
     };
@@ -181,6 +189,7 @@ public:
     Q_INVOKABLE void chooseSkill(const QString& bundleId, int choice);
     Q_INVOKABLE void forgetApp(QString bundleId);
 
+    [[nodiscard]] DesktopGaps* gaps() { return &m_gaps; }
     [[nodiscard]] bool isHotKeyActive() const;
     [[nodiscard]] QString hotKeyText() const;
     [[nodiscard]] QString hotKeyFailure() const;
@@ -234,6 +243,7 @@ private:
 
     const Environment m_env;
     SeenAppRows m_apps;
+    DesktopGaps m_gaps;
     double m_idleMinutes = 0;
     double m_dailyGoalHours = 0;
     bool m_rippleOn = true;

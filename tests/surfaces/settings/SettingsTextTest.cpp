@@ -1,4 +1,5 @@
 // Every word of the settings, written down once more, so that none changes by accident.
+#include "support/Text.h"
 #include "surfaces/settings/SettingsWorld.h"
 
 #include <QMetaEnum>
@@ -11,7 +12,7 @@
 namespace vantle {
 namespace {
 
-QString text(const char* utf8) { return QString::fromUtf8(utf8); }
+using tests::text;
 
 struct Words {
     const char* title;
@@ -48,6 +49,7 @@ const std::map<SettingsView::Row, Words> kWords = {
       "notice once)."}},
     {SettingsView::HotKeyRow,
      {"Global hotkey", "Starts or stops vantle from inside any app. Fixed in this version."}},
+    {SettingsView::TrayRow, {"Tray", ""}},
     {SettingsView::DurationRow,
      {"How time reads",
       "Every duration in Vantle reads this way: the dashboard, the notch, Wrapped, and the card "

@@ -4,6 +4,7 @@
 #include "app/ModelWorld.h"
 #include "fakes/FakeAutostart.h"
 #include "fakes/FakeProcessRunner.h"
+#include "fakes/FakeTrayItem.h"
 #include "sensing/AutoRules.h"
 #include "sensing/FocusLink.h"
 #include "surfaces/settings/SettingsView.h"
@@ -43,6 +44,8 @@ public:
                     if (!folderRefuses) return {};
                     return Error::fromErrno(EACCES, QStringLiteral("make"), QStringLiteral("x"));
                 },
+                tray,
+                [this](const QString& text) { copied << text; },
                 [this] { return model->eraseEverything(); }};
     }
     /// The tool that lists shortcuts answers.
@@ -57,7 +60,9 @@ public:
     fakes::FakeProcessRunner runner;
     FocusLink focusLink{preferences, runner, QStringLiteral("/opt/vantle-shortcuts")};
     std::optional<AutoRules> rules;
+    fakes::FakeTrayItem tray;
     QStringList revealed;
+    QStringList copied;
     int foldersOpened = 0;
     bool folderRefuses = false;
     std::optional<SettingsView> view;

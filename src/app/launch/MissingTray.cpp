@@ -1,0 +1,28 @@
+#include "app/launch/MissingTray.h"
+
+#include "platform/Preferences.h"
+#include "platform/TrayItem.h"
+
+#include <utility>
+
+namespace vantle {
+
+namespace {
+
+/// In which a tray shows an item that has just come.
+constexpr Seconds kTrayPatience{2};
+
+} // namespace
+
+MissingTray::MissingTray(Environment environment) : m_env(std::move(environment)) {}
+
+void MissingTray::panelOpened() {
+    if (m_env.preferences.flag(toldKey)) return;
+    m_check = m_env.scheduler.scheduleOnce(kTrayPatience, [this] {
+        if (m_env.tray.isShown() || !m_env.canBeTold()) return;
+        m_env.preferences.setBoolean(toldKey, true);
+        m_env.tell(QStringLiteral("No tray here: open Vantle again to get this panel back"));
+    });
+}
+
+} // namespace vantle

@@ -1,0 +1,44 @@
+// How to start and stop sessions by a key of one's own.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+import Vantle.Settings
+
+Column {
+    id: advice
+
+    required property SettingsView model
+
+    visible: model.gaps.hotKeyAdvice !== ""
+    topPadding: DarkUI.space8
+    spacing: DarkUI.space8
+
+    SettingsCaption {
+        width: parent.width
+        text: advice.model.gaps.hotKeyAdvice
+        color: DarkUI.t2
+    }
+
+    SettingsCaption {
+        width: parent.width
+        text: advice.model.gaps.command
+        color: DarkUI.t1
+        wrapMode: Text.Wrap
+    }
+
+    Row {
+        spacing: DarkUI.space12
+
+        DarkSecondaryButton {
+            id: copy
+            text: qsTr("Copy the command")
+            role: DarkUI.captionMedium
+            onClicked: advice.model.gaps.copyCommand()
+        }
+
+        SettingsFeedback {
+            anchors.verticalCenter: copy.verticalCenter
+            text: advice.model.gaps.commandCopied ? qsTr("Copied") : ""
+        }
+    }
+}
