@@ -31,6 +31,12 @@ QPalette darkPalette() {
     return palette;
 }
 
+/// The typeface of the program's windows; the desktop's own where it isn't there.
+QFont windowFont(QFont desktops) {
+    desktops.setFamilies({QStringLiteral("Inter"), desktops.family()});
+    return desktops;
+}
+
 QString firstFolder(const SaveQuestion& question) {
     return question.folder.isEmpty()
                ? QStandardPaths::writableLocation(QStandardPaths::HomeLocation)
@@ -73,6 +79,7 @@ std::unique_ptr<OpenSaveDialog> QtSaveDialog::ask(const SaveQuestion& question, 
     auto* const dialog = new QFileDialog(nullptr, question.title, firstFolder(question));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setPalette(darkPalette());
+    dialog->setFont(windowFont(dialog->font()));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setNameFilter(QStringLiteral("%1 (*.%2)").arg(question.kind, question.ending));
