@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""installed_test.py <source tree> <build tree> <version>: what `cmake --install` puts below a prefix.
+"""installed_test.py <source tree> <build tree> <version>: what `cmake --install` makes of a prefix.
 
 Needs everything built, and appstreamcli and man to ask.
 """
