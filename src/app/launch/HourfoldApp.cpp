@@ -7,9 +7,11 @@
 #include "app/launch/InstallLocation.h"
 #include "app/launch/PlatformFactory.h"
 #include "app/launch/PosterSharing.h"
+#include "app/launch/ResourceFolders.h"
 #include "base/Clock.h"
 #include "base/SerialQueue.h"
 #include "platform/ReducedMotion.h"
+#include "review/drawing/PersonaArtwork.h"
 #include "sensing/AutoRules.h"
 #include "surfaces/alert/ModalPresenter.h"
 #include "surfaces/kit/Motion.h"
@@ -92,6 +94,7 @@ void describeApplication() {
     QApplication::setApplicationName(QStringLiteral("vantle"));
     QApplication::setDesktopFileName(QStringLiteral("local.vantle.Vantle"));
     QApplication::setQuitOnLastWindowClosed(false);
+    QDir::setSearchPaths(personaartwork::searchPrefix(), resourcefolders::all());
 }
 
 /// Everything real that the program stands on, made in the order in which one needs the other.
