@@ -9,6 +9,7 @@ QList<Scene> allScenes() {
     scenes += cardScenes();
     scenes += commandCenterScenes();
     scenes += windowScenes();
+    scenes += personaScenes();
     scenes += settingsScenes();
     return scenes;
 }

@@ -10,6 +10,7 @@ namespace vantle {
 [[nodiscard]] QList<Scene> cardScenes();
 [[nodiscard]] QList<Scene> commandCenterScenes();
 [[nodiscard]] QList<Scene> kitScenes();
+[[nodiscard]] QList<Scene> personaScenes();
 [[nodiscard]] QList<Scene> settingsScenes();
 [[nodiscard]] QList<Scene> windowScenes();
 
