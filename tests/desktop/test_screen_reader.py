@@ -6,7 +6,7 @@ from datetime import datetime, timedelta, timezone
 from harness.bus import activate
 from harness.case import FIRST_SKILL, PANEL_TITLE
 from harness.waiting import wait_until
-from harness.windows import DASHBOARD, NOTES, QUICK_LOG, ReaderCase, record
+from harness.windows import DASHBOARD, NOTES, QUICK_LOG, WELCOME, WRAPPED, ReaderCase, record
 
 CAPSULE = "Vantle Capsule"
 SUMMARY = "Vantle Session Summary"
@@ -101,6 +101,70 @@ class OfWindows(ScreenReader):
         self.desktop.type("0")
         self.desktop.press("Return")
         self.await_told("Quick Log", "alert message", "Enter a time between 1 minute and 16 hours.")
+
+    def test_the_review(self):
+        self.write_records(record(number, f"draft {number}") for number in range(1, 9))
+        self.launch()
+        self.open(*WRAPPED)
+        window = self.reader.window("Wrapped")
+        self.assert_nothing_is_nameless(window)
+        self.assert_told(
+            window, ("page tab list", "Period"), ("page tab", "Today", "Not selected"),
+            ("page tab", "Week", "Selected"), ("page tab", "Month", "Not selected"),
+            ("page tab", "All time", "Not selected"), ("heading", "Nothing this week yet"),
+            ("push button", "Enter Vantle"))
+        self.reader.press(window.find("page tab", "All time"))
+        self.await_told("Wrapped", "push button", "Next page")
+        told = {(one.role, one.name) for one in self.all_pages()}
+        for expected in (("label", "4 h"), ("graphic", "Daily activity across 2025, week by week"),
+                         ("graphic", "Session starts by hour of day"),
+                         ("push button", "Copy image"), ("push button", "Save image…")):
+            self.assertIn(expected, told)
+
+    def all_pages(self):
+        """What stands on the pages of the review, turned to the last."""
+        found = []
+        while True:
+            window = self.reader.window("Wrapped")
+            self.assert_nothing_is_nameless(window)
+            found += window.all()
+            before = self.page_of(window)
+            if before[0] == before[1]:
+                return found
+            self.reader.press(window.find("push button", "Next page"))
+            wait_until("the next page",
+                       lambda: self.page_of(self.reader.window("Wrapped")) != before)
+
+    def page_of(self, window):
+        """Which page of how many is there."""
+        dots, = [one for one in window.all() if one.role == "indicator"]
+        return [int(word) for word in dots.name.split() if word.isdigit()]
+
+
+class OfTheWelcome(ScreenReader):
+
+    newcomer = True
+
+    def test_its_first_steps(self):
+        self.launch()
+        self.await_told(WELCOME, "heading", "What are you working towards?")
+        window = self.reader.window(WELCOME)
+        self.assert_nothing_is_nameless(window)
+        field = window.find("text", "Project")
+        self.assertEqual(field.description, "my app, my degree, 10,000 hours of guitar")
+        self.assertIn("focused", field.states)
+        self.assert_told(window, ("indicator", "Step 1 of 10"), ("push button", "Continue"),
+                         ("push button", "skip the welcome"))
+        self.reader.press(window.find("push button", "Continue"))
+        self.await_told(WELCOME, "heading", "These are your modes")
+        window = self.reader.window(WELCOME)
+        self.assert_nothing_is_nameless(window)
+        self.assert_told(window, ("indicator", "Step 2 of 10"),
+                         *(("push button", f"Rename {name}") for name in MODES),
+                         ("push button", "Remove Design"), ("push button", "Add your own"))
+        self.reader.press(window.find("push button", "Add your own"))
+        field = self.await_told(WELCOME, "text", "Category")
+        self.assertEqual(field.description, "e.g. Investors, Support")
 
 
 class OfFloatingSurfaces(ScreenReader):

@@ -96,7 +96,8 @@ class Reader:
 
     def press(self, element):
         """Does what a press of it does."""
-        self._ask(element.reference, ACTION, "DoAction", "i", 0)
+        actions = [str(name) for name, *_ in self._ask(element.reference, ACTION, "GetActions")]
+        self._ask(element.reference, ACTION, "DoAction", "i", actions.index("Press"))
 
     def _read_window(self, title):
         # What is being changed can't be read: then it is read once more.

@@ -11,6 +11,8 @@ DASHBOARD = ("dashboard", "Your hours")
 NOTES = ("notes", "Your notes")
 QUICK_LOG = ("quick-log", "Quick Log")
 SETTINGS = ("settings", "Settings")
+WRAPPED = ("wrapped", "Wrapped")
+WELCOME = "Welcome"
 
 
 def record(number, note, source="mac_app"):
