@@ -166,6 +166,33 @@ class OfTheWelcome(ScreenReader):
         field = self.await_told(WELCOME, "text", "Category")
         self.assertEqual(field.description, "e.g. Investors, Support")
 
+    def step(self, button, heading):
+        """Presses a button of the welcome and waits for the heading that it leads to."""
+        self.reader.press(self.await_told(WELCOME, "push button", button))
+        self.await_told(WELCOME, "heading", heading)
+        window = self.reader.window(WELCOME)
+        self.assert_nothing_is_nameless(window)
+        return [one.name for one in window.all() if one.role == "graphic"]
+
+    def test_its_practice_and_its_samples(self):
+        self.vantle.write_preferences(ripple__disabled="true")
+        self.launch()
+        self.step("Continue", "These are your modes")
+        self.assertIn("The keys Alt, Super and B", self.step("Continue", "Press it now"))
+        self.step("Enter Vantle", "You're building")
+        self.reader.press(self.await_told(WELCOME, "push button", "Stop Vantle"))
+        self.reader.press(self.await_told(SUMMARY, "push button", "Close"))
+        self.await_told(WELCOME, "heading", "As easy as that")
+        self.step("Continue", "Switch modes from the notch")
+        samples = []
+        for heading in ("Your hours, one click away", "What is behind it", "Your work, wrapped",
+                        "That is the whole app"):
+            samples += self.step("Continue", heading)
+        self.assertIn("A sample weekly Wrapped: builder type Night Owl, a week of day tiles, and "
+                      "hours by category", samples)
+        self.assertIn("A sample of the Your hours dashboard: totals for today, this week and all "
+                      "time, and the hour wall", samples)
+
 
 class OfFloatingSurfaces(ScreenReader):
 
