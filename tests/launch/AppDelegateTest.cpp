@@ -1,33 +1,9 @@
-#include "app/launch/AppDelegate.h"
-
-#include "app/launch/PosterSharing.h"
-#include "fakes/FakeCardStage.h"
-#include "fakes/FakeFrontmostApp.h"
-#include "fakes/FakeHotKeyPort.h"
-#include "fakes/FakeIdleSource.h"
-#include "fakes/FakeImageClipboard.h"
-#include "fakes/FakeLanguageModel.h"
-#include "fakes/FakePanelHost.h"
-#include "fakes/FakePointerPresses.h"
-#include "fakes/FakeProcessRunner.h"
-#include "fakes/FakeReducedMotion.h"
-#include "fakes/FakeSaveDialog.h"
-#include "fakes/FakeScreenPower.h"
-#include "fakes/FakeScreens.h"
-#include "fakes/FakeTrayItem.h"
-#include "fakes/MemoryFileSystem.h"
-#include "fakes/MemoryPreferences.h"
-#include "fakes/VirtualTime.h"
-#include "platform/Autostart.h"
+#include "launch/AppDelegateWorld.h"
 #include "support/QtPrinters.h"
-#include "support/Text.h"
 #include "surfaces/cards/StopSummaryModel.h"
-#include "surfaces/window/SharedEngine.h"
-#include "tracking/AppPaths.h"
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
 #include <random>
 
 namespace vantle::tests {
@@ -35,100 +11,7 @@ namespace {
 
 using State = TrackerCore::State;
 
-class FakeAutostart final : public Autostart {
-public:
-    [[nodiscard]] bool isRegistered() const override { return registered; }
-    Result<> registerItem() override {
-        ++attempts;
-        if (fails) return Error::fromErrno(EACCES, text("write"), text("autostart"));
-        registered = true;
-        return {};
-    }
-    Result<> unregisterItem() override {
-        registered = false;
-        return {};
-    }
-
-    bool registered = false;
-    bool fails = false;
-    int attempts = 0;
-};
-
-/// A machine on which copies of the program are started.
-class AppDelegateTest : public testing::Test {
-protected:
-    AppDelegateTest() {
-        time.attach(ioQueue);
-        time.attach(autoSkillQueue);
-        shapes.shapes.clear(); // nothing to show the panel on, which takes its time
-    }
-
-    std::unique_ptr<AppDelegate> makeCopy(bool atLogin = false) {
-        return std::make_unique<AppDelegate>(
-            AppDelegate::Environment{.clock = time,
-                                     .scheduler = time,
-                                     .ioQueue = ioQueue,
-                                     .autoSkillQueue = autoSkillQueue,
-                                     .paths = paths,
-                                     .preferences = preferences,
-                                     .idleSource = idleSource,
-                                     .screenPower = screens,
-                                     .hotKeyPort = hotKeyPort,
-                                     .frontmostApp = frontmostApp,
-                                     .processRunner = processRunner,
-                                     .languageModel = languageModel,
-                                     .posterSharing = posterSharing,
-                                     .reducedMotion = reducedMotion,
-                                     .autostart = autostart,
-                                     .trayItem = tray,
-                                     .cardStage = cardStage,
-                                     .viewEngine = viewEngine,
-                                     .panelHost = panelHost,
-                                     .screens = shapes,
-                                     .pointerPresses = pointerPresses,
-                                     .shortcutsTool = text("/bin/vantle-shortcuts"),
-                                     .calendar =
-                                         [] {
-                                             return Calendar{text("UTC"), 2, 4};
-                                         },
-                                     .offerMoveToApplications = [this] { return movesAway; },
-                                     .terminate = [this] { ++terminations; },
-                                     .alertAlreadyRunning = [this] { ++alerts; },
-                                     .startedAtLogin = atLogin});
-    }
-
-    std::vector<Session> log() { return SessionLog(paths).readAll().sessions; }
-    bool exists(const char* name) {
-        return disk.exists(text("/data/Vantle/") + QLatin1String(name));
-    }
-
-    fakes::VirtualTime time;
-    fakes::ManualQueue ioQueue;
-    fakes::ManualQueue autoSkillQueue;
-    fakes::MemoryFileSystem disk;
-    fakes::MemoryPreferences preferences;
-    fakes::FakeIdleSource idleSource{time};
-    fakes::FakeScreenPower screens;
-    fakes::FakeHotKeyPort hotKeyPort;
-    fakes::FakeFrontmostApp frontmostApp;
-    fakes::FakeProcessRunner processRunner;
-    fakes::FakeLanguageModel languageModel;
-    fakes::FakeReducedMotion reducedMotion;
-    fakes::FakeTrayItem tray;
-    fakes::FakeCardStage cardStage;
-    SharedEngine viewEngine;
-    fakes::FakePanelHost panelHost;
-    fakes::FakeScreens shapes;
-    fakes::FakePointerPresses pointerPresses;
-    FakeAutostart autostart;
-    AppPaths paths{disk, text("/data")};
-    fakes::FakeImageClipboard clipboard;
-    fakes::FakeSaveDialog saveDialog;
-    PosterSharing posterSharing{{clipboard, saveDialog, disk, time, ioQueue}};
-    int terminations = 0;
-    int alerts = 0;
-    bool movesAway = false;
-};
+class AppDelegateTest : public testing::Test, protected AppDelegateWorld {};
 
 TEST_F(AppDelegateTest, ASecondCopyShowsOnlyTheAlertAndLeavesTheSessionOfTheFirst) {
     const auto first = makeCopy();

@@ -1,0 +1,132 @@
+// A machine on which the program is launched, with everything on it made up.
+#pragma once
+
+#include "app/PreferenceKeys.h"
+#include "app/launch/AppDelegate.h"
+#include "app/launch/PosterSharing.h"
+#include "fakes/FakeCardStage.h"
+#include "fakes/FakeFrontmostApp.h"
+#include "fakes/FakeHotKeyPort.h"
+#include "fakes/FakeIdleSource.h"
+#include "fakes/FakeImageClipboard.h"
+#include "fakes/FakeLanguageModel.h"
+#include "fakes/FakePanelHost.h"
+#include "fakes/FakePointerPresses.h"
+#include "fakes/FakeProcessRunner.h"
+#include "fakes/FakeReducedMotion.h"
+#include "fakes/FakeSaveDialog.h"
+#include "fakes/FakeScreenPower.h"
+#include "fakes/FakeScreens.h"
+#include "fakes/FakeTrayItem.h"
+#include "fakes/MemoryFileSystem.h"
+#include "fakes/MemoryPreferences.h"
+#include "fakes/VirtualTime.h"
+#include "platform/Autostart.h"
+#include "support/Text.h"
+#include "surfaces/window/SharedEngine.h"
+#include "tracking/AppPaths.h"
+
+#include <cerrno>
+#include <memory>
+#include <vector>
+
+namespace vantle::tests {
+
+/// A login item that counts how often it was asked for.
+class CountedAutostart final : public Autostart {
+public:
+    [[nodiscard]] bool isRegistered() const override { return registered; }
+    Result<> registerItem() override {
+        ++attempts;
+        if (fails) return Error::fromErrno(EACCES, text("write"), text("autostart"));
+        registered = true;
+        return {};
+    }
+    Result<> unregisterItem() override {
+        registered = false;
+        return {};
+    }
+
+    bool registered = false;
+    bool fails = false;
+    int attempts = 0;
+};
+
+/// A machine on which copies of the program are started, by somebody who knows it already.
+class AppDelegateWorld {
+protected:
+    AppDelegateWorld() {
+        time.attach(ioQueue);
+        time.attach(autoSkillQueue);
+        preferences.setBoolean(preferencekeys::onboardDone, true);
+        shapes.shapes.clear(); // nothing to show the panel on, which takes its time
+    }
+
+    std::unique_ptr<AppDelegate> makeCopy(bool atLogin = false) {
+        return std::make_unique<AppDelegate>(
+            AppDelegate::Environment{.clock = time,
+                                     .scheduler = time,
+                                     .ioQueue = ioQueue,
+                                     .autoSkillQueue = autoSkillQueue,
+                                     .paths = paths,
+                                     .preferences = preferences,
+                                     .idleSource = idleSource,
+                                     .screenPower = screens,
+                                     .hotKeyPort = hotKeyPort,
+                                     .frontmostApp = frontmostApp,
+                                     .processRunner = processRunner,
+                                     .languageModel = languageModel,
+                                     .posterSharing = posterSharing,
+                                     .reducedMotion = reducedMotion,
+                                     .autostart = autostart,
+                                     .trayItem = tray,
+                                     .cardStage = cardStage,
+                                     .viewEngine = viewEngine,
+                                     .panelHost = panelHost,
+                                     .screens = shapes,
+                                     .pointerPresses = pointerPresses,
+                                     .shortcutsTool = text("/bin/vantle-shortcuts"),
+                                     .calendar =
+                                         [] {
+                                             return Calendar{text("UTC"), 2, 4};
+                                         },
+                                     .offerMoveToApplications = [this] { return movesAway; },
+                                     .terminate = [this] { ++terminations; },
+                                     .alertAlreadyRunning = [this] { ++alerts; },
+                                     .startedAtLogin = atLogin});
+    }
+
+    std::vector<Session> log() { return SessionLog(paths).readAll().sessions; }
+    bool exists(const char* name) {
+        return disk.exists(text("/data/Vantle/") + QLatin1String(name));
+    }
+
+    fakes::VirtualTime time;
+    fakes::ManualQueue ioQueue;
+    fakes::ManualQueue autoSkillQueue;
+    fakes::MemoryFileSystem disk;
+    fakes::MemoryPreferences preferences;
+    fakes::FakeIdleSource idleSource{time};
+    fakes::FakeScreenPower screens;
+    fakes::FakeHotKeyPort hotKeyPort;
+    fakes::FakeFrontmostApp frontmostApp;
+    fakes::FakeProcessRunner processRunner;
+    fakes::FakeLanguageModel languageModel;
+    fakes::FakeReducedMotion reducedMotion;
+    fakes::FakeTrayItem tray;
+    fakes::FakeCardStage cardStage;
+    SharedEngine viewEngine;
+    fakes::FakePanelHost panelHost;
+    fakes::FakeScreens shapes;
+    fakes::FakePointerPresses pointerPresses;
+    CountedAutostart autostart;
+    AppPaths paths{disk, text("/data")};
+    fakes::FakeImageClipboard clipboard;
+    fakes::FakeSaveDialog saveDialog;
+    PosterSharing posterSharing{{clipboard, saveDialog, disk, time, ioQueue}};
+    int terminations = 0;
+    int alerts = 0;
+    bool movesAway = false;
+};
+
+} // namespace vantle::tests
