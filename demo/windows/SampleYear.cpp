@@ -32,8 +32,6 @@ constexpr std::array kNoted = {
     Noted{"2025-11-17T09:05:00Z", 64, "distribution", "Packaging for three desktops"},
 };
 
-Date at(const char* text) { return iso8601::parse(text).value_or(dateFromEpoch(0)); }
-
 Session session(int number, Date start, int minutes, const char* skill) {
     Session made;
     made.id = QUuid::fromString(
@@ -48,7 +46,9 @@ Session session(int number, Date start, int minutes, const char* skill) {
 
 } // namespace
 
-Date sampleNow() { return at("2025-11-21T15:30:00Z"); }
+Date sampleMoment(const char* text) { return iso8601::parse(text).value_or(dateFromEpoch(0)); }
+
+Date sampleNow() { return sampleMoment("2025-11-21T15:30:00Z"); }
 
 QByteArray sampleLog() {
     constexpr std::array skills = {"building",    "building",    "product_design", "building",
@@ -63,13 +63,13 @@ QByteArray sampleLog() {
     for (int day = 32; day > 4; --day)
         for (int half = 0; half < 2; ++half) {
             ++number;
-            const Date start =
-                at("2025-11-21T09:00:00Z") - Seconds(86400.0 * day) + Seconds(18000.0 * half);
+            const Date start = sampleMoment("2025-11-21T09:00:00Z") - Seconds(86400.0 * day) +
+                               Seconds(18000.0 * half);
             write(session(number, start, 30 + number * 17 % 46,
                           skills[static_cast<std::size_t>(number * 7 % 10)]));
         }
     for (auto noted = kNoted.rbegin(); noted != kNoted.rend(); ++noted) {
-        Session made = session(++number, at(noted->start), noted->minutes, noted->skill);
+        Session made = session(++number, sampleMoment(noted->start), noted->minutes, noted->skill);
         made.note = QString::fromUtf8(noted->note);
         if (noted->isManual) made.source = sourceManual();
         write(made);

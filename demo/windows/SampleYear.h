@@ -10,6 +10,9 @@ namespace vantle {
 /// The moment at which the pictures are taken: a Friday afternoon, 2025-11-21 in UTC.
 [[nodiscard]] Date sampleNow();
 
+/// A moment as it stands in records: "2025-11-21T15:30:00Z".
+[[nodiscard]] Date sampleMoment(const char* text);
+
 /// Sessions over 46 hours, the newest of them with notes, as the log file holds them.
 [[nodiscard]] QByteArray sampleLog();
 

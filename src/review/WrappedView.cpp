@@ -52,6 +52,7 @@ void WrappedView::showReview() {
     m_texts.notes = reviewcards::notes(stats, now, highlightsShown).value_or(NotesCard());
     m_texts.summary = reviewcards::summary(stats, now);
     m_texts.poster = reviewcards::poster(stats, now);
+    showSegments();
     Q_EMIT reviewChanged();
     showRhythm();
     showCards();
@@ -72,11 +73,14 @@ void WrappedView::showCards() {
     Q_EMIT pageChanged();
 }
 
-QStringList WrappedView::segmentLabels() const {
+void WrappedView::showSegments() {
     QStringList labels;
     for (const WrappedPeriod period : wrappedcards::segments(m_review.period()))
         labels << wrappedperiod::pickerLabel(period);
-    return labels;
+    // A picker makes its segments anew for every list that it is told of, also for the same one.
+    if (labels == m_segments) return;
+    m_segments = labels;
+    Q_EMIT segmentsChanged();
 }
 
 int WrappedView::segmentIndex() const {

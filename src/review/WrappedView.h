@@ -28,7 +28,7 @@ class WrappedView final : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Made by the window router.")
     /// The picker.
-    Q_PROPERTY(QStringList segmentLabels READ segmentLabels NOTIFY reviewChanged FINAL)
+    Q_PROPERTY(QStringList segmentLabels READ segmentLabels NOTIFY segmentsChanged FINAL)
     Q_PROPERTY(int segmentIndex READ segmentIndex NOTIFY reviewChanged FINAL)
 
     /// The pager. `cards` are the ids of the pages in order, as in "hero".
@@ -116,7 +116,7 @@ public:
 
     [[nodiscard]] const WrappedReview& review() const { return m_review; }
 
-    [[nodiscard]] QStringList segmentLabels() const;
+    [[nodiscard]] QStringList segmentLabels() const { return m_segments; }
     [[nodiscard]] int segmentIndex() const;
     [[nodiscard]] QStringList cards() const { return m_cards; }
     [[nodiscard]] bool hasPager() const { return m_cards.size() > 1; }
@@ -148,7 +148,8 @@ public:
     [[nodiscard]] QString shareFeedback() const;
 
 Q_SIGNALS:
-    void reviewChanged(); ///< another period or another log
+    void segmentsChanged(); ///< other periods to choose from
+    void reviewChanged();   ///< another period or another log
     void cardsChanged();
     void pageChanged();
     void rhythmChanged();
@@ -176,6 +177,7 @@ private:
     void reload();
     void turn(int by);
     [[nodiscard]] WrappedSettings settings() const;
+    void showSegments();
     void showReview();
     void showRhythm();
     void showCards();
@@ -189,6 +191,7 @@ private:
     WrappedReview m_review;
     Texts m_texts;
     RhythmCard m_rhythm;
+    QStringList m_segments;
     QStringList m_cards;
     int m_wallCapacity = 48;
     std::optional<int> m_chosenYear; ///< for as long as the page stays

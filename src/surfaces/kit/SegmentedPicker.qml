@@ -15,6 +15,15 @@ ArrowGroup {
     readonly property real segmentWidth: (width - 2 * inset) / Math.max(options.length, 1)
     signal activated(int index)
 
+    // Other options are other segments: the keyboard stays with the chosen one.
+    function takeUp(): void {
+        current = currentIndex;
+        refresh();
+        const chosen = stops()[current];
+        if (activeFocus && chosen)
+            chosen.focusByKeyboard();
+    }
+
     implicitWidth: 300
     implicitHeight: DarkUI.buttonHeight
     list: segments
@@ -91,6 +100,7 @@ ArrowGroup {
         }
     }
 
+    onOptionsChanged: Qt.callLater(takeUp)
     onCurrentIndexChanged: {
         current = currentIndex;
         refresh();

@@ -16,7 +16,7 @@ constexpr double kWhiteLight = 0.16;
 constexpr double kTintedLight = 0.34;
 constexpr double kWhiteReach = 3.4; // radii
 constexpr double kTintedReach = 5;
-constexpr double kHaloLight = 0.30; // of the dot's own
+constexpr double kHaloLight = 0.45; // of the dot's own
 
 // The star falls gently to the right.
 constexpr QPointF kStarWay{300, 96};

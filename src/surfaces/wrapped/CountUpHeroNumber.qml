@@ -12,8 +12,10 @@ Item {
     property bool animated: false
     property bool stopped: false // stays as far as it came
     readonly property bool counts: animated && !Motion.reduced && content.hours > 0
-    property reviewFigure shown: content.figure
+    property bool counted: false
     property real seconds: 0
+    readonly property reviewFigure shown: counts && !counted ? model.countedUp(seconds)
+                                                             : content.figure
     // A figure that is too wide for the page is set smaller, with its unit.
     readonly property real fit: width > 0 ? Math.min(1, width / full.implicitWidth) : 1
     readonly property int unitSize: Math.round(DarkUI.heroReview.size * DarkUI.heroUnitScale)
@@ -63,15 +65,23 @@ Item {
         }
     }
 
+    // The first digit stands on the page's margin as the letters above and below it do.
+    TextMetrics {
+        id: edge
+        font: value.font
+        text: number.content.figure.value
+    }
+
     Value {
         id: value
+        x: -Math.round(edge.tightBoundingRect.x)
         text: number.shown.value
         role: valueRole
     }
 
     // It stands where it will stand in the end.
     Unit {
-        x: fullValue.implicitWidth * number.fit
+        x: value.x + fullValue.implicitWidth * number.fit
         anchors.baseline: value.baseline
         text: number.shown.unit
         role: unitRole
@@ -83,8 +93,6 @@ Item {
         from: 0
         to: DarkUI.countUpTime / 1000
         duration: DarkUI.countUpTime
+        onFinished: number.counted = true
     }
-
-    onSecondsChanged: if (counts && !stopped)
-        shown = model.countedUp(seconds)
 }

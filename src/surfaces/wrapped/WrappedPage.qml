@@ -49,6 +49,7 @@ FocusScope {
 
     AmbientDotField {
         anchors.fill: parent
+        clip: true // halos at the edges would lie over that of the window
     }
 
     SegmentedPicker {

@@ -1,0 +1,130 @@
+#include "fakes/FakeLanguageModel.h"
+#include "fakes/MemoryPreferences.h"
+#include "fakes/VirtualTime.h"
+#include "gallery/Scenes.h"
+#include "review/SampleReview.h"
+#include "review/WrappedView.h"
+#include "surfaces/wrapped/poster/SharePng.h"
+#include "tracking/NotificationCenter.h"
+#include "windows/SampleYear.h"
+
+namespace vantle {
+
+namespace {
+
+using Sample = std::vector<Session> (*)();
+
+const QString kSentence =
+    QStringLiteral("You made webhook retries land in order, settled the pilot with Ines, and "
+                   "reworked the settings page.");
+
+/// A review of a made-up log, with a model that writes about it at once.
+class DemoReview final : public QObject {
+public:
+    DemoReview(QObject* owner, std::vector<Session> log, WrappedPeriod period)
+        : QObject(owner)
+        , m_log(std::move(log))
+        , view({.notifications = m_notifications,
+                .preferences = m_preferences,
+                .model = m_model,
+                .clock = m_time,
+                .scheduler = m_time,
+                .calendar =
+                    [] {
+                        return Calendar{QStringLiteral("UTC"), 2, 4};
+                    },
+                .allSessions = [this] { return m_log; },
+                .skills =
+                    [] {
+                        const auto& seeds = Skill::defaults();
+                        return std::vector<Skill>(seeds.begin(), seeds.end());
+                    },
+                .initialPeriod = period,
+                .enterVantle = [] {},
+                .renderPng = renderSharePNG,
+                .copyPng = [](const QByteArray&) {},
+                .savePng = [](const QByteArray&, const QString&,
+                              const auto& answer) { answer(WrappedView::Saved::Failed); }}) {
+        m_model.answer(kSentence);
+        m_time.settle();
+    }
+
+    /// Turns to the card of that id.
+    void turnTo(const QString& card) {
+        while (view.card() != card && view.canTurnOn())
+            view.turnOn();
+    }
+
+private:
+    fakes::VirtualTime m_time{sampleNow()};
+    fakes::MemoryPreferences m_preferences;
+    fakes::FakeLanguageModel m_model;
+    NotificationCenter m_notifications;
+    std::vector<Session> m_log;
+
+public:
+    WrappedView view; ///< goes before what it looks at
+};
+
+Scene page(const char* name, Sample sample, WrappedPeriod period, const char* card,
+           std::function<void(WrappedView&)> then = {}) {
+    Scene made;
+    made.name = QLatin1String(name);
+    made.view = QUrl(QStringLiteral("qrc:/qt/qml/Vantle/DemoWindows/FramedScene.qml"));
+    made.ground = kDesk;
+    made.properties = [=](QObject* owner) {
+        auto* const review =
+            new DemoReview(owner, sample ? sample() : std::vector<Session>(), period);
+        review->turnTo(QLatin1String(card));
+        if (then) then(review->view);
+        return QVariantMap{
+            {QStringLiteral("view"),
+             QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Wrapped/WrappedPage.qml"))},
+            {QStringLiteral("model"), QVariant::fromValue(static_cast<QObject*>(&review->view))}};
+    };
+    return made;
+}
+
+std::vector<Session> untilYesterday() {
+    std::vector<Session> log = firstWeeks();
+    std::erase_if(log, [](const Session& session) {
+        return session.startedAt >= sampleMoment("2025-11-21T00:00:00Z");
+    });
+    return log;
+}
+
+Scene twice(Scene scene) {
+    scene.twice = true;
+    return scene;
+}
+
+} // namespace
+
+QList<Scene> reviewScenes() {
+    using enum WrappedPeriod;
+    return {
+        twice(page("wrapped-hero", nightOwlYears, LastWeek, "hero")),
+        page("wrapped-hero-today", nightOwlYears, Today, "hero"),
+        page("wrapped-hero-all-time", nightOwlYears, AllTime, "hero"),
+        page("wrapped-skills", nightOwlYears, LastWeek, "skills"),
+        twice(page("wrapped-persona", nightOwlYears, LastWeek, "persona")),
+        page("wrapped-persona-taking-shape", firstDay, Week, "persona"),
+        page("wrapped-rhythm-week", nightOwlYears, Week, "rhythm"),
+        page("wrapped-rhythm-month", nightOwlYears, Month, "rhythm"),
+        page("wrapped-rhythm-year", nightOwlYears, AllTime, "rhythm"),
+        page("wrapped-when", nightOwlYears, LastWeek, "when"),
+        page("wrapped-high-points", nightOwlYears, LastWeek, "superlatives"),
+        page("wrapped-milestones", firstWeeks, Month, "milestones"),
+        page("wrapped-milestones-many", nightOwlYears, AllTime, "milestones"),
+        page("wrapped-narrative", nightOwlYears, Week, "narrative"),
+        page("wrapped-notes", nightOwlYears, Week, "notes"),
+        twice(page("wrapped-summary", nightOwlYears, LastWeek, "summary")),
+        page("wrapped-summary-year", nightOwlYears, AllTime, "summary"),
+        page("wrapped-summary-failed", nightOwlYears, LastWeek, "summary",
+             [](WrappedView& view) { view.saveImage(); }),
+        page("wrapped-empty", untilYesterday, Today, ""),
+        page("wrapped-empty-first", nullptr, Week, ""),
+    };
+}
+
+} // namespace vantle

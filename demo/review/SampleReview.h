@@ -1,0 +1,20 @@
+// Made-up logs for the pictures of the review.
+#pragma once
+
+#include "tracking/Session.h"
+
+#include <vector>
+
+namespace vantle {
+
+/// Two years of somebody who builds late at night. The week before that of sampleNow() has twelve
+/// sessions, the one that holds it nine, with notes.
+[[nodiscard]] std::vector<Session> nightOwlYears();
+
+/// Some weeks only: the first hours of somebody, which pass two milestones this month.
+[[nodiscard]] std::vector<Session> firstWeeks();
+
+/// Three sessions on the day of sampleNow().
+[[nodiscard]] std::vector<Session> firstDay();
+
+} // namespace vantle

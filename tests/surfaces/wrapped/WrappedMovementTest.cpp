@@ -1,0 +1,90 @@
+// How pages come and go, and what stands still.
+#include "surfaces/wrapped/WrappedWorld.h"
+
+namespace vantle {
+namespace {
+
+class WrappedMovementTest : public testing::Test, protected tests::WrappedWorld {
+protected:
+    [[nodiscard]] QQuickItem* field() {
+        return search(window->contentItem(),
+                      [](const QQuickItem& item) { return item.property("hasStar").isValid(); });
+    }
+    [[nodiscard]] QQuickItem* figure() {
+        return search(window->contentItem(),
+                      [](const QQuickItem& item) { return item.property("counts").isValid(); });
+    }
+};
+
+TEST_F(WrappedMovementTest, PageOnItsWayOutKeepsWhatItShowed) {
+    workAWeek();
+    show(false);
+    EXPECT_TRUE(shows("this week"));
+    click("All time");
+    EXPECT_TRUE(isTurning());
+    EXPECT_TRUE(shows("this week"));
+    EXPECT_TRUE(shows("all time"));
+    awaitTurned();
+    EXPECT_FALSE(shows("this week"));
+    EXPECT_TRUE(shows("all time"));
+}
+
+TEST_F(WrappedMovementTest, OnlyOnePageIsLeftAfterQuickTurns) {
+    workAWeek();
+    show(false);
+    for (int i = 0; i < 4; ++i)
+        press(Qt::Key_Right);
+    press(Qt::Key_Left);
+    awaitTurned();
+    int pages = 0;
+    for (const QQuickItem* child : page()->parentItem()->childItems())
+        pages += child->property("kicker").isValid() ? 1 : 0;
+    EXPECT_EQ(pages, 1);
+    EXPECT_EQ(page()->x(), 0);
+    EXPECT_EQ(page()->opacity(), 1);
+}
+
+TEST_F(WrappedMovementTest, PartsOfAPageComeInTheFirstTimeOnly) {
+    workAWeek();
+    show(false);
+    EXPECT_TRUE(page()->property("animated").toBool());
+    press(Qt::Key_Right);
+    press(Qt::Key_Left);
+    EXPECT_EQ(kicker(), QStringLiteral("WRAPPED"));
+    EXPECT_FALSE(page()->property("animated").toBool());
+}
+
+TEST_F(WrappedMovementTest, HoursAreCountedUpToTheFigure) {
+    workAWeek();
+    show(false);
+    const auto shown = [this] { return figure()->property("shown").value<ReviewFigure>(); };
+    const ReviewFigure whole = view->hero().figure;
+    EXPECT_FALSE(shown() == whole);
+    EXPECT_TRUE(tests::await([&] { return shown() == whole; }));
+}
+
+TEST_F(WrappedMovementTest, WithReducedMotionAllIsThereAtOnce) {
+    workAWeek();
+    show(true);
+    EXPECT_EQ(figure()->property("shown").value<ReviewFigure>(), view->hero().figure);
+    press(Qt::Key_Right);
+    EXPECT_EQ(page()->x(), 0) << "pages fade, and do not slide";
+    awaitTurned();
+    EXPECT_EQ(field()->property("seconds").toDouble(), 0);
+}
+
+TEST_F(WrappedMovementTest, NothingDriftsWhileAnotherWindowIsActive) {
+    show(false);
+    const auto age = [this] { return field()->property("seconds").toDouble(); };
+    ASSERT_TRUE(tests::await([&] { return window->isActive() && age() > 0; }));
+    QQuickView other;
+    other.show();
+    other.requestActivate();
+    ASSERT_TRUE(tests::await([&] { return !window->isActive(); }));
+    const double left = age();
+    tests::runFor(250); // two steps and more
+    EXPECT_EQ(age(), left);
+}
+
+} // namespace
+} // namespace vantle

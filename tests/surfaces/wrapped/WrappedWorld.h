@@ -1,0 +1,138 @@
+// The review in a window of its own, over a made-up log, and a person in front of it.
+#pragma once
+
+#include "fakes/FakeLanguageModel.h"
+#include "fakes/MemoryPreferences.h"
+#include "fakes/VirtualTime.h"
+#include "review/WrappedView.h"
+#include "review/stats/ReviewSamples.h"
+#include "support/Await.h"
+#include "surfaces/kit/Motion.h"
+#include "tracking/NotificationCenter.h"
+
+#include <QCoreApplication>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace vantle::tests {
+
+class WrappedWorld {
+protected:
+    /// Wednesday, 2026-03-11 at two in the afternoon.
+    WrappedWorld() { model.available = false; }
+
+    /// A week with notes, enough for a type, and a year before it.
+    void workAWeek() {
+        log = {samples::worked("2025-06-03T22:00:00Z", 90)};
+        for (int day = 2; day <= 11; ++day)
+            log.push_back(samples::worked(QStringLiteral("2026-03-%1T09:00:00Z")
+                                              .arg(day, 2, 10, QLatin1Char('0'))
+                                              .toStdString(),
+                                          60 + 10 * day));
+        log.back().note = QStringLiteral("Drafted the landing page of the importer");
+        log[log.size() - 2].note = QStringLiteral("Shipped the landing page");
+    }
+
+    QQuickItem& show(bool reduced = true) {
+        view = std::make_unique<WrappedView>(environment());
+        window = std::make_unique<QQuickView>();
+        window->engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
+        Motion::of(*window->engine())->setReduced(reduced);
+        window->setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(view.get())}});
+        window->setSource(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Wrapped/WrappedPage.qml")));
+        window->show();
+        window->requestActivate();
+        settle();
+        return *window->rootObject();
+    }
+    ~WrappedWorld() {
+        window.reset(); // its items look at the view
+    }
+
+    static void settle() {
+        for (int i = 0; i < 3; ++i)
+            QCoreApplication::processEvents();
+    }
+    void press(Qt::Key key) {
+        QTest::keyClick(window.get(), key);
+        settle();
+    }
+
+    template <typename Fits>
+    static QQuickItem* search(QQuickItem* item, const Fits& fits) {
+        if (!item->isVisible()) return nullptr;
+        if (fits(*item)) return item;
+        for (QQuickItem* child : item->childItems())
+            if (QQuickItem* const found = search(child, fits)) return found;
+        return nullptr;
+    }
+    [[nodiscard]] bool shows(const QString& words) {
+        return search(window->contentItem(), [&](const QQuickItem& item) {
+                   return item.property("text").toString() == words;
+               }) != nullptr;
+    }
+    [[nodiscard]] bool shows(const char* utf8) { return shows(QString::fromUtf8(utf8)); }
+    /// The control that is read out so.
+    [[nodiscard]] QQuickItem* control(const char* name) {
+        return search(window->contentItem(), [&](const QQuickItem& item) {
+            return item.property("name").toString() == QString::fromUtf8(name) &&
+                   item.metaObject()->indexOfSignal("clicked()") >= 0;
+        });
+    }
+    void click(const char* name) {
+        QQuickItem* const item = control(name);
+        ASSERT_NE(item, nullptr) << name;
+        QMetaObject::invokeMethod(item, "clicked");
+        settle();
+    }
+    /// The one page that is there once no other is on its way out.
+    [[nodiscard]] QQuickItem* page() {
+        QQuickItem* const stack = search(window->contentItem(), [](const QQuickItem& item) {
+            return item.property("shownKey").isValid();
+        });
+        return stack ? stack->property("current").value<QQuickItem*>() : nullptr;
+    }
+    [[nodiscard]] QString kicker() { return page()->property("kicker").toString(); }
+    [[nodiscard]] bool isTurning() { return window->rootObject()->property("turning").toBool(); }
+    void awaitTurned() {
+        ASSERT_TRUE(await([this] { return !isTurning(); }));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    fakes::VirtualTime time{samples::at("2026-03-11T14:00:00Z")};
+    fakes::MemoryPreferences preferences;
+    fakes::FakeLanguageModel model;
+    NotificationCenter notifications;
+    std::vector<Session> log;
+    int entered = 0;
+    QList<QByteArray> copied;
+    std::unique_ptr<WrappedView> view;
+    std::unique_ptr<QQuickView> window;
+
+private:
+    [[nodiscard]] WrappedView::Environment environment() {
+        return {.notifications = notifications,
+                .preferences = preferences,
+                .model = model,
+                .clock = time,
+                .scheduler = time,
+                .calendar = [] { return samples::calendarIn(QStringLiteral("UTC")); },
+                .allSessions = [this] { return log; },
+                .skills = [] { return samples::seeds(); },
+                .initialPeriod = {},
+                .enterVantle = [this] { ++entered; },
+                .renderPng = [](const SharePoster&) { return QByteArray("png"); },
+                .copyPng = [this](const QByteArray& image) { copied << image; },
+                .savePng =
+                    [](const QByteArray&, const QString&,
+                       const std::function<void(WrappedView::Saved)>& answer) {
+                        answer(WrappedView::Saved::Failed);
+                    }};
+    }
+};
+
+} // namespace vantle::tests
