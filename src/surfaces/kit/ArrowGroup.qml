@@ -25,9 +25,9 @@ FocusScope {
     // can't leave that order.
     function refresh(): void {
         const all = stops();
-        current = Math.max(0, Math.min(current, all.length - 1));
         if (all.length === 0)
-            return;
+            return; // they are still to come
+        current = Math.max(0, Math.min(current, all.length - 1));
         all[current].activeFocusOnTab = true;
         all[current].focus = true;
         for (let i = 0; i < all.length; ++i) {

@@ -16,20 +16,7 @@ FocusScope {
     property bool scrollbarShown: false
 
     function scrollTo(y: real): void {
-        flickable.contentY = Math.max(0, Math.min(y, flickable.contentHeight - flickable.height));
-    }
-    function bringIntoSight(item: Item): void {
-        let above = item;
-        while (above && above !== flickable.contentItem)
-            above = above.parent;
-        if (!above)
-            return;
-        const top = item.mapToItem(flickable.contentItem, 0, 0).y;
-        const margin = DarkUI.edgeFade;
-        if (top - margin < flickable.contentY)
-            scrollTo(top - margin);
-        else if (top + item.height + margin > flickable.contentY + flickable.height)
-            scrollTo(top + item.height + margin - flickable.height);
+        focusInSight.scrollTo(y);
     }
 
     Accessible.role: Accessible.Pane
@@ -83,12 +70,8 @@ FocusScope {
             event.accepted = false;
     }
 
-    Connections {
-        target: view.Window.window
-        function onActiveFocusItemChanged(): void {
-            const item = view.Window.activeFocusItem;
-            if (item)
-                view.bringIntoSight(item);
-        }
+    FocusInSight {
+        id: focusInSight
+        view: flickable
     }
 }

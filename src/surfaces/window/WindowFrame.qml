@@ -69,6 +69,10 @@ Item {
         }
     }
 
+    FocusInSight {
+        view: area
+    }
+
     DarkTopStrip {
         width: parent.width
         title: frame.title

@@ -16,6 +16,12 @@ Item {
             options: ["Week", "Month", "Year"]
             onActivated: index => currentIndex = index
         }
+        SegmentedPicker {
+            id: lateSegments
+            width: 300
+            options: ["Week", "Month", "Year"]
+            currentIndex: segments.options.length - 1 // known once the segments are made
+        }
         SwatchRow {
             id: swatches
             width: 300
@@ -88,6 +94,11 @@ Item {
             compare(segments.currentIndex, 2);
             keyClick(Qt.Key_Home);
             compare(segments.currentIndex, 0);
+        }
+
+        function test_theChosenSegmentHasTheFocusFromTheStart() {
+            lateSegments.forceActiveFocus(Qt.TabFocusReason);
+            compare((lateSegments.Window.activeFocusItem as KitPressable).name, "Year");
         }
 
         function test_swatchByPointerAndArrows() {
