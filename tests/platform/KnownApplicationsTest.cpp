@@ -3,6 +3,7 @@
 #include "sensing/AutoSeedTables.h"
 #include "sensing/AutoSuggestion.h"
 #include "support/QtPrinters.h"
+#include "support/Text.h"
 
 #include <QSet>
 
@@ -13,7 +14,7 @@
 namespace vantle {
 namespace {
 
-QString q(const char* text) { return QString::fromUtf8(text); }
+using tests::text;
 
 /// The identities that auto mode files from the start, with the skills of any version.
 QSet<QString> seeds() {
@@ -21,7 +22,7 @@ QSet<QString> seeds() {
     for (const auto& table : {autoseeds::current(), autoseeds::legacy()})
         for (const auto& row : table)
             for (const char* bundleId : row.bundleIds)
-                all.insert(q(bundleId));
+                all.insert(text(bundleId));
     return all;
 }
 
@@ -29,8 +30,8 @@ QSet<QString> seeds() {
 bool isKnownByWord(const QString& identity) {
     if (autosuggestion::isBrowser(identity, {})) return true;
     std::vector<Skill> skills(2);
-    skills[0].id = q("marketing");
-    skills[1].id = q("founder_ops");
+    skills[0].id = text("marketing");
+    skills[1].id = text("founder_ops");
     return autosuggestion::suggestedSkillId(identity, {}, skills).has_value();
 }
 
@@ -54,19 +55,20 @@ TEST(KnownApplications, NoEntryHasTwoRows) {
 }
 
 TEST(KnownApplications, LettersOfEitherCaseAreTheSame) {
-    EXPECT_EQ(knownapplications::identityOf(q("Code")), q("com.microsoft.VSCode"));
-    EXPECT_EQ(knownapplications::identityOf(q("org.gnome.terminal")), q("com.apple.Terminal"));
+    EXPECT_EQ(knownapplications::identityOf(text("Code")), text("com.microsoft.VSCode"));
+    EXPECT_EQ(knownapplications::identityOf(text("org.gnome.terminal")),
+              text("com.apple.Terminal"));
 }
 
 TEST(KnownApplications, OtherIdsStayAsTheyAre) {
-    EXPECT_EQ(knownapplications::identityOf(q("org.example.Tool")), q("org.example.Tool"));
+    EXPECT_EQ(knownapplications::identityOf(text("org.example.Tool")), text("org.example.Tool"));
     EXPECT_EQ(knownapplications::identityOf({}), QString());
 }
 
 TEST(KnownApplications, InstallationsSideBySideAreOneTool) {
-    EXPECT_EQ(
-        knownapplications::identityOf(q("jetbrains-pycharm-0a1b2c3d-0011-2233-4455-66778899aabb")),
-        q("com.jetbrains.PyCharm"));
+    EXPECT_EQ(knownapplications::identityOf(
+                  text("jetbrains-pycharm-0a1b2c3d-0011-2233-4455-66778899aabb")),
+              text("com.jetbrains.PyCharm"));
 }
 
 } // namespace

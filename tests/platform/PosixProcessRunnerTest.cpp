@@ -2,6 +2,7 @@
 
 #include "support/Await.h"
 #include "support/QtPrinters.h"
+#include "support/Text.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -19,9 +20,9 @@ namespace {
 
 using Output = ProcessRunner::Output;
 
-QString q(const char* text) { return QString::fromUtf8(text); }
+using tests::text;
 Command shell(const char* script, const QStringList& more = {}) {
-    return {q("/bin/sh"), QStringList{q("-c"), q(script)} + more};
+    return {text("/bin/sh"), QStringList{text("-c"), text(script)} + more};
 }
 
 QByteArray contentOf(const QString& path) {
@@ -32,7 +33,8 @@ QByteArray contentOf(const QString& path) {
 /// The children of this process, ended ones that nobody asked about included.
 QList<QByteArray> children() {
     const QByteArray self = QByteArray::number(::getpid());
-    const QByteArray all = contentOf(q("/proc/self/task/") + q(self.constData()) + q("/children"));
+    const QByteArray all =
+        contentOf(text("/proc/self/task/") + text(self.constData()) + text("/children"));
     return all.simplified().isEmpty() ? QList<QByteArray>() : all.simplified().split(' ');
 }
 
@@ -49,7 +51,7 @@ protected:
         EXPECT_TRUE(tests::await([&] { return told; }));
         return result;
     }
-    [[nodiscard]] QString path(const char* name) const { return m_folder.filePath(q(name)); }
+    [[nodiscard]] QString path(const char* name) const { return m_folder.filePath(text(name)); }
 
     QTemporaryDir m_folder;
     std::unique_ptr<PosixProcessRunner> m_runner = std::make_unique<PosixProcessRunner>();
@@ -63,33 +65,33 @@ TEST_F(PosixProcessRunnerTest, CollectsWhatTheCommandPrintsAndItsExitStatus) {
 }
 
 TEST_F(PosixProcessRunnerTest, ArgumentsArriveAsTheyStand) {
-    const QStringList arguments{q(" two  blanks "), q("\"quotes\" 'and' $HOME `x` *"), QString(),
-                                q("line\nfeed")};
-    const auto output = collected({q("/usr/bin/printf"), QStringList{q("[%s]")} + arguments});
+    const QStringList arguments{text(" two  blanks "), text("\"quotes\" 'and' $HOME `x` *"),
+                                QString(), text("line\nfeed")};
+    const auto output = collected({text("/usr/bin/printf"), QStringList{text("[%s]")} + arguments});
     ASSERT_TRUE(output);
     EXPECT_EQ(QString::fromUtf8(output->standardOutput),
-              QLatin1Char('[') + arguments.join(q("][")) + QLatin1Char(']'));
+              QLatin1Char('[') + arguments.join(text("][")) + QLatin1Char(']'));
 }
 
 TEST_F(PosixProcessRunnerTest, MissingProgramAndOneKilledGiveNothing) {
-    EXPECT_FALSE(collected({q("/nowhere/tool"), {}}));
+    EXPECT_FALSE(collected({text("/nowhere/tool"), {}}));
     EXPECT_FALSE(collected(shell("kill -KILL $$")));
 }
 
 TEST_F(PosixProcessRunnerTest, CommandThatPrintsWithoutEndIsEnded) {
-    EXPECT_FALSE(collected({q("/usr/bin/yes"), {}}));
+    EXPECT_FALSE(collected({text("/usr/bin/yes"), {}}));
     EXPECT_TRUE(children().isEmpty());
 }
 
 TEST_F(PosixProcessRunnerTest, CommandReadsNothingOfOurs) {
-    const auto output = collected({q("/bin/cat"), {}});
+    const auto output = collected({text("/bin/cat"), {}});
     ASSERT_TRUE(output);
     EXPECT_EQ(output->standardOutput, "");
 }
 
 TEST_F(PosixProcessRunnerTest, CollectedCommandEndsWithTheRunner) {
     bool told = false;
-    m_runner->collect({q("/bin/sleep"), {q("1000")}}, [&](const auto&) { told = true; });
+    m_runner->collect({text("/bin/sleep"), {text("1000")}}, [&](const auto&) { told = true; });
     EXPECT_TRUE(tests::await([] { return children().size() == 1; }));
     m_runner.reset();
     EXPECT_TRUE(children().isEmpty());
@@ -98,7 +100,7 @@ TEST_F(PosixProcessRunnerTest, CollectedCommandEndsWithTheRunner) {
 
 TEST_F(PosixProcessRunnerTest, RunnerMayEndInTheCallbackOfItsCommand) {
     bool told = false;
-    m_runner->collect({q("/bin/true"), {}}, [&](const auto&) {
+    m_runner->collect({text("/bin/true"), {}}, [&](const auto&) {
         m_runner.reset();
         told = true;
     });
@@ -131,7 +133,7 @@ TEST_F(PosixProcessRunnerTest, WhatADetachedCommandPrintsHoldsUpNobody) {
 }
 
 TEST_F(PosixProcessRunnerTest, DetachedCommandThatCannotStartSaysSo) {
-    EXPECT_FALSE(m_runner->startDetached({q("/nowhere/tool"), {}}));
+    EXPECT_FALSE(m_runner->startDetached({text("/nowhere/tool"), {}}));
     EXPECT_TRUE(children().isEmpty());
 }
 
