@@ -34,8 +34,7 @@ class CapsuleTest(DesktopTest):
         super().setUp()
         self.desktop.tool("xsetroot", "-solid", "#5A6478")  # else it is as black as the capsule
         self.desktop.env["VANTLE_AUTOSTART"] = "1"  # nothing else pops up
-        self.vantle.write_preferences(onboard__done="true", ripple__disabled="true",
-                                      notch__intro__flashed="true")
+        self.vantle.write_preferences(ripple__disabled="true", notch__intro__flashed="true")
 
     def launch(self, program=None, **how):
         super().launch(program, **how)

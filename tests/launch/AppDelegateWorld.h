@@ -93,7 +93,7 @@ protected:
                                      .offerMoveToApplications = [this] { return movesAway; },
                                      .terminate = [this] { ++terminations; },
                                      .alertAlreadyRunning = [this] { ++alerts; },
-                                     .startedAtLogin = atLogin});
+                                     .startedUnasked = atLogin});
     }
 
     std::vector<Session> log() { return SessionLog(paths).readAll().sessions; }

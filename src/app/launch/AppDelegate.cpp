@@ -50,9 +50,12 @@ bool AppDelegate::applicationDidFinishLaunching() {
     makeModel();
     makeWindows();
     makeStatusItem();
-    // As long as there is no welcome to walk through, nobody could ever finish it, and every
-    // session would count as practice.
-    if (m_model->needsWelcome()) m_model->markWelcomeDone();
+    if (m_model->needsWelcome()) {
+        m_env.scheduler.post([router = QPointer(m_router.get())] {
+            if (router) router->showWelcome();
+        });
+        return true;
+    }
     if (m_env.startedAtLogin) return true;
     m_env.scheduler.post([model = QPointer(m_model.get())] {
         if (model) model->showCommandCenter();
@@ -109,9 +112,10 @@ void AppDelegate::makeWindows() {
                           m_env.panelHost, [this] { m_model->quit(); }},
         m_notifications);
     registerWindows({*m_model, m_skills, m_notifications, m_env.preferences, m_env.clock,
-                     m_env.scheduler, m_env.calendar, *m_router, m_autoSkill.rules(), m_focusLink,
-                     m_env.autostart, m_env.paths, m_env.ioQueue, m_env.reveal, m_env.openShortcuts,
-                     m_env.languageModel, m_env.posterSharing, m_env.trayItem});
+                     m_env.scheduler, m_env.reducedMotion, m_env.calendar, *m_router,
+                     m_autoSkill.rules(), m_focusLink, m_env.autostart, m_env.paths, m_env.ioQueue,
+                     m_env.reveal, m_env.openShortcuts, m_env.languageModel, m_env.posterSharing,
+                     m_env.trayItem});
     m_commandCenter =
         std::make_unique<CommandCenterController>(CommandCenterController::Environment{
             *m_model, m_skills, m_env.preferences, m_env.clock, m_env.scheduler, *m_router,

@@ -7,6 +7,7 @@
 #include "surfaces/notes/LogView.h"
 #include "surfaces/quicklog/QuickLogView.h"
 #include "surfaces/settings/SettingsView.h"
+#include "surfaces/welcome/WelcomeView.h"
 #include "surfaces/window/WindowRouter.h"
 #include "surfaces/wrapped/poster/SharePng.h"
 #include "tracking/SkillList.h"
@@ -23,6 +24,8 @@ using Close = std::function<void()>;
 QUrl viewAt(const char* place) {
     return QUrl(QStringLiteral("qrc:/qt/qml/Vantle/%1.qml").arg(QLatin1String(place)));
 }
+
+void copyText(const QString& text) { QGuiApplication::clipboard()->setText(text); }
 
 std::unique_ptr<QObject> makeDashboard(const WindowParts& parts) {
     WindowRouter& router = parts.router;
@@ -43,15 +46,14 @@ std::unique_ptr<QObject> makeDashboard(const WindowParts& parts) {
 }
 
 std::unique_ptr<QObject> makeLog(const WindowParts& parts) {
-    return std::make_unique<LogView>(LogView::Environment{
-        .tracker = parts.model.tracker(),
-        .skills = parts.skills,
-        .notifications = parts.notifications,
-        .preferences = parts.preferences,
-        .clock = parts.clock,
-        .scheduler = parts.scheduler,
-        .calendar = parts.calendar,
-        .copy = [](const QString& text) { QGuiApplication::clipboard()->setText(text); }});
+    return std::make_unique<LogView>(LogView::Environment{.tracker = parts.model.tracker(),
+                                                          .skills = parts.skills,
+                                                          .notifications = parts.notifications,
+                                                          .preferences = parts.preferences,
+                                                          .clock = parts.clock,
+                                                          .scheduler = parts.scheduler,
+                                                          .calendar = parts.calendar,
+                                                          .copy = copyText});
 }
 
 std::unique_ptr<QObject> makeWrapped(const WindowParts& parts) {
@@ -81,29 +83,57 @@ std::unique_ptr<QObject> makeWrapped(const WindowParts& parts) {
             }});
 }
 
+/// What is left is the program of a new person, whose sessions are practice until the welcome is
+/// done. So it comes up again, once the settings have said what became of the erase.
+std::optional<QString> eraseAndStartOver(AppModel& model, WindowRouter& router) {
+    auto failure = model.eraseEverything();
+    if (model.needsWelcome())
+        QMetaObject::invokeMethod(
+            &router, [&router] { router.showWelcome(); }, Qt::QueuedConnection);
+    return failure;
+}
+
 std::unique_ptr<QObject> makeSettings(const WindowParts& parts) {
-    return std::make_unique<SettingsView>(SettingsView::Environment{
-        .model = parts.model,
-        .rules = parts.autoRules,
-        .focusLink = parts.focusLink,
-        .autostart = parts.autostart,
-        .preferences = parts.preferences,
-        .notifications = parts.notifications,
-        .paths = parts.paths,
-        .ioQueue = parts.ioQueue,
-        .reveal = parts.reveal,
-        .openShortcuts = parts.openShortcuts,
-        .tray = parts.tray,
-        .copy = [](const QString& text) { QGuiApplication::clipboard()->setText(text); },
-        .eraseAllData = [&model = parts.model] { return model.eraseEverything(); }});
+    return std::make_unique<SettingsView>(
+        SettingsView::Environment{.model = parts.model,
+                                  .rules = parts.autoRules,
+                                  .focusLink = parts.focusLink,
+                                  .autostart = parts.autostart,
+                                  .preferences = parts.preferences,
+                                  .notifications = parts.notifications,
+                                  .paths = parts.paths,
+                                  .ioQueue = parts.ioQueue,
+                                  .reveal = parts.reveal,
+                                  .openShortcuts = parts.openShortcuts,
+                                  .tray = parts.tray,
+                                  .copy = copyText,
+                                  .eraseAllData = [&model = parts.model, &router = parts.router] {
+                                      return eraseAndStartOver(model, router);
+                                  }});
+}
+
+std::unique_ptr<QObject> makeWelcome(const WindowParts& parts, const Close& close) {
+    WindowRouter& router = parts.router;
+    return std::make_unique<WelcomeView>(
+        WelcomeView::Environment{.model = parts.model,
+                                 .notifications = parts.notifications,
+                                 .preferences = parts.preferences,
+                                 .reducedMotion = parts.reducedMotion,
+                                 .scheduler = parts.scheduler,
+                                 .orderOut = [&router] { router.orderOut(WindowId::Welcome); },
+                                 .bringForward = [&router] { router.showWelcome(); },
+                                 .openWrapped = [&router] { router.showWrapped(); },
+                                 .onClose = close});
 }
 
 } // namespace
 
 void registerWindows(const WindowParts& parts) {
-    const auto add = [&](WindowId id, const char* view, auto make) {
+    using Told = std::function<void(QObject&)>;
+    const auto add = [&](WindowId id, const char* view, auto make, const Told& willClose = {}) {
         parts.router.registerWindow(
-            id, {viewAt(view), [parts, make](const Close& close) { return make(parts, close); }});
+            id, {viewAt(view), [parts, make](const Close& close) { return make(parts, close); },
+                 willClose});
     };
     add(WindowId::Dashboard, "Dashboard/DashboardPage",
         [](const WindowParts& p, const Close&) { return makeDashboard(p); });
@@ -117,6 +147,8 @@ void registerWindows(const WindowParts& parts) {
         [](const WindowParts& p, const Close&) { return makeWrapped(p); });
     add(WindowId::Settings, "Settings/SettingsPage",
         [](const WindowParts& p, const Close&) { return makeSettings(p); });
+    add(WindowId::Welcome, "Welcome/WelcomePage", makeWelcome,
+        [](QObject& model) { static_cast<WelcomeView&>(model).finish(); });
 }
 
 } // namespace vantle

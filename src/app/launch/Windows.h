@@ -18,6 +18,7 @@ class LanguageModel;
 class NotificationCenter;
 class PosterSharing;
 class Preferences;
+class ReducedMotion;
 class Scheduler;
 class SerialQueue;
 class SkillList;
@@ -32,6 +33,7 @@ struct WindowParts {
     Preferences& preferences;
     const Clock& clock;
     Scheduler& scheduler;
+    const ReducedMotion& reducedMotion;
     std::function<Calendar()> calendar;
     WindowRouter& router;
     AutoRules& autoRules;

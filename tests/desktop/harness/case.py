@@ -34,6 +34,7 @@ class DesktopTest(unittest.TestCase):
     XEMBED, STATUS_NOTIFIER, NO_TRAY = range(3)
     tray_kind = XEMBED
     compositor = False
+    newcomer = False  # the person has not been through the welcome
 
     def setUp(self):
         name = re.sub(r"^test_", "", self._testMethodName)
@@ -49,7 +50,7 @@ class DesktopTest(unittest.TestCase):
         self.vantle = self.new_program()
 
     def new_program(self):
-        program = Program(EXECUTABLE, self.desktop)
+        program = Program(EXECUTABLE, self.desktop, self.newcomer)
         self.addCleanup(self._expect_silence, program)
         self.addCleanup(program.kill)
         return program

@@ -13,10 +13,12 @@ class Program:
     """One process of the program on a desktop.
 
     Runs of the same desktop share home, data and preferences, as copies started by one person do.
+    That person has been through the welcome, unless `newcomer` is true.
     """
 
-    def __init__(self, executable, desktop):
+    def __init__(self, executable, desktop, newcomer=False):
         self._executable = Path(executable)
+        self._newcomer = newcomer
         self._desktop = desktop
         self._process = None
         self._output = None
@@ -26,6 +28,8 @@ class Program:
 
     def start(self, through=(), restore_signals=True):
         """Starts it, by way of the command `through` if given; returns at once."""
+        if not self._newcomer and not self.preferences_file.exists():
+            self.write_preferences()
         name = f"output-{id(self):x}-{os.urandom(4).hex()}"
         self._output = self._desktop.directory / name
         with self._output.open("wb") as output:
@@ -113,12 +117,25 @@ class Program:
         self.marker_file.write_text(text)
         self.marker_file.chmod(0o600)
 
+    @property
+    def preferences_file(self):
+        return Path(self._desktop.env["XDG_CONFIG_HOME"], "Vantle", "preferences.ini")
+
+    def preference(self, key):
+        """What the preference file says of a key; none if nothing."""
+        path = self.preferences_file
+        for line in path.read_text().splitlines() if path.exists() else []:
+            if line.startswith(key + "="):
+                return line.partition("=")[2]
+        return None
+
     def write_preferences(self, **values):
         """Writes the preference file; `__` in a name stands for the dot of the key."""
-        directory = Path(self._desktop.env["XDG_CONFIG_HOME"], "Vantle")
-        directory.mkdir(mode=0o700, parents=True, exist_ok=True)
+        if not self._newcomer:
+            values.setdefault("onboard__done", "true")
+        self.preferences_file.parent.mkdir(mode=0o700, parents=True, exist_ok=True)
         lines = [f"{name.replace('__', '.')}={value}\n" for name, value in values.items()]
-        (directory / "preferences.ini").write_text("[General]\n" + "".join(lines))
+        self.preferences_file.write_text("[General]\n" + "".join(lines))
 
 
 def _hear_signals():
