@@ -38,6 +38,17 @@ TEST(InstallLocation, AnyOtherFolderIsNot) {
         EXPECT_FALSE(isProper(program)) << program;
 }
 
+TEST(InstallLocation, ABuildTreeAndAPrefixWithTheWholeOfItAreOnPurpose) {
+    fakes::MemoryFileSystem disk;
+    disk.setContent(q("/work/build/CMakeCache.txt"), "x");
+    disk.setContent(q("/srv/tools/share/applications/local.vantle.Vantle.desktop"), "x");
+    EXPECT_TRUE(installlocation::isOnPurpose(disk, q("/work/build")));
+    EXPECT_TRUE(installlocation::isOnPurpose(disk, q("/srv/tools/bin")));
+    EXPECT_FALSE(installlocation::isOnPurpose(disk, q("/work")));
+    EXPECT_FALSE(installlocation::isOnPurpose(disk, q("/srv/tools")));
+    EXPECT_FALSE(installlocation::isOnPurpose(disk, q("/home/ada/Downloads")));
+}
+
 /// A download, a disk, and a person who answers alerts.
 class AppInstallerTest : public testing::Test {
 protected:

@@ -11,6 +11,8 @@
 #include "surfaces/cards/StopSummaryController.h"
 #include "surfaces/cards/TagPromptController.h"
 
+#include <utility>
+
 namespace vantle {
 
 namespace {
@@ -28,6 +30,7 @@ const QString& ownBundleId() {
 
 AppDelegate::AppDelegate(const Environment& environment)
     : m_env(environment)
+    , m_awaitsFirstCall(m_env.startedUnasked)
     , m_skills(m_env.paths, m_env.ioQueue, m_env.preferences)
     , m_autoSkill({m_env.clock, m_env.scheduler, m_env.autoSkillQueue, m_env.paths,
                    m_env.preferences, m_skills, m_env.frontmostApp, m_env.idleSource,
@@ -56,7 +59,7 @@ bool AppDelegate::applicationDidFinishLaunching() {
         });
         return true;
     }
-    if (m_env.startedAtLogin) return true;
+    if (m_env.startedUnasked) return true;
     m_env.scheduler.post([model = QPointer(m_model.get())] {
         if (model) model->showCommandCenter();
     });
@@ -154,6 +157,13 @@ void AppDelegate::showCommandCenter() {
 
 void AppDelegate::applicationShouldHandleReopen() {
     if (!m_model) return;
+    // Started by the bus in silence, it is called next for what it was started for. For a new
+    // person that is the welcome, without the panel over it.
+    const bool isStart = std::exchange(m_awaitsFirstCall, false);
+    if (isStart && m_model->needsWelcome()) {
+        m_router->showWelcome();
+        return;
+    }
     m_model->showCommandCenter();
     m_model->ensureIdleNotch();
 }

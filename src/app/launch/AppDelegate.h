@@ -70,7 +70,8 @@ public:
         std::function<bool()> offerMoveToApplications;
         std::function<void()> terminate;           ///< ends the process
         std::function<void()> alertAlreadyRunning; ///< tells the person, and returns when they know
-        bool startedAtLogin = false;               ///< then nothing may pop up
+        /// At login, or by the bus for a call that is about to come: nothing may pop up.
+        bool startedUnasked = false;
     };
 
     explicit AppDelegate(const Environment& environment);
@@ -106,6 +107,7 @@ private:
     void showStatus();
 
     Environment m_env;
+    bool m_awaitsFirstCall; ///< of those over the bus
     SingleInstanceLock m_lock;
     NotificationCenter m_notifications;
     SkillList m_skills;

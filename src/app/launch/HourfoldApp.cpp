@@ -48,9 +48,9 @@ void alertAlreadyRunning() {
          {QStringLiteral("OK")}});
 }
 
-/// Whether the desktop started the program at login. The mark is taken away, so that no child
-/// process inherits it.
-bool takeLoginMark() {
+/// Whether the desktop started the program unasked: at login, or for a call over the bus. The mark
+/// is taken away, so that no child process inherits it.
+bool takeUnaskedMark() {
     const bool marked = qEnvironmentVariableIsSet("VANTLE_AUTOSTART");
     qunsetenv("VANTLE_AUTOSTART");
     return marked;
@@ -61,16 +61,15 @@ QString shortcutsTool() {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/vantle-shortcuts");
 }
 
-/// Where this program lies, as the installer wants to know it. A build tree is the proper place of
-/// a developer's own build, so it counts as one that nothing is moved from.
+/// Where this program lies, as the installer wants to know it. Where somebody put it on purpose
+/// counts as its proper place.
 AppInstaller::Place thisProgram(Platform& platform) {
     const QString folder = QCoreApplication::applicationDirPath();
-    const bool isBuildTree =
-        platform.fileSystem().exists(folder + QStringLiteral("/CMakeCache.txt"));
+    const bool isOnPurpose = installlocation::isOnPurpose(platform.fileSystem(), folder);
     const QString home = QFileInfo(QDir::homePath()).canonicalFilePath();
     AppInstaller::Place place;
     place.home = home;
-    place.program = isBuildTree
+    place.program = isOnPurpose
                         ? installlocation::target(home)
                         : QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
     place.companions = {QStringLiteral("vantle-shortcuts")};
@@ -130,7 +129,7 @@ struct Ground {
                                .panelHost = platform->panelHost()}};
 };
 
-AppDelegate::Environment environmentOn(Ground& ground, bool startedAtLogin) {
+AppDelegate::Environment environmentOn(Ground& ground, bool startedUnasked) {
     Platform& platform = *ground.platform;
     return {.clock = ground.clock,
             .scheduler = ground.scheduler,
@@ -163,10 +162,10 @@ AppDelegate::Environment environmentOn(Ground& ground, bool startedAtLogin) {
                 [&ground] { return ground.installer.offerMoveToApplicationsIfNeeded(); },
             .terminate = [] { QCoreApplication::quit(); },
             .alertAlreadyRunning = alertAlreadyRunning,
-            .startedAtLogin = startedAtLogin};
+            .startedUnasked = startedUnasked};
 }
 
-int run(bool startedAtLogin) {
+int run(bool startedUnasked) {
     AppDelegate* delegate = nullptr;
     const auto stop = [&delegate] {
         if (delegate) delegate->applicationWillTerminate();
@@ -182,7 +181,7 @@ int run(bool startedAtLogin) {
                    // Not quit(), which is deaf while an alert runs before the main loop.
                    .endRequested = [] { QCoreApplication::exit(); },
                    .displayLost = stop});
-    AppDelegate app(environmentOn(ground, startedAtLogin));
+    AppDelegate app(environmentOn(ground, startedUnasked));
     if (!app.applicationDidFinishLaunching()) return EXIT_SUCCESS;
     delegate = &app;
     runningDelegate = &app;
@@ -200,7 +199,7 @@ int run(bool startedAtLogin) {
 int HourfoldMain(int argc, char** argv) {
     // Nothing is ever printed, by the libraries either.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    const bool startedAtLogin = takeLoginMark();
+    const bool startedUnasked = takeUnaskedMark();
     if (!platformfactory::desktopIsReachable()) return kNoDesktop;
     // In a Wayland session the windows are X11 windows, which can be placed and stay on top.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
@@ -210,7 +209,7 @@ int HourfoldMain(int argc, char** argv) {
     Ceremony::prepareProcess();
     describeApplication();
     const QApplication application(argc, argv);
-    return run(startedAtLogin);
+    return run(startedUnasked);
 }
 
 } // namespace vantle

@@ -1,5 +1,7 @@
 #include "app/launch/InstallLocation.h"
 
+#include "platform/FileSystem.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -23,6 +25,12 @@ bool isProper(const QString& program, const QString& home) {
     if (std::any_of(std::begin(kSystemFolders), std::end(kSystemFolders), isWithin)) return true;
     return program.startsWith(local(home)) &&
            !program.startsWith(local(home) + QStringLiteral("share/Trash/"));
+}
+
+bool isOnPurpose(FileSystem& files, const QString& folder) {
+    const QString prefix = folder.section(QLatin1Char('/'), 0, -2);
+    return files.exists(folder + QStringLiteral("/CMakeCache.txt")) ||
+           files.exists(prefix + QStringLiteral("/share/applications/local.vantle.Vantle.desktop"));
 }
 
 QString target(const QString& home) { return local(home) + QStringLiteral("bin/vantle"); }
