@@ -11,6 +11,7 @@ QList<Scene> allScenes() {
     scenes += windowScenes();
     scenes += personaScenes();
     scenes += settingsScenes();
+    scenes += welcomeScenes();
     scenes += reviewScenes();
     return scenes;
 }

@@ -13,6 +13,7 @@ namespace vantle {
 [[nodiscard]] QList<Scene> personaScenes();
 [[nodiscard]] QList<Scene> reviewScenes();
 [[nodiscard]] QList<Scene> settingsScenes();
+[[nodiscard]] QList<Scene> welcomeScenes();
 [[nodiscard]] QList<Scene> windowScenes();
 
 [[nodiscard]] QList<Scene> allScenes();
