@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QTransform>
 
-#include <algorithm>
 #include <cmath>
 
 namespace vantle::rhythmtile {
@@ -16,30 +15,33 @@ constexpr double kEdge = 1;
 constexpr double kEdgeOpacity = 0.16;
 constexpr double kEmptyOpacity = 0.05;
 
-/// Where the painter's pixels are, if they are straight.
+/// Where the painter's pixels are, if they are straight. In a picture that is made smaller nothing
+/// is moved onto them: gaps would differ by half of their width.
 class Pixels {
 public:
-    explicit Pixels(const QPainter& painter) : m_device(painter.deviceTransform()) {}
+    explicit Pixels(const QPainter& painter)
+        : m_device(painter.deviceTransform())
+        , m_snaps(m_device.type() <= QTransform::TxScale && m_device.m11() >= 1) {}
 
     /// Every tile of a size keeps the same one; only the gaps may differ by a pixel.
     [[nodiscard]] QRectF snapped(const QRectF& area) const {
-        if (m_device.type() > QTransform::TxScale) return area;
+        if (!m_snaps) return area;
         const QRectF there = m_device.mapRect(area);
-        const QRectF whole(std::round(there.x()), std::round(there.y()),
-                           std::max(1.0, std::round(there.width())),
-                           std::max(1.0, std::round(there.height())));
+        const QRectF whole(std::round(there.x()), std::round(there.y()), std::round(there.width()),
+                           std::round(there.height()));
         return m_device.inverted().mapRect(whole);
     }
 
     /// A fine line is as many whole pixels wide.
     [[nodiscard]] double snapped(double width) const {
-        if (m_device.type() > QTransform::TxScale) return width;
-        const double scale = std::abs(m_device.m11());
-        return std::max(1.0, std::round(width * scale)) / scale;
+        if (!m_snaps) return width;
+        const double scale = m_device.m11();
+        return std::round(width * scale) / scale;
     }
 
 private:
     QTransform m_device;
+    bool m_snaps;
 };
 
 void fill(QPainter& painter, const QRectF& area, double radius, const QColor& color) {

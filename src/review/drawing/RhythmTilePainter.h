@@ -1,7 +1,7 @@
 // One day of a calendar, as a tile: the brighter, the more time.
 //
-// Pure drawing, any thread. Lengths in px. Tiles lie on whole device pixels at any scale of the
-// painter, unless it is turned or sheared.
+// Pure drawing, any thread. Lengths in px. At 100 % and more tiles lie on whole device pixels,
+// unless the painter is turned or sheared.
 #pragma once
 
 #include "review/RhythmCard.h"

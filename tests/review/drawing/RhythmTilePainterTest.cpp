@@ -134,5 +134,14 @@ TEST(RhythmTilePainter, TilesAreSharpAtAnyScaleAndPlace) {
         }
 }
 
+TEST(RhythmTilePainter, InAPictureThatIsMadeSmallerTilesKeepTheirDistance) {
+    // Half of it is on either side of a pixel's edge, and stays there.
+    const QImage image = imageOf(worked(Qt::red), kDay, 0.5, {9, 8});
+    EXPECT_EQ(image.pixelColor(3, 15), kGround);
+    EXPECT_GT(image.pixelColor(4, 15).red(), 100);
+    EXPECT_LT(image.pixelColor(4, 15).red(), 200);
+    EXPECT_EQ(image.pixelColor(10, 15), QColor(Qt::red));
+}
+
 } // namespace
 } // namespace vantle

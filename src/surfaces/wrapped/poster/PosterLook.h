@@ -18,11 +18,9 @@ inline QColor t1() { return white(0.95); } ///< what is read
 inline QColor t2() { return white(0.68); } ///< what goes with it
 inline QColor t3() { return white(0.54); } ///< what may be passed over
 inline QColor hairline() { return white(0.08); }
-inline QColor trough() { return white(0.08); } ///< of bars
-inline QColor emptyTile() { return white(0.05); }
+inline QColor trough() { return white(0.08); }       ///< of bars
 inline QColor letter() { return white(0.55); }       ///< of a weekday
 inline QColor futureLetter() { return white(0.30); } ///< of one to come
-inline constexpr double kTileEdge = 0.16;            ///< of white, inside a lit tile
 
 /// A step of the type scale.
 struct Role {
