@@ -25,8 +25,6 @@ struct PosterLayout {
     static constexpr double kClosingLeading = 23;
     static constexpr int kClosingLines = 2;
 
-    static constexpr double kBarLeft = 136;
-    static constexpr double kBarWidth = 182;
     static constexpr double kBarHeight = 6;
     static constexpr double kRow = 28;
 

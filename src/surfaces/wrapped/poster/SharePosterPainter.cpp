@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include <algorithm>
+
 namespace vantle::shareposter {
 
 namespace {
@@ -18,9 +20,12 @@ using Layout = PosterLayout;
 
 constexpr double kDotsHeight = 150;
 constexpr double kHoursUnitGap = 8;
-constexpr double kNameRoom = Layout::kBarLeft - Layout::kMargin - 12;
+constexpr double kNameRoom = 88; // of the breakdown
+constexpr double kMostNameRoom = 132;
+constexpr double kHoursRoom = 68;
+constexpr double kBesideBar = 12;
 constexpr double kRowLine = 4; // from the middle of a row to its baseline
-constexpr double kColumnGap = 10;
+constexpr double kFigureGap = 18;
 constexpr double kSmallInk = 0.5; // where small letters show beside the margin
 
 /// Where large text has to stand for its letters to begin with those of the small texts.
@@ -68,15 +73,35 @@ void drawClosing(QPainter& painter, const Layout& at) {
                          at.closing[i], font, t2());
 }
 
-void drawBar(QPainter& painter, double middle, const SkillLine& skill) {
-    QRectF bar(Layout::kBarLeft, middle - Layout::kBarHeight / 2, Layout::kBarWidth,
-               Layout::kBarHeight);
-    const double radius = Layout::kBarHeight / 2;
+/// The breakdown's columns: names and hours get what they need, up to a point, and the bars what is
+/// left.
+struct Columns {
+    explicit Columns(const std::vector<SkillLine>& skills) {
+        double widestName = 0;
+        double widestHours = 0;
+        for (const SkillLine& skill : skills) {
+            widestName = std::max(widestName, postertext::width(skill.name, nameFont));
+            widestHours = std::max(widestHours, postertext::width(skill.hours, hoursFont));
+        }
+        nameRoom = std::clamp(widestName, kNameRoom, kMostNameRoom);
+        const double left = Layout::kMargin + nameRoom + kBesideBar;
+        const double right = Layout::kRight - std::max(widestHours + kBesideBar, kHoursRoom);
+        bar = QRectF(left, 0, right - left, Layout::kBarHeight);
+    }
+
+    const QFont nameFont = postertext::font(kSkill);
+    const QFont hoursFont = postertext::font(kSkillHours);
+    double nameRoom = 0;
+    QRectF bar; ///< full, at the top of the poster
+};
+
+void drawBar(QPainter& painter, QRectF bar, const SkillLine& skill) {
+    const double radius = bar.height() / 2;
     painter.setPen(Qt::NoPen);
     painter.setBrush(trough());
     painter.drawRoundedRect(bar, radius, radius);
     // Never less than a whole dot.
-    bar.setWidth(std::max(Layout::kBarWidth * skill.fraction, Layout::kBarHeight));
+    bar.setWidth(std::max(bar.width() * skill.fraction, bar.height()));
     painter.setBrush(skill.color);
     painter.drawRoundedRect(bar, radius, radius);
 }
@@ -85,32 +110,35 @@ void drawBreakdown(QPainter& painter, const SharePoster& poster, const Layout& a
     if (poster.breakdown.empty()) return;
     postertext::draw(painter, {Layout::kMargin, at.breakdownKickerLine}, poster.breakdownKicker,
                      postertext::font(kKicker), t3());
-    const QFont name = postertext::font(kSkill);
-    const QFont hours = postertext::font(kSkillHours);
+    const Columns columns(poster.breakdown);
     for (std::size_t i = 0; i < poster.breakdown.size(); ++i) {
         const SkillLine& skill = poster.breakdown[i];
-        const double line = at.row(i) + kRowLine;
+        const double middle = at.row(i);
+        const double line = middle + kRowLine;
         postertext::draw(painter, {Layout::kMargin, line},
-                         postertext::elided(skill.name, name, kNameRoom), name, t1());
-        drawBar(painter, at.row(i), skill);
-        postertext::drawBefore(painter, {Layout::kRight, line}, skill.hours, hours, t2());
+                         postertext::elided(skill.name, columns.nameFont, columns.nameRoom),
+                         columns.nameFont, t1());
+        drawBar(painter, columns.bar.translated(0, middle - Layout::kBarHeight / 2), skill);
+        postertext::drawBefore(painter, {Layout::kRight, line}, skill.hours, columns.hoursFont,
+                               t2());
     }
 }
 
 void drawFigures(QPainter& painter, const SharePoster& poster, const Layout& at) {
     painter.fillRect(QRectF(Layout::kMargin, at.divider, Layout::kColumn, 1), hairline());
     const QFont titleFont = postertext::font(kSmallKicker);
+    const QString space(QLatin1Char(' '));
     const double pitch = Layout::kColumn / double(std::max<std::size_t>(poster.figures.size(), 1));
-    for (std::size_t i = 0; i < poster.figures.size(); ++i) {
-        const auto& [figure, title] = poster.figures[i];
-        const double x = Layout::kMargin + pitch * double(i);
-        const QString space(QLatin1Char(' '));
-        const QFont font = postertext::fitted(
-            postertext::font(kFigure), figure.value + space + figure.unit, pitch - kColumnGap);
+    QFont font = postertext::font(kFigure); // one for all, in which the longest fits
+    for (const auto& [figure, title] : poster.figures)
+        font = postertext::fitted(font, figure.value + space + figure.unit, pitch - kFigureGap);
+    double x = Layout::kMargin;
+    for (const auto& [figure, title] : poster.figures) {
         postertext::draw(painter, {x, at.figureLine}, figure.value, font, t1());
         const double unit = x + postertext::width(figure.value + space, font);
         postertext::draw(painter, {unit, at.figureLine}, figure.unit, font, t3());
         postertext::draw(painter, {x, at.figureTitleLine}, title, titleFont, t3());
+        x += pitch;
     }
 }
 
