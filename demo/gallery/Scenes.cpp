@@ -13,6 +13,7 @@ QList<Scene> allScenes() {
     scenes += settingsScenes();
     scenes += welcomeScenes();
     scenes += reviewScenes();
+    scenes += posterScenes();
     return scenes;
 }
 

@@ -11,6 +11,7 @@ namespace vantle {
 [[nodiscard]] QList<Scene> commandCenterScenes();
 [[nodiscard]] QList<Scene> kitScenes();
 [[nodiscard]] QList<Scene> personaScenes();
+[[nodiscard]] QList<Scene> posterScenes();
 [[nodiscard]] QList<Scene> reviewScenes();
 [[nodiscard]] QList<Scene> settingsScenes();
 [[nodiscard]] QList<Scene> welcomeScenes();
