@@ -7,7 +7,7 @@ from pathlib import Path
 import dbus
 
 from harness.bus import activate, activate_action
-from harness.case import SHORTCUT, DesktopTest
+from harness.case import PANEL_TITLE, SHORTCUT, DesktopTest
 from harness.waiting import wait_until
 
 HOLD_KEY = Path(__file__).parent / "harness" / "hold_key.py"
@@ -39,6 +39,24 @@ class BusActions(DesktopTest):
         self.assertTrue(self.vantle.is_running())
         self.assertIsNone(self.vantle.marker())
         self.assertEqual(self.vantle.sessions(), [])
+
+
+class WithoutTray(DesktopTest):
+
+    tray_kind = DesktopTest.NO_TRAY
+
+    def test_activation_brings_the_panel_back(self):
+        self.launch()
+        activate(self.desktop)
+        wait_until("the panel", lambda: self.desktop.windows_named(PANEL_TITLE))
+        self.desktop.screenshot("panel")
+
+    def test_a_program_that_the_bus_started_shows_only_what_it_is_called_for(self):
+        self.desktop.env["VANTLE_AUTOSTART"] = "1"
+        self.launch()
+        activate_action(self.desktop, "notes")
+        wait_until("the notes", lambda: self.desktop.windows_named("Your notes"))
+        self.assertEqual(self.desktop.windows_named(PANEL_TITLE), [])
 
 
 class HeldKey(DesktopTest):

@@ -131,6 +131,34 @@ TEST_F(AppDelegateTest, TheDesktopMayCallForAWindow) {
     EXPECT_FALSE(app->router()->isOpen(WindowId::Settings));
 }
 
+TEST_F(AppDelegateTest, EveryWindowOpensByItsName) {
+    const auto app = makeCopy(true);
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    const std::pair<const char*, WindowId> windows[] = {{"dashboard", WindowId::Dashboard},
+                                                        {"wrapped", WindowId::Wrapped},
+                                                        {"notes", WindowId::Log},
+                                                        {"quick-log", WindowId::QuickLog},
+                                                        {"settings", WindowId::Settings}};
+    for (const auto& [name, id] : windows) {
+        app->performAction(text(name));
+        EXPECT_TRUE(app->router()->isOpen(id)) << name;
+    }
+}
+
+TEST_F(AppDelegateTest, ForANewPersonTheCallThatStartsTheProgramBringsTheWelcomeAlone) {
+    preferences.remove(preferencekeys::onboardDone);
+    const auto app = makeCopy(true);
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    int opened = 0;
+    app->model()->showCommandCenter = [&] { ++opened; };
+    app->applicationShouldHandleReopen();
+    time.settle();
+    EXPECT_TRUE(app->router()->isOpen(WindowId::Welcome));
+    EXPECT_EQ(opened, 0);
+    app->applicationShouldHandleReopen();
+    EXPECT_EQ(opened, 1);
+}
+
 TEST_F(AppDelegateTest, DataFilesBecomePrivateAtLaunchAndTheRetiredOneGoes) {
     disk.setDirectory(text("/data/Vantle"), 0755);
     disk.setContent(text("/data/Vantle/sessions.jsonl"), QByteArray(), 0644);
