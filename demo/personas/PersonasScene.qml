@@ -39,7 +39,7 @@ Rectangle {
                 PersonaDisc {
                     id: disc
                     anchors.horizontalCenter: parent.horizontalCenter
-                    width: 112
+                    width: 110
                     height: width
                     card: sample.modelData
                 }

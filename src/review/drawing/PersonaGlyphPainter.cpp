@@ -26,8 +26,8 @@ namespace {
 
 using colormath::withAlpha;
 
-// All lengths are on a grid of 96, around its middle.
-constexpr double kGrid = 96;
+// All lengths are on a grid of 94, around its middle: the disc fills it.
+constexpr double kGrid = 94;
 constexpr double kDisc = 47; // radius
 constexpr double kRim = 1;
 constexpr double kSymbolSide = 58.88;

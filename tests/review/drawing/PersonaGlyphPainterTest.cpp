@@ -13,7 +13,7 @@
 namespace vantle {
 namespace {
 
-constexpr double kSide = 96;
+constexpr double kSide = 94;
 constexpr double kScale = 4;
 const QColor kGround(0x0A, 0x0A, 0x0F);
 const QColor kAccent(0x7A, 0x78, 0xFF);
@@ -78,9 +78,15 @@ TEST(PersonaGlyphPainter, TheDiscGoesFromOneColourAtTheUpperLeftToTheOther) {
     const QImage image = imageOf(glyph);
     EXPECT_LT(drawn::distance(atAngle(image, 44, -30), glyph.startColor), 14);
     EXPECT_LT(drawn::distance(atAngle(image, 44, 150), glyph.endColor), 14);
-    EXPECT_EQ(at(image, -47.5, -47.5), kGround) << "round";
+    EXPECT_EQ(at(image, -46.5, -46.5), kGround) << "round";
     EXPECT_GT(atAngle(image, 46.5, 60).lightness(), atAngle(image, 44, 60).lightness() + 15)
         << "a light rim";
+}
+
+TEST(PersonaGlyphPainter, TheDiscReachesToTheEdgesOfItsArea) {
+    const QImage image = imageOf(glyphOf(QStringLiteral("Night Owl")));
+    for (const double angle : {0.0, 90.0, 180.0, 270.0})
+        EXPECT_GT(drawn::distance(atAngle(image, 46.7, angle), kGround), 60) << angle;
 }
 
 TEST(PersonaGlyphPainter, EachKindHasASymbolOfItsOwn) {
@@ -110,7 +116,7 @@ TEST(PersonaGlyphPainter, ASymbolIsDrawnInInkInsideTheRings) {
         int ink = 0;
         for (int y = 0; y < image.height(); ++y)
             for (int x = 0; x < image.width(); ++x) {
-                const double fromMiddle = std::hypot(x / kScale - 48, y / kScale - 48);
+                const double fromMiddle = std::hypot(x / kScale - 47, y / kScale - 47);
                 if (fromMiddle > 46 || drawn::distance(image.pixelColor(x, y), kGround) > 4)
                     continue;
                 ++ink;
@@ -196,10 +202,10 @@ TEST(PersonaGlyphPainter, UnfinishedArcsFillWithSessionsAndBricksWithDays) {
 }
 
 TEST(PersonaGlyphPainter, FitsTheMiddleOfAnyArea) {
-    const QImage image = imageOf(glyphOf(QStringLiteral("Early Bird")), {192, 96});
-    EXPECT_EQ(image.pixelColor(static_cast<int>(40 * kScale), static_cast<int>(48 * kScale)),
+    const QImage image = imageOf(glyphOf(QStringLiteral("Early Bird")), {188, 94});
+    EXPECT_EQ(image.pixelColor(static_cast<int>(40 * kScale), static_cast<int>(47 * kScale)),
               kGround);
-    EXPECT_NE(image.pixelColor(static_cast<int>(52 * kScale), static_cast<int>(48 * kScale)),
+    EXPECT_NE(image.pixelColor(static_cast<int>(52 * kScale), static_cast<int>(47 * kScale)),
               kGround);
 }
 
