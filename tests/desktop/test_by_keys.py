@@ -11,7 +11,8 @@ from harness.case import PANEL_TITLE
 from harness.eyes import Eyes
 from harness.picture import rgb_of
 from harness.waiting import wait_until
-from harness.windows import DASHBOARD, NOTES, QUICK_LOG, SETTINGS, ReaderCase, record
+from harness.windows import (DASHBOARD, NOTES, QUICK_LOG, SETTINGS, WELCOME, WRAPPED, ReaderCase,
+                             record)
 
 SCALE = 2
 SCREEN = (1440, 900)
@@ -21,10 +22,11 @@ FIELD_EDGE = 0x7A78FF  # of a text field that has it
 REACH = 16 * SCALE  # of a ring or an edge around what has the focus, at the most
 ENOUGH = 150  # px of a colour that make up a ring, even around the knob of a slider
 
+MODES = ("Build", "Design", "Marketing", "Distribution", "Founder Ops", "Connections")
 STRIP = ("Minimise", "Close")
 
 
-class ByKeys(ReaderCase):
+class ByKeysCase(ReaderCase):
 
     def setUp(self):
         super().setUp()
@@ -90,6 +92,9 @@ class ByKeys(ReaderCase):
         while here.name != name:
             here = self.step(title, here)
 
+
+class ByKeys(ByKeysCase):
+
     def test_the_hours(self):
         self.write_records([record(1, ""), record(2, "")])
         self.launch()
@@ -139,6 +144,17 @@ class ByKeys(ReaderCase):
              "Start sessions automatically", "Launch at login", "How time reads",
              "Show the welcome again", "Export my data", "Erase everything", *STRIP])
 
+    def test_the_review(self):
+        self.write_records([record(1, ""), record(2, "")])
+        self.launch()
+        self.open(*WRAPPED)
+        self.assertEqual(self.tour("Wrapped"), ["Week", "Enter Vantle", *STRIP])
+        self.go_to("Wrapped", "Week")
+        for _ in range(2):
+            self.desktop.press("Right")
+        self.await_focus("Wrapped", "All time")
+        self.assertEqual(self.tour("Wrapped"), ["Next page", *STRIP, "All time"])
+
     def test_the_panel(self):
         self.launch()
         activate(self.desktop)
@@ -146,6 +162,21 @@ class ByKeys(ReaderCase):
         self.assertEqual(self.tour(PANEL_TITLE),
                          ["Build", "Dashboard", "Wrapped", "Notes", "Settings", "Quit",
                           "Enter Vantle"])
+
+
+class ByKeysAtFirst(ByKeysCase):
+
+    newcomer = True
+
+    def test_the_welcome(self):
+        self.launch()
+        wait_until("the welcome", lambda: self.desktop.active_window_title() == WELCOME)
+        self.assertEqual(self.tour(WELCOME), ["skip the welcome", "Continue", *STRIP, "Project"])
+        self.go_to(WELCOME, "Continue")
+        self.desktop.press("Return")
+        self.await_told(WELCOME, "heading", "These are your modes")
+        modes = [f"{verb} {name}" for name in MODES for verb in ("Rename", "Remove")]
+        self.assertEqual(self.tour(WELCOME), [*STRIP, *modes, "Add your own", "Continue"])
 
 
 if __name__ == "__main__":

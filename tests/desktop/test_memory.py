@@ -6,7 +6,8 @@ from pathlib import Path
 from harness.bus import activate
 from harness.case import PANEL_TITLE, DesktopTest
 from harness.waiting import wait_until
-from harness.windows import DASHBOARD, NOTES, QUICK_LOG, SETTINGS, WindowCase, record
+from harness.windows import (DASHBOARD, NOTES, QUICK_LOG, SETTINGS, WELCOME, WRAPPED, WindowCase,
+                             record)
 
 ROUNDS = 10
 SESSIONS = 10000  # so many that a window that keeps them is noticed
@@ -42,6 +43,15 @@ class Memory(WindowCase):
         self.open(*window)
         self.close(window[1])
 
+    def play_welcome(self):
+        """It is opened from the settings, five stops back from where the keyboard is at first."""
+        self.open(*SETTINGS)
+        self.desktop.tool("xdotool", "key", "--repeat", "5", "shift+Tab", "key", "Return")
+        wait_until("the welcome", lambda: self.desktop.active_window_title() == WELCOME)
+        self.close(WELCOME)
+        wait_until("the settings", lambda: self.desktop.active_window_title() == SETTINGS[1])
+        self.close(SETTINGS[1])
+
     def play_panel(self):
         activate(self.desktop)
         window, = wait_until("the panel", lambda: self.desktop.windows_named(PANEL_TITLE))
@@ -55,11 +65,12 @@ class Memory(WindowCase):
         self.write_records({**record(1, f"note {number}"), "id": record(number, "")["id"]}
                            for number in range(SESSIONS))
         self.launch()
-        for window in (DASHBOARD, NOTES, QUICK_LOG, SETTINGS):
+        for window in (DASHBOARD, NOTES, QUICK_LOG, SETTINGS, WRAPPED):
             with self.subTest(window=window):
                 self.assert_rounds_keep_little(lambda: self.play_window(window))
-        with self.subTest(window=PANEL_TITLE):
-            self.assert_rounds_keep_little(self.play_panel)
+        for window, play in ((WELCOME, self.play_welcome), (PANEL_TITLE, self.play_panel)):
+            with self.subTest(window=window):
+                self.assert_rounds_keep_little(play)
 
 
 if __name__ == "__main__":
