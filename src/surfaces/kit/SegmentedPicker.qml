@@ -35,6 +35,12 @@ ArrowGroup {
     Accessible.role: Accessible.PageTabList
     Accessible.name: name
 
+    Timer {
+        id: madeAnew
+        interval: 0
+        onTriggered: picker.takeUp()
+    }
+
     Rectangle {
         anchors.fill: parent
         radius: picker.radius
@@ -100,7 +106,7 @@ ArrowGroup {
         }
     }
 
-    onOptionsChanged: Qt.callLater(takeUp)
+    onOptionsChanged: madeAnew.restart()
     onCurrentIndexChanged: {
         current = currentIndex;
         refresh();

@@ -12,6 +12,10 @@ Item {
     readonly property bool pending: animated && !Motion.reduced && !over
     property bool over: false
 
+    function end(): void {
+        over = true;
+    }
+
     implicitWidth: 320
     implicitHeight: 100
 
@@ -35,7 +39,7 @@ Item {
             duration: DarkUI.burstTime + DarkUI.burstHold
         }
         ScriptAction {
-            script: celebration.over = true
+            script: celebration.end()
         }
     }
 }

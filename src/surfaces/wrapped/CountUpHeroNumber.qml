@@ -87,8 +87,9 @@ Item {
         role: unitRole
     }
 
-    NumberAnimation on seconds {
-        id: counting
+    NumberAnimation {
+        target: number
+        property: "seconds"
         running: number.counts && !number.stopped
         from: 0
         to: DarkUI.countUpTime / 1000

@@ -13,7 +13,7 @@ Plate {
     radius: DarkUI.radiusCard
     edge: DarkUI.hairline
     Accessible.role: Accessible.StaticText
-    Accessible.name: [fact.title, fact.detail, fact.value].filter(part => part !== "").join(", ")
+    Accessible.name: fact.title + ", " + (fact.detail === "" ? "" : fact.detail + ", ") + fact.value
 
     DarkKicker {
         x: DarkUI.space16

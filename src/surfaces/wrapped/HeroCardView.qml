@@ -80,7 +80,7 @@ ReviewPage {
 
     PageFoot {
         id: foot
-        lines: page.content.quiet
+        lines: Array.from(page.content.quiet)
         ruled: page.content.quiet.length > 0
         animated: page.animated
         order: 5

@@ -150,19 +150,25 @@ FocusScope {
     }
 
     // The review tells of one step in several parts.
+    Timer {
+        id: settled
+        interval: 0
+        onTriggered: stack.follow()
+    }
+
     Connections {
         target: stack.model
         function onReviewChanged(): void {
-            Qt.callLater(stack.follow);
+            settled.restart();
         }
         function onCardsChanged(): void {
-            Qt.callLater(stack.follow);
+            settled.restart();
         }
         function onPageChanged(): void {
-            Qt.callLater(stack.follow);
+            settled.restart();
         }
         function onRhythmChanged(): void {
-            Qt.callLater(stack.follow);
+            settled.restart();
         }
     }
 }

@@ -57,7 +57,7 @@ FocusScope {
         y: DarkUI.space8
         width: view.width - 2 * x
         name: qsTr("Period")
-        options: view.model.segmentLabels
+        options: Array.from(view.model.segmentLabels)
         currentIndex: view.model.segmentIndex
         onActivated: index => view.model.pickSegment(index)
     }
