@@ -13,7 +13,8 @@ from .reader import Reader
 from .waiting import wait_until
 
 ROOT = Path(__file__).resolve().parents[3]
-EXECUTABLE = Path(os.environ.get("VANTLE_EXECUTABLE", ROOT / "build" / "release" / "vantle"))
+EXECUTABLE = Path(os.environ.get("VANTLE_EXECUTABLE",
+                                 ROOT / "build" / "release" / "vantle")).absolute()
 PICTURES = Path(os.environ.get("VANTLE_DESKTOP_PICTURES", ROOT / "build" / "desktop-pictures"))
 
 SHORTCUT = "alt+super+b"
