@@ -10,7 +10,7 @@
 #include <numbers>
 #include <set>
 
-namespace vantle {
+namespace vantle::personaglyph {
 namespace {
 
 constexpr double kSide = 94;
@@ -41,9 +41,8 @@ PersonaGlyph glyphOf(const QString& name) {
 }
 
 QImage imageOf(const PersonaGlyph& glyph, QSizeF size = {kSide, kSide}) {
-    return drawn::image(size, kScale, [&](QPainter& painter) {
-        personaglyph::draw(painter, QRectF({}, size), glyph);
-    });
+    return drawn::image(size, kScale,
+                        [&](QPainter& painter) { draw(painter, QRectF({}, size), glyph); });
 }
 
 /// The colour at a place given from the middle, on the grid of the drawing.
@@ -141,13 +140,13 @@ TEST(PersonaGlyphPainter, EachFinishedHourIsADotAndTheRingsFillOneAfterTheOther)
     EXPECT_EQ(dots(46), (std::array{46, 0, 0}));
     EXPECT_EQ(dots(47), (std::array{46, 1, 0}));
     EXPECT_EQ(dots(123), (std::array{46, 41, 36}));
-    EXPECT_EQ(dots(5'000'000'000), dots(personaglyph::mostDots));
+    EXPECT_EQ(dots(5'000'000'000), dots(mostDots));
 }
 
 TEST(PersonaGlyphPainter, TheDotsGoClockwiseFromTheTopAndGrowFainterInwards) {
     PersonaGlyph glyph = glyphOf(QStringLiteral("Multi Builder"));
     const QImage plain = imageOf(glyph);
-    glyph.dotCount = personaglyph::mostDots;
+    glyph.dotCount = mostDots;
     const QImage full = imageOf(glyph);
     const auto light = [&](const QImage& image, double radius, double angle) {
         return drawn::distance(atAngle(image, radius, angle), atAngle(plain, radius, angle));
@@ -214,11 +213,11 @@ TEST(PersonaGlyphPainter, LeavesThePainterAsItWas) {
     QPainter painter(&image);
     painter.setPen(Qt::red);
     const auto transform = painter.transform();
-    personaglyph::draw(painter, {0, 0, 10, 10}, glyphOf(QStringLiteral("Early Bird")));
+    draw(painter, {0, 0, 10, 10}, glyphOf(QStringLiteral("Early Bird")));
     EXPECT_EQ(painter.transform(), transform);
     EXPECT_EQ(painter.pen().color(), QColor(Qt::red));
     EXPECT_FALSE(painter.testRenderHint(QPainter::Antialiasing));
 }
 
 } // namespace
-} // namespace vantle
+} // namespace vantle::personaglyph

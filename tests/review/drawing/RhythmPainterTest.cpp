@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantle {
+namespace vantle::rhythmpainter {
 namespace {
 
 constexpr double kColumn = 368;
@@ -24,7 +24,7 @@ RhythmPicture week() {
 QImage imageOf(const RhythmPicture& picture, std::optional<double> growing = std::nullopt) {
     const RhythmLayout layout = RhythmLayout::of(picture, kColumn);
     return drawn::image(layout.size, 1, [&](QPainter& painter) {
-        rhythmpainter::draw(painter, layout, {QFont(), Qt::green, Qt::blue}, growing);
+        draw(painter, layout, {QFont(), Qt::green, Qt::blue}, growing);
     });
 }
 
@@ -68,17 +68,17 @@ TEST(RhythmPainter, TheTilesOfAWeekGrowOneAfterTheOther) {
     EXPECT_GT(middle(early, 2).red(), middle(early, 3).red());
     EXPECT_EQ(middle(early, 3), kGround) << "its turn is next";
     EXPECT_EQ(early.pixelColor(2, 47), kGround) << "small as yet";
-    EXPECT_EQ(imageOf(week(), rhythmpainter::growSeconds()), imageOf(week()));
+    EXPECT_EQ(imageOf(week(), growSeconds()), imageOf(week()));
 }
 
 TEST(RhythmPainter, ATileGrowsInSixTenthsOfASecond) {
-    EXPECT_DOUBLE_EQ(rhythmpainter::growSeconds(), 0.2 + 6 * 0.05 + 0.6);
-    EXPECT_EQ(rhythmpainter::grown(2, 0.3), 0);
-    EXPECT_GT(rhythmpainter::grown(2, 0.31), 0);
-    EXPECT_LT(rhythmpainter::grown(2, 0.89), 1);
-    EXPECT_DOUBLE_EQ(rhythmpainter::grown(2, 0.9), 1);
-    EXPECT_DOUBLE_EQ(rhythmpainter::grown(2, 70), 1);
+    EXPECT_DOUBLE_EQ(growSeconds(), 0.2 + 6 * 0.05 + 0.6);
+    EXPECT_EQ(grown(2, 0.3), 0);
+    EXPECT_GT(grown(2, 0.31), 0);
+    EXPECT_LT(grown(2, 0.89), 1);
+    EXPECT_DOUBLE_EQ(grown(2, 0.9), 1);
+    EXPECT_DOUBLE_EQ(grown(2, 70), 1);
 }
 
 } // namespace
-} // namespace vantle
+} // namespace vantle::rhythmpainter

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace vantle {
+namespace vantle::rhythmtile {
 namespace {
 
 constexpr double kSide = 60;
@@ -39,7 +39,7 @@ DayTile today(DayTile tile) {
 QImage imageOf(const DayTile& tile, const TileShape& shape = kDay, double scale = 2,
                QPointF corner = kCorner) {
     return drawn::image({kSide, kSide}, scale,
-                        [&](QPainter& painter) { rhythmtile::draw(painter, corner, shape, tile); });
+                        [&](QPainter& painter) { draw(painter, corner, shape, tile); });
 }
 
 /// Along the middle of the tile, in px from the left.
@@ -108,7 +108,7 @@ TEST(RhythmTilePainter, OnASmallTileTheRingLiesCloseAndNoEdgeIsDrawn) {
 
 TEST(RhythmTilePainter, NothingReachesBeyondWhatIsSaid) {
     const QImage image = imageOf(today(worked(Qt::red)));
-    constexpr double kFrom = 8 - rhythmtile::reach;
+    constexpr double kFrom = 8 - reach;
     int outside = 0;
     for (double x = 0; x < kSide; x += 0.5)
         for (double y = 0; y < kSide; y += 0.5)
@@ -144,4 +144,4 @@ TEST(RhythmTilePainter, InAPictureThatIsMadeSmallerTilesKeepTheirDistance) {
 }
 
 } // namespace
-} // namespace vantle
+} // namespace vantle::rhythmtile
