@@ -90,6 +90,7 @@ QString elided(const QString& text, const QFont& font, double room) {
 }
 
 QStringList broken(const QString& text, const QFont& font, double room, int most) {
+    if (text.isEmpty()) return {};
     QTextLayout layout(text, font);
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);

@@ -45,12 +45,11 @@ void drawHeader(QPainter& painter, const SharePoster& poster) {
 void drawName(QPainter& painter, const SharePoster& poster, double line) {
     const QFont font =
         postertext::fitted(postertext::font(kName), poster.personaName, Layout::kColumn);
-    const double width = postertext::width(poster.personaName, font);
-    QLinearGradient gradient(0, 0, width, 0); // from where the text stands
+    const QString name = postertext::elided(poster.personaName, font, Layout::kColumn);
+    QLinearGradient gradient(0, 0, postertext::width(name, font), 0); // from where the text stands
     gradient.setColorAt(0, poster.startColor);
     gradient.setColorAt(1, poster.endColor);
-    postertext::draw(painter, {optical(poster.personaName, font), line}, poster.personaName, font,
-                     gradient);
+    postertext::draw(painter, {optical(name, font), line}, name, font, gradient);
 }
 
 void drawHours(QPainter& painter, const ReviewFigure& hours, double line) {
