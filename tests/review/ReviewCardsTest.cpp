@@ -155,6 +155,16 @@ TEST(RhythmCard, YearComesAsOneMapAndMonthByMonth) {
     EXPECT_TRUE(reviewcards::rhythm(week(log), settings(), std::nullopt, 9).years.empty());
 }
 
+TEST(RhythmCard, AYearHasTheNamesOfItsMonths) {
+    const std::vector<Session> log = {worked("2026-03-09T09:00:00Z", 60)};
+    const auto stats = WrappedStats::compute(log, WrappedPeriod::AllTime, settings());
+    const auto picture = reviewcards::rhythmPicture(stats, settings(), 2026);
+    ASSERT_EQ(picture.monthNames.size(), 12);
+    EXPECT_EQ(picture.monthNames.first(), QStringLiteral("Jan"));
+    EXPECT_EQ(picture.monthNames.last(), QStringLiteral("Dec"));
+    EXPECT_TRUE(reviewcards::rhythmPicture(week({}), settings(), 2026).monthNames.isEmpty());
+}
+
 TEST(WhenCard, NeedsThreeStarts) {
     std::vector<Session> log = {worked("2026-03-09T09:00:00Z", 60),
                                 worked("2026-03-10T09:00:00Z", 30)};
@@ -169,6 +179,17 @@ TEST(WhenCard, NeedsThreeStarts) {
     EXPECT_EQ(card.facts[1].value, QStringLiteral("1 h 30 min"));
     EXPECT_EQ(card.facts[2].value, QStringLiteral("2 h"));
     EXPECT_EQ(card.facts[2].detail, QStringLiteral("Tue, Mar 10"));
+}
+
+TEST(WhenCard, MarksADayFromOneMidnightToTheNextAsTheLocaleWritesHours) {
+    WrappedSettings there = settings();
+    there.calendar.locale = QStringLiteral("de_DE");
+    const std::vector<Session> log(3, worked("2026-03-09T09:00:00Z", 60));
+    const auto stats = WrappedStats::compute(log, WrappedPeriod::Week, there);
+    EXPECT_EQ(
+        reviewcards::when(stats, there)->hourMarks,
+        (QStringList{QStringLiteral("00 Uhr"), QStringLiteral("06 Uhr"), QStringLiteral("12 Uhr"),
+                     QStringLiteral("18 Uhr"), QStringLiteral("00 Uhr")}));
 }
 
 TEST(NotesCard, NotesHaveTheirSkillAndTheirDay) {
