@@ -32,7 +32,8 @@ std::string goalText(double limit, Goal::Kind kind) {
     case Goal::Kind::Ratio:
         return formatted("≤ %.2f", limit);
     case Goal::Kind::NanosecondsEach:
-        return formatted("< %.0f ns each", limit);
+        return limit < 1e6 ? formatted("< %.0f ns each", limit)
+                           : formatted("< %.0f ms", limit * 1e-6);
     case Goal::Kind::BytesEach:
         return formatted("≤ %.0f B each", limit);
     }
