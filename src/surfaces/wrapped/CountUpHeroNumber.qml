@@ -79,9 +79,10 @@ Item {
         role: valueRole
     }
 
-    // It stands where it will stand in the end.
+    // It stands where it will stand in the end, but for figures on the way that are wider: "6.8"
+    // before "7".
     Unit {
-        x: value.x + fullValue.implicitWidth * number.fit
+        x: value.x + Math.max(fullValue.implicitWidth * number.fit, value.implicitWidth)
         anchors.baseline: value.baseline
         text: number.shown.unit
         role: unitRole
