@@ -4,6 +4,7 @@ import datetime
 import unittest
 from pathlib import Path
 
+from harness.clipboard_manager import ClipboardManager
 from harness.waiting import wait_until
 from harness.windows import DASHBOARD, ReaderCase
 
@@ -70,6 +71,16 @@ class Share(ReaderCase):
         self.assert_is_poster(self.clipboard("image/png"))
         self.assertTrue(self.clipboard("image/bmp").startswith(b"BM"))
         self.await_told("Wrapped", "push button", "Copy image")
+
+    def test_the_copied_poster_outlives_the_program(self):
+        manager = ClipboardManager(self.desktop.env["DISPLAY"], "image/png")
+        manager.start()
+        self.addCleanup(manager.stop)
+        self.press("Copy image")
+        self.await_told("Wrapped", "push button", "Copied")
+        copied = self.clipboard("image/png")
+        self.assertEqual(self.vantle.stop(), 0)
+        self.assertEqual(manager.taken, copied)
 
     def test_the_poster_is_saved_where_the_person_says_and_the_clock_waits_for_nobody(self):
         self.press("Save image…")
