@@ -6,6 +6,7 @@
 #include "platform/Preferences.h"
 #include "platform/ReducedMotion.h"
 #include "tracking/AppPaths.h"
+#include "tracking/NotificationCenter.h"
 #include "tracking/SkillList.h"
 
 #include <algorithm>
@@ -33,6 +34,8 @@ AppModel::AppModel(const Environment& environment, Collaborators collaborators)
     wireIdle();
     wireTracker();
     wireAutoSkill();
+    connect(&m_env.notifications, &NotificationCenter::HFSessionsChanged, this,
+            [this] { m_reviewOfWeek.reset(); });
     m_collaborators.autoSkill->refreshFromDefaults();
     m_idle.start();
     m_hotKey.onPressed = [this] { onHotKeyPressed(); };
@@ -113,8 +116,11 @@ void AppModel::markWelcomeDone() {
 void AppModel::refreshPanelState() {
     const Date now = m_env.clock.now();
     const auto week = weeklyreview::unseenLastWeek(now, m_env.calendar(), m_env.preferences);
-    // The log is read only where it decides: it may hold years.
-    const bool ready = week && weeklyreview::holdsAReview(m_tracker.allSessions(), *week);
+    // The log is read only where it decides, and once: it may hold years.
+    if (week && (!m_reviewOfWeek || m_reviewOfWeek->first != week->start))
+        m_reviewOfWeek.emplace(week->start,
+                               weeklyreview::holdsAReview(m_tracker.allSessions(), *week));
+    const bool ready = week && m_reviewOfWeek->second;
     if (std::exchange(m_wrappedReady, ready) != ready) Q_EMIT wrappedReadyChanged();
     const int coverage = m_idle.coverageMinutes(now);
     if (std::exchange(m_backfillCoverageMinutes, coverage) != coverage)

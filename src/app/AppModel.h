@@ -196,6 +196,8 @@ private:
     std::vector<Skill> m_skills; ///< mirror of the list, for surfaces
     std::optional<QString> m_lastActionNote;
     bool m_wrappedReady = false;
+    /// Whether the week that starts then holds a review; forgotten when the log changes.
+    std::optional<std::pair<Date, bool>> m_reviewOfWeek;
     int m_backfillCoverageMinutes = 0;
     bool m_pulsePrimaryOnce = false;
 
@@ -205,9 +207,9 @@ private:
     bool m_isAutoStarting = false;
     bool m_isRetagging = false;
     bool m_isDiscardingPractice = false;
+    bool m_isPracticeMarked = false; ///< of the open session
 
     std::list<TimerHandle> m_delayedWork;
 };
-    bool m_isPracticeMarked = false; ///< of the open session
 
 } // namespace vantle

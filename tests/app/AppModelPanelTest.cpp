@@ -38,5 +38,33 @@ TEST_F(AppModelPanelTest, PanelOfAWeekThatWasSeenReadsNoLog) {
     EXPECT_TRUE(world.files.calls().empty());
 }
 
+TEST_F(AppModelPanelTest, PanelReadsTheLogOnceUntilItChanges) {
+    AppModel& model = launched();
+    model.quickLog(text("building"), 5, QString());
+    world.time.advance(Seconds(7 * 86400.0));
+    world.files.forgetCalls();
+    model.refreshPanelState();
+    EXPECT_FALSE(world.files.calls().empty());
+    world.files.forgetCalls();
+    model.refreshPanelState();
+    EXPECT_TRUE(world.files.calls().empty());
+    EXPECT_FALSE(model.wrappedReady());
+
+    world.time.advance(Seconds(-7 * 86400.0));
+    model.quickLog(text("building"), 5, QString());
+    world.time.advance(Seconds(7 * 86400.0));
+    model.refreshPanelState();
+    EXPECT_TRUE(model.wrappedReady());
+}
+
+TEST_F(AppModelPanelTest, PanelOfTheNextWeekLooksAgain) {
+    AppModel& model = launched();
+    model.refreshPanelState();
+    world.time.advance(Seconds(7 * 86400.0));
+    world.files.forgetCalls();
+    model.refreshPanelState();
+    EXPECT_FALSE(world.files.calls().empty());
+}
+
 } // namespace
 } // namespace vantle::tests
