@@ -146,6 +146,13 @@ QList<Scene> settingsScenes() {
                 "settings-no-shortcuts", [](DemoSettings& world) { world.shortcuts.clear(); },
                 section(0)),
             settings(
+                "settings-plain-desktop",
+                [](DemoSettings& world) {
+                    world.hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};
+                    world.tray.setShown(false);
+                },
+                section(3)),
+            settings(
                 "settings-failures",
                 [](DemoSettings& world) {
                     world.hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};

@@ -31,7 +31,7 @@ QString DesktopGaps::hotKeyAdvice() const {
 QString DesktopGaps::command() {
     return QStringLiteral("gdbus call --session --dest local.vantle.Vantle "
                           "--object-path /local/vantle/Vantle "
-                          "--method org.freedesktop.Application.ActivateAction toggle [] {}");
+                          "--method org.freedesktop.Application.ActivateAction toggle '[]' '{}'");
 }
 
 void DesktopGaps::copyCommand() {

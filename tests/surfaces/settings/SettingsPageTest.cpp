@@ -63,6 +63,23 @@ protected:
     QQuickView m_window;
 };
 
+TEST_F(SettingsPageTest, WhatTheDesktopLacksStandsInItsRowAndNowhereWhereNothingDoes) {
+    show();
+    EXPECT_FALSE(shows("Tray"));
+    EXPECT_EQ(control("Copy the command"), nullptr);
+}
+
+TEST_F(SettingsPageTest, ACommandStandsInForAShortcutThatCantBeHad) {
+    hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};
+    tray.setShown(false);
+    show();
+    EXPECT_TRUE(shows("Tray"));
+    EXPECT_FALSE(shows("Copied"));
+    press("Copy the command");
+    EXPECT_EQ(copied, QStringList{DesktopGaps::command()});
+    EXPECT_TRUE(shows("Copied"));
+}
+
 TEST_F(SettingsPageTest, IsAsWideAndHighAsItsWindow) {
     const QQuickItem& page = show();
     EXPECT_EQ(page.implicitWidth(), 480);
