@@ -48,8 +48,9 @@ void drawYear(QPainter& painter, QPointF topLeft, const RhythmPicture& picture) 
     const double pitch = PosterLayout::kYearPitch;
     const double half = 7 * pitch + PosterLayout::kYearHalfGap;
     for (std::size_t week = 0; week < picture.weeks.size(); ++week) {
-        const QPointF column = topLeft + QPointF(pitch * double(week % kWeeksInHalf),
-                                                 half * double(week / kWeeksInHalf));
+        const std::size_t row = week / kWeeksInHalf;
+        const QPointF column =
+            topLeft + QPointF(pitch * double(week % kWeeksInHalf), half * double(row));
         for (std::size_t day = 0; day < 7; ++day)
             rhythmtile::draw(painter, column + QPointF(0, pitch * double(day)), kYearTile,
                              picture.weeks[week][day]);
