@@ -22,8 +22,8 @@ KitControl {
     readonly property bool editing: log.editingId === sessionId
     readonly property bool copied: log.copiedId === sessionId
     readonly property bool ringed: keyboardFocus && !editing
-    readonly property bool active: (hover.hovered || keyboardFocus || copy.keyboardFocus
-                                    || edit.keyboardFocus) && !editing
+    readonly property bool active: (hover.hovered || keyboardFocus || buttons.activeFocus)
+                                   && !editing
     readonly property real textX: DarkUI.space28 + timeWidth
 
     function showEditor(): void {
@@ -44,6 +44,10 @@ KitControl {
     Accessible.focusable: true
 
     onEditingChanged: showEditor()
+    onActiveChanged: {
+        if (active && !buttons.item)
+            buttons.setSource("NoteButtons.qml", { "row": row });
+    }
     Component.onCompleted: showEditor()
 
     Keys.onReturnPressed: log.beginEdit(sessionId)
@@ -113,37 +117,19 @@ KitControl {
         }
     }
 
-    // Transparent while nobody is at the row: hidden, they would lose the focus on its way to them.
-    Row {
+    // Made for who comes to the row first. From then on transparent while nobody is at it: hidden,
+    // they would lose the focus on its way to them.
+    Loader {
+        id: buttons
         anchors.right: parent.right
         anchors.rightMargin: DarkUI.space28
         y: DarkUI.space8
         visible: !row.editing && !row.copied
         opacity: row.active ? 1 : 0
-        spacing: DarkUI.space4
-
-        DarkIconButton {
-            id: copy
-            name: qsTr("Copy this note")
-            help: name
-            icon: "copy"
-            iconSize: DarkUI.space14
-            activeFocusOnTab: row.activeFocusOnTab || activeFocus
-            onClicked: {
-                if (keyboardFocus)
-                    row.focusByKeyboard(); // the word in its place takes none
-                row.log.copyNote(row.sessionId);
-            }
-        }
-
-        DarkIconButton {
-            id: edit
-            name: qsTr("Edit this note")
-            help: name
-            icon: "pencil"
-            iconSize: DarkUI.space14
-            activeFocusOnTab: row.activeFocusOnTab || activeFocus
-            onClicked: row.log.beginEdit(row.sessionId)
+        onLoaded: {
+            const made = item as NoteButtons;
+            made.copyWanted.connect(() => row.log.copyNote(row.sessionId));
+            made.editWanted.connect(() => row.log.beginEdit(row.sessionId));
         }
     }
 

@@ -38,10 +38,18 @@ void NoteRows::adopt(Content content, Lines lines) {
 }
 
 void NoteRows::narrow(const LogFilter& filter) {
-    beginResetModel();
+    // No reset: of rows that go and come a view uses its items again, which is much less work.
+    if (!m_lines.rows.empty()) {
+        beginRemoveRows({}, 0, rowCount() - 1);
+        m_lines = {};
+        endRemoveRows();
+    }
     m_content.visible = noteslog::visible(m_content.log, filter);
-    m_lines = linesOf(m_content);
-    endResetModel();
+    Lines lines = linesOf(m_content);
+    if (lines.rows.empty()) return;
+    beginInsertRows({}, 0, static_cast<int>(lines.rows.size()) - 1);
+    m_lines = std::move(lines);
+    endInsertRows();
 }
 
 void NoteRows::update(Content content) {

@@ -16,6 +16,15 @@ FocusScope {
             row.focusByKeyboard();
     }
 
+    // Another search starts at the top.
+    Connections {
+        target: area.model
+        function onFilterChanged(): void {
+            list.positionViewAtBeginning();
+            list.currentIndex = Math.min(0, list.count - 1);
+        }
+    }
+
     TextMetrics {
         id: widestTime
         font: DarkUI.body.font
@@ -31,6 +40,7 @@ FocusScope {
         keyNavigationEnabled: false // the rows pass the focus on, as the keyboard does
         highlightMoveDuration: 0
         model: area.model.rows
+        reuseItems: true
         bottomMargin: DarkUI.space14
         // Notes are of many heights; some more of them keep the scroll bar steady.
         cacheBuffer: Math.max(0, height)
