@@ -124,6 +124,7 @@ void PortalSaveRequest::askOtherwise() {
 void PortalSaveRequest::finish(const std::optional<QString>& path) {
     if (!m_answer) return;
     deleteLater();
+    m_other.reset(); // which may be what is answering
     std::exchange(m_answer, nullptr)(path);
 }
 

@@ -14,8 +14,8 @@ using samples::sharePoster;
 using tests::PosterPixels;
 
 // Where things stand, px of the poster.
-const QRect kName(36, 140, 350, 46);
-const QRect kHours(36, 146, 350, 66);
+const QRect kNamePlace(36, 140, 350, 46);
+const QRect kHoursPlace(36, 146, 350, 66);
 
 TEST(SharePng, IsAPictureInSRgbTwiceAsLargeAsThePoster) {
     const PosterPixels pixels(sharePoster(WrappedPeriod::Week, QStringLiteral("Night Owl")));
@@ -46,7 +46,7 @@ TEST(SharePng, TheNameGoesFromTheOneColourOfItsTypeToTheOther) {
     poster.startColor = Qt::red;
     poster.endColor = Qt::blue;
     const PosterPixels pixels(poster);
-    const QRect drawn = pixels.drawnIn(kName);
+    const QRect drawn = pixels.drawnIn(kNamePlace);
     ASSERT_FALSE(drawn.isEmpty());
     const int third = drawn.width() / 3;
     const auto first = pixels.meanOfLit(QRect(drawn.topLeft(), QSize(third, drawn.height())));
@@ -57,7 +57,7 @@ TEST(SharePng, TheNameGoesFromTheOneColourOfItsTypeToTheOther) {
 
 TEST(SharePng, TheHoursStandInTheirPlaceWithoutAType) {
     const PosterPixels pixels(sharePoster(WrappedPeriod::Week));
-    const QColor mean = pixels.meanOfLit(pixels.drawnIn(kHours));
+    const QColor mean = pixels.meanOfLit(pixels.drawnIn(kHoursPlace));
     EXPECT_NEAR(mean.red(), mean.blue(), 8) << "no colour but white";
     EXPECT_GT(mean.red(), 150);
 }
