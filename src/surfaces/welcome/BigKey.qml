@@ -17,14 +17,14 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: DarkUI.radiusFloating
-        color: key.lit ? Tint.alpha(DarkUI.accent, DarkUI.tintFill / 2) : DarkUI.rowHover
+        color: key.lit ? Tint.alpha(DarkUI.accent, WelcomeTokens.litSide) : WelcomeTokens.keySide
     }
 
     Rectangle {
         width: parent.width
         height: parent.height - WelcomeTokens.keyFront
         radius: DarkUI.radiusFloating
-        color: key.lit ? Tint.alpha(DarkUI.accent, DarkUI.tintFill) : DarkUI.rowHover
+        color: key.lit ? Tint.alpha(DarkUI.accent, WelcomeTokens.litTop) : WelcomeTokens.keyTop
     }
 
     Plate {

@@ -44,6 +44,7 @@ FocusScope {
                 minHeight: DarkUI.editorFieldHeight
                 name: label.text
                 placeholder: qsTr("e.g. Investors, Support")
+                text: row.editor.name
                 onEdited: {
                     row.editor.name = field.text;
                     if (field.text !== row.editor.name)

@@ -59,13 +59,15 @@ SampleFrame {
             role: DarkUI.bodyMedium
         }
 
-        SampleDashboard {
-            x: (parent.width - width * scale) / 2 + DarkUI.space2
-            y: 62
-            width: WelcomeTokens.windowWidth
-            scale: WelcomeTokens.windowScale
-            transformOrigin: Item.TopLeft
+        Miniature {
+            x: Math.round((parent.width - width) / 2)
+            y: WelcomeTokens.windowTop
+            width: implicitWidth
+            height: implicitHeight
+            source: "qrc:/qt/qml/Vantle/Welcome/SampleDashboard.qml"
             samples: picture.model.samples
+            zoom: WelcomeTokens.windowZoom
+            margin: DarkUI.shadowWindow.blur + DarkUI.shadowWindow.offset
         }
     }
 }

@@ -1,7 +1,6 @@
 // The program's own sign.
 pragma ComponentBehavior: Bound
 import QtQuick
-import Vantle.Kit
 import Vantle.Welcome
 
 Item {

@@ -2,7 +2,6 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
-import Vantle.Welcome
 
 Plate {
     id: tag
@@ -47,7 +46,7 @@ Plate {
         anchors.verticalCenter: parent.verticalCenter
         name: qsTr("Rename %1").arg(tag.name)
         icon: "pencil"
-        iconSize: DarkUI.space12
+        iconSize: DarkUI.space14
         iconColor: DarkUI.iconStrip
         onClicked: tag.renameWanted()
     }
@@ -60,7 +59,7 @@ Plate {
         visible: tag.deletable
         name: qsTr("Remove %1").arg(tag.name)
         icon: "close"
-        iconSize: DarkUI.space10
+        iconSize: DarkUI.space12
         iconColor: DarkUI.iconStrip
         onClicked: tag.removeWanted()
         Keys.onMenuPressed: menu.openAt(remove, 0)

@@ -16,9 +16,8 @@ FocusScope {
 
     Column {
         anchors.centerIn: parent
-        anchors.verticalCenterOffset: picture.editing ? 0 : -DarkUI.space2
         width: WelcomeTokens.tagsWidth
-        spacing: picture.low ? DarkUI.space8 : DarkUI.space10
+        spacing: picture.low ? DarkUI.space6 : 0
 
         Item {
             width: parent.width

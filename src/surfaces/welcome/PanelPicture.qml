@@ -21,12 +21,15 @@ SampleFrame {
             y: (WelcomeTokens.panelBar - height) / 2
         }
 
-        SamplePanel {
-            x: (parent.width - width * scale) / 2
+        Miniature {
+            x: Math.round((parent.width - width) / 2)
             y: WelcomeTokens.panelBar + DarkUI.space6
-            scale: WelcomeTokens.panelScale
-            transformOrigin: Item.TopLeft
+            width: implicitWidth
+            height: implicitHeight
+            source: "qrc:/qt/qml/Vantle/Welcome/SamplePanel.qml"
             samples: picture.model.samples
+            zoom: WelcomeTokens.panelZoom
+            margin: DarkUI.shadowFloating.blur + DarkUI.shadowFloating.offset
         }
     }
 }

@@ -1,7 +1,6 @@
 // The three keys of the shortcut.
 pragma ComponentBehavior: Bound
 import QtQuick
-import Vantle.Kit
 import Vantle.Welcome
 
 Item {

@@ -14,6 +14,7 @@ DarkWindowGlass {
     readonly property real skillsWidth: 246
 
     shadowed: true
+    width: WelcomeTokens.windowWidth
     height: column.height + 2 * margin
 
     Column {

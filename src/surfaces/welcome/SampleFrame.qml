@@ -2,7 +2,6 @@
 // one picture.
 pragma ComponentBehavior: Bound
 import QtQuick
-import Vantle.Kit
 
 Item {
     id: sample

@@ -37,7 +37,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: WelcomeTokens.clock.size * WelcomeTokens.wordSpace
             Accessible.role: Accessible.StaticText
-            Accessible.name: picture.model.practiceWords.join(" ")
+            Accessible.name: picture.model.practiceTime
 
             Repeater {
                 model: picture.model.practiceWords

@@ -46,6 +46,10 @@ QtObject {
     readonly property real key: 92
     readonly property real keyGap: 16
     readonly property real keyFront: 4 // the side of the key that one sees
+    readonly property color keySide: Qt.rgba(1, 1, 1, 0.03)
+    readonly property color keyTop: Qt.rgba(1, 1, 1, 0.04)
+    readonly property real litSide: 0.08 // opacities of the accent
+    readonly property real litTop: 0.12
     readonly property TypeRole keySign: DisplayRole { size: 32; line: 36; weight: Font.Medium }
 
     readonly property TypeRole clock: DisplayRole { size: 70; line: 78; tracking: -0.018 }
@@ -67,9 +71,12 @@ QtObject {
     readonly property real appRow: 41
     readonly property real appTile: 26
 
-    readonly property real notchScale: 1.28 // of the pictures, against the real thing
-    readonly property real windowScale: 0.66
-    readonly property real panelScale: 0.6
+    readonly property real notchZoom: 1.28 // of the pictures, against the real thing
+    readonly property real windowZoom: 0.66
+    readonly property real panelZoom: 0.6
+    readonly property real windowTop: 62
+    readonly property real pointerWidth: 13
+    readonly property real pointerHeight: 18
     readonly property real windowWidth: 612
     readonly property real posterWidth: 212
     readonly property real appIcon: 168

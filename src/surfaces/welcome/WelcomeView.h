@@ -56,6 +56,7 @@ class WelcomeView final : public QObject {
     Q_PROPERTY(QString practiceSkill READ practiceSkill NOTIFY practiceChanged FINAL)
     Q_PROPERTY(QColor practiceColor READ practiceColor NOTIFY practiceChanged FINAL)
     Q_PROPERTY(QStringList practiceWords READ practiceWords NOTIFY practiceTicked FINAL)
+    Q_PROPERTY(QString practiceTime READ practiceTime NOTIFY practiceTicked FINAL) ///< as one text
     Q_PROPERTY(bool practiceRunning READ isPracticeRunning NOTIFY practiceChanged FINAL)
 
     /// The pictures of the steps.
@@ -112,6 +113,7 @@ public:
     [[nodiscard]] QString practiceSkill() const;
     [[nodiscard]] QColor practiceColor() const;
     [[nodiscard]] const QStringList& practiceWords() const { return m_practiceWords; }
+    [[nodiscard]] QString practiceTime() const { return m_practiceWords.join(QLatin1Char(' ')); }
     [[nodiscard]] bool isPracticeRunning() const { return m_practiceRunning; }
     [[nodiscard]] bool isWaitingForStopCard() const { return m_waitingForStopCard; }
 

@@ -9,6 +9,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
+#include <QSet>
 
 #include <gtest/gtest.h>
 
@@ -93,6 +94,18 @@ protected:
         return readAs(QAccessible::Graphic);
     }
 
+    /// How many colours there are where an item stands.
+    [[nodiscard]] qsizetype colorsIn(const QQuickItem& item) {
+        const QImage shown =
+            m_window.grabWindow().copy(item.mapRectToScene(item.boundingRect()).toRect() &
+                                       m_window.contentItem()->boundingRect().toRect());
+        QSet<QRgb> colors;
+        for (int y = 0; y < shown.height(); ++y)
+            for (int x = 0; x < shown.width(); ++x)
+                colors << shown.pixel(x, y);
+        return colors.size();
+    }
+
     QStringList m_warnings;
     QQuickView m_window;
 };
@@ -109,6 +122,24 @@ TEST_F(WelcomePageTest, IsAsLargeAsItsWindowAndDrawsEveryStepWithoutAWarning) {
         EXPECT_TRUE(shows(view->body().toUtf8().constData())) << step;
     }
     EXPECT_EQ(m_warnings, QStringList());
+}
+
+TEST_F(WelcomePageTest, PicturesOfTheSurfacesAreAsLargeAsTheirStageHasRoomFor) {
+    show();
+    for (const char* name : {"Investors", "Many more words here"})
+        model->addSkill(text(name), 0xACF35C);
+    for (const int step : {int(Notch), int(Dashboard), int(Brick)}) {
+        walkTo(step);
+        (void)pictures();
+        (void)m_window.grabWindow(); // what is drawn has been laid out
+        const QQuickItem* const picture = search(m_window.contentItem(), [](const auto& item) {
+            return QByteArray(item.metaObject()->className()) == "vantle::Miniature";
+        });
+        ASSERT_NE(picture, nullptr) << step;
+        EXPECT_GT(picture->width(), 200) << step;
+        EXPECT_LE(picture->width(), 520 - 2 * 16 + 1) << step;
+        EXPECT_GT(colorsIn(*picture), 100) << step << ": not an empty plate";
+    }
 }
 
 TEST_F(WelcomePageTest, GoesByTheKeyboardAloneFromTheFirstWordToTheLastButton) {

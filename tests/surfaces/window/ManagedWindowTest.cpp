@@ -217,5 +217,21 @@ TEST(ForegroundActivation, OneMoreDisappearanceLeavesTheCountAtZero) {
     EXPECT_EQ(activation.openWindows(), 1);
 }
 
+TEST_F(ManagedWindowTest, WhoCaresIsToldOfTheCloseWithTheModelAndNotOfTheEndOfTheProgram) {
+    WindowContent told = content("Fixed.qml");
+    std::vector<QObject*> closing;
+    told.willClose = [&](QObject& viewModel) { closing.push_back(&viewModel); };
+    {
+        ManagedWindow window({engine, activation, preferences, screens, host}, fixed, told);
+        ASSERT_TRUE(window.show());
+        window.close();
+        window.close();
+        EXPECT_EQ(closing, std::vector<QObject*>{model.data()});
+        deleteWhatIsClosed();
+        ASSERT_TRUE(window.show());
+    }
+    EXPECT_EQ(closing.size(), 1U);
+}
+
 } // namespace
 } // namespace vantle::tests

@@ -83,6 +83,20 @@ TEST_F(WindowRouterTest, TheReviewKnowsThePeriodThatItWasAskedToOpenOn) {
     EXPECT_EQ(router.wrappedInitialPeriod(), std::nullopt);
 }
 
+TEST_F(WindowRouterTest, AWindowOutOfSightIsOpenStillAndComesBackAsItWas) {
+    registerAll();
+    router.showWelcome();
+    QWindow* const window = router.window(WindowId::Welcome);
+    router.orderOut(WindowId::Welcome);
+    router.orderOut(WindowId::Log); // which is closed
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_TRUE(router.isOpen(WindowId::Welcome));
+    EXPECT_EQ(activation.openWindows(), 1);
+    router.showWelcome();
+    EXPECT_EQ(router.window(WindowId::Welcome), window);
+    EXPECT_TRUE(window->isVisible());
+}
+
 TEST_F(WindowRouterTest, TheWelcomeOpensWhenItIsAskedForAgain) {
     registerAll();
     Q_EMIT notifications.HFShowWelcome();
