@@ -24,7 +24,7 @@ public:
     [[nodiscard]] TrackerCore& tracker() { return m_tracker; }
     [[nodiscard]] SkillList& skills() { return m_skills; }
     [[nodiscard]] NotificationCenter& notifications() { return m_notifications; }
-    [[nodiscard]] const Preferences& preferences() const { return m_preferences; }
+    [[nodiscard]] Preferences& preferences() { return m_preferences; }
     [[nodiscard]] const Clock& clock() const { return m_clock; }
     [[nodiscard]] Scheduler& scheduler() { return m_scheduler; }
     [[nodiscard]] QString log() const { return m_paths.sessionsFile(); }
