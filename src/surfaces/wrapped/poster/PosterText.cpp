@@ -6,6 +6,7 @@
 #include <QGlyphRun>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPen>
 #include <QRawFont>
 #include <QTextLayout>
 
@@ -13,11 +14,12 @@ namespace vantle::postertext {
 
 namespace {
 
-/// Whether the typeface has pictures in place of outlines, as those of emoji do.
-bool hasPictures(const QRawFont& face) {
-    for (const char* const table : {"CBDT", "sbix", "COLR"})
-        if (!face.fontTable(table).isEmpty()) return true;
-    return false;
+/// Whether the letters of the typeface are outlines. Those of emoji are pictures, and there are old
+/// typefaces of single pixels.
+bool hasOutlines(const QRawFont& face) {
+    const auto hasTable = [&face](const char* table) { return !face.fontTable(table).isEmpty(); };
+    const bool hasPictures = hasTable("CBDT") || hasTable("sbix") || hasTable("COLR");
+    return !hasPictures && (hasTable("glyf") || hasTable("CFF ") || hasTable("CFF2"));
 }
 
 /// The letters of a line about its baseline. Outlines are filled as they are: a desktop's taste in
@@ -47,7 +49,7 @@ struct Shaped {
 private:
     void add(const QGlyphRun& run) {
         const QRawFont face = run.rawFont();
-        if (hasPictures(face)) {
+        if (!hasOutlines(face)) {
             pictures << run;
             return;
         }
@@ -115,7 +117,7 @@ void draw(QPainter& painter, QPointF baseline, const QString& text, const QFont&
     painter.setPen(Qt::NoPen);
     painter.translate(baseline);
     painter.fillPath(shaped.outlines, brush);
-    painter.setPen(Qt::white); // of which pictures take the opacity alone
+    painter.setPen(QPen(brush, 0)); // of which coloured pictures take the opacity alone
     for (const QGlyphRun& picture : shaped.pictures)
         painter.drawGlyphRun({}, picture);
     painter.translate(-baseline);
