@@ -142,6 +142,8 @@ class Settings(DesktopTest):
         self.assertEqual(self.vantle.sessions(), [])
         self.assertIsNone(self.stored("login.autoRegistered"))
         self.assertTrue(self.vantle.is_running())
+        # All that comes until it is done is practice: so it can't be missed.
+        wait_until("the welcome", lambda: self.desktop.windows_named("Welcome"))
 
 
 if __name__ == "__main__":
