@@ -1,12 +1,14 @@
-// What stands on a rendered poster, in px of the poster.
+// What stands on a poster as it is given away, in px of the poster.
 #pragma once
 
-#include "surfaces/wrapped/poster/SharePng.h"
+#include "surfaces/wrapped/poster/SharePosterPainter.h"
 
 #include <QColor>
 #include <QImage>
+#include <QPainter>
 #include <QRect>
 
+#include <algorithm>
 #include <array>
 
 namespace vantle::tests {
@@ -14,7 +16,11 @@ namespace vantle::tests {
 class PosterPixels {
 public:
     explicit PosterPixels(const SharePoster& poster)
-        : m_image(QImage::fromData(renderSharePNG(poster).value_or(QByteArray()), "PNG")) {}
+        : m_image((kScale * shareposter::size(poster)).toSize(), QImage::Format_RGB32) {
+        QPainter painter(&m_image);
+        painter.scale(kScale, kScale);
+        shareposter::draw(painter, poster, kScale);
+    }
 
     [[nodiscard]] const QImage& image() const { return m_image; }
     [[nodiscard]] int height() const { return m_image.height() / kScale; }

@@ -4,6 +4,7 @@
 #include "surfaces/wrapped/poster/PosterSamples.h"
 
 #include <QColorSpace>
+#include <QImage>
 
 #include <gtest/gtest.h>
 
@@ -17,11 +18,19 @@ using tests::PosterPixels;
 const QRect kNamePlace(36, 140, 350, 46);
 const QRect kHoursPlace(36, 146, 350, 66);
 
+QImage decoded(const SharePoster& poster) {
+    return QImage::fromData(renderSharePNG(poster).value_or(QByteArray()), "PNG");
+}
+
 TEST(SharePng, IsAPictureInSRgbTwiceAsLargeAsThePoster) {
-    const PosterPixels pixels(sharePoster(WrappedPeriod::Week, QStringLiteral("Night Owl")));
-    EXPECT_EQ(pixels.image().size(), QSize(844, 1240));
-    EXPECT_EQ(pixels.image().colorSpace(), QColorSpace(QColorSpace::SRgb));
-    EXPECT_FALSE(pixels.image().hasAlphaChannel());
+    const auto poster = sharePoster(WrappedPeriod::Week, QStringLiteral("Night Owl"));
+    const QImage image = decoded(poster);
+    EXPECT_EQ(image.size(), QSize(844, 1240));
+    EXPECT_EQ(image.colorSpace(), QColorSpace(QColorSpace::SRgb));
+    EXPECT_FALSE(image.hasAlphaChannel());
+    QImage pixels = image.convertToFormat(QImage::Format_RGB32);
+    pixels.setColorSpace({});
+    EXPECT_TRUE(pixels == PosterPixels(poster).image());
 }
 
 TEST(SharePng, IsAsHighAsWhatStandsOnIt) {
