@@ -13,7 +13,8 @@ from harness.program import Program
 from harness.waiting import wait_until
 
 PAGE = Path(__file__).resolve().parent / "pages" / "ceremony.html"
-PARTS = ("vantle", "vantle-shortcuts", "vantle-webceremony.so")
+# What is installed, and where.
+PARTS = {"vantle": "bin", "vantle-shortcuts": "bin", "vantle-webceremony.so": "lib/vantle/plugins"}
 
 ACCENT = rgb_of(FIRST_SKILL_COLOUR)
 
@@ -23,10 +24,10 @@ class Page(CeremonyCase):
     def new_program(self):
         """A copy of the program that is installed with a page of its own."""
         prefix = self.desktop.directory / "installed"
-        (prefix / "bin").mkdir(parents=True)
         (prefix / "share" / "vantle").mkdir(parents=True)
-        for part in PARTS:
-            os.link(EXECUTABLE.parent / part, prefix / "bin" / part)
+        for part, folder in PARTS.items():
+            (prefix / folder).mkdir(parents=True, exist_ok=True)
+            os.link(EXECUTABLE.parent / part, prefix / folder / part)
         self.page = prefix / "share" / "vantle" / "ceremony.html"
         if os.getuid() == 0:
             # The engine refuses to run its sandbox as root.
@@ -132,7 +133,8 @@ class Page(CeremonyCase):
                 server.accept()
 
     def test_without_the_module_the_native_show_plays(self):
-        (self.page.parents[2] / "bin" / "vantle-webceremony.so").unlink()
+        module = "vantle-webceremony.so"
+        (self.page.parents[2] / PARTS[module] / module).unlink()
         self.launch_with("done")
         pressed = self.press_and_play()
         self.wait_for_moment(pressed, 2.3)

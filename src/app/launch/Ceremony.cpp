@@ -21,7 +21,8 @@ QString webModulePath() {
     const QString name = QStringLiteral("/vantle-webceremony.so");
     const QString built = resourcefolders::ofProgram() + name;
     if (QFileInfo::exists(built)) return built;
-    return QDir::cleanPath(resourcefolders::ofProgram() + QStringLiteral("/../lib/vantle") + name);
+    return QDir::cleanPath(resourcefolders::ofProgram() + QStringLiteral("/../lib/vantle/plugins") +
+                           name);
 }
 
 QString findPage() { return resourcefolders::find(QStringLiteral("ceremony.html")); }
