@@ -13,6 +13,10 @@ Plate {
     signal renameWanted
     signal removeWanted
 
+    function takeKeyboard(): void {
+        (remove.visible ? remove : rename).forceActiveFocus(Qt.OtherFocusReason);
+    }
+
     radius: DarkUI.radiusTile
     color: DarkUI.card
     edge: DarkUI.hairline

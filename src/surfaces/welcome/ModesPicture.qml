@@ -12,7 +12,26 @@ FocusScope {
     readonly property bool low: editing || tags.count > 6
     readonly property real pitch: low ? WelcomeTokens.tagLowPitch : WelcomeTokens.tagPitch
 
+    // What had the keyboard has gone: the nearest to it takes it.
+    function takeKeyboard(index: int): void {
+        const tag = tags.itemAt(Math.min(index, tags.count - 1)) as ModeTag;
+        if (tag)
+            tag.takeKeyboard();
+    }
+
     implicitHeight: WelcomeTokens.stageHeight
+
+    Connections {
+        target: picture.model.category
+        function onShownChanged(): void {
+            if (picture.editing)
+                return;
+            if (add.visible)
+                add.forceActiveFocus(Qt.OtherFocusReason);
+            else
+                picture.takeKeyboard(0);
+        }
+    }
 
     Column {
         anchors.centerIn: parent
@@ -36,12 +55,17 @@ FocusScope {
                     width: WelcomeTokens.tagWidth
                     height: picture.low ? WelcomeTokens.tagLowHeight : WelcomeTokens.tagHeight
                     onRenameWanted: picture.model.beginRename(skillId)
-                    onRemoveWanted: picture.model.removeCategory(skillId)
+                    onRemoveWanted: {
+                        const place = index; // it goes with the tag
+                        picture.model.removeCategory(skillId);
+                        picture.takeKeyboard(place);
+                    }
                 }
             }
         }
 
         AddCategoryButton {
+            id: add
             visible: picture.model.canAddCategory && !picture.editing
             onClicked: picture.model.addCategory()
         }

@@ -120,6 +120,7 @@ void WelcomeView::commitPick() {
 
 void WelcomeView::finish() {
     if (std::exchange(m_finished, true)) return;
+    m_return.reset(); // a window that is closed stays closed
     m_env.model.markWelcomeDone();
     if (m_practiceRunning) m_env.model.discardPracticeSession();
     m_env.model.ensureIdleNotch();
@@ -155,7 +156,7 @@ void WelcomeView::beginPractice() {
 }
 
 void WelcomeView::stopCardClosed() {
-    if (!std::exchange(m_waitingForStopCard, false)) return;
+    if (m_finished || !std::exchange(m_waitingForStopCard, false)) return;
     goTo(Success);
     Q_EMIT practiceChanged();
     bringForward();

@@ -196,6 +196,19 @@ TEST_F(WelcomePageTest, ModesAreChangedByTheKeyboard) {
     EXPECT_EQ(view->step(), Modes);
 }
 
+TEST_F(WelcomePageTest, KeyboardStaysNearWhatHasGone) {
+    show();
+    walkTo(Modes);
+    QCoreApplication::processEvents();
+    click("Add your own");
+    key(Qt::Key_Escape);
+    EXPECT_EQ(m_window.activeFocusItem(), control("Add your own"));
+    control("Remove Design")->forceActiveFocus(Qt::TabFocusReason);
+    key(Qt::Key_Space);
+    EXPECT_FALSE(shows("Design"));
+    EXPECT_EQ(m_window.activeFocusItem(), control("Remove Marketing"));
+}
+
 TEST_F(WelcomePageTest, PicturesAreOnePictureForAssistiveToolsAndNoStopForTheKeyboard) {
     show();
     for (const int step : {int(Success), int(Notch), int(Dashboard), int(Brick), int(Wrapped)}) {

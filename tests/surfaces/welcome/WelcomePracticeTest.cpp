@@ -128,6 +128,18 @@ TEST_F(WelcomePracticeTest, ClosingTheWindowInThePracticeDiscardsItAndMarksTheFl
     EXPECT_EQ(broughtForward, 0) << "a window that is closed stays closed";
 }
 
+TEST_F(WelcomePracticeTest, ClosedWhileTheCardIsUpItStaysClosedWhenTheCardGoes) {
+    open();
+    beginPractice();
+    time.advance(1);
+    press();
+    view->finish();
+    closeCard();
+    time.advance(10);
+    EXPECT_EQ(broughtForward, 0);
+    EXPECT_TRUE(log().empty());
+}
+
 TEST_F(WelcomePracticeTest, QuittingInThePracticeLogsNothingAndTheWelcomeComesAgain) {
     open();
     beginPractice();
