@@ -26,6 +26,7 @@ Plate {
         height: width
         dotRadius: card.small ? 3 : 3.75
         colors: card.colors
+        count: card.colors.length
 
         DarkText {
             anchors.centerIn: parent

@@ -12,7 +12,17 @@ ReviewPage {
     readonly property int count: content.badges.length
     readonly property int columns: count <= 4 ? 2 : count <= 9 ? 3 : 4
     readonly property real gap: DarkUI.space12
+    readonly property int ringDots: 20
     readonly property real cellWidth: (width - (columns - 1) * gap) / columns
+
+    // A ring goes through as many hours as the milestone has, from the oldest whose colour is known.
+    function ringColors(hours: int): list<color> {
+        const known = Math.min(hours, dotColors.length);
+        const colors = [];
+        for (let i = 0; i < ringDots; ++i)
+            colors.push(dotColors[Math.floor(i * known / ringDots)]);
+        return colors;
+    }
 
     kicker: content.kicker
 
@@ -52,7 +62,7 @@ ReviewPage {
                 MilestoneBadgeView {
                     width: page.cellWidth
                     badge: entrance.modelData
-                    colors: page.dotColors
+                    colors: page.ringColors(entrance.modelData.hours)
                     small: page.columns > 2
                 }
             }

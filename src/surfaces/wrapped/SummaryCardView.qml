@@ -38,7 +38,14 @@ ReviewPage {
         order: 2
         slam: true
 
+        DarkShadow {
+            anchors.fill: poster
+            level: DarkUI.shadowPopover
+            radius: DarkUI.radiusWindow
+        }
+
         SharePosterPicture {
+            id: poster
             readonly property real room: picture.room
 
             // The poster of a year is too high for the page at the width of the others.
