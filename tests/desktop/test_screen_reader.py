@@ -103,7 +103,11 @@ class OfWindows(ScreenReader):
         self.await_told("Quick Log", "alert message", "Enter a time between 1 minute and 16 hours.")
 
     def test_the_review(self):
-        self.write_records(record(number, f"draft {number}") for number in range(1, 9))
+        earlier = record(9, "")
+        for moment in ("startedAt", "endedAt"):
+            earlier[moment] = earlier[moment].replace("2025", "2024")
+        drafts = [record(number, f"draft {number}") for number in range(1, 9)]
+        self.write_records([earlier, *drafts])
         self.launch()
         self.open(*WRAPPED)
         window = self.reader.window("Wrapped")
@@ -116,7 +120,8 @@ class OfWindows(ScreenReader):
         self.reader.press(window.find("page tab", "All time"))
         self.await_told("Wrapped", "push button", "Next page")
         told = {(one.role, one.name) for one in self.all_pages()}
-        for expected in (("label", "4 h"), ("graphic", "Daily activity across 2025, week by week"),
+        for expected in (("label", "4.5 h"), ("graphic", "Daily activity across 2025, week by week"),
+                         ("page tab", "Show 2025"), ("page tab", "Show 2024"),
                          ("graphic", "Session starts by hour of day"),
                          ("push button", "Copy image"), ("push button", "Save image…")):
             self.assertIn(expected, told)
