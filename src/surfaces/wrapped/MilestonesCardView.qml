@@ -15,7 +15,7 @@ ReviewPage {
     readonly property int ringDots: 20
     readonly property real cellWidth: (width - (columns - 1) * gap) / columns
 
-    // A ring goes through as many hours as the milestone has, from the oldest whose colour is known.
+    // A ring goes through as many hours as its milestone has, from the oldest that has a colour.
     function ringColors(hours: int): list<color> {
         const known = Math.min(hours, dotColors.length);
         const colors = [];
