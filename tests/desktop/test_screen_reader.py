@@ -120,7 +120,8 @@ class OfWindows(ScreenReader):
         self.reader.press(window.find("page tab", "All time"))
         self.await_told("Wrapped", "push button", "Next page")
         told = {(one.role, one.name) for one in self.all_pages()}
-        for expected in (("label", "4.5 h"), ("graphic", "Daily activity across 2025, week by week"),
+        for expected in (("label", "4.5 h"),
+                         ("graphic", "Daily activity across 2025, week by week"),
                          ("page tab", "Show 2025"), ("page tab", "Show 2024"),
                          ("graphic", "Session starts by hour of day"),
                          ("push button", "Copy image"), ("push button", "Save image…")):
