@@ -8,6 +8,8 @@
 #include "tracking/NotificationCenter.h"
 #include "windows/SampleYear.h"
 
+#include <array>
+
 namespace vantle {
 
 namespace {
@@ -21,30 +23,11 @@ const QString kSentence =
 /// A review of a made-up log, with a model that writes about it at once.
 class DemoReview final : public QObject {
 public:
-    DemoReview(QObject* owner, std::vector<Session> log, WrappedPeriod period)
+    DemoReview(QObject* owner, std::vector<Session> log, WrappedPeriod period,
+               const QString& duration)
         : QObject(owner)
         , m_log(std::move(log))
-        , view({.notifications = m_notifications,
-                .preferences = m_preferences,
-                .model = m_model,
-                .clock = m_time,
-                .scheduler = m_time,
-                .calendar =
-                    [] {
-                        return Calendar{QStringLiteral("UTC"), 2, 4};
-                    },
-                .allSessions = [this] { return m_log; },
-                .skills =
-                    [] {
-                        const auto& seeds = Skill::defaults();
-                        return std::vector<Skill>(seeds.begin(), seeds.end());
-                    },
-                .initialPeriod = period,
-                .enterVantle = [] {},
-                .renderPng = renderSharePNG,
-                .copyPng = [](const QByteArray&) {},
-                .savePng = [](const QByteArray&, const QString&,
-                              const auto& answer) { answer(WrappedView::Saved::Failed); }}) {
+        , view(environment(period, duration)) {
         m_model.answer(kSentence);
         m_time.settle();
     }
@@ -56,6 +39,31 @@ public:
     }
 
 private:
+    WrappedView::Environment environment(WrappedPeriod period, const QString& duration) {
+        m_preferences.setString(QLatin1String(durationstyle::defaultsKey), duration);
+        return {.notifications = m_notifications,
+                .preferences = m_preferences,
+                .model = m_model,
+                .clock = m_time,
+                .scheduler = m_time,
+                .calendar =
+                    [] {
+                        return Calendar{QStringLiteral("UTC"), 2, 4};
+                    },
+                .allSessions = [this] { return m_log; },
+                .skills =
+                    [] {
+                        const auto seeds = Skill::defaults();
+                        return std::vector<Skill>(seeds.begin(), seeds.end());
+                    },
+                .initialPeriod = period,
+                .enterVantle = [] {},
+                .renderPng = renderSharePNG,
+                .copyPng = [](const QByteArray&) {},
+                .savePng = [](const QByteArray&, const QString&,
+                              const auto& answer) { answer(WrappedView::Saved::Failed); }};
+    }
+
     fakes::VirtualTime m_time{sampleNow()};
     fakes::MemoryPreferences m_preferences;
     fakes::FakeLanguageModel m_model;
@@ -67,14 +75,14 @@ public:
 };
 
 Scene page(const char* name, Sample sample, WrappedPeriod period, const char* card,
-           std::function<void(WrappedView&)> then = {}) {
+           std::function<void(WrappedView&)> then = {}, const char* duration = "natural") {
     Scene made;
     made.name = QLatin1String(name);
     made.view = QUrl(QStringLiteral("qrc:/qt/qml/Vantle/DemoWindows/FramedScene.qml"));
     made.ground = kDesk;
     made.properties = [=](QObject* owner) {
-        auto* const review =
-            new DemoReview(owner, sample ? sample() : std::vector<Session>(), period);
+        auto* const review = new DemoReview(owner, sample ? sample() : std::vector<Session>(),
+                                            period, QLatin1String(duration));
         review->turnTo(QLatin1String(card));
         if (then) then(review->view);
         return QVariantMap{
@@ -83,6 +91,20 @@ Scene page(const char* name, Sample sample, WrappedPeriod period, const char* ca
             {QStringLiteral("model"), QVariant::fromValue(static_cast<QObject*>(&review->view))}};
     };
     return made;
+}
+
+/// The same weeks of somebody who writes a lot.
+std::vector<Session> wordyWeeks() {
+    const std::array<QString, 4> parts = {QStringLiteral("webhook"), QStringLiteral("importer"),
+                                          QStringLiteral("landing page"),
+                                          QStringLiteral("settings window")};
+    std::vector<Session> log = firstWeeks();
+    for (std::size_t i = 0; i < log.size(); ++i)
+        log[i].note = QStringLiteral("The %1 now does what it should when the machine is switched "
+                                     "off in the middle, and tells so in plain words (part %2)")
+                          .arg(parts[i % parts.size()])
+                          .arg(i);
+    return log;
 }
 
 std::vector<Session> untilYesterday() {
@@ -106,6 +128,7 @@ QList<Scene> reviewScenes() {
         twice(page("wrapped-hero", nightOwlYears, LastWeek, "hero")),
         page("wrapped-hero-today", nightOwlYears, Today, "hero"),
         page("wrapped-hero-all-time", nightOwlYears, AllTime, "hero"),
+        page("wrapped-hero-hours-minutes", nightOwlYears, AllTime, "hero", {}, "hoursMinutes"),
         page("wrapped-skills", nightOwlYears, LastWeek, "skills"),
         twice(page("wrapped-persona", nightOwlYears, LastWeek, "persona")),
         page("wrapped-persona-taking-shape", firstDay, Week, "persona"),
@@ -118,6 +141,7 @@ QList<Scene> reviewScenes() {
         page("wrapped-milestones-many", nightOwlYears, AllTime, "milestones"),
         page("wrapped-narrative", nightOwlYears, Week, "narrative"),
         page("wrapped-notes", nightOwlYears, Week, "notes"),
+        page("wrapped-notes-long", wordyWeeks, Month, "notes"),
         twice(page("wrapped-summary", nightOwlYears, LastWeek, "summary")),
         page("wrapped-summary-year", nightOwlYears, AllTime, "summary"),
         page("wrapped-summary-failed", nightOwlYears, LastWeek, "summary",

@@ -221,5 +221,14 @@ TEST(NarrativeCard, NamesItsPeriodInCapitals) {
     EXPECT_EQ(card.text, QStringLiteral("You did."));
 }
 
+TEST(NarrativeCard, FirstSentenceStandsOutAndAPointInAFigureEndsNone) {
+    const auto card = reviewcards::narrative(
+        WrappedPeriod::Week, QStringLiteral("9.2 h this week, mostly Build. You shipped it."));
+    EXPECT_EQ(card.opening, QStringLiteral("9.2 h this week, mostly Build. "));
+    EXPECT_EQ(card.rest, QStringLiteral("You shipped it."));
+    const auto none = reviewcards::narrative(WrappedPeriod::Week, QString());
+    EXPECT_EQ(none.opening + none.rest, QString());
+}
+
 } // namespace
 } // namespace vantle

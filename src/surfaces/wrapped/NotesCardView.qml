@@ -8,18 +8,24 @@ ReviewPage {
     id: page
 
     required property notesCard content
-    readonly property real room: foot.y - notes.y - DarkUI.space20
-    // Two lines for each note, as long as all of them find room.
-    readonly property bool tight: noteHeights() > room
+    readonly property real gap: DarkUI.space12 // on both sides of the line between two notes
+    readonly property real room: foot.y - notes.y - gap
+    // Lines that are left when each note has one; the first long notes get them.
+    readonly property int spareLines: Math.floor((room - oneLineEach()) / DarkUI.note.line)
 
-    function noteHeights(): real {
-        let sum = -DarkUI.space12;
-        for (const note of content.highlights) {
-            const lines = metrics.advanceWidth(note.text) > width ? 2 : 1;
-            sum += lines * DarkUI.note.line + DarkUI.caption.line + DarkUI.space4
-                   + DarkUI.space24 + DarkUI.hairlineWidth;
-        }
-        return sum;
+    function oneLineEach(): real {
+        const row = DarkUI.note.line + DarkUI.space4 + DarkUI.caption.line;
+        const between = 2 * gap + DarkUI.hairlineWidth;
+        return content.highlights.length * (row + between) - between;
+    }
+    function isLong(index: int): bool {
+        return metrics.advanceWidth(content.highlights[index].text) > width;
+    }
+    function linesOf(index: int): int {
+        let longOnes = 0;
+        for (let i = 0; i <= index; ++i)
+            longOnes += isLong(i) ? 1 : 0;
+        return isLong(index) && longOnes <= spareLines ? 2 : 1;
     }
 
     kicker: content.kicker
@@ -76,7 +82,7 @@ ReviewPage {
         id: notes
         y: head.y + head.height + DarkUI.space28
         width: page.width
-        spacing: page.tight ? DarkUI.space10 : DarkUI.space12
+        spacing: page.gap
 
         Repeater {
             model: page.content.highlights
@@ -92,8 +98,8 @@ ReviewPage {
                 NoteHighlightRow {
                     width: page.width
                     note: entrance.modelData
-                    mostLines: page.tight ? 1 : 2
-                    gap: notes.spacing
+                    mostLines: page.linesOf(entrance.index)
+                    gap: page.gap
                     last: entrance.index === page.content.highlights.length - 1
                 }
             }
