@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QWindow>
 
@@ -53,6 +54,14 @@ TEST_F(QtSaveDialogTest, AnswersWithThePath) {
     static_cast<QDialog*>(shownDialog())->accept();
     EXPECT_EQ(m_path, m_folder.filePath(QStringLiteral("wrapped-week.png")));
     EXPECT_EQ(m_answers, 1);
+}
+
+TEST_F(QtSaveDialogTest, LeavesReturnToWhatWasTyped) {
+    ask();
+    const auto fields = shownDialog()->findChildren<QLineEdit*>();
+    ASSERT_FALSE(fields.isEmpty());
+    for (const QLineEdit* field : fields)
+        EXPECT_EQ(field->completer(), nullptr);
 }
 
 TEST_F(QtSaveDialogTest, AnswersWithNothingWhenThePersonTurnsAway) {

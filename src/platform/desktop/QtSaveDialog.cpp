@@ -1,6 +1,7 @@
 #include "platform/desktop/QtSaveDialog.h"
 
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QPointer>
 #include <QStandardPaths>
 #include <QWindow>
@@ -85,6 +86,10 @@ std::unique_ptr<OpenSaveDialog> QtSaveDialog::ask(const SaveQuestion& question, 
     dialog->setNameFilter(QStringLiteral("%1 (*.%2)").arg(question.kind, question.ending));
     dialog->setDefaultSuffix(question.ending);
     dialog->selectFile(question.suggestedName);
+    // Its completions come from the disk a moment late, and then take the Return of a quick hand
+    // for a choice among them. The desktop's own dialog has no such field.
+    for (QLineEdit* const field : dialog->findChildren<QLineEdit*>())
+        field->setCompleter(nullptr);
     placeAbove(*dialog, above);
     const auto answered = std::make_shared<bool>(false);
     QObject::connect(dialog, &QDialog::finished, dialog, [dialog, answer, answered](int result) {
