@@ -21,6 +21,10 @@ QString find(const QString& name) {
     return {};
 }
 
-QString ofProgram() { return QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath(); }
+QString ofProgram() {
+    // Asked once: an upgrade may replace the file while the program runs, and then nothing tells.
+    static const QString folder = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath();
+    return folder;
+}
 
 } // namespace vantle::resourcefolders
