@@ -36,6 +36,12 @@ class MovesHome(DesktopTest):
             wait_until("the name free", lambda: not owner_of(self.desktop, PROGRAM_NAME))
         self.assertFalse(self.target.exists())
 
+    def test_a_terminate_signal_ends_the_program_and_not_only_the_offer(self):
+        self.downloaded.start()
+        self.await_offer()
+        self.assertEqual(self.downloaded.stop(), 0)
+        self.assertFalse(self.vantle.data_directory.exists())
+
     def test_moving_starts_the_copy_in_its_proper_place_and_gives_the_download_up(self):
         self.downloaded.start()
         self.await_offer()

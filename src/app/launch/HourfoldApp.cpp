@@ -129,7 +129,8 @@ struct Ground {
                                .panelHost = platform->panelHost()}};
 };
 
-AppDelegate::Environment environmentOn(Ground& ground, bool startedUnasked) {
+/// `isEnding` becomes true when the program is told to end.
+AppDelegate::Environment environmentOn(Ground& ground, bool startedUnasked, const bool& isEnding) {
     Platform& platform = *ground.platform;
     return {.clock = ground.clock,
             .scheduler = ground.scheduler,
@@ -158,8 +159,11 @@ AppDelegate::Environment environmentOn(Ground& ground, bool startedUnasked) {
             .makeNotch = [&ground] { return ground.surfaces.makeNotch(); },
             .makeRipple = [&ground] { return ground.ceremony.makeRipple(); },
             .calendar = &Calendar::current,
+            // Told to end while the offer stands, it must not take that for "not now" and go on.
             .offerMoveToApplications =
-                [&ground] { return ground.installer.offerMoveToApplicationsIfNeeded(); },
+                [&ground, &isEnding] {
+                    return ground.installer.offerMoveToApplicationsIfNeeded() || isEnding;
+                },
             .terminate = [] { QCoreApplication::quit(); },
             .alertAlreadyRunning = alertAlreadyRunning,
             .startedUnasked = startedUnasked};
@@ -167,6 +171,7 @@ AppDelegate::Environment environmentOn(Ground& ground, bool startedUnasked) {
 
 int run(bool startedUnasked) {
     AppDelegate* delegate = nullptr;
+    bool isEnding = false;
     const auto stop = [&delegate] {
         if (delegate) delegate->applicationWillTerminate();
     };
@@ -179,9 +184,13 @@ int run(bool startedUnasked) {
                            if (delegate) delegate->performAction(action);
                        },
                    // Not quit(), which is deaf while an alert runs before the main loop.
-                   .endRequested = [] { QCoreApplication::exit(); },
+                   .endRequested =
+                       [&isEnding] {
+                           isEnding = true;
+                           QCoreApplication::exit();
+                       },
                    .displayLost = stop});
-    AppDelegate app(environmentOn(ground, startedUnasked));
+    AppDelegate app(environmentOn(ground, startedUnasked, isEnding));
     if (!app.applicationDidFinishLaunching()) return EXIT_SUCCESS;
     delegate = &app;
     runningDelegate = &app;
