@@ -14,6 +14,7 @@ FocusScope {
     property ReviewPage before: null // on its way out
     property string shownKey
     property list<string> seen // keys of pages whose parts have come in
+    property bool passing: false // the pages on the way are not shown
 
     // Of the turn: 1 for a page on, -1 for a page back; 0 with nothing but fading.
     property real direction: 0
@@ -21,6 +22,13 @@ FocusScope {
     property real outFrom: 0 // where the page before stood, px
     property real outPresence: 1
 
+    // Goes on to where `turns` leads, by one turn for the eye.
+    function pass(turns): void {
+        passing = true;
+        turns();
+        passing = false;
+        follow();
+    }
     function fileOf(card: string): string {
         switch (card) {
         case "hero":
@@ -81,12 +89,14 @@ FocusScope {
         values.animated = animated;
         return component.createObject(stack, values) as ReviewPage;
     }
+    function keyOf(card: string): string {
+        return card + " " + model.pageKey;
+    }
     // The review is at a page, which may be the one that is shown, with other values.
     function follow(): void {
         const card = model.isEmpty ? "" : model.card;
-        const key = card + " " + model.pageKey;
-        if (key !== shownKey)
-            show(card, key);
+        if (keyOf(card) !== shownKey)
+            show(card, keyOf(card));
         else
             refresh(card);
     }
@@ -149,26 +159,17 @@ FocusScope {
         onFinished: stack.arrive()
     }
 
-    // The review tells of one step in several parts.
-    Timer {
-        id: settled
-        interval: 0
-        onTriggered: stack.follow()
-    }
-
     Connections {
         target: stack.model
-        function onReviewChanged(): void {
-            settled.restart();
-        }
-        function onCardsChanged(): void {
-            settled.restart();
-        }
+        // Told last of all that has changed.
         function onPageChanged(): void {
-            settled.restart();
+            if (!stack.passing)
+                stack.follow();
         }
+        // Another year. All else that changes the calendar is told of once more above.
         function onRhythmChanged(): void {
-            settled.restart();
+            if (stack.shownKey === stack.keyOf("rhythm"))
+                stack.refresh("rhythm");
         }
     }
 }

@@ -12,12 +12,16 @@ FocusScope {
     readonly property alias turning: stack.turning
 
     function turnToFirst(): void {
-        while (model.canTurnBack)
-            model.turnBack();
+        stack.pass(() => {
+            while (view.model.canTurnBack)
+                view.model.turnBack();
+        });
     }
     function turnToLast(): void {
-        while (model.canTurnOn)
-            model.turnOn();
+        stack.pass(() => {
+            while (view.model.canTurnOn)
+                view.model.turnOn();
+        });
     }
 
     focus: true

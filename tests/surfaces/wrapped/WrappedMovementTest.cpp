@@ -1,6 +1,10 @@
 // How pages come and go, and what stands still.
 #include "surfaces/wrapped/WrappedWorld.h"
 
+#include <QPointer>
+
+#include <algorithm>
+
 namespace vantle {
 namespace {
 
@@ -9,6 +13,10 @@ protected:
     [[nodiscard]] QQuickItem* field() {
         return search(window->contentItem(),
                       [](const QQuickItem& item) { return item.property("hasStar").isValid(); });
+    }
+    [[nodiscard]] QQuickItem* reveal() {
+        return search(window->contentItem(),
+                      [](const QQuickItem& item) { return item.property("typingDone").isValid(); });
     }
     [[nodiscard]] QQuickItem* figure() {
         return search(window->contentItem(),
@@ -61,6 +69,42 @@ TEST_F(WrappedMovementTest, HoursAreCountedUpToTheFigure) {
     const ReviewFigure whole = view->hero().figure;
     EXPECT_FALSE(shown() == whole);
     EXPECT_TRUE(tests::await([&] { return shown() == whole; }));
+}
+
+TEST_F(WrappedMovementTest, NameOfATypeIsWrittenLetterByLetter) {
+    workAWeek();
+    show(false);
+    click("Month"); // a week is not enough for a type
+    while (view->card() != QLatin1String("persona"))
+        press(Qt::Key_Right);
+    QQuickItem* const name = reveal();
+    ASSERT_NE(name, nullptr);
+    const auto shown = [&] { return name->property("shownCharacters").toInt(); };
+    EXPECT_FALSE(name->property("typingDone").toBool());
+    EXPECT_TRUE(tests::await([&] { return shown() == 3; }));
+    EXPECT_TRUE(tests::await([&] { return name->property("typingDone").toBool(); }));
+    EXPECT_EQ(shown(), view->persona().name.size());
+}
+
+TEST_F(WrappedMovementTest, NameStopsWhereItIsWhenItsPageLeaves) {
+    workAWeek();
+    show(false);
+    click("Month");
+    while (view->card() != QLatin1String("persona"))
+        press(Qt::Key_Right);
+    const QPointer<QQuickItem> name = reveal();
+    ASSERT_TRUE(name);
+    const auto shown = [&] { return name->property("shownCharacters").toInt(); };
+    EXPECT_TRUE(tests::await([&] { return shown() == 2; }));
+    press(Qt::Key_Left);
+    ASSERT_TRUE(name) << "it is on its way out";
+    const int left = shown();
+    int most = left;
+    EXPECT_TRUE(tests::await([&] {
+        if (name) most = std::max(most, shown());
+        return !isTurning();
+    }));
+    EXPECT_EQ(most, left);
 }
 
 TEST_F(WrappedMovementTest, WithReducedMotionAllIsThereAtOnce) {
