@@ -15,6 +15,7 @@ FocusScope {
     property string shownKey
     property list<string> seen // keys of pages whose parts have come in
     property bool passing: false // the pages on the way are not shown
+    property bool outdated: false // another log, so that the page shows what was
 
     // Of the turn: 1 for a page on, -1 for a page back; 0 with nothing but fading.
     property real direction: 0
@@ -97,8 +98,9 @@ FocusScope {
         const card = model.isEmpty ? "" : model.card;
         if (keyOf(card) !== shownKey)
             show(card, keyOf(card));
-        else
+        else if (outdated || card === "narrative")
             refresh(card);
+        outdated = false;
     }
     function refresh(card: string): void {
         const values = valuesOf(card);
@@ -161,6 +163,9 @@ FocusScope {
 
     Connections {
         target: stack.model
+        function onReviewChanged(): void {
+            stack.outdated = true;
+        }
         // Told last of all that has changed.
         function onPageChanged(): void {
             if (!stack.passing)

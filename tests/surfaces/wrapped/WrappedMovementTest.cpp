@@ -60,6 +60,9 @@ TEST_F(WrappedMovementTest, PartsOfAPageComeInTheFirstTimeOnly) {
     press(Qt::Key_Left);
     EXPECT_EQ(kicker(), QStringLiteral("WRAPPED"));
     EXPECT_FALSE(page()->property("animated").toBool());
+    click("All time");
+    EXPECT_TRUE(page()->property("animated").toBool())
+        << "a page of another period is another page";
 }
 
 TEST_F(WrappedMovementTest, HoursAreCountedUpToTheFigure) {
