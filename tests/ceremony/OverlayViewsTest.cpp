@@ -10,14 +10,14 @@
 namespace vantle::tests {
 namespace {
 
-constexpr QSize kScreen(400, 300);
+constexpr QSize kSmallScreen(400, 300);
 constexpr std::uint32_t kAccent = 0x30D158;
 
 QImage painted(OverlayView& view, double t) {
-    QImage image(kScreen, QImage::Format_ARGB32_Premultiplied);
+    QImage image(kSmallScreen, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    view.paint(painter, kScreen, Seconds(t));
+    view.paint(painter, kSmallScreen, Seconds(t));
     return image;
 }
 
@@ -30,7 +30,7 @@ bool isClear(const QImage& image) {
 TEST(CollapseRippleView, TheRingIsDrawnInTheSkillsColourAroundTheCentre) {
     CollapseRippleView view({}, kAccent);
     const QImage image = painted(view, 0.5);
-    const double radius = CollapseRippleView::ringAt(kScreen, Seconds(0.5))->radius;
+    const double radius = CollapseRippleView::ringAt(kSmallScreen, Seconds(0.5))->radius;
     const QColor onRing = image.pixelColor(200 + qRound(radius), 150);
     EXPECT_NEAR(onRing.alphaF(), 0.44, 0.1);
     EXPECT_GT(onRing.green(), onRing.red());
@@ -42,17 +42,17 @@ TEST(CollapseRippleView, NothingIsDrawnOutsideOfItsTime) {
     CollapseRippleView view({}, kAccent);
     EXPECT_TRUE(isClear(painted(view, -0.1)));
     EXPECT_TRUE(isClear(painted(view, 0.6)));
-    EXPECT_TRUE(view.solidPart(kScreen, Seconds(0.6)).isEmpty());
+    EXPECT_TRUE(view.solidPart(kSmallScreen, Seconds(0.6)).isEmpty());
 }
 
 TEST(CollapseRippleView, WithoutTransparencyTheWindowIsTheRingAlone) {
     CollapseRippleView view({}, kAccent);
-    const QRegion ring = view.solidPart(kScreen, Seconds(0.4));
-    const int radius = qRound(CollapseRippleView::ringAt(kScreen, Seconds(0.4))->radius);
+    const QRegion ring = view.solidPart(kSmallScreen, Seconds(0.4));
+    const int radius = qRound(CollapseRippleView::ringAt(kSmallScreen, Seconds(0.4))->radius);
     EXPECT_TRUE(ring.contains(QPoint(200 + radius, 150)));
     EXPECT_FALSE(ring.contains(QPoint(200, 150)));
     EXPECT_FALSE(ring.contains(QPoint(200 + radius + 5, 150)));
-    EXPECT_TRUE(QRegion(QRect(QPoint(), kScreen)).contains(ring.boundingRect()));
+    EXPECT_TRUE(QRegion(QRect(QPoint(), kSmallScreen)).contains(ring.boundingRect()));
 }
 
 TEST(ReducedMotionFadeView, TheScreenDimsWithAGlowInTheCentre) {
@@ -69,7 +69,7 @@ TEST(ReducedMotionFadeView, NothingIsDrawnOutsideOfItsTime) {
     EXPECT_TRUE(isClear(painted(view, -0.1)));
     EXPECT_TRUE(isClear(painted(view, 0)));
     EXPECT_TRUE(isClear(painted(view, 0.9)));
-    EXPECT_TRUE(view.solidPart(kScreen, Seconds(0.3)).isEmpty());
+    EXPECT_TRUE(view.solidPart(kSmallScreen, Seconds(0.3)).isEmpty());
 }
 
 } // namespace
