@@ -4,6 +4,10 @@
 $VANTLE_EXECUTABLE is the program, build/release/vantle if unset; pictures of the screen go to
 $VANTLE_DESKTOP_PICTURES. With GTEST_OUTPUT=xml:<directory>/ it leaves the same kind of report
 there as the C++ test programs do.
+
+A case that fails is tried once more: other programs have a part in it, an X server, a window
+manager and a bus, whose pace is not ours. tools/checks/count names what passed only then, which
+wants to be looked into.
 """
 
 import os
@@ -52,7 +56,16 @@ class Result(unittest.TextTestResult):
         case["failures"].append(str(err[1]))
 
 
-def write_report(path, cases):
+def run(names):
+    tests = unittest.defaultTestLoader.loadTestsFromNames(names)
+    return unittest.TextTestRunner(verbosity=2, resultclass=Result).run(tests).cases
+
+
+def failed_ones(cases):
+    return [name for name, case in cases.items() if case["failures"]]
+
+
+def write_report(path, cases, again):
     suites = ElementTree.Element("testsuites", name="desktop", tests=str(len(cases)),
                                  failures=str(sum(bool(c["failures"]) for c in cases.values())))
     suite = ElementTree.SubElement(suites, "testsuite", name="desktop")
@@ -61,6 +74,8 @@ def write_report(path, cases):
         element = ElementTree.SubElement(suite, "testcase", name=method, classname=classname,
                                          status="run", result="completed",
                                          time=f"{case['time']:.3f}")
+        if name in again:
+            element.set("tries", "2")
         for failure in case["failures"]:
             ElementTree.SubElement(element, "failure", message=failure)
     path.parent.mkdir(parents=True, exist_ok=True)
@@ -70,13 +85,16 @@ def write_report(path, cases):
 def main():
     sys.path.insert(0, str(HERE))
     names = sys.argv[1:] or sorted(path.stem for path in HERE.glob("test_*.py"))
-    tests = unittest.defaultTestLoader.loadTestsFromNames(names)
-    result = unittest.TextTestRunner(verbosity=2, resultclass=Result).run(tests)
+    cases = run(names)
+    again = failed_ones(cases)
+    if again:
+        print("\nOnce more:", flush=True)
+        cases.update(run(again))
     wish, _, where = os.environ.get("GTEST_OUTPUT", "").partition(":")
     if wish == "xml" and where.endswith("/"):
         name = "_".join(["desktop", *(name.removeprefix("test_") for name in names)])
-        write_report(Path(where) / f"{name}.xml", result.cases)
-    sys.exit(0 if result.wasSuccessful() and result.cases else 1)
+        write_report(Path(where) / f"{name}.xml", cases, again)
+    sys.exit(0 if cases and not failed_ones(cases) else 1)
 
 
 if __name__ == "__main__":
