@@ -4,12 +4,12 @@
 #include "CapsuleWorld.h"
 #include "fakes/FakePanelHost.h"
 #include "support/QtPrinters.h"
+#include "support/ShownItems.h"
 #include "support/Text.h"
 #include "surfaces/kit/Motion.h"
 
 #include <QAccessible>
 #include <QCoreApplication>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointingDevice>
 #include <QQmlEngine>
@@ -78,10 +78,7 @@ protected:
         settle();
     }
     void press(int key, const QString& typed = {}) {
-        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, key, Qt::NoModifier, typed);
-            QCoreApplication::sendEvent(&window->panel(), &event);
-        }
+        sendKey(window->panel(), key, typed);
         settle();
     }
     void type(const QString& words) {
@@ -110,13 +107,10 @@ protected:
 
 private:
     static QQuickItem* find(QQuickItem* root, const QString& name) {
-        if (!root->isVisible()) return nullptr;
-        if (auto* const access = QAccessible::queryAccessibleInterface(root);
-            access != nullptr && access->text(QAccessible::Name) == name)
-            return root;
-        for (QQuickItem* const child : root->childItems())
-            if (QQuickItem* const found = find(child, name)) return found;
-        return nullptr;
+        return shownItem(root, [&](QQuickItem& item) {
+            auto* const access = QAccessible::queryAccessibleInterface(&item);
+            return access != nullptr && access->text(QAccessible::Name) == name;
+        });
     }
 };
 

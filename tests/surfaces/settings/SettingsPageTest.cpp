@@ -1,9 +1,9 @@
 // The view over the real model: what is on it, and that its controls reach what they are for.
+#include "support/ShownItems.h"
 #include "support/Text.h"
 #include "surfaces/settings/SettingsWorld.h"
 
 #include <QCoreApplication>
-#include <QKeyEvent>
 #include <QQuickItem>
 #include <QQuickView>
 
@@ -26,25 +26,9 @@ protected:
         QCoreApplication::processEvents();
         return *m_window.rootObject();
     }
-    template <typename Fits>
-    static QQuickItem* search(QQuickItem* item, const Fits& fits) {
-        if (!item->isVisible()) return nullptr;
-        if (fits(*item)) return item;
-        for (QQuickItem* child : item->childItems())
-            if (QQuickItem* const found = search(child, fits)) return found;
-        return nullptr;
-    }
-    [[nodiscard]] bool shows(const char* words) {
-        return search(m_window.contentItem(), [&](const QQuickItem& item) {
-                   return item.property("text").toString() == text(words);
-               }) != nullptr;
-    }
-    /// The control that is read out so.
+    [[nodiscard]] bool shows(const char* words) { return tests::showsText(m_window, text(words)); }
     [[nodiscard]] QQuickItem* control(const char* name) {
-        return search(m_window.contentItem(), [&](const QQuickItem& item) {
-            return item.property("name").toString() == text(name) &&
-                   item.metaObject()->indexOfSignal("clicked()") >= 0;
-        });
+        return tests::shownControl(m_window, text(name));
     }
     void press(const char* name) {
         QQuickItem* const item = control(name);
@@ -53,10 +37,7 @@ protected:
         QCoreApplication::processEvents();
     }
     void key(int code) {
-        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, code, Qt::NoModifier);
-            QCoreApplication::sendEvent(&m_window, &event);
-        }
+        tests::sendKey(m_window, code);
         QCoreApplication::processEvents();
     }
 

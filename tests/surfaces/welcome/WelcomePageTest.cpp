@@ -1,11 +1,11 @@
 // The view over the real model: every step draws, and its controls and keys do what they say.
+#include "support/ShownItems.h"
 #include "surfaces/kit/Motion.h"
 #include "surfaces/welcome/WelcomeWorld.h"
 
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QKeyEvent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
@@ -35,24 +35,9 @@ protected:
         QCoreApplication::processEvents();
         return *m_window.rootObject();
     }
-    template <typename Fits>
-    static QQuickItem* search(QQuickItem* item, const Fits& fits) {
-        if (!item->isVisible()) return nullptr;
-        if (fits(*item)) return item;
-        for (QQuickItem* child : item->childItems())
-            if (QQuickItem* const found = search(child, fits)) return found;
-        return nullptr;
-    }
-    [[nodiscard]] bool shows(const char* words) {
-        return search(m_window.contentItem(), [&](const QQuickItem& item) {
-                   return item.property("text").toString() == text(words);
-               }) != nullptr;
-    }
+    [[nodiscard]] bool shows(const char* words) { return tests::showsText(m_window, text(words)); }
     [[nodiscard]] QQuickItem* control(const char* name) {
-        return search(m_window.contentItem(), [&](const QQuickItem& item) {
-            return item.property("name").toString() == text(name) &&
-                   item.metaObject()->indexOfSignal("clicked()") >= 0;
-        });
+        return tests::shownControl(m_window, text(name));
     }
     void click(const char* name) {
         QQuickItem* const item = control(name);
@@ -62,10 +47,7 @@ protected:
         QCoreApplication::processEvents();
     }
     void key(int code, const QString& typed = {}) {
-        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, code, Qt::NoModifier, typed);
-            QCoreApplication::sendEvent(&m_window, &event);
-        }
+        tests::sendKey(m_window, code, typed);
         settle();
         QCoreApplication::processEvents();
     }
@@ -132,9 +114,10 @@ TEST_F(WelcomePageTest, PicturesOfTheSurfacesAreAsLargeAsTheirStageHasRoomFor) {
         walkTo(step);
         (void)pictures();
         (void)m_window.grabWindow(); // what is drawn has been laid out
-        const QQuickItem* const picture = search(m_window.contentItem(), [](const auto& item) {
-            return QByteArray(item.metaObject()->className()) == "vantle::Miniature";
-        });
+        const QQuickItem* const picture =
+            tests::shownItem(m_window.contentItem(), [](const auto& item) {
+                return QByteArray(item.metaObject()->className()) == "vantle::Miniature";
+            });
         ASSERT_NE(picture, nullptr) << step;
         EXPECT_GT(picture->width(), 200) << step;
         EXPECT_LE(picture->width(), 520 - 2 * 16 + 1) << step;

@@ -11,16 +11,19 @@ namespace {
 class WrappedMovementTest : public testing::Test, protected tests::WrappedWorld {
 protected:
     [[nodiscard]] QQuickItem* field() {
-        return search(window->contentItem(),
-                      [](const QQuickItem& item) { return item.property("hasStar").isValid(); });
+        return tests::shownItem(window->contentItem(), [](const QQuickItem& item) {
+            return item.property("hasStar").isValid();
+        });
     }
     [[nodiscard]] QQuickItem* reveal() {
-        return search(window->contentItem(),
-                      [](const QQuickItem& item) { return item.property("typingDone").isValid(); });
+        return tests::shownItem(window->contentItem(), [](const QQuickItem& item) {
+            return item.property("typingDone").isValid();
+        });
     }
     [[nodiscard]] QQuickItem* figure() {
-        return search(window->contentItem(),
-                      [](const QQuickItem& item) { return item.property("counts").isValid(); });
+        return tests::shownItem(window->contentItem(), [](const QQuickItem& item) {
+            return item.property("counts").isValid();
+        });
     }
 };
 

@@ -139,11 +139,11 @@ TEST_F(WrappedPageTest, NarrativeComesWithItsPageOnItsOwn) {
         view->turnOn();
     settle();
     EXPECT_EQ(kicker(), QStringLiteral("THIS WEEK, IN WORDS"));
-    EXPECT_NE(search(page(),
-                     [](const QQuickItem& item) {
-                         return item.property("text").toString().contains(
-                             QStringLiteral("&lt;shipped&gt;"));
-                     }),
+    EXPECT_NE(tests::shownItem(page(),
+                               [](const QQuickItem& item) {
+                                   return item.property("text").toString().contains(
+                                       QStringLiteral("&lt;shipped&gt;"));
+                               }),
               nullptr)
         << "what the model wrote is no markup";
 }

@@ -7,6 +7,7 @@
 #include "review/WrappedView.h"
 #include "review/stats/ReviewSamples.h"
 #include "support/Await.h"
+#include "support/ShownItems.h"
 #include "surfaces/kit/Motion.h"
 #include "tracking/NotificationCenter.h"
 
@@ -62,26 +63,10 @@ protected:
         settle();
     }
 
-    template <typename Fits>
-    static QQuickItem* search(QQuickItem* item, const Fits& fits) {
-        if (!item->isVisible()) return nullptr;
-        if (fits(*item)) return item;
-        for (QQuickItem* child : item->childItems())
-            if (QQuickItem* const found = search(child, fits)) return found;
-        return nullptr;
-    }
-    [[nodiscard]] bool shows(const QString& words) {
-        return search(window->contentItem(), [&](const QQuickItem& item) {
-                   return item.property("text").toString() == words;
-               }) != nullptr;
-    }
+    [[nodiscard]] bool shows(const QString& words) { return showsText(*window, words); }
     [[nodiscard]] bool shows(const char* utf8) { return shows(QString::fromUtf8(utf8)); }
-    /// The control that is read out so.
     [[nodiscard]] QQuickItem* control(const char* name) {
-        return search(window->contentItem(), [&](const QQuickItem& item) {
-            return item.property("name").toString() == QString::fromUtf8(name) &&
-                   item.metaObject()->indexOfSignal("clicked()") >= 0;
-        });
+        return shownControl(*window, QString::fromUtf8(name));
     }
     void click(const char* name) {
         QQuickItem* const item = control(name);
@@ -91,7 +76,7 @@ protected:
     }
     /// The one page that is there once no other is on its way out.
     [[nodiscard]] QQuickItem* page() {
-        QQuickItem* const stack = search(window->contentItem(), [](const QQuickItem& item) {
+        QQuickItem* const stack = shownItem(window->contentItem(), [](const QQuickItem& item) {
             return item.property("shownKey").isValid();
         });
         return stack ? stack->property("current").value<QQuickItem*>() : nullptr;

@@ -1,0 +1,43 @@
+// What of a view can be seen, found by what is read on it.
+#pragma once
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+namespace vantle::tests {
+
+/// The first visible item that fits, an item before what is in it; null when there is none.
+template <typename Fits>
+[[nodiscard]] QQuickItem* shownItem(QQuickItem* root, const Fits& fits) {
+    if (!root->isVisible()) return nullptr;
+    if (fits(*root)) return root;
+    for (QQuickItem* child : root->childItems())
+        if (QQuickItem* const found = shownItem(child, fits)) return found;
+    return nullptr;
+}
+
+[[nodiscard]] inline bool showsText(const QQuickWindow& window, const QString& words) {
+    return shownItem(window.contentItem(), [&](const QQuickItem& item) {
+               return item.property("text").toString() == words;
+           }) != nullptr;
+}
+
+/// The control that is read out so.
+[[nodiscard]] inline QQuickItem* shownControl(const QQuickWindow& window, const QString& name) {
+    return shownItem(window.contentItem(), [&](const QQuickItem& item) {
+        return item.property("name").toString() == name &&
+               item.metaObject()->indexOfSignal("clicked()") >= 0;
+    });
+}
+
+/// A key, down and up again. `typed` is what it writes into a field.
+inline void sendKey(QQuickWindow& window, int code, const QString& typed = {}) {
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, code, Qt::NoModifier, typed);
+        QCoreApplication::sendEvent(&window, &event);
+    }
+}
+
+} // namespace vantle::tests
