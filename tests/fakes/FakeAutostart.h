@@ -10,11 +10,15 @@ namespace vantle::fakes {
 class FakeAutostart final : public Autostart {
 public:
     [[nodiscard]] bool isRegistered() const override { return registered; }
-    Result<> registerItem() override { return set(true); }
+    Result<> registerItem() override {
+        ++attempts;
+        return set(true);
+    }
     Result<> unregisterItem() override { return set(false); }
 
     bool registered = false;
     bool refuses = false;
+    int attempts = 0; ///< to register
 
 private:
     Result<> set(bool on) {

@@ -62,7 +62,7 @@ TEST_F(AppDelegateTest, TheProgramRegistersItselfAtLoginOnce) {
 }
 
 TEST_F(AppDelegateTest, AFailedLoginRegistrationIsNotTriedAgain) {
-    autostart.fails = true;
+    autostart.refuses = true;
     EXPECT_TRUE(makeCopy()->applicationDidFinishLaunching());
     EXPECT_TRUE(makeCopy()->applicationDidFinishLaunching());
     EXPECT_EQ(autostart.attempts, 1);

@@ -4,6 +4,7 @@
 #include "app/PreferenceKeys.h"
 #include "app/launch/AppDelegate.h"
 #include "app/launch/PosterSharing.h"
+#include "fakes/FakeAutostart.h"
 #include "fakes/FakeCardStage.h"
 #include "fakes/FakeFrontmostApp.h"
 #include "fakes/FakeHotKeyPort.h"
@@ -21,36 +22,14 @@
 #include "fakes/MemoryFileSystem.h"
 #include "fakes/MemoryPreferences.h"
 #include "fakes/VirtualTime.h"
-#include "platform/Autostart.h"
 #include "support/Text.h"
 #include "surfaces/window/SharedEngine.h"
 #include "tracking/AppPaths.h"
 
-#include <cerrno>
 #include <memory>
 #include <vector>
 
 namespace vantle::tests {
-
-/// A login item that counts how often it was asked for.
-class CountedAutostart final : public Autostart {
-public:
-    [[nodiscard]] bool isRegistered() const override { return registered; }
-    Result<> registerItem() override {
-        ++attempts;
-        if (fails) return Error::fromErrno(EACCES, text("write"), text("autostart"));
-        registered = true;
-        return {};
-    }
-    Result<> unregisterItem() override {
-        registered = false;
-        return {};
-    }
-
-    bool registered = false;
-    bool fails = false;
-    int attempts = 0;
-};
 
 /// A machine on which copies of the program are started, by somebody who knows it already.
 class AppDelegateWorld {
@@ -119,7 +98,7 @@ protected:
     fakes::FakePanelHost panelHost;
     fakes::FakeScreens shapes;
     fakes::FakePointerPresses pointerPresses;
-    CountedAutostart autostart;
+    fakes::FakeAutostart autostart;
     AppPaths paths{disk, text("/data")};
     fakes::FakeImageClipboard clipboard;
     fakes::FakeSaveDialog saveDialog;
