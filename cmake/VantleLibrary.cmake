@@ -35,7 +35,7 @@ function(vantle_qml_module name)
     set_target_properties(${name} PROPERTIES QT_QMLCACHEGEN_ARGUMENTS "--only-bytecode")
     # What is generated is many small files that include the same headers: a few are compiled at once.
     set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 32)
-    if(NOT CMAKE_UNITY_BUILD) # in the sanitizers' builds what is written by hand may be too
+    if(NOT CMAKE_UNITY_BUILD)
         set_source_files_properties(${ARG_SOURCES} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     endif()
     # What Qt generates from the views shadows names and converts silently.
