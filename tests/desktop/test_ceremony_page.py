@@ -103,9 +103,10 @@ class Page(CeremonyCase):
     def test_a_page_that_begins_late_has_its_whole_time_from_then(self):
         self.launch_with("late")
         pressed = self.press_and_play()
-        self.wait_for_moment(pressed, 4.5)
+        self.wait_for_moment(pressed, ALL_GONE + 0.4)
         self.assertEqual(len(self.overlays()), 1)
-        self.assert_all_gone(pressed, after=2 + 1 + ALL_GONE)
+        # A second to load, another one of silence.
+        self.assert_all_gone(pressed, after=2 + ALL_GONE + 1)
 
     def test_a_page_that_crashes_is_gone_and_the_next_one_plays(self):
         self.launch_with("never")
