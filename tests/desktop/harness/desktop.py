@@ -89,12 +89,12 @@ class Desktop:
 
     def dialogs(self, window_class):
         """The visible windows of an application that are larger than an icon, by their ids."""
-        found = self._asked("xdotool", "search", "--onlyvisible", "--class", f"^{window_class}$")
-        return [window for window in found.split() if self._geometry(window)["WIDTH"] > 100]
+        return [window for window in self._searched("--class", f"^{window_class}$")
+                if self._geometry(window)["WIDTH"] > 100]
 
     def windows_named(self, title):
         """The visible windows of that title, by their ids."""
-        return self._asked("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
+        return self._searched("--name", f"^{title}$")
 
     def frame_of(self, window):
         """Where a window is: x, y, width, height."""
@@ -115,6 +115,17 @@ class Desktop:
         values.update((key, int(value)) for key, _, value in
                       (line.partition("=") for line in lines))
         return values
+
+    def _searched(self, kind, pattern):
+        """The visible windows that fit. A search breaks off, with a word about it, when some window
+        goes while it is looked at."""
+        for _ in range(10):
+            done = subprocess.run(["xdotool", "search", "--onlyvisible", kind, pattern],
+                                  env=self.env, stdin=subprocess.DEVNULL, capture_output=True,
+                                  check=False, text=True)
+            if done.returncode == 0 or not done.stderr:
+                return done.stdout.split()
+        raise AssertionError(f"no search comes to its end: {done.stderr}")
 
     def _asked(self, *command):
         """What a tool answers, nothing where it fails because there is no such window."""
