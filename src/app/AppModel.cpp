@@ -151,6 +151,14 @@ void AppModel::prepareForTermination() {
     m_env.preferences.synchronize();
 }
 
+void AppModel::prepareForTerminationUnseen() {
+    for (QObject* heard : {static_cast<QObject*>(this), static_cast<QObject*>(&m_tracker),
+                           static_cast<QObject*>(&m_env.notifications)})
+        heard->blockSignals(true);
+    m_hasSurfaces = false;
+    prepareForTermination();
+}
+
 void AppModel::quit() {
     prepareForTermination();
     if (m_env.terminate) m_env.terminate();

@@ -116,6 +116,8 @@ public:
     /// monitor are given up, and all that is queued for the disk is written. Does nothing the
     /// second time.
     void prepareForTermination();
+    /// The same where the toolkit is half gone: no surface is told, and no view hears of a change.
+    void prepareForTerminationUnseen();
 
     // Set at launch
 
@@ -208,6 +210,7 @@ private:
     bool m_isRetagging = false;
     bool m_isDiscardingPractice = false;
     bool m_isPracticeMarked = false; ///< of the open session
+    bool m_hasSurfaces = true;       ///< that can still be told
 
     std::list<TimerHandle> m_delayedWork;
 };

@@ -141,9 +141,11 @@ void AppModel::onSessionEnded(const Session& session) {
     m_sessionBundleId.reset();
     m_collaborators.autoSkill->clearSessionOverrides();
     m_collaborators.focusLink->sessionEnded();
-    m_collaborators.notch->hide();
-    m_collaborators.ripple->play(CeremonyShow::Collapse,
-                                 m_env.skills.display(session.skillId).hexRGB, std::nullopt);
+    if (m_hasSurfaces) {
+        m_collaborators.notch->hide();
+        m_collaborators.ripple->play(CeremonyShow::Collapse,
+                                     m_env.skills.display(session.skillId).hexRGB, std::nullopt);
+    }
     // A practice session leaves no trace in the log.
     if (isPractice) m_tracker.deleteSession(session.id);
     if (m_isDiscardingPractice) {

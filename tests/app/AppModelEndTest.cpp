@@ -40,6 +40,21 @@ TEST_F(AppModelEndTest, TheStopRunsOnceHoweverOftenTheEndIsTold) {
     EXPECT_EQ(world.terminations, 2);
 }
 
+TEST_F(AppModelEndTest, WithoutAScreenTheSessionIsLoggedAndNoSurfaceIsTold) {
+    AppModel& model = world.launch();
+    world.press();
+    world.time.advance(100.0);
+    int told = 0;
+    QObject::connect(&model.tracker(), &TrackerCore::stateChanged, &model, [&] { ++told; });
+    world.told.calls.clear();
+    model.prepareForTerminationUnseen();
+    EXPECT_EQ(world.log().size(), 1u);
+    EXPECT_FALSE(world.hasMarker());
+    EXPECT_EQ(told, 0);
+    EXPECT_EQ(world.told.calls,
+              (QStringList{text("auto clear"), text("focus ended"), text("auto drain")}));
+}
+
 TEST_F(AppModelEndTest, AQuitThatCannotSaveLeavesTheMarkerForTheNextLaunch) {
     AppModel& model = world.launch();
     world.press();

@@ -172,6 +172,10 @@ void AppDelegate::applicationWillTerminate() {
     if (m_model) m_model->prepareForTermination();
 }
 
+void AppDelegate::applicationWillTerminateUnseen() {
+    if (m_model) m_model->prepareForTerminationUnseen();
+}
+
 void AppDelegate::performAction(const QString& name) {
     if (!m_model) return;
     if (name == QLatin1String("toggle"))

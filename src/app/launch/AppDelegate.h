@@ -86,6 +86,8 @@ public:
 
     /// The process is about to end, for whatever reason. Does nothing the second time.
     void applicationWillTerminate();
+    /// The same where nothing that is drawn may be touched any more.
+    void applicationWillTerminateUnseen();
 
     /// One of the actions that the desktop may call by name: "toggle", "keep", "discard", "quit",
     /// and the windows "dashboard", "wrapped", "notes", "quick-log", "settings". Unknown names do

@@ -40,6 +40,9 @@ public:
 
     [[nodiscard]] std::unique_ptr<collaborators::Ripple> makeRipple();
 
+    /// Returns when no show is being made ready beside the main thread.
+    void settle() { m_prepQueue.drain(); }
+
 private:
     const Environment m_env;
     SystemRandom m_random;

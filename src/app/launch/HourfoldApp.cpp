@@ -25,20 +25,13 @@
 #include <QStorageInfo>
 
 #include <cstdlib>
+#include <optional>
 
 namespace vantle {
 
 namespace {
 
 constexpr int kNoDesktop = 69; // EX_UNAVAILABLE
-
-/// The delegate of a running program, for the one exit that unwinds nothing: when the display
-/// server goes away, the toolkit calls exit() from inside the event loop.
-AppDelegate* runningDelegate = nullptr;
-
-void stopAtExit() {
-    if (runningDelegate) runningDelegate->applicationWillTerminate();
-}
 
 void alertAlreadyRunning() {
     (void)modalpresenter::runAlert(
@@ -127,7 +120,28 @@ struct Ground {
                                .reducedMotion = platform->reducedMotion(),
                                .screens = platform->screens(),
                                .panelHost = platform->panelHost()}};
+
+    /// Returns when nothing is under way that needs more than this.
+    void settle() {
+        ceremony.settle();
+        exportQueue.drain();
+    }
 };
+
+/// The running program, for the one exit that unwinds nothing: when the display server goes away,
+/// the toolkit calls exit() from inside the event loop.
+struct Running {
+    AppDelegate& delegate;
+    Ground& ground;
+};
+std::optional<Running> running;
+
+void stopAtExit() {
+    if (!running) return;
+    // What the toolkit keeps for this thread is gone by now; what it keeps for all goes next.
+    running->delegate.applicationWillTerminateUnseen();
+    running->ground.settle();
+}
 
 /// `isEnding` becomes true when the program is told to end.
 AppDelegate::Environment environmentOn(Ground& ground, bool startedUnasked, const bool& isEnding) {
@@ -193,12 +207,12 @@ int run(bool startedUnasked) {
     AppDelegate app(environmentOn(ground, startedUnasked, isEnding));
     if (!app.applicationDidFinishLaunching()) return EXIT_SUCCESS;
     delegate = &app;
-    runningDelegate = &app;
+    running.emplace(Running{app, ground});
     std::atexit(stopAtExit);
     ground.platform->listen();
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, stop);
     const int status = QApplication::exec();
-    runningDelegate = nullptr;
+    running.reset();
     delegate = nullptr;
     return status;
 }
