@@ -2,6 +2,7 @@
 // frames a second while it opens, the longest wait for a frame in ms (of each opening; the median,
 // since other programs have their turns as well), the processor time of a frame
 // in ms, and how many frames were drawn in ten seconds with the capsule closed.
+#include "FrameClock.h"
 #include "base/Scheduler.h"
 #include "platform/ReducedMotion.h"
 #include "platform/desktop/SettingsPreferences.h"
@@ -12,12 +13,9 @@
 
 #include <QGuiApplication>
 #include <QQmlEngine>
-#include <QTimer>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
-#include <ctime>
 
 namespace vantle::bench {
 namespace {
@@ -31,23 +29,6 @@ class Moving final : public ReducedMotion {
 public:
     [[nodiscard]] bool enabled() const override { return false; }
 };
-
-double now() {
-    using namespace std::chrono;
-    return duration<double, std::milli>(steady_clock::now().time_since_epoch()).count();
-}
-
-double processorNow() {
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return 1e3 * static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_nsec);
-}
-
-void runFor(int milliseconds) {
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec();
-}
 
 std::unique_ptr<NotchCapsule> makeCapsule(const NotchCapsule::Environment& environment,
                                           const ScreenShape& screen) {

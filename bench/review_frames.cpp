@@ -3,6 +3,7 @@
 // frame in it, both in ms (medians of all turns, since other programs have their turns as well; the
 // first turn to a page, which makes it, and its later ones alike), the processor time of a frame in
 // ms, and the per cent of a core that the open window takes while nobody does anything.
+#include "FrameClock.h"
 #include "SampleLog.h"
 #include "base/Clock.h"
 #include "base/Scheduler.h"
@@ -16,12 +17,9 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
-#include <QTimer>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
-#include <ctime>
 
 namespace vantle::bench {
 namespace {
@@ -38,23 +36,6 @@ public:
         return nullptr;
     }
 };
-
-double now() {
-    using namespace std::chrono;
-    return duration<double, std::milli>(steady_clock::now().time_since_epoch()).count();
-}
-
-double processorNow() {
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return 1e3 * static_cast<double>(time.tv_sec) + 1e-6 * static_cast<double>(time.tv_nsec);
-}
-
-void runFor(int milliseconds) {
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec();
-}
 
 double medianOf(std::vector<double> values) {
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
