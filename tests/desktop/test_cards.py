@@ -6,6 +6,7 @@ from datetime import datetime, timedelta, timezone
 from pathlib import Path
 
 from harness.case import FIRST_SKILL, DesktopTest
+from harness.records import stamp
 from harness.waiting import wait_until
 
 SUMMARY = "Vantle Session Summary"
@@ -26,10 +27,6 @@ Name=Quern
 Exec=xterm -class Quern
 StartupWMClass=Quern
 """
-
-
-def stamp(moment):
-    return moment.strftime("%Y-%m-%dT%H:%M:%SZ")
 
 
 class CardTest(DesktopTest):

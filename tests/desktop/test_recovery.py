@@ -5,13 +5,10 @@ from datetime import datetime, timedelta, timezone
 
 from harness.bus import activate_action
 from harness.case import FIRST_SKILL, DesktopTest
+from harness.records import stamp
 from harness.waiting import wait_until
 
 ID = "0F6B1D1E-4A52-4C1B-9A1E-7F3B2C5D8E90"
-
-
-def stamp(moment):
-    return moment.strftime("%Y-%m-%dT%H:%M:%SZ")
 
 
 class Recovery(DesktopTest):

@@ -5,6 +5,7 @@ from datetime import datetime, timedelta, timezone
 
 from harness.bus import activate
 from harness.case import FIRST_SKILL, PANEL_TITLE
+from harness.records import stamp
 from harness.waiting import wait_until
 from harness.windows import DASHBOARD, NOTES, QUICK_LOG, WELCOME, WRAPPED, ReaderCase, record
 
@@ -13,10 +14,6 @@ SUMMARY = "Vantle Session Summary"
 RECOVERY = "Vantle Recovery"
 
 MODES = ("Build", "Design", "Marketing", "Distribution", "Founder Ops", "Connections")
-
-
-def stamp(moment):
-    return moment.strftime("%Y-%m-%dT%H:%M:%SZ")
 
 
 class ScreenReader(ReaderCase):

@@ -1,10 +1,11 @@
 """The review's poster on its way to other programs and into files."""
 
-import datetime
 import unittest
+from datetime import datetime, timedelta
 from pathlib import Path
 
 from harness.clipboard_manager import ClipboardManager
+from harness.records import worked
 from harness.waiting import wait_until
 from harness.windows import DASHBOARD, ReaderCase
 
@@ -17,27 +18,12 @@ PNG = b"\x89PNG\r\n\x1a\n"
 WIDTH = 844  # px of the picture
 
 
-def worked(number, minutes_ago, minutes):
-    """A session that began so long ago."""
-    begin = datetime.datetime.now(datetime.timezone.utc)
-    begin -= datetime.timedelta(minutes=minutes_ago)
-    end = begin + datetime.timedelta(minutes=minutes)
-    return {
-        "id": f"5A3B1D1E-4A52-4C1B-9A1E-{number:012d}",
-        "skillId": "building",
-        "startedAt": begin.strftime("%Y-%m-%dT%H:%M:%SZ"),
-        "endedAt": end.strftime("%Y-%m-%dT%H:%M:%SZ"),
-        "activeSeconds": 60 * minutes,
-        "note": "",
-        "source": "mac_app",
-    }
-
-
 class Share(ReaderCase):
 
     def setUp(self):
         super().setUp()
-        self.write_records([worked(1, 40, 30)])
+        # It ends now, so that it belongs to this week in its first minutes too.
+        self.write_records([worked(1, datetime.now() - timedelta(minutes=30), 30)])
         self.launch()
         self.open(*WRAPPED)
         self.desktop.press("End")

@@ -1,34 +1,12 @@
 """The review, opened and gone through as a person does."""
 
-import datetime
 import unittest
 
 from harness.bus import activate
 from harness.case import PANEL_TITLE
+from harness.records import work_of_last_week
 from harness.waiting import wait_until
 from harness.windows import WRAPPED, ReaderCase
-
-
-def worked(number, begin, minutes):
-    end = begin + datetime.timedelta(minutes=minutes)
-    return {
-        "id": f"5A3B1D1E-4A52-4C1B-9A1E-{number:012d}",
-        "skillId": ("building", "marketing")[number % 2],
-        "startedAt": begin.strftime("%Y-%m-%dT%H:%M:%SZ"),
-        "endedAt": end.strftime("%Y-%m-%dT%H:%M:%SZ"),
-        "activeSeconds": 60 * minutes,
-        "note": "",
-        "source": "mac_app",
-    }
-
-
-def work_of_last_week():
-    """Six sessions on three days in the middle of last week; weeks begin on Sundays here."""
-    today = datetime.datetime.now(datetime.timezone.utc).replace(minute=0, second=0)
-    sunday = today - datetime.timedelta(days=today.isoweekday() % 7)
-    return [worked(2 * day + part, sunday.replace(hour=9 + 5 * part)
-                   - datetime.timedelta(days=5 - day), 70)
-            for day in range(3) for part in range(2)]
 
 
 class Wrapped(ReaderCase):

@@ -4,6 +4,7 @@ import json
 
 from .bus import activate_action
 from .case import DesktopTest
+from .records import record
 from .waiting import wait_until
 
 # The action that opens a window, and its title.
@@ -13,19 +14,6 @@ QUICK_LOG = ("quick-log", "Quick Log")
 SETTINGS = ("settings", "Settings")
 WRAPPED = ("wrapped", "Wrapped")
 WELCOME = "Welcome"
-
-
-def record(number, note, source="mac_app"):
-    """A session of half an hour on a day of long ago."""
-    return {
-        "id": f"5A3B1D1E-4A52-4C1B-9A1E-{number:012d}",
-        "skillId": "building",
-        "startedAt": f"2025-11-{number:02d}T09:00:00Z",
-        "endedAt": f"2025-11-{number:02d}T09:30:00Z",
-        "activeSeconds": 1800,
-        "note": note,
-        "source": source,
-    }
 
 
 class WindowCase(DesktopTest):
