@@ -57,7 +57,11 @@ bool keeps(double ours, double bound, double limit, Goal::Kind kind) {
 void TableReporter::ReportRuns(const std::vector<Run>& runs) {
     ConsoleReporter::ReportRuns(runs);
     for (const Run& run : runs) {
-        if (run.error_occurred) m_allMet = false;
+        if (run.error_occurred) {
+            m_allMet = false;
+            m_rows.push_back("| " + run.run_name.function_name + " | " + run.error_message +
+                             " | | | | no |");
+        }
         if (!run.counters.contains("ours")) continue;
         const double ours = run.counters.at("ours");
         const double bound = run.counters.at("bound");
