@@ -1,6 +1,7 @@
 """A ceremony page in place of the native show: what it is told, what it may say, how it ends."""
 
 import os
+import shutil
 import signal
 import socket
 import time
@@ -27,7 +28,7 @@ class Page(CeremonyCase):
         (prefix / "share" / "vantle").mkdir(parents=True)
         for part, folder in PARTS.items():
             (prefix / folder).mkdir(parents=True, exist_ok=True)
-            os.link(EXECUTABLE.parent / part, prefix / folder / part)
+            shutil.copy(EXECUTABLE.parent / part, prefix / folder / part)
         self.page = prefix / "share" / "vantle" / "ceremony.html"
         if os.getuid() == 0:
             # The engine refuses to run its sandbox as root.
