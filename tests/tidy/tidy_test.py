@@ -7,6 +7,10 @@ tried on files made here, since long examples would be long.
 
 import contextlib
 import io
+import os
+import re
+import shutil
+import subprocess
 import sys
 import tempfile
 import unittest
@@ -16,7 +20,9 @@ HERE = Path(__file__).resolve().parent
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(HERE.parents[1] / "tools" / "tidy"))
 
+import programs  # noqa: E402
 import tidy  # noqa: E402
+from tree import Tree  # noqa: E402
 
 HEADER = "// What it is for.\n#pragma once\n"
 
@@ -102,6 +108,42 @@ class Lengths(unittest.TestCase):
         self.put("src/base/A.h", HEADER + "// " + "\u00e9" * 97 + "\n// " + "x" * 98 + "\n")
         self.assertEqual(findings(self.root),
                          ["src/base/A.h:4: 101 columns; 100 are the most [length]"])
+
+
+class Programs(unittest.TestCase):
+
+    @staticmethod
+    def query(*words):
+        return subprocess.run(["dpkg-query", *words], check=False, text=True,
+                              capture_output=True).stdout.splitlines()
+
+    def test_the_packages_that_the_table_names_have_them(self):
+        """As far as they are installed. A package may depend on the one that has the program: some
+        only point to that of their present version."""
+        if shutil.which("dpkg-query") is None:
+            return
+        table = {program: package for program, (package, _) in
+                 programs.table_of(Tree(HERE.parents[1])).items() if package != "-"}
+        fields = "-f=${db:Status-Status} ${Package} ${Pre-Depends} ${Depends}\\n"
+        installed = [re.findall(r"[\w.+-]+", line)[1:]
+                     for line in self.query("-W", fields, *set(table.values()))
+                     if line.startswith("installed ")]
+        brought = {names[0]: set(names) for names in installed}
+        owners = {}
+        for line in self.query("-S", *(place for program in table for place in places(program))):
+            package, _, path = line.partition(": ")
+            owners[path] = package.split(":")[0]
+        for program, package in table.items():
+            with self.subTest(program=program):
+                if package in brought:
+                    found = {owners.get(place) for place in places(program)}
+                    self.assertTrue(found & brought[package], f"{package} does not have it")
+
+
+def places(program):
+    """Where a program is installed, by all the names of the file."""
+    path = shutil.which(program, path="/usr/bin:/bin:/usr/sbin:/sbin:/usr/libexec")
+    return {path, path.removeprefix("/usr"), os.path.realpath(path)} if path else set()
 
 
 class Command(unittest.TestCase):

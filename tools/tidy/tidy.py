@@ -15,9 +15,10 @@ import headers  # noqa: E402
 import layers  # noqa: E402
 import lengths  # noqa: E402
 import listed  # noqa: E402
+import programs  # noqa: E402
 from tree import Tree  # noqa: E402
 
-CHECKS = (layers, banned, listed, lengths, docs, headers)
+CHECKS = (layers, banned, listed, lengths, docs, headers, programs)
 
 
 def findings(root):
