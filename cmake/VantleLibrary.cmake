@@ -6,6 +6,7 @@ function(vantle_library name)
     add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src")
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} PRIVATE ${ARG_PRIVATE_LINKS})
+    vantle_precompile(${name})
 endfunction()
 
 # A folder with views: a static library that is a QML module as well. Programs link NAME and NAMEplugin.
@@ -44,4 +45,5 @@ function(vantle_qml_module name)
     target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src"
                                        PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} Qt6::Quick)
+    vantle_precompile(${name})
 endfunction()
