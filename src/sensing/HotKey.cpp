@@ -2,6 +2,8 @@
 
 #include <QPointer>
 
+#include <utility>
+
 namespace vantle {
 namespace {
 
@@ -13,12 +15,18 @@ QString failureText(const HotKeyPort::Outcome& outcome) {
 
 } // namespace
 
-HotKey::HotKey(HotKeyPort& port, Scheduler& scheduler) : m_port(port), m_scheduler(scheduler) {}
+HotKey::HotKey(HotKeyPort& port, Scheduler& scheduler) : m_port(port), m_scheduler(scheduler) {
+    m_port.onOutcomeChanged = [this](const auto& outcome) { adopt(outcome); };
+}
 
-HotKey::~HotKey() { release(); }
+HotKey::~HotKey() {
+    m_port.onOutcomeChanged = nullptr;
+    release();
+}
 
 void HotKey::registerHotKey() {
     if (m_isRegistered) return;
+    release(); // a combination that was lost
 
     // 1. and 2. The handler first, so that no press is lost between the two.
     const int status = m_port.installHandler([this] { deliverPressLater(); });
@@ -30,15 +38,17 @@ void HotKey::registerHotKey() {
 
     // 3. The combination itself.
     const HotKeyPort::Outcome outcome = m_port.registerKey();
-    if (outcome.registration == HotKeyPort::Registration::Registered) {
-        setRegistered(true);
-        setRegistrationError(std::nullopt);
-        return;
-    }
+    m_portHolds = outcome.registration == HotKeyPort::Registration::Registered;
+    adopt(outcome);
 
     // 4. A handler without a key has no use, and the next attempt installs its own.
-    m_port.removeHandler();
-    setRegistrationError(failureText(outcome));
+    if (!m_portHolds) m_port.removeHandler();
+}
+
+void HotKey::adopt(const HotKeyPort::Outcome& outcome) {
+    const bool registered = outcome.registration == HotKeyPort::Registration::Registered;
+    setRegistered(registered);
+    setRegistrationError(registered ? std::nullopt : std::optional(failureText(outcome)));
 }
 
 void HotKey::unregisterHotKey() {
@@ -47,7 +57,7 @@ void HotKey::unregisterHotKey() {
 }
 
 void HotKey::release() {
-    if (!m_isRegistered) return;
+    if (!std::exchange(m_portHolds, false)) return;
     m_port.unregisterKey();
     m_port.removeHandler();
 }

@@ -13,7 +13,8 @@
 namespace vantle {
 
 /// Holds the combination while registered. A failure is told in `registrationError`, in the
-/// person's words, and nowhere else; nothing is tried again by itself. Main thread.
+/// person's words, and nowhere else. A registration that failed is not tried again by itself; a
+/// combination that was taken and is lost, the port takes again when it can. Main thread.
 class HotKey final : public QObject {
     Q_OBJECT
     /// The shortcut is active.
@@ -50,6 +51,7 @@ Q_SIGNALS:
     void registrationErrorChanged();
 
 private:
+    void adopt(const HotKeyPort::Outcome& outcome);
     void deliverPressLater();
     void release();
     void setRegistered(bool registered);
@@ -60,7 +62,8 @@ private:
 
     HotKeyPort& m_port;
     Scheduler& m_scheduler;
-    bool m_isRegistered = false; ///< the port holds the key and the handler exactly while true
+    bool m_portHolds = false; ///< the handler, and the key unless it was lost
+    bool m_isRegistered = false;
     std::optional<QString> m_registrationError;
 };
 

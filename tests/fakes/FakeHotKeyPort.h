@@ -24,12 +24,22 @@ public:
         if (outcome.registration == Registration::Registered) ++keys;
         return outcome;
     }
-    void unregisterKey() override { --keys; }
+    void unregisterKey() override {
+        --keys;
+        m_isLost = false;
+    }
     [[nodiscard]] bool hearsEveryApp() const override { return isHeardEverywhere; }
+
+    /// The desktop takes the combination away, or gives it back; nothing when it was never taken.
+    void become(const Outcome& now) {
+        if (keys == 0) return;
+        m_isLost = now.registration != Registration::Registered;
+        if (onOutcomeChanged) onOutcomeChanged(now);
+    }
 
     /// The person presses the combination. Whether anybody was there to hear it.
     bool press() {
-        if (keys == 0 || !m_pressed) return false;
+        if (keys == 0 || m_isLost || !m_pressed) return false;
         m_pressed();
         return true;
     }
@@ -45,6 +55,7 @@ public:
 
 private:
     std::function<void()> m_pressed;
+    bool m_isLost = false;
 };
 
 } // namespace vantle::fakes

@@ -134,6 +134,35 @@ TEST_F(HotKeyTest, DoesNotTryAgainByItself) {
     expectHeld(false);
 }
 
+TEST_F(HotKeyTest, TellsThatTheCombinationWasLostAndThatItIsBack) {
+    hotKey->registerHotKey();
+    port.become({Registration::HeldByAnother, 0});
+    EXPECT_FALSE(hotKey->isRegistered());
+    EXPECT_EQ(hotKey->registrationError(),
+              QStringLiteral("\u2325\u2318B is already used by another app."));
+    port.become({Registration::Registered, 0});
+    EXPECT_EQ(hotKey->registrationError(), std::nullopt);
+    expectHeld(true);
+    port.press();
+    time.settle();
+    EXPECT_EQ(presses, 1);
+}
+
+TEST_F(HotKeyTest, ALostCombinationIsGivenBackAndCanBeRegisteredAnew) {
+    hotKey->registerHotKey();
+    port.become({Registration::Failed, -2});
+    hotKey->registerHotKey();
+    expectHeld(true);
+    port.become({Registration::Failed, -2});
+    hotKey->unregisterHotKey();
+    expectHeld(false);
+    hotKey->registerHotKey();
+    port.become({Registration::Failed, -2});
+    hotKey.reset();
+    EXPECT_EQ(port.handlers, 0);
+    EXPECT_EQ(port.keys, 0);
+}
+
 TEST_F(HotKeyTest, GivesTheCombinationBack) {
     hotKey->registerHotKey();
     hotKey->unregisterHotKey();

@@ -206,6 +206,50 @@ TEST_F(X11HotKeyTest, CombinationMovesWithTheKeyboardLayout) {
     EXPECT_EQ(m_pressed, 2);
 }
 
+TEST_F(X11HotKeyTest, LossByTheKeyboardMapAndReturnAreTold) {
+    std::vector<HotKeyPort::Outcome> told;
+    m_key.onOutcomeChanged = [&](const auto& outcome) { told.push_back(outcome); };
+    registerKey();
+    ASSERT_TRUE(tests::run(QStringLiteral("xmodmap -e \"clear mod4\"")));
+    catchUp(m_connection);
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told[0], (HotKeyPort::Outcome{Registration::Failed, X11HotKey::kNoSuchKey}));
+    ASSERT_TRUE(tests::run(QStringLiteral("xmodmap -e \"add mod4 = Super_L\"")));
+    catchUp(m_connection);
+    ASSERT_EQ(told.size(), 2U);
+    EXPECT_EQ(told[1], (HotKeyPort::Outcome{Registration::Registered, 0}));
+    press();
+    EXPECT_EQ(m_pressed, 1);
+}
+
+TEST_F(X11HotKeyTest, KeyThatAnotherProgramHoldsAtItsNewPlaceIsTakenOnceItIsFree) {
+    std::vector<HotKeyPort::Outcome> told;
+    m_key.onOutcomeChanged = [&](const auto& outcome) { told.push_back(outcome); };
+    registerKey();
+    X11Connection other;
+    constexpr xcb_keycode_t kPlaceOnDvorak = 57;
+    ASSERT_EQ(other.check(xcb_grab_key_checked(other.xcb(), 0, other.root(),
+                                               XCB_MOD_MASK_1 | XCB_MOD_MASK_4, kPlaceOnDvorak,
+                                               XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC)),
+              0);
+    ASSERT_TRUE(tests::run(QStringLiteral("setxkbmap dvorak")));
+    catchUp(m_connection);
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told[0], (HotKeyPort::Outcome{Registration::HeldByAnother, 0}));
+
+    m_time.advance(30);
+    EXPECT_EQ(told.size(), 1U) << "the same once more is nothing new";
+    ASSERT_EQ(other.check(xcb_ungrab_key_checked(other.xcb(), XCB_GRAB_ANY, other.root(),
+                                                 XCB_MOD_MASK_ANY)),
+              0);
+    m_time.advance(15);
+    ASSERT_EQ(told.size(), 2U);
+    EXPECT_EQ(told[1], (HotKeyPort::Outcome{Registration::Registered, 0}));
+    type(QStringLiteral("keydown alt keydown super key 57 keyup super keyup alt"));
+    EXPECT_EQ(m_pressed, 1);
+    EXPECT_EQ(m_time.timerCount(), 0U);
+}
+
 TEST_F(X11HotKeyTest, LayoutWithoutTheLetterUsesItsPlace) {
     ASSERT_TRUE(tests::run(QStringLiteral("setxkbmap gr")));
     registerKey();

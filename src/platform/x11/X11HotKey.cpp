@@ -1,12 +1,12 @@
 #include "platform/x11/X11HotKey.h"
 
-#include "base/Scheduler.h"
-
 namespace vantle {
 
 namespace {
 
 constexpr int kBadAccess = 10; ///< X error: another client has the grab
+constexpr Seconds kRetryInterval{10.0};
+constexpr Seconds kRetryTolerance{2.0};
 
 template <typename Event>
 const Event& as(const xcb_generic_event_t& event) {
@@ -41,23 +41,29 @@ void X11HotKey::removeHandler() {
 }
 
 HotKeyPort::Outcome X11HotKey::registerKey() {
-    if (m_registered) return {Registration::Registered, 0};
-    if (!m_connection.isAlive()) return {Registration::Failed, kNoConnection};
-    const auto combination = X11KeyCombination::altSuperB(m_connection);
-    if (!combination) return {Registration::Failed, kNoSuchKey};
-    const Outcome outcome = grab(*combination);
-    if (outcome.registration != Registration::Registered) return outcome;
+    if (m_grabbed) return {Registration::Registered, 0};
+    m_outcome = grabAtItsPlace();
+    if (!m_grabbed) return m_outcome;
     m_registered = true;
+    m_retry.reset();
     m_mappings = m_connection.subscribe(XCB_MAPPING_NOTIFY, [this](const auto& event) {
         if (as<xcb_mapping_notify_event_t>(event).request != XCB_MAPPING_POINTER) handleMapping();
     });
-    return outcome;
+    return m_outcome;
 }
 
 void X11HotKey::unregisterKey() {
     m_registered = false;
     m_mappings = {};
+    m_retry.reset();
     ungrab();
+}
+
+HotKeyPort::Outcome X11HotKey::grabAtItsPlace() {
+    if (!m_connection.isAlive()) return {Registration::Failed, kNoConnection};
+    const auto combination = X11KeyCombination::altSuperB(m_connection);
+    if (!combination) return {Registration::Failed, kNoSuchKey};
+    return grab(*combination);
 }
 
 HotKeyPort::Outcome X11HotKey::grab(const X11KeyCombination& combination) {
@@ -88,10 +94,19 @@ void X11HotKey::ungrab() {
 }
 
 void X11HotKey::handleMapping() {
-    const auto combination = X11KeyCombination::altSuperB(m_connection);
-    if (combination == m_grabbed) return;
+    if (m_grabbed && X11KeyCombination::altSuperB(m_connection) == m_grabbed) return;
     ungrab();
-    if (combination) (void)grab(*combination);
+    regrab();
+}
+
+void X11HotKey::regrab() {
+    const Outcome outcome = grabAtItsPlace();
+    if (m_grabbed)
+        m_retry.reset();
+    else if (!m_retry)
+        m_retry = m_scheduler.scheduleRepeatingTimer(kRetryInterval, kRetryTolerance,
+                                                     [this] { regrab(); });
+    if (std::exchange(m_outcome, outcome) != outcome && onOutcomeChanged) onOutcomeChanged(outcome);
 }
 
 void X11HotKey::handlePress(const xcb_key_press_event_t& event) {

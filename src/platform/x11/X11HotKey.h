@@ -1,6 +1,7 @@
 // Alt+Super+B, heard from any application.
 #pragma once
 
+#include "base/Scheduler.h"
 #include "platform/HotKeyPort.h"
 #include "platform/x11/KeyRepeatFilter.h"
 #include "platform/x11/X11Connection.h"
@@ -11,10 +12,9 @@
 
 namespace vantle {
 
-class Scheduler;
-
 /// Grabs the combination on the root window. A change of the keyboard map grabs it anew at its new
-/// place; where that fails it is tried again at the next change.
+/// place. Where that fails it is tried again at the next change and every ten seconds, since no
+/// server tells when another program gives a key back.
 ///
 /// While another program holds the whole keyboard, an open menu or a screen locker, presses don't
 /// reach us. In a Wayland session they do so only while an X11 window has it.
@@ -38,6 +38,8 @@ private:
     void handlePress(const xcb_key_press_event_t& event);
     void handleRelease(const xcb_key_release_event_t& event);
     void handleMapping();
+    void regrab();
+    [[nodiscard]] Outcome grabAtItsPlace();
     [[nodiscard]] Outcome grab(const X11KeyCombination& combination);
     void ungrab();
 
@@ -45,8 +47,10 @@ private:
     Scheduler& m_scheduler;
     const bool m_inWaylandSession;
     std::shared_ptr<std::function<void()>> m_pressed; ///< posted calls hold it weakly
-    bool m_registered = false;
-    std::optional<X11KeyCombination> m_grabbed;
+    bool m_registered = false;                        ///< wanted, if not held since the map changed
+    std::optional<X11KeyCombination> m_grabbed;       ///< while held
+    Outcome m_outcome;                                ///< as told last
+    TimerHandle m_retry;                              ///< while registered and not held
     KeyRepeatFilter m_repeats;
     X11Connection::Subscription m_presses, m_releases, m_mappings;
 };
