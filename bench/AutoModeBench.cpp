@@ -26,6 +26,7 @@ constexpr int kSwitches = 1'000;
 class Desktop final : public FrontmostApp {
 public:
     [[nodiscard]] std::optional<Application> frontmost() override { return m_front; }
+    [[nodiscard]] AppCoverage coverage() const override { return AppCoverage::All; }
     void bring(const Application& app) {
         m_front = app;
         Q_EMIT activated(m_front);
@@ -39,6 +40,7 @@ private:
 class Present final : public IdleSource {
 public:
     [[nodiscard]] std::optional<double> secondsSinceLastInput() override { return 0; }
+    [[nodiscard]] bool canTell() const override { return true; }
 };
 
 /// Two known applications, a browser, and one that nobody has heard of.

@@ -15,8 +15,15 @@ struct Application {
     friend bool operator==(const Application&, const Application&) = default;
 };
 
-/// Tells which application has the keyboard, now and whenever that changes. Main thread, the signal
-/// included.
+/// The applications that a desktop tells about when they come to the front.
+enum class AppCoverage {
+    All,
+    Some, ///< the others have the keyboard without a word, and nothing is in front then
+    None, ///< the desktop can't tell at all
+};
+
+/// Tells which application has the keyboard, now and whenever that changes. Main thread, the
+/// signals included.
 class FrontmostApp : public QObject {
     Q_OBJECT
 
@@ -25,9 +32,14 @@ public:
     /// tell.
     [[nodiscard]] virtual std::optional<Application> frontmost() = 0;
 
+    /// What this desktop can tell at all. `frontmost` alone does not say it: with `All` it is empty
+    /// while no application is in front.
+    [[nodiscard]] virtual AppCoverage coverage() const = 0;
+
 Q_SIGNALS:
     /// Another application came to the front, or the same one again. Empty when none is in front.
     void activated(const std::optional<vantle::Application>& app);
+    void coverageChanged();
 };
 
 } // namespace vantle

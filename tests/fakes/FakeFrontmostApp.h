@@ -3,11 +3,14 @@
 
 #include "platform/FrontmostApp.h"
 
+#include <utility>
+
 namespace vantle::fakes {
 
 class FakeFrontmostApp final : public FrontmostApp {
 public:
     [[nodiscard]] std::optional<Application> frontmost() override { return application; }
+    [[nodiscard]] AppCoverage coverage() const override { return m_coverage; }
 
     /// Brings `app` to the front and tells it, also when it is in front already.
     void activate(const std::optional<Application>& app) {
@@ -15,8 +18,16 @@ public:
         Q_EMIT activated(app);
     }
 
+    /// The desktop tells about these applications from now on.
+    void setCoverage(AppCoverage coverage) {
+        if (std::exchange(m_coverage, coverage) != coverage) Q_EMIT coverageChanged();
+    }
+
     /// In front now. A change by this way is told to nobody.
     std::optional<Application> application;
+
+private:
+    AppCoverage m_coverage = AppCoverage::All;
 };
 
 } // namespace vantle::fakes

@@ -4,6 +4,8 @@
 #include "fakes/VirtualTime.h"
 #include "platform/IdleSource.h"
 
+#include <utility>
+
 namespace vantle::fakes {
 
 class FakeIdleSource final : public IdleSource {
@@ -19,13 +21,19 @@ public:
     /// Somebody touches the machine now, and not again.
     void touch() { growFrom(0); }
 
-    /// The desktop does not tell any more.
+    /// The desktop does not tell now.
     void becomeUnknown() { m_base.reset(); }
 
+    /// The desktop can't tell at all, or it can.
+    void setCanTell(bool canTell) {
+        if (std::exchange(m_canTell, canTell) != canTell) Q_EMIT canTellChanged();
+    }
+
     [[nodiscard]] std::optional<double> secondsSinceLastInput() override {
-        if (!m_base) return std::nullopt;
+        if (!m_base || !m_canTell) return std::nullopt;
         return m_grows ? *m_base + m_time.timerClock() - m_setAt : *m_base;
     }
+    [[nodiscard]] bool canTell() const override { return m_canTell; }
 
 private:
     void set(double seconds, bool grows) {
@@ -38,6 +46,7 @@ private:
     std::optional<double> m_base = 0.0;
     bool m_grows = false;
     double m_setAt = 0;
+    bool m_canTell = true;
 };
 
 } // namespace vantle::fakes

@@ -267,6 +267,25 @@ TEST_F(X11FrontmostAppTest, ServerWithoutAWindowManagerHasNothingInFront) {
     X11Connection connection(server.display());
     X11FrontmostApp frontmost(connection, [](const auto&) { return Application(); });
     EXPECT_EQ(frontmost.frontmost(), std::nullopt);
+    EXPECT_EQ(frontmost.coverage(), AppCoverage::None);
+}
+
+TEST_F(X11FrontmostAppTest, EveryApplicationIsToldOnceThereIsAWindowManager) {
+    EXPECT_EQ(m_frontmost.coverage(), AppCoverage::All);
+    const tests::OwnServer server;
+    X11Connection connection(server.display());
+    X11FrontmostApp frontmost(connection, [](const auto&) { return Application(); });
+    int changes = 0;
+    QObject::connect(&frontmost, &FrontmostApp::coverageChanged, &frontmost, [&] { ++changes; });
+    QProcess manager;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(q("DISPLAY"), QString::fromLatin1(server.display()));
+    manager.setProcessEnvironment(environment);
+    manager.start(q("openbox"), {});
+    EXPECT_TRUE(tests::await([&] { return frontmost.coverage() == AppCoverage::All; }));
+    EXPECT_EQ(changes, 1);
+    manager.kill();
+    manager.waitForFinished();
 }
 
 TEST_F(X11FrontmostAppTest, NothingIsInFrontOnceTheServerIsGone) {

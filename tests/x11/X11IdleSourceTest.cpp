@@ -35,12 +35,16 @@ TEST(X11IdleSource, IsEmptyWithoutTheExtension) {
     tests::OwnServer server({QStringLiteral("-extension"), QStringLiteral("MIT-SCREEN-SAVER")});
     X11Connection connection(server.display());
     ASSERT_TRUE(connection.isAlive());
-    EXPECT_EQ(X11IdleSource(connection).secondsSinceLastInput(), std::nullopt);
+    X11IdleSource source(connection);
+    EXPECT_EQ(source.secondsSinceLastInput(), std::nullopt);
+    EXPECT_FALSE(source.canTell());
 }
 
 TEST(X11IdleSource, IsEmptyWithoutAServer) {
     X11Connection connection(":4711");
-    EXPECT_EQ(X11IdleSource(connection).secondsSinceLastInput(), std::nullopt);
+    X11IdleSource source(connection);
+    EXPECT_EQ(source.secondsSinceLastInput(), std::nullopt);
+    EXPECT_FALSE(source.canTell());
 }
 
 TEST(X11IdleSource, IsEmptyAfterTheServerWentAway) {
@@ -48,7 +52,12 @@ TEST(X11IdleSource, IsEmptyAfterTheServerWentAway) {
     X11Connection connection(server.display());
     X11IdleSource source(connection);
     ASSERT_TRUE(source.secondsSinceLastInput().has_value());
+    EXPECT_TRUE(source.canTell());
+    int changes = 0;
+    QObject::connect(&source, &IdleSource::canTellChanged, &source, [&] { ++changes; });
     server.stop();
+    EXPECT_TRUE(await([&] { return changes == 1; }));
+    EXPECT_FALSE(source.canTell());
     EXPECT_EQ(source.secondsSinceLastInput(), std::nullopt);
     EXPECT_EQ(source.secondsSinceLastInput(), std::nullopt);
 }

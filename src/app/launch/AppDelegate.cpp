@@ -114,11 +114,27 @@ void AppDelegate::makeWindows() {
         WindowEnvironment{m_env.viewEngine, m_activation, m_env.preferences, m_env.screens,
                           m_env.panelHost, [this] { m_model->quit(); }},
         m_notifications);
-    registerWindows({*m_model, m_skills, m_notifications, m_env.preferences, m_env.clock,
-                     m_env.scheduler, m_env.reducedMotion, m_env.calendar, *m_router,
-                     m_autoSkill.rules(), m_focusLink, m_env.autostart, m_env.paths, m_env.ioQueue,
-                     m_env.reveal, m_env.openShortcuts, m_env.languageModel, m_env.posterSharing,
-                     m_env.trayItem});
+    registerWindows({*m_model,
+                     m_skills,
+                     m_notifications,
+                     m_env.preferences,
+                     m_env.clock,
+                     m_env.scheduler,
+                     m_env.reducedMotion,
+                     m_env.calendar,
+                     *m_router,
+                     m_autoSkill.rules(),
+                     m_focusLink,
+                     m_env.autostart,
+                     m_env.paths,
+                     m_env.ioQueue,
+                     m_env.reveal,
+                     m_env.openShortcuts,
+                     m_env.languageModel,
+                     m_env.posterSharing,
+                     m_env.trayItem,
+                     m_env.idleSource,
+                     m_env.frontmostApp});
     m_commandCenter =
         std::make_unique<CommandCenterController>(CommandCenterController::Environment{
             *m_model, m_skills, m_env.preferences, m_env.clock, m_env.scheduler, *m_router,

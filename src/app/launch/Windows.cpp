@@ -106,6 +106,8 @@ std::unique_ptr<QObject> makeSettings(const WindowParts& parts) {
                                   .reveal = parts.reveal,
                                   .openShortcuts = parts.openShortcuts,
                                   .tray = parts.tray,
+                                  .idleSource = parts.idleSource,
+                                  .frontmostApp = parts.frontmostApp,
                                   .copy = copyText,
                                   .eraseAllData = [&model = parts.model, &router = parts.router] {
                                       return eraseAndStartOver(model, router);

@@ -46,6 +46,8 @@ struct WindowParts {
     LanguageModel& languageModel;
     PosterSharing& posterSharing;
     const TrayItem& tray;
+    const IdleSource& idleSource;
+    const FrontmostApp& frontmostApp;
 };
 
 /// Tells the router of every window that there is. Main thread, once.

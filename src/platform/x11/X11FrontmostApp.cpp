@@ -23,8 +23,10 @@ X11FrontmostApp::X11FrontmostApp(X11Connection& connection, IdentityResolver res
     , m_reader(connection)
     , m_resolve(std::move(resolve)) {
     follow();
+    refreshCoverage();
     refresh(); // nobody listens yet
     connect(&m_connection, &X11Connection::broken, this, [this] {
+        setCoverage(AppCoverage::None);
         if (!std::exchange(m_application, std::nullopt)) return;
         Q_EMIT activated(std::nullopt);
     });
@@ -35,8 +37,9 @@ void X11FrontmostApp::follow() {
     m_properties =
         m_connection.subscribe(XCB_PROPERTY_NOTIFY, [this](const xcb_generic_event_t& event) {
             const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
-            if (change.window == m_connection.root() && change.atom == m_reader.activeWindowAtom())
-                refresh();
+            if (change.window != m_connection.root()) return;
+            if (change.atom == m_reader.activeWindowAtom()) refresh();
+            if (change.atom == m_reader.supportedAtom()) refreshCoverage();
         });
     const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_change_window_attributes(m_connection.xcb(), m_connection.root(), XCB_CW_EVENT_MASK, &mask);
@@ -48,6 +51,14 @@ void X11FrontmostApp::refresh() {
     if (window == XCB_NONE) return;
     const auto former = std::exchange(m_application, applicationOf(window));
     if (!sameApplication(former, m_application)) Q_EMIT activated(m_application);
+}
+
+void X11FrontmostApp::refreshCoverage() {
+    setCoverage(m_reader.tellsActiveWindow() ? AppCoverage::All : AppCoverage::None);
+}
+
+void X11FrontmostApp::setCoverage(AppCoverage coverage) {
+    if (std::exchange(m_coverage, coverage) != coverage) Q_EMIT coverageChanged();
 }
 
 std::optional<Application> X11FrontmostApp::applicationOf(xcb_window_t window) {

@@ -26,16 +26,21 @@ public:
 
     /// As the server told it last; asks nobody.
     [[nodiscard]] std::optional<Application> frontmost() override { return m_application; }
+    /// None without a window manager that keeps the property, else all.
+    [[nodiscard]] AppCoverage coverage() const override { return m_coverage; }
 
 private:
     void follow();
     void refresh();
+    void refreshCoverage();
+    void setCoverage(AppCoverage coverage);
     [[nodiscard]] std::optional<Application> applicationOf(xcb_window_t window);
 
     X11Connection& m_connection;
     X11WindowReader m_reader;
     const IdentityResolver m_resolve;
     std::optional<Application> m_application;
+    AppCoverage m_coverage = AppCoverage::None;
     X11Connection::Subscription m_properties;
 };
 

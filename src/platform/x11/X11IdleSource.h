@@ -18,10 +18,11 @@ public:
     explicit X11IdleSource(X11Connection& connection);
 
     [[nodiscard]] std::optional<double> secondsSinceLastInput() override;
+    [[nodiscard]] bool canTell() const override;
 
 private:
     X11Connection& m_connection;
-    bool m_available = false;
+    const bool m_available;
 };
 
 } // namespace vantle

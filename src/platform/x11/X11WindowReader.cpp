@@ -4,7 +4,9 @@
 
 #include <QSysInfo>
 
+#include <algorithm>
 #include <cstring>
+#include <span>
 
 namespace vantle {
 
@@ -17,11 +19,10 @@ constexpr std::uint32_t kMaxWords = 256;
 
 using Property = XcbOwned<xcb_get_property_reply_t>;
 
-constexpr std::array<const char*, 8> kNames{
-    "_NET_ACTIVE_WINDOW",          "_NET_WM_PID",
-    "_NET_WM_WINDOW_TYPE",         "_NET_WM_WINDOW_TYPE_DOCK",
-    "_NET_WM_WINDOW_TYPE_DESKTOP", "_GTK_APPLICATION_ID",
-    "_KDE_NET_WM_DESKTOP_FILE",    "UTF8_STRING",
+constexpr std::array<const char*, 9> kNames{
+    "_NET_ACTIVE_WINDOW",  "_NET_SUPPORTED",           "_NET_WM_PID",
+    "_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DOCK", "_NET_WM_WINDOW_TYPE_DESKTOP",
+    "_GTK_APPLICATION_ID", "_KDE_NET_WM_DESKTOP_FILE", "UTF8_STRING",
 };
 
 /// The first number of a property of numbers.
@@ -68,6 +69,18 @@ xcb_window_t X11WindowReader::activeWindow() {
     const auto answer = m_connection.reply<xcb_get_property_reply>(xcb_get_property(
         m_connection.xcb(), 0, m_connection.root(), m_atoms[ActiveWindow], XCB_ATOM_WINDOW, 0, 1));
     return number(answer.get()).value_or(XCB_NONE);
+}
+
+bool X11WindowReader::tellsActiveWindow() {
+    const auto answer = m_connection.reply<xcb_get_property_reply>(
+        xcb_get_property(m_connection.xcb(), 0, m_connection.root(), m_atoms[Supported],
+                         XCB_ATOM_ATOM, 0, kMaxWords));
+    if (!answer || answer->format != 32) return false;
+    const auto* const first = static_cast<const xcb_atom_t*>(xcb_get_property_value(answer.get()));
+    const auto count =
+        static_cast<std::size_t>(xcb_get_property_value_length(answer.get())) / sizeof(xcb_atom_t);
+    const std::span supported(first, count);
+    return std::ranges::find(supported, m_atoms[ActiveWindow]) != supported.end();
 }
 
 std::optional<WindowHints> X11WindowReader::read(xcb_window_t window) {

@@ -27,6 +27,12 @@ public:
     /// The active window; XCB_NONE when there is none, or no window manager that says so.
     [[nodiscard]] xcb_window_t activeWindow();
 
+    /// The property of the root window that lists what the window manager supports.
+    [[nodiscard]] xcb_atom_t supportedAtom() const { return m_atoms[Supported]; }
+
+    /// Whether the window manager says which window is active.
+    [[nodiscard]] bool tellsActiveWindow();
+
     /// The hints of the application that the window belongs to: a dialog answers with those of the
     /// window that it stands over. Empty for docks, desktops and windows outside the window
     /// manager's care, and when the window is gone.
@@ -35,6 +41,7 @@ public:
 private:
     enum Atom : std::size_t {
         ActiveWindow,
+        Supported,
         ProcessId,
         WindowType,
         TypeDock,

@@ -26,6 +26,11 @@ SettingsSection {
                 width: parent.width - DarkUI.space20
                 text: section.model.caption(SettingsView.AutoModePrivacyRow)
             }
+
+            SettingsGap {
+                width: parent.width
+                text: section.model.gaps.autoModeAdvice
+            }
         }
 
         ToggleRow {
@@ -34,6 +39,11 @@ SettingsSection {
             caption: section.model.caption(SettingsView.AutoStartRow)
             checked: section.model.autoStartOn
             onToggled: checked => section.model.autoStartOn = checked
+
+            SettingsGap {
+                width: parent.width
+                text: section.model.gaps.autoStartAdvice
+            }
         }
     }
 

@@ -1,5 +1,7 @@
 #include "surfaces/settings/DesktopGaps.h"
 
+#include "platform/FrontmostApp.h"
+#include "platform/IdleSource.h"
 #include "platform/TrayItem.h"
 #include "sensing/HotKey.h"
 
@@ -7,21 +9,21 @@
 
 namespace vantle {
 
-DesktopGaps::DesktopGaps(const HotKey& hotKey, const TrayItem& tray,
-                         std::function<void(const QString& text)> copy)
-    : m_hotKey(hotKey)
-    , m_tray(tray)
-    , m_copy(std::move(copy)) {
-    connect(&hotKey, &HotKey::isRegisteredChanged, this, &DesktopGaps::hotKeyChanged);
-    connect(&hotKey, &HotKey::registrationErrorChanged, this, &DesktopGaps::hotKeyChanged);
-    connect(&tray, &TrayItem::shownChanged, this, &DesktopGaps::trayChanged);
+DesktopGaps::DesktopGaps(Environment environment) : m_env(std::move(environment)) {
+    connect(&m_env.hotKey, &HotKey::isRegisteredChanged, this, &DesktopGaps::hotKeyChanged);
+    connect(&m_env.hotKey, &HotKey::registrationErrorChanged, this, &DesktopGaps::hotKeyChanged);
+    connect(&m_env.tray, &TrayItem::shownChanged, this, &DesktopGaps::trayChanged);
+    connect(&m_env.idleSource, &IdleSource::canTellChanged, this, &DesktopGaps::idleChanged);
+    connect(&m_env.idleSource, &IdleSource::canTellChanged, this, &DesktopGaps::autoModeChanged);
+    connect(&m_env.frontmostApp, &FrontmostApp::coverageChanged, this,
+            &DesktopGaps::autoModeChanged);
 }
 
 QString DesktopGaps::hotKeyAdvice() const {
-    if (!m_hotKey.isRegistered())
+    if (!m_env.hotKey.isRegistered())
         return QStringLiteral("Another key does as well. In your desktop's keyboard settings, bind "
                               "one to this command:");
-    if (!m_hotKey.hearsEveryApp())
+    if (!m_env.hotKey.hearsEveryApp())
         return QStringLiteral("In a Wayland session Vantle hears these keys only over some apps. "
                               "In your desktop's keyboard settings, bind a key to this command, "
                               "and it works over all of them:");
@@ -35,15 +37,45 @@ QString DesktopGaps::command() {
 }
 
 void DesktopGaps::copyCommand() {
-    m_copy(command());
+    m_env.copy(command());
     m_commandCopied = true;
     Q_EMIT commandCopiedChanged();
 }
 
 QString DesktopGaps::trayAdvice() const {
-    if (m_tray.isShown()) return {};
+    if (m_env.tray.isShown()) return {};
     return QStringLiteral("This desktop shows no tray, so there is no icon to click. Open Vantle "
                           "from your applications once more, and its panel comes up.");
+}
+
+QString DesktopGaps::idleAdvice() const {
+    if (m_env.idleSource.canTell()) return {};
+    return QStringLiteral("This desktop doesn't tell apps when you last used keyboard or mouse, so "
+                          "Vantle can't pause by that. Stop the session when you step away.");
+}
+
+QString DesktopGaps::autoModeAdvice() const {
+    switch (m_env.frontmostApp.coverage()) {
+    case AppCoverage::All:
+        return {};
+    case AppCoverage::Some:
+        return QStringLiteral("This desktop tells Vantle about some apps only. In all others Auto "
+                              "mode does nothing, and time stays under the category it has.");
+    case AppCoverage::None:
+        return QStringLiteral("This desktop doesn't tell Vantle which app is in front, so Auto "
+                              "mode has nothing to go by. Choose the category by hand.");
+    }
+    return {};
+}
+
+QString DesktopGaps::autoStartAdvice() const {
+    if (m_env.frontmostApp.coverage() == AppCoverage::None)
+        return QStringLiteral("This desktop doesn't tell Vantle which app is in front, so nothing "
+                              "starts on its own.");
+    if (m_env.idleSource.canTell()) return {};
+    return QStringLiteral("This desktop doesn't tell apps when you last used keyboard or mouse, so "
+                          "Vantle can't know that you are there: it starts nothing on its own, and "
+                          "asks about no app.");
 }
 
 } // namespace vantle

@@ -8,7 +8,9 @@
 
 namespace vantle {
 
+class FrontmostApp;
 class HotKey;
+class IdleSource;
 class TrayItem;
 
 /// Advice for the rows of the settings where the person looks for what is missing; empty where
@@ -23,27 +25,41 @@ class DesktopGaps final : public QObject {
     Q_PROPERTY(bool commandCopied READ commandCopied NOTIFY commandCopiedChanged FINAL)
     /// How to reach the panel although there is no tray.
     Q_PROPERTY(QString trayAdvice READ trayAdvice NOTIFY trayChanged FINAL)
+    /// What auto mode does not do, since the desktop tells of no application or only of some.
+    Q_PROPERTY(QString autoModeAdvice READ autoModeAdvice NOTIFY autoModeChanged FINAL)
+    /// Why no session starts by itself.
+    Q_PROPERTY(QString autoStartAdvice READ autoStartAdvice NOTIFY autoModeChanged FINAL)
 
 public:
-    /// The references must outlive this. `copy` puts a text into the clipboard.
-    DesktopGaps(const HotKey& hotKey, const TrayItem& tray,
-                std::function<void(const QString& text)> copy);
+    /// What may be missing. All of it must outlive this.
+    struct Environment {
+        const HotKey& hotKey;
+        const TrayItem& tray;
+        const IdleSource& idleSource;
+        const FrontmostApp& frontmostApp;
+        std::function<void(const QString& text)> copy; ///< puts it into the clipboard
+    };
+    explicit DesktopGaps(Environment environment);
 
     [[nodiscard]] QString hotKeyAdvice() const;
     [[nodiscard]] static QString command();
     [[nodiscard]] bool commandCopied() const { return m_commandCopied; }
     Q_INVOKABLE void copyCommand();
     [[nodiscard]] QString trayAdvice() const;
+    /// What stands in for the pause that an absence would bring.
+    [[nodiscard]] QString idleAdvice() const;
+    [[nodiscard]] QString autoModeAdvice() const;
+    [[nodiscard]] QString autoStartAdvice() const;
 
 Q_SIGNALS:
     void hotKeyChanged();
     void commandCopiedChanged();
     void trayChanged();
+    void idleChanged();
+    void autoModeChanged();
 
 private:
-    const HotKey& m_hotKey;
-    const TrayItem& m_tray;
-    const std::function<void(const QString& text)> m_copy;
+    const Environment m_env;
     bool m_commandCopied = false;
 };
 

@@ -141,6 +141,7 @@ QString SettingsView::idleTitle() const {
 }
 
 QString SettingsView::idleCaption() const {
+    if (QString gap = m_gaps.idleAdvice(); !gap.isEmpty()) return gap;
     const int minutes = toldMinutes(m_idleMinutes);
     return QStringLiteral("No input for %1 minute%2 pauses the clock, backdated to your last "
                           "keystroke or click so away time is never counted. Default is 3.")

@@ -31,7 +31,7 @@ QString storedText(const Preferences& preferences, QLatin1String key) {
 
 SettingsView::SettingsView(Environment environment)
     : m_env(std::move(environment))
-    , m_gaps(m_env.model.hotKey(), m_env.tray, m_env.copy) {
+    , m_gaps({m_env.model.hotKey(), m_env.tray, m_env.idleSource, m_env.frontmostApp, m_env.copy}) {
     m_env.rules.loadIfNeeded();
     readState();
     refreshApps();
@@ -45,6 +45,7 @@ void SettingsView::follow() {
     const HotKey& hotKey = m_env.model.hotKey();
     connect(&hotKey, &HotKey::isRegisteredChanged, this, &SettingsView::hotKeyChanged);
     connect(&hotKey, &HotKey::registrationErrorChanged, this, &SettingsView::hotKeyChanged);
+    connect(&m_gaps, &DesktopGaps::idleChanged, this, &SettingsView::idleChanged);
     connect(&m_env.rules, &AutoRules::rulesChanged, this, &SettingsView::refreshApps);
     connect(&m_env.rules, &AutoRules::seenAppsChanged, this, &SettingsView::refreshApps);
     connect(&m_env.rules, &AutoRules::persistenceErrorChanged, this,

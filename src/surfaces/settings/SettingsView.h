@@ -20,6 +20,8 @@ class AppPaths;
 class AutoRules;
 class Autostart;
 class FocusLink;
+class FrontmostApp;
+class IdleSource;
 class NotificationCenter;
 class Preferences;
 class SerialQueue;
@@ -36,6 +38,7 @@ class SettingsView final : public QObject {
     /// lie outside of what can be chosen here.
     Q_PROPERTY(double idleMinutes READ idleMinutes WRITE setIdleMinutes NOTIFY idleChanged FINAL)
     Q_PROPERTY(QString idleTitle READ idleTitle NOTIFY idleChanged FINAL)
+    /// What the limit does, or why it does nothing on this desktop.
     Q_PROPERTY(QString idleCaption READ idleCaption NOTIFY idleChanged FINAL)
     Q_PROPERTY(QString goalText READ goalText NOTIFY goalChanged FINAL)
     Q_PROPERTY(bool isGoalLowest READ isGoalLowest NOTIFY goalChanged FINAL)
@@ -129,6 +132,8 @@ public:
         std::function<void(const QString& path)> reveal; ///< shows a file in the file manager
         std::function<Result<>()> openShortcuts;         ///< opens the folder of shortcuts
         const TrayItem& tray;
+        const IdleSource& idleSource;
+        const FrontmostApp& frontmostApp;
         std::function<void(const QString& text)> copy; ///< puts it into the clipboard
         /// Erases everything; empty on full success, else what the person is told.
         std::function<std::optional<QString>()> eraseAllData;

@@ -14,7 +14,60 @@ TEST_F(DesktopGapsTest, WhereNothingIsMissingNothingIsSaid) {
     const SettingsView& settings = open();
     EXPECT_EQ(view->gaps()->hotKeyAdvice(), QString());
     EXPECT_EQ(view->gaps()->trayAdvice(), QString());
+    EXPECT_EQ(view->gaps()->idleAdvice(), QString());
+    EXPECT_EQ(view->gaps()->autoModeAdvice(), QString());
+    EXPECT_EQ(view->gaps()->autoStartAdvice(), QString());
     EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B · active"));
+}
+
+TEST_F(DesktopGapsTest, AnEmptyReadingIsNoGapWhereTheDesktopCanTell) {
+    idleSource.becomeUnknown();
+    frontmost.activate(std::nullopt);
+    const SettingsView& settings = open();
+    EXPECT_EQ(settings.idleCaption(),
+              text("No input for 3 minutes pauses the clock, backdated to your last keystroke or "
+                   "click so away time is never counted. Default is 3."));
+    EXPECT_EQ(view->gaps()->autoModeAdvice(), QString());
+}
+
+TEST_F(DesktopGapsTest, WithoutAnIdleCounterNoPauseIsPromised) {
+    idleSource.setCanTell(false);
+    const SettingsView& settings = open();
+    EXPECT_EQ(settings.idleCaption(),
+              text("This desktop doesn't tell apps when you last used keyboard or mouse, so Vantle "
+                   "can't pause by that. Stop the session when you step away."));
+    EXPECT_EQ(view->gaps()->autoStartAdvice(),
+              text("This desktop doesn't tell apps when you last used keyboard or mouse, so Vantle "
+                   "can't know that you are there: it starts nothing on its own, and asks about no "
+                   "app."));
+    EXPECT_EQ(view->gaps()->autoModeAdvice(), QString());
+    int times = 0;
+    QObject::connect(&settings, &SettingsView::idleChanged, [&] { ++times; });
+    idleSource.setCanTell(true);
+    EXPECT_EQ(times, 1);
+    EXPECT_TRUE(settings.idleCaption().startsWith(text("No input for 3 minutes")));
+    EXPECT_EQ(view->gaps()->autoStartAdvice(), QString());
+}
+
+TEST_F(DesktopGapsTest, WhereNoAppOrOnlySomeAreSeenInFrontItIsSaid) {
+    frontmost.setCoverage(AppCoverage::None);
+    open();
+    EXPECT_EQ(view->gaps()->autoModeAdvice(),
+              text("This desktop doesn't tell Vantle which app is in front, so Auto mode has "
+                   "nothing to go by. Choose the category by hand."));
+    EXPECT_EQ(view->gaps()->autoStartAdvice(),
+              text("This desktop doesn't tell Vantle which app is in front, so nothing starts on "
+                   "its own."));
+    int times = 0;
+    QObject::connect(view->gaps(), &DesktopGaps::autoModeChanged, [&] { ++times; });
+    frontmost.setCoverage(AppCoverage::Some);
+    EXPECT_EQ(times, 1);
+    EXPECT_EQ(view->gaps()->autoModeAdvice(),
+              text("This desktop tells Vantle about some apps only. In all others Auto mode does "
+                   "nothing, and time stays under the category it has."));
+    EXPECT_EQ(view->gaps()->autoStartAdvice(), QString());
+    frontmost.setCoverage(AppCoverage::All);
+    EXPECT_EQ(view->gaps()->autoModeAdvice(), QString());
 }
 
 TEST_F(DesktopGapsTest, AShortcutOfSomebodyElseLeavesTheCommand) {
@@ -29,6 +82,17 @@ TEST_F(DesktopGapsTest, AShortcutOfSomebodyElseLeavesTheCommand) {
     model->hotKey().registerHotKey();
     EXPECT_GT(times, 0);
     EXPECT_EQ(view->gaps()->hotKeyAdvice(), QString());
+}
+
+TEST_F(DesktopGapsTest, AShortcutThatWasLostIsNotCalledActiveUntilItIsBack) {
+    const SettingsView& settings = open();
+    ASSERT_EQ(settings.hotKeyText(), text("⌥⌘B · active"));
+    hotKeyPort.become({HotKeyPort::Registration::HeldByAnother, 0});
+    EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B unavailable"));
+    EXPECT_EQ(settings.hotKeyFailure(), text("⌥⌘B is already used by another app."));
+    EXPECT_NE(view->gaps()->hotKeyAdvice(), QString());
+    hotKeyPort.become({HotKeyPort::Registration::Registered, 0});
+    EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B · active"));
 }
 
 TEST_F(DesktopGapsTest, AShortcutThatIsNotHeardEverywhereIsNotCalledActive) {

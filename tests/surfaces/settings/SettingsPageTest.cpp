@@ -50,6 +50,25 @@ TEST_F(SettingsPageTest, WhatTheDesktopLacksStandsInItsRowAndNowhereWhereNothing
     EXPECT_EQ(control("Copy the command"), nullptr);
 }
 
+TEST_F(SettingsPageTest, WhatAutoModeAndTheIdleCounterCantSeeStandsInTheirRows) {
+    const char* const idle = "This desktop doesn't tell apps when you last used keyboard or mouse, "
+                             "so Vantle can't pause by that. Stop the session when you step away.";
+    const char* const front = "This desktop doesn't tell Vantle which app is in front, so Auto "
+                              "mode has nothing to go by. Choose the category by hand.";
+    const char* const start = "This desktop doesn't tell Vantle which app is in front, so nothing "
+                              "starts on its own.";
+    show();
+    for (const char* words : {idle, front, start})
+        EXPECT_FALSE(shows(words)) << words;
+    idleSource.setCanTell(false);
+    frontmost.setCoverage(AppCoverage::None);
+    QCoreApplication::processEvents();
+    for (const char* words : {idle, front, start})
+        EXPECT_TRUE(shows(words)) << words;
+    EXPECT_FALSE(shows("No input for 3 minutes pauses the clock, backdated to your last keystroke "
+                       "or click so away time is never counted. Default is 3."));
+}
+
 TEST_F(SettingsPageTest, ACommandStandsInForAShortcutThatCantBeHad) {
     hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};
     tray.setShown(false);

@@ -45,6 +45,8 @@ public:
                     return Error::fromErrno(EACCES, QStringLiteral("make"), QStringLiteral("x"));
                 },
                 tray,
+                idleSource,
+                frontmost,
                 [this](const QString& text) { copied << text; },
                 [this] { return model->eraseEverything(); }};
     }

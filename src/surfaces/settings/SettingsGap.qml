@@ -1,0 +1,9 @@
+// What this desktop lacks, below what a row promises.
+import QtQuick
+import Vantle.Kit
+
+SettingsCaption {
+    visible: text !== ""
+    topPadding: role.leading + DarkUI.space6
+    color: DarkUI.t2
+}
