@@ -1,5 +1,6 @@
 #!/usr/bin/python3
 """Runs the desktop tests of the modules named on the command line, all of them without a name.
+With --list it names their cases instead, a line each.
 
 $VANTLE_EXECUTABLE is the program, build/release/vantle if unset; pictures of the screen go to
 $VANTLE_DESKTOP_PICTURES. With GTEST_OUTPUT=xml:<directory>/ it leaves the same kind of report
@@ -7,7 +8,7 @@ there as the C++ test programs do.
 
 A case that fails is tried once more: other programs have a part in it, an X server, a window
 manager and a bus, whose pace is not ours. tools/checks/count names what passed only then, which
-wants to be looked into.
+wants to be looked into. With $VANTLE_DESKTOP_ONCE set no case is tried again.
 """
 
 import os
@@ -61,6 +62,13 @@ def run(names):
     return unittest.TextTestRunner(verbosity=2, resultclass=Result).run(tests).cases
 
 
+def cases_of(tests):
+    """The names of all cases of a suite."""
+    if isinstance(tests, unittest.TestCase):
+        return [tests.id()]
+    return [name for one in tests for name in cases_of(one)]
+
+
 def failed_ones(cases):
     return [name for name, case in cases.items() if case["failures"]]
 
@@ -84,9 +92,13 @@ def write_report(path, cases, again):
 
 def main():
     sys.path.insert(0, str(HERE))
-    names = sys.argv[1:] or sorted(path.stem for path in HERE.glob("test_*.py"))
+    wanted = [name for name in sys.argv[1:] if name != "--list"]
+    names = wanted or sorted(path.stem for path in HERE.glob("test_*.py"))
+    if "--list" in sys.argv:
+        print("\n".join(cases_of(unittest.defaultTestLoader.loadTestsFromNames(names))))
+        return
     cases = run(names)
-    again = failed_ones(cases)
+    again = [] if os.environ.get("VANTLE_DESKTOP_ONCE") else failed_ones(cases)
     if again:
         print("\nOnce more:", flush=True)
         cases.update(run(again))
