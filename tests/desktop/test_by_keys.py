@@ -37,8 +37,11 @@ class ByKeysCase(ReaderCase):
         self.addCleanup(self.eyes.close)
 
     def focused(self, title):
-        """The innermost element that has the focus."""
-        return [one for one in self.reader.window(title).all() if "focused" in one.states][-1]
+        """The innermost element that has the focus, as soon as one has it."""
+        def stops():
+            return [one for one in self.reader.window(title).all() if "focused" in one.states]
+
+        return wait_until("something with the focus", stops)[-1]
 
     def step(self, title, before):
         """Presses Tab; returns what has the focus now, once it shows that."""
@@ -158,7 +161,7 @@ class ByKeys(ByKeysCase):
     def test_the_panel(self):
         self.launch()
         activate(self.desktop)
-        wait_until("the panel", lambda: self.desktop.windows_named(PANEL_TITLE))
+        self.desktop.await_keyboard(PANEL_TITLE)
         self.assertEqual(self.tour(PANEL_TITLE),
                          ["Build", "Dashboard", "Wrapped", "Notes", "Settings", "Quit",
                           "Enter Vantle"])

@@ -57,24 +57,19 @@ class CapsuleTest(DesktopTest):
     def open_capsule(self):
         self.point_at(STRIP)
         wait_until("an open capsule", self.is_open)
-        time.sleep(0.5)  # until the spring has come to rest
+        self.await_rest()
+
+    def await_rest(self):
+        """Waits until the springs have: below what counts and breathes in a running session."""
+        self.desktop.await_still(MIDDLE - 270, 160, 540, 60)
 
     def await_keyboard(self):
         """Waits until the capsule's menu or editor has the keyboard."""
-        def has_it():
-            focus = self.desktop.tool("xdotool", "getwindowfocus").decode().strip()
-            return focus in self.desktop.windows_named(TITLE)
-
-        wait_until("the keyboard", has_it)
+        self.desktop.await_keyboard(TITLE)
 
     def open_editor(self):
-        """Another application, below the capsule, with the keyboard; returns the file that its
-        lines land in."""
-        typed = self.desktop.directory / "typed"
-        self.desktop.open("xterm", "-T", "editor", "-geometry", "120x40+300+0", "-e",
-                          f"cat > {typed}")
-        wait_until("the editor in front", lambda: self.desktop.active_window_title() == "editor")
-        return typed
+        """Another application, below the capsule."""
+        return super().open_editor("-geometry", "120x40+300+0")
 
     # -- what can be seen
 
@@ -158,7 +153,7 @@ class Works(CapsuleTest):
         self.desktop.screenshot("running")
         self.click(BESIDE_THE_CHIPS)
         wait_until("a record", lambda: len(self.vantle.sessions()) == 1)
-        self.assertIsNone(self.vantle.marker())
+        wait_until("no marker", lambda: self.vantle.marker() is None)
 
     def test_a_click_on_a_chip_splits_the_session_and_no_second_is_lost(self):
         typed = self.open_editor()

@@ -46,13 +46,6 @@ class CardTest(DesktopTest):
     def click(self, x, y):
         self.desktop.tool("xdotool", "mousemove", str(x), str(y), "sleep", "0.1", "click", "1")
 
-    def open_editor(self):
-        """Another application with the keyboard; returns the file that its lines land in."""
-        typed = self.desktop.directory / "typed"
-        self.desktop.open("xterm", "-T", "editor", "-e", f"cat > {typed}")
-        wait_until("the editor in front", lambda: self.desktop.active_window_title() == "editor")
-        return typed
-
 
 class StopSummary(CardTest):
 
@@ -122,6 +115,7 @@ class Recovery(CardTest):
     def test_a_click_on_keep_logs_the_session(self):
         self.desktop.screenshot("notice")
         self.answer(from_right=50)
+        wait_until("a record", self.vantle.sessions)
         self.assertEqual(self.vantle.sessions()[0]["activeSeconds"], 125)
         self.await_tool_tip("Recovered 2 min from the previous run")
 
@@ -134,7 +128,7 @@ class Recovery(CardTest):
         self.begin_session()
         self.end_session()
         x, y, width, height = self.await_card(SUMMARY)
-        wait_until("the notice gone", lambda: not self.is_up(RECOVERY), deadline=2)
+        wait_until("the notice gone", lambda: not self.is_up(RECOVERY))
         self.click(x + width - 50, y + height - 36)
         self.await_card(RECOVERY)
 
@@ -165,7 +159,8 @@ class TagPrompt(CardTest):
         rules = self.vantle.data_directory / "auto-rules.json"
         wait_until("the rule", lambda: rules.exists() and
                    "product_design" in json.dumps(json.loads(rules.read_text())))
-        self.assertEqual(self.vantle.marker()["skillId"], "product_design")
+        wait_until("the other skill", lambda: (self.vantle.marker() or {}).get("skillId") ==
+                   "product_design")
 
 
 class Toast(CardTest):
@@ -184,4 +179,4 @@ class Toast(CardTest):
         self.desktop.screenshot("toast")
         notice, = [one for one in reader.window(SAVED).all() if one.role == "notification"]
         self.assertRegex(notice.name, r"^\d+ sec saved")
-        wait_until("the toast gone", lambda: not self.is_up(SAVED), deadline=5)
+        wait_until("the toast gone", lambda: not self.is_up(SAVED))

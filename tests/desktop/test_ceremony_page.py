@@ -48,7 +48,7 @@ class Page(CeremonyCase):
         return is_near(self.spot(720, 450), ACCENT, 4)
 
     def await_square(self):
-        wait_until("the page", self.shows_square, deadline=3)
+        wait_until("the page", self.shows_square)
 
     def renderers(self):
         """The engine's processes that run the page."""
@@ -77,11 +77,7 @@ class Page(CeremonyCase):
         wait_until("the end of the engine", lambda: not self.vantle.left_children())
 
     def test_the_work_below_goes_on_through_a_page(self):
-        typed = self.desktop.directory / "typed"
-        self.desktop.open("xterm", "-T", "editor", "-geometry", "40x10+20+100",
-                          "-e", f"cat > {typed}")
-        wait_until("the editor in front",
-                   lambda: self.desktop.active_window_title() == "editor")
+        typed = self.open_editor("-geometry", "40x10+20+100")
         self.launch_with("never")
         self.desktop.press(SHORTCUT)
         self.await_square()

@@ -28,7 +28,8 @@ class Panel(DesktopTest):
 
     def await_shown(self):
         wait_until("the panel", self.is_shown)
-        time.sleep(0.3)  # it fades in
+        self.desktop.await_keyboard(PANEL_TITLE)
+        self.desktop.await_still(*self.frame())  # it fades in
 
     def await_hidden(self):
         wait_until("no panel", lambda: not self.is_shown())
@@ -111,10 +112,7 @@ class ByPointer(Panel):
 class ByKeys(Panel):
 
     def test_escape_takes_it_away_and_the_keyboard_goes_back(self):
-        typed = self.desktop.directory / "typed"
-        self.desktop.open("xterm", "-T", "editor", "-e", f"cat > {typed}")
-        wait_until("the editor in front",
-                   lambda: self.desktop.active_window_title() == "editor")
+        typed = self.open_editor()
         activate(self.desktop)
         self.await_shown()
         self.desktop.press("Escape")
@@ -136,7 +134,7 @@ class ByKeys(Panel):
         self.desktop.press("End")
         self.desktop.screenshot("ring")
         self.desktop.press("Return")
-        time.sleep(0.3)
+        self.desktop.await_still(*self.frame())
         self.desktop.type("Research")
         self.desktop.screenshot("editor")
         self.desktop.press("Return")
@@ -147,8 +145,10 @@ class ByKeys(Panel):
         self.open()
         self.tab(1)
         self.desktop.press("End")
+        closed = self.frame()[3]
         self.desktop.press("Return")
-        time.sleep(0.3)
+        wait_until("the editor", lambda: self.frame()[3] != closed)
+        self.desktop.await_still(*self.frame())
         height = self.frame()[3]
         self.desktop.type("Resea")
         self.desktop.press("Escape")
@@ -196,7 +196,6 @@ class SeeThrough(Panel):
 
     def test_its_corners_are_round_and_its_shadow_is_soft(self):
         self.open()
-        time.sleep(0.5)
         self.desktop.screenshot("see-through")
         self.assertGreater(self.frame()[2], 360, "room for the shadow")
         self.desktop.press("Escape")

@@ -23,7 +23,7 @@ class FirstStart(DesktopTest):
         entry = Path(self.desktop.env["XDG_CONFIG_HOME"],
                      "autostart", "local.vantle.Vantle.desktop")
         self.launch()
-        text = entry.read_text()
+        text = wait_until("an entry", lambda: entry.exists() and entry.read_text())
         self.assertIn(str(EXECUTABLE), text)
         self.assertIn("VANTLE_AUTOSTART=1", text)
         self.assertEqual(self.vantle.stop(), 0)
@@ -53,6 +53,7 @@ class FirstStart(DesktopTest):
         self.vantle.log_file.chmod(0o644)
         (directory / "sync-queue.json").write_text("{}")
         self.launch()
+        wait_until("the modes", (directory / "skills.json").exists)
         self.assertEqual(mode_of(directory), 0o700)
         self.assertEqual(mode_of(self.vantle.log_file), 0o600)
         self.assertFalse((directory / "sync-queue.json").exists())
@@ -79,6 +80,6 @@ class FirstStart(DesktopTest):
     def test_without_a_desktop_it_ends_with_a_code_and_no_word(self):
         nowhere = {name: value for name, value in self.desktop.env.items() if name != "DISPLAY"}
         done = subprocess.run([EXECUTABLE], env=nowhere, stdin=subprocess.DEVNULL,
-                              capture_output=True, timeout=10, check=False)
+                              capture_output=True, timeout=30, check=False)
         self.assertEqual((done.returncode, done.stdout, done.stderr), (69, b"", b""))
         self.assertFalse(self.vantle.data_directory.exists())

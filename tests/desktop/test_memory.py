@@ -54,9 +54,7 @@ class Memory(WindowCase):
 
     def play_panel(self):
         activate(self.desktop)
-        window, = wait_until("the panel", lambda: self.desktop.windows_named(PANEL_TITLE))
-        wait_until("its keyboard", lambda: self.desktop.tool(
-            "xdotool", "getwindowfocus").decode().strip() == window)
+        self.desktop.await_keyboard(PANEL_TITLE)
         self.desktop.press("Escape")
         wait_until("no panel", lambda: not self.desktop.windows_named(PANEL_TITLE))
 

@@ -88,7 +88,7 @@ class WithCeremony(Welcome):
         pressed = time.monotonic()
         self.desktop.press(SHORTCUT)
         wait_until("the ceremony", lambda: self.desktop.windows_named(OVERLAY))
-        wait_until("the window out of its way", lambda: not self.in_sight(), deadline=1)
+        wait_until("the window out of its way", lambda: not self.in_sight(), deadline=3)
         self.await_in_front()
         self.assertGreater(time.monotonic() - pressed, AWAY - 0.2)
         self.desktop.screenshot("running")

@@ -1,5 +1,6 @@
 """The windows for looking back and for correcting, worked by pointer and keys."""
 
+import itertools
 import unittest
 
 from harness.waiting import wait_until
@@ -8,25 +9,32 @@ from harness.windows import DASHBOARD, NOTES, QUICK_LOG, WindowCase
 
 class Windows(WindowCase):
 
-    def drag(self, x, y, by_x, by_y):
-        """Presses there, moves in two steps as a hand does, and lets go."""
-        half = (str(by_x // 2), str(by_y // 2))
-        self.desktop.tool("xdotool", "mousemove", str(x), str(y), "mousedown", "1", "sleep", "0.2",
-                          "mousemove_relative", "--", *half, "sleep", "0.2",
-                          "mousemove_relative", "--", *half, "sleep", "0.3", "mouseup", "1")
+    def drag(self, window, x, y, by_x, by_y):
+        """Presses there, moves as a hand does until the window follows, and lets go."""
+        before = self.desktop.frame_of(window)
+        steps = itertools.cycle((2, 3))
+        self.desktop.tool("xdotool", "mousemove", str(x), str(y), "mousedown", "1")
+
+        def follows():
+            # The window manager is told at the first step; the window follows one after that.
+            part = next(steps)
+            self.desktop.tool("xdotool", "mousemove", str(x + by_x // part), str(y + by_y // part))
+            return self.desktop.frame_of(window) != before
+
+        wait_until("the window to follow", follows)
+        self.desktop.tool("xdotool", "mousemove", str(x + by_x), str(y + by_y), "mouseup", "1")
+        self.desktop.await_still(0, 0, 1440, 900)
 
     def test_a_window_is_dragged_and_resized_and_comes_back_where_it_stood(self):
         self.launch()
         window = self.open(*DASHBOARD)
         x, y, width, height = self.desktop.frame_of(window)
-        self.drag(x + 200, y + 15, 80, 60)
-        # The window manager is told at the first step, so the window follows from there.
-        wait_until("the window moved", lambda: self.desktop.frame_of(window)[:2] != (x, y))
+        self.drag(window, x + 200, y + 15, 80, 60)
         self.desktop.tool("xdotool", "mousemove_relative", "--", "-300", "-100")
         moved = self.desktop.frame_of(window)
         self.assertGreater(moved[0], x, "the hand has let go of it")
 
-        self.drag(moved[0] + width - 2, moved[1] + height - 2, 100, 60)
+        self.drag(window, moved[0] + width - 2, moved[1] + height - 2, 100, 60)
         wait_until("the window larger", lambda: self.desktop.frame_of(window)[2] > width)
         frame = self.desktop.frame_of(window)
         self.close("Your hours")

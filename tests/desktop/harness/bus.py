@@ -31,7 +31,7 @@ def call(desktop, service, path, interface, method, *arguments):
     """Calls a method and returns its answer."""
     with connected(desktop) as connection:
         target = connection.get_object(service, path, introspect=False)
-        return dbus.Interface(target, interface).get_dbus_method(method)(*arguments, timeout=5)
+        return dbus.Interface(target, interface).get_dbus_method(method)(*arguments, timeout=25)
 
 
 def activate(desktop):

@@ -72,6 +72,7 @@ class DesktopTest(unittest.TestCase):
         """Starts the program, waits until the person can see that it runs, and turns away from
         the panel that a start by hand shows."""
         program = program or self.vantle
+        keyboard = self.desktop.keyboard()
         program.start(**how)
         if self.tray_kind == self.STATUS_NOTIFIER:
             self.tray.await_item()
@@ -80,17 +81,24 @@ class DesktopTest(unittest.TestCase):
         wait_until("the program on the bus", lambda: owner_of(self.desktop, PROGRAM_NAME))
         self.assertTrue(program.is_running())
         if "VANTLE_AUTOSTART" not in self.desktop.env:
-            self._turn_away_from_panel()
+            self._turn_away_from_panel(keyboard)
 
-    def _turn_away_from_panel(self):
+    def _turn_away_from_panel(self, keyboard):
         wait_until("the panel", lambda: self.desktop.windows_named(PANEL_TITLE))
+        # One press, once it has the keyboard: another one would go to the window below.
+        self.desktop.await_keyboard(PANEL_TITLE)
+        self.desktop.press("Escape")
+        wait_until("no panel", lambda: not self.desktop.windows_named(PANEL_TITLE))
+        wait_until("the keyboard back", lambda: not keyboard or self.desktop.keyboard() == keyboard)
 
-        def gone():
-            # Again and again: it has the keyboard a moment later than it can be seen.
-            self.desktop.press("Escape")
-            return not self.desktop.windows_named(PANEL_TITLE)
-
-        wait_until("no panel", gone)
+    def open_editor(self, *options):
+        """Another application, with the keyboard; returns the file that its lines land in."""
+        typed = self.desktop.directory / "typed"
+        self.desktop.open("xterm", "-T", "editor", *options, "-e", f"cat > {typed}")
+        wait_until("the editor in front", lambda: self.desktop.active_window_title() == "editor")
+        self.desktop.await_keyboard("editor")
+        wait_until("its file", typed.exists)
+        return typed
 
     def begin_session(self):
         """Presses the shortcut and waits for the marker of the session, which it returns."""

@@ -12,8 +12,9 @@ OVERLAY = "Vantle ceremony"
 GROUND = 0x808080
 GROUND_RGB = rgb_of(GROUND)
 
-# No window is left this long after the press, whatever was played.
+# No window is left this long after the press, whatever was played. A busy machine may be late.
 ALL_GONE = 3.4
+MAY_BE_LATE = 2
 
 
 class CeremonyCase(DesktopTest):
@@ -38,6 +39,14 @@ class CeremonyCase(DesktopTest):
             time.sleep(every)
         return pictures
 
+    def sees(self, area, until, shown):
+        """Whether an area shows something before a moment of the monotonic clock."""
+        while time.monotonic() < until:
+            if shown(self.eyes.picture(*area)):
+                return True
+            time.sleep(0.05)
+        return False
+
     def overlays(self):
         return self.desktop.windows_named(OVERLAY)
 
@@ -53,8 +62,23 @@ class CeremonyCase(DesktopTest):
 
     def assert_all_gone(self, pressed, after=ALL_GONE):
         time.sleep(max(pressed + after - time.monotonic(), 0))
-        self.assertEqual(self.overlays(), [])
-        wait_until("the ground again", lambda: self.spot(20, 700) == GROUND_RGB, deadline=1)
+        wait_until("no overlays", lambda: not self.overlays(), deadline=MAY_BE_LATE)
+        wait_until("the ground again", lambda: self.spot(20, 700) == GROUND_RGB,
+                   deadline=MAY_BE_LATE)
+
+    def in_a_show(self, act):
+        """Does something while a show plays, and gives the moment of its press. Where a busy
+        machine is so slow that the show is over before, that was no trial, and another one plays.
+        """
+        for _ in range(4):
+            pressed = self.press_and_play()
+            act()
+            if self.overlays():
+                return pressed
+            self.desktop.press(SHORTCUT)
+            wait_until("the session's end", lambda: self.vantle.marker() is None)
+            self.assert_all_gone(time.monotonic(), after=1.2)
+        raise AssertionError("it never came about before the end of a show")
 
     def wait_for_moment(self, pressed, moment):
         time.sleep(max(pressed + moment - time.monotonic(), 0))

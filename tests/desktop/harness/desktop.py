@@ -5,12 +5,16 @@ import re
 import socket
 import struct
 import subprocess
+import time
 from pathlib import Path
 
-from .picture import Picture
+from .display import Display
+from .eyes import Eyes
 from .waiting import wait_until
 
 WITH_DESKTOP = Path(__file__).resolve().parents[2] / "support" / "with-desktop"
+
+SCREEN = (1440, 900)  # px of the screen of with-desktop
 
 # Answers with its environment, then lives until its standard input is closed.
 HOLDER = ["bash", "-c", "env -0; echo; exec cat >/dev/null"]
@@ -28,6 +32,8 @@ class Desktop:
         self.env = {}
         self._options = ["--tray"] * tray + ["--compositor"] * compositor
         self._holder = None
+        self._display = None
+        self._eyes = None
 
     def start(self):
         self._holder = subprocess.Popen([WITH_DESKTOP, *self._options, "--", *HOLDER],
@@ -44,12 +50,17 @@ class Desktop:
         self.env["LC_ALL"] = "C.UTF-8"
         # Text that Qt would print goes to stderr, where the tests see it, not to a journal.
         self.env["QT_LOGGING_TO_CONSOLE"] = "1"
+        self._display = Display(self.env["DISPLAY"])
+        self._eyes = Eyes(self.env["DISPLAY"])
         # Away from the tray, and known: a window that appears under the pointer would be hovered.
         self.tool("xdotool", "mousemove", "400", "500")
 
     def stop(self):
         if self._holder is None:
             return
+        for connection in (self._display, self._eyes):
+            if connection is not None:
+                connection.close()
         self._holder.stdin.close()
         try:
             self._holder.wait(10)
@@ -89,12 +100,25 @@ class Desktop:
 
     def dialogs(self, window_class):
         """The visible windows of an application that are larger than an icon, by their ids."""
-        return [window for window in self._searched("--class", f"^{window_class}$")
+        return [window for window in self._display.windows_of_class(f"^{window_class}$")
                 if self._geometry(window)["WIDTH"] > 100]
 
     def windows_named(self, title):
         """The visible windows of that title, by their ids."""
-        return self._searched("--name", f"^{title}$")
+        return self._display.windows_named(title)
+
+    def keyboard(self):
+        """The window that gets what is typed, and those that it lies in; empty if there is none."""
+        return self._display.keyboard()
+
+    def has_keyboard(self, title):
+        """Whether what is typed goes to a window of that title."""
+        return bool(set(self.keyboard()) & set(self.windows_named(title)))
+
+    def await_keyboard(self, title):
+        """Waits until what is typed goes to a window of that title, which can be later than it
+        shows, and says so in its active window later than that."""
+        wait_until(f"the keyboard with {title!r}", lambda: self.has_keyboard(title))
 
     def frame_of(self, window):
         """Where a window is: x, y, width, height."""
@@ -116,17 +140,6 @@ class Desktop:
                       (line.partition("=") for line in lines))
         return values
 
-    def _searched(self, kind, pattern):
-        """The visible windows that fit. A search breaks off, with a word about it, when some window
-        goes while it is looked at."""
-        for _ in range(10):
-            done = subprocess.run(["xdotool", "search", "--onlyvisible", kind, pattern],
-                                  env=self.env, stdin=subprocess.DEVNULL, capture_output=True,
-                                  check=False, text=True)
-            if done.returncode == 0 or not done.stderr:
-                return done.stdout.split()
-        raise AssertionError(f"no search comes to its end: {done.stderr}")
-
     def _asked(self, *command):
         """What a tool answers, nothing where it fails because there is no such window."""
         return subprocess.run(command, env=self.env, stdin=subprocess.DEVNULL,
@@ -141,9 +154,21 @@ class Desktop:
 
     def picture(self, x, y, width, height):
         """The pixels of a rectangle of the screen."""
-        raw = self.tool("import", "-window", "root", "-crop", f"{width}x{height}+{x}+{y}",
-                        "+repage", "-depth", "8", "rgb:-")
-        return Picture(width, height, raw)
+        return self._eyes.picture(x, y, width, height)
+
+    def await_still(self, x, y, width, height, seconds=0.3):
+        """Waits until nothing has moved in a rectangle, as far as it is on the screen."""
+        left, top = max(x, 0), max(y, 0)
+        right, bottom = min(x + width, SCREEN[0]), min(y + height, SCREEN[1])
+        seen = [None, 0.0]
+
+        def still():
+            now = self._eyes.raw(left, top, right - left, bottom - top)
+            if now != seen[0]:
+                seen[:] = now, time.monotonic()
+            return time.monotonic() - seen[1] >= seconds
+
+        wait_until("a still picture", still)
 
     def tray_picture(self):
         """The pixels of the tray's whole bar, which is as wide as its icons."""
@@ -155,15 +180,13 @@ class Desktop:
         return self.frame_of(self._tray_window())
 
     def _tray_window(self):
-        # A search fails now and then while some window comes or goes.
-        search = ("xdotool", "search", "--onlyvisible", "--class", "trayer")
-        return wait_until("the tray", lambda: self._asked(*search).split())[0]
+        return wait_until("the tray", lambda: self._display.windows_of_class("^trayer$"))[0]
 
     def tray_has_item(self):
         picture = self.tray_picture()
         return picture.width >= 16 and picture.inked() >= 20
 
-    def await_tray_item(self, deadline=10.0):
+    def await_tray_item(self, deadline=30.0):
         wait_until("an icon in the tray", self.tray_has_item, deadline)
 
     def x_server_process(self):

@@ -2,6 +2,7 @@
 
 import ctypes
 
+from .display import stays
 from .picture import Picture
 
 
@@ -30,6 +31,7 @@ class Eyes:
                                   ctypes.c_uint, ctypes.c_uint, ctypes.c_ulong, ctypes.c_int]
         x11.XDestroyImage.argtypes = [ctypes.POINTER(_Image)]
         self._display = x11.XOpenDisplay(display.encode())
+        stays(x11, self._display)
 
     def close(self):
         self._x11.XCloseDisplay(self._display)

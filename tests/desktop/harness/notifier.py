@@ -65,7 +65,7 @@ class Notifier:
                       "RegisteredStatusNotifierItems")
         return [tuple(str(item).split("|")) for item in answer]
 
-    def await_item(self, deadline=10.0):
+    def await_item(self, deadline=30.0):
         """Waits until exactly one item is there."""
         wait_until("an item in the tray", lambda: len(self.items()) == 1, deadline)
 

@@ -49,7 +49,7 @@ class Program:
     def send(self, number):
         self._process.send_signal(number)
 
-    def wait(self, deadline=10.0):
+    def wait(self, deadline=30.0):
         """Waits for its end and returns the exit code, negative for a signal."""
         wait_until("the end of the program", lambda: not self.is_running(), deadline)
         return self._process.returncode

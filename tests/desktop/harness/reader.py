@@ -140,4 +140,4 @@ class Reader:
 
     def _ask(self, reference, interface, method, signature="", *arguments):
         return self._connection.call_blocking(*reference, interface, method, signature, arguments,
-                                              timeout=5)
+                                              timeout=25)

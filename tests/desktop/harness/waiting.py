@@ -5,8 +5,12 @@ import time
 POLL_SECONDS = 0.02
 
 
-def wait_until(what, predicate, deadline=10.0):
-    """Returns the predicate's first true answer; fails after `deadline` seconds, naming `what`."""
+def wait_until(what, predicate, deadline=30.0):
+    """Returns the predicate's first true answer; fails after `deadline` seconds, naming `what`.
+
+    The usual deadline is there to end a test that has failed. It is far longer than anything takes
+    on a machine that has other work to do.
+    """
     end = time.monotonic() + deadline
     while True:
         answer = predicate()
