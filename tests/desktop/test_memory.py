@@ -1,13 +1,14 @@
 """What opening and closing windows leaves in memory."""
 
 import unittest
+from datetime import datetime, timedelta
 from pathlib import Path
 
 from harness.bus import activate
 from harness.case import PANEL_TITLE, DesktopTest
+from harness.records import worked
 from harness.waiting import wait_until
-from harness.windows import (DASHBOARD, NOTES, QUICK_LOG, SETTINGS, WELCOME, WRAPPED, WindowCase,
-                             record)
+from harness.windows import DASHBOARD, NOTES, QUICK_LOG, SETTINGS, WELCOME, WRAPPED, WindowCase
 
 ROUNDS = 10
 SESSIONS = 10000  # so many that a window that keeps them is noticed
@@ -60,8 +61,9 @@ class Memory(WindowCase):
 
     def test_rounds_of_every_window_leave_the_memory_as_it_was(self):
         self.desktop.env["VANTLE_AUTOSTART"] = "1"
-        self.write_records({**record(1, f"note {number}"), "id": record(number, "")["id"]}
-                           for number in range(SESSIONS))
+        first = datetime(2025, 1, 1)
+        self.write_records(worked(number, first + timedelta(minutes=40 * number), 30,
+                                  note=f"note {number}") for number in range(SESSIONS))
         self.launch()
         for window in (DASHBOARD, NOTES, QUICK_LOG, SETTINGS, WRAPPED):
             with self.subTest(window=window):
