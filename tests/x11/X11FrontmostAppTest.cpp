@@ -1,128 +1,20 @@
 #include "platform/x11/X11FrontmostApp.h"
 
-#include "platform/desktop/DesktopApplications.h"
-#include "support/Await.h"
 #include "support/QtPrinters.h"
-#include "x11/OwnServer.h"
+#include "x11/FrontmostWorld.h"
 
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QProcess>
 #include <QSysInfo>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <memory>
-#include <vector>
 
 namespace vantle {
 namespace {
 
-QString q(const char* text) { return QString::fromUtf8(text); }
+using tests::q;
+using tests::Terminal;
 
-/// A terminal of the class.
-class Terminal {
-public:
-    explicit Terminal(const QString& windowClass) {
-        m_process.start(QStringLiteral("xterm"), {QStringLiteral("-class"), windowClass,
-                                                  QStringLiteral("-e"), QStringLiteral("cat")});
-        EXPECT_TRUE(tests::await([&] {
-            m_window =
-                tests::outputOf(
-                    QStringLiteral("xdotool search --onlyvisible --class ^%1$").arg(windowClass))
-                    .trimmed();
-            return !m_window.isEmpty();
-        }));
-    }
-    ~Terminal() { close(); }
-    void activate() const {
-        EXPECT_TRUE(tests::run(QStringLiteral("xdotool windowactivate --sync ") + m_window));
-    }
-    void close() {
-        m_process.kill();
-        m_process.waitForFinished();
-    }
-    [[nodiscard]] const QString& window() const { return m_window; }
-
-private:
-    QProcess m_process;
-    QString m_window;
-};
-
-/// A desktop with two applications that have entries, and some windows.
-class X11FrontmostAppTest : public testing::Test {
-protected:
-    X11FrontmostAppTest() {
-        writeEntry("alpha", "Name=Alpha\nStartupWMClass=Alpha\n");
-        writeEntry("org.example.Beta", "Name=Beta\n");
-        m_applications =
-            std::make_unique<DesktopApplications>(QStringList{m_entries.path()}, QStringList());
-        QObject::connect(&m_frontmost, &FrontmostApp::activated, &m_frontmost,
-                         [this](const auto& app) { m_told.push_back(app); });
-    }
-
-    void writeEntry(const char* id, const QByteArray& lines) {
-        QFile file(m_entries.filePath(q(id) + QStringLiteral(".desktop")));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("[Desktop Entry]\nType=Application\n" + lines);
-    }
-    [[nodiscard]] QString frontmostId() {
-        const auto app = m_frontmost.frontmost();
-        return app ? app->bundleId : QStringLiteral("none");
-    }
-    [[nodiscard]] bool comesToFront(const char* id) {
-        return tests::await([&] { return frontmostId() == q(id); });
-    }
-
-    /// A window of this test, shown as the window manager likes it.
-    xcb_window_t makeWindow(const char* windowClass) {
-        auto* const xcb = m_client.xcb();
-        const xcb_window_t window = xcb_generate_id(xcb);
-        xcb_create_window(xcb, XCB_COPY_FROM_PARENT, window, m_client.root(), 0, 0, 100, 100, 0,
-                          XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
-        if (*windowClass != '\0') {
-            const QByteArray both = QByteArray("instance\0", 9) + windowClass + '\0';
-            xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS,
-                                XCB_ATOM_STRING, 8, static_cast<std::uint32_t>(both.size()),
-                                both.constData());
-        }
-        return window;
-    }
-    xcb_atom_t atom(const char* name) {
-        const auto answer = m_client.reply<xcb_intern_atom_reply>(
-            xcb_intern_atom(m_client.xcb(), 0, static_cast<std::uint16_t>(qstrlen(name)), name));
-        return answer->atom;
-    }
-    void set(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, std::uint32_t value) {
-        xcb_change_property(m_client.xcb(), XCB_PROP_MODE_REPLACE, window, name, type, 32, 1,
-                            &value);
-    }
-    void setText(xcb_window_t window, xcb_atom_t name, xcb_atom_t type, const QByteArray& text) {
-        xcb_change_property(m_client.xcb(), XCB_PROP_MODE_REPLACE, window, name, type, 8,
-                            static_cast<std::uint32_t>(text.size()), text.constData());
-    }
-    /// Calls the window active, as a window manager does.
-    void callActive(xcb_window_t window) {
-        set(m_client.root(), atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, window);
-        (void)m_client.reply<xcb_get_input_focus_reply>(xcb_get_input_focus(m_client.xcb()));
-        tests::catchUp(m_connection);
-    }
-
-    QTemporaryDir m_entries;
-    std::unique_ptr<DesktopApplications> m_applications;
-    X11Connection m_connection;
-    X11Connection m_client; ///< of the windows that the test makes itself
-    std::vector<WindowHints> m_resolved;
-    X11FrontmostApp m_frontmost{m_connection, [this](const WindowHints& hints) {
-                                    m_resolved.push_back(hints);
-                                    return m_applications ? m_applications->identify(hints)
-                                                          : Application();
-                                }};
-    std::vector<std::optional<Application>> m_told;
-};
+class X11FrontmostAppTest : public tests::FrontmostWorld {};
 
 TEST_F(X11FrontmostAppTest, EachSwitchBetweenApplicationsIsToldOnceByEntry) {
     const Terminal alpha(q("Alpha"));
@@ -159,22 +51,12 @@ TEST_F(X11FrontmostAppTest, SwitchBetweenWindowsOfOneApplicationIsNone) {
     second.waitForFinished();
 }
 
-TEST_F(X11FrontmostAppTest, ApplicationStaysInFrontWhenItsLastWindowCloses) {
-    Terminal alpha(q("Alpha"));
-    alpha.activate();
-    ASSERT_TRUE(comesToFront("alpha"));
-    m_told.clear();
-    alpha.close();
-    tests::runFor(200);
-    EXPECT_EQ(frontmostId(), q("alpha"));
-    EXPECT_EQ(m_told.size(), 0U);
-}
-
 TEST_F(X11FrontmostAppTest, ApplicationInFrontAtTheStartIsKnown) {
     const Terminal alpha(q("Alpha"));
     alpha.activate();
     X11Connection connection;
-    X11FrontmostApp late(connection, [&](const auto& h) { return m_applications->identify(h); });
+    X11FrontmostApp late(connection, m_time,
+                         [&](const auto& h) { return m_applications->identify(h); });
     EXPECT_EQ(late.frontmost(), (Application{q("alpha"), q("Alpha")}));
 }
 
@@ -182,10 +64,42 @@ TEST_F(X11FrontmostAppTest, OwnWindowsAreThisProgramWhateverTheirClass) {
     const xcb_window_t window = makeWindow("Alpha");
     setText(window, XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING,
             QSysInfo::machineHostName().toLocal8Bit());
-    set(window, atom("_NET_WM_PID"), XCB_ATOM_CARDINAL,
-        static_cast<std::uint32_t>(QCoreApplication::applicationPid()));
     callActive(window);
     EXPECT_EQ(m_frontmost.frontmost(), (Application{q("local.vantle.Vantle"), q("Vantle")}));
+}
+
+TEST_F(X11FrontmostAppTest, OwnWindowsAreKnownByTheirClassWhereTheProcessCantBeTold) {
+    callActive(makeWindow("vantle"));
+    EXPECT_EQ(m_frontmost.frontmost(), (Application{q("local.vantle.Vantle"), q("Vantle")}));
+    EXPECT_TRUE(m_resolved.empty());
+}
+
+TEST_F(X11FrontmostAppTest, ProcessIsTheOneThatTheServerKnowsNotTheNumberInASandbox) {
+    const Terminal alpha(q("Alpha"));
+    ASSERT_TRUE(tests::run(q("xprop -f _NET_WM_PID 32c -set _NET_WM_PID 2 -id ") + alpha.window()));
+    alpha.activate();
+    ASSERT_TRUE(comesToFront("alpha"));
+    EXPECT_EQ(m_resolved.back().processId, alpha.processId());
+}
+
+TEST_F(X11FrontmostAppTest, WithoutTheServersWordTheWindowsOwnCounts) {
+    const tests::OwnServer server({q("-extension"), q("X-Resource")});
+    X11Connection connection(server.display());
+    const xcb_window_t window = xcb_generate_id(connection.xcb());
+    xcb_create_window(connection.xcb(), XCB_COPY_FROM_PARENT, window, connection.root(), 0, 0, 1, 1,
+                      0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    const QByteArray host = QSysInfo::machineHostName().toLocal8Bit();
+    xcb_change_property(connection.xcb(), XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLIENT_MACHINE,
+                        XCB_ATOM_STRING, 8, static_cast<std::uint32_t>(host.size()),
+                        host.constData());
+    const auto name = connection.reply<xcb_intern_atom_reply>(
+        xcb_intern_atom(connection.xcb(), 0, 11, "_NET_WM_PID"));
+    const std::uint32_t told = 4711;
+    xcb_change_property(connection.xcb(), XCB_PROP_MODE_REPLACE, window, name->atom,
+                        XCB_ATOM_CARDINAL, 32, 1, &told);
+    const auto hints = X11WindowReader(connection).read(window);
+    ASSERT_TRUE(hints);
+    EXPECT_EQ(hints->processId, 4711);
 }
 
 TEST_F(X11FrontmostAppTest, ProcessOfAnotherMachineIsNotTrusted) {
@@ -265,7 +179,7 @@ TEST_F(X11FrontmostAppTest, ApplicationIdOfTheWindowReachesTheResolver) {
 TEST_F(X11FrontmostAppTest, ServerWithoutAWindowManagerHasNothingInFront) {
     const tests::OwnServer server;
     X11Connection connection(server.display());
-    X11FrontmostApp frontmost(connection, [](const auto&) { return Application(); });
+    X11FrontmostApp frontmost(connection, m_time, [](const auto&) { return Application(); });
     EXPECT_EQ(frontmost.frontmost(), std::nullopt);
     EXPECT_EQ(frontmost.coverage(), AppCoverage::None);
 }
@@ -274,7 +188,7 @@ TEST_F(X11FrontmostAppTest, EveryApplicationIsToldOnceThereIsAWindowManager) {
     EXPECT_EQ(m_frontmost.coverage(), AppCoverage::All);
     const tests::OwnServer server;
     X11Connection connection(server.display());
-    X11FrontmostApp frontmost(connection, [](const auto&) { return Application(); });
+    X11FrontmostApp frontmost(connection, m_time, [](const auto&) { return Application(); });
     int changes = 0;
     QObject::connect(&frontmost, &FrontmostApp::coverageChanged, &frontmost, [&] { ++changes; });
     QProcess manager;
@@ -298,7 +212,7 @@ TEST_F(X11FrontmostAppTest, NothingIsInFrontOnceTheServerIsGone) {
     xcb_change_property(other.xcb(), XCB_PROP_MODE_REPLACE, root, name->atom, XCB_ATOM_WINDOW, 32,
                         1, &root);
     (void)other.reply<xcb_get_input_focus_reply>(xcb_get_input_focus(other.xcb()));
-    X11FrontmostApp frontmost(connection, [](const auto&) { return Application(); });
+    X11FrontmostApp frontmost(connection, m_time, [](const auto&) { return Application(); });
     ASSERT_TRUE(frontmost.frontmost());
     server.reset();
     EXPECT_TRUE(tests::await([&] { return !frontmost.frontmost(); }));

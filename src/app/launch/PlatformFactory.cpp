@@ -71,7 +71,8 @@ public:
         , m_applications(DesktopApplications::standardFolders(),
                          ApplicationEntry::localeNames(QLocale::system()))
         , m_frontmostApp(
-              m_x11, [this](const WindowHints& hints) { return m_applications.identify(hints); })
+              m_x11, scheduler,
+              [this](const WindowHints& hints) { return m_applications.identify(hints); })
         , m_reducedMotion(m_session, configHome())
         , m_autostart(m_files,
                       configHome() + QStringLiteral("/autostart/local.vantle.Vantle.desktop"),

@@ -10,6 +10,13 @@ Application ourselves() {
     return {QStringLiteral("local.vantle.Vantle"), QStringLiteral("Vantle")};
 }
 
+/// Whether it is a window of this program. The number of our process is another one for the server
+/// when we run in a sandbox, so the class tells it as well.
+bool isOurs(const WindowHints& hints) {
+    return hints.processId == QCoreApplication::applicationPid() ||
+           hints.windowClass.compare(QLatin1String("vantle"), Qt::CaseInsensitive) == 0;
+}
+
 /// Two applications that the tables know as one are one: a switch between them is none.
 bool sameApplication(const std::optional<Application>& a, const std::optional<Application>& b) {
     if (!a || !b) return a.has_value() == b.has_value();
@@ -18,39 +25,95 @@ bool sameApplication(const std::optional<Application>& a, const std::optional<Ap
 
 } // namespace
 
-X11FrontmostApp::X11FrontmostApp(X11Connection& connection, IdentityResolver resolve)
+X11FrontmostApp::X11FrontmostApp(X11Connection& connection, Scheduler& scheduler,
+                                 IdentityResolver resolve)
     : m_connection(connection)
+    , m_scheduler(scheduler)
     , m_reader(connection)
     , m_resolve(std::move(resolve)) {
     follow();
     refreshCoverage();
     refresh(); // nobody listens yet
     connect(&m_connection, &X11Connection::broken, this, [this] {
+        m_none.reset();
         setCoverage(AppCoverage::None);
-        if (!std::exchange(m_application, std::nullopt)) return;
-        Q_EMIT activated(std::nullopt);
+        adopt(std::nullopt);
     });
 }
 
 void X11FrontmostApp::follow() {
     if (!m_connection.isAlive()) return;
-    m_properties =
-        m_connection.subscribe(XCB_PROPERTY_NOTIFY, [this](const xcb_generic_event_t& event) {
-            const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
-            if (change.window != m_connection.root()) return;
-            if (change.atom == m_reader.activeWindowAtom()) refresh();
-            if (change.atom == m_reader.supportedAtom()) refreshCoverage();
-        });
+    m_properties = m_connection.subscribe(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
+        handleProperty(reinterpret_cast<const xcb_property_notify_event_t&>(event));
+    });
+    m_ends = m_connection.subscribe(XCB_DESTROY_NOTIFY, [this](const auto& event) {
+        const auto& end = reinterpret_cast<const xcb_destroy_notify_event_t&>(event);
+        if (end.window != m_window) return;
+        m_window = XCB_NONE;
+        waitForNone(); // the window manager may have another one in a moment
+    });
     const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_change_window_attributes(m_connection.xcb(), m_connection.root(), XCB_CW_EVENT_MASK, &mask);
     m_connection.flush();
 }
 
+void X11FrontmostApp::followWindow(xcb_window_t window) {
+    // The server answers for a window that is gone with an error, which is not waited for.
+    const auto select = [this](xcb_window_t of, std::uint32_t mask) {
+        if (of == XCB_NONE || of == m_connection.root()) return;
+        xcb_change_window_attributes(m_connection.xcb(), of, XCB_CW_EVENT_MASK, &mask);
+    };
+    if (window != m_window) select(m_window, XCB_EVENT_MASK_NO_EVENT);
+    // Also when it has the number of the one before: that may be gone, and this a new one.
+    select(window, XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+    m_window = window;
+}
+
+void X11FrontmostApp::handleProperty(const xcb_property_notify_event_t& change) {
+    if (change.window == m_connection.root()) {
+        if (change.atom == m_reader.activeWindowAtom()) refresh();
+        if (change.atom == m_reader.supportedAtom()) refreshCoverage();
+    } else if (change.window == m_window && m_reader.isIdentity(change.atom)) {
+        refresh();
+    }
+}
+
 void X11FrontmostApp::refresh() {
     const xcb_window_t window = m_reader.activeWindow();
-    if (window == XCB_NONE) return;
-    const auto former = std::exchange(m_application, applicationOf(window));
+    if (window == XCB_NONE) {
+        waitForNone();
+        return;
+    }
+    m_none.reset();
+    followWindow(window); // before it is read, so that no change falls between
+    adopt(applicationOf(window));
+}
+
+void X11FrontmostApp::waitForNone() {
+    if (m_none || !m_connection.isAlive()) return;
+    m_none = m_scheduler.scheduleOnce(noneIsBelievedAfter, [this] {
+        m_none.reset();
+        const xcb_window_t window = m_reader.activeWindow();
+        if (window != XCB_NONE) return adopt(applicationOf(window));
+        followWindow(XCB_NONE);
+        if (!oursHasTheKeyboard()) adopt(std::nullopt);
+    });
+}
+
+void X11FrontmostApp::adopt(std::optional<Application> application) {
+    const auto former = std::exchange(m_application, std::move(application));
     if (!sameApplication(former, m_application)) Q_EMIT activated(m_application);
+}
+
+std::optional<Application> X11FrontmostApp::frontmost() {
+    const xcb_window_t window = m_reader.activeWindow();
+    if (window == XCB_NONE) return oursHasTheKeyboard() ? m_application : std::nullopt;
+    return window == m_window ? m_application : applicationOf(window);
+}
+
+bool X11FrontmostApp::oursHasTheKeyboard() {
+    const auto hints = m_reader.readFocus();
+    return hints && isOurs(*hints);
 }
 
 void X11FrontmostApp::refreshCoverage() {
@@ -64,7 +127,7 @@ void X11FrontmostApp::setCoverage(AppCoverage coverage) {
 std::optional<Application> X11FrontmostApp::applicationOf(xcb_window_t window) {
     const auto hints = m_reader.read(window);
     if (!hints) return std::nullopt;
-    if (hints->processId == QCoreApplication::applicationPid()) return ourselves();
+    if (isOurs(*hints)) return ourselves();
     return m_resolve(*hints);
 }
 

@@ -1,6 +1,7 @@
 // The application whose window the window manager calls active.
 #pragma once
 
+#include "base/Scheduler.h"
 #include "platform/FrontmostApp.h"
 #include "platform/WindowHints.h"
 #include "platform/x11/X11Connection.h"
@@ -8,40 +9,51 @@
 
 namespace vantle {
 
-/// Follows _NET_ACTIVE_WINDOW on the root window; nothing is polled, and between switches it costs
-/// nothing.
+/// Follows _NET_ACTIVE_WINDOW on the root window, and on the active window its end and the
+/// properties that tell whose it is; nothing is polled.
 ///
-/// A window manager that says "none" is not believed: it does so for a moment at each switch, and
-/// while a menu or one of our own cards has the keyboard; what was in front stays in front then. A
-/// dock, the desktop and a window that vanished while it was read are no application: nothing is in
-/// front. Only a change of application is told, not one of windows. Our own windows count as the
-/// application `local.vantle.Vantle`. Without a window manager that keeps the property, and without
-/// a server, nothing is in front.
+/// A window manager says "none" for a moment at each switch, so it is believed once it has lasted
+/// `noneIsBelievedAfter`. It says so, too, while a card or panel of ours has the keyboard; what was
+/// in front stays in front then. A dock, the desktop and a window that vanished while it was read
+/// are no application: nothing is in front. Only a change of application is told, not one of
+/// windows. Our own windows count as the application `local.vantle.Vantle`. Without a window
+/// manager that keeps the property, and without a server, nothing is in front.
 class X11FrontmostApp final : public FrontmostApp {
     Q_OBJECT
 
 public:
-    /// `connection` must outlive this.
-    X11FrontmostApp(X11Connection& connection, IdentityResolver resolve);
+    static constexpr Seconds noneIsBelievedAfter{0.1};
 
-    /// As the server told it last; asks nobody.
-    [[nodiscard]] std::optional<Application> frontmost() override { return m_application; }
+    /// Both must outlive this.
+    X11FrontmostApp(X11Connection& connection, Scheduler& scheduler, IdentityResolver resolve);
+
+    /// Asks the server, which may know better than what it has told up to now. One round trip, a
+    /// few where it does.
+    [[nodiscard]] std::optional<Application> frontmost() override;
     /// None without a window manager that keeps the property, else all.
     [[nodiscard]] AppCoverage coverage() const override { return m_coverage; }
 
 private:
     void follow();
+    void followWindow(xcb_window_t window);
+    void handleProperty(const xcb_property_notify_event_t& change);
     void refresh();
+    void waitForNone();
+    void adopt(std::optional<Application> application);
     void refreshCoverage();
     void setCoverage(AppCoverage coverage);
     [[nodiscard]] std::optional<Application> applicationOf(xcb_window_t window);
+    [[nodiscard]] bool oursHasTheKeyboard();
 
     X11Connection& m_connection;
+    Scheduler& m_scheduler;
     X11WindowReader m_reader;
     const IdentityResolver m_resolve;
     std::optional<Application> m_application;
     AppCoverage m_coverage = AppCoverage::None;
-    X11Connection::Subscription m_properties;
+    xcb_window_t m_window = XCB_NONE; ///< the active one while it is followed
+    TimerHandle m_none;               ///< while "none" is not believed yet
+    X11Connection::Subscription m_properties, m_ends;
 };
 
 } // namespace vantle

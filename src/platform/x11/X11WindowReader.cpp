@@ -4,6 +4,8 @@
 
 #include <QSysInfo>
 
+#include <xcb/res.h>
+
 #include <algorithm>
 #include <cstring>
 #include <span>
@@ -48,11 +50,29 @@ QString text(const xcb_get_property_reply_t* property) {
     return QString::fromUtf8(end < 0 ? all : all.first(end)).trimmed();
 }
 
+xcb_res_query_client_ids_cookie_t askForProcess(xcb_connection_t* xcb, xcb_window_t window) {
+    const xcb_res_client_id_spec_t spec{window, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
+    return xcb_res_query_client_ids(xcb, 1, &spec);
+}
+
+/// The process behind the connection that made the window. Empty where that came over a network.
+std::optional<std::uint32_t> processOf(const xcb_res_query_client_ids_reply_t* answer) {
+    if (answer == nullptr) return std::nullopt;
+    auto ids = xcb_res_query_client_ids_ids_iterator(answer);
+    for (; ids.rem > 0; xcb_res_client_id_value_next(&ids)) {
+        if ((ids.data->spec.mask & XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID) != 0 &&
+            xcb_res_client_id_value_value_length(ids.data) > 0)
+            return *xcb_res_client_id_value_value(ids.data);
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 X11WindowReader::X11WindowReader(X11Connection& connection)
     : m_connection(connection)
-    , m_host(QSysInfo::machineHostName().toLocal8Bit()) {
+    , m_host(QSysInfo::machineHostName().toLocal8Bit())
+    , m_serverKnowsProcesses(connection.extension(xcb_res_id) != nullptr) {
     static_assert(kNames.size() == AtomCount);
     std::array<xcb_intern_atom_cookie_t, AtomCount> cookies{};
     for (std::size_t i = 0; i < kNames.size(); ++i) {
@@ -97,6 +117,20 @@ std::optional<WindowHints> X11WindowReader::read(xcb_window_t window) {
     return topmost;
 }
 
+std::optional<WindowHints> X11WindowReader::readFocus() {
+    const auto focus =
+        m_connection.reply<xcb_get_input_focus_reply>(xcb_get_input_focus(m_connection.xcb()));
+    if (!focus || focus->focus <= XCB_INPUT_FOCUS_POINTER_ROOT) return std::nullopt;
+    const auto window = readOne(focus->focus);
+    return window ? std::optional(window->hints) : std::nullopt;
+}
+
+bool X11WindowReader::isIdentity(xcb_atom_t property) const {
+    return property == XCB_ATOM_WM_CLASS || property == XCB_ATOM_WM_TRANSIENT_FOR ||
+           property == m_atoms[WindowType] || property == m_atoms[GtkApplicationId] ||
+           property == m_atoms[KdeDesktopFile];
+}
+
 bool X11WindowReader::isApplicationType(const xcb_get_property_reply_t* types) const {
     const auto type = number(types); // the first is the one that the program likes best
     return !type || (*type != m_atoms[TypeDock] && *type != m_atoms[TypeDesktop]);
@@ -116,6 +150,8 @@ std::optional<X11WindowReader::Window> X11WindowReader::readOne(xcb_window_t win
     const auto typeCookie = ask(m_atoms[WindowType], XCB_ATOM_ATOM);
     const auto gtkCookie = ask(m_atoms[GtkApplicationId], m_atoms[Utf8]);
     const auto kdeCookie = ask(m_atoms[KdeDesktopFile], XCB_GET_PROPERTY_TYPE_ANY);
+    std::optional<xcb_res_query_client_ids_cookie_t> ownerCookie;
+    if (m_serverKnowsProcesses) ownerCookie = askForProcess(xcb, window);
     const auto answer = [&](xcb_get_property_cookie_t cookie) {
         return m_connection.reply<xcb_get_property_reply>(cookie);
     };
@@ -127,6 +163,10 @@ std::optional<X11WindowReader::Window> X11WindowReader::readOne(xcb_window_t win
     const Property type = answer(typeCookie);
     const Property gtk = answer(gtkCookie);
     const Property kde = answer(kdeCookie);
+    std::optional<std::uint32_t> id;
+    if (ownerCookie)
+        id = processOf(m_connection.reply<xcb_res_query_client_ids_reply>(*ownerCookie).get());
+    if (!id) id = number(process.get());
     if (!attributes) return std::nullopt;
 
     Window read;
@@ -137,10 +177,10 @@ std::optional<X11WindowReader::Window> X11WindowReader::readOne(xcb_window_t win
     read.hints.windowClass = QString::fromUtf8(classParts.value(1)).trimmed();
     read.hints.applicationId = text(gtk.get());
     if (read.hints.applicationId.isEmpty()) read.hints.applicationId = text(kde.get());
-    // A process number from another machine would name a stranger here.
-    if (text(machine.get()) == QString::fromLocal8Bit(m_host)) {
-        if (const auto id = number(process.get()); id && *id > 0) read.hints.processId = *id;
-    }
+    // A process number from another machine would name a stranger here, and the server knows only
+    // the program that forwards such a window.
+    if (id && *id > 0 && text(machine.get()) == QString::fromLocal8Bit(m_host))
+        read.hints.processId = *id;
     return read;
 }
 

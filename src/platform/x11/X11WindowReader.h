@@ -36,7 +36,17 @@ public:
     /// The hints of the application that the window belongs to: a dialog answers with those of the
     /// window that it stands over. Empty for docks, desktops and windows outside the window
     /// manager's care, and when the window is gone.
+    ///
+    /// The process is the one that the server knows: inside a sandbox a program can only tell its
+    /// number in there. Without the server's extension it is what the program tells.
     [[nodiscard]] std::optional<WindowHints> read(xcb_window_t window);
+
+    /// What the window with the keyboard tells of itself, whatever kind of window it is. Empty when
+    /// no window has the keyboard.
+    [[nodiscard]] std::optional<WindowHints> readFocus();
+
+    /// Whether a change of that property may change what `read` tells.
+    [[nodiscard]] bool isIdentity(xcb_atom_t property) const;
 
 private:
     enum Atom : std::size_t {
@@ -63,6 +73,7 @@ private:
     X11Connection& m_connection;
     std::array<xcb_atom_t, AtomCount> m_atoms{};
     const QByteArray m_host;
+    const bool m_serverKnowsProcesses;
 };
 
 } // namespace vantle
