@@ -77,7 +77,7 @@ class StopSummary(CardTest):
         self.end_session()
         self.await_card(SUMMARY)
         shown = time.monotonic()
-        wait_until("the card gone", lambda: not self.is_up(SUMMARY), deadline=30)
+        wait_until("the card gone", lambda: not self.is_up(SUMMARY), deadline=60)
         self.assertGreater(time.monotonic() - shown, 18)
         self.assertEqual(self.vantle.sessions()[-1]["note"], "")
 

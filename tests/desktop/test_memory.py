@@ -36,7 +36,7 @@ class Memory(WindowCase):
 
         # What closed last is given back a moment later.
         try:
-            wait_until("the memory back", lambda: kept() < MAY_KEEP, deadline=3)
+            wait_until("the memory back", lambda: kept() < MAY_KEEP)
         except AssertionError:
             self.fail(f"{kept()} KB more than after the first of {ROUNDS + 1} rounds")
 

@@ -30,9 +30,10 @@ class Welcome(DesktopTest):
     def in_sight(self):
         return self.desktop.windows_named(TITLE)
 
-    def await_in_front(self, deadline=10):
+    def await_in_front(self):
         wait_until("the welcome in front",
-                   lambda: self.desktop.active_window() in self.in_sight(), deadline)
+                   lambda: self.desktop.active_window() in self.in_sight())
+        self.desktop.await_keyboard(TITLE)
 
     def walk_to_press(self):
         self.desktop.type("Lumen")
