@@ -150,8 +150,9 @@ class TagPrompt(CardTest):
             time.sleep(0.5)
         x, y, _, _ = self.await_card(QUESTION)
         self.desktop.screenshot("question")
+        wait_until("its question", lambda: any(
+            one.role == "dialog" and "Quern" in one.name for one in reader.window(QUESTION).all()))
         told = reader.window(QUESTION)
-        self.assertIn("Quern", next(one for one in told.all() if one.role == "dialog").name)
         for button in ("Build", "Design", "Not now"):
             told.find("push button", button)
         self.click(x + 131, y + 96)  # Design
@@ -177,6 +178,7 @@ class Toast(CardTest):
         x, y, width, height = self.desktop.frame_of(window)
         self.assertEqual((x + width, height), (SCREEN_WIDTH - RIGHT_INSET, 40))
         self.desktop.screenshot("toast")
-        notice, = [one for one in reader.window(SAVED).all() if one.role == "notification"]
+        notice, = wait_until("its words", lambda: [
+            one for one in reader.window(SAVED).all() if one.role == "notification"])
         self.assertRegex(notice.name, r"^\d+ sec saved")
         wait_until("the toast gone", lambda: not self.is_up(SAVED))

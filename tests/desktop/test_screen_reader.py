@@ -54,9 +54,9 @@ class OfWindows(ScreenReader):
             ("label", "Nov 3 · 09:30, Build, 30 min"),
             ("label", "Nov 2 · 09:30, Build, 30 min, manual"))
         self.reader.press(window.find("push button", "Start building"))
-        wait_until("a marker", self.vantle.marker)
-        window = self.reader.window("Your hours")
-        chip, = [one for one in window.all() if one.name.endswith(". Stops the session.")]
+        chip, = wait_until("the chip", lambda: [
+            one for one in self.reader.window("Your hours").all()
+            if one.name.endswith(". Stops the session.")])
         self.assertRegex(chip.name, r"^In Vantle · \d+ sec\. Stops the session\.$")
         self.assertEqual((chip.role, chip.description), ("push button", "Stop the session"))
 

@@ -72,8 +72,9 @@ class Wrapped(ReaderCase):
         self.launch()
         activate(self.desktop)
         wait_until("the panel", lambda: self.desktop.windows_named(PANEL_TITLE))
-        offer, = [one for one in self.reader.window(PANEL_TITLE).all()
-                  if one.role == "push button" and "Wrapped is ready" in one.name]
+        offer, = wait_until("the offer", lambda: [
+            one for one in self.reader.window(PANEL_TITLE).all()
+            if one.role == "push button" and "Wrapped is ready" in one.name])
         self.reader.press(offer)
         wait_until("the review", lambda: self.desktop.windows_named("Wrapped"))
         self.await_selected("Last week")
