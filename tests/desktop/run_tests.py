@@ -5,10 +5,6 @@ With --list it names their cases instead, a line each.
 $VANTLE_EXECUTABLE is the program, build/release/vantle if unset; pictures of the screen go to
 $VANTLE_DESKTOP_PICTURES. With GTEST_OUTPUT=xml:<directory>/ it leaves the same kind of report
 there as the C++ test programs do.
-
-A case that fails is tried once more: other programs have a part in it, an X server, a window
-manager and a bus, whose pace is not ours. tools/checks/count names what passed only then, which
-wants to be looked into. With $VANTLE_DESKTOP_ONCE set no case is tried again.
 """
 
 import os
@@ -69,11 +65,7 @@ def cases_of(tests):
     return [name for one in tests for name in cases_of(one)]
 
 
-def failed_ones(cases):
-    return [name for name, case in cases.items() if case["failures"]]
-
-
-def write_report(path, cases, again):
+def write_report(path, cases):
     suites = ElementTree.Element("testsuites", name="desktop", tests=str(len(cases)),
                                  failures=str(sum(bool(c["failures"]) for c in cases.values())))
     suite = ElementTree.SubElement(suites, "testsuite", name="desktop")
@@ -82,8 +74,6 @@ def write_report(path, cases, again):
         element = ElementTree.SubElement(suite, "testcase", name=method, classname=classname,
                                          status="run", result="completed",
                                          time=f"{case['time']:.3f}")
-        if name in again:
-            element.set("tries", "2")
         for failure in case["failures"]:
             ElementTree.SubElement(element, "failure", message=failure)
     path.parent.mkdir(parents=True, exist_ok=True)
@@ -98,15 +88,11 @@ def main():
         print("\n".join(cases_of(unittest.defaultTestLoader.loadTestsFromNames(names))))
         return
     cases = run(names)
-    again = [] if os.environ.get("VANTLE_DESKTOP_ONCE") else failed_ones(cases)
-    if again:
-        print("\nOnce more:", flush=True)
-        cases.update(run(again))
     wish, _, where = os.environ.get("GTEST_OUTPUT", "").partition(":")
     if wish == "xml" and where.endswith("/"):
         name = "_".join(["desktop", *(name.removeprefix("test_") for name in names)])
-        write_report(Path(where) / f"{name}.xml", cases, again)
-    sys.exit(0 if cases and not failed_ones(cases) else 1)
+        write_report(Path(where) / f"{name}.xml", cases)
+    sys.exit(0 if cases and not any(case["failures"] for case in cases.values()) else 1)
 
 
 if __name__ == "__main__":
