@@ -49,6 +49,14 @@ private:
     std::bitset<1024> m_pairs; ///< those that occur
 };
 
+QString withoutHost(const QString& bundleId) {
+    for (const std::string_view prefix : suggestiontables::hostPrefixes()) {
+        const QLatin1String text(prefix.data(), static_cast<qsizetype>(prefix.size()));
+        if (bundleId.startsWith(text, Qt::CaseInsensitive)) return bundleId.sliced(text.size());
+    }
+    return bundleId;
+}
+
 std::optional<QString> skillOfId(std::string_view id, const std::vector<Skill>& skills) {
     const QLatin1String wanted(id.data(), static_cast<qsizetype>(id.size()));
     const auto found =
@@ -74,12 +82,12 @@ std::optional<QString> skillByHints(std::span<const std::string_view> hints,
 } // namespace
 
 bool isBrowser(const QString& bundleId, const QString& appName) {
-    return SearchText(bundleId, appName).holdsAny(suggestiontables::browserWords());
+    return SearchText(withoutHost(bundleId), appName).holdsAny(suggestiontables::browserWords());
 }
 
 std::optional<QString> suggestedSkillId(const QString& bundleId, const QString& appName,
                                         const std::vector<Skill>& skills) {
-    const SearchText text(bundleId, appName);
+    const SearchText text(withoutHost(bundleId), appName);
     if (text.holdsAny(suggestiontables::browserWords())) return std::nullopt;
     const auto groups = suggestiontables::groups();
     const auto group = std::ranges::find_if(

@@ -11,6 +11,8 @@ constexpr Word kBrowserWords[] = {"safari",        "google.chrome", "chromium",
                                   "vivaldi",       "opera",         "com.microsoft.edgemac",
                                   "microsoft edge"};
 
+constexpr Word kHostPrefixes[] = {"com.github.", "io.github."};
+
 constexpr Word kAssistantsWords[] = {"chatgpt", "openai",     "claude", "anthropic",
                                      "codex",   "perplexity", "gemini", "copilot"};
 constexpr Word kAssistantsHints[] = {"build", "code", "develop", "engineer", "product"};
@@ -71,6 +73,8 @@ constexpr Group kGroups[] = {{kAssistantsWords, "building", "code", kAssistantsH
 } // namespace
 
 std::span<const std::string_view> browserWords() { return kBrowserWords; }
+
+std::span<const std::string_view> hostPrefixes() { return kHostPrefixes; }
 
 std::span<const Group> groups() { return kGroups; }
 

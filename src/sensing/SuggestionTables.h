@@ -10,6 +10,10 @@ namespace vantle::suggestiontables {
 /// Any of these in an application's identity or name makes it a browser.
 [[nodiscard]] std::span<const std::string_view> browserWords();
 
+/// What an identity begins with where a project is named after the site that hosts it. It says
+/// nothing of what the application is for, though it may hold one of the words.
+[[nodiscard]] std::span<const std::string_view> hostPrefixes();
+
 /// Applications of one sort, and the skill that they are for.
 struct Group {
     std::span<const std::string_view> words; ///< any one of them makes it one of the group

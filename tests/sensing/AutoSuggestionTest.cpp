@@ -48,6 +48,16 @@ TEST(AutoSuggestion, TakesAWordAnywhereInTheText) {
     EXPECT_EQ(suggestion("com.example.Organized", "x"), text("building"));
 }
 
+TEST(AutoSuggestion, SiteThatHostsAProjectSaysNothingOfWhatItIsFor) {
+    EXPECT_EQ(suggestion("io.github.Hexchat", "HexChat"), std::nullopt);
+    EXPECT_EQ(suggestion("com.github.johnfactotum.Foliate", "Foliate"), std::nullopt);
+    EXPECT_EQ(suggestion("com.GitHub.xournalpp.xournalpp", "Xournal++"), std::nullopt);
+    EXPECT_EQ(suggestion("com.github.GitHubClient", "x"), text("building"));
+    EXPECT_EQ(suggestion("io.github.shiftey.Desktop", "GitHub Desktop"), text("building"));
+    EXPECT_EQ(suggestion("io.github.someone.Slack", "x"), text("connections"));
+    EXPECT_TRUE(isBrowser(text("io.github.someone.firefox"), QString()));
+}
+
 TEST(AutoSuggestion, TriesTheGroupsInTheirOrder) {
     EXPECT_EQ(suggestion("com.example.app", "Mailchimp"), text("marketing"));
     EXPECT_EQ(suggestion("com.example.app", "Mail"), text("connections"));
