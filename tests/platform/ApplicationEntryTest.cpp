@@ -69,6 +69,12 @@ TEST(ApplicationEntry, OneThatMenusDontShowIsStillOne) {
     EXPECT_FALSE(entry->isShown);
 }
 
+TEST(ApplicationEntry, OneThatRunsInATerminalSaysSo) {
+    EXPECT_TRUE(read("Name=Tool\nTerminal=true\n")->isInTerminal);
+    EXPECT_FALSE(read("Name=Tool\nTerminal=false\n")->isInTerminal);
+    EXPECT_FALSE(read("Name=Tool\n")->isInTerminal);
+}
+
 TEST(ApplicationEntry, KeysOfActionsAreNotItsOwn) {
     const auto entry = read("Name=Tool\n[Desktop Action new]\nName=New\nStartupWMClass=Other\n");
     EXPECT_EQ(entry->name, QStringLiteral("Tool"));
@@ -84,6 +90,10 @@ TEST(ApplicationEntry, ProgramIsTheBaseNameOfWhatExecStarts) {
 TEST(ApplicationEntry, ExecOfALauncherOrABrokenOneTellsNoProgram) {
     EXPECT_EQ(programOf("/usr/bin/flatpak run org.example.Tool"), QString());
     EXPECT_EQ(programOf("sh -c \"tool\""), QString());
+    EXPECT_EQ(programOf("python3 /opt/tool/tool.py"), QString());
+    EXPECT_EQ(programOf("/usr/bin/python3.11"), QString());
+    EXPECT_EQ(programOf("java -jar tool.jar"), QString());
+    EXPECT_EQ(programOf("pythonic"), QStringLiteral("pythonic"));
     EXPECT_EQ(programOf("\"/opt/tool"), QString()) << "a quote that nothing closes";
     EXPECT_EQ(programOf("%U"), QString());
     EXPECT_EQ(programOf("\\"), QStringLiteral("\\"));

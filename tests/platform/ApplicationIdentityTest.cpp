@@ -54,6 +54,59 @@ TEST_F(ApplicationIdentityTest, SandboxGoesBeforeTheClass) {
     EXPECT_EQ(id(), text("org.example.Boxed"));
 }
 
+TEST_F(ApplicationIdentityTest, PartOfASuiteInASandboxIsThatPart) {
+    install(entry("org.example.Office", "Office", "office-start"));
+    install(entry("org.example.Office.writer", "Writer", "office-writer"));
+    install(entry("office-writer", "Writer outside", "office-writer"));
+    m_scope.sandboxId = text("org.example.Office");
+    m_window.windowClass = text("office-writer");
+    EXPECT_EQ(resolve().name, text("Writer"));
+    m_window.windowClass = text("office-start");
+    EXPECT_EQ(resolve().name, text("Office"));
+    m_window.windowClass = text("elsewhere");
+    EXPECT_EQ(resolve().name, text("Office"));
+}
+
+TEST_F(ApplicationIdentityTest, PartOfASuiteInASnapIsThatPart) {
+    install(entry("office_office", "Office"));
+    install(entry("office_calc", "Calc", "office-calc"));
+    install(entry("officer_calc", "Another", "office-calc"));
+    m_scope.sandboxId = text("office_office");
+    m_window.windowClass = text("office-calc");
+    EXPECT_EQ(resolve().name, text("Calc"));
+}
+
+TEST_F(ApplicationIdentityTest, InterpreterIsNobodysIdentity) {
+    auto interpreter = entry("python3.11", "Python (v3.11)", "", "python3.11");
+    interpreter.isShown = false;
+    interpreter.isInTerminal = true;
+    install(interpreter);
+    m_scope.program = text("python3.11");
+    m_window.windowClass = text("Ledger.py");
+    EXPECT_EQ(resolve(), (Application{text("Ledger.py"), text("Ledger.py")}));
+    m_window.windowClass = text("Chess.py");
+    EXPECT_EQ(id(), text("Chess.py"));
+    m_window.windowClass = text("python3.11");
+    EXPECT_EQ(resolve().name, text("python3.11"));
+}
+
+TEST_F(ApplicationIdentityTest, ProgramOfAHiddenOrATerminalsEntryTellsNothing) {
+    auto hidden = entry("hidden", "Hidden", "", "viewer");
+    hidden.isShown = false;
+    install(hidden);
+    auto text = entry("monitor", "Monitor", "", "monitor-bin");
+    text.isInTerminal = true;
+    install(text);
+    m_window.windowClass = tests::text("Unheard");
+    for (const char* program : {"viewer", "monitor-bin"}) {
+        m_scope.program = tests::text(program);
+        EXPECT_EQ(id(), tests::text("Unheard")) << program;
+    }
+    install(entry("shown", "Shown", "", "viewer"));
+    m_scope.program = tests::text("viewer");
+    EXPECT_EQ(id(), tests::text("shown"));
+}
+
 TEST_F(ApplicationIdentityTest, SandboxWithoutAnEntryIsAnIdentityAllTheSame) {
     m_window.windowClass = text("Boxed");
     m_scope.sandboxId = text("org.example.Boxed");

@@ -2,6 +2,7 @@
 
 #include <QByteArrayView>
 #include <QHash>
+#include <QRegularExpression>
 
 #include <array>
 #include <utility>
@@ -104,8 +105,12 @@ QStringList wordsOf(const QString& command) {
     return words;
 }
 
-/// What is written before the program itself in some entries.
+/// What is written before the program itself in some entries: shells, sandboxes, and interpreters
+/// of whatever version.
 bool isLauncher(const QString& program) {
+    static const QRegularExpression kInterpreter(QStringLiteral(
+        "^(python|perl|ruby|node|nodejs|java|mono|lua|wish|tclsh|gjs|wine)[0-9.-]*$"));
+    if (kInterpreter.match(program).hasMatch()) return true;
     return program == QLatin1String("env") || program == QLatin1String("sh") ||
            program == QLatin1String("bash") || program == QLatin1String("flatpak") ||
            program == QLatin1String("snap") || program == QLatin1String("pkexec");
@@ -116,7 +121,7 @@ QString programOf(const QString& command) {
         if (word.startsWith(QLatin1Char('%'))) break;
         const QString base = word.section(QLatin1Char('/'), -1);
         if (base == QLatin1String("env") || word.contains(QLatin1Char('='))) continue;
-        // What runs inside a shell or a sandbox can't be told from here.
+        // What runs inside one of them can't be told from here.
         return isLauncher(base) ? QString() : base;
     }
     return {};
@@ -136,6 +141,7 @@ std::optional<ApplicationEntry> ApplicationEntry::read(const QString& id, const 
     entry.windowClass = values.value(QStringLiteral("StartupWMClass"));
     entry.program = programOf(values.value(QStringLiteral("Exec")));
     entry.isShown = !isTrue(values, QStringLiteral("NoDisplay"));
+    entry.isInTerminal = isTrue(values, QStringLiteral("Terminal"));
     entry.isTerminal = values.value(QStringLiteral("Categories"))
                            .split(QLatin1Char(';'))
                            .contains(QLatin1String("TerminalEmulator"));

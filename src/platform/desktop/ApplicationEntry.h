@@ -17,6 +17,7 @@ struct ApplicationEntry {
     QString program;         ///< base name of the program that Exec starts; empty when it is broken
     bool isShown = true;     ///< in menus
     bool isTerminal = false; ///< in which people start programs of any kind
+    bool isInTerminal = false; ///< its program runs in a terminal, which has the window
 
     /// Reads the file's content. Empty for what is no application or is marked as deleted; such a
     /// file still keeps its id from entries further down. `locales` are tried in order, as in

@@ -17,11 +17,12 @@ public:
 
     [[nodiscard]] const ApplicationEntry* entryFor(const WindowHints& hints) const {
         if (const auto* entry = withId(hints.applicationId)) return entry;
-        if (const auto* entry = withId(m_scope.sandboxId)) return entry;
+        if (const auto* entry = ofSandbox(hints)) return entry;
         for (const QString& mark : {hints.windowClass, hints.instance})
             if (const auto* entry = oneOf(m_index.byWindowClass(mark))) return entry;
         for (const QString& mark : {hints.windowClass, hints.instance}) {
-            if (const auto* entry = withId(mark)) return entry;
+            if (const auto* entry = withId(mark); entry != nullptr && !isInterpreter(*entry))
+                return entry;
             if (const auto* entry = oneOf(m_index.byLastComponent(mark))) return entry;
         }
         for (const QString& mark : {hints.windowClass, hints.instance, m_scope.program})
@@ -34,6 +35,24 @@ private:
     [[nodiscard]] const ApplicationEntry* withId(const QString& id) const {
         return id.isEmpty() ? nullptr : m_index.byId(id);
     }
+    /// A suite has an entry for each of its parts, which are in one sandbox and tell themselves
+    /// apart by the window class. Ids of Flatpak entries are "{app}.{part}", of Snap
+    /// "{snap}_{part}".
+    [[nodiscard]] const ApplicationEntry* ofSandbox(const WindowHints& hints) const {
+        if (m_scope.sandboxId.isEmpty()) return nullptr;
+        const qsizetype snap = m_scope.sandboxId.indexOf(QLatin1Char('_'));
+        const QString parts =
+            snap < 0 ? m_scope.sandboxId + QLatin1Char('.') : m_scope.sandboxId.first(snap + 1);
+        for (const QString& mark : {hints.windowClass, hints.instance})
+            for (const auto* match : m_index.byWindowClass(mark))
+                if (match->id.startsWith(parts, Qt::CaseInsensitive)) return match;
+        return withId(m_scope.sandboxId);
+    }
+    /// An entry of an interpreter, as distributions have one for each version, stands for a session
+    /// with it in a terminal. Programs that it runs are not it.
+    [[nodiscard]] static bool isInterpreter(const ApplicationEntry& entry) {
+        return entry.isInTerminal && !entry.isShown;
+    }
     [[nodiscard]] bool isUnit(const ApplicationEntry& entry) const {
         return entry.id.compare(m_scope.unitId, Qt::CaseInsensitive) == 0;
     }
@@ -42,8 +61,10 @@ private:
             if (isUnit(*match)) return match;
         return matches.isEmpty() ? nullptr : matches.first();
     }
-    /// A program that several entries start, as an interpreter or a suite, tells none of them.
-    [[nodiscard]] const ApplicationEntry* soleOf(const DesktopEntryIndex::Matches& matches) const {
+    /// A program that several entries start, as a suite, tells none of them. Nor does one whose
+    /// entry menus don't show or that has no window of its own, as an interpreter.
+    [[nodiscard]] const ApplicationEntry* soleOf(DesktopEntryIndex::Matches matches) const {
+        matches.removeIf([](const auto* match) { return !match->isShown || match->isInTerminal; });
         for (const auto* match : matches)
             if (isUnit(*match)) return match;
         return matches.size() == 1 ? matches.first() : nullptr;
