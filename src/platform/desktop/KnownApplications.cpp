@@ -36,6 +36,52 @@ constexpr Row kRows[] = {
     {L("org.kde.kate"), L("com.sublimetext.4")}, // Debian, Flatpak
     {L("geany"), L("com.sublimetext.4")}, // Debian
     {L("org.geany.Geany"), L("com.sublimetext.4")}, // Flatpak
+    {L("org.gnome.TextEditor"), L("com.sublimetext.4")}, // Debian, Flatpak
+    {L("org.gnome.gedit"), L("com.sublimetext.4")}, // Debian, Flatpak
+    {L("org.kde.kwrite"), L("com.sublimetext.4")}, // Debian, Flatpak
+    {L("org.xfce.mousepad"), L("com.sublimetext.4")}, // Debian
+    {L("pluma"), L("com.sublimetext.4")}, // Debian
+    {L("featherpad"), L("com.sublimetext.4")}, // Debian
+    {L("nvim-qt"), L("com.sublimetext.4")}, // Debian
+    {L("emacsclient"), L("com.sublimetext.4")}, // Debian
+    {L("neovide"), L("com.sublimetext.4")}, // vendor
+    {L("dev.neovide.neovide"), L("com.sublimetext.4")}, // Flatpak
+    {L("dev.lapce.lapce"), L("com.sublimetext.4")}, // vendor, Flatpak
+    {L("com.system76.CosmicEdit"), L("com.sublimetext.4")}, // other distributions
+    {L("io.elementary.code"), L("com.sublimetext.4")}, // other distributions
+    {L("org.kde.kdevelop"), L("com.apple.dt.Xcode")}, // Debian, Flatpak
+    {L("org.qt-project.qtcreator"), L("com.apple.dt.Xcode")}, // Debian
+    {L("io.qt.QtCreator"), L("com.apple.dt.Xcode")}, // Flatpak
+    {L("spyder"), L("com.apple.dt.Xcode")}, // Debian
+    {L("rstudio"), L("com.apple.dt.Xcode")}, // vendor
+    {L("positron"), L("com.apple.dt.Xcode")}, // vendor
+    {L("arduino"), L("com.apple.dt.Xcode")}, // Debian
+    {L("cc.arduino.arduinoide"), L("com.apple.dt.Xcode")}, // Flatpak
+    {L("cc.arduino.IDE2"), L("com.apple.dt.Xcode")}, // Flatpak
+    {L("org.eclipse.Java"), L("com.apple.dt.Xcode")}, // Flatpak
+    {L("Eclipse"), L("com.apple.dt.Xcode")}, // window class
+    {L("org.apache.netbeans"), L("com.apple.dt.Xcode")}, // Flatpak
+    {L("netbeans_netbeans"), L("com.apple.dt.Xcode")}, // Snap
+    {L("org.godotengine.Godot"), L("com.apple.dt.Xcode")}, // Flatpak
+    {L("Godot"), L("com.apple.dt.Xcode")}, // window class
+    {L("unityhub"), L("com.apple.dt.Xcode")}, // vendor
+    {L("com.unity.UnityHub"), L("com.apple.dt.Xcode")}, // Flatpak
+    {L("sqlitebrowser"), L("com.apple.dt.Xcode")}, // Debian
+    {L("org.sqlitebrowser.sqlitebrowser"), L("com.apple.dt.Xcode")}, // Flatpak
+    {L("dbeaver-ce"), L("com.apple.dt.Xcode")}, // vendor
+    {L("dbeaver-ce_dbeaver-ce"), L("com.apple.dt.Xcode")}, // Snap
+    {L("io.dbeaver.DBeaverCommunity"), L("com.apple.dt.Xcode")}, // Flatpak
+    {L("insomnia"), L("com.apple.dt.Xcode")}, // vendor
+    {L("rest.insomnia.Insomnia"), L("com.apple.dt.Xcode")}, // Flatpak
+    {L("bruno"), L("com.apple.dt.Xcode")}, // vendor
+    {L("com.usebruno.Bruno"), L("com.apple.dt.Xcode")}, // Flatpak
+    {L("org.wireshark.Wireshark"), L("com.apple.dt.Xcode")}, // Debian, Flatpak
+    {L("virt-manager"), L("com.apple.dt.Xcode")}, // Debian
+    {L("org.virt_manager.virt-manager"), L("com.apple.dt.Xcode")}, // Flatpak
+    {L("io.podman_desktop.PodmanDesktop"), L("com.apple.dt.Xcode")}, // Flatpak
+    {L("datagrip_datagrip"), L("com.apple.dt.Xcode")}, // Snap
+    {L("dataspell_dataspell"), L("com.apple.dt.Xcode")}, // Snap
+    {L("rustrover_rustrover"), L("com.apple.dt.Xcode")}, // Snap
     {L("org.gnome.Builder"), L("com.apple.dt.Xcode")}, // Debian, Flatpak
     {L("jetbrains-studio"), L("com.google.android.studio")}, // vendor
     {L("android-studio_android-studio"), L("com.google.android.studio")}, // Snap
@@ -72,6 +118,10 @@ constexpr Row kRows[] = {
     {L("com.jetbrains.Rider"), L("com.jetbrains.rider")}, // Flatpak
     {L("github-desktop"), L("com.github.GitHubClient")}, // vendor
     {L("io.github.shiftey.Desktop"), L("com.github.GitHubClient")}, // Flatpak
+    {L("org.gnome.gitg"), L("com.github.GitHubClient")}, // Debian, Flatpak
+    {L("git-cola"), L("com.github.GitHubClient")}, // Debian
+    {L("git-dag"), L("com.github.GitHubClient")}, // Debian
+    {L("org.gnome.Meld"), L("com.github.GitHubClient")}, // Debian, Flatpak
     // Terminals
     {L("org.gnome.Terminal"), L("com.apple.Terminal")}, // Debian
     {L("org.gnome.Console"), L("com.apple.Terminal")}, // Debian
@@ -89,6 +139,19 @@ constexpr Row kRows[] = {
     {L("Alacritty"), L("com.apple.Terminal")}, // Debian
     {L("foot"), L("com.apple.Terminal")}, // Debian
     {L("footclient"), L("com.apple.Terminal")}, // Debian
+    {L("org.kde.yakuake"), L("com.apple.Terminal")}, // Debian, Flatpak
+    {L("guake"), L("com.apple.Terminal")}, // Debian
+    {L("tilda"), L("com.apple.Terminal")}, // Debian
+    {L("sakura"), L("com.apple.Terminal")}, // Debian
+    {L("terminology"), L("com.apple.Terminal")}, // Debian
+    {L("st"), L("com.apple.Terminal")}, // Debian
+    {L("cool-retro-term"), L("com.apple.Terminal")}, // Debian
+    {L("foot-server"), L("com.apple.Terminal")}, // Debian
+    {L("app.devsuite.Ptyxis"), L("com.apple.Terminal")}, // Flatpak
+    {L("com.raggesilver.BlackBox"), L("com.apple.Terminal")}, // Flatpak
+    {L("tabby"), L("com.apple.Terminal")}, // vendor
+    {L("org.contourterminal.Contour"), L("com.apple.Terminal")}, // vendor
+    {L("com.rioterm.Rio"), L("com.apple.Terminal")}, // Flatpak
     {L("org.wezfurlong.wezterm"), L("com.apple.Terminal")}, // vendor, Flatpak
     {L("com.mitchellh.ghostty"), L("com.mitchellh.ghostty")}, // vendor
     {L("dev.warp.Warp"), L("dev.warp.Warp-Stable")}, // vendor
@@ -105,6 +168,11 @@ constexpr Row kRows[] = {
     {L("org.gnome.Evolution"), L("com.apple.mail")}, // Debian, Flatpak
     {L("org.gnome.Geary"), L("com.apple.mail")}, // Debian, Flatpak
     {L("org.kde.kmail2"), L("com.apple.mail")}, // Debian
+    {L("sylpheed"), L("com.apple.mail")}, // Debian
+    {L("org.kde.kontact"), L("com.apple.mail")}, // Debian
+    {L("eu.betterbird.Betterbird"), L("com.apple.mail")}, // Flatpak
+    {L("net.thunderbird.Thunderbird"), L("com.apple.mail")}, // Flatpak
+    {L("org.kde.korganizer"), L("org.gnome.Calendar")}, // Debian
     {L("Zoom"), L("us.zoom.xos")}, // vendor
     {L("zoom-client_zoom-client"), L("us.zoom.xos")}, // Snap
     {L("us.zoom.Zoom"), L("us.zoom.xos")}, // Flatpak
@@ -114,6 +182,29 @@ constexpr Row kRows[] = {
     {L("org.telegram.desktop"), L("org.telegram.desktop")}, // Debian, Flatpak
     {L("telegram-desktop_telegram-desktop"), L("org.telegram.desktop")}, // Snap
     {L("pidgin"), L("com.apple.iChat")}, // Debian
+    {L("im.dino.Dino"), L("com.apple.iChat")}, // Debian, Flatpak
+    {L("org.gajim.Gajim"), L("com.apple.iChat")}, // Debian, Flatpak
+    {L("org.kde.konversation"), L("com.apple.iChat")}, // Debian, Flatpak
+    {L("org.gnome.Polari"), L("com.apple.iChat")}, // Debian, Flatpak
+    {L("quasselclient"), L("com.apple.iChat")}, // Debian
+    {L("io.github.Hexchat"), L("com.apple.iChat")}, // Debian, Flatpak
+    {L("nheko"), L("com.tinyspeck.slackmacgap")}, // Debian
+    {L("im.nheko.Nheko"), L("com.tinyspeck.slackmacgap")}, // Flatpak
+    {L("org.kde.neochat"), L("com.tinyspeck.slackmacgap")}, // Debian, Flatpak
+    {L("element-desktop"), L("com.tinyspeck.slackmacgap")}, // vendor
+    {L("element-desktop_element-desktop"), L("com.tinyspeck.slackmacgap")}, // Snap
+    {L("im.riot.Riot"), L("com.tinyspeck.slackmacgap")}, // Flatpak
+    {L("org.gnome.Fractal"), L("com.tinyspeck.slackmacgap")}, // Flatpak
+    {L("mattermost-desktop_mattermost-desktop"), L("com.tinyspeck.slackmacgap")}, // Snap
+    {L("com.mattermost.Desktop"), L("com.tinyspeck.slackmacgap")}, // Flatpak
+    {L("zulip"), L("com.tinyspeck.slackmacgap")}, // vendor
+    {L("org.zulip.Zulip"), L("com.tinyspeck.slackmacgap")}, // Flatpak
+    {L("ferdium"), L("com.tinyspeck.slackmacgap")}, // vendor
+    {L("org.ferdium.Ferdium"), L("com.tinyspeck.slackmacgap")}, // Flatpak
+    {L("vesktop"), L("com.hnc.Discord")}, // vendor
+    {L("dev.vencord.Vesktop"), L("com.hnc.Discord")}, // Flatpak
+    {L("com.rtosta.zapzap"), L("com.apple.MobileSMS")}, // Flatpak
+    {L("org.jitsi.jitsi-meet"), L("us.zoom.xos")}, // Flatpak
     {L("signal-desktop"), L("com.apple.MobileSMS")}, // vendor
     {L("signal-desktop_signal-desktop"), L("com.apple.MobileSMS")}, // Snap
     {L("org.signal.Signal"), L("com.apple.MobileSMS")}, // Flatpak
@@ -125,7 +216,43 @@ constexpr Row kRows[] = {
     {L("org.gimp.GIMP"), L("com.adobe.Photoshop")}, // Flatpak
     {L("org.inkscape.Inkscape"), L("com.adobe.illustrator")}, // Debian, Flatpak
     {L("org.kde.krita"), L("com.seriflabs.affinityphoto2")}, // Debian, Flatpak
+    {L("org.darktable.darktable"), L("com.seriflabs.affinityphoto2")}, // Debian, Flatpak
+    {L("rawtherapee"), L("com.seriflabs.affinityphoto2")}, // Debian
+    {L("com.rawtherapee.RawTherapee"), L("com.seriflabs.affinityphoto2")}, // Flatpak
+    {L("org.kde.digikam"), L("com.seriflabs.affinityphoto2")}, // Debian, Flatpak
+    {L("mypaint"), L("com.seriflabs.affinityphoto2")}, // Debian
+    {L("com.github.PintaProject.Pinta"), L("com.seriflabs.affinityphoto2")}, // Flatpak
+    {L("scribus"), L("com.seriflabs.affinitydesigner2")}, // Debian
+    {L("net.scribus.Scribus"), L("com.seriflabs.affinitydesigner2")}, // Flatpak
+    {L("org.fontforge.FontForge"), L("com.adobe.illustrator")}, // Debian, Flatpak
+    {L("org.gnome.Dia"), L("com.adobe.illustrator")}, // Debian, Flatpak
+    {L("org.freecadweb.FreeCAD"), L("com.adobe.illustrator")}, // Debian
+    {L("org.freecad.FreeCAD"), L("com.adobe.illustrator")}, // Flatpak
+    {L("librecad"), L("com.adobe.illustrator")}, // Debian
+    {L("openscad"), L("com.adobe.illustrator")}, // Debian
+    {L("org.openscad.OpenSCAD"), L("com.adobe.illustrator")}, // Flatpak
+    {L("org.kicad.kicad"), L("com.adobe.illustrator")}, // Debian, Flatpak
+    {L("org.kicad.eeschema"), L("com.adobe.illustrator")}, // Debian
+    {L("org.kicad.pcbnew"), L("com.adobe.illustrator")}, // Debian
+    {L("drawio"), L("com.adobe.illustrator")}, // vendor
+    {L("drawio_drawio"), L("com.adobe.illustrator")}, // Snap
+    {L("com.jgraph.drawio.desktop"), L("com.adobe.illustrator")}, // Flatpak
+    {L("com.authormore.penpotdesktop"), L("com.figma.Desktop")}, // Flatpak
     {L("com.icons8.Lunacy"), L("com.bohemiancoding.sketch3")}, // Flatpak
+    // Video and sound
+    {L("org.kde.kdenlive"), L("com.adobe.PremierePro")}, // Debian, Flatpak
+    {L("org.shotcut.Shotcut"), L("com.adobe.PremierePro")}, // Debian, Flatpak
+    {L("org.pitivi.Pitivi"), L("com.adobe.PremierePro")}, // Debian, Flatpak
+    {L("com.obsproject.Studio"), L("com.adobe.PremierePro")}, // Debian, Flatpak
+    {L("org.openshot.OpenShot"), L("com.adobe.PremierePro")}, // Debian, Flatpak
+    {L("audacity"), L("com.adobe.PremierePro")}, // Debian
+    {L("org.audacityteam.Audacity"), L("com.adobe.PremierePro")}, // Flatpak
+    {L("lmms"), L("com.adobe.PremierePro")}, // Debian
+    {L("io.lmms.LMMS"), L("com.adobe.PremierePro")}, // Flatpak
+    {L("ardour"), L("com.adobe.PremierePro")}, // Debian
+    {L("org.ardour.Ardour"), L("com.adobe.PremierePro")}, // Flatpak
+    {L("cockos-reaper"), L("com.adobe.PremierePro")}, // vendor
+    {L("fm.reaper.Reaper"), L("com.adobe.PremierePro")}, // Flatpak
     // Notes and plans
     {L("obsidian"), L("md.obsidian")}, // vendor
     {L("obsidian_obsidian"), L("md.obsidian")}, // Snap
@@ -133,6 +260,24 @@ constexpr Row kRows[] = {
     {L("notion-app"), L("notion.id")}, // vendor
     {L("notion-snap-reborn_notion-snap-reborn"), L("notion.id")}, // Snap
     {L("io.github.alainm23.planify"), L("com.culturedcode.ThingsMac")}, // Flatpak
+    {L("zim"), L("md.obsidian")}, // Debian
+    {L("org.zim_wiki.Zim"), L("md.obsidian")}, // Flatpak
+    {L("cherrytree"), L("md.obsidian")}, // Debian
+    {L("net.giuspen.cherrytree"), L("md.obsidian")}, // Flatpak
+    {L("org.gnome.Gnote"), L("md.obsidian")}, // Debian, Flatpak
+    {L("com.github.xournalpp.xournalpp"), L("md.obsidian")}, // Debian, Flatpak
+    {L("com.github.flxzt.rnote"), L("md.obsidian")}, // Flatpak
+    {L("joplin-desktop_joplin-desktop"), L("md.obsidian")}, // Snap
+    {L("net.cozic.joplin_desktop"), L("md.obsidian")}, // Flatpak
+    {L("com.logseq.Logseq"), L("md.obsidian")}, // Flatpak
+    {L("io.anytype.anytype"), L("md.obsidian")}, // Flatpak
+    {L("org.standardnotes.standardnotes"), L("md.obsidian")}, // Flatpak
+    {L("com.github.zadam.trilium"), L("md.obsidian")}, // Flatpak
+    {L("org.gnome.Todo"), L("com.culturedcode.ThingsMac")}, // Debian, Flatpak
+    {L("com.super_productivity.SuperProductivity"), L("com.culturedcode.ThingsMac")}, // Flatpak
+    {L("ticktick"), L("com.culturedcode.ThingsMac")}, // vendor
+    {L("com.ticktick.TickTick"), L("com.culturedcode.ThingsMac")}, // Flatpak
+    {L("io.github.mrvladus.List"), L("com.culturedcode.ThingsMac")}, // Flatpak
     // Office and study
     {L("libreoffice-writer"), L("com.microsoft.Word")}, // Debian
     {L("org.libreoffice.LibreOffice.writer"), L("com.microsoft.Word")}, // Flatpak
@@ -140,6 +285,56 @@ constexpr Row kRows[] = {
     {L("org.libreoffice.LibreOffice.calc"), L("com.microsoft.Excel")}, // Flatpak
     {L("libreoffice-impress"), L("com.microsoft.Powerpoint")}, // Debian
     {L("org.libreoffice.LibreOffice.impress"), L("com.microsoft.Powerpoint")}, // Flatpak
+    {L("libreoffice-startcenter"), L("com.microsoft.Word")}, // Debian
+    {L("org.libreoffice.LibreOffice"), L("com.microsoft.Word")}, // Flatpak
+    {L("libreoffice_libreoffice"), L("com.microsoft.Word")}, // Snap
+    {L("libreoffice_writer"), L("com.microsoft.Word")}, // Snap
+    {L("libreoffice_calc"), L("com.microsoft.Excel")}, // Snap
+    {L("libreoffice_impress"), L("com.microsoft.Powerpoint")}, // Snap
+    {L("onlyoffice-desktopeditors"), L("com.microsoft.Word")}, // vendor
+    {L("onlyoffice-desktopeditors_onlyoffice-desktopeditors"), L("com.microsoft.Word")}, // Snap
+    {L("org.onlyoffice.desktopeditors"), L("com.microsoft.Word")}, // Flatpak
+    {L("wps-office-wps"), L("com.microsoft.Word")}, // vendor
+    {L("com.wps.Office"), L("com.microsoft.Word")}, // Flatpak
+    {L("wps-office-et"), L("com.microsoft.Excel")}, // vendor
+    {L("wps-office-wpp"), L("com.microsoft.Powerpoint")}, // vendor
+    {L("abiword"), L("com.microsoft.Word")}, // Debian
+    {L("com.abisource.AbiWord"), L("com.microsoft.Word")}, // Flatpak
+    {L("org.gnome.gitlab.somas.Apostrophe"), L("com.microsoft.Word")}, // Debian, Flatpak
+    {L("ghostwriter"), L("com.microsoft.Word")}, // Debian
+    {L("org.kde.ghostwriter"), L("com.microsoft.Word")}, // Flatpak
+    {L("focuswriter"), L("com.microsoft.Word")}, // Debian
+    {L("org.gottcode.FocusWriter"), L("com.microsoft.Word")}, // Flatpak
+    {L("manuskript"), L("com.microsoft.Word")}, // Debian
+    {L("me.mitya57.ReText"), L("com.microsoft.Word")}, // Debian, Flatpak
+    {L("texstudio"), L("com.microsoft.Word")}, // Debian
+    {L("org.texstudio.TeXstudio"), L("com.microsoft.Word")}, // Flatpak
+    {L("texmaker"), L("com.microsoft.Word")}, // Debian
+    {L("org.kde.kile"), L("com.microsoft.Word")}, // Debian, Flatpak
+    {L("lyx"), L("com.microsoft.Word")}, // Debian
+    {L("org.lyx.LyX"), L("com.microsoft.Word")}, // Flatpak
+    {L("gummi"), L("com.microsoft.Word")}, // Debian
+    {L("Zettlr"), L("com.microsoft.Word")}, // window class
+    {L("com.zettlr.Zettlr"), L("com.microsoft.Word")}, // Flatpak
+    {L("marktext"), L("com.microsoft.Word")}, // vendor
+    {L("com.github.marktext.marktext"), L("com.microsoft.Word")}, // Flatpak
+    {L("gnumeric"), L("com.microsoft.Excel")}, // Debian
+    {L("org.gnumeric.Gnumeric"), L("com.microsoft.Excel")}, // Flatpak
+    {L("gnucash"), L("com.microsoft.Excel")}, // Debian
+    {L("org.gnucash.GnuCash"), L("com.microsoft.Excel")}, // Flatpak
+    {L("homebank"), L("com.microsoft.Excel")}, // Debian
+    {L("fr.free.Homebank"), L("com.microsoft.Excel")}, // Flatpak
+    {L("org.gnome.Evince"), L("com.apple.iBooksX")}, // Debian, Flatpak
+    {L("org.gnome.Papers"), L("com.apple.iBooksX")}, // Flatpak
+    {L("org.kde.okular"), L("com.apple.iBooksX")}, // Debian, Flatpak
+    {L("org.pwmt.zathura"), L("com.apple.iBooksX")}, // Debian, Flatpak
+    {L("atril"), L("com.apple.iBooksX")}, // Debian
+    {L("com.github.johnfactotum.Foliate"), L("com.apple.iBooksX")}, // Debian, Flatpak
+    {L("calibre-gui"), L("com.apple.iBooksX")}, // Debian
+    {L("calibre-ebook-viewer"), L("com.apple.iBooksX")}, // Debian
+    {L("com.calibre_ebook.calibre"), L("com.apple.iBooksX")}, // Flatpak
+    {L("zotero"), L("com.apple.iBooksX")}, // vendor
+    {L("org.zotero.Zotero"), L("com.apple.iBooksX")}, // Flatpak
     {L("anki"), L("net.ankiweb.dtop")}, // vendor
     {L("net.ankiweb.Anki"), L("net.ankiweb.dtop")}, // Flatpak
     // Browsers that their ids and names don't show to be such
@@ -151,6 +346,16 @@ constexpr Row kRows[] = {
     {L("librewolf"), L("org.mozilla.firefox")}, // vendor
     {L("io.gitlab.librewolf-community"), L("org.mozilla.firefox")}, // Flatpak
     {L("app.zen_browser.zen"), L("org.mozilla.firefox")}, // Flatpak
+    {L("torbrowser"), L("org.mozilla.firefox")}, // Debian
+    {L("org.torproject.torbrowser-launcher"), L("org.mozilla.firefox")}, // Flatpak
+    {L("one.ablaze.floorp"), L("org.mozilla.firefox")}, // Flatpak
+    {L("net.waterfox.waterfox"), L("org.mozilla.firefox")}, // Flatpak
+    {L("net.mullvad.MullvadBrowser"), L("org.mozilla.firefox")}, // Flatpak
+    {L("google-chrome-beta"), L("com.google.Chrome")}, // vendor
+    {L("google-chrome-unstable"), L("com.google.Chrome")}, // vendor
+    {L("org.qutebrowser.qutebrowser"), L("com.google.Chrome")}, // Debian, Flatpak
+    {L("org.kde.konqueror"), L("com.google.Chrome")}, // Debian
+    {L("org.kde.angelfish"), L("com.google.Chrome")}, // Debian, Flatpak
 };
 // clang-format on
 
