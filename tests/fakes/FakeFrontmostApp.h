@@ -18,9 +18,10 @@ public:
         Q_EMIT activated(app);
     }
 
-    /// The desktop tells about these applications from now on.
+    /// The desktop tells about these applications from now on. Of none, nothing is in front.
     void setCoverage(AppCoverage coverage) {
         if (std::exchange(m_coverage, coverage) != coverage) Q_EMIT coverageChanged();
+        if (coverage == AppCoverage::None && application) activate(std::nullopt);
     }
 
     /// In front now. A change by this way is told to nobody.
