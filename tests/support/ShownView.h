@@ -1,0 +1,149 @@
+// A view in a window of its own, worked with a pointer and keys.
+#pragma once
+
+#include "support/ShownItems.h"
+#include "surfaces/kit/Motion.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QQmlEngine>
+#include <QQuickView>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace vantle::tests {
+
+/// Motion is reduced unless a test is about it, so that nothing waits for an animation. What the
+/// view's code complains about is a failure of the test. The models of the view must outlive this.
+class ShownView {
+public:
+    explicit ShownView(bool reduced = true) {
+        m_window.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
+        m_window.setResizeMode(QQuickView::SizeRootObjectToView);
+        Motion::of(*m_window.engine())->setReduced(reduced);
+        QObject::connect(m_window.engine(), &QQmlEngine::warnings, [](const auto& list) {
+            for (const QQmlError& one : list)
+                ADD_FAILURE() << one.toString().toStdString();
+        });
+    }
+
+    /// Opens the window in the view's own size, or in the given one. `file` is a name below the
+    /// program's views, such as "Notes/NotesLogView".
+    QQuickItem& show(const char* file, const QVariantMap& properties, QSize size = {}) {
+        m_window.setInitialProperties(properties);
+        m_window.setSource(
+            QUrl(QStringLiteral("qrc:/qt/qml/Vantle/%1.qml").arg(QLatin1String(file))));
+        if (size.isEmpty()) size = m_window.initialSize();
+        m_window.resize(size);
+        m_window.show();
+        m_window.requestActivate();
+        settle();
+        return *m_window.rootObject();
+    }
+
+    /// Delivers what is posted and lays the view out as its next frame would.
+    void settle() {
+        for (int i = 0; i < 3; ++i)
+            QCoreApplication::processEvents();
+        (void)m_window.grabWindow();
+    }
+
+    [[nodiscard]] QQuickView& window() { return m_window; }
+    [[nodiscard]] QImage picture() { return m_window.grabWindow(); }
+    [[nodiscard]] bool shows(const QString& words) const { return showsText(m_window, words); }
+    [[nodiscard]] QQuickItem* control(const QString& name) const {
+        return shownControl(m_window, name);
+    }
+    /// The field of that name; text goes into it.
+    [[nodiscard]] QQuickItem* field(const QString& name) const {
+        return shownItem(m_window.contentItem(), [&](const QQuickItem& item) {
+            return item.property("name").toString() == name && item.property("input").isValid();
+        });
+    }
+    [[nodiscard]] QRectF frameOf(const QQuickItem& item) const {
+        return item.mapRectToScene({0, 0, item.width(), item.height()});
+    }
+
+    /// The texts that can be seen in part alone: cut, or standing out of the window at a side.
+    [[nodiscard]] QStringList cutTexts() const {
+        QStringList cut;
+        (void)shownItem(m_window.contentItem(), [&](const QQuickItem& item) {
+            const QString words = item.property("text").toString();
+            if (words.isEmpty() || item.opacity() == 0) return false;
+            const QRectF frame = frameOf(item);
+            const bool leaves = frame.left() < 0 || frame.right() > m_window.width();
+            if (leaves || item.property("truncated").toBool()) cut << words;
+            return false;
+        });
+        return cut;
+    }
+
+    void moveTo(QPointF place) {
+        QTest::mouseMove(&m_window, place.toPoint());
+        settle();
+    }
+    /// Fails the test where the place is not in the window.
+    void clickAt(QPointF place, Qt::MouseButton button = Qt::LeftButton) {
+        ASSERT_TRUE(QRectF(QPointF(), m_window.size()).contains(place))
+            << place.x() << ", " << place.y();
+        QTest::mouseMove(&m_window, place.toPoint());
+        QTest::mouseClick(&m_window, button, {}, place.toPoint());
+        settle();
+    }
+    /// Scrolls the item into sight and clicks its middle.
+    void click(QQuickItem* item, Qt::MouseButton button = Qt::LeftButton) {
+        ASSERT_NE(item, nullptr);
+        bringIntoSight(*item);
+        clickAt(frameOf(*item).center(), button);
+    }
+    void click(const QString& name, Qt::MouseButton button = Qt::LeftButton) {
+        QQuickItem* const item = control(name);
+        ASSERT_NE(item, nullptr) << name.toStdString();
+        click(item, button);
+    }
+
+    /// Leaves what scrolls around the item where a wheel would: `way` px further down its content,
+    /// as far as there is any.
+    void scroll(const QQuickItem& inside, double way) {
+        QQuickItem* above = inside.parentItem();
+        while (above != nullptr && !above->inherits("QQuickFlickable"))
+            above = above->parentItem();
+        ASSERT_NE(above, nullptr);
+        const double start = above->property("originY").toDouble();
+        const double room = above->property("contentHeight").toDouble() - above->height();
+        const double goal = above->property("contentY").toDouble() + way;
+        above->setProperty("contentY", std::clamp(goal, start, start + std::max(room, 0.0)));
+        settle();
+    }
+    void bringIntoSight(const QQuickItem& item) {
+        constexpr double kMargin = 24; // what fades at the edges is not in sight
+        for (QQuickItem* above = item.parentItem(); above; above = above->parentItem()) {
+            if (!above->inherits("QQuickFlickable")) continue;
+            const QRectF place = item.mapRectToItem(above, {0, 0, item.width(), item.height()});
+            if (place.top() < 0)
+                scroll(item, place.top() - kMargin);
+            else if (place.bottom() > above->height())
+                scroll(item, place.bottom() - above->height() + kMargin);
+        }
+    }
+
+    void press(int key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(&m_window, static_cast<Qt::Key>(key), modifiers);
+        settle();
+    }
+    void type(const QString& text) {
+        for (const QChar letter : text)
+            QTest::keyClick(&m_window, letter.toLatin1());
+        settle();
+    }
+    /// What has the keyboard; null for nothing.
+    [[nodiscard]] QQuickItem* keyboardOwner() const { return m_window.activeFocusItem(); }
+
+private:
+    QQuickView m_window;
+};
+
+} // namespace vantle::tests
