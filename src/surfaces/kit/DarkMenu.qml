@@ -1,5 +1,5 @@
 // A menu over everything else in its window: below what it belongs to, or above it where there is
-// more room. A press beside it closes it.
+// more room, and never over it. Rows that have no room scroll. A press beside it closes it.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -30,10 +30,14 @@ Item {
         const gap = DarkUI.space4;
         const area = overlay;
         const corner = anchorItem.mapToItem(area, 0, 0);
-        const below = corner.y + anchorItem.height + gap;
-        const fits = below + panel.height + gap <= area.height;
+        const bottom = corner.y + anchorItem.height;
+        const below = area.height - bottom - 2 * gap;
+        const above = corner.y - 2 * gap;
+        const downwards = panel.implicitHeight <= below || below >= above;
+        panel.width = Math.min(Math.max(panel.implicitWidth, minimumWidth), area.width - 2 * gap);
+        panel.height = Math.min(panel.implicitHeight, downwards ? below : above);
         panel.x = Math.max(gap, Math.min(corner.x, area.width - panel.width - gap));
-        panel.y = fits ? below : Math.max(gap, corner.y - panel.height - gap);
+        panel.y = downwards ? bottom + gap : corner.y - gap - panel.height;
     }
     function close(): void {
         if (!opened)
@@ -67,8 +71,8 @@ Item {
 
         DarkMenuPanel {
             id: panel
-            width: Math.max(implicitWidth, menu.minimumWidth)
             name: menu.name
+            onImplicitHeightChanged: overlay.follow()
             onDismissed: menu.close()
         }
     }

@@ -1,5 +1,6 @@
 // The panel of a menu: rows (DarkMenuRow) and separators, one below the other. The arrow keys lead
-// through the rows. Whoever shows it closes it on dismissed() and after a row was triggered.
+// through the rows. A panel that is given less height than its rows need scrolls by wheel, pointer
+// and keys. Whoever shows it closes it on dismissed() and after a row was triggered.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -24,8 +25,18 @@ FocusScope {
     }
     function focusRow(index: int): void {
         const all = stops();
-        if (all.length > 0)
-            all[(index + all.length) % all.length].focusByKeyboard();
+        if (all.length === 0)
+            return;
+        const row = all[(index + all.length) % all.length];
+        row.focusByKeyboard();
+        bringIntoSight(row);
+    }
+    // For the keys alone: a row that moved under the pointer would hand the mark to the next one.
+    function bringIntoSight(row: Item): void {
+        if (row.y < area.contentY)
+            area.contentY = row.y;
+        else if (row.y + row.height > area.contentY + area.height)
+            area.contentY = row.y + row.height - area.height;
     }
     // The row that has the mark, among those that can be chosen; -1 for none.
     function focusedRow(): int {
@@ -55,24 +66,42 @@ FocusScope {
         shadowed: panel.shadowed
     }
 
-    Column {
-        id: column
-        // As wide as the widest row; all rows are as wide as that.
-        readonly property real widest: {
-            let most = 0;
-            for (let i = 0; i < children.length; ++i)
-                most = Math.max(most, children[i].implicitWidth);
-            return most;
-        }
-        x: panel.padding
-        y: panel.padding
-        width: Math.max(widest, panel.width - 2 * panel.padding)
-        onWidthChanged: spread()
-        onChildrenChanged: spread()
+    Flickable {
+        id: area
+        anchors.fill: parent
+        anchors.margins: panel.padding
+        contentWidth: width
+        contentHeight: column.height
+        interactive: contentHeight > height
+        clip: interactive
+        boundsBehavior: Flickable.StopAtBounds
+        pixelAligned: true
 
-        function spread(): void {
-            for (let i = 0; i < children.length; ++i)
-                children[i].width = width;
+        Column {
+            id: column
+            // As wide as the widest row; all rows are as wide as that.
+            readonly property real widest: {
+                let most = 0;
+                for (let i = 0; i < children.length; ++i)
+                    most = Math.max(most, children[i].implicitWidth);
+                return most;
+            }
+            width: area.width
+            onWidthChanged: spread()
+            onChildrenChanged: spread()
+
+            function spread(): void {
+                for (let i = 0; i < children.length; ++i)
+                    children[i].width = width;
+            }
         }
+    }
+
+    DarkScrollbar {
+        anchors.right: parent.right
+        anchors.top: area.top
+        anchors.bottom: area.bottom
+        view: area
+        shown: true
     }
 }

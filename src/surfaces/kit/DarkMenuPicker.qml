@@ -1,4 +1,5 @@
 // One of several, chosen from a menu. It shows `currentIndex` and asks for another by activated().
+// The menu is made when it is opened for the first time: a window may have dozens of pickers.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -13,12 +14,19 @@ KitPressable {
     property bool quiet: false // what is chosen stands for nothing
     property TypeRole role: DarkUI.captionMedium
     property real textLeft: DarkUI.space10 // a larger one leaves room for a sign
-    property alias opened: menu.opened
+    readonly property bool opened: made !== null && made.opened
+    readonly property DarkMenu made: menu.item as DarkMenu // null before the first opening
     readonly property string currentText: options[currentIndex] ?? placeholder
     signal activated(int index)
 
     function open(): void {
-        menu.openAt(picker, Math.max(currentIndex, 0));
+        if (!made)
+            menu.setSource("DarkMenuChoices.qml", { "picker": picker });
+        made.openAt(picker, Math.max(currentIndex, 0));
+    }
+    function close(): void {
+        if (made)
+            made.close();
     }
 
     // Whole pixels, so that its right edge is as sharp as its left one.
@@ -29,7 +37,7 @@ KitPressable {
     onClicked: open()
 
     Accessible.role: Accessible.ComboBox
-    Accessible.description: currentText
+    Accessible.description: help === "" ? currentText : currentText + ". " + help
 
     Keys.onDownPressed: open()
     Keys.onUpPressed: open()
@@ -80,25 +88,7 @@ KitPressable {
         controlRadius: ground.radius
     }
 
-    DarkMenu {
+    Loader {
         id: menu
-        name: picker.title
-        minimumWidth: picker.width
-
-        Repeater {
-            model: picker.options
-
-            DarkMenuRow {
-                required property string modelData
-                required property int index
-                text: modelData
-                checkable: true
-                checked: index === picker.currentIndex
-                onTriggered: {
-                    menu.close();
-                    picker.activated(index);
-                }
-            }
-        }
     }
 }

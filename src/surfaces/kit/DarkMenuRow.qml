@@ -44,6 +44,8 @@ KitPressable {
         id: label
         x: row.checkable ? DarkUI.space24 + DarkUI.space2 : DarkUI.space10
         anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, row.width - x - DarkUI.space12)
+        elide: Text.ElideRight
         text: row.text
         role: DarkUI.captionMedium
         color: !row.enabled ? DarkUI.t4 : row.danger ? DarkUI.dangerTextOnFill : DarkUI.t1

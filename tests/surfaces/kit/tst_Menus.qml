@@ -25,6 +25,16 @@ Item {
         currentIndex: 0
     }
 
+    DarkMenuPicker {
+        id: many
+        x: 240
+        y: 180
+        title: "Shortcut"
+        options: Array.from({ length: 40 }, (_, i) => "Shortcut " + (i + 1))
+        currentIndex: 0
+        onActivated: index => currentIndex = index
+    }
+
     DarkPopover {
         id: popover
         x: 200
@@ -52,8 +62,10 @@ Item {
 
         function init() {
             picker.currentIndex = 1;
-            picker.opened = false;
-            low.opened = false;
+            picker.close();
+            low.close();
+            many.close();
+            many.currentIndex = 0;
             mouseMove(scene, 390, 10);
             scene.forceActiveFocus();
             dismissed.clear();
@@ -122,6 +134,59 @@ Item {
             verify(low.opened);
             mouseClick(scene, 60, 265 - 8 - 0.5 * 28);
             verify(!low.opened);
+        }
+
+        function frameOf(item) {
+            return item.mapToItem(scene, Qt.rect(0, 0, item.width, item.height));
+        }
+        // The row of that text as it can be seen and pressed, or null.
+        function rowInSight(text) {
+            const panel = many.made.panel;
+            for (let i = 0; i < panel.stops().length; ++i) {
+                const row = panel.stops()[i];
+                const frame = frameOf(row);
+                const room = frameOf(panel);
+                if (row.text === text && frame.y >= room.y
+                        && frame.y + frame.height <= room.y + room.height)
+                    return row;
+            }
+            return null;
+        }
+
+        function test_menuOfManyRowsLeavesItsButtonFree() {
+            mouseClick(many);
+            verify(many.opened);
+            const menu = frameOf(many.made.panel);
+            const button = frameOf(many);
+            verify(menu.y >= 0 && menu.y + menu.height <= scene.height, "it stays in the window");
+            verify(menu.y + menu.height <= button.y || menu.y >= button.y + button.height,
+                   "it does not lie over its button");
+        }
+
+        function test_keysReachTheLastOfManyRows() {
+            many.forceActiveFocus(Qt.TabFocusReason);
+            keyClick(Qt.Key_Space);
+            keyClick(Qt.Key_End);
+            verify(rowInSight("Shortcut 40"), "it has come into sight");
+            keyClick(Qt.Key_Return);
+            compare(many.currentIndex, 39);
+            keyClick(Qt.Key_Space);
+            verify(rowInSight("Shortcut 40"), "it opens at what is chosen");
+            keyClick(Qt.Key_Home);
+            verify(rowInSight("Shortcut 1"));
+        }
+
+        function test_wheelReachesTheLastOfManyRows() {
+            mouseClick(many);
+            const menu = frameOf(many.made.panel);
+            for (let i = 0; i < 60 && !rowInSight("Shortcut 40"); ++i) {
+                mouseWheel(scene, menu.x + 20, menu.y + menu.height / 2, 0, -240);
+                wait(1);
+            }
+            tryVerify(() => rowInSight("Shortcut 40") !== null);
+            const row = frameOf(rowInSight("Shortcut 40"));
+            mouseClick(scene, row.x + 20, row.y + row.height / 2);
+            compare(many.currentIndex, 39);
         }
 
         function test_escapeDismissesAPopover() {

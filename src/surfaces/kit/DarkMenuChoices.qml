@@ -1,0 +1,29 @@
+// The menu of a picker. A file of its own, so that the picker can make it when it is opened.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Vantle.Kit
+
+DarkMenu {
+    id: choices
+
+    required property DarkMenuPicker picker
+
+    name: picker.title
+    minimumWidth: picker.width
+
+    Repeater {
+        model: choices.picker.options
+
+        DarkMenuRow {
+            required property string modelData
+            required property int index
+            text: modelData
+            checkable: true
+            checked: index === choices.picker.currentIndex
+            onTriggered: {
+                choices.close();
+                choices.picker.activated(index);
+            }
+        }
+    }
+}
