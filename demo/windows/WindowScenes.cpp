@@ -60,10 +60,9 @@ Scene dashboard(const char* name, Prepare prepare, std::function<void(DemoWorld&
 Scene notes(const char* name, Prepare prepare, std::function<void(LogView&)> then = {}) {
     return window(QLatin1String(name), QStringLiteral("Notes/NotesLogView.qml"), prepare,
                   [then](DemoWorld& world) {
-                      auto* const view =
-                          new LogView({world.model->tracker(), *world.skills, world.notifications,
-                                       world.preferences, world.time, world.time, DemoWorld::utc,
-                                       [](const QString&) {}});
+                      auto* const view = new LogView({*world.model, world.notifications,
+                                                      world.preferences, world.time, world.time,
+                                                      DemoWorld::utc, [](const QString&) {}});
                       if (then) then(*view);
                       return view;
                   });

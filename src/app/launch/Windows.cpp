@@ -46,8 +46,7 @@ std::unique_ptr<QObject> makeDashboard(const WindowParts& parts) {
 }
 
 std::unique_ptr<QObject> makeLog(const WindowParts& parts) {
-    return std::make_unique<LogView>(LogView::Environment{.tracker = parts.model.tracker(),
-                                                          .skills = parts.skills,
+    return std::make_unique<LogView>(LogView::Environment{.model = parts.model,
                                                           .notifications = parts.notifications,
                                                           .preferences = parts.preferences,
                                                           .clock = parts.clock,
@@ -59,7 +58,7 @@ std::unique_ptr<QObject> makeLog(const WindowParts& parts) {
 std::unique_ptr<QObject> makeWrapped(const WindowParts& parts) {
     AppModel& model = parts.model;
     PosterSharing& sharing = parts.posterSharing;
-    return std::make_unique<WrappedView>(WrappedView::Environment{
+    auto view = std::make_unique<WrappedView>(WrappedView::Environment{
         .notifications = parts.notifications,
         .preferences = parts.preferences,
         .model = parts.languageModel,
@@ -81,6 +80,9 @@ std::unique_ptr<QObject> makeWrapped(const WindowParts& parts) {
                                                std::function<void(WrappedView::Saved)> done) {
                 sharing.save(png, name, router.window(WindowId::Wrapped), std::move(done));
             }});
+    // A review reads the names of skills from the list, and knows no more of the model.
+    QObject::connect(&model, &AppModel::skillsChanged, view.get(), &WrappedView::open);
+    return view;
 }
 
 /// What is left is the program of a new person, whose sessions are practice until the welcome is

@@ -13,6 +13,7 @@ KitPressable {
     property bool large: false
     property bool checked: false // shows the check of a large chip
     property bool playOnHover: false // the dot turns into a play sign
+    property bool choosable: selectedTint.a > 0 || checked // one of several that can be chosen
     property int key: -1 // whatever the group's owner knows it by
     readonly property bool hasDot: dotColor.a > 0
     readonly property bool showsPlay: playOnHover && (hovered || ringed)
@@ -27,7 +28,7 @@ KitPressable {
     opacity: enabled ? 1 : DarkUI.disabledOpacity
     name: text
 
-    Accessible.checkable: selectedTint.a > 0 || checked
+    Accessible.checkable: choosable
     Accessible.checked: selectedTint.a > 0 || checked
 
     GlassChipBackground {

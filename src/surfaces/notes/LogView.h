@@ -14,15 +14,15 @@
 
 namespace vantle {
 
+class AppModel;
 class Clock;
 class NotificationCenter;
 class Preferences;
-class SkillList;
 class TrackerCore;
 
-/// What the window shows and does. Reads the log when it is made, after every change of it, and
-/// after an edit; searching is done in memory. A failed write is told in `failure`, and the note
-/// stays as it was. Main thread.
+/// What the window shows and does. Reads the log when it is made, after every change of it or
+/// of the skills, and after an edit; searching is done in memory. A failed write is told in
+/// `failure`, and the note stays as it was. Main thread.
 class LogView final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -55,8 +55,7 @@ public:
 
     /// What the window works with. All of it must outlive the view.
     struct Environment {
-        TrackerCore& tracker;
-        SkillList& skills;
+        AppModel& model;
         NotificationCenter& notifications;
         const Preferences& preferences;
         const Clock& clock;
@@ -106,6 +105,7 @@ Q_SIGNALS:
 
 private:
     void reload();
+    [[nodiscard]] TrackerCore& tracker() const;
     void narrow(LogFilter filter);
     [[nodiscard]] NoteRows::Content content(NotesLog log) const;
     [[nodiscard]] const LogEntry* entry(const QString& id) const;

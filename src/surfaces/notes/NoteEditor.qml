@@ -12,9 +12,14 @@ Column {
     spacing: DarkUI.space6
     bottomPadding: DarkUI.space2
 
+    // Not by being made: a row that scrolls or is searched into sight with its draft must not take
+    // the keyboard from where it is.
+    function takeKeyboard(): void {
+        field.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
     Component.onCompleted: {
         field.text = editor.log.draft;
-        field.forceActiveFocus(Qt.OtherFocusReason);
         field.input.cursorPosition = field.text.length;
     }
 

@@ -10,6 +10,7 @@ KitControl {
     required property LogView log
     required property real timeWidth // of the column, the same for all rows
     signal leftBehind(int step) // an arrow key leads to a row before or after
+    signal editorEntered // the keyboard is in the editor
 
     required property string sessionId
     required property string note
@@ -18,6 +19,7 @@ KitControl {
     required property color skillColor
     required property string durationText
     required property bool isManual
+    required property string spoken
 
     readonly property bool editing: log.editingId === sessionId
     readonly property bool copied: log.copiedId === sessionId
@@ -26,9 +28,19 @@ KitControl {
                                    && !editing
     readonly property real textX: DarkUI.space28 + timeWidth
 
+    function edit(): void {
+        log.beginEdit(sessionId);
+        takeKeyboard();
+    }
+    function takeKeyboard(): void {
+        const made = editor.item as NoteEditor;
+        if (made)
+            made.takeKeyboard();
+    }
     function showEditor(): void {
         if (editing) {
-            editor.setSource("NoteEditor.qml", { "log": log });
+            if (!editor.item)
+                editor.setSource("NoteEditor.qml", { "log": log });
             return;
         }
         const hadFocus = editor.activeFocus;
@@ -40,7 +52,7 @@ KitControl {
     implicitHeight: content.height + 2 * DarkUI.space8
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: qsTr("%1, %2, %3, %4").arg(note).arg(timeText).arg(skillName).arg(durationText)
+    Accessible.name: spoken
     Accessible.focusable: true
 
     onEditingChanged: showEditor()
@@ -50,7 +62,13 @@ KitControl {
     }
     Component.onCompleted: showEditor()
 
-    Keys.onReturnPressed: log.beginEdit(sessionId)
+    // An item that waits to be used again keeps the focus of what is in it: without this the keys
+    // would go to a field that nobody sees, and then to another note.
+    ListView.onPooled: editor.source = ""
+    ListView.onReused: showEditor()
+
+    Keys.onReturnPressed: edit()
+    Keys.onEnterPressed: edit()
     Keys.onUpPressed: leftBehind(-1)
     Keys.onDownPressed: leftBehind(1)
     Keys.onPressed: event => {
@@ -107,6 +125,7 @@ KitControl {
             visible: row.editing
             x: -DarkUI.space12
             width: parent.width + DarkUI.space12
+            onActiveFocusChanged: if (activeFocus) row.editorEntered()
         }
 
         NoteMeta {
@@ -129,7 +148,7 @@ KitControl {
         onLoaded: {
             const made = item as NoteButtons;
             made.copyWanted.connect(() => row.log.copyNote(row.sessionId));
-            made.editWanted.connect(() => row.log.beginEdit(row.sessionId));
+            made.editWanted.connect(() => row.edit());
         }
     }
 

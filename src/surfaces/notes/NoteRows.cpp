@@ -37,19 +37,45 @@ void NoteRows::adopt(Content content, Lines lines) {
     m_widestTime = m_time(wall.startOfDay(wall.at(m_content.now).day) + kWidestTime);
 }
 
-void NoteRows::narrow(const LogFilter& filter) {
-    // No reset: of rows that go and come a view uses its items again, which is much less work.
-    if (!m_lines.rows.empty()) {
-        beginRemoveRows({}, 0, rowCount() - 1);
-        m_lines = {};
-        endRemoveRows();
-    }
+std::ptrdiff_t NoteRows::placeOf(const QUuid& session, const Lines& lines) const {
+    const auto found = std::ranges::find_if(
+        lines.rows, [&](const Row& row) { return entryOf(row).id == session; });
+    return found - lines.rows.begin();
+}
+
+void NoteRows::removeRange(std::ptrdiff_t first, std::ptrdiff_t count) {
+    if (count <= 0) return;
+    beginRemoveRows({}, static_cast<int>(first), static_cast<int>(first + count) - 1);
+    const auto begin = m_lines.rows.begin() + first;
+    m_lines.rows.erase(begin, begin + count);
+    endRemoveRows();
+}
+
+void NoteRows::insertRange(std::ptrdiff_t first, std::ptrdiff_t count, const Lines& lines,
+                           std::ptrdiff_t upTo) {
+    if (count > 0)
+        beginInsertRows({}, static_cast<int>(first), static_cast<int>(first + count) - 1);
+    m_lines.days = lines.days;
+    m_lines.rows.assign(lines.rows.begin(), lines.rows.begin() + upTo);
+    if (count > 0) endInsertRows();
+}
+
+void NoteRows::narrow(const LogFilter& filter, const QUuid& kept) {
     m_content.visible = noteslog::visible(m_content.log, filter);
-    Lines lines = linesOf(m_content);
-    if (lines.rows.empty()) return;
-    beginInsertRows({}, 0, static_cast<int>(lines.rows.size()) - 1);
-    m_lines = std::move(lines);
-    endInsertRows();
+    const Lines lines = linesOf(m_content);
+    const std::ptrdiff_t count = std::ssize(lines.rows);
+    const std::ptrdiff_t place = placeOf(kept, lines);
+    const std::ptrdiff_t before = placeOf(kept, m_lines);
+    // No reset: of rows that go and come a view uses its items again, which is much less work.
+    if (place == count || before == std::ssize(m_lines.rows)) {
+        removeRange(0, std::ssize(m_lines.rows));
+        insertRange(0, count, lines, count);
+        return;
+    }
+    removeRange(before + 1, std::ssize(m_lines.rows) - before - 1);
+    removeRange(0, before);
+    insertRange(0, place, lines, place + 1);
+    insertRange(place + 1, count - place - 1, lines, count);
 }
 
 void NoteRows::update(Content content) {
@@ -111,16 +137,26 @@ QVariant NoteRows::data(const QModelIndex& index, int role) const {
         return entry.isManual;
     case DayRole:
         return (*m_dayLabels)(m_lines.days[row.day].day);
+    case SpokenRole:
+        return spoken(entry, skill);
     default:
         return {};
     }
+}
+
+QString NoteRows::spoken(const LogEntry& entry, const Skill& skill) const {
+    QStringList parts{entry.note, m_time(entry.startedAt), skill.name,
+                      dashformat::sessionDuration(entry.activeSeconds, m_content.style)};
+    if (entry.isManual) parts << QStringLiteral("Manual");
+    return parts.join(QStringLiteral(", "));
 }
 
 QHash<int, QByteArray> NoteRows::roleNames() const {
     return {{IdRole, "sessionId"},          {NoteRole, "note"},
             {TimeRole, "timeText"},         {SkillNameRole, "skillName"},
             {SkillColorRole, "skillColor"}, {DurationRole, "durationText"},
-            {IsManualRole, "isManual"},     {DayRole, "dayText"}};
+            {IsManualRole, "isManual"},     {DayRole, "dayText"},
+            {SpokenRole, "spoken"}};
 }
 
 } // namespace vantle

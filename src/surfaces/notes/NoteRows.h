@@ -26,7 +26,8 @@ public:
         SkillColorRole,
         DurationRole,
         IsManualRole,
-        DayRole, ///< the heading that the row stands under
+        DayRole,    ///< the heading that the row stands under
+        SpokenRole, ///< all of the row in words, for assistive tools
     };
 
     /// All that the rows are made of.
@@ -44,8 +45,9 @@ public:
     /// As wide as a time of day can be.
     [[nodiscard]] const QString& widestTimeText() const { return m_widestTime; }
 
-    /// Shows what passes the filter, from the top.
-    void narrow(const LogFilter& filter);
+    /// Shows what passes the filter. The row of the session `kept` keeps its view where it passes
+    /// before and after: a view holds the caret of its editor. All others are removed and inserted.
+    void narrow(const LogFilter& filter, const QUuid& kept = {});
 
     /// Shows what has become of the same list: rows that stay keep their place and their view.
     void update(Content content);
@@ -67,6 +69,13 @@ private:
     };
     [[nodiscard]] static Lines linesOf(const Content& content);
     void adopt(Content content, Lines lines);
+    /// Where the session stands among the rows; their number when it does not.
+    [[nodiscard]] std::ptrdiff_t placeOf(const QUuid& session, const Lines& lines) const;
+    void removeRange(std::ptrdiff_t first, std::ptrdiff_t count);
+    /// Shows the first `upTo` rows of the lines, of which `count` from `first` on are new.
+    void insertRange(std::ptrdiff_t first, std::ptrdiff_t count, const Lines& lines,
+                     std::ptrdiff_t upTo);
+    [[nodiscard]] QString spoken(const LogEntry& entry, const Skill& skill) const;
     [[nodiscard]] const LogEntry& entryOf(const Row& row) const {
         return m_content.log.entries[row.place];
     }

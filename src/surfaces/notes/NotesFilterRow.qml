@@ -49,6 +49,7 @@ Item {
 
                 DarkChip {
                     text: qsTr("All")
+                    choosable: true
                     selectedTint: row.model.showsAll ? DarkUI.t3 : DarkUI.clear
                     onClicked: row.model.showAll()
                     onActiveFocusChanged: if (activeFocus) row.bringIntoSight(this)
@@ -65,6 +66,7 @@ Item {
 
                         required name
                         text: name
+                        choosable: true
                         dotColor: skillColor
                         selectedTint: selected ? skillColor : DarkUI.clear
                         onClicked: row.model.showSkill(skillId)

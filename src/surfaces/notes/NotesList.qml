@@ -16,12 +16,14 @@ FocusScope {
             row.focusByKeyboard();
     }
 
-    // Another search starts at the top.
+    // Another search starts at the top. The row with the editor stays the current one.
     Connections {
         target: area.model
         function onFilterChanged(): void {
             list.positionViewAtBeginning();
-            list.currentIndex = Math.min(0, list.count - 1);
+            const current = list.currentItem as NoteRow;
+            if (!current || !current.editing)
+                list.currentIndex = Math.min(0, list.count - 1);
         }
     }
 
@@ -52,12 +54,21 @@ FocusScope {
                                              list)
 
         delegate: NoteRow {
+            id: note
+            required property int index
             width: ListView.view.width
             log: area.model
             // What has the focus can't leave the order of the Tab key.
             activeFocusOnTab: ListView.isCurrentItem || activeFocus
             timeWidth: Math.max(54, widestTime.width + DarkUI.space10)
             onLeftBehind: step => area.goBy(step)
+            // Of rows that leave the window, the list keeps the view of the current one alone.
+            onEditorEntered: {
+                if (list.currentIndex === index)
+                    return;
+                list.currentIndex = index;
+                note.takeKeyboard(); // a row that becomes the current one gets the focus itself
+            }
         }
 
         Accessible.role: Accessible.List

@@ -1,0 +1,180 @@
+// The notes window by pointer and keys.
+#include "support/ShownView.h"
+#include "support/Text.h"
+#include "surfaces/notes/NotesWorld.h"
+
+#include <QAccessible>
+
+namespace vantle {
+namespace {
+
+using tests::text;
+
+class NotesListTest : public testing::Test, protected tests::NotesWorld {
+protected:
+    void show(const std::vector<const char*>& notes) {
+        write(notes);
+        open();
+        m_shown.emplace().show("Notes/NotesLogView",
+                               {{text("model"), QVariant::fromValue(&*view)}});
+    }
+    /// The row that shows the note, or edits it.
+    [[nodiscard]] QQuickItem* row(const char* note) {
+        return tests::shownItem(m_shown->window().contentItem(), [&](const QQuickItem& item) {
+            return item.property("note").toString() == text(note);
+        });
+    }
+    /// Rests the pointer on the note and presses its pencil.
+    void clickPencil(const char* note) {
+        ASSERT_NE(row(note), nullptr) << note;
+        m_shown->bringIntoSight(*row(note));
+        m_shown->moveTo(m_shown->frameOf(*row(note)).center());
+        QQuickItem* const pencil = tests::shownItem(row(note), [](const QQuickItem& item) {
+            return item.property("name").toString() == text("Edit this note");
+        });
+        m_shown->click(pencil);
+    }
+    void clickSearch() { m_shown->click(m_shown->field(text("Search notes"))); }
+    [[nodiscard]] QString typedInto(const char* field) {
+        QQuickItem* const item = m_shown->field(text(field));
+        return item ? item->property("text").toString() : text("no such field");
+    }
+    [[nodiscard]] bool hasKeyboard(const char* field) {
+        QQuickItem* const item = m_shown->field(text(field));
+        return item && item->property("focused").toBool();
+    }
+
+    std::optional<tests::ShownView> m_shown;
+};
+
+TEST_F(NotesListTest, PencilOpensTheNoteWithTheCaretAtItsEndAndReturnSavesIt) {
+    show({"alpha", "beta"});
+    clickPencil("alpha");
+    EXPECT_TRUE(hasKeyboard("Note"));
+    m_shown->type(text(" one"));
+    EXPECT_EQ(typedInto("Note"), text("alpha one"));
+    m_shown->press(Qt::Key_Return);
+    EXPECT_EQ(stored(1), text("alpha one"));
+    EXPECT_EQ(typedInto("Note"), text("no such field"));
+}
+
+TEST_F(NotesListTest, ReturnOnARowEditsItAndEscapeLeadsBackToTheRow) {
+    show({"alpha", "beta"});
+    for (int stops = 0; stops < 12 && m_shown->keyboardOwner() != row("beta"); ++stops)
+        m_shown->press(Qt::Key_Tab);
+    ASSERT_EQ(m_shown->keyboardOwner(), row("beta"));
+    m_shown->press(Qt::Key_Down);
+    EXPECT_EQ(m_shown->keyboardOwner(), row("alpha"));
+    m_shown->press(Qt::Key_Return);
+    m_shown->type(text("bet"));
+    m_shown->press(Qt::Key_Escape);
+    EXPECT_EQ(m_shown->keyboardOwner(), row("alpha"));
+    EXPECT_EQ(stored(1), text("alpha"));
+}
+
+TEST_F(NotesListTest, EnterOfTheKeypadEditsAndSavesAsReturnDoes) {
+    show({"alpha"});
+    for (int stops = 0; stops < 12 && m_shown->keyboardOwner() != row("alpha"); ++stops)
+        m_shown->press(Qt::Key_Tab);
+    m_shown->press(Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_TRUE(hasKeyboard("Note"));
+    m_shown->type(text("s"));
+    m_shown->press(Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(stored(1), text("alphas"));
+}
+
+TEST_F(NotesListTest, EveryChipOfTheFilterCanBeCheckedAndOneIs) {
+    show({"alpha"});
+    const auto state = [this](const QString& name) {
+        return QAccessible::queryAccessibleInterface(m_shown->control(name))->state();
+    };
+    const QString skill = skills->display(text("building")).name;
+    for (const QString& name : {text("All"), skill}) {
+        EXPECT_TRUE(state(name).checkable) << name.toStdString();
+        EXPECT_EQ(state(name).checked, name == text("All")) << name.toStdString();
+    }
+    m_shown->click(skill);
+    for (const QString& name : {text("All"), skill}) {
+        EXPECT_TRUE(state(name).checkable) << name.toStdString();
+        EXPECT_EQ(state(name).checked, name == skill) << name.toStdString();
+    }
+}
+
+TEST_F(NotesListTest, RowIsReadOutAsItStands) {
+    show({"100%1 of %2 done"});
+    QAccessibleInterface* const read =
+        QAccessible::queryAccessibleInterface(row("100%1 of %2 done"));
+    ASSERT_NE(read, nullptr);
+    EXPECT_EQ(read->text(QAccessible::Name), shown(NoteRows::SpokenRole)[0]);
+    EXPECT_TRUE(read->text(QAccessible::Name).startsWith(text("100%1 of %2 done, ")));
+}
+
+TEST_F(NotesListTest, CopyPutsTheNoteOnTheClipboardAndSaysSo) {
+    show({"alpha", "beta"});
+    m_shown->moveTo(m_shown->frameOf(*row("alpha")).center());
+    m_shown->click(tests::shownItem(row("alpha"), [](const QQuickItem& item) {
+        return item.property("name").toString() == text("Copy this note");
+    }));
+    EXPECT_EQ(clipboard, text("alpha"));
+    EXPECT_TRUE(m_shown->shows(text("Copied")));
+}
+
+TEST_F(NotesListTest, SearchKeepsTheKeyboardWhileANoteIsEdited) {
+    show({"alpha", "beta", "alphabet"});
+    clickPencil("alpha");
+    m_shown->type(text(" draft"));
+    clickSearch();
+    m_shown->type(text("alph"));
+    EXPECT_TRUE(hasKeyboard("Search notes"));
+    EXPECT_EQ(typedInto("Search notes"), text("alph"));
+    EXPECT_EQ(typedInto("Note"), text("alpha draft"));
+    m_shown->press(Qt::Key_Return);
+    EXPECT_EQ(typedInto("Note"), text("alpha draft")) << "the draft stays in its note";
+    EXPECT_EQ(view->editingId(), idOf(1));
+}
+
+TEST_F(NotesListTest, DraftOfANoteThatTheSearchHidesComesBackWithIt) {
+    show({"alpha", "beta", "gamma"});
+    clickPencil("gamma");
+    m_shown->type(text(" draft"));
+    clickSearch();
+    m_shown->type(text("beta"));
+    EXPECT_TRUE(hasKeyboard("Search notes"));
+    EXPECT_EQ(typedInto("Note"), text("no such field"));
+    m_shown->press(Qt::Key_Return);
+    EXPECT_EQ(view->editingId(), idOf(3)) << "no other note is opened";
+    m_shown->press(Qt::Key_Escape);
+    EXPECT_EQ(typedInto("Note"), text("gamma draft"));
+    m_shown->click(m_shown->field(text("Note")));
+    m_shown->press(Qt::Key_Return);
+    EXPECT_EQ(stored(3), text("gamma draft"));
+}
+
+TEST_F(NotesListTest, ChipUnderThePointerLeavesTheCaretInTheDraft) {
+    show({"alpha", "beta"});
+    clickPencil("alpha");
+    m_shown->type(text(" one"));
+    m_shown->press(Qt::Key_Left);
+    m_shown->click(skills->display(text("building")).name);
+    m_shown->type(text("x"));
+    EXPECT_EQ(typedInto("Note"), text("alpha onxe"));
+}
+
+TEST_F(NotesListTest, DraftThatIsScrolledAwayIsTypedOnAndStillThere) {
+    std::vector<const char*> notes(60, "one of many");
+    notes.back() = "newest";
+    show(notes);
+    clickPencil("newest");
+    m_shown->type(text(" draft"));
+    const QQuickItem& first = *row("newest");
+    m_shown->scroll(first, 3000);
+    EXPECT_LT(m_shown->frameOf(first).bottom(), 0);
+    m_shown->type(text(" goes on"));
+    m_shown->scroll(first, -3000);
+    EXPECT_EQ(typedInto("Note"), text("newest draft goes on"));
+    m_shown->press(Qt::Key_Return);
+    EXPECT_EQ(stored(60), text("newest draft goes on"));
+}
+
+} // namespace
+} // namespace vantle

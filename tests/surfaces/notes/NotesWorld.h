@@ -1,0 +1,58 @@
+// The notes window over a log that a test writes.
+#pragma once
+
+#include "app/ModelWorld.h"
+#include "surfaces/notes/LogView.h"
+#include "tracking/Samples.h"
+
+#include <optional>
+
+namespace vantle::tests {
+
+class NotesWorld : protected ModelWorld {
+protected:
+    NotesWorld() { launch(); }
+
+    /// What the log holds from now on.
+    void put(const QByteArray& lines) { disk.setContent(file("sessions.jsonl"), lines); }
+    /// A log with one noted session for each text, an hour apart, the last one newest.
+    void write(const std::vector<const char*>& notes) {
+        QByteArray lines;
+        int number = 0;
+        for (const char* note : notes) {
+            Session session = samples::session(++number);
+            session.note = QString::fromUtf8(note);
+            lines += samples::line(session);
+        }
+        put(lines);
+    }
+    LogView& open() { return view.emplace(environment()); }
+    [[nodiscard]] LogView::Environment environment() {
+        return {*model,
+                notifications,
+                preferences,
+                time,
+                time,
+                [] {
+                    return Calendar{QStringLiteral("UTC"), 1, 1};
+                },
+                [this](const QString& text) { clipboard = text; }};
+    }
+    [[nodiscard]] QStringList shown(NoteRows::Role role = NoteRows::NoteRole) {
+        QStringList texts;
+        for (int row = 0; row < view->rows()->rowCount(); ++row)
+            texts << view->rows()->data(view->rows()->index(row), role).toString();
+        return texts;
+    }
+    [[nodiscard]] QString stored(int number) {
+        for (const Session& session : log())
+            if (session.id == samples::id(number)) return session.note;
+        return QStringLiteral("gone");
+    }
+    [[nodiscard]] static QString idOf(int number) { return samples::id(number).toString(); }
+
+    QString clipboard;
+    std::optional<LogView> view;
+};
+
+} // namespace vantle::tests
