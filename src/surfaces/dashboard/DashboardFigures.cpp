@@ -11,6 +11,26 @@
 #include <algorithm>
 #include <cmath>
 
+namespace vantle {
+
+QString StatBlock::spoken() const {
+    if (value.isEmpty()) return title + QStringLiteral(": ") + invitation;
+    const QString figure = unit.isEmpty() ? value : value + QLatin1Char(' ') + unit;
+    return title + QStringLiteral(": ") + figure + QStringLiteral(", ") + context;
+}
+
+QString SkillTotalLine::spoken() const {
+    return QStringList{name, hours, share}.join(QStringLiteral(", "));
+}
+
+QString RecentLine::spoken() const {
+    QStringList parts{date, skillName, duration};
+    if (isManual) parts << QStringLiteral("manual");
+    return parts.join(QStringLiteral(", "));
+}
+
+} // namespace vantle
+
 namespace vantle::dashboard {
 
 namespace {

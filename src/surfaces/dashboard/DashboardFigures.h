@@ -12,6 +12,7 @@
 #include <QObject>
 #include <QQmlEngine>
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -28,6 +29,7 @@ struct StatBlock {
     Q_PROPERTY(QString invitation MEMBER invitation CONSTANT)
     Q_PROPERTY(double fraction MEMBER fraction CONSTANT)
     Q_PROPERTY(QColor accent MEMBER accent CONSTANT)
+    Q_PROPERTY(QString spoken READ spoken CONSTANT)
 
 public:
     QString title;
@@ -37,6 +39,9 @@ public:
     QString invitation;
     double fraction = 0; ///< of the goal; may be above 1
     QColor accent;
+
+    /// The block in words, for assistive tools.
+    [[nodiscard]] QString spoken() const;
 
     friend bool operator==(const StatBlock&, const StatBlock&) = default;
 };
@@ -50,6 +55,7 @@ struct SkillTotalLine {
     Q_PROPERTY(double fraction MEMBER fraction CONSTANT)
     Q_PROPERTY(QString hours MEMBER hours CONSTANT)
     Q_PROPERTY(QString share MEMBER share CONSTANT)
+    Q_PROPERTY(QString spoken READ spoken CONSTANT)
 
 public:
     QString name;
@@ -57,6 +63,9 @@ public:
     double fraction = 0; ///< of the skill with most hours
     QString hours;
     QString share; ///< "46%"
+
+    /// The row in words, for assistive tools.
+    [[nodiscard]] QString spoken() const;
 
     friend bool operator==(const SkillTotalLine&, const SkillTotalLine&) = default;
 };
@@ -70,6 +79,7 @@ struct RecentLine {
     Q_PROPERTY(QString skillName MEMBER skillName CONSTANT)
     Q_PROPERTY(QString duration MEMBER duration CONSTANT)
     Q_PROPERTY(bool isManual MEMBER isManual CONSTANT)
+    Q_PROPERTY(QString spoken READ spoken CONSTANT)
 
 public:
     QString date;
@@ -77,6 +87,9 @@ public:
     QString skillName;
     QString duration;
     bool isManual = false;
+
+    /// The row in words, for assistive tools.
+    [[nodiscard]] QString spoken() const;
 
     friend bool operator==(const RecentLine&, const RecentLine&) = default;
 };

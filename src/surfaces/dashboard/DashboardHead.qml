@@ -8,46 +8,86 @@ FocusScope {
     id: head
 
     required property DashboardView model
+    required property bool stacked // the title stands above the controls
+    readonly property real actionsWidth: logging.width + wrapped.width + 2 * actions.spacing
+                                         + (open ? chip.width : start.width)
+    property bool open: false // follows the model by way of follow()
 
-    implicitHeight: Math.max(34, actions.height)
+    // What takes the place of a control that has the keyboard gets it, with its ring.
+    function follow(): void {
+        if (open === model.isOpen)
+            return;
+        const hadFocus = start.activeFocus || chip.activeFocus;
+        const byKeyboard = start.keyboardFocus || chip.keyboardFocus;
+        open = model.isOpen;
+        const fresh = open ? chip : start;
+        if (!hadFocus)
+            fresh.focus = true;
+        else if (byKeyboard)
+            fresh.focusByKeyboard();
+        else
+            fresh.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    Component.onCompleted: {
+        open = model.isOpen;
+        (open ? chip : start).focus = true;
+    }
+
+    Connections {
+        target: head.model
+        function onTicked(): void {
+            head.follow();
+        }
+    }
+
+    implicitHeight: stacked ? title.height + DarkUI.space8 + actions.height
+                            : Math.max(34, actions.height)
 
     DarkText {
         id: title
-        anchors.verticalCenter: parent.verticalCenter
-        width: actions.x - DarkUI.space12
+        y: head.stacked ? 0 : (head.height - height) / 2
+        width: head.stacked ? head.width : actions.x - DarkUI.space12
         text: qsTr("Your hours")
         role: DarkUI.titleL
         elide: Text.ElideRight
         Accessible.role: Accessible.Heading
     }
 
-    Row {
+    Flow {
         id: actions
-        anchors.right: parent.right
-        anchors.verticalCenter: parent.verticalCenter
+        x: head.stacked ? 0 : head.width - width
+        y: head.stacked ? title.height + DarkUI.space8 : (head.height - height) / 2
+        width: head.stacked ? head.width : head.actionsWidth
         spacing: DarkUI.space8
 
         DarkSecondaryButton {
+            id: logging
             text: qsTr("Log time")
             onClicked: head.model.openQuickLog()
         }
 
         DarkSecondaryButton {
+            id: wrapped
             text: qsTr("Wrapped")
             help: qsTr("A recap of your work, computed on this Mac")
             onClicked: head.model.openWrapped()
         }
 
         DarkPrimaryButton {
-            visible: !head.model.isOpen
-            focus: true
+            id: start
+            visible: !head.open
             text: qsTr("Start building")
             onClicked: head.model.toggle()
         }
 
         StateChipButton {
-            visible: head.model.isOpen
+            id: chip
+            visible: head.open
             model: head.model
+            room: head.stacked ? head.width
+                               : head.width - Math.ceil(title.implicitWidth) - DarkUI.space12
+                                 - logging.width - wrapped.width - 2 * actions.spacing
         }
     }
 }

@@ -30,6 +30,7 @@ FocusScope {
             DashboardHead {
                 width: page.inner
                 model: page.model
+                stacked: page.stacked
                 focus: true
             }
 
@@ -40,6 +41,14 @@ FocusScope {
             }
 
             Row {
+                id: figures
+                // All as high as the one whose words need most lines.
+                readonly property real highest: {
+                    let most = 0;
+                    for (let i = 0; i < children.length; ++i)
+                        most = Math.max(most, children[i].implicitHeight);
+                    return most;
+                }
                 topPadding: DarkUI.space4
                 spacing: DarkUI.space12
 
@@ -49,6 +58,7 @@ FocusScope {
                     StatBlockView {
                         required property statBlock modelData
                         width: (page.inner - 2 * DarkUI.space12) / 3
+                        height: figures.highest
                         stat: modelData
                     }
                 }

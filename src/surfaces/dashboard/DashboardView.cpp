@@ -3,6 +3,7 @@
 #include "app/AppModel.h"
 #include "base/LocalTime.h"
 #include "ceremony/show/VantleCopy.h"
+#include "platform/Preferences.h"
 #include "tracking/DailyGoal.h"
 #include "tracking/DashFormat.h"
 #include "tracking/NotificationCenter.h"
@@ -18,6 +19,9 @@ namespace {
 
 /// The current hour's colour before there is a session.
 constexpr std::uint32_t kNoColor = 0x7A78FF;
+
+/// Without a session: records whose clock was ahead come to count as time passes.
+constexpr Seconds kIdleReload{3600.0};
 
 template <typename Line>
 QVariantList asList(const std::vector<Line>& lines) {
@@ -35,6 +39,9 @@ DashboardView::DashboardView(Environment environment) : m_env(std::move(environm
     connect(&tracker(), &TrackerCore::stateChanged, this, &DashboardView::followState);
     connect(&tracker(), &TrackerCore::currentSkillIdChanged, this, &DashboardView::ticked);
     connect(&m_env.model, &AppModel::skillsChanged, this, &DashboardView::reload);
+    connect(&m_env.preferences, &Preferences::changed, this, [this](const QString& key) {
+        if (key == QLatin1String(dailygoal::hoursKey)) reload();
+    });
     connect(&tracker(), &TrackerCore::storageErrorChanged, this, &DashboardView::warningChanged);
     connect(&tracker(), &TrackerCore::dataWarningChanged, this, &DashboardView::warningChanged);
     followState();
@@ -71,8 +78,9 @@ void DashboardView::reload() {
         sessions.empty() ? kNoColor
                          : SkillList::display(sessions.back().skillId, now.skills).hexRGB);
 
-    m_dayEnds = m_env.scheduler.scheduleOnce(LocalTime(now.calendar).endOfDay(now.now) - now.now,
-                                             [this] { reload(); });
+    Seconds next = LocalTime(now.calendar).endOfDay(now.now) - now.now;
+    if (!isOpen()) next = std::min(next, kIdleReload);
+    m_nextReload = m_env.scheduler.scheduleOnce(next, [this] { reload(); });
     Q_EMIT figuresChanged();
     Q_EMIT ticked();
 }
@@ -112,10 +120,11 @@ QString DashboardView::elapsed() const {
     return dashformat::sessionDuration(activeSeconds(), durationstyle::current(m_env.preferences));
 }
 
-QString DashboardView::chipText() const {
-    if (isPaused()) return QStringLiteral("Paused · ") + elapsed();
-    return vantlecopy::activeStatus(openSkill().name) + QStringLiteral(" · ") + elapsed();
+QString DashboardView::chipState() const {
+    return isPaused() ? QStringLiteral("Paused") : vantlecopy::activeStatus(openSkill().name);
 }
+
+QString DashboardView::chipText() const { return chipState() + QStringLiteral(" · ") + elapsed(); }
 
 QString DashboardView::chipHoverText() const { return QStringLiteral("Stop · ") + elapsed(); }
 

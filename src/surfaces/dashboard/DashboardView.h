@@ -19,8 +19,9 @@ class Preferences;
 class TrackerCore;
 
 /// What the window shows and does. Holds a copy of the log and computes everything from it; reads
-/// it anew when the window opens, when a session begins, pauses or ends, on every change of the
-/// log, and at midnight. Ticks once a second while a session is open. Main thread.
+/// it again when the window opens, when a session begins, pauses or ends, on every change of the
+/// log, of the skills or of the daily goal, at midnight, and once an hour without a session. Ticks
+/// once a second while a session is open. Main thread.
 class DashboardView final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -43,6 +44,9 @@ class DashboardView final : public QObject {
     /// Whether a session is open, and what the chip in the head says of it.
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY ticked FINAL)
     Q_PROPERTY(QString chipText READ chipText NOTIFY ticked FINAL)
+    /// The chip's text in two parts: what may be cut, and the time, which may not.
+    Q_PROPERTY(QString chipState READ chipState NOTIFY ticked FINAL)
+    Q_PROPERTY(QString elapsed READ elapsed NOTIFY ticked FINAL)
     Q_PROPERTY(QString chipHoverText READ chipHoverText NOTIFY ticked FINAL)
     Q_PROPERTY(QString chipLabel READ chipLabel NOTIFY ticked FINAL)
     Q_PROPERTY(QColor chipColor READ chipColor NOTIFY ticked FINAL)
@@ -82,6 +86,8 @@ public:
     [[nodiscard]] bool isOpen() const;
     [[nodiscard]] bool isPaused() const;
     [[nodiscard]] QString chipText() const;
+    [[nodiscard]] QString chipState() const;
+    [[nodiscard]] QString elapsed() const;
     [[nodiscard]] QString chipHoverText() const;
     [[nodiscard]] QString chipLabel() const;
     [[nodiscard]] QColor chipColor() const;
@@ -101,7 +107,6 @@ private:
     void reload();
     void followState();
     [[nodiscard]] DashboardSetting setting() const;
-    [[nodiscard]] QString elapsed() const;
     [[nodiscard]] std::int64_t activeSeconds() const;
     [[nodiscard]] Skill openSkill() const;
     [[nodiscard]] TrackerCore& tracker() const;
@@ -116,7 +121,7 @@ private:
     std::int64_t m_dots = 0;
     std::int64_t m_loggedSeconds = 0;
     TimerHandle m_tick;
-    TimerHandle m_dayEnds;
+    TimerHandle m_nextReload;
 };
 
 } // namespace vantle

@@ -11,8 +11,7 @@ Item {
 
     implicitHeight: 26
     Accessible.role: Accessible.StaticText
-    Accessible.name: (line.isManual ? qsTr("%1, %2, %3, manual") : qsTr("%1, %2, %3"))
-                         .arg(line.date).arg(line.skillName).arg(line.duration)
+    Accessible.name: line.spoken
 
     DarkText {
         anchors.verticalCenter: parent.verticalCenter

@@ -10,7 +10,7 @@ Item {
     required property skillTotalLine line
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: qsTr("%1, %2, %3").arg(line.name).arg(line.hours).arg(line.share)
+    Accessible.name: line.spoken
 
     DarkText {
         anchors.verticalCenter: parent.verticalCenter

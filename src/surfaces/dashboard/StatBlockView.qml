@@ -9,18 +9,22 @@ DarkCard {
 
     required property statBlock stat
     readonly property bool hasValue: stat.value !== ""
+    readonly property real inner: width - 2 * DarkUI.space16
+    readonly property real bottomGap: 13
+    readonly property real needed: hasValue
+        ? context.y + context.height + DarkUI.space8 + bar.height + bottomGap
+        : title.y + title.height + DarkUI.space4 + invitation.height + bottomGap
 
-    implicitHeight: 110
+    implicitHeight: Math.max(110, Math.ceil(needed))
     padding: 0
     Accessible.role: Accessible.Grouping
-    Accessible.name: hasValue ? qsTr("%1: %2 %3, %4").arg(stat.title).arg(stat.value)
-                                                     .arg(stat.unit).arg(stat.context)
-                              : qsTr("%1: %2").arg(stat.title).arg(stat.invitation)
+    Accessible.name: stat.spoken
 
     DarkText {
+        id: title
         x: DarkUI.space16
         y: 13
-        width: block.width - 2 * DarkUI.space16
+        width: block.inner
         text: block.stat.title
         role: DarkUI.captionMedium
         color: DarkUI.t2
@@ -32,7 +36,7 @@ DarkCard {
         id: value
         x: DarkUI.space16
         y: 30
-        width: Math.min(implicitWidth, block.width - 2 * DarkUI.space16)
+        width: Math.min(implicitWidth, block.inner - unit.implicitWidth - DarkUI.space4)
         visible: block.hasValue
         text: block.stat.value
         role: DarkUI.statValue
@@ -42,11 +46,11 @@ DarkCard {
     }
 
     DarkText {
+        id: unit
         anchors.left: value.right
         anchors.leftMargin: DarkUI.space4
         anchors.baseline: value.baseline
         visible: block.hasValue
-                 && value.x + value.width + implicitWidth + DarkUI.space4 < block.width
         text: block.stat.unit
         role: DarkUI.statUnit
         color: DarkUI.t3
@@ -54,21 +58,23 @@ DarkCard {
     }
 
     DarkText {
+        id: context
         x: DarkUI.space16
         y: 67
-        width: block.width - 2 * DarkUI.space16
+        width: block.inner
         visible: block.hasValue
         text: block.stat.context
         role: DarkUI.small
         color: DarkUI.t3
-        elide: Text.ElideRight
+        wrapMode: Text.Wrap
         Accessible.ignored: true
     }
 
     GlassBarTrack {
+        id: bar
         x: DarkUI.space16
-        y: block.height - 13 - height
-        width: block.width - 2 * DarkUI.space16
+        y: block.height - block.bottomGap - height
+        width: block.inner
         visible: block.hasValue
 
         GlassBarFill {
@@ -78,9 +84,10 @@ DarkCard {
     }
 
     DarkText {
+        id: invitation
         x: DarkUI.space16
-        y: block.height - 13 - height
-        width: block.width - 2 * DarkUI.space16
+        y: block.height - block.bottomGap - height
+        width: block.inner
         visible: !block.hasValue
         text: block.stat.invitation
         role: DarkUI.caption

@@ -8,9 +8,15 @@ KitPressable {
     id: chip
 
     required property DashboardView model
+    readonly property bool offersStop: hovered || ringed
 
-    implicitWidth: DarkUI.space12 + DarkUI.chipDot + DarkUI.space8 + label.implicitWidth
-                   + DarkUI.buttonPadding
+    property real room: 10000 // px that it may take; a long name is cut
+    readonly property real aside: status.x + DarkUI.buttonPadding
+
+    // As wide as the wider of its two texts: a chip that shrank under the pointer would leave it.
+    implicitWidth: aside + Math.ceil(Math.max(status.implicitWidth + time.implicitWidth,
+                                              stop.implicitWidth))
+    width: Math.min(implicitWidth, room)
     implicitHeight: DarkUI.buttonHeight
     name: model.chipLabel
     help: qsTr("Stop the session")
@@ -34,15 +40,32 @@ KitPressable {
         opacity: chip.model.isPaused ? 0.4 : 1
     }
 
-    // As wide as the wider of its two texts, so that it does not move away under the pointer.
-    DarkText {
-        id: label
+    component Words: DarkText {
         x: DarkUI.space12 + DarkUI.chipDot + DarkUI.space8
         anchors.verticalCenter: parent.verticalCenter
-        width: implicitWidth
-        text: chip.hovered || chip.ringed ? chip.model.chipHoverText : chip.model.chipText
         role: DarkUI.bodyMedium
         Accessible.ignored: true
+    }
+
+    Words {
+        id: status
+        visible: !chip.offersStop
+        width: Math.min(implicitWidth, chip.width - chip.aside - time.implicitWidth)
+        text: chip.model.chipState
+        elide: Text.ElideRight
+    }
+
+    Words {
+        id: time
+        x: status.x + status.width
+        visible: !chip.offersStop
+        text: " · " + chip.model.elapsed
+    }
+
+    Words {
+        id: stop
+        visible: chip.offersStop
+        text: chip.model.chipHoverText
     }
 
     FocusRing {

@@ -154,5 +154,19 @@ TEST(DashboardFigures, RecentSumsUpTheWholeLog) {
               QStringLiteral("58 sessions · 46 h 18 min"));
 }
 
+TEST(DashboardWords, NamesAreSpokenAsTheyStand) {
+    const SkillTotalLine total{
+        QStringLiteral("50%1 %2"), {}, 1, QStringLiteral("2 h"), QStringLiteral("100%")};
+    EXPECT_EQ(total.spoken(), QStringLiteral("50%1 %2, 2 h, 100%"));
+    RecentLine recent{QStringLiteral("Mar 9 · 10:00"),
+                      {},
+                      QStringLiteral("%3 done"),
+                      QStringLiteral("2 h"),
+                      true};
+    EXPECT_EQ(recent.spoken(), QStringLiteral("Mar 9 · 10:00, %3 done, 2 h, manual"));
+    recent.isManual = false;
+    EXPECT_EQ(recent.spoken(), QStringLiteral("Mar 9 · 10:00, %3 done, 2 h"));
+}
+
 } // namespace
 } // namespace vantle

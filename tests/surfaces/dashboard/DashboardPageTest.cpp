@@ -1,0 +1,155 @@
+// The hours window by pointer and keys.
+#include "support/ShownView.h"
+#include "support/Text.h"
+#include "surfaces/dashboard/DashboardWorld.h"
+#include "tracking/Samples.h"
+
+namespace vantle {
+namespace {
+
+using tests::text;
+
+class DashboardPageTest : public testing::Test, protected tests::DashboardWorld {
+protected:
+    void show(QSize size = {}) {
+        open();
+        m_shown.emplace().show("Dashboard/DashboardPage",
+                               {{text("model"), QVariant::fromValue(&*view)}}, size);
+    }
+    void click(const char* name) {
+        m_shown->click(text(name));
+        settle();
+        m_shown->settle();
+    }
+    [[nodiscard]] QQuickItem* stateChip() { return m_shown->control(view->chipLabel()); }
+    [[nodiscard]] QRectF chipFrame() { return m_shown->frameOf(*stateChip()); }
+
+    std::optional<tests::ShownView> m_shown;
+};
+
+TEST_F(DashboardPageTest, ButtonsOfTheHeadDoWhatTheySay) {
+    show();
+    click("Log time");
+    EXPECT_EQ(quickLogs, 1);
+    click("Wrapped");
+    EXPECT_EQ(reviews, 1);
+    click("Start building");
+    EXPECT_TRUE(hasMarker());
+    EXPECT_EQ(m_shown->control(text("Start building")), nullptr);
+}
+
+TEST_F(DashboardPageTest, StateChipStaysAsWideUnderThePointerAsBesideIt) {
+    show();
+    click("Start building");
+    time.advance(90);
+    m_shown->moveTo({10, 300});
+    ASSERT_NE(stateChip(), nullptr);
+    const QRectF rest = chipFrame();
+    EXPECT_TRUE(m_shown->shows(view->chipState()));
+    for (double x = rest.left() + 1; x < rest.right(); x += 4) {
+        m_shown->moveTo({x, rest.center().y()});
+        EXPECT_EQ(chipFrame(), rest) << "with the pointer at " << x - rest.left();
+        EXPECT_TRUE(m_shown->shows(view->chipHoverText()));
+    }
+    m_shown->moveTo({10, 300});
+    EXPECT_TRUE(m_shown->shows(view->chipState()));
+    EXPECT_EQ(chipFrame(), rest);
+}
+
+TEST_F(DashboardPageTest, KeyboardGoesFromTheButtonToTheChipAndBack) {
+    show();
+    ASSERT_EQ(m_shown->keyboardOwner(), m_shown->control(text("Start building")));
+    m_shown->press(Qt::Key_Space);
+    settle();
+    m_shown->settle();
+    ASSERT_NE(stateChip(), nullptr);
+    EXPECT_EQ(m_shown->keyboardOwner(), stateChip());
+    m_shown->press(Qt::Key_Space);
+    settle();
+    m_shown->settle();
+    EXPECT_FALSE(hasMarker());
+    EXPECT_EQ(m_shown->keyboardOwner(), m_shown->control(text("Start building")));
+}
+
+TEST_F(DashboardPageTest, ClickAtTheLeftEdgeOfTheStateChipStopsTheSession) {
+    show();
+    click("Start building");
+    time.advance(90);
+    m_shown->moveTo({10, 300});
+    const QRectF rest = chipFrame();
+    m_shown->clickAt({rest.left() + 2, rest.center().y()});
+    settle();
+    EXPECT_FALSE(hasMarker());
+    EXPECT_EQ(log().size(), 1U);
+}
+
+/// The log of some years, under modes with names as long as they may be.
+class NarrowDashboardTest : public DashboardPageTest {
+protected:
+    NarrowDashboardTest() {
+        launch();
+        const Skill first = model->skills().front();
+        model->updateSkill(first.id, longName, first.hexRGB);
+        QByteArray lines;
+        for (int number = 1; number <= 130; ++number) {
+            Session session = samples::session(number);
+            session.skillId = first.id;
+            session.startedAt = time.now() - Seconds(number * 24 * 3600.0);
+            session.endedAt = session.startedAt + Seconds(8 * 3600.0);
+            session.activeSeconds = 8 * 3600;
+            lines += samples::line(session);
+        }
+        disk.setContent(file("sessions.jsonl"), lines);
+    }
+
+    [[nodiscard]] std::string statsText() const {
+        QStringList all;
+        for (const QVariant& stat : view->stats())
+            all << stat.value<StatBlock>().spoken();
+        return all.join(QLatin1Char('\n')).toStdString();
+    }
+
+    const QString longName = text("Wide Workshop Mowing");
+    static constexpr QSize kNarrowest{380, 700};
+};
+
+TEST_F(NarrowDashboardTest, NothingIsCutButANameWithoutASession) {
+    show(kNarrowest);
+    EXPECT_TRUE(m_shown->shows(text("Your hours")));
+    EXPECT_TRUE(m_shown->shows(text("next milestone 2500 h"))) << statsText();
+    for (const QString& words : m_shown->cutTexts())
+        EXPECT_EQ(words, longName);
+    click("Log time");
+    EXPECT_EQ(quickLogs, 1);
+    click("Start building");
+    EXPECT_TRUE(hasMarker());
+}
+
+TEST_F(NarrowDashboardTest, RunningTimeIsSeenWhateverTheModeIsCalled) {
+    show(kNarrowest);
+    click("Start building");
+    time.advance(3600 + 59 * 60);
+    m_shown->moveTo({10, 500});
+    EXPECT_TRUE(m_shown->shows(text(" · 1 h 59 min")));
+    for (const QString& words : m_shown->cutTexts())
+        EXPECT_TRUE(words.contains(longName)) << words.toStdString();
+    click("Wrapped");
+    EXPECT_EQ(reviews, 1);
+    m_shown->click(stateChip());
+    settle();
+    EXPECT_FALSE(hasMarker());
+}
+
+TEST_F(NarrowDashboardTest, BesideTheTitleTheLongNameIsCutAndNotTheTime) {
+    show();
+    click("Start building");
+    time.advance(3600 + 59 * 60);
+    m_shown->moveTo({10, 500});
+    EXPECT_TRUE(m_shown->shows(text("Your hours")));
+    EXPECT_TRUE(m_shown->shows(text(" · 1 h 59 min")));
+    for (const QString& words : m_shown->cutTexts())
+        EXPECT_TRUE(words.contains(longName)) << words.toStdString();
+}
+
+} // namespace
+} // namespace vantle

@@ -1,0 +1,29 @@
+// The hours window of a program on a disk, a clock and a desktop of its own.
+#pragma once
+
+#include "app/ModelWorld.h"
+#include "surfaces/dashboard/DashboardView.h"
+
+#include <optional>
+
+namespace vantle::tests {
+
+class DashboardWorld : protected ModelWorld {
+protected:
+    DashboardView& open() {
+        idleSource.fix(0);
+        if (!model) launch();
+        return view.emplace(
+            DashboardView::Environment{*model, notifications, preferences, time, time,
+                                       [] {
+                                           return Calendar{QStringLiteral("UTC"), 1, 1};
+                                       },
+                                       [this] { ++quickLogs; }, [this] { ++reviews; }});
+    }
+
+    int quickLogs = 0;
+    int reviews = 0;
+    std::optional<DashboardView> view;
+};
+
+} // namespace vantle::tests
