@@ -46,12 +46,23 @@ FocusScope {
 
             DarkText {
                 id: headline
+                readonly property real room: parent.width - keycap.width - DarkUI.space12
                 y: DarkUI.space18
-                width: parent.width - keycap.width - DarkUI.space12
-                text: content.model.title
+                width: Math.min(implicitWidth, room - time.implicitWidth)
+                text: content.model.titleState
                 role: DarkUI.panelTitle
                 elide: Text.ElideRight
                 Accessible.role: Accessible.Heading
+                Accessible.name: content.model.title
+            }
+            // A long name is cut, and not the time behind it.
+            DarkText {
+                id: time
+                anchors.left: headline.right
+                anchors.baseline: headline.baseline
+                text: content.model.titleTime === "" ? "" : " · " + content.model.titleTime
+                role: DarkUI.panelTitle
+                Accessible.ignored: true
             }
             DarkText {
                 id: explanation

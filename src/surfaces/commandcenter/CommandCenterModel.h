@@ -24,6 +24,9 @@ class CommandCenterModel final : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Made by its controller.")
     Q_PROPERTY(QString title READ title NOTIFY statusChanged)
+    /// The title in two parts: what may be cut, and the time, which may not; it may be empty.
+    Q_PROPERTY(QString titleState READ titleState NOTIFY statusChanged)
+    Q_PROPERTY(QString titleTime READ titleTime NOTIFY statusChanged)
     Q_PROPERTY(QString subtitle READ subtitle NOTIFY statusChanged)
     Q_PROPERTY(QString shortcut READ shortcut CONSTANT)
     Q_PROPERTY(QString primaryText READ primaryText NOTIFY statusChanged)
@@ -52,7 +55,9 @@ public:
     /// The panel has come up, or gone away.
     void setShown(bool shown);
 
-    [[nodiscard]] QString title() const { return commandcentertext::title(m_status); }
+    [[nodiscard]] QString title() const { return commandcentertext::title(m_status).whole(); }
+    [[nodiscard]] QString titleState() const { return commandcentertext::title(m_status).state; }
+    [[nodiscard]] QString titleTime() const { return commandcentertext::title(m_status).time; }
     [[nodiscard]] QString subtitle() const { return commandcentertext::subtitle(m_status.state); }
     [[nodiscard]] static QString shortcut() { return QStringLiteral("⌥⌘B"); }
     [[nodiscard]] QString primaryText() const;

@@ -16,19 +16,20 @@ QString middleDot() { return QStringLiteral(" · "); }
 
 } // namespace
 
-QString title(const Status& status) {
+QString Title::whole() const { return time.isEmpty() ? state : state + middleDot() + time; }
+
+Title title(const Status& status) {
     switch (status.state) {
     case TrackerCore::State::Idle:
         break;
     case TrackerCore::State::Running:
-        return (status.welcomeBack.isEmpty() ? vantlecopy::activeStatus(status.skillName)
-                                             : status.welcomeBack) +
-               middleDot() + status.time;
+        return {status.welcomeBack.isEmpty() ? vantlecopy::activeStatus(status.skillName)
+                                             : status.welcomeBack,
+                status.time};
     case TrackerCore::State::Paused:
-        return QStringLiteral("Paused (away)") + middleDot() + status.skillName + middleDot() +
-               status.time;
+        return {QStringLiteral("Paused (away)") + middleDot() + status.skillName, status.time};
     }
-    return QStringLiteral("Ready to focus");
+    return {QStringLiteral("Ready to focus"), {}};
 }
 
 QString subtitle(TrackerCore::State state) {

@@ -16,7 +16,14 @@ struct Status {
     QString time;        ///< the active time, as the person wants durations written
 };
 
-[[nodiscard]] QString title(const Status& status);
+/// The state and the skill, and after them the time, which a narrow panel never cuts; the time is
+/// empty while no session is open. With the dot between the two they are the whole title.
+struct Title {
+    QString state;
+    QString time;
+    [[nodiscard]] QString whole() const;
+};
+[[nodiscard]] Title title(const Status& status);
 [[nodiscard]] QString subtitle(TrackerCore::State state);
 
 /// What the primary button says; `modeName` is the name of the chosen skill.

@@ -33,10 +33,10 @@ Item {
         dotColor: Tint.fromHex(hexRGB)
         selectedTint: selected ? dotColor : DarkUI.clear
         checked: selected
+        choosable: true
         Accessible.description: selected ? qsTr("Selected") : qsTr("Not selected")
         onClicked: chips.chosen(skillId)
         onContextMenuRequested: menu.openFor(chip)
-        Keys.onDeletePressed: if (deletable) chips.deleteWanted(skillId)
     }
 
     ArrowGroup {

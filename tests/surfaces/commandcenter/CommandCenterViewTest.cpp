@@ -1,0 +1,108 @@
+// The panel by pointer and keys.
+#include "support/ShownView.h"
+#include "support/Text.h"
+#include "surfaces/commandcenter/CommandCenterWorld.h"
+
+namespace vantle::tests {
+namespace {
+
+class CommandCenterViewTest : public testing::Test, protected CommandCenterWorld {
+protected:
+    void show() {
+        m_shown.emplace().show("CommandCenter/CommandCenterView",
+                               {{text("model"), QVariant::fromValue(content.get())},
+                                {text("composited"), true},
+                                {text("up"), true}});
+    }
+    void click(const QString& name, Qt::MouseButton button = Qt::LeftButton) {
+        m_shown->click(name, button);
+        world.settle();
+        m_shown->settle();
+    }
+    [[nodiscard]] QString nameOf(int row) const {
+        return mode(row, ModeListModel::Name).toString();
+    }
+    [[nodiscard]] QStringList names() const {
+        QStringList all;
+        for (int row = 0; row < content->modes()->rowCount(); ++row)
+            all << nameOf(row);
+        return all;
+    }
+
+    std::optional<ShownView> m_shown;
+};
+
+TEST_F(CommandCenterViewTest, ChipThatIsClickedIsTheModeOfTheButton) {
+    show();
+    click(nameOf(1));
+    EXPECT_TRUE(mode(1, ModeListModel::Selected).toBool());
+    EXPECT_TRUE(m_shown->shows(content->primaryText()));
+    EXPECT_EQ(content->primaryText(), text("Enter Design Mode"));
+}
+
+TEST_F(CommandCenterViewTest, ClickOnTheButtonStartsAndStopsTheSession) {
+    show();
+    click(content->primaryText());
+    EXPECT_TRUE(world.hasMarker());
+    world.time.advance(60);
+    m_shown->settle();
+    click(content->primaryText());
+    EXPECT_FALSE(world.hasMarker());
+}
+
+TEST_F(CommandCenterViewTest, DeleteOnAFocusedChipDeletesNothing) {
+    show();
+    const QStringList before = names();
+    const int last = static_cast<int>(before.size()) - 1;
+    ASSERT_TRUE(mode(last, ModeListModel::Deletable).toBool());
+    for (int stops = 0; stops < 6 && m_shown->keyboardOwner() != m_shown->control(nameOf(0));
+         ++stops)
+        m_shown->press(Qt::Key_Tab);
+    for (int steps = 0; steps < last; ++steps)
+        m_shown->press(Qt::Key_Right);
+    ASSERT_EQ(m_shown->keyboardOwner(), m_shown->control(nameOf(last)));
+    m_shown->press(Qt::Key_Delete);
+    m_shown->press(Qt::Key_Backspace);
+    world.settle();
+    EXPECT_EQ(names(), before);
+}
+
+TEST_F(CommandCenterViewTest, ModeIsDeletedByTheMenuOfItsChip) {
+    show();
+    QStringList left = names();
+    const QString last = left.takeLast();
+    click(last, Qt::RightButton);
+    click(text("Delete %1").arg(last));
+    EXPECT_EQ(names(), left);
+}
+
+TEST_F(CommandCenterViewTest, MenuOfAChipOpensTheEditorForItsColour) {
+    show();
+    click(nameOf(1), Qt::RightButton);
+    click(text("Change color…"));
+    EXPECT_TRUE(content->editor()->isShown());
+    m_shown->press(Qt::Key_A, Qt::ControlModifier);
+    m_shown->type(text("Drafts"));
+    m_shown->press(Qt::Key_Return);
+    EXPECT_EQ(nameOf(1), text("Drafts"));
+}
+
+TEST_F(CommandCenterViewTest, LongNameIsCutAndNotTheTimeBehindIt) {
+    const QString longName = text("Wide Workshop Mowing");
+    const Skill first = world.model->skills().front();
+    world.model->updateSkill(first.id, longName, first.hexRGB);
+    show();
+    click(content->primaryText());
+    world.time.advance(3600 + 59 * 60);
+    m_shown->settle();
+    for (const bool paused : {false, true}) {
+        if (paused) world.model->tracker().pause(world.time.now());
+        m_shown->settle();
+        EXPECT_TRUE(m_shown->shows(text(" · 1 h 59 min")));
+        for (const QString& words : m_shown->cutTexts())
+            EXPECT_TRUE(words.contains(longName)) << words.toStdString();
+    }
+}
+
+} // namespace
+} // namespace vantle::tests

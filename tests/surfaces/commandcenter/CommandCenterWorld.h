@@ -1,0 +1,63 @@
+// The command center of a program on a disk, a clock and a desktop of its own.
+#pragma once
+
+#include "app/ModelWorld.h"
+#include "surfaces/commandcenter/CommandCenterModel.h"
+
+#include <memory>
+
+namespace vantle::tests {
+
+class CommandCenterWorld {
+protected:
+    CommandCenterWorld() {
+        world.idleSource.fix(0); // somebody is at work all the time
+        world.launch();
+        world.settle();
+        content = std::make_unique<CommandCenterModel>(
+            CommandCenterModel::Environment{*world.model, *world.skills, world.preferences,
+                                            world.time},
+            actions());
+        content->setShown(true);
+    }
+
+    CommandCenterActions actions() {
+        AppModel& model = *world.model;
+        const auto told = [this](const char* what) {
+            return [this, what] { calls.append(QLatin1String(what)); };
+        };
+        return {
+            .toggleVantle = [&model] { model.toggleVantle(); },
+            .selectSkill =
+                [&model](const QString& id) {
+                    model.selectSkill(id, AppModel::SkillSelectionOrigin::Human);
+                },
+            .addSkill = [&model](const QString& name,
+                                 std::uint32_t hexRGB) { model.addSkill(name, hexRGB); },
+            .updateSkill = [&model](const QString& id, const QString& name,
+                                    std::uint32_t hexRGB) { model.updateSkill(id, name, hexRGB); },
+            .deleteSkill = [&model](const QString& id) { model.deleteSkill(id); },
+            .backfill = [&model](int minutes) { model.startWithBackfill(minutes); },
+            .openDashboard = told("dashboard"),
+            .openWrapped =
+                [this](std::optional<WrappedPeriod> period) {
+                    calls.append(QStringLiteral("wrapped ") +
+                                 (period ? wrappedperiod::id(*period) : QString()));
+                },
+            .openQuickLog = told("quick log"),
+            .openNotes = told("notes"),
+            .openSettings = told("settings"),
+            .quit = told("quit"),
+            .relayout = told("relayout")};
+    }
+
+    [[nodiscard]] QVariant mode(int row, int role) const {
+        return content->modes()->index(row).data(role);
+    }
+
+    ModelWorld world;
+    QStringList calls;
+    std::unique_ptr<CommandCenterModel> content;
+};
+
+} // namespace vantle::tests
