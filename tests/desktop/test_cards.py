@@ -5,12 +5,14 @@ import time
 from datetime import datetime, timedelta, timezone
 from pathlib import Path
 
-from harness.case import FIRST_SKILL, DesktopTest
+from harness.bus import PROGRAM_NAME, owner_of
+from harness.case import FIRST_SKILL, SHORTCUT, DesktopTest
 from harness.records import stamp
 from harness.waiting import wait_until
 
 SUMMARY = "Vantle Session Summary"
 RECOVERY = "Vantle Recovery"
+WELCOME = "Welcome"
 QUESTION = "Vantle Question"
 SAVED = "Vantle Saved Time"
 
@@ -19,6 +21,7 @@ RIGHT_INSET = 12
 TOP_INSET = 10
 SCREEN_WIDTH = 1440
 
+SPOTLIGHT = 45  # seconds that the first card waits for its note
 UNKNOWN_FOR = 90  # seconds in an unknown application until it is asked about
 
 ENTRY = """[Desktop Entry]
@@ -45,6 +48,10 @@ class CardTest(DesktopTest):
 
     def click(self, x, y):
         self.desktop.tool("xdotool", "mousemove", str(x), str(y), "sleep", "0.1", "click", "1")
+
+    def focused_window(self):
+        """The window that has the keyboard, managed or not."""
+        return self.desktop.tool("xdotool", "getwindowfocus").decode().strip()
 
 
 class StopSummary(CardTest):
@@ -91,6 +98,33 @@ class StopSummary(CardTest):
         wait_until("the card gone", lambda: not self.is_up(SUMMARY))
         self.desktop.type("still mine\n")
         wait_until("the line in the editor", lambda: typed.read_text() == "still mine\n")
+
+
+class FirstSummary(CardTest):
+    """The card after the practice of the welcome, which has the keyboard from the start."""
+
+    newcomer = True
+
+    def test_left_alone_it_goes_by_itself_and_gives_the_keyboard_back(self):
+        self.vantle.start()
+        wait_until("the program on the bus", lambda: owner_of(self.desktop, PROGRAM_NAME))
+        wait_until("the welcome in front",
+                   lambda: self.desktop.active_window_title() == WELCOME)
+        self.desktop.type("Lumen")
+        self.desktop.press("Return")
+        wait_until("the name", lambda: self.vantle.preference("project.name") == "Lumen")
+        self.desktop.press("Return")  # the modes
+        self.desktop.press(SHORTCUT)
+        wait_until("the session", self.vantle.marker)
+        self.desktop.press(SHORTCUT)
+        card, = wait_until("the card", lambda: self.desktop.windows_named(SUMMARY))
+        shown = time.monotonic()
+        wait_until("its keyboard", lambda: self.focused_window() == card)
+        self.desktop.screenshot("asks")
+        wait_until("the card gone", lambda: not self.is_up(SUMMARY), deadline=SPOTLIGHT + 10)
+        self.assertGreater(time.monotonic() - shown, SPOTLIGHT - 5)
+        wait_until("the welcome in front",
+                   lambda: self.focused_window() in self.desktop.windows_named(WELCOME))
 
 
 class Recovery(CardTest):
@@ -166,9 +200,20 @@ class TagPrompt(CardTest):
 
 class Toast(CardTest):
 
+    def open_pad(self):
+        """An application at the right edge of the screen; returns the file that clicks on it
+        land in, as the sequences that a terminal reports them by."""
+        pad = self.desktop.directory / "clicks"
+        self.desktop.open("xterm", "-T", "pad", "-geometry", "70x40-0+0", "-e", "sh", "-c",
+                          f"printf '\\033[?1000h'; stty raw -echo; exec cat > {pad}")
+        wait_until("the pad in front", lambda: self.desktop.active_window_title() == "pad")
+        wait_until("its file", pad.exists)
+        return pad
+
     def test_a_click_on_another_skill_says_what_was_saved_and_lets_clicks_through(self):
         reader = self.start_reader()
         self.launch()
+        pad = self.open_pad()
         self.begin_session()
         # The capsule opens where the pointer rests at the top of the screen.
         self.desktop.tool("xdotool", "mousemove", "720", "2", "sleep", "1.0")
@@ -178,7 +223,11 @@ class Toast(CardTest):
         x, y, width, height = self.desktop.frame_of(window)
         self.assertEqual((x + width, height), (SCREEN_WIDTH - RIGHT_INSET, 40))
         self.desktop.screenshot("toast")
+        self.assertEqual(pad.read_bytes(), b"")
+        self.click(x + width // 2, y + height // 2)
+        wait_until("the click in the window below", pad.read_bytes)
+        self.assertTrue(self.is_up(SAVED), "the toast was there to be clicked through")
         notice, = wait_until("its words", lambda: [
             one for one in reader.window(SAVED).all() if one.role == "notification"])
-        self.assertRegex(notice.name, r"^\d+ sec saved")
+        self.assertRegex(notice.name, r"^\d+ sec saved, Build$")
         wait_until("the toast gone", lambda: not self.is_up(SAVED))

@@ -13,6 +13,8 @@ class RetagToastModel final : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Made by the controller.")
     Q_PROPERTY(QString text READ text CONSTANT)
+    /// The toast in words, for assistive tools.
+    Q_PROPERTY(QString spoken READ spoken CONSTANT)
     /// The skill that the time went to.
     Q_PROPERTY(QString skillName READ skillName CONSTANT)
     Q_PROPERTY(QColor skillColor READ skillColor CONSTANT)
@@ -24,6 +26,7 @@ public:
         , m_skillColor(skillColor) {}
 
     [[nodiscard]] const QString& text() const { return m_text; }
+    [[nodiscard]] QString spoken() const { return m_text + QStringLiteral(", ") + m_skillName; }
     [[nodiscard]] const QString& skillName() const { return m_skillName; }
     [[nodiscard]] const QColor& skillColor() const { return m_skillColor; }
 

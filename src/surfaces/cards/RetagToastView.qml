@@ -20,7 +20,7 @@ CardSurface {
     readonly property int height40: 40
 
     Accessible.role: Accessible.Notification
-    Accessible.name: view.model.text
+    Accessible.name: view.model.spoken
 
     Row {
         id: line

@@ -93,9 +93,7 @@ QString StopSummaryModel::takeNote(const QString& text) {
     return m_note;
 }
 
-void StopSummaryModel::noteFocused() {
-    if (!m_isInviting) Q_EMIT interacted();
-}
+void StopSummaryModel::notePressed() { Q_EMIT interacted(); }
 
 void StopSummaryModel::submit() { Q_EMIT done(m_note); }
 
@@ -106,10 +104,6 @@ void StopSummaryModel::turnAway() {
         submit();
 }
 
-void StopSummaryModel::inviteNote() {
-    m_isInviting = true;
-    Q_EMIT noteFocusRequested();
-    m_isInviting = false;
-}
+void StopSummaryModel::inviteNote() { Q_EMIT noteFocusRequested(); }
 
 } // namespace vantle

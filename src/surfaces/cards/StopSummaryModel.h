@@ -75,8 +75,9 @@ public:
 
     /// Takes what stands in the field, and returns what may stay there: no more than its limit.
     Q_INVOKABLE QString takeNote(const QString& text);
-    /// The field has the keyboard now.
-    Q_INVOKABLE void noteFocused();
+    /// The user pressed the field. Its focus alone does not count: the X server gives the keyboard
+    /// to a card that asks for the note when it comes to it, which nobody did by hand.
+    Q_INVOKABLE void notePressed();
     /// Return, or one of the two buttons.
     Q_INVOKABLE void submit();
     /// Escape: closes a card without a note; with one, only the keyboard goes back, so that nothing
@@ -105,7 +106,6 @@ private:
     const QString m_durationLabel;
     const QString m_resultText;
     QString m_note;
-    bool m_isInviting = false;
 };
 
 } // namespace vantle

@@ -153,7 +153,7 @@ CardSurface {
         clearable: true
         clearName: qsTr("Clear note")
         onTextChanged: view.model.takeNote(text)
-        onFocusedChanged: if (focused) view.model.noteFocused()
+        onKeyboardWanted: view.model.notePressed()
         onAccepted: view.model.submit()
 
         InvitingGlow {

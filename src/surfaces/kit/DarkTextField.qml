@@ -96,6 +96,13 @@ FocusScope {
             Accessible.description: field.placeholder
             Accessible.editable: true
             Accessible.focusable: true
+
+            // The text takes the press: the handler of the well does not hear of it.
+            TapHandler {
+                gesturePolicy: TapHandler.DragThreshold
+                grabPermissions: PointerHandler.TakeOverForbidden
+                onPressedChanged: if (pressed) field.keyboardWanted()
+            }
         }
 
         DarkText {

@@ -117,6 +117,33 @@ TEST_F(StopSummaryViewTest, TheFirstCardHasTheCursorInTheFieldAndStillGoesByItse
     EXPECT_EQ(closes, Closes{std::nullopt});
 }
 
+TEST_F(StopSummaryViewTest, KeyboardThatComesLateDoesNotKeepTheFirstCard) {
+    collaborators::StopSummary::Content content;
+    content.session = session(2280);
+    content.spotlightNote = true;
+    controller.show(content,
+                    [this](const std::optional<QString>& note) { closes.push_back(note); });
+    // The X server gives the keyboard a while after it was asked for.
+    QWindow elsewhere;
+    elsewhere.show();
+    elsewhere.requestActivate();
+    ASSERT_TRUE(await([&] { return elsewhere.isActive(); }));
+    time.settle();
+    EXPECT_FALSE(field()->hasActiveFocus());
+    giveKeyboard();
+    EXPECT_TRUE(field()->hasActiveFocus());
+    time.advance(46);
+    EXPECT_EQ(closes, Closes{std::nullopt});
+}
+
+TEST_F(StopSummaryViewTest, LetterKeepsTheFirstCard) {
+    show(true);
+    type(text("x"));
+    press(Qt::Key_Backspace);
+    time.advance(600);
+    EXPECT_NE(window(), nullptr);
+}
+
 TEST_F(StopSummaryViewTest, ItFadesAwayAndItsWindowIsGone) {
     show();
     const QPointer<FloatingPanel> shown = window();
