@@ -21,9 +21,23 @@ QuickLogView::QuickLogView(AppModel& model, const Preferences& preferences,
     , m_skills(model.skills())
     , m_onClose(std::move(onClose))
     , m_duration(QuickLogDuration::of(kFirstMinutes)) {
-    const auto lastUsed = preferences.string(QLatin1String(TrackerCore::lastUsedSkillKey));
-    const auto found = std::ranges::find(m_skills, lastUsed, &Skill::id);
-    if (found != m_skills.end()) m_skillIndex = static_cast<int>(found - m_skills.begin());
+    m_skillIndex = placeOf(preferences.string(QLatin1String(TrackerCore::lastUsedSkillKey)));
+    connect(&model, &AppModel::skillsChanged, this, [this] {
+        const QString chosen = chosenSkill().id;
+        m_skills = m_model.skills();
+        m_skillIndex = placeOf(chosen);
+        Q_EMIT skillsChanged();
+        Q_EMIT skillIndexChanged();
+    });
+}
+
+int QuickLogView::placeOf(const std::optional<QString>& id) const {
+    const auto found = std::ranges::find(m_skills, id, &Skill::id);
+    return found == m_skills.end() ? 0 : static_cast<int>(found - m_skills.begin());
+}
+
+const Skill& QuickLogView::chosenSkill() const {
+    return m_skills[static_cast<std::size_t>(m_skillIndex)];
 }
 
 QList<QString> QuickLogView::skillNames() const {
@@ -39,9 +53,7 @@ void QuickLogView::setSkillIndex(int index) {
     Q_EMIT skillIndexChanged();
 }
 
-QColor QuickLogView::skillColor() const {
-    return QColor::fromRgb(m_skills[static_cast<std::size_t>(m_skillIndex)].hexRGB);
-}
+QColor QuickLogView::skillColor() const { return QColor::fromRgb(chosenSkill().hexRGB); }
 
 void QuickLogView::setDuration(const QuickLogDuration& duration) {
     if (duration == m_duration) return;
@@ -63,8 +75,7 @@ void QuickLogView::logEntry() {
         Q_EMIT hoursWanted();
         return;
     }
-    const Skill& skill = m_skills[static_cast<std::size_t>(m_skillIndex)];
-    if (m_model.quickLog(skill.id, *minutes, m_note)) {
+    if (m_model.quickLog(chosenSkill().id, *minutes, m_note)) {
         m_onClose();
         return;
     }

@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace vantle {
@@ -23,7 +24,7 @@ class QuickLogView final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the window router.")
-    Q_PROPERTY(QList<QString> skillNames READ skillNames CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> skillNames READ skillNames NOTIFY skillsChanged FINAL)
     Q_PROPERTY(int skillIndex READ skillIndex WRITE setSkillIndex NOTIFY skillIndexChanged FINAL)
     Q_PROPERTY(QColor skillColor READ skillColor NOTIFY skillIndexChanged FINAL)
     Q_PROPERTY(QString hoursText READ hoursText WRITE setHoursText NOTIFY durationChanged FINAL)
@@ -60,6 +61,7 @@ public:
     Q_INVOKABLE void cancel() { m_onClose(); }
 
 Q_SIGNALS:
+    void skillsChanged();
     void skillIndexChanged();
     void durationChanged();
     void noteChanged();
@@ -68,11 +70,14 @@ Q_SIGNALS:
     void hoursWanted();
 
 private:
+    /// Where that skill stands in the list; the first place when it is not in it.
+    [[nodiscard]] int placeOf(const std::optional<QString>& id) const;
+    [[nodiscard]] const Skill& chosenSkill() const;
     void setDuration(const QuickLogDuration& duration);
     void setError(const QString& message, bool isTimeWrong);
 
     AppModel& m_model;
-    const std::vector<Skill> m_skills; ///< never empty
+    std::vector<Skill> m_skills; ///< never empty
     const std::function<void()> m_onClose;
     int m_skillIndex = 0;
     QuickLogDuration m_duration;

@@ -95,5 +95,19 @@ TEST_F(QuickLogViewTest, CancelClosesAndLogsNothing) {
     EXPECT_TRUE(log().empty());
 }
 
+TEST_F(QuickLogViewTest, ListFollowsTheModesWhileTheFormIsOpen) {
+    QuickLogView& view = open();
+    view.setSkillIndex(2);
+    const Skill chosen = model->skills()[2];
+    const Skill first = model->skills()[0];
+    model->updateSkill(chosen.id, QStringLiteral("Drafts"), chosen.hexRGB);
+    EXPECT_EQ(view.skillNames()[2], QStringLiteral("Drafts"));
+    model->deleteSkill(first.id);
+    EXPECT_EQ(view.skillNames()[view.skillIndex()], QStringLiteral("Drafts"));
+    model->deleteSkill(chosen.id);
+    EXPECT_EQ(view.skillIndex(), 0);
+    EXPECT_FALSE(view.skillNames().contains(QStringLiteral("Drafts")));
+}
+
 } // namespace
 } // namespace vantle
