@@ -90,9 +90,12 @@ SettingsSection {
             checked: section.model.focusLinked
             onToggled: checked => section.model.focusLinked = checked
 
+            // Without a shortcut in the list the chosen ones can still be taken back.
             Column {
                 width: parent.width
-                visible: section.model.focusLinked && !section.model.hasNoShortcuts
+                visible: section.model.focusLinked
+                         && (!section.model.hasNoShortcuts || section.model.startChoice > 0
+                             || section.model.stopChoice > 0)
                 topPadding: 7
                 spacing: DarkUI.space8
 

@@ -51,9 +51,16 @@ void SettingsView::follow() {
     connect(&m_env.rules, &AutoRules::persistenceErrorChanged, this,
             &SettingsView::appsFailureChanged);
     connect(&m_env.model, &AppModel::skillsChanged, this, &SettingsView::refreshApps);
+    // Other windows write preferences too.
+    connect(&m_env.preferences, &Preferences::changed, this, &SettingsView::readPreferences);
 }
 
 void SettingsView::readState() {
+    m_launchAtLogin = m_env.autostart.isRegistered();
+    readPreferences();
+}
+
+void SettingsView::readPreferences() {
     const Preferences& stored = m_env.preferences;
     m_idleMinutes = m_env.model.idle().thresholdSeconds() / kSecondsPerMinute;
     m_dailyGoalHours = dailygoal::hours(stored);
@@ -64,7 +71,6 @@ void SettingsView::readState() {
     m_focusLinked = stored.flag(FocusLink::enabledKey);
     m_focusStartShortcut = storedText(stored, FocusLink::startShortcutKey);
     m_focusStopShortcut = storedText(stored, FocusLink::stopShortcutKey);
-    m_launchAtLogin = m_env.autostart.isRegistered();
     m_durationStyle = durationstyle::current(stored);
     Q_EMIT idleChanged();
     Q_EMIT goalChanged();

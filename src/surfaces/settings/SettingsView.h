@@ -237,6 +237,7 @@ Q_SIGNALS:
 private:
     void follow();
     void readState();
+    void readPreferences();
     void listShortcuts();
     [[nodiscard]] QList<QString> choices(const QString& chosen) const;
     [[nodiscard]] int choice(const QString& chosen) const;

@@ -1,13 +1,9 @@
-// The view over the real model: what is on it, and that its controls reach what they are for.
-#include "support/ShownItems.h"
+// The settings by pointer and keys: what is on the page, and that its controls reach what they are
+// for.
+#include "support/ShownView.h"
 #include "support/Text.h"
 #include "surfaces/settings/SettingsWorld.h"
-
-#include <QCoreApplication>
-#include <QQuickItem>
-#include <QQuickView>
-
-#include <gtest/gtest.h>
+#include "surfaces/window/WindowKind.h"
 
 namespace vantle {
 namespace {
@@ -18,30 +14,31 @@ class SettingsPageTest : public testing::Test, protected tests::SettingsWorld {
 protected:
     QQuickItem& show() {
         open();
-        m_window.engine()->addImportPath(text("qrc:/qt/qml"));
-        m_window.setInitialProperties({{text("model"), QVariant::fromValue(&*view)}});
-        m_window.setSource(QUrl(text("qrc:/qt/qml/Vantle/Settings/SettingsPage.qml")));
-        m_window.show();
-        m_window.requestActivate();
-        QCoreApplication::processEvents();
-        return *m_window.rootObject();
+        return m_shown.emplace().show("Settings/SettingsPage",
+                                      {{text("model"), QVariant::fromValue(&*view)}},
+                                      rulesOf(WindowId::Settings).contentSize);
     }
-    [[nodiscard]] bool shows(const char* words) { return tests::showsText(m_window, text(words)); }
-    [[nodiscard]] QQuickItem* control(const char* name) {
-        return tests::shownControl(m_window, text(name));
-    }
-    void press(const char* name) {
-        QQuickItem* const item = control(name);
-        ASSERT_NE(item, nullptr) << name;
-        QMetaObject::invokeMethod(item, "clicked");
-        QCoreApplication::processEvents();
-    }
-    void key(int code) {
-        tests::sendKey(m_window, code);
-        QCoreApplication::processEvents();
+    [[nodiscard]] bool shows(const char* words) { return m_shown->shows(text(words)); }
+    [[nodiscard]] QQuickItem* control(const char* name) { return m_shown->control(text(name)); }
+    void click(const char* name) { m_shown->click(text(name)); }
+    /// All controls that can be clicked in the row of that title.
+    [[nodiscard]] QStringList controlsOfRow(const char* title) {
+        QStringList names;
+        QQuickItem* row =
+            tests::shownItem(m_shown->window().contentItem(), [&](const QQuickItem& item) {
+                return item.property("title").toString() == text(title) &&
+                       item.property("caption").isValid();
+            });
+        if (row == nullptr) return {text("no such row")};
+        (void)tests::shownItem(row, [&](const QQuickItem& item) {
+            if (item.metaObject()->indexOfSignal("clicked()") >= 0)
+                names << item.property("name").toString();
+            return false;
+        });
+        return names;
     }
 
-    QQuickView m_window;
+    std::optional<tests::ShownView> m_shown;
 };
 
 TEST_F(SettingsPageTest, WhatTheDesktopLacksStandsInItsRowAndNowhereWhereNothingDoes) {
@@ -75,15 +72,23 @@ TEST_F(SettingsPageTest, ACommandStandsInForAShortcutThatCantBeHad) {
     show();
     EXPECT_TRUE(shows("Tray"));
     EXPECT_FALSE(shows("Copied"));
-    press("Copy the command");
+    click("Copy the command");
     EXPECT_EQ(copied, QStringList{DesktopGaps::command()});
     EXPECT_TRUE(shows("Copied"));
 }
 
-TEST_F(SettingsPageTest, IsAsWideAndHighAsItsWindow) {
+TEST_F(SettingsPageTest, FillsItsWindowAndNothingStandsOutAtItsSides) {
     const QQuickItem& page = show();
-    EXPECT_EQ(page.implicitWidth(), 480);
-    EXPECT_EQ(page.implicitHeight(), 620);
+    const QSize window = rulesOf(WindowId::Settings).contentSize;
+    EXPECT_EQ(QSizeF(page.implicitWidth(), page.implicitHeight()).toSize(), window);
+    (void)tests::shownItem(m_shown->window().contentItem(), [&](const QQuickItem& item) {
+        const bool isText = !item.property("text").toString().isEmpty();
+        if (!isText && item.metaObject()->indexOfSignal("clicked()") < 0) return false;
+        const QRectF frame = m_shown->frameOf(item);
+        EXPECT_GE(frame.left(), 0) << item.property("text").toString().toStdString();
+        EXPECT_LE(frame.right(), window.width()) << item.property("text").toString().toStdString();
+        return false;
+    });
 }
 
 TEST_F(SettingsPageTest, HasEveryRowUnderItsHeading) {
@@ -117,45 +122,59 @@ TEST_F(SettingsPageTest, HasEveryRowUnderItsHeading) {
 
 TEST_F(SettingsPageTest, ControlsReachTheirRows) {
     show();
-    press("Half an hour more");
+    click("Half an hour more");
     EXPECT_TRUE(shows("2.5 h"));
-    press("Half an hour less");
-    press("Half an hour less");
+    click("Half an hour less");
+    click("Half an hour less");
     EXPECT_TRUE(shows("1.5 h"));
-    press("Ripple ceremony");
+    click("Ripple ceremony");
     EXPECT_EQ(stored("ripple.disabled"), text("true"));
-    press("Black out the screen");
+    click("Black out the screen");
     EXPECT_EQ(stored("ceremony.blackout"), text("false"));
-    press("Auto mode");
+    click("Auto mode");
     EXPECT_EQ(stored("auto.enabled"), text("false"));
-    press("Start sessions automatically");
+    click("Start sessions automatically");
     EXPECT_EQ(stored("auto.autostart"), text("true"));
-    press("Launch at login");
+    click("Launch at login");
     EXPECT_TRUE(autostart.registered);
-    press("Show the welcome again");
+    click("Show the welcome again");
     EXPECT_TRUE(shows("The welcome window is open."));
-    press("Export my data");
+    click("Export my data");
     EXPECT_TRUE(shows("Revealed in Finder"));
 }
 
 TEST_F(SettingsPageTest, SwitchOfTheLoginRowStaysWhereTheDesktopLeavesIt) {
     show();
     autostart.refuses = true;
-    press("Launch at login");
+    click("Launch at login");
     EXPECT_FALSE(control("Launch at login")->property("checked").toBool());
 }
 
 TEST_F(SettingsPageTest, ShortcutRowsComeWithTheSwitch) {
     show();
-    press("Focus with sessions");
+    click("Focus with sessions");
     EXPECT_TRUE(shows("When a session starts"));
     EXPECT_TRUE(shows("When it stops"));
     answer("");
-    QCoreApplication::processEvents();
+    m_shown->settle();
     EXPECT_FALSE(shows("When it stops"));
     EXPECT_TRUE(shows("No Shortcuts found yet. Make one, then flip this off and on."));
-    press("Open Shortcuts");
+    click("Open Shortcuts");
     EXPECT_EQ(foldersOpened, 1);
+}
+
+TEST_F(SettingsPageTest, ChosenShortcutThatIsGoneCanBeTakenBackFromAnEmptyList) {
+    preferences.setBoolean(text("focus.linked"), true);
+    preferences.setString(text("focus.shortcut.start"), text("Long gone"));
+    show();
+    answer("");
+    m_shown->settle();
+    EXPECT_TRUE(shows("No Shortcuts found yet. Make one, then flip this off and on."));
+    EXPECT_TRUE(shows("Long gone"));
+    click("When a session starts");
+    click("Choose a Shortcut");
+    EXPECT_EQ(stored("focus.shortcut.start").value_or(QString()), QString());
+    EXPECT_FALSE(shows("Long gone"));
 }
 
 TEST_F(SettingsPageTest, ApplicationsHaveAMenuAndAButtonThatForgets) {
@@ -164,9 +183,10 @@ TEST_F(SettingsPageTest, ApplicationsHaveAMenuAndAButtonThatForgets) {
     rules->recordSeen(text("player"), text("Video Player"));
     show();
     EXPECT_TRUE(shows("Video Player"));
-    QMetaObject::invokeMethod(control("Skill for Video Player"), "activated", Q_ARG(int, 0));
+    click("Skill for Video Player");
+    click("Build");
     EXPECT_EQ(rules->ruling(text("player")), text("building"));
-    press("Forget Video Player and its category");
+    click("Forget Video Player and its category");
     EXPECT_FALSE(shows("Video Player"));
 }
 
@@ -174,45 +194,93 @@ TEST_F(SettingsPageTest, ShortcutThatIsTakenOffersNoOtherKey) {
     hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};
     show();
     EXPECT_TRUE(shows("⌥⌘B unavailable"));
-    EXPECT_EQ(control("Global hotkey"), nullptr);
+    EXPECT_EQ(controlsOfRow("Global hotkey"), QStringList{text("Copy the command")});
+}
+
+TEST_F(SettingsPageTest, ShortcutThatWorksHasNothingToBeClicked) {
+    show();
+    EXPECT_TRUE(shows("⌥⌘B · active"));
+    EXPECT_EQ(controlsOfRow("Global hotkey"), QStringList());
 }
 
 TEST_F(SettingsPageTest, EraseAsksFirstWithTheFocusOnCancel) {
     disk.setContent(file("sessions.jsonl"), "{}\n");
     show();
-    press("Erase everything");
+    click("Erase everything");
     EXPECT_TRUE(shows("Erase everything? This cannot be undone."));
     EXPECT_EQ(control("Erase everything"), nullptr);
     EXPECT_TRUE(control("Cancel")->hasActiveFocus());
-    press("Cancel");
+    click("Cancel");
     EXPECT_TRUE(control("Erase everything")->hasActiveFocus());
-    press("Erase everything");
-    press("Erase");
+    click("Erase everything");
+    click("Erase");
     EXPECT_TRUE(shows("Erased all local Vantle data."));
     EXPECT_FALSE(disk.content(file("sessions.jsonl")));
 }
 
 TEST_F(SettingsPageTest, QuestionBeforeAnEraseIsSeenAsAWhole) {
     const auto* const scroll = show().property("scroll").value<QQuickItem*>();
-    press("Erase everything");
-    (void)m_window.grabWindow(); // lays everything out
-    (void)m_window.grabWindow();
+    click("Erase everything");
+    m_shown->settle();
     EXPECT_EQ(scroll->property("contentY").toDouble() + scroll->height(),
               scroll->property("contentHeight").toDouble());
 }
 
 TEST_F(SettingsPageTest, EscapeCancelsTheErase) {
     show();
-    press("Erase everything");
-    key(Qt::Key_Escape);
+    click("Erase everything");
+    m_shown->press(Qt::Key_Escape);
     EXPECT_FALSE(shows("Erase everything? This cannot be undone."));
     EXPECT_TRUE(control("Erase everything")->hasActiveFocus());
-    press("Erase everything");
-    QQuickItem* const elsewhere = control("Auto mode");
-    elsewhere->forceActiveFocus();
-    key(Qt::Key_Escape);
+    click("Erase everything");
+    QQuickItem* const elsewhere = control("Show the welcome again");
+    m_shown->press(Qt::Key_Tab, Qt::ShiftModifier);
+    for (int stops = 0; stops < 4 && m_shown->keyboardOwner() != elsewhere; ++stops)
+        m_shown->press(Qt::Key_Tab, Qt::ShiftModifier);
+    ASSERT_EQ(m_shown->keyboardOwner(), elsewhere);
+    m_shown->press(Qt::Key_Escape);
     EXPECT_FALSE(shows("Erase everything? This cannot be undone."));
     EXPECT_TRUE(elsewhere->hasActiveFocus());
+}
+
+TEST_F(SettingsPageTest, WhatAnotherWindowChangesIsShownAtOnce) {
+    show();
+    EXPECT_TRUE(shows("2 h"));
+    preferences.setNumber(text("goal.dailyHours"), 4.5);
+    preferences.setNumber(text("idle.thresholdSeconds"), 300);
+    preferences.setBoolean(text("ripple.disabled"), true);
+    m_shown->settle();
+    EXPECT_TRUE(shows("4.5 h"));
+    EXPECT_TRUE(shows("Auto-pause after 5 min"));
+    EXPECT_FALSE(control("Ripple ceremony")->property("checked").toBool());
+}
+
+TEST_F(SettingsPageTest, MenusOfFortyApplicationsAreMadeWhenTheyAreOpened) {
+    program();
+    rules->loadIfNeeded();
+    for (int number = 0; number < 40; ++number)
+        rules->recordSeen(text("app%1").arg(number), text("Application %1").arg(number));
+    show();
+    int pickers = 0;
+    const auto menus = [&] {
+        int made = 0;
+        pickers = 0;
+        (void)tests::shownItem(m_shown->window().contentItem(), [&](const QQuickItem& item) {
+            const QVariant menu = item.property("made");
+            if (!menu.isValid()) return false;
+            ++pickers;
+            if (menu.value<QObject*>() != nullptr) ++made;
+            return false;
+        });
+        return made;
+    };
+    EXPECT_EQ(menus(), 0);
+    EXPECT_GE(pickers, 40);
+    click("Skill for Application 7");
+    EXPECT_EQ(menus(), 1);
+    EXPECT_TRUE(shows("Ignore"));
+    click("Ignore");
+    EXPECT_EQ(rules->ruling(text("app7")), QString::fromLatin1(AutoRules::ignoreRuling));
 }
 
 } // namespace
