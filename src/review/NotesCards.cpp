@@ -1,11 +1,20 @@
 #include "review/NotesCards.h"
 
+#include "base/Bidi.h"
 #include "base/DateText.h"
 #include "base/Text.h"
 
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
+
+namespace vantle {
+
+QString NoteHighlight::spoken() const {
+    return QStringList{text, skillName, date}.join(QStringLiteral(", "));
+}
+
+} // namespace vantle
 
 namespace vantle::reviewcards {
 
@@ -42,8 +51,8 @@ std::optional<NotesCard> notes(const WrappedStats& stats, const WrappedSettings&
     card.themes = digest.themes;
     const DateText date = DateText::fixed(QStringLiteral("MMM d"), settings.calendar);
     for (const auto& note : cardwords::firstOf(digest.highlights, shown))
-        card.highlights.push_back(
-            {note.text, note.skill.name, QColor::fromRgb(note.skill.hexRGB), date(note.endedAt)});
+        card.highlights.push_back({note.text, note.skill.name, QColor::fromRgb(note.skill.hexRGB),
+                                   bidi::isolated(date(note.endedAt))});
     card.more = moreNotes(digest.noteCount - static_cast<qsizetype>(card.highlights.size()));
     card.foot = QStringLiteral("Made only from notes saved on this Mac");
     return card;

@@ -33,12 +33,16 @@ struct NoteHighlight {
     Q_PROPERTY(QString skillName MEMBER skillName CONSTANT)
     Q_PROPERTY(QColor skillColor MEMBER skillColor CONSTANT)
     Q_PROPERTY(QString date MEMBER date CONSTANT)
+    Q_PROPERTY(QString spoken READ spoken CONSTANT)
 
 public:
     QString text;
     QString skillName;
     QColor skillColor;
     QString date; ///< "Mar 9"
+
+    /// The note in words, for assistive tools.
+    [[nodiscard]] QString spoken() const;
 };
 
 struct NotesCard {

@@ -1,5 +1,6 @@
 #include "review/RhythmMap.h"
 
+#include "base/Bidi.h"
 #include "base/DateText.h"
 #include "base/LocalTime.h"
 
@@ -46,7 +47,7 @@ QString yearChoiceLabel(int year) { return QStringLiteral("Show %1").arg(year); 
 QString caption(WrappedPeriod period, int year, const RhythmDays& days) {
     QString what = QStringLiteral("This week");
     if (period == WrappedPeriod::LastWeek) what = QStringLiteral("Last week");
-    if (period == WrappedPeriod::Month) what = monthName(days);
+    if (period == WrappedPeriod::Month) what = bidi::isolated(monthName(days));
     if (period == WrappedPeriod::AllTime) what = QString::number(year);
     return what + QStringLiteral(", day by day. Brighter is more time.");
 }

@@ -15,7 +15,7 @@ Item {
     implicitHeight: words.height + DarkUI.space4 + meta.height
                     + (last ? 0 : gap + DarkUI.hairlineWidth)
     Accessible.role: Accessible.StaticText
-    Accessible.name: qsTr("%1, %2, %3").arg(note.text).arg(note.skillName).arg(note.date)
+    Accessible.name: note.spoken
 
     DarkText {
         id: words
@@ -51,7 +51,7 @@ Item {
         }
 
         DarkText {
-            text: qsTr("·  %1").arg(row.note.date)
+            text: "·  " + row.note.date
             role: DarkUI.caption
             color: DarkUI.t3
             Accessible.ignored: true
