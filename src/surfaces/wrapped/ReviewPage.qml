@@ -13,6 +13,7 @@ FocusScope {
     property bool animated: false // its parts come in one after the other
     property bool leaving: false
     readonly property real kickerHeight: DarkUI.kicker.line
+    readonly property alias kickerWidth: heading.width
 
     width: parent ? parent.width : 0
     height: parent ? parent.height : 0
@@ -24,6 +25,7 @@ FocusScope {
         animated: page.animated
 
         DarkKicker {
+            id: heading
             text: page.kicker
         }
     }

@@ -72,6 +72,7 @@ ReviewPage {
         id: years
         anchors.right: parent.right
         y: (page.kickerHeight - height) / 2
+        width: Math.min(implicitWidth, page.width - page.kickerWidth - DarkUI.space20)
         visible: page.content.years.length > 0
         content: page.content
         onChosen: year => page.model.showYear(year)

@@ -1,4 +1,5 @@
-// The years that have work in them, to choose the one that is shown.
+// The years that have work in them, to choose the one that is shown. Where there is no room for all
+// of them they scroll sideways, by wheel, pointer and keys; the shown one comes into sight.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,7 +9,24 @@ ArrowGroup {
     id: picker
 
     required property rhythmCard content
+    property Item shown: null // of the segments
     signal chosen(int year)
+
+    onShownChanged: bringIntoSight(shown)
+
+    function bringIntoSight(segment: Item): void {
+        if (!segment)
+            return;
+        const left = segment.x - DarkUI.edgeFade;
+        const right = segment.x + segment.width + DarkUI.edgeFade;
+        if (left < area.contentX)
+            scrollTo(left);
+        else if (right > area.contentX + area.width)
+            scrollTo(right - area.width);
+    }
+    function scrollTo(x: real): void {
+        area.contentX = Math.max(0, Math.min(x, area.contentWidth - area.width));
+    }
 
     implicitWidth: segments.implicitWidth
     implicitHeight: DarkUI.chipHeight
@@ -17,48 +35,96 @@ ArrowGroup {
     Accessible.role: Accessible.PageTabList
     Accessible.name: qsTr("Year")
 
-    Row {
-        id: segments
+    Flickable {
+        id: area
+        readonly property real ringRoom: DarkUI.focusWidth + DarkUI.focusGap
+        anchors.fill: parent
+        anchors.topMargin: -ringRoom
+        anchors.bottomMargin: -ringRoom
+        contentWidth: segments.width
+        contentHeight: height
+        flickableDirection: Flickable.HorizontalFlick
+        boundsBehavior: Flickable.StopAtBounds
+        interactive: contentWidth > width
+        clip: interactive
+        // The shown year is set wider than the others: it moves those behind it.
+        onContentWidthChanged: picker.bringIntoSight(picker.shown)
+        onWidthChanged: picker.bringIntoSight(picker.shown)
 
-        Repeater {
-            model: picker.content.years
+        WheelHandler {
+            acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+            enabled: area.interactive
+            target: null
+            onWheel: wheel => {
+                const pixels = wheel.pixelDelta.x + wheel.pixelDelta.y;
+                const degrees = (wheel.angleDelta.x + wheel.angleDelta.y) / 8;
+                picker.scrollTo(area.contentX - (pixels !== 0 ? pixels : degrees * 3));
+            }
+        }
 
-            KitPressable {
-                id: segment
-                required property yearChoice modelData
-                required property int index
-                readonly property bool current: modelData.year === picker.content.picture.year
+        Row {
+            id: segments
+            y: area.ringRoom
 
-                implicitWidth: label.implicitWidth + DarkUI.space20
-                implicitHeight: DarkUI.chipHeight
-                name: modelData.label
-                Accessible.role: Accessible.PageTab
-                Accessible.selectable: true
-                Accessible.selected: current
-                Accessible.description: current ? qsTr("Selected") : qsTr("Not selected")
-                onClicked: picker.chosen(modelData.year)
+            // Counted, not listed: another year is another list, which would make all of them again
+            // and leave the keyboard without a place.
+            Repeater {
+                model: picker.content.years.length
 
-                Rectangle {
-                    anchors.fill: parent
-                    radius: DarkUI.radiusSmall
-                    color: segment.current ? DarkUI.segment
-                         : segment.hovered ? DarkUI.quietHover : DarkUI.clear
-                }
+                KitPressable {
+                    id: segment
+                    required property int index
+                    readonly property int year: picker.content.years[index]?.year ?? 0
+                    readonly property bool current: year === picker.content.picture.year
 
-                DarkText {
-                    id: label
-                    anchors.centerIn: parent
-                    text: segment.modelData.year
-                    role: segment.current ? DarkUI.captionStrong : DarkUI.captionMedium
-                    color: segment.current || segment.hovered ? DarkUI.t1 : DarkUI.t2
-                    Accessible.ignored: true
-                }
+                    implicitWidth: label.implicitWidth + DarkUI.space20
+                    implicitHeight: DarkUI.chipHeight
+                    name: picker.content.years[index]?.label ?? ""
+                    Accessible.role: Accessible.PageTab
+                    Accessible.selectable: true
+                    Accessible.selected: current
+                    Accessible.description: current ? qsTr("Selected") : qsTr("Not selected")
+                    onClicked: picker.chosen(year)
+                    onActiveFocusChanged: if (activeFocus) picker.bringIntoSight(segment)
+                    onCurrentChanged: if (current) picker.shown = segment
 
-                FocusRing {
-                    shown: segment.ringed
-                    controlRadius: DarkUI.radiusSmall
+                    Rectangle {
+                        anchors.fill: parent
+                        radius: DarkUI.radiusSmall
+                        color: segment.current ? DarkUI.segment
+                             : segment.hovered ? DarkUI.quietHover : DarkUI.clear
+                    }
+
+                    DarkText {
+                        id: label
+                        anchors.centerIn: parent
+                        text: segment.year
+                        role: segment.current ? DarkUI.captionStrong : DarkUI.captionMedium
+                        color: segment.current || segment.hovered ? DarkUI.t1 : DarkUI.t2
+                        Accessible.ignored: true
+                    }
+
+                    FocusRing {
+                        shown: segment.ringed
+                        controlRadius: DarkUI.radiusSmall
+                    }
                 }
             }
         }
+    }
+
+    EdgeFade {
+        anchors.right: parent.right
+        width: DarkUI.edgeFade
+        height: parent.height
+        edge: Qt.RightEdge
+        visible: !area.atXEnd
+    }
+
+    EdgeFade {
+        width: DarkUI.edgeFade
+        height: parent.height
+        edge: Qt.LeftEdge
+        visible: !area.atXBeginning
     }
 }
