@@ -71,6 +71,7 @@ ReviewPage {
 
                     ThemeChip {
                         required property string modelData
+                        width: Math.min(implicitWidth, page.width)
                         text: modelData
                     }
                 }

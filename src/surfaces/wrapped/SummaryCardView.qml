@@ -24,6 +24,8 @@ ReviewPage {
             text: page.content.closing
             role: DarkUI.note
             color: DarkUI.t2
+            wrapMode: Text.Wrap
+            maximumLineCount: 3
             elide: Text.ElideRight
         }
     }
@@ -61,7 +63,7 @@ ReviewPage {
             onRoomChanged: fit()
             Component.onCompleted: fit()
             Accessible.role: Accessible.Graphic
-            Accessible.name: qsTr("%1. %2").arg(page.poster.title).arg(page.poster.closing)
+            Accessible.name: page.poster.title + ". " + page.poster.closing
         }
     }
 

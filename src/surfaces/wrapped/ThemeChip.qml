@@ -16,6 +16,8 @@ Plate {
     DarkText {
         id: label
         anchors.centerIn: parent
+        width: Math.min(implicitWidth, chip.width - 2 * DarkUI.space12)
+        elide: Text.ElideRight
         text: chip.text
         role: DarkUI.captionMedium
     }
