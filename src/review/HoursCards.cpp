@@ -5,6 +5,16 @@
 
 #include <algorithm>
 
+namespace vantle {
+
+QString SkillLine::spoken() const {
+    QStringList parts{name, hours, share};
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
+
+} // namespace vantle
+
 namespace vantle::reviewcards {
 
 namespace {
@@ -30,6 +40,21 @@ QString noted(int count) {
     if (count < 1) return {};
     return count == 1 ? QStringLiteral("1 session has a note")
                       : QStringLiteral("%1 sessions have notes").arg(count);
+}
+
+/// The colours of the first `hours` hours of the log, as many as a ring has dots.
+QList<QColor> ringOf(int hours, const std::vector<totals::DotRun>& log) {
+    QList<QColor> ring;
+    auto run = log.begin();
+    std::int64_t before = 0; // hours in the runs before this one
+    for (int dot = 0; dot < ringDots; ++dot) {
+        const std::int64_t hour = static_cast<std::int64_t>(dot) * hours / ringDots;
+        while (run != log.end() && hour >= before + run->count)
+            before += (run++)->count;
+        if (run == log.end()) break;
+        ring << QColor::fromRgb(run->skill.hexRGB);
+    }
+    return ring;
 }
 
 } // namespace
@@ -59,6 +84,15 @@ std::vector<SkillLine> skillLines(const WrappedStats& stats, const WrappedSettin
     return lines;
 }
 
+SkillsCard skillsWithoutTime(const WrappedStats& stats, const WrappedSettings& settings) {
+    SkillsCard card;
+    card.kicker = QStringLiteral("TOP SKILL");
+    card.top.name = QStringLiteral("Nothing %1 yet").arg(wrappedperiod::inSentence(stats.period));
+    card.top.hours = dashformat::inlineHours(0, settings.durationStyle);
+    card.topFigure = cardwords::figure(0, settings.durationStyle);
+    return card;
+}
+
 std::optional<SkillsCard> skills(const WrappedStats& stats, const WrappedSettings& settings,
                                  std::size_t shown) {
     std::vector<SkillLine> lines = skillLines(stats, settings, std::max<std::size_t>(shown, 1));
@@ -86,7 +120,8 @@ std::optional<MilestonesCard> milestones(const WrappedStats& stats,
                     wrappedperiod::inSentence(stats.period);
     const DateText date = DateText::fixed(QStringLiteral("MMM d"), settings.calendar);
     for (const totals::Badge& badge : stats.milestones)
-        card.badges.push_back({badge.hours, date(badge.earnedAt)});
+        card.badges.push_back(
+            {badge.hours, date(badge.earnedAt), ringOf(badge.hours, stats.milestoneDots)});
     return card;
 }
 

@@ -40,6 +40,7 @@ struct SkillLine {
     Q_PROPERTY(QString hours MEMBER hours CONSTANT)
     Q_PROPERTY(QString share MEMBER share CONSTANT)
     Q_PROPERTY(double fraction MEMBER fraction CONSTANT)
+    Q_PROPERTY(QString spoken READ spoken CONSTANT)
 
 public:
     QString name;
@@ -47,6 +48,9 @@ public:
     QString hours;
     QString share;       ///< of all hours
     double fraction = 0; ///< of the skill with the most
+
+    /// The line in words, for assistive tools.
+    [[nodiscard]] QString spoken() const;
 };
 
 struct SkillsCard {
@@ -75,10 +79,12 @@ struct MilestoneBadge {
     QML_VALUE_TYPE(milestoneBadge)
     Q_PROPERTY(int hours MEMBER hours CONSTANT)
     Q_PROPERTY(QString date MEMBER date CONSTANT)
+    Q_PROPERTY(QList<QColor> ring MEMBER ring CONSTANT)
 
 public:
     int hours = 0;
-    QString date; ///< "Mar 9"
+    QString date;       ///< "Mar 9"
+    QList<QColor> ring; ///< of the hours that made the milestone, from the first one on
 };
 
 struct MilestonesCard {
@@ -99,6 +105,13 @@ public:
 namespace reviewcards {
 
 [[nodiscard]] HeroCard hero(const WrappedStats& stats, const WrappedSettings& settings);
+
+/// How many dots the ring of a milestone has.
+inline constexpr int ringDots = 20;
+
+/// The page of a period with sessions that have no time: it says so.
+[[nodiscard]] SkillsCard skillsWithoutTime(const WrappedStats& stats,
+                                           const WrappedSettings& settings);
 
 /// None without hours. `shown` skills have room, the top one among them.
 [[nodiscard]] std::optional<SkillsCard> skills(const WrappedStats& stats,

@@ -65,14 +65,29 @@ bool WrappedReview::turn(int by) {
 
 void WrappedReview::narrativeArrived(WrappedPeriod asked, std::optional<QString> text) {
     if (asked != m_period) return;
+    const auto shown = card();
     m_narrated = text ? std::optional(asked) : std::nullopt;
     m_narrative = std::move(text);
-    clampPage();
+    keepCard(shown);
 }
 
 void WrappedReview::clearNarrative() {
+    const auto shown = card();
     m_narrative.reset();
     m_narrated.reset();
+    keepCard(shown);
+}
+
+std::optional<WrappedCard> WrappedReview::card() const {
+    const auto all = cards();
+    if (m_page >= static_cast<int>(all.size())) return std::nullopt;
+    return all[static_cast<std::size_t>(m_page)];
+}
+
+void WrappedReview::keepCard(std::optional<WrappedCard> card) {
+    const auto all = cards();
+    const auto place = std::ranges::find(all, card);
+    if (place != all.end()) m_page = static_cast<int>(place - all.begin());
     clampPage();
 }
 

@@ -27,6 +27,7 @@ public:
     bool turn(int by);
 
     /// What became of a question about the notes of `asked`. Dropped when another period is shown.
+    /// The page comes and goes around the one that is shown, which stays.
     void narrativeArrived(WrappedPeriod asked, std::optional<QString> text);
     void clearNarrative();
 
@@ -57,6 +58,8 @@ private:
     void recompute(const WrappedSettings& settings);
     void settle(std::optional<WrappedPeriod> initial);
     void clampPage();
+    void keepCard(std::optional<WrappedCard> card);
+    [[nodiscard]] std::optional<WrappedCard> card() const; ///< none without pages
 
     Sessions m_log;
     WrappedSettings m_settings;

@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "platform/LanguageModel.h"
+#include "platform/Preferences.h"
 #include "review/WrappedMotion.h"
 #include "tracking/DailyGoal.h"
 #include "tracking/NotificationCenter.h"
@@ -18,6 +19,9 @@ WrappedView::WrappedView(Environment environment)
     , m_narrator(m_env.model, m_env.scheduler) {
     connect(&m_env.notifications, &NotificationCenter::HFSessionsChanged, this,
             &WrappedView::reload);
+    connect(&m_env.preferences, &Preferences::changed, this, [this](const QString& key) {
+        if (key == QLatin1String(dailygoal::hoursKey)) reload();
+    });
     open();
 }
 
@@ -44,7 +48,8 @@ void WrappedView::showReview() {
     const WrappedStats& stats = m_review.stats();
     const WrappedSettings& now = m_review.settings();
     m_texts.hero = reviewcards::hero(stats, now);
-    m_texts.skills = reviewcards::skills(stats, now, skillsShown).value_or(SkillsCard());
+    m_texts.skills = reviewcards::skills(stats, now, skillsShown)
+                         .value_or(reviewcards::skillsWithoutTime(stats, now));
     m_texts.persona = reviewcards::persona(stats);
     m_texts.when = reviewcards::when(stats, now).value_or(WhenCard());
     m_texts.highPoints = reviewcards::highPoints(stats);

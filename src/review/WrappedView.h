@@ -37,6 +37,8 @@ class WrappedView final : public QObject {
     Q_PROPERTY(int page READ page NOTIFY pageChanged FINAL)
     Q_PROPERTY(QString card READ card NOTIFY pageChanged FINAL)
     Q_PROPERTY(QString pageKey READ pageKey NOTIFY pageChanged FINAL)
+    /// With the card it tells which page is shown, wherever that stands among the others.
+    Q_PROPERTY(QString period READ period NOTIFY pageChanged FINAL)
     Q_PROPERTY(double pageDirection READ pageDirection NOTIFY pageChanged FINAL)
     Q_PROPERTY(bool canTurnBack READ canTurnBack NOTIFY pageChanged FINAL)
     Q_PROPERTY(bool canTurnOn READ canTurnOn NOTIFY pageChanged FINAL)
@@ -123,6 +125,7 @@ public:
     [[nodiscard]] int page() const { return m_review.page(); }
     [[nodiscard]] QString card() const { return m_cards.value(page()); }
     [[nodiscard]] QString pageKey() const { return m_review.pageKey(); }
+    [[nodiscard]] QString period() const { return wrappedperiod::id(m_review.period()); }
     [[nodiscard]] double pageDirection() const { return m_review.pageDirection(); }
     [[nodiscard]] bool canTurnBack() const { return page() > 0; }
     [[nodiscard]] bool canTurnOn() const { return page() + 1 < m_cards.size(); }

@@ -230,5 +230,54 @@ TEST(NarrativeCard, FirstSentenceStandsOutAndAPointInAFigureEndsNone) {
     EXPECT_EQ(none.opening + none.rest, QString());
 }
 
+TEST(SkillsCard, WithoutTimeSaysSoUnderItsHeading) {
+    const auto card =
+        reviewcards::skillsWithoutTime(week({worked("2026-03-10T09:00:00Z", 0)}), settings());
+    EXPECT_EQ(card.kicker, QStringLiteral("TOP SKILL"));
+    EXPECT_EQ(card.top.name, QStringLiteral("Nothing this week yet"));
+    EXPECT_EQ(card.topFigure.value, QStringLiteral("0"));
+    EXPECT_TRUE(card.others.empty());
+}
+
+TEST(MilestonesCard, RingGoesThroughTheHoursThatMadeTheMilestone) {
+    // Ten hours long ago, and hundreds since: the ring of ten hours shows the ten.
+    const std::vector<Session> log = {
+        worked("2026-01-05T09:00:00Z", 5 * 60),
+        worked("2026-03-09T01:00:00Z", 5 * 60, QStringLiteral("marketing")),
+        worked("2026-03-10T01:00:00Z", 20 * 60, QStringLiteral("founder_ops"))};
+    const auto card = reviewcards::milestones(week(log), settings()).value();
+    ASSERT_FALSE(card.badges.empty());
+    EXPECT_EQ(card.badges[0].hours, 10);
+    QList<QColor> half(10, QColor::fromRgb(0x7A78FF));
+    half += QList<QColor>(10, QColor::fromRgb(0xFF375F));
+    EXPECT_EQ(card.badges[0].ring, half);
+}
+
+TEST(ReviewWords, NamesAndNotesAreSpokenAsTheyStand) {
+    EXPECT_EQ(
+        (NoteHighlight{
+             QStringLiteral("100%2 of %1"), QStringLiteral("%3"), {}, QStringLiteral("Mar 9")})
+            .spoken(),
+        QStringLiteral("100%2 of %1, %3, Mar 9"));
+    SkillLine line;
+    line.name = QStringLiteral("50%1");
+    line.hours = QStringLiteral("2 h");
+    line.share = QStringLiteral("20%");
+    EXPECT_EQ(line.spoken(), QStringLiteral("50%1, 2 h, 20%"));
+}
+
+TEST(ReviewWords, SentencesAreReadFromTheLeftWhateverTheLanguageOfTheMonths) {
+    WrappedSettings there = settings();
+    there.calendar.locale = QStringLiteral("he_IL");
+    Session session = worked("2026-03-10T09:00:00Z", 60);
+    session.note = QStringLiteral("Drafted the landing page");
+    const auto month = WrappedStats::compute({session}, WrappedPeriod::Month, there);
+    const QString caption = reviewcards::rhythm(month, there, std::nullopt, 9).caption;
+    EXPECT_TRUE(caption.contains(QStringLiteral("מרץ"))) << caption.toStdString();
+    EXPECT_FALSE(caption.isRightToLeft()) << caption.toStdString();
+    const QString date = reviewcards::notes(month, there, 4).value().highlights[0].date;
+    EXPECT_FALSE((QStringLiteral("·  ") + date).isRightToLeft()) << date.toStdString();
+}
+
 } // namespace
 } // namespace vantle

@@ -1,10 +1,6 @@
 #include "review/WrappedView.h"
 
-#include "fakes/FakeLanguageModel.h"
-#include "fakes/MemoryPreferences.h"
-#include "fakes/VirtualTime.h"
-#include "review/stats/ReviewSamples.h"
-#include "tracking/NotificationCenter.h"
+#include "review/ReviewWorld.h"
 
 #include <QQmlEngine>
 
@@ -16,72 +12,8 @@ namespace vantle {
 namespace {
 
 using samples::worked;
-using Saved = WrappedView::Saved;
 
-const QString kSentence = QStringLiteral("You shipped the landing page and mended the login.");
-
-class WrappedViewTest : public testing::Test {
-protected:
-    WrappedView& open(std::optional<WrappedPeriod> initial = {}) {
-        return *(view = std::make_unique<WrappedView>(WrappedView::Environment{
-                     .notifications = notifications,
-                     .preferences = preferences,
-                     .model = model,
-                     .clock = time,
-                     .scheduler = time,
-                     .calendar = [] { return samples::calendarIn(QStringLiteral("UTC")); },
-                     .allSessions = [this] { return log; },
-                     .skills = [] { return samples::seeds(); },
-                     .initialPeriod = initial,
-                     .enterVantle = [this] { ++entered; },
-                     .renderPng =
-                         [this](const SharePoster& poster) {
-                             rendered = poster.title;
-                             return png;
-                         },
-                     .copyPng = [this](const QByteArray& image) { copied << image; },
-                     .savePng =
-                         [this](const QByteArray& image, const QString& name,
-                                std::function<void(Saved)> done) {
-                             saved << image;
-                             suggested = name;
-                             answerSave = std::move(done);
-                         }}));
-    }
-
-    /// Work with a note, this week (the 9th to the 15th).
-    void logNotes(int count = 3) {
-        for (int i = 0; i < count; ++i) {
-            log.push_back(worked("2026-03-10T09:00:00Z", 60));
-            log.back().note = QStringLiteral("Drafted and shipped part %1 of the page").arg(i);
-        }
-    }
-    void pick(const QString& label) {
-        view->pickSegment(static_cast<int>(view->segmentLabels().indexOf(label)));
-    }
-    [[nodiscard]] QString shown() const { return view->segmentLabels()[view->segmentIndex()]; }
-    [[nodiscard]] bool has(const char* card) const {
-        return view->cards().contains(QLatin1String(card));
-    }
-    void answerModel(const std::optional<QString>& text = kSentence) {
-        model.answer(text);
-        time.settle();
-    }
-
-    fakes::VirtualTime time{samples::at("2026-03-11T14:00:00Z")}; // a Wednesday
-    fakes::MemoryPreferences preferences;
-    fakes::FakeLanguageModel model;
-    NotificationCenter notifications;
-    std::vector<Session> log;
-    std::optional<QByteArray> png = QByteArray("png");
-    QString rendered;
-    QList<QByteArray> copied;
-    QList<QByteArray> saved;
-    QString suggested;
-    std::function<void(Saved)> answerSave;
-    int entered = 0;
-    std::unique_ptr<WrappedView> view;
-};
+class WrappedViewTest : public testing::Test, protected tests::ReviewWorld {};
 
 TEST_F(WrappedViewTest, WithoutALogInvites) {
     open();
@@ -170,8 +102,34 @@ TEST_F(WrappedViewTest, NarrativeCardComesWithTheAnswer) {
     EXPECT_TRUE(has("narrative"));
     EXPECT_EQ(view->cards().indexOf(QStringLiteral("narrative")) + 1,
               view->cards().indexOf(QStringLiteral("notes")));
-    EXPECT_EQ(view->narrative().text, QStringLiteral("3 h this week, mostly Build. ") + kSentence);
+    EXPECT_EQ(view->narrative().text, QStringLiteral("3 h this week, mostly Build. ") + sentence());
     EXPECT_EQ(view->narrative().kicker, QStringLiteral("THIS WEEK, IN WORDS"));
+}
+
+TEST_F(WrappedViewTest, NarrativeThatComesLateLeavesTheReaderAtHisPage) {
+    logNotes();
+    open();
+    while (view->card() != QLatin1String("notes"))
+        view->turnOn();
+    answerModel();
+    EXPECT_TRUE(has("narrative"));
+    EXPECT_EQ(view->card(), QStringLiteral("notes"));
+    view->turnBack();
+    EXPECT_EQ(view->card(), QStringLiteral("narrative"));
+    view->turnOn();
+    model.available = false;
+    Q_EMIT notifications.HFSessionsChanged();
+    EXPECT_FALSE(has("narrative"));
+    EXPECT_EQ(view->card(), QStringLiteral("notes"));
+}
+
+TEST_F(WrappedViewTest, ChangedGoalIsFollowedWhileTheReviewIsOpen) {
+    log = {worked("2026-03-10T09:00:00Z", 90)};
+    open();
+    EXPECT_EQ(view->review().stats().goalHitDays, 0);
+    preferences.setNumber(QStringLiteral("goal.dailyHours"), 1);
+    EXPECT_EQ(view->review().stats().goalHitDays, 1);
+    EXPECT_TRUE(has("superlatives"));
 }
 
 TEST_F(WrappedViewTest, NarrativeThatComesAfterAChangeOfPeriodIsDropped) {
@@ -189,7 +147,7 @@ TEST_F(WrappedViewTest, NarrativeThatComesAfterAChangeOfPeriodIsDropped) {
 TEST_F(WrappedViewTest, AnswerOnItsWayWhenThePeriodChangesIsDropped) {
     logNotes();
     open();
-    model.answer(kSentence); // given, not yet told
+    model.answer(sentence()); // given, not yet told
     pick(QStringLiteral("Month"));
     time.settle();
     EXPECT_FALSE(has("narrative"));
@@ -238,83 +196,6 @@ TEST_F(WrappedViewTest, ClosedWindowAsksNothingAnyMore) {
     view.reset();
     EXPECT_EQ(model.openSessions(), 0);
     time.settle();
-}
-
-TEST_F(WrappedViewTest, CopiedIsSaidForAMoment) {
-    logNotes();
-    open();
-    EXPECT_EQ(view->copyText(), QStringLiteral("Copy image"));
-    view->copyImage();
-    EXPECT_EQ(copied, QList<QByteArray>{"png"});
-    EXPECT_EQ(rendered, QStringLiteral("YOUR WEEK, IN FULL"));
-    EXPECT_EQ(view->copyText(), QStringLiteral("Copied"));
-    time.advance(1.59);
-    EXPECT_TRUE(view->copied());
-    time.advance(0.02);
-    EXPECT_FALSE(view->copied());
-}
-
-TEST_F(WrappedViewTest, CopyingAgainBeginsTheMomentAnew) {
-    logNotes();
-    open();
-    view->copyImage();
-    time.advance(1.0);
-    view->copyImage();
-    time.advance(1.0);
-    EXPECT_TRUE(view->copied());
-    time.advance(0.7);
-    EXPECT_FALSE(view->copied());
-}
-
-TEST_F(WrappedViewTest, PosterThatCannotBeDrawnIsNeitherCopiedNorSaved) {
-    logNotes();
-    open();
-    png.reset();
-    view->copyImage();
-    EXPECT_EQ(view->shareFeedback(), QStringLiteral("Couldn't render the image"));
-    EXPECT_FALSE(view->copied());
-    view->saveImage();
-    EXPECT_TRUE(copied.isEmpty() && saved.isEmpty());
-    png = QByteArray("png");
-    view->copyImage();
-    EXPECT_TRUE(view->shareFeedback().isEmpty());
-}
-
-TEST_F(WrappedViewTest, SavesUnderTheNameOfThePeriod) {
-    logNotes();
-    open();
-    view->saveImage();
-    EXPECT_EQ(suggested, QStringLiteral("wrapped-this-week.png"));
-    EXPECT_EQ(saved, QList<QByteArray>{"png"});
-    answerSave(Saved::Failed);
-    EXPECT_EQ(view->shareFeedback(),
-              QStringLiteral("Couldn't save there. Try a different folder."));
-    view->saveImage();
-    answerSave(Saved::Cancelled);
-    EXPECT_FALSE(view->shareFeedback().isEmpty()) << "nothing was tried since";
-    view->saveImage();
-    answerSave(Saved::Written);
-    EXPECT_TRUE(view->shareFeedback().isEmpty());
-}
-
-TEST_F(WrappedViewTest, AnswerOfTheSaveDialogAfterTheWindowClosedHarmsNobody) {
-    logNotes();
-    open();
-    view->saveImage();
-    view.reset();
-    answerSave(Saved::Failed);
-}
-
-TEST_F(WrappedViewTest, WordsAboutSharingGoWithThePeriod) {
-    logNotes();
-    open();
-    view->copyImage();
-    pick(QStringLiteral("Month"));
-    EXPECT_FALSE(view->copied());
-    png.reset();
-    view->copyImage();
-    pick(QStringLiteral("Week"));
-    EXPECT_TRUE(view->shareFeedback().isEmpty());
 }
 
 TEST_F(WrappedViewTest, ChosenYearHoldsForAsLongAsThePageStays) {

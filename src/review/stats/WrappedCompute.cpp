@@ -189,6 +189,8 @@ WrappedStats WrappedStats::compute(const std::vector<Session>& allSessions, Wrap
         addLedger(stats, days, numbers, settings, local);
     }
     stats.milestones = earnedIn(plan.period, walk.badges);
+    if (!stats.milestones.empty())
+        stats.milestoneDots = totals::hourDotRuns(allSessions, settings.now, settings.skills);
     addStarts(stats, walk.period, calendar);
     stats.noteDigest = WrappedNoteDigest::compute(walk.period, settings.skills);
     addPersona(stats, walk, settings, local);

@@ -63,11 +63,12 @@ struct WrappedStats {
     std::vector<WorkedDay> workedDays; ///< every day with a record, oldest first
     std::vector<int> activeYears;      ///< with at least a second of work, latest first
 
-    std::vector<totals::Badge> milestones; ///< earned in the period, by the whole log
-    double verifiedHours = 0;              ///< tracked in the period
-    double manualHours = 0;                ///< logged by hand
-    int notedSessionCount = 0;             ///< with a note, be it blank
-    int activeDays = 0;                    ///< days with at least a second
+    std::vector<totals::Badge> milestones;     ///< earned in the period, by the whole log
+    std::vector<totals::DotRun> milestoneDots; ///< the whole log's hours; none without a milestone
+    double verifiedHours = 0;                  ///< tracked in the period
+    double manualHours = 0;                    ///< logged by hand
+    int notedSessionCount = 0;                 ///< with a note, be it blank
+    int activeDays = 0;                        ///< days with at least a second
     std::optional<WrappedNoteDigest> noteDigest;
     std::vector<totals::DotRun> hourDots; ///< the period's own wall of hours
 

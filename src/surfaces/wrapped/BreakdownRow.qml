@@ -13,7 +13,7 @@ Item {
 
     implicitHeight: 34
     Accessible.role: Accessible.StaticText
-    Accessible.name: qsTr("%1, %2, %3").arg(line.name).arg(line.hours).arg(line.share)
+    Accessible.name: line.spoken
 
     DarkText {
         width: hours.x - DarkUI.space12

@@ -12,17 +12,7 @@ ReviewPage {
     readonly property int count: content.badges.length
     readonly property int columns: count <= 4 ? 2 : count <= 9 ? 3 : 4
     readonly property real gap: DarkUI.space12
-    readonly property int ringDots: 20
     readonly property real cellWidth: (width - (columns - 1) * gap) / columns
-
-    // A ring goes through as many hours as its milestone has, from the oldest that has a colour.
-    function ringColors(hours: int): list<color> {
-        const known = Math.min(hours, dotColors.length);
-        const colors = [];
-        for (let i = 0; i < ringDots; ++i)
-            colors.push(dotColors[Math.floor(i * known / ringDots)]);
-        return colors;
-    }
 
     kicker: content.kicker
 
@@ -62,7 +52,7 @@ ReviewPage {
                 MilestoneBadgeView {
                     width: page.cellWidth
                     badge: entrance.modelData
-                    colors: page.ringColors(entrance.modelData.hours)
+                    colors: entrance.modelData.ring
                     small: page.columns > 2
                 }
             }

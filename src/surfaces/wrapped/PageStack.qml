@@ -91,7 +91,7 @@ FocusScope {
         return component.createObject(stack, values) as ReviewPage;
     }
     function keyOf(card: string): string {
-        return card + " " + model.pageKey;
+        return card + " " + model.period;
     }
     // The review is at a page, which may be the one that is shown, with other values.
     function follow(): void {

@@ -11,8 +11,12 @@ ReviewPage {
 
     kicker: content.kicker
 
+    // Sessions of no time lead no skill: the line says so, and has no dot in front.
+    readonly property bool hasTop: content.top.share !== ""
+
     PopIn {
         id: dot
+        visible: page.hasTop
         anchors.verticalCenter: name.verticalCenter
         animated: page.animated
         baseDelay: DarkUI.cascadeDelay + DarkUI.cascadeStep
@@ -26,7 +30,7 @@ ReviewPage {
 
     CascadeIn {
         id: name
-        x: dot.width + DarkUI.space16
+        x: page.hasTop ? dot.width + DarkUI.space16 : 0
         y: page.kickerHeight + DarkUI.space20
         width: page.width - x
         animated: page.animated
@@ -50,8 +54,7 @@ ReviewPage {
 
         Row {
             Accessible.role: Accessible.StaticText
-            Accessible.name: qsTr("%1, %2").arg(page.content.top.hours)
-                                           .arg(page.content.top.share)
+            Accessible.name: page.content.top.hours + (share.text !== "" ? ", " + share.text : "")
 
             component Part: DarkText {
                 role: DarkUI.titleMQuiet
@@ -69,6 +72,7 @@ ReviewPage {
             }
 
             Part {
+                id: share
                 text: page.content.top.share
                 color: DarkUI.t2
             }

@@ -7,17 +7,10 @@
 #include "review/WrappedView.h"
 #include "review/stats/ReviewSamples.h"
 #include "support/Await.h"
-#include "support/ShownItems.h"
-#include "surfaces/kit/Motion.h"
+#include "support/ShownView.h"
 #include "tracking/NotificationCenter.h"
 
-#include <QCoreApplication>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickView>
-#include <QTest>
-
-#include <gtest/gtest.h>
+#include <optional>
 
 namespace vantle::tests {
 
@@ -40,18 +33,10 @@ protected:
 
     QQuickItem& show(bool reduced = true) {
         view = std::make_unique<WrappedView>(environment());
-        window = std::make_unique<QQuickView>();
-        window->engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
-        Motion::of(*window->engine())->setReduced(reduced);
-        window->setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(view.get())}});
-        window->setSource(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Wrapped/WrappedPage.qml")));
-        window->show();
-        window->requestActivate();
-        settle();
-        return *window->rootObject();
-    }
-    ~WrappedWorld() {
-        window.reset(); // its items look at the view
+        QQuickItem& root = driver.emplace(reduced).show(
+            "Wrapped/WrappedPage", {{QStringLiteral("model"), QVariant::fromValue(view.get())}});
+        window = &driver->window();
+        return root;
     }
 
     static void settle() {
@@ -59,7 +44,7 @@ protected:
             QCoreApplication::processEvents();
     }
     void press(Qt::Key key) {
-        QTest::keyClick(window.get(), key);
+        QTest::keyClick(window, key);
         settle();
     }
 
@@ -69,9 +54,7 @@ protected:
         return shownControl(*window, QString::fromUtf8(name));
     }
     void click(const char* name) {
-        QQuickItem* const item = control(name);
-        ASSERT_NE(item, nullptr) << name;
-        QMetaObject::invokeMethod(item, "clicked");
+        driver->click(QString::fromUtf8(name));
         settle();
     }
     /// The one page that is there once no other is on its way out.
@@ -96,27 +79,28 @@ protected:
     int entered = 0;
     QList<QByteArray> copied;
     std::unique_ptr<WrappedView> view;
-    std::unique_ptr<QQuickView> window;
+    std::optional<ShownView> driver;
+    QQuickView* window = nullptr;
+    WrappedView::Saved saved = WrappedView::Saved::Failed; ///< what comes of every poster
 
 private:
     [[nodiscard]] WrappedView::Environment environment() {
-        return {.notifications = notifications,
-                .preferences = preferences,
-                .model = model,
-                .clock = time,
-                .scheduler = time,
-                .calendar = [] { return samples::calendarIn(QStringLiteral("UTC")); },
-                .allSessions = [this] { return log; },
-                .skills = [] { return samples::seeds(); },
-                .initialPeriod = {},
-                .enterVantle = [this] { ++entered; },
-                .renderPng = [](const SharePoster&) { return QByteArray("png"); },
-                .copyPng = [this](const QByteArray& image) { copied << image; },
-                .savePng =
-                    [](const QByteArray&, const QString&,
-                       const std::function<void(WrappedView::Saved)>& answer) {
-                        answer(WrappedView::Saved::Failed);
-                    }};
+        return {
+            .notifications = notifications,
+            .preferences = preferences,
+            .model = model,
+            .clock = time,
+            .scheduler = time,
+            .calendar = [] { return samples::calendarIn(QStringLiteral("UTC")); },
+            .allSessions = [this] { return log; },
+            .skills = [] { return samples::seeds(); },
+            .initialPeriod = {},
+            .enterVantle = [this] { ++entered; },
+            .renderPng = [](const SharePoster&) { return QByteArray("png"); },
+            .copyPng = [this](const QByteArray& image) { copied << image; },
+            .savePng =
+                [this](const QByteArray&, const QString&,
+                       const std::function<void(WrappedView::Saved)>& answer) { answer(saved); }};
     }
 };
 
