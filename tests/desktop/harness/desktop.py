@@ -100,6 +100,7 @@ class Desktop:
 
     def dialogs(self, window_class):
         """The visible windows of an application that are larger than an icon, by their ids."""
+        self._display.wake_window_manager()
         return [window for window in self._display.windows_of_class(f"^{window_class}$")
                 if self._geometry(window)["WIDTH"] > 100]
 
@@ -127,9 +128,11 @@ class Desktop:
 
     def active_window(self):
         """The id of the window in front, empty if none is."""
+        self._display.wake_window_manager()
         return self._asked("xdotool", "getactivewindow").strip()
 
     def active_window_title(self):
+        self._display.wake_window_manager()
         return self._asked("xdotool", "getactivewindow", "getwindowname").strip()
 
     def _geometry(self, window):

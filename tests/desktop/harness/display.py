@@ -3,8 +3,11 @@ windows stand."""
 
 import ctypes
 import re
+import time
 
 IS_VIEWABLE = 2
+XA_STRING = 31
+REPLACE = 0
 NAMELESS = (0, 1)  # the focus is nowhere, or with the pointer
 
 _IOErrorHandler = ctypes.CFUNCTYPE(ctypes.c_int, ctypes.c_void_p)
@@ -57,7 +60,12 @@ def _library():
             ("XGetClassHint", ctypes.c_int, [pointer, window, ctypes.POINTER(_ClassHint)]),
             ("XGetInputFocus", ctypes.c_int, [pointer, ctypes.POINTER(window),
                                               ctypes.POINTER(ctypes.c_int)]),
-            ("XFree", ctypes.c_int, [pointer])):
+            ("XFree", ctypes.c_int, [pointer]),
+            ("XInternAtom", ctypes.c_ulong, [pointer, ctypes.c_char_p, ctypes.c_int]),
+            ("XChangeProperty", ctypes.c_int, [pointer, window, ctypes.c_ulong, ctypes.c_ulong,
+                                               ctypes.c_int, ctypes.c_int, ctypes.c_char_p,
+                                               ctypes.c_int]),
+            ("XFlush", ctypes.c_int, [pointer])):
         function = getattr(x11, name)
         function.restype, function.argtypes = result, arguments
     x11.XSetErrorHandler(_ignore_error)
@@ -82,13 +90,28 @@ class Display:
         if not self._display:
             raise RuntimeError(f"no connection to {name}")
         stays(self._x11, self._display)
+        self._woken = 0.0
 
     def close(self):
         self._x11.XCloseDisplay(self._display)
 
     def windows_named(self, title):
         """The visible windows of that title, from the root down."""
-        return [str(one) for one in self._visible() if self._title(one) == title]
+        found = [str(one) for one in self._visible() if self._title(one) == title]
+        if not found:
+            self.wake_window_manager()
+        return found
+
+    def wake_window_manager(self):
+        """Changes a property of the root, twice a second at the most. Now and then openbox sleeps
+        with a request to map a window in its queue, and goes on at the next event."""
+        if time.monotonic() - self._woken < 0.5:
+            return
+        self._woken = time.monotonic()
+        root = self._x11.XDefaultRootWindow(self._display)
+        name = self._x11.XInternAtom(self._display, b"_VANTLE_TESTS_LOOK", 0)
+        self._x11.XChangeProperty(self._display, root, name, XA_STRING, 8, REPLACE, b"1", 1)
+        self._x11.XFlush(self._display)
 
     def windows_of_class(self, pattern):
         """The visible windows whose class, or its instance's name, fits."""
