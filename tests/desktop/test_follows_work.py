@@ -65,6 +65,19 @@ class FollowsWork(DesktopTest):
         wait_until("the split", self.vantle.sessions)
         self.assertEqual(self.vantle.marker()["skillId"], "product_design")
 
+    def test_a_closed_application_is_not_in_front_any_more(self):
+        self.install_application("gimp")
+        self.launch()
+        self.begin_session()
+        self.open_in_front("Painter", "a painting")
+        self.stay(3)
+        self.desktop.tool("xdotool", "search", "--name", "a painting", "windowkill")
+        self.stay(DWELL + 5)
+        self.assertEqual(self.vantle.sessions(), [], "no split for a window that is gone")
+        self.end_session()
+        record, = wait_until("the record", self.vantle.sessions)
+        self.assertEqual(record["skillId"], FIRST_SKILL)
+
     def test_two_minutes_in_a_known_application_start_a_session_where_that_is_wanted(self):
         self.install_application("gimp")
         self.vantle.write_preferences(auto__autostart="true")

@@ -76,9 +76,14 @@ TEST_F(X11FrontmostAppTest, OwnWindowsAreKnownByTheirClassWhereTheProcessCantBeT
 
 TEST_F(X11FrontmostAppTest, ProcessIsTheOneThatTheServerKnowsNotTheNumberInASandbox) {
     const Terminal alpha(q("Alpha"));
+    const Terminal beta(q("Beta"));
+    beta.activate();
+    ASSERT_TRUE(comesToFront("org.example.Beta"));
     ASSERT_TRUE(tests::run(q("xprop -f _NET_WM_PID 32c -set _NET_WM_PID 2 -id ") + alpha.window()));
+    m_resolved.clear();
     alpha.activate();
     ASSERT_TRUE(comesToFront("alpha"));
+    ASSERT_FALSE(m_resolved.empty());
     EXPECT_EQ(m_resolved.back().processId, alpha.processId());
 }
 
