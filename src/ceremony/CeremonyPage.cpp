@@ -2,6 +2,8 @@
 
 #include "ceremony/show/VantleCopy.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -68,6 +70,22 @@ Message messageOf(const QJsonValue& body) {
     if (type == QLatin1String("started")) return Message::Started;
     if (type == QLatin1String("done")) return Message::Done;
     return Message::None;
+}
+
+bool mayLoad(const QString& page, const QUrl& address) {
+    const QString scheme = address.scheme();
+    if (scheme == QLatin1String("data") || scheme == QLatin1String("blob")) return true;
+    if (scheme != QLatin1String("file") || !address.host().isEmpty()) return false;
+    // An escaped separator means one path to this code and another one to the engine.
+    const QString escaped = address.path(QUrl::FullyEncoded);
+    for (const char* separator : {"%2F", "%5C", "%00"})
+        if (escaped.contains(QLatin1String(separator), Qt::CaseInsensitive)) return false;
+    const QString path = address.toLocalFile();
+    if (path == page) return true;
+    const QFileInfo file(path);
+    // The canonical path of a file that is not there is empty, and below no folder.
+    return file.isFile() && file.canonicalFilePath().startsWith(
+                                QFileInfo(page).dir().canonicalPath() + QLatin1Char('/'));
 }
 
 } // namespace vantle::ceremonypage

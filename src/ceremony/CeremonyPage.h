@@ -9,6 +9,7 @@
 #include <QByteArray>
 #include <QJsonValue>
 #include <QString>
+#include <QUrl>
 
 namespace vantle::ceremonypage {
 
@@ -28,5 +29,9 @@ enum class Message {
 };
 /// What the body of a message says.
 [[nodiscard]] Message messageOf(const QJsonValue& body);
+
+/// Whether the page in the file `page` may load `address`: itself, a file in its own folder or
+/// below it, or data that it carries along. A link counts as what it leads to. Reads the disk.
+[[nodiscard]] bool mayLoad(const QString& page, const QUrl& address);
 
 } // namespace vantle::ceremonypage

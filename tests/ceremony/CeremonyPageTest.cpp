@@ -2,8 +2,11 @@
 
 #include "support/Text.h"
 
+#include <QDir>
+#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -62,6 +65,84 @@ TEST(CeremonyPage, ATitleThatIsNoTextGivesThePlainOne) {
 TEST(CeremonyPage, TheScriptIsOneStatement) {
     EXPECT_EQ(ceremonypage::script(QByteArrayLiteral("{\"a\":1}")),
               text("window.__CEREMONY = {\"a\":1};"));
+}
+
+class CeremonyPageFiles : public testing::Test {
+protected:
+    CeremonyPageFiles() {
+        put(text("resources/ceremony.html"));
+        put(text("resources/art/star.png"));
+        put(text("resources-of-others/star.png"));
+        put(text("secret"));
+    }
+
+    void put(const QString& name) {
+        QDir().mkpath(QFileInfo(at(name)).path());
+        QFile file(at(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    [[nodiscard]] QString at(const QString& name) const { return m_root.filePath(name); }
+    /// `name` as it stands in an address, escapes included.
+    [[nodiscard]] bool mayLoad(const char* name) const {
+        const QString address = QUrl::fromLocalFile(m_root.path()).toString(QUrl::FullyEncoded) +
+                                QLatin1Char('/') + QLatin1String(name);
+        return ceremonypage::mayLoad(at(text("resources/ceremony.html")), QUrl(address));
+    }
+
+    const QTemporaryDir m_root;
+};
+
+TEST_F(CeremonyPageFiles, ThePageLoadsItselfAndTheFilesOfItsFolder) {
+    EXPECT_TRUE(mayLoad("resources/ceremony.html"));
+    EXPECT_TRUE(mayLoad("resources/ceremony.html#part"));
+    EXPECT_TRUE(mayLoad("resources/art/star.png?size=2"));
+    EXPECT_TRUE(mayLoad("resources/art/../art/st%61r.png"));
+}
+
+TEST_F(CeremonyPageFiles, ThePageLoadsNoFileOutsideItsFolder) {
+    for (const char* name :
+         {"secret", "resources/../secret", "resources/%2e%2e/secret", "resources/art/../../secret",
+          "resources-of-others/star.png", "resources/nothing.png", "resources/art", "resources/",
+          "resources/art%2F..%2Fart%2fstar.png"})
+        EXPECT_FALSE(mayLoad(name)) << name;
+    EXPECT_FALSE(ceremonypage::mayLoad(at(text("resources/ceremony.html")),
+                                       QUrl(text("file:///etc/passwd"))));
+}
+
+TEST_F(CeremonyPageFiles, ALinkIsWhatItLeadsTo) {
+    ASSERT_TRUE(QFile::link(at(text("secret")), at(text("resources/out"))));
+    ASSERT_TRUE(QFile::link(m_root.path(), at(text("resources/up"))));
+    ASSERT_TRUE(QFile::link(at(text("resources/art")), at(text("resources/pictures"))));
+    EXPECT_FALSE(mayLoad("resources/out"));
+    EXPECT_FALSE(mayLoad("resources/up/secret"));
+    EXPECT_TRUE(mayLoad("resources/pictures/star.png"));
+}
+
+TEST_F(CeremonyPageFiles, APageThatIsALinkStaysInTheFolderWhereItWasFound) {
+    ASSERT_TRUE(QFile::rename(at(text("resources/ceremony.html")), at(text("mine.html"))));
+    ASSERT_TRUE(QFile::link(at(text("mine.html")), at(text("resources/ceremony.html"))));
+    EXPECT_TRUE(mayLoad("resources/ceremony.html"));
+    EXPECT_TRUE(mayLoad("resources/art/star.png"));
+    EXPECT_FALSE(mayLoad("mine.html"));
+}
+
+TEST_F(CeremonyPageFiles, AFolderThatIsReachedByALinkIsTheFolder) {
+    ASSERT_TRUE(QFile::link(at(text("resources")), at(text("link"))));
+    EXPECT_TRUE(ceremonypage::mayLoad(at(text("link/ceremony.html")),
+                                      QUrl::fromLocalFile(at(text("link/art/star.png")))));
+}
+
+TEST_F(CeremonyPageFiles, OfOtherAddressesThePageLoadsWhatItCarriesItself) {
+    const QString page = at(text("resources/ceremony.html"));
+    EXPECT_TRUE(ceremonypage::mayLoad(page, QUrl(text("data:text/plain,star"))));
+    EXPECT_TRUE(ceremonypage::mayLoad(page, QUrl(text("blob:file:///0a1b"))));
+    for (const char* address :
+         {"http://127.0.0.1/", "https://example.org/", "ws://127.0.0.1/", "ftp://example.org/",
+          "filesystem:file:///temporary/a", "qrc:/qt/a", "chrome://version", "about:blank"})
+        EXPECT_FALSE(ceremonypage::mayLoad(page, QUrl(text(address)))) << address;
+    QUrl elsewhere = QUrl::fromLocalFile(at(text("resources/art/star.png")));
+    elsewhere.setHost(text("server"));
+    EXPECT_FALSE(ceremonypage::mayLoad(page, elsewhere)) << "a file of another machine";
 }
 
 } // namespace

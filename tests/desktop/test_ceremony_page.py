@@ -131,6 +131,21 @@ class Page(CeremonyCase):
             with self.assertRaises(TimeoutError):
                 server.accept()
 
+    def test_a_page_reads_the_files_of_its_own_folder_and_no_others(self):
+        folder = self.page.parent
+        secret = "var SECRET = 1;"
+        outside = self.desktop.directory / "outside"
+        outside.mkdir()
+        (folder / "art").mkdir()
+        for path in (folder / "inside.js", folder / "art" / "inside.js",
+                     folder.parent / "secret.js", outside / "secret.js"):
+            path.write_text(secret)
+        (folder / "link.js").symlink_to(outside / "secret.js")
+        (folder / "up").symlink_to(folder.parent)
+        self.launch_with("read", (outside / "secret.js").as_uri())
+        self.desktop.press(SHORTCUT)
+        self.await_square()
+
     def test_without_the_module_the_native_show_plays(self):
         module = "vantle-webceremony.so"
         (self.page.parents[2] / PARTS[module] / module).unlink()

@@ -1,20 +1,25 @@
-// Keeps a page off the network.
+// Keeps a page within its own folder and off the network.
 #pragma once
 
 #include <QWebEngineUrlRequestInterceptor>
 
 namespace vantle {
 
-/// Blocks every request but those for local files and for data that the page carries itself; web
-/// sockets too, which the engine's own settings let through. The engine asks on a thread of its
-/// own.
+/// Blocks every request that ceremonypage::mayLoad refuses; web sockets too, which the engine's own
+/// settings let through. The engine may ask on a thread of its own.
 class LocalFilesOnly final : public QWebEngineUrlRequestInterceptor {
     Q_OBJECT
 
 public:
-    using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
+    /// `page` is the page's file.
+    LocalFilesOnly(QString page, QObject* parent)
+        : QWebEngineUrlRequestInterceptor(parent)
+        , m_page(std::move(page)) {}
 
     void interceptRequest(QWebEngineUrlRequestInfo& info) override;
+
+private:
+    const QString m_page;
 };
 
 } // namespace vantle

@@ -48,7 +48,7 @@ WebOverlayWindow::WebOverlayWindow(QScreen& screen, const QString& page, const Q
     connect(view, SIGNAL(messagePosted(QString)), this, SLOT(receive(QString)));
     connect(view, SIGNAL(crashed()), this, SLOT(hide()));
     auto* const profile = view->property("profile").value<QQuickWebEngineProfile*>();
-    profile->setUrlRequestInterceptor(new LocalFilesOnly(profile));
+    profile->setUrlRequestInterceptor(new LocalFilesOnly(page, profile));
     connect(qApp, &QGuiApplication::screenRemoved, this, [this, &screen](QScreen* removed) {
         if (removed == &screen) hide();
     });
