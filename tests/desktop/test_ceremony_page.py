@@ -7,6 +7,7 @@ import socket
 import time
 from pathlib import Path
 
+from harness.bus import PROGRAM_NAME, activate_action, owner_of
 from harness.case import EXECUTABLE, FIRST_SKILL_COLOUR, SHORTCUT
 from harness.ceremony import ALL_GONE, GROUND_RGB, CeremonyCase
 from harness.picture import is_near, rgb_of
@@ -18,6 +19,35 @@ PAGE = Path(__file__).resolve().parent / "pages" / "ceremony.html"
 PARTS = {"vantle": "bin", "vantle-shortcuts": "bin", "vantle-webceremony.so": "lib/vantle/plugins"}
 
 ACCENT = rgb_of(FIRST_SKILL_COLOUR)
+
+
+class MovedProgram(CeremonyCase):
+
+    def test_the_page_plays_after_the_program_was_moved(self):
+        home = Path(self.desktop.env["HOME"])
+        download = home / "Downloads" / "vantle-1"
+        for part, folder in PARTS.items():
+            (download / folder).mkdir(parents=True, exist_ok=True)
+            shutil.copy2(EXECUTABLE.parent / part, download / folder / part)
+        (download / "share" / "vantle").mkdir(parents=True)
+        page = download / "share" / "vantle" / "ceremony.html"
+        page.write_text(PAGE.read_text().replace("BEHAVIOUR", "done"))
+        if os.getuid() == 0:
+            self.desktop.env["QTWEBENGINE_DISABLE_SANDBOX"] = "1"
+        downloaded = Program(download / "bin" / "vantle", self.desktop)
+        self.addCleanup(downloaded.kill)
+        downloaded.start()
+        wait_until("the offer", lambda: self.desktop.dialogs("vantle"))
+        self.desktop.press("Return")
+        self.assertEqual(downloaded.wait(), 0)
+        wait_until("the copy on the bus", lambda: owner_of(self.desktop, PROGRAM_NAME))
+        wait_until("the page in its new place",
+                   lambda: (home / ".local" / "share" / "vantle" / "ceremony.html").exists())
+        wait_until("the download gone", lambda: not page.exists())
+        activate_action(self.desktop, "toggle")
+        wait_until("the page", lambda: is_near(self.spot(720, 450), ACCENT, 4), deadline=5)
+        activate_action(self.desktop, "quit")
+        wait_until("the record", self.vantle.sessions)
 
 
 class Page(CeremonyCase):

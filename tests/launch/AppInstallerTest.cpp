@@ -7,8 +7,14 @@
 #include "platform/WholeFile.h"
 #include "support/QtPrinters.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <deque>
 #include <utility>
@@ -25,6 +31,7 @@ TEST(InstallLocation, SystemsFoldersAndThePersonsOwnAreProper) {
     for (const char* program :
          {"/usr/bin/vantle", "/usr/local/bin/vantle", "/opt/vantle/bin/vantle",
           "/home/ada/.local/bin/vantle", "/home/ada/.local/lib/vantle/vantle", "/app/bin/vantle",
+          "/home/ada/Applications/vantle", "/home/ada/bin/vantle", "/home/ada/bin/vantle-1/vantle",
           "/snap/vantle/4/bin/vantle"})
         EXPECT_TRUE(isProper(program)) << program;
 }
@@ -33,8 +40,9 @@ TEST(InstallLocation, AnyOtherFolderIsNot) {
     for (const char* program :
          {"/home/ada/Downloads/vantle", "/home/ada/vantle", "/home/ada/src/build/release/vantle",
           "/tmp/.mount_vantle/usr/bin/vantle", "/media/ada/stick/vantle", "/usrlocal/vantle",
-          "/home/eve/.local/bin/vantle", "/home/ada/.localized/vantle",
-          "/home/ada/.local/share/Trash/files/vantle"})
+          "/home/eve/.local/bin/vantle", "/home/eve/bin/vantle", "/home/ada/binaries/vantle",
+          "/home/ada/Applications.old/vantle", "/home/ada/src/bin/vantle",
+          "/home/ada/.localized/vantle", "/home/ada/.local/share/Trash/files/vantle"})
         EXPECT_FALSE(isProper(program)) << program;
 }
 
@@ -155,14 +163,83 @@ TEST_F(AppInstallerTest, MoveCopiesStartsTheCopyTrashesTheSourceAndEnds) {
               (QStringList{q("start ") + m_target, q("trash ") + m_place.program, q("terminate")}));
 }
 
-TEST_F(AppInstallerTest, CompanionsThatAreThereMoveAlong) {
-    m_place.companions = {q("vantle-shortcuts"), q("missing")};
-    const QString companion = q("/home/ada/Downloads/new vérsion/vantle-shortcuts");
-    put(companion, "tool");
+TEST_F(AppInstallerTest, CompanionsMoveAlong) {
+    const QString folder = q("/home/ada/Downloads/new vérsion/");
+    const QString local = q("/home/ada/.local/");
+    m_place.companions = {
+        {{folder + q("vantle-shortcuts"), local + q("bin/vantle-shortcuts"), true},
+         {folder + q("share/vantle/art/star.png"), local + q("share/vantle/art/star.png"), false}},
+        {folder + q("vantle-shortcuts"), folder + q("share/vantle")}};
+    put(folder + q("vantle-shortcuts"), "tool");
+    put(folder + q("share/vantle/art/star.png"), "star");
     EXPECT_TRUE(launch({0}));
-    EXPECT_EQ(at(q("/home/ada/.local/bin/vantle-shortcuts")), "tool");
-    EXPECT_EQ(m_disk.mode(q("/home/ada/.local/bin/vantle-shortcuts")).value(), 0755);
-    EXPECT_TRUE(m_calls.contains(q("trash ") + companion));
+    EXPECT_EQ(at(local + q("bin/vantle-shortcuts")), "tool");
+    EXPECT_EQ(m_disk.mode(local + q("bin/vantle-shortcuts")).value(), 0755);
+    EXPECT_EQ(at(local + q("share/vantle/art/star.png")), "star");
+    EXPECT_EQ(m_disk.mode(local + q("share/vantle/art/star.png")).value(), 0644);
+    EXPECT_TRUE(m_calls.contains(q("trash ") + folder + q("vantle-shortcuts")));
+    EXPECT_TRUE(m_calls.contains(q("trash ") + folder + q("share/vantle")));
+}
+
+TEST_F(AppInstallerTest, CompanionThatCannotBeCopiedLeavesTheProgramWhereItIs) {
+    m_place.companions.files = {{q("/home/ada/Downloads/gone"), q("/home/ada/.local/gone"), false}};
+    EXPECT_FALSE(launch({0, 0}));
+    expectMoveFailed();
+    EXPECT_FALSE(m_disk.exists(m_target));
+}
+
+/// A folder with a program and what came with it.
+class CompanionsTest : public testing::Test {
+protected:
+    void put(const char* name) {
+        QDir().mkpath(QFileInfo(at(name)).path());
+        QFile file(at(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    [[nodiscard]] QString at(const char* name) const { return m_root.filePath(q(name)); }
+    [[nodiscard]] installlocation::Companions found() const {
+        return installlocation::companions(at("bin"), q("/home/ada"));
+    }
+
+    const QTemporaryDir m_root;
+};
+
+TEST_F(CompanionsTest, AProgramByItselfHasNone) {
+    put("bin/vantle");
+    put("bin/readme");
+    EXPECT_TRUE(found().files.empty());
+    EXPECT_EQ(found().sources, QStringList());
+}
+
+TEST_F(CompanionsTest, ToolModuleAndAllResourcesBelongToIt) {
+    put("bin/vantle-shortcuts");
+    put("lib/vantle/plugins/vantle-webceremony.so");
+    put("share/vantle/ceremony.html");
+    put("share/vantle/art/star.png");
+    put("share/doc/readme");
+    auto companions = found();
+    std::sort(companions.files.begin(), companions.files.end(),
+              [](const auto& one, const auto& other) { return one.target < other.target; });
+    EXPECT_EQ(companions.files,
+              (std::vector<installlocation::Companion>{
+                  {at("bin/vantle-shortcuts"), q("/home/ada/.local/bin/vantle-shortcuts"), true},
+                  {at("lib/vantle/plugins/vantle-webceremony.so"),
+                   q("/home/ada/.local/lib/vantle/plugins/vantle-webceremony.so"), false},
+                  {at("share/vantle/art/star.png"), q("/home/ada/.local/share/vantle/art/star.png"),
+                   false},
+                  {at("share/vantle/ceremony.html"),
+                   q("/home/ada/.local/share/vantle/ceremony.html"), false}}));
+    EXPECT_EQ(companions.sources,
+              (QStringList{at("bin/vantle-shortcuts"),
+                           at("lib/vantle/plugins/vantle-webceremony.so"), at("share/vantle")}));
+}
+
+TEST_F(CompanionsTest, ModuleBesideTheProgramGoesToItsInstalledPlace) {
+    put("bin/vantle-webceremony.so");
+    EXPECT_EQ(found().files,
+              (std::vector<installlocation::Companion>{
+                  {at("bin/vantle-webceremony.so"),
+                   q("/home/ada/.local/lib/vantle/plugins/vantle-webceremony.so"), false}}));
 }
 
 TEST_F(AppInstallerTest, CopyThatIsThereIsReplacedOnlyWhenThePersonSaysSo) {

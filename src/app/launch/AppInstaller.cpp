@@ -1,6 +1,5 @@
 #include "app/launch/AppInstaller.h"
 
-#include "app/launch/InstallLocation.h"
 #include "platform/FileSystem.h"
 #include "platform/Preferences.h"
 #include "platform/WholeFile.h"
@@ -15,16 +14,17 @@ constexpr int kProgramMode = 0755;
 
 QString folderOf(const QString& path) { return path.section(QLatin1Char('/'), 0, -2); }
 
-/// Puts a copy of the program at `to` in one step, over what may stand there; on failure that stays
+/// Puts a copy of the file at `to` in one step, over what may stand there; on failure that stays
 /// and nothing else does.
-Result<> copyProgram(FileSystem& files, const QString& from, const QString& to) {
+Result<> copyFile(FileSystem& files, const QString& from, const QString& to, int mode) {
+    if (auto made = files.makeDirectories(folderOf(to), std::nullopt); !made) return made;
     const auto content = files.readAll(from);
     if (!content) return content.error();
     const QString temporary = folderOf(to) + QStringLiteral("/.vantle.") +
                               QUuid::createUuid().toString(QUuid::WithoutBraces) +
                               QStringLiteral(".tmp");
     if (auto created = createFile(files, temporary, content.value()); !created) return created;
-    auto result = files.setMode(temporary, kProgramMode);
+    auto result = files.setMode(temporary, mode);
     if (result) result = files.rename(temporary, to);
     if (!result) files.remove(temporary).ignore();
     return result;
@@ -78,21 +78,20 @@ bool AppInstaller::mayReplace(const QString& target) const {
 }
 
 Result<> AppInstaller::copyAll(const QString& target) {
-    const QString folder = folderOf(target);
-    if (auto made = m_files.makeDirectories(folder, std::nullopt); !made) return made;
     // The program last: where it stands, what it needs stands too.
-    for (const QString& path : presentCompanions()) {
-        const QString to = folder + QLatin1Char('/') + path.section(QLatin1Char('/'), -1);
-        if (auto copied = copyProgram(m_files, path, to); !copied) return copied;
+    for (const auto& [source, to, isProgram] : m_place.companions.files) {
+        const int mode = isProgram ? kProgramMode : m_files.usualMode();
+        if (auto copied = copyFile(m_files, source, to, mode); !copied) return copied;
     }
-    if (auto copied = copyProgram(m_files, m_place.program, target); !copied) return copied;
-    m_files.syncDirectory(folder).ignore(); // it is there, if not yet proof against a power cut
+    if (auto copied = copyFile(m_files, m_place.program, target, kProgramMode); !copied)
+        return copied;
+    m_files.syncDirectory(folderOf(target)).ignore(); // there, if not yet proof against a power cut
     return {};
 }
 
 void AppInstaller::giveUpSources() {
     if (m_place.isReadOnly) return;
-    for (const QString& path : presentCompanions() + QStringList{m_place.program})
+    for (const QString& path : m_place.companions.sources + QStringList{m_place.program})
         m_operations.moveToTrash(path).ignore();
 }
 
@@ -100,15 +99,6 @@ bool AppInstaller::fail() {
     m_operations.reveal(m_place.program);
     (void)m_operations.runAlert(dragNotice());
     return false;
-}
-
-QStringList AppInstaller::presentCompanions() const {
-    QStringList present;
-    for (const QString& name : m_place.companions) {
-        const QString path = folderOf(m_place.program) + QLatin1Char('/') + name;
-        if (m_files.exists(path)) present.append(path);
-    }
-    return present;
 }
 
 } // namespace vantle

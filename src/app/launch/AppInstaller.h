@@ -1,6 +1,7 @@
 // Offers to move a program that runs from a download folder to its proper place.
 #pragma once
 
+#include "app/launch/InstallLocation.h"
 #include "base/Result.h"
 #include "surfaces/alert/ModalPresenter.h"
 
@@ -24,8 +25,7 @@ public:
     struct Place {
         QString program; ///< this program's own file, absolute and free of links
         QString home;    ///< the person's home, likewise
-        /// Files beside the program that it needs there; those that are missing are passed over.
-        QStringList companions;
+        installlocation::Companions companions; ///< what moves along
         bool isReadOnly = false; ///< a mount that can't give the file up, as of a disk image
     };
     struct Operations {
@@ -51,8 +51,6 @@ private:
     [[nodiscard]] Result<> copyAll(const QString& target);
     void giveUpSources();
     [[nodiscard]] bool fail();
-    [[nodiscard]] QStringList presentCompanions() const;
-
     const Preferences& m_preferences;
     FileSystem& m_files;
     const Place m_place;

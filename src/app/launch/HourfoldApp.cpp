@@ -65,7 +65,7 @@ AppInstaller::Place thisProgram(Platform& platform) {
     place.program = isOnPurpose
                         ? installlocation::target(home)
                         : QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
-    place.companions = {QStringLiteral("vantle-shortcuts")};
+    place.companions = installlocation::companions(folder, home);
     place.isReadOnly = QStorageInfo(folder).isReadOnly();
     return place;
 }
