@@ -44,7 +44,7 @@ opens no network connection.")
 set(CPACK_DEBIAN_VANTLE_PACKAGE_DEPENDS
     "hicolor-icon-theme, libglib2.0-bin, qml6-module-qtqml, qml6-module-qtqml-workerscript, qml6-module-qtquick (>= 6.4), qml6-module-qtquick-window")
 set(CPACK_DEBIAN_VANTLE_PACKAGE_RECOMMENDS
-    "dbus-user-session | dbus-session-bus, fonts-inter")
+    "dbus-user-session | dbus-session-bus, fonts-inter, xdg-utils")
 set(CPACK_DEBIAN_VANTLE_PACKAGE_SUGGESTS "vantle-webceremony, xwayland")
 
 set(CPACK_DEBIAN_WEBCEREMONY_PACKAGE_NAME vantle-webceremony)

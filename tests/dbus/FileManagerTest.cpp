@@ -1,70 +1,157 @@
 #include "platform/desktop/FileManager.h"
 
+#include "fakes/FakeProcessRunner.h"
 #include "support/Await.h"
 #include "support/Buses.h"
 #include "support/QtPrinters.h"
 
+#include <QDBusContext>
+#include <QDBusMessage>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QThread>
 
 #include <gtest/gtest.h>
 
 namespace vantle {
 namespace {
 
-/// A file manager on the bus. It answers on a thread of its own: who asks waits for it.
-class FakeFileManager final : public QObject {
+using tests::await;
+
+/// A file manager on the bus, in the same thread: whoever waited for it would wait forever.
+class FakeFileManager final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
 
 public:
     FakeFileManager() {
-        moveToThread(&m_thread);
-        m_thread.start();
         m_client.bus().registerObject(QStringLiteral("/org/freedesktop/FileManager1"), this,
                                       QDBusConnection::ExportAllInvokables);
         EXPECT_TRUE(m_client.takeName(QStringLiteral("org.freedesktop.FileManager1")));
     }
-    ~FakeFileManager() override {
-        m_client.leave();
-        m_thread.quit();
-        m_thread.wait();
-    }
 
     Q_INVOKABLE void ShowItems(const QStringList& uris, const QString& /*startupId*/) {
-        shown += uris;
+        take(shown, uris);
     }
 
     Q_INVOKABLE void ShowFolders(const QStringList& uris, const QString& /*startupId*/) {
-        opened += uris;
+        take(opened, uris);
     }
 
-    QStringList shown;  ///< read it once the call has returned
-    QStringList opened; ///< likewise
+    bool isSlow = false;  ///< does as it was asked, and never says so
+    bool refuses = false; ///< does nothing, and says so
+    QStringList shown;
+    QStringList opened;
+
+    void end() { m_client.leave(); }
 
 private:
+    void take(QStringList& to, const QStringList& uris) {
+        if (isSlow) setDelayedReply(true);
+        if (refuses)
+            sendErrorReply(QDBusError::AccessDenied, QStringLiteral("not today"));
+        else
+            to += uris;
+    }
+
     tests::BusClient m_client;
-    QThread m_thread;
 };
 
-TEST(FileManager, ShowsTheFileUnderAnAddressThatAnyNameFitsIn) {
+class FileManagerTest : public testing::Test {
+protected:
+    FileManagerTest() {
+        QFile opener(m_programs.filePath(QStringLiteral("xdg-open")));
+        EXPECT_TRUE(opener.open(QIODevice::WriteOnly));
+        EXPECT_TRUE(opener.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+        qputenv("PATH", QFile::encodeName(m_programs.path()));
+    }
+    ~FileManagerTest() override { qputenv("PATH", m_path); }
+    FileManagerTest(const FileManagerTest&) = delete;
+    FileManagerTest& operator=(const FileManagerTest&) = delete;
+
+    /// The desktop's opener was started for that folder, and for no other.
+    [[nodiscard]] bool wasOpenedByDesktop(const char* folder) const {
+        return m_runner.detached ==
+               std::vector<Command>{
+                   {m_programs.filePath(QStringLiteral("xdg-open")), {QString::fromUtf8(folder)}}};
+    }
+
+    const QByteArray m_path = qgetenv("PATH");
+    const QTemporaryDir m_programs;
+    tests::BusClient m_client;
+    fakes::FakeProcessRunner m_runner;
+    FileManager m_files{m_client.bus(), m_runner};
+};
+
+TEST_F(FileManagerTest, ShowsTheFileUnderAnAddressThatAnyNameFitsIn) {
     FakeFileManager manager;
-    tests::BusClient client;
-    filemanager::reveal(client.bus(), QStringLiteral("/tmp/Füße & 100 %/log#1.jsonl"));
+    m_files.reveal(QStringLiteral("/tmp/Füße & 100 %/log#1.jsonl"));
+    ASSERT_TRUE(await([&] { return !manager.shown.isEmpty(); }));
     EXPECT_EQ(manager.shown, QStringList{QStringLiteral(
                                  "file:///tmp/F%C3%BC%C3%9Fe%20&%20100%20%25/log%231.jsonl")});
+    tests::runFor(50);
+    EXPECT_TRUE(m_runner.detached.empty());
 }
 
-TEST(FileManager, OpensAFolderRatherThanShowingItInTheOneAbove) {
+TEST_F(FileManagerTest, OpensAFolderRatherThanShowingItInTheOneAbove) {
     FakeFileManager manager;
-    tests::BusClient client;
-    filemanager::openFolder(client.bus(), QStringLiteral("/tmp/short cuts"));
+    m_files.openFolder(QStringLiteral("/tmp/short cuts"));
+    ASSERT_TRUE(await([&] { return !manager.opened.isEmpty(); }));
     EXPECT_EQ(manager.opened, QStringList{QStringLiteral("file:///tmp/short%20cuts")});
     EXPECT_TRUE(manager.shown.isEmpty());
 }
 
-TEST(FileManager, TrashedFileIsGoneFromItsPlaceAndKeptInTheTrash) {
+TEST_F(FileManagerTest, SlowFileManagerIsWaitedForAndTheFolderOpensOnce) {
+    FakeFileManager manager;
+    manager.isSlow = true;
+    QElapsedTimer timer;
+    timer.start();
+    m_files.reveal(QStringLiteral("/srv/data/log"));
+    EXPECT_LT(timer.elapsed(), 500) << "the program goes on";
+    ASSERT_TRUE(await([&] { return !manager.shown.isEmpty(); }));
+    tests::runFor(2300); // longer than anyone's patience
+    EXPECT_EQ(manager.shown.size(), 1);
+    EXPECT_TRUE(m_runner.detached.empty());
+}
+
+TEST_F(FileManagerTest, WithoutAFileManagerTheDesktopOpensTheFolder) {
+    m_files.reveal(QStringLiteral("/srv/data/log"));
+    EXPECT_TRUE(await([&] { return wasOpenedByDesktop("/srv/data"); }));
+    m_runner.detached.clear();
+    m_files.openFolder(QStringLiteral("/srv/data"));
+    EXPECT_TRUE(await([&] { return wasOpenedByDesktop("/srv/data"); }));
+}
+
+TEST_F(FileManagerTest, FileManagerThatRefusesLeavesItToTheDesktop) {
+    FakeFileManager manager;
+    manager.refuses = true;
+    m_files.reveal(QStringLiteral("/srv/data/log"));
+    EXPECT_TRUE(await([&] { return wasOpenedByDesktop("/srv/data"); }));
+}
+
+TEST_F(FileManagerTest, FileManagerThatEndsOverTheQuestionLeavesItToTheDesktop) {
+    FakeFileManager manager;
+    manager.isSlow = true;
+    m_files.reveal(QStringLiteral("/srv/data/log"));
+    ASSERT_TRUE(await([&] { return !manager.shown.isEmpty(); }));
+    manager.end();
+    EXPECT_TRUE(await([&] { return wasOpenedByDesktop("/srv/data"); }));
+}
+
+TEST_F(FileManagerTest, WithoutABusTheDesktopOpensTheFolder) {
+    FileManager files(tests::noBus(), m_runner);
+    files.openFolder(QStringLiteral("/srv/data"));
+    EXPECT_TRUE(await([&] { return wasOpenedByDesktop("/srv/data"); }));
+}
+
+TEST_F(FileManagerTest, WithoutAnyOpenerNothingHappens) {
+    ASSERT_TRUE(QFile::remove(m_programs.filePath(QStringLiteral("xdg-open"))));
+    m_files.openFolder(QStringLiteral("/srv/data"));
+    tests::runFor(100);
+    EXPECT_TRUE(m_runner.detached.empty());
+}
+
+TEST(FileManagerTrash, TrashedFileIsGoneFromItsPlaceAndKeptInTheTrash) {
     const QTemporaryDir home;
     const QByteArray before = qgetenv("XDG_DATA_HOME");
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.filePath(QStringLiteral("data"))));
@@ -74,7 +161,7 @@ TEST(FileManager, TrashedFileIsGoneFromItsPlaceAndKeptInTheTrash) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write("program");
     }
-    EXPECT_TRUE(filemanager::moveToTrash(path));
+    EXPECT_TRUE(FileManager::moveToTrash(path));
     EXPECT_FALSE(QFile::exists(path));
     EXPECT_TRUE(QFile::exists(home.filePath(QStringLiteral("data/Trash/files/an old copy"))));
     if (before.isNull())
@@ -83,8 +170,8 @@ TEST(FileManager, TrashedFileIsGoneFromItsPlaceAndKeptInTheTrash) {
         qputenv("XDG_DATA_HOME", before);
 }
 
-TEST(FileManager, FileThatIsNotThereCannotBeTrashed) {
-    const auto trashed = filemanager::moveToTrash(QStringLiteral("/nowhere/at all"));
+TEST(FileManagerTrash, FileThatIsNotThereCannotBeTrashed) {
+    const auto trashed = FileManager::moveToTrash(QStringLiteral("/nowhere/at all"));
     ASSERT_FALSE(trashed);
     EXPECT_TRUE(trashed.error().description().contains(QStringLiteral("/nowhere/at all")));
 }

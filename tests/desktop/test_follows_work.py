@@ -106,3 +106,25 @@ class FollowsWork(DesktopTest):
         self.end_session()
         wait_until("the second shortcut",
                    lambda: told.read_text() == "quiet 'please';all clear;")
+
+    def test_the_users_shortcut_finds_the_environment_of_the_session(self):
+        shortcuts = Path(self.desktop.env["XDG_CONFIG_HOME"], "Vantle", "shortcuts")
+        shortcuts.mkdir(parents=True)
+        told = self.desktop.directory / "told"
+        script = shortcuts / "look around"
+        script.write_text(f"#!/bin/sh\nenv -0 > {told}.new && mv {told}.new {told}\n")
+        script.chmod(0o700)
+        # As in a session, where the program chooses its own platform.
+        del self.desktop.env["QT_QPA_PLATFORM"]
+        session = dict(self.desktop.env, MARK="of the session")
+        self.desktop.env.update(session, VANTLE_AUTOSTART="1", XDG_ACTIVATION_TOKEN="used",
+                                DESKTOP_STARTUP_ID="used")
+        self.vantle.write_preferences(focus__linked="true", focus__shortcut__start="look around")
+        self.launch()
+        self.begin_session()
+        wait_until("the shortcut", told.exists)
+        found = dict(entry.split("=", 1) for entry in told.read_text().split("\0") if entry)
+        # The shell has some of its own.
+        self.assertEqual({name for name in found if found[name] != session.get(name)}
+                         - {"PWD", "OLDPWD", "SHLVL", "_"}, set())
+        self.assertEqual(found["MARK"], "of the session")

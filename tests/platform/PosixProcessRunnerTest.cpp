@@ -54,7 +54,8 @@ protected:
     [[nodiscard]] QString path(const char* name) const { return m_folder.filePath(text(name)); }
 
     QTemporaryDir m_folder;
-    std::unique_ptr<PosixProcessRunner> m_runner = std::make_unique<PosixProcessRunner>();
+    std::unique_ptr<PosixProcessRunner> m_runner =
+        std::make_unique<PosixProcessRunner>(QProcessEnvironment::systemEnvironment());
 };
 
 TEST_F(PosixProcessRunnerTest, CollectsWhatTheCommandPrintsAndItsExitStatus) {

@@ -21,6 +21,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QProcessEnvironment>
 #include <QQuickWindow>
 #include <QStorageInfo>
 
@@ -47,6 +48,15 @@ bool takeUnaskedMark() {
     const bool marked = qEnvironmentVariableIsSet("VANTLE_AUTOSTART");
     qunsetenv("VANTLE_AUTOSTART");
     return marked;
+}
+
+/// What programs that this one starts find: what the session gave it, before it sets anything for
+/// itself. Without the two marks of its own start, which belong to its first window.
+QProcessEnvironment userEnvironment() {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("DESKTOP_STARTUP_ID"));
+    environment.remove(QStringLiteral("XDG_ACTIVATION_TOKEN"));
+    return environment;
 }
 
 /// The small program that runs the person's shortcuts lies beside this one.
@@ -91,8 +101,9 @@ void describeApplication() {
 
 /// Everything real that the program stands on, made in the order in which one needs the other.
 struct Ground {
-    explicit Ground(PlatformEvents events)
-        : platform(platformfactory::makePlatform(scheduler, std::move(events))) {}
+    Ground(PlatformEvents events, QProcessEnvironment environment)
+        : platform(platformfactory::makePlatform(scheduler, std::move(events),
+                                                 std::move(environment))) {}
 
     QtScheduler scheduler;
     const std::unique_ptr<Platform> platform;
@@ -183,7 +194,7 @@ AppDelegate::Environment environmentOn(Ground& ground, bool startedUnasked, cons
             .startedUnasked = startedUnasked};
 }
 
-int run(bool startedUnasked) {
+int run(bool startedUnasked, const QProcessEnvironment& environment) {
     AppDelegate* delegate = nullptr;
     bool isEnding = false;
     const auto stop = [&delegate] {
@@ -203,7 +214,8 @@ int run(bool startedUnasked) {
                            isEnding = true;
                            QCoreApplication::exit();
                        },
-                   .displayLost = stop});
+                   .displayLost = stop},
+                  environment);
     AppDelegate app(environmentOn(ground, startedUnasked, isEnding));
     if (!app.applicationDidFinishLaunching()) return EXIT_SUCCESS;
     delegate = &app;
@@ -223,6 +235,7 @@ int HourfoldMain(int argc, char** argv) {
     // Nothing is ever printed, by the libraries either.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     const bool startedUnasked = takeUnaskedMark();
+    const QProcessEnvironment environment = userEnvironment();
     if (!platformfactory::desktopIsReachable()) return kNoDesktop;
     // In a Wayland session the windows are X11 windows, which can be placed and stay on top.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
@@ -232,7 +245,7 @@ int HourfoldMain(int argc, char** argv) {
     Ceremony::prepareProcess();
     describeApplication();
     const QApplication application(argc, argv);
-    return run(startedUnasked);
+    return run(startedUnasked, environment);
 }
 
 } // namespace vantle

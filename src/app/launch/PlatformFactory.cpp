@@ -61,7 +61,7 @@ std::unique_ptr<ScreenPower> makeScreenPower(X11Connection& x11, Scheduler& sche
 /// A desktop of the X11 and freedesktop.org kind.
 class X11Platform final : public Platform {
 public:
-    X11Platform(Scheduler& scheduler, PlatformEvents events)
+    X11Platform(Scheduler& scheduler, PlatformEvents events, QProcessEnvironment environment)
         : m_events(std::move(events))
         , m_session(QDBusConnection::sessionBus())
         , m_preferences(m_files, configHome() + QStringLiteral("/Vantle/preferences.ini"))
@@ -73,6 +73,8 @@ public:
         , m_frontmostApp(
               m_x11, scheduler,
               [this](const WindowHints& hints) { return m_applications.identify(hints); })
+        , m_processRunner(std::move(environment))
+        , m_fileManager(m_session, m_processRunner)
         , m_reducedMotion(m_session, configHome())
         , m_autostart(m_files,
                       configHome() + QStringLiteral("/autostart/local.vantle.Vantle.desktop"),
@@ -113,14 +115,14 @@ public:
         return xdgDirectory("XDG_DATA_HOME", QStringLiteral("/.local/share"));
     }
     [[nodiscard]] Result<> moveToTrash(const QString& path) override {
-        return filemanager::moveToTrash(path);
+        return FileManager::moveToTrash(path);
     }
-    void reveal(const QString& path) override { filemanager::reveal(m_session, path); }
+    void reveal(const QString& path) override { m_fileManager.reveal(path); }
     [[nodiscard]] Result<> openShortcuts() override {
         constexpr int kPrivateDirectory = 0700;
         const QString folder = configHome() + QStringLiteral("/Vantle/shortcuts");
         if (auto made = m_files.makeDirectories(folder, kPrivateDirectory); !made) return made;
-        filemanager::openFolder(m_session, folder);
+        m_fileManager.openFolder(folder);
         return {};
     }
     void listen() override {
@@ -140,6 +142,7 @@ private:
     DesktopApplications m_applications;
     X11FrontmostApp m_frontmostApp;
     PosixProcessRunner m_processRunner;
+    FileManager m_fileManager;
     DesktopReducedMotion m_reducedMotion;
     DesktopAutostart m_autostart;
     DesktopTrayItem m_trayItem;
@@ -165,8 +168,9 @@ bool desktopIsReachable() {
     return reachable;
 }
 
-std::unique_ptr<Platform> makePlatform(Scheduler& scheduler, PlatformEvents events) {
-    return std::make_unique<X11Platform>(scheduler, std::move(events));
+std::unique_ptr<Platform> makePlatform(Scheduler& scheduler, PlatformEvents events,
+                                       QProcessEnvironment environment) {
+    return std::make_unique<X11Platform>(scheduler, std::move(events), std::move(environment));
 }
 
 } // namespace platformfactory

@@ -19,6 +19,7 @@
 #include "platform/Screens.h"
 #include "platform/TrayItem.h"
 
+#include <QProcessEnvironment>
 #include <QString>
 
 #include <functional>
@@ -75,7 +76,9 @@ namespace platformfactory {
 /// Whether there is a desktop at all. Before the application object, which can't live without one.
 [[nodiscard]] bool desktopIsReachable();
 
-[[nodiscard]] std::unique_ptr<Platform> makePlatform(Scheduler& scheduler, PlatformEvents events);
+/// `environment` is what programs that are started find.
+[[nodiscard]] std::unique_ptr<Platform> makePlatform(Scheduler& scheduler, PlatformEvents events,
+                                                     QProcessEnvironment environment);
 
 } // namespace platformfactory
 } // namespace vantle

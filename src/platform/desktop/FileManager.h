@@ -1,22 +1,42 @@
-// What people see in their file manager. Main thread.
+// The user's file manager and trash.
 #pragma once
 
 #include "base/Result.h"
 
 #include <QDBusConnection>
+#include <QObject>
 #include <QString>
 
-namespace vantle::filemanager {
+namespace vantle {
 
-/// Puts a file into the trash, of its disk if it is not that of the home. Blocks.
-[[nodiscard]] Result<> moveToTrash(const QString& path);
+class ProcessRunner;
 
-/// Asks the file manager on the bus to show the file's folder with the file selected; where there
-/// is none, asks the desktop to open the folder. Waits for the file manager two seconds at most.
-/// What goes wrong shows nothing.
-void reveal(const QDBusConnection& bus, const QString& path);
+/// Main thread. Opening returns at once and happens once: a file manager that takes long is waited
+/// for without limit. Where the bus has none, the desktop's opener for folders is started. What
+/// goes wrong shows nothing.
+class FileManager final {
+public:
+    /// The runner must outlive this object. A missing bus is no failure.
+    FileManager(QDBusConnection session, ProcessRunner& runner)
+        : m_session(std::move(session))
+        , m_runner(runner) {}
 
-/// The same for a folder, of which the content is shown.
-void openFolder(const QDBusConnection& bus, const QString& path);
+    /// Shows the file's folder with the file selected; an opener for folders selects nothing.
+    void reveal(const QString& path);
 
-} // namespace vantle::filemanager
+    /// Shows the content of the folder.
+    void openFolder(const QString& path);
+
+    /// Puts a file or folder into the trash, of its disk if it is not that of the home. Blocks.
+    [[nodiscard]] static Result<> moveToTrash(const QString& path);
+
+private:
+    void ask(const QString& method, const QString& path, const QString& folder);
+    void startOpener(const QString& folder);
+
+    QDBusConnection m_session;
+    ProcessRunner& m_runner;
+    QObject m_answers; ///< owns those that are waited for
+};
+
+} // namespace vantle

@@ -69,6 +69,7 @@ PosixProcessRunner::~PosixProcessRunner() {
 void PosixProcessRunner::collect(const Command& command,
                                  std::function<void(std::optional<Output>)> done) {
     auto* const process = new Collection(&m_processes, std::move(done));
+    process->setProcessEnvironment(m_environment);
     process->start(command.program, command.arguments, QIODevice::ReadOnly);
 }
 
@@ -76,6 +77,7 @@ bool PosixProcessRunner::startDetached(const Command& command) {
     QProcess process;
     process.setProgram(command.program);
     process.setArguments(command.arguments);
+    process.setProcessEnvironment(m_environment);
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());

@@ -147,7 +147,7 @@ TEST_F(ShortcutsToolTest, OtherVerbsAreWrongUse) {
 TEST_F(ShortcutsToolTest, SessionsRunWhatTheListOffered) {
     add("Quiet \"now\" ");
     fakes::MemoryPreferences preferences;
-    PosixProcessRunner runner;
+    PosixProcessRunner runner(QProcessEnvironment::systemEnvironment());
     FocusLink link(preferences, runner, qEnvironmentVariable("VANTLE_SHORTCUTS"));
     QStringList names;
     link.listShortcuts([&](const QStringList& told) { names = told; });
