@@ -57,21 +57,9 @@ const QByteArray kKdeUsual = "[KDE]\nAnimationDurationFactor=1\n";
 const QByteArray kGtkReduced = "[Settings]\ngtk-enable-animations=false\n";
 const QByteArray kGtkUsual = "[Settings]\ngtk-enable-animations=1\n";
 
-TEST_F(DesktopReducedMotionTest, IsOffWhereNothingSaysAnything) {
-    const DesktopReducedMotion motion(m_client.bus(), m_directory.path());
-    EXPECT_FALSE(motion.enabled());
-}
-
-TEST_F(DesktopReducedMotionTest, PortalsWishForReducedMotionCounts) {
+TEST_F(DesktopReducedMotionTest, WishForReducedMotionCountsBesideAnimationsThatAreOn) {
     withReducedMotion(1);
     withAnimations(true);
-    m_portal.appear();
-    const DesktopReducedMotion motion(m_client.bus(), m_directory.path());
-    EXPECT_TRUE(await([&] { return motion.enabled(); }));
-}
-
-TEST_F(DesktopReducedMotionTest, AnimationsSwitchedOffCount) {
-    withAnimations(false);
     m_portal.appear();
     const DesktopReducedMotion motion(m_client.bus(), m_directory.path());
     EXPECT_TRUE(await([&] { return motion.enabled(); }));
@@ -83,22 +71,6 @@ TEST_F(DesktopReducedMotionTest, AnimationsSwitchedOffCountBesideNoWishForReduce
     m_portal.appear();
     const DesktopReducedMotion motion(m_client.bus(), m_directory.path());
     EXPECT_TRUE(await([&] { return motion.enabled(); }));
-}
-
-TEST_F(DesktopReducedMotionTest, ChangesOfThePortalAreFollowed) {
-    withReducedMotion(0);
-    withAnimations(true);
-    m_portal.appear();
-    const DesktopReducedMotion motion(m_client.bus(), m_directory.path());
-    ASSERT_TRUE(await([&] { return askedAll(); }));
-    m_portal.change(kAppearance, kReducedMotion, 1U);
-    EXPECT_TRUE(await([&] { return motion.enabled(); }));
-    m_portal.change(kAppearance, kReducedMotion, 0U);
-    EXPECT_TRUE(await([&] { return !motion.enabled(); }));
-    m_portal.change(kGnome, kEnableAnimations, false);
-    EXPECT_TRUE(await([&] { return motion.enabled(); }));
-    m_portal.change(kGnome, kEnableAnimations, true);
-    EXPECT_TRUE(await([&] { return !motion.enabled(); }));
 }
 
 TEST_F(DesktopReducedMotionTest, ChangesOfOtherSettingsAreNone) {

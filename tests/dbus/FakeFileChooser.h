@@ -14,7 +14,7 @@
 
 namespace vantle::tests {
 
-/// One question, on the screen until somebody calls respond().
+/// One question at a time, on the screen until the user answers or it is taken away.
 class FakeFileChooser final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
@@ -28,7 +28,7 @@ public:
 
     bool hasDialog = true; ///< false as on a desktop whose portal lacks this part
     bool asked = false;
-    bool closed = false;
+    bool closed = false; ///< taken away
     QString parent;
     QString title;
     QVariantMap options;
@@ -37,8 +37,11 @@ public:
         return options[QStringLiteral("filters")].value<QDBusArgument>().currentSignature();
     }
 
+    [[nodiscard]] bool isShown() const { return m_isShown; }
+
     /// What the person does: 0 for choosing the file.
     void respond(uint response, const QString& uri) {
+        m_isShown = false;
         auto signal = QDBusMessage::createSignal(m_request.path(),
                                                  QStringLiteral("org.freedesktop.portal.Request"),
                                                  QStringLiteral("Response"));
@@ -66,14 +69,19 @@ public:
                                       QStringLiteral("org.freedesktop.portal.Request"), this,
                                       QDBusConnection::ExportAllInvokables);
         asked = true;
+        m_isShown = true;
         return m_request;
     }
 
-    Q_INVOKABLE void Close() { closed = true; }
+    Q_INVOKABLE void Close() {
+        closed = true;
+        m_isShown = false;
+    }
 
 private:
     BusClient m_client;
     QDBusObjectPath m_request;
+    bool m_isShown = false;
 };
 
 } // namespace vantle::tests

@@ -14,7 +14,7 @@ public:
         ++attempts;
         return set(true);
     }
-    Result<> unregisterItem() override { return set(false); }
+    Result<> unregisterItem() override { return registered ? set(false) : Result<>(); }
 
     bool registered = false;
     bool refuses = false;

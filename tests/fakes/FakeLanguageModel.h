@@ -23,12 +23,13 @@ public:
         return std::make_unique<Session>(*this);
     }
 
-    /// Answers the question that waits longest; nothing for a failure. False when none waits.
+    /// Answers the question that waits longest; nothing for a failure, and whatever is said while
+    /// the model is not available. False when no question waits.
     bool answer(const std::optional<QString>& text) {
         if (m_waiting.empty()) return false;
         const auto answered = std::exchange(m_waiting.front()->answered, {});
         m_waiting.erase(m_waiting.begin());
-        answered(text); // may end the session
+        answered(available ? text : std::nullopt); // may end the session
         return true;
     }
     [[nodiscard]] std::size_t waiting() const { return m_waiting.size(); }

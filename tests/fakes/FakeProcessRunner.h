@@ -24,6 +24,7 @@ public:
     void end(std::optional<Output> output) {
         const auto done = std::move(m_waiting.front());
         m_waiting.pop_front();
+        if (output && output->standardOutput.size() > kMaxOutput) output.reset();
         done(std::move(output));
     }
 

@@ -3,6 +3,9 @@
 
 #include "platform/SaveDialog.h"
 
+#include <QPointer>
+#include <QWindow>
+
 #include <utility>
 #include <vector>
 
@@ -13,32 +16,38 @@ public:
     [[nodiscard]] std::unique_ptr<OpenSaveDialog> ask(const SaveQuestion& question, QWindow* above,
                                                       Answer answer) override {
         asked.push_back(question);
-        window = above;
-        m_answer = std::move(answer);
-        ++m_open;
-        return std::make_unique<Open>(*this);
+        auto shown = std::make_shared<Shown>(Shown{std::move(answer), above, above != nullptr});
+        m_shown = shown;
+        return std::make_unique<Open>(std::move(shown));
     }
 
-    /// Whether a dialog is on the screen.
-    [[nodiscard]] bool isOpen() const { return m_open > 0; }
+    /// Whether the last dialog is on the screen: neither answered, nor taken away, nor gone with
+    /// its window.
+    [[nodiscard]] bool isOpen() const {
+        const auto shown = m_shown.lock();
+        return shown && shown->answer && !(shown->hadWindow && !shown->window);
+    }
 
-    /// The person chooses a file, or turns away.
-    void choose(const std::optional<QString>& path) { std::exchange(m_answer, nullptr)(path); }
+    /// The user chooses a file, or turns away. Nothing happens where no dialog is open.
+    void choose(const std::optional<QString>& path) {
+        if (!isOpen()) return;
+        std::exchange(m_shown.lock()->answer, nullptr)(path); // may take the dialog away
+    }
 
     std::vector<SaveQuestion> asked;
-    QWindow* window = nullptr; ///< below the last one
 
 private:
+    struct Shown {
+        Answer answer; ///< empty once it was given
+        QPointer<QWindow> window;
+        bool hadWindow = false;
+    };
     struct Open final : OpenSaveDialog {
-        explicit Open(FakeSaveDialog& owner) : dialog(owner) {}
-        ~Open() override { --dialog.m_open; }
-        Open(const Open&) = delete;
-        Open& operator=(const Open&) = delete;
-        FakeSaveDialog& dialog;
+        explicit Open(std::shared_ptr<Shown> dialog) : shown(std::move(dialog)) {}
+        const std::shared_ptr<Shown> shown;
     };
 
-    Answer m_answer;
-    int m_open = 0;
+    std::weak_ptr<Shown> m_shown; ///< the last dialog, until it is taken away
 };
 
 } // namespace vantle::fakes

@@ -31,11 +31,6 @@ protected:
     DesktopAutostart m_autostart{m_files, kEntry, kProgram};
 };
 
-TEST_F(DesktopAutostartTest, IsNotRegisteredAtFirst) {
-    EXPECT_FALSE(m_autostart.isRegistered());
-    EXPECT_TRUE(m_autostart.unregisterItem()) << "nothing to do is no failure";
-}
-
 TEST_F(DesktopAutostartTest, RegistersAPrivateEntryThatMarksTheStart) {
     EXPECT_TRUE(m_autostart.registerItem());
     EXPECT_TRUE(m_autostart.isRegistered());

@@ -58,13 +58,6 @@ protected:
         std::make_unique<PosixProcessRunner>(QProcessEnvironment::systemEnvironment());
 };
 
-TEST_F(PosixProcessRunnerTest, CollectsWhatTheCommandPrintsAndItsExitStatus) {
-    const auto output = collected(shell("printf 'one\\ntwo'; echo noise >&2; exit 3"));
-    ASSERT_TRUE(output);
-    EXPECT_EQ(output->standardOutput, "one\ntwo");
-    EXPECT_EQ(output->exitStatus, 3);
-}
-
 TEST_F(PosixProcessRunnerTest, ArgumentsArriveAsTheyStand) {
     const QStringList arguments{text(" two  blanks "), text("\"quotes\" 'and' $HOME `x` *"),
                                 QString(), text("line\nfeed")};
@@ -72,11 +65,6 @@ TEST_F(PosixProcessRunnerTest, ArgumentsArriveAsTheyStand) {
     ASSERT_TRUE(output);
     EXPECT_EQ(QString::fromUtf8(output->standardOutput),
               QLatin1Char('[') + arguments.join(text("][")) + QLatin1Char(']'));
-}
-
-TEST_F(PosixProcessRunnerTest, MissingProgramAndOneKilledGiveNothing) {
-    EXPECT_FALSE(collected({text("/nowhere/tool"), {}}));
-    EXPECT_FALSE(collected(shell("kill -KILL $$")));
 }
 
 TEST_F(PosixProcessRunnerTest, CommandThatPrintsWithoutEndIsEnded) {
@@ -97,15 +85,6 @@ TEST_F(PosixProcessRunnerTest, CollectedCommandEndsWithTheRunner) {
     m_runner.reset();
     EXPECT_TRUE(children().isEmpty());
     EXPECT_FALSE(told);
-}
-
-TEST_F(PosixProcessRunnerTest, RunnerMayEndInTheCallbackOfItsCommand) {
-    bool told = false;
-    m_runner->collect({text("/bin/true"), {}}, [&](const auto&) {
-        m_runner.reset();
-        told = true;
-    });
-    EXPECT_TRUE(tests::await([&] { return told; }));
 }
 
 TEST_F(PosixProcessRunnerTest, DetachedCommandsLeaveNoChildAndNothingWaits) {
@@ -133,9 +112,24 @@ TEST_F(PosixProcessRunnerTest, WhatADetachedCommandPrintsHoldsUpNobody) {
     EXPECT_TRUE(tests::await([&] { return QFile::exists(path("done")); }));
 }
 
-TEST_F(PosixProcessRunnerTest, DetachedCommandThatCannotStartSaysSo) {
+TEST_F(PosixProcessRunnerTest, DetachedCommandThatCannotStartLeavesNoChild) {
     EXPECT_FALSE(m_runner->startDetached({text("/nowhere/tool"), {}}));
     EXPECT_TRUE(children().isEmpty());
+}
+
+TEST_F(PosixProcessRunnerTest, CommandsFindTheEnvironmentThatTheyAreGivenAndNoOther) {
+    QProcessEnvironment environment;
+    environment.insert(text("FROM"), text("the session"));
+    m_runner = std::make_unique<PosixProcessRunner>(environment);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const auto output = collected({text("/usr/bin/env"), {}});
+    ASSERT_TRUE(output);
+    EXPECT_EQ(output->standardOutput, "FROM=the session\n");
+    ASSERT_TRUE(m_runner->startDetached(
+        shell("/usr/bin/env >\"$0.new\"; /bin/mv \"$0.new\" \"$0\"", {path("seen")})));
+    ASSERT_TRUE(tests::await([&] { return QFile::exists(path("seen")); }));
+    EXPECT_TRUE(contentOf(path("seen")).contains("FROM=the session\n"));
+    EXPECT_FALSE(contentOf(path("seen")).contains("QT_QPA_PLATFORM"));
 }
 
 } // namespace
