@@ -44,6 +44,8 @@ DashboardView::DashboardView(Environment environment) : m_env(std::move(environm
     });
     connect(&tracker(), &TrackerCore::storageErrorChanged, this, &DashboardView::warningChanged);
     connect(&tracker(), &TrackerCore::dataWarningChanged, this, &DashboardView::warningChanged);
+    connect(&m_env.model.hotKey(), &HotKey::isRegisteredChanged, this,
+            &DashboardView::shortcutChanged);
     followState();
 }
 
@@ -130,6 +132,11 @@ QString DashboardView::chipHoverText() const { return QStringLiteral("Stop · ")
 
 QString DashboardView::chipLabel() const {
     return chipText() + QStringLiteral(". Stops the session.");
+}
+
+bool DashboardView::hasShortcut() const {
+    const HotKey& hotKey = m_env.model.hotKey();
+    return hotKey.isRegistered() && hotKey.hearsEveryApp();
 }
 
 QString DashboardView::warning() const {

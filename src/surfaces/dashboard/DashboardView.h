@@ -52,6 +52,9 @@ class DashboardView final : public QObject {
     Q_PROPERTY(QColor chipColor READ chipColor NOTIFY ticked FINAL)
     Q_PROPERTY(bool isPaused READ isPaused NOTIFY ticked FINAL)
 
+    /// The shortcut is held, and works over every application.
+    Q_PROPERTY(bool hasShortcut READ hasShortcut NOTIFY shortcutChanged FINAL)
+
     /// What is wrong with the log; empty when nothing is.
     Q_PROPERTY(QString warning READ warning NOTIFY warningChanged FINAL)
 
@@ -91,6 +94,7 @@ public:
     [[nodiscard]] QString chipHoverText() const;
     [[nodiscard]] QString chipLabel() const;
     [[nodiscard]] QColor chipColor() const;
+    [[nodiscard]] bool hasShortcut() const;
     [[nodiscard]] QString warning() const;
 
     /// Starts a session, or stops the open one.
@@ -101,6 +105,7 @@ public:
 Q_SIGNALS:
     void figuresChanged();
     void ticked();
+    void shortcutChanged();
     void warningChanged();
 
 private:

@@ -25,6 +25,7 @@ DashboardCard {
 
         DarkText {
             anchors.horizontalCenter: parent.horizontalCenter
+            visible: card.model.hasShortcut
             text: qsTr("⌥⌘B works from anywhere")
             role: DarkUI.caption
             color: DarkUI.t3

@@ -38,6 +38,24 @@ TEST_F(DashboardPageTest, ButtonsOfTheHeadDoWhatTheySay) {
     EXPECT_EQ(m_shown->control(text("Start building")), nullptr);
 }
 
+TEST_F(DashboardPageTest, ShortcutIsOfferedOnlyWhileItIsHeldAndHeardEverywhere) {
+    const QString words = text("⌥⌘B works from anywhere");
+    show();
+    EXPECT_TRUE(m_shown->shows(words));
+    hotKeyPort.become({HotKeyPort::Registration::HeldByAnother, 0});
+    settle();
+    m_shown->settle();
+    EXPECT_FALSE(m_shown->shows(words));
+    hotKeyPort.become({HotKeyPort::Registration::Registered, 0});
+    settle();
+    m_shown->settle();
+    EXPECT_TRUE(m_shown->shows(words));
+    hotKeyPort.isHeardEverywhere = false;
+    m_shown.reset();
+    show();
+    EXPECT_FALSE(m_shown->shows(words));
+}
+
 TEST_F(DashboardPageTest, StateChipStaysAsWideUnderThePointerAsBesideIt) {
     show();
     click("Start building");
