@@ -112,6 +112,33 @@ TEST_F(VirtualTimeTest, ShiftsTheWallClockWithoutMovingTimers) {
     EXPECT_EQ(elapsed(), -3590.0);
 }
 
+TEST_F(VirtualTimeTest, SleepOfTheMachineMovesNoTimer) {
+    const TimerHandle timer = m_time.scheduleOnce(Seconds(10), note(1));
+    m_time.advance(4);
+    m_time.suspend(3600);
+    EXPECT_EQ(elapsed(), 3604.0);
+    EXPECT_EQ(m_time.uptime().total, Seconds(3604));
+    EXPECT_EQ(m_time.uptime().awake, Seconds(4));
+    m_time.advance(5);
+    EXPECT_TRUE(m_order.empty());
+    m_time.advance(1);
+    EXPECT_EQ(m_order, std::vector{1});
+}
+
+TEST_F(VirtualTimeTest, StoppedProgramFiresEachTimerOnceWhenItRunsAgain) {
+    const TimerHandle tick = m_time.scheduleRepeatingTimer(Seconds(1), Seconds::zero(), note(1));
+    const TimerHandle once = m_time.scheduleOnce(Seconds(5), note(2));
+    const TimerHandle later = m_time.scheduleOnce(Seconds(62), note(3));
+    m_time.freeze(60);
+    EXPECT_TRUE(m_order.empty());
+    EXPECT_EQ(m_time.uptime().awake, Seconds(60));
+    EXPECT_EQ(elapsed(), 60.0);
+    m_time.advance(0);
+    EXPECT_EQ(m_order, (std::vector{1, 2}));
+    m_time.advance(2);
+    EXPECT_EQ(m_order, (std::vector{1, 2, 1, 1, 3}));
+}
+
 TEST_F(VirtualTimeTest, KeepsAShiftThatACallbackMakes) {
     const TimerHandle timer = m_time.scheduleOnce(Seconds(1), [&] { m_time.shiftWall(100); });
     double seen = 0;

@@ -36,6 +36,23 @@ std::size_t VirtualTime::repeatingTimers(double every) const {
         m_timers, [&](const auto& item) { return item.second.every == every; }));
 }
 
+void VirtualTime::suspend(double seconds) {
+    m_wall += Seconds(seconds);
+    m_slept += seconds;
+}
+
+void VirtualTime::freeze(double seconds) {
+    m_wall += Seconds(seconds);
+    m_timerClock += seconds;
+    for (auto& [id, entry] : m_timers) {
+        if (entry.due >= m_timerClock) continue;
+        entry.due = m_timerClock;
+        // A repeating timer does not make up for what it missed.
+        entry.madeAt = m_timerClock - entry.every;
+        entry.fired = 0;
+    }
+}
+
 void VirtualTime::settle() {
     for (;;) {
         for (ManualQueue* queue : m_queues)

@@ -1,8 +1,9 @@
 // Time that passes only when a test says so: an hour in a microsecond.
 //
-// Two clocks: the wall clock, which can be shifted, and the timer clock, which drives timers and
-// delayed work. `advance` moves both. After each fired timer the I/O queues are run dry and then
-// the posted main-thread work, until nothing is left.
+// Three clocks: the wall clock, which can be shifted, the timer clock, which drives timers and
+// delayed work and stands still while the machine sleeps, and the uptime, which does neither.
+// `advance` moves all. After each fired timer the I/O queues are run dry and then the posted
+// main-thread work, until nothing is left.
 #pragma once
 
 #include "base/Clock.h"
@@ -48,6 +49,9 @@ public:
 
     // Clock
     [[nodiscard]] Date now() const override { return m_wall; }
+    [[nodiscard]] Uptime uptime() const override {
+        return {Seconds(m_timerClock + m_slept), Seconds(m_timerClock)};
+    }
 
     // Scheduler
     [[nodiscard]] TimerHandle scheduleRepeatingTimer(Seconds every, Seconds tolerance,
@@ -62,8 +66,15 @@ public:
     void advance(Seconds by);
     void advance(double seconds) { advance(Seconds(seconds)); }
 
-    /// Moves the wall clock alone: somebody set it, or the machine slept.
+    /// Moves the wall clock alone: the user set it, or a server did.
     void shiftWall(double seconds) { m_wall += Seconds(seconds); }
+
+    /// The machine sleeps: wall clock and uptime go on, timers do not.
+    void suspend(double seconds);
+
+    /// The program is stopped while the machine runs on: no timer fires, all clocks go on. Timers
+    /// that came due meanwhile fire at the next `advance`, each once.
+    void freeze(double seconds);
 
     /// Runs the queues and the posted work until nothing is left.
     void settle();
@@ -88,6 +99,7 @@ private:
 
     Date m_wall;
     double m_timerClock = 0;
+    double m_slept = 0; ///< seconds that the machine slept since the beginning
     std::uint64_t m_nextId = 0;
     std::map<std::uint64_t, Entry> m_timers;
     std::deque<std::function<void()>> m_posted;
