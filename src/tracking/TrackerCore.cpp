@@ -24,17 +24,24 @@ Seconds minutesAsSeconds(int minutes) { return Seconds(60.0 * minutes); }
 
 TrackerCore::TrackerCore(const Environment& environment)
     : m_env(environment)
-    , m_log(environment.paths) {
+    , m_log(environment.paths)
+    , m_missed(environment.clock, kTickInterval) {
     if (!m_env.encodeMarker)
         m_env.encodeMarker = [](const OpenSessionMarker& marker) { return json::encode(marker); };
 }
 
 TrackerCore::~TrackerCore() = default;
 
+Date TrackerCore::countedUntil() const {
+    // A night of sleep must not count either where a stop comes before the first tick after it.
+    const auto missed = m_missed.sinceLastLook();
+    return missed ? std::min(missed->from, m_env.clock.now()) : m_env.clock.now();
+}
+
 double TrackerCore::currentActiveSeconds() const {
     double seconds = m_accumulatedSeconds;
     if (m_state == State::Running && m_segmentStart)
-        seconds += (m_env.clock.now() - *m_segmentStart).count();
+        seconds += (countedUntil() - *m_segmentStart).count();
     return seconds;
 }
 
@@ -58,6 +65,7 @@ std::optional<int> TrackerCore::start(const Skill& skill, int backfillMinutes) {
     m_accumulatedSeconds = minutesAsSeconds(applied).count();
     m_segmentStart = now;
     m_lastKnownGoodAt = now;
+    m_missed.look();
     setCurrentSkillId(skill.id);
     setStartedAt(now - minutesAsSeconds(applied));
     setState(State::Running);
@@ -77,6 +85,12 @@ void TrackerCore::startTicking() {
 }
 
 void TrackerCore::tick() {
+    if (const auto missed = m_missed.sinceLastLook()) {
+        pause(missed->from);
+        resume();
+        return;
+    }
+    m_missed.look();
     const Date now = m_env.clock.now();
     if (m_state == State::Running) m_lastKnownGoodAt = now;
     if (m_welcomeBackShownAt && now - *m_welcomeBackShownAt >= kWelcomeBackTime)
@@ -89,7 +103,7 @@ void TrackerCore::pause(Date date) {
     if (m_segmentStart) {
         // Nothing before the segment counts, and nothing that has not passed yet. With the clock
         // set back since the segment began, now is the cut and takes seconds away.
-        const Date cut = std::min(std::max(*m_segmentStart, date), m_env.clock.now());
+        const Date cut = std::min(std::max(*m_segmentStart, date), countedUntil());
         m_accumulatedSeconds += (cut - *m_segmentStart).count();
         m_lastKnownGoodAt = cut;
     }
@@ -109,6 +123,7 @@ void TrackerCore::resume() {
     }
     m_segmentStart = now;
     m_lastKnownGoodAt = now;
+    m_missed.look();
     setState(State::Running);
     writeMarker();
     startTicking();

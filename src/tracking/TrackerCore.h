@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Clock.h"
+#include "base/MissedTime.h"
 #include "base/Result.h"
 #include "base/Scheduler.h"
 #include "tracking/ActivityEvidence.h"
@@ -73,6 +74,8 @@ public:
     std::optional<int> start(const Skill& skill, int backfillMinutes);
 
     /// Stops counting as of `date`, clamped to the running segment and now. Nothing unless running.
+    /// Time in which the machine slept or the program was stopped is never counted: it is cut out
+    /// by the next tick, as a pause that began with the last one.
     void pause(Date date);
 
     /// Counts again from now. Nothing unless paused.
@@ -184,6 +187,7 @@ Q_SIGNALS:
 private:
     void startTicking();
     void tick();
+    [[nodiscard]] Date countedUntil() const;
     [[nodiscard]] double currentActiveSeconds() const;
     [[nodiscard]] std::int64_t roundedActiveSeconds() const;
     bool writeMarker();
@@ -222,6 +226,7 @@ private:
     double m_accumulatedSeconds = 0;    ///< of all closed segments, backfill included
     std::optional<Date> m_segmentStart; ///< empty while paused
     std::optional<Date> m_lastKnownGoodAt;
+    MissedTime m_missed; ///< looked at with each tick while running
     int m_ticksSinceMarkerWrite = 0;
     TimerHandle m_tickTimer;
 };

@@ -12,6 +12,60 @@ protected:
     const Date begin = samples::morning();
 };
 
+TEST_F(TrackerClockTest, SleepOfTheMachineIsCutOutByTheNextTick) {
+    time.advance(100);
+    time.suspend(8 * 3600);
+    time.advance(1);
+    EXPECT_EQ(tracker.state(), TrackerCore::State::Running);
+    EXPECT_EQ(tracker.displayActiveSeconds(), 100);
+    EXPECT_EQ(tracker.welcomeBack(), QStringLiteral("welcome back, paused 480m"));
+    time.advance(50);
+    EXPECT_EQ(tracker.stop()->activeSeconds, 150);
+}
+
+TEST_F(TrackerClockTest, SleepIsNotCountedByAStopThatComesBeforeTheNextTick) {
+    time.advance(100);
+    time.suspend(8 * 3600);
+    EXPECT_EQ(tracker.displayActiveSeconds(), 100);
+    EXPECT_EQ(tracker.stop()->activeSeconds, 100);
+}
+
+TEST_F(TrackerClockTest, SleepIsNotCountedByAPauseThatComesBeforeTheNextTick) {
+    time.advance(100);
+    time.suspend(8 * 3600);
+    tracker.pause(time.now());
+    EXPECT_EQ(tracker.displayActiveSeconds(), 100);
+    time.settle();
+    EXPECT_EQ(json::decodeMarker(content(marker).value())->activeSeconds, 100);
+    tracker.resume();
+    EXPECT_EQ(tracker.welcomeBack(), QStringLiteral("welcome back, paused 480m"));
+}
+
+TEST_F(TrackerClockTest, TimeInWhichTheProgramWasStoppedIsCutOut) {
+    time.advance(100);
+    time.freeze(600);
+    time.advance(0);
+    EXPECT_EQ(tracker.displayActiveSeconds(), 100);
+    time.advance(20);
+    EXPECT_EQ(tracker.stop()->activeSeconds, 120);
+}
+
+TEST_F(TrackerClockTest, EventLoopThatIsBusyForAWhileCostsNothing) {
+    time.advance(100);
+    time.freeze(15);
+    time.advance(5);
+    EXPECT_EQ(tracker.stop()->activeSeconds, 120);
+}
+
+TEST_F(TrackerClockTest, SleepDuringAPauseCutsNothing) {
+    time.advance(100);
+    tracker.pause(time.now());
+    time.suspend(3600);
+    tracker.resume();
+    time.advance(20);
+    EXPECT_EQ(tracker.displayActiveSeconds(), 120);
+}
+
 TEST_F(TrackerClockTest, SetBackBeforeTheSegmentThePauseTakesSecondsAway) {
     time.advance(100);
     tracker.pause(time.now());
