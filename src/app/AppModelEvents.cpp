@@ -26,8 +26,16 @@ void AppModel::wireIdle() {
     m_idle.onIdleBegan = [this](double seconds) {
         m_tracker.pause(m_env.clock.now() - Seconds(seconds));
     };
-    m_idle.onActivityResumed = [this] { m_tracker.resume(); };
-    m_idle.onScreensSlept = [this] { m_tracker.pause(m_env.clock.now()); };
+    // A reading that shows input while the screens sleep is a password, or the key that locked.
+    m_idle.onActivityResumed = [this] {
+        if (!m_idle.screensSleep()) m_tracker.resume();
+    };
+    m_idle.onScreensWoke = [this] { m_tracker.resume(); };
+    m_idle.onScreensSlept = [this] {
+        m_tracker.pause(m_env.clock.now());
+        // The machine may sleep as soon as this returns.
+        m_tracker.drainPendingIO();
+    };
 }
 
 void AppModel::wireTracker() {

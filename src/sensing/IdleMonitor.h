@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Clock.h"
+#include "base/MissedTime.h"
 #include "base/Scheduler.h"
 #include "platform/IdleSource.h"
 #include "platform/Preferences.h"
@@ -20,6 +21,7 @@ namespace vantle {
 /// Where the desktop does not tell the counter, nothing is known: neither absence nor presence.
 /// Such a reading takes no sample and changes nothing, so nobody is paused by it; and no stretch of
 /// time in which it happened is ever confirmed by `wasActiveForLast`, so nobody is credited by it.
+/// The same holds for a stretch in which the machine slept or the program was stopped.
 ///
 /// Main thread, the callbacks included. Nothing here fails.
 class IdleMonitor final : public ActivityEvidence {
@@ -49,6 +51,9 @@ public:
 
     [[nodiscard]] bool isStarted() const { return m_pollTimer != nullptr; }
 
+    /// Whether the screens sleep or are locked: then nobody works, whatever the counter says.
+    [[nodiscard]] bool screensSleep() const { return m_screensSleep; }
+
     /// Whether the person counts as away. Set before the callback that tells it.
     [[nodiscard]] bool isIdle() const { return m_isIdle; }
 
@@ -77,9 +82,19 @@ public:
     /// The screens went to sleep. The person counts as away, without `onIdleBegan`.
     std::function<void()> onScreensSlept;
 
+    /// The screens are awake again and the person counts as back. Follows `onActivityResumed`,
+    /// which may have come long before, from a reading while they still slept.
+    std::function<void()> onScreensWoke;
+
+    /// Readings in a row that show input while the screens are said to sleep, after which that is
+    /// no longer believed: a locker may end without telling. More than a password takes.
+    static constexpr int readingsThatWakeScreens = 6;
+
 private:
-    void poll();
+    bool poll();
     void noteScreenSleep();
+    void noteScreenWake();
+    void doubtScreenSleep(double idle);
     void beginIdle(double seconds);
     void resumeActivity();
 
@@ -92,8 +107,11 @@ private:
     bool m_isIdle = false;
     IdleHistory m_history;
     std::optional<Date> m_lastScreenSleepAt;
-    std::optional<Date> m_lastUnknownAt; ///< when the counter last could not be told
-    TimerHandle m_pollTimer;             ///< there exactly while started
+    std::optional<Date> m_lastUnknownAt; ///< the end of the last time of which nothing is known
+    MissedTime m_missed;                 ///< looked at with each reading
+    bool m_screensSleep = false;
+    int m_inputsInSleep = 0; ///< readings in a row that showed input since the screens slept
+    TimerHandle m_pollTimer; ///< there exactly while started
     QMetaObject::Connection m_sleepObserver;
     QMetaObject::Connection m_wakeObserver;
 };

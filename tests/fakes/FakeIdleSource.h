@@ -15,7 +15,7 @@ public:
     /// Reads `seconds` until changed.
     void fix(double seconds) { set(seconds, false); }
 
-    /// Reads `seconds` plus what has passed on the timer clock since this call.
+    /// Reads `seconds` plus what has passed since this call, sleep of the machine included.
     void growFrom(double seconds) { set(seconds, true); }
 
     /// Somebody touches the machine now, and not again.
@@ -31,7 +31,7 @@ public:
 
     [[nodiscard]] std::optional<double> secondsSinceLastInput() override {
         if (!m_base || !m_canTell) return std::nullopt;
-        return m_grows ? *m_base + m_time.timerClock() - m_setAt : *m_base;
+        return m_grows ? *m_base + m_time.uptime().total.count() - m_setAt : *m_base;
     }
     [[nodiscard]] bool canTell() const override { return m_canTell; }
 
@@ -39,7 +39,7 @@ private:
     void set(double seconds, bool grows) {
         m_base = seconds;
         m_grows = grows;
-        m_setAt = m_time.timerClock();
+        m_setAt = m_time.uptime().total.count();
     }
 
     const VirtualTime& m_time;

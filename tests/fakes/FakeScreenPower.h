@@ -3,18 +3,27 @@
 
 #include "platform/ScreenPower.h"
 
+#include <utility>
+
 namespace vantle::fakes {
 
 class FakeScreenPower final : public ScreenPower {
 public:
     [[nodiscard]] bool asleep() const override { return m_asleep; }
 
-    /// Sends the notification each time, also when asleep already.
     void sleep() {
+        if (!std::exchange(m_asleep, true)) Q_EMIT slept();
+    }
+    void wake() {
+        if (std::exchange(m_asleep, false)) Q_EMIT woke();
+    }
+
+    /// Notifies each time, also of what holds already, as no source of the program does.
+    void tellSleep() {
         m_asleep = true;
         Q_EMIT slept();
     }
-    void wake() {
+    void tellWake() {
         m_asleep = false;
         Q_EMIT woke();
     }

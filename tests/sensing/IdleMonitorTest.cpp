@@ -1,17 +1,9 @@
-#include "sensing/IdleMonitor.h"
-
-#include "fakes/FakeIdleSource.h"
-#include "fakes/FakeScreenPower.h"
-#include "fakes/MemoryPreferences.h"
+#include "sensing/IdleMonitorWorld.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <memory>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace vantle {
 namespace {
@@ -20,47 +12,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr double kPoll = IdleMonitor::pollInterval;
-
-class IdleMonitorTest : public testing::Test {
-protected:
-    IdleMonitorTest() { listenTo(*monitor); }
-
-    void listenTo(IdleMonitor& which) {
-        which.onIdleBegan = [this, &which](double seconds) {
-            EXPECT_TRUE(which.isIdle()) << "the flag is set before its callback runs";
-            calls.push_back("away " + QString::number(seconds).toStdString());
-        };
-        which.onActivityResumed = [this, &which] {
-            EXPECT_FALSE(which.isIdle()) << "the flag is set before its callback runs";
-            calls.emplace_back("back");
-        };
-        which.onScreensSlept = [this, &which] {
-            EXPECT_TRUE(which.isIdle()) << "the flag is set before its callback runs";
-            calls.emplace_back("screens slept");
-        };
-    }
-
-    /// What was called since the last question.
-    std::vector<std::string> takeCalls() { return std::exchange(calls, {}); }
-
-    void setThreshold(double seconds) {
-        preferences.setNumber(QLatin1String(IdleMonitor::thresholdDefaultsKey), seconds);
-    }
-
-    /// The person works for that long, with a keystroke just before each poll.
-    void workFor(double seconds) {
-        source.fix(0.25);
-        time.advance(seconds);
-    }
-
-    fakes::VirtualTime time;
-    fakes::FakeIdleSource source{time};
-    fakes::FakeScreenPower screens;
-    fakes::MemoryPreferences preferences;
-    std::unique_ptr<IdleMonitor> monitor =
-        std::make_unique<IdleMonitor>(time, time, source, screens, preferences);
-    std::vector<std::string> calls;
-};
 
 // The threshold
 
@@ -289,7 +240,7 @@ TEST_F(IdleMonitorTest, ReadsAtOnceWhenTheScreensWake) {
     takeCalls();
     source.fix(0.25);
     screens.wake();
-    EXPECT_THAT(takeCalls(), ElementsAre("back"));
+    EXPECT_THAT(takeCalls(), ElementsAre("back", "screens woke"));
     EXPECT_FALSE(monitor->isIdle());
 }
 
@@ -326,6 +277,36 @@ TEST_F(IdleMonitorTest, RefusesAStretchInWhichTheScreensSlept) {
     EXPECT_FALSE(monitor->wasActiveForLast(20));
     EXPECT_TRUE(monitor->wasActiveForLast(19));
     EXPECT_TRUE(monitor->wasActiveForLast(15));
+}
+
+TEST_F(IdleMonitorTest, TellsOfTheWakeOnceThePersonIsBack) {
+    source.growFrom(0);
+    monitor->start();
+    screens.sleep();
+    time.advance(30);
+    EXPECT_THAT(takeCalls(), ElementsAre("screens slept", "back"));
+    EXPECT_TRUE(monitor->screensSleep());
+    screens.wake();
+    EXPECT_THAT(takeCalls(), ElementsAre("screens woke"));
+}
+
+TEST_F(IdleMonitorTest, DoubtsASleepInWhichSomebodyTypesForAMinute) {
+    source.fix(0.25);
+    monitor->start();
+    screens.sleep();
+    time.advance(50);
+    EXPECT_THAT(takeCalls(), ElementsAre("screens slept", "back"));
+    source.fix(20);
+    time.advance(10);
+    source.fix(0.25);
+    time.advance(50);
+    EXPECT_THAT(takeCalls(), IsEmpty());
+    EXPECT_TRUE(monitor->screensSleep());
+    time.advance(10);
+    EXPECT_THAT(takeCalls(), ElementsAre("screens woke"));
+    time.advance(300);
+    screens.wake();
+    EXPECT_THAT(takeCalls(), ElementsAre("screens woke")) << "the late wake changes nothing";
 }
 
 // What can be confirmed
@@ -412,6 +393,17 @@ TEST_F(IdleMonitorTest, LeavesAPersonWhoIsAwayAwayWhileTheCounterIsUnknown) {
     source.fix(1);
     time.advance(kPoll);
     EXPECT_THAT(takeCalls(), ElementsAre("back"));
+}
+
+TEST_F(IdleMonitorTest, EndsAPauseOfSleepingScreensWhenTheyWakeWithoutACounter) {
+    source.becomeUnknown();
+    monitor->start();
+    screens.sleep();
+    time.advance(600);
+    EXPECT_THAT(takeCalls(), ElementsAre("screens slept"));
+    screens.wake();
+    EXPECT_THAT(takeCalls(), ElementsAre("back", "screens woke"));
+    EXPECT_FALSE(monitor->isIdle());
 }
 
 TEST_F(IdleMonitorTest, ConfirmsNothingOnceTheCounterIsUnknown) {

@@ -69,10 +69,10 @@ TEST(ScreenPowerUnion, TellsOneSleepHoweverManySourcesOverlap) {
 
 TEST(ScreenPowerUnion, IgnoresASourceThatRepeatsItself) {
     Screens screens;
-    screens.sources[0]->wake();
+    screens.sources[0]->tellWake();
     EXPECT_THAT(screens.edges, IsEmpty());
-    screens.sources[0]->sleep();
-    screens.sources[0]->sleep();
+    screens.sources[0]->tellSleep();
+    screens.sources[0]->tellSleep();
     EXPECT_THAT(screens.edges, ElementsAre("slept"));
 }
 
@@ -96,9 +96,9 @@ RC_GTEST_PROP(ScreenPowerUnion, AlternatesItsEdgesAndSleepsExactlyWhileASourceDo
     for (const bool sleep : sleeps) {
         FakeScreenPower& source = *screens.sources[*rc::gen::inRange<std::size_t>(0, 3)];
         if (sleep)
-            source.sleep();
+            source.tellSleep();
         else
-            source.wake();
+            source.tellWake();
         const bool any = std::ranges::any_of(screens.sources, &FakeScreenPower::asleep);
         RC_ASSERT(screens.all->asleep() == any);
     }

@@ -67,9 +67,9 @@ private:
         else if (op == QLatin1String("idle"))
             setIdle(event);
         else if (op == QLatin1String("screensSleep"))
-            m_screens.sleep();
+            m_screens.tellSleep();
         else if (op == QLatin1String("screensWake"))
-            m_screens.wake();
+            m_screens.tellWake();
         else if (op == QLatin1String("pref"))
             setThreshold(event[QLatin1String("value")]);
         else
