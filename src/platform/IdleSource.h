@@ -13,8 +13,9 @@ class IdleSource : public QObject {
 
 public:
     /// Seconds since the last input of this desktop session: keys, modifiers, buttons, motion and
-    /// wheel. Empty where the desktop can't tell, or can't tell now; that is neither presence nor
-    /// absence, and is never taken for either. One round trip to the display server at the most.
+    /// wheel. Sleep of the machine is part of them, although most counters stand still in it. Empty
+    /// where the desktop can't tell, or can't tell now; that is neither presence nor absence, and
+    /// is never taken for either. One round trip to the display server at the most.
     [[nodiscard]] virtual std::optional<double> secondsSinceLastInput() = 0;
 
     /// Whether this desktop can tell at all. True also where a single reading is empty.

@@ -12,7 +12,8 @@ using tests::await;
 
 TEST(X11IdleSource, GrowsWithoutInputAndFallsAtMotionAndAtKeys) {
     X11Connection connection;
-    X11IdleSource source(connection);
+    const SystemClock clock;
+    X11IdleSource source(connection, clock);
     for (const auto& input :
          {QStringLiteral("xdotool mousemove_relative 3 3"), QStringLiteral("xdotool key shift"),
           QStringLiteral("xdotool click 4")}) {
@@ -24,25 +25,60 @@ TEST(X11IdleSource, GrowsWithoutInputAndFallsAtMotionAndAtKeys) {
 
 TEST(X11IdleSource, ShowingTheScreenSaverIsNoInput) {
     X11Connection connection;
-    X11IdleSource source(connection);
+    const SystemClock clock;
+    X11IdleSource source(connection, clock);
     ASSERT_TRUE(await([&] { return source.secondsSinceLastInput().value() > 0.4; }));
     ASSERT_TRUE(tests::run(QStringLiteral("xset s activate")));
     EXPECT_GT(source.secondsSinceLastInput().value(), 0.4);
     ASSERT_TRUE(tests::run(QStringLiteral("xset s reset")));
 }
 
+/// The machine's clock, with sleep added on top.
+class SleptClock final : public Clock {
+public:
+    [[nodiscard]] Date now() const override { return m_clock.now() + slept; }
+    [[nodiscard]] Uptime uptime() const override {
+        Uptime uptime = m_clock.uptime();
+        uptime.total += slept;
+        return uptime;
+    }
+    Seconds slept{};
+
+private:
+    SystemClock m_clock;
+};
+
+TEST(X11IdleSource, SleepOfTheMachineIsPartOfTheTimeWithoutInput) {
+    X11Connection connection;
+    SleptClock clock;
+    X11IdleSource source(connection, clock);
+    ASSERT_TRUE(tests::run(QStringLiteral("xdotool mousemove_relative 3 3")));
+    EXPECT_LT(source.secondsSinceLastInput().value(), 0.5);
+    ASSERT_TRUE(await([&] { return source.secondsSinceLastInput().value() > 0.4; }));
+    clock.slept = Seconds(3600);
+    EXPECT_GT(source.secondsSinceLastInput().value(), 3600.4);
+    EXPECT_GT(source.secondsSinceLastInput().value(), 3600.4) << "and stays so";
+    clock.slept = Seconds(7200);
+    EXPECT_GT(source.secondsSinceLastInput().value(), 7200.4);
+    ASSERT_TRUE(await([&] { return source.secondsSinceLastInput().value() > 7201.5; }));
+    ASSERT_TRUE(tests::run(QStringLiteral("xdotool mousemove_relative 3 3")));
+    EXPECT_LT(source.secondsSinceLastInput().value(), 0.5);
+}
+
 TEST(X11IdleSource, IsEmptyWithoutTheExtension) {
     tests::OwnServer server({QStringLiteral("-extension"), QStringLiteral("MIT-SCREEN-SAVER")});
     X11Connection connection(server.display());
     ASSERT_TRUE(connection.isAlive());
-    X11IdleSource source(connection);
+    const SystemClock clock;
+    X11IdleSource source(connection, clock);
     EXPECT_EQ(source.secondsSinceLastInput(), std::nullopt);
     EXPECT_FALSE(source.canTell());
 }
 
 TEST(X11IdleSource, IsEmptyWithoutAServer) {
     X11Connection connection(":4711");
-    X11IdleSource source(connection);
+    const SystemClock clock;
+    X11IdleSource source(connection, clock);
     EXPECT_EQ(source.secondsSinceLastInput(), std::nullopt);
     EXPECT_FALSE(source.canTell());
 }
@@ -50,7 +86,8 @@ TEST(X11IdleSource, IsEmptyWithoutAServer) {
 TEST(X11IdleSource, IsEmptyAfterTheServerWentAway) {
     tests::OwnServer server;
     X11Connection connection(server.display());
-    X11IdleSource source(connection);
+    const SystemClock clock;
+    X11IdleSource source(connection, clock);
     ASSERT_TRUE(source.secondsSinceLastInput().has_value());
     EXPECT_TRUE(source.canTell());
     int changes = 0;

@@ -1,5 +1,6 @@
 #include "app/launch/PlatformFactory.h"
 
+#include "base/Clock.h"
 #include "platform/dbus/ApplicationService.h"
 #include "platform/dbus/DesktopReducedMotion.h"
 #include "platform/dbus/PortalSaveDialog.h"
@@ -65,7 +66,7 @@ public:
         : m_events(std::move(events))
         , m_session(QDBusConnection::sessionBus())
         , m_preferences(m_files, configHome() + QStringLiteral("/Vantle/preferences.ini"))
-        , m_idleSource(m_x11)
+        , m_idleSource(m_x11, m_clock)
         , m_screenPower(makeScreenPower(m_x11, scheduler, m_session))
         , m_hotKey(m_x11, scheduler, isWaylandSession())
         , m_applications(DesktopApplications::standardFolders(),
@@ -135,6 +136,7 @@ private:
     QDBusConnection m_session;
     PosixFileSystem m_files;
     X11Connection m_x11;
+    SystemClock m_clock;
     SettingsPreferences m_preferences;
     X11IdleSource m_idleSource;
     std::unique_ptr<ScreenPower> m_screenPower;
