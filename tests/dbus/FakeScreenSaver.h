@@ -1,4 +1,4 @@
-// The session's screen saver and the login manager, as the code under test meets them.
+// A screen saver of the session, as the code under test meets it.
 #pragma once
 
 #include "support/Buses.h"
@@ -44,21 +44,6 @@ public:
 private:
     QString m_name;
     QString m_path;
-    BusClient m_client;
-};
-
-class FakeLoginManager {
-public:
-    FakeLoginManager() { EXPECT_TRUE(m_client.takeName(QStringLiteral("org.freedesktop.login1"))); }
-    void prepareForSleep(bool begins) {
-        auto signal = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/login1"),
-                                                 QStringLiteral("org.freedesktop.login1.Manager"),
-                                                 QStringLiteral("PrepareForSleep"));
-        signal << begins;
-        m_client.bus().send(signal);
-    }
-
-private:
     BusClient m_client;
 };
 

@@ -237,6 +237,7 @@ int HourfoldMain(int argc, char** argv) {
     const bool startedUnasked = takeUnaskedMark();
     const QProcessEnvironment environment = userEnvironment();
     if (!platformfactory::desktopIsReachable()) return kNoDesktop;
+    platformfactory::leaveMuteSessionBus();
     // In a Wayland session the windows are X11 windows, which can be placed and stay on top.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
     // Views are drawn in software: no graphics driver is mapped, and a third of the memory

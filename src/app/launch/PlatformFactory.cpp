@@ -2,7 +2,9 @@
 
 #include "base/Clock.h"
 #include "platform/dbus/ApplicationService.h"
+#include "platform/dbus/BusGreeting.h"
 #include "platform/dbus/DesktopReducedMotion.h"
+#include "platform/dbus/LoginScreenPower.h"
 #include "platform/dbus/PortalSaveDialog.h"
 #include "platform/dbus/SessionScreenPower.h"
 #include "platform/desktop/ApplicationEntry.h"
@@ -55,7 +57,9 @@ std::unique_ptr<ScreenPower> makeScreenPower(X11Connection& x11, Scheduler& sche
     std::vector<std::unique_ptr<ScreenPower>> sources;
     sources.push_back(
         std::make_unique<X11ScreenPower>(x11, scheduler, X11ScreenPower::powerManagement(x11)));
-    sources.push_back(std::make_unique<SessionScreenPower>(session, QDBusConnection::systemBus()));
+    sources.push_back(std::make_unique<SessionScreenPower>(session));
+    sources.push_back(std::make_unique<LoginScreenPower>(LateBus::systemAddress(),
+                                                         qEnvironmentVariable("XDG_SESSION_ID")));
     return std::make_unique<ScreenPowerUnion>(std::move(sources));
 }
 
@@ -168,6 +172,15 @@ bool desktopIsReachable() {
     const bool reachable = xcb_connection_has_error(connection) == 0;
     xcb_disconnect(connection);
     return reachable;
+}
+
+void leaveMuteSessionBus() {
+    constexpr int kLimitMs = 1000;
+    constexpr const char* kVariable = "DBUS_SESSION_BUS_ADDRESS";
+    QByteArray address = qgetenv(kVariable);
+    if (address.isEmpty()) address = "unix:path=" + qgetenv("XDG_RUNTIME_DIR") + "/bus";
+    if (BusGreeting(address).waitForAnswer(kLimitMs) == BusGreeting::Answer::Waiting)
+        qputenv(kVariable, "disabled:");
 }
 
 std::unique_ptr<Platform> makePlatform(Scheduler& scheduler, PlatformEvents events,

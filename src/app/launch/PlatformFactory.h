@@ -76,6 +76,11 @@ namespace platformfactory {
 /// Whether there is a desktop at all. Before the application object, which can't live without one.
 [[nodiscard]] bool desktopIsReachable();
 
+/// Goes on without the session bus where it takes calls and never answers: the toolkit connects to
+/// it at its start and would wait for a minute. A second at the most, and only there. Before the
+/// application object.
+void leaveMuteSessionBus();
+
 /// `environment` is what programs that are started find.
 [[nodiscard]] std::unique_ptr<Platform> makePlatform(Scheduler& scheduler, PlatformEvents events,
                                                      QProcessEnvironment environment);

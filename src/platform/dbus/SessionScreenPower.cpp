@@ -2,73 +2,62 @@
 
 #include "platform/dbus/AnswerLimit.h"
 
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
+#include <QStringList>
 
 namespace vantle {
 
 namespace {
 
-enum Cause : unsigned { FreedesktopCause, GnomeCause, SuspensionCause };
+/// Names of service and interface alike; the index of each is its cause.
+const QStringList kScreenSavers{
+    QStringLiteral("org.freedesktop.ScreenSaver"), QStringLiteral("org.gnome.ScreenSaver"),
+    QStringLiteral("org.mate.ScreenSaver"), QStringLiteral("org.cinnamon.ScreenSaver"),
+    QStringLiteral("org.xfce.ScreenSaver")};
+
+/// The object that answers; signals may come from others.
+QString pathOf(const QString& name) { return u'/' + QString(name).replace(u'.', u'/'); }
 
 } // namespace
 
-/// A service of the screen saver kind. They share interface and behaviour under different names.
-struct SessionScreenPower::ScreenSaver {
-    QString name; ///< of service and interface alike
-    QString path; ///< of the object that answers; signals may come from others
-    unsigned cause;
-    const char* slot;
-};
-
-SessionScreenPower::SessionScreenPower(const QDBusConnection& session,
-                                       const QDBusConnection& system) {
-    follow(session, {QStringLiteral("org.freedesktop.ScreenSaver"),
-                     QStringLiteral("/org/freedesktop/ScreenSaver"), FreedesktopCause,
-                     SLOT(takeFreedesktopActive(bool))});
-    follow(session,
-           {QStringLiteral("org.gnome.ScreenSaver"), QStringLiteral("/org/gnome/ScreenSaver"),
-            GnomeCause, SLOT(takeGnomeActive(bool))});
-
-    QDBusConnection(system).connect(
-        QStringLiteral("org.freedesktop.login1"), QStringLiteral("/org/freedesktop/login1"),
-        QStringLiteral("org.freedesktop.login1.Manager"), QStringLiteral("PrepareForSleep"), this,
-        SLOT(takeSuspension(bool)));
+SessionScreenPower::SessionScreenPower(const QDBusConnection& session) : m_session(session) {
+    if (!m_session.isConnected()) return;
+    for (int i = 0; i < kScreenSavers.size(); ++i)
+        follow(static_cast<unsigned>(i), kScreenSavers[i]);
 }
 
-void SessionScreenPower::follow(const QDBusConnection& session, const ScreenSaver& screenSaver) {
-    if (!session.isConnected()) return;
+void SessionScreenPower::follow(unsigned cause, const QString& name) {
     // From any path: some services signal on an older one.
-    QDBusConnection(session).connect(screenSaver.name, QString(), screenSaver.name,
-                                     QStringLiteral("ActiveChanged"), this, screenSaver.slot);
-    auto* watcher = new QDBusServiceWatcher(screenSaver.name, session,
-                                            QDBusServiceWatcher::WatchForOwnerChange, this);
+    m_session.connect(name, QString(), name, QStringLiteral("ActiveChanged"), this,
+                      SLOT(takeActive(QDBusMessage)));
+    auto* watcher =
+        new QDBusServiceWatcher(name, m_session, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this, session, screenSaver](const QString&, const QString&, const QString& newOwner) {
-                setCause(screenSaver.cause, false); // what the old one said died with it
-                if (!newOwner.isEmpty()) askWhetherActive(session, screenSaver);
+            [this, cause, name](const QString&, const QString&, const QString& newOwner) {
+                setCause(cause, false); // what the old one said died with it
+                if (!newOwner.isEmpty()) askWhetherActive(cause, name);
             });
-    askWhetherActive(session, screenSaver);
+    askWhetherActive(cause, name);
 }
 
-void SessionScreenPower::askWhetherActive(const QDBusConnection& session,
-                                          const ScreenSaver& screenSaver) {
-    auto call = QDBusMessage::createMethodCall(screenSaver.name, screenSaver.path, screenSaver.name,
-                                               QStringLiteral("GetActive"));
+void SessionScreenPower::askWhetherActive(unsigned cause, const QString& name) {
+    auto call =
+        QDBusMessage::createMethodCall(name, pathOf(name), name, QStringLiteral("GetActive"));
     call.setAutoStartService(false);
-    auto* answer = new QDBusPendingCallWatcher(session.asyncCall(call, kAnswerLimitMs), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this,
-            [this, answer, cause = screenSaver.cause] {
-                answer->deleteLater();
-                const QDBusPendingReply<bool> reply = *answer;
-                if (reply.isValid()) setCause(cause, reply.value());
-            });
+    auto* answer = new QDBusPendingCallWatcher(m_session.asyncCall(call, kAnswerLimitMs), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, cause] {
+        answer->deleteLater();
+        const QDBusPendingReply<bool> reply = *answer;
+        if (reply.isValid()) setCause(cause, reply.value());
+    });
 }
 
-void SessionScreenPower::takeFreedesktopActive(bool active) { setCause(FreedesktopCause, active); }
-void SessionScreenPower::takeGnomeActive(bool active) { setCause(GnomeCause, active); }
-void SessionScreenPower::takeSuspension(bool begins) { setCause(SuspensionCause, begins); }
+void SessionScreenPower::takeActive(const QDBusMessage& signal) {
+    const auto cause = kScreenSavers.indexOf(signal.interface());
+    if (cause < 0 || signal.arguments().isEmpty()) return;
+    setCause(static_cast<unsigned>(cause), signal.arguments().constFirst().toBool());
+}
 
 } // namespace vantle

@@ -1,14 +1,15 @@
-// Display sleep as the desktop session and the login manager tell it.
+// The screen savers and lockers of desktop sessions.
 #pragma once
 
 #include "platform/CausedScreenPower.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 
 namespace vantle {
 
-/// Asleep while the session's screen saver or lock is active (org.freedesktop.ScreenSaver,
-/// org.gnome.ScreenSaver), or the machine is suspended (org.freedesktop.login1).
+/// Asleep while a screen saver of the session is active or locks: org.freedesktop.ScreenSaver and
+/// those of GNOME, MATE, Cinnamon and Xfce, which share its interface under names of their own.
 ///
 /// A service that is not there, and a bus that is not there, never sleep. Services may come, go and
 /// come back. Nothing blocks: a screen saver that is active at the start is told by `slept` as soon
@@ -17,18 +18,16 @@ class SessionScreenPower final : public CausedScreenPower {
     Q_OBJECT
 
 public:
-    /// The two buses, which may be the same.
-    SessionScreenPower(const QDBusConnection& session, const QDBusConnection& system);
+    explicit SessionScreenPower(const QDBusConnection& session);
 
 private Q_SLOTS:
-    void takeFreedesktopActive(bool active);
-    void takeGnomeActive(bool active);
-    void takeSuspension(bool begins);
+    void takeActive(const QDBusMessage& signal);
 
 private:
-    struct ScreenSaver;
-    void follow(const QDBusConnection& session, const ScreenSaver& screenSaver);
-    void askWhetherActive(const QDBusConnection& session, const ScreenSaver& screenSaver);
+    void follow(unsigned cause, const QString& name);
+    void askWhetherActive(unsigned cause, const QString& name);
+
+    QDBusConnection m_session;
 };
 
 } // namespace vantle
