@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <string_view>
+
 namespace vantle {
 namespace {
 
@@ -101,6 +104,55 @@ TEST_F(X11ScreenPowerTest, DarkDisplayUnderAScreenSaverIsOneSleep) {
     m_time.advance(5);
     EXPECT_EQ(told.slept, 1);
     EXPECT_EQ(told.woke, 1);
+}
+
+/// Says the state of the screen as xscreensaver does: an atom, or 0, and when that began.
+void sayStatus(X11Connection& client, std::string_view state) {
+    const auto atomOf = [&client](std::string_view name) {
+        const auto length = static_cast<std::uint16_t>(name.size());
+        return client
+            .reply<xcb_intern_atom_reply>(xcb_intern_atom(client.xcb(), 0, length, name.data()))
+            ->atom;
+    };
+    const std::array<std::uint32_t, 2> status{state.empty() ? 0U : atomOf(state), 1'700'000'000U};
+    EXPECT_EQ(client.check(xcb_change_property_checked(
+                  client.xcb(), XCB_PROP_MODE_REPLACE, client.root(), atomOf("_SCREENSAVER_STATUS"),
+                  XCB_ATOM_INTEGER, 32, status.size(), status.data())),
+              0);
+}
+
+TEST_F(X11ScreenPowerTest, BlankedOrLockedScreenOfXscreensaverIsASleep) {
+    tests::OwnServer server;
+    X11Connection connection(server.display());
+    X11Connection locker(server.display());
+    X11ScreenPower power(connection, m_time, {});
+    Told told(power);
+    sayStatus(locker, "");
+    catchUp(connection);
+    EXPECT_FALSE(power.asleep());
+    for (const std::string_view state : {"BLANK", "LOCK"}) {
+        sayStatus(locker, state);
+        catchUp(connection);
+        EXPECT_TRUE(power.asleep());
+    }
+    EXPECT_TRUE(X11ScreenPower(connection, m_time, {}).asleep()) << "from the start";
+    EXPECT_EQ(told.slept, 1);
+    sayStatus(locker, "");
+    catchUp(connection);
+    EXPECT_FALSE(power.asleep());
+    EXPECT_EQ(told.woke, 1);
+}
+
+TEST_F(X11ScreenPowerTest, EventsThatOthersSelectedOnTheRootWindowStillCome) {
+    tests::OwnServer server;
+    X11Connection connection(server.display());
+    const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    xcb_change_window_attributes(connection.xcb(), connection.root(), XCB_CW_EVENT_MASK, &mask);
+    const X11ScreenPower power(connection, m_time, {});
+    const auto root = connection.reply<xcb_get_window_attributes_reply>(
+        xcb_get_window_attributes(connection.xcb(), connection.root()));
+    EXPECT_EQ(root->your_event_mask,
+              XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE);
 }
 
 TEST_F(X11ScreenPowerTest, NothingIsPolledWithoutPowerManagement) {

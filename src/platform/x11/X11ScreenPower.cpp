@@ -3,11 +3,14 @@
 #include <xcb/dpms.h>
 #include <xcb/screensaver.h>
 
+#include <cstring>
+#include <string_view>
+
 namespace vantle {
 
 namespace {
 
-enum Cause : unsigned { DisplaysOffCause, ScreenSaverCause };
+enum Cause : unsigned { DisplaysOffCause, ScreenSaverCause, StatusCause };
 
 // Often enough that a pause starts about when the screen went dark; one round trip each.
 constexpr Seconds kPollInterval{3.0};
@@ -37,10 +40,12 @@ X11ScreenPower::X11ScreenPower(X11Connection& connection, Scheduler& scheduler,
         m_poll = scheduler.scheduleRepeatingTimer(kPollInterval, kPollTolerance, poll);
     }
     followScreenSaver();
+    followStatus();
     connect(&connection, &X11Connection::broken, this, [this] {
         m_poll.reset();
         setCause(DisplaysOffCause, false);
         setCause(ScreenSaverCause, false);
+        setCause(StatusCause, false);
     });
 }
 
@@ -60,6 +65,35 @@ void X11ScreenPower::followScreenSaver() {
     const auto info = m_connection.reply<xcb_screensaver_query_info_reply>(
         xcb_screensaver_query_info(m_connection.xcb(), m_connection.root()));
     if (info && info->state == XCB_SCREENSAVER_STATE_ON) setCause(ScreenSaverCause, true);
+}
+
+void X11ScreenPower::followStatus() {
+    if (!m_connection.isAlive()) return;
+    static constexpr std::string_view kName = "_SCREENSAVER_STATUS";
+    const auto atom = m_connection.reply<xcb_intern_atom_reply>(
+        xcb_intern_atom(m_connection.xcb(), 0, kName.size(), kName.data()));
+    if (!atom) return;
+    m_statusAtom = atom->atom;
+    m_properties = m_connection.subscribe(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
+        const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
+        if (change.window == m_connection.root() && change.atom == m_statusAtom) readStatus();
+    });
+    // Others of this connection select events of the same window, and each request replaces all.
+    const auto root = m_connection.reply<xcb_get_window_attributes_reply>(
+        xcb_get_window_attributes(m_connection.xcb(), m_connection.root()));
+    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE | (root ? root->your_event_mask : 0U);
+    xcb_change_window_attributes(m_connection.xcb(), m_connection.root(), XCB_CW_EVENT_MASK, &mask);
+    readStatus();
+}
+
+void X11ScreenPower::readStatus() {
+    // The first of its numbers is an atom, BLANK or LOCK; 0 while the screen shows the desktop.
+    const auto status = m_connection.reply<xcb_get_property_reply>(xcb_get_property(
+        m_connection.xcb(), 0, m_connection.root(), m_statusAtom, XCB_GET_PROPERTY_TYPE_ANY, 0, 1));
+    std::uint32_t state = 0;
+    if (status && status->format == 32 && status->value_len > 0)
+        std::memcpy(&state, xcb_get_property_value(status.get()), sizeof state);
+    setCause(StatusCause, state != 0);
 }
 
 } // namespace vantle

@@ -9,9 +9,10 @@
 
 namespace vantle {
 
-/// Asleep while the power management holds the displays below "on", or the server's screen saver
-/// shows. What the server holds at the start counts at once. Where it lacks an extension, that
-/// cause never holds; a server that goes away wakes the screens.
+/// Asleep while the power management holds the displays below "on", the server's screen saver
+/// shows, or xscreensaver says on the root window that it has blanked or locked the screen. What
+/// the server holds at the start counts at once. Where it lacks an extension, that cause never
+/// holds; a server that goes away wakes the screens.
 class X11ScreenPower final : public CausedScreenPower {
     Q_OBJECT
 
@@ -28,11 +29,15 @@ public:
 
 private:
     void followScreenSaver();
+    void followStatus();
+    void readStatus();
 
     X11Connection& m_connection;
     DisplaysOff m_displaysOff;
     TimerHandle m_poll;
     X11Connection::Subscription m_screenSaver;
+    xcb_atom_t m_statusAtom = XCB_ATOM_NONE;
+    X11Connection::Subscription m_properties;
 };
 
 } // namespace vantle
