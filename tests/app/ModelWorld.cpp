@@ -184,6 +184,8 @@ ModelWorld::~ModelWorld() = default;
 
 AppModel& ModelWorld::launch() {
     skills = std::make_unique<SkillList>(paths, ioQueue, preferences);
+    Collaborators collaborators = recordingCollaborators(told);
+    if (furnish) furnish(collaborators);
     model = std::make_unique<AppModel>(
         AppModel::Environment{.clock = time,
                               .scheduler = time,
@@ -203,7 +205,7 @@ AppModel& ModelWorld::launch() {
                                       return Calendar{QStringLiteral("UTC"), 2, 4};
                                   },
                               .terminate = [this] { ++terminations; }},
-        recordingCollaborators(told));
+        std::move(collaborators));
     settle();
     return *model;
 }

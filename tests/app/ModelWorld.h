@@ -91,6 +91,8 @@ public:
     AppPaths paths{files, QStringLiteral("/home/ada/.local/share")};
     Told told;
     int terminations = 0;
+    /// Puts something else in the place of collaborators that only write down, at each launch.
+    std::function<void(Collaborators&)> furnish;
 
     std::unique_ptr<SkillList> skills;
     std::unique_ptr<AppModel> model;

@@ -1,0 +1,336 @@
+#include "sim/Life.h"
+
+#include "app/launch/AutoSkillAdapter.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vantle::tests {
+
+namespace {
+
+using State = TrackerCore::State;
+
+constexpr double kHour = 3600.0;
+
+/// Some that auto mode knows, one that it asks about, a browser, and none at all.
+std::optional<Application> application(std::size_t which) {
+    static const std::array<Application, 6> all{
+        Application{QStringLiteral("com.microsoft.VSCode"), QStringLiteral("Code")},
+        Application{QStringLiteral("com.figma.Desktop"), QStringLiteral("Figma")},
+        Application{QStringLiteral("com.hnc.Discord"), QStringLiteral("Discord")},
+        Application{QStringLiteral("notion.id"), QStringLiteral("Notion")},
+        Application{QStringLiteral("org.example.Unheard"), QStringLiteral("Unheard")},
+        Application{QStringLiteral("browser"), QStringLiteral("Browser")}};
+    return which < all.size() ? std::optional(all[which]) : std::nullopt;
+}
+
+/// Passes all on to a monitor, which outlives it.
+class CountingAutoSkill final : public collaborators::AutoSkill {
+public:
+    CountingAutoSkill(AutoSkillMonitor& monitor, Life& life) : m_adapter(monitor), m_life(life) {}
+    void setHooks(Hooks hooks) override {
+        hooks.onAutoStart = [this, start = std::move(hooks.onAutoStart)](const QString& id) {
+            ++m_life.sessionsByItself;
+            start(id);
+        };
+        hooks.onRetagSuggested = [this,
+                                  split = std::move(hooks.onRetagSuggested)](const QString& id) {
+            ++m_life.splits;
+            split(id);
+        };
+        m_adapter.setHooks(std::move(hooks));
+    }
+    void refreshFromDefaults() override { m_adapter.refreshFromDefaults(); }
+    void clearSessionOverrides() override { m_adapter.clearSessionOverrides(); }
+    void noteManualSkillChoice() override { m_adapter.noteManualSkillChoice(); }
+    std::optional<Application> frontmostAppForCorrection() override {
+        return m_adapter.frontmostAppForCorrection();
+    }
+    std::optional<QString> ruling(const QString& id) override { return m_adapter.ruling(id); }
+    bool mayOfferCorrectionPrompt(const QString& id) override {
+        return m_adapter.mayOfferCorrectionPrompt(id);
+    }
+    void setRule(const QString& id, const QString& ruling) override {
+        m_adapter.setRule(id, ruling);
+    }
+    void forgetPromptOffer(const QString& id) override { m_adapter.forgetPromptOffer(id); }
+    void noteTagPromptResolved(const QString& id) override { m_adapter.noteTagPromptResolved(id); }
+    void removeRules(const QString& id) override { m_adapter.removeRules(id); }
+    void eraseAllData() override { m_adapter.eraseAllData(); }
+    void drainPendingIO() override { m_adapter.drainPendingIO(); }
+    bool isBrowser(const QString& id, const QString& name) override {
+        return m_adapter.isBrowser(id, name);
+    }
+
+private:
+    AutoSkillAdapter m_adapter;
+    Life& m_life;
+};
+
+} // namespace
+
+Life::Life(std::uint32_t seed) : m_random(seed) {
+    world.time.attach(m_autoQueue);
+    world.preferences.setBoolean(QLatin1String(AutoSkillMonitor::autoStartKey), pick(3) != 0);
+    world.furnish = [this](Collaborators& all) {
+        m_auto = std::make_unique<AutoSkillMonitor>(AutoSkillMonitor::Environment{
+            world.time, world.time, m_autoQueue, world.paths, world.preferences, *world.skills,
+            world.frontmost, world.idleSource, QStringLiteral("local.vantle.Vantle")});
+        all.autoSkill = std::make_unique<CountingAutoSkill>(*m_auto, *this);
+    };
+    launch();
+}
+
+Life::~Life() { end(); }
+
+std::size_t Life::pick(std::size_t count) {
+    return std::uniform_int_distribution<std::size_t>(0, count - 1)(m_random);
+}
+
+double Life::seconds(double least, double most) {
+    return std::uniform_real_distribution(least, most)(m_random);
+}
+
+void Life::launch() {
+    world.launch();
+    promises.noteLaunch();
+}
+
+void Life::end() {
+    m_autoQueue.dropAll();
+    world.ioQueue.dropAll();
+    world.model.reset();
+    m_auto.reset();
+    world.kill();
+    loseOffer();
+}
+
+void Life::loseOffer() { world.told.recoveryKeep = nullptr; }
+
+QStringList Life::day() {
+    static constexpr std::array<Deed, 20> deeds{{{"work", &Life::work},
+                                                 {"work", &Life::work},
+                                                 {"work", &Life::work},
+                                                 {"press", &Life::press},
+                                                 {"press", &Life::press},
+                                                 {"press", &Life::press},
+                                                 {"away", &Life::beAway},
+                                                 {"skill", &Life::changeSkill},
+                                                 {"lock", &Life::lock},
+                                                 {"lock and suspend", &Life::lockAndSuspend},
+                                                 {"suspend", &Life::suspend},
+                                                 {"freeze", &Life::freeze},
+                                                 {"no counter", &Life::loseCounter},
+                                                 {"clock", &Life::setClock},
+                                                 {"disk", &Life::breakDisk},
+                                                 {"die", &Life::die},
+                                                 {"log by hand", &Life::logByHand},
+                                                 {"edit", &Life::editLog},
+                                                 {"garbage", &Life::writeGarbage},
+                                                 {"quit", &Life::quitAndReturn}}};
+    static constexpr std::array<Deed, 4> nights{{{"night asleep", &Life::sleepThroughNight},
+                                                 {"night asleep", &Life::sleepThroughNight},
+                                                 {"night off", &Life::switchOff},
+                                                 {"night on", &Life::stayOn}}};
+    for (std::size_t left = 4 + pick(10); left > 0; --left)
+        if (const auto broken = perform(deeds[pick(deeds.size())]); !broken.isEmpty())
+            return broken;
+    return perform(nights[pick(nights.size())]);
+}
+
+QStringList Life::perform(const Deed& deed) {
+    m_story << QLatin1String(deed.name);
+    if (m_story.size() > 12) m_story.removeFirst();
+    (this->*deed.act)();
+    if (pick(2) == 0) answerOffer();
+    if (pick(2) == 0) answerPrompt();
+    world.settle();
+    return std::exchange(m_brokenByDeed, {}) + promises.broken();
+}
+
+void Life::work() {
+    switchApplication();
+    for (double left = seconds(60, 4000); left > 0; left -= 20.0) {
+        world.idleSource.touch();
+        world.time.advance(std::min(left, 20.0));
+        if (pick(20) == 0) switchApplication();
+    }
+}
+
+void Life::switchApplication() { world.frontmost.activate(application(pick(7))); }
+
+void Life::press() {
+    // A session writes its marker over that of an offer that is still open.
+    if (tracker().state() == State::Idle) loseOffer();
+    world.idleSource.touch();
+    world.press();
+}
+
+void Life::beAway() { world.time.advance(seconds(10, 4000)); }
+
+void Life::changeSkill() {
+    const auto& skills = world.model->skills();
+    world.model->selectSkill(skills[pick(skills.size())].id, AppModel::SkillSelectionOrigin::Human);
+}
+
+void Life::lock() {
+    world.screens.sleep();
+    promises.noteUnable(true);
+    world.time.advance(seconds(1, 4000));
+    if (pick(2) == 0) world.idleSource.touch(); // the password
+    world.time.advance(seconds(0, 8));
+    promises.noteUnable(false);
+    world.screens.wake();
+}
+
+void Life::lockAndSuspend() {
+    world.screens.sleep();
+    promises.noteUnable(true);
+    world.time.advance(seconds(0, 200));
+    world.time.suspend(seconds(60, 3 * kHour));
+    world.time.advance(seconds(0, 200));
+    promises.noteUnable(false);
+    world.screens.wake();
+}
+
+void Life::suspend() {
+    world.time.suspend(seconds(2, 3 * kHour));
+    if (pick(2) == 0) world.idleSource.touch(); // before any timer
+    if (pick(4) == 0) press();
+    world.time.advance(seconds(0, 20));
+}
+
+void Life::freeze() {
+    promises.noteUnable(true);
+    world.time.freeze(seconds(25, 2000));
+    promises.noteUnable(false);
+    if (pick(4) == 0) press();
+    world.time.advance(seconds(0, 20));
+}
+
+void Life::loseCounter() {
+    world.idleSource.becomeUnknown();
+    world.time.advance(seconds(0, 1000));
+    if (pick(2) == 0) lock();
+    world.idleSource.touch();
+}
+
+void Life::setClock() {
+    world.time.shiftWall(seconds(-4000, 4000));
+    promises.noteClockSet();
+}
+
+void Life::breakDisk() {
+    promises.noteDiskBroken(true);
+    world.breakWrites(QStringLiteral("sessions.jsonl"), true);
+    if (pick(2) == 0) world.breakWrites(QStringLiteral("open-session.json"), true);
+    for (int deed = 0; deed < 3; ++deed) {
+        work();
+        press();
+    }
+    healDisk();
+}
+
+void Life::healDisk() {
+    world.breakWrites(QStringLiteral("sessions.jsonl"), false);
+    world.breakWrites(QStringLiteral("open-session.json"), false);
+    promises.noteDiskBroken(false);
+}
+
+void Life::die() {
+    const auto least = promises.leastOffer();
+    const auto counted = static_cast<double>(tracker().displayActiveSeconds());
+    end();
+    world.told.calls.clear();
+    launch();
+    if (!least) return;
+    ++promises.killsChecked;
+    double offered = -1;
+    for (const QString& call : world.told.calls)
+        if (call.startsWith(QStringLiteral("recovery ")) && !call.endsWith(u'e'))
+            offered = call.sliced(9).toDouble();
+    if (offered < *least)
+        m_brokenByDeed << QStringLiteral("a kill costs a minute: %1 of %2 s offered")
+                              .arg(offered)
+                              .arg(counted);
+    if (offered > counted + 1)
+        m_brokenByDeed << QStringLiteral("a kill invents nothing: %1 of %2 s offered")
+                              .arg(offered)
+                              .arg(counted);
+}
+
+void Life::answerOffer() {
+    if (!world.told.recoveryKeep || tracker().state() != State::Idle) return;
+    const auto answer = pick(2) == 0 ? world.told.recoveryKeep : world.told.recoveryDiscard;
+    loseOffer();
+    answer();
+}
+
+void Life::answerPrompt() {
+    using Outcome = collaborators::TagPrompt::Outcome;
+    if (const auto resolve = std::exchange(world.told.resolveTag, nullptr)) {
+        static constexpr std::array kinds{Outcome::Kind::Tagged, Outcome::Kind::Ignore,
+                                          Outcome::Kind::Dismiss};
+        const auto& skills = world.model->skills();
+        resolve({kinds[pick(kinds.size())], skills[pick(skills.size())].id});
+    }
+    if (const auto resolve = std::exchange(world.told.resolveCorrection, nullptr))
+        resolve(pick(2) == 0);
+}
+
+void Life::logByHand() {
+    (void)world.model->quickLog(world.model->skills().front().id, static_cast<int>(pick(1000)),
+                                QStringLiteral("by\nhand"));
+}
+
+void Life::editLog() {
+    const auto log = world.log();
+    if (log.empty()) return;
+    const QUuid id = log[pick(log.size())].id;
+    if (pick(2) == 0)
+        (void)tracker().updateNote(id, QStringLiteral("a \u2028 note"));
+    else if (tracker().deleteSession(id))
+        promises.noteDelete(id);
+}
+
+void Life::writeGarbage() {
+    // Another program appends a line of its own, whole lines only.
+    const QString path = ModelWorld::file("sessions.jsonl");
+    const QByteArray line = "garbage " + QByteArray::number(++m_garbageCount);
+    world.disk.setContent(path, world.disk.content(path).value_or(QByteArray()) + line + '\n');
+    promises.noteGarbage(line);
+}
+
+void Life::quitAndReturn() {
+    world.model->quit();
+    end();
+    launch();
+}
+
+void Life::sleepThroughNight() {
+    const bool locks = pick(3) != 0;
+    if (locks) {
+        world.screens.sleep();
+        promises.noteUnable(true);
+    }
+    // Some machines wake now and then and go on sleeping.
+    for (std::size_t part = 1 + pick(3); part > 0; --part) {
+        world.time.suspend(seconds(2 * kHour, 4 * kHour));
+        world.time.advance(seconds(0, 15));
+    }
+    if (!locks) return;
+    promises.noteUnable(false);
+    world.screens.wake();
+}
+
+void Life::stayOn() { world.time.advance(seconds(6 * kHour, 10 * kHour)); }
+
+void Life::switchOff() {
+    if (pick(2) == 0) world.model->quit();
+    end();
+    world.time.suspend(seconds(6 * kHour, 10 * kHour));
+    launch();
+}
+
+} // namespace vantle::tests
