@@ -24,15 +24,16 @@ double milliseconds(Date date) { return std::floor(epochSeconds(date) * 1000.0);
 Date fromMilliseconds(double ms) { return dateFromEpoch(ms / 1000.0); }
 
 /// ICU's calendar with these rules, set to `date`; null when ICU can't make one.
-std::unique_ptr<icu::GregorianCalendar> icuCalendar(const Calendar& rules, Date date) {
+std::unique_ptr<icu::Calendar> icuCalendar(const Calendar& rules, Date date) {
     UErrorCode status = U_ZERO_ERROR;
     std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createTimeZone(toIcu(rules.timeZone)));
     if (*zone == icu::TimeZone::getUnknown()) return nullptr;
-    auto calendar = std::make_unique<icu::GregorianCalendar>(
-        zone.release(), icutext::localeNamed(rules.locale), status);
+    std::unique_ptr<icu::Calendar> calendar(icu::Calendar::createInstance(
+        zone.release(), icutext::calendarLocaleNamed(rules.locale), status));
     if (U_FAILURE(status)) return nullptr;
     // The proleptic Gregorian calendar throughout, as in files.
-    calendar->setGregorianChange(-1e18, status);
+    if (auto* const gregorian = dynamic_cast<icu::GregorianCalendar*>(calendar.get()))
+        gregorian->setGregorianChange(-1e18, status);
     calendar->setFirstDayOfWeek(static_cast<UCalendarDaysOfWeek>(rules.firstWeekday));
     calendar->setMinimalDaysInFirstWeek(static_cast<uint8_t>(rules.minimalDays));
     calendar->setTime(milliseconds(date), status);

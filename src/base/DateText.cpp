@@ -14,14 +14,15 @@ struct DateText::Format {
 
 namespace {
 
+using icutext::calendarLocaleNamed;
 using icutext::localeNamed;
 using icutext::toIcu;
 
 std::unique_ptr<icu::SimpleDateFormat> make(const icu::UnicodeString& pattern,
                                             const Calendar& calendar) {
     UErrorCode status = U_ZERO_ERROR;
-    auto format =
-        std::make_unique<icu::SimpleDateFormat>(pattern, localeNamed(calendar.locale), status);
+    auto format = std::make_unique<icu::SimpleDateFormat>(
+        pattern, calendarLocaleNamed(calendar.locale), status);
     if (U_FAILURE(status)) return nullptr;
     format->adoptTimeZone(icu::TimeZone::createTimeZone(toIcu(calendar.timeZone)));
     return format;

@@ -3,36 +3,68 @@
 #include "base/IcuText.h"
 
 #include <unicode/basictz.h>
+#include <unicode/calendar.h>
 #include <unicode/tztrans.h>
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <limits>
+#include <string_view>
 
 namespace vantle {
 
-namespace localtime {
+using localtime::Day;
 
 namespace {
 
 std::chrono::year_month_day civil(Day day) { return std::chrono::sys_days(std::chrono::days(day)); }
 
+Day numberOf(std::chrono::sys_days day) { return day.time_since_epoch().count(); }
+
 } // namespace
 
-int yearOf(Day day) { return static_cast<int>(civil(day).year()); }
+/// How the user's calendar counts years and months.
+struct LocalTime::Years {
+    /// Null for the Gregorian calendar, which is arithmetic. It only counts days, so its zone is of
+    /// no matter.
+    std::unique_ptr<icu::Calendar> calendar;
 
-Day firstOfMonth(Day day) {
-    const auto date = civil(day);
-    return std::chrono::sys_days(date.year() / date.month() / 1).time_since_epoch().count();
-}
+    explicit Years(const QString& locale) {
+        UErrorCode status = U_ZERO_ERROR;
+        calendar.reset(icu::Calendar::createInstance(*icu::TimeZone::getGMT(),
+                                                     icutext::calendarLocaleNamed(locale), status));
+        if (U_FAILURE(status) || calendar->getType() == std::string_view("gregorian"))
+            calendar.reset();
+    }
 
-} // namespace localtime
+    /// A field of the day; 1 where ICU can't tell, as beyond what its calendars reach.
+    [[nodiscard]] int field(UCalendarDateFields which, Day day) const {
+        UErrorCode status = U_ZERO_ERROR;
+        calendar->setTime(static_cast<double>(day * localtime::kSecondsPerDay) * 1000.0, status);
+        const int value = calendar->get(which, status);
+        return U_SUCCESS(status) ? value : 1;
+    }
+
+    [[nodiscard]] Day firstOfYear(int year) const {
+        UErrorCode status = U_ZERO_ERROR;
+        calendar->clear();
+        calendar->set(UCAL_YEAR, year);
+        calendar->set(UCAL_MONTH, 0);
+        calendar->set(UCAL_DATE, 1);
+        const double ms = calendar->getTime(status);
+        const double day = std::floor(ms / 1000.0 / localtime::kSecondsPerDay);
+        return U_SUCCESS(status) ? static_cast<Day>(day) : 0;
+    }
+};
 
 struct LocalTime::Zone {
     std::unique_ptr<const icu::BasicTimeZone> rules;
 };
 
-LocalTime::LocalTime(const Calendar& calendar) : m_firstWeekday(calendar.firstWeekday) {
+LocalTime::LocalTime(const Calendar& calendar)
+    : m_locale(calendar.locale)
+    , m_firstWeekday(calendar.firstWeekday) {
     std::unique_ptr<const icu::TimeZone> zone(
         icu::TimeZone::createTimeZone(icutext::toIcu(calendar.timeZone)));
     if (*zone == icu::TimeZone::getUnknown()) return;
@@ -53,6 +85,33 @@ Date LocalTime::startOfDay(localtime::Day day) {
         stretch = stretchAt(stretch.until);
     const std::int64_t start = std::max(midnight - stretch.offset, stretch.from);
     return dateFromEpoch(static_cast<double>(start));
+}
+
+const LocalTime::Years& LocalTime::years() {
+    if (!m_years) m_years = std::make_unique<Years>(m_locale);
+    return *m_years;
+}
+
+int LocalTime::yearOf(Day day) {
+    if (!years().calendar) return static_cast<int>(civil(day).year());
+    // Asked for day after day: ICU is asked again only in another year.
+    if (day < m_yearBegin || day >= m_yearEnd) {
+        m_year = years().field(UCAL_YEAR, day);
+        m_yearBegin = years().firstOfYear(m_year);
+        m_yearEnd = years().firstOfYear(m_year + 1);
+    }
+    return m_year;
+}
+
+Day LocalTime::firstOfMonth(Day day) {
+    if (years().calendar) return day - years().field(UCAL_DATE, day) + 1;
+    const auto date = civil(day);
+    return numberOf(date.year() / date.month() / 1);
+}
+
+Day LocalTime::firstOfYear(int year) {
+    if (years().calendar) return years().firstOfYear(year);
+    return numberOf(std::chrono::year(year) / 1 / 1);
 }
 
 std::optional<localtime::Day> LocalTime::firstOfWeek(localtime::Day day) const {

@@ -22,9 +22,6 @@ using Day = std::int64_t;
 
 inline constexpr std::int64_t kSecondsPerDay = 86400;
 
-[[nodiscard]] int yearOf(Day day);
-[[nodiscard]] Day firstOfMonth(Day day);
-
 } // namespace localtime
 
 /// The wall clock of one calendar. An unknown zone is read as UTC, and has no weeks, as in
@@ -64,6 +61,14 @@ public:
     /// The first moment of the day after the one that holds `date`.
     [[nodiscard]] Date endOfDay(Date date) { return startOfDay(at(date).day + 1); }
 
+    /// The year of the day, as the user's calendar counts years: the Gregorian, or the locale's
+    /// own, as the Persian in fa_IR.
+    [[nodiscard]] int yearOf(localtime::Day day);
+
+    /// The first day of the month that holds `day`, and of a year; months and years as above.
+    [[nodiscard]] localtime::Day firstOfMonth(localtime::Day day);
+    [[nodiscard]] localtime::Day firstOfYear(int year);
+
     /// The first day of the week that holds `day`, by the calendar's rules. Empty in an unknown
     /// zone.
     [[nodiscard]] std::optional<localtime::Day> firstOfWeek(localtime::Day day) const;
@@ -77,6 +82,8 @@ private:
     };
 
     struct Zone;
+    struct Years;
+    [[nodiscard]] const Years& years();
 
     /// Keeps all arithmetic on whole seconds within its range, and years within std::chrono's.
     static constexpr double kEnd = 9e11;
@@ -92,10 +99,15 @@ private:
     Stretch stretchAt(std::int64_t seconds);
     [[nodiscard]] Stretch askedStretch(std::int64_t seconds) const;
 
+    const QString m_locale;
     int m_firstWeekday;
     std::unique_ptr<const Zone> m_zone; ///< none where the zone is unknown
     Stretch m_stretch;                  ///< of the last question
     std::vector<Stretch> m_known;       ///< all that were asked for, in order
+    std::unique_ptr<Years> m_years;     ///< made at the first question about a year or month
+    int m_year = 0;                     ///< of the last question, with its days
+    localtime::Day m_yearBegin = 0;
+    localtime::Day m_yearEnd = 0;
 };
 
 } // namespace vantle

@@ -3,7 +3,6 @@
 #include "base/LocalTime.h"
 
 #include <algorithm>
-#include <chrono>
 
 namespace vantle {
 
@@ -21,15 +20,9 @@ namespace {
 
 using localtime::Day;
 
-Day dayNumber(int year, unsigned month, unsigned day) {
-    using namespace std::chrono;
-    return sys_days(std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day))
-        .time_since_epoch()
-        .count();
-}
-
-/// The first day of the next month, for the first day of a month.
-Day nextMonth(Day first) { return localtime::firstOfMonth(first + 31); }
+/// The first day of the next month, for the first day of a month. No month has more than 31 days,
+/// and none is so short that this would pass a whole one over.
+Day nextMonth(LocalTime& local, Day first) { return local.firstOfMonth(first + 31); }
 
 /// The days from `first` to before `end`; none where the calendar knows no weeks.
 std::vector<GridDay> stretch(Day first, Day end, const RhythmDays& days) {
@@ -78,25 +71,31 @@ std::vector<Week> inWeeks(const std::vector<GridDay>& days, const Calendar& cale
 
 std::vector<Week> monthWeeks(const RhythmDays& days) {
     LocalTime local(days.calendar);
-    const Day first = localtime::firstOfMonth(local.at(days.now).day);
-    return inWeeks(stretch(first, nextMonth(first), days), days.calendar);
+    const Day first = local.firstOfMonth(local.at(days.now).day);
+    return inWeeks(stretch(first, nextMonth(local, first), days), days.calendar);
 }
 
 std::vector<Week> yearWeeks(int year, const RhythmDays& days) {
-    return inWeeks(stretch(dayNumber(year, 1, 1), dayNumber(year + 1, 1, 1), days), days.calendar);
+    LocalTime local(days.calendar);
+    return inWeeks(stretch(local.firstOfYear(year), local.firstOfYear(year + 1), days),
+                   days.calendar);
 }
 
 std::vector<std::vector<GridDay>> yearMonths(int year, const RhythmDays& days) {
+    LocalTime local(days.calendar);
     std::vector<std::vector<GridDay>> months;
-    for (unsigned month = 1; month <= 12; ++month) {
-        const Day first = dayNumber(year, month, 1);
-        months.push_back(stretch(first, nextMonth(first), days));
+    const Day end = local.firstOfYear(year + 1);
+    for (Day first = local.firstOfYear(year); first < end;) {
+        const Day next = nextMonth(local, first);
+        months.push_back(stretch(first, next, days));
+        first = next;
     }
     return months;
 }
 
 int yearOf(Date date, const Calendar& calendar) {
-    return localtime::yearOf(LocalTime(calendar).at(date).day);
+    LocalTime local(calendar);
+    return local.yearOf(local.at(date).day);
 }
 
 } // namespace rhythmshape

@@ -58,7 +58,7 @@ using Week = std::array<std::optional<GridDay>, 7>;
 /// A stretch of days, in order and without gaps, as weeks.
 [[nodiscard]] std::vector<Week> inWeeks(const std::vector<GridDay>& days, const Calendar& calendar);
 
-/// The year on the wall clock.
+/// The year on the wall clock, as the user's calendar counts it.
 [[nodiscard]] int yearOf(Date date, const Calendar& calendar);
 
 } // namespace rhythmshape

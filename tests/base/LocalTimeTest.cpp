@@ -36,11 +36,37 @@ TEST(LocalTime, CutsFractionsDownwards) {
 
 TEST(LocalTime, KnowsYearsAndMonths) {
     LocalTime utc(weeksFrom("UTC"));
-    EXPECT_EQ(localtime::yearOf(utc.at(moment("2026-12-31T23:59:59Z")).day), 2026);
-    EXPECT_EQ(localtime::yearOf(utc.at(moment("2027-01-01T00:00:00Z")).day), 2027);
-    EXPECT_EQ(localtime::yearOf(utc.at(moment("1969-12-31T23:59:59Z")).day), 1969);
-    const auto first = localtime::firstOfMonth(utc.at(moment("2024-02-29T12:00:00Z")).day);
+    EXPECT_EQ(utc.yearOf(utc.at(moment("2026-12-31T23:59:59Z")).day), 2026);
+    EXPECT_EQ(utc.yearOf(utc.at(moment("2027-01-01T00:00:00Z")).day), 2027);
+    EXPECT_EQ(utc.yearOf(utc.at(moment("1969-12-31T23:59:59Z")).day), 1969);
+    const auto first = utc.firstOfMonth(utc.at(moment("2024-02-29T12:00:00Z")).day);
     EXPECT_EQ(utc.startOfDay(first), moment("2024-02-01T00:00:00Z"));
+}
+
+TEST(LocalTime, CountsYearsAndMonthsByTheCalendarOfTheLocale) {
+    struct Case {
+        const char* locale;
+        int year;
+        const char* firstOfMonth;
+        const char* firstOfYear;
+    };
+    // 2026-06-15 is 25 Khordad 1405, the 15th of June 2569, and 29 Dhu al-Hijja 1447.
+    for (const auto& [locale, year, month, firstOfYear] :
+         {Case{"en_US", 2026, "2026-06-01T00:00:00Z", "2026-01-01T00:00:00Z"},
+          Case{"fa_IR", 1405, "2026-05-22T00:00:00Z", "2026-03-21T00:00:00Z"},
+          Case{"th_TH", 2569, "2026-06-01T00:00:00Z", "2026-01-01T00:00:00Z"},
+          Case{"ar_SA", 1447, "2026-05-18T00:00:00Z", "2025-06-26T00:00:00Z"},
+          // Eras and leap months stand in no grid: there the years are Gregorian.
+          Case{"ja_JP@calendar=japanese", 2026, "2026-06-01T00:00:00Z", "2026-01-01T00:00:00Z"},
+          Case{"he_IL@calendar=hebrew", 2026, "2026-06-01T00:00:00Z", "2026-01-01T00:00:00Z"}}) {
+        LocalTime local({QStringLiteral("UTC"), 1, 1, QLatin1String(locale)});
+        const auto day = local.at(moment("2026-06-15T12:00:00Z")).day;
+        EXPECT_EQ(local.yearOf(day), year) << locale;
+        EXPECT_EQ(local.startOfDay(local.firstOfMonth(day)), moment(month)) << locale;
+        EXPECT_EQ(local.startOfDay(local.firstOfYear(year)), moment(firstOfYear)) << locale;
+        EXPECT_EQ(local.yearOf(local.firstOfYear(year)), year) << locale;
+        EXPECT_EQ(local.yearOf(local.firstOfYear(year) - 1), year - 1) << locale;
+    }
 }
 
 TEST(LocalTime, ADayThatNeverWasStartsWithTheNext) {
@@ -67,7 +93,7 @@ TEST(LocalTime, SurvivesDatesThatAreNone) {
         const auto moment = berlin.at(dateFromEpoch(epoch));
         EXPECT_GE(moment.second, 0);
         EXPECT_LT(moment.second, 86400);
-        EXPECT_NE(localtime::yearOf(moment.day), 0);
+        EXPECT_NE(berlin.yearOf(moment.day), 0);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "review/RhythmShape.h"
 
+#include "base/DateText.h"
 #include "review/stats/ReviewSamples.h"
 
 #include <gtest/gtest.h>
@@ -133,6 +134,28 @@ TEST(RhythmShape, DaysWhoseWeekCountsForTheYearBeforeAreInTheirOwnYear) {
     EXPECT_EQ(count(weeks), 365U);
     // 2024-12-30 belongs to week 1 of 2025.
     EXPECT_EQ(drawn({rhythmshape::yearWeeks(2024, days).back()}), "30 31 .. .. .. .. ..\n");
+}
+
+TEST(RhythmShape, GridsFollowTheCalendarThatTheirWordsAreWrittenIn) {
+    RhythmDays days = daysAt("2026-06-15T12:00:00Z", kSaturday);
+    days.calendar.locale = QStringLiteral("fa_IR");
+    // 25 Khordad 1405: the month has 31 days, from Friday, 22 May.
+    const auto month = rhythmshape::monthWeeks(days);
+    EXPECT_EQ(count(month), 31U);
+    ASSERT_TRUE(month.front()[6]);
+    EXPECT_EQ(month.front()[6]->date, at("2026-05-22T00:00:00Z"));
+    const DateText name = DateText::fixed(QStringLiteral("LLLL"), days.calendar);
+    for (const Week& week : month)
+        for (const auto& day : week)
+            EXPECT_TRUE(!day || name(day->date) == name(days.now));
+
+    EXPECT_EQ(rhythmshape::yearOf(days.now, days.calendar), 1405);
+    std::vector<std::size_t> lengths;
+    for (const auto& one : rhythmshape::yearMonths(1405, days))
+        lengths.push_back(one.size());
+    EXPECT_EQ(lengths, (std::vector<std::size_t>{31, 31, 31, 31, 31, 31, 30, 30, 30, 30, 30, 29}));
+    EXPECT_EQ(count(rhythmshape::yearWeeks(1405, days)), 365U);
+    EXPECT_EQ(rhythmshape::yearMonths(1405, days).front().front().date, at("2026-03-21T00:00:00Z"));
 }
 
 TEST(RhythmShape, YearByMonthsHasTheSameDays) {

@@ -61,7 +61,7 @@ void addDays(WrappedStats& stats, const LogWalk& walk, const std::vector<Skill>&
         stats.workedDays.push_back(
             {local.startOfDay(entry.day), asHours(entry.seconds), shown[winner->skill].hexRGB});
         if (entry.seconds < 1) continue;
-        const int year = localtime::yearOf(entry.day);
+        const int year = local.yearOf(entry.day);
         if (stats.activeYears.empty() || stats.activeYears.back() != year)
             stats.activeYears.push_back(year);
     }

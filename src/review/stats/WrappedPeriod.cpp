@@ -44,7 +44,7 @@ Date weekStart(Date now, const Calendar& calendar) {
 
 Date monthStart(Date now, const Calendar& calendar) {
     LocalTime local(calendar);
-    return local.knowsZone() ? local.startOfDay(localtime::firstOfMonth(local.at(now).day))
+    return local.knowsZone() ? local.startOfDay(local.firstOfMonth(local.at(now).day))
                              : calendar.startOfDay(now);
 }
 

@@ -12,7 +12,7 @@ QString DayLabels::operator()(Date day) {
     const localtime::Day number = m_wall.at(day).day;
     if (number == m_today) return QStringLiteral("Today");
     if (number == m_today - 1) return QStringLiteral("Yesterday");
-    const bool isThisYear = localtime::yearOf(number) == localtime::yearOf(m_today);
+    const bool isThisYear = m_wall.yearOf(number) == m_wall.yearOf(m_today);
     return isThisYear ? m_thisYear(day) : m_otherYears(day);
 }
 
