@@ -137,7 +137,9 @@ void AppModel::flashIdleNotchIntroIfNeeded() {
         return;
     m_env.preferences.setBoolean(preferencekeys::notchIntroFlashed, true);
     afterDelay(kIntroDelay, [this] {
-        if (isIdle()) m_collaborators.notch->flashIdleCard();
+        if (!isIdle()) return;
+        m_collaborators.notch->flashIdleCard();
+        setPulsePrimaryOnce(true); // the button in the panel that does the same
     });
 }
 

@@ -66,5 +66,18 @@ TEST_F(AppModelPanelTest, PanelOfTheNextWeekLooksAgain) {
     EXPECT_FALSE(world.files.calls().empty());
 }
 
+TEST_F(AppModelPanelTest, ButtonOfThePanelPulsesWithTheIntroductionOfTheCapsule) {
+    AppModel& model = launched();
+    model.flashIdleNotchIntroIfNeeded();
+    EXPECT_FALSE(model.pulsePrimaryOnce());
+    world.time.advance(2.0);
+    EXPECT_TRUE(world.told.has(text("notch flash idle")));
+    EXPECT_TRUE(model.pulsePrimaryOnce());
+    model.setPulsePrimaryOnce(false);
+    model.flashIdleNotchIntroIfNeeded();
+    world.time.advance(2.0);
+    EXPECT_FALSE(model.pulsePrimaryOnce()) << "once in an installation's life";
+}
+
 } // namespace
 } // namespace vantle::tests

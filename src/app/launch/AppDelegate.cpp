@@ -11,6 +11,8 @@
 #include "surfaces/cards/StopSummaryController.h"
 #include "surfaces/cards/TagPromptController.h"
 
+#include <QPointer>
+
 #include <utility>
 
 namespace vantle {
@@ -151,6 +153,9 @@ void AppDelegate::makeStatusItem() {
         m_model->ensureIdleNotch();
     };
     StatusItemController* const item = m_statusItem.get();
+    m_model->highlightStatusItem = [item = QPointer(item)](bool open) {
+        if (item) item->setPanelOpen(open);
+    };
     const auto show = [this] { showStatus(); };
     QObject::connect(m_model.get(), &AppModel::lastActionNoteChanged, item, show);
     QObject::connect(&m_model->tracker(), &TrackerCore::storageErrorChanged, item, show);

@@ -47,6 +47,11 @@ constexpr QSizeF kPauseBar{1.2, 4.4};
 constexpr double kPauseGap = 0.8;
 constexpr double kPauseBarAlpha = 0.9;
 
+/// What lies behind the image while the panel is open: seen on bars of either brightness.
+constexpr QColor kPlateColor(0x80, 0x80, 0x80);
+constexpr double kPlateAlpha = 0.4;
+constexpr double kPlateRadius = 4.0;
+
 Dot breathingDot(int phase) {
     const double turn = 2.0 * std::numbers::pi * phase / kPhases;
     const double fullness = std::sin(turn) * 0.5 + 0.5;
@@ -113,6 +118,14 @@ QImage drawStatusDot(int pixels, std::uint32_t hexRGB, int phase, bool paused) {
         fillCircle(painter, dot.haloRadius, withAlpha(color, dot.haloAlpha));
         fillCircle(painter, dot.coreRadius, withAlpha(color, dot.coreAlpha));
         if (paused) fillPauseBars(painter, pauseGap(pixels));
+    });
+}
+
+QImage onPlate(const QImage& image) {
+    return drawn(image.width(), [&](QPainter& painter) {
+        painter.setBrush(withAlpha(kPlateColor, kPlateAlpha));
+        painter.drawRoundedRect(QRectF(0, 0, kSide, kSide), kPlateRadius, kPlateRadius);
+        painter.drawImage(QRectF(0, 0, kSide, kSide), image);
     });
 }
 

@@ -20,4 +20,7 @@ inline constexpr int kPhases = 8;
 /// is the fullest. Paused, it is faint, has two white bars, and does not breathe.
 [[nodiscard]] QImage drawStatusDot(int pixels, std::uint32_t hexRGB, int phase, bool paused);
 
+/// The same image on a plate, as while the panel is open.
+[[nodiscard]] QImage onPlate(const QImage& image);
+
 } // namespace vantle::menubar

@@ -20,14 +20,20 @@ QIcon iconOf(Draw draw) {
 
 } // namespace
 
-MenuBarIcon::MenuBarIcon() : m_brick(iconOf(menubar::drawBrick)) { m_brick.setIsMask(true); }
+MenuBarIcon::MenuBarIcon()
+    : m_brick(iconOf(menubar::drawBrick))
+    , m_open(iconOf([](int pixels) { return menubar::onPlate(menubar::drawBrick(pixels)); })) {
+    m_brick.setIsMask(true);
+    m_open.setIsMask(true);
+}
 
-QIcon MenuBarIcon::statusDot(std::uint32_t hexRGB, int phase, bool paused) {
-    const Key key{hexRGB, paused ? 0 : phase, paused};
+QIcon MenuBarIcon::statusDot(std::uint32_t hexRGB, int phase, bool paused, bool open) {
+    const Key key{hexRGB, paused ? 0 : phase, paused, open};
     const auto known = m_dotCache.constFind(key);
     if (known != m_dotCache.constEnd()) return *known;
     QIcon icon = iconOf([&](int pixels) {
-        return menubar::drawStatusDot(pixels, key.hexRGB, key.phase, key.paused);
+        const QImage dot = menubar::drawStatusDot(pixels, key.hexRGB, key.phase, key.paused);
+        return key.open ? menubar::onPlate(dot) : dot;
     });
     m_dotCache.insert(key, icon);
     return icon;

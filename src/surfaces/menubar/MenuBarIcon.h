@@ -15,14 +15,15 @@ public:
     MenuBarIcon();
 
     /// The image of no session: a wall. Only its shape counts (QIcon::isMask), and it takes the
-    /// colour of the bar's text.
-    [[nodiscard]] const QIcon& brick() const { return m_brick; }
+    /// colour of the bar's text. `open` puts it on a plate, as while the panel is open.
+    [[nodiscard]] const QIcon& brick(bool open = false) const { return open ? m_open : m_brick; }
 
     /// The image of an open session in the skill's colour, `phase` 0 to 7; paused, all phases are
     /// one. The second time it is a look-up.
-    [[nodiscard]] QIcon statusDot(std::uint32_t hexRGB, int phase, bool paused);
+    [[nodiscard]] QIcon statusDot(std::uint32_t hexRGB, int phase, bool paused, bool open = false);
 
-    /// How many dots are kept: at most eight that breathe and a paused one for each colour.
+    /// How many dots are kept: for each colour at most eight that breathe and a paused one, with
+    /// and without the plate.
     [[nodiscard]] qsizetype dotCount() const { return m_dotCache.size(); }
 
 private:
@@ -30,13 +31,15 @@ private:
         std::uint32_t hexRGB;
         int phase;
         bool paused;
+        bool open;
         friend bool operator==(const Key&, const Key&) = default;
         friend size_t qHash(const Key& key, size_t seed) {
-            return qHashMulti(seed, key.hexRGB, key.phase, key.paused);
+            return qHashMulti(seed, key.hexRGB, key.phase, key.paused, key.open);
         }
     };
 
     QIcon m_brick;
+    QIcon m_open;                 ///< the brick on its plate
     QHash<Key, QIcon> m_dotCache; ///< never emptied
 };
 

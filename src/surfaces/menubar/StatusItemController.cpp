@@ -4,6 +4,8 @@
 
 #include <QPointer>
 
+#include <utility>
+
 namespace vantle {
 namespace {
 
@@ -34,6 +36,14 @@ void StatusItemController::setStatusText(const QString& text) {
     m_env.item.setToolTip(text.isEmpty() ? name : name + QLatin1Char('\n') + text);
 }
 
+void StatusItemController::setPanelOpen(bool open) {
+    if (std::exchange(m_panelOpen, open) == open) return;
+    if (m_pulseTimer)
+        showDot(m_pulsePhase, false);
+    else
+        apply();
+}
+
 void StatusItemController::applyLater() {
     // State and skill change one after the other; only the pair that they end up as is shown.
     if (m_applyPosted) return;
@@ -49,7 +59,7 @@ void StatusItemController::apply() {
     switch (m_env.tracker.state()) {
     case TrackerCore::State::Idle:
         m_pulseTimer.reset();
-        m_env.item.setImage(m_icons.brick(), true);
+        m_env.item.setImage(m_icons.brick(m_panelOpen), true);
         return;
     case TrackerCore::State::Paused:
         m_pulseTimer.reset();
@@ -79,7 +89,8 @@ void StatusItemController::tickPulse() {
 }
 
 void StatusItemController::showDot(int phase, bool paused) {
-    m_env.item.setImage(m_icons.statusDot(currentSkill().hexRGB, phase, paused), false);
+    m_env.item.setImage(m_icons.statusDot(currentSkill().hexRGB, phase, paused, m_panelOpen),
+                        false);
 }
 
 bool StatusItemController::isHidden() const {

@@ -43,6 +43,9 @@ public:
     /// A line under the name in the tool tip; an empty text removes it.
     void setStatusText(const QString& text);
 
+    /// Whether the panel that belongs to the item is open, which the image shows at once.
+    void setPanelOpen(bool open);
+
     /// Where the item is, to place a panel by; empty where the desktop does not tell.
     [[nodiscard]] QRect geometry() const { return m_env.item.geometry(); }
 
@@ -64,6 +67,7 @@ private:
     TimerHandle m_pulseTimer; ///< there exactly while the dot breathes
     int m_pulsePhase = 0;
     bool m_applyPosted = false;
+    bool m_panelOpen = false;
 };
 
 } // namespace vantle

@@ -1,6 +1,7 @@
 #include "surfaces/menubar/MenuBarDrawing.h"
 
 #include <QColor>
+#include <QPainter>
 
 #include <gtest/gtest.h>
 
@@ -198,6 +199,23 @@ TEST(MenuBarDrawing, StaysInsideItsSquareAtEverySize) {
             EXPECT_EQ(dot.pixelColor(i, 0).alpha(), 0) << pixels;
             EXPECT_EQ(dot.pixelColor(0, i).alpha(), 0) << pixels;
         }
+    }
+}
+
+TEST(MenuBarDrawing, PlateShowsOnBrightAndOnDarkBarsAndLeavesTheImageReadable) {
+    for (const int pixels : {16, 22, 36}) {
+        const QImage brick = drawBrick(pixels);
+        const QImage open = onPlate(brick);
+        ASSERT_EQ(open.size(), brick.size());
+        for (const QRgb bar : {qRgb(0x20, 0x20, 0x20), qRgb(0xF0, 0xF0, 0xF0)}) {
+            QImage shown(pixels, pixels, QImage::Format_RGB32);
+            shown.fill(bar);
+            QPainter(&shown).drawImage(0, 0, open);
+            const int edge = qGray(shown.pixel(pixels / 2, 0));
+            EXPECT_GT(std::abs(edge - qGray(bar)), 25) << "the plate shows";
+            EXPECT_EQ(shown.pixel(0, 0), bar) << "with round corners";
+        }
+        EXPECT_EQ(qAlpha(open.pixel(pixels / 4, pixels * 15 / 18)), 255) << "a brick of the wall";
     }
 }
 

@@ -100,6 +100,30 @@ TEST_F(StatusItemControllerTest, BreathesFromTheStartOfASession) {
     }
 }
 
+TEST_F(StatusItemControllerTest, ImageStandsOnAPlateWhileThePanelIsOpen) {
+    makeSettledController();
+    const auto expectImage = [&](const QImage& image) {
+        EXPECT_EQ(shown(), menubar::onPlate(image));
+        controller->setPanelOpen(false);
+        EXPECT_EQ(shown(), image) << "at once";
+        controller->setPanelOpen(true);
+    };
+    controller->setPanelOpen(true);
+    EXPECT_TRUE(item.iconIsTemplate);
+    expectImage(menubar::drawBrick(36));
+
+    startSession();
+    time.advance(kPulse);
+    EXPECT_TRUE(pulses());
+    expectImage(menubar::drawStatusDot(36, designSkill().hexRGB, 2, false));
+    time.advance(kPulse);
+    expectImage(menubar::drawStatusDot(36, designSkill().hexRGB, 3, false));
+
+    tracker.pause(time.now());
+    time.settle();
+    expectImage(menubar::drawStatusDot(36, designSkill().hexRGB, 0, true));
+}
+
 TEST_F(StatusItemControllerTest, FindsASessionThatIsOpenAlready) {
     tracker.start(designSkill(), 0);
     makeController();
