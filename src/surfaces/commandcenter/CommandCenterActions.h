@@ -21,7 +21,6 @@ struct CommandCenterActions {
     std::function<void(int minutes)> backfill;
     std::function<void()> openDashboard;
     std::function<void(std::optional<WrappedPeriod> period)> openWrapped;
-    std::function<void()> openQuickLog;
     std::function<void()> openNotes;
     std::function<void()> openSettings;
     std::function<void()> quit;

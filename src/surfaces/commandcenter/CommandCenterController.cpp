@@ -57,7 +57,6 @@ CommandCenterActions CommandCenterController::actions() {
                 hide();
                 m_env.router.showWrapped(period);
             },
-        .openQuickLog = afterHiding(&WindowRouter::showQuickLog),
         .openNotes = afterHiding(&WindowRouter::showLog),
         .openSettings = afterHiding(&WindowRouter::showSettings),
         .quit = [&model] { model.quit(); },

@@ -18,7 +18,6 @@ public:
 
     /// Another press: the click of the first one has come by now, or never will.
     void nextPress() { m_press.reset(); }
-    [[nodiscard]] bool isPending() const { return m_press.has_value(); }
 
     /// Whether a click on the tray item, (0, 0) when its place is not known, is the end of the
     /// press that closed the panel. True once at most.

@@ -48,11 +48,6 @@ void WindowRouter::close(WindowId id) {
     if (const auto found = m_windows.find(id); found != m_windows.end()) found->second->close();
 }
 
-void WindowRouter::closeAll() {
-    for (const auto& [id, window] : m_windows)
-        window->close();
-}
-
 bool WindowRouter::isOpen(WindowId id) const { return window(id) != nullptr; }
 
 QWindow* WindowRouter::window(WindowId id) const {

@@ -39,7 +39,6 @@ public:
     /// Takes an open window from the screen with all that it holds; to show it brings it back.
     void orderOut(WindowId id);
     void close(WindowId id);
-    void closeAll();
     [[nodiscard]] bool isOpen(WindowId id) const;
     /// Null while it is closed.
     [[nodiscard]] QWindow* window(WindowId id) const;

@@ -44,7 +44,6 @@ protected:
                     calls.append(QStringLiteral("wrapped ") +
                                  (period ? wrappedperiod::id(*period) : QString()));
                 },
-            .openQuickLog = told("quick log"),
             .openNotes = told("notes"),
             .openSettings = told("settings"),
             .quit = told("quit"),
