@@ -1,6 +1,7 @@
 // The model's commands about skills, with the change of skill in the middle of a session.
 #include "app/AppModel.h"
 #include "app/PreferenceKeys.h"
+#include "base/Bidi.h"
 #include "platform/Preferences.h"
 #include "tracking/SkillList.h"
 
@@ -74,7 +75,7 @@ void AppModel::addSkill(const QString& name, std::uint32_t hexRGB) {
         all, [&](const Skill& skill) { return Skill::comparisonKey(skill.name) == key; });
     if (existing != all.end()) {
         if (isIdle()) select(existing->id);
-        setLastActionNote(QStringLiteral("%1 already exists").arg(existing->name));
+        setLastActionNote(QStringLiteral("%1 already exists").arg(bidi::isolated(existing->name)));
         return;
     }
     const auto added = m_env.skills.addCustom(name, hexRGB);

@@ -123,5 +123,21 @@ TEST(RhythmMap, TilesOfAWeekGrowOneAfterTheOther) {
     EXPECT_DOUBLE_EQ(rhythmmap::weekDelay(6), 0.5);
 }
 
+TEST(RhythmMap, MonthInRightToLeftLettersLeavesTheCaptionLeftToRight) {
+    for (const char* locale : {"he_IL", "fa_IR", "ar_EG"}) {
+        const QString caption =
+            rhythmmap::caption(WrappedPeriod::Month, 2026, daysIn(QLatin1String(locale)));
+        EXPECT_FALSE(caption.isRightToLeft()) << locale;
+        EXPECT_TRUE(caption.endsWith(QStringLiteral(", day by day. Brighter is more time.")));
+    }
+}
+
+TEST(RhythmMap, MonthIsThatOfTheGrid) {
+    const RhythmDays persian = daysIn(QStringLiteral("fa_IR"));
+    EXPECT_TRUE(rhythmmap::caption(WrappedPeriod::Month, 1404, persian)
+                    .contains(QStringLiteral("اسفند"))); // from 20 February on
+    EXPECT_EQ(rhythmmap::yearShown(std::nullopt, {}, persian), 1404);
+}
+
 } // namespace
 } // namespace vantle
