@@ -53,10 +53,11 @@ class OfWindows(ScreenReader):
             ("heading", "Recent sessions"),
             ("label", "Nov 3 · 09:30, Build, 30 min"),
             ("label", "Nov 2 · 09:30, Build, 30 min, manual"))
-        self.reader.press(window.find("push button", "Start building"))
-        chip, = wait_until("the chip", lambda: [
+        self.assertIn("focused", window.find("push button", "Start building").states)
+        self.desktop.press("Return")
+        chip, = wait_until("the chip with the keyboard", lambda: [
             one for one in self.reader.window("Your hours").all()
-            if one.name.endswith(". Stops the session.")])
+            if one.name.endswith(". Stops the session.") and "focused" in one.states])
         self.assertRegex(chip.name, r"^In Vantle · \d+ sec\. Stops the session\.$")
         self.assertEqual((chip.role, chip.description), ("push button", "Stop the session"))
 

@@ -29,6 +29,7 @@ Item {
             dotColor: Tint.fromHex(hexRGB)
             selectedTint: highlighted ? Tint.fromHex(hexRGB) : DarkUI.clear
             playOnHover: chips.capsule.idlePrompt
+            choosable: !playOnHover
             onClicked: chips.capsule.pickSkill(skillId)
             onContextMenuRequested: chips.capsule.openMenu(skillId)
         }

@@ -29,6 +29,7 @@ Item {
         required property bool deletable
 
         large: true
+        choosable: true
         width: Math.min(implicitWidth, chips.width)
         dotColor: Tint.fromHex(hexRGB)
         selectedTint: selected ? dotColor : DarkUI.clear

@@ -26,6 +26,7 @@ TEST_F(RetagToastTest, ItSaysHowMuchWasSavedAndWhere) {
     ASSERT_NE(model(), nullptr);
     EXPECT_EQ(model()->text(), text("12 min saved"));
     EXPECT_EQ(model()->skillName(), text("Build"));
+    EXPECT_EQ(model()->spoken(), text("12 min saved, Build"));
     EXPECT_EQ(model()->skillColor(), QColor::fromRgb(0x7A78FF));
     EXPECT_EQ(toast()->frame(), QRect(1440 - 12 - 206, 38, 206, 40));
 }
