@@ -38,6 +38,11 @@ class Settings(DesktopTest):
     def await_stored(self, key, value):
         wait_until(f"{key} = {value}", lambda: self.stored(key) == value)
 
+    def await_rest(self):
+        """Waits until the answer of the tool shows: Tab leads elsewhere before."""
+        window, = self.desktop.windows_named(TITLE)
+        self.desktop.await_still(*self.desktop.frame_of(window), seconds=1.0)
+
     def tab(self, times=1, key="Tab"):
         for _ in range(times):
             self.desktop.press(key)
@@ -96,6 +101,7 @@ class Settings(DesktopTest):
         self.tab(4)
         self.desktop.press("space")
         self.await_stored("focus.linked", "true")
+        self.await_rest()
         self.desktop.screenshot("none")
         self.tab()
         # The button comes with the answer of the tool.
@@ -113,6 +119,7 @@ class Settings(DesktopTest):
         self.await_stored("focus.linked", "false")
         self.desktop.press("space")
         self.await_stored("focus.linked", "true")
+        self.await_rest()
         self.tab()
 
         def chosen():
