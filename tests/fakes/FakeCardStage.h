@@ -59,6 +59,12 @@ public:
         return frames;
     }
 
+    /// Another main screen, or none.
+    void moveTo(const std::optional<QRect>& other) {
+        screen = other;
+        Q_EMIT visibleFrameChanged();
+    }
+
     /// The panel that is up with that view; null when there is none.
     [[nodiscard]] FakeCardPanel* up(CardView view) const {
         const auto found = std::find_if(panels.begin(), panels.end(), [view](const auto* panel) {

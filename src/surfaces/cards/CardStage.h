@@ -37,11 +37,11 @@ public:
     virtual void returnKeyboard() = 0;
 };
 
-/// The person's screen. Main thread.
-class CardStage {
-public:
-    virtual ~CardStage() = default;
+/// The user's screen. Main thread.
+class CardStage : public QObject {
+    Q_OBJECT
 
+public:
     /// The main screen without the desktop's bars; empty when there is no screen at all.
     [[nodiscard]] virtual std::optional<QRect> visibleFrame() const = 0;
 
@@ -55,6 +55,10 @@ public:
 
     /// Where the other cards and floating panels of the program stand, fading ones left out.
     [[nodiscard]] virtual std::vector<QRect> panelFrames() const = 0;
+
+Q_SIGNALS:
+    /// visibleFrame() may have changed. Several in a row when the user plugs a screen in or out.
+    void visibleFrameChanged();
 };
 
 } // namespace vantle

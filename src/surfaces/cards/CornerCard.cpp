@@ -6,6 +6,13 @@
 
 namespace vantle {
 
+CornerCard::CornerCard(const CardEnvironment& environment)
+    : m_scheduler(environment.scheduler)
+    , m_stage(environment.stage) {
+    QObject::connect(&m_stage, &CardStage::visibleFrameChanged, &m_screenWatch,
+                     [this] { followScreen(); });
+}
+
 bool CornerCard::present(CardView view, const std::shared_ptr<QObject>& model) {
     takeDown();
     const auto visibleFrame = m_stage.visibleFrame();
@@ -15,6 +22,14 @@ bool CornerCard::present(CardView view, const std::shared_ptr<QObject>& model) {
     m_model = model;
     m_panel->showAt(cardplacement::card(*visibleFrame, m_panel->size()));
     return true;
+}
+
+void CornerCard::followScreen() {
+    const auto visibleFrame = m_stage.visibleFrame();
+    // Without any screen the card keeps its place until one is plugged in.
+    if (!m_panel || !visibleFrame) return;
+    const QPoint place = cardplacement::card(*visibleFrame, m_panel->size());
+    if (m_panel->frame().topLeft() != place) m_panel->showAt(place);
 }
 
 void CornerCard::dismissAfter(Seconds delay, std::function<void()> work) {

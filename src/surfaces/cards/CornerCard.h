@@ -27,11 +27,10 @@ struct CardEnvironment {
 /// Up from present() until takeDown(). Main thread.
 class CornerCard {
 public:
-    explicit CornerCard(const CardEnvironment& environment)
-        : m_scheduler(environment.scheduler)
-        , m_stage(environment.stage) {}
+    explicit CornerCard(const CardEnvironment& environment);
 
-    /// Puts the view in the corner of the main screen. False where there is no screen.
+    /// Puts the view in the corner of the main screen, and follows that when screens come and go.
+    /// False where there is no screen.
     [[nodiscard]] bool present(CardView view, const std::shared_ptr<QObject>& model);
 
     /// Calls `work` unless the card is touched or gone before.
@@ -47,11 +46,14 @@ public:
     [[nodiscard]] CardPanel* panel() const { return m_panel.get(); }
 
 private:
+    void followScreen();
+
     Scheduler& m_scheduler;
     CardStage& m_stage;
     std::unique_ptr<CardPanel> m_panel;
     std::shared_ptr<QObject> m_model;
     TimerHandle m_autoDismissTimer;
+    QObject m_screenWatch; ///< context of the connection to the stage
 };
 
 } // namespace vantle

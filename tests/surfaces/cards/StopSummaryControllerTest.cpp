@@ -48,6 +48,21 @@ TEST_F(StopSummaryTest, TheCardStandsInTheCornerWithoutTheKeyboard) {
     EXPECT_EQ(slot.holder()->kind, Kind::Summary);
 }
 
+TEST_F(StopSummaryTest, CardFollowsTheMainScreenWithItsNote) {
+    show();
+    (void)model().takeNote(QStringLiteral("half"));
+    stage.moveTo(QRect(0, 0, 1024, 768));
+    ASSERT_TRUE(isUp());
+    EXPECT_EQ(stage.up(CardView::StopSummary)->frame(), QRect(632, 10, 380, 263));
+    stage.moveTo(std::nullopt);
+    EXPECT_TRUE(isUp()) << "it waits for a screen";
+    stage.moveTo(QRect(100, 0, 1024, 768));
+    EXPECT_EQ(stage.up(CardView::StopSummary)->frame().x(), 732);
+    model().submit();
+    EXPECT_EQ(closes, Closes{QStringLiteral("half")});
+    stage.moveTo(QRect(0, 0, 800, 600)); // nothing is there any more
+}
+
 TEST_F(StopSummaryTest, LeftAloneItClosesAfterTwentySecondsWithoutANote) {
     show();
     time.advance(19.9);
