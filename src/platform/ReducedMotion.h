@@ -1,14 +1,21 @@
-// Whether the person asked the desktop for less movement.
+// Whether the user asked the desktop for less movement.
 #pragma once
+
+#include <QObject>
 
 namespace vantle {
 
-class ReducedMotion {
-public:
-    virtual ~ReducedMotion() = default;
+/// Main thread, the signal included.
+class ReducedMotion : public QObject {
+    Q_OBJECT
 
-    /// The setting as last heard; false where the desktop has none. Main thread, never blocks.
+public:
+    /// The setting as last heard; false where the desktop has none. Never blocks.
     [[nodiscard]] virtual bool enabled() const = 0;
+
+Q_SIGNALS:
+    /// enabled() changed.
+    void changed();
 };
 
 } // namespace vantle

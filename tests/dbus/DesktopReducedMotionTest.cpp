@@ -73,6 +73,25 @@ TEST_F(DesktopReducedMotionTest, AnimationsSwitchedOffCountBesideNoWishForReduce
     EXPECT_TRUE(await([&] { return motion.enabled(); }));
 }
 
+TEST_F(DesktopReducedMotionTest, ChangesOfThePortalAreFollowed) {
+    withReducedMotion(0);
+    withAnimations(true);
+    m_portal.appear();
+    const DesktopReducedMotion motion(m_client.bus(), m_directory.path());
+    QList<bool> told;
+    QObject::connect(&motion, &ReducedMotion::changed, [&] { told << motion.enabled(); });
+    ASSERT_TRUE(await([&] { return askedAll(); }));
+    m_portal.change(kAppearance, kReducedMotion, 1U);
+    EXPECT_TRUE(await([&] { return motion.enabled(); }));
+    m_portal.change(kAppearance, kReducedMotion, 0U);
+    EXPECT_TRUE(await([&] { return !motion.enabled(); }));
+    EXPECT_EQ(told, (QList<bool>{true, false}));
+    m_portal.change(kGnome, kEnableAnimations, false);
+    EXPECT_TRUE(await([&] { return motion.enabled(); }));
+    m_portal.change(kGnome, kEnableAnimations, true);
+    EXPECT_TRUE(await([&] { return !motion.enabled(); }));
+}
+
 TEST_F(DesktopReducedMotionTest, ChangesOfOtherSettingsAreNone) {
     m_portal.appear();
     const DesktopReducedMotion motion(m_client.bus(), m_directory.path());

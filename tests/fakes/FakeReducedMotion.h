@@ -1,4 +1,4 @@
-// The person's wish for less movement, as the test sets it.
+// The user's wish for less movement, as the test sets it.
 #pragma once
 
 #include "platform/ReducedMotion.h"
@@ -9,7 +9,13 @@ class FakeReducedMotion final : public ReducedMotion {
 public:
     [[nodiscard]] bool enabled() const override { return isOn; }
 
-    bool isOn = false;
+    /// The user changes the setting while the program runs.
+    void set(bool on) {
+        isOn = on;
+        Q_EMIT changed();
+    }
+
+    bool isOn = false; ///< a change by this way is told to no one
 };
 
 } // namespace vantle::fakes

@@ -102,8 +102,11 @@ void describeApplication() {
 /// Everything real that the program stands on, made in the order in which one needs the other.
 struct Ground {
     Ground(PlatformEvents events, QProcessEnvironment environment)
-        : platform(platformfactory::makePlatform(scheduler, std::move(events),
-                                                 std::move(environment))) {}
+        : platform(
+              platformfactory::makePlatform(scheduler, std::move(events), std::move(environment))) {
+        QObject::connect(&platform->reducedMotion(), &ReducedMotion::changed, &context,
+                         [this] { viewEngine.refresh(); });
+    }
 
     QtScheduler scheduler;
     const std::unique_ptr<Platform> platform;
@@ -131,6 +134,7 @@ struct Ground {
                                .reducedMotion = platform->reducedMotion(),
                                .screens = platform->screens(),
                                .panelHost = platform->panelHost()}};
+    QObject context{}; ///< of connections; they end first
 
     /// Returns when nothing is under way that needs more than this.
     void settle() {

@@ -56,9 +56,12 @@ constexpr std::array kPlaces{
 } // namespace
 
 MotionSettingFiles::MotionSettingFiles(QString directory) : m_directory(std::move(directory)) {
-    const auto readAgain = [this] { readAll(); };
-    QObject::connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_watcher, readAgain);
-    QObject::connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_watcher, readAgain);
+    const auto readAgain = [this] {
+        readAll();
+        Q_EMIT changed();
+    };
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, readAgain);
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, readAgain);
     readAll();
 }
 

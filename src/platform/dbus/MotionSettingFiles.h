@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFileSystemWatcher>
+#include <QObject>
 #include <QString>
 
 #include <optional>
@@ -10,7 +11,9 @@ namespace vantle {
 
 /// Reads the desktop's and the toolkits' files in a configuration directory, now and whenever one
 /// of them appears, changes or goes. Main thread; the files are small.
-class MotionSettingFiles final {
+class MotionSettingFiles final : public QObject {
+    Q_OBJECT
+
 public:
     /// The directory, as $XDG_CONFIG_HOME. One that is not there by now is not watched for.
     explicit MotionSettingFiles(QString directory);
@@ -18,6 +21,10 @@ public:
     /// Whether movement is to be reduced: the first file that says anything counts. Empty when
     /// none does.
     [[nodiscard]] std::optional<bool> reduced() const { return m_reduced; }
+
+Q_SIGNALS:
+    /// The files were read again; reduced() may have changed.
+    void changed();
 
 private:
     void readAll();

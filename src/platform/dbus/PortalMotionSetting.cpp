@@ -69,7 +69,10 @@ void PortalMotionSetting::take(const QString& space, const QString& key, QVarian
     } else if (space == kGnomeInterface && key == kEnableAnimations &&
                value.userType() == QMetaType::Bool) {
         m_animationsOff = !value.toBool();
+    } else {
+        return;
     }
+    Q_EMIT changed();
 }
 
 } // namespace vantle

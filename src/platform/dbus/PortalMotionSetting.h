@@ -22,6 +22,10 @@ public:
         return m_reducedMotion ? m_reducedMotion : m_animationsOff;
     }
 
+Q_SIGNALS:
+    /// The portal said something; reduced() may have changed.
+    void changed();
+
 private Q_SLOTS:
     void takeChange(const QString& space, const QString& key, const QDBusVariant& value);
 

@@ -54,6 +54,11 @@ QtObject {
 
     onTargetChanged: if (ready)
         go()
+    readonly property bool reduced: Motion.reduced
+    onReducedChanged: if (reduced && running) {
+        run.stop();
+        time = 0; // it is there
+    }
     Component.onCompleted: {
         from = target;
         to = target;

@@ -29,7 +29,7 @@ KitPressable {
             easing.type: Easing.InOutQuad
         }
         PauseAnimation {
-            duration: Motion.time(20)
+            duration: 20 * Motion.pace
         }
         NumberAnimation {
             target: button

@@ -26,6 +26,11 @@ QtObject {
     }
 
     onTargetChanged: if (ready) startFrom(value)
+    readonly property bool reduced: Motion.reduced
+    onReducedChanged: if (reduced && running) {
+        run.stop();
+        value = target;
+    }
     onElapsedChanged: if (run.running)
         value = start + (target - start) * Motion.springAt(spring.stiffness, spring.damping,
                                                            elapsed)

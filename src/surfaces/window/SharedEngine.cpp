@@ -18,4 +18,8 @@ std::shared_ptr<QQmlEngine> SharedEngine::acquire() {
     return engine;
 }
 
+void SharedEngine::refresh() {
+    if (const auto engine = m_engine.lock(); engine && m_prepare) m_prepare(*engine);
+}
+
 } // namespace vantle

@@ -17,6 +17,9 @@ public:
 
     [[nodiscard]] std::shared_ptr<QQmlEngine> acquire();
 
+    /// Runs `prepare` on the engine that there is, for what has changed under views that stand.
+    void refresh();
+
     /// Whether somebody holds an engine.
     [[nodiscard]] bool isAlive() const { return !m_engine.expired(); }
 
