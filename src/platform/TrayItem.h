@@ -26,10 +26,16 @@ public:
     /// Where the item is on the screen; empty where the desktop does not tell.
     [[nodiscard]] virtual QRect geometry() const = 0;
 
+    /// Whether geometry() is empty only for now: the desktop has yet to say whether and where it
+    /// shows the item. May stay true where there is no tray.
+    [[nodiscard]] virtual bool isPlacePending() const { return false; }
+
 Q_SIGNALS:
     /// A left or right click, with its place on the screen as far as known, else (0, 0).
     void clicked(QPoint place);
     void shownChanged();
+    /// geometry() or isPlacePending() changed.
+    void placeChanged();
 };
 
 } // namespace vantle

@@ -1,5 +1,7 @@
 """Only one copy works on the data; another one says so and goes."""
 
+import time
+
 from harness.case import DesktopTest
 from harness.waiting import wait_until
 
@@ -16,6 +18,8 @@ class SecondCopy(DesktopTest):
         self.await_alert()
         self.desktop.screenshot("alert")
         self.assertEqual(self.vantle.marker(), marker)
+        time.sleep(0.5)  # in which an item of the second copy would come
+        self.assert_one_item()
 
         self.desktop.press("Return")
         self.assertEqual(second.wait(), 0)
@@ -54,7 +58,7 @@ class SecondCopy(DesktopTest):
         for copy in copies:
             copy.start()
         wait_until("the alert", self.alerts)
-        self.desktop.await_tray_item()
+        self.await_item()
 
         def one_is_left():
             # The alert of one and the panel of the other, in whichever order.
@@ -72,6 +76,12 @@ class SecondCopy(DesktopTest):
         self.launch()
         self.assertEqual(self.alerts(), [])
 
+    def await_item(self):
+        self.desktop.await_tray_item()
+
+    def assert_one_item(self):
+        self.assertLessEqual(self.desktop.tray_frame()[2], 30, "the bar is as wide as one icon")
+
     def alerts(self):
         return self.desktop.windows_named(TITLE)
 
@@ -79,3 +89,15 @@ class SecondCopy(DesktopTest):
         """Waits until there is exactly one alert, and it has the keyboard."""
         alert, = wait_until("the alert", self.alerts)
         wait_until("the alert in front", lambda: self.desktop.active_window() == alert)
+
+
+class SecondCopyBesideANotifier(SecondCopy):
+    """The same in the other kind of tray."""
+
+    tray_kind = DesktopTest.STATUS_NOTIFIER
+
+    def await_item(self):
+        self.tray.await_item()
+
+    def assert_one_item(self):
+        self.assertEqual(len(self.tray.items()), 1)

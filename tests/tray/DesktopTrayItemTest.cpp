@@ -5,6 +5,7 @@
 #include "tray/Trayer.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QPalette>
 #include <QPixmap>
 #include <QScreen>
@@ -169,10 +170,22 @@ TEST_F(DesktopTrayItemTest, ClicksOfAHostAreForwarded) {
     watcher.appear();
     m_item->setImage(m_red, false);
     ASSERT_TRUE(await([&] { return isShownBy(watcher); }));
+    QCursor::setPos(15, 30);
     watcher.callItem(tests::kItemInterface, QStringLiteral("Activate"), {10, 20});
     watcher.callItem(tests::kItemInterface, QStringLiteral("ContextMenu"), {30, 40});
     ASSERT_TRUE(await([&] { return m_clicks.size() == 2; }));
     EXPECT_EQ(m_clicks, (QList<QPoint>{QPoint(10, 20), QPoint(30, 40)}));
+}
+
+TEST_F(DesktopTrayItemTest, HostThatGivesTheSamePlaceForEveryClickIsNotBelieved) {
+    FakeStatusNotifierWatcher watcher;
+    watcher.appear();
+    m_item->setImage(m_red, false);
+    ASSERT_TRUE(await([&] { return isShownBy(watcher); }));
+    QCursor::setPos(1300, 10);
+    watcher.callItem(tests::kItemInterface, QStringLiteral("Activate"), {0, 25});
+    ASSERT_TRUE(await([&] { return m_clicks.size() == 1; }));
+    EXPECT_EQ(m_clicks.first(), QPoint(1300, 10));
 }
 
 TEST_F(DesktopTrayItemTest, ChangesOverWhenAWatcherComesAndBackWhenItGoes) {

@@ -44,6 +44,20 @@ TEST_F(StatusNotifierItemTest, IsAnnouncedUnderItsConnectionsName) {
     EXPECT_EQ(m_item.hasWatcher(), true);
 }
 
+TEST_F(StatusNotifierItemTest, IsAnnouncedWithItsFirstImageAndNotBefore) {
+    m_watcher.appear();
+    BusClient client;
+    StatusNotifierItem bare(client.bus());
+    ASSERT_TRUE(await([&] { return bare.hasWatcher() == true && m_item.isShown(); }));
+    catchUp();
+    EXPECT_FALSE(m_watcher.items.contains(client.bus().baseService()));
+    bare.setImage(m_blue, {});
+    EXPECT_TRUE(await([&] { return bare.isShown(); }));
+    bare.setImage(m_red, {});
+    catchUp();
+    EXPECT_EQ(m_watcher.items.count(client.bus().baseService()), 1);
+}
+
 TEST_F(StatusNotifierItemTest, TellsThatThereIsNoWatcherOnceTheBusHasSaidSo) {
     EXPECT_EQ(m_item.hasWatcher(), std::nullopt);
     EXPECT_TRUE(await([&] { return m_item.hasWatcher().has_value(); }));

@@ -3,6 +3,7 @@
 #include "platform/desktop/TemplateImage.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QEvent>
 
 namespace vantle {
@@ -12,13 +13,26 @@ namespace {
 /// The template image in the icon theme, installed with the program.
 const QString kSymbolicName = QStringLiteral("local.vantle.Vantle-symbolic");
 
+/// Some hosts give the same place for every click, some that of the item, some that of the pointer.
+/// What is farther from the pointer than an item is wide, in px, is none of the latter two.
+constexpr int kFarFromPointer = 200;
+
 } // namespace
 
-DesktopTrayItem::DesktopTrayItem(const QDBusConnection& session) : m_notifier(session) {
-    connect(&m_notifier, &StatusNotifierItem::clicked, this, &TrayItem::clicked);
+DesktopTrayItem::DesktopTrayItem(const QDBusConnection& session, bool tellsPointer)
+    : m_tellsPointer(tellsPointer)
+    , m_notifier(session) {
+    connect(&m_notifier, &StatusNotifierItem::clicked, this,
+            [this](QPoint told) { Q_EMIT clicked(placeOfClick(told)); });
     connect(&m_notifier, &StatusNotifierItem::shownChanged, this, &DesktopTrayItem::updateShown);
     connect(&m_notifier, &StatusNotifierItem::watcherChanged, this, &DesktopTrayItem::choose);
     QCoreApplication::instance()->installEventFilter(this); // for changes of the palette
+}
+
+QPoint DesktopTrayItem::placeOfClick(QPoint told) const {
+    if (!m_tellsPointer) return told;
+    const QPoint pointer = QCursor::pos();
+    return (told - pointer).manhattanLength() > kFarFromPointer ? pointer : told;
 }
 
 void DesktopTrayItem::choose() {
@@ -33,11 +47,13 @@ void DesktopTrayItem::choose() {
         connect(m_window.get(), &XEmbedTrayItem::clicked, this, &TrayItem::clicked);
         connect(m_window.get(), &XEmbedTrayItem::shownChanged, this, &DesktopTrayItem::updateShown);
         connect(m_window.get(), &XEmbedTrayItem::groundChanged, this, &DesktopTrayItem::showImage);
+        connect(m_window.get(), &XEmbedTrayItem::placeChanged, this, &TrayItem::placeChanged);
     } else {
         m_window.reset();
         showImage(); // in the colour for a bar that is not known
     }
     updateShown();
+    Q_EMIT placeChanged();
 }
 
 void DesktopTrayItem::updateShown() {
@@ -77,6 +93,11 @@ void DesktopTrayItem::setToolTip(const QString& text) {
 }
 
 QRect DesktopTrayItem::geometry() const { return m_window ? m_window->geometry() : QRect(); }
+
+bool DesktopTrayItem::isPlacePending() const {
+    // A host of the other protocol never tells the place.
+    return m_window ? m_window->geometry().isEmpty() : m_notifier.hasWatcher() != true;
+}
 
 bool DesktopTrayItem::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::ApplicationPaletteChange && m_isTemplate &&

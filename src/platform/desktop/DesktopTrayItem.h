@@ -16,17 +16,21 @@ class DesktopTrayItem final : public TrayItem {
     Q_OBJECT
 
 public:
-    explicit DesktopTrayItem(const QDBusConnection& session);
+    /// `tellsPointer`: the place of the pointer is known wherever it is, so that it can be held
+    /// against what a host says.
+    explicit DesktopTrayItem(const QDBusConnection& session, bool tellsPointer = true);
 
     void setImage(const QIcon& image, bool isTemplate) override;
     void setToolTip(const QString& text) override;
     [[nodiscard]] bool isShown() const override { return m_shown; }
     [[nodiscard]] QRect geometry() const override;
+    [[nodiscard]] bool isPlacePending() const override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    [[nodiscard]] QPoint placeOfClick(QPoint told) const;
     void choose();
     void updateShown();
     void showImage();
@@ -38,6 +42,7 @@ private:
         QIcon image;
     };
 
+    const bool m_tellsPointer;
     QIcon m_image;
     bool m_isTemplate = false;
     Coloured m_coloured; ///< the last template image

@@ -84,7 +84,7 @@ void StatusNotifierItem::setWatcher(bool present) {
     ++m_watcherGeneration;
     m_hasWatcher = present;
     setState(false, false);
-    if (present) announce();
+    if (present && m_imageKey != 0) announce();
     Q_EMIT watcherChanged();
 }
 
@@ -126,10 +126,12 @@ void StatusNotifierItem::setState(bool announced, bool hosted) {
 
 void StatusNotifierItem::setImage(const QIcon& image, const QString& themeName) {
     if (image.cacheKey() == m_imageKey && themeName == m_themeName) return;
+    const bool isFirst = m_imageKey == 0;
     m_imageKey = image.cacheKey();
     m_themeName = themeName;
     m_pixmaps = pixmapsOf(image);
     if (m_announced) Q_EMIT m_adaptor->NewIcon();
+    if (isFirst && m_hasWatcher.value_or(false)) announce();
 }
 
 void StatusNotifierItem::setToolTip(const QString& text) {

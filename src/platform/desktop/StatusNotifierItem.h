@@ -16,8 +16,9 @@ namespace vantle {
 class StatusNotifierAdaptor;
 
 /// The item stands at /StatusNotifierItem of the connection, so there is one a connection. It
-/// announces itself to org.kde.StatusNotifierWatcher whenever that comes or comes back; hosts, the
-/// programs that draw trays, learn of it there and read what they need. Main thread; nothing
+/// announces itself to org.kde.StatusNotifierWatcher with its first image, and whenever the watcher
+/// comes or comes back; hosts, the programs that draw trays, learn of it there and read what they
+/// need. Main thread; nothing
 /// blocks but what says so.
 class StatusNotifierItem final : public QObject {
     Q_OBJECT
@@ -73,7 +74,7 @@ private:
     bool m_hosted = false;
 
     std::list<Serialised> m_serialised; ///< the images shown lately, the last one first
-    qint64 m_imageKey = 0;
+    qint64 m_imageKey = 0;              ///< 0 until the first image
     TrayPixmaps m_pixmaps;
     QString m_themeName;
     TrayToolTip m_toolTip;

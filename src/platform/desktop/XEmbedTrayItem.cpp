@@ -50,8 +50,15 @@ void XEmbedTrayItem::followWindow(const QEvent& event) {
         return;
     }
     m_groundIsStale = true;
-    if (event.type() == QEvent::Move || event.spontaneous()) return;
+    if (event.type() == QEvent::Move) {
+        if (!m_shown) return;
+        m_placed = true;
+        QMetaObject::invokeMethod(this, &XEmbedTrayItem::placeChanged, Qt::QueuedConnection);
+        return;
+    }
+    if (event.spontaneous()) return;
     m_shown = event.type() == QEvent::Show;
+    m_placed = false;
     // Later, since a window may be hidden only to be made anew for the same tray.
     QMetaObject::invokeMethod(this, &XEmbedTrayItem::tellIfChanged, Qt::QueuedConnection);
 }
@@ -60,7 +67,7 @@ void XEmbedTrayItem::lookAtGround() {
     // No tray says what colour it has, so the screen is asked: the image leaves the corner free.
     const QPoint corner = geometry().topLeft();
     QScreen* screen = QGuiApplication::screenAt(corner);
-    if (!m_shown || screen == nullptr) {
+    if (!m_placed || screen == nullptr) {
         m_groundIsStale = true; // docked, and not yet at its place
         return;
     }

@@ -29,14 +29,17 @@ public:
     /// What shownChanged() told last: a tray that dies while the item is made shows it for an
     /// instant that nobody hears of.
     [[nodiscard]] bool isShown() const { return m_toldShown; }
-    /// Where the tray has put it; empty while no tray has.
-    [[nodiscard]] QRect geometry() const { return m_shown ? m_icon.geometry() : QRect(); }
+    /// Where the tray has put it; empty while no tray has. A tray takes the window in first and
+    /// moves it to its place later; until then the toolkit reports the corner of the screen.
+    [[nodiscard]] QRect geometry() const { return m_placed ? m_icon.geometry() : QRect(); }
 
     /// The colour of the tray around the image, as far as it has been seen.
     [[nodiscard]] const std::optional<QColor>& ground() const { return m_ground; }
 
 Q_SIGNALS:
     void shownChanged();
+    /// geometry() changed.
+    void placeChanged();
     void groundChanged();
     /// A left or right click, where the pointer is.
     void clicked(QPoint place);
@@ -51,6 +54,7 @@ private:
 
     QSystemTrayIcon m_icon;
     bool m_shown = false;
+    bool m_placed = false; ///< moved since it was shown
     bool m_toldShown = false;
     std::optional<QColor> m_ground;
     bool m_groundIsStale = true;
