@@ -1,0 +1,181 @@
+// What every host of floating panels promises.
+#include "contract/Contract.h"
+#include "fakes/FakePanelHost.h"
+#include "platform/x11/X11PanelHost.h"
+#include "support/Await.h"
+#include "support/Text.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QProcess>
+
+namespace vantle {
+namespace {
+
+using tests::await;
+using tests::text;
+
+/// A desktop with a pointer, an application in front, and a compositor that comes and goes.
+class HostWorld {
+public:
+    virtual ~HostWorld() = default;
+    [[nodiscard]] virtual PanelHost& host() = 0;
+    virtual void startCompositor() = 0;
+    virtual void endCompositor() = 0;
+    virtual void movePointer(QPoint place) = 0;
+    /// Whether the keyboard is with the window.
+    [[nodiscard]] virtual bool hasKeyboard(QWindow& window) = 0;
+};
+
+class FakeWorld final : public HostWorld {
+public:
+    FakeWorld() { m_host.composited = false; }
+    [[nodiscard]] PanelHost& host() override { return m_host; }
+    void startCompositor() override { m_host.setComposited(true); }
+    void endCompositor() override { m_host.setComposited(false); }
+    void movePointer(QPoint place) override { m_host.movePointer(place); }
+    [[nodiscard]] bool hasKeyboard(QWindow& window) override {
+        return m_host.keyboardOwner == &window;
+    }
+
+private:
+    fakes::FakePanelHost m_host;
+};
+
+/// The X server of the test.
+class X11World final : public HostWorld {
+public:
+    X11World() {
+        QCursor::setPos(1200, 800);
+        m_below.setGeometry(700, 500, 300, 200);
+        m_below.show();
+        EXPECT_TRUE(await([this] { return focus() == m_below.winId(); }));
+    }
+    ~X11World() override { endCompositor(); }
+    X11World(const X11World&) = delete;
+    X11World& operator=(const X11World&) = delete;
+
+    [[nodiscard]] PanelHost& host() override { return m_host; }
+    void startCompositor() override {
+        m_compositor.start(text("picom"), {text("--config"), text("/dev/null"), text("--backend"),
+                                           text("xrender"), text("--no-vsync")});
+        EXPECT_TRUE(m_compositor.waitForStarted());
+    }
+    void endCompositor() override {
+        m_compositor.kill(); // it gives nothing up
+        m_compositor.waitForFinished();
+    }
+    void movePointer(QPoint place) override { QCursor::setPos(place); }
+    [[nodiscard]] bool hasKeyboard(QWindow& window) override { return focus() == window.winId(); }
+
+private:
+    [[nodiscard]] WId focus() {
+        const auto answer =
+            m_x11.reply<xcb_get_input_focus_reply>(xcb_get_input_focus(m_x11.xcb()));
+        return answer ? answer->focus : 0;
+    }
+
+    X11Connection m_x11;
+    X11PanelHost m_host{m_x11};
+    QWindow m_below;
+    QProcess m_compositor;
+};
+
+class PanelHostContract : public contract::Contract<HostWorld> {
+protected:
+    PanelHostContract() {
+        QObject::connect(&host(), &PanelHost::compositedChanged,
+                         [this] { m_told.push_back(host().isComposited()); });
+    }
+    [[nodiscard]] PanelHost& host() const { return world().host(); }
+    /// A window as panels are: unmanaged, and shown without the keyboard.
+    [[nodiscard]] static std::unique_ptr<QWindow> makePanel() {
+        auto panel = std::make_unique<QWindow>();
+        panel->setFlags(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint);
+        panel->setGeometry(300, 200, 200, 100);
+        panel->create();
+        panel->show();
+        EXPECT_TRUE(await([&] { return panel->isExposed(); }));
+        return panel;
+    }
+
+    QList<bool> m_told;
+};
+
+INSTANTIATE_TEST_SUITE_P(, PanelHostContract,
+                         testing::Values(contract::maker<HostWorld, FakeWorld>("Fake"),
+                                         contract::maker<HostWorld, X11World>("X11")),
+                         contract::kByName);
+
+TEST_P(PanelHostContract, TellsOfACompositorThatComesAndGoes) {
+    EXPECT_FALSE(host().isComposited());
+    for (int i = 0; i < 2; ++i) {
+        world().startCompositor();
+        EXPECT_TRUE(await([this] { return host().isComposited(); }));
+        world().endCompositor();
+        EXPECT_TRUE(await([this] { return !host().isComposited(); }));
+    }
+    EXPECT_EQ(m_told, (QList<bool>{true, false, true, false}));
+}
+
+TEST_P(PanelHostContract, GivesTheKeyboardToThePanelAndBack) {
+    const auto panel = makePanel();
+    EXPECT_FALSE(world().hasKeyboard(*panel)) << "showing it gives it nothing";
+    host().takeKeyboard(*panel);
+    EXPECT_TRUE(await([&] { return world().hasKeyboard(*panel); }));
+    host().takeKeyboard(*panel);
+    host().returnKeyboard(*panel);
+    EXPECT_TRUE(await([&] { return !world().hasKeyboard(*panel); }));
+}
+
+TEST_P(PanelHostContract, ReturnsNothingThatIsAnothersByNow) {
+    const auto panel = makePanel();
+    const auto other = makePanel();
+    host().takeKeyboard(*panel);
+    host().takeKeyboard(*other);
+    ASSERT_TRUE(await([&] { return world().hasKeyboard(*other); }));
+    host().returnKeyboard(*panel);
+    EXPECT_TRUE(world().hasKeyboard(*other));
+    host().returnKeyboard(*other);
+}
+
+TEST_P(PanelHostContract, SensorTellsOfEachArrivalUntilItIsGone) {
+    int entered = 0;
+    auto sensor = host().senseAt({600, 0, 230, 10}, [&] { ++entered; });
+    ASSERT_TRUE(sensor);
+    EXPECT_EQ(entered, 0);
+    for (int i = 1; i <= 2; ++i) {
+        world().movePointer({700, 5});
+        EXPECT_TRUE(await([&] { return entered == i; }));
+        world().movePointer({705, 6}); // still in it
+        world().movePointer({700, 400});
+        tests::runFor(50);
+    }
+    EXPECT_EQ(entered, 2);
+    sensor.reset();
+    world().movePointer({700, 5});
+    tests::runFor(50);
+    EXPECT_EQ(entered, 2);
+}
+
+TEST_P(PanelHostContract, SensorFeelsAPointerThatIsThereAlready) {
+    world().movePointer({700, 5});
+    int entered = 0;
+    const auto sensor = host().senseAt({600, 0, 230, 10}, [&] { ++entered; });
+    EXPECT_EQ(entered, 0) << "not within the call";
+    EXPECT_TRUE(await([&] { return entered == 1; }));
+}
+
+TEST_P(PanelHostContract, SensorMayGoInItsOwnCall) {
+    std::unique_ptr<PointerSensor> sensor;
+    int entered = 0;
+    sensor = host().senseAt({600, 0, 230, 10}, [&] {
+        sensor.reset();
+        ++entered;
+    });
+    world().movePointer({700, 5});
+    EXPECT_TRUE(await([&] { return entered == 1; }));
+}
+
+} // namespace
+} // namespace vantle
