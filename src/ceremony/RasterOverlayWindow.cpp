@@ -31,6 +31,10 @@ void RasterOverlayWindow::refresh() {
     if (isOver()) return;
     if (elapsed() >= m_view->endTime()) return end();
     if (!takeShape()) return hide();
+    if (handle() == nullptr) {
+        create();
+        m_host.markFloating(*this);
+    }
     show();
     update();
 }

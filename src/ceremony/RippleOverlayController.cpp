@@ -8,6 +8,7 @@
 #include "ceremony/CollapseRippleView.h"
 #include "ceremony/ReducedMotionFadeView.h"
 #include "ceremony/show/CeremonyFrameRenderer.h"
+#include "platform/PanelHost.h"
 #include "platform/Preferences.h"
 #include "platform/ReducedMotion.h"
 #include "platform/Screens.h"
@@ -34,7 +35,12 @@ struct RippleOverlayController::Prepared {
 };
 
 RippleOverlayController::RippleOverlayController(Environment environment)
-    : m_env(std::move(environment)) {}
+    : m_env(std::move(environment)) {
+    // A show that plays when the user asks for less movement is over; the next one is the fade.
+    connect(&m_env.reducedMotion, &ReducedMotion::changed, this, [this] {
+        if (m_env.reducedMotion.enabled()) dismiss();
+    });
+}
 
 Seconds RippleOverlayController::hardStopSeconds(CeremonyShow show) {
     switch (show.kind) {
@@ -71,7 +77,7 @@ CeremonyVariant RippleOverlayController::pickVariant() {
 
 void RippleOverlayController::play(CeremonyShow show, std::uint32_t hexRGB,
                                    const std::optional<QString>& skillName) {
-    if (m_env.preferences.flag(disabledDefaultsKey)) return;
+    if (m_env.preferences.flag(disabledDefaultsKey) || !m_env.host.hasInputRegions()) return;
     dismiss();
     ++m_generation;
     const Date start = m_env.clock.now();

@@ -15,6 +15,7 @@ namespace vantle {
 
 class CeremonyFrameRenderer;
 class Clock;
+class PanelHost;
 class Preferences;
 class RandomSource;
 class ReducedMotion;
@@ -45,6 +46,7 @@ public:
         Preferences& preferences;
         const ReducedMotion& reducedMotion;
         const Screens& screens;
+        const PanelHost& host;
         OverlayStage& stage;
         WebStage& web;
         RandomSource& random; ///< chooses the variants; main thread
@@ -54,7 +56,8 @@ public:
     explicit RippleOverlayController(Environment environment);
 
     /// Cuts off what plays and plays this, over every screen. Nothing at all happens while the
-    /// person has the ceremony switched off.
+    /// user has the ceremony switched off, nor where a window over the screen would swallow
+    /// presses.
     void play(CeremonyShow show, std::uint32_t hexRGB,
               const std::optional<QString>& skillName) override;
 

@@ -1,6 +1,7 @@
 // What a floating panel asks of the desktop beyond having a window.
 #pragma once
 
+#include <QObject>
 #include <QRegion>
 #include <QWindow>
 
@@ -16,15 +17,26 @@ public:
 };
 
 /// Panels lie above other windows without being in anybody's way: only part of one feels the
-/// pointer, and none has the keyboard unless the person types into it. The bodies here are those of
+/// pointer, and none has the keyboard unless the user types into it. The bodies here are those of
 /// a desktop that offers nothing of this. Main thread; windows must have been created.
-class PanelHost {
-public:
-    virtual ~PanelHost() = default;
+class PanelHost : public QObject {
+    Q_OBJECT
 
-    /// Whether what is transparent in a window shows what lies below. Asked when a panel is shown:
-    /// a compositor may come and go.
+public:
+    /// Whether what is transparent in a window shows what lies below. A compositor may come and go.
     [[nodiscard]] virtual bool isComposited() { return true; }
+
+    /// Whether setInputRegion() takes effect. Where it does not, a window takes every press over
+    /// it, seen or not, so it must be no larger than what is to feel the pointer. Does not change.
+    [[nodiscard]] virtual bool hasInputRegions() const { return true; }
+
+    /// Whether the place of the pointer is known while it is over windows of other applications.
+    /// Where it is not, only entering and leaving a window can be believed. Does not change.
+    [[nodiscard]] virtual bool tellsPointer() const { return true; }
+
+    /// Keeps the desktop from giving the keyboard to the window when it is shown. For each window
+    /// that floats, between its creation and its first show.
+    virtual void markFloating(QWindow&) {}
 
     /// Only this part of the window feels the pointer; all else lets it through to what is below.
     /// In px of the window, from its top left; an empty region lets everything through. To be set
@@ -45,6 +57,10 @@ public:
     /// Gives the keyboard back to who had it before takeKeyboard(), or to the application in front
     /// where that is gone. Nothing when the window doesn't have it any more.
     virtual void returnKeyboard(QWindow&) {}
+
+Q_SIGNALS:
+    /// isComposited() changed: a compositor came or went.
+    void compositedChanged();
 };
 
 } // namespace vantle

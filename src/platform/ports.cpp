@@ -1,5 +1,6 @@
 // Gives the ports that are QObjects their meta-objects, and proves that each header stands alone.
 #include "platform/Autostart.h"
+#include "platform/CannotTell.h"
 #include "platform/FrontmostApp.h"
 #include "platform/HotKeyPort.h"
 #include "platform/IdleSource.h"

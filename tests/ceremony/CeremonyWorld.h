@@ -4,6 +4,7 @@
 #include "base/RandomSource.h"
 #include "ceremony/FakeStages.h"
 #include "ceremony/RippleOverlayController.h"
+#include "fakes/FakePanelHost.h"
 #include "fakes/FakeReducedMotion.h"
 #include "fakes/FakeScreens.h"
 #include "fakes/MemoryPreferences.h"
@@ -45,6 +46,7 @@ struct CeremonyWorld {
                       .preferences = preferences,
                       .reducedMotion = reducedMotion,
                       .screens = screens,
+                      .host = host,
                       .stage = stage,
                       .web = web,
                       .random = random,
@@ -57,6 +59,7 @@ struct CeremonyWorld {
     fakes::MemoryPreferences preferences;
     fakes::FakeReducedMotion reducedMotion;
     fakes::FakeScreens screens;
+    fakes::FakePanelHost host;
     ShownWindows windows;
     FakeStage stage{windows};
     FakeWebStage web{windows};

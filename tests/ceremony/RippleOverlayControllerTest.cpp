@@ -101,6 +101,28 @@ TEST_F(RippleOverlayControllerTest, ReducedMotionTurnsStartAndEndIntoTheFadeAndP
     EXPECT_EQ(controller.lastVariantIndex(), -1);
 }
 
+TEST_F(RippleOverlayControllerTest, ReducedMotionEndsAShowThatPlays) {
+    playReady(CeremonyShow::Full);
+    time.advance(0.5);
+    ASSERT_EQ(world.windows.count(), 2);
+    world.reducedMotion.set(true);
+    EXPECT_EQ(world.windows.count(), 0);
+    world.reducedMotion.set(false);
+    time.advance(0.5);
+    EXPECT_EQ(world.windows.count(), 0);
+}
+
+TEST_F(RippleOverlayControllerTest, NothingPlaysWhereAWindowWouldSwallowThePresses) {
+    world.host.inputRegions = false;
+    for (const CeremonyShow show : {CeremonyShow::Full, CeremonyShow::Collapse}) {
+        playReady(show);
+        EXPECT_EQ(world.windows.count(), 0);
+    }
+    world.reducedMotion.isOn = true;
+    playReady(CeremonyShow::Full);
+    EXPECT_EQ(world.windows.count(), 0);
+}
+
 TEST_F(RippleOverlayControllerTest, AllFiveScriptsArePossibleTheFirstTime) {
     std::set<int> picked;
     for (int i = 0; i < 5; ++i)

@@ -12,6 +12,7 @@ TITLE = "Vantle Capsule"
 SCREEN_WIDTH = 1440
 MIDDLE = SCREEN_WIDTH // 2
 BLACK = (0, 0, 0)
+GROUND = (0x5A, 0x64, 0x78)
 
 # In px from the middle of the screen's top edge.
 STRIP = (0, 4)
@@ -32,7 +33,8 @@ class CapsuleTest(DesktopTest):
 
     def setUp(self):
         super().setUp()
-        self.desktop.tool("xsetroot", "-solid", "#5A6478")  # else it is as black as the capsule
+        # Else it is as black as the capsule.
+        self.desktop.tool("xsetroot", "-solid", f"#{bytes(GROUND).hex()}")
         self.desktop.env["VANTLE_AUTOSTART"] = "1"  # nothing else pops up
         self.vantle.write_preferences(ripple__disabled="true", notch__intro__flashed="true")
 
@@ -119,6 +121,52 @@ class OpensSquare(CapsuleTest):
         self.desktop.screenshot("square")
         self.turn_away()
         wait_until("a closed capsule", lambda: not self.is_open())
+
+
+class CompositorThatEnds(CapsuleTest):
+    """The compositor is the test's own, so that it can end as a crash ends one."""
+
+    compositor = False
+
+    def start_compositor(self):
+        self.compositor_process = self.desktop.open(
+            "picom", "--config", "/dev/null", "--backend", "xrender", "--no-vsync")
+
+    def end_compositor(self):
+        self.compositor_process.kill()
+        self.compositor_process.wait()
+
+    def top_colours(self):
+        return self.desktop.picture(MIDDLE - 270, 0, 540, 220).colours()
+
+    def test_nothing_black_is_left_at_the_top_and_the_capsule_works_both_ways(self):
+        self.start_compositor()
+        self.launch()
+        wait_until("the capsule's window", lambda: self.desktop.windows_named(TITLE))
+        for _ in range(2):
+            self.end_compositor()
+            wait_until("no capsule's window", lambda: not self.desktop.windows_named(TITLE))
+            wait_until("the plain desktop", lambda: list(self.top_colours()) == [GROUND])
+            self.open_capsule()
+            self.desktop.screenshot("square")
+            self.turn_away()
+            wait_until("a closed capsule", lambda: not self.is_open())
+            self.start_compositor()
+            wait_until("the capsule's window", lambda: self.desktop.windows_named(TITLE))
+            wait_until("the plain desktop", lambda: list(self.top_colours()) == [GROUND])
+            self.open_capsule()
+            self.turn_away()
+            wait_until("a closed capsule", lambda: not self.is_open())
+
+    def test_an_open_menu_has_no_black_corners(self):
+        self.launch()
+        self.open_capsule()
+        self.click(CHIP_DESIGN, button=3)
+        self.await_keyboard()
+        time.sleep(0.3)
+        self.desktop.screenshot("menu")
+        below = self.desktop.picture(MIDDLE - 270, 172, 540, 60).colours()
+        self.assertNotIn(BLACK, below)
 
 
 class LetsThrough(CapsuleTest):

@@ -127,6 +127,32 @@ class FirstSummary(CardTest):
                    lambda: self.focused_window() in self.desktop.windows_named(WELCOME))
 
 
+class ScreenThatGoes(CardTest):
+    """The card stands on the main screen, on the right, until that is unplugged."""
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.tool("xrandr", "--setmonitor", "*right", "640/169x900/238+800+0", "screen")
+        self.desktop.tool("xrandr", "--setmonitor", "left", "800/210x900/238+0+0", "none")
+
+    def test_the_card_comes_to_the_other_screen_with_its_half_written_note(self):
+        self.launch()
+        self.begin_session()
+        self.end_session()
+        x, y, _, height = self.await_card(SUMMARY)
+        self.click(x + 120, y + height - 110)
+        self.desktop.type("half a")
+        self.desktop.tool("xrandr", "--delmonitor", "right")
+        window, = self.desktop.windows_named(SUMMARY)
+        wait_until("the card on the other screen",
+                   lambda: self.desktop.frame_of(window)[0] == 800 - RIGHT_INSET - CARD_WIDTH)
+        self.desktop.screenshot("moved")
+        self.desktop.type(" note")
+        self.desktop.press("Return")
+        wait_until("the note in the log",
+                   lambda: self.vantle.sessions()[-1]["note"] == "half a note")
+
+
 class Recovery(CardTest):
 
     tray_kind = DesktopTest.STATUS_NOTIFIER

@@ -166,17 +166,50 @@ class Activated(Panel):
         self.await_shown()
 
 
+class FirstPanel(DesktopTest):
+    """The panel that a start by hand shows, beside a tray that takes a moment."""
+
+    def test_it_drops_from_the_item_and_never_stands_anywhere_else(self):
+        self.vantle.start()
+        frames = []
+
+        def has_stood():
+            for window in self.desktop.windows_named(PANEL_TITLE):
+                frames.append(self.desktop.frame_of(window))
+            return len(frames) > 20
+
+        wait_until("the panel", has_stood)
+        _, bar_y, _, bar_height = self.desktop.tray_frame()
+        for x, y, width, _ in frames:
+            self.assertEqual(x + width, 1440 - 8, "as near to the item as the edge allows")
+            self.assertEqual(y, bar_y + bar_height + 4)
+
+
 class StatusNotifierPanel(Panel):
 
     tray_kind = DesktopTest.STATUS_NOTIFIER
 
     def test_it_stands_at_the_place_of_the_click_where_only_that_is_known(self):
+        self.desktop.tool("xdotool", "mousemove", "705", "12")
         self.tray.activate(700, 10)
         self.await_shown()
         x, y, width, _ = self.frame()
         self.assertEqual((x + width // 2, y), (700, 14 + 1))
         self.tray.activate(700, 10)
         self.await_hidden()
+
+
+    def test_a_host_that_gives_one_place_for_every_click_opens_and_closes_it_too(self):
+        self.click(700, 10)
+        self.tray.activate(0, 25)
+        self.await_shown()
+        x, y, width, _ = self.frame()
+        self.assertEqual((x + width // 2, y), (700, 14 + 1))
+        self.click(700, 10)
+        self.tray.activate(0, 25)
+        self.await_hidden()
+        time.sleep(0.5)
+        self.assertFalse(self.is_shown(), "the click that closed it does not open it again")
 
 
 class NoTrayPanel(Panel):

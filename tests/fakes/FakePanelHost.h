@@ -3,7 +3,10 @@
 
 #include "platform/PanelHost.h"
 
+#include <QCoreApplication>
+
 #include <optional>
+#include <set>
 #include <utility>
 
 namespace vantle::fakes {
@@ -11,15 +14,34 @@ namespace vantle::fakes {
 class FakePanelHost final : public PanelHost {
 public:
     [[nodiscard]] bool isComposited() override { return composited; }
+    [[nodiscard]] bool hasInputRegions() const override { return inputRegions; }
+    [[nodiscard]] bool tellsPointer() const override { return pointerIsTold; }
+    void markFloating(QWindow& window) override {
+        if (!window.isVisible()) marked.insert(&window);
+    }
     void setInputRegion(QWindow&, const QRegion& region) override { inputRegion = region; }
     [[nodiscard]] std::unique_ptr<PointerSensor> senseAt(const QRect& part,
                                                          std::function<void()> entered) override {
         sensor = Sensor{part, std::move(entered)};
+        // As a server tells it: later.
+        if (part.contains(pointer))
+            QMetaObject::invokeMethod(
+                this, [this] { tellSensor(); }, Qt::QueuedConnection);
         return std::make_unique<Sensing>(*this);
     }
     void takeKeyboard(QWindow& window) override { keyboardOwner = &window; }
     void returnKeyboard(QWindow& window) override {
         if (keyboardOwner == &window) keyboardOwner = nullptr;
+    }
+
+    /// A compositor comes or goes.
+    void setComposited(bool isThere) {
+        if (std::exchange(composited, isThere) != isThere) Q_EMIT compositedChanged();
+    }
+    /// The user moves the pointer there.
+    void movePointer(QPoint place) {
+        const QPoint before = std::exchange(pointer, place);
+        if (sensor && !sensor->part.contains(before)) tellSensor();
     }
 
     struct Sensor {
@@ -28,6 +50,9 @@ public:
     };
     std::optional<Sensor> sensor; ///< the one that there is
     bool composited = true;
+    bool inputRegions = true;
+    bool pointerIsTold = true;
+    std::set<const QWindow*> marked;  ///< as floating, before their first show
     QRegion inputRegion;              ///< of the window that set one last
     QWindow* keyboardOwner = nullptr; ///< null while the keyboard is with the application below
 
@@ -37,6 +62,14 @@ private:
         ~Sensing() override { host.sensor.reset(); }
         FakePanelHost& host;
     };
+
+    void tellSensor() {
+        if (!sensor || !sensor->part.contains(pointer)) return;
+        const auto entered = sensor->entered; // the sensor may go meanwhile
+        entered();
+    }
+
+    QPoint pointer{-1000, -1000};
 };
 
 } // namespace vantle::fakes

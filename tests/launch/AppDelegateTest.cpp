@@ -1,6 +1,7 @@
 #include "launch/AppDelegateWorld.h"
 #include "support/QtPrinters.h"
 #include "surfaces/cards/StopSummaryModel.h"
+#include "surfaces/panel/FloatingPanel.h"
 
 #include <gtest/gtest.h>
 
@@ -92,6 +93,35 @@ TEST_F(AppDelegateTest, AStartByHandOpensThePanel) {
     EXPECT_EQ(opened, 1);
     byHand->applicationShouldHandleReopen();
     EXPECT_EQ(opened, 2);
+}
+
+TEST_F(AppDelegateTest, FirstPanelWaitsUntilTheTrayHasPlacedTheItem) {
+    shapes.shapes = fakes::FakeScreens().shapes;
+    tray.placePending = true;
+    const auto app = makeCopy();
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    time.advance(0.4);
+    EXPECT_FALSE(app->commandCenter()->isShown());
+    tray.moveTo(QRect(1000, 0, 24, 24));
+    ASSERT_TRUE(app->commandCenter()->isShown());
+    const FloatingPanel* const panel = app->commandCenter()->panel();
+    const QRect frame = panel->inputRegion().boundingRect().translated(panel->position());
+    EXPECT_EQ(frame.center().x(), 1011);
+    app->commandCenter()->hide();
+    time.advance(1);
+    EXPECT_FALSE(app->commandCenter()->isShown()) << "it opens once";
+}
+
+TEST_F(AppDelegateTest, FirstPanelOpensInTheCornerWhereNoTrayPlacesTheItem) {
+    shapes.shapes = fakes::FakeScreens().shapes;
+    tray.placePending = true;
+    const auto app = makeCopy();
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    time.advance(0.6);
+    ASSERT_TRUE(app->commandCenter()->isShown());
+    const FloatingPanel* const panel = app->commandCenter()->panel();
+    const QRect frame = panel->inputRegion().boundingRect().translated(panel->position());
+    EXPECT_EQ(frame.topRight(), QPoint(1440 - 12 - 1, 28 + 8));
 }
 
 TEST_F(AppDelegateTest, ANoteTypedIntoTheCardAfterASessionLandsInTheLog) {

@@ -22,6 +22,10 @@ namespace {
 /// The program has tried once to start at login. Whoever turns that off later stays off.
 constexpr QLatin1String kLoginAutoRegistered("login.autoRegistered");
 
+/// In which a tray has placed an item that has just come; where it has not, the panel opens in the
+/// corner of the screen.
+constexpr Seconds kPlacePatience{0.5};
+
 /// The identity under which the desktop knows the program's own windows.
 const QString& ownBundleId() {
     static const QString id = QStringLiteral("local.vantle.Vantle");
@@ -62,10 +66,25 @@ bool AppDelegate::applicationDidFinishLaunching() {
         return true;
     }
     if (m_env.startedUnasked) return true;
-    m_env.scheduler.post([model = QPointer(m_model.get())] {
-        if (model) model->showCommandCenter();
+    m_env.scheduler.post([this, model = QPointer(m_model.get())] {
+        if (model) showFirstPanel();
     });
     return true;
+}
+
+void AppDelegate::showFirstPanel() {
+    // It drops from the tray item, which a tray takes a moment to put in its place.
+    if (!m_env.trayItem.isPlacePending()) return m_model->showCommandCenter();
+    const auto show = [this] {
+        const TimerHandle spent = std::move(m_trayPatience);
+        QObject::disconnect(m_trayPlaced);
+        m_model->showCommandCenter();
+    };
+    m_trayPatience = m_env.scheduler.scheduleOnce(kPlacePatience, show);
+    m_trayPlaced =
+        QObject::connect(&m_env.trayItem, &TrayItem::placeChanged, m_model.get(), [this, show] {
+            if (!m_env.trayItem.isPlacePending()) show();
+        });
 }
 
 void AppDelegate::registerLoginItemOnce() {
@@ -114,7 +133,7 @@ void AppDelegate::makeCards(Collaborators& collaborators) {
 void AppDelegate::makeWindows() {
     m_router = std::make_unique<WindowRouter>(
         WindowEnvironment{m_env.viewEngine, m_activation, m_env.preferences, m_env.screens,
-                          m_env.panelHost, [this] { m_model->quit(); }},
+                          m_env.panelHost, m_env.scheduler, [this] { m_model->quit(); }},
         m_notifications);
     registerWindows({*m_model,
                      m_skills,
@@ -136,7 +155,8 @@ void AppDelegate::makeWindows() {
                      m_env.posterSharing,
                      m_env.trayItem,
                      m_env.idleSource,
-                     m_env.frontmostApp});
+                     m_env.frontmostApp,
+                     m_env.panelHost});
     m_commandCenter =
         std::make_unique<CommandCenterController>(CommandCenterController::Environment{
             *m_model, m_skills, m_env.preferences, m_env.clock, m_env.scheduler, *m_router,

@@ -105,6 +105,7 @@ private:
     void makeCards(Collaborators& collaborators);
     void makeWindows();
     void makeStatusItem();
+    void showFirstPanel();
     void showCommandCenter();
     void showStatus();
 
@@ -123,6 +124,8 @@ private:
     std::unique_ptr<CommandCenterController> m_commandCenter;
     std::unique_ptr<StatusItemController> m_statusItem;
     MissingTray m_missingTray;
+    TimerHandle m_trayPatience; ///< there while the first panel waits for the tray
+    QMetaObject::Connection m_trayPlaced;
 };
 
 } // namespace vantle

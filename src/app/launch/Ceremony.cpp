@@ -62,6 +62,7 @@ std::unique_ptr<collaborators::Ripple> Ceremony::makeRipple() {
                                              .preferences = m_env.preferences,
                                              .reducedMotion = m_env.reducedMotion,
                                              .screens = m_env.screens,
+                                             .host = m_env.panelHost,
                                              .stage = m_stage,
                                              .web = m_web,
                                              .random = m_random,

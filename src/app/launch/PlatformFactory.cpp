@@ -1,6 +1,7 @@
 #include "app/launch/PlatformFactory.h"
 
 #include "base/Clock.h"
+#include "platform/CannotTell.h"
 #include "platform/dbus/ApplicationService.h"
 #include "platform/dbus/BusGreeting.h"
 #include "platform/dbus/DesktopReducedMotion.h"
@@ -27,6 +28,7 @@
 #include "platform/x11/X11PanelHost.h"
 #include "platform/x11/X11PointerPresses.h"
 #include "platform/x11/X11ScreenPower.h"
+#include "platform/x11/XwaylandTraits.h"
 #include "sensing/ScreenPowerUnion.h"
 
 #include <QCoreApplication>
@@ -46,10 +48,21 @@ QString xdgDirectory(const char* variable, const QString& underHome) {
 
 QString configHome() { return xdgDirectory("XDG_CONFIG_HOME", QStringLiteral("/.config")); }
 
-/// Whether the X server is one beside a Wayland compositor.
-bool isWaylandSession() {
-    return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
-           qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String("wayland");
+/// Xwayland sees only the input that goes to X11 windows, and calls the last X11 window active
+/// while the user works in another one. What it says of either is worse than nothing.
+std::unique_ptr<IdleSource> makeIdleSource(X11Connection& x11, const Clock& clock,
+                                           const XwaylandTraits& xwayland) {
+    if (xwayland.isXwayland) return std::make_unique<NoIdleSource>();
+    return std::make_unique<X11IdleSource>(x11, clock);
+}
+
+std::unique_ptr<FrontmostApp> makeFrontmostApp(X11Connection& x11, Scheduler& scheduler,
+                                               const XwaylandTraits& xwayland,
+                                               DesktopApplications& applications) {
+    if (xwayland.isXwayland) return std::make_unique<NoFrontmostApp>();
+    return std::make_unique<X11FrontmostApp>(
+        x11, scheduler,
+        [&applications](const WindowHints& hints) { return applications.identify(hints); });
 }
 
 std::unique_ptr<ScreenPower> makeScreenPower(X11Connection& x11, Scheduler& scheduler,
@@ -70,22 +83,21 @@ public:
         : m_events(std::move(events))
         , m_session(QDBusConnection::sessionBus())
         , m_preferences(m_files, configHome() + QStringLiteral("/Vantle/preferences.ini"))
-        , m_idleSource(m_x11, m_clock)
+        , m_xwayland(xwaylandTraits(m_x11))
+        , m_idleSource(makeIdleSource(m_x11, m_clock, m_xwayland))
         , m_screenPower(makeScreenPower(m_x11, scheduler, m_session))
-        , m_hotKey(m_x11, scheduler, isWaylandSession())
+        , m_hotKey(m_x11, scheduler, m_xwayland.isXwayland)
         , m_applications(DesktopApplications::standardFolders(),
                          ApplicationEntry::localeNames(QLocale::system()))
-        , m_frontmostApp(
-              m_x11, scheduler,
-              [this](const WindowHints& hints) { return m_applications.identify(hints); })
+        , m_frontmostApp(makeFrontmostApp(m_x11, scheduler, m_xwayland, m_applications))
         , m_processRunner(std::move(environment))
         , m_fileManager(m_session, m_processRunner)
         , m_reducedMotion(m_session, configHome())
         , m_autostart(m_files,
                       configHome() + QStringLiteral("/autostart/local.vantle.Vantle.desktop"),
                       QCoreApplication::applicationFilePath())
-        , m_trayItem(m_session)
-        , m_panelHost(m_x11)
+        , m_trayItem(m_session, !m_xwayland.isXwayland)
+        , m_panelHost(m_x11, m_xwayland)
         , m_pointerPresses(m_x11)
         , m_languageModel(m_files, configHome() + QStringLiteral("/Vantle/language-model.conf"),
                           scheduler)
@@ -102,10 +114,10 @@ public:
 
     [[nodiscard]] FileSystem& fileSystem() override { return m_files; }
     [[nodiscard]] Preferences& preferences() override { return m_preferences; }
-    [[nodiscard]] IdleSource& idleSource() override { return m_idleSource; }
+    [[nodiscard]] IdleSource& idleSource() override { return *m_idleSource; }
     [[nodiscard]] ScreenPower& screenPower() override { return *m_screenPower; }
     [[nodiscard]] HotKeyPort& hotKeyPort() override { return m_hotKey; }
-    [[nodiscard]] FrontmostApp& frontmostApp() override { return m_frontmostApp; }
+    [[nodiscard]] FrontmostApp& frontmostApp() override { return *m_frontmostApp; }
     [[nodiscard]] ProcessRunner& processRunner() override { return m_processRunner; }
     [[nodiscard]] ReducedMotion& reducedMotion() override { return m_reducedMotion; }
     [[nodiscard]] Autostart& autostart() override { return m_autostart; }
@@ -142,11 +154,12 @@ private:
     X11Connection m_x11;
     SystemClock m_clock;
     SettingsPreferences m_preferences;
-    X11IdleSource m_idleSource;
+    const XwaylandTraits m_xwayland;
+    std::unique_ptr<IdleSource> m_idleSource;
     std::unique_ptr<ScreenPower> m_screenPower;
     X11HotKey m_hotKey;
     DesktopApplications m_applications;
-    X11FrontmostApp m_frontmostApp;
+    std::unique_ptr<FrontmostApp> m_frontmostApp;
     PosixProcessRunner m_processRunner;
     FileManager m_fileManager;
     DesktopReducedMotion m_reducedMotion;

@@ -110,6 +110,7 @@ std::unique_ptr<QObject> makeSettings(const WindowParts& parts) {
                                   .tray = parts.tray,
                                   .idleSource = parts.idleSource,
                                   .frontmostApp = parts.frontmostApp,
+                                  .panelHost = parts.panelHost,
                                   .copy = copyText,
                                   .eraseAllData = [&model = parts.model, &router = parts.router] {
                                       return eraseAndStartOver(model, router);

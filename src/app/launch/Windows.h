@@ -16,6 +16,7 @@ class Clock;
 class FocusLink;
 class LanguageModel;
 class NotificationCenter;
+class PanelHost;
 class PosterSharing;
 class Preferences;
 class ReducedMotion;
@@ -48,6 +49,7 @@ struct WindowParts {
     const TrayItem& tray;
     const IdleSource& idleSource;
     const FrontmostApp& frontmostApp;
+    const PanelHost& panelHost;
 };
 
 /// Tells the router of every window that there is. Main thread, once.

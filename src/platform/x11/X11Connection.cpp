@@ -23,11 +23,10 @@ xcb_window_t rootOfScreen(const xcb_setup_t* setup, int number) {
 
 X11Connection::X11Connection(const QByteArray& display)
     : m_subscribers(std::make_shared<Subscribers>()) {
-    int screen = 0;
-    m_xcb = xcb_connect(display.isEmpty() ? nullptr : display.constData(), &screen);
+    m_xcb = xcb_connect(display.isEmpty() ? nullptr : display.constData(), &m_screen);
     m_alive = xcb_connection_has_error(m_xcb) == 0;
     if (!m_alive) return;
-    m_root = rootOfScreen(xcb_get_setup(m_xcb), screen);
+    m_root = rootOfScreen(xcb_get_setup(m_xcb), m_screen);
     m_notifier =
         std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(m_xcb), QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {

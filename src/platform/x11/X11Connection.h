@@ -46,6 +46,8 @@ public:
     [[nodiscard]] xcb_connection_t* xcb() const { return m_xcb; }
     /// The root window of the screen that the display name chose; 0 without a server.
     [[nodiscard]] xcb_window_t root() const { return m_root; }
+    /// The number of that screen.
+    [[nodiscard]] int screen() const { return m_screen; }
     /// What the server says about an extension. Null when it lacks the extension.
     [[nodiscard]] const xcb_query_extension_reply_t* extension(xcb_extension_t& id);
 
@@ -95,6 +97,7 @@ private:
 
     xcb_connection_t* m_xcb = nullptr;
     xcb_window_t m_root = 0;
+    int m_screen = 0;
     bool m_alive = false;
     bool m_dispatchPosted = false;
     bool m_dispatching = false;

@@ -1,10 +1,9 @@
 #include "platform/x11/X11PanelHost.h"
 
-#include "platform/x11/X11Connection.h"
-
 #include <QGuiApplication>
 
 #include <xcb/shape.h>
+#include <xcb/xfixes.h>
 
 #include <array>
 #include <utility>
@@ -34,6 +33,13 @@ bool setFocus(xcb_connection_t* connection, xcb_window_t window) {
         connection,
         xcb_set_input_focus_checked(connection, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME)));
     return !error;
+}
+
+/// A Wayland compositor decides on the keyboard when a window is mapped.
+void remap(xcb_connection_t* connection, xcb_window_t window) {
+    xcb_unmap_window(connection, window);
+    xcb_map_window(connection, window);
+    xcb_flush(connection);
 }
 
 /// The edges in pixels of the device, of which one of ours may be several.
@@ -79,11 +85,58 @@ private:
 
 } // namespace
 
-bool X11PanelHost::isComposited() {
-    if (m_compositor == XCB_ATOM_NONE) m_compositor = atom("_NET_WM_CM_S0");
-    const auto owner = m_x11.reply<xcb_get_selection_owner_reply>(
-        xcb_get_selection_owner(m_x11.xcb(), m_compositor));
-    return owner && owner->owner != XCB_NONE;
+X11PanelHost::X11PanelHost(X11Connection& x11, const XwaylandTraits& xwayland)
+    : m_x11(x11)
+    , m_xwayland(xwayland) {
+    if (m_xwayland.isXwayland)
+        m_composited = true;
+    else if (m_x11.isAlive())
+        followCompositor();
+}
+
+void X11PanelHost::followCompositor() {
+    const xcb_atom_t selection = atom("_NET_WM_CM_S" + QByteArray::number(m_x11.screen()));
+    if (const auto* const fixes = m_x11.extension(xcb_xfixes_id)) {
+        // The server sends nothing to who has not asked for a version.
+        (void)m_x11.reply<xcb_xfixes_query_version_reply>(
+            xcb_xfixes_query_version(m_x11.xcb(), 1, 0));
+        const auto type =
+            static_cast<std::uint8_t>(fixes->first_event + XCB_XFIXES_SELECTION_NOTIFY);
+        m_compositorChanges = m_x11.subscribe(type, [this, selection](const auto& event) {
+            const auto& change =
+                reinterpret_cast<const xcb_xfixes_selection_notify_event_t&>(event);
+            if (change.selection == selection) setComposited(change.owner != XCB_NONE);
+        });
+        // A compositor that crashes or is killed gives nothing up: its window or its connection go.
+        xcb_xfixes_select_selection_input(
+            m_x11.xcb(), m_x11.root(), selection,
+            XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
+                XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
+                XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
+    }
+    const auto owner =
+        m_x11.reply<xcb_get_selection_owner_reply>(xcb_get_selection_owner(m_x11.xcb(), selection));
+    m_composited = owner && owner->owner != XCB_NONE;
+}
+
+void X11PanelHost::setComposited(bool composited) {
+    if (std::exchange(m_composited, composited) != composited) Q_EMIT compositedChanged();
+}
+
+void X11PanelHost::markFloating(QWindow& window) {
+    // An X11 window manager has no part in these windows. Some Wayland compositors give the
+    // keyboard to every such window that is not of a type that never wants it.
+    if (m_xwayland.isXwayland) setType(window, "_NET_WM_WINDOW_TYPE_NOTIFICATION");
+}
+
+void X11PanelHost::setType(QWindow& window, const QByteArray& name) {
+    xcb_connection_t* const connection = windowConnection();
+    if (connection == nullptr) return;
+    const xcb_atom_t type = atom(name);
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE,
+                        static_cast<xcb_window_t>(window.winId()), atom("_NET_WM_WINDOW_TYPE"),
+                        XCB_ATOM_ATOM, 32, 1, &type);
+    xcb_flush(connection);
 }
 
 void X11PanelHost::setInputRegion(QWindow& window, const QRegion& region) {
@@ -111,6 +164,7 @@ void X11PanelHost::takeKeyboard(QWindow& window) {
     xcb_connection_t* const connection = windowConnection();
     if (connection == nullptr) return;
     const auto id = static_cast<xcb_window_t>(window.winId());
+    if (m_xwayland.isXwayland) return takeKeyboardFromCompositor(window);
     const xcb_window_t before = focus(connection);
     if (before == id || !setFocus(connection, id)) return;
     m_before[window.winId()] = before;
@@ -122,6 +176,7 @@ void X11PanelHost::returnKeyboard(QWindow& window) {
     if (found == m_before.end()) return;
     const xcb_window_t before = found->second;
     m_before.erase(found);
+    if (m_xwayland.isXwayland) return returnKeyboardToCompositor(window);
     if (connection == nullptr || focus(connection) != static_cast<xcb_window_t>(window.winId()))
         return;
     if (before == XCB_NONE || !setFocus(connection, before)) {
@@ -129,6 +184,30 @@ void X11PanelHost::returnKeyboard(QWindow& window) {
         if (active == XCB_NONE || !setFocus(connection, active))
             (void)setFocus(connection, XCB_INPUT_FOCUS_POINTER_ROOT);
     }
+}
+
+void X11PanelHost::takeKeyboardFromCompositor(QWindow& window) {
+    xcb_connection_t* const connection = windowConnection();
+    const auto id = static_cast<xcb_window_t>(window.winId());
+    if (!m_before.try_emplace(window.winId(), XCB_NONE).second) return; // it has it
+    setType(window, "_NET_WM_WINDOW_TYPE_NORMAL");
+    remap(connection, id);
+    (void)setFocus(connection, id);
+    // Not every compositor leaves the focus of the X server to an unmanaged window; all of them
+    // know a grab.
+    const XcbOwned<xcb_grab_keyboard_reply_t> grabbed(
+        xcb_grab_keyboard_reply(connection,
+                                xcb_grab_keyboard(connection, 1, id, XCB_CURRENT_TIME,
+                                                  XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+                                nullptr));
+}
+
+void X11PanelHost::returnKeyboardToCompositor(QWindow& window) {
+    xcb_connection_t* const connection = windowConnection();
+    if (connection == nullptr) return;
+    xcb_ungrab_keyboard(connection, XCB_CURRENT_TIME);
+    setType(window, "_NET_WM_WINDOW_TYPE_NOTIFICATION");
+    if (window.isVisible()) remap(connection, static_cast<xcb_window_t>(window.winId()));
 }
 
 xcb_atom_t X11PanelHost::atom(const QByteArray& name) {

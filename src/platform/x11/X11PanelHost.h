@@ -2,6 +2,8 @@
 #pragma once
 
 #include "platform/PanelHost.h"
+#include "platform/x11/X11Connection.h"
+#include "platform/x11/XwaylandTraits.h"
 
 #include <xcb/xcb.h>
 
@@ -9,17 +11,24 @@
 
 namespace vantle {
 
-class X11Connection;
-
 /// Requests about a window go over Qt's own connection, so that they reach the server in order with
 /// Qt's; without one (another platform, a lost display) they do nothing. Input regions need the
 /// shape extension: without it a panel feels the pointer everywhere.
+///
+/// A compositor owns a selection, whose owner the server tells of. Beside a Wayland compositor
+/// windows are always see-through; a panel gets the keyboard by the type of its window and a grab,
+/// and is mapped again for both ways of it. Tried with sway 1.7.
 class X11PanelHost final : public PanelHost {
+    Q_OBJECT
+
 public:
     /// `x11` answers what is not about a window. It must outlive this.
-    explicit X11PanelHost(X11Connection& x11) : m_x11(x11) {}
+    explicit X11PanelHost(X11Connection& x11, const XwaylandTraits& xwayland = {});
 
-    [[nodiscard]] bool isComposited() override;
+    [[nodiscard]] bool isComposited() override { return m_composited; }
+    [[nodiscard]] bool hasInputRegions() const override { return m_xwayland.passesInputRegions; }
+    [[nodiscard]] bool tellsPointer() const override { return !m_xwayland.isXwayland; }
+    void markFloating(QWindow& window) override;
     void setInputRegion(QWindow& window, const QRegion& region) override;
     [[nodiscard]] std::unique_ptr<PointerSensor> senseAt(const QRect& part,
                                                          std::function<void()> entered) override;
@@ -27,12 +36,19 @@ public:
     void returnKeyboard(QWindow& window) override;
 
 private:
+    void followCompositor();
+    void setComposited(bool composited);
+    void setType(QWindow& window, const QByteArray& name);
+    void takeKeyboardFromCompositor(QWindow& window);
+    void returnKeyboardToCompositor(QWindow& window);
     [[nodiscard]] xcb_atom_t atom(const QByteArray& name);
     [[nodiscard]] xcb_window_t activeWindow();
 
     X11Connection& m_x11;
-    xcb_atom_t m_compositor = XCB_ATOM_NONE; ///< selection that a compositor owns; once looked up
-    std::map<WId, xcb_window_t> m_before;    ///< who had the keyboard before a window took it
+    const XwaylandTraits m_xwayland;
+    bool m_composited = false;
+    X11Connection::Subscription m_compositorChanges;
+    std::map<WId, xcb_window_t> m_before; ///< who had the keyboard before a window took it
 };
 
 } // namespace vantle

@@ -12,6 +12,14 @@ Item {
     visible: opacity > 0
     opacity: 0
 
+    // Whether a click there means the capsule itself, and none of its chips or the add row.
+    function isGround(place: point): bool {
+        const amongChips = chips.mapFromItem(content, place);
+        if (chips.childAt(amongChips.x, amongChips.y))
+            return false;
+        return !addRow.visible || !addRow.contains(addRow.mapFromItem(content, place));
+    }
+
     states: State {
         name: "open"
         when: content.capsule.expanded
@@ -48,11 +56,6 @@ Item {
     Accessible.role: Accessible.Pane
     Accessible.name: content.capsule.toolTip
 
-    TapHandler {
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: content.capsule.click()
-    }
-
     CapsuleRow {
         width: parent.width
         height: CapsuleTokens.rowHeight
@@ -60,6 +63,7 @@ Item {
     }
 
     SkillChips {
+        id: chips
         x: CapsuleTokens.inset
         y: CapsuleTokens.chipsTop
         width: content.capsule.chipsSize.width
@@ -68,6 +72,7 @@ Item {
     }
 
     AddSkillRowView {
+        id: addRow
         y: CapsuleTokens.chipsTop + content.capsule.chipsSize.height + CapsuleTokens.lineBelowChips
         width: parent.width
         visible: content.capsule.showAddRow

@@ -51,7 +51,7 @@ FocusScope {
             width: implicitWidth
             height: implicitHeight
             skillName: overlay.capsule.menuSkillName
-            shadowed: overlay.composited
+            composited: overlay.composited
             onRenameRequested: overlay.capsule.chipRequestsRename()
             onRecolorRequested: overlay.capsule.chipRequestsRecolor()
             onDeleteRequested: overlay.capsule.chipRequestsDelete()
@@ -71,6 +71,7 @@ FocusScope {
             x: overlay.clamped(middle - width / 2, width)
             y: overlay.anchor.y + overlay.anchor.height + CapsuleTokens.popoverGap + arrowHeight
             arrowX: middle - x
+            composited: overlay.composited
             editor: modelData
         }
     }

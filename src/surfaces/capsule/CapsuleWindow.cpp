@@ -20,18 +20,15 @@ std::unique_ptr<CapsuleWindow> CapsuleWindow::raise(std::unique_ptr<NotchCapsule
     NotchCapsule& shown = window->capsule();
     if (!window->panel().load(
             QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Capsule/NotchCapsuleView.qml")),
-            {{QStringLiteral("capsule"), QVariant::fromValue(&shown)},
-             {QStringLiteral("composited"), window->m_composited}}))
+            {{QStringLiteral("capsule"), QVariant::fromValue(&shown)}}))
         return nullptr;
     window->follow();
-    if (window->m_composited) window->panel().showAt(window->windowFrame());
     return window;
 }
 
 CapsuleWindow::CapsuleWindow(std::unique_ptr<NotchCapsule> capsule, const QRectF& panelFrame,
                              QQmlEngine& engine, PanelHost& host)
     : m_host(host)
-    , m_composited(host.isComposited())
     , m_panelFrame(panelFrame)
     , m_capsule(capsule.release())
     , m_panel(new FloatingPanel(engine, host)) {
@@ -39,6 +36,8 @@ CapsuleWindow::CapsuleWindow(std::unique_ptr<NotchCapsule> capsule, const QRectF
     m_capsule->setStage(this);
     QObject::connect(m_panel.get(), &FloatingPanel::keyboardLost, m_capsule.get(),
                      &NotchCapsule::dismissOverlay);
+    QObject::connect(m_panel.get(), &FloatingPanel::compositedChanged, m_capsule.get(),
+                     [this] { follow(); });
 }
 
 CapsuleWindow::~CapsuleWindow() {
@@ -53,20 +52,30 @@ bool CapsuleWindow::pointerInside(const QRectF& part) const {
 }
 
 void CapsuleWindow::follow() {
-    const QRect frame = windowFrame();
-    if (m_panel->isVisible() && m_panel->geometry() != frame) m_panel->setGeometry(frame);
+    if (m_panel->rootObject() == nullptr) return; // the view is being made
+    m_panel->setOpaqueRegion(m_capsule->opaqueRegion());
     m_panel->setInputRegion(m_capsule->inputRegion());
-    if (!m_composited) followUncomposited();
-}
-
-void CapsuleWindow::followUncomposited() {
-    if (m_capsule->isExpanded()) {
-        m_sensor.reset();
-        m_panel->setOpaqueRegion(m_capsule->opaqueRegion());
-        if (!m_panel->isVisible()) m_panel->showAt(windowFrame());
+    if (mustHide()) {
+        m_panel->hide();
+        sensePointer();
         return;
     }
-    m_panel->hide();
+    m_sensor.reset();
+    const QRect frame = windowFrame();
+    if (!m_panel->isVisible())
+        m_panel->showAt(frame);
+    else if (m_panel->frame() != frame)
+        m_panel->setFrame(frame);
+}
+
+/// A window that can't be seen through is there only while the capsule is open; one that can't let
+/// presses through does not stay for the fade.
+bool CapsuleWindow::mustHide() const {
+    if (m_capsule->isLeaving() && !m_host.hasInputRegions()) return true;
+    return !m_panel->isComposited() && !m_capsule->isExpanded();
+}
+
+void CapsuleWindow::sensePointer() {
     if (m_sensor || m_capsule->isLeaving()) return;
     const QRectF strip = m_capsule->hoverRect().translated(m_panelFrame.topLeft());
     m_sensor = m_host.senseAt(strip.toAlignedRect(), [this] { m_capsule->setHovered(true); });

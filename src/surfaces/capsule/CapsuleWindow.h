@@ -9,8 +9,9 @@
 namespace vantle {
 
 /// A floating panel with the capsule's view. It is a little higher than the capsule's panel, for
-/// the shadow, and grows for as long as the menu or the editor hang below. Without a compositor
-/// there is a window only while the capsule is open: one at rest could be seen. Main thread.
+/// the shadow, and grows for as long as the menu or the editor hang below. While there is no
+/// compositor there is a window only while the capsule is open: one at rest could be seen. Main
+/// thread.
 class CapsuleWindow final : public CapsulePanel, private CapsuleStage {
 public:
     /// Shows the capsule there. Null when its view can't be made. Engine and host must outlive the
@@ -33,7 +34,8 @@ private:
     void takeKeyboard() override { m_panel->takeKeyboard(); }
     void returnKeyboard() override { m_panel->returnKeyboard(); }
 
-    void followUncomposited();
+    void sensePointer();
+    [[nodiscard]] bool mustHide() const;
     [[nodiscard]] QRect windowFrame() const;
 
     /// Both may be in the middle of an event when they have to go.
@@ -41,7 +43,6 @@ private:
         void operator()(QObject* object) const { object->deleteLater(); }
     };
     PanelHost& m_host;
-    const bool m_composited;
     QRectF m_panelFrame;
     std::unique_ptr<PointerSensor> m_sensor; ///< in place of a window that rests, uncomposited
     std::unique_ptr<NotchCapsule, DeleteLater> m_capsule;

@@ -16,7 +16,7 @@ Item {
 
     Behavior on opacity {
         NumberAnimation {
-            duration: Motion.time(CapsuleTokens.fadeTime)
+            duration: CapsuleTokens.fadeTime * Motion.pace
             easing.type: Easing.OutCubic
         }
     }
@@ -30,6 +30,7 @@ Item {
 
     // The part that feels the pointer. Menu and editor are not in it.
     Item {
+        id: sensitive
         x: view.capsule.hoverRect.x
         y: view.capsule.hoverRect.y
         width: view.capsule.hoverRect.width
@@ -38,6 +39,18 @@ Item {
         HoverHandler {
             id: hover
             onHoveredChanged: view.capsule.setHovered(hovered)
+        }
+
+        // Here and not in the content, which is small and clear at first: from the moment the
+        // capsule opens a click is the capsule's, and none is lost between it and what is below.
+        TapHandler {
+            gesturePolicy: TapHandler.ReleaseWithinBounds
+            // A press on the empty row may end on a chip, which means something else.
+            onTapped: eventPoint => {
+                const place = sensitive.mapToItem(content, eventPoint.position);
+                if (content.isGround(place))
+                    view.capsule.click();
+            }
         }
     }
 
@@ -77,6 +90,7 @@ Item {
         }
 
         CapsuleContent {
+            id: content
             x: (body.width - width) / 2
             y: view.capsule.notchHeight
             width: view.capsule.openFrame.width

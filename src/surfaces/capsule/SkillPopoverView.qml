@@ -35,7 +35,7 @@ DarkPopover {
     Rectangle {
         anchors.fill: parent
         z: -1
-        radius: DarkUI.radiusWindow
+        radius: popover.composited ? DarkUI.radiusWindow : 0
         color: DarkUI.base
     }
 

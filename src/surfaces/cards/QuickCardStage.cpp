@@ -66,9 +66,12 @@ public:
     QuickCardPanel(FloatingPanel& panel, bool feelsPointer)
         : m_panel(&panel)
         , m_feelsPointer(feelsPointer)
-        , m_frame(QPoint(), ground().size()) {}
+        , m_frame(QPoint(), ground().size())
+        , m_compositing(
+              QObject::connect(m_panel, &FloatingPanel::compositedChanged, [this] { place(); })) {}
 
     ~QuickCardPanel() override {
+        QObject::disconnect(m_compositing);
         if (!m_panel) return;
         m_panel->hide();
         // It may be in the middle of an event of the person's.
@@ -78,22 +81,24 @@ public:
     [[nodiscard]] QSize size() const override { return m_frame.size(); }
 
     void showAt(QPoint topLeft) override {
+        delete m_glide;
         m_frame.moveTopLeft(topLeft);
-        m_panel->setOpaqueRegion(ground());
-        m_panel->setInputRegion(m_feelsPointer ? QRegion(ground()) : QRegion());
-        m_panel->showAt(QRect(topLeft - ground().topLeft(), windowSize()));
+        m_isUp = true;
+        place();
         root().setProperty("up", true);
     }
 
     void moveTo(QPoint topLeft) override {
         m_frame.moveTopLeft(topLeft);
         delete m_glide;
-        m_glide = new QPropertyAnimation(m_panel, "y", m_panel);
+        m_glide = new QPropertyAnimation(m_panel, "frameTop", m_panel);
         m_glide->setDuration(root().property("moveTime").toInt());
         m_glide->setEasingCurve(QEasingCurve::OutCubic);
         m_glide->setEndValue(topLeft.y() - ground().y());
         m_glide->start(QAbstractAnimation::DeleteWhenStopped);
-        m_panel->setX(topLeft.x() - ground().x());
+        QRect frame = m_panel->frame();
+        frame.moveLeft(topLeft.x() - ground().x());
+        m_panel->setFrame(frame);
     }
 
     [[nodiscard]] QRect frame() const override { return m_frame; }
@@ -104,6 +109,7 @@ public:
     void fade() {
         m_panel->returnKeyboard();
         if (!m_panel->isVisible()) return;
+        QObject::disconnect(m_compositing);
         m_panel->setInputRegion(QRegion());
         QObject::connect(&root(), SIGNAL(gone()), m_panel, SLOT(deleteLater()));
         root().setProperty("up", false);
@@ -111,6 +117,13 @@ public:
     }
 
 private:
+    /// Puts the window around the card. The room for the shadow is there only with a compositor.
+    void place() {
+        if (!m_isUp) return;
+        m_panel->setOpaqueRegion(ground());
+        m_panel->setInputRegion(m_feelsPointer ? QRegion(ground()) : QRegion());
+        m_panel->showAt(QRect(m_frame.topLeft() - ground().topLeft(), windowSize()));
+    }
     [[nodiscard]] QQuickItem& root() const { return *m_panel->rootObject(); }
     /// Where the card is within its window.
     [[nodiscard]] QRect ground() const { return root().property("groundRect").toRectF().toRect(); }
@@ -121,12 +134,16 @@ private:
     FloatingPanel* m_panel;
     const bool m_feelsPointer;
     QRect m_frame; ///< of the card
+    bool m_isUp = false;
+    QMetaObject::Connection m_compositing;
     QPointer<QPropertyAnimation> m_glide;
 };
 
 } // namespace
 
-QuickCardStage::QuickCardStage(Environment environment) : m_env(std::move(environment)) {}
+QuickCardStage::QuickCardStage(Environment environment) : m_env(std::move(environment)) {
+    connect(&m_env.screens, &Screens::changed, this, &CardStage::visibleFrameChanged);
+}
 
 QuickCardStage::~QuickCardStage() {
     for (const auto& window : m_windows)
@@ -143,8 +160,7 @@ std::unique_ptr<CardPanel> QuickCardStage::raise(CardView view, std::shared_ptr<
     const auto frame = visibleFrame();
     if (!frame) return nullptr;
     const bool isToast = view == CardView::RetagToast;
-    QVariantMap properties{{QStringLiteral("model"), QVariant::fromValue(model.get())},
-                           {QStringLiteral("composited"), m_env.panelHost.isComposited()}};
+    QVariantMap properties{{QStringLiteral("model"), QVariant::fromValue(model.get())}};
     if (!isToast)
         properties.insert(QStringLiteral("groundWidth"), cardplacement::cardWidth(*frame));
     auto panel = std::make_unique<FloatingPanel>(m_env.engine(), m_env.panelHost);
@@ -169,7 +185,7 @@ std::vector<QRect> QuickCardStage::panelFrames() const {
         if (!panel || !panel->isVisible()) continue;
         // What the pointer goes through, toasts and fading cards, is in nobody's way.
         const QRect felt = panel->inputRegion().boundingRect();
-        if (!felt.isEmpty()) frames.push_back(felt.translated(panel->position()));
+        if (!felt.isEmpty()) frames.push_back(felt.translated(panel->frame().topLeft()));
     }
     return frames;
 }

@@ -89,8 +89,7 @@ bool CommandCenterController::makePanel() {
     panel->setTitle(QStringLiteral("Vantle Command Center"));
     m_content.setShown(true);
     if (!panel->load(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/CommandCenter/CommandCenterView.qml")),
-                     {{QStringLiteral("model"), QVariant::fromValue(&m_content)},
-                      {QStringLiteral("composited"), m_env.host.isComposited()}})) {
+                     {{QStringLiteral("model"), QVariant::fromValue(&m_content)}})) {
         m_content.setShown(false);
         return false;
     }
@@ -100,6 +99,8 @@ bool CommandCenterController::makePanel() {
     connect(view, SIGNAL(dismissed()), this, SLOT(hide()));
     connect(panel.get(), &FloatingPanel::keyboardLost, this,
             &CommandCenterController::onKeyboardLost);
+    connect(panel.get(), &FloatingPanel::compositedChanged, this,
+            &CommandCenterController::repositionSoon);
     // The engine has to outlive the view.
     connect(panel.get(), &QObject::destroyed, [engine] {});
     m_panel = panel.release();

@@ -10,7 +10,7 @@ FocusScope {
 
     property string name
     property real padding: DarkUI.space4
-    property bool shadowed: true
+    property bool composited: true // else nothing can be see-through, and corners are square
     default property alias rows: column.data
     signal dismissed
 
@@ -62,8 +62,9 @@ FocusScope {
     GlassBackground {
         anchors.fill: parent
         material: GlassBackground.Menu
-        radius: DarkUI.radiusBanner
-        shadowed: panel.shadowed
+        radius: panel.composited ? DarkUI.radiusBanner : 0
+        color: panel.composited ? DarkUI.menu : DarkUI.base
+        shadowed: panel.composited
     }
 
     Flickable {

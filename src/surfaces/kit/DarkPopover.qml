@@ -9,6 +9,7 @@ FocusScope {
 
     property real arrowX: width / 2 // the arrow's tip
     property bool arrowed: true
+    property bool composited: true // else nothing can be see-through, and corners are square
     property string name
     readonly property real arrowSide: DarkUI.space12
     readonly property real arrowHeight: Math.round(arrowSide * Math.SQRT1_2)
@@ -25,6 +26,9 @@ FocusScope {
         id: ground
         anchors.fill: parent
         material: GlassBackground.Popover
+        radius: popover.composited ? DarkUI.radiusWindow : 0
+        color: popover.composited ? DarkUI.popover : DarkUI.base
+        shadowed: popover.composited
     }
 
     Item {

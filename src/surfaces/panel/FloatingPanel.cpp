@@ -29,13 +29,15 @@ bool takesText(const QQuickItem* item) {
 
 FloatingPanel::FloatingPanel(QQmlEngine& engine, PanelHost& host)
     : QQuickView(&engine, nullptr)
-    , m_host(host) {
+    , m_host(host)
+    , m_composited(host.isComposited()) {
     QSurfaceFormat translucent = format();
     translucent.setAlphaBufferSize(8);
     setFormat(translucent);
     setColor(Qt::transparent);
     setFlags(kFlags);
     setResizeMode(QQuickView::SizeRootObjectToView);
+    connect(&m_host, &PanelHost::compositedChanged, this, &FloatingPanel::followCompositing);
     connect(this, &QWindow::activeChanged, this, [this] {
         if (isActive() || !m_hasKeyboard) return;
         m_hasKeyboard = false;
@@ -46,36 +48,49 @@ FloatingPanel::FloatingPanel(QQmlEngine& engine, PanelHost& host)
 FloatingPanel::~FloatingPanel() { returnKeyboard(); }
 
 bool FloatingPanel::load(const QUrl& source, const QVariantMap& properties) {
-    setInitialProperties(properties);
+    QVariantMap all = properties;
+    all.insert(QStringLiteral("composited"), m_composited);
+    setInitialProperties(all);
     setSource(source);
     return status() == QQuickView::Ready;
 }
 
 void FloatingPanel::showAt(const QRect& frame) {
-    m_composited = m_host.isComposited();
-    setGeometry(frame);
-    create();
+    setFrame(frame);
+    if (handle() == nullptr) {
+        create();
+        m_host.markFloating(*this);
+    }
     applyRegions();
     show();
+}
+
+void FloatingPanel::setFrame(const QRect& frame) {
+    m_frame = frame;
+    fitWindow();
 }
 
 void FloatingPanel::setInputRegion(const QRegion& region) {
     m_inputRegion = region;
     m_hasInputRegion = true;
+    fitWindow();
     applyRegions();
 }
 
 void FloatingPanel::setOpaqueRegion(const QRegion& region) {
     m_opaqueRegion = region;
+    fitWindow();
     applyRegions();
 }
 
 bool FloatingPanel::pointerInside() const {
-    return pointerInside(m_hasInputRegion ? m_inputRegion : QRegion(QRect(QPoint(), size())));
+    return pointerInside(m_hasInputRegion ? m_inputRegion
+                                          : QRegion(QRect(QPoint(), m_frame.size())));
 }
 
 bool FloatingPanel::pointerInside(const QRegion& part) const {
-    return isVisible() && part.contains(mapFromGlobal(QCursor::pos()));
+    if (!isVisible() || !(m_pointerIsIn || m_host.tellsPointer())) return false;
+    return part.contains(mapFromGlobal(QCursor::pos()) + m_offset);
 }
 
 void FloatingPanel::takeKeyboard() {
@@ -96,8 +111,14 @@ bool FloatingPanel::event(QEvent* event) {
     const QPointF place = isPress ? static_cast<const QMouseEvent*>(event)->position() : QPointF();
     const bool handled = QQuickView::event(event);
     if (isPress) takeKeyboardForField(place);
-    if (event->type() == QEvent::Enter) Q_EMIT pointerEntered();
-    if (event->type() == QEvent::Leave) Q_EMIT pointerLeft();
+    if (event->type() == QEvent::Enter) {
+        m_pointerIsIn = true;
+        Q_EMIT pointerEntered();
+    }
+    if (event->type() == QEvent::Leave) {
+        m_pointerIsIn = false;
+        Q_EMIT pointerLeft();
+    }
     return handled;
 }
 
@@ -108,7 +129,8 @@ void FloatingPanel::takeKeyboardForField(QPointF place) {
 }
 
 void FloatingPanel::resizeEvent(QResizeEvent* event) {
-    QQuickView::resizeEvent(event);
+    QQuickView::resizeEvent(event); // gives the view the size of the window
+    placeView();
     applyRegions();
 }
 
@@ -126,8 +148,40 @@ void FloatingPanel::hideEvent(QHideEvent* event) {
 
 void FloatingPanel::applyRegions() {
     if (handle() == nullptr) return;
-    if (!m_composited && !m_opaqueRegion.isEmpty()) setMask(m_opaqueRegion);
-    if (m_hasInputRegion) m_host.setInputRegion(*this, m_inputRegion);
+    const QRegion shape = m_composited ? QRegion() : m_opaqueRegion.translated(-m_offset);
+    if (shape != mask()) setMask(shape); // an empty one sets no limits
+    if (m_hasInputRegion && m_host.hasInputRegions()) m_host.setInputRegion(*this, m_inputRegion);
+}
+
+void FloatingPanel::followCompositing() {
+    if (m_composited == m_host.isComposited()) return;
+    m_composited = !m_composited;
+    if (rootObject() != nullptr) rootObject()->setProperty("composited", m_composited);
+    applyRegions();
+    Q_EMIT compositedChanged();
+}
+
+/// The part of the frame that the window covers.
+QRect FloatingPanel::windowInFrame() const {
+    const QRect whole(QPoint(), m_frame.size());
+    if (m_host.hasInputRegions()) return whole;
+    if (!m_inputRegion.isEmpty()) return m_inputRegion.boundingRect();
+    return m_opaqueRegion.isEmpty() ? whole : m_opaqueRegion.boundingRect();
+}
+
+void FloatingPanel::fitWindow() {
+    if (m_frame.isEmpty()) return; // shown nowhere yet
+    const QRect part = windowInFrame();
+    m_offset = part.topLeft();
+    setGeometry(part.translated(m_frame.topLeft()));
+    placeView();
+}
+
+void FloatingPanel::placeView() {
+    QQuickItem* const view = rootObject();
+    if (view == nullptr || m_frame.isEmpty() || m_host.hasInputRegions()) return;
+    view->setPosition(-m_offset);
+    view->setSize(m_frame.size());
 }
 
 } // namespace vantle

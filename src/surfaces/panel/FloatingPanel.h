@@ -15,8 +15,14 @@ namespace vantle {
 /// and no switcher. It never takes the keyboard by being shown or clicked: only when a text field
 /// in it is clicked, or when told to, and then it gives the keyboard back. Where it is not told to
 /// feel the pointer, clicks reach the window below. Main thread.
+///
+/// Where the desktop knows no input regions the window is cut to the bounds of what is to feel the
+/// pointer, else it would swallow clicks around it. The view keeps the size and the place of the
+/// whole panel then, so that nothing in it moves; its shadow is cut away.
 class FloatingPanel : public QQuickView {
     Q_OBJECT
+    /// The top of frame(); for animations.
+    Q_PROPERTY(int frameTop READ frameTop WRITE setFrameTop)
 
 public:
     /// Both must outlive the panel.
@@ -24,11 +30,18 @@ public:
     ~FloatingPanel() override;
 
     /// Makes the view from its file and its required properties. False when the file is no good.
+    /// The view has a property `composited`, which is kept up to date.
     [[nodiscard]] bool load(const QUrl& source, const QVariantMap& properties);
 
     /// Shows the panel there, in px of the desktop, without taking the keyboard. Until
     /// setInputRegion() is called all of it feels the pointer.
     void showAt(const QRect& frame);
+
+    /// Where the panel stands, in px of the desktop; the window may be only a part of it.
+    [[nodiscard]] const QRect& frame() const { return m_frame; }
+    void setFrame(const QRect& frame);
+    [[nodiscard]] int frameTop() const { return m_frame.y(); }
+    void setFrameTop(int y) { setFrame(QRect(QPoint(m_frame.x(), y), m_frame.size())); }
 
     /// Only this part feels the pointer, in px from the panel's top left. Holds until it is set
     /// again; a change under a resting pointer counts as entering or leaving.
@@ -39,10 +52,10 @@ public:
     /// drawn with square corners and without a shadow. Ignored on other desktops. Not empty.
     void setOpaqueRegion(const QRegion& region);
 
-    /// Whether what is transparent shows what lies below. As of the last showAt().
+    /// Whether what is transparent shows what lies below.
     [[nodiscard]] bool isComposited() const { return m_composited; }
 
-    /// Whether the pointer is where the panel feels it. Asks the desktop.
+    /// Whether the pointer is where the panel feels it. Asks the desktop, where that can tell.
     [[nodiscard]] bool pointerInside() const;
     /// Whether it is in that part, in px from the panel's top left, felt or not. False while the
     /// panel is hidden.
@@ -53,6 +66,9 @@ public:
     void returnKeyboard();
 
 Q_SIGNALS:
+    /// A compositor came or went. Shape and view have followed; the owner puts the panel where it
+    /// stands now, without its shadow or with it.
+    void compositedChanged();
     /// The pointer came into the part that feels it, or left it.
     void pointerEntered();
     void pointerLeft();
@@ -66,16 +82,23 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    void followCompositing();
     void applyRegions();
+    void fitWindow();
+    [[nodiscard]] QRect windowInFrame() const;
+    void placeView();
     void takeKeyboardForField(QPointF place);
 
     PanelHost& m_host;
+    QRect m_frame;
+    QPoint m_offset; ///< of the window within the frame
     QRegion m_inputRegion;
     QRegion m_opaqueRegion;
     bool m_hasInputRegion = false;
     bool m_composited = true;
     bool m_hasKeyboard = false;
     bool m_wasExposed = false;
+    bool m_pointerIsIn = false; ///< as the window was told
 };
 
 } // namespace vantle

@@ -20,6 +20,11 @@ SettingsSection {
             caption: section.model.caption(SettingsView.RippleRow)
             checked: section.model.rippleOn
             onToggled: checked => section.model.rippleOn = checked
+
+            SettingsGap {
+                width: parent.width
+                text: section.model.gaps.ceremonyAdvice
+            }
         }
 
         ToggleRow {

@@ -2,6 +2,7 @@
 
 #include "platform/FrontmostApp.h"
 #include "platform/IdleSource.h"
+#include "platform/PanelHost.h"
 #include "platform/TrayItem.h"
 #include "sensing/HotKey.h"
 
@@ -76,6 +77,13 @@ QString DesktopGaps::autoStartAdvice() const {
     return QStringLiteral("This desktop doesn't tell apps when you last used keyboard or mouse, so "
                           "Vantle can't know that you are there: it starts nothing on its own, and "
                           "asks about no app.");
+}
+
+QString DesktopGaps::ceremonyAdvice() const {
+    if (m_env.panelHost.hasInputRegions()) return {};
+    return QStringLiteral(
+        "In this Wayland session a ceremony would catch every click while it plays, "
+        "so none plays.");
 }
 
 } // namespace vantle

@@ -11,6 +11,7 @@ namespace vantle {
 class FrontmostApp;
 class HotKey;
 class IdleSource;
+class PanelHost;
 class TrayItem;
 
 /// Advice for the rows of the settings where the person looks for what is missing; empty where
@@ -29,6 +30,8 @@ class DesktopGaps final : public QObject {
     Q_PROPERTY(QString autoModeAdvice READ autoModeAdvice NOTIFY autoModeChanged FINAL)
     /// Why no session starts by itself.
     Q_PROPERTY(QString autoStartAdvice READ autoStartAdvice NOTIFY autoModeChanged FINAL)
+    /// Why no ceremony plays.
+    Q_PROPERTY(QString ceremonyAdvice READ ceremonyAdvice CONSTANT FINAL)
 
 public:
     /// What may be missing. All of it must outlive this.
@@ -37,6 +40,7 @@ public:
         const TrayItem& tray;
         const IdleSource& idleSource;
         const FrontmostApp& frontmostApp;
+        const PanelHost& panelHost;
         std::function<void(const QString& text)> copy; ///< puts it into the clipboard
     };
     explicit DesktopGaps(Environment environment);
@@ -50,6 +54,7 @@ public:
     [[nodiscard]] QString idleAdvice() const;
     [[nodiscard]] QString autoModeAdvice() const;
     [[nodiscard]] QString autoStartAdvice() const;
+    [[nodiscard]] QString ceremonyAdvice() const;
 
 Q_SIGNALS:
     void hotKeyChanged();

@@ -31,7 +31,8 @@ QString storedText(const Preferences& preferences, QLatin1String key) {
 
 SettingsView::SettingsView(Environment environment)
     : m_env(std::move(environment))
-    , m_gaps({m_env.model.hotKey(), m_env.tray, m_env.idleSource, m_env.frontmostApp, m_env.copy}) {
+    , m_gaps({m_env.model.hotKey(), m_env.tray, m_env.idleSource, m_env.frontmostApp,
+              m_env.panelHost, m_env.copy}) {
     m_env.rules.loadIfNeeded();
     readState();
     refreshApps();

@@ -22,6 +22,7 @@ class Autostart;
 class FocusLink;
 class FrontmostApp;
 class IdleSource;
+class PanelHost;
 class NotificationCenter;
 class Preferences;
 class SerialQueue;
@@ -134,6 +135,7 @@ public:
         const TrayItem& tray;
         const IdleSource& idleSource;
         const FrontmostApp& frontmostApp;
+        const PanelHost& panelHost;
         std::function<void(const QString& text)> copy; ///< puts it into the clipboard
         /// Erases everything; empty on full success, else what the person is told.
         std::function<std::optional<QString>()> eraseAllData;

@@ -18,6 +18,9 @@ namespace {
 constexpr int kStripHeight = 36;
 constexpr int kMinContentHeight = 320; // of a resizable window
 
+/// How long a window has to rest before its frame is kept: a crash or a power cut loses no more.
+constexpr Seconds kFrameRest{1.0};
+
 } // namespace
 
 ManagedWindow::ManagedWindow(const WindowEnvironment& environment, const WindowRules& rules,
@@ -57,9 +60,15 @@ bool ManagedWindow::open() {
     connect(shell.get(), &WindowShell::quitRequested, this, [this] {
         if (m_env.quit) m_env.quit();
     });
+    connect(
+        &m_env.host, &PanelHost::compositedChanged, shell.get(),
+        [window = shell.get(), &host = m_env.host] { window->setRounded(host.isComposited()); });
     connect(shell.get(), &WindowShell::fittingSizeChanged, this, &ManagedWindow::refit);
     m_shell = shell.release();
     place();
+    for (const auto changed :
+         {&QWindow::xChanged, &QWindow::yChanged, &QWindow::widthChanged, &QWindow::heightChanged})
+        connect(m_shell, changed, this, &ManagedWindow::keepFrameSoon);
     m_env.activation.windowAppeared();
     return true;
 }
@@ -103,12 +112,19 @@ void ManagedWindow::refit() {
     m_shell->setMaximumSize(frame.size());
 }
 
+void ManagedWindow::keepFrameSoon() {
+    if (m_rules.frameAutosaveName.isEmpty()) return;
+    m_frameTimer = m_env.scheduler.scheduleOnce(kFrameRest, [this] { keepFrame(); });
+}
+
 void ManagedWindow::keepFrame() {
+    m_frameTimer.reset();
     // A window that was not moved keeps nothing: after all data was erased none comes back.
     if (m_rules.frameAutosaveName.isEmpty() || m_shell->geometry() == m_placedFrame) return;
-    if (m_shell->windowStates() != Qt::WindowNoState) return;
-    m_env.preferences.setString(m_rules.frameAutosaveName,
-                                windowplacement::encode(m_shell->geometry()));
+    // A maximised window comes back as large as it was.
+    if (m_shell->windowStates() & (Qt::WindowMinimized | Qt::WindowFullScreen)) return;
+    m_placedFrame = m_shell->geometry();
+    m_env.preferences.setString(m_rules.frameAutosaveName, windowplacement::encode(m_placedFrame));
 }
 
 void ManagedWindow::close() {

@@ -1,6 +1,7 @@
 // One of the program's windows: opened, brought to the front, closed.
 #pragma once
 
+#include "base/Scheduler.h"
 #include "surfaces/window/WindowKind.h"
 
 #include <QPointer>
@@ -24,6 +25,7 @@ struct WindowEnvironment {
     Preferences& preferences;
     const Screens& screens;
     PanelHost& host;
+    Scheduler& scheduler;
     std::function<void()> quit = {}; ///< what the program's own key for its end does
 };
 
@@ -56,13 +58,15 @@ private:
     void place();
     void refit();
     void keepFrame();
+    void keepFrameSoon();
     [[nodiscard]] QSize wantedSize() const;
 
     WindowEnvironment m_env;
     const WindowRules& m_rules;
     WindowContent m_content;
     WindowShell* m_shell = nullptr; ///< deletes itself after closing
-    QRect m_placedFrame;            ///< where it was put when it opened
+    QRect m_placedFrame;            ///< where it was put when it opened, or kept last
+    TimerHandle m_frameTimer;
 };
 
 } // namespace vantle

@@ -40,6 +40,8 @@ bool WindowShell::load(const WindowRules& rules, const QUrl& view, std::unique_p
     return m_frame->property("ready").toBool();
 }
 
+void WindowShell::setRounded(bool rounded) { m_frame->setProperty("rounded", rounded); }
+
 QSize WindowShell::fittingSize() const {
     return {qCeil(m_frame->implicitWidth()), qCeil(m_frame->implicitHeight())};
 }

@@ -29,6 +29,9 @@ public:
     [[nodiscard]] bool load(const WindowRules& rules, const QUrl& view,
                             std::unique_ptr<QObject> model, bool rounded);
 
+    /// Whether the corners may be transparent from now on. After load().
+    void setRounded(bool rounded);
+
     /// What the frame asks for: the view's own size and the strip. After load().
     [[nodiscard]] QSize fittingSize() const;
     /// The view model. After load().

@@ -35,12 +35,14 @@ class DesktopTest(unittest.TestCase):
     XEMBED, STATUS_NOTIFIER, NO_TRAY = range(3)
     tray_kind = XEMBED
     compositor = False
+    window_manager = True
     newcomer = False  # the person has not been through the welcome
 
     def setUp(self):
         name = re.sub(r"^test_", "", self._testMethodName)
         self.desktop = Desktop(PICTURES / name, tray=self.tray_kind == self.XEMBED,
-                               compositor=self.compositor)
+                               compositor=self.compositor,
+                               window_manager=self.window_manager)
         self.addCleanup(self.desktop.stop)
         self.desktop.start()
         self.tray = None
@@ -50,8 +52,8 @@ class DesktopTest(unittest.TestCase):
             self.tray.start()
         self.vantle = self.new_program()
 
-    def new_program(self):
-        program = Program(EXECUTABLE, self.desktop, self.newcomer)
+    def new_program(self, desktop=None):
+        program = Program(EXECUTABLE, desktop or self.desktop, self.newcomer)
         self.addCleanup(self._expect_silence, program)
         self.addCleanup(program.kill)
         return program

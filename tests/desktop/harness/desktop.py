@@ -27,10 +27,11 @@ class Desktop:
     its home and all XDG directories and goes with it; screenshots go to `pictures`, which stays.
     """
 
-    def __init__(self, pictures, tray=True, compositor=False):
+    def __init__(self, pictures, tray=True, compositor=False, window_manager=True):
         self.pictures = Path(pictures)
         self.env = {}
-        self._options = ["--tray"] * tray + ["--compositor"] * compositor
+        self._options = ["--tray"] * tray + ["--compositor"] * compositor \
+            + ["--no-wm"] * (not window_manager)
         self._holder = None
         self._display = None
         self._eyes = None
@@ -50,17 +51,14 @@ class Desktop:
         self.env["LC_ALL"] = "C.UTF-8"
         # Text that Qt would print goes to stderr, where the tests see it, not to a journal.
         self.env["QT_LOGGING_TO_CONSOLE"] = "1"
-        self._display = Display(self.env["DISPLAY"])
-        self._eyes = Eyes(self.env["DISPLAY"])
+        self.look()
         # Away from the tray, and known: a window that appears under the pointer would be hovered.
         self.tool("xdotool", "mousemove", "400", "500")
 
     def stop(self):
         if self._holder is None:
             return
-        for connection in (self._display, self._eyes):
-            if connection is not None:
-                connection.close()
+        self.look_away()
         self._holder.stdin.close()
         try:
             self._holder.wait(10)
@@ -69,6 +67,16 @@ class Desktop:
             self._holder.wait()
         self._holder.stdout.close()
         self._holder = None
+
+    def look(self):
+        """Connects to the display that `env` names."""
+        self._display = Display(self.env["DISPLAY"])
+        self._eyes = Eyes(self.env["DISPLAY"])
+
+    def look_away(self):
+        for connection in (self._display, self._eyes):
+            if connection is not None:
+                connection.close()
 
     @property
     def directory(self):

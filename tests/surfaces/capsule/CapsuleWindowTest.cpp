@@ -98,6 +98,19 @@ protected:
                    : found->mapToScene(QPointF(found->width() / 2, found->height() / 2));
     }
 
+    /// Whether what lies below shows there, in px of the panel.
+    [[nodiscard]] bool seesBelow(QPoint place) {
+        settle();
+        window->panel().setColor(Qt::green); // the capsule has no green
+        return window->panel().grabWindow().pixelColor(place).green() > 60;
+    }
+    void expectOpaqueCorners(const QRect& part) {
+        ASSERT_FALSE(part.isEmpty());
+        for (const QPoint corner :
+             {part.topLeft(), part.topRight(), part.bottomLeft(), part.bottomRight()})
+            EXPECT_FALSE(seesBelow(corner)) << corner.x() << ' ' << corner.y();
+    }
+
     CapsuleWorld world;
     fakes::FakePanelHost host;
     static inline QQmlEngine* engine = nullptr;
@@ -132,11 +145,72 @@ TEST_F(CapsuleWindowTest, WithoutACompositorThereIsNoWindowWhileItRests) {
     EXPECT_FALSE(window->panel().isVisible());
     ASSERT_TRUE(host.sensor);
     EXPECT_EQ(host.sensor->part, QRect(605, 0, 230, 10));
-    const auto entered = host.sensor->entered;
-    entered();
+    host.movePointer({720, 5});
     EXPECT_TRUE(window->capsule().isExpanded());
     EXPECT_TRUE(window->panel().isVisible());
     EXPECT_FALSE(host.sensor);
+}
+
+TEST_F(CapsuleWindowTest, EndOfTheCompositorTakesTheRestingWindowAwayAndItsReturnBringsItBack) {
+    raiseIdle();
+    window->capsule().collapse();
+    ASSERT_TRUE(window->panel().isVisible());
+    host.setComposited(false);
+    EXPECT_FALSE(window->panel().isVisible());
+    ASSERT_TRUE(host.sensor);
+    EXPECT_EQ(host.sensor->part, QRect(605, 0, 230, 10));
+    host.setComposited(true);
+    EXPECT_TRUE(window->panel().isVisible());
+    EXPECT_FALSE(host.sensor);
+    EXPECT_TRUE(window->panel().mask().isEmpty());
+}
+
+TEST_F(CapsuleWindowTest, OpenCapsuleIsSquareAndOpaqueWhileThereIsNoCompositor) {
+    raiseIdle();
+    const QRect open = window->capsule().openFrame().toRect();
+    EXPECT_TRUE(seesBelow(open.bottomLeft())) << "round";
+    host.setComposited(false);
+    EXPECT_TRUE(window->panel().isVisible());
+    EXPECT_EQ(window->panel().mask(), QRegion(open));
+    expectOpaqueCorners(open);
+    host.setComposited(true);
+    EXPECT_TRUE(window->panel().mask().isEmpty());
+    EXPECT_TRUE(seesBelow(open.bottomLeft()));
+}
+
+TEST_F(CapsuleWindowTest, MenuAndEditorHaveOpaqueCornersWithoutACompositor) {
+    host.composited = false;
+    raiseIdle();
+    click(middleOf(text("Design")), Qt::RightButton);
+    expectOpaqueCorners(window->capsule().overlayRect().toRect());
+    click(middleOf(text("Rename…")));
+    ASSERT_NE(window->capsule().editor(), nullptr);
+    expectOpaqueCorners(window->capsule().overlayRect().toRect());
+}
+
+TEST_F(CapsuleWindowTest, WhereNoInputRegionHoldsTheWindowIsWhatFeelsThePointer) {
+    host.inputRegions = false;
+    raiseIdle();
+    const QRect open = window->capsule().openFrame().toRect();
+    EXPECT_EQ(window->panel().geometry(), open.translated(451, 0));
+    click(middleOf(text("Design")));
+    EXPECT_EQ(world.calls, QStringList(text("pick product_design")));
+    click(middleOf(text("Design")), Qt::RightButton);
+    ASSERT_NE(item(text("Rename…")), nullptr);
+    click(middleOf(text("Rename…")));
+    EXPECT_NE(window->capsule().editor(), nullptr);
+    window->capsule().dismissOverlay();
+    window->capsule().collapse();
+    EXPECT_EQ(window->panel().geometry(), QRect(605, 0, 230, 10));
+    EXPECT_TRUE(window->panel().isVisible()) << "it feels the pointer";
+    window->capsule().animateOut([] {});
+    EXPECT_FALSE(window->panel().isVisible() && window->capsule().isLeaving())
+        << "it takes no press while it fades";
+}
+
+TEST_F(CapsuleWindowTest, IsMarkedAsFloatingBeforeItIsShown) {
+    raiseIdle();
+    EXPECT_TRUE(host.marked.contains(&window->panel()));
 }
 
 TEST_F(CapsuleWindowTest, AClickOnAChipPicksItsSkillAndOneBesideItStarts) {
@@ -149,6 +223,19 @@ TEST_F(CapsuleWindowTest, AClickOnAChipPicksItsSkillAndOneBesideItStarts) {
     click(middleOf(text("Start")));
     EXPECT_EQ(world.calls.size(), 3);
     EXPECT_EQ(world.calls.last(), text("tap"));
+}
+
+TEST_F(CapsuleWindowTest, APressOnTheEmptyRowReleasedOnAChipOrTheAddRowDoesNothing) {
+    raiseIdle();
+    for (const QPointF end : {middleOf(text("Design")), middleOf(text("New skill"))}) {
+        moveTo({269, 30});
+        mouse(QEvent::MouseButtonPress, {269, 30}, Qt::LeftButton, Qt::LeftButton);
+        mouse(QEvent::MouseMove, end, Qt::NoButton, Qt::LeftButton);
+        mouse(QEvent::MouseButtonRelease, end, Qt::LeftButton, Qt::NoButton);
+        settle();
+        EXPECT_TRUE(world.calls.isEmpty());
+        EXPECT_EQ(window->capsule().editor(), nullptr);
+    }
 }
 
 TEST_F(CapsuleWindowTest, HoveringAChipOfTheIdleFormShowsThePlaySign) {

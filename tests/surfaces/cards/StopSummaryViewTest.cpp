@@ -57,6 +57,45 @@ TEST_F(StopSummaryViewTest, ReturnSavesTheNoteAndGivesTheKeyboardBack) {
     EXPECT_EQ(host.keyboardOwner, nullptr);
 }
 
+TEST_F(StopSummaryViewTest, CardMovesWhenItsScreenGoesAndKeepsWhatIsTyped) {
+    show();
+    clickField();
+    type(text("half"));
+    FloatingPanel* const card = window();
+    screens.arrange({{.frame = QRectF(0, 0, 800, 600), .available = QRectF(0, 0, 800, 600)}});
+    ASSERT_EQ(window(), card);
+    const QRect seen = card->inputRegion().boundingRect().translated(card->position());
+    EXPECT_EQ(seen.topRight(), QPoint(800 - 12 - 1, 10));
+    EXPECT_EQ(noteText(), text("half"));
+}
+
+TEST_F(StopSummaryViewTest, CardFollowsACompositorThatGoesAndComes) {
+    show();
+    const auto seen = [] {
+        return window()->inputRegion().boundingRect().translated(window()->position());
+    };
+    const QRect card = seen();
+    ASSERT_GT(window()->width(), card.width()) << "room for the shadow";
+    host.setComposited(false);
+    EXPECT_EQ(window()->geometry(), card);
+    EXPECT_EQ(window()->mask(), QRegion(QRect(QPoint(), card.size())));
+    host.setComposited(true);
+    EXPECT_EQ(seen(), card);
+    EXPECT_GT(window()->width(), card.width());
+    EXPECT_TRUE(window()->mask().isEmpty());
+}
+
+TEST_F(StopSummaryViewTest, WhereNoInputRegionHoldsTheWindowIsTheCard) {
+    host.inputRegions = false;
+    show();
+    EXPECT_EQ(window()->geometry(), QRect(1048, 38, 380, window()->height()));
+    EXPECT_TRUE(host.marked.contains(window()));
+    clickField();
+    type(text("x"));
+    click(text("Save note"));
+    EXPECT_EQ(closes, Closes{text("x")});
+}
+
 TEST_F(StopSummaryViewTest, EscapeLeavesTheFieldOfANoteAndClosesACardWithout) {
     show();
     clickField();

@@ -55,7 +55,7 @@ protected:
     ForegroundActivation activation;
     SharedEngine engine;
     QRect item = kItem;
-    WindowRouter router{{engine, activation, world.preferences, screens, host, {}},
+    WindowRouter router{{engine, activation, world.preferences, screens, host, world.time, {}},
                         world.notifications};
     std::unique_ptr<CommandCenterController> controller;
 };

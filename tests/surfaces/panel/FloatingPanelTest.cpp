@@ -1,10 +1,12 @@
 // The panel on a real X server with a window manager.
 #include "surfaces/panel/FloatingPanel.h"
 
+#include "fakes/FakePanelHost.h"
 #include "platform/desktop/QtScreens.h"
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11PanelHost.h"
 #include "support/Await.h"
+#include "support/Text.h"
 
 #include <QGuiApplication>
 #include <QQmlComponent>
@@ -28,7 +30,8 @@ protected:
         ASSERT_TRUE(x11.isAlive());
         QFile file(folder.filePath(QStringLiteral("View.qml")));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("import QtQuick\nItem { TextInput { width: 200; height: 50 } }");
+        file.write("import QtQuick\nItem { property bool composited; TextInput { width: 200; "
+                   "height: 50 } }");
         file.close();
         QCursor::setPos(kFar);
         below.setGeometry(250, 150, 400, 300);
@@ -172,6 +175,73 @@ TEST_F(FloatingPanelTest, WithoutACompositorOnlyTheOpaquePartIsThere) {
     show();
     EXPECT_FALSE(panel.isComposited());
     EXPECT_EQ(panel.mask(), QRegion(0, 0, 120, 60));
+}
+
+TEST_F(FloatingPanelTest, ACompositorThatComesAndGoesIsFollowed) {
+    int told = 0;
+    QObject::connect(&panel, &FloatingPanel::compositedChanged, [&] { ++told; });
+    panel.setOpaqueRegion(QRect(0, 0, 120, 60));
+    show();
+    QProcess compositor;
+    compositor.start(text("picom"), {text("--config"), text("/dev/null"), text("--backend"),
+                                     text("xrender"), text("--no-vsync")});
+    ASSERT_TRUE(await([&] { return panel.isComposited(); }));
+    EXPECT_TRUE(panel.mask().isEmpty());
+    EXPECT_TRUE(panel.rootObject()->property("composited").toBool());
+    compositor.kill(); // as a crash does
+    compositor.waitForFinished();
+    ASSERT_TRUE(await([&] { return !panel.isComposited(); }));
+    EXPECT_EQ(panel.mask(), QRegion(0, 0, 120, 60));
+    EXPECT_FALSE(panel.rootObject()->property("composited").toBool());
+    EXPECT_EQ(told, 2);
+}
+
+/// On a desktop that knows no input regions.
+class CutFloatingPanelTest : public FloatingPanelTest {
+protected:
+    void SetUp() override {
+        FloatingPanelTest::SetUp();
+        if (HasFatalFailure()) return;
+        cutHost.inputRegions = false;
+        ASSERT_TRUE(cut.load(panel.source(), {}));
+    }
+    fakes::FakePanelHost cutHost;
+    FloatingPanel cut{engine, cutHost};
+};
+
+TEST_F(CutFloatingPanelTest, TheWindowIsAsLargeAsWhatFeelsThePointerAndNothingMovesInIt) {
+    const QQuickItem* const view = cut.rootObject();
+    cut.setInputRegion(QRect(10, 20, 50, 30));
+    cut.showAt(kFrame);
+    ASSERT_TRUE(await([&] { return cut.isExposed(); }));
+    EXPECT_EQ(cut.geometry(), QRect(310, 220, 50, 30));
+    EXPECT_EQ(view->mapToGlobal(QPointF()), QPointF(kFrame.topLeft()));
+    EXPECT_EQ(view->size(), QSizeF(kFrame.size()));
+    cut.setInputRegion(QRegion(0, 0, 40, 40) + QRegion(60, 50, 30, 30));
+    EXPECT_TRUE(await([&] { return cut.geometry() == QRect(300, 200, 90, 80); }));
+    EXPECT_EQ(view->mapToGlobal(QPointF()), QPointF(kFrame.topLeft()));
+    EXPECT_EQ(view->size(), QSizeF(kFrame.size()));
+}
+
+TEST_F(CutFloatingPanelTest, WhatFeelsNoPointerIsCutToWhatIsDrawn) {
+    cut.setOpaqueRegion(QRect(10, 20, 50, 30));
+    cut.setInputRegion({});
+    cut.showAt(kFrame);
+    EXPECT_TRUE(await([&] { return cut.geometry() == QRect(310, 220, 50, 30); }));
+}
+
+TEST_F(CutFloatingPanelTest, OnlyEnteringAndLeavingAreBelievedWhereThePointerIsNotTold) {
+    cutHost.pointerIsTold = false;
+    QCursor::setPos(kFar);
+    cut.setInputRegion(QRect(0, 0, 100, 50));
+    cut.showAt(kFrame);
+    ASSERT_TRUE(await([&] { return cut.isExposed(); }));
+    EXPECT_FALSE(cut.pointerInside());
+    QCursor::setPos(kFrame.topLeft() + QPoint(50, 25));
+    EXPECT_TRUE(await([&] { return cut.pointerInside(); }));
+    QEvent leave(QEvent::Leave); // to a window that the server does not know
+    QCoreApplication::sendEvent(&cut, &leave);
+    EXPECT_FALSE(cut.pointerInside());
 }
 
 TEST_F(FloatingPanelTest, ASensorFeelsThePointerUntilItIsGone) {

@@ -17,7 +17,14 @@ TEST_F(DesktopGapsTest, WhereNothingIsMissingNothingIsSaid) {
     EXPECT_EQ(view->gaps()->idleAdvice(), QString());
     EXPECT_EQ(view->gaps()->autoModeAdvice(), QString());
     EXPECT_EQ(view->gaps()->autoStartAdvice(), QString());
+    EXPECT_EQ(view->gaps()->ceremonyAdvice(), QString());
     EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B · active"));
+}
+
+TEST_F(DesktopGapsTest, WhereACeremonyWouldCatchClicksItIsSaidThatNonePlays) {
+    panelHost.inputRegions = false;
+    open();
+    EXPECT_TRUE(view->gaps()->ceremonyAdvice().startsWith(text("In this Wayland session")));
 }
 
 TEST_F(DesktopGapsTest, AnEmptyReadingIsNoGapWhereTheDesktopCanTell) {

@@ -3,6 +3,7 @@
 
 #include "app/ModelWorld.h"
 #include "fakes/FakeAutostart.h"
+#include "fakes/FakePanelHost.h"
 #include "fakes/FakeProcessRunner.h"
 #include "fakes/FakeTrayItem.h"
 #include "sensing/AutoRules.h"
@@ -47,6 +48,7 @@ public:
                 tray,
                 idleSource,
                 frontmost,
+                panelHost,
                 [this](const QString& text) { copied << text; },
                 [this] { return model->eraseEverything(); }};
     }
@@ -63,6 +65,7 @@ public:
     FocusLink focusLink{preferences, runner, QStringLiteral("/opt/vantle-shortcuts")};
     std::optional<AutoRules> rules;
     fakes::FakeTrayItem tray;
+    fakes::FakePanelHost panelHost;
     QStringList revealed;
     QStringList copied;
     int foldersOpened = 0;

@@ -3,6 +3,7 @@
 #include "fakes/FakePanelHost.h"
 #include "fakes/FakeScreens.h"
 #include "fakes/MemoryPreferences.h"
+#include "fakes/VirtualTime.h"
 #include "support/Await.h"
 #include "surfaces/window/ForegroundActivation.h"
 #include "surfaces/window/SharedEngine.h"
@@ -45,6 +46,15 @@ protected:
         return window.window()->size() - QSize(0, kStrip);
     }
 
+    /// Lets time pass once the window has heard of what was done to it.
+    void pass(double seconds) {
+        QCoreApplication::processEvents();
+        time.advance(seconds);
+    }
+    [[nodiscard]] std::optional<QString> kept() const {
+        return preferences.string(QStringLiteral("a.frame"));
+    }
+
     /// What the event loop does once the present event is over.
     static void deleteWhatIsClosed() {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -60,7 +70,8 @@ protected:
     bool tall = false;
     QPointer<QObject> model; ///< of the window that was opened last
     std::function<void()> closeFromView;
-    WindowEnvironment environment{engine, activation, preferences, screens, host, {}};
+    fakes::VirtualTime time;
+    WindowEnvironment environment{engine, activation, preferences, screens, host, time, {}};
 };
 
 TEST_F(ManagedWindowTest, AFixedWindowIsAsLargeAsItsViewAsksFor) {
@@ -121,6 +132,51 @@ TEST_F(ManagedWindowTest, TheFrameIsRestoredUnderItsName) {
     EXPECT_EQ(preferences.string(QStringLiteral("a.frame")), QStringLiteral("100 120 700 600"));
     ASSERT_TRUE(window.show());
     EXPECT_EQ(window.window()->geometry(), QRect(100, 120, 700, 600));
+}
+
+TEST_F(ManagedWindowTest, FrameIsKeptASecondAfterTheLastMove) {
+    ManagedWindow window(environment, filling, content("Filling.qml"));
+    ASSERT_TRUE(window.show());
+    window.window()->setPosition(100, 120);
+    pass(0.9);
+    window.window()->setGeometry(110, 130, 700, 600);
+    pass(0.9);
+    EXPECT_EQ(kept(), std::nullopt);
+    pass(0.2);
+    EXPECT_EQ(kept(), QStringLiteral("110 130 700 600"));
+}
+
+TEST_F(ManagedWindowTest, KeptFrameIsNotWrittenAgainAtClosing) {
+    ManagedWindow window(environment, filling, content("Filling.qml"));
+    ASSERT_TRUE(window.show());
+    window.window()->setGeometry(110, 130, 700, 600);
+    pass(1.1);
+    preferences.remove(QStringLiteral("a.frame")); // all data is erased
+    window.close();
+    EXPECT_EQ(kept(), std::nullopt);
+}
+
+TEST_F(ManagedWindowTest, FrameOfAMaximisedWindowIsKept) {
+    ManagedWindow window(environment, filling, content("Filling.qml"));
+    ASSERT_TRUE(window.show());
+    window.window()->showMaximized();
+    ASSERT_TRUE(await([&] { return window.window()->width() == 800; })); // the screen's
+    const QRect frame = window.window()->geometry();
+    pass(1.1);
+    EXPECT_EQ(kept(), QStringLiteral("%1 %2 800 800").arg(frame.x()).arg(frame.y()));
+}
+
+TEST_F(ManagedWindowTest, CornersAreRoundWhileThereIsACompositor) {
+    ManagedWindow window(environment, fixed, content("Fixed.qml"));
+    ASSERT_TRUE(window.show());
+    auto* const shown = static_cast<QQuickWindow*>(window.window());
+    shown->setColor(Qt::green); // what lies below
+    const auto seesBelow = [&] { return shown->grabWindow().pixelColor(0, 0).green() > 200; };
+    EXPECT_TRUE(seesBelow());
+    host.setComposited(false);
+    EXPECT_FALSE(seesBelow());
+    host.setComposited(true);
+    EXPECT_TRUE(seesBelow());
 }
 
 TEST_F(ManagedWindowTest, AFrameOnAScreenThatIsGoneIsForgotten) {
@@ -222,7 +278,7 @@ TEST_F(ManagedWindowTest, WhoCaresIsToldOfTheCloseWithTheModelAndNotOfTheEndOfTh
     std::vector<QObject*> closing;
     told.willClose = [&](QObject& viewModel) { closing.push_back(&viewModel); };
     {
-        ManagedWindow window({engine, activation, preferences, screens, host}, fixed, told);
+        ManagedWindow window({engine, activation, preferences, screens, host, time}, fixed, told);
         ASSERT_TRUE(window.show());
         window.close();
         window.close();

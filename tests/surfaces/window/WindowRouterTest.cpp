@@ -3,6 +3,7 @@
 #include "fakes/FakePanelHost.h"
 #include "fakes/FakeScreens.h"
 #include "fakes/MemoryPreferences.h"
+#include "fakes/VirtualTime.h"
 #include "surfaces/window/ForegroundActivation.h"
 #include "surfaces/window/SharedEngine.h"
 #include "tracking/NotificationCenter.h"
@@ -30,7 +31,8 @@ protected:
     ForegroundActivation activation;
     SharedEngine engine;
     NotificationCenter notifications;
-    WindowRouter router{{engine, activation, preferences, screens, host, {}}, notifications};
+    fakes::VirtualTime time;
+    WindowRouter router{{engine, activation, preferences, screens, host, time, {}}, notifications};
 };
 
 TEST_F(WindowRouterTest, AWindowThatNobodyRegisteredDoesNotOpen) {

@@ -1,0 +1,128 @@
+"""The program in a Wayland session, beside a window that X11 knows nothing of."""
+
+import time
+
+from harness.bus import activate_action
+from harness.case import DesktopTest
+from harness.waiting import wait_until
+from harness.wayland import WaylandSession
+
+WIDTH = 1280
+MIDDLE = WIDTH // 2
+CAPSULE = "Vantle Capsule"
+SUMMARY = "Vantle Session Summary"
+PANEL = "Vantle Command Center"
+OVERLAY = "Vantle ceremony"
+
+# As a terminal reports presses to what runs in it.
+PRESS = "\x1b[M "
+
+
+class WaylandTest(DesktopTest):
+
+    tray_kind = DesktopTest.NO_TRAY
+    window_manager = False
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.env["VANTLE_AUTOSTART"] = "1"  # nothing pops up
+        session = WaylandSession(self.desktop)
+        self.addCleanup(session.stop)
+        session.start()
+        self.session = session.desktop
+        self.vantle = self.new_program(self.session)
+        self.vantle.write_preferences(notch__intro__flashed="true")
+        self.open_native_window()
+
+    def open_native_window(self):
+        """A terminal over the whole screen, which writes down what it gets."""
+        self._got = self.desktop.directory / "got"
+        self.session.open("foot", "sh", "-c",
+                          f"printf '\\033[?1000h'; stty -echo raw; exec cat >{self._got}")
+        wait_until("the native window", self._got.exists)
+        time.sleep(0.5)  # until it is in front
+
+    def got(self):
+        return self._got.read_bytes().decode("latin-1")
+
+    def presses(self):
+        return self.got().count(PRESS)
+
+    def click(self, x, y):
+        self.desktop.tool("xdotool", "mousemove", str(x), str(y), "sleep", "0.2", "click", "1",
+                          "sleep", "0.2")
+
+    def expect_press_through(self, x, y):
+        before = self.presses()
+        self.click(x, y)
+        wait_until(f"a press at {x}, {y} in the native window",
+                   lambda: self.presses() > before, deadline=3)
+
+    def expect_keys_through(self, letters):
+        self.desktop.type(letters)
+        wait_until(f"{letters!r} in the native window", lambda: letters in self.got(), deadline=3)
+
+    def toggle(self):
+        activate_action(self.session, "toggle")
+
+    def frames(self, title):
+        return [self.session.frame_of(window) for window in self.session.windows_named(title)]
+
+
+class Rests(WaylandTest):
+
+    def test_presses_and_keys_reach_the_window_below_a_resting_capsule(self):
+        self.launch()
+        wait_until("the capsule", lambda: self.frames(CAPSULE) == [(MIDDLE - 115, 0, 230, 10)])
+        for x, y in ((MIDDLE, 60), (MIDDLE - 200, 20), (MIDDLE + 200, 150)):
+            self.expect_press_through(x, y)
+        self.expect_keys_through("abc")
+
+    def test_the_capsule_opens_under_the_pointer_and_closes_behind_it(self):
+        self.launch()
+        wait_until("the capsule", lambda: self.frames(CAPSULE))
+        self.desktop.tool("xdotool", "mousemove", str(MIDDLE), "300", "sleep", "0.2",
+                          "mousemove", str(MIDDLE), "5")
+        wait_until("an open capsule", lambda: self.frames(CAPSULE)[0][3] > 100)
+        self.desktop.screenshot("open")
+        self.click(MIDDLE + 60, 30)
+        wait_until("a session", self.vantle.marker)
+        self.desktop.tool("xdotool", "mousemove", "300", "600")
+        wait_until("a closed capsule", lambda: self.frames(CAPSULE)[0][3] == 10)
+        self.expect_press_through(MIDDLE, 60)
+
+
+class Works(WaylandTest):
+
+    def test_a_start_and_an_end_take_neither_presses_nor_keys(self):
+        self.launch()
+        self.toggle()
+        wait_until("a session", self.vantle.marker)
+        self.expect_keys_through("start")
+        self.expect_press_through(300, 600)
+        self.assertEqual(self.session.windows_named(OVERLAY), [])
+        time.sleep(2.5)  # until the flash of the capsule is over
+        self.toggle()
+        wait_until("a record", self.vantle.sessions)
+        card, = wait_until("the card", lambda: self.frames(SUMMARY))
+        self.desktop.screenshot("card")
+        self.assertEqual((card[0] + card[2], card[2]), (WIDTH - 12, 380),
+                         "the window is the card, without room for a shadow")
+        self.expect_keys_through("end")
+        self.expect_press_through(card[0] - 10, card[1] + 50)
+
+
+class Panel(WaylandTest):
+
+    def setUp(self):
+        super().setUp()
+        del self.session.env["VANTLE_AUTOSTART"]
+
+    def test_the_panel_has_the_keyboard_and_gives_it_back(self):
+        self.vantle.start()
+        wait_until("the panel", lambda: self.frames(PANEL))
+        time.sleep(0.5)
+        self.desktop.screenshot("panel")
+        self.desktop.press("Escape")
+        wait_until("no panel", lambda: not self.frames(PANEL))
+        self.expect_keys_through("mine")

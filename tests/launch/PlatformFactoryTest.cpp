@@ -1,0 +1,128 @@
+// What the platform makes of the session that it finds: the X server tells, not the environment.
+#include "app/launch/PlatformFactory.h"
+
+#include "base/Scheduler.h"
+#include "support/Await.h"
+
+#include <QProcess>
+#include <QProcessEnvironment>
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace vantle::tests {
+namespace {
+
+/// Variables of the session as the program finds them, until the end of the test.
+class SessionVariables {
+public:
+    ~SessionVariables() {
+        for (const auto& [name, value] : m_before)
+            value.isNull() ? qunsetenv(name) : qputenv(name, value);
+    }
+    SessionVariables() = default;
+    SessionVariables(const SessionVariables&) = delete;
+    SessionVariables& operator=(const SessionVariables&) = delete;
+
+    void set(const char* name, const QByteArray& value) {
+        m_before.try_emplace(name, qgetenv(name));
+        value.isNull() ? qunsetenv(name) : qputenv(name, value);
+    }
+
+private:
+    std::map<const char*, QByteArray> m_before;
+};
+
+/// A Wayland session in a window of the test's X server.
+class WaylandSession {
+public:
+    WaylandSession() {
+        m_process.start(QStringLiteral(VANTLE_TEST_DATA "/../support/with-sway"),
+                        {QStringLiteral("bash"), QStringLiteral("-c"),
+                         QStringLiteral("echo $DISPLAY $WAYLAND_DISPLAY; exec cat")});
+        EXPECT_TRUE(await([this] { return m_process.canReadLine(); }, 30000));
+        const QList<QByteArray> words = m_process.readLine().trimmed().split(' ');
+        m_display = words.value(0);
+        m_socket = words.value(1);
+    }
+    ~WaylandSession() {
+        m_process.closeWriteChannel();
+        m_process.waitForFinished();
+    }
+    WaylandSession(const WaylandSession&) = delete;
+    WaylandSession& operator=(const WaylandSession&) = delete;
+
+    [[nodiscard]] const QByteArray& display() const { return m_display; } ///< of Xwayland
+    [[nodiscard]] const QByteArray& socket() const { return m_socket; }
+
+private:
+    QProcess m_process;
+    QByteArray m_display;
+    QByteArray m_socket;
+};
+
+class PlatformFactoryTest : public testing::Test {
+protected:
+    [[nodiscard]] Platform& platform() {
+        if (!m_platform)
+            m_platform = platformfactory::makePlatform(m_scheduler,
+                                                       {.activated = [] {},
+                                                        .actionActivated = {},
+                                                        .endRequested = [] {},
+                                                        .displayLost = [] {}},
+                                                       QProcessEnvironment());
+        return *m_platform;
+    }
+    void expectWaylandSession() {
+        EXPECT_FALSE(platform().idleSource().canTell());
+        EXPECT_FALSE(platform().idleSource().secondsSinceLastInput());
+        EXPECT_EQ(platform().frontmostApp().coverage(), AppCoverage::None);
+        EXPECT_FALSE(platform().frontmostApp().frontmost());
+        EXPECT_FALSE(platform().hotKeyPort().hearsEveryApp());
+        EXPECT_FALSE(platform().panelHost().tellsPointer());
+        EXPECT_TRUE(platform().panelHost().isComposited());
+    }
+    void expectX11Session() {
+        EXPECT_TRUE(platform().idleSource().canTell());
+        EXPECT_TRUE(platform().idleSource().secondsSinceLastInput());
+        EXPECT_NE(platform().frontmostApp().coverage(), AppCoverage::None);
+        EXPECT_TRUE(platform().hotKeyPort().hearsEveryApp());
+        EXPECT_TRUE(platform().panelHost().tellsPointer());
+        EXPECT_TRUE(platform().panelHost().hasInputRegions());
+        EXPECT_FALSE(platform().panelHost().isComposited());
+    }
+
+    QtScheduler m_scheduler;
+    SessionVariables variables;
+
+private:
+    std::unique_ptr<Platform> m_platform;
+};
+
+TEST_F(PlatformFactoryTest, AnX11SessionTellsAll) { expectX11Session(); }
+
+TEST_F(PlatformFactoryTest, VariablesOfAWaylandSessionMakeNoneOfAnX11Server) {
+    variables.set("WAYLAND_DISPLAY", "wayland-0");
+    variables.set("XDG_SESSION_TYPE", "wayland");
+    expectX11Session();
+}
+
+TEST_F(PlatformFactoryTest, XwaylandIsAskedForNothingThatItCannotTell) {
+    const WaylandSession session;
+    variables.set("DISPLAY", session.display());
+    variables.set("WAYLAND_DISPLAY", session.socket());
+    variables.set("XDG_SESSION_TYPE", "wayland");
+    expectWaylandSession();
+}
+
+TEST_F(PlatformFactoryTest, XwaylandIsKnownWithoutAnyVariableOfTheSession) {
+    const WaylandSession session;
+    variables.set("DISPLAY", session.display());
+    variables.set("WAYLAND_DISPLAY", {});
+    variables.set("XDG_SESSION_TYPE", {});
+    expectWaylandSession();
+}
+
+} // namespace
+} // namespace vantle::tests
