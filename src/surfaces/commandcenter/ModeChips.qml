@@ -29,7 +29,6 @@ Item {
         required property bool deletable
 
         large: true
-        choosable: true
         width: Math.min(implicitWidth, chips.width)
         dotColor: Tint.fromHex(hexRGB)
         selectedTint: selected ? dotColor : DarkUI.clear
