@@ -85,7 +85,7 @@ public:
     enum class LockOutcome {
         Held,         ///< ours until the lock is destroyed
         TakenByOther, ///< another process or another open of it holds it
-        Unavailable,  ///< the file could not be opened at all
+        Unavailable,  ///< the file can't be opened, or its file system has no locks
     };
     struct LockAttempt {
         LockOutcome outcome = LockOutcome::Unavailable;

@@ -13,8 +13,9 @@ class AppPaths;
 /// gives it up as well; the file stays and means nothing by itself. Main thread.
 class SingleInstanceLock {
 public:
-    /// False when another process holds the lock. A lock file that can't be opened at all is no
-    /// reason to refuse: a broken support directory must not keep the program from starting.
+    /// False when another process holds the lock. A lock file that can't be opened, or one on a
+    /// file system without locks, is no reason to refuse: a broken support directory must not keep
+    /// the program from starting.
     [[nodiscard]] bool acquire(const AppPaths& paths);
 
 private:

@@ -10,7 +10,25 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <dlfcn.h>
 #include <vector>
+
+namespace {
+
+int flockFailsWith = 0; // errno; 0 lets it through
+
+} // namespace
+
+// Stands in front of the C library's in this program, for file systems that refuse to lock.
+extern "C" int flock(int file, int operation) {
+    if (flockFailsWith != 0) {
+        errno = flockFailsWith;
+        return -1;
+    }
+    static const auto real = reinterpret_cast<int (*)(int, int)>(dlsym(RTLD_NEXT, "flock"));
+    return real(file, operation);
+}
 
 namespace vantle {
 namespace {
@@ -134,6 +152,17 @@ TEST_F(SingleInstanceLockTest, ALockFileThatCanNotBeOpenedIsNoReasonToRefuse) {
     EXPECT_TRUE(lock.acquire(AppPaths(faulty, dataHome.path())));
     ASSERT_TRUE(files.makeDirectories(paths.instanceLock(), 0700).ok());
     EXPECT_TRUE(lock.acquire(paths));
+}
+
+TEST_F(SingleInstanceLockTest, FileSystemWithoutLocksIsNoReasonToRefuse) {
+    for (const int code : {ENOLCK, ENOSYS, EOPNOTSUPP, EINVAL}) {
+        SingleInstanceLock lock;
+        flockFailsWith = code;
+        EXPECT_TRUE(lock.acquire(paths)) << code;
+        flockFailsWith = EWOULDBLOCK;
+        EXPECT_FALSE(lock.acquire(paths)) << code;
+        flockFailsWith = 0;
+    }
 }
 
 } // namespace

@@ -168,8 +168,11 @@ FileSystem::LockAttempt PosixFileSystem::lock(const QString& path) {
     Descriptor file = openedAt(path, O_RDWR | O_CREAT | O_NONBLOCK | O_NOCTTY);
     if (!file) return {};
     makePrivate(file); // the lock counts, not the mode
-    if (retried([&] { return ::flock(file.get(), LOCK_EX | LOCK_NB); }) != 0)
-        return {LockOutcome::TakenByOther, nullptr};
+    if (retried([&] { return ::flock(file.get(), LOCK_EX | LOCK_NB); }) != 0) {
+        // Network and FUSE file systems without locks answer ENOLCK, ENOSYS or EOPNOTSUPP.
+        const bool isTaken = errno == EWOULDBLOCK;
+        return {isTaken ? LockOutcome::TakenByOther : LockOutcome::Unavailable, nullptr};
+    }
     return {LockOutcome::Held, std::make_unique<PosixLock>(std::move(file))};
 }
 
