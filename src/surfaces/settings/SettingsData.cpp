@@ -32,17 +32,15 @@ void SettingsView::setConfirmingErase(bool confirming) {
 void SettingsView::confirmErase() {
     if (!m_confirmingErase) return;
     m_confirmingErase = false;
-    m_eraseStatus = m_env.eraseAllData().value_or(QStringLiteral("Erased all local Vantle data."));
+    const auto failure = m_env.eraseAllData();
+    m_eraseSucceeded = !failure;
+    m_eraseStatus = failure.value_or(QStringLiteral("Erased all local Vantle data."));
     // What was exported is gone with the rest.
     m_exportFailed = false;
     m_exportFeedback.reset();
     readState();
     Q_EMIT exportChanged();
     Q_EMIT eraseChanged();
-}
-
-bool SettingsView::eraseSucceeded() const {
-    return eraseStatus().startsWith(QLatin1String("Erased"));
 }
 
 } // namespace vantle

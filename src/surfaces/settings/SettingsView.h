@@ -217,7 +217,7 @@ public:
 
     [[nodiscard]] bool confirmingErase() const { return m_confirmingErase; }
     [[nodiscard]] QString eraseStatus() const { return m_eraseStatus.value_or(QString()); }
-    [[nodiscard]] bool eraseSucceeded() const;
+    [[nodiscard]] bool eraseSucceeded() const { return m_eraseSucceeded; }
     Q_INVOKABLE void askToErase() { setConfirmingErase(true); }
     Q_INVOKABLE void cancelErase() { setConfirmingErase(false); }
     /// Erases everything, once it was asked for.
@@ -271,6 +271,7 @@ private:
     bool m_exportFailed = false;
     std::optional<QString> m_exportFeedback;
     std::optional<QString> m_eraseStatus;
+    bool m_eraseSucceeded = false;
 };
 
 } // namespace vantle

@@ -123,5 +123,17 @@ TEST_F(SettingsDataTest, EraseThatLeavesSomethingSaysWhat) {
     EXPECT_TRUE(settings.eraseSucceeded());
 }
 
+TEST_F(SettingsDataTest, FailedEraseIsAFailureHoweverItsTextBegins) {
+    program();
+    SettingsView::Environment failing = environment();
+    failing.eraseAllData = [] { return std::optional(text("Erased all but sessions.jsonl")); };
+    SettingsView& settings = view.emplace(failing);
+    EXPECT_FALSE(settings.eraseSucceeded());
+    settings.askToErase();
+    settings.confirmErase();
+    EXPECT_FALSE(settings.eraseSucceeded());
+    EXPECT_EQ(settings.eraseStatus(), text("Erased all but sessions.jsonl"));
+}
+
 } // namespace
 } // namespace vantle
