@@ -146,6 +146,7 @@ void AppModel::flashIdleNotchIntroIfNeeded() {
 void AppModel::prepareForTermination() {
     if (std::exchange(m_isQuitting, true)) return;
     (void)m_tracker.stop();
+    m_tracker.putBackOrphanedMarker();
     m_hotKey.unregisterHotKey();
     m_idle.stop();
     m_tracker.drainPendingIO();

@@ -160,7 +160,10 @@ bool TrackerCore::applyBackfill(int minutes) {
     return true;
 }
 
-void TrackerCore::discardOpenSessionForErase() { resetToIdle(); }
+void TrackerCore::discardOpenSessionForErase() {
+    m_orphanedMarker.reset();
+    resetToIdle();
+}
 
 void TrackerCore::debugAdvance(double seconds) {
     if (m_state != State::Idle && seconds > 0) m_accumulatedSeconds += seconds;
@@ -191,8 +194,11 @@ bool TrackerCore::writeMarker() {
 }
 
 void TrackerCore::removeMarkerAndWait() {
-    m_env.ioQueue.sync(
-        [this] { m_env.paths.removeIfPresent(m_env.paths.openSessionMarker()).ignore(); });
+    m_env.ioQueue.sync([this] {
+        const QString file = m_env.paths.openSessionMarker();
+        if (m_orphanedMarker && m_env.paths.writeProtected(*m_orphanedMarker, file)) return;
+        m_env.paths.removeIfPresent(file).ignore();
+    });
 }
 
 void TrackerCore::resetToIdle() {

@@ -132,8 +132,14 @@ public:
     // Recovery after a crash
 
     /// The marker that the last run left, when it tells of at least a minute of work. One that
-    /// does not, or can't be trusted, is removed. Call once, at launch. [blocks]
+    /// does not, or can't be trusted, is removed. Call once, at launch. Until the marker is
+    /// recovered or discarded, every stop puts it back into the file, which the open session takes
+    /// for its own marker. [blocks]
     std::optional<OpenSessionMarker> takeOrphanedMarker();
+
+    /// Writes the marker of the last run again if it is not answered and no session is open; for
+    /// the end of the program. An open session that can't be stopped keeps the file. [blocks]
+    void putBackOrphanedMarker();
 
     /// Logs what the marker tells, or finds it logged already, and removes the marker. Empty when
     /// there is nothing to recover or it can't be written; then the marker stays. [blocks]
@@ -192,6 +198,7 @@ private:
     [[nodiscard]] std::int64_t roundedActiveSeconds() const;
     bool writeMarker();
     void removeMarkerAndWait();
+    void removeOrphanedMarker();
     void resetToIdle();
     void noteStorageFailure(const Error& error);
     bool rewriteSession(const QUuid& id, const SessionLog::Transform& transform);
@@ -221,6 +228,8 @@ private:
     std::optional<QString> m_dataWarning;
     std::optional<QString> m_welcomeBack;
     std::optional<Date> m_welcomeBackShownAt;
+
+    std::optional<QByteArray> m_orphanedMarker; ///< of the last run, while it is not answered
 
     std::optional<QUuid> m_sessionId;
     double m_accumulatedSeconds = 0;    ///< of all closed segments, backfill included

@@ -99,9 +99,27 @@ std::optional<OpenSessionMarker> TrackerCore::takeOrphanedMarker() {
     auto marker = json::decodeMarker(bytes.value());
     // The candidate is what an offer is made of; without one the marker is of no use. The file of
     // a good one stays until the person has chosen, so that a second crash loses nothing.
-    if (marker && recovery::recoveryCandidate(*marker)) return marker;
+    if (marker && recovery::recoveryCandidate(*marker)) {
+        m_orphanedMarker = bytes.value();
+        return marker;
+    }
     removeMarkerAndWait();
     return std::nullopt;
+}
+
+void TrackerCore::putBackOrphanedMarker() {
+    if (m_state != State::Idle || !m_orphanedMarker) return;
+    m_env.ioQueue.sync([this] {
+        const QString file = m_env.paths.openSessionMarker();
+        const auto present = m_env.paths.fileSystem().readAll(file);
+        if (present && present.value() == *m_orphanedMarker) return;
+        m_env.paths.writeProtected(*m_orphanedMarker, file).ignore();
+    });
+}
+
+void TrackerCore::removeOrphanedMarker() {
+    m_orphanedMarker.reset();
+    removeMarkerAndWait();
 }
 
 std::optional<Session> TrackerCore::recoverSession(const OpenSessionMarker& marker) {
@@ -112,10 +130,10 @@ std::optional<Session> TrackerCore::recoverSession(const OpenSessionMarker& mark
     const auto logged = std::ranges::find(sessions, candidate->id, &Session::id);
     const bool isLogged = logged != sessions.end();
     if (!isLogged && !appendToLog(*candidate)) return std::nullopt;
-    removeMarkerAndWait();
+    removeOrphanedMarker();
     return isLogged ? *logged : *candidate;
 }
 
-void TrackerCore::discardRecovery(const OpenSessionMarker&) { removeMarkerAndWait(); }
+void TrackerCore::discardRecovery(const OpenSessionMarker&) { removeOrphanedMarker(); }
 
 } // namespace vantle

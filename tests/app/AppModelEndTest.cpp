@@ -14,6 +14,22 @@ using Operation = fakes::FaultyFileSystem::Operation;
 
 class AppModelEndTest : public testing::Test {
 protected:
+    /// A run that dies 130 s into a session: its marker is 120 s old in the session.
+    void leaveKilledSession() {
+        world.launch();
+        world.press();
+        world.time.advance(130.0);
+        world.kill();
+        world.told.calls.clear();
+    }
+    /// Whether the run after this one offers that session.
+    [[nodiscard]] bool isOfferedNext() {
+        world.kill();
+        world.told.calls.clear();
+        world.launch();
+        return world.told.has(text("recovery 120"));
+    }
+
     ModelWorld world;
 };
 
@@ -120,6 +136,119 @@ TEST_F(AppModelEndTest, AnOfferThatIsNotAnsweredComesAgain) {
     EXPECT_TRUE(world.told.has(text("recovery 120")));
 }
 
+TEST_F(AppModelEndTest, UnansweredOfferOutlivesASessionAndAQuit) {
+    leaveKilledSession();
+    AppModel& model = world.launch();
+    world.press();
+    world.time.advance(30.0);
+    world.press();
+    EXPECT_EQ(world.log().size(), 1u);
+    model.quit();
+    EXPECT_TRUE(isOfferedNext());
+}
+
+TEST_F(AppModelEndTest, UnansweredOfferOutlivesAQuitInASession) {
+    leaveKilledSession();
+    AppModel& model = world.launch();
+    world.press();
+    world.time.advance(30.0);
+    model.quit();
+    EXPECT_EQ(world.log().size(), 1u);
+    EXPECT_TRUE(isOfferedNext());
+}
+
+TEST_F(AppModelEndTest, UnansweredOfferOutlivesAnEndWithoutAScreen) {
+    leaveKilledSession();
+    AppModel& model = world.launch();
+    world.press();
+    model.prepareForTerminationUnseen();
+    EXPECT_TRUE(isOfferedNext());
+}
+
+TEST_F(AppModelEndTest, UnansweredOfferOutlivesASessionAndAKill) {
+    leaveKilledSession();
+    world.launch();
+    world.press();
+    world.press();
+    EXPECT_TRUE(isOfferedNext());
+}
+
+TEST_F(AppModelEndTest, UnansweredOfferOutlivesASplitSession) {
+    leaveKilledSession();
+    AppModel& model = world.launch();
+    world.press();
+    world.time.advance(30.0);
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    EXPECT_TRUE(world.hasMarker());
+    world.press();
+    EXPECT_TRUE(isOfferedNext());
+}
+
+TEST_F(AppModelEndTest, OfferWhoseKeepFailsStaysUnanswered) {
+    leaveKilledSession();
+    AppModel& model = world.launch();
+    world.breakWrites(text("sessions.jsonl"), true);
+    world.told.recoveryKeep();
+    world.breakWrites(text("sessions.jsonl"), false);
+    world.press();
+    world.press();
+    model.quit();
+    EXPECT_TRUE(isOfferedNext());
+}
+
+TEST_F(AppModelEndTest, MarkerThatCanNotBePutBackAfterAStopIsPutBackAtTheEnd) {
+    leaveKilledSession();
+    AppModel& model = world.launch();
+    world.press();
+    world.settle();
+    world.breakWrites(text("open-session.json"), true);
+    world.press();
+    EXPECT_FALSE(world.hasMarker()) << "the marker of a logged session";
+    world.breakWrites(text("open-session.json"), false);
+    model.quit();
+    EXPECT_TRUE(isOfferedNext());
+}
+
+TEST_F(AppModelEndTest, AnsweredOfferDoesNotComeBack) {
+    for (const bool keeps : {true, false}) {
+        leaveKilledSession();
+        AppModel& model = world.launch();
+        (keeps ? world.told.recoveryKeep : world.told.recoveryDiscard)();
+        world.press();
+        world.press();
+        model.quit();
+        EXPECT_FALSE(world.hasMarker());
+        EXPECT_FALSE(isOfferedNext()) << keeps;
+        world.kill();
+    }
+}
+
+TEST_F(AppModelEndTest, ErasedOfferDoesNotComeBack) {
+    leaveKilledSession();
+    AppModel& model = world.launch();
+    model.eraseEverything();
+    model.markWelcomeDone();
+    world.press();
+    world.press();
+    model.quit();
+    EXPECT_FALSE(world.hasMarker());
+    EXPECT_FALSE(isOfferedNext());
+}
+
+TEST_F(AppModelEndTest, SessionThatCanNotBeLoggedAtTheEndKeepsItsMarkerBeforeAnOldOffer) {
+    leaveKilledSession();
+    world.idleSource.fix(0);
+    AppModel& model = world.launch();
+    world.press();
+    world.time.advance(190.0);
+    world.breakWrites(text("sessions.jsonl"), true);
+    model.quit();
+    world.breakWrites(text("sessions.jsonl"), false);
+    world.kill();
+    world.launch();
+    EXPECT_TRUE(world.told.has(text("recovery 180")));
+}
+
 TEST_F(AppModelEndTest, AMarkerOfALoggedSessionIsNotLoggedTwice) {
     world.launch();
     world.press();
@@ -156,7 +285,29 @@ TEST_F(AppModelEndTest, EraseInASessionLeavesNothing) {
         EXPECT_FALSE(world.disk.exists(path)) << path.toStdString();
     EXPECT_TRUE(model.needsWelcome());
     EXPECT_EQ(world.preferences.string(text("skill.lastUsed")), std::nullopt);
-    EXPECT_EQ(world.told.calls.first(), text("recovery hide"));
+    EXPECT_EQ(world.told.calls,
+              (QStringList{text("recovery hide"), text("auto erase"), text("auto drain"),
+                           text("auto refresh"), text("notch idle building flash 0")}));
+}
+
+TEST_F(AppModelEndTest, ErasedRulesDoNotComeBackFromAQueuedWrite) {
+    AppModel& model = world.launch();
+    world.told.onAutoDrain = [this] {
+        world.disk.setContent(ModelWorld::file("auto-rules.json"), "{}");
+    };
+    EXPECT_EQ(model.eraseEverything(), std::nullopt);
+    EXPECT_FALSE(world.disk.exists(ModelWorld::file("auto-rules.json")));
+}
+
+TEST_F(AppModelEndTest, QuitWaitsForWhatIsQueuedForTheDisk) {
+    AppModel& model = world.launch();
+    bool rulesWritten = false;
+    bool jobRan = false;
+    world.told.onAutoDrain = [&] { rulesWritten = true; };
+    world.ioQueue.async([&] { jobRan = true; });
+    model.quit();
+    EXPECT_TRUE(rulesWritten);
+    EXPECT_TRUE(jobRan);
 }
 
 TEST_F(AppModelEndTest, AnErasedSessionDoesNotComeBackFromAQueuedMarker) {

@@ -12,14 +12,26 @@ QString hex(std::uint32_t rgb) {
     return QString::number(rgb, 16).toUpper().rightJustified(6, u'0');
 }
 
+QString nameOf(CeremonyShow show) {
+    switch (show.kind) {
+    case CeremonyShow::Full:
+        return QStringLiteral("full");
+    case CeremonyShow::Quick:
+        return QStringLiteral("quick");
+    case CeremonyShow::Collapse:
+        return QStringLiteral("collapse");
+    case CeremonyShow::Milestone:
+        return QStringLiteral("milestone of %1 h").arg(show.hours);
+    }
+    Q_UNREACHABLE();
+}
+
 class RecordingRipple final : public collaborators::Ripple {
 public:
     explicit RecordingRipple(Told& told) : m_told(told) {}
     void play(CeremonyShow show, std::uint32_t rgb, const std::optional<QString>& name) override {
-        const QString shows[] = {QStringLiteral("full"), QStringLiteral("quick"),
-                                 QStringLiteral("collapse")};
         m_told.calls << QStringLiteral("ripple %1 %2 %3")
-                            .arg(shows[show.kind], hex(rgb), name.value_or(QStringLiteral("-")));
+                            .arg(nameOf(show), hex(rgb), name.value_or(QStringLiteral("-")));
     }
 
 private:
@@ -150,7 +162,10 @@ public:
         m_told.calls << QStringLiteral("auto remove rules %1").arg(skillId);
     }
     void eraseAllData() override { m_told.calls << QStringLiteral("auto erase"); }
-    void drainPendingIO() override { m_told.calls << QStringLiteral("auto drain"); }
+    void drainPendingIO() override {
+        m_told.calls << QStringLiteral("auto drain");
+        if (m_told.onAutoDrain) m_told.onAutoDrain();
+    }
     bool isBrowser(const QString& bundleId, const QString&) override {
         return bundleId == QLatin1String("browser");
     }

@@ -38,7 +38,8 @@ struct Told {
     std::function<void(const collaborators::TagPrompt::Outcome&)> resolveTag;
     std::function<void(bool)> resolveCorrection;
     collaborators::AutoSkill::Hooks hooks;
-    bool promptsTaken = true; ///< whether the corner is free for prompts
+    std::function<void()> onAutoDrain; ///< stands for a write of auto mode that is still queued
+    bool promptsTaken = true;          ///< whether the corner is free for prompts
     std::optional<Application> correctionApp;
     std::optional<QString> correctionRuling;
     bool mayOfferCorrection = true;

@@ -4,7 +4,7 @@ import signal
 from datetime import datetime, timedelta, timezone
 
 from harness.bus import activate_action
-from harness.case import FIRST_SKILL, DesktopTest
+from harness.case import FIRST_SKILL, SHORTCUT, DesktopTest
 from harness.records import stamp
 from harness.waiting import wait_until
 
@@ -36,6 +36,33 @@ class Recovery(DesktopTest):
         self.assertEqual(self.vantle.stop(), 0)
         self.assertEqual(self.vantle.marker(), left)
         self.assertEqual(self.vantle.log_bytes(), b"")
+
+    def test_an_offer_without_an_answer_outlives_a_session_and_a_quit(self):
+        self._crash_that_left(seconds=125)
+        left = self.vantle.marker()
+        self.launch()
+        self.await_tool_tip("Found 2 min from the previous run")
+        self.desktop.press(SHORTCUT)
+        wait_until("a marker of its own", lambda: self.vantle.marker() not in (None, left))
+        self.desktop.press(SHORTCUT)
+        wait_until("a record", self.vantle.sessions)
+        wait_until("the old marker", lambda: self.vantle.marker() == left)
+        self.assertEqual(self.vantle.stop(), 0)
+        self.assertEqual(self.vantle.marker(), left)
+        self.await_empty_tray()
+
+        self.launch()
+        self.await_tool_tip("Found 2 min from the previous run")
+        self.begin_session()
+        self.assertEqual(self.vantle.stop(), 0)  # in the middle of a session
+        self.assertEqual(self.vantle.marker(), left)
+        self.await_empty_tray()
+
+        self.launch()
+        self.await_tool_tip("Found 2 min from the previous run")
+        activate_action(self.desktop, "keep")
+        wait_until("no marker", lambda: self.vantle.marker() is None)
+        self.assertEqual([one["activeSeconds"] for one in self.vantle.sessions()][2:], [125])
 
     def test_kept_it_is_logged_as_it_was_last_seen(self):
         started = self._crash_that_left(seconds=125)
