@@ -26,9 +26,11 @@ AppModel::AppModel(const Environment& environment, Collaborators collaborators)
     , m_tracker({m_env.clock, m_env.scheduler, m_env.ioQueue, m_env.paths, m_env.preferences,
                  m_env.skills, m_env.notifications})
     , m_idle(m_env.clock, m_env.scheduler, m_env.idleSource, m_env.screenPower, m_env.preferences)
-    , m_hotKey(m_env.hotKeyPort, m_env.scheduler)
-    , m_skills(m_env.skills.all()) {
+    , m_hotKey(m_env.hotKeyPort, m_env.scheduler) {
+    // Before any data file is read: this gives back what its owner may not read.
     m_env.paths.enforcePrivatePermissions();
+    m_skills = m_env.skills.all();
+    reportUnreadableSkills();
     const auto lastUsed = m_env.preferences.string(QLatin1String(TrackerCore::lastUsedSkillKey));
     m_selectedSkillId = m_env.skills.by(lastUsed.value_or(QString())).id;
     wireIdle();
@@ -201,6 +203,15 @@ void AppModel::setLastActionNote(std::optional<QString> note) {
 
 void AppModel::report(const QString& text) {
     setLastActionNote(m_tracker.storageError().value_or(text));
+}
+
+bool AppModel::reportUnreadableSkills() {
+    const auto& error = m_env.skills.readError();
+    if (!error) return false;
+    setLastActionNote(QStringLiteral("Couldn’t read your modes. Check folder permissions, then "
+                                     "start Vantle again. (%1)")
+                          .arg(error->description()));
+    return true;
 }
 
 void AppModel::afterDelay(Seconds delay, std::function<void()> work) {

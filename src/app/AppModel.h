@@ -180,6 +180,8 @@ private:
     void select(const QString& id);
     void publishSkills();
     void setLastActionNote(std::optional<QString> note);
+    /// Returns whether the file of skills could not be read, which refuses every change to them.
+    bool reportUnreadableSkills();
     void afterDelay(Seconds delay, std::function<void()> work);
     [[nodiscard]] bool isIdle() const { return m_tracker.state() == TrackerCore::State::Idle; }
     [[nodiscard]] bool isOnboarded() const { return !needsWelcome(); }

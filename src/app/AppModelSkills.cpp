@@ -80,6 +80,7 @@ void AppModel::addSkill(const QString& name, std::uint32_t hexRGB) {
     }
     const auto added = m_env.skills.addCustom(name, hexRGB);
     if (!added) {
+        if (reportUnreadableSkills()) return;
         setLastActionNote(QStringLiteral("Couldn’t add mode · %1 modes max, %2 characters")
                               .arg(Skill::maxCount)
                               .arg(Skill::maxNameLength));
@@ -105,6 +106,7 @@ void AppModel::updateSkill(QString id, const QString& name, std::uint32_t hexRGB
     }
     const auto updated = m_env.skills.update(id, name, hexRGB);
     if (!updated) {
+        if (reportUnreadableSkills()) return;
         setLastActionNote(QStringLiteral("Couldn’t save mode · names are 1 to %1 characters")
                               .arg(Skill::maxNameLength));
         return;
@@ -121,6 +123,7 @@ void AppModel::deleteSkill(QString id) {
     setLastActionNote(std::nullopt);
     const QString name = m_env.skills.by(id).name;
     if (!m_env.skills.remove(id)) {
+        if (reportUnreadableSkills()) return;
         setLastActionNote(QStringLiteral("Keep at least one skill"));
         return;
     }

@@ -8,6 +8,7 @@
 #include "tracking/JsonForm.h"
 
 #include <algorithm>
+#include <cerrno>
 
 namespace vantle {
 
@@ -106,6 +107,11 @@ const std::vector<Skill>& SkillList::all() {
     return *m_all;
 }
 
+const std::optional<Error>& SkillList::readError() {
+    static_cast<void>(all());
+    return m_readError;
+}
+
 std::optional<Skill> SkillList::find(const QString& id) {
     const Skill* skill = findIn(all(), id);
     return skill ? std::optional(*skill) : std::nullopt;
@@ -124,15 +130,17 @@ Skill SkillList::display(const QString& id, const std::vector<Skill>& skills) {
 }
 
 bool SkillList::saveSkills(const std::vector<Skill>& skills) {
+    if (m_readError) return false;
     return m_ioQueue.run(
         [&] { return m_paths.writeProtected(json::encode(skills), m_paths.skillsFile()).ok(); });
 }
 
 std::vector<Skill> SkillList::loadSkills() {
-    const auto stored = m_ioQueue.run([this]() -> std::optional<std::vector<Skill>> {
-        const auto bytes = m_paths.fileSystem().readAll(m_paths.skillsFile());
-        return bytes ? json::decodeSkills(bytes.value()) : std::nullopt;
-    });
+    const auto bytes =
+        m_ioQueue.run([this] { return m_paths.fileSystem().readAll(m_paths.skillsFile()); });
+    // Any other failure may pass, and what the file holds is worth more than the seeds.
+    if (!bytes && bytes.error().code != ENOENT) m_readError = bytes.error();
+    const auto stored = bytes ? json::decodeSkills(bytes.value()) : std::nullopt;
     if (!stored) {
         std::vector<Skill> seeds(Skill::defaults().begin(), Skill::defaults().end());
         if (saveSkills(seeds))
@@ -210,6 +218,7 @@ bool SkillList::remove(const QString& id) {
 }
 
 void SkillList::resetAfterErase() {
+    m_readError.reset();
     m_all.emplace(Skill::defaults().begin(), Skill::defaults().end());
     m_preferences.setInteger(QLatin1String(migrationKey), currentMigrationVersion);
 }

@@ -1,6 +1,7 @@
 // The person's list of skills: in memory, in "skills.json", and the rules for changing it.
 #pragma once
 
+#include "base/Result.h"
 #include "tracking/Skill.h"
 
 #include <functional>
@@ -15,7 +16,9 @@ class SerialQueue;
 
 /// The process-wide list, in the order in which skills are shown; never empty. Read from the file
 /// on first use, and from then on changed only here, so that memory and file agree; a change that
-/// can't be saved is rolled back. No operation has words of its own: the caller finds them.
+/// can't be saved is rolled back. A file that is there but can't be read is left as it is: the list
+/// is that of a new user then, and every change is refused, since saving it would replace skills
+/// that were never read. No operation has words of its own: the caller finds them.
 ///
 /// Main thread. File work runs on the I/O queue, and the calls that need it wait for it.
 class SkillList {
@@ -28,6 +31,9 @@ public:
     static constexpr int currentMigrationVersion = 1;
 
     [[nodiscard]] const std::vector<Skill>& all();
+
+    /// Why the file could not be read; empty when it could, or is missing.
+    [[nodiscard]] const std::optional<Error>& readError();
 
     /// The skill with that id, or none.
     [[nodiscard]] std::optional<Skill> find(const QString& id);
@@ -68,6 +74,7 @@ private:
     SerialQueue& m_ioQueue;
     Preferences& m_preferences;
     std::optional<std::vector<Skill>> m_all; ///< empty until first used
+    std::optional<Error> m_readError;
 };
 
 } // namespace vantle

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+
 namespace vantle::tests {
 namespace {
 
@@ -94,6 +96,53 @@ TEST_F(AppModelSkillsTest, TheCapsuleEditsSkillsInPlace) {
     EXPECT_EQ(model.skills().size(), 7u);
     world.told.edit.onDelete(text("deep_work"));
     EXPECT_EQ(model.skills().size(), 6u);
+}
+
+class UnreadableSkillsTest : public testing::Test {
+protected:
+    /// A user's own list, in a file of that mode.
+    void store(int mode) {
+        world.disk.setContent(ModelWorld::file("skills.json"), kSkills, mode);
+        world.preferences.setInteger(QLatin1String(SkillList::migrationKey), 1);
+    }
+
+    const QByteArray kSkills = R"([{"builtin":false,"hexRGB":1193046,"id":"mine","name":"Mine"}])";
+    ModelWorld world;
+};
+
+TEST_F(UnreadableSkillsTest, ModeThatShutsTheOwnerOutIsRepairedBeforeTheFileIsRead) {
+    store(0);
+    AppModel& model = world.launch();
+    ASSERT_EQ(model.skills().size(), 1u);
+    EXPECT_EQ(model.skills().front().name, text("Mine"));
+    EXPECT_EQ(world.disk.content(ModelWorld::file("skills.json")), kSkills);
+    EXPECT_EQ(world.disk.mode(ModelWorld::file("skills.json")).value(), 0600);
+    EXPECT_EQ(world.note(), QString());
+}
+
+TEST_F(UnreadableSkillsTest, FileThatStaysUnreadableIsToldAndLeftAlone) {
+    store(0);
+    world.files.fail(fakes::FaultyFileSystem::Operation::SetMode, text("skills.json"), EPERM);
+    AppModel& model = world.launch();
+    const auto isTold = [&] {
+        return world.note().startsWith(
+            text("Couldn’t read your modes. Check folder permissions, then "
+                 "start Vantle again. (Permission denied"));
+    };
+    EXPECT_TRUE(isTold()) << world.note().toStdString();
+    EXPECT_EQ(model.skills().size(), 6u);
+    model.addSkill(text("Yours"), 0x30D158);
+    EXPECT_TRUE(isTold());
+    model.updateSkill(text("building"), text("Ship"), 0x30D158);
+    EXPECT_TRUE(isTold());
+    model.deleteSkill(text("marketing"));
+    EXPECT_TRUE(isTold());
+    EXPECT_EQ(world.disk.content(ModelWorld::file("skills.json")), kSkills);
+    // What counts goes on.
+    world.press();
+    world.time.advance(60.0);
+    world.press();
+    EXPECT_EQ(world.log().size(), 1u);
 }
 
 } // namespace

@@ -10,6 +10,8 @@ namespace vantle::fakes {
 namespace {
 
 constexpr qsizetype kLongestName = 255; // bytes, as NAME_MAX of common file systems
+constexpr int kOwnerReads = 0400;
+constexpr int kOwnerWrites = 0200;
 
 QStringList partsOf(const QString& path) {
     return path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
@@ -97,6 +99,8 @@ Result<std::unique_ptr<File>> MemoryFileSystem::open(const QString& path, OpenMo
         place.node = place.parent->entries[place.name] = MemoryNode::file(0600);
     }
     if (const int code = place.codeAsFile()) return failure(code, operation, path);
+    const int needed = mode == OpenMode::Read ? kOwnerReads : kOwnerWrites;
+    if ((place.node->mode & needed) == 0) return failure(EACCES, operation, path);
     return std::unique_ptr<File>(std::make_unique<MemoryFile>(m_disk, place.node, mode, path));
 }
 

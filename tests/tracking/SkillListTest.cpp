@@ -5,6 +5,9 @@
 
 #include <gmock/gmock.h>
 
+#include <cerrno>
+#include <utility>
+
 namespace vantle {
 namespace {
 
@@ -72,6 +75,44 @@ TEST_F(SkillListTest, SeedsThatCanNotBeSavedAreUsedAndTheMigrationStaysOpen) {
     EXPECT_EQ(skills.all(), seeds);
     EXPECT_EQ(content(skillsFile), std::nullopt);
     EXPECT_EQ(version(), std::nullopt);
+}
+
+TEST_F(SkillListTest, FileThatCanNotBeReadIsNeverReplaced) {
+    using Fault = std::pair<Operation, int>;
+    for (const auto& [operation, code] :
+         {Fault{Operation::Open, EACCES}, Fault{Operation::Open, EMFILE},
+          Fault{Operation::Read, EIO}, Fault{Operation::Size, EIO}}) {
+        store({custom("mine", "Mine")});
+        files.fail(operation, QStringLiteral("skills.json"), code);
+        SkillList list(paths, process.queue, preferences);
+        EXPECT_EQ(list.all(), seeds) << code;
+        ASSERT_TRUE(list.readError()) << code;
+        EXPECT_EQ(list.readError()->code, code);
+        files.healAll();
+        EXPECT_EQ(list.addCustom(text("Yours"), 0), std::nullopt);
+        EXPECT_EQ(list.update(text("building"), text("Ship"), 0), std::nullopt);
+        EXPECT_FALSE(list.remove(text("marketing")));
+        EXPECT_EQ(list.all(), seeds);
+        EXPECT_THAT(stored(), ElementsAre(custom("mine", "Mine")));
+
+        SkillList next(paths, process.queue, preferences);
+        EXPECT_THAT(next.all(), ElementsAre(custom("mine", "Mine")));
+        EXPECT_EQ(next.readError(), std::nullopt);
+    }
+}
+
+TEST_F(SkillListTest, MissingFileIsNoFailureToReadIt) {
+    EXPECT_EQ(skills.readError(), std::nullopt);
+}
+
+TEST_F(SkillListTest, AfterAnEraseAFileThatCouldNotBeReadIsForgotten) {
+    store({custom("mine", "Mine")});
+    files.fail(Operation::Open, QStringLiteral("skills.json"), EACCES);
+    ASSERT_TRUE(skills.readError());
+    files.healAll();
+    skills.resetAfterErase();
+    EXPECT_EQ(skills.readError(), std::nullopt);
+    EXPECT_TRUE(skills.addCustom(text("Yours"), 0));
 }
 
 TEST_F(SkillListTest, ADirectoryInThePlaceOfTheFileGivesTheSeeds) {
