@@ -78,7 +78,7 @@ void makeReviewDue(Desk& desk) {
     }
     desk.world.time.advance(Seconds(7 * 86400.0));
     desk.world.model->refreshPanelState();
-    desk.world.model->toggleVantle(); // takes back what was said last
+    desk.world.model->startPractice(); // takes back what was said last
     desk.world.model->discardPracticeSession();
     desk.world.settle();
 }

@@ -99,11 +99,22 @@ bool AppModel::quickLog(const QString& skillId, int minutes, const QString& note
     return true;
 }
 
-void AppModel::markSessionAsPractice() { m_isPracticeMarked = !isIdle(); }
+void AppModel::startPractice() {
+    if (!isIdle()) return;
+    m_isStartingPractice = true;
+    toggleVantle();
+    m_isStartingPractice = false;
+}
+
+void AppModel::markSessionAsPractice() {
+    if (needsWelcome()) m_isPracticeMarked = !isIdle();
+}
+
+bool AppModel::isPractice() const { return !isIdle() && (m_isPracticeMarked || needsWelcome()); }
 
 void AppModel::discardPracticeSession() {
     setLastActionNote(std::nullopt);
-    if (isIdle()) return;
+    if (!isPractice()) return;
     m_isDiscardingPractice = true;
     (void)m_tracker.stop();
     m_isDiscardingPractice = false;

@@ -86,10 +86,15 @@ public:
     /// Erases all data and preferences. Empty on full success, else what the person is told.
     std::optional<QString> eraseEverything();
 
-    /// Makes the open session practice: neither it nor what it is split into stays in the log.
-    /// Before the welcome is done every session is.
+    /// Starts a session as practice: neither it nor what it is split into stays in the log. Nothing
+    /// while a session is open.
+    void startPractice();
+    /// Makes the open session practice. Nothing once the welcome is done: from then on only what
+    /// `startPractice` starts is practice, however a session comes about.
     void markSessionAsPractice();
-    /// Throws the practice session of the welcome away.
+    /// Whether the open session will not stay in the log. Before the welcome is done none does.
+    [[nodiscard]] bool isPractice() const;
+    /// Ends the practice session without a word. Leaves one that is work alone.
     void discardPracticeSession();
     void markWelcomeDone();
 
@@ -210,6 +215,7 @@ private:
     bool m_stopViaHotkey = false;
     bool m_isAutoStarting = false;
     bool m_isRetagging = false;
+    bool m_isStartingPractice = false;
     bool m_isDiscardingPractice = false;
     bool m_isPracticeMarked = false; ///< of the open session
     bool m_hasSurfaces = true;       ///< that can still be told

@@ -118,7 +118,7 @@ void AppModel::onSessionStarted(const Skill& skill, Date) {
         m_collaborators.notch->retag(skill, true);
         return;
     }
-    m_isPracticeMarked = false;
+    m_isPracticeMarked = m_isStartingPractice;
     m_collaborators.focusLink->sessionStarted();
     const bool ceremonyPlays =
         !m_env.preferences.flag(preferencekeys::rippleDisabled) && !m_env.reducedMotion.enabled();
@@ -141,11 +141,12 @@ void AppModel::onSessionStarted(const Skill& skill, Date) {
 
 void AppModel::onSessionEnded(const Session& session) {
     const bool onboarded = isOnboarded();
-    const bool isPractice = !onboarded || m_isPracticeMarked || m_isDiscardingPractice;
+    const bool isPractice = !onboarded || m_isPracticeMarked;
     if (m_isRetagging) {
         if (isPractice) m_tracker.deleteSession(session.id);
         return;
     }
+    m_isPracticeMarked = false;
     m_sessionBundleId.reset();
     m_collaborators.autoSkill->clearSessionOverrides();
     m_collaborators.focusLink->sessionEnded();

@@ -366,39 +366,6 @@ TEST_F(AppModelTest, ANoteThatCannotBeAddedIsReported) {
     EXPECT_EQ(world.note(), text("The session was saved, but its note could not be added."));
 }
 
-TEST_F(AppModelTest, APracticeSessionIsShownButLeavesNoTraceInTheLog) {
-    world.preferences.remove(preferencekeys::onboardDone);
-    launched();
-    world.press();
-    world.time.advance(60.0);
-    world.press();
-    EXPECT_TRUE(world.told.has(text("summary")));
-    EXPECT_TRUE(world.told.summary->spotlightNote);
-    EXPECT_TRUE(world.log().empty());
-    world.told.closeSummary(text("a note"));
-    EXPECT_EQ(world.note(), QString());
-}
-
-TEST_F(AppModelTest, DiscardingThePracticeSessionShowsNoSummary) {
-    AppModel& model = launched();
-    model.toggleVantle();
-    world.told.calls.clear();
-    model.discardPracticeSession();
-    EXPECT_FALSE(world.told.has(text("summary")));
-    EXPECT_TRUE(world.log().empty());
-    EXPECT_TRUE(world.told.has(text("notch idle building flash 0")));
-}
-
-TEST_F(AppModelTest, FinishingTheWelcomeIsRemembered) {
-    world.preferences.remove(preferencekeys::onboardDone);
-    world.preferences.setString(preferencekeys::onboardStage, text("3"));
-    AppModel& model = launched();
-    EXPECT_TRUE(model.needsWelcome());
-    model.markWelcomeDone();
-    EXPECT_FALSE(model.needsWelcome());
-    EXPECT_EQ(world.preferences.string(preferencekeys::onboardStage), std::nullopt);
-}
-
 TEST_F(AppModelTest, TheIntroFlashesOnceInAnInstallationsLife) {
     AppModel& model = launched();
     model.flashIdleNotchIntroIfNeeded();

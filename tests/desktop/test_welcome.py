@@ -4,7 +4,7 @@ import time
 import unittest
 from pathlib import Path
 
-from harness.bus import PROGRAM_NAME, activate_action, owner_of
+from harness.bus import PROGRAM_NAME, activate, activate_action, owner_of
 from harness.case import PANEL_TITLE, SHORTCUT, DesktopTest
 from harness.waiting import wait_until
 
@@ -171,11 +171,41 @@ class WithoutCeremony(Welcome):
         self.start()
         self.walk_to_press()
 
-    def test_shown_again_later_it_leaves_the_log_as_it_is(self):
+    def test_quit_over_the_bus_or_by_the_key_it_logs_nothing_and_comes_again(self):
+        ways = (lambda: activate_action(self.desktop, "quit"), lambda: self.desktop.press("ctrl+q"))
+        for number, quit_program in enumerate(ways):
+            with self.subTest(way=number):
+                self.start(ripple__disabled="true")
+                self.walk_to_press()
+                self.desktop.press("Return")
+                wait_until("the session", self.vantle.marker)
+                self.await_in_front()
+                quit_program()
+                self.assertEqual(self.vantle.wait(), 0)
+                self.assertEqual(self.vantle.sessions(), [])
+                self.assertIsNone(self.vantle.marker())
+                self.assertNotEqual(self.vantle.preference("onboard.done"), "true")
+                self.await_empty_tray()
+        self.start()
+
+    def test_started_at_login_and_called_much_later_it_is_the_panel_that_comes(self):
+        self.desktop.env["VANTLE_AUTOSTART"] = "1"
+        self.start()
+        time.sleep(6)  # the call that the bus starts a program for comes within 5 s
+        activate(self.desktop)
+        wait_until("the panel", lambda: self.desktop.windows_named(PANEL_TITLE))
+
+
+class ShownAgain(Welcome):
+
+    def replay(self):
+        """Opens the welcome from the settings, for a user who has been through it."""
         self.vantle.write_preferences(ripple__disabled="true", onboard__done="true")
         self.launch()
         self.begin_and_end_a_real_session()
-        before = self.vantle.log_bytes()
+        self.open_again()
+
+    def open_again(self):
         activate_action(self.desktop, "settings")
         wait_until("the settings in front", lambda: self.desktop.active_window()
                    in self.desktop.windows_named("Settings"))
@@ -183,9 +213,44 @@ class WithoutCeremony(Welcome):
             self.desktop.press("shift+Tab")  # the strip's two buttons, erase, export, the welcome
         self.desktop.press("Return")
         self.await_in_front()
+
+    def test_practice_by_its_button_leaves_the_log_as_it_is(self):
+        self.replay()
+        before = self.vantle.log_bytes()
         self.walk_to_press()
-        self.practise()
+        self.desktop.press("Return")
+        wait_until("the session", self.vantle.marker)
+        self.desktop.screenshot("running")
+        self.desktop.press(SHORTCUT)
+        self.close_card()
         self.assertEqual(self.vantle.log_bytes(), before)
+
+    def test_a_session_by_the_shortcut_is_work_and_stays(self):
+        self.replay()
+        self.walk_to_press()
+        marker = self.begin_session()
+        self.desktop.screenshot("working")
+        self.assertEqual(self.end_session()["id"], marker["id"])
+        wait_until("the card", lambda: self.desktop.windows_named(SUMMARY))
+        self.desktop.screenshot("card")
+        self.assertEqual(self.vantle.stop(), 0)
+        self.assertEqual(self.vantle.sessions()[-1]["id"], marker["id"])
+
+    def test_its_button_leaves_running_work_alone_and_so_does_its_end(self):
+        self.replay()
+        self.walk_to_press()
+        for title in (TITLE, "Settings"):
+            wait_until(f"{title} in front", lambda: self.desktop.active_window_title() == title)
+            self.desktop.press("ctrl+w")
+            wait_until("no window", lambda: not self.desktop.windows_named(title))
+        marker = self.begin_session()
+        self.open_again()
+        self.walk_to_press()
+        self.desktop.screenshot("button")
+        self.desktop.press("Return")
+        self.walk_to_end()
+        self.assertEqual(self.vantle.marker()["id"], marker["id"])
+        self.assertEqual(self.end_session()["id"], marker["id"])
 
 
 if __name__ == "__main__":

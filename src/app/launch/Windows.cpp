@@ -14,6 +14,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QWindow>
 
 namespace vantle {
 
@@ -119,16 +120,21 @@ std::unique_ptr<QObject> makeSettings(const WindowParts& parts) {
 
 std::unique_ptr<QObject> makeWelcome(const WindowParts& parts, const Close& close) {
     WindowRouter& router = parts.router;
-    return std::make_unique<WelcomeView>(
-        WelcomeView::Environment{.model = parts.model,
-                                 .notifications = parts.notifications,
-                                 .preferences = parts.preferences,
-                                 .reducedMotion = parts.reducedMotion,
-                                 .scheduler = parts.scheduler,
-                                 .orderOut = [&router] { router.orderOut(WindowId::Welcome); },
-                                 .bringForward = [&router] { router.showWelcome(); },
-                                 .openWrapped = [&router] { router.showWrapped(); },
-                                 .onClose = close});
+    return std::make_unique<WelcomeView>(WelcomeView::Environment{
+        .model = parts.model,
+        .notifications = parts.notifications,
+        .preferences = parts.preferences,
+        .reducedMotion = parts.reducedMotion,
+        .scheduler = parts.scheduler,
+        .orderOut = [&router] { router.orderOut(WindowId::Welcome); },
+        .bringForward = [&router] { router.showWelcome(); },
+        .openWrapped = [&router] { router.showWrapped(); },
+        .onClose = close,
+        .isInFront =
+            [&router] {
+                const QWindow* const window = router.window(WindowId::Welcome);
+                return window && window->isActive();
+            }});
 }
 
 } // namespace

@@ -9,6 +9,7 @@ namespace {
 struct Words {
     const char* title;
     const char* body;
+    const char* ofPractice = ""; ///< what follows the body where the session is practice
 };
 
 constexpr std::array<Words, stepCount> kWords = {{
@@ -19,9 +20,10 @@ constexpr std::array<Words, stepCount> kWords = {{
      "Your hours sort into these. Add your own, rename them, remove any you will not use."},
     {"Press it now",
      "That's the whole app: one press and the clock starts on {project}. The same press stops it."},
-    {"You're building", "The clock is running on {project}. Press ⌘⌥B again to stop. This one is "
-                        "practice, so it will not land on your wall."},
-    {"As easy as that", "That was the whole ritual. Your real hours start with your next press."},
+    {"You're building", "The clock is running on {project}. Press ⌘⌥B again to stop.",
+     " This one is practice, so it will not land on your wall."},
+    {"As easy as that", "That was the whole ritual.",
+     " Your real hours start with your next press."},
     {"Switch modes from the notch",
      "While a session runs, hover the notch at the top of your screen. Click another mode and the "
      "minutes so far are saved to the one you leave, then the clock keeps going."},
@@ -42,9 +44,11 @@ const Words& wordsOf(int step) { return kWords.at(static_cast<std::size_t>(step)
 
 QString title(int step) { return QString::fromUtf8(wordsOf(step).title); }
 
-QString body(int step, const QString& projectName) {
+QString body(int step, const QString& projectName, bool isPractice) {
+    const Words& words = wordsOf(step);
     const QString project = projectName.isEmpty() ? QStringLiteral("your work") : projectName;
-    return QString::fromUtf8(wordsOf(step).body).replace(QLatin1String("{project}"), project);
+    return QString::fromUtf8(words.body).replace(QLatin1String("{project}"), project) +
+           QString::fromUtf8(isPractice ? words.ofPractice : "");
 }
 
 QString sampleLine(int step) {

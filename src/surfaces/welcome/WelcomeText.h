@@ -13,8 +13,8 @@ inline constexpr int stepCount = Done + 1;
 
 [[nodiscard]] QString title(int step);
 
-/// `projectName` may be empty.
-[[nodiscard]] QString body(int step, const QString& projectName);
+/// `projectName` may be empty. A step of the session says whether that session is practice.
+[[nodiscard]] QString body(int step, const QString& projectName, bool isPractice);
 
 /// What says that a picture shows made-up figures; empty for steps without one.
 [[nodiscard]] QString sampleLine(int step);

@@ -64,8 +64,18 @@ WelcomeView::~WelcomeView() = default;
 TrackerCore& WelcomeView::tracker() const { return m_env.model.tracker(); }
 
 QString WelcomeView::body() const {
-    return welcometext::body(m_step, m_env.model.projectName().value_or(QString()));
+    return welcometext::body(m_step, m_env.model.projectName().value_or(QString()), m_isPractice);
 }
+
+QString WelcomeView::primaryText() const {
+    return welcometext::primary(m_step == Press && isAtWork() ? int(Success) : m_step);
+}
+
+QString WelcomeView::asideText() const {
+    return m_step == Press && isAtWork() ? QString() : welcometext::aside(m_step);
+}
+
+bool WelcomeView::isAtWork() const { return m_sessionOpen && !m_env.model.needsWelcome(); }
 
 QString WelcomeView::shortcutProblem() const {
     return m_step == Press ? m_env.model.hotKey().registrationError().value_or(QString())
@@ -75,6 +85,7 @@ QString WelcomeView::shortcutProblem() const {
 void WelcomeView::goTo(int step) {
     m_step = step;
     Q_EMIT stepChanged();
+    Q_EMIT wordsChanged();
     Q_EMIT shortcutProblemChanged();
 }
 
@@ -82,6 +93,13 @@ void WelcomeView::pressPrimary() {
     if (!canPressPrimary()) return;
     switch (m_step) {
     case Press:
+        if (isAtWork()) {
+            m_isPractice = false;
+            goTo(Success); // there is no practice to be had
+        } else {
+            m_env.model.startPractice();
+        }
+        return;
     case Stop:
         m_env.model.toggleVantle();
         return;
@@ -99,7 +117,7 @@ void WelcomeView::pressPrimary() {
     }
     goTo(m_step + 1);
     // Before the welcome is done every session is practice, so one that runs already will do.
-    if (m_step == Press && m_sessionOpen && m_env.model.needsWelcome()) beginPractice();
+    if (m_step == Press && m_sessionOpen && m_env.model.needsWelcome()) followSession();
 }
 
 void WelcomeView::pressQuiet() {
@@ -132,8 +150,11 @@ void WelcomeView::finish() {
 void WelcomeView::followState() {
     const bool open = tracker().state() != TrackerCore::State::Idle;
     if (m_finished || std::exchange(m_sessionOpen, open) == open) return;
-    if (open && (m_step == Press || m_step == Stop)) {
-        beginPractice();
+    // A replay that was left open behind other windows does not come forward with every session.
+    const bool concernsUs =
+        m_env.model.needsWelcome() || m_env.model.isPractice() || m_env.isInFront();
+    if (open && (m_step == Press || m_step == Stop) && concernsUs) {
+        followSession();
         bowOutForCeremony();
     } else if (!open && m_practiceRunning) {
         refreshClock();
@@ -142,10 +163,12 @@ void WelcomeView::followState() {
         m_waitingForStopCard = true;
         Q_EMIT practiceChanged();
     }
+    Q_EMIT wordsChanged();
 }
 
-void WelcomeView::beginPractice() {
+void WelcomeView::followSession() {
     m_env.model.markSessionAsPractice();
+    m_isPractice = m_env.model.isPractice();
     m_practiceRunning = true;
     m_waitingForStopCard = false;
     refreshClock();
@@ -159,7 +182,8 @@ void WelcomeView::stopCardClosed() {
     if (m_finished || !std::exchange(m_waitingForStopCard, false)) return;
     goTo(Success);
     Q_EMIT practiceChanged();
-    bringForward();
+    // Hours may lie between work and its card: the user is elsewhere by then.
+    if (m_isPractice) bringForward();
 }
 
 void WelcomeView::bowOutForCeremony() {

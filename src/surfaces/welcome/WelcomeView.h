@@ -32,15 +32,15 @@ class WelcomeView final : public QObject {
     Q_PROPERTY(int step READ step NOTIFY stepChanged FINAL)
     Q_PROPERTY(int stepCount READ stepCount CONSTANT FINAL)
     Q_PROPERTY(QString title READ title NOTIFY stepChanged FINAL)
-    Q_PROPERTY(QString body READ body NOTIFY stepChanged FINAL)
+    Q_PROPERTY(QString body READ body NOTIFY wordsChanged FINAL)
     Q_PROPERTY(QString sampleLine READ sampleLine NOTIFY stepChanged FINAL)
     Q_PROPERTY(QString sampleLabel READ sampleLabel NOTIFY stepChanged FINAL)
     /// Why the shortcut does not work, on the step that asks for it; empty when it does.
     Q_PROPERTY(QString shortcutProblem READ shortcutProblem NOTIFY shortcutProblemChanged FINAL)
-    Q_PROPERTY(QString primaryText READ primaryText NOTIFY stepChanged FINAL)
+    Q_PROPERTY(QString primaryText READ primaryText NOTIFY wordsChanged FINAL)
     Q_PROPERTY(bool canPressPrimary READ canPressPrimary NOTIFY practiceChanged FINAL)
     Q_PROPERTY(QString quietText READ quietText NOTIFY stepChanged FINAL)
-    Q_PROPERTY(QString asideText READ asideText NOTIFY stepChanged FINAL)
+    Q_PROPERTY(QString asideText READ asideText NOTIFY wordsChanged FINAL)
     Q_PROPERTY(QString productName MEMBER m_productName NOTIFY productNameChanged FINAL)
 
     Q_PROPERTY(vantle::ModeListModel* modes READ modes CONSTANT FINAL)
@@ -52,7 +52,8 @@ class WelcomeView final : public QObject {
     /// What became of the last change to a mode; empty before the first.
     Q_PROPERTY(QString modesNote READ modesNote NOTIFY modesChanged FINAL)
 
-    /// The practice session: its skill, and its time in words, figures and units in turn.
+    /// The session of the steps Press and Stop: its skill, and its time in words, figures and units
+    /// in turn. It is practice, or in a replay work that began by another way than the button.
     Q_PROPERTY(QString practiceSkill READ practiceSkill NOTIFY practiceChanged FINAL)
     Q_PROPERTY(QColor practiceColor READ practiceColor NOTIFY practiceChanged FINAL)
     Q_PROPERTY(QStringList practiceWords READ practiceWords NOTIFY practiceTicked FINAL)
@@ -74,6 +75,7 @@ public:
         std::function<void()> bringForward; ///< shows it, in front and with the keyboard
         std::function<void()> openWrapped;
         std::function<void()> onClose;
+        std::function<bool()> isInFront = [] { return true; }; ///< the window has the keyboard
     };
 
     explicit WelcomeView(Environment environment);
@@ -99,10 +101,10 @@ public:
     [[nodiscard]] QString sampleLine() const { return welcometext::sampleLine(m_step); }
     [[nodiscard]] QString sampleLabel() const { return welcometext::sampleLabel(m_step); }
     [[nodiscard]] QString shortcutProblem() const;
-    [[nodiscard]] QString primaryText() const { return welcometext::primary(m_step); }
+    [[nodiscard]] QString primaryText() const;
     [[nodiscard]] bool canPressPrimary() const { return !m_waitingForStopCard; }
     [[nodiscard]] QString quietText() const { return welcometext::quiet(m_step); }
-    [[nodiscard]] QString asideText() const { return welcometext::aside(m_step); }
+    [[nodiscard]] QString asideText() const;
 
     [[nodiscard]] ModeListModel* modes() { return &m_modes; }
     [[nodiscard]] ModeEditor* category() { return &m_category; }
@@ -121,6 +123,7 @@ public:
 
 Q_SIGNALS:
     void stepChanged();
+    void wordsChanged();
     void shortcutProblemChanged();
     void productNameChanged();
     void modesChanged();
@@ -132,7 +135,7 @@ private:
     void goTo(int step);
     void commitPick();
     void followState();
-    void beginPractice();
+    void followSession();
     void stopCardClosed();
     void bowOutForCeremony();
     void bringForward();
@@ -140,6 +143,8 @@ private:
     void refreshClock();
     [[nodiscard]] TrackerCore& tracker() const;
     [[nodiscard]] Skill practisedSkill() const;
+    /// Work is running that the button of the step Press must leave alone.
+    [[nodiscard]] bool isAtWork() const;
 
     const Environment m_env;
     int m_step = welcometext::Pick;
@@ -150,6 +155,7 @@ private:
     QString m_modesNote;
     bool m_sessionOpen = false; ///< as the view last saw it
     bool m_practiceRunning = false;
+    bool m_isPractice = true; ///< the session that was followed last
     bool m_waitingForStopCard = false;
     QString m_practiceSkillId;
     QStringList m_practiceWords;

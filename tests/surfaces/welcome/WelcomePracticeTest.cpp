@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
+
 namespace vantle {
 namespace {
 
@@ -13,13 +16,21 @@ class WelcomePracticeTest : public testing::Test, protected tests::WelcomeWorld 
 protected:
     /// The welcome again, for somebody who has been through it, with a session in the log.
     void replay() {
+        view.reset();
+        kill();
+        disk.setContent(file("sessions.jsonl"), "");
         launch();
         model->markWelcomeDone();
         press();
         time.advance(60);
         press();
-        if (told.closeSummary) told.closeSummary(std::nullopt);
+        closeCard();
+        isInFront = true;
         open();
+    }
+    void pressButton() {
+        view->pressPrimary();
+        settle();
     }
 };
 
@@ -224,9 +235,12 @@ TEST_F(WelcomePracticeTest, SessionThatRunsBeforeItIsAskedForWillDo) {
     EXPECT_TRUE(log().empty());
 }
 
-TEST_F(WelcomePracticeTest, ShownAgainLaterThePracticeLeavesTheLogUntouched) {
+TEST_F(WelcomePracticeTest, PracticeOfAReplayBeginsByItsButtonAndLeavesTheLogUntouched) {
     replay();
-    beginPractice();
+    walkTo(Press);
+    pressButton();
+    EXPECT_EQ(view->step(), Stop);
+    EXPECT_TRUE(view->body().contains(text("This one is practice")));
     time.advance(30);
     model->selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
     time.advance(30);
@@ -244,6 +258,86 @@ TEST_F(WelcomePracticeTest, ShownAgainLaterThePracticeLeavesTheLogUntouched) {
     EXPECT_EQ(log().size(), 2U) << "the next one is real again";
 }
 
+TEST_F(WelcomePracticeTest, SessionThatBeginsInAnyOtherWayDuringAReplayIsWorkAndStays) {
+    const std::pair<const char*, std::function<void()>> ways[] = {
+        {"shortcut", [this] { press(); }},
+        {"capsule", [this] { told.idleStart(); }},
+        {"a mode in the capsule", [this] { told.idlePick(text("marketing")); }},
+        {"panel", [this] { model->startWithBackfill(0); }},
+        {"bus", [this] { model->toggleVantle(); }},
+        {"auto mode", [this] { told.hooks.onAutoStart(text("marketing")); }}};
+    for (const auto& [way, start] : ways) {
+        for (const bool inFront : {true, false}) {
+            replay();
+            walkTo(Press);
+            isInFront = inFront;
+            const auto before = log().size();
+            start();
+            settle();
+            time.advance(3 * 3600);
+            press();
+            EXPECT_EQ(log().size(), before + 1) << way;
+            EXPECT_EQ(log().back().activeSeconds, 3 * 3600) << way;
+            EXPECT_FALSE(told.summary->spotlightNote) << way;
+            closeCard();
+        }
+    }
+}
+
+TEST_F(WelcomePracticeTest, WorkBegunDuringAReplayIsShownAndKeptWhenTheWindowCloses) {
+    replay();
+    walkTo(Press);
+    press();
+    EXPECT_EQ(view->step(), Stop);
+    EXPECT_EQ(view->body(), text("The clock is running on your work. Press ⌘⌥B again to stop."));
+    time.advance(60);
+    view->finish();
+    EXPECT_EQ(model->tracker().state(), State::Running);
+    press();
+    EXPECT_EQ(log().size(), 2U);
+}
+
+TEST_F(WelcomePracticeTest, ReplayThatIsLeftBehindOtherWindowsStaysThere) {
+    replay();
+    walkTo(Press);
+    isInFront = false;
+    press();
+    EXPECT_EQ(view->step(), Press);
+    EXPECT_TRUE(isInSight);
+    time.advance(3600);
+    endPractice();
+    EXPECT_EQ(broughtForward, 0);
+    EXPECT_EQ(log().size(), 2U);
+}
+
+TEST_F(WelcomePracticeTest, EndOfWorkBringsNoReplayForward) {
+    replay();
+    walkTo(Press);
+    press();
+    time.advance(3600);
+    broughtForward = 0;
+    endPractice();
+    EXPECT_EQ(view->step(), Success);
+    EXPECT_EQ(view->body(), text("That was the whole ritual."));
+    EXPECT_EQ(broughtForward, 0);
+}
+
+TEST_F(WelcomePracticeTest, ButtonOfAReplayLeavesTheRunningWorkAlone) {
+    replay();
+    press();
+    time.advance(60);
+    walkTo(Press);
+    EXPECT_EQ(view->primaryText(), text("Continue"));
+    EXPECT_EQ(view->asideText(), QString());
+    pressButton();
+    EXPECT_EQ(view->step(), Success);
+    EXPECT_EQ(model->tracker().state(), State::Running);
+    view->finish();
+    EXPECT_EQ(model->tracker().state(), State::Running);
+    press();
+    EXPECT_EQ(log().size(), 2U);
+}
+
 TEST_F(WelcomePracticeTest, ShownAgainInTheMiddleOfWorkThatWorkIsKept) {
     replay();
     model->selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
@@ -255,8 +349,9 @@ TEST_F(WelcomePracticeTest, ShownAgainInTheMiddleOfWorkThatWorkIsKept) {
     EXPECT_EQ(log().size(), 1U) << "not split";
     press(); // ends the work
     EXPECT_EQ(view->step(), Press);
+    EXPECT_EQ(view->primaryText(), text("Enter Vantle"));
     EXPECT_EQ(log().size(), 2U);
-    press();
+    pressButton();
     EXPECT_EQ(view->step(), Stop);
     endPractice();
     EXPECT_EQ(log().size(), 2U);

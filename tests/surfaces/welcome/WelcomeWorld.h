@@ -32,7 +32,8 @@ public:
                                                       ++broughtForward;
                                                   },
                                               .openWrapped = [this] { ++wrappedOpened; },
-                                              .onClose = [this] { ++closed; }});
+                                              .onClose = [this] { ++closed; },
+                                              .isInFront = [this] { return isInFront; }});
         return *view;
     }
     /// Presses main buttons up to the step; the steps of the practice are gone through.
@@ -63,6 +64,7 @@ public:
 
     std::optional<WelcomeView> view;
     bool isInSight = true;
+    bool isInFront = true;
     int broughtForward = 0;
     int wrappedOpened = 0;
     int closed = 0;

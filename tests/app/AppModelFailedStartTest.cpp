@@ -1,0 +1,76 @@
+// Starts that fail. One does only where its marker has a date that can't be written: the clock
+// stands beyond the year 9999.
+#include "app/ModelWorld.h"
+#include "support/Text.h"
+
+#include <gtest/gtest.h>
+
+namespace vantle::tests {
+namespace {
+
+using State = TrackerCore::State;
+
+/// Seconds. From any date to one whose year has five figures.
+constexpr double kBeyondDates = 3e11;
+
+class AppModelFailedStartTest : public testing::Test {
+protected:
+    AppModel& launched() { return world.launch(); }
+
+    ModelWorld world;
+};
+
+TEST_F(AppModelFailedStartTest, StartThatFailsSaysWhyAndCountsNothing) {
+    AppModel& model = launched();
+    world.time.shiftWall(kBeyondDates);
+    world.told.calls.clear();
+    world.press();
+    EXPECT_EQ(model.tracker().state(), State::Idle);
+    EXPECT_TRUE(world.note().startsWith(text("Couldn’t save your hours.")))
+        << world.note().toStdString();
+    EXPECT_FALSE(world.hasMarker());
+    EXPECT_EQ(world.told.calls, QStringList());
+    world.time.shiftWall(-kBeyondDates);
+    world.press();
+    EXPECT_EQ(model.tracker().state(), State::Running);
+    EXPECT_EQ(world.note(), QString());
+}
+
+TEST_F(AppModelFailedStartTest, BackdatedStartThatFailsSaysWhyAndCountsNothing) {
+    AppModel& model = launched();
+    world.time.shiftWall(kBeyondDates);
+    world.told.calls.clear();
+    model.startWithBackfill(10);
+    EXPECT_EQ(model.tracker().state(), State::Idle);
+    EXPECT_TRUE(world.note().startsWith(text("Couldn’t save your hours.")))
+        << world.note().toStdString();
+    EXPECT_FALSE(world.hasMarker());
+    EXPECT_EQ(world.told.calls, QStringList());
+}
+
+TEST_F(AppModelFailedStartTest, SplitWhoseSecondHalfCanNotStartKeepsTheFirstAndEndsTheSession) {
+    AppModel& model = launched();
+    world.press();
+    world.time.advance(90.0);
+    world.told.calls.clear();
+    // The clock is set between the end of the one half and the start of the other.
+    QObject::connect(&model.tracker(), &TrackerCore::stateChanged, &model, [&] {
+        if (model.tracker().state() == State::Idle &&
+            world.time.now().time_since_epoch().count() < kBeyondDates)
+            world.time.shiftWall(kBeyondDates);
+    });
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    EXPECT_EQ(model.tracker().state(), State::Idle);
+    ASSERT_EQ(world.log().size(), 1u);
+    EXPECT_EQ(world.log().front().activeSeconds, 90);
+    EXPECT_EQ(world.log().front().skillId, text("building"));
+    EXPECT_FALSE(world.hasMarker());
+    EXPECT_TRUE(world.note().startsWith(text("Couldn’t save your hours.")))
+        << world.note().toStdString();
+    EXPECT_EQ(world.told.calls, (QStringList{text("auto clear"), text("focus ended"),
+                                             text("notch idle marketing flash 0")}));
+    EXPECT_EQ(model.sessionBundleId(), std::nullopt);
+}
+
+} // namespace
+} // namespace vantle::tests
