@@ -128,6 +128,14 @@ QString WrappedView::emptyText() const {
     return wrappedcards::emptyCard(m_review.period(), m_review.isLogEmpty()).text;
 }
 
+QString WrappedView::enterText() const {
+    return m_tracking ? QStringLiteral("Stop Vantle") : QStringLiteral("Enter Vantle");
+}
+
+void WrappedView::setTracking(bool tracking) {
+    if (std::exchange(m_tracking, tracking) != tracking) Q_EMIT trackingChanged();
+}
+
 void WrappedView::enterVantle() {
     if (m_env.enterVantle) m_env.enterVantle();
 }

@@ -48,6 +48,7 @@ class WrappedView final : public QObject {
     Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY reviewChanged FINAL)
     Q_PROPERTY(QString emptyText READ emptyText NOTIFY reviewChanged FINAL)
     Q_PROPERTY(bool canEnter READ canEnter CONSTANT FINAL)
+    Q_PROPERTY(QString enterText READ enterText NOTIFY trackingChanged FINAL)
 
     /// What stands on each page.
     Q_PROPERTY(vantle::HeroCard hero READ hero NOTIFY reviewChanged FINAL)
@@ -88,7 +89,8 @@ public:
         std::function<std::vector<Session>()> allSessions;
         std::function<std::vector<Skill>()> skills;
         std::optional<WrappedPeriod> initialPeriod; ///< none: the view finds one
-        std::function<void()> enterVantle;          ///< may be empty: then nothing offers it
+        /// Starts a session, or stops the open one; may be empty: then nothing offers it.
+        std::function<void()> enterVantle;
 
         /// The poster as PNG; nothing when it can't be drawn.
         std::function<std::optional<QByteArray>(const SharePoster&)> renderPng;
@@ -110,6 +112,8 @@ public:
     Q_INVOKABLE void turnOn() { turn(+1); }
     Q_INVOKABLE void showYear(int year);
     Q_INVOKABLE void enterVantle();
+    /// Whether a session is open, which the view does not see by itself.
+    void setTracking(bool tracking);
     Q_INVOKABLE void copyImage();
     Q_INVOKABLE void saveImage();
 
@@ -133,6 +137,7 @@ public:
     [[nodiscard]] QString emptyTitle() const;
     [[nodiscard]] QString emptyText() const;
     [[nodiscard]] bool canEnter() const { return static_cast<bool>(m_env.enterVantle); }
+    [[nodiscard]] QString enterText() const;
     [[nodiscard]] const HeroCard& hero() const { return m_texts.hero; }
     [[nodiscard]] const SkillsCard& skills() const { return m_texts.skills; }
     [[nodiscard]] const PersonaCard& persona() const { return m_texts.persona; }
@@ -157,6 +162,7 @@ Q_SIGNALS:
     void pageChanged();
     void rhythmChanged();
     void shareChanged();
+    void trackingChanged();
 
 private:
     /// Made anew with every review, so that views can read them freely.
@@ -197,6 +203,7 @@ private:
     QStringList m_segments;
     QStringList m_cards;
     int m_wallCapacity = 48;
+    bool m_tracking = false;
     std::optional<int> m_chosenYear; ///< for as long as the page stays
     std::optional<Asked> m_asked;    ///< what the last question was
     NoteNarrative::RequestHandle m_request;

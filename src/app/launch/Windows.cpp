@@ -69,11 +69,7 @@ std::unique_ptr<QObject> makeWrapped(const WindowParts& parts) {
         .allSessions = [&model] { return model.tracker().allSessions(); },
         .skills = [&skills = parts.skills] { return skills.all(); },
         .initialPeriod = parts.router.wrappedInitialPeriod(),
-        // It starts a session, and ends none that was started elsewhere meanwhile.
-        .enterVantle =
-            [&model] {
-                if (model.tracker().state() == TrackerCore::State::Idle) model.toggleVantle();
-            },
+        .enterVantle = [&model] { model.toggleVantle(); },
         .renderPng = renderSharePNG,
         .copyPng = [&sharing](const QByteArray& png) { sharing.copy(png); },
         .savePng =
@@ -83,6 +79,11 @@ std::unique_ptr<QObject> makeWrapped(const WindowParts& parts) {
             }});
     // A review reads the names of skills from the list, and knows no more of the model.
     QObject::connect(&model, &AppModel::skillsChanged, view.get(), &WrappedView::open);
+    const auto follow = [&tracker = model.tracker(), view = view.get()] {
+        view->setTracking(tracker.state() != TrackerCore::State::Idle);
+    };
+    QObject::connect(&model.tracker(), &TrackerCore::stateChanged, view.get(), follow);
+    follow();
     return view;
 }
 

@@ -19,7 +19,8 @@ DashboardCard {
 
         DarkPrimaryButton {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: qsTr("Start your first session")
+            // It stays in the place of the keyboard's focus, and says what a press does now.
+            text: card.model.isOpen ? qsTr("Stop Vantle") : qsTr("Start your first session")
             onClicked: card.model.toggle()
         }
 

@@ -76,7 +76,7 @@ ReviewPage {
 
             DarkPrimaryButton {
                 implicitHeight: DarkUI.formButtonHeight
-                text: qsTr("Enter Vantle")
+                text: page.model.enterText
                 onClicked: page.model.enterVantle()
             }
         }
