@@ -6,6 +6,7 @@ import time
 
 from harness.bus import activate_action
 from harness.case import DesktopTest
+from harness.connections import cut_x_connection
 
 
 class Endings(DesktopTest):
@@ -63,6 +64,21 @@ class Endings(DesktopTest):
         self.vantle.wait()
         self.assert_one_record_and_no_marker()
         self.assertEqual(self.vantle.sessions()[0]["id"], marker["id"])
+
+    def test_each_lost_connection_to_the_x_server_logs_the_open_session_and_ends_the_program(self):
+        # The program has one connection of its own, the toolkit another.
+        self.desktop.env["ASAN_OPTIONS"] = "detect_leaks=0"
+        for number in range(2):
+            with self.subTest(connection=number):
+                self.launch()
+                marker = self.begin_session()
+                # At once, while the ceremony is made ready.
+                self.assertEqual(cut_x_connection(self.vantle.pid, number), 2)
+                self.assertGreaterEqual(self.vantle.wait(), 0, "no signal ends it")
+                self.assertIsNone(self.vantle.marker())
+                self.assertEqual(len(self.vantle.sessions()), number + 1)
+                self.assertEqual(self.vantle.sessions()[-1]["id"], marker["id"])
+                self.await_empty_tray()
 
     def test_the_end_of_the_bus_does_not_end_the_session(self):
         self.launch()

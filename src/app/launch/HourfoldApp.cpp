@@ -111,6 +111,8 @@ struct Ground {
     QtScheduler scheduler;
     const std::unique_ptr<Platform> platform;
     const SystemClock clock{};
+    // Before the queues, which run what is left in them, on these paths, as they go.
+    const AppPaths paths{platform->fileSystem(), platform->dataHome()};
     ThreadQueue ioQueue{QStringLiteral("local.vantle.tracker-io")};
     ThreadQueue autoSkillQueue{QLatin1String(AutoRules::ioQueueLabel)};
     ThreadQueue exportQueue{QStringLiteral("local.vantle.export-io")};
@@ -118,7 +120,6 @@ struct Ground {
                                  platform->fileSystem(), scheduler, exportQueue}};
     AppInstaller installer{platform->preferences(), platform->fileSystem(), thisProgram(*platform),
                            installOperations(*platform)};
-    const AppPaths paths{platform->fileSystem(), platform->dataHome()};
     Ceremony ceremony{{.clock = clock,
                        .scheduler = scheduler,
                        .preferences = platform->preferences(),
@@ -151,12 +152,16 @@ struct Running {
 };
 std::optional<Running> running;
 
-void stopAtExit() {
-    if (!running) return;
-    // What the toolkit keeps for this thread is gone by now; what it keeps for all goes next.
-    running->delegate.applicationWillTerminateUnseen();
-    running->ground.settle();
-}
+/// Of the main thread. exit() destroys what belongs to its thread before it runs the handlers of
+/// atexit() and destroys what is static, the toolkit's fonts included, which the ceremony's queue
+/// may be using. So this is the one place where the queues can still come to their end.
+struct StopAtExit {
+    ~StopAtExit() {
+        if (!running) return;
+        running->delegate.applicationWillTerminateUnseen();
+        running->ground.settle();
+    }
+};
 
 /// `isEnding` becomes true when the program is told to end.
 AppDelegate::Environment environmentOn(Ground& ground, bool startedUnasked, const bool& isEnding) {
@@ -218,13 +223,19 @@ int run(bool startedUnasked, const QProcessEnvironment& environment) {
                            isEnding = true;
                            QCoreApplication::exit();
                        },
-                   .displayLost = stop},
+                   // The toolkit has a connection of its own and may not notice.
+                   .displayLost =
+                       [&isEnding, stop] {
+                           stop();
+                           isEnding = true;
+                           QCoreApplication::exit();
+                       }},
                   environment);
     AppDelegate app(environmentOn(ground, startedUnasked, isEnding));
     if (!app.applicationDidFinishLaunching()) return EXIT_SUCCESS;
     delegate = &app;
     running.emplace(Running{app, ground});
-    std::atexit(stopAtExit);
+    static thread_local const StopAtExit stopAtExit;
     ground.platform->listen();
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, stop);
     const int status = QApplication::exec();
