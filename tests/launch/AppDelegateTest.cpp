@@ -75,24 +75,39 @@ TEST_F(AppDelegateTest, AnItemThatIsRegisteredAlreadyIsLeftAlone) {
     EXPECT_EQ(autostart.attempts, 0);
 }
 
-TEST_F(AppDelegateTest, AStartByHandOpensThePanelAndAStartAtLoginDoesNot) {
-    const auto atLogin = makeCopy(true);
-    ASSERT_TRUE(atLogin->applicationDidFinishLaunching());
-    int opened = 0;
-    atLogin->model()->showCommandCenter = [&] { ++opened; };
+TEST_F(AppDelegateTest, StartByHandShowsThePanelAndACallShowsItAgain) {
+    connectScreen();
+    const auto app = makeCopy();
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
     time.settle();
-    EXPECT_EQ(opened, 0);
+    EXPECT_TRUE(app->commandCenter()->isShown());
+    app->commandCenter()->hide();
+    app->applicationShouldHandleReopen();
+    EXPECT_TRUE(app->commandCenter()->isShown());
 }
 
-TEST_F(AppDelegateTest, AStartByHandOpensThePanel) {
-    const auto byHand = makeCopy();
-    ASSERT_TRUE(byHand->applicationDidFinishLaunching());
-    int opened = 0;
-    byHand->model()->showCommandCenter = [&] { ++opened; };
+TEST_F(AppDelegateTest, StartAtLoginShowsNothingButTheCapsule) {
+    connectScreen();
+    const auto app = makeCopy(true);
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
     time.settle();
-    EXPECT_EQ(opened, 1);
-    byHand->applicationShouldHandleReopen();
-    EXPECT_EQ(opened, 2);
+    EXPECT_FALSE(app->commandCenter()->isShown());
+    EXPECT_EQ(openWindows(*app), QStringList());
+    EXPECT_EQ(capsule, text("idle building"));
+    app->applicationShouldHandleReopen();
+    EXPECT_TRUE(app->commandCenter()->isShown());
+}
+
+TEST_F(AppDelegateTest, NoticeThatFoundNoScreenComesWithTheFirstOne) {
+    leaveKilledSession();
+    cardStage.screen.reset();
+    const auto app = makeCopy(true);
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    time.settle();
+    EXPECT_EQ(cardStage.up(CardView::RecoveryNotice), nullptr);
+    cardStage.screen = QRect(0, 28, 1440, 872);
+    connectScreen();
+    EXPECT_NE(cardStage.up(CardView::RecoveryNotice), nullptr);
 }
 
 TEST_F(AppDelegateTest, FirstPanelWaitsUntilTheTrayHasPlacedTheItem) {
@@ -141,7 +156,7 @@ TEST_F(AppDelegateTest, ANoteTypedIntoTheCardAfterASessionLandsInTheLog) {
 }
 
 TEST_F(AppDelegateTest, AClickOnTheTrayItemHidesThePanelOfAStartByHandAndAnotherShowsIt) {
-    shapes.shapes = fakes::FakeScreens().shapes;
+    connectScreen();
     const auto app = makeCopy();
     ASSERT_TRUE(app->applicationDidFinishLaunching());
     time.settle();
@@ -152,41 +167,24 @@ TEST_F(AppDelegateTest, AClickOnTheTrayItemHidesThePanelOfAStartByHandAndAnother
     EXPECT_TRUE(app->commandCenter()->isShown());
 }
 
-TEST_F(AppDelegateTest, TheDesktopMayCallForAWindow) {
+TEST_F(AppDelegateTest, EachWindowOpensByItsNameAndByNoOther) {
     const auto app = makeCopy(true);
     ASSERT_TRUE(app->applicationDidFinishLaunching());
-    app->performAction(text("quick-log"));
-    EXPECT_TRUE(app->router()->isOpen(WindowId::QuickLog));
-    app->performAction(text("no-such-window"));
-    EXPECT_FALSE(app->router()->isOpen(WindowId::Settings));
-}
-
-TEST_F(AppDelegateTest, EveryWindowOpensByItsName) {
-    const auto app = makeCopy(true);
-    ASSERT_TRUE(app->applicationDidFinishLaunching());
-    const std::pair<const char*, WindowId> windows[] = {{"dashboard", WindowId::Dashboard},
-                                                        {"wrapped", WindowId::Wrapped},
-                                                        {"notes", WindowId::Log},
-                                                        {"quick-log", WindowId::QuickLog},
-                                                        {"settings", WindowId::Settings}};
-    for (const auto& [name, id] : windows) {
+    for (const char* name : {"no-such-window", "welcome", "Dashboard", ""}) {
         app->performAction(text(name));
-        EXPECT_TRUE(app->router()->isOpen(id)) << name;
+        EXPECT_EQ(openWindows(*app), QStringList()) << name;
     }
-}
-
-TEST_F(AppDelegateTest, ForANewPersonTheCallThatStartsTheProgramBringsTheWelcomeAlone) {
-    preferences.remove(preferencekeys::onboardDone);
-    const auto app = makeCopy(true);
-    ASSERT_TRUE(app->applicationDidFinishLaunching());
-    int opened = 0;
-    app->model()->showCommandCenter = [&] { ++opened; };
-    app->applicationShouldHandleReopen();
-    time.settle();
-    EXPECT_TRUE(app->router()->isOpen(WindowId::Welcome));
-    EXPECT_EQ(opened, 0);
-    app->applicationShouldHandleReopen();
-    EXPECT_EQ(opened, 1);
+    const std::pair<const char*, const char*> windows[] = {{"dashboard", "Your hours"},
+                                                           {"wrapped", "Wrapped"},
+                                                           {"notes", "Your notes"},
+                                                           {"quick-log", "Quick Log"},
+                                                           {"settings", "Settings"}};
+    for (const auto& [name, title] : windows) {
+        app->performAction(text(name));
+        EXPECT_EQ(openWindows(*app), QStringList{text(title)}) << name;
+        app->router()->closeAll();
+        EXPECT_EQ(openWindows(*app), QStringList()) << name;
+    }
 }
 
 TEST_F(AppDelegateTest, DataFilesBecomePrivateAtLaunchAndTheRetiredOneGoes) {
@@ -219,15 +217,8 @@ TEST_F(AppDelegateTest, AShortcutHeldByAnotherApplicationIsTold) {
 
 TEST_F(AppDelegateTest, AnOfferedSessionIsKeptOrDiscardedByAction) {
     for (const char* action : {"keep", "discard"}) {
-        auto app = makeCopy();
-        ASSERT_TRUE(app->applicationDidFinishLaunching());
-        time.settle();
-        app->performAction(text("toggle"));
-        idleSource.touch();
-        time.advance(130.0);
-        ioQueue.runDry();
-        app.reset(); // without any orderly end
-        app = makeCopy();
+        leaveKilledSession();
+        const auto app = makeCopy();
         ASSERT_TRUE(app->applicationDidFinishLaunching());
         time.settle();
         EXPECT_EQ(tray.toolTip,

@@ -26,10 +26,31 @@
 #include "surfaces/window/SharedEngine.h"
 #include "tracking/AppPaths.h"
 
+#include <QWindow>
+
 #include <memory>
 #include <vector>
 
 namespace vantle::tests {
+
+/// Writes down what the capsule shows.
+class Capsule final : public collaborators::Notch {
+public:
+    explicit Capsule(QString& shown) : m_shown(shown) {}
+    void show(TrackerCore&, const Skill& skill, const std::vector<Skill>&, bool,
+              std::function<void()>, std::function<void(const QString&)>) override {
+        m_shown = QStringLiteral("session ") + skill.id;
+    }
+    void showIdlePrompt(TrackerCore&, const Skill& skill, const std::vector<Skill>&, bool,
+                        std::function<void()>, std::function<void(const QString&)>,
+                        collaborators::SkillEditCallbacks) override {
+        m_shown = QStringLiteral("idle ") + skill.id;
+    }
+    void hide() override { m_shown.clear(); }
+
+private:
+    QString& m_shown;
+};
 
 /// A machine on which copies of the program are started, by somebody who knows it already.
 class AppDelegateWorld {
@@ -42,37 +63,63 @@ protected:
     }
 
     std::unique_ptr<AppDelegate> makeCopy(bool atLogin = false) {
-        return std::make_unique<AppDelegate>(
-            AppDelegate::Environment{.clock = time,
-                                     .scheduler = time,
-                                     .ioQueue = ioQueue,
-                                     .autoSkillQueue = autoSkillQueue,
-                                     .paths = paths,
-                                     .preferences = preferences,
-                                     .idleSource = idleSource,
-                                     .screenPower = screens,
-                                     .hotKeyPort = hotKeyPort,
-                                     .frontmostApp = frontmostApp,
-                                     .processRunner = processRunner,
-                                     .languageModel = languageModel,
-                                     .posterSharing = posterSharing,
-                                     .reducedMotion = reducedMotion,
-                                     .autostart = autostart,
-                                     .trayItem = tray,
-                                     .cardStage = cardStage,
-                                     .viewEngine = viewEngine,
-                                     .panelHost = panelHost,
-                                     .screens = shapes,
-                                     .pointerPresses = pointerPresses,
-                                     .shortcutsTool = text("/bin/vantle-shortcuts"),
-                                     .calendar =
-                                         [] {
-                                             return Calendar{text("UTC"), 2, 4};
-                                         },
-                                     .offerMoveToApplications = [this] { return movesAway; },
-                                     .terminate = [this] { ++terminations; },
-                                     .alertAlreadyRunning = [this] { ++alerts; },
-                                     .startedUnasked = atLogin});
+        return std::make_unique<AppDelegate>(AppDelegate::Environment{
+            .clock = time,
+            .scheduler = time,
+            .ioQueue = ioQueue,
+            .autoSkillQueue = autoSkillQueue,
+            .paths = paths,
+            .preferences = preferences,
+            .idleSource = idleSource,
+            .screenPower = screens,
+            .hotKeyPort = hotKeyPort,
+            .frontmostApp = frontmostApp,
+            .processRunner = processRunner,
+            .languageModel = languageModel,
+            .posterSharing = posterSharing,
+            .reducedMotion = reducedMotion,
+            .autostart = autostart,
+            .trayItem = tray,
+            .cardStage = cardStage,
+            .viewEngine = viewEngine,
+            .panelHost = panelHost,
+            .screens = shapes,
+            .pointerPresses = pointerPresses,
+            .shortcutsTool = text("/bin/vantle-shortcuts"),
+            .makeNotch = [this] { return std::make_unique<Capsule>(capsule); },
+            .calendar =
+                [] {
+                    return Calendar{text("UTC"), 2, 4};
+                },
+            .offerMoveToApplications = [this] { return movesAway; },
+            .terminate = [this] { ++terminations; },
+            .alertAlreadyRunning = [this] { ++alerts; },
+            .startedUnasked = atLogin});
+    }
+
+    /// The desktop gets its first screen.
+    void connectScreen() { shapes.arrange(fakes::FakeScreens().shapes); }
+
+    /// The titles of the windows that can be seen.
+    [[nodiscard]] static QStringList openWindows(AppDelegate& app) {
+        QStringList titles;
+        for (const WindowId id : {WindowId::Dashboard, WindowId::Wrapped, WindowId::Log,
+                                  WindowId::QuickLog, WindowId::Welcome, WindowId::Settings})
+            if (const QWindow* const window = app.router()->window(id);
+                window && window->isVisible())
+                titles << window->title();
+        return titles;
+    }
+
+    /// A copy that dies 130 s into a session.
+    void leaveKilledSession() {
+        const auto app = makeCopy(true);
+        EXPECT_TRUE(app->applicationDidFinishLaunching());
+        time.settle();
+        app->performAction(text("toggle"));
+        idleSource.touch();
+        time.advance(130.0);
+        ioQueue.runDry();
     }
 
     std::vector<Session> log() { return SessionLog(paths).readAll().sessions; }
@@ -103,6 +150,7 @@ protected:
     fakes::FakeImageClipboard clipboard;
     fakes::FakeSaveDialog saveDialog;
     PosterSharing posterSharing{{clipboard, saveDialog, disk, time, ioQueue}};
+    QString capsule; ///< what it shows; empty when there is none
     int terminations = 0;
     int alerts = 0;
     bool movesAway = false;

@@ -51,6 +51,30 @@ TEST_F(FirstLaunchTest, ShowsTheWelcomeAndNoPanel) {
 
 TEST_F(FirstLaunchTest, ShowsItAtLoginAsWell) { EXPECT_TRUE(showsWelcome(*launch(true))); }
 
+TEST_F(FirstLaunchTest, CallThatStartsTheProgramBringsTheWelcomeWithoutThePanel) {
+    connectScreen();
+    const auto app = makeCopy(true);
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    time.advance(1);
+    app->applicationShouldHandleReopen();
+    EXPECT_TRUE(showsWelcome(*app));
+    EXPECT_FALSE(app->commandCenter()->isShown());
+    app->applicationShouldHandleReopen();
+    EXPECT_TRUE(app->commandCenter()->isShown());
+}
+
+TEST_F(FirstLaunchTest, CallHoursAfterAStartAtLoginBringsThePanel) {
+    connectScreen();
+    const auto app = makeCopy(true);
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    time.advance(3 * 3600);
+    EXPECT_TRUE(showsWelcome(*app));
+    app->router()->orderOut(WindowId::Welcome);
+    app->applicationShouldHandleReopen();
+    EXPECT_TRUE(app->commandCenter()->isShown());
+    EXPECT_EQ(openWindows(*app), QStringList()) << "the welcome is left where it was";
+}
+
 TEST_F(FirstLaunchTest, WhoHasBeenThroughItSeesThePanelFromThenOn) {
     auto app = launch();
     welcome(*app).finish();

@@ -5,6 +5,7 @@
 #include "app/launch/Windows.h"
 #include "platform/Autostart.h"
 #include "platform/Preferences.h"
+#include "platform/Screens.h"
 #include "platform/TrayItem.h"
 #include "surfaces/cards/RecoveryNoticeController.h"
 #include "surfaces/cards/RetagToastController.h"
@@ -26,6 +27,10 @@ constexpr QLatin1String kLoginAutoRegistered("login.autoRegistered");
 /// corner of the screen.
 constexpr Seconds kPlacePatience{0.5};
 
+/// The bus keeps the call that it starts the program for, and hands it over as soon as the program
+/// has its name. What comes later, after a start at login too, is the user's own call.
+constexpr Seconds kFirstCallWithin{5.0};
+
 /// The identity under which the desktop knows the program's own windows.
 const QString& ownBundleId() {
     static const QString id = QStringLiteral("local.vantle.Vantle");
@@ -36,7 +41,6 @@ const QString& ownBundleId() {
 
 AppDelegate::AppDelegate(const Environment& environment)
     : m_env(environment)
-    , m_awaitsFirstCall(m_env.startedUnasked)
     , m_skills(m_env.paths, m_env.ioQueue, m_env.preferences)
     , m_autoSkill({m_env.clock, m_env.scheduler, m_env.autoSkillQueue, m_env.paths,
                    m_env.preferences, m_skills, m_env.frontmostApp, m_env.idleSource,
@@ -59,6 +63,9 @@ bool AppDelegate::applicationDidFinishLaunching() {
     makeModel();
     makeWindows();
     makeStatusItem();
+    if (m_env.startedUnasked)
+        m_firstCall =
+            m_env.scheduler.scheduleOnce(kFirstCallWithin, [this] { m_firstCall.reset(); });
     if (m_model->needsWelcome()) {
         m_env.scheduler.post([router = QPointer(m_router.get())] {
             if (router) router->showWelcome();
@@ -124,6 +131,8 @@ void AppDelegate::makeCards(Collaborators& collaborators) {
                                 m_notifications, m_cardSlot,        m_env.cardStage};
     auto recovery = std::make_unique<RecoveryNoticeController>(cards);
     m_recovery = recovery.get();
+    QObject::connect(&m_env.screens, &Screens::changed, m_recovery,
+                     &RecoveryNoticeController::showWaiting);
     collaborators.recovery = std::move(recovery);
     collaborators.stopSummary = std::make_unique<StopSummaryController>(cards);
     collaborators.tagPrompt = std::make_unique<TagPromptController>(cards);
@@ -200,8 +209,8 @@ void AppDelegate::applicationShouldHandleReopen() {
     if (!m_model) return;
     // Started by the bus in silence, it is called next for what it was started for. For a new
     // person that is the welcome, without the panel over it.
-    const bool isStart = std::exchange(m_awaitsFirstCall, false);
-    if (isStart && m_model->needsWelcome()) {
+    const TimerHandle firstCall = std::exchange(m_firstCall, nullptr);
+    if (firstCall && m_model->needsWelcome()) {
         m_router->showWelcome();
         return;
     }

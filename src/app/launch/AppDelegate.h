@@ -110,7 +110,8 @@ private:
     void showStatus();
 
     Environment m_env;
-    bool m_awaitsFirstCall; ///< of those over the bus
+    /// While the call may come for which the bus started the program.
+    TimerHandle m_firstCall;
     SingleInstanceLock m_lock;
     NotificationCenter m_notifications;
     SkillList m_skills;

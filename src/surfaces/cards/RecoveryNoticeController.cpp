@@ -42,6 +42,10 @@ void RecoveryNoticeController::present() {
     if (!m_card.present(CardView::RecoveryNotice, model)) m_env.slot.release(owner());
 }
 
+void RecoveryNoticeController::showWaiting() {
+    if (m_offer && !m_card.panel()) present();
+}
+
 void RecoveryNoticeController::hideForEviction() {
     m_offer.reset();
     m_card.takeDown();

@@ -11,7 +11,7 @@
 namespace vantle {
 
 /// Waits as long as it takes: it has no time-out, and comes back by itself when a stop summary that
-/// pushed it out of the corner closes. Main thread.
+/// pushed it out of the corner closes. Without a screen it waits for showWaiting(). Main thread.
 class RecoveryNoticeController final : public QObject, public collaborators::Recovery {
     Q_OBJECT
 
@@ -26,6 +26,10 @@ public:
     /// Takes the notice down and forgets the offer, so that none that waits comes back. Leaves the
     /// corner alone.
     void hideForEviction() override;
+
+    /// Shows the offer if it has not been answered and is not on the screen; for when a screen
+    /// comes.
+    void showWaiting();
 
     /// The person's choice, by a button of the card or by an action of the desktop, which is heard
     /// while the notice waits as well. Both do nothing when there is no offer.

@@ -140,6 +140,30 @@ TEST_F(RecoveryNoticeTest, WithoutAScreenTheOfferStandsAndTheCornerIsFree) {
     EXPECT_EQ(answers, QStringList(text("kept")));
 }
 
+TEST_F(RecoveryNoticeTest, WithoutAScreenItWaitsForOne) {
+    stage.screen.reset();
+    offer(4020);
+    stage.screen = QRect(0, 28, 1440, 872);
+    controller.showWaiting();
+    ASSERT_NE(model(), nullptr);
+    EXPECT_EQ(model()->bodyPieces()[1], text("1 h 7 min"));
+    controller.showWaiting();
+    EXPECT_EQ(stage.raised, 1) << "what is up is left alone";
+    model()->keep();
+    controller.showWaiting();
+    EXPECT_EQ(model(), nullptr) << "the offer is answered";
+}
+
+TEST_F(RecoveryNoticeTest, ScreenThatComesUnderASummaryDoesNotBringItBeforeTheSummaryGoes) {
+    takeCornerForSummary();
+    offer(600);
+    controller.showWaiting();
+    EXPECT_EQ(model(), nullptr);
+    slot.release(&summary);
+    EXPECT_NE(model(), nullptr);
+    EXPECT_EQ(stage.raised, 1);
+}
+
 TEST_F(RecoveryNoticeTest, ANoticeThatWaitsDiesWithItsController) {
     takeCornerForSummary();
     {
