@@ -161,8 +161,6 @@ void Life::work() {
 void Life::switchApplication() { world.frontmost.activate(application(pick(7))); }
 
 void Life::press() {
-    // A session writes its marker over that of an offer that is still open.
-    if (tracker().state() == State::Idle) loseOffer();
     world.idleSource.touch();
     world.press();
 }
@@ -262,9 +260,9 @@ void Life::die() {
 
 void Life::answerOffer() {
     if (!world.told.recoveryKeep || tracker().state() != State::Idle) return;
-    const auto answer = pick(2) == 0 ? world.told.recoveryKeep : world.told.recoveryDiscard;
-    loseOffer();
-    answer();
+    (pick(2) == 0 ? world.told.recoveryKeep : world.told.recoveryDiscard)();
+    // A keep that can't be written leaves the offer open.
+    if (!world.hasMarker()) loseOffer();
 }
 
 void Life::answerPrompt() {
