@@ -174,15 +174,19 @@ TEST_F(AppDelegateTest, EachWindowOpensByItsNameAndByNoOther) {
         app->performAction(text(name));
         EXPECT_EQ(openWindows(*app), QStringList()) << name;
     }
-    const std::pair<const char*, const char*> windows[] = {{"dashboard", "Your hours"},
-                                                           {"wrapped", "Wrapped"},
-                                                           {"notes", "Your notes"},
-                                                           {"quick-log", "Quick Log"},
-                                                           {"settings", "Settings"}};
-    for (const auto& [name, title] : windows) {
+    struct Named {
+        const char* name;
+        WindowId id;
+        const char* title;
+    };
+    for (const auto& [name, id, title] : {Named{"dashboard", WindowId::Dashboard, "Your hours"},
+                                          Named{"wrapped", WindowId::Wrapped, "Wrapped"},
+                                          Named{"notes", WindowId::Log, "Your notes"},
+                                          Named{"quick-log", WindowId::QuickLog, "Quick Log"},
+                                          Named{"settings", WindowId::Settings, "Settings"}}) {
         app->performAction(text(name));
         EXPECT_EQ(openWindows(*app), QStringList{text(title)}) << name;
-        app->router()->closeAll();
+        app->router()->close(id);
         EXPECT_EQ(openWindows(*app), QStringList()) << name;
     }
 }
