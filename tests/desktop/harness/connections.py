@@ -23,7 +23,11 @@ def _shared_sockets(pid):
     process = _asked(PIDFD_OPEN, pid, 0)
     try:
         for entry in sorted(os.listdir(f"/proc/{pid}/fd"), key=int):
-            if os.readlink(f"/proc/{pid}/fd/{entry}").startswith("socket:"):
+            try:
+                is_socket = os.readlink(f"/proc/{pid}/fd/{entry}").startswith("socket:")
+            except FileNotFoundError:
+                continue  # a file that it has closed meanwhile
+            if is_socket:
                 yield socket.socket(fileno=_asked(PIDFD_GETFD, process, int(entry), 0))
     finally:
         os.close(process)
