@@ -5,6 +5,7 @@
 #include <QDir>
 
 #include <stdexcept>
+#include <utility>
 
 namespace vantle::bench {
 
@@ -17,6 +18,23 @@ Workshop::Workshop(int count)
           {m_clock, m_scheduler, m_queue, m_paths, m_preferences, m_skills, m_notifications}) {
     if (!m_directory.isValid() || !m_paths.writeProtected(sampleLog(count), log()))
         throw std::runtime_error("can't make a directory to work in");
+}
+
+std::unique_ptr<AppModel> Workshop::makeModel(std::function<Calendar()> calendar) {
+    return std::make_unique<AppModel>(AppModel::Environment{.clock = m_clock,
+                                                            .scheduler = m_scheduler,
+                                                            .ioQueue = m_queue,
+                                                            .paths = m_paths,
+                                                            .preferences = m_preferences,
+                                                            .skills = m_skills,
+                                                            .notifications = m_notifications,
+                                                            .idleSource = m_idleSource,
+                                                            .screenPower = m_screenPower,
+                                                            .hotKeyPort = m_hotKeyPort,
+                                                            .reducedMotion = m_reducedMotion,
+                                                            .cardSlot = m_cardSlot,
+                                                            .calendar = std::move(calendar)},
+                                      Collaborators());
 }
 
 } // namespace vantle::bench

@@ -1,9 +1,14 @@
 // A directory of its own on a real disk, and the real tracker over it.
 #pragma once
 
+#include "app/AppModel.h"
 #include "base/Clock.h"
 #include "base/Scheduler.h"
 #include "base/SerialQueue.h"
+#include "fakes/FakeHotKeyPort.h"
+#include "fakes/FakeReducedMotion.h"
+#include "fakes/FakeScreenPower.h"
+#include "platform/CannotTell.h"
 #include "platform/desktop/SettingsPreferences.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "tracking/AppPaths.h"
@@ -28,6 +33,8 @@ public:
     [[nodiscard]] const Clock& clock() const { return m_clock; }
     [[nodiscard]] Scheduler& scheduler() { return m_scheduler; }
     [[nodiscard]] QString log() const { return m_paths.sessionsFile(); }
+    /// A model over them, on a desktop of fakes and without surfaces.
+    [[nodiscard]] std::unique_ptr<AppModel> makeModel(std::function<Calendar()> calendar);
     /// A file beside the log, for the bound.
     [[nodiscard]] QString file(const QString& name) const {
         return m_paths.supportDir() + QLatin1Char('/') + name;
@@ -44,6 +51,11 @@ private:
     SkillList m_skills;
     NotificationCenter m_notifications;
     TrackerCore m_tracker;
+    NoIdleSource m_idleSource;
+    fakes::FakeScreenPower m_screenPower;
+    fakes::FakeHotKeyPort m_hotKeyPort;
+    fakes::FakeReducedMotion m_reducedMotion;
+    TopRightCardSlot m_cardSlot;
 };
 
 } // namespace vantle::bench
