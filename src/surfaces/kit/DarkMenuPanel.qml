@@ -94,6 +94,7 @@ FocusScope {
             function spread(): void {
                 for (let i = 0; i < children.length; ++i)
                     children[i].width = width;
+                forceLayout(); // not with the next frame: a key may lead to a row before that
             }
         }
     }
