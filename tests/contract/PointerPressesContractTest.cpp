@@ -82,6 +82,7 @@ TEST_P(PointerPressesContract, WatchingTwiceTellsOnceAndIgnoringTwiceIsAllowed) 
     world().presses().watch();
     world().presses().watch();
     world().press({700, 500});
+    EXPECT_TRUE(awaitPlaces({{700, 500}})); // the place is where the pointer is when it is told
     world().press({720, 520});
     EXPECT_TRUE(awaitPlaces({{700, 500}, {720, 520}}));
     world().presses().ignore();

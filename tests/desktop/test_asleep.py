@@ -90,10 +90,11 @@ class MuteBuses(DesktopTest):
                 address = self.desktop.env[variable]
                 self.desktop.env[variable] = f"unix:path={path}"
                 try:
+                    keyboard = self.desktop.keyboard()
                     started = time.time()
                     self.vantle.start()
                     self.desktop.await_tray_item()
-                    self._turn_away_from_panel()
+                    self._turn_away_from_panel(keyboard)
                     self.begin_session()
                     self.assertLess(time.time() - started, 8)
                     self.assertEqual(self.vantle.stop(), 0)

@@ -136,8 +136,10 @@ class CompositorThatEnds(CapsuleTest):
         self.compositor_process.kill()
         self.compositor_process.wait()
 
-    def top_colours(self):
-        return self.desktop.picture(MIDDLE - 270, 0, 540, 220).colours()
+    def is_plain_at_the_top(self):
+        """One colour and no black: picom has a grey of its own for a desktop without a picture."""
+        colours = list(self.desktop.picture(MIDDLE - 270, 0, 540, 220).colours())
+        return len(colours) == 1 and colours != [BLACK]
 
     def test_nothing_black_is_left_at_the_top_and_the_capsule_works_both_ways(self):
         self.start_compositor()
@@ -146,14 +148,14 @@ class CompositorThatEnds(CapsuleTest):
         for _ in range(2):
             self.end_compositor()
             wait_until("no capsule's window", lambda: not self.desktop.windows_named(TITLE))
-            wait_until("the plain desktop", lambda: list(self.top_colours()) == [GROUND])
+            wait_until("the plain desktop", self.is_plain_at_the_top)
             self.open_capsule()
             self.desktop.screenshot("square")
             self.turn_away()
             wait_until("a closed capsule", lambda: not self.is_open())
             self.start_compositor()
             wait_until("the capsule's window", lambda: self.desktop.windows_named(TITLE))
-            wait_until("the plain desktop", lambda: list(self.top_colours()) == [GROUND])
+            wait_until("the plain desktop", self.is_plain_at_the_top)
             self.open_capsule()
             self.turn_away()
             wait_until("a closed capsule", lambda: not self.is_open())

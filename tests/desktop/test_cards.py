@@ -185,9 +185,12 @@ class Recovery(CardTest):
         self.await_tool_tip("Discarded the recovered session")
 
     def test_pushed_out_by_a_summary_the_notice_comes_back(self):
+        offered = self.vantle.marker()
         self.begin_session()
-        self.end_session()
+        wait_until("a marker of its own", lambda: self.vantle.marker() not in (None, offered))
+        self.desktop.press(SHORTCUT)
         x, y, width, height = self.await_card(SUMMARY)
+        wait_until("the offer's marker again", lambda: self.vantle.marker() == offered)
         wait_until("the notice gone", lambda: not self.is_up(RECOVERY))
         self.click(x + width - 50, y + height - 36)
         self.await_card(RECOVERY)

@@ -236,6 +236,7 @@ TEST_F(StatusItemControllerTest, HeedsReducedMotionAtTheNextNewsAndNotBefore) {
     reducedMotion.isOn = false;
     time.advance(10);
     EXPECT_FALSE(pulses());
+    screens.sleep();
     screens.wake();
     EXPECT_TRUE(pulses());
 }
