@@ -76,10 +76,15 @@ void AppModel::suggestRetag(const QString& skillId) {
 
 void AppModel::autoStart(const QString& skillId) {
     if (!isIdle() || !m_env.skills.contains(skillId)) return;
+    // Auto mode sees the idle counter, which is low just after the key that locked.
+    if (m_idle.screensSleep()) return;
     selectSkill(skillId, SkillSelectionOrigin::Auto);
     m_isAutoStarting = true;
     toggleVantle();
     m_isAutoStarting = false;
+    // With a threshold under auto mode's own limit the user may count as away already. That absence
+    // is told only once, before the session: without this pause all of it would count.
+    if (m_idle.isIdle()) m_tracker.pause(m_env.clock.now());
 }
 
 void AppModel::askForTag(const QString& bundleId, const QString& appName) {
