@@ -72,7 +72,7 @@ private:
 
 Life::Life(std::uint32_t seed) : m_random(seed) {
     world.time.attach(m_autoQueue);
-    world.preferences.setBoolean(QLatin1String(AutoSkillMonitor::autoStartKey), pick(3) != 0);
+    world.preferences.setBoolean(QLatin1String(AutoSkillMonitor::autoStartKey), seed % 3 != 0);
     world.furnish = [this](Collaborators& all) {
         m_auto = std::make_unique<AutoSkillMonitor>(AutoSkillMonitor::Environment{
             world.time, world.time, m_autoQueue, world.paths, world.preferences, *world.skills,
@@ -237,6 +237,16 @@ void Life::healDisk() {
 }
 
 void Life::die() {
+    if (pick(2) == 0) {
+        // A session of its own, in which nothing happened that excuses a loss.
+        if (tracker().state() != State::Idle) press();
+        press();
+        // Longer than any stay after which auto mode splits it, and worth an offer after that.
+        for (double left = seconds(300, 1500); left > 0; left -= 20.0) {
+            world.idleSource.touch();
+            world.time.advance(20.0);
+        }
+    }
     const auto least = promises.leastOffer();
     const auto counted = static_cast<double>(tracker().displayActiveSeconds());
     end();
