@@ -13,7 +13,7 @@
 namespace vantle {
 namespace {
 
-using Outcome = ApplicationService::Outcome;
+using State = ApplicationService::State;
 using tests::await;
 using tests::BusClient;
 
@@ -24,6 +24,14 @@ protected:
         QObject::connect(&*m_service, &ApplicationService::actionActivated,
                          [this](const QString& name) { m_actions << name; });
     }
+
+    /// Starts the service and waits for what comes of it.
+    [[nodiscard]] static State startedState(ApplicationService& service) {
+        service.start();
+        EXPECT_TRUE(await([&] { return service.state() != State::Asking; }));
+        return service.state();
+    }
+    void serve() { ASSERT_EQ(startedState(*m_service), State::Serving); }
 
     /// Calls as another program does.
     [[nodiscard]] QDBusMessage call(const QString& method, const QVariantList& arguments) {
@@ -47,20 +55,20 @@ protected:
 };
 
 TEST_F(ApplicationServiceTest, IsActivated) {
-    ASSERT_EQ(m_service->start(), Outcome::Serving);
+    serve();
     EXPECT_TRUE(answers(QStringLiteral("Activate"), {QVariantMap()}));
     EXPECT_TRUE(await([&] { return m_activated == 1; }));
 }
 
 TEST_F(ApplicationServiceTest, OpeningFilesIsActivation) {
-    ASSERT_EQ(m_service->start(), Outcome::Serving);
+    serve();
     EXPECT_TRUE(answers(QStringLiteral("Open"),
                         {QStringList{QStringLiteral("file:///tmp/a")}, QVariantMap()}));
     EXPECT_TRUE(await([&] { return m_activated == 1; }));
 }
 
 TEST_F(ApplicationServiceTest, ActionsArriveByNameAndInOrder) {
-    ASSERT_EQ(m_service->start(), Outcome::Serving);
+    serve();
     const QVariantMap platformData{
         {QStringLiteral("desktop-startup-id"), QStringLiteral("x_TIME1")}};
     EXPECT_TRUE(answers(QStringLiteral("ActivateAction"),
@@ -73,7 +81,7 @@ TEST_F(ApplicationServiceTest, ActionsArriveByNameAndInOrder) {
 }
 
 TEST_F(ApplicationServiceTest, CommandLineThatPeopleBindToKeysReachesIt) {
-    ASSERT_EQ(m_service->start(), Outcome::Serving);
+    serve();
     QProcess command;
     command.startCommand(QStringLiteral(
         "gdbus call --session --dest local.vantle.Vantle --object-path /local/vantle/Vantle "
@@ -83,35 +91,50 @@ TEST_F(ApplicationServiceTest, CommandLineThatPeopleBindToKeysReachesIt) {
     EXPECT_TRUE(await([&] { return m_actions == QStringList{QStringLiteral("toggle")}; }));
 }
 
+TEST_F(ApplicationServiceTest, StartDoesNotWaitForTheBus) {
+    m_service->start();
+    EXPECT_EQ(m_service->state(), State::Asking);
+    EXPECT_TRUE(await([&] { return m_service->state() == State::Serving; }));
+}
+
+TEST_F(ApplicationServiceTest, ServiceThatEndsBeforeTheAnswerLeavesTheNameFree) {
+    m_service->start();
+    m_service.reset();
+    BusClient second;
+    ApplicationService next(second.bus());
+    EXPECT_EQ(startedState(next), State::Serving);
+}
+
 TEST_F(ApplicationServiceTest, UnknownMethodIsRefused) {
-    ASSERT_EQ(m_service->start(), Outcome::Serving);
+    serve();
     EXPECT_EQ(call(QStringLiteral("Quit"), {}).errorName(),
               QStringLiteral("org.freedesktop.DBus.Error.UnknownMethod"));
 }
 
 TEST_F(ApplicationServiceTest, NameOfACopyThatRunsIsLeftToIt) {
-    ASSERT_EQ(m_service->start(), Outcome::Serving);
+    serve();
     BusClient second;
     ApplicationService copy(second.bus());
-    EXPECT_EQ(copy.start(), Outcome::NameTaken);
+    EXPECT_EQ(startedState(copy), State::NameTaken);
     EXPECT_TRUE(answers(QStringLiteral("Activate"), {QVariantMap()}));
     EXPECT_TRUE(await([&] { return m_activated == 1; }));
 }
 
 TEST_F(ApplicationServiceTest, NameIsFreeAfterItsEnd) {
-    ASSERT_EQ(m_service->start(), Outcome::Serving);
-    EXPECT_EQ(m_service->start(), Outcome::Serving) << "a second time";
+    serve();
+    EXPECT_EQ(startedState(*m_service), State::Serving) << "a second time";
     m_service.reset();
     BusClient second;
     ApplicationService next(second.bus());
-    EXPECT_TRUE(await([&] { return next.start() == Outcome::Serving; }));
+    EXPECT_TRUE(await([&] { return startedState(next) == State::Serving; }));
 }
 
 TEST(ApplicationService, MissingBusIsAnAnswerAndTakesNoTime) {
     QElapsedTimer timer;
     timer.start();
     ApplicationService service(tests::noBus());
-    EXPECT_EQ(service.start(), Outcome::NoBus);
+    service.start();
+    EXPECT_EQ(service.state(), State::NoBus);
     EXPECT_LT(timer.elapsed(), 100);
 }
 

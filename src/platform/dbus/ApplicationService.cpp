@@ -1,9 +1,8 @@
 #include "platform/dbus/ApplicationService.h"
 
-#include "platform/dbus/AnswerLimit.h"
 #include "platform/dbus/ApplicationAdaptor.h"
 
-#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 
 namespace vantle {
 
@@ -26,7 +25,7 @@ ApplicationService::ApplicationService(const QDBusConnection& session) : m_sessi
 }
 
 ApplicationService::~ApplicationService() {
-    if (!m_serving) return;
+    if (m_state != State::Serving && m_state != State::Asking) return;
     m_session.unregisterObject(kObjectPath);
     auto release =
         QDBusMessage::createMethodCall(kBus, kBusPath, kBus, QStringLiteral("ReleaseName"));
@@ -34,23 +33,35 @@ ApplicationService::~ApplicationService() {
     m_session.send(release);
 }
 
-ApplicationService::Outcome ApplicationService::start() {
-    if (m_serving) return Outcome::Serving;
+void ApplicationService::start() {
+    if (m_state == State::Serving || m_state == State::Asking) return;
     // The object first: who finds the name may call at once.
     if (!m_session.isConnected() ||
-        !m_session.registerObject(kObjectPath, this, QDBusConnection::ExportAdaptors))
-        return Outcome::NoBus;
+        !m_session.registerObject(kObjectPath, this, QDBusConnection::ExportAdaptors)) {
+        m_state = State::NoBus;
+        return;
+    }
+    m_state = State::Asking;
     auto request =
         QDBusMessage::createMethodCall(kBus, kBusPath, kBus, QStringLiteral("RequestName"));
     request << kName << kDoNotQueue;
-    const auto reply = m_session.call(request, QDBus::Block, kAnswerLimitMs);
+    auto* const answer = new QDBusPendingCallWatcher(m_session.asyncCall(request), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        answer->deleteLater();
+        take(answer->reply());
+    });
+}
+
+void ApplicationService::take(const QDBusMessage& answer) {
     const bool answered =
-        reply.type() == QDBusMessage::ReplyMessage && !reply.arguments().isEmpty();
-    const uint answer = answered ? reply.arguments().constFirst().toUInt() : 0;
-    m_serving = answer == kPrimaryOwner || answer == kAlreadyOwner;
-    if (m_serving) return Outcome::Serving;
+        answer.type() == QDBusMessage::ReplyMessage && !answer.arguments().isEmpty();
+    const uint result = answered ? answer.arguments().constFirst().toUInt() : 0;
+    if (result == kPrimaryOwner || result == kAlreadyOwner) {
+        m_state = State::Serving;
+        return;
+    }
+    m_state = answered ? State::NameTaken : State::NoBus;
     m_session.unregisterObject(kObjectPath);
-    return answered ? Outcome::NameTaken : Outcome::NoBus;
 }
 
 // Emitted after the answer has gone out, since what follows may take long or ask the person.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QObject>
 
 namespace vantle {
@@ -17,19 +18,23 @@ class ApplicationService final : public QObject {
     Q_OBJECT
 
 public:
-    enum class Outcome {
+    enum class State {
+        Stopped,
+        Asking, ///< the bus has not answered yet
         Serving,
         NameTaken, ///< another copy runs
-        NoBus,     ///< no session bus, or one that does not answer: nobody can reach us
+        NoBus,     ///< no session bus: nobody can reach the program
     };
 
     explicit ApplicationService(const QDBusConnection& session);
     /// Gives the name back.
     ~ApplicationService() override;
 
-    /// Takes the name, without waiting for one who has it. One round trip to the bus, two seconds
-    /// at the most.
-    [[nodiscard]] Outcome start();
+    /// Asks the bus for the name, and waits neither for its answer nor for another owner. Does
+    /// nothing while it is asked for or held.
+    void start();
+
+    [[nodiscard]] State state() const { return m_state; }
 
 Q_SIGNALS:
     /// Somebody wants to see the program, with files or without.
@@ -37,8 +42,10 @@ Q_SIGNALS:
     void actionActivated(const QString& name);
 
 private:
+    void take(const QDBusMessage& answer);
+
     QDBusConnection m_session;
-    bool m_serving = false;
+    State m_state = State::Stopped;
 };
 
 } // namespace vantle

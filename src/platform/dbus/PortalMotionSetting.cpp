@@ -63,16 +63,15 @@ void PortalMotionSetting::takeChange(const QString& space, const QString& key,
 
 void PortalMotionSetting::take(const QString& space, const QString& key, QVariant value) {
     value = unwrapped(std::move(value));
+    const std::optional<bool> before = reduced();
     if (space == kAppearance && key == kReducedMotion) {
         m_reducedMotion.reset();
         if (value.toUInt() == 1) m_reducedMotion = true;
     } else if (space == kGnomeInterface && key == kEnableAnimations &&
                value.userType() == QMetaType::Bool) {
         m_animationsOff = !value.toBool();
-    } else {
-        return;
     }
-    Q_EMIT changed();
+    if (reduced() != before) Q_EMIT changed();
 }
 
 } // namespace vantle

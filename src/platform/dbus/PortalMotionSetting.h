@@ -23,7 +23,7 @@ public:
     }
 
 Q_SIGNALS:
-    /// The portal said something; reduced() may have changed.
+    /// reduced() changed.
     void changed();
 
 private Q_SLOTS:
