@@ -68,7 +68,7 @@ private:
 class ScreensContract : public contract::Contract<ScreensWorld> {
 protected:
     ScreensContract() {
-        QObject::connect(&world().screens(), &Screens::changed, &world().screens(), [this] {
+        QObject::connect(&world().screens(), &Screens::changed, &m_listener, [this] {
             ++m_changes;
             m_countAtChange = world().screens().all().size();
         });
@@ -78,6 +78,7 @@ protected:
             [=, this] { return world().screens().all().size() == count && m_changes > 0; });
     }
 
+    QObject m_listener; ///< goes before the world, whose end changes the screens once more
     int m_changes = 0;
     std::size_t m_countAtChange = 0; ///< screens that a listener saw at the last change
 };
