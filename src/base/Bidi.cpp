@@ -1,5 +1,7 @@
 #include "base/Bidi.h"
 
+#include <QList>
+
 #include <algorithm>
 
 namespace vantle::bidi {
