@@ -13,8 +13,8 @@ namespace vantle {
 /// that this program has set for itself since.
 class PosixProcessRunner final : public ProcessRunner {
 public:
-    explicit PosixProcessRunner(QProcessEnvironment environment)
-        : m_environment(std::move(environment)) {}
+    explicit PosixProcessRunner(const QProcessEnvironment& environment)
+        : m_environment(environment) {}
     ~PosixProcessRunner() override;
 
     void collect(const Command& command, std::function<void(std::optional<Output>)> done) override;
