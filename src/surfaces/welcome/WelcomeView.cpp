@@ -156,7 +156,8 @@ void WelcomeView::followState() {
     if (open && (m_step == Press || m_step == Stop) && concernsUs) {
         followSession();
         bowOutForCeremony();
-    } else if (!open && m_practiceRunning) {
+    }
+    if (!open && m_practiceRunning) {
         refreshClock();
         m_clock.reset();
         m_practiceRunning = false;
