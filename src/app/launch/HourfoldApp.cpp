@@ -101,9 +101,8 @@ void describeApplication() {
 
 /// Everything real that the program stands on, made in the order in which one needs the other.
 struct Ground {
-    Ground(PlatformEvents events, QProcessEnvironment environment)
-        : platform(
-              platformfactory::makePlatform(scheduler, std::move(events), std::move(environment))) {
+    Ground(PlatformEvents events, const QProcessEnvironment& environment)
+        : platform(platformfactory::makePlatform(scheduler, std::move(events), environment)) {
         QObject::connect(&platform->reducedMotion(), &ReducedMotion::changed, &context,
                          [this] { viewEngine.refresh(); });
     }

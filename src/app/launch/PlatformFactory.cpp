@@ -79,7 +79,7 @@ std::unique_ptr<ScreenPower> makeScreenPower(X11Connection& x11, Scheduler& sche
 /// A desktop of the X11 and freedesktop.org kind.
 class X11Platform final : public Platform {
 public:
-    X11Platform(Scheduler& scheduler, PlatformEvents events, QProcessEnvironment environment)
+    X11Platform(Scheduler& scheduler, PlatformEvents events, const QProcessEnvironment& environment)
         : m_events(std::move(events))
         , m_session(QDBusConnection::sessionBus())
         , m_preferences(m_files, configHome() + QStringLiteral("/Vantle/preferences.ini"))
@@ -90,7 +90,7 @@ public:
         , m_applications(DesktopApplications::standardFolders(),
                          ApplicationEntry::localeNames(QLocale::system()))
         , m_frontmostApp(makeFrontmostApp(m_x11, scheduler, m_xwayland, m_applications))
-        , m_processRunner(std::move(environment))
+        , m_processRunner(environment)
         , m_fileManager(m_session, m_processRunner)
         , m_reducedMotion(m_session, configHome())
         , m_autostart(m_files,
@@ -197,8 +197,8 @@ void leaveMuteSessionBus() {
 }
 
 std::unique_ptr<Platform> makePlatform(Scheduler& scheduler, PlatformEvents events,
-                                       QProcessEnvironment environment) {
-    return std::make_unique<X11Platform>(scheduler, std::move(events), std::move(environment));
+                                       const QProcessEnvironment& environment) {
+    return std::make_unique<X11Platform>(scheduler, std::move(events), environment);
 }
 
 } // namespace platformfactory

@@ -83,7 +83,7 @@ void leaveMuteSessionBus();
 
 /// `environment` is what programs that are started find.
 [[nodiscard]] std::unique_ptr<Platform> makePlatform(Scheduler& scheduler, PlatformEvents events,
-                                                     QProcessEnvironment environment);
+                                                     const QProcessEnvironment& environment);
 
 } // namespace platformfactory
 } // namespace vantle
