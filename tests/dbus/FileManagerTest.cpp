@@ -18,7 +18,7 @@ namespace {
 
 using tests::await;
 
-/// A file manager on the bus, in the same thread: whoever waited for it would wait forever.
+/// A file manager on the bus, in the same thread: a call that blocks would never return.
 class FakeFileManager final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
