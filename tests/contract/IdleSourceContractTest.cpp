@@ -1,6 +1,7 @@
 // What everything that counts the time without input promises.
 #include "contract/Contract.h"
 #include "fakes/FakeIdleSource.h"
+#include "fakes/SleptClock.h"
 #include "fakes/VirtualTime.h"
 #include "platform/x11/X11IdleSource.h"
 #include "support/Await.h"
@@ -37,21 +38,6 @@ private:
     fakes::FakeIdleSource m_source{m_time};
 };
 
-/// The machine's clock, with sleep added on top.
-class SleptClock final : public Clock {
-public:
-    [[nodiscard]] Date now() const override { return m_clock.now() + slept; }
-    [[nodiscard]] Uptime uptime() const override {
-        Uptime uptime = m_clock.uptime();
-        uptime.total += slept;
-        return uptime;
-    }
-    Seconds slept{};
-
-private:
-    SystemClock m_clock;
-};
-
 class X11World final : public IdleWorld {
 public:
     [[nodiscard]] IdleSource& source() override { return m_source; }
@@ -67,7 +53,7 @@ public:
 private:
     tests::OwnServer m_server;
     X11Connection m_connection{m_server.display()};
-    SleptClock m_clock;
+    fakes::SleptClock m_clock;
     X11IdleSource m_source{m_connection, m_clock};
 };
 

@@ -1,5 +1,6 @@
 #include "platform/x11/X11IdleSource.h"
 
+#include "fakes/SleptClock.h"
 #include "support/Await.h"
 #include "x11/OwnServer.h"
 
@@ -33,24 +34,9 @@ TEST(X11IdleSource, ShowingTheScreenSaverIsNoInput) {
     ASSERT_TRUE(tests::run(QStringLiteral("xset s reset")));
 }
 
-/// The machine's clock, with sleep added on top.
-class SleptClock final : public Clock {
-public:
-    [[nodiscard]] Date now() const override { return m_clock.now() + slept; }
-    [[nodiscard]] Uptime uptime() const override {
-        Uptime uptime = m_clock.uptime();
-        uptime.total += slept;
-        return uptime;
-    }
-    Seconds slept{};
-
-private:
-    SystemClock m_clock;
-};
-
 TEST(X11IdleSource, SleepOfTheMachineIsPartOfTheTimeWithoutInput) {
     X11Connection connection;
-    SleptClock clock;
+    fakes::SleptClock clock;
     X11IdleSource source(connection, clock);
     ASSERT_TRUE(tests::run(QStringLiteral("xdotool mousemove_relative 3 3")));
     EXPECT_LT(source.secondsSinceLastInput().value(), 0.5);
