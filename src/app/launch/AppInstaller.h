@@ -51,6 +51,7 @@ private:
     [[nodiscard]] Result<> copyAll(const QString& target);
     void giveUpSources();
     [[nodiscard]] bool fail();
+
     const Preferences& m_preferences;
     FileSystem& m_files;
     const Place m_place;
