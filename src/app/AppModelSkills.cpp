@@ -31,7 +31,7 @@ void AppModel::splitSession(const QString& id, SkillSelectionOrigin origin,
         report(QStringLiteral("Couldn’t save before changing skill"));
         return;
     }
-    const bool started = m_tracker.start(m_env.skills.by(id), 0).has_value();
+    const bool started = m_tracker.startAfter(*ended, m_env.skills.by(id));
     m_isRetagging = false;
     if (!started) {
         report(QStringLiteral("Saved the previous session but couldn’t start the new one"));

@@ -56,27 +56,36 @@ std::int64_t TrackerCore::displayActiveSeconds() const {
 
 std::optional<int> TrackerCore::start(const Skill& skill, int backfillMinutes) {
     if (m_state != State::Idle) return std::nullopt;
-    const Date now = m_env.clock.now();
     const bool confirmed = backfillMinutes >= 1 && backfillMinutes <= maxBackfillMinutes &&
                            m_idleMonitor && m_idleMonitor->wasActiveForLast(backfillMinutes);
     const int applied = confirmed ? backfillMinutes : 0;
+    if (!open(skill, m_env.clock.now(), applied)) return std::nullopt;
+    return applied;
+}
 
+bool TrackerCore::startAfter(const Session& ended, const Skill& skill) {
+    if (m_state != State::Idle) return false;
+    const Date now = m_env.clock.now();
+    return open(skill, m_missed.sinceLastLook() ? now : std::min(ended.endedAt, now), 0);
+}
+
+bool TrackerCore::open(const Skill& skill, Date from, int backfillMinutes) {
     m_sessionId = QUuid::createUuid();
-    m_accumulatedSeconds = minutesAsSeconds(applied).count();
-    m_segmentStart = now;
-    m_lastKnownGoodAt = now;
+    m_accumulatedSeconds = minutesAsSeconds(backfillMinutes).count();
+    m_segmentStart = from;
+    m_lastKnownGoodAt = m_env.clock.now();
     m_missed.look();
     setCurrentSkillId(skill.id);
-    setStartedAt(now - minutesAsSeconds(applied));
+    setStartedAt(from - minutesAsSeconds(backfillMinutes));
     setState(State::Running);
     m_env.preferences.setString(QLatin1String(lastUsedSkillKey), skill.id);
     startTicking();
     if (!writeMarker()) {
         resetToIdle();
-        return std::nullopt;
+        return false;
     }
     if (onSessionStarted) onSessionStarted(skill, *m_startedAt);
-    return applied;
+    return true;
 }
 
 void TrackerCore::startTicking() {

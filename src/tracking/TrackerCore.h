@@ -73,6 +73,11 @@ public:
     /// its marker can't be made. `onSessionStarted` runs before this returns.
     std::optional<int> start(const Skill& skill, int backfillMinutes);
 
+    /// Opens the session that takes over from `ended`, at the moment at which that one ended: the
+    /// time it took to write the record is lost to neither. Over a sleep of the machine in between,
+    /// it begins now. Whether it opened; else as `start`.
+    bool startAfter(const Session& ended, const Skill& skill);
+
     /// Stops counting as of `date`, clamped to the running segment and now. Nothing unless running.
     /// Time in which the machine slept or the program was stopped is never counted: it is cut out
     /// by the next tick, as a pause that began with the last one.
@@ -191,6 +196,7 @@ Q_SIGNALS:
     void welcomeBackChanged();
 
 private:
+    bool open(const Skill& skill, Date from, int backfillMinutes);
     void startTicking();
     void tick();
     [[nodiscard]] Date countedUntil() const;

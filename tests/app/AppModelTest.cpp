@@ -112,6 +112,42 @@ TEST_F(AppModelTest, ASplitLosesNoSecondAtTheSeam) {
     EXPECT_EQ(log[0].activeSeconds + log[1].activeSeconds, 120);
 }
 
+TEST_F(AppModelTest, ASplitOnASlowDiskLosesNoSecondAtTheSeam) {
+    AppModel& model = launched();
+    world.press();
+    world.time.advance(90.5);
+    world.files.onCall = [this](fakes::FaultyFileSystem::Operation operation) {
+        if (operation == fakes::FaultyFileSystem::Operation::Sync) world.time.freeze(0.75);
+    };
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    world.files.onCall = nullptr;
+    world.time.advance(30.0);
+    world.press();
+    const auto log = world.log();
+    ASSERT_EQ(log.size(), 2u);
+    EXPECT_EQ(log[0].endedAt, log[1].startedAt);
+    EXPECT_GE(log[1].activeSeconds, 30 + 1) << "the time of the write counts for the second half";
+}
+
+TEST_F(AppModelTest, ASleepInTheMiddleOfASplitCountsForNeitherHalf) {
+    AppModel& model = launched();
+    world.press();
+    world.time.advance(90.0);
+    world.files.onCall = [this](fakes::FaultyFileSystem::Operation operation) {
+        if (operation != fakes::FaultyFileSystem::Operation::Sync) return;
+        world.files.onCall = nullptr;
+        world.time.suspend(3600.0);
+    };
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    world.idleSource.touch();
+    world.time.advance(30.0);
+    world.press();
+    const auto log = world.log();
+    ASSERT_EQ(log.size(), 2u);
+    EXPECT_EQ(log[0].activeSeconds, 90);
+    EXPECT_EQ(log[1].activeSeconds, 30);
+}
+
 TEST_F(AppModelTest, AFailedSplitKeepsTheOldSessionAndTheOldChoice) {
     AppModel& model = launched();
     world.press();

@@ -87,6 +87,7 @@ void FaultyFileSystem::healAll() {
 
 std::optional<Error> FaultyFileSystem::fault(Operation operation, const QString& path,
                                              const QString& target) {
+    if (const auto call = onCall) call(operation);
     m_calls.push_back({operation, path, target});
     const QString words = QStringLiteral("fault in");
     if (m_untilDeath > 0 && --m_untilDeath == 0) m_dead = true;

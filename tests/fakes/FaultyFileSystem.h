@@ -8,6 +8,7 @@
 
 #include "platform/FileSystem.h"
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <utility>
@@ -63,6 +64,9 @@ public:
 
     /// Undoes all faults.
     void healAll();
+
+    /// Runs before each call takes effect: a disk that takes its time, say.
+    std::function<void(Operation)> onCall;
 
     /// Every call so far in order, the failed ones included.
     [[nodiscard]] const std::vector<Call>& calls() const { return m_calls; }
