@@ -64,6 +64,7 @@ private:
 void placeAbove(QFileDialog& dialog, QWindow* window) {
     if (!window) return;
     dialog.setWindowModality(Qt::WindowModal);
+    dialog.setWindowIcon(window->icon());
     dialog.winId(); // gives it a window that can have another one below
     dialog.windowHandle()->setTransientParent(window);
     QObject::connect(window, &QObject::destroyed, &dialog, [&dialog] {

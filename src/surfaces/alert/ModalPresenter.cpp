@@ -1,6 +1,7 @@
 #include "surfaces/alert/ModalPresenter.h"
 
 #include "surfaces/alert/AlertModel.h"
+#include "surfaces/kit/ApplicationIcon.h"
 
 #include <QEventLoop>
 #include <QGuiApplication>
@@ -52,6 +53,7 @@ int runOnMainThread(const Alert& alert) {
         loop.quit();
     });
     window.setTitle(QStringLiteral("Vantle"));
+    window.setIcon(applicationIcon());
     window.setFlags(Qt::Dialog | Qt::WindowStaysOnTopHint);
     // The rest of the program waits for the answer.
     window.setModality(Qt::ApplicationModal);

@@ -14,6 +14,6 @@ Item {
         anchors.centerIn: parent
         width: WelcomeTokens.appIcon
         height: WelcomeTokens.appIcon
-        source: "qrc:/vantle/poster/app-icon.svg"
+        source: "qrc:/vantle/kit/app-icon.svg"
     }
 }

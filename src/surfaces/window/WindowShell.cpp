@@ -1,5 +1,6 @@
 #include "surfaces/window/WindowShell.h"
 
+#include "surfaces/kit/ApplicationIcon.h"
 #include "surfaces/window/WindowKind.h"
 
 #include <QQmlComponent>
@@ -14,6 +15,7 @@ WindowShell::WindowShell(std::shared_ptr<QQmlEngine> engine) : m_engine(std::mov
     setFormat(translucent);
     setColor(Qt::transparent);
     setFlags(Qt::Window | Qt::FramelessWindowHint);
+    setIcon(applicationIcon());
 }
 
 WindowShell::~WindowShell() = default;

@@ -34,7 +34,7 @@ double optical(const QString& text, const QFont& font) {
 }
 
 void drawHeader(QPainter& painter, const SharePoster& poster) {
-    QSvgRenderer icon(QStringLiteral(":/vantle/poster/app-icon.svg"));
+    QSvgRenderer icon(QStringLiteral(":/vantle/kit/app-icon.svg"));
     icon.render(&painter, {Layout::kMargin, Layout::kMargin, Layout::kIcon, Layout::kIcon});
     postertext::draw(painter, {Layout::kBesideIcon, Layout::kWordmarkLine}, poster.wordmark,
                      postertext::font(kWordmark), t1());
