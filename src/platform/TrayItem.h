@@ -2,12 +2,21 @@
 #pragma once
 
 #include <QIcon>
+#include <QList>
 #include <QObject>
 #include <QPoint>
 #include <QRect>
 #include <QString>
 
+#include <functional>
+
 namespace vantle {
+
+/// A line of the item's menu.
+struct TrayMenuEntry {
+    QString text;
+    std::function<void()> choose; ///< called when the user chooses the line
+};
 
 /// One tray item. Shows itself as soon as the desktop has a tray, also when that comes later, and
 /// again when the tray comes back. Main thread.
@@ -19,6 +28,10 @@ public:
     /// and that it takes the colour of the bar's text where the desktop can tell that.
     virtual void setImage(const QIcon& image, bool isTemplate) = 0;
     virtual void setToolTip(const QString& text) = 0;
+
+    /// The menu of trays that show one at a right click. Such a click comes as clicked() from the
+    /// others. To be set before the first image; a new text is followed at once.
+    virtual void setMenu(const QList<TrayMenuEntry>& entries) = 0;
 
     /// Whether a tray shows the item.
     [[nodiscard]] virtual bool isShown() const = 0;

@@ -5,7 +5,7 @@ import stat
 import time
 from datetime import datetime, timezone
 
-from harness.case import FIRST_SKILL, FIRST_SKILL_COLOUR, DesktopTest
+from harness.case import FIRST_SKILL, FIRST_SKILL_COLOUR, PANEL_TITLE, DesktopTest
 from harness.picture import rgb_of
 from harness.waiting import wait_until
 
@@ -133,6 +133,23 @@ class StatusNotifierTray(DesktopTest):
 
         self.end_session()
         wait_until("the brick again", lambda: self.tray.pixmap(18) == brick)
+
+    def test_the_menu_of_a_panel_opens_starts_stops_and_quits(self):
+        self.launch()
+        self.assertEqual(list(self.tray.menu()), ["Open", "Start", "Quit"])
+        self.tray.choose("Open")
+        wait_until("the panel", lambda: self.desktop.windows_named(PANEL_TITLE))
+        self.desktop.press("Escape")
+
+        self.tray.choose("Start")
+        wait_until("a marker", self.vantle.marker)
+        wait_until("the new text", lambda: list(self.tray.menu()) == ["Open", "Stop", "Quit"])
+        self.tray.choose("Stop")
+        wait_until("a record", self.vantle.sessions)
+        wait_until("the old text", lambda: list(self.tray.menu()) == ["Open", "Start", "Quit"])
+        self.assert_one_record_and_no_marker()
+        self.tray.choose("Quit")
+        wait_until("the program's end", lambda: not self.vantle.is_running())
 
     def _centre_if_opaque(self):
         centre = self.tray.pixmap(18).centre()

@@ -17,6 +17,7 @@ public:
         if (isShown() != shownBefore) Q_EMIT shownChanged();
     }
     void setToolTip(const QString& text) override { toolTip = text; }
+    void setMenu(const QList<TrayMenuEntry>& entries) override { menu = entries; }
     [[nodiscard]] bool isShown() const override { return m_shown && m_hasImage; }
     [[nodiscard]] QRect geometry() const override { return place; }
     [[nodiscard]] bool isPlacePending() const override { return placePending; }
@@ -37,11 +38,28 @@ public:
     /// As it is before the program has given it an image; otherwise it has shown one already.
     void forgetImage() { m_hasImage = false; }
     void click(QPoint where) { Q_EMIT clicked(where); }
+    /// The user chooses the line of the menu that says so.
+    bool choose(const QString& line) {
+        for (const TrayMenuEntry& entry : menu)
+            if (entry.text == line) {
+                const auto run = entry.choose;
+                run();
+                return true;
+            }
+        return false;
+    }
+    [[nodiscard]] QStringList menuTexts() const {
+        QStringList texts;
+        for (const TrayMenuEntry& entry : menu)
+            texts << entry.text;
+        return texts;
+    }
 
     QIcon icon;
     bool iconIsTemplate = false;
     int imagesSet = 0;
     QString toolTip;
+    QList<TrayMenuEntry> menu;
     QRect place;
     bool placePending = false; ///< the tray takes its time
 

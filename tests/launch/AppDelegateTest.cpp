@@ -98,6 +98,23 @@ TEST_F(AppDelegateTest, StartAtLoginShowsNothingButTheCapsule) {
     EXPECT_TRUE(app->commandCenter()->isShown());
 }
 
+TEST_F(AppDelegateTest, MenuOfTheTrayItemOpensStartsStopsAndQuits) {
+    connectScreen();
+    const auto app = makeCopy(true);
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    time.settle();
+    ASSERT_TRUE(tray.choose(text("Open")));
+    EXPECT_TRUE(app->commandCenter()->isShown());
+    ASSERT_TRUE(tray.choose(text("Start")));
+    time.settle();
+    EXPECT_EQ(app->model()->tracker().state(), State::Running);
+    ASSERT_TRUE(tray.choose(text("Stop")));
+    time.settle();
+    EXPECT_EQ(app->model()->tracker().state(), State::Idle);
+    ASSERT_TRUE(tray.choose(text("Quit")));
+    EXPECT_EQ(terminations, 1);
+}
+
 TEST_F(AppDelegateTest, NoticeThatFoundNoScreenComesWithTheFirstOne) {
     leaveKilledSession();
     cardStage.screen.reset();

@@ -1,6 +1,7 @@
 // The watcher and the host of a desktop's tray, as the code under test meets them.
 #pragma once
 
+#include "platform/desktop/TrayMenuTypes.h"
 #include "platform/desktop/TrayPixmaps.h"
 #include "support/Await.h"
 #include "support/Buses.h"
@@ -33,6 +34,7 @@ public:
 
     void appear() {
         registerTrayTypes();
+        registerTrayMenuTypes();
         auto& bus = m_client.bus();
         ASSERT_TRUE(bus.registerObject(QStringLiteral("/StatusNotifierWatcher"), this,
                                        QDBusConnection::ExportAllSlots |
@@ -57,10 +59,10 @@ public:
 
     /// Calls the item that announced itself last, as a host does.
     QDBusMessage callItem(const QString& interface, const QString& method,
-                          const QVariantList& arguments) {
-        auto call = QDBusMessage::createMethodCall(items.value(items.size() - 1),
-                                                   QStringLiteral("/StatusNotifierItem"), interface,
-                                                   method);
+                          const QVariantList& arguments,
+                          const QString& path = QStringLiteral("/StatusNotifierItem")) {
+        auto call =
+            QDBusMessage::createMethodCall(items.value(items.size() - 1), path, interface, method);
         call.setArguments(arguments);
         const QDBusPendingCall answer = m_client.bus().asyncCall(call);
         EXPECT_TRUE(await([&] { return answer.isFinished(); }));
@@ -74,6 +76,24 @@ public:
                        .value(0))
             .variant();
     }
+    /// The menu of the item, where the item says that it is.
+    [[nodiscard]] QString menuPath() {
+        return qvariant_cast<QDBusObjectPath>(property(QStringLiteral("Menu"))).path();
+    }
+    QDBusMessage callMenu(const QString& method, const QVariantList& arguments) {
+        return callItem(QStringLiteral("com.canonical.dbusmenu"), method, arguments, menuPath());
+    }
+    /// The lines of the menu with all that is known of them, as a host reads them to draw it.
+    [[nodiscard]] TrayMenuNode menu() {
+        return qdbus_cast<TrayMenuNode>(
+            callMenu(QStringLiteral("GetLayout"), {0, -1, QStringList()}).arguments().value(1));
+    }
+    QDBusMessage clickLine(int id) {
+        return callMenu(
+            QStringLiteral("Event"),
+            {id, QStringLiteral("clicked"), QVariant::fromValue(QDBusVariant(QString())), 0U});
+    }
+
     [[nodiscard]] TrayPixmaps pixmaps() {
         return qdbus_cast<TrayPixmaps>(property(QStringLiteral("IconPixmap")));
     }

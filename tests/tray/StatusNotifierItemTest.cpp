@@ -126,13 +126,24 @@ TEST_F(StatusNotifierItemTest, EveryPropertyIsThereAtOnce) {
     EXPECT_EQ(all.value(QStringLiteral("Status")), QStringLiteral("Active"));
     EXPECT_EQ(all.value(QStringLiteral("IconName")), QString());
     EXPECT_EQ(all.value(QStringLiteral("ItemIsMenu")), false);
-    EXPECT_EQ(qvariant_cast<QDBusObjectPath>(all.value(QStringLiteral("Menu"))).path(),
-              QStringLiteral("/NO_DBUSMENU"));
     EXPECT_EQ(pixelsOf(qdbus_cast<TrayPixmaps>(all.value(QStringLiteral("IconPixmap")))),
               QByteArray::fromHex("ffff0000"));
     const auto toolTip = qdbus_cast<TrayToolTip>(all.value(QStringLiteral("ToolTip")));
     EXPECT_EQ(toolTip.title, QStringLiteral("Vantle"));
     EXPECT_EQ(toolTip.text, QStringLiteral("Build, 12 min"));
+}
+
+TEST_F(StatusNotifierItemTest, NoPropertyThatHostsAskForIsAnError) {
+    appearAndTake();
+    for (const char* name :
+         {"Category", "Id", "Title", "Status", "WindowId", "IconThemePath", "Menu", "ItemIsMenu",
+          "IconName", "IconPixmap", "OverlayIconName", "OverlayIconPixmap", "AttentionIconName",
+          "AttentionIconPixmap", "AttentionMovieName", "ToolTip"}) {
+        const auto reply = m_watcher.callItem(QStringLiteral("org.freedesktop.DBus.Properties"),
+                                              QStringLiteral("Get"),
+                                              {tests::kItemInterface, QString::fromLatin1(name)});
+        EXPECT_EQ(reply.type(), QDBusMessage::ReplyMessage) << name;
+    }
 }
 
 TEST_F(StatusNotifierItemTest, TypesAreTheProtocols) {
@@ -143,6 +154,9 @@ TEST_F(StatusNotifierItemTest, TypesAreTheProtocols) {
     for (const auto& declared :
          {QStringLiteral("name=\"IconPixmap\" type=\"a(iiay)\""),
           QStringLiteral("name=\"ToolTip\" type=\"(sa(iiay)ss)\""),
+          QStringLiteral("name=\"OverlayIconPixmap\" type=\"a(iiay)\""),
+          QStringLiteral("name=\"AttentionIconPixmap\" type=\"a(iiay)\""),
+          QStringLiteral("name=\"WindowId\" type=\"i\""),
           QStringLiteral("name=\"Menu\" type=\"o\""), QStringLiteral("<signal name=\"NewIcon\">"),
           QStringLiteral("<method name=\"Scroll\">")})
         EXPECT_TRUE(xml.contains(declared)) << qPrintable(declared) << "\n" << qPrintable(xml);

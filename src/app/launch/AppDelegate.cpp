@@ -181,6 +181,12 @@ void AppDelegate::makeStatusItem() {
         m_commandCenter->toggle(place);
         m_model->ensureIdleNotch();
     };
+    m_statusItem->onOpen = [this] {
+        showCommandCenter();
+        m_model->ensureIdleNotch();
+    };
+    m_statusItem->onToggle = [this] { m_model->toggleVantle(); };
+    m_statusItem->onQuit = [this] { m_model->quit(); };
     StatusItemController* const item = m_statusItem.get();
     m_model->highlightStatusItem = [item = QPointer(item)](bool open) {
         if (item) item->setPanelOpen(open);

@@ -22,6 +22,8 @@ public:
 
     void setImage(const QIcon& image, bool isTemplate) override;
     void setToolTip(const QString& text) override;
+    /// For hosts of the protocol; a tray of windows passes every click on.
+    void setMenu(const QList<TrayMenuEntry>& entries) override { m_notifier.setMenu(entries); }
     [[nodiscard]] bool isShown() const override { return m_shown; }
     [[nodiscard]] QRect geometry() const override;
     [[nodiscard]] bool isPlacePending() const override;

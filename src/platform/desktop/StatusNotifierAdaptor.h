@@ -20,7 +20,16 @@ class StatusNotifierAdaptor final : public QDBusAbstractAdaptor {
     Q_PROPERTY(vantle::TrayPixmaps IconPixmap READ iconPixmap)
     Q_PROPERTY(vantle::TrayToolTip ToolTip READ toolTip)
     Q_PROPERTY(bool ItemIsMenu READ itemIsMenu CONSTANT)
-    Q_PROPERTY(QDBusObjectPath Menu READ menu CONSTANT)
+    Q_PROPERTY(QDBusObjectPath Menu READ menu)
+    // What an item of this kind never has. Hosts ask all the same, some for one after the other,
+    // and take an error for a fault.
+    Q_PROPERTY(int WindowId READ windowId CONSTANT)
+    Q_PROPERTY(QString IconThemePath READ none CONSTANT)
+    Q_PROPERTY(QString OverlayIconName READ none CONSTANT)
+    Q_PROPERTY(vantle::TrayPixmaps OverlayIconPixmap READ noPixmaps CONSTANT)
+    Q_PROPERTY(QString AttentionIconName READ none CONSTANT)
+    Q_PROPERTY(vantle::TrayPixmaps AttentionIconPixmap READ noPixmaps CONSTANT)
+    Q_PROPERTY(QString AttentionMovieName READ none CONSTANT)
 
 public:
     explicit StatusNotifierAdaptor(StatusNotifierItem& item)
@@ -35,13 +44,18 @@ public:
     [[nodiscard]] TrayPixmaps iconPixmap() const { return m_item.m_pixmaps; }
     [[nodiscard]] TrayToolTip toolTip() const { return m_item.m_toolTip; }
     [[nodiscard]] bool itemIsMenu() const { return false; }
-    /// The name by which hosts know that they are to call ContextMenu.
+    /// Without a menu the name by which hosts know that they are to call ContextMenu.
     [[nodiscard]] QDBusObjectPath menu() const {
-        return QDBusObjectPath(QStringLiteral("/NO_DBUSMENU"));
+        return QDBusObjectPath(m_item.m_menu.isEmpty() ? QStringLiteral("/NO_DBUSMENU")
+                                                       : TrayMenu::path());
     }
+    [[nodiscard]] int windowId() const { return 0; }
+    [[nodiscard]] QString none() const { return {}; }
+    [[nodiscard]] TrayPixmaps noPixmaps() const { return {}; }
 
 public Q_SLOTS:
     void Activate(int x, int y) { click(x, y); }
+    /// Of hosts that show no menu of their own.
     void ContextMenu(int x, int y) { click(x, y); }
     void SecondaryActivate(int, int) {}
     void Scroll(int, const QString&) {}

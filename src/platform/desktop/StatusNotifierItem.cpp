@@ -49,6 +49,7 @@ void whenAnswered(const QDBusPendingCall& call, QObject* owner, Take take) {
 
 StatusNotifierItem::StatusNotifierItem(const QDBusConnection& session)
     : m_session(session)
+    , m_menu(session)
     , m_adaptor(new StatusNotifierAdaptor(*this)) {
     registerTrayTypes();
     if (!m_session.isConnected() ||

@@ -1,6 +1,7 @@
 // A tray item by the StatusNotifierItem protocol, over D-Bus.
 #pragma once
 
+#include "platform/desktop/TrayMenu.h"
 #include "platform/desktop/TrayPixmaps.h"
 
 #include <QDBusConnection>
@@ -33,6 +34,9 @@ public:
 
     /// The first line is the title, the others are below it.
     void setToolTip(const QString& text);
+
+    /// What hosts show at a right click; to be set before the first image.
+    void setMenu(const QList<TrayMenuEntry>& entries) { m_menu.setEntries(entries); }
 
     /// Whether there is a watcher. Empty until the bus has answered; false without a bus.
     [[nodiscard]] std::optional<bool> hasWatcher() const { return m_hasWatcher; }
@@ -67,6 +71,7 @@ private:
     };
 
     QDBusConnection m_session;
+    TrayMenu m_menu;
     StatusNotifierAdaptor* m_adaptor = nullptr;
     std::optional<bool> m_hasWatcher;
     std::uint64_t m_watcherGeneration = 0; ///< tells answers of a watcher that is gone

@@ -17,6 +17,7 @@ constexpr int kStillPhase = 2;
 } // namespace
 
 StatusItemController::StatusItemController(const Environment& environment) : m_env(environment) {
+    applyMenu();
     m_env.item.setImage(m_icons.brick(), true);
     setStatusText({});
     connect(&m_env.item, &TrayItem::clicked, this, [this](QPoint place) {
@@ -55,7 +56,23 @@ void StatusItemController::applyLater() {
     });
 }
 
+void StatusItemController::applyMenu() {
+    const bool idle = m_env.tracker.state() == TrackerCore::State::Idle;
+    const QString toggle = idle ? QStringLiteral("Start") : QStringLiteral("Stop");
+    if (std::exchange(m_toggleText, toggle) == toggle) return;
+    // The item outlives the controller.
+    const auto calls = [self = QPointer(this)](std::function<void()> StatusItemController::*on) {
+        return [self, on] {
+            if (self && self->*on) (self->*on)();
+        };
+    };
+    m_env.item.setMenu({{QStringLiteral("Open"), calls(&StatusItemController::onOpen)},
+                        {toggle, calls(&StatusItemController::onToggle)},
+                        {QStringLiteral("Quit"), calls(&StatusItemController::onQuit)}});
+}
+
 void StatusItemController::apply() {
+    applyMenu();
     switch (m_env.tracker.state()) {
     case TrackerCore::State::Idle:
         m_pulseTimer.reset();

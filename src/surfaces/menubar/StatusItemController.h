@@ -53,9 +53,16 @@ public:
     /// by the owner, which it must hold weakly.
     std::function<void(QPoint place)> onClick;
 
+    /// What the lines of the item's menu do, on desktops that show one at a right click. Set like
+    /// onClick.
+    std::function<void()> onOpen;
+    std::function<void()> onToggle; ///< starts or stops
+    std::function<void()> onQuit;
+
 private:
     void applyLater();
     void apply();
+    void applyMenu();
     void tickPulse();
     void startPulse();
     void showDot(int phase, bool paused);
@@ -68,6 +75,7 @@ private:
     int m_pulsePhase = 0;
     bool m_applyPosted = false;
     bool m_panelOpen = false;
+    QString m_toggleText; ///< in the menu
 };
 
 } // namespace vantle

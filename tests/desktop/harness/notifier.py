@@ -19,6 +19,7 @@ from .waiting import wait_until
 WATCHER = "org.kde.StatusNotifierWatcher"
 WATCHER_PATH = "/StatusNotifierWatcher"
 ITEM = "org.kde.StatusNotifierItem"
+MENU = "com.canonical.dbusmenu"
 PROPERTIES = "org.freedesktop.DBus.Properties"
 
 
@@ -80,6 +81,21 @@ class Notifier:
                   for width, height, argb in self._read("IconPixmap")]
         fitting = [image for image in images if image.width == size]
         return (fitting or sorted(images, key=lambda image: image.width))[-1]
+
+    def menu(self):
+        """The lines of the item's menu: their texts, each with its id."""
+        _revision, (_id, _properties, lines) = self._call_menu(
+            "GetLayout", 0, -1, dbus.Array([], signature="s"))
+        return {str(properties["label"]): int(line) for line, properties, _below in lines}
+
+    def choose(self, text):
+        """Clicks the line of the menu that says so."""
+        self._call_menu("Event", dbus.Int32(self.menu()[text]), "clicked",
+                        dbus.String("", variant_level=1), dbus.UInt32(0))
+
+    def _call_menu(self, method, *arguments):
+        (service, _path), = self.items()
+        return call(self._desktop, service, self._read("Menu"), MENU, method, *arguments)
 
     def activate(self, x, y):
         """A click on the item, which is told only where that was."""

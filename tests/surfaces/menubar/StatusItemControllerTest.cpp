@@ -89,6 +89,37 @@ TEST_F(StatusItemControllerTest, ShowsTheWallAndItsNameAtOnce) {
     expectWall();
 }
 
+TEST_F(StatusItemControllerTest, MenuSaysWhatAChoiceWouldDo) {
+    const auto texts = [this](const char* toggle) {
+        EXPECT_EQ(item.menuTexts(),
+                  (QStringList{QStringLiteral("Open"), QString::fromLatin1(toggle),
+                               QStringLiteral("Quit")}));
+    };
+    makeController();
+    texts("Start");
+    startSession();
+    texts("Stop");
+    tracker.pause(time.now());
+    time.settle();
+    texts("Stop");
+    (void)tracker.stop();
+    time.settle();
+    texts("Start");
+}
+
+TEST_F(StatusItemControllerTest, SessionThatIsOpenAlreadyCanBeStoppedByTheMenuAtOnce) {
+    tracker.start(designSkill(), 0);
+    makeController();
+    EXPECT_TRUE(item.menuTexts().contains(QStringLiteral("Stop")));
+}
+
+TEST_F(StatusItemControllerTest, MenuOfAnItemThatOutlivesTheControllerDoesNothing) {
+    makeController();
+    controller->onQuit = [] { FAIL(); };
+    controller.reset();
+    EXPECT_TRUE(item.choose(QStringLiteral("Quit")));
+}
+
 TEST_F(StatusItemControllerTest, BreathesFromTheStartOfASession) {
     makeSettledController();
     startSession();
