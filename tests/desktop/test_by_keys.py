@@ -111,14 +111,14 @@ class ByKeys(ByKeysCase):
         self.write_log("first draft", "second draft")
         self.launch()
         self.open(*NOTES)
-        newest = "second draft, 09:00, Build, 30 min"
+        newest = "Nov 2, 2025, second draft, 09:00, Build, 30 min"
         self.assertEqual(self.tour("Your notes"), ["All", newest, "Copy this note",
                                                    "Edit this note", *STRIP, "Search notes"])
         # An arrow key leads to the note below, from a button as well; it is copied and edited
         # without the pointer, and has the focus again each time.
         self.go_to("Your notes", "Copy this note")
         self.desktop.press("Down")
-        oldest = "first draft, 09:00, Build, 30 min"
+        oldest = "Nov 1, 2025, first draft, 09:00, Build, 30 min"
         self.await_focus("Your notes", oldest)
         self.go_to("Your notes", "Copy this note")
         self.desktop.press("space")

@@ -69,12 +69,19 @@ class OfWindows(ScreenReader):
         self.assert_nothing_is_nameless(window)
         self.assert_told(
             window, ("heading", "2 notes"), ("label", "Across 1 h of tracked work."),
-            ("text", "Search notes"), ("panel", "Filter by skill"), ("push button", "All"),
-            ("push button", "Build"), ("list", "Notes"), ("heading", "Nov 2, 2025"),
-            ("list item", "second draft, 09:00, Build, 30 min"),
+            ("text", "Search notes"), ("panel", "Filter by skill"), ("radio button", "All"),
+            ("radio button", "Build"), ("list", "Notes"),
+            ("list item", "Nov 2, 2025, second draft, 09:00, Build, 30 min"),
+            ("list item", "Nov 1, 2025, first draft, 09:00, Build, 30 min"),
             ("label", "Longest noted session: 30 min. Most noted: Build."))
-        self.assertIn("checked", window.find("push button", "All").states)
-        self.assertNotIn("checked", window.find("push button", "Build").states)
+        self.assertIn("checked", window.find("radio button", "All").states)
+        self.assertNotIn("checked", window.find("radio button", "Build").states)
+        self.reader.press(window.find("radio button", "Build"))
+        wait_until("the other chip to be checked", lambda: "checked" in self.reader.window(
+            "Your notes").find("radio button", "Build").states)
+        window = self.reader.window("Your notes")
+        self.assertNotIn("checked", window.find("radio button", "All").states)
+        self.reader.press(window.find("radio button", "All"))
         self.desktop.type("nowhere")
         self.await_told("Your notes", "label", "Nothing matches that yet.")
         window = self.reader.window("Your notes")
@@ -209,8 +216,8 @@ class OfFloatingSurfaces(ScreenReader):
         self.assert_told(
             window, ("dialog", PANEL_TITLE), ("heading", "Ready to focus"),
             ("push button", "Enter Vantle"), ("panel", "Modes"),
-            ("push button", "Build", "Selected"),
-            *(("push button", name, "Not selected") for name in MODES[1:]),
+            ("radio button", "Build", "Selected"),
+            *(("radio button", name, "Not selected") for name in MODES[1:]),
             ("push button", "Dashboard"), ("push button", "Wrapped"), ("push button", "Notes"),
             ("push button", "Settings"), ("push button", "Quit", "Quit Vantle (⌘Q)"))
         self.assertIn("focused", window.find("push button", "Enter Vantle").states)

@@ -63,9 +63,16 @@ KitControl {
     Component.onCompleted: showEditor()
 
     // An item that waits to be used again keeps the focus of what is in it: without this the keys
-    // would go to a field that nobody sees, and then to another note.
-    ListView.onPooled: editor.source = ""
-    ListView.onReused: showEditor()
+    // would go to a field that nobody sees, and then to another note. The list only stops drawing
+    // it; a screen reader would still read out a note that a search has left out.
+    ListView.onPooled: {
+        editor.source = "";
+        visible = false;
+    }
+    ListView.onReused: {
+        visible = true;
+        showEditor();
+    }
 
     Keys.onReturnPressed: edit()
     Keys.onEnterPressed: edit()

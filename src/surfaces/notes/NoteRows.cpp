@@ -76,6 +76,8 @@ void NoteRows::narrow(const LogFilter& filter, const QUuid& kept) {
     removeRange(0, before);
     insertRange(0, place, lines, place + 1);
     insertRange(place + 1, count - place - 1, lines, count);
+    const QModelIndex stayed = index(static_cast<int>(place));
+    Q_EMIT dataChanged(stayed, stayed, {SpokenRole}); // it may have become the first of its day
 }
 
 void NoteRows::update(Content content) {
@@ -138,16 +140,20 @@ QVariant NoteRows::data(const QModelIndex& index, int role) const {
     case DayRole:
         return (*m_dayLabels)(m_lines.days[row.day].day);
     case SpokenRole:
-        return spoken(entry, skill);
+        return spoken(static_cast<std::size_t>(index.row()));
     default:
         return {};
     }
 }
 
-QString NoteRows::spoken(const LogEntry& entry, const Skill& skill) const {
-    QStringList parts{entry.note, m_time(entry.startedAt), skill.name,
+QString NoteRows::spoken(std::size_t number) const {
+    const Row& row = m_lines.rows[number];
+    const LogEntry& entry = entryOf(row);
+    QStringList parts{entry.note, m_time(entry.startedAt), m_content.log.skillOf(entry).name,
                       dashformat::sessionDuration(entry.activeSeconds, m_content.style)};
     if (entry.isManual) parts << QStringLiteral("Manual");
+    if (number == 0 || m_lines.rows[number - 1].day != row.day)
+        parts.prepend((*m_dayLabels)(m_lines.days[row.day].day));
     return parts.join(QStringLiteral(", "));
 }
 

@@ -27,7 +27,7 @@ public:
         DurationRole,
         IsManualRole,
         DayRole,    ///< the heading that the row stands under
-        SpokenRole, ///< all of the row in words, for assistive tools
+        SpokenRole, ///< all of the row in words, for assistive tools; the first of a day names it
     };
 
     /// All that the rows are made of.
@@ -75,7 +75,7 @@ private:
     /// Shows the first `upTo` rows of the lines, of which `count` from `first` on are new.
     void insertRange(std::ptrdiff_t first, std::ptrdiff_t count, const Lines& lines,
                      std::ptrdiff_t upTo);
-    [[nodiscard]] QString spoken(const LogEntry& entry, const Skill& skill) const;
+    [[nodiscard]] QString spoken(std::size_t number) const;
     [[nodiscard]] const LogEntry& entryOf(const Row& row) const {
         return m_content.log.entries[row.place];
     }

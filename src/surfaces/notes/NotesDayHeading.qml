@@ -18,6 +18,8 @@ Item {
         text: heading.section
         role: DarkUI.captionStrong
         color: DarkUI.t2
-        Accessible.role: Accessible.Heading
+        // The list makes it after the row below it and would have it read out in that order. The
+        // row names the day instead.
+        Accessible.ignored: true
     }
 }

@@ -75,6 +75,10 @@ FocusScope {
         Accessible.name: qsTr("Notes")
     }
 
+    ReadingOrder {
+        parentItem: list.contentItem
+    }
+
     EdgeFade {
         anchors.bottom: parent.bottom
         width: parent.width

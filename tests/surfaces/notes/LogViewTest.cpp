@@ -189,7 +189,8 @@ TEST_F(LogViewTest, RowIsSpokenAsItStands) {
     write({"100%1 of %2 done"});
     open();
     EXPECT_EQ(shown(NoteRows::SpokenRole),
-              QStringList{QStringLiteral("100%1 of %2 done, 11:00\u202FAM, Build, 30 min")});
+              QStringList{shown(NoteRows::DayRole)[0] +
+                          QStringLiteral(", 100%1 of %2 done, 11:00\u202FAM, Build, 30 min")});
     Session manual = samples::session();
     manual.note = QStringLiteral("by hand");
     manual.source = sourceManual();

@@ -1,9 +1,12 @@
 // The notes window by pointer and keys.
+#include "support/Await.h"
 #include "support/ShownView.h"
 #include "support/Text.h"
 #include "surfaces/notes/NotesWorld.h"
 
 #include <QAccessible>
+
+#include <algorithm>
 
 namespace vantle {
 namespace {
@@ -33,6 +36,32 @@ protected:
             return item.property("name").toString() == text("Edit this note");
         });
         m_shown->click(pencil);
+    }
+    /// What of the list is read out, in that order.
+    [[nodiscard]] std::vector<QAccessibleInterface*> partsReadOut() {
+        QQuickItem* const list =
+            tests::shownItem(m_shown->window().contentItem(), [](const QQuickItem& item) {
+                return item.inherits("QQuickListView");
+            });
+        QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(list);
+        std::vector<QAccessibleInterface*> parts;
+        for (int place = 0; read && place < read->childCount(); ++place)
+            if (QAccessibleInterface* const part = read->child(place);
+                part && !part->state().invisible)
+                parts.push_back(part);
+        return parts;
+    }
+    [[nodiscard]] QStringList readOut() {
+        QStringList names;
+        for (const QAccessibleInterface* part : partsReadOut())
+            names << part->text(QAccessible::Name);
+        return names;
+    }
+    [[nodiscard]] std::vector<QRectF> framesReadOut() {
+        std::vector<QRectF> frames;
+        for (const QAccessibleInterface* part : partsReadOut())
+            frames.emplace_back(part->rect());
+        return frames;
     }
     void clickSearch() { m_shown->click(m_shown->field(text("Search notes"))); }
     [[nodiscard]] QString typedInto(const char* field) {
@@ -86,7 +115,10 @@ TEST_F(NotesListTest, EnterOfTheKeypadEditsAndSavesAsReturnDoes) {
 TEST_F(NotesListTest, EveryChipOfTheFilterCanBeCheckedAndOneIs) {
     show({"alpha"});
     const auto state = [this](const QString& name) {
-        return QAccessible::queryAccessibleInterface(m_shown->control(name))->state();
+        QAccessibleInterface* const chip =
+            QAccessible::queryAccessibleInterface(m_shown->control(name));
+        EXPECT_EQ(chip->role(), QAccessible::RadioButton) << name.toStdString();
+        return chip->state();
     };
     const QString skill = skills->display(text("building")).name;
     for (const QString& name : {text("All"), skill}) {
@@ -106,7 +138,68 @@ TEST_F(NotesListTest, RowIsReadOutAsItStands) {
         QAccessible::queryAccessibleInterface(row("100%1 of %2 done"));
     ASSERT_NE(read, nullptr);
     EXPECT_EQ(read->text(QAccessible::Name), shown(NoteRows::SpokenRole)[0]);
-    EXPECT_TRUE(read->text(QAccessible::Name).startsWith(text("100%1 of %2 done, ")));
+    EXPECT_TRUE(read->text(QAccessible::Name).contains(text(", 100%1 of %2 done, ")));
+}
+
+TEST_F(NotesListTest, DayIsReadOutWithItsFirstNoteAndNotAfterIt) {
+    QByteArray lines;
+    for (const int day : {0, 1, 2}) {
+        Session session = samples::session(day + 1);
+        session.note = text(day == 0 ? "old" : day == 1 ? "first" : "second");
+        const Seconds later(day * 24 * 3600.0 - (day == 2 ? 23 * 3600.0 : 0.0));
+        session.startedAt = session.startedAt + later;
+        session.endedAt = session.endedAt + later;
+        lines += samples::line(session);
+    }
+    put(lines);
+    open();
+    m_shown.emplace().show("Notes/NotesLogView", {{text("model"), QVariant::fromValue(&*view)}});
+    const QStringList notes = shown(NoteRows::NoteRole);
+    const QStringList days = shown(NoteRows::DayRole);
+    ASSERT_EQ(notes, (QStringList{text("second"), text("first"), text("old")}));
+    ASSERT_EQ(days[0], days[1]);
+    ASSERT_NE(days[1], days[2]);
+    const auto begins = [](const QStringList& names, const QStringList& expected) {
+        ASSERT_EQ(names.size(), expected.size()) << names.join(text("|")).toStdString();
+        for (int place = 0; place < names.size(); ++place)
+            EXPECT_TRUE(names[place].startsWith(expected[place])) << names[place].toStdString();
+    };
+    begins(readOut(), {days[0] + text(", second, "), text("first, "), days[2] + text(", old, ")});
+
+    // The row that is edited keeps its view, and becomes the first of its day.
+    clickPencil("first");
+    clickSearch();
+    m_shown->type(text("first"));
+    begins(readOut(), {days[0] + text(", first, ")});
+}
+
+TEST_F(NotesListTest, RowsAreReadOutFromTheTopAfterASearchAndAScroll) {
+    std::vector<const char*> notes(40, "one of many");
+    notes[3] = "fourth";
+    notes[5] = "sixth";
+    show(notes);
+    // Rows beside what is seen come when there is time for them.
+    const auto inOrder = [this](const char* when) {
+        std::vector<double> places;
+        const bool sorted = tests::await([&] {
+            m_shown->settle();
+            places.clear();
+            for (const QRectF& frame : framesReadOut())
+                places.push_back(frame.top());
+            return places.size() > 1 && std::ranges::is_sorted(places);
+        });
+        EXPECT_TRUE(sorted) << when << testing::PrintToString(places);
+    };
+    inOrder("at first");
+    m_shown->scroll(*row("one of many"), 900);
+    inOrder("scrolled down");
+    m_shown->scroll(*row("one of many"), -500);
+    inOrder("scrolled up");
+    clickSearch();
+    m_shown->type(text("th"));
+    inOrder("searched");
+    m_shown->press(Qt::Key_Escape);
+    inOrder("all again");
 }
 
 TEST_F(NotesListTest, CopyPutsTheNoteOnTheClipboardAndSaysSo) {
