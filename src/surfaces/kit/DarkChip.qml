@@ -13,7 +13,7 @@ KitPressable {
     property bool large: false
     property bool checked: false // shows the check of a large chip
     property bool playOnHover: false // the dot turns into a play sign
-    property bool choosable: selectedTint.a > 0 || checked // one of several that can be chosen
+    property bool choosable: false // one of several, of which one is chosen
     property int key: -1 // whatever the group's owner knows it by
     readonly property bool hasDot: dotColor.a > 0
     readonly property bool showsPlay: playOnHover && (hovered || ringed)
@@ -28,8 +28,12 @@ KitPressable {
     opacity: enabled ? 1 : DarkUI.disabledOpacity
     name: text
 
+    // The toolkit's bridge to AT-SPI leaves "checkable" out: only the role says that there is
+    // something to choose.
+    Accessible.role: choosable ? Accessible.RadioButton : Accessible.Button
     Accessible.checkable: choosable
     Accessible.checked: selectedTint.a > 0 || checked
+    Accessible.onToggleAction: if (chip.enabled) chip.clicked()
 
     GlassChipBackground {
         id: ground
