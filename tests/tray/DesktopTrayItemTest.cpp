@@ -6,12 +6,17 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QDir>
+#include <QFile>
 #include <QPalette>
 #include <QPixmap>
 #include <QScreen>
+#include <QTemporaryDir>
+#include <QtEndian>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <optional>
 
 namespace vantle {
@@ -66,6 +71,14 @@ protected:
 QByteArray pixelsOf(FakeStatusNotifierWatcher& watcher) {
     return watcher.pixmaps().value(0).argb.first(4);
 }
+QImage imageOf(const TrayPixmap& pixmap) {
+    QImage image(pixmap.width, pixmap.height, QImage::Format_ARGB32);
+    for (int y = 0; y < pixmap.height; ++y)
+        for (int x = 0; x < pixmap.width; ++x)
+            image.setPixel(
+                x, y, qFromBigEndian<QRgb>(pixmap.argb.constData() + 4 * (y * pixmap.width + x)));
+    return image;
+}
 const QByteArray kRedPixel = QByteArray::fromHex("ffff0000");
 const QByteArray kBluePixel = QByteArray::fromHex("ff0000ff");
 
@@ -95,6 +108,72 @@ TEST_F(DesktopTrayItemTest, DarkTemplateIsWhiteOnADarkBar) {
     const Trayer tray(QStringLiteral("--transparent true --alpha 0 --tint 0x202020"));
     m_item->setImage(tests::disc(Qt::black), true);
     expectOnScreen(Qt::white);
+}
+
+TEST_F(DesktopTrayItemTest, TemplateHasNoEdgeOnABarWhoseColourIsSeen) {
+    QPalette palette = m_palette;
+    palette.setColor(QPalette::WindowText, Qt::black);
+    QGuiApplication::setPalette(palette);
+    const Trayer tray(QStringLiteral("--transparent true --alpha 0 --tint 0x202020"));
+    m_item->setImage(tests::disc(Qt::black), true);
+    expectOnScreen(Qt::white);
+    const auto darkest = [this] {
+        const QRect place = m_item->geometry();
+        const QImage seen = QGuiApplication::primaryScreen()
+                                ->grabWindow(0, place.x(), place.y(), place.width(), place.height())
+                                .toImage();
+        int gray = 255;
+        for (int y = 0; y < seen.height(); ++y)
+            for (int x = 0; x < seen.width(); ++x)
+                gray = std::min(gray, qGray(seen.pixel(x, y)));
+        return gray;
+    };
+    EXPECT_TRUE(await([&] { return darkest() >= 0x1c; })) << darkest();
+}
+
+TEST_F(DesktopTrayItemTest, HostGetsATemplateThatIsSeenOnAPanelOfEitherBrightness) {
+    FakeStatusNotifierWatcher watcher;
+    watcher.appear();
+    for (const QColor text : {QColor(Qt::black), QColor(Qt::white)}) {
+        QPalette palette = m_palette;
+        palette.setColor(QPalette::WindowText, text);
+        QGuiApplication::setPalette(palette);
+        m_item->setImage(tests::disc(Qt::black, {16, 18, 22, 24}), true);
+        ASSERT_TRUE(await([&] { return m_item->isShown(); }));
+        const TrayPixmaps sent = watcher.pixmaps();
+        EXPECT_EQ(sent.size(), 4);
+        for (const TrayPixmap& pixmap : sent) {
+            EXPECT_GE(tests::seenOn(Qt::black, imageOf(pixmap)), pixmap.width);
+            EXPECT_GE(tests::seenOn(Qt::white, imageOf(pixmap)), pixmap.width);
+        }
+    }
+}
+
+TEST_F(DesktopTrayItemTest, HostGetsTheImageAndNoNameThatItMayNotKnow) {
+    // The program is installed while the panel runs: this process finds the icon, the panel's does
+    // not and draws something else for the name.
+    const QTemporaryDir themes;
+    const QString icons = themes.filePath(QStringLiteral("hicolor/24x24/apps"));
+    ASSERT_TRUE(QDir().mkpath(icons));
+    QFile index(themes.filePath(QStringLiteral("hicolor/index.theme")));
+    ASSERT_TRUE(index.open(QIODevice::WriteOnly));
+    index.write("[Icon Theme]\nName=hicolor\nDirectories=24x24/apps\n[24x24/apps]\nSize=24\n");
+    index.close();
+    const QString name = QStringLiteral("local.vantle.Vantle-symbolic");
+    ASSERT_TRUE(m_red.pixmap(24).save(icons + QLatin1Char('/') + name + QStringLiteral(".png")));
+    const QStringList paths = QIcon::themeSearchPaths();
+    QIcon::setThemeSearchPaths({themes.path()});
+    QIcon::setThemeName(QStringLiteral("hicolor"));
+    ASSERT_TRUE(QIcon::hasThemeIcon(name));
+
+    FakeStatusNotifierWatcher watcher;
+    watcher.appear();
+    m_item->setImage(tests::square(Qt::black), true);
+    ASSERT_TRUE(await([&] { return m_item->isShown(); }));
+    EXPECT_EQ(watcher.property(QStringLiteral("IconName")), QString());
+    EXPECT_FALSE(watcher.pixmaps().isEmpty());
+    QIcon::setThemeName({});
+    QIcon::setThemeSearchPaths(paths);
 }
 
 TEST_F(DesktopTrayItemTest, TrayThatComesLaterShowsIt) {

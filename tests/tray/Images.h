@@ -2,9 +2,11 @@
 #pragma once
 
 #include <QIcon>
+#include <QImage>
 #include <QPainter>
 #include <QPixmap>
 
+#include <cstdlib>
 #include <initializer_list>
 
 namespace vantle::tests {
@@ -35,6 +37,21 @@ inline QIcon disc(const QColor& colour, std::initializer_list<int> sizes = {18, 
         icon.addPixmap(pixmap);
     }
     return icon;
+}
+
+/// How many pixels of the image differ so much from a panel of that colour that an eye sees them.
+inline int seenOn(const QColor& ground, const QImage& image) {
+    constexpr int kSeen = 60; // of 255 grays
+    QImage panel(image.size(), QImage::Format_RGB32);
+    panel.fill(ground);
+    QPainter painter(&panel);
+    painter.drawImage(0, 0, image);
+    painter.end();
+    int seen = 0;
+    for (int y = 0; y < panel.height(); ++y)
+        for (int x = 0; x < panel.width(); ++x)
+            seen += std::abs(qGray(panel.pixel(x, y)) - qGray(ground.rgb())) >= kSeen;
+    return seen;
 }
 
 } // namespace vantle::tests

@@ -20,7 +20,7 @@ protected:
     StatusNotifierItemTest() {
         QObject::connect(&m_item, &StatusNotifierItem::clicked,
                          [this](QPoint place) { m_clicks << place; });
-        m_item.setImage(m_red, {});
+        m_item.setImage(m_red);
     }
     void appearAndTake() {
         m_watcher.appear();
@@ -51,9 +51,9 @@ TEST_F(StatusNotifierItemTest, IsAnnouncedWithItsFirstImageAndNotBefore) {
     ASSERT_TRUE(await([&] { return bare.hasWatcher() == true && m_item.isShown(); }));
     catchUp();
     EXPECT_FALSE(m_watcher.items.contains(client.bus().baseService()));
-    bare.setImage(m_blue, {});
+    bare.setImage(m_blue);
     EXPECT_TRUE(await([&] { return bare.isShown(); }));
-    bare.setImage(m_red, {});
+    bare.setImage(m_red);
     catchUp();
     EXPECT_EQ(m_watcher.items.count(client.bus().baseService()), 1);
 }
@@ -164,13 +164,13 @@ TEST_F(StatusNotifierItemTest, TypesAreTheProtocols) {
 
 TEST_F(StatusNotifierItemTest, NewImageIsToldOnceAndReadableAtThatMoment) {
     appearAndTake();
-    m_item.setImage(m_blue, {});
+    m_item.setImage(m_blue);
     ASSERT_TRUE(await([&] { return m_watcher.newIcons == 1; }));
     EXPECT_EQ(pixelsOf(m_watcher.pixmaps()), QByteArray::fromHex("ff0000ff"));
-    m_item.setImage(m_blue, {});
+    m_item.setImage(m_blue);
     catchUp();
     EXPECT_EQ(m_watcher.newIcons, 1) << "the same image again";
-    m_item.setImage(m_red, {});
+    m_item.setImage(m_red);
     ASSERT_TRUE(await([&] { return m_watcher.newIcons == 2; }));
     EXPECT_EQ(pixelsOf(m_watcher.pixmaps()), QByteArray::fromHex("ffff0000"));
 }
@@ -182,20 +182,12 @@ TEST_F(StatusNotifierItemTest, MoreImagesThanAreKeptStayRight) {
         images << tests::square(QColor(i, 0, 0), {16});
     for (int round = 0; round < 2; ++round) {
         for (int i = 0; i < images.size(); ++i) {
-            m_item.setImage(images[i], {});
+            m_item.setImage(images[i]);
             const QByteArray expected("\xff" + QByteArray(1, static_cast<char>(i)) +
                                       QByteArray(2, '\0'));
             ASSERT_EQ(pixelsOf(m_watcher.pixmaps()), expected);
         }
     }
-}
-
-TEST_F(StatusNotifierItemTest, NameInTheThemeStandsBesideThePixels) {
-    appearAndTake();
-    m_item.setImage(m_red, QStringLiteral("some-symbolic"));
-    ASSERT_TRUE(await([&] { return m_watcher.newIcons == 1; }));
-    EXPECT_EQ(m_watcher.property(QStringLiteral("IconName")), QStringLiteral("some-symbolic"));
-    EXPECT_EQ(m_watcher.pixmaps().size(), 1);
 }
 
 TEST_F(StatusNotifierItemTest, ToolTipsTextIsNoMarkup) {
@@ -228,7 +220,7 @@ TEST(StatusNotifierItem, MissingBusIsAnAnswerAtOnce) {
     QElapsedTimer timer;
     timer.start();
     StatusNotifierItem item(tests::noBus());
-    item.setImage(tests::square(Qt::red), {});
+    item.setImage(tests::square(Qt::red));
     item.setToolTip(QStringLiteral("Vantle"));
     EXPECT_LT(timer.elapsed(), 100);
     EXPECT_EQ(item.hasWatcher(), false);

@@ -4,6 +4,7 @@
 
 #include <QGuiApplication>
 #include <QImage>
+#include <QPainter>
 #include <QPalette>
 
 #include <gtest/gtest.h>
@@ -35,6 +36,46 @@ TEST(TemplateImage, TakesTheColourAndKeepsTheShape) {
     EXPECT_GT(halfTransparent, 0);
     EXPECT_EQ(after.pixel(18, 18), 0xff204060U);
     EXPECT_EQ(qAlpha(after.pixel(0, 0)), 0);
+}
+
+TEST(TemplateImage, WithAnEdgeItIsSeenOnAnyGround) {
+    for (const QColor colour : {QColor(Qt::black), QColor(Qt::white), QColor(0x80, 0x80, 0x80)}) {
+        const QIcon icon = inColourWithEdge(tests::disc(Qt::black, {16, 18, 22, 24}), colour);
+        for (const int size : {16, 18, 22, 24})
+            for (const int gray : {0x00, 0x20, 0x40, 0x80, 0xc0, 0xff}) {
+                const QColor ground(gray, gray, gray);
+                EXPECT_GE(tests::seenOn(ground, imageOf(icon, size)), size)
+                    << qPrintable(colour.name()) << " on " << gray << " at " << size;
+            }
+    }
+}
+
+TEST(TemplateImage, EdgeIsThinAndLiesOutside) {
+    const QIcon shape = tests::disc(Qt::black, {24});
+    const QImage plain = imageOf(inColour(shape, Qt::black), 24);
+    const QImage edged = imageOf(inColourWithEdge(shape, Qt::black), 24);
+    int added = 0;
+    for (int y = 0; y < 24; ++y)
+        for (int x = 0; x < 24; ++x) {
+            if (qAlpha(plain.pixel(x, y)) == 255) {
+                EXPECT_EQ(edged.pixel(x, y), plain.pixel(x, y));
+            }
+            added += qAlpha(edged.pixel(x, y)) > qAlpha(plain.pixel(x, y));
+        }
+    constexpr double kAround = 3.15 * 0.7 * 24; // px of the disc's edge
+    EXPECT_GT(added, kAround);
+    EXPECT_LT(added, 2.5 * kAround);
+    EXPECT_EQ(qAlpha(edged.pixel(0, 0)), 0);
+}
+
+TEST(TemplateImage, PlateBelowTheShapeGetsNoEdge) {
+    QPixmap plate(24, 24);
+    plate.fill(Qt::transparent);
+    QPainter painter(&plate);
+    painter.fillRect(QRect(4, 4, 16, 16), QColor(0, 0, 0, 102));
+    painter.end();
+    EXPECT_EQ(imageOf(inColourWithEdge(QIcon(plate), Qt::black), 24),
+              imageOf(inColour(QIcon(plate), Qt::black), 24));
 }
 
 class BarTextColour : public testing::Test {

@@ -48,7 +48,7 @@ class TrayMenuTest : public testing::Test {
 protected:
     TrayMenuTest() {
         m_item.setMenu(lines(m_texts, &m_chosen));
-        m_item.setImage(tests::square(Qt::red, {16}), {});
+        m_item.setImage(tests::square(Qt::red, {16}));
         m_watcher.appear();
         EXPECT_TRUE(await([&] { return m_item.isShown(); }));
     }
@@ -191,7 +191,7 @@ TEST_F(TrayMenuTest, UnderscoreInATextIsNoMnemonic) {
 TEST_F(TrayMenuTest, ItemWithoutAMenuSaysSo) {
     tests::BusClient client;
     StatusNotifierItem bare(client.bus());
-    bare.setImage(tests::square(Qt::blue, {16}), {});
+    bare.setImage(tests::square(Qt::blue, {16}));
     ASSERT_TRUE(await([&] { return bare.isShown(); }));
     EXPECT_EQ(m_watcher.menuPath(), QStringLiteral("/NO_DBUSMENU"));
 }

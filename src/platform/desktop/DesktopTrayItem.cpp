@@ -10,9 +10,6 @@ namespace vantle {
 
 namespace {
 
-/// The template image in the icon theme, installed with the program.
-const QString kSymbolicName = QStringLiteral("local.vantle.Vantle-symbolic");
-
 /// Some hosts give the same place for every click, some that of the item, some that of the pointer.
 /// What is farther from the pointer than an item is wide, in px, is none of the latter two.
 constexpr int kFarFromPointer = 200;
@@ -72,16 +69,20 @@ void DesktopTrayItem::setImage(const QIcon& image, bool isTemplate) {
 
 void DesktopTrayItem::showImage() {
     const QIcon& drawn = drawnImage();
-    const bool inTheme = m_isTemplate && QIcon::hasThemeIcon(kSymbolicName);
-    m_notifier.setImage(drawn, inTheme ? kSymbolicName : QString());
+    m_notifier.setImage(drawn);
     if (m_window) m_window->setImage(drawn);
 }
 
 const QIcon& DesktopTrayItem::drawnImage() {
     if (!m_isTemplate) return m_image;
-    const QColor colour = barTextColour(m_window ? m_window->ground() : std::nullopt);
-    if (m_coloured.shapeKey != m_image.cacheKey() || m_coloured.colour != colour)
-        m_coloured = {m_image.cacheKey(), colour, inColour(m_image, colour)};
+    // Hosts do not tell what colour their panel has.
+    const std::optional<QColor> ground = m_window ? m_window->ground() : std::nullopt;
+    const QColor colour = barTextColour(ground);
+    const bool edged = !ground;
+    if (m_coloured.shapeKey != m_image.cacheKey() || m_coloured.colour != colour ||
+        m_coloured.edged != edged)
+        m_coloured = {m_image.cacheKey(), colour, edged,
+                      edged ? inColourWithEdge(m_image, colour) : inColour(m_image, colour)};
     return m_coloured.image;
 }
 

@@ -41,6 +41,7 @@ private:
     struct Coloured {
         qint64 shapeKey = 0;
         QColor colour;
+        bool edged = false;
         QIcon image;
     };
 

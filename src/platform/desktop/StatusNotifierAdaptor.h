@@ -16,7 +16,7 @@ class StatusNotifierAdaptor final : public QDBusAbstractAdaptor {
     Q_PROPERTY(QString Id READ id CONSTANT)
     Q_PROPERTY(QString Title READ title CONSTANT)
     Q_PROPERTY(QString Status READ status CONSTANT)
-    Q_PROPERTY(QString IconName READ iconName)
+    Q_PROPERTY(QString IconName READ none CONSTANT)
     Q_PROPERTY(vantle::TrayPixmaps IconPixmap READ iconPixmap)
     Q_PROPERTY(vantle::TrayToolTip ToolTip READ toolTip)
     Q_PROPERTY(bool ItemIsMenu READ itemIsMenu CONSTANT)
@@ -40,7 +40,6 @@ public:
     [[nodiscard]] QString id() const { return QStringLiteral("local.vantle.Vantle"); }
     [[nodiscard]] QString title() const { return QStringLiteral("Vantle"); }
     [[nodiscard]] QString status() const { return QStringLiteral("Active"); }
-    [[nodiscard]] QString iconName() const { return m_item.m_themeName; }
     [[nodiscard]] TrayPixmaps iconPixmap() const { return m_item.m_pixmaps; }
     [[nodiscard]] TrayToolTip toolTip() const { return m_item.m_toolTip; }
     [[nodiscard]] bool itemIsMenu() const { return false; }

@@ -125,11 +125,10 @@ void StatusNotifierItem::setState(bool announced, bool hosted) {
     if (isShown() != shownBefore) Q_EMIT shownChanged();
 }
 
-void StatusNotifierItem::setImage(const QIcon& image, const QString& themeName) {
-    if (image.cacheKey() == m_imageKey && themeName == m_themeName) return;
+void StatusNotifierItem::setImage(const QIcon& image) {
+    if (image.cacheKey() == m_imageKey) return;
     const bool isFirst = m_imageKey == 0;
     m_imageKey = image.cacheKey();
-    m_themeName = themeName;
     m_pixmaps = pixmapsOf(image);
     if (m_announced) Q_EMIT m_adaptor->NewIcon();
     if (isFirst && m_hasWatcher.value_or(false)) announce();

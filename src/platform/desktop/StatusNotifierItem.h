@@ -28,9 +28,10 @@ public:
     explicit StatusNotifierItem(const QDBusConnection& session);
     ~StatusNotifierItem() override;
 
-    /// `themeName` is the name of the same image in the icon theme, for hosts that colour it by
-    /// themselves; empty for none. Cheap for images shown lately: each is turned into bytes once.
-    void setImage(const QIcon& image, const QString& themeName);
+    /// Cheap for images shown lately: each is turned into bytes once. Hosts get the pixels and no
+    /// name: one that does not know the name, as after an installation during its life, draws an
+    /// image of its own for it and leaves the pixels alone.
+    void setImage(const QIcon& image);
 
     /// The first line is the title, the others are below it.
     void setToolTip(const QString& text);
@@ -81,7 +82,6 @@ private:
     std::list<Serialised> m_serialised; ///< the images shown lately, the last one first
     qint64 m_imageKey = 0;              ///< 0 until the first image
     TrayPixmaps m_pixmaps;
-    QString m_themeName;
     TrayToolTip m_toolTip;
 };
 

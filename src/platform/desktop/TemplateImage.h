@@ -12,6 +12,10 @@ namespace vantle {
 /// it has any; where it is half transparent the colour is too. GUI thread.
 [[nodiscard]] QIcon inColour(const QIcon& shape, const QColor& colour);
 
+/// The same for a ground that is not known: a thin edge, black around a light colour and white
+/// around a dark one, goes along whatever is about opaque, so that the shape is seen on any ground.
+[[nodiscard]] QIcon inColourWithEdge(const QIcon& shape, const QColor& colour);
+
 /// The colour of a bar's text, as far as it can be known: the window text of the application's
 /// palette, which follows the desktop's theme; white where there is no palette. Where the bar's
 /// ground is known and that colour would hardly be seen on it, as without a theme on a dark bar,
