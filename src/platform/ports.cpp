@@ -16,3 +16,4 @@
 #include "platform/Screens.h"
 #include "platform/TrayItem.h"
 #include "platform/WindowHints.h"
+#include "platform/WindowManager.h"

@@ -3,8 +3,10 @@
 import re
 import unittest
 
+from harness.bus import activate_action
 from harness.waiting import wait_until
-from harness.windows import (DASHBOARD, NOTES, QUICK_LOG, SETTINGS, WELCOME, WRAPPED, WindowCase)
+from harness.windows import (DASHBOARD, NOTES, QUICK_LOG, SETTINGS, WELCOME, WRAPPED, ReaderCase,
+                             WindowCase)
 
 
 class IconCase(WindowCase):
@@ -43,6 +45,96 @@ class FirstWindow(IconCase):
         self.vantle.start()
         welcome, = wait_until("the welcome", lambda: self.desktop.windows_named(WELCOME))
         self.assert_icon(welcome)
+
+
+class Workspaces(WindowCase):
+    """The window stands on the first of two workspaces, the user on the other one."""
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.tool("xdotool", "set_num_desktops", "2")
+        self.launch()
+
+    def workspace(self):
+        return self.desktop.tool("xdotool", "get_desktop").decode().strip()
+
+    def go_to(self, number):
+        self.desktop.tool("xdotool", "set_desktop", number)
+        wait_until("the other workspace", lambda: self.workspace() == number)
+
+    def assert_comes(self):
+        activate_action(self.desktop, "settings")
+        window, = wait_until("the window here", lambda: self.desktop.windows_named("Settings"))
+        wait_until("the window in front", lambda: self.desktop.active_window() == window)
+        self.desktop.await_keyboard("Settings")
+        self.assertEqual(self.workspace(), "1", "the user stays where they are")
+
+    def test_a_window_comes_to_the_workspace_in_use(self):
+        self.open(*SETTINGS)
+        self.go_to("1")
+        wait_until("no window here", lambda: not self.desktop.windows_named("Settings"))
+        self.assert_comes()
+
+    def test_a_minimised_window_comes_to_the_workspace_in_use(self):
+        window = self.open(*SETTINGS)
+        self.desktop.tool("xdotool", "windowminimize", window)
+        wait_until("the window gone", lambda: not self.desktop.windows_named("Settings"))
+        self.go_to("1")
+        self.assert_comes()
+
+    def test_a_window_comes_over_one_that_was_just_typed_into(self):
+        self.open(*SETTINGS)
+        self.go_to("1")
+        typed = self.open_editor()
+        self.desktop.type("busy\n")
+        wait_until("the line", lambda: typed.read_text() == "busy\n")
+        self.assert_comes()
+
+
+class BareServer(ReaderCase):
+    """No window manager at first."""
+
+    window_manager = False
+
+    def open_settings(self):
+        self.launch()
+        activate_action(self.desktop, "settings")
+        window, = wait_until("the window", lambda: self.desktop.windows_named("Settings"))
+        self.desktop.await_still(*self.desktop.frame_of(window))
+        return window
+
+    def test_the_strip_moves_a_window_that_no_window_manager_moves(self):
+        window = self.open_settings()
+        x, y, width, height = self.desktop.frame_of(window)
+        self.desktop.tool("xdotool", "mousemove", str(x + 100), str(y + 15), "mousedown", "1")
+        for step in (20, 40, 60):
+            self.desktop.tool("xdotool", "mousemove", str(x + 100 + step), str(y + 15 + step))
+        self.desktop.tool("xdotool", "mouseup", "1")
+        moved = (x + 60, y + 60, width, height)
+        wait_until("the window there", lambda: self.desktop.frame_of(window) == moved)
+        self.desktop.tool("xdotool", "mousemove", "100", "800")
+        self.desktop.await_still(0, 0, 1440, 900)
+        self.assertEqual(self.desktop.frame_of(window), moved, "the hand has let go of it")
+
+    def test_the_button_that_minimises_comes_and_goes_with_the_window_manager(self):
+        self.open_settings()
+        self.await_told("Settings", "push button", "Close")
+        self.assertRaises(LookupError, self.find_minimise)
+        manager = self.desktop.open("openbox")
+        self.await_told("Settings", "push button", "Minimise")
+        manager.kill()
+        manager.wait()
+        wait_until("no button", self.is_minimise_gone)
+
+    def find_minimise(self):
+        return self.reader.window("Settings").find("push button", "Minimise")
+
+    def is_minimise_gone(self):
+        try:
+            self.find_minimise()
+            return False
+        except LookupError:
+            return True
 
 
 if __name__ == "__main__":

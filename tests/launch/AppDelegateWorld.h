@@ -19,6 +19,7 @@
 #include "fakes/FakeScreenPower.h"
 #include "fakes/FakeScreens.h"
 #include "fakes/FakeTrayItem.h"
+#include "fakes/FakeWindowManager.h"
 #include "fakes/MemoryFileSystem.h"
 #include "fakes/MemoryPreferences.h"
 #include "fakes/VirtualTime.h"
@@ -83,6 +84,7 @@ protected:
             .cardStage = cardStage,
             .viewEngine = viewEngine,
             .panelHost = panelHost,
+            .windowManager = windowManager,
             .screens = shapes,
             .pointerPresses = pointerPresses,
             .shortcutsTool = text("/bin/vantle-shortcuts"),
@@ -143,6 +145,7 @@ protected:
     fakes::FakeCardStage cardStage;
     SharedEngine viewEngine;
     fakes::FakePanelHost panelHost;
+    fakes::FakeWindowManager windowManager;
     fakes::FakeScreens shapes;
     fakes::FakePointerPresses pointerPresses;
     fakes::FakeAutostart autostart;

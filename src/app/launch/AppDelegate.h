@@ -29,6 +29,7 @@ class RecoveryNoticeController;
 class Screens;
 class SharedEngine;
 class TrayItem;
+class WindowManager;
 
 /// Owns the top-level objects for the life of the process. Main thread.
 class AppDelegate {
@@ -54,6 +55,7 @@ public:
         CardStage& cardStage;
         SharedEngine& viewEngine; ///< of the panel and the windows
         PanelHost& panelHost;
+        WindowManager& windowManager;
         const Screens& screens;
         PointerPresses& pointerPresses;
         QString shortcutsTool; ///< absolute path of the program that runs shortcuts

@@ -184,6 +184,7 @@ AppDelegate::Environment environmentOn(Ground& ground, bool startedUnasked, cons
             .cardStage = ground.surfaces.cardStage(),
             .viewEngine = ground.viewEngine,
             .panelHost = platform.panelHost(),
+            .windowManager = platform.windowManager(),
             .screens = platform.screens(),
             .pointerPresses = platform.pointerPresses(),
             .shortcutsTool = shortcutsTool(),

@@ -28,6 +28,7 @@
 #include "platform/x11/X11PanelHost.h"
 #include "platform/x11/X11PointerPresses.h"
 #include "platform/x11/X11ScreenPower.h"
+#include "platform/x11/X11WindowManager.h"
 #include "platform/x11/XwaylandTraits.h"
 #include "sensing/ScreenPowerUnion.h"
 
@@ -98,6 +99,7 @@ public:
                       QCoreApplication::applicationFilePath())
         , m_trayItem(m_session, !m_xwayland.isXwayland)
         , m_panelHost(m_x11, m_xwayland)
+        , m_windowManager(m_x11)
         , m_pointerPresses(m_x11)
         , m_languageModel(m_files, configHome() + QStringLiteral("/Vantle/language-model.conf"),
                           scheduler)
@@ -125,6 +127,7 @@ public:
     [[nodiscard]] LanguageModel& languageModel() override { return m_languageModel; }
     [[nodiscard]] Screens& screens() override { return m_screens; }
     [[nodiscard]] PanelHost& panelHost() override { return m_panelHost; }
+    [[nodiscard]] WindowManager& windowManager() override { return m_windowManager; }
     [[nodiscard]] PointerPresses& pointerPresses() override { return m_pointerPresses; }
     [[nodiscard]] ImageClipboard& imageClipboard() override { return m_imageClipboard; }
     [[nodiscard]] SaveDialog& saveDialog() override { return m_saveDialog; }
@@ -167,6 +170,7 @@ private:
     DesktopTrayItem m_trayItem;
     QtScreens m_screens;
     X11PanelHost m_panelHost;
+    X11WindowManager m_windowManager;
     X11PointerPresses m_pointerPresses;
     SocketLanguageModel m_languageModel;
     QtImageClipboard m_imageClipboard;

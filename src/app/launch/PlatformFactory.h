@@ -18,6 +18,7 @@
 #include "platform/ScreenPower.h"
 #include "platform/Screens.h"
 #include "platform/TrayItem.h"
+#include "platform/WindowManager.h"
 
 #include <QProcessEnvironment>
 #include <QString>
@@ -53,6 +54,7 @@ public:
     [[nodiscard]] virtual LanguageModel& languageModel() = 0;
     [[nodiscard]] virtual Screens& screens() = 0;
     [[nodiscard]] virtual PanelHost& panelHost() = 0;
+    [[nodiscard]] virtual WindowManager& windowManager() = 0;
     [[nodiscard]] virtual PointerPresses& pointerPresses() = 0;
     [[nodiscard]] virtual ImageClipboard& imageClipboard() = 0;
     [[nodiscard]] virtual SaveDialog& saveDialog() = 0;

@@ -1,5 +1,7 @@
 #include "platform/x11/X11PanelHost.h"
 
+#include "platform/x11/WindowConnection.h"
+
 #include <QGuiApplication>
 
 #include <xcb/shape.h>
@@ -12,14 +14,6 @@
 namespace vantle {
 
 namespace {
-
-/// Null where Qt's windows are not X11 windows.
-xcb_connection_t* windowConnection() {
-    auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    xcb_connection_t* const connection = x11 != nullptr ? x11->connection() : nullptr;
-    return connection != nullptr && xcb_connection_has_error(connection) == 0 ? connection
-                                                                              : nullptr;
-}
 
 xcb_window_t focus(xcb_connection_t* connection) {
     const XcbOwned<xcb_get_input_focus_reply_t> answer(

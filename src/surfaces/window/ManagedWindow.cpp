@@ -3,6 +3,7 @@
 #include "platform/PanelHost.h"
 #include "platform/Preferences.h"
 #include "platform/Screens.h"
+#include "platform/WindowManager.h"
 #include "surfaces/window/ForegroundActivation.h"
 #include "surfaces/window/MemoryReturn.h"
 #include "surfaces/window/SharedEngine.h"
@@ -39,10 +40,7 @@ QWindow* ManagedWindow::window() const { return m_shell; }
 
 bool ManagedWindow::show() {
     if (m_shell == nullptr && !open()) return false;
-    if (m_shell->windowStates().testFlag(Qt::WindowMinimized)) m_shell->showNormal();
-    m_shell->show();
-    m_shell->raise();
-    m_shell->requestActivate();
+    m_env.windowManager.bringToUser(*m_shell);
     return true;
 }
 
@@ -63,6 +61,11 @@ bool ManagedWindow::open() {
     connect(
         &m_env.host, &PanelHost::compositedChanged, shell.get(),
         [window = shell.get(), &host = m_env.host] { window->setRounded(host.isComposited()); });
+    const auto offerButtons = [window = shell.get(), &manager = m_env.windowManager] {
+        window->setMinimisable(manager.canMinimise());
+    };
+    connect(&m_env.windowManager, &WindowManager::changed, shell.get(), offerButtons);
+    offerButtons();
     connect(shell.get(), &WindowShell::fittingSizeChanged, this, &ManagedWindow::refit);
     m_shell = shell.release();
     place();

@@ -16,6 +16,7 @@ class PanelHost;
 class Preferences;
 class Screens;
 class SharedEngine;
+class WindowManager;
 class WindowShell;
 
 /// What windows work with. All of it must outlive them.
@@ -25,6 +26,7 @@ struct WindowEnvironment {
     Preferences& preferences;
     const Screens& screens;
     PanelHost& host;
+    WindowManager& windowManager;
     Scheduler& scheduler;
     std::function<void()> quit = {}; ///< what the program's own key for its end does
 };

@@ -11,6 +11,7 @@ Item {
     required property string title // in the strip; empty where the view opens with one
     required property bool resizable
     required property bool rounded
+    property bool minimisable: true // by the window manager
     required property int minimumHeight // of the view; 0 means what it asks for
     required property url view
     required property QtObject model
@@ -76,6 +77,7 @@ Item {
     DarkTopStrip {
         width: parent.width
         title: frame.title
+        minimisable: frame.minimisable
         onMinimiseRequested: frame.shell.minimise()
         onCloseRequested: frame.shell.requestClose()
     }

@@ -37,6 +37,22 @@ std::optional<QRect> onScreen(const QRect& frame, const std::vector<ScreenShape>
                  size.height());
 }
 
+QRect dragged(const QRect& frame, Qt::Edges edges, const QPoint& by, const QSize& least,
+              const QSize& greatest) {
+    if (edges == Qt::Edges()) return frame.translated(by);
+    const int dx = edges.testFlag(Qt::LeftEdge) ? -by.x() : by.x();
+    const int dy = edges.testFlag(Qt::TopEdge) ? -by.y() : by.y();
+    const bool wider = edges.testAnyFlags(Qt::LeftEdge | Qt::RightEdge);
+    const bool higher = edges.testAnyFlags(Qt::TopEdge | Qt::BottomEdge);
+    const QSize size = (frame.size() + QSize(wider ? dx : 0, higher ? dy : 0))
+                           .boundedTo(greatest)
+                           .expandedTo(least);
+    QRect after(frame.topLeft(), size);
+    if (edges.testFlag(Qt::LeftEdge)) after.moveRight(frame.right());
+    if (edges.testFlag(Qt::TopEdge)) after.moveBottom(frame.bottom());
+    return after;
+}
+
 QString encode(const QRect& frame) {
     return QStringLiteral("%1 %2 %3 %4")
         .arg(frame.x())

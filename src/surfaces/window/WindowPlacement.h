@@ -22,6 +22,11 @@ namespace vantle::windowplacement {
 [[nodiscard]] std::optional<QRect> onScreen(const QRect& frame,
                                             const std::vector<ScreenShape>& screens);
 
+/// The frame after a hand has dragged those edges of it that far, within its least and its greatest
+/// size; without any edges the whole frame.
+[[nodiscard]] QRect dragged(const QRect& frame, Qt::Edges edges, const QPoint& by,
+                            const QSize& least, const QSize& greatest);
+
 /// A frame as it stands in the preferences, "x y width height", and back. None for anything else.
 [[nodiscard]] QString encode(const QRect& frame);
 [[nodiscard]] std::optional<QRect> decode(const QString& text);

@@ -2,6 +2,7 @@
 
 #include "surfaces/kit/ApplicationIcon.h"
 #include "surfaces/window/WindowKind.h"
+#include "surfaces/window/WindowPlacement.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>
@@ -44,6 +45,18 @@ bool WindowShell::load(const WindowRules& rules, const QUrl& view, std::unique_p
 
 void WindowShell::setRounded(bool rounded) { m_frame->setProperty("rounded", rounded); }
 
+void WindowShell::setMinimisable(bool minimisable) {
+    m_frame->setProperty("minimisable", minimisable);
+}
+
+void WindowShell::beginMove() {
+    if (!startSystemMove()) m_held = Qt::Edges();
+}
+
+void WindowShell::beginResize(int edges) {
+    if (!startSystemResize(Qt::Edges(edges))) m_held = Qt::Edges(edges);
+}
+
 QSize WindowShell::fittingSize() const {
     return {qCeil(m_frame->implicitWidth()), qCeil(m_frame->implicitHeight())};
 }
@@ -61,6 +74,23 @@ bool WindowShell::event(QEvent* event) {
 void WindowShell::resizeEvent(QResizeEvent* event) {
     QQuickWindow::resizeEvent(event);
     if (m_frame) m_frame->setSize(size());
+}
+
+void WindowShell::mousePressEvent(QMouseEvent* event) {
+    m_press = {event->globalPosition().toPoint(), geometry()};
+    QQuickWindow::mousePressEvent(event);
+}
+
+void WindowShell::mouseMoveEvent(QMouseEvent* event) {
+    if (!m_held) return QQuickWindow::mouseMoveEvent(event);
+    setGeometry(windowplacement::dragged(m_press.frame, *m_held,
+                                         event->globalPosition().toPoint() - m_press.pointer,
+                                         minimumSize(), maximumSize()));
+}
+
+void WindowShell::mouseReleaseEvent(QMouseEvent* event) {
+    m_held.reset();
+    QQuickWindow::mouseReleaseEvent(event);
 }
 
 } // namespace vantle

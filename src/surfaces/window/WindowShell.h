@@ -5,6 +5,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
+#include <optional>
 
 class QQmlEngine;
 
@@ -32,14 +33,18 @@ public:
     /// Whether the corners may be transparent from now on. After load().
     void setRounded(bool rounded);
 
+    /// Whether the strip has a button that minimises. After load().
+    void setMinimisable(bool minimisable);
+
     /// What the frame asks for: the view's own size and the strip. After load().
     [[nodiscard]] QSize fittingSize() const;
     /// The view model. After load().
     [[nodiscard]] QObject& model() const { return *m_model; }
 
-    // What the frame's strip and edges do.
-    Q_INVOKABLE void beginMove() { (void)startSystemMove(); }
-    Q_INVOKABLE void beginResize(int edges) { (void)startSystemResize(Qt::Edges(edges)); }
+    // What the frame's strip and edges do, with a button of the pointer down. Where the window
+    // manager does neither, the window follows the pointer by itself until the release.
+    Q_INVOKABLE void beginMove();
+    Q_INVOKABLE void beginResize(int edges);
     Q_INVOKABLE void minimise() { showMinimized(); }
     /// Asks the owner; the window goes after the present handler.
     Q_INVOKABLE void requestClose() { Q_EMIT closeRequested(); }
@@ -56,11 +61,22 @@ Q_SIGNALS:
 protected:
     bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    /// Where the pointer and the window were at the last press.
+    struct Press {
+        QPoint pointer;
+        QRect frame;
+    };
+
     std::shared_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QObject> m_model;
     std::unique_ptr<QQuickItem> m_frame;
+    Press m_press;
+    std::optional<Qt::Edges> m_held; ///< what follows the pointer by hand; no edges move all of it
 };
 
 } // namespace vantle

@@ -4,6 +4,7 @@
 #include "fakes/FakePanelHost.h"
 #include "fakes/FakePointerPresses.h"
 #include "fakes/FakeScreens.h"
+#include "fakes/FakeWindowManager.h"
 #include "support/Await.h"
 #include "surfaces/panel/FloatingPanel.h"
 #include "surfaces/window/ForegroundActivation.h"
@@ -51,12 +52,14 @@ protected:
     ModelWorld world;
     fakes::FakeScreens screens;
     fakes::FakePanelHost host;
+    fakes::FakeWindowManager manager;
     fakes::FakePointerPresses presses;
     ForegroundActivation activation;
     SharedEngine engine;
     QRect item = kItem;
-    WindowRouter router{{engine, activation, world.preferences, screens, host, world.time, {}},
-                        world.notifications};
+    WindowRouter router{
+        {engine, activation, world.preferences, screens, host, manager, world.time, {}},
+        world.notifications};
     std::unique_ptr<CommandCenterController> controller;
 };
 

@@ -2,6 +2,7 @@
 
 #include "fakes/FakePanelHost.h"
 #include "fakes/FakeScreens.h"
+#include "fakes/FakeWindowManager.h"
 #include "fakes/MemoryPreferences.h"
 #include "fakes/VirtualTime.h"
 #include "support/Await.h"
@@ -62,6 +63,7 @@ protected:
 
     fakes::FakeScreens screens;
     fakes::FakePanelHost host;
+    fakes::FakeWindowManager manager;
     fakes::MemoryPreferences preferences;
     ForegroundActivation activation;
     SharedEngine engine;
@@ -71,7 +73,8 @@ protected:
     QPointer<QObject> model; ///< of the window that was opened last
     std::function<void()> closeFromView;
     fakes::VirtualTime time;
-    WindowEnvironment environment{engine, activation, preferences, screens, host, time, {}};
+    WindowEnvironment environment{engine, activation, preferences, screens,
+                                  host,   manager,    time,        {}};
 };
 
 TEST_F(ManagedWindowTest, AFixedWindowIsAsLargeAsItsViewAsksFor) {
@@ -278,7 +281,7 @@ TEST_F(ManagedWindowTest, WhoCaresIsToldOfTheCloseWithTheModelAndNotOfTheEndOfTh
     std::vector<QObject*> closing;
     told.willClose = [&](QObject& viewModel) { closing.push_back(&viewModel); };
     {
-        ManagedWindow window({engine, activation, preferences, screens, host, time}, fixed, told);
+        ManagedWindow window(environment, fixed, told);
         ASSERT_TRUE(window.show());
         window.close();
         window.close();

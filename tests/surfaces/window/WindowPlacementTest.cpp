@@ -25,6 +25,28 @@ TEST(WindowPlacement, AFrameUnderABarComesOutBelowIt) {
     EXPECT_EQ(onScreen(QRect(100, 0, 600, 400), kTwoScreens), QRect(100, 28, 600, 400));
 }
 
+TEST(WindowPlacement, AFrameIsDraggedAsAWhole) {
+    EXPECT_EQ(dragged({100, 100, 600, 400}, {}, {-30, 20}, {600, 400}, {600, 400}),
+              QRect(70, 120, 600, 400));
+}
+
+TEST(WindowPlacement, ADraggedEdgeLeavesTheOppositeOneWhereItIs) {
+    const QRect frame(100, 100, 600, 400);
+    const QSize greatest(5000, 5000);
+    EXPECT_EQ(dragged(frame, Qt::RightEdge | Qt::BottomEdge, {50, -60}, {}, greatest),
+              QRect(100, 100, 650, 340));
+    EXPECT_EQ(dragged(frame, Qt::LeftEdge, {50, 70}, {}, greatest), QRect(150, 100, 550, 400));
+    EXPECT_EQ(dragged(frame, Qt::TopEdge, {50, 70}, {}, greatest), QRect(100, 170, 600, 330));
+}
+
+TEST(WindowPlacement, ADraggedEdgeStopsAtTheLeastAndTheGreatestSize) {
+    const QRect frame(100, 100, 600, 400);
+    EXPECT_EQ(dragged(frame, Qt::LeftEdge, {900, 0}, {380, 356}, {700, 500}),
+              QRect(320, 100, 380, 400));
+    EXPECT_EQ(dragged(frame, Qt::BottomEdge, {0, 900}, {380, 356}, {700, 500}),
+              QRect(100, 100, 600, 500));
+}
+
 TEST(WindowPlacement, AFrameThatNoScreenShowsIsNone) {
     EXPECT_EQ(onScreen(QRect(4000, 100, 600, 400), kTwoScreens), std::nullopt);
     EXPECT_EQ(onScreen(QRect(0, 0, 600, 400), {}), std::nullopt);

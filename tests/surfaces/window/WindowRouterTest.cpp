@@ -2,6 +2,7 @@
 
 #include "fakes/FakePanelHost.h"
 #include "fakes/FakeScreens.h"
+#include "fakes/FakeWindowManager.h"
 #include "fakes/MemoryPreferences.h"
 #include "fakes/VirtualTime.h"
 #include "surfaces/window/ForegroundActivation.h"
@@ -27,12 +28,14 @@ protected:
 
     fakes::FakeScreens screens;
     fakes::FakePanelHost host;
+    fakes::FakeWindowManager manager;
     fakes::MemoryPreferences preferences;
     ForegroundActivation activation;
     SharedEngine engine;
     NotificationCenter notifications;
     fakes::VirtualTime time;
-    WindowRouter router{{engine, activation, preferences, screens, host, time, {}}, notifications};
+    WindowRouter router{{engine, activation, preferences, screens, host, manager, time, {}},
+                        notifications};
 };
 
 TEST_F(WindowRouterTest, AWindowThatNobodyRegisteredDoesNotOpen) {

@@ -1,0 +1,66 @@
+// The window manager of an X server, by EWMH.
+#pragma once
+
+#include "platform/WindowManager.h"
+#include "platform/x11/X11Connection.h"
+
+#include <QPointer>
+
+#include <xcb/xcb.h>
+
+#include <array>
+#include <optional>
+#include <vector>
+
+namespace vantle {
+
+/// Messages about a window go over Qt's own connection, so that they reach the window manager after
+/// the window itself; without one (another platform, a lost display) none are sent.
+///
+/// A window manager that comes, goes or is replaced is followed by the properties that it puts on
+/// the root window and by the end of its own window.
+class X11WindowManager final : public WindowManager {
+    Q_OBJECT
+
+public:
+    /// `x11` answers what is not about a window. It must outlive this.
+    explicit X11WindowManager(X11Connection& x11);
+
+    [[nodiscard]] bool canMinimise() const override { return m_canMinimise; }
+    void bringToUser(QWindow& window) override;
+
+private:
+    enum Atom : std::size_t {
+        Supported,
+        SupportingCheck,
+        Name,
+        StateHidden,
+        ActionMinimise,
+        ActiveWindow,
+        CurrentDesktop,
+        DesktopOfWindow,
+        AtomCount
+    };
+
+    void refresh();
+    void handleProperty(const xcb_property_notify_event_t& change);
+    [[nodiscard]] bool isThere();
+    [[nodiscard]] bool servesMinimise();
+    [[nodiscard]] std::vector<std::uint32_t> numbers(xcb_window_t window, Atom name);
+    void moveToCurrentDesktop(xcb_window_t window);
+    void askForTime();
+    void activate(xcb_timestamp_t time);
+    void send(xcb_window_t window, Atom name, const std::array<std::uint32_t, 5>& data);
+
+    X11Connection& m_x11;
+    std::array<xcb_atom_t, AtomCount> m_atoms{};
+    xcb_window_t m_check = XCB_NONE; ///< the window manager's own window
+    xcb_window_t m_clock = XCB_NONE; ///< a window of ours whose changes tell the server's time
+    std::vector<std::uint32_t> m_supported;
+    bool m_canMinimise = false;
+    QPointer<QWindow> m_activated; ///< waits for the server's time
+    X11Connection::Subscription m_properties;
+    X11Connection::Subscription m_ends;
+};
+
+} // namespace vantle

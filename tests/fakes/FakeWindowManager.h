@@ -1,0 +1,29 @@
+// A window manager that remembers what it was asked for.
+#pragma once
+
+#include "platform/WindowManager.h"
+
+#include <QPointer>
+
+#include <utility>
+
+namespace vantle::fakes {
+
+class FakeWindowManager final : public WindowManager {
+public:
+    [[nodiscard]] bool canMinimise() const override { return minimises; }
+    void bringToUser(QWindow& window) override {
+        brought = &window;
+        WindowManager::bringToUser(window);
+    }
+
+    /// Another window manager takes over.
+    void setMinimises(bool can) {
+        if (std::exchange(minimises, can) != can) Q_EMIT changed();
+    }
+
+    bool minimises = true;
+    QPointer<QWindow> brought; ///< the last one that was to come to the user
+};
+
+} // namespace vantle::fakes
