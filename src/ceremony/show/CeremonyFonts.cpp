@@ -30,14 +30,18 @@ void registerBundledFonts(const QStringList& resourceFolders) {
     }
 }
 
+QString titleFamily() {
+    for (const auto* family : {titlePostScriptName, titleFamilyName})
+        if (QFontDatabase::hasFamily(QLatin1String(family))) return QLatin1String(family);
+    return {};
+}
+
 QFont titleFont(double size) {
-    for (const auto* family : {titlePostScriptName, titleFamilyName}) {
-        if (!QFontDatabase::hasFamily(QLatin1String(family))) continue;
-        QFont font{QString(QLatin1String(family))};
-        font.setPixelSize(qRound(size));
-        return font;
-    }
-    return systemFont(size, QFont::ExtraBold);
+    const QString family = titleFamily();
+    if (family.isEmpty()) return systemFont(size, QFont::ExtraBold);
+    QFont font(family);
+    font.setPixelSize(qRound(size));
+    return font;
 }
 
 QFont captionFont(double size) { return systemFont(size, QFont::DemiBold); }

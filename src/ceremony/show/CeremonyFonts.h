@@ -1,4 +1,5 @@
-// The typefaces of the ceremony's two texts. Needs a QGuiApplication; any thread after registering.
+// The typefaces of the ceremony's two texts; the card after a session shares that of the title.
+// Needs a QGuiApplication; any thread after registering.
 #pragma once
 
 #include <QFont>
@@ -14,8 +15,11 @@ inline constexpr auto titleFamilyName = "Jersey 25";
 /// Without the file the title is set in the system's typeface. Once, at launch, main thread.
 void registerBundledFonts(const QStringList& resourceFolders);
 
-/// For the title, `size` in points of the screen (pixels at scale 1): the bundled typeface by
-/// either of its names, else the system's in a heavy weight.
+/// The family of the bundled typeface, which goes by either of its names; empty without it.
+[[nodiscard]] QString titleFamily();
+
+/// For the title, `size` in points of the screen (pixels at scale 1): the bundled typeface, else
+/// the system's in a heavy weight.
 [[nodiscard]] QFont titleFont(double size);
 
 /// For the caption: the system's typeface, semibold.

@@ -1,6 +1,7 @@
 #include "surfaces/cards/StopSummaryModel.h"
 
 #include "base/Text.h"
+#include "ceremony/show/CeremonyFonts.h"
 #include "tracking/DashFormat.h"
 
 #include <algorithm>
@@ -35,6 +36,8 @@ QString StopSummaryModel::describedResult(DurationStyle style) const {
             .arg(dashformat::sessionDuration(m_content.carrySeconds, style));
     return QStringLiteral("Added to your wall");
 }
+
+QString StopSummaryModel::durationFamily() { return ceremonyfonts::titleFamily(); }
 
 QString StopSummaryModel::firstSessionText() const {
     return m_content.isFirstSession ? QStringLiteral("Your first session is on the wall.")

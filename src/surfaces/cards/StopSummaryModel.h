@@ -18,6 +18,9 @@ class StopSummaryModel final : public QObject {
     QML_UNCREATABLE("Made by the controller.")
     /// The duration in words: figures and units take turns, figures first.
     Q_PROPERTY(QStringList durationWords READ durationWords CONSTANT)
+    /// The typeface of the duration, which it shares with the ceremony's title; empty for that of
+    /// the type scale.
+    Q_PROPERTY(QString durationFamily READ durationFamily CONSTANT)
     /// The same as one sentence with the skill, for assistive tools.
     Q_PROPERTY(QString durationLabel READ durationLabel CONSTANT)
     Q_PROPERTY(QString skillName READ skillName CONSTANT)
@@ -54,6 +57,7 @@ public:
                      DurationStyle style);
 
     [[nodiscard]] const QStringList& durationWords() const { return m_durationWords; }
+    [[nodiscard]] static QString durationFamily();
     [[nodiscard]] const QString& durationLabel() const { return m_durationLabel; }
     [[nodiscard]] const QString& skillName() const { return m_skill.name; }
     [[nodiscard]] QColor skillColor() const { return QColor::fromRgb(m_skill.hexRGB); }

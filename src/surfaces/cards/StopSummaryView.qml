@@ -32,6 +32,14 @@ CardSurface {
         y: DarkUI.space20 - DarkUI.space2
         width: parent.width - 2 * DarkUI.space20
 
+        DisplayRole {
+            id: figure
+            family: view.model.durationFamily
+            size: DarkUI.duration.size
+            line: DarkUI.duration.line
+            tracking: DarkUI.duration.tracking
+        }
+
         Row {
             height: DarkUI.duration.line
             spacing: DarkUI.duration.size * wordSpace
@@ -47,7 +55,7 @@ CardSurface {
                     required property string modelData
                     required property int index
                     text: modelData
-                    role: DarkUI.duration
+                    role: figure
                     color: index % 2 === 0 ? DarkUI.t1 : DarkUI.t3
                     Accessible.ignored: true
                 }

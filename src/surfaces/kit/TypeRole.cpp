@@ -10,10 +10,12 @@ namespace vantle {
 
 QFont TypeRole::font() const {
     const Typeface& face = m_display ? Typeface::display() : Typeface::text();
-    QFont font(face.family);
+    QFont font(m_family.isEmpty() ? face.family : m_family);
     font.setPixelSize(m_size);
-    font.setWeight(static_cast<QFont::Weight>(m_weight));
-    font.setLetterSpacing(QFont::AbsoluteSpacing, m_size * (m_tracking + face.tracking));
+    if (m_family.isEmpty()) {
+        font.setWeight(static_cast<QFont::Weight>(m_weight));
+        font.setLetterSpacing(QFont::AbsoluteSpacing, m_size * (m_tracking + face.tracking));
+    }
     if (m_capitals) font.setCapitalization(QFont::AllUppercase);
     font.setHintingPreference(QFont::PreferVerticalHinting);
     return font;

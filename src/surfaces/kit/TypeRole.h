@@ -11,6 +11,8 @@ namespace vantle {
 class TypeRole : public QObject {
     Q_OBJECT
     QML_ELEMENT
+    /// A family in place of the scale's own, in its normal weight and tracking; empty for none.
+    Q_PROPERTY(QString family MEMBER m_family NOTIFY changed)
     /// px
     Q_PROPERTY(int size MEMBER m_size NOTIFY changed)
     /// px from baseline to baseline
@@ -42,6 +44,7 @@ protected:
 
 private:
     bool m_display = false;
+    QString m_family;
     int m_size = 13;
     int m_line = 20;
     int m_weight = QFont::Normal;

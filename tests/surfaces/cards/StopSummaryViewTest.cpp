@@ -1,9 +1,18 @@
 // The card after a session under the person's hands.
+#include "ceremony/show/CeremonyFonts.h"
+#include "support/ShownItems.h"
 #include "support/Text.h"
 #include "surfaces/cards/CardViewWorld.h"
 #include "surfaces/cards/StopSummaryController.h"
 
 #include <QClipboard>
+#include <QDirIterator>
+#include <QFile>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -37,6 +46,69 @@ TEST_F(StopSummaryViewTest, TheCardIsAsLargeAsDesignedAndOnlyItFeelsThePointer) 
     const QRect felt = host.inputRegion.boundingRect().translated(window()->position());
     EXPECT_EQ(felt.topLeft(), QPoint(1440 - 12 - 380, 28 + 10));
     EXPECT_EQ(felt.size(), QSize(380, 263));
+}
+
+/// A typeface by the name of the bundled one, as long as this lives: the machine's fixed-width one,
+/// whose name happens to have as many letters.
+class BundledTypeface {
+public:
+    BundledTypeface() {
+        QFile font(fixedWidthFile());
+        QFile copy(m_folder.filePath(QLatin1String(ceremonyfonts::titleResourceName) +
+                                     QLatin1String(".ttf")));
+        if (!font.open(QIODevice::ReadOnly) || !copy.open(QIODevice::WriteOnly)) return;
+        QByteArray bytes = font.readAll();
+        const QString own = text("DejaVu Sans Mono");
+        const QString wanted = QLatin1String(ceremonyfonts::titlePostScriptName);
+        bytes.replace(own.toLatin1(), wanted.toLatin1());
+        bytes.replace(wide(own), wide(wanted));
+        copy.write(bytes);
+        copy.close();
+        ceremonyfonts::registerBundledFonts({m_folder.path()});
+    }
+    ~BundledTypeface() { QFontDatabase::removeAllApplicationFonts(); }
+
+private:
+    static QString fixedWidthFile() {
+        for (const QString& folder :
+             QStandardPaths::standardLocations(QStandardPaths::FontsLocation)) {
+            QDirIterator files(folder, {text("DejaVuSansMono.ttf")}, QDir::Files,
+                               QDirIterator::Subdirectories);
+            if (files.hasNext()) return files.next();
+        }
+        return {};
+    }
+    static QByteArray wide(const QString& name) {
+        QByteArray bytes;
+        for (const QChar letter : name)
+            bytes.append('\0').append(letter.toLatin1());
+        return bytes;
+    }
+    QTemporaryDir m_folder;
+};
+
+TEST_F(StopSummaryViewTest, DurationIsSetInTheTypefaceOfTheCeremonysTitle) {
+    const auto fontOf = [](const QString& words) {
+        QQuickItem* const item = shownItem(window()->rootObject(), [&](const QQuickItem& one) {
+            return one.property("text").toString() == words;
+        });
+        return item ? item->property("font").value<QFont>() : QFont();
+    };
+    show();
+    const QFont plain = fontOf(text("38"));
+    EXPECT_EQ(plain.pixelSize(), 40);
+    EXPECT_EQ(plain.weight(), QFont::DemiBold);
+    press(Qt::Key_Escape);
+
+    const BundledTypeface typeface;
+    ASSERT_EQ(ceremonyfonts::titleFamily(), QLatin1String(ceremonyfonts::titlePostScriptName));
+    show();
+    const QFont figure = fontOf(text("38"));
+    EXPECT_EQ(QFontInfo(figure).family(), ceremonyfonts::titleFamily());
+    EXPECT_EQ(figure.pixelSize(), 40);
+    EXPECT_EQ(figure.weight(), QFont::Normal) << "its own weight, not smeared";
+    EXPECT_EQ(fontOf(text("min")), figure);
+    EXPECT_NE(fontOf(text("Added to your wall")).family(), figure.family());
 }
 
 TEST_F(StopSummaryViewTest, TheKeyboardIsAskedForByAClickIntoTheField) {
