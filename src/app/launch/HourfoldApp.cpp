@@ -34,12 +34,13 @@ namespace {
 
 constexpr int kNoDesktop = 69; // EX_UNAVAILABLE
 
-void alertAlreadyRunning() {
+void alertAlreadyRunning(PanelHost& host) {
     (void)modalpresenter::runAlert(
         {QStringLiteral("Vantle is already running"),
          QStringLiteral("Another copy of Vantle is already using this Mac's data. This one will "
                         "close so your history stays safe."),
-         {QStringLiteral("OK")}});
+         {QStringLiteral("OK")}},
+        host);
 }
 
 /// Whether the desktop started the program unasked: at login, or for a call over the bus. The mark
@@ -81,7 +82,10 @@ AppInstaller::Place thisProgram(Platform& platform) {
 }
 
 AppInstaller::Operations installOperations(Platform& platform) {
-    return {.runAlert = [](const Alert& alert) { return modalpresenter::runAlert(alert); },
+    return {.runAlert =
+                [&platform](const Alert& alert) {
+                    return modalpresenter::runAlert(alert, platform.panelHost());
+                },
             .moveToTrash = [&platform](const QString& path) { return platform.moveToTrash(path); },
             .reveal = [&platform](const QString& path) { platform.reveal(path); },
             .start =
@@ -199,7 +203,7 @@ AppDelegate::Environment environmentOn(Ground& ground, bool startedUnasked, cons
                     return ground.installer.offerMoveToApplicationsIfNeeded() || isEnding;
                 },
             .terminate = [] { QCoreApplication::quit(); },
-            .alertAlreadyRunning = alertAlreadyRunning,
+            .alertAlreadyRunning = [&platform] { alertAlreadyRunning(platform.panelHost()); },
             .startedUnasked = startedUnasked};
 }
 

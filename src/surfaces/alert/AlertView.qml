@@ -4,14 +4,14 @@ import QtQuick
 import Vantle.Alert
 import Vantle.Kit
 
-Rectangle {
+FocusScope {
     id: view
 
     required property AlertModel model
 
     implicitWidth: DarkUI.cardWidth
-    implicitHeight: texts.height + buttonRow.height + 3 * DarkUI.space20
-    color: DarkUI.base
+    implicitHeight: texts.y + texts.height + buttonRow.height + 2 * DarkUI.space20
+    focus: true
 
     Accessible.role: Accessible.AlertMessage
     Accessible.name: view.model.message
@@ -22,7 +22,7 @@ Rectangle {
     Column {
         id: texts
         x: DarkUI.space20
-        y: DarkUI.space20
+        y: DarkUI.space6
         width: parent.width - 2 * DarkUI.space20
         spacing: DarkUI.space8
 

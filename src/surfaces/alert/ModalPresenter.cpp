@@ -1,12 +1,13 @@
 #include "surfaces/alert/ModalPresenter.h"
 
+#include "platform/PanelHost.h"
 #include "surfaces/alert/AlertModel.h"
-#include "surfaces/kit/ApplicationIcon.h"
+#include "surfaces/window/WindowKind.h"
+#include "surfaces/window/WindowShell.h"
 
 #include <QEventLoop>
 #include <QGuiApplication>
-#include <QQuickItem>
-#include <QQuickView>
+#include <QQmlEngine>
 #include <QScreen>
 #include <QThread>
 
@@ -14,52 +15,43 @@ namespace vantle::modalpresenter {
 
 namespace {
 
-/// Tells the model when the person closes the window.
-class AlertWindow final : public QQuickView {
-public:
-    explicit AlertWindow(AlertModel& model) : m_model(model) {}
-
-protected:
-    bool event(QEvent* event) override {
-        if (event->type() == QEvent::Close) m_model.dismiss();
-        return QQuickView::event(event);
-    }
-
-private:
-    AlertModel& m_model;
-};
-
 QPoint centered(const QSize& size, const QRect& area) {
     return {area.x() + (area.width() - size.width()) / 2,
             area.y() + (area.height() - size.height()) / 2};
 }
 
-int runOnMainThread(const Alert& alert) {
-    AlertModel model;
+int runOnMainThread(const Alert& alert, PanelHost& host) {
+    auto owned = std::make_unique<AlertModel>();
+    AlertModel& model = *owned;
     model.message = alert.message;
     model.informativeText = alert.informativeText;
     model.buttons = alert.buttons;
 
-    AlertWindow window(model);
-    window.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    window.setInitialProperties({{QStringLiteral("model"), QVariant::fromValue(&model)}});
-    window.setSource(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Alert/AlertView.qml")));
-
+    const auto engine = std::make_shared<QQmlEngine>();
+    engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    WindowRules rules;
+    rules.title = QStringLiteral("Vantle");
+    WindowShell window(engine);
     int chosen = static_cast<int>(alert.buttons.size()) - 1;
-    if (window.status() != QQuickView::Ready) return chosen;
+    if (!window.load(rules, QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Alert/AlertView.qml")),
+                     std::move(owned), host.isComposited()))
+        return chosen;
+    window.setMinimisable(false); // the rest of the program waits for the answer
+    QObject::connect(&host, &PanelHost::compositedChanged, &window,
+                     [&] { window.setRounded(host.isComposited()); });
+    QObject::connect(&window, &WindowShell::closeRequested, &model, &AlertModel::dismiss);
     QEventLoop loop;
     QObject::connect(&model, &AlertModel::chosen, &loop, [&](int index) {
         chosen = index;
         loop.quit();
     });
-    window.setTitle(QStringLiteral("Vantle"));
-    window.setIcon(applicationIcon());
-    window.setFlags(Qt::Dialog | Qt::WindowStaysOnTopHint);
-    // The rest of the program waits for the answer.
+    window.setTitle(rules.title);
+    window.setFlags(window.flags() | Qt::Dialog | Qt::WindowStaysOnTopHint);
     window.setModality(Qt::ApplicationModal);
-    window.setMinimumSize(window.size());
-    window.setMaximumSize(window.size());
-    window.setPosition(centered(window.size(), window.screen()->availableGeometry()));
+    const QSize size = window.fittingSize();
+    window.setMinimumSize(size);
+    window.setMaximumSize(size);
+    window.setGeometry(QRect(centered(size, window.screen()->availableGeometry()), size));
     window.show();
     window.requestActivate();
     loop.exec();
@@ -68,11 +60,11 @@ int runOnMainThread(const Alert& alert) {
 
 } // namespace
 
-int runAlert(const Alert& alert) {
-    if (QThread::currentThread() == qApp->thread()) return runOnMainThread(alert);
+int runAlert(const Alert& alert, PanelHost& host) {
+    if (QThread::currentThread() == qApp->thread()) return runOnMainThread(alert, host);
     int chosen = 0;
     QMetaObject::invokeMethod(
-        qApp, [&] { chosen = runOnMainThread(alert); }, Qt::BlockingQueuedConnection);
+        qApp, [&] { chosen = runOnMainThread(alert, host); }, Qt::BlockingQueuedConnection);
     return chosen;
 }
 

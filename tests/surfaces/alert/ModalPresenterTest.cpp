@@ -1,11 +1,16 @@
 #include "surfaces/alert/ModalPresenter.h"
 
+#include "fakes/FakePanelHost.h"
+#include "support/ShownItems.h"
+#include "support/Text.h"
+
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QQuickItem>
-#include <QQuickView>
+#include <QQuickWindow>
+#include <QTest>
 #include <QThread>
 #include <QTimer>
 
@@ -15,11 +20,13 @@ namespace vantle {
 namespace {
 
 /// What a person does with the alert, once its window is up.
-int runWhile(const std::function<void(QQuickView&)>& person) {
+int runWhile(const std::function<void(QQuickWindow&)>& person, bool composited = true) {
+    fakes::FakePanelHost host;
+    host.composited = composited;
     QTimer glance;
     QObject::connect(&glance, &QTimer::timeout, [&] {
         for (QWindow* window : QGuiApplication::topLevelWindows())
-            if (auto* view = qobject_cast<QQuickView*>(window); view && view->isVisible()) {
+            if (auto* view = qobject_cast<QQuickWindow*>(window); view && view->isVisible()) {
                 glance.stop();
                 person(*view);
                 return;
@@ -28,41 +35,69 @@ int runWhile(const std::function<void(QQuickView&)>& person) {
     glance.start(5);
     return modalpresenter::runAlert({QStringLiteral("Something happened"),
                                      QStringLiteral("It means this."),
-                                     {QStringLiteral("Replace"), QStringLiteral("Cancel")}});
+                                     {QStringLiteral("Replace"), QStringLiteral("Cancel")}},
+                                    host);
 }
 
-void press(QQuickView& view, Qt::Key key) {
+void press(QQuickWindow& view, Qt::Key key) {
     for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
         QCoreApplication::postEvent(&view, new QKeyEvent(type, key, Qt::NoModifier));
 }
 
 TEST(ModalPresenter, ReturnChoosesTheMainButton) {
-    EXPECT_EQ(runWhile([](QQuickView& view) { press(view, Qt::Key_Return); }), 0);
+    EXPECT_EQ(runWhile([](QQuickWindow& view) { press(view, Qt::Key_Return); }), 0);
 }
 
 TEST(ModalPresenter, EscapeChoosesTheLastButton) {
-    EXPECT_EQ(runWhile([](QQuickView& view) { press(view, Qt::Key_Escape); }), 1);
+    EXPECT_EQ(runWhile([](QQuickWindow& view) { press(view, Qt::Key_Escape); }), 1);
 }
 
 TEST(ModalPresenter, ClosingTheWindowChoosesTheLastButton) {
-    EXPECT_EQ(runWhile([](QQuickView& view) { view.close(); }), 1);
+    EXPECT_EQ(runWhile([](QQuickWindow& view) { view.close(); }), 1);
 }
 
 TEST(ModalPresenter, TabReachesTheOtherButton) {
-    EXPECT_EQ(runWhile([](QQuickView& view) {
+    EXPECT_EQ(runWhile([](QQuickWindow& view) {
                   press(view, Qt::Key_Tab);
                   press(view, Qt::Key_Space);
               }),
               1);
 }
 
+TEST(ModalPresenter, StandsInTheProgramsOwnFrame) {
+    const int chosen = runWhile([](QQuickWindow& view) {
+        EXPECT_TRUE(view.flags().testFlag(Qt::FramelessWindowHint));
+        EXPECT_EQ(tests::shownControl(view, tests::text("Minimise")), nullptr);
+        const QImage picture = view.grabWindow();
+        EXPECT_NE(picture.pixelColor(1, 1).name(), tests::text("#0a0a0f")) << "round corners";
+        EXPECT_EQ(picture.pixelColor(picture.width() / 2, 12).name(), tests::text("#0a0a0f"));
+        QQuickItem* const close = tests::shownControl(view, tests::text("Close"));
+        ASSERT_NE(close, nullptr);
+        const QPoint place = close->mapToScene({close->width() / 2, close->height() / 2}).toPoint();
+        EXPECT_GT(place.x(), view.width() - 40);
+        EXPECT_LT(place.y(), 40);
+        QTest::mouseClick(&view, Qt::LeftButton, {}, place);
+    });
+    EXPECT_EQ(chosen, 1);
+}
+
+TEST(ModalPresenter, CornersAreSquareWithoutACompositor) {
+    (void)runWhile(
+        [](QQuickWindow& view) {
+            EXPECT_EQ(view.grabWindow().pixelColor(1, 1).name(), tests::text("#0a0a0f"));
+            press(view, Qt::Key_Escape);
+        },
+        false);
+}
+
 TEST(ModalPresenter, OffTheMainThreadTheQuestionIsAskedOnIt) {
+    fakes::FakePanelHost host;
     const QThread* askedOn = nullptr;
     int chosen = -1;
     QTimer glance;
     QObject::connect(&glance, &QTimer::timeout, [&] {
         for (QWindow* window : QGuiApplication::topLevelWindows())
-            if (auto* view = qobject_cast<QQuickView*>(window); view && view->isVisible()) {
+            if (auto* view = qobject_cast<QQuickWindow*>(window); view && view->isVisible()) {
                 askedOn = view->thread();
                 press(*view, Qt::Key_Escape);
             }
@@ -71,7 +106,8 @@ TEST(ModalPresenter, OffTheMainThreadTheQuestionIsAskedOnIt) {
     const std::unique_ptr<QThread> worker(QThread::create([&] {
         chosen = modalpresenter::runAlert({QStringLiteral("Something happened"),
                                            QStringLiteral("It means this."),
-                                           {QStringLiteral("Replace"), QStringLiteral("Cancel")}});
+                                           {QStringLiteral("Replace"), QStringLiteral("Cancel")}},
+                                          host);
     }));
     QEventLoop loop;
     QObject::connect(worker.get(), &QThread::finished, &loop, &QEventLoop::quit);
