@@ -9,6 +9,7 @@
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11PanelHost.h"
+#include "platform/x11/X11RawPresses.h"
 #include "surfaces/capsule/CapsuleWindow.h"
 
 #include <QGuiApplication>
@@ -45,7 +46,8 @@ int run() {
     const Moving motion;
     const CapsuleText text;
     X11Connection x11;
-    X11PanelHost host(x11);
+    X11RawPresses presses(x11);
+    X11PanelHost host(x11, scheduler, presses);
     QQmlEngine engine;
     engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     const ScreenShape screen{.frame = QRectF(0, 0, 1440, 900),

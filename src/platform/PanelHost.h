@@ -10,7 +10,8 @@
 
 namespace vantle {
 
-/// A part of the screen that feels the pointer with nothing to be seen there; until destroyed.
+/// A part of the screen that is watched for the pointer, with nothing to be seen there; until
+/// destroyed.
 class PointerSensor {
 public:
     virtual ~PointerSensor() = default;
@@ -43,11 +44,13 @@ public:
     /// again after the window was shown or resized.
     virtual void setInputRegion(QWindow&, const QRegion&) {}
 
-    /// Calls `entered` when the pointer comes into that part of the screen, in px of the desktop,
-    /// or is in it already. For desktops without a compositor, where no window can be invisible;
-    /// null where there is no such thing. Must not outlive the host.
-    [[nodiscard]] virtual std::unique_ptr<PointerSensor>
-    senseAt(const QRect& /*part*/, std::function<void()> /*entered*/) {
+    /// Calls `rested` when the pointer has come to rest in that part of the screen, in px of the
+    /// desktop, or rests there already; once for each visit, never within this call. Presses go to
+    /// what lies there, and what is pressed there, or dragged there, calls nothing for the rest of
+    /// the visit. A server that can't tell of all that calls at the arrival and takes the presses.
+    /// Null where there is no such thing. Must not outlive the host.
+    [[nodiscard]] virtual std::unique_ptr<PointerSensor> senseAt(const QRect& /*part*/,
+                                                                 std::function<void()> /*rested*/) {
         return nullptr;
     }
 

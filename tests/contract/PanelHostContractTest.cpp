@@ -15,6 +15,8 @@ namespace {
 using tests::await;
 using tests::text;
 
+constexpr int kLongerThanARest = 700; // ms, that of X11RestSensor and what it looks after
+
 /// A desktop with a pointer, an application in front, and a compositor that comes and goes.
 class HostWorld {
 public:
@@ -23,6 +25,8 @@ public:
     virtual void startCompositor() = 0;
     virtual void endCompositor() = 0;
     virtual void movePointer(QPoint place) = 0;
+    /// Presses the first button where the pointer is, or lets it go.
+    virtual void setButtonDown(bool isDown) = 0;
     /// Whether the keyboard is with the window.
     [[nodiscard]] virtual bool hasKeyboard(QWindow& window) = 0;
 };
@@ -34,6 +38,7 @@ public:
     void startCompositor() override { m_host.setComposited(true); }
     void endCompositor() override { m_host.setComposited(false); }
     void movePointer(QPoint place) override { m_host.movePointer(place); }
+    void setButtonDown(bool isDown) override { m_host.setButtonDown(isDown); }
     [[nodiscard]] bool hasKeyboard(QWindow& window) override {
         return m_host.keyboardOwner == &window;
     }
@@ -66,6 +71,9 @@ public:
         m_compositor.waitForFinished();
     }
     void movePointer(QPoint place) override { QCursor::setPos(place); }
+    void setButtonDown(bool isDown) override {
+        EXPECT_TRUE(tests::run(isDown ? text("xdotool mousedown 1") : text("xdotool mouseup 1")));
+    }
     [[nodiscard]] bool hasKeyboard(QWindow& window) override { return focus() == window.winId(); }
 
 private:
@@ -76,7 +84,9 @@ private:
     }
 
     X11Connection m_x11;
-    X11PanelHost m_host{m_x11};
+    QtScheduler m_scheduler;
+    X11RawPresses m_presses{m_x11};
+    X11PanelHost m_host{m_x11, m_scheduler, m_presses};
     QWindow m_below;
     QProcess m_compositor;
 };
@@ -139,42 +149,60 @@ TEST_P(PanelHostContract, ReturnsNothingThatIsAnothersByNow) {
     host().returnKeyboard(*other);
 }
 
-TEST_P(PanelHostContract, SensorTellsOfEachArrivalUntilItIsGone) {
-    int entered = 0;
-    auto sensor = host().senseAt({600, 0, 230, 10}, [&] { ++entered; });
+TEST_P(PanelHostContract, SensorTellsOfEachRestUntilItIsGone) {
+    int rested = 0;
+    auto sensor = host().senseAt({600, 0, 230, 10}, [&] { ++rested; });
     ASSERT_TRUE(sensor);
-    EXPECT_EQ(entered, 0);
+    EXPECT_EQ(rested, 0);
     for (int i = 1; i <= 2; ++i) {
         world().movePointer({700, 5});
-        EXPECT_TRUE(await([&] { return entered == i; }));
+        EXPECT_TRUE(await([&] { return rested == i; }));
         world().movePointer({705, 6}); // still in it
+        tests::runFor(kLongerThanARest);
         world().movePointer({700, 400});
-        tests::runFor(50);
+        tests::runFor(kLongerThanARest);
     }
-    EXPECT_EQ(entered, 2);
+    EXPECT_EQ(rested, 2);
     sensor.reset();
     world().movePointer({700, 5});
-    tests::runFor(50);
-    EXPECT_EQ(entered, 2);
+    tests::runFor(kLongerThanARest);
+    EXPECT_EQ(rested, 2);
 }
 
 TEST_P(PanelHostContract, SensorFeelsAPointerThatIsThereAlready) {
     world().movePointer({700, 5});
-    int entered = 0;
-    const auto sensor = host().senseAt({600, 0, 230, 10}, [&] { ++entered; });
-    EXPECT_EQ(entered, 0) << "not within the call";
-    EXPECT_TRUE(await([&] { return entered == 1; }));
+    tests::runFor(kLongerThanARest);
+    int rested = 0;
+    const auto sensor = host().senseAt({600, 0, 230, 10}, [&] { ++rested; });
+    EXPECT_EQ(rested, 0) << "not within the call";
+    EXPECT_TRUE(await([&] { return rested == 1; }));
+}
+
+TEST_P(PanelHostContract, SensorSaysNothingWhileAButtonIsDown) {
+    int rested = 0;
+    const auto sensor = host().senseAt({600, 0, 230, 10}, [&] { ++rested; });
+    world().movePointer({700, 400});
+    world().setButtonDown(true);
+    world().movePointer({700, 5});
+    tests::runFor(2 * kLongerThanARest);
+    world().setButtonDown(false);
+    tests::runFor(2 * kLongerThanARest);
+    EXPECT_EQ(rested, 0) << "what was dragged there was for what lies there";
+    world().movePointer({700, 400});
+    tests::runFor(kLongerThanARest);
+    world().movePointer({700, 5});
+    EXPECT_TRUE(await([&] { return rested == 1; }));
 }
 
 TEST_P(PanelHostContract, SensorMayGoInItsOwnCall) {
     std::unique_ptr<PointerSensor> sensor;
-    int entered = 0;
+    int rested = 0;
     sensor = host().senseAt({600, 0, 230, 10}, [&] {
         sensor.reset();
-        ++entered;
+        ++rested;
     });
     world().movePointer({700, 5});
-    EXPECT_TRUE(await([&] { return entered == 1; }));
+    EXPECT_TRUE(await([&] { return rested == 1; }));
 }
 
 } // namespace

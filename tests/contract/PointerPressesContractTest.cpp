@@ -38,7 +38,8 @@ public:
 
 private:
     X11Connection m_x11;
-    X11PointerPresses m_presses{m_x11};
+    X11RawPresses m_raw{m_x11};
+    X11PointerPresses m_presses{m_raw};
 };
 
 class PointerPressesContract : public contract::Contract<PressesWorld> {

@@ -23,6 +23,9 @@ BESIDE_THE_CHIPS = (60, 30)
 BESIDE_THE_CAPSULE = (-230, 100)
 MENU_RENAME = (-60, 106)
 
+BAR_HEIGHT = 26  # px
+PRESS = b"\x1b[M "  # as a terminal reports presses to what runs in it
+
 DESIGN = "product_design"
 
 
@@ -187,6 +190,117 @@ class LetsThrough(CapsuleTest):
         wait_until("the typed line", lambda: typed.read_text() == "below\n")
         self.assertEqual(self.vantle.sessions(), [])
         self.assertIsNone(self.vantle.marker())
+
+
+class LetsPressesThrough(CapsuleTest):
+    """Over a window on the whole screen, which writes down what it gets."""
+
+    tray_kind = CapsuleTest.NO_TRAY  # the window covers it
+
+    def setUp(self):
+        super().setUp()
+        self._got = self.desktop.directory / "got"
+        self.desktop.open("xterm", "-T", "whole", "-fullscreen", "-bg", f"#{bytes(GROUND).hex()}",
+                          "-e", "sh", "-c",
+                          f"printf '\\033[?1000h'; stty -echo raw; exec cat >{self._got}")
+        wait_until("the window", self._got.exists)
+        wait_until("the window at the top edge",
+                   lambda: set(self.desktop.picture(MIDDLE, 4, 1, 1).colours()) == {GROUND})
+
+    def presses(self):
+        return self._got.read_bytes().count(PRESS)
+
+    def arrive(self, *then):
+        """The pointer comes from below, and that happens without a moment between."""
+        self.turn_away()
+        time.sleep(0.4)  # until it has been seen there
+        self.desktop.tool("xdotool", "mousemove", str(MIDDLE + STRIP[0]), str(STRIP[1]), *then)
+
+    def test_a_press_at_the_top_edge_is_for_the_window_there(self):
+        self.launch()
+        for count in range(1, 4):
+            self.arrive("click", "1")
+            wait_until("the press in the window", lambda: self.presses() == count, deadline=3)
+        time.sleep(1)
+        self.assertFalse(self.is_open(), "the pointer is there for the window")
+        self.desktop.tool("xdotool", "click", "1")
+        wait_until("another press", lambda: self.presses() == 4, deadline=3)
+        self.assertIsNone(self.vantle.marker())
+        self.turn_away()
+        time.sleep(0.4)
+        self.open_capsule()
+
+    def test_no_press_is_lost_while_it_opens(self):
+        self.launch()
+        delays = (0, 0.01, 0.03, 0.1, 0.2, 0.25, 0.28, 0.3, 0.31, 0.32, 0.33, 0.35, 0.38, 0.42,
+                  0.5, 0.7)
+        for count, delay in enumerate(delays, 1):
+            pause = ("sleep", str(delay)) if delay else ()
+            self.arrive(*pause, "click", "1")
+            wait_until(f"the press after {delay} s", lambda: self.heard() == count, deadline=5)
+            self.turn_away()
+            wait_until("a closed capsule", lambda: not self.is_open())
+
+    def heard(self):
+        """How many presses have come about, in the window or in the capsule."""
+        running = self.vantle.marker() is not None
+        return self.presses() + 2 * len(self.vantle.sessions()) + running
+
+    def test_with_a_button_down_it_stays_closed(self):
+        self.launch()
+        self.desktop.tool("xdotool", "mousemove", "400", "700", "mousedown", "1")
+        self.desktop.tool("xdotool", "mousemove", str(MIDDLE), str(STRIP[1]))
+        time.sleep(1)
+        self.assertFalse(self.is_open())
+        self.desktop.tool("xdotool", "mouseup", "1")
+        time.sleep(1)
+        self.assertFalse(self.is_open(), "something was dropped there")
+
+
+class LetsPressesThroughSquare(LetsPressesThrough):
+
+    compositor = False
+
+
+class BelowABar(CapsuleTest):
+    """The bar keeps its part of the screen for itself, as it tells the window manager."""
+
+    tray_kind = CapsuleTest.NO_TRAY
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.open("trayer", "--edge", "top", "--align", "center", "--widthtype", "percent",
+                          "--width", "100", "--height", str(BAR_HEIGHT), "--SetDockType", "true",
+                          "--SetPartialStrut", "true", "--expand", "false")
+        wait_until("the bar", lambda: self.bar_row(0) != {GROUND})
+        time.sleep(0.5)  # until the window manager has made room for it
+
+    def bar_row(self, y):
+        return set(self.desktop.picture(MIDDLE - 270, y, 540, 1).colours())
+
+    def test_it_opens_below_the_bar_and_closes_behind_the_pointer(self):
+        self.launch()
+        bar = [self.bar_row(y) for y in range(BAR_HEIGHT)]
+        self.open_capsule()
+        self.desktop.screenshot("below-the-bar")
+        self.assertTrue([self.bar_row(y) for y in range(BAR_HEIGHT)] == bar, "the bar is as it was")
+        self.assertTrue(is_near(next(self.desktop.picture(MIDDLE, BAR_HEIGHT + 2, 1, 1).pixels()),
+                                BLACK, 2))
+        time.sleep(1)
+        self.assertTrue(self.is_open(), "the pointer rests on the bar")
+        self.point_at((500, 4))  # along the bar
+        wait_until("a closed capsule", lambda: not self.is_open())
+        self.open_capsule()
+        self.point_at((0, 60))  # into the capsule
+        time.sleep(1)
+        self.assertTrue(self.is_open())
+        self.click((60, BAR_HEIGHT + 30))
+        wait_until("a session", self.vantle.marker)
+
+
+class BelowABarSquare(BelowABar):
+
+    compositor = False
 
 
 class Works(CapsuleTest):

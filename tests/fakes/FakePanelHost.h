@@ -21,8 +21,9 @@ public:
     }
     void setInputRegion(QWindow&, const QRegion& region) override { inputRegion = region; }
     [[nodiscard]] std::unique_ptr<PointerSensor> senseAt(const QRect& part,
-                                                         std::function<void()> entered) override {
-        sensor = Sensor{part, std::move(entered)};
+                                                         std::function<void()> rested) override {
+        if (!senses) return nullptr;
+        sensor = Sensor{part, std::move(rested)};
         // As a server tells it: later.
         if (part.contains(pointer))
             QMetaObject::invokeMethod(
@@ -38,20 +39,23 @@ public:
     void setComposited(bool isThere) {
         if (std::exchange(composited, isThere) != isThere) Q_EMIT compositedChanged();
     }
-    /// The user moves the pointer there.
+    /// The user moves the pointer there, and rests.
     void movePointer(QPoint place) {
         const QPoint before = std::exchange(pointer, place);
         if (sensor && !sensor->part.contains(before)) tellSensor();
     }
+    /// Holds a button, or lets it go, where the pointer is.
+    void setButtonDown(bool isDown) { buttonIsDown = isDown; }
 
     struct Sensor {
         QRect part;
-        std::function<void()> entered;
+        std::function<void()> rested;
     };
     std::optional<Sensor> sensor; ///< the one that there is
     bool composited = true;
     bool inputRegions = true;
     bool pointerIsTold = true;
+    bool senses = true;               ///< parts of the screen can be watched for the pointer
     std::set<const QWindow*> marked;  ///< as floating, before their first show
     QRegion inputRegion;              ///< of the window that set one last
     QWindow* keyboardOwner = nullptr; ///< null while the keyboard is with the application below
@@ -64,12 +68,13 @@ private:
     };
 
     void tellSensor() {
-        if (!sensor || !sensor->part.contains(pointer)) return;
-        const auto entered = sensor->entered; // the sensor may go meanwhile
-        entered();
+        if (!sensor || buttonIsDown || !sensor->part.contains(pointer)) return;
+        const auto rested = sensor->rested; // the sensor may go meanwhile
+        rested();
     }
 
     QPoint pointer{-1000, -1000};
+    bool buttonIsDown = false;
 };
 
 } // namespace vantle::fakes

@@ -28,7 +28,8 @@ protected:
     }
 
     X11Connection x11;
-    X11PointerPresses presses{x11};
+    X11RawPresses raw{x11};
+    X11PointerPresses presses{raw};
     std::vector<QPoint> places;
 };
 
@@ -64,7 +65,8 @@ TEST_F(X11PointerPressesTest, NothingIsToldWhileNobodyWatches) {
 
 TEST(X11PointerPresses, WithoutAServerNothingIsTold) {
     X11Connection nowhere(":no-such-server");
-    X11PointerPresses presses(nowhere);
+    X11RawPresses raw(nowhere);
+    X11PointerPresses presses(raw);
     presses.watch();
     presses.ignore();
     EXPECT_FALSE(nowhere.isAlive());

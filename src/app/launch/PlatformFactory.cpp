@@ -27,6 +27,7 @@
 #include "platform/x11/X11IdleSource.h"
 #include "platform/x11/X11PanelHost.h"
 #include "platform/x11/X11PointerPresses.h"
+#include "platform/x11/X11RawPresses.h"
 #include "platform/x11/X11ScreenPower.h"
 #include "platform/x11/X11WindowManager.h"
 #include "platform/x11/XwaylandTraits.h"
@@ -98,9 +99,10 @@ public:
                       configHome() + QStringLiteral("/autostart/local.vantle.Vantle.desktop"),
                       QCoreApplication::applicationFilePath())
         , m_trayItem(m_session, !m_xwayland.isXwayland)
-        , m_panelHost(m_x11, m_xwayland)
+        , m_rawPresses(m_x11)
+        , m_panelHost(m_x11, scheduler, m_rawPresses, m_xwayland)
         , m_windowManager(m_x11)
-        , m_pointerPresses(m_x11)
+        , m_pointerPresses(m_rawPresses)
         , m_languageModel(m_files, configHome() + QStringLiteral("/Vantle/language-model.conf"),
                           scheduler)
         , m_saveDialog(m_session, m_qtSaveDialog)
@@ -169,6 +171,7 @@ private:
     DesktopAutostart m_autostart;
     DesktopTrayItem m_trayItem;
     QtScreens m_screens;
+    X11RawPresses m_rawPresses;
     X11PanelHost m_panelHost;
     X11WindowManager m_windowManager;
     X11PointerPresses m_pointerPresses;

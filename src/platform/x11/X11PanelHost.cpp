@@ -7,7 +7,6 @@
 #include <xcb/shape.h>
 #include <xcb/xfixes.h>
 
-#include <array>
 #include <utility>
 #include <vector>
 
@@ -37,50 +36,26 @@ void remap(xcb_connection_t* connection, xcb_window_t window) {
 }
 
 /// The edges in pixels of the device, of which one of ours may be several.
-xcb_rectangle_t toDevice(const QRect& rect, double ratio) {
+QRect toDevice(const QRect& rect, double ratio) {
     const int left = qRound(rect.x() * ratio);
     const int top = qRound(rect.y() * ratio);
     const int right = qRound((rect.x() + rect.width()) * ratio);
     const int bottom = qRound((rect.y() + rect.height()) * ratio);
-    return {static_cast<std::int16_t>(left), static_cast<std::int16_t>(top),
-            static_cast<std::uint16_t>(right - left), static_cast<std::uint16_t>(bottom - top)};
+    return {left, top, right - left, bottom - top};
 }
 
-/// An unmanaged window that has no picture at all.
-class X11PointerSensor final : public PointerSensor {
-public:
-    X11PointerSensor(X11Connection& x11, const xcb_rectangle_t& place,
-                     std::function<void()> entered)
-        : m_x11(x11)
-        , m_window(xcb_generate_id(x11.xcb()))
-        , m_entered(x11.subscribe(XCB_ENTER_NOTIFY, [window = m_window, tell = std::move(entered)](
-                                                        const xcb_generic_event_t& event) {
-            const auto& enter = reinterpret_cast<const xcb_enter_notify_event_t&>(event);
-            if (enter.event == window) tell();
-        })) {
-        const std::array<std::uint32_t, 2> values = {1, XCB_EVENT_MASK_ENTER_WINDOW};
-        xcb_create_window(x11.xcb(), XCB_COPY_FROM_PARENT, m_window, x11.root(), place.x, place.y,
-                          place.width, place.height, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
-                          XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK,
-                          values.data());
-        xcb_map_window(x11.xcb(), m_window);
-        x11.flush();
-    }
-    ~X11PointerSensor() override {
-        xcb_destroy_window(m_x11.xcb(), m_window);
-        m_x11.flush();
-    }
-
-private:
-    X11Connection& m_x11;
-    xcb_window_t m_window;
-    X11Connection::Subscription m_entered;
-};
+xcb_rectangle_t toXcb(const QRect& rect) {
+    return {static_cast<std::int16_t>(rect.x()), static_cast<std::int16_t>(rect.y()),
+            static_cast<std::uint16_t>(rect.width()), static_cast<std::uint16_t>(rect.height())};
+}
 
 } // namespace
 
-X11PanelHost::X11PanelHost(X11Connection& x11, const XwaylandTraits& xwayland)
+X11PanelHost::X11PanelHost(X11Connection& x11, Scheduler& scheduler, X11RawPresses& presses,
+                           const XwaylandTraits& xwayland)
     : m_x11(x11)
+    , m_scheduler(scheduler)
+    , m_presses(presses)
     , m_xwayland(xwayland) {
     if (m_xwayland.isXwayland)
         m_composited = true;
@@ -140,7 +115,7 @@ void X11PanelHost::setInputRegion(QWindow& window, const QRegion& region) {
     if (shape == nullptr || shape->present == 0) return;
     std::vector<xcb_rectangle_t> rectangles;
     for (const QRect& rect : region)
-        rectangles.push_back(toDevice(rect, window.devicePixelRatio()));
+        rectangles.push_back(toXcb(toDevice(rect, window.devicePixelRatio())));
     xcb_shape_rectangles(connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT,
                          XCB_CLIP_ORDERING_UNSORTED, static_cast<xcb_window_t>(window.winId()), 0,
                          0, static_cast<std::uint32_t>(rectangles.size()), rectangles.data());
@@ -148,10 +123,16 @@ void X11PanelHost::setInputRegion(QWindow& window, const QRegion& region) {
 }
 
 std::unique_ptr<PointerSensor> X11PanelHost::senseAt(const QRect& part,
-                                                     std::function<void()> entered) {
-    if (!m_x11.isAlive()) return nullptr;
-    return std::make_unique<X11PointerSensor>(m_x11, toDevice(part, qGuiApp->devicePixelRatio()),
-                                              std::move(entered));
+                                                     std::function<void()> rested) {
+    // Xwayland places the pointer only while it is over an X11 window, and an input-only one is
+    // none to the compositor.
+    if (!m_x11.isAlive() || m_xwayland.isXwayland) return nullptr;
+    const QRect place = toDevice(part, qGuiApp->devicePixelRatio());
+    if (!std::exchange(m_pointerIdleIsKnown, true))
+        m_pointerIdle = X11PointerIdle::of(m_x11, m_presses);
+    if (!m_pointerIdle) return std::make_unique<X11WindowSensor>(m_x11, place, std::move(rested));
+    return std::make_unique<X11RestSensor>(m_x11, m_scheduler, m_presses, *m_pointerIdle, place,
+                                           std::move(rested));
 }
 
 void X11PanelHost::takeKeyboard(QWindow& window) {

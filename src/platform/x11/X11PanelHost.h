@@ -3,6 +3,8 @@
 
 #include "platform/PanelHost.h"
 #include "platform/x11/X11Connection.h"
+#include "platform/x11/X11PointerSensor.h"
+#include "platform/x11/X11RawPresses.h"
 #include "platform/x11/XwaylandTraits.h"
 
 #include <xcb/xcb.h>
@@ -22,8 +24,9 @@ class X11PanelHost final : public PanelHost {
     Q_OBJECT
 
 public:
-    /// `x11` answers what is not about a window. It must outlive this.
-    explicit X11PanelHost(X11Connection& x11, const XwaylandTraits& xwayland = {});
+    /// `x11` answers what is not about a window. All must outlive this.
+    X11PanelHost(X11Connection& x11, Scheduler& scheduler, X11RawPresses& presses,
+                 const XwaylandTraits& xwayland = {});
 
     [[nodiscard]] bool isComposited() override { return m_composited; }
     [[nodiscard]] bool hasInputRegions() const override { return m_xwayland.passesInputRegions; }
@@ -31,7 +34,7 @@ public:
     void markFloating(QWindow& window) override;
     void setInputRegion(QWindow& window, const QRegion& region) override;
     [[nodiscard]] std::unique_ptr<PointerSensor> senseAt(const QRect& part,
-                                                         std::function<void()> entered) override;
+                                                         std::function<void()> rested) override;
     void takeKeyboard(QWindow& window) override;
     void returnKeyboard(QWindow& window) override;
 
@@ -45,8 +48,12 @@ private:
     [[nodiscard]] xcb_window_t activeWindow();
 
     X11Connection& m_x11;
+    Scheduler& m_scheduler;
+    X11RawPresses& m_presses;
     const XwaylandTraits m_xwayland;
     bool m_composited = false;
+    bool m_pointerIdleIsKnown = false; ///< the server was asked for it
+    std::optional<X11PointerIdle> m_pointerIdle;
     X11Connection::Subscription m_compositorChanges;
     std::map<WId, xcb_window_t> m_before; ///< who had the keyboard before a window took it
 };

@@ -46,7 +46,7 @@ double requiredCapsuleWidth(const NotchMetrics& metrics, double skillLineWidth, 
 
 QSizeF panelSize(const NotchMetrics& metrics) {
     return {metrics.notchWidth + kMaxBeyondNotch + kPanelSides,
-            metrics.capsuleHeight + kPanelBelow};
+            metrics.topBar + metrics.capsuleHeight + kPanelBelow};
 }
 
 QRectF panelFrame(const NotchMetrics& metrics, const ScreenShape& screen) {
@@ -58,12 +58,13 @@ QRectF openFrame(const NotchMetrics& metrics, double requiredWidth) {
     const double want =
         std::min(std::max(metrics.notchWidth, requiredWidth), metrics.notchWidth + kMaxBeyondNotch);
     const double width = 2 * std::ceil(want * 0.5);
-    return {(panelSize(metrics).width() - width) * 0.5, 0, width, metrics.capsuleHeight};
+    return {(panelSize(metrics).width() - width) * 0.5, metrics.topBar, width,
+            metrics.capsuleHeight};
 }
 
 QRectF restingFrame(const NotchMetrics& metrics) {
     const double x = (panelSize(metrics).width() - metrics.collapsedSize.width()) * 0.5;
-    return {QPointF(x, 0), metrics.collapsedSize};
+    return {QPointF(x, metrics.topBar), metrics.collapsedSize};
 }
 
 QRectF hoverStrip(const NotchMetrics& metrics) {

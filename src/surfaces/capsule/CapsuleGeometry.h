@@ -43,14 +43,16 @@ struct Content {
 /// Frame of the panel on the desktop.
 [[nodiscard]] QRectF panelFrame(const NotchMetrics& metrics, const ScreenShape& screen);
 
-/// The open capsule, which is never wider than the panel leaves room for, and of an even width.
+/// The open capsule, which is never wider than the panel leaves room for, and of an even width. It
+/// stands below the desktop's bar, if there is one.
 [[nodiscard]] QRectF openFrame(const NotchMetrics& metrics, double requiredWidth);
-/// The capsule at rest, flush with the top.
+/// The capsule at rest, flush with the top or the bar there.
 [[nodiscard]] QRectF restingFrame(const NotchMetrics& metrics);
 
-/// The strip at the top edge that feels the pointer while the capsule rests.
+/// The strip at the screen's edge, over a bar too, that feels the pointer while the capsule rests.
 [[nodiscard]] QRectF hoverStrip(const NotchMetrics& metrics);
-/// The part that feels the pointer: the strip, and the capsule when it is open.
+/// The part that feels the pointer: the strip, and the capsule when it is open, with what is
+/// between them.
 [[nodiscard]] QRectF hoverRect(const NotchMetrics& metrics, const std::optional<QRectF>& open);
 
 } // namespace vantle::capsule

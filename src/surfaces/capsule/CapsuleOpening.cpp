@@ -6,6 +6,7 @@ namespace {
 
 constexpr Seconds kCloseAfterLeaving{0.5};
 constexpr Seconds kCloseAfterSuspension{0.3};
+constexpr Seconds kWatch{0.1};
 
 } // namespace
 
@@ -20,22 +21,32 @@ void CapsuleOpening::collapse() {
     if (!m_isExpanded) return;
     m_isExpanded = false;
     m_collapseWork.reset();
+    m_watch.reset();
     m_env.changed();
 }
 
 void CapsuleOpening::pointerEntered() {
+    m_isHovered = true;
     m_collapseWork.reset();
+    m_watch.reset();
     expand();
 }
 
-void CapsuleOpening::pointerLeft() { scheduleCollapse(kCloseAfterLeaving); }
+void CapsuleOpening::pointerLeft() {
+    m_isHovered = false;
+    scheduleCollapse(kCloseAfterLeaving);
+}
+
+void CapsuleOpening::pointerRested() {
+    m_collapseWork.reset();
+    expand();
+    watchPointer();
+}
 
 void CapsuleOpening::beginSessionFlash(Seconds hold) {
     expand();
     // A flash ends at its time, suspended or not.
-    m_flashWork = m_env.scheduler.scheduleOnce(hold, [this] {
-        if (!m_env.pointerInside()) collapse();
-    });
+    m_flashWork = m_env.scheduler.scheduleOnce(hold, [this] { collapseUnlessPointerInside(); });
 }
 
 void CapsuleOpening::pushCollapseSuspend() {
@@ -46,18 +57,40 @@ void CapsuleOpening::pushCollapseSuspend() {
 void CapsuleOpening::popCollapseSuspend() {
     if (m_collapseSuspendCount == 0) return;
     --m_collapseSuspendCount;
-    if (m_collapseSuspendCount == 0 && !m_env.pointerInside())
+    if (m_collapseSuspendCount > 0) return;
+    if (m_env.pointerInside())
+        watchPointer();
+    else
         scheduleCollapse(kCloseAfterSuspension);
 }
 
 void CapsuleOpening::cancel() {
     m_collapseWork.reset();
     m_flashWork.reset();
+    m_watch.reset();
 }
 
 void CapsuleOpening::scheduleCollapse(Seconds delay) {
     m_collapseWork = m_env.scheduler.scheduleOnce(delay, [this] {
-        if (m_collapseSuspendCount == 0 && !m_env.pointerInside()) collapse();
+        if (m_collapseSuspendCount == 0) collapseUnlessPointerInside();
+    });
+}
+
+void CapsuleOpening::collapseUnlessPointerInside() {
+    if (m_env.pointerInside())
+        watchPointer();
+    else
+        collapse();
+}
+
+/// Part of what feels the pointer may lie beside the window, over the desktop's bar, where the end
+/// of a hover is not told.
+void CapsuleOpening::watchPointer() {
+    if (!m_isExpanded || m_isHovered || m_watch) return;
+    m_watch = m_env.scheduler.scheduleRepeatingTimer(kWatch, kWatch * 0.5, [this] {
+        if (m_env.pointerInside()) return;
+        scheduleCollapse(kCloseAfterLeaving);
+        m_watch.reset();
     });
 }
 

@@ -27,9 +27,11 @@ public:
     void expand();
     void collapse();
 
-    /// The pointer came into the part that feels it, or left it.
+    /// The window was told that the pointer came into the part that feels it, or left it.
     void pointerEntered();
     void pointerLeft();
+    /// The pointer rests in that part where the window is not told of it.
+    void pointerRested();
 
     /// Opens, and closes again in `hold` unless the pointer holds it open by then.
     void beginSessionFlash(Seconds hold);
@@ -45,12 +47,16 @@ public:
 
 private:
     void scheduleCollapse(Seconds delay);
+    void collapseUnlessPointerInside();
+    void watchPointer();
 
     Environment m_env;
     bool m_isExpanded = false;
     int m_collapseSuspendCount = 0;
+    bool m_isHovered = false; ///< as the window was told
     TimerHandle m_collapseWork;
     TimerHandle m_flashWork;
+    TimerHandle m_watch; ///< while the pointer holds it open and the window is not told of it
 };
 
 } // namespace vantle

@@ -53,14 +53,13 @@ bool CapsuleWindow::pointerInside(const QRectF& part) const {
 
 void CapsuleWindow::follow() {
     if (m_panel->rootObject() == nullptr) return; // the view is being made
+    sensePointer();
     m_panel->setOpaqueRegion(m_capsule->opaqueRegion());
-    m_panel->setInputRegion(m_capsule->inputRegion());
+    m_panel->setInputRegion(inputRegion());
     if (mustHide()) {
         m_panel->hide();
-        sensePointer();
         return;
     }
-    m_sensor.reset();
     const QRect frame = windowFrame();
     if (!m_panel->isVisible())
         m_panel->showAt(frame);
@@ -76,9 +75,18 @@ bool CapsuleWindow::mustHide() const {
 }
 
 void CapsuleWindow::sensePointer() {
-    if (m_sensor || m_capsule->isLeaving()) return;
-    const QRectF strip = m_capsule->hoverRect().translated(m_panelFrame.topLeft());
-    m_sensor = m_host.senseAt(strip.toAlignedRect(), [this] { m_capsule->setHovered(true); });
+    const QRect strip = m_capsule->freeStrip();
+    if (strip.isEmpty())
+        m_sensor.reset();
+    else if (!m_sensor)
+        m_sensor = m_host.senseAt(strip.translated(m_panelFrame.topLeft().toPoint()),
+                                  [this] { m_capsule->pointerRested(); });
+}
+
+/// A window feels the strip only where nothing else can: it would take the presses there.
+QRegion CapsuleWindow::inputRegion() const {
+    const QRegion shown = m_capsule->inputRegion();
+    return m_sensor ? shown : shown + m_capsule->freeStrip();
 }
 
 QRect CapsuleWindow::windowFrame() const {

@@ -35,6 +35,7 @@ private:
     void returnKeyboard() override { m_panel->returnKeyboard(); }
 
     void sensePointer();
+    [[nodiscard]] QRegion inputRegion() const;
     [[nodiscard]] bool mustHide() const;
     [[nodiscard]] QRect windowFrame() const;
 
@@ -44,7 +45,8 @@ private:
     };
     PanelHost& m_host;
     QRectF m_panelFrame;
-    std::unique_ptr<PointerSensor> m_sensor; ///< in place of a window that rests, uncomposited
+    std::unique_ptr<PointerSensor>
+        m_sensor; ///< of the free strip; null where there is no such thing
     std::unique_ptr<NotchCapsule, DeleteLater> m_capsule;
     std::unique_ptr<FloatingPanel, DeleteLater> m_panel;
 };

@@ -72,7 +72,13 @@ QString NotchCapsule::skillLine() const {
 
 QRegion NotchCapsule::inputRegion() const {
     if (m_leaving) return {};
-    return QRegion(hoverRect().toAlignedRect()) + m_overlayRect.toAlignedRect();
+    return isExpanded() ? opaqueRegion() : QRegion(m_overlayRect.toAlignedRect());
+}
+
+QRect NotchCapsule::freeStrip() const {
+    if (m_leaving) return {};
+    const QRectF strip = capsule::hoverStrip(m_metrics);
+    return isExpanded() && m_openFrame.contains(strip) ? QRect() : strip.toAlignedRect();
 }
 
 QRegion NotchCapsule::opaqueRegion() const {
@@ -117,6 +123,10 @@ void NotchCapsule::setHovered(bool hovered) {
         m_opening.pointerEntered();
     else
         m_opening.pointerLeft();
+}
+
+void NotchCapsule::pointerRested() {
+    if (!m_leaving) m_opening.pointerRested();
 }
 
 void NotchCapsule::click() {

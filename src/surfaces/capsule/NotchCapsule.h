@@ -99,6 +99,11 @@ public:
     /// Gives up all that is planned, and closes the editor without a result.
     void retire();
 
+    // What the window reports
+
+    /// The pointer rests in the strip, where no window of ours feels it.
+    void pointerRested();
+
     // What the view reports
 
     Q_INVOKABLE void setHovered(bool hovered);
@@ -148,8 +153,10 @@ public:
     [[nodiscard]] QRectF overlayAnchor() const { return m_overlayAnchor; }
     [[nodiscard]] QRectF overlayRect() const { return m_overlayRect; }
 
-    /// What feels the pointer.
+    /// What feels the pointer beside the strip: nothing at rest.
     [[nodiscard]] QRegion inputRegion() const;
+    /// The strip at the screen's edge, where the open capsule does not cover it; else empty.
+    [[nodiscard]] QRect freeStrip() const;
     /// What is there at all, while it is open, where the desktop mixes no transparency.
     [[nodiscard]] QRegion opaqueRegion() const;
 

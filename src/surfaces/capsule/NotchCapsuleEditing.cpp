@@ -108,7 +108,8 @@ void NotchCapsule::handle(const SkillPopoverEditor::Result& result) {
 
 QRectF NotchCapsule::chipRect(const QString& skillId) const {
     const double left = m_openFrame.left() + capsule::kRowInset;
-    const double top = m_metrics.notchHeight + capsule::kRowHeight + kChipsBelowRow;
+    const double top =
+        m_openFrame.top() + m_metrics.notchHeight + capsule::kRowHeight + kChipsBelowRow;
     for (const auto& item : m_chips.layout().items)
         if (item.skill && item.skill->id == skillId) return item.frame.translated(left, top);
     return {};

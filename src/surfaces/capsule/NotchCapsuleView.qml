@@ -40,6 +40,14 @@ Item {
             id: hover
             onHoveredChanged: view.capsule.setHovered(hovered)
         }
+    }
+
+    Item {
+        id: ground
+        x: view.capsule.openFrame.x
+        y: view.capsule.openFrame.y
+        width: view.capsule.openFrame.width
+        height: view.capsule.openFrame.height
 
         // Here and not in the content, which is small and clear at first: from the moment the
         // capsule opens a click is the capsule's, and none is lost between it and what is below.
@@ -47,21 +55,30 @@ Item {
             gesturePolicy: TapHandler.ReleaseWithinBounds
             // A press on the empty row may end on a chip, which means something else.
             onTapped: eventPoint => {
-                const place = sensitive.mapToItem(content, eventPoint.position);
+                const place = ground.mapToItem(content, eventPoint.position);
                 if (content.isGround(place))
                     view.capsule.click();
             }
         }
     }
 
-    DarkShadow {
-        x: morph.x
-        y: morph.y
-        width: morph.width
-        height: morph.height
-        visible: body.visible && view.composited && (view.capsule.expanded || morph.running)
-        level: DarkUI.shadowCapsule
-        radius: view.radius
+    // No shadow falls on a bar above.
+    Item {
+        id: below
+        y: view.capsule.openFrame.y
+        width: view.width
+        height: view.height - y
+        clip: true
+
+        DarkShadow {
+            x: morph.x
+            y: morph.y - below.y
+            width: morph.width
+            height: morph.height
+            visible: body.visible && view.composited && (view.capsule.expanded || morph.running)
+            level: DarkUI.shadowCapsule
+            radius: view.radius
+        }
     }
 
     Item {

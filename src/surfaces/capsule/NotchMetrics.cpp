@@ -35,6 +35,8 @@ NotchMetrics NotchMetrics::of(const ScreenShape& screen, double extraContentHeig
         metrics.anchorCenterX = screen.frame.center().x();
         metrics.collapsedSize = kPlainCollapsedSize;
         metrics.bottomRadius = kPlainRadius;
+        if (!screen.available.isEmpty())
+            metrics.topBar = std::max(0.0, screen.available.top() - screen.frame.top());
     }
     metrics.capsuleHeight = extraContentHeight + metrics.notchHeight + capsule::kRowHeight;
     return metrics;

@@ -17,6 +17,7 @@ struct NotchMetrics {
     bool hasNotch = false;    ///< the screen has a camera housing
     double notchHeight = 0;   ///< the housing's height; 0 without one
     double notchWidth = 0;    ///< the housing's width, or that of the strip that stands in for it
+    double topBar = 0;        ///< height of the desktop's bar at the top; 0 without one
     double anchorCenterX = 0; ///< of the capsule's centre, on the desktop
     double capsuleHeight = 0; ///< of the open capsule
     QSizeF collapsedSize;     ///< of the capsule at rest

@@ -73,6 +73,18 @@ TEST(CapsuleGeometry, AtRestItIsFlushWithTheTop) {
               QRectF(154, 0, 200, 32));
 }
 
+TEST(CapsuleGeometry, ABarAtTheTopStaysFreeAndTheStripLiesOverIt) {
+    ScreenShape screen = kScreen;
+    screen.available = QRectF(0, 26, 1440, 874);
+    const auto metrics = NotchMetrics::of(screen, 68);
+    EXPECT_EQ(capsule::panelFrame(metrics, screen), QRectF(451, 0, 538, 176));
+    EXPECT_EQ(capsule::openFrame(metrics, 377), QRectF(80, 26, 378, 126));
+    EXPECT_EQ(capsule::restingFrame(metrics), QRectF(170, 26, 198, 0.5));
+    EXPECT_EQ(capsule::hoverStrip(metrics), QRectF(154, 0, 230, 10));
+    EXPECT_EQ(capsule::hoverRect(metrics, capsule::openFrame(metrics, 378)),
+              QRectF(80, 0, 378, 152));
+}
+
 TEST(CapsuleGeometry, TheStripAtTheEdgeFeelsThePointer) {
     EXPECT_EQ(capsule::hoverStrip(NotchMetrics::of(kScreen, 68)), QRectF(154, 0, 230, 10));
     EXPECT_EQ(capsule::hoverStrip(NotchMetrics::of(notchedScreen(), 68)), QRectF(154, 0, 200, 38));

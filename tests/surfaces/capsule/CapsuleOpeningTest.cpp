@@ -101,6 +101,50 @@ TEST_F(CapsuleOpeningTest, APointerOverItWhileAFlashEndsKeepsItOpenUntilItLeaves
     EXPECT_FALSE(opening.isExpanded());
 }
 
+TEST_F(CapsuleOpeningTest, APointerThatRestsBesideTheWindowHoldsItOpenUntilItHasLeft) {
+    pointerInside = true;
+    opening.pointerRested();
+    time.advance(60);
+    EXPECT_TRUE(opening.isExpanded());
+    pointerInside = false;
+    time.advance(0.49);
+    EXPECT_TRUE(opening.isExpanded());
+    time.advance(0.2); // 0.5 s after the next look, of which there are ten in a second
+    EXPECT_FALSE(opening.isExpanded());
+    EXPECT_EQ(time.timerCount(), 0U);
+}
+
+TEST_F(CapsuleOpeningTest, FromTheWindowOnOnlyTheWindowTellsWhereThePointerIs) {
+    pointerInside = true;
+    opening.pointerRested();
+    enter();
+    EXPECT_EQ(time.timerCount(), 0U);
+    leave();
+    time.advance(0.51);
+    EXPECT_FALSE(opening.isExpanded());
+}
+
+TEST_F(CapsuleOpeningTest, APointerThatWentFromTheWindowToBesideItHoldsItOpenUntilItHasLeft) {
+    enter();
+    leave();
+    pointerInside = true;
+    time.advance(5);
+    EXPECT_TRUE(opening.isExpanded());
+    pointerInside = false;
+    time.advance(0.7);
+    EXPECT_FALSE(opening.isExpanded());
+}
+
+TEST_F(CapsuleOpeningTest, APointerBesideTheWindowWhileAFlashEndsKeepsItOpenUntilItLeaves) {
+    opening.beginSessionFlash(Seconds(2));
+    pointerInside = true;
+    time.advance(5);
+    EXPECT_TRUE(opening.isExpanded());
+    pointerInside = false;
+    time.advance(0.7);
+    EXPECT_FALSE(opening.isExpanded());
+}
+
 TEST_F(CapsuleOpeningTest, AFlashEndsSuspendedOrNot) {
     opening.beginSessionFlash(Seconds(2));
     opening.pushCollapseSuspend();

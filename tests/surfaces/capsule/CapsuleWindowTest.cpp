@@ -1,138 +1,52 @@
 // The views of the capsule in a window, worked by pointer and keys.
-#include "surfaces/capsule/CapsuleWindow.h"
-
-#include "CapsuleWorld.h"
-#include "fakes/FakePanelHost.h"
-#include "support/QtPrinters.h"
-#include "support/ShownItems.h"
-#include "support/Text.h"
-#include "surfaces/kit/Motion.h"
-
-#include <QAccessible>
-#include <QCoreApplication>
-#include <QMouseEvent>
-#include <QPointingDevice>
-#include <QQmlEngine>
-#include <QQuickItem>
+#include "CapsuleWindowWorld.h"
 
 #include <gtest/gtest.h>
 
-#include <utility>
-
 namespace vantle::tests {
 namespace {
-
-class CapsuleWindowTest : public testing::Test {
-protected:
-    static void SetUpTestSuite() {
-        engine = new QQmlEngine; // reads the views once for all tests
-        engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-        Motion::of(*engine)->setReduced(true); // all is where it belongs at once
-    }
-    static void TearDownTestSuite() { delete std::exchange(engine, nullptr); }
-
-    CapsuleWindowTest() {
-        QObject::connect(engine, &QQmlEngine::warnings, &context,
-                         [this](const QList<QQmlError>& errors) {
-                             for (const QQmlError& error : errors)
-                                 warnings << error.toString();
-                         });
-    }
-    ~CapsuleWindowTest() override {
-        window.reset();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        EXPECT_EQ(warnings, QStringList());
-    }
-
-    void raise(NotchCapsule::Form form) {
-        auto capsule = std::make_unique<NotchCapsule>(world.environment(), std::move(form),
-                                                      world.screens.shapes.front());
-        const QRectF frame = capsule::panelFrame(capsule->metrics(), world.screens.shapes.front());
-        window = CapsuleWindow::raise(std::move(capsule), frame, *engine, host);
-        ASSERT_TRUE(window);
-        window->capsule().expand();
-        settle();
-    }
-    void raiseIdle() { raise(world.idleForm()); }
-
-    /// Lets the views catch up, and what was put off run.
-    void settle() {
-        world.tracking.time.settle();
-        QCoreApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-
-    void mouse(QEvent::Type type, QPointF place, Qt::MouseButton button, Qt::MouseButtons held) {
-        QMouseEvent event(type, place, window->panel().mapToGlobal(place), button, held,
-                          Qt::NoModifier, QPointingDevice::primaryPointingDevice());
-        QCoreApplication::sendEvent(&window->panel(), &event);
-    }
-    void moveTo(QPointF place) {
-        mouse(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton);
-        settle();
-    }
-    void click(QPointF place, Qt::MouseButton button = Qt::LeftButton) {
-        moveTo(place);
-        mouse(QEvent::MouseButtonPress, place, button, button);
-        mouse(QEvent::MouseButtonRelease, place, button, Qt::NoButton);
-        settle();
-    }
-    void press(int key, const QString& typed = {}) {
-        sendKey(window->panel(), key, typed);
-        settle();
-    }
-    void type(const QString& words) {
-        for (const QChar letter : words)
-            press(0, letter);
-    }
-
-    /// The visible item that is read out as that; null when there is none.
-    [[nodiscard]] QQuickItem* item(const QString& name) const {
-        return find(window->panel().contentItem(), name);
-    }
-    [[nodiscard]] QPointF middleOf(const QString& name) const {
-        const QQuickItem* const found = item(name);
-        EXPECT_NE(found, nullptr) << name.toStdString();
-        return found == nullptr
-                   ? QPointF()
-                   : found->mapToScene(QPointF(found->width() / 2, found->height() / 2));
-    }
-
-    /// Whether what lies below shows there, in px of the panel.
-    [[nodiscard]] bool seesBelow(QPoint place) {
-        settle();
-        window->panel().setColor(Qt::green); // the capsule has no green
-        return window->panel().grabWindow().pixelColor(place).green() > 60;
-    }
-    void expectOpaqueCorners(const QRect& part) {
-        ASSERT_FALSE(part.isEmpty());
-        for (const QPoint corner :
-             {part.topLeft(), part.topRight(), part.bottomLeft(), part.bottomRight()})
-            EXPECT_FALSE(seesBelow(corner)) << corner.x() << ' ' << corner.y();
-    }
-
-    CapsuleWorld world;
-    fakes::FakePanelHost host;
-    static inline QQmlEngine* engine = nullptr;
-    QObject context;
-    QStringList warnings;
-    std::unique_ptr<CapsuleWindow> window;
-
-private:
-    static QQuickItem* find(QQuickItem* root, const QString& name) {
-        return shownItem(root, [&](QQuickItem& item) {
-            auto* const access = QAccessible::queryAccessibleInterface(&item);
-            return access != nullptr && access->text(QAccessible::Name) == name;
-        });
-    }
-};
 
 TEST_F(CapsuleWindowTest, TheWindowFollowsTheCapsuleInWhatFeelsThePointer) {
     raiseIdle();
     EXPECT_EQ(window->panel().geometry(), QRect(451, 0, 538, 219));
     EXPECT_EQ(host.inputRegion, QRegion(window->capsule().openFrame().toRect()));
+    EXPECT_FALSE(host.sensor);
+}
+
+TEST_F(CapsuleWindowTest, AtRestTheWindowFeelsNothingAndThePointerThatRestsInTheStripOpensIt) {
+    raiseIdle();
+    window->capsule().collapse();
+    EXPECT_EQ(host.inputRegion, QRegion());
+    ASSERT_TRUE(host.sensor);
+    EXPECT_EQ(host.sensor->part, QRect(605, 0, 230, 10));
+    host.movePointer({720, 5});
+    EXPECT_TRUE(window->capsule().isExpanded());
+    EXPECT_EQ(host.inputRegion, QRegion(window->capsule().openFrame().toRect()));
+}
+
+TEST_F(CapsuleWindowTest, WhereNothingElseSensesThePointerTheWindowFeelsTheStrip) {
+    host.senses = false;
+    raiseIdle();
     window->capsule().collapse();
     EXPECT_EQ(host.inputRegion, QRegion(154, 0, 230, 10));
+    moveTo({269, 5});
+    EXPECT_TRUE(window->capsule().isExpanded());
+}
+
+TEST_F(CapsuleWindowTest, OpenBelowABarItLeavesTheBarAlone) {
+    world.setTopBar(26);
+    raiseIdle();
+    EXPECT_EQ(window->panel().geometry(), QRect(451, 0, 538, 245));
+    EXPECT_EQ(host.inputRegion, QRegion(window->capsule().openFrame().toRect()));
+    EXPECT_EQ(host.inputRegion.boundingRect().top(), 26);
+    ASSERT_TRUE(host.sensor);
+    EXPECT_EQ(host.sensor->part, QRect(605, 0, 230, 10));
+    EXPECT_TRUE(seesBelow({269, 25}));
+    EXPECT_FALSE(seesBelow({269, 26}));
+    click({269, 12});
+    EXPECT_TRUE(world.calls.isEmpty());
+    click({269, 56});
+    EXPECT_EQ(world.calls, QStringList(text("tap")));
 }
 
 TEST_F(CapsuleWindowTest, WithoutACompositorThereIsNoWindowWhileItRests) {
@@ -161,7 +75,8 @@ TEST_F(CapsuleWindowTest, EndOfTheCompositorTakesTheRestingWindowAwayAndItsRetur
     EXPECT_EQ(host.sensor->part, QRect(605, 0, 230, 10));
     host.setComposited(true);
     EXPECT_TRUE(window->panel().isVisible());
-    EXPECT_FALSE(host.sensor);
+    EXPECT_EQ(host.inputRegion, QRegion());
+    EXPECT_TRUE(host.sensor);
     EXPECT_TRUE(window->panel().mask().isEmpty());
 }
 
@@ -190,6 +105,7 @@ TEST_F(CapsuleWindowTest, MenuAndEditorHaveOpaqueCornersWithoutACompositor) {
 
 TEST_F(CapsuleWindowTest, WhereNoInputRegionHoldsTheWindowIsWhatFeelsThePointer) {
     host.inputRegions = false;
+    host.senses = false;
     raiseIdle();
     const QRect open = window->capsule().openFrame().toRect();
     EXPECT_EQ(window->panel().geometry(), open.translated(451, 0));

@@ -26,6 +26,14 @@ struct FakeStage final : CapsuleStage {
 
 class CapsuleWorld {
 public:
+    CapsuleWorld() { setTopBar(0); }
+
+    /// The desktop has a bar of that height along the top.
+    void setTopBar(double height) {
+        ScreenShape& screen = screens.shapes.front();
+        screen.available = screen.frame.adjusted(0, height, 0, 0);
+    }
+
     [[nodiscard]] NotchCapsule::Environment environment() {
         return {tracking.time, tracking.preferences, reducedMotion, text};
     }

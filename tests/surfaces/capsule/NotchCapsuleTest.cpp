@@ -41,7 +41,25 @@ protected:
 TEST_F(NotchCapsuleTest, AtRestOnAPlainScreenOnlyTheStripFeelsThePointer) {
     make(world.idleForm());
     EXPECT_EQ(capsule->frame(), QRectF(170, 0, 198, 0.5));
-    EXPECT_EQ(capsule->inputRegion(), QRegion(154, 0, 230, 10));
+    EXPECT_TRUE(capsule->inputRegion().isEmpty());
+    EXPECT_EQ(capsule->freeStrip(), QRect(154, 0, 230, 10));
+    enter();
+    EXPECT_TRUE(capsule->freeStrip().isEmpty());
+}
+
+TEST_F(NotchCapsuleTest, BelowABarTheStripStaysFreeAndChipsAndEditorMoveDown) {
+    make(world.idleForm());
+    enter();
+    capsule->openMenu(world.skills[1].id);
+    const QRectF chip = capsule->overlayAnchor();
+    world.setTopBar(26);
+    make(world.idleForm());
+    enter();
+    EXPECT_EQ(capsule->openFrame().top(), 26);
+    EXPECT_EQ(capsule->freeStrip(), QRect(154, 0, 230, 10));
+    EXPECT_EQ(capsule->inputRegion(), QRegion(capsule->openFrame().toRect()));
+    capsule->openMenu(world.skills[1].id);
+    EXPECT_EQ(capsule->overlayAnchor(), chip.translated(0, 26));
 }
 
 TEST_F(NotchCapsuleTest, OpenItFeelsThePointerAsAWholeAndTellsTheWindow) {

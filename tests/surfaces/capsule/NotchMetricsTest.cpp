@@ -27,6 +27,21 @@ TEST(NotchMetrics, APlainScreenHasAStandInOf230) {
     EXPECT_EQ(metrics.bottomRadius, 18);
 }
 
+TEST(NotchMetrics, ABarAtTheTopIsMeasuredFromTheScreensOwnEdge) {
+    ScreenShape screen = plain({1440, 100, 800, 600});
+    EXPECT_EQ(NotchMetrics::of(screen, 0).topBar, 0);
+    screen.available = QRectF(1440, 132, 800, 540); // and one at the bottom
+    EXPECT_EQ(NotchMetrics::of(screen, 0).topBar, 32);
+    screen.available = QRectF(); // not known
+    EXPECT_EQ(NotchMetrics::of(screen, 0).topBar, 0);
+}
+
+TEST(NotchMetrics, AHousingReachesIntoTheBar) {
+    ScreenShape screen = notched();
+    screen.available.setTop(32);
+    EXPECT_EQ(NotchMetrics::of(screen, 0).topBar, 0);
+}
+
 TEST(NotchMetrics, ANotchedScreenGivesItsHousing) {
     const auto metrics = NotchMetrics::of(notched(), 68);
     EXPECT_TRUE(metrics.hasNotch);

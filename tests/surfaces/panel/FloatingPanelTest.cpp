@@ -72,7 +72,9 @@ protected:
 
     QTemporaryDir folder;
     X11Connection x11;
-    X11PanelHost host{x11};
+    QtScheduler scheduler;
+    X11RawPresses presses{x11};
+    X11PanelHost host{x11, scheduler, presses};
     QQmlEngine engine;
     QWindow below;
     FloatingPanel panel{engine, host};
