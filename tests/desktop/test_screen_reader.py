@@ -152,6 +152,37 @@ class OfWindows(ScreenReader):
         return [int(word) for word in dots.name.split() if word.isdigit()]
 
 
+class OfTextFields(ScreenReader):
+
+    def test_every_boundary_of_a_field_is_answered(self):
+        self.write_log("first draft", "second draft")
+        self.launch()
+        self.open(*NOTES)
+        for words in ("", "two words"):
+            self.reader.edit(self.reader.window("Your notes").find("text", "Search notes"), words)
+            field = self.reader.window("Your notes").find("text", "Search notes")
+            for boundary in range(7):  # of characters, words, sentences and lines, at both ends
+                for offset in (0, len(words) // 2, len(words)):
+                    parts = [self.reader.part_of_text(field, which, offset, boundary)
+                             for which in ("Before", "At", "After")]
+                    self.assertIn("".join(text for text, _, _ in parts), words)
+            self.assertEqual(self.reader.attribute_run(field, 0), (0, len(words)))
+        word = self.reader.part_of_text(field, "At", len(words), 1)
+        self.assertEqual(word, ("words", 4, 9))
+
+    def test_what_is_typed_is_heard(self):
+        self.write_log("first draft", "second draft")
+        self.launch()
+        self.open(*NOTES)
+        self.desktop.type("ab")
+        self.desktop.press("BackSpace")
+        wait_until("the letters", lambda: [
+            (one.kind, one.text) for one in self.reader.ear.heard()
+            if one.kind.startswith("TextChanged")] == [
+                ("TextChanged:insert", "a"), ("TextChanged:insert", "b"),
+                ("TextChanged:delete", "b")])
+
+
 class OfTheWelcome(ScreenReader):
 
     newcomer = True

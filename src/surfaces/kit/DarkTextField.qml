@@ -9,6 +9,7 @@ FocusScope {
     property alias text: input.text
     property string name // what is read out
     property string placeholder
+    property string help: placeholder // read out after the name
     property int limit: 0 // user-perceived characters; 0 for any number
     property bool clearable: false // a button empties it
     property string clearName: qsTr("Clear")
@@ -87,15 +88,25 @@ FocusScope {
             cursorDelegate: DarkCaret {
                 shown: input.cursorVisible
             }
-            onTextChanged: field.keepLimit()
+            onTextChanged: {
+                field.keepLimit();
+                reading.follow(input.text);
+            }
             onTextEdited: field.edited()
             onAccepted: field.accepted()
 
             Accessible.role: Accessible.EditableText
             Accessible.name: field.name
-            Accessible.description: field.placeholder
+            Accessible.description: field.help
             Accessible.editable: true
             Accessible.focusable: true
+
+            FieldReading {
+                id: reading
+                name: field.name
+                description: field.help
+                onFocusWanted: field.keyboardWanted()
+            }
 
             // The text takes the press: the handler of the well does not hear of it.
             TapHandler {

@@ -95,7 +95,7 @@ FocusScope {
                 anchors.leftMargin: DarkUI.space8
                 unit: qsTr("minutes")
                 name: qsTr("Minutes worked")
-                input.Accessible.description: qsTr("Enter a number of minutes")
+                help: qsTr("Enter a number of minutes")
                 text: form.model.minutesText
                 onEdited: form.model.minutesText = minutes.text
                 onFocusLost: form.model.normalizeDuration()
@@ -135,7 +135,7 @@ FocusScope {
             minHeight: DarkUI.formFieldHeight
             name: qsTr("Work note")
             placeholder: qsTr("e.g. Drafted the landing page")
-            input.Accessible.description: qsTr("Optional. Helps you remember what moved forward.")
+            help: qsTr("Optional. Helps you remember what moved forward.")
             onEdited: form.model.note = note.text
             onAccepted: form.model.logEntry()
         }

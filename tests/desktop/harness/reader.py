@@ -7,6 +7,7 @@ import dbus
 import dbus.bus
 
 from .bus import call, owner_of
+from .ear import Ear
 from .waiting import wait_until
 
 LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
@@ -16,6 +17,8 @@ ROOT = ("org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root")
 ACCESSIBLE = "org.a11y.atspi.Accessible"
 COMPONENT = "org.a11y.atspi.Component"
 ACTION = "org.a11y.atspi.Action"
+TEXT = "org.a11y.atspi.Text"
+EDITABLE = "org.a11y.atspi.EditableText"
 PROPERTIES = "org.freedesktop.DBus.Properties"
 
 ON_THE_SCREEN = 0  # of the two kinds of coordinates
@@ -68,6 +71,7 @@ class Reader:
         self._desktop = desktop
         self._launcher = None
         self._connection = None
+        self.ear = None
 
     def start(self):
         self._desktop.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
@@ -78,8 +82,12 @@ class Reader:
         address = call(self._desktop, LAUNCHER_NAME, "/org/a11y/bus", LAUNCHER_NAME, "GetAddress")
         self._connection = dbus.bus.BusConnection(address)
         self._connection.set_exit_on_disconnect(False)
+        self.ear = Ear(self._desktop, address)
+        self.ear.start()
 
     def stop(self):
+        if self.ear is not None:
+            self.ear.stop()
         if self._connection is not None:
             self._connection.close()
         if self._launcher is not None:
@@ -98,6 +106,21 @@ class Reader:
         """Does what a press of it does."""
         actions = [str(name) for name, *_ in self._ask(element.reference, ACTION, "GetActions")]
         self._ask(element.reference, ACTION, "DoAction", "i", actions.index("Press"))
+
+    def part_of_text(self, element, which, offset, boundary):
+        """A part of a field's text, "At", "Before" or "After" the offset: text, start, end."""
+        text, start, end = self._ask(element.reference, TEXT, f"GetText{which}Offset", "iu", offset,
+                                     boundary)
+        return str(text), int(start), int(end)
+
+    def attribute_run(self, element, offset):
+        """Where the run of equal attributes around the offset begins and ends."""
+        _, start, end = self._ask(element.reference, TEXT, "GetAttributeRun", "ib", offset, True)
+        return int(start), int(end)
+
+    def edit(self, element, text):
+        """Puts the text into a field in place of what stands there."""
+        return bool(self._ask(element.reference, EDITABLE, "SetTextContents", "s", text))
 
     def _read_window(self, title):
         # What is being changed can't be read: then it is read once more.
