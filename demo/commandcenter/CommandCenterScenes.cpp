@@ -1,4 +1,5 @@
 #include "app/ModelWorld.h"
+#include "app/OpenQuestions.h"
 #include "gallery/Scenes.h"
 #include "surfaces/commandcenter/CommandCenterModel.h"
 
@@ -17,7 +18,7 @@ public:
         world.settle();
         content = std::make_unique<CommandCenterModel>(
             CommandCenterModel::Environment{*world.model, *world.skills, world.preferences,
-                                            world.time},
+                                            world.time, questions},
             actions());
         choose("Design");
     }
@@ -35,6 +36,7 @@ public:
     }
 
     tests::ModelWorld world;
+    OpenQuestions questions;
     std::unique_ptr<CommandCenterModel> content;
 
 private:
@@ -45,6 +47,7 @@ private:
         made.selectSkill = [&model](const QString& id) {
             model.selectSkill(id, AppModel::SkillSelectionOrigin::Human);
         };
+        made.hide = [] {};
         made.relayout = [] {};
         return made;
     }

@@ -43,6 +43,7 @@ std::optional<QString> AppModel::eraseEverything() {
     // A pending offer must not act on erased data.
     m_collaborators.recovery->hideForEviction();
     m_env.cardSlot.release(m_collaborators.recovery.get());
+    m_collaborators.stopSummary->forgetNote();
     m_tracker.discardOpenSessionForErase();
     m_collaborators.autoSkill->eraseAllData();
     // Nothing that is queued may bring a file back after it was removed.

@@ -124,6 +124,7 @@ void AppModel::onSessionStarted(const Skill& skill, Date) {
         return;
     }
     m_isPracticeMarked = m_isStartingPractice;
+    m_collaborators.stopSummary->forgetNote();
     m_collaborators.focusLink->sessionStarted();
     const bool ceremonyPlays =
         !m_env.preferences.flag(preferencekeys::rippleDisabled) && !m_env.reducedMotion.enabled();

@@ -86,6 +86,8 @@ public:
     };
     virtual void show(const Content&,
                       std::function<void(const std::optional<QString>& note)> /*onClose*/) {}
+    /// The last session is out of reach: another one begins, or it was erased.
+    virtual void forgetNote() {}
 };
 
 /// The notice about a session that the last run left open.

@@ -5,8 +5,8 @@ import time
 from datetime import datetime, timedelta, timezone
 from pathlib import Path
 
-from harness.bus import PROGRAM_NAME, owner_of
-from harness.case import FIRST_SKILL, SHORTCUT, DesktopTest
+from harness.bus import PROGRAM_NAME, activate, activate_action, owner_of
+from harness.case import FIRST_SKILL, PANEL_TITLE, SHORTCUT, DesktopTest
 from harness.records import stamp
 from harness.waiting import wait_until
 
@@ -77,6 +77,31 @@ class StopSummary(CardTest):
         wait_until("the card gone", lambda: not self.is_up(SUMMARY))
         self.desktop.type("mine again\n")
         wait_until("the keyboard back", lambda: typed.read_text() == "still mine\nmine again\n")
+
+    def test_a_note_is_written_by_keys_alone(self):
+        typed = self.open_editor()
+        self.launch()
+        self.begin_session()
+        self.end_session()
+        self.await_card(SUMMARY)
+        activate(self.desktop)
+        self.desktop.await_keyboard(PANEL_TITLE)
+        for key in ("shift+Tab", "Return"):
+            self.desktop.press(key)
+        self.desktop.await_keyboard(SUMMARY)
+        self.desktop.press("Escape")  # changed their mind: no note, and the card goes
+        wait_until("the card gone", lambda: not self.is_up(SUMMARY))
+        self.desktop.type("mine\n")
+        wait_until("the keyboard back", lambda: typed.read_text() == "mine\n")
+        activate_action(self.desktop, "note")
+        self.desktop.await_keyboard(SUMMARY)
+        self.desktop.type("Retries land in order")
+        self.desktop.press("Return")
+        wait_until("the note in the log",
+                   lambda: self.vantle.sessions()[-1]["note"] == "Retries land in order")
+        wait_until("the card gone", lambda: not self.is_up(SUMMARY))
+        self.desktop.type("mine again\n")
+        wait_until("the keyboard back", lambda: typed.read_text() == "mine\nmine again\n")
 
     def test_left_alone_the_card_goes_by_itself(self):
         self.launch()

@@ -3,8 +3,8 @@
 import signal
 from datetime import datetime, timedelta, timezone
 
-from harness.bus import activate_action
-from harness.case import FIRST_SKILL, SHORTCUT, DesktopTest
+from harness.bus import activate, activate_action
+from harness.case import FIRST_SKILL, PANEL_TITLE, SHORTCUT, DesktopTest
 from harness.records import stamp
 from harness.waiting import wait_until
 
@@ -80,6 +80,19 @@ class Recovery(DesktopTest):
         activate_action(self.desktop, "keep")  # the offer is answered: nothing more comes of it
         self.assertEqual(self.vantle.stop(), 0)
         self.assertEqual(len(self.vantle.sessions()), 1)
+
+    def test_it_is_answered_by_keys_in_the_panel(self):
+        self._crash_that_left(seconds=125)
+        self.launch()
+        self.await_tool_tip("Found 2 min from the previous run")
+        activate(self.desktop)
+        self.desktop.await_keyboard(PANEL_TITLE)
+        for key in ("shift+Tab", "shift+Tab", "Return"):  # over Discard to Keep
+            self.desktop.press(key)
+        wait_until("a record", self.vantle.sessions)
+        self.assertEqual([one["activeSeconds"] for one in self.vantle.sessions()], [125])
+        wait_until("no marker", lambda: self.vantle.marker() is None)
+        wait_until("no card", lambda: not self.desktop.windows_named("Vantle Recovery"))
 
     def test_discarded_it_leaves_nothing(self):
         self._crash_that_left(seconds=125)

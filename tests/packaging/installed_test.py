@@ -19,7 +19,7 @@ from xml.etree import ElementTree
 
 ID = "local.vantle.Vantle"
 SIZES = (16, 22, 24, 32, 48, 64, 96, 128, 256, 512)
-ACTIONS = ["toggle", "dashboard", "wrapped", "notes"]
+ACTIONS = ["toggle", "note", "keep", "discard", "dashboard", "wrapped", "notes"]
 CALL = (f"gdbus call --session --dest {ID} --object-path /{ID.replace('.', '/')}"
         " --method org.freedesktop.Application.")
 

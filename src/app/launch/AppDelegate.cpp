@@ -127,14 +127,16 @@ void AppDelegate::makeModel() {
 }
 
 void AppDelegate::makeCards(Collaborators& collaborators) {
-    const CardEnvironment cards{m_env.scheduler, m_env.preferences, m_skills,
-                                m_notifications, m_cardSlot,        m_env.cardStage};
+    const CardEnvironment cards{m_env.scheduler, m_env.preferences, m_skills,   m_notifications,
+                                m_cardSlot,      m_env.cardStage,   m_questions};
     auto recovery = std::make_unique<RecoveryNoticeController>(cards);
     m_recovery = recovery.get();
     QObject::connect(&m_env.screens, &Screens::changed, m_recovery,
                      &RecoveryNoticeController::showWaiting);
     collaborators.recovery = std::move(recovery);
-    collaborators.stopSummary = std::make_unique<StopSummaryController>(cards);
+    auto summary = std::make_unique<StopSummaryController>(cards);
+    m_summary = summary.get();
+    collaborators.stopSummary = std::move(summary);
     collaborators.tagPrompt = std::make_unique<TagPromptController>(cards);
     collaborators.retagToast = std::make_unique<RetagToastController>(cards);
 }
@@ -170,7 +172,7 @@ void AppDelegate::makeWindows() {
     m_commandCenter =
         std::make_unique<CommandCenterController>(CommandCenterController::Environment{
             *m_model, m_skills, m_env.preferences, m_env.clock, m_env.scheduler, *m_router,
-            m_env.viewEngine, m_env.panelHost, m_env.screens, m_env.pointerPresses});
+            m_env.viewEngine, m_env.panelHost, m_env.screens, m_env.pointerPresses, m_questions});
     m_commandCenter->statusItemGeometry = [this] { return m_statusItem->geometry(); };
 }
 
@@ -241,6 +243,8 @@ void AppDelegate::performAction(const QString& name) {
         m_recovery->keep();
     else if (name == QLatin1String("discard"))
         m_recovery->discard();
+    else if (name == QLatin1String("note"))
+        m_summary->openNote();
     else if (name == QLatin1String("dashboard"))
         m_router->showDashboard();
     else if (name == QLatin1String("wrapped"))

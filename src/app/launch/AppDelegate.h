@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/AppModel.h"
+#include "app/OpenQuestions.h"
 #include "app/launch/MissingTray.h"
 #include "sensing/AutoSkillMonitor.h"
 #include "sensing/FocusLink.h"
@@ -28,6 +29,7 @@ class ProcessRunner;
 class RecoveryNoticeController;
 class Screens;
 class SharedEngine;
+class StopSummaryController;
 class TrayItem;
 class WindowManager;
 
@@ -79,8 +81,8 @@ public:
     explicit AppDelegate(const Environment& environment);
     ~AppDelegate();
 
-    /// Brings the program up. False when another copy takes over or holds the data: the person
-    /// knows, nothing was touched, and the process is to end.
+    /// Brings the program up. False when another copy takes over or holds the data: that one
+    /// shows itself, or the person knows, nothing was touched, and the process is to end.
     [[nodiscard]] bool applicationDidFinishLaunching();
 
     /// The person started the program again while it runs.
@@ -91,9 +93,9 @@ public:
     /// The same where nothing that is drawn may be touched any more.
     void applicationWillTerminateUnseen();
 
-    /// One of the actions that the desktop may call by name: "toggle", "keep", "discard", "quit",
-    /// and the windows "dashboard", "wrapped", "notes", "quick-log", "settings". Unknown names do
-    /// nothing.
+    /// One of the actions that the desktop may call by name: "toggle", "keep", "discard", "note",
+    /// "quit", and the windows "dashboard", "wrapped", "notes", "quick-log", "settings". Unknown
+    /// names do nothing.
     void performAction(const QString& name);
 
     /// Null before the launch, and in a second copy.
@@ -120,7 +122,9 @@ private:
     AutoSkillMonitor m_autoSkill;
     FocusLink m_focusLink;
     TopRightCardSlot m_cardSlot;
+    OpenQuestions m_questions;
     RecoveryNoticeController* m_recovery = nullptr; ///< owned by the model
+    StopSummaryController* m_summary = nullptr;     ///< owned by the model
     std::unique_ptr<AppModel> m_model;
     ForegroundActivation m_activation;
     std::unique_ptr<WindowRouter> m_router;

@@ -10,6 +10,7 @@
 namespace vantle {
 
 class NotificationCenter;
+class OpenQuestions;
 class Preferences;
 class SkillList;
 class TopRightCardSlot;
@@ -22,6 +23,7 @@ struct CardEnvironment {
     NotificationCenter& notifications;
     TopRightCardSlot& slot;
     CardStage& stage;
+    OpenQuestions& questions;
 };
 
 /// Up from present() until takeDown(). Main thread.

@@ -1,5 +1,6 @@
 #include "surfaces/cards/RecoveryNoticeController.h"
 
+#include "app/OpenQuestions.h"
 #include "app/TopRightCardSlot.h"
 #include "surfaces/cards/RecoveryNoticeModel.h"
 #include "tracking/SkillList.h"
@@ -16,6 +17,7 @@ RecoveryNoticeController::RecoveryNoticeController(const CardEnvironment& enviro
 
 RecoveryNoticeController::~RecoveryNoticeController() {
     m_offer.reset();
+    m_env.questions.close(this);
     m_env.slot.release(owner());
 }
 
@@ -24,7 +26,18 @@ void RecoveryNoticeController::show(const Session& session, std::function<void()
     hideForEviction();
     m_env.slot.release(owner());
     m_offer = Offer{session, std::move(onDiscard), std::move(onKeep)};
+    const auto model = makeModel();
+    m_env.questions.ask(
+        this, {model->body(),
+               {{QStringLiteral("Keep"), model->keepHelp(), [this] { keep(); }},
+                {QStringLiteral("Discard"), model->discardHelp(), [this] { discard(); }}}});
     present();
+}
+
+std::shared_ptr<RecoveryNoticeModel> RecoveryNoticeController::makeModel() const {
+    return std::make_shared<RecoveryNoticeModel>(m_offer->session,
+                                                 m_env.skills.display(m_offer->session.skillId),
+                                                 durationstyle::current(m_env.preferences));
 }
 
 void RecoveryNoticeController::present() {
@@ -34,9 +47,7 @@ void RecoveryNoticeController::present() {
             if (self && self->m_offer) self->present();
         });
     if (!granted) return;
-    const auto model = std::make_shared<RecoveryNoticeModel>(
-        m_offer->session, m_env.skills.display(m_offer->session.skillId),
-        durationstyle::current(m_env.preferences));
+    const auto model = makeModel();
     connect(model.get(), &RecoveryNoticeModel::discarded, this, &RecoveryNoticeController::discard);
     connect(model.get(), &RecoveryNoticeModel::kept, this, &RecoveryNoticeController::keep);
     if (!m_card.present(CardView::RecoveryNotice, model)) m_env.slot.release(owner());
@@ -48,11 +59,13 @@ void RecoveryNoticeController::showWaiting() {
 
 void RecoveryNoticeController::hideForEviction() {
     m_offer.reset();
+    m_env.questions.close(this);
     m_card.takeDown();
 }
 
 std::optional<RecoveryNoticeController::Offer> RecoveryNoticeController::takeOffer() {
     auto offer = std::exchange(m_offer, std::nullopt);
+    m_env.questions.close(this);
     m_card.takeDown();
     m_env.slot.release(owner());
     return offer;

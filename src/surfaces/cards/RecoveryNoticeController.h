@@ -10,6 +10,8 @@
 
 namespace vantle {
 
+class RecoveryNoticeModel;
+
 /// Waits as long as it takes: it has no time-out, and comes back by itself when a stop summary that
 /// pushed it out of the corner closes. Without a screen it waits for showWaiting(). Main thread.
 class RecoveryNoticeController final : public QObject, public collaborators::Recovery {
@@ -31,8 +33,8 @@ public:
     /// comes.
     void showWaiting();
 
-    /// The person's choice, by a button of the card or by an action of the desktop, which is heard
-    /// while the notice waits as well. Both do nothing when there is no offer.
+    /// The person's choice, by a button of the card, in the panel or by an action of the desktop,
+    /// which are heard while the notice waits as well. Both do nothing when there is no offer.
     void keep();
     void discard();
 
@@ -44,6 +46,7 @@ private:
     };
 
     void present();
+    [[nodiscard]] std::shared_ptr<RecoveryNoticeModel> makeModel() const;
     [[nodiscard]] std::optional<Offer> takeOffer();
     /// Known in the corner as the model knows it.
     [[nodiscard]] const void* owner() const { return static_cast<const Recovery*>(this); }

@@ -1,5 +1,6 @@
 #include "surfaces/cards/StopSummaryController.h"
 
+#include "app/OpenQuestions.h"
 #include "app/TopRightCardSlot.h"
 #include "base/Text.h"
 #include "surfaces/cards/StopSummaryModel.h"
@@ -23,17 +24,32 @@ StopSummaryController::StopSummaryController(const CardEnvironment& environment)
     : m_env(environment)
     , m_card(environment) {}
 
-StopSummaryController::~StopSummaryController() { m_env.slot.release(this); }
+StopSummaryController::~StopSummaryController() {
+    m_env.questions.close(this);
+    m_env.slot.release(this);
+}
 
 void StopSummaryController::show(const Content& content,
                                  std::function<void(const std::optional<QString>& note)> onClose) {
+    m_last.reset();
     finish(std::nullopt);
+    if (!content.spotlightNote) m_last = Last{content, onClose};
+    present(content, std::move(onClose));
+}
+
+void StopSummaryController::present(
+    const Content& content, std::function<void(const std::optional<QString>& note)> onClose) {
     m_completion = std::move(onClose);
-    if (!m_env.stage.visibleFrame()) return finish(std::nullopt);
-    m_env.slot.takeForSummary(this, [this] { finish(std::nullopt); });
     const auto model =
         std::make_shared<StopSummaryModel>(content, m_env.skills.display(content.session.skillId),
                                            durationstyle::current(m_env.preferences));
+    m_env.questions.ask(this, {QStringLiteral("Last session: %1").arg(model->durationLabel()),
+                               {{QStringLiteral("Write a note"),
+                                 QStringLiteral("One line about what you worked on. Return saves "
+                                                "it, Escape goes back."),
+                                 [this] { openNote(); }, true}}});
+    if (!m_env.stage.visibleFrame()) return finish(std::nullopt);
+    m_env.slot.takeForSummary(this, [this] { finish(std::nullopt); });
     connect(model.get(), &StopSummaryModel::interacted, this, [this] { m_card.stay(); });
     connect(model.get(), &StopSummaryModel::done, this,
             [this](const QString& note) { finish(noteOf(note)); });
@@ -42,21 +58,37 @@ void StopSummaryController::show(const Content& content,
     });
     if (!m_card.present(CardView::StopSummary, model)) return finish(std::nullopt);
     m_model = model.get();
-    if (content.spotlightNote) {
-        m_card.panel()->takeKeyboard();
-        m_env.scheduler.post([self = QPointer(this), shown = m_model] {
-            if (self && shown && self->m_model == shown) shown->inviteNote();
-        });
-    }
+    if (content.spotlightNote) inviteNote();
     m_card.dismissAfter(
         Seconds(content.spotlightNote ? spotlightDismissSeconds : autoDismissSeconds),
         [this] { finish(std::nullopt); });
+}
+
+void StopSummaryController::inviteNote() {
+    m_card.panel()->takeKeyboard();
+    m_env.scheduler.post([self = QPointer(this), shown = m_model] {
+        if (self && shown && self->m_model == shown) shown->inviteNote();
+    });
+}
+
+void StopSummaryController::openNote() {
+    if (m_card.panel() == nullptr && m_last) present(Content(m_last->content), m_last->onClose);
+    if (m_card.panel() == nullptr) return;
+    m_card.stay();
+    inviteNote();
+}
+
+void StopSummaryController::forgetNote() {
+    m_last.reset();
+    if (m_card.panel() == nullptr) m_env.questions.close(this);
 }
 
 void StopSummaryController::finish(const std::optional<QString>& note) {
     if (m_model) disconnect(m_model, nullptr, this, nullptr);
     m_model = nullptr;
     const bool wasUp = m_card.takeDown();
+    if (note) m_last.reset();
+    if (!m_last) m_env.questions.close(this);
     if (const auto completion = std::exchange(m_completion, {})) completion(note);
     m_env.slot.release(this);
     if (wasUp) Q_EMIT m_env.notifications.HFStopSummaryResolved();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/Collaborators.h"
+#include "app/OpenQuestions.h"
 #include "surfaces/cards/CornerCard.h"
 
 #include <QObject>
@@ -32,6 +33,7 @@ public:
 private:
     [[nodiscard]] bool takeCorner();
     [[nodiscard]] bool present(CardView view, const std::shared_ptr<QObject>& model,
+                               OpenQuestions::Question question,
                                std::function<void(const Outcome&)> completion);
     void finish(const Outcome& outcome);
 

@@ -24,6 +24,7 @@ struct CommandCenterActions {
     std::function<void()> openNotes;
     std::function<void()> openSettings;
     std::function<void()> quit;
+    std::function<void()> hide;
     std::function<void()> relayout; ///< the content has another height
 };
 

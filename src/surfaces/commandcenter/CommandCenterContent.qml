@@ -90,6 +90,18 @@ FocusScope {
             onClicked: content.model.openLastWeek()
         }
 
+        QuestionRows {
+            x: content.margin
+            width: content.inner
+            visible: content.model.questions.length > 0
+            model: content.model
+            onAnswered: (question, answer) => {
+                // The row goes with its question, and must not take the keyboard along.
+                enter.focusByKeyboard();
+                content.model.answer(question, answer);
+            }
+        }
+
         Gap {
             height: DarkUI.space14
         }

@@ -14,7 +14,8 @@ namespace vantle {
 
 CommandCenterController::CommandCenterController(const Environment& environment)
     : m_env(environment)
-    , m_content({m_env.model, m_env.skills, m_env.preferences, m_env.scheduler}, actions()) {
+    , m_content({m_env.model, m_env.skills, m_env.preferences, m_env.scheduler, m_env.questions},
+                actions()) {
     connect(&m_env.presses, &PointerPresses::pressed, this, &CommandCenterController::onPress);
     connect(&m_env.screens, &Screens::changed, this, &CommandCenterController::repositionSoon);
 }
@@ -60,6 +61,7 @@ CommandCenterActions CommandCenterController::actions() {
         .openNotes = afterHiding(&WindowRouter::showLog),
         .openSettings = afterHiding(&WindowRouter::showSettings),
         .quit = [&model] { model.quit(); },
+        .hide = [this] { hide(); },
         .relayout = [this] { repositionSoon(); },
     };
 }
@@ -162,6 +164,8 @@ void CommandCenterController::hide() {
     if (m_env.model.highlightStatusItem) m_env.model.highlightStatusItem(false);
     FloatingPanel* const panel = std::exchange(m_panel, nullptr);
     panel->disconnect(this);
+    // Before it is unmapped, so that a card that takes the keyboard next knows whose it is.
+    panel->returnKeyboard();
     panel->hide();
     panel->deleteLater(); // it may be in the middle of an event of the person's
     m_content.setShown(false);

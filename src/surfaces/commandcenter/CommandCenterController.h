@@ -35,6 +35,7 @@ public:
         PanelHost& host;
         const Screens& screens;
         PointerPresses& presses;
+        OpenQuestions& questions;
     };
 
     explicit CommandCenterController(const Environment& environment);

@@ -43,6 +43,7 @@ void CommandCenterModel::follow() {
     connect(&model, &AppModel::backfillCoverageMinutesChanged, this,
             &CommandCenterModel::backfillChoicesChanged);
     connect(&model, &AppModel::lastActionNoteChanged, this, &CommandCenterModel::noteChanged);
+    connect(&m_env.questions, &OpenQuestions::changed, this, &CommandCenterModel::questionsChanged);
     connect(&model, &AppModel::pulsePrimaryOnceChanged, this, [this] {
         if (m_env.model.pulsePrimaryOnce()) Q_EMIT primaryPulseWanted();
     });
@@ -98,6 +99,39 @@ QList<int> CommandCenterModel::backfillChoices() const {
 
 QString CommandCenterModel::note() const {
     return m_env.model.lastActionNote().value_or(QString());
+}
+
+QStringList CommandCenterModel::questions() const {
+    QStringList texts;
+    for (const auto& [owner, question] : m_env.questions.all())
+        texts << question.text;
+    return texts;
+}
+
+QStringList CommandCenterModel::answersTo(int question) const {
+    QStringList texts;
+    const auto& open = m_env.questions.all();
+    if (question < 0 || question >= static_cast<int>(open.size())) return texts;
+    for (const auto& answer : open[static_cast<std::size_t>(question)].second.answers)
+        texts << answer.text;
+    return texts;
+}
+
+OpenQuestions::Answer CommandCenterModel::answerAt(int question, int answer) const {
+    if (answer < 0 || answer >= answersTo(question).size()) return {};
+    const auto& open = m_env.questions.all()[static_cast<std::size_t>(question)].second;
+    return open.answers[static_cast<std::size_t>(answer)];
+}
+
+QString CommandCenterModel::answerHelp(int question, int answer) const {
+    return answerAt(question, answer).help;
+}
+
+void CommandCenterModel::answer(int question, int answer) {
+    // A copy: giving the answer closes the question.
+    const OpenQuestions::Answer chosen = answerAt(question, answer);
+    if (chosen.takesKeyboard) m_actions.hide();
+    if (chosen.give) chosen.give();
 }
 
 void CommandCenterModel::editMode(const QString& id) {

@@ -1,6 +1,7 @@
 // What the command center shows, and what its controls do.
 #pragma once
 
+#include "app/OpenQuestions.h"
 #include "base/Scheduler.h"
 #include "surfaces/commandcenter/CommandCenterActions.h"
 #include "surfaces/commandcenter/CommandCenterText.h"
@@ -38,6 +39,8 @@ class CommandCenterModel final : public QObject {
     Q_PROPERTY(QList<int> backfillChoices READ backfillChoices NOTIFY backfillChoicesChanged)
     /// What became of the last command; empty when there is nothing to say.
     Q_PROPERTY(QString note READ note NOTIFY noteChanged)
+    /// What the cards ask; the answers are asked for by its place.
+    Q_PROPERTY(QStringList questions READ questions NOTIFY questionsChanged)
     Q_PROPERTY(vantle::ModeListModel* modes READ modes CONSTANT)
     Q_PROPERTY(vantle::ModeEditor* editor READ editor CONSTANT)
 
@@ -48,6 +51,7 @@ public:
         SkillList& skills;
         const Preferences& preferences;
         Scheduler& scheduler;
+        OpenQuestions& questions;
     };
 
     CommandCenterModel(const Environment& environment, CommandCenterActions actions);
@@ -66,6 +70,7 @@ public:
     [[nodiscard]] bool isWrappedReady() const;
     [[nodiscard]] QList<int> backfillChoices() const;
     [[nodiscard]] QString note() const;
+    [[nodiscard]] QStringList questions() const;
     [[nodiscard]] ModeListModel* modes() { return &m_modes; }
     [[nodiscard]] ModeEditor* editor() { return &m_editor; }
 
@@ -81,6 +86,9 @@ public:
     Q_INVOKABLE void openLastWeek() { m_actions.openWrapped(WrappedPeriod::LastWeek); }
     Q_INVOKABLE void openNotes() { m_actions.openNotes(); }
     Q_INVOKABLE void openSettings() { m_actions.openSettings(); }
+    Q_INVOKABLE [[nodiscard]] QStringList answersTo(int question) const;
+    Q_INVOKABLE [[nodiscard]] QString answerHelp(int question, int answer) const;
+    Q_INVOKABLE void answer(int question, int answer);
     Q_INVOKABLE void quit() { m_actions.quit(); }
     /// The view has drawn the attention that was asked for, or is about to: whether it was.
     Q_INVOKABLE bool takePrimaryPulse();
@@ -90,6 +98,7 @@ Q_SIGNALS:
     void wrappedReadyChanged();
     void backfillChoicesChanged();
     void noteChanged();
+    void questionsChanged();
     /// The primary button is to draw attention to itself, once.
     void primaryPulseWanted();
 
@@ -100,6 +109,8 @@ private:
     void refreshClock();
     void commitEdit(const std::optional<QString>& id, const QString& name, std::uint32_t hexRGB);
     [[nodiscard]] Skill chosenSkill() const;
+    /// Without anything in it where there is no such answer any more.
+    [[nodiscard]] OpenQuestions::Answer answerAt(int question, int answer) const;
 
     Environment m_env;
     CommandCenterActions m_actions;

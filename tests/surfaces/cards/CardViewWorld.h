@@ -85,7 +85,8 @@ protected:
     fakes::FakePanelHost host;
     fakes::FakeScreens screens;
     QuickCardStage windowStage{{[this]() -> QQmlEngine& { return engine; }, host, screens}};
-    CardEnvironment windowEnvironment{time, preferences, skills, notifications, slot, windowStage};
+    CardEnvironment windowEnvironment{time, preferences, skills,   notifications,
+                                      slot, windowStage, questions};
 };
 
 } // namespace vantle::tests

@@ -1,6 +1,7 @@
 // The corner of the screen, its cards, and time that passes when a test says so.
 #pragma once
 
+#include "app/OpenQuestions.h"
 #include "app/TopRightCardSlot.h"
 #include "fakes/FakeCardStage.h"
 #include "fakes/MemoryFileSystem.h"
@@ -13,6 +14,8 @@
 #include "tracking/NotificationCenter.h"
 #include "tracking/Session.h"
 #include "tracking/SkillList.h"
+
+#include <gtest/gtest.h>
 
 namespace vantle::tests {
 
@@ -37,6 +40,18 @@ public:
         return made;
     }
 
+    /// The one question that stands open, as the panel shows it.
+    [[nodiscard]] OpenQuestions::Question openQuestion() const {
+        return questions.all().size() == 1 ? questions.all().front().second
+                                           : OpenQuestions::Question();
+    }
+    /// Gives the answer of that text to it.
+    void answer(const QString& answer) {
+        for (const auto& one : openQuestion().answers)
+            if (one.text == answer) return one.give();
+        ADD_FAILURE() << "no answer " << answer.toStdString();
+    }
+
     fakes::VirtualTime time;
     fakes::ManualQueue ioQueue;
     fakes::MemoryFileSystem disk;
@@ -45,8 +60,9 @@ public:
     SkillList skills{paths, ioQueue, preferences};
     NotificationCenter notifications;
     TopRightCardSlot slot;
+    OpenQuestions questions;
     fakes::FakeCardStage stage;
-    CardEnvironment environment{time, preferences, skills, notifications, slot, stage};
+    CardEnvironment environment{time, preferences, skills, notifications, slot, stage, questions};
 };
 
 } // namespace vantle::tests

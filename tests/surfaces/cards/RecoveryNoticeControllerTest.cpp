@@ -96,6 +96,27 @@ TEST_F(RecoveryNoticeTest, AnsweredByTheDesktopWhileItWaitsItDoesNotComeBack) {
     EXPECT_EQ(answers.size(), 1) << "the offer is answered";
 }
 
+TEST_F(RecoveryNoticeTest, OfferIsAnsweredInThePanelWhileTheCardIsUpAndWhileItWaits) {
+    for (const bool waits : {false, true}) {
+        if (waits) takeCornerForSummary();
+        offer(4020);
+        EXPECT_TRUE(openQuestion().text.contains(text("Keep 1 h 7 min of Design?")));
+        answer(waits ? text("Discard") : text("Keep"));
+        EXPECT_EQ(model(), nullptr);
+        EXPECT_TRUE(questions.all().empty());
+    }
+    EXPECT_EQ(answers, QStringList({text("kept"), text("discarded")}));
+}
+
+TEST_F(RecoveryNoticeTest, OfferThatIsErasedOrAnsweredOnTheCardLeavesThePanel) {
+    offer(600);
+    model()->keep();
+    EXPECT_TRUE(questions.all().empty());
+    offer(600);
+    controller.hideForEviction();
+    EXPECT_TRUE(questions.all().empty());
+}
+
 TEST_F(RecoveryNoticeTest, AfterAllDataWasErasedANoticeThatWaitsNeverShows) {
     takeCornerForSummary();
     offer(600);

@@ -197,5 +197,60 @@ TEST_F(StopSummaryTest, ADeletedSkillIsStillNamed) {
     EXPECT_EQ(model().skillName(), skills.display(text("wood_work")).name);
 }
 
+TEST_F(StopSummaryTest, RowInThePanelGivesTheKeyboardToTheNoteAndKeepsTheCardUp) {
+    show();
+    EXPECT_EQ(openQuestion().text, text("Last session: 5 min of Build"));
+    const QSignalSpy asked(&model(), &StopSummaryModel::noteFocusRequested);
+    answer(text("Write a note"));
+    time.settle();
+    EXPECT_TRUE(stage.up(CardView::StopSummary)->hasKeyboard);
+    EXPECT_EQ(asked.count(), 1);
+    time.advance(3600);
+    EXPECT_TRUE(isUp());
+    (void)model().takeNote(text("by keys"));
+    model().submit();
+    EXPECT_EQ(closes, Closes{text("by keys")});
+    EXPECT_TRUE(questions.all().empty()) << "the session has its note";
+}
+
+TEST_F(StopSummaryTest, CardThatWentComesBackForTheNoteUntilTheNextSession) {
+    show();
+    time.advance(21);
+    ASSERT_FALSE(isUp());
+    answer(text("Write a note"));
+    time.settle();
+    ASSERT_TRUE(isUp());
+    EXPECT_TRUE(stage.up(CardView::StopSummary)->hasKeyboard);
+    model().turnAway(); // not now
+    EXPECT_FALSE(isUp());
+    answer(text("Write a note"));
+    (void)model().takeNote(text("late"));
+    model().submit();
+    EXPECT_EQ(closes.back(), text("late"));
+
+    show();
+    time.advance(21);
+    controller.forgetNote();
+    EXPECT_TRUE(questions.all().empty());
+    controller.openNote();
+    EXPECT_FALSE(isUp());
+}
+
+TEST_F(StopSummaryTest, CardThatIsUpTakesItsNoteAlsoDuringTheNextSession) {
+    show();
+    controller.forgetNote();
+    answer(text("Write a note"));
+    (void)model().takeNote(text("still here"));
+    model().submit();
+    EXPECT_EQ(closes, Closes{text("still here")});
+    EXPECT_TRUE(questions.all().empty());
+}
+
+TEST_F(StopSummaryTest, PracticeLeavesNoRowBehindTheCard) {
+    show(true);
+    time.advance(46);
+    EXPECT_TRUE(questions.all().empty());
+}
+
 } // namespace
 } // namespace vantle::tests

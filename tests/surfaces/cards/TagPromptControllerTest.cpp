@@ -188,5 +188,38 @@ TEST_F(TagPromptTest, AnAnswerMayLeadToTheNextQuestion) {
     EXPECT_EQ(prompt(), nullptr);
 }
 
+TEST_F(TagPromptTest, EachAnswerOfThePromptCanBeGivenInThePanel) {
+    QStringList given;
+    for (const auto& skill : skills.all())
+        given << skill.id;
+    given << text("ignore") << text("dismiss");
+    for (qsizetype i = 0; i < given.size(); ++i) {
+        ASSERT_TRUE(ask());
+        EXPECT_EQ(openQuestion().text, text("Counting time in Blender\nWhich skill is this?"));
+        ASSERT_EQ(openQuestion().answers.size(), static_cast<std::size_t>(given.size()));
+        const auto chosen = openQuestion().answers[static_cast<std::size_t>(i)];
+        chosen.give();
+        EXPECT_EQ(outcomes.last(), given[i]);
+        EXPECT_EQ(prompt(), nullptr);
+        EXPECT_TRUE(questions.all().empty());
+        chosen.give(); // the card is gone
+        EXPECT_EQ(outcomes.size(), i + 1);
+    }
+}
+
+TEST_F(TagPromptTest, CorrectionIsAnsweredInThePanel) {
+    ASSERT_TRUE(askCorrection());
+    answer(text("Always"));
+    ASSERT_TRUE(askCorrection());
+    answer(text("No"));
+    EXPECT_EQ(outcomes, QStringList({text("always"), text("no")}));
+}
+
+TEST_F(TagPromptTest, QuestionThatTimesOutLeavesThePanel) {
+    ASSERT_TRUE(ask());
+    time.advance(16);
+    EXPECT_TRUE(questions.all().empty());
+}
+
 } // namespace
 } // namespace vantle::tests

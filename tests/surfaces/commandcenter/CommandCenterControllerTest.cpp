@@ -1,6 +1,7 @@
 #include "surfaces/commandcenter/CommandCenterController.h"
 
 #include "app/ModelWorld.h"
+#include "app/OpenQuestions.h"
 #include "fakes/FakePanelHost.h"
 #include "fakes/FakePointerPresses.h"
 #include "fakes/FakeScreens.h"
@@ -29,7 +30,7 @@ protected:
         world.settle();
         controller = std::make_unique<CommandCenterController>(CommandCenterController::Environment{
             *world.model, *world.skills, world.preferences, world.time, world.time, router, engine,
-            host, screens, presses});
+            host, screens, presses, questions});
         controller->statusItemGeometry = [this] { return item; };
     }
 
@@ -55,6 +56,7 @@ protected:
     fakes::FakeWindowManager manager;
     fakes::FakePointerPresses presses;
     ForegroundActivation activation;
+    OpenQuestions questions;
     SharedEngine engine;
     QRect item = kItem;
     WindowRouter router{

@@ -104,5 +104,39 @@ TEST_F(CommandCenterViewTest, LongNameIsCutAndNotTheTimeBehindIt) {
     }
 }
 
+TEST_F(CommandCenterViewTest, QuestionOfACardIsAnsweredByKeys) {
+    QStringList given;
+    const auto give = [&](const char* answer) {
+        return [this, &given, answer] {
+            given << text(answer);
+            questions.close(this);
+        };
+    };
+    questions.ask(this, {text("Keep 25 min of Build?"),
+                         {{text("Keep"), text("Saves it"), give("keep")},
+                          {text("Discard"), {}, give("discard")}}});
+    show();
+    EXPECT_TRUE(m_shown->shows(text("Keep 25 min of Build?")));
+    QQuickItem* const enter = m_shown->control(content->primaryText());
+    EXPECT_EQ(m_shown->keyboardOwner(), enter);
+    m_shown->press(Qt::Key_Backtab);
+    m_shown->press(Qt::Key_Backtab);
+    ASSERT_EQ(m_shown->keyboardOwner(), m_shown->control(text("Keep")));
+    m_shown->press(Qt::Key_Return);
+    m_shown->settle();
+    EXPECT_EQ(given, QStringList(text("keep")));
+    EXPECT_EQ(m_shown->control(text("Keep")), nullptr);
+    EXPECT_EQ(m_shown->keyboardOwner(), enter) << "the row must not take the keyboard along";
+}
+
+TEST_F(CommandCenterViewTest, PanelGoesBeforeACardTakesTheKeyboard) {
+    questions.ask(this, {text("Last session"),
+                         {{text("Write a note"), {}, [this] { calls << text("card"); }, true}}});
+    show();
+    calls.clear();
+    click(text("Write a note"));
+    EXPECT_EQ(calls, QStringList({text("hide"), text("card")}));
+}
+
 } // namespace
 } // namespace vantle::tests

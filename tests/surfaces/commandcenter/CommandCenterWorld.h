@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/ModelWorld.h"
+#include "app/OpenQuestions.h"
 #include "surfaces/commandcenter/CommandCenterModel.h"
 
 #include <memory>
@@ -16,7 +17,7 @@ protected:
         world.settle();
         content = std::make_unique<CommandCenterModel>(
             CommandCenterModel::Environment{*world.model, *world.skills, world.preferences,
-                                            world.time},
+                                            world.time, questions},
             actions());
         content->setShown(true);
     }
@@ -47,6 +48,7 @@ protected:
             .openNotes = told("notes"),
             .openSettings = told("settings"),
             .quit = told("quit"),
+            .hide = told("hide"),
             .relayout = told("relayout")};
     }
 
@@ -55,6 +57,7 @@ protected:
     }
 
     ModelWorld world;
+    OpenQuestions questions;
     QStringList calls;
     std::unique_ptr<CommandCenterModel> content;
 };
