@@ -1,5 +1,6 @@
 #include "platform/dbus/ApplicationService.h"
 
+#include "base/Scheduler.h"
 #include "support/Await.h"
 #include "support/Buses.h"
 
@@ -136,6 +137,41 @@ TEST(ApplicationService, MissingBusIsAnAnswerAndTakesNoTime) {
     service.start();
     EXPECT_EQ(service.state(), State::NoBus);
     EXPECT_LT(timer.elapsed(), 100);
+}
+
+// A second copy asks, while the running one is a process of its own; here it has a thread's worth
+// of the event loop that the asking runs.
+
+TEST_F(ApplicationServiceTest, RunningCopyThatAnswersIsShown) {
+    serve();
+    QtScheduler scheduler;
+    EXPECT_TRUE(ApplicationService::showRunningCopy(m_caller.bus(), scheduler));
+    EXPECT_TRUE(await([&] { return m_activated == 1; }));
+}
+
+TEST_F(ApplicationServiceTest, CopyThatHasJustBeenStartedIsWaitedFor) {
+    QtScheduler scheduler;
+    const TimerHandle start = scheduler.scheduleOnce(Seconds(0.3), [this] { m_service->start(); });
+    EXPECT_TRUE(ApplicationService::showRunningCopy(m_caller.bus(), scheduler));
+    EXPECT_TRUE(await([&] { return m_activated == 1; }));
+}
+
+TEST_F(ApplicationServiceTest, CopyThatNeverAnswersIsGivenUpAfterTwoSeconds) {
+    QtScheduler scheduler;
+    QElapsedTimer timer;
+    for (const bool isThere : {false, true}) {
+        timer.start();
+        BusClient mute;
+        // Nothing is registered there, and no event loop reads its calls.
+        EXPECT_EQ(
+            mute.takeName(QStringLiteral("local.vantle.%1")
+                              .arg(isThere ? QStringLiteral("Vantle") : QStringLiteral("Other"))),
+            true);
+        EXPECT_FALSE(ApplicationService::showRunningCopy(m_caller.bus(), scheduler));
+        EXPECT_GE(timer.elapsed(), 1900);
+        EXPECT_LT(timer.elapsed(), 5000);
+    }
+    EXPECT_FALSE(ApplicationService::showRunningCopy(tests::noBus(), scheduler));
 }
 
 } // namespace

@@ -281,7 +281,7 @@ class OfFloatingSurfaces(ScreenReader):
     def test_an_alert(self):
         self.launch()
         second = self.new_program()
-        second.start()
+        second.start()  # unasked, so it brings no panel
         self.await_told("Vantle", "push button", "OK")
         window = self.reader.window("Vantle")
         self.assert_nothing_is_nameless(window)

@@ -33,6 +33,18 @@ TEST_F(AppDelegateTest, ASecondCopyShowsOnlyTheAlertAndLeavesTheSessionOfTheFirs
     EXPECT_TRUE(log().empty());
 }
 
+TEST_F(AppDelegateTest, SecondCopyEndsWithoutAWordWhenTheFirstShowsItself) {
+    const auto first = makeCopy();
+    ASSERT_TRUE(first->applicationDidFinishLaunching());
+    runningCopyAnswers = true;
+    EXPECT_FALSE(makeCopy()->applicationDidFinishLaunching());
+    EXPECT_EQ(alerts, 0);
+    EXPECT_EQ(calls, 1);
+
+    EXPECT_FALSE(makeCopy(true)->applicationDidFinishLaunching()) << "nobody asked for the panel";
+    EXPECT_EQ(calls, 1);
+}
+
 TEST_F(AppDelegateTest, TheLockIsFreeAgainAfterTheFirstCopyHasGone) {
     auto first = makeCopy();
     ASSERT_TRUE(first->applicationDidFinishLaunching());

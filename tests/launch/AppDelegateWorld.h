@@ -96,6 +96,7 @@ protected:
             .offerMoveToApplications = [this] { return movesAway; },
             .terminate = [this] { ++terminations; },
             .alertAlreadyRunning = [this] { ++alerts; },
+            .showRunningCopy = [this] { return ++calls > 0 && runningCopyAnswers; },
             .startedUnasked = atLogin});
     }
 
@@ -156,6 +157,8 @@ protected:
     QString capsule; ///< what it shows; empty when there is none
     int terminations = 0;
     int alerts = 0;
+    int calls = 0; ///< of the copy that runs
+    bool runningCopyAnswers = false;
     bool movesAway = false;
 };
 

@@ -56,7 +56,8 @@ bool AppDelegate::applicationDidFinishLaunching() {
     if (m_env.offerMoveToApplications()) return false;
     // Before anything else looks at the data.
     if (!m_lock.acquire(m_env.paths)) {
-        m_env.alertAlreadyRunning();
+        // The panel of the copy that runs is what a start by hand is for.
+        if (m_env.startedUnasked || !m_env.showRunningCopy()) m_env.alertAlreadyRunning();
         return false;
     }
     registerLoginItemOnce();

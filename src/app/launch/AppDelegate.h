@@ -74,6 +74,8 @@ public:
         std::function<bool()> offerMoveToApplications;
         std::function<void()> terminate;           ///< ends the process
         std::function<void()> alertAlreadyRunning; ///< tells the person, and returns when they know
+        /// Has the copy that runs show itself; whether it answered, within a few seconds.
+        std::function<bool()> showRunningCopy = [] { return false; };
         /// At login, or by the bus for a call that is about to come: nothing may pop up.
         bool startedUnasked = false;
     };

@@ -204,6 +204,8 @@ AppDelegate::Environment environmentOn(Ground& ground, bool startedUnasked, cons
                 },
             .terminate = [] { QCoreApplication::quit(); },
             .alertAlreadyRunning = [&platform] { alertAlreadyRunning(platform.panelHost()); },
+            .showRunningCopy = [&platform,
+                                &isEnding] { return platform.showRunningCopy() || isEnding; },
             .startedUnasked = startedUnasked};
 }
 

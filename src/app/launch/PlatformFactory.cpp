@@ -82,7 +82,8 @@ std::unique_ptr<ScreenPower> makeScreenPower(X11Connection& x11, Scheduler& sche
 class X11Platform final : public Platform {
 public:
     X11Platform(Scheduler& scheduler, PlatformEvents events, const QProcessEnvironment& environment)
-        : m_events(std::move(events))
+        : m_scheduler(scheduler)
+        , m_events(std::move(events))
         , m_session(QDBusConnection::sessionBus())
         , m_preferences(m_files, configHome() + QStringLiteral("/Vantle/preferences.ini"))
         , m_xwayland(xwaylandTraits(m_x11))
@@ -151,8 +152,12 @@ public:
         // Without the name nobody can reach this copy over the bus; all else works.
         m_service.start();
     }
+    [[nodiscard]] bool showRunningCopy() override {
+        return ApplicationService::showRunningCopy(m_session, m_scheduler);
+    }
 
 private:
+    Scheduler& m_scheduler;
     const PlatformEvents m_events;
     QDBusConnection m_session;
     PosixFileSystem m_files;

@@ -71,6 +71,10 @@ public:
 
     /// Answers other copies and the desktop from now on. Only the copy that holds the data does.
     virtual void listen() = 0;
+
+    /// For a copy that does not hold the data: asks the one that does to show itself. Waits for its
+    /// answer, two seconds at the most; returns whether there was one.
+    [[nodiscard]] virtual bool showRunningCopy() = 0;
 };
 
 namespace platformfactory {

@@ -1,8 +1,12 @@
 #include "platform/dbus/ApplicationService.h"
 
+#include "base/Scheduler.h"
+#include "platform/dbus/AnswerLimit.h"
 #include "platform/dbus/ApplicationAdaptor.h"
 
 #include <QDBusPendingCallWatcher>
+#include <QDBusServiceWatcher>
+#include <QEventLoop>
 
 namespace vantle {
 
@@ -62,6 +66,33 @@ void ApplicationService::take(const QDBusMessage& answer) {
     }
     m_state = answered ? State::NameTaken : State::NoBus;
     m_session.unregisterObject(kObjectPath);
+}
+
+bool ApplicationService::showRunningCopy(const QDBusConnection& session, Scheduler& scheduler) {
+    if (!session.isConnected()) return false;
+    auto activate = QDBusMessage::createMethodCall(kName, kObjectPath,
+                                                   QStringLiteral("org.freedesktop.Application"),
+                                                   QStringLiteral("Activate"));
+    activate << QVariantMap();
+    activate.setAutoStartService(false);
+    QEventLoop loop;
+    bool answered = false;
+    const auto ask = [&] {
+        auto* const answer =
+            new QDBusPendingCallWatcher(session.asyncCall(activate, kAnswerLimitMs), &loop);
+        connect(answer, &QDBusPendingCallWatcher::finished, &loop, [&, answer] {
+            if (answer->isError()) return; // or nobody yet
+            answered = true;
+            loop.quit();
+        });
+    };
+    const QDBusServiceWatcher coming(kName, session, QDBusServiceWatcher::WatchForRegistration);
+    connect(&coming, &QDBusServiceWatcher::serviceRegistered, &loop, ask);
+    const TimerHandle limit =
+        scheduler.scheduleOnce(Seconds(kAnswerLimitMs / 1000.0), [&loop] { loop.quit(); });
+    ask();
+    loop.exec();
+    return answered;
 }
 
 // Emitted after the answer has gone out, since what follows may take long or ask the person.

@@ -7,6 +7,8 @@
 
 namespace vantle {
 
+class Scheduler;
+
 /// Serves org.freedesktop.Application, so that the desktop, a second start of the program and keys
 /// that the person binds to a command can reach the one that runs:
 ///
@@ -33,6 +35,11 @@ public:
     /// Asks the bus for the name, and waits neither for its answer nor for another owner. Does
     /// nothing while it is asked for or held.
     void start();
+
+    /// For a copy that finds the data taken: asks the one that runs to show itself, and waits for
+    /// its answer, kAnswerLimitMs at the most, also for one that has no name yet because it has
+    /// just been started. Starts none. Returns whether it answered. Runs an event loop.
+    [[nodiscard]] static bool showRunningCopy(const QDBusConnection& session, Scheduler& scheduler);
 
     [[nodiscard]] State state() const { return m_state; }
 
