@@ -47,3 +47,17 @@ function(vantle_qml_module name)
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} Qt6::Quick)
     vantle_precompile(${name})
 endfunction()
+
+# Qt's targets for resources and for the start of a plugin hold nothing for moc, yet each would have a
+# run of it and an empty source of its own: a hundred of them.
+function(vantle_spare_generated_targets directory)
+    get_property(targets DIRECTORY "${directory}" PROPERTY BUILDSYSTEM_TARGETS)
+    list(FILTER targets INCLUDE REGEX "_(resources_[0-9]+|init)$")
+    if(targets)
+        set_target_properties(${targets} PROPERTIES AUTOMOC OFF)
+    endif()
+    get_property(folders DIRECTORY "${directory}" PROPERTY SUBDIRECTORIES)
+    foreach(folder IN LISTS folders)
+        vantle_spare_generated_targets("${folder}")
+    endforeach()
+endfunction()
