@@ -247,25 +247,32 @@ void Life::die() {
             world.time.advance(20.0);
         }
     }
+    m_brokenByDeed << killAndReturn();
+}
+
+QStringList Life::killAndReturn(const std::function<void()>& meanwhile) {
     const auto least = promises.leastOffer();
     const auto counted = static_cast<double>(tracker().displayActiveSeconds());
     end();
+    if (meanwhile) meanwhile();
     world.told.calls.clear();
     launch();
-    if (!least) return;
+    if (!least) return {};
     ++promises.killsChecked;
+    QStringList broken;
     double offered = -1;
     for (const QString& call : world.told.calls)
         if (call.startsWith(QStringLiteral("recovery ")) && !call.endsWith(u'e'))
             offered = call.sliced(9).toDouble();
     if (offered < *least)
-        m_brokenByDeed << QStringLiteral("a kill costs a minute: %1 of %2 s offered")
-                              .arg(offered)
-                              .arg(counted);
+        broken << QStringLiteral("a kill costs a minute: %1 of %2 s offered")
+                      .arg(offered)
+                      .arg(counted);
     if (offered > counted + 1)
-        m_brokenByDeed << QStringLiteral("a kill invents nothing: %1 of %2 s offered")
-                              .arg(offered)
-                              .arg(counted);
+        broken << QStringLiteral("a kill invents nothing: %1 of %2 s offered")
+                      .arg(offered)
+                      .arg(counted);
+    return broken;
 }
 
 void Life::answerOffer() {

@@ -5,6 +5,7 @@
 #include "sensing/AutoSkillMonitor.h"
 #include "sim/Promises.h"
 
+#include <functional>
 #include <memory>
 #include <random>
 
@@ -35,6 +36,9 @@ public:
     void press();
     void work();
     void launch();
+    /// Kills the program and starts it again; `meanwhile` does something to the disk in between.
+    /// Returns what the kill broke.
+    [[nodiscard]] QStringList killAndReturn(const std::function<void()>& meanwhile = {});
 
 private:
     struct Deed {
