@@ -261,6 +261,8 @@ int HourfoldMain(int argc, char** argv) {
     platformfactory::leaveMuteSessionBus();
     // In a Wayland session the windows are X11 windows, which can be placed and stay on top.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
+    // A bold that the face does not have would be drawn by smearing the regular one.
+    qputenv("QT_NO_SYNTHESIZED_BOLD", "1");
     // Views are drawn in software: no graphics driver is mapped, and a third of the memory
     // suffices.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
