@@ -1,9 +1,12 @@
 #include "ceremony/CeremonyLayerView.h"
 
 #include "ceremony/show/CeremonyFrameRenderer.h"
+#include "ceremony/show/CeremonyTimeline.h"
 
 #include <QPainter>
 #include <QPainterPath>
+
+#include <algorithm>
 
 namespace vantle {
 
@@ -24,6 +27,9 @@ QRectF titleRect(const CeremonyFrameRenderer& renderer, QSize size, Seconds t) {
     return centredAt(centre, renderer.model().titleSize);
 }
 
+/// The moment whose title shows at `t` where the title is all there is.
+Seconds solidTime(Seconds t) { return std::max(t, Seconds(ceremonytimeline::titleStands)); }
+
 } // namespace
 
 CeremonyLayerView::CeremonyLayerView(Date start, std::unique_ptr<CeremonyFrameRenderer> renderer)
@@ -41,16 +47,26 @@ void CeremonyLayerView::paint(QPainter& painter, QSize size, Seconds t) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.translate(shake.dx, shake.dy);
     paintField(painter);
+    paintTitle(painter, size, t);
     const CeremonyGridModel& model = m_renderer->model();
-    if (const double opacity = m_renderer->titleOpacity(t.count()); opacity > 0) {
-        painter.setOpacity(opacity);
-        painter.drawImage(titleRect(*m_renderer, size, t), model.titleImage);
-    }
     if (const double opacity = m_renderer->captionOpacity(t.count()); opacity > 0) {
         painter.setOpacity(opacity);
         const QPointF centre(size.width() / 2.0, size.height() - kCaptionHeight);
         painter.drawImage(centredAt(centre, model.captionSize), model.captionImage);
     }
+}
+
+void CeremonyLayerView::paintSolid(QPainter& painter, QSize size, Seconds t) {
+    if (t < Seconds::zero() || t >= endTime()) return;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    paintTitle(painter, size, solidTime(t));
+}
+
+void CeremonyLayerView::paintTitle(QPainter& painter, QSize size, Seconds t) {
+    const double opacity = m_renderer->titleOpacity(t.count());
+    if (opacity <= 0) return;
+    painter.setOpacity(opacity);
+    painter.drawImage(titleRect(*m_renderer, size, t), m_renderer->model().titleImage);
 }
 
 void CeremonyLayerView::paintField(QPainter& painter) {
@@ -67,8 +83,9 @@ void CeremonyLayerView::paintField(QPainter& painter) {
 }
 
 QRegion CeremonyLayerView::solidPart(QSize size, Seconds t) const {
-    if (m_renderer->titleOpacity(t.count()) <= 0) return {};
-    const QRect pill = titleRect(*m_renderer, size, t).toRect();
+    const Seconds shown = solidTime(t);
+    if (t < Seconds::zero() || m_renderer->titleOpacity(shown.count()) <= 0) return {};
+    const QRect pill = titleRect(*m_renderer, size, shown).toRect();
     QPainterPath outline;
     outline.addRoundedRect(pill, kPillRadius, kPillRadius);
     return QRegion(outline.toFillPolygon().toPolygon());

@@ -19,12 +19,16 @@ public:
 
     [[nodiscard]] Seconds endTime() const override;
     void paint(QPainter& painter, QSize size, Seconds t) override;
+    /// The title alone, as it will stand: the show has no other part there, and its title would
+    /// come 1.7 s after the press.
+    void paintSolid(QPainter& painter, QSize size, Seconds t) override;
     /// The title pill, which has a ground of its own. Dots with nothing between them would make
     /// every window below draw itself anew, thousands of times.
     [[nodiscard]] QRegion solidPart(QSize size, Seconds t) const override;
 
 private:
     void paintField(QPainter& painter);
+    void paintTitle(QPainter& painter, QSize size, Seconds t);
 
     const std::unique_ptr<CeremonyFrameRenderer> m_renderer;
 };

@@ -28,6 +28,9 @@ public:
     /// Draws the moment onto a clear ground of that size. Nothing outside of 0 up to the end.
     virtual void paint(QPainter& painter, QSize size, Seconds t) = 0;
 
+    /// Draws the moment where no window can be see-through; only solidPart() of it can be seen.
+    virtual void paintSolid(QPainter& painter, QSize size, Seconds t) { paint(painter, size, t); }
+
     /// The part of the screen that can be shown where no window can be see-through. Outside of it
     /// the window must not be; empty means that there is nothing to show.
     [[nodiscard]] virtual QRegion solidPart(QSize size, Seconds t) const = 0;

@@ -42,7 +42,8 @@ void RasterOverlayWindow::refresh() {
 /// Limits the window to what can be shown. False when that is nothing.
 bool RasterOverlayWindow::takeShape() {
     QRegion shape; // empty: no limits
-    if (!m_host.isComposited()) {
+    m_isSolid = !m_host.isComposited();
+    if (m_isSolid) {
         shape = m_view->solidPart(size(), elapsed());
         if (shape.isEmpty()) return false;
     }
@@ -53,7 +54,10 @@ bool RasterOverlayWindow::takeShape() {
 void RasterOverlayWindow::paintEvent(QPaintEvent*) {
     if (isOver()) return;
     QPainter painter(this);
-    m_view->paint(painter, size(), elapsed());
+    if (m_isSolid)
+        m_view->paintSolid(painter, size(), elapsed());
+    else
+        m_view->paint(painter, size(), elapsed());
 }
 
 void RasterOverlayWindow::end() {

@@ -39,6 +39,7 @@ private:
     std::unique_ptr<OverlayView> m_view; ///< null from its end on, so that its memory is free
     const Clock& m_clock;
     PanelHost& m_host;
+    bool m_isSolid = false; ///< the window has the shape of what the view calls solid
 };
 
 } // namespace vantle

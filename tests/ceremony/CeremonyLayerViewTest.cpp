@@ -92,13 +92,27 @@ TEST(CeremonyLayerView, NothingIsPaintedOutsideOfTheShow) {
     EXPECT_EQ(view.endTime(), Seconds(3.1));
 }
 
+TEST(CeremonyLayerView, WithoutTransparencyTheTitleStandsFromTheFirstFrame) {
+    CeremonyLayerView view({}, rendererOf(CeremonyVariant::Nova));
+    for (const double t : {0.0, 0.05, 0.55, 1.7, 2.3}) {
+        EXPECT_EQ(view.solidPart(kScreen, Seconds(t)).boundingRect(), QRect(250, 180, 100, 40));
+        QImage image(kScreen, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        view.paintSolid(painter, kScreen, Seconds(t));
+        EXPECT_TRUE(isRed(image.pixelColor(300, 200))) << t;
+        EXPECT_EQ(image.pixelColor(10, 10).alpha(), 0) << "nothing is painted that can't be seen";
+    }
+    EXPECT_TRUE(view.solidPart(kScreen, Seconds(-0.01)).isEmpty());
+}
+
 TEST(CeremonyLayerView, WithoutTransparencyTheWindowIsTheTitlePillAlone) {
     CeremonyLayerView view({}, rendererOf(CeremonyVariant::Spiral));
-    EXPECT_TRUE(view.solidPart(kScreen, Seconds(1.0)).isEmpty());
     const QRegion pill = view.solidPart(kScreen, Seconds(2.3));
     EXPECT_EQ(pill.boundingRect(), QRect(250, 180, 100, 40));
     EXPECT_FALSE(pill.contains(QPoint(250, 180))) << "its corners are round";
     EXPECT_LT(view.solidPart(kScreen, Seconds(2.85)).boundingRect().top(), 180);
+    EXPECT_TRUE(view.solidPart(kScreen, Seconds(3.1)).isEmpty());
     CeremonyLayerView untitled({}, rendererOf(CeremonyVariant::Spiral, false));
     EXPECT_TRUE(untitled.solidPart(kScreen, Seconds(2.3)).isEmpty());
 }

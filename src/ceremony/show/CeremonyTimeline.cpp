@@ -14,7 +14,6 @@ constexpr double kPlate = 0.52;
 constexpr double kPlateOut = 1.95;
 
 constexpr double kTitleIn = 1.7;
-constexpr double kTitleStands = 2.0;
 constexpr double kTitleOut = 2.75;
 constexpr double kFade = 0.3;
 
@@ -38,13 +37,13 @@ int plateByte(CeremonyVariant variant, double t) {
 
 double titleOpacity(double t) {
     if (t < kTitleIn || hasEnded(t)) return 0;
-    if (t < kTitleStands) return titleEase(t);
+    if (t < titleStands) return titleEase(t);
     if (t < kTitleOut) return 0.03 * std::sin(5 * t) + 0.97;
     return std::max(1 - (t - kTitleOut) / kFade, 0.0);
 }
 
 double titleRise(double t) {
-    if (t < kTitleStands) return -4 * (1 - titleEase(t));
+    if (t < titleStands) return -4 * (1 - titleEase(t));
     if (t < kTitleOut) return 0;
     return 46 * std::min((t - kTitleOut) / kFade, 1.0);
 }

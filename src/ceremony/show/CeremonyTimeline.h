@@ -15,6 +15,9 @@ namespace vantle::ceremonytimeline {
 /// The same as the alpha of a pixel, 0 to 255.
 [[nodiscard]] int plateByte(CeremonyVariant variant, double t);
 
+/// The first moment at which the title pill has come in.
+inline constexpr double titleStands = 2.0;
+
 /// Of the title pill.
 [[nodiscard]] double titleOpacity(double t);
 
