@@ -11,6 +11,7 @@
 #include "platform/Preferences.h"
 #include "platform/ProcessRunner.h"
 #include "platform/ReducedMotion.h"
+#include "platform/ReservedStrips.h"
 #include "platform/SaveDialog.h"
 #include "platform/ScreenPower.h"
 #include "platform/Screens.h"

@@ -1,8 +1,11 @@
 // What everything that tells of screens promises.
 #include "contract/Contract.h"
 #include "fakes/FakeScreens.h"
+#include "platform/ReservedStrips.h"
 #include "platform/desktop/QtScreens.h"
 #include "support/Await.h"
+
+#include <QCursor>
 
 namespace vantle {
 namespace {
@@ -15,6 +18,7 @@ public:
     /// Plugs the right half in, beside the left one, or pulls it out.
     virtual void plugIn() = 0;
     virtual void pullOut() = 0;
+    virtual void movePointer(QPoint place) = 0;
 };
 
 constexpr QRectF kLeft(0, 0, 800, 900);
@@ -29,6 +33,7 @@ public:
             {{.frame = kLeft, .available = kLeft}, {.frame = kRight, .available = kRight}});
     }
     void pullOut() override { m_screens.arrange({{.frame = kLeft, .available = kLeft}}); }
+    void movePointer(QPoint place) override { m_screens.inUse = kRight.contains(place) ? 1 : 0; }
 
 private:
     fakes::FakeScreens m_screens;
@@ -60,8 +65,11 @@ public:
         EXPECT_TRUE(tests::run(QStringLiteral("xrandr --delmonitor right")));
     }
 
+    void movePointer(QPoint place) override { QCursor::setPos(place); }
+
 private:
-    QtScreens m_screens;
+    ReservedStrips m_noStrips;
+    QtScreens m_screens{m_noStrips};
     bool m_isPluggedIn = false;
 };
 
@@ -113,6 +121,65 @@ TEST_P(ScreensContract, TellsOfAScreenThatWent) {
     ASSERT_TRUE(awaitCount(1));
     EXPECT_EQ(world().screens().all()[0].frame, kLeft);
     EXPECT_EQ(m_countAtChange, 1U) << "who listens finds it gone";
+}
+
+TEST_P(ScreensContract, ScreenWithThePointerIsTheOneInUse) {
+    world().plugIn();
+    ASSERT_TRUE(awaitCount(2));
+    world().movePointer({1200, 300});
+    EXPECT_EQ(world().screens().inUseFirst()[0].frame, kRight);
+    EXPECT_EQ(world().screens().inUseFirst()[1].frame, kLeft);
+    EXPECT_EQ(world().screens().all()[0].frame, kLeft) << "the main one is the main one";
+    world().movePointer({300, 300});
+    EXPECT_EQ(world().screens().inUseFirst()[0].frame, kLeft);
+    world().movePointer({1200, 300});
+    world().pullOut();
+    EXPECT_TRUE(tests::await([this] {
+        const auto screens = world().screens().inUseFirst();
+        return screens.size() == 1 && screens[0].frame == kLeft;
+    }));
+}
+
+/// Bars as the test sets them up.
+class SetStrips final : public ReservedStrips {
+public:
+    [[nodiscard]] std::vector<ReservedStrip> all() override { return strips; }
+    std::vector<ReservedStrip> strips;
+};
+
+TEST(QtScreens, StripsAreTakenOffTheScreensThatTheyLieOn) {
+    QtWorld world;
+    world.plugIn();
+    SetStrips bars;
+    const QtScreens screens(bars);
+    ASSERT_TRUE(tests::await([&] { return screens.all().size() == 2; }));
+    const auto free = [&](std::size_t screen) { return screens.all()[screen].available; };
+    bars.strips = {{Qt::TopEdge, {0, 0, 800, 30}}};
+    EXPECT_EQ(free(0), QRectF(0, 30, 800, 870));
+    EXPECT_EQ(free(1), kRight);
+    bars.strips = {{Qt::BottomEdge, {800, 860, 640, 40}}, {Qt::RightEdge, {1400, 0, 40, 900}}};
+    EXPECT_EQ(free(0), kLeft);
+    EXPECT_EQ(free(1), QRectF(800, 0, 600, 860));
+}
+
+TEST(QtScreens, StripOfABarBetweenTwoScreensLeavesTheOuterOneWhole) {
+    QtWorld world;
+    world.plugIn();
+    SetStrips bars;
+    const QtScreens screens(bars);
+    ASSERT_TRUE(tests::await([&] { return screens.all().size() == 2; }));
+    bars.strips = {{Qt::RightEdge, {760, 0, 680, 900}}}; // of a bar at the left screen's right edge
+    EXPECT_EQ(screens.all()[0].available, QRectF(0, 0, 760, 900));
+    EXPECT_EQ(screens.all()[1].available, kRight);
+}
+
+TEST(QtScreens, BarThatComesOrGoesIsAChange) {
+    SetStrips bars;
+    const QtScreens screens(bars);
+    int changes = 0;
+    QObject::connect(&screens, &Screens::changed, [&] { ++changes; });
+    Q_EMIT bars.changed();
+    EXPECT_EQ(changes, 1);
 }
 
 } // namespace

@@ -10,12 +10,17 @@ namespace vantle::fakes {
 class FakeScreens final : public Screens {
 public:
     [[nodiscard]] std::vector<ScreenShape> all() const override { return shapes; }
+    [[nodiscard]] std::vector<ScreenShape> inUseFirst() const override {
+        return inUse < shapes.size() ? startingWith(shapes[inUse].frame, shapes) : shapes;
+    }
 
     /// Another arrangement, told of at once.
     void arrange(std::vector<ScreenShape> other) {
         shapes = std::move(other);
         Q_EMIT changed();
     }
+
+    std::size_t inUse = 0; ///< the screen that the user is at
 
     /// One plain screen, with a bar of 28 px at its top.
     std::vector<ScreenShape> shapes{

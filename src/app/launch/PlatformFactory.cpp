@@ -29,6 +29,7 @@
 #include "platform/x11/X11PointerPresses.h"
 #include "platform/x11/X11RawPresses.h"
 #include "platform/x11/X11ScreenPower.h"
+#include "platform/x11/X11Struts.h"
 #include "platform/x11/X11WindowManager.h"
 #include "platform/x11/XwaylandTraits.h"
 #include "sensing/ScreenPowerUnion.h"
@@ -100,6 +101,8 @@ public:
                       configHome() + QStringLiteral("/autostart/local.vantle.Vantle.desktop"),
                       QCoreApplication::applicationFilePath())
         , m_trayItem(m_session, !m_xwayland.isXwayland)
+        , m_struts(m_x11)
+        , m_screens(m_struts, !m_xwayland.isXwayland)
         , m_rawPresses(m_x11)
         , m_panelHost(m_x11, scheduler, m_rawPresses, m_xwayland)
         , m_windowManager(m_x11)
@@ -175,6 +178,7 @@ private:
     DesktopReducedMotion m_reducedMotion;
     DesktopAutostart m_autostart;
     DesktopTrayItem m_trayItem;
+    X11Struts m_struts;
     QtScreens m_screens;
     X11RawPresses m_rawPresses;
     X11PanelHost m_panelHost;

@@ -5,6 +5,7 @@
 #include "surfaces/window/WindowKind.h"
 #include "surfaces/window/WindowShell.h"
 
+#include <QCursor>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QQmlEngine>
@@ -51,7 +52,10 @@ int runOnMainThread(const Alert& alert, PanelHost& host) {
     const QSize size = window.fittingSize();
     window.setMinimumSize(size);
     window.setMaximumSize(size);
-    window.setGeometry(QRect(centered(size, window.screen()->availableGeometry()), size));
+    // On the screen in use. Beside a Wayland compositor the pointer may really be elsewhere.
+    const QScreen* const pointed = QGuiApplication::screenAt(QCursor::pos());
+    const QScreen& screen = pointed != nullptr ? *pointed : *window.screen();
+    window.setGeometry(QRect(centered(size, screen.availableGeometry()), size));
     window.show();
     window.requestActivate();
     loop.exec();

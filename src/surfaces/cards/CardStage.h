@@ -42,7 +42,8 @@ class CardStage : public QObject {
     Q_OBJECT
 
 public:
-    /// The main screen without the desktop's bars; empty when there is no screen at all.
+    /// The screen of the cards without the desktop's bars: the one in use, or the one where a card
+    /// is up; empty when there is no screen at all.
     [[nodiscard]] virtual std::optional<QRect> visibleFrame() const = 0;
 
     /// Makes the view over its model, which it keeps alive, and measures it; it is not shown yet.

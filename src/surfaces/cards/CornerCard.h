@@ -31,7 +31,7 @@ class CornerCard {
 public:
     explicit CornerCard(const CardEnvironment& environment);
 
-    /// Puts the view in the corner of the main screen, and follows that when screens come and go.
+    /// Puts the view in the corner of the screen in use, and follows that when screens come and go.
     /// False where there is no screen.
     [[nodiscard]] bool present(CardView view, const std::shared_ptr<QObject>& model);
 

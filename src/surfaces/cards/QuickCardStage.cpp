@@ -1,6 +1,5 @@
 #include "surfaces/cards/QuickCardStage.h"
 
-#include "platform/Screens.h"
 #include "surfaces/cards/CardPlacement.h"
 #include "surfaces/panel/FloatingPanel.h"
 
@@ -9,6 +8,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 
+#include <algorithm>
 #include <utility>
 
 namespace vantle {
@@ -151,18 +151,28 @@ QuickCardStage::~QuickCardStage() {
 }
 
 std::optional<QRect> QuickCardStage::visibleFrame() const {
-    const std::vector<ScreenShape> screens = m_env.screens.all();
+    const auto chosen = screen();
+    return chosen ? std::optional(chosen->available.toRect()) : std::nullopt;
+}
+
+std::optional<ScreenShape> QuickCardStage::screen() const {
+    auto screens = m_env.screens.inUseFirst();
     if (screens.empty()) return std::nullopt;
-    return screens.front().available.toRect();
+    const auto isUp = [](const auto& window) { return window && window->isVisible(); };
+    if (std::ranges::any_of(m_windows, isUp))
+        screens = startingWith(m_screenFrame, std::move(screens));
+    return screens.front();
 }
 
 std::unique_ptr<CardPanel> QuickCardStage::raise(CardView view, std::shared_ptr<QObject> model) {
-    const auto frame = visibleFrame();
-    if (!frame) return nullptr;
+    const auto chosen = screen();
+    if (!chosen) return nullptr;
+    m_screenFrame = chosen->frame;
     const bool isToast = view == CardView::RetagToast;
     QVariantMap properties{{QStringLiteral("model"), QVariant::fromValue(model.get())}};
     if (!isToast)
-        properties.insert(QStringLiteral("groundWidth"), cardplacement::cardWidth(*frame));
+        properties.insert(QStringLiteral("groundWidth"),
+                          cardplacement::cardWidth(chosen->available.toRect()));
     auto panel = std::make_unique<FloatingPanel>(m_env.engine(), m_env.panelHost);
     if (!panel->load(sourceOf(view), properties)) return nullptr;
     arrange(*panel->rootObject());

@@ -1,6 +1,7 @@
 // The screen as cards know it: each in a floating panel of its own.
 #pragma once
 
+#include "platform/Screens.h"
 #include "surfaces/cards/CardStage.h"
 
 #include <QPointer>
@@ -15,7 +16,6 @@ namespace vantle {
 
 class FloatingPanel;
 class PanelHost;
-class Screens;
 
 /// Main thread.
 class QuickCardStage final : public CardStage {
@@ -39,7 +39,11 @@ public:
     [[nodiscard]] std::vector<QRect> panelFrames() const override;
 
 private:
+    /// The screen of the cards that are up, else the one in use.
+    [[nodiscard]] std::optional<ScreenShape> screen() const;
+
     const Environment m_env;
+    QRectF m_screenFrame;                           ///< of the screen that the last card came to
     std::vector<QPointer<FloatingPanel>> m_windows; ///< all that there are, fading ones too
 };
 

@@ -78,7 +78,9 @@ void CommandCenterController::toggle(QPoint click) {
 
 void CommandCenterController::show() {
     m_env.model.refreshPanelState();
-    if (m_env.screens.all().empty() || (!m_panel && !makePanel())) return;
+    const auto screens = m_env.screens.inUseFirst();
+    if (screens.empty() || (!m_panel && !makePanel())) return;
+    m_screenFrame = screens.front().frame;
     reposition();
     m_panel->takeKeyboard();
     if (m_env.model.highlightStatusItem) m_env.model.highlightStatusItem(true);
@@ -115,7 +117,7 @@ QRect CommandCenterController::itemGeometry() const {
 
 void CommandCenterController::reposition() {
     QQuickItem* const view = m_panel->rootObject();
-    const auto screens = m_env.screens.all();
+    const auto screens = startingWith(m_screenFrame, m_env.screens.all());
     const commandcenterplacement::Anchor anchor{itemGeometry(), m_click};
     view->setProperty("maximumHeight", commandcenterplacement::maximumHeight(anchor, screens));
     const QRect ground = view->property("groundRect").toRectF().toRect();

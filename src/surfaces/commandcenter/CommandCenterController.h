@@ -68,6 +68,7 @@ private:
     Environment m_env;
     CommandCenterModel m_content;
     FloatingPanel* m_panel = nullptr; ///< deletes itself after hiding
+    QRectF m_screenFrame;             ///< of the screen that was in use as it was shown
     QRect m_frame;                    ///< of what the person sees, without its shadow
     QPoint m_click;                   ///< at which it was opened; (0, 0) when unknown
     OutsidePress m_outside;

@@ -16,7 +16,7 @@ struct Anchor {
 };
 
 /// The panel of that size: under or over the tray item, else by the place of the click, else in the
-/// top right corner of the main screen; never over the edge of a screen's free area, and no higher
+/// top right corner of the first screen; never over the edge of a screen's free area, and no higher
 /// than it. An item that no screen shows counts as unknown. Empty without a screen.
 [[nodiscard]] QRect place(const QSize& size, const Anchor& anchor,
                           const std::vector<ScreenShape>& screens);

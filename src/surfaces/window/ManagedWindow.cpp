@@ -82,7 +82,7 @@ QSize ManagedWindow::wantedSize() const {
 }
 
 void ManagedWindow::place() {
-    const auto screens = m_env.screens.all();
+    const auto screens = m_env.screens.inUseFirst();
     const QRectF area = screens.empty() ? QRectF() : screens.front().available;
     const QSize size = screens.empty() ? wantedSize() : windowplacement::fitted(wantedSize(), area);
     QRect frame = windowplacement::centred(size, area);

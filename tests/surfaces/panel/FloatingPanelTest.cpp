@@ -2,6 +2,7 @@
 #include "surfaces/panel/FloatingPanel.h"
 
 #include "fakes/FakePanelHost.h"
+#include "platform/ReservedStrips.h"
 #include "platform/desktop/QtScreens.h"
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11PanelHost.h"
@@ -262,7 +263,8 @@ TEST_F(FloatingPanelTest, ASensorFeelsThePointerUntilItIsGone) {
 }
 
 TEST(QtScreens, TheMainScreenIsAPlainOne) {
-    const QtScreens screens;
+    ReservedStrips none;
+    const QtScreens screens(none);
     const auto shapes = screens.all();
     ASSERT_EQ(shapes.size(), 1U);
     EXPECT_EQ(shapes[0].frame, QRectF(0, 0, 1440, 900));

@@ -1,0 +1,29 @@
+// The strips along the edges of the desktop that bars keep for themselves.
+#pragma once
+
+#include <QObject>
+#include <QRect>
+
+#include <vector>
+
+namespace vantle {
+
+/// From that edge of the desktop inwards. In pixels of the device.
+struct ReservedStrip {
+    Qt::Edge edge = Qt::TopEdge;
+    QRect area;
+    friend bool operator==(const ReservedStrip&, const ReservedStrip&) = default;
+};
+
+/// The body here is that of a desktop without bars. Main thread.
+class ReservedStrips : public QObject {
+    Q_OBJECT
+
+public:
+    [[nodiscard]] virtual std::vector<ReservedStrip> all() { return {}; }
+
+Q_SIGNALS:
+    void changed();
+};
+
+} // namespace vantle

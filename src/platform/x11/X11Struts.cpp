@@ -1,0 +1,168 @@
+#include "platform/x11/X11Struts.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace vantle {
+
+namespace {
+
+constexpr std::array<const char*, 3> kStrutAtoms{"_NET_WM_STRUT_PARTIAL", "_NET_WM_STRUT",
+                                                 "_NET_CLIENT_LIST"};
+
+/// Most windows looked at, of the list and of the root each.
+constexpr std::uint32_t kMostWindows = 1024;
+
+std::span<const std::uint32_t> numbersOf(const xcb_get_property_reply_t* property) {
+    if (property == nullptr || property->format != 32) return {};
+    return {static_cast<const std::uint32_t*>(xcb_get_property_value(property)),
+            property->value_len};
+}
+
+} // namespace
+
+X11Struts::X11Struts(X11Connection& x11) : m_x11(x11) {
+    if (!m_x11.isAlive()) return;
+    static_assert(kStrutAtoms.size() == AtomCount);
+    for (std::size_t i = 0; i < kStrutAtoms.size(); ++i) {
+        const auto answer = m_x11.reply<xcb_intern_atom_reply>(
+            xcb_intern_atom(m_x11.xcb(), 0, static_cast<std::uint16_t>(std::strlen(kStrutAtoms[i])),
+                            kStrutAtoms[i]));
+        if (answer) m_atoms[i] = answer->atom;
+    }
+    m_events.push_back(m_x11.subscribe(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
+        handleProperty(reinterpret_cast<const xcb_property_notify_event_t&>(event));
+    }));
+    const auto onWindow = [this](std::uint8_t type, auto windowOf) {
+        m_events.push_back(m_x11.subscribe(
+            type, [this, windowOf](const auto& event) { handleWindow(windowOf(event)); }));
+    };
+    onWindow(XCB_MAP_NOTIFY, [](const auto& event) {
+        return reinterpret_cast<const xcb_map_notify_event_t&>(event).window;
+    });
+    onWindow(XCB_UNMAP_NOTIFY, [](const auto& event) {
+        return reinterpret_cast<const xcb_unmap_notify_event_t&>(event).window;
+    });
+    onWindow(XCB_DESTROY_NOTIFY, [](const auto& event) {
+        return reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window;
+    });
+    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_change_window_attributes(m_x11.xcb(), m_x11.root(), XCB_CW_EVENT_MASK, &mask);
+    m_last = all();
+}
+
+void X11Struts::handleProperty(const xcb_property_notify_event_t& change) {
+    if (change.window == m_x11.root()) {
+        if (change.atom == m_atoms[ClientList]) refresh();
+    } else if (change.atom == m_atoms[Partial] || change.atom == m_atoms[Whole]) {
+        handleWindow(change.window);
+    }
+}
+
+void X11Struts::handleWindow(xcb_window_t window) {
+    if (std::ranges::find(m_bars, window) != m_bars.end()) refresh();
+}
+
+void X11Struts::refresh() {
+    std::vector<ReservedStrip> now = all();
+    if (std::exchange(m_last, now) != now) Q_EMIT changed();
+}
+
+std::vector<ReservedStrip> X11Struts::all() {
+    if (!m_x11.isAlive()) return {};
+    std::vector<Bar> bars = barsAmong(windows());
+    follow(bars);
+    std::vector<xcb_get_window_attributes_cookie_t> cookies;
+    cookies.reserve(bars.size());
+    for (const Bar& bar : bars)
+        cookies.push_back(xcb_get_window_attributes(m_x11.xcb(), bar.window));
+    std::vector<ReservedStrip> strips;
+    for (std::size_t i = 0; i < bars.size(); ++i) {
+        const auto attributes = m_x11.reply<xcb_get_window_attributes_reply>(cookies[i]);
+        if (attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE)
+            std::ranges::move(bars[i].strips, std::back_inserter(strips));
+    }
+    return strips;
+}
+
+std::vector<xcb_window_t> X11Struts::windows() {
+    auto* const xcb = m_x11.xcb();
+    const auto treeCookie = xcb_query_tree(xcb, m_x11.root());
+    const auto listCookie = xcb_get_property(xcb, 0, m_x11.root(), m_atoms[ClientList],
+                                             XCB_ATOM_WINDOW, 0, kMostWindows);
+    const auto sizeCookie = xcb_get_geometry(xcb, m_x11.root());
+    const auto tree = m_x11.reply<xcb_query_tree_reply>(treeCookie);
+    const auto list = m_x11.reply<xcb_get_property_reply>(listCookie);
+    const auto size = m_x11.reply<xcb_get_geometry_reply>(sizeCookie);
+    if (size) m_desktop = QSize(size->width, size->height);
+    const auto managed = numbersOf(list.get());
+    std::vector<xcb_window_t> found(managed.begin(), managed.end());
+    if (tree) {
+        const auto* const first = xcb_query_tree_children(tree.get());
+        found.insert(found.end(), first,
+                     first + std::min<std::uint32_t>(tree->children_len, kMostWindows));
+    }
+    std::ranges::sort(found);
+    found.erase(std::unique(found.begin(), found.end()), found.end());
+    return found;
+}
+
+std::vector<X11Struts::Bar> X11Struts::barsAmong(const std::vector<xcb_window_t>& windows) {
+    // All questions first, then the answers: one trip to the server for all of them.
+    std::vector<std::pair<xcb_get_property_cookie_t, xcb_get_property_cookie_t>> cookies;
+    const auto ask = [this](xcb_window_t window, Atom name) {
+        return xcb_get_property(m_x11.xcb(), 0, window, m_atoms[name], XCB_ATOM_CARDINAL, 0, 12);
+    };
+    cookies.reserve(windows.size());
+    for (const xcb_window_t window : windows)
+        cookies.emplace_back(ask(window, Partial), ask(window, Whole));
+    std::vector<Bar> bars;
+    for (std::size_t i = 0; i < windows.size(); ++i) {
+        const auto partial = m_x11.reply<xcb_get_property_reply>(cookies[i].first);
+        const auto whole = m_x11.reply<xcb_get_property_reply>(cookies[i].second);
+        const auto better = numbersOf(partial.get());
+        auto strips = stripsOf(better.size() == 12 ? better : numbersOf(whole.get()));
+        if (!strips.empty()) bars.push_back({windows[i], std::move(strips)});
+    }
+    return bars;
+}
+
+std::vector<ReservedStrip> X11Struts::stripsOf(std::span<const std::uint32_t> numbers) const {
+    if (numbers.size() < 4) return {};
+    constexpr std::array kEdges{Qt::LeftEdge, Qt::RightEdge, Qt::TopEdge, Qt::BottomEdge};
+    std::vector<ReservedStrip> strips;
+    for (std::size_t i = 0; i < kEdges.size(); ++i) {
+        const int depth = static_cast<int>(numbers[i]);
+        if (depth <= 0) continue;
+        // The end is the last pixel. Without both the strip is as long as the desktop.
+        const bool isPart = numbers.size() == 12;
+        const bool isUpright = i < 2;
+        const int begin = isPart ? static_cast<int>(numbers[4 + 2 * i]) : 0;
+        const int end = isPart      ? static_cast<int>(numbers[5 + 2 * i])
+                        : isUpright ? m_desktop.height() - 1
+                                    : m_desktop.width() - 1;
+        QRect area = isUpright ? QRect(0, begin, depth, end - begin + 1)
+                               : QRect(begin, 0, end - begin + 1, depth);
+        if (kEdges[i] == Qt::RightEdge) area.moveLeft(m_desktop.width() - depth);
+        if (kEdges[i] == Qt::BottomEdge) area.moveTop(m_desktop.height() - depth);
+        if (area.isValid()) strips.push_back({kEdges[i], area});
+    }
+    return strips;
+}
+
+void X11Struts::follow(const std::vector<Bar>& bars) {
+    std::vector<xcb_window_t> now;
+    now.reserve(bars.size());
+    for (const Bar& bar : bars)
+        now.push_back(bar.window);
+    if (now == m_bars) return;
+    // Others on this connection follow the active window, which a bar is not.
+    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+    for (const xcb_window_t window : now)
+        xcb_change_window_attributes(m_x11.xcb(), window, XCB_CW_EVENT_MASK, &mask);
+    m_x11.flush();
+    m_bars = std::move(now);
+}
+
+} // namespace vantle
