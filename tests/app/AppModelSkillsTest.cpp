@@ -145,5 +145,138 @@ TEST_F(UnreadableSkillsTest, FileThatStaysUnreadableIsToldAndLeftAlone) {
     EXPECT_EQ(world.log().size(), 1u);
 }
 
+TEST_F(AppModelSkillsTest, ChoosingTheRunningSkillChangesNothingInTheTracker) {
+    world.press();
+    const auto startedAt = model.tracker().startedAt();
+    world.time.advance(5.0);
+    model.selectSkill(text("building"), AppModel::SkillSelectionOrigin::Human);
+    EXPECT_EQ(model.tracker().startedAt(), startedAt);
+    EXPECT_TRUE(world.log().empty());
+}
+
+TEST_F(AppModelSkillsTest, ChoosingAnUnknownSkillChangesNothing) {
+    model.selectSkill(text("nonsense"), AppModel::SkillSelectionOrigin::Human);
+    EXPECT_EQ(model.selectedSkillId(), text("building"));
+}
+
+TEST_F(AppModelSkillsTest, AChoiceByHandSplitsTheSessionWithAToast) {
+    world.press();
+    world.time.advance(61.0);
+    world.told.calls.clear();
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    EXPECT_EQ(model.tracker().currentSkillId(), text("marketing"));
+    ASSERT_EQ(world.log().size(), 1u);
+    EXPECT_EQ(world.log().front().activeSeconds, 61);
+    EXPECT_TRUE(world.told.has(text("toast Build 7A78FF 61")));
+    EXPECT_TRUE(world.told.has(text("auto manual choice")));
+    EXPECT_TRUE(world.told.has(text("notch retag marketing flash 1")));
+    EXPECT_FALSE(world.told.has(text("focus started")));
+    EXPECT_FALSE(world.told.has(text("summary")));
+}
+
+TEST_F(AppModelSkillsTest, AnAutomaticChoiceSplitsWithoutAToastAndWithoutOfferingARule) {
+    world.told.correctionApp = Application{text("editor"), text("Editor")};
+    world.press();
+    world.time.advance(61.0);
+    world.told.calls.clear();
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Auto);
+    EXPECT_EQ(world.log().size(), 1u);
+    EXPECT_EQ(world.told.calls, QStringList{text("notch retag marketing flash 1")});
+}
+
+TEST_F(AppModelSkillsTest, ASplitLosesNoSecondAtTheSeam) {
+    world.press();
+    world.time.advance(90.0);
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    world.time.advance(30.0);
+    world.press();
+    const auto log = world.log();
+    ASSERT_EQ(log.size(), 2u);
+    EXPECT_EQ(log[0].endedAt, log[1].startedAt);
+    EXPECT_EQ(log[0].activeSeconds + log[1].activeSeconds, 120);
+}
+
+TEST_F(AppModelSkillsTest, ASplitOnASlowDiskLosesNoSecondAtTheSeam) {
+    world.press();
+    world.time.advance(90.5);
+    world.files.onCall = [this](fakes::FaultyFileSystem::Operation operation) {
+        if (operation == fakes::FaultyFileSystem::Operation::Sync) world.time.freeze(0.75);
+    };
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    world.files.onCall = nullptr;
+    world.time.advance(30.0);
+    world.press();
+    const auto log = world.log();
+    ASSERT_EQ(log.size(), 2u);
+    EXPECT_EQ(log[0].endedAt, log[1].startedAt);
+    EXPECT_GE(log[1].activeSeconds, 30 + 1) << "the time of the write counts for the second half";
+}
+
+TEST_F(AppModelSkillsTest, ASleepInTheMiddleOfASplitCountsForNeitherHalf) {
+    world.press();
+    world.time.advance(90.0);
+    world.files.onCall = [this](fakes::FaultyFileSystem::Operation operation) {
+        if (operation != fakes::FaultyFileSystem::Operation::Sync) return;
+        world.files.onCall = nullptr;
+        world.time.suspend(3600.0);
+    };
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    world.idleSource.touch();
+    world.time.advance(30.0);
+    world.press();
+    const auto log = world.log();
+    ASSERT_EQ(log.size(), 2u);
+    EXPECT_EQ(log[0].activeSeconds, 90);
+    EXPECT_EQ(log[1].activeSeconds, 30);
+}
+
+TEST_F(AppModelSkillsTest, AFailedSplitKeepsTheOldSessionAndTheOldChoice) {
+    world.press();
+    world.breakWrites(text("sessions.jsonl"), true);
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    EXPECT_EQ(model.tracker().currentSkillId(), text("building"));
+    EXPECT_EQ(model.selectedSkillId(), text("building"));
+    EXPECT_EQ(world.preferences.string(text("skill.lastUsed")), text("building"));
+    EXPECT_TRUE(world.note().contains(text("Couldn’t save your hours")));
+}
+
+TEST_F(AppModelSkillsTest, AnIdleChoiceOnlyColoursTheCapsule) {
+    world.told.calls.clear();
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    EXPECT_EQ(world.told.calls, QStringList{text("notch retag marketing flash 0")});
+    EXPECT_EQ(model.tracker().state(), TrackerCore::State::Idle);
+}
+
+TEST_F(AppModelSkillsTest, ARuleIsOfferedAfterAChoiceByHand) {
+    world.told.correctionApp = Application{text("editor"), text("Editor")};
+    world.press();
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    EXPECT_TRUE(world.told.has(text("correction Editor as marketing")));
+    world.told.resolveCorrection(true);
+    EXPECT_TRUE(world.told.has(text("auto rule editor marketing")));
+    EXPECT_TRUE(world.told.has(text("auto resolved editor")));
+}
+
+TEST_F(AppModelSkillsTest, NoRuleIsOfferedForAnIgnoredOrAlreadyRuledApplicationOrWithAutoModeOff) {
+    world.told.correctionApp = Application{text("editor"), text("Editor")};
+    world.press();
+    world.told.correctionRuling = text("ignore");
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    world.told.correctionRuling = text("building");
+    model.selectSkill(text("building"), AppModel::SkillSelectionOrigin::Human);
+    world.told.correctionRuling.reset();
+    world.preferences.setBoolean(text("auto.enabled"), false);
+    model.selectSkill(text("connections"), AppModel::SkillSelectionOrigin::Human);
+    EXPECT_TRUE(world.told.calls.filter(text("correction")).isEmpty());
+}
+
+TEST_F(AppModelSkillsTest, ARefusedOfferIsForgotten) {
+    world.told.correctionApp = Application{text("editor"), text("Editor")};
+    world.told.promptsTaken = false;
+    world.press();
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    EXPECT_TRUE(world.told.has(text("auto forget offer editor")));
+}
+
 } // namespace
 } // namespace vantle::tests
