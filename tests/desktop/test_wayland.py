@@ -112,6 +112,29 @@ class Works(WaylandTest):
         self.expect_press_through(card[0] - 10, card[1] + 50)
 
 
+    def end_a_session(self):
+        """Starts and ends one; returns the frame of its card."""
+        self.toggle()
+        wait_until("a session", self.vantle.marker)
+        self.toggle()
+        wait_until("a record", self.vantle.sessions)
+        return wait_until("the card", lambda: self.frames(SUMMARY))[0]
+
+    def test_a_note_typed_into_the_card_lands_in_the_log_and_the_keyboard_goes_back(self):
+        self.launch()
+        x, y, _, height = self.end_a_session()
+        time.sleep(0.5)  # until it is drawn
+        self.click(x + 120, y + height - 110)
+        self.desktop.type("in order")
+        self.desktop.screenshot("note")
+        self.desktop.press("Return")
+        wait_until("the note in the log",
+                   lambda: self.vantle.sessions()[-1]["note"] == "in order", deadline=5)
+        wait_until("no card", lambda: not self.frames(SUMMARY))
+        self.assertNotIn("order", self.got())
+        self.expect_keys_through("mine")
+
+
 class Panel(WaylandTest):
 
     def setUp(self):
@@ -121,8 +144,12 @@ class Panel(WaylandTest):
     def test_the_panel_has_the_keyboard_and_gives_it_back(self):
         self.vantle.start()
         wait_until("the panel", lambda: self.frames(PANEL))
-        time.sleep(0.5)
+        time.sleep(1.5)
+        self.assertTrue(self.frames(PANEL), "it stays until the user turns away")
         self.desktop.screenshot("panel")
+        self.desktop.type("abc")
+        time.sleep(0.3)
+        self.assertNotIn("abc", self.got())
         self.desktop.press("Escape")
         wait_until("no panel", lambda: not self.frames(PANEL))
         self.expect_keys_through("mine")

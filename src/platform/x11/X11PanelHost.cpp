@@ -167,9 +167,8 @@ void X11PanelHost::takeKeyboardFromCompositor(QWindow& window) {
     if (!m_before.try_emplace(window.winId(), XCB_NONE).second) return; // it has it
     setType(window, "_NET_WM_WINDOW_TYPE_NORMAL");
     remap(connection, id);
-    (void)setFocus(connection, id);
-    // Not every compositor leaves the focus of the X server to an unmanaged window; all of them
-    // know a grab.
+    // The grab tells the window that it has the focus. The focus of the X server itself would be
+    // taken back at once by compositors that leave it to managed windows alone.
     const XcbOwned<xcb_grab_keyboard_reply_t> grabbed(
         xcb_grab_keyboard_reply(connection,
                                 xcb_grab_keyboard(connection, 1, id, XCB_CURRENT_TIME,
