@@ -20,13 +20,19 @@ const QString kSentence =
     QStringLiteral("You made webhook retries land in order, settled the pilot with Ines, and "
                    "reworked the settings page.");
 
+int firstWeekdayOf(const QString& locale) {
+    if (locale == QLatin1String("fa_IR")) return 7;
+    return locale == QLatin1String("he_IL") ? 1 : 2;
+}
+
 /// A review of a made-up log, with a model that writes about it at once.
 class DemoReview final : public QObject {
 public:
     DemoReview(QObject* owner, std::vector<Session> log, WrappedPeriod period,
-               const QString& duration)
+               const QString& duration, const QString& locale)
         : QObject(owner)
         , m_log(std::move(log))
+        , m_calendar{QStringLiteral("UTC"), firstWeekdayOf(locale), 4, locale}
         , view(environment(period, duration)) {
         m_model.answer(kSentence);
         m_time.settle();
@@ -46,10 +52,7 @@ private:
                 .model = m_model,
                 .clock = m_time,
                 .scheduler = m_time,
-                .calendar =
-                    [] {
-                        return Calendar{QStringLiteral("UTC"), 2, 4};
-                    },
+                .calendar = [this] { return m_calendar; },
                 .allSessions = [this] { return m_log; },
                 .skills =
                     [] {
@@ -69,20 +72,22 @@ private:
     fakes::FakeLanguageModel m_model;
     NotificationCenter m_notifications;
     std::vector<Session> m_log;
+    Calendar m_calendar;
 
 public:
     WrappedView view; ///< goes before what it looks at
 };
 
 Scene page(const char* name, Sample sample, WrappedPeriod period, const char* card,
-           std::function<void(WrappedView&)> then = {}, const char* duration = "natural") {
+           std::function<void(WrappedView&)> then = {}, const char* duration = "natural",
+           const char* locale = "en_US") {
     Scene made;
     made.name = QLatin1String(name);
     made.view = QUrl(QStringLiteral("qrc:/qt/qml/Vantle/DemoWindows/FramedScene.qml"));
     made.ground = kDesk;
     made.properties = [=](QObject* owner) {
         auto* const review = new DemoReview(owner, sample ? sample() : std::vector<Session>(),
-                                            period, QLatin1String(duration));
+                                            period, QLatin1String(duration), QLatin1String(locale));
         review->turnTo(QLatin1String(card));
         if (then) then(review->view);
         return QVariantMap{
@@ -105,6 +110,29 @@ std::vector<Session> wordyWeeks() {
                           .arg(parts[i % parts.size()])
                           .arg(i);
     return log;
+}
+
+/// The same weeks with notes in another script, some mixed with words of this one.
+std::vector<Session> weeksNoted(const std::array<const char*, 4>& notes) {
+    std::vector<Session> log = firstWeeks();
+    for (std::size_t i = 0; i < log.size(); ++i)
+        log[i].note = QString::fromUtf8(notes[i % notes.size()]);
+    return log;
+}
+std::vector<Session> hebrewWeeks() {
+    return weeksNoted({"תיקנתי את התור; הוא שורד restart של השרת.",
+                       "שיחה עם Ines על הפיילוט (חלק 2)", "עיצוב חלון ההגדרות",
+                       "The landing page, for דנה"});
+}
+std::vector<Session> persianWeeks() {
+    return weeksNoted({"صف پیام‌ها پس از restart هم سالم می‌ماند.",
+                       "گفتگو با Ines درباره‌ی آزمایش",
+                       "طراحی پنجره‌ی تنظیمات", "Landing page"});
+}
+/// A theme of 80 letters without a place to break it.
+std::vector<Session> longWords() {
+    const QByteArray word = QByteArray("q").repeated(80);
+    return weeksNoted({word.constData(), word.constData(), "webhook importer", "webhook retries"});
 }
 
 std::vector<Session> untilYesterday() {
@@ -146,6 +174,17 @@ QList<Scene> reviewScenes() {
         page("wrapped-summary-year", nightOwlYears, AllTime, "summary"),
         page("wrapped-summary-failed", nightOwlYears, LastWeek, "summary",
              [](WrappedView& view) { view.saveImage(); }),
+        page("wrapped-notes-long-words", longWords, Month, "notes"),
+        page("wrapped-summary-long-words", longWords, Month, "summary"),
+        page("wrapped-notes-hebrew", hebrewWeeks, Month, "notes", {}, "natural", "he_IL"),
+        page("wrapped-rhythm-hebrew", hebrewWeeks, Week, "rhythm", {}, "natural", "he_IL"),
+        page("wrapped-summary-hebrew", hebrewWeeks, Month, "summary", {}, "natural", "he_IL"),
+        page("wrapped-hero-persian", persianWeeks, Month, "hero", {}, "natural", "fa_IR"),
+        page("wrapped-notes-persian", persianWeeks, Month, "notes", {}, "natural", "fa_IR"),
+        page("wrapped-rhythm-persian", persianWeeks, Month, "rhythm", {}, "natural", "fa_IR"),
+        page("wrapped-rhythm-year-persian", nightOwlYears, AllTime, "rhythm", {}, "natural",
+             "fa_IR"),
+        page("wrapped-summary-persian", persianWeeks, Month, "summary", {}, "natural", "fa_IR"),
         page("wrapped-empty", untilYesterday, Today, ""),
         page("wrapped-empty-first", nullptr, Week, ""),
     };

@@ -50,6 +50,24 @@ void useApps(DemoSettings& world) {
     }
 }
 
+/// A mode and applications of long names, and of names in another script.
+void useLongNames(DemoSettings& world) {
+    world.program();
+    const Skill skill = world.skills->display(QStringLiteral("building"));
+    world.model->updateSkill(skill.id, QStringLiteral("WWWWWWWWWWWWWWWWWWWW"), skill.hexRGB);
+    const Skill other = world.skills->display(QStringLiteral("connections"));
+    world.model->updateSkill(other.id, QStringLiteral("ניהול פרויקט ופגישות"), other.hexRGB);
+    world.rules->loadIfNeeded();
+    for (const auto& [name, ruling] :
+         {std::pair{"A Program With a Remarkably Long Name and an Edition (Nightly)", "building"},
+          std::pair{"ویرایشگر متن", "connections"}}) {
+        const QString id = QString::fromUtf8(name);
+        world.time.advance(90);
+        world.rules->recordSeen(id, id);
+        world.rules->setRule(id, QString(QLatin1String(ruling)));
+    }
+}
+
 using Prepare = std::function<void(DemoSettings&)>;
 /// Where the window is scrolled to, given its sections from the top.
 using Place = std::function<double(const QList<QQuickItem*>& sections)>;
@@ -140,6 +158,7 @@ QList<Scene> settingsScenes() {
     return {first,
             settings("settings-ceremony", {}, section(1)),
             settings("settings-apps", {}, endOf(2)),
+            settings("settings-long-names", useLongNames, endOf(2)),
             settings("settings-general", {}, end),
             eraseQuestion(),
             settings(

@@ -9,6 +9,7 @@ Item {
     required property url view
     required property QtObject model
     property string title // in the strip
+    property bool minimisable: true
     property size fixed // of the view; empty for the size that it wants
     readonly property alias item: loader.item
 
@@ -28,6 +29,7 @@ Item {
             id: strip
             width: parent.width
             title: scene.title
+            minimisable: scene.minimisable
         }
 
         Loader {

@@ -1,10 +1,12 @@
 #include "app/ModelWorld.h"
 #include "gallery/Scenes.h"
+#include "surfaces/alert/AlertModel.h"
 #include "surfaces/dashboard/DashboardView.h"
 #include "surfaces/notes/LogView.h"
 #include "surfaces/quicklog/QuickLogView.h"
 #include "windows/SampleYear.h"
 
+#include <array>
 #include <memory>
 
 namespace vantle {
@@ -12,7 +14,6 @@ namespace vantle {
 namespace {
 
 using World = tests::ModelWorld;
-using Prepare = std::function<void(World&)>;
 
 /// The model on a disk and a clock of its own, for as long as the picture is made.
 class DemoWorld final : public QObject, public World {
@@ -21,10 +22,22 @@ public:
         idleSource.fix(0);
         time.shiftWall(epochSeconds(sampleNow()) - epochSeconds(time.now()));
     }
-    static Calendar utc() { return {QStringLiteral("UTC"), 2, 4}; }
+    /// What the views are made with.
+    [[nodiscard]] std::function<Calendar()> calendarSource() {
+        return [this] { return calendar; };
+    }
+
+    Calendar calendar{QStringLiteral("UTC"), 2, 4};
 
     std::unique_ptr<QObject> viewModel; ///< goes before what it looks at
 };
+
+struct AlertHolder final : QObject {
+    using QObject::QObject;
+    AlertModel model;
+};
+
+using Prepare = std::function<void(World&)>;
 
 void fill(World& world) { world.disk.setContent(World::file("sessions.jsonl"), sampleLog()); }
 
@@ -53,28 +66,90 @@ Scene dashboard(const char* name, Prepare prepare, std::function<void(DemoWorld&
                       if (then) then(world);
                       return new DashboardView({*world.model, world.notifications,
                                                 world.preferences, world.time, world.time,
-                                                DemoWorld::utc, [] {}, [] {}});
+                                                world.calendarSource(), [] {}, [] {}});
                   });
 }
 
-Scene notes(const char* name, Prepare prepare, std::function<void(LogView&)> then = {}) {
+Scene notes(const char* name, Prepare prepare, std::function<void(LogView&)> then = {},
+            std::function<void(DemoWorld&)> before = {}) {
     return window(QLatin1String(name), QStringLiteral("Notes/NotesLogView.qml"), prepare,
-                  [then](DemoWorld& world) {
-                      auto* const view = new LogView({*world.model, world.notifications,
-                                                      world.preferences, world.time, world.time,
-                                                      DemoWorld::utc, [](const QString&) {}});
+                  [then, before](DemoWorld& world) {
+                      if (before) before(world);
+                      auto* const view = new LogView(
+                          {*world.model, world.notifications, world.preferences, world.time,
+                           world.time, world.calendarSource(), [](const QString&) {}});
                       if (then) then(*view);
                       return view;
                   });
 }
 
-Scene quickLog(const char* name, std::function<void(QuickLogView&)> then) {
+Scene quickLog(const char* name, std::function<void(QuickLogView&)> then,
+               std::function<void(DemoWorld&)> before = {}) {
     return window(QLatin1String(name), QStringLiteral("QuickLog/QuickLogForm.qml"), fill,
-                  [then](DemoWorld& world) {
+                  [then, before](DemoWorld& world) {
+                      if (before) before(world);
                       auto* const view = new QuickLogView(*world.model, world.preferences, [] {});
                       then(*view);
                       return view;
                   });
+}
+
+/// The same in a window of that size.
+Scene sized(Scene scene, QSizeF view) {
+    scene.properties = [made = scene.properties, view](QObject* owner) {
+        QVariantMap properties = made(owner);
+        properties.insert(QStringLiteral("fixed"), view);
+        return properties;
+    };
+    return scene;
+}
+
+// As narrow as the windows of hours and notes can be made.
+constexpr QSizeF kNarrowHours(380, 512);
+constexpr QSizeF kNarrowNotes(380, 620);
+
+using Names = std::array<const char*, 3>;
+constexpr Names kLongNames = {"Wohnungsbaugesellsch", "WWWWWWWWWWWWWWWWWWWW",
+                              "Qualitätsmanagement"};
+constexpr Names kHebrewNames = {"ניהול פרויקט ופגישות", "עיצוב", "כתיבה"};
+constexpr Names kPersianNames = {"برنامه‌ریزی هفتگی", "طراحی", "نوشتن"};
+
+void rename(DemoWorld& world, const Names& names) {
+    constexpr std::array kIds = {"building", "product_design", "marketing"};
+    for (std::size_t i = 0; i < kIds.size(); ++i) {
+        const Skill skill = world.skills->display(QLatin1String(kIds[i]));
+        world.model->updateSkill(skill.id, QString::fromUtf8(names[i]), skill.hexRGB);
+    }
+}
+
+/// A user of that locale, whose calendar the days are counted by.
+std::function<void(DemoWorld&)> inLocale(const char* locale, int firstWeekday, const Names& names) {
+    return [=](DemoWorld& world) {
+        world.calendar.locale = QLatin1String(locale);
+        world.calendar.firstWeekday = firstWeekday;
+        rename(world, names);
+    };
+}
+const auto kPersian = inLocale("fa_IR", 7, kPersianNames);
+const auto kHebrew = inLocale("he_IL", 1, kHebrewNames);
+
+void work(DemoWorld& world) {
+    world.model->toggleVantle();
+    world.time.advance(38 * 60);
+}
+
+/// The first notes of the log in the user's own script, some mixed with another.
+Prepare noted(std::array<const char*, 3> notes) {
+    return [=](World& world) {
+        QByteArray log = sampleLog();
+        constexpr std::array kOld = {
+            "Webhook retries land in order now; the queue survives a restart.",
+            "Call with Ines about the pilot, she wants the weekly export first.",
+            "Settings page: one column, captions under each row."};
+        for (std::size_t i = 0; i < kOld.size(); ++i)
+            log.replace(kOld[i], notes[i]);
+        world.disk.setContent(World::file("sessions.jsonl"), log);
+    };
 }
 
 QList<Scene> dashboards() {
@@ -83,7 +158,9 @@ QList<Scene> dashboards() {
     Scene full = dashboard("dashboard-full-wall", [](World& world) {
         world.disk.setContent(World::file("sessions.jsonl"), sampleLog().repeated(3));
     });
-    return {dashboard("dashboard-empty", [](World&) {}), ordinary, full,
+    return {dashboard("dashboard-empty", [](World&) {}),
+            ordinary,
+            full,
             dashboard("dashboard-running", fill,
                       [](DemoWorld& world) {
                           world.model->selectSkill(QStringLiteral("product_design"),
@@ -91,25 +168,73 @@ QList<Scene> dashboards() {
                           world.model->toggleVantle();
                           world.time.advance(38 * 60);
                       }),
+            sized(dashboard("dashboard-narrow", fill,
+                            [](DemoWorld& world) {
+                                rename(world, kLongNames);
+                                work(world);
+                            }),
+                  kNarrowHours),
+            sized(dashboard("dashboard-narrow-idle", fill), kNarrowHours),
+            dashboard(
+                "dashboard-long-names",
+                [](World& world) {
+                    world.disk.setContent(World::file("sessions.jsonl"), sampleLog().repeated(30));
+                },
+                [](DemoWorld& world) {
+                    rename(world, kLongNames);
+                    work(world);
+                }),
+            dashboard("dashboard-persian", fill,
+                      [](DemoWorld& world) {
+                          kPersian(world);
+                          work(world);
+                      }),
+            dashboard("dashboard-hebrew", fill,
+                      [](DemoWorld& world) {
+                          kHebrew(world);
+                          work(world);
+                      }),
             dashboard("dashboard-data-warning", [](World& world) {
                 world.disk.setContent(World::file("sessions.jsonl"),
                                       sampleLog() + "{\"torn\n" + "not a record\n");
             })};
 }
 
+constexpr auto kLongNote =
+    "The importer now does what it should when the machine is switched off in the middle of a "
+    "run, tells so in plain words, and starts again where it was, with no record twice and none "
+    "lost, which took a week and two rewrites of the reader.";
+constexpr auto kLongWord =
+    "https://example.org/a/very/long/address/without/any/place/to/break/it/at/all/in/a/line";
+
 QList<Scene> noteScenes() {
     Scene list = notes("notes", fill);
     list.twice = true;
-    return {notes("notes-empty", [](World&) {}), list,
-            notes("notes-editing", fill,
-                  [](LogView& view) {
-                      view.beginEdit(
-                          view.rows()->data(view.rows()->index(2), NoteRows::IdRole).toString());
-                  }),
-            notes("notes-no-match", fill, [](LogView& view) {
-                view.setQuery(QStringLiteral("invoice "));
-                view.showSkill(QStringLiteral("product_design"));
-            })};
+    return {
+        notes("notes-empty", [](World&) {}),
+        list,
+        notes("notes-editing", fill,
+              [](LogView& view) {
+                  view.beginEdit(
+                      view.rows()->data(view.rows()->index(2), NoteRows::IdRole).toString());
+              }),
+        sized(notes("notes-narrow", fill, {}, [](DemoWorld& world) { rename(world, kLongNames); }),
+              kNarrowNotes),
+        notes("notes-long", noted({kLongNote, kLongWord, "x"}), {},
+              [](DemoWorld& world) { rename(world, kLongNames); }),
+        notes("notes-hebrew",
+              noted({"תיקנתי את התור; הוא שורד restart של השרת.", "שיחה עם Ines על הפיילוט (חלק 2)",
+                     "The settings page, for דנה"}),
+              {}, kHebrew),
+        notes("notes-persian",
+              noted({"صف پیام‌ها پس از restart هم سالم می‌ماند.",
+                     "گفتگو با Ines درباره‌ی آزمایش",
+                     "Settings page: one column"}),
+              {}, kPersian),
+        notes("notes-no-match", fill, [](LogView& view) {
+            view.setQuery(QStringLiteral("invoice "));
+            view.showSkill(QStringLiteral("product_design"));
+        })};
 }
 
 QList<Scene> quickLogs() {
@@ -119,6 +244,11 @@ QList<Scene> quickLogs() {
                          view.setHoursText(QStringLiteral("1"));
                          view.setMinutesText(QStringLiteral("30"));
                      }),
+            quickLog(
+                "quick-log-long-name", [](QuickLogView& view) { view.setSkillIndex(1); },
+                [](DemoWorld& world) { rename(world, kLongNames); }),
+            quickLog(
+                "quick-log-hebrew", [](QuickLogView& view) { view.setSkillIndex(0); }, kHebrew),
             quickLog("quick-log-error", [](QuickLogView& view) {
                 view.setHoursText(QStringLiteral("0"));
                 view.setMinutesText(QStringLiteral("0"));
@@ -126,8 +256,37 @@ QList<Scene> quickLogs() {
             })};
 }
 
+Scene alert(const char* name, const char* message, const char* text, const QStringList& buttons) {
+    Scene made;
+    made.name = QLatin1String(name);
+    made.view = QUrl(QStringLiteral("qrc:/qt/qml/Vantle/DemoWindows/FramedScene.qml"));
+    made.ground = kDesk;
+    made.properties = [=](QObject* owner) {
+        auto* const holder = new AlertHolder(owner);
+        holder->model.message = QString::fromUtf8(message);
+        holder->model.informativeText = QString::fromUtf8(text);
+        holder->model.buttons = buttons;
+        return QVariantMap{{QStringLiteral("view"),
+                            QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Alert/AlertView.qml"))},
+                           {QStringLiteral("minimisable"), false},
+                           {QStringLiteral("model"), QVariant::fromValue(&holder->model)}};
+    };
+    return made;
+}
+
+QList<Scene> alerts() {
+    return {alert("alert", "Vantle is already running",
+                  "Another copy of Vantle is already using this Mac's data. This one will close so "
+                  "your history stays safe.",
+                  {QStringLiteral("OK")}),
+            alert("alert-question", "Move Vantle to Applications?",
+                  "Vantle runs best from your Applications folder — it keeps it out of Downloads "
+                  "and lets it update cleanly. Move it there now?",
+                  {QStringLiteral("Move to Applications"), QStringLiteral("Not Now")})};
+}
+
 } // namespace
 
-QList<Scene> windowScenes() { return dashboards() + noteScenes() + quickLogs(); }
+QList<Scene> windowScenes() { return dashboards() + noteScenes() + quickLogs() + alerts(); }
 
 } // namespace vantle

@@ -30,6 +30,9 @@ DarkCard {
         text: card.detail
         role: DarkUI.caption
         color: DarkUI.t3
+        // Years of work make a long line; only then is it set smaller.
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: DarkUI.small.size
         elide: Text.ElideRight
     }
 

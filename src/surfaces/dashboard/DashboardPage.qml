@@ -19,6 +19,7 @@ FocusScope {
     DarkScrollView {
         anchors.fill: parent
         focus: true
+        atWindowBottom: true
 
         Column {
             x: page.margin

@@ -8,13 +8,14 @@ Item {
     id: row
 
     required property skillTotalLine line
+    readonly property real nameWidth: Math.max(84, Math.round(width * 0.4))
 
     Accessible.role: Accessible.StaticText
     Accessible.name: line.spoken
 
     DarkText {
         anchors.verticalCenter: parent.verticalCenter
-        width: 84 - DarkUI.space8
+        width: row.nameWidth - DarkUI.space8
         text: row.line.name
         role: DarkUI.caption
         elide: Text.ElideRight
@@ -22,7 +23,7 @@ Item {
     }
 
     GlassBarTrack {
-        x: 84
+        x: row.nameWidth
         anchors.verticalCenter: parent.verticalCenter
         width: row.width - x - 84 - DarkUI.space8 + DarkUI.space10
         implicitHeight: DarkUI.barTable

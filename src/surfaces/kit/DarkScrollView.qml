@@ -13,6 +13,7 @@ FocusScope {
     property alias contentY: flickable.contentY
     property bool faded: true // fades at the edges
     property color ground: DarkUI.base
+    property bool atWindowBottom: false // its fade leaves the window's edge and corners alone
     property bool scrollbarShown: false
 
     function scrollTo(y: real): void {
@@ -41,11 +42,21 @@ FocusScope {
     }
 
     EdgeFade {
+        readonly property real corner: view.atWindowBottom ? DarkUI.radiusWindow : 0
         anchors.bottom: parent.bottom
-        width: parent.width
+        x: corner
+        width: parent.width - 2 * corner
         visible: view.faded && !flickable.atYEnd
         edge: Qt.BottomEdge
         ground: view.ground
+
+        Rectangle { // the window's own, which the fade covers
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: DarkUI.hairlineWidth
+            visible: view.atWindowBottom
+            color: DarkUI.windowEdge
+        }
     }
 
     DarkScrollbar {

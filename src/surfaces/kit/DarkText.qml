@@ -15,6 +15,9 @@ Text {
     // A fixed line would leave all of the space below the letters.
     topPadding: role.leading
     bottomPadding: -role.leading
+    // The program's own texts, and names among them, stand at the left in every script; what
+    // follows its own, such as a note, resets this.
+    horizontalAlignment: Text.AlignLeft
     textFormat: Text.PlainText
     // Crisp stems for small text on plain screens; elsewhere whole-pixel glyphs would jump.
     renderType: role.size <= 15 && Screen.devicePixelRatio === 1 ? Text.NativeRendering

@@ -20,6 +20,7 @@ Row {
     }
 
     FlatDot {
+        id: dot
         anchors.verticalCenter: parent.verticalCenter
         width: DarkUI.chipDot
         height: DarkUI.chipDot
@@ -27,27 +28,38 @@ Row {
     }
 
     Word {
+        // What the words that are never cut leave.
+        readonly property real others: dot.width + divider.width + duration.width
+                                       + 3 * meta.spacing
+                                       + (meta.isManual ? end.width + meta.spacing : 0)
+        width: Math.min(implicitWidth, meta.width - others)
         text: meta.skillName
+        elide: Text.ElideRight
     }
 
     Word {
+        id: divider
         text: "·"
         color: DarkUI.t4
     }
 
     Word {
+        id: duration
         text: meta.durationText
     }
 
-    Word {
+    Row {
+        id: end
         visible: meta.isManual
-        text: "·"
-        color: DarkUI.t4
-    }
+        spacing: meta.spacing
 
-    Word {
-        visible: meta.isManual
-        text: qsTr("Manual")
-        color: DarkUI.t3
+        Word {
+            text: "·"
+            color: DarkUI.t4
+        }
+        Word {
+            text: qsTr("Manual")
+            color: DarkUI.t3
+        }
     }
 }

@@ -122,6 +122,7 @@ KitControl {
             // The room of the two buttons stays free, so that no line moves under the pointer.
             width: parent.width - 2 * DarkUI.iconButton - DarkUI.space12
             text: row.note
+            horizontalAlignment: undefined // that of its script
             role: DarkUI.note
             wrapMode: Text.Wrap
             Accessible.ignored: true
@@ -136,6 +137,7 @@ KitControl {
         }
 
         NoteMeta {
+            width: parent.width
             skillName: row.skillName
             skillColor: row.skillColor
             durationText: row.durationText

@@ -27,9 +27,7 @@ Item {
         text: footer.failure !== "" ? footer.failure : footer.text
         role: DarkUI.caption
         color: footer.failure !== "" ? DarkUI.dangerText : DarkUI.t3
-        elide: Text.ElideRight
-        // A reason is read to its end.
-        wrapMode: footer.failure !== "" ? Text.Wrap : Text.NoWrap
+        wrapMode: Text.Wrap
         Accessible.role: footer.failure !== "" ? Accessible.AlertMessage : Accessible.StaticText
     }
 }

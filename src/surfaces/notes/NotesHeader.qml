@@ -8,6 +8,7 @@ FocusScope {
     id: header
 
     required property LogView model
+    readonly property bool stacked: width < 500 // the line below the count has a row of its own
 
     implicitHeight: line.y + line.height
 
@@ -23,9 +24,11 @@ FocusScope {
     }
 
     DarkText {
+        id: subtitle
         x: DarkUI.space28
-        y: title.y + title.height + DarkUI.space2
-        width: title.width
+        y: header.stacked ? search.y + search.height + DarkUI.space6
+                          : title.y + title.height + DarkUI.space2
+        width: header.stacked ? header.width - 2 * x : title.width
         text: header.model.subtitleText
         role: DarkUI.caption
         color: DarkUI.t2
@@ -37,7 +40,7 @@ FocusScope {
         anchors.right: parent.right
         anchors.rightMargin: DarkUI.space28
         y: DarkUI.space14
-        width: 190
+        width: header.width < 560 ? 160 : 190
         minHeight: DarkUI.searchFieldHeight
         icon: "search"
         name: qsTr("Search notes")
@@ -65,7 +68,7 @@ FocusScope {
         anchors.leftMargin: DarkUI.space28
         anchors.right: parent.right
         anchors.rightMargin: DarkUI.space28
-        y: 69
+        y: Math.max(69, subtitle.y + subtitle.height + DarkUI.space10)
         visible: header.model.showsFilters
         model: header.model
     }

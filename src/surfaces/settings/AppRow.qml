@@ -61,6 +61,7 @@ Item {
         anchors.right: forget.left
         anchors.rightMargin: DarkUI.space10
         anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, row.width / 2) // the application's name comes first
         title: row.menuLabel
         options: row.settings.appChoices
         currentIndex: row.choice

@@ -39,6 +39,7 @@ ReviewPage {
                   + page.escaped(page.content.rest) + "</font>"
             textFormat: Text.StyledText
             role: page.role
+            horizontalAlignment: undefined // that of the script it is written in
             wrapMode: Text.Wrap
             Accessible.name: page.content.text
         }

@@ -21,6 +21,7 @@ Item {
         id: words
         width: row.width
         text: row.note.text
+        horizontalAlignment: undefined // that of its script
         role: DarkUI.note
         wrapMode: Text.Wrap
         maximumLineCount: row.mostLines

@@ -4,6 +4,8 @@
 #include "surfaces/dashboard/DashboardWorld.h"
 #include "tracking/Samples.h"
 
+#include <algorithm>
+
 namespace vantle {
 namespace {
 
@@ -54,6 +56,44 @@ TEST_F(DashboardPageTest, ShortcutIsOfferedOnlyWhileItIsHeldAndHeardEverywhere) 
     m_shown.reset();
     show();
     EXPECT_FALSE(m_shown->shows(words));
+}
+
+TEST_F(DashboardPageTest, NamesOfEveryScriptStandAtTheLeftOfTheirColumns) {
+    launch();
+    const QString hebrew = QStringLiteral("\u05E2\u05D9\u05E6\u05D5\u05D1");
+    const Skill mode = skills->display(text("building"));
+    model->updateSkill(mode.id, hebrew, mode.hexRGB);
+    disk.setContent(file("sessions.jsonl"),
+                    samples::line(samples::sessionEnding(time.now(), 3600)));
+    show();
+    int seen = 0;
+    const QImage picture = m_shown->picture();
+    (void)tests::shownItem(m_shown->window().contentItem(), [&](const QQuickItem& item) {
+        if (item.property("text").toString() != hebrew) return false;
+        ++seen;
+        const QRect frame = m_shown->frameOf(item).toAlignedRect();
+        int left = frame.right();
+        for (int x = frame.left(); x < left; ++x)
+            for (int y = frame.top(); y < frame.bottom(); ++y)
+                if (qGray(picture.pixel(x, y)) > 120) left = std::min(left, x);
+        EXPECT_LE(left - frame.left(), 4);
+        return false;
+    });
+    EXPECT_GE(seen, 2) << "in both tables";
+}
+
+TEST_F(DashboardPageTest, YearsOfWorkFitBesideTheHeadingOfTheSessions) {
+    launch();
+    QByteArray log;
+    for (int number = 1; number <= 1920; ++number) {
+        Session session = samples::sessionEnding(time.now() - Seconds(3600.0 * number), 3290);
+        session.id = samples::id(number);
+        log += samples::line(session);
+    }
+    disk.setContent(file("sessions.jsonl"), log);
+    show();
+    EXPECT_TRUE(m_shown->shows(text("1920 sessions · 1754 h 40 min")));
+    EXPECT_EQ(m_shown->cutTexts(), QStringList());
 }
 
 TEST_F(DashboardPageTest, StateChipStaysAsWideUnderThePointerAsBesideIt) {

@@ -21,6 +21,12 @@ protected:
         m_shown.emplace().show("Notes/NotesLogView",
                                {{text("model"), QVariant::fromValue(&*view)}});
     }
+    /// The texts that are cut or stand out of the window, but for the names of modes.
+    [[nodiscard]] QStringList cut() {
+        QStringList words = m_shown->cutTexts();
+        words.removeIf([this](const QString& one) { return m_shown->control(one) != nullptr; });
+        return words;
+    }
     /// The row that shows the note, or edits it.
     [[nodiscard]] QQuickItem* row(const char* note) {
         return tests::shownItem(m_shown->window().contentItem(), [&](const QQuickItem& item) {
@@ -200,6 +206,31 @@ TEST_F(NotesListTest, RowsAreReadOutFromTheTopAfterASearchAndAScroll) {
     inOrder("searched");
     m_shown->press(Qt::Key_Escape);
     inOrder("all again");
+}
+
+TEST_F(NotesListTest, NarrowWindowCutsNothingButTheNameOfAMode) {
+    const QString longest = text("WWWWWWWWWWWWWWWWWWWW");
+    Session session = samples::session();
+    session.note = text("A note of some words that take more than one line here");
+    session.source = sourceManual();
+    session.activeSeconds = 2 * 3600 + 5 * 60;
+    session.endedAt = session.startedAt + Seconds(3 * 3600.0);
+    put(samples::line(session));
+    open();
+    const Skill mode = skills->display(text("building"));
+    model->updateSkill(mode.id, longest, mode.hexRGB);
+    m_shown.emplace().show("Notes/NotesLogView", {{text("model"), QVariant::fromValue(&*view)}},
+                           {380, 620});
+    EXPECT_EQ(cut(), QStringList());
+    EXPECT_TRUE(m_shown->shows(text("Manual")));
+    EXPECT_TRUE(m_shown->shows(text("2 h 5 min")));
+    m_shown->click(m_shown->field(text("Search notes")));
+    m_shown->type(text("some words"));
+    EXPECT_TRUE(m_shown->shows(text("Across 2 h 5 min of the work you filtered to.")));
+    EXPECT_EQ(cut(), QStringList());
+    m_shown->window().resize(520, 620);
+    m_shown->settle();
+    EXPECT_EQ(cut(), QStringList());
 }
 
 TEST_F(NotesListTest, CopyPutsTheNoteOnTheClipboardAndSaysSo) {

@@ -47,6 +47,22 @@ TEST_F(SettingsPageTest, WhatTheDesktopLacksStandsInItsRowAndNowhereWhereNothing
     EXPECT_EQ(control("Copy the command"), nullptr);
 }
 
+TEST_F(SettingsPageTest, ApplicationsNameIsReadBesideAModeOfALongOne) {
+    program();
+    const Skill mode = skills->display(text("building"));
+    model->updateSkill(mode.id, text("WWWWWWWWWWWWWWWWWWWW"), mode.hexRGB);
+    rules->loadIfNeeded();
+    rules->recordSeen(text("terminal"), text("Terminal Emulator"));
+    rules->setRule(text("terminal"), mode.id);
+    show();
+    QQuickItem* const name =
+        tests::shownItem(m_shown->window().contentItem(), [](const QQuickItem& item) {
+            return item.property("text").toString() == text("Terminal Emulator");
+        });
+    ASSERT_NE(name, nullptr);
+    EXPECT_FALSE(name->property("truncated").toBool());
+}
+
 TEST_F(SettingsPageTest, WhatAutoModeAndTheIdleCounterCantSeeStandsInTheirRows) {
     const char* const idle = "This desktop doesn't tell apps when you last used keyboard or mouse, "
                              "so Vantle can't pause by that. Stop the session when you step away.";
