@@ -102,5 +102,30 @@ class BarsWithoutWorkArea(ScreensCase):
         self.assertEqual(self.end_with_card()[1], self.BAR + TOP_INSET)
 
 
+class Scales(DesktopTest):
+
+    tray_kind = DesktopTest.NO_TRAY
+    WIDTH = 480  # of the settings, unscaled
+
+    def settings_width(self, dpi):
+        self.desktop.tool("bash", "-c", f"echo Xft.dpi: {dpi} | xrdb -merge")
+        self.launch()
+        activate_action(self.desktop, "settings")
+        return self.frame_of_settings()[2]
+
+    def frame_of_settings(self):
+        window, = wait_until("the settings", lambda: self.desktop.windows_named("Settings"))
+        return self.desktop.frame_of(window)
+
+    def test_a_factor_next_to_one_is_one(self):
+        self.assertEqual(self.settings_width(100), self.WIDTH)
+
+    def test_a_factor_next_to_two_is_two(self):
+        self.assertEqual(self.settings_width(200), 2 * self.WIDTH)
+
+    def test_a_factor_between_stays(self):
+        self.assertEqual(self.settings_width(120), 1.25 * self.WIDTH)
+
+
 if __name__ == "__main__":
     unittest.main()

@@ -263,6 +263,7 @@ int HourfoldMain(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
     // A bold that the face does not have would be drawn by smearing the regular one.
     qputenv("QT_NO_SYNTHESIZED_BOLD", "1");
+    platformfactory::settleScaleFactor();
     // Views are drawn in software: no graphics driver is mapped, and a third of the memory
     // suffices.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);

@@ -21,6 +21,7 @@
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/PosixProcessRunner.h"
 #include "platform/posix/TerminationSignals.h"
+#include "platform/x11/ScaleFactor.h"
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11FrontmostApp.h"
 #include "platform/x11/X11HotKey.h"
@@ -210,6 +211,16 @@ void leaveMuteSessionBus() {
     if (address.isEmpty()) address = "unix:path=" + qgetenv("XDG_RUNTIME_DIR") + "/bus";
     if (BusGreeting(address).waitForAnswer(kLimitMs) == BusGreeting::Answer::Waiting)
         qputenv(kVariable, "disabled:");
+}
+
+void settleScaleFactor() {
+    constexpr const char* kDpi = "QT_FONT_DPI";
+    for (const char* told : {kDpi, "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS",
+                             "QT_SCALE_FACTOR_ROUNDING_POLICY", "QT_USE_PHYSICAL_DPI"})
+        if (qEnvironmentVariableIsSet(told)) return;
+    // No rounding policy of Qt's leaves 1.25 and 1.5 as they are.
+    if (const auto dpi = scalefactor::settledDpi(scalefactor::desktopDpi()))
+        qputenv(kDpi, QByteArray::number(*dpi));
 }
 
 std::unique_ptr<Platform> makePlatform(Scheduler& scheduler, PlatformEvents events,

@@ -87,6 +87,10 @@ namespace platformfactory {
 /// application object.
 void leaveMuteSessionBus();
 
+/// Takes a scale factor next to a whole number for that number, unless the session's environment
+/// tells the toolkit a size. Before the application object.
+void settleScaleFactor();
+
 /// `environment` is what programs that are started find.
 [[nodiscard]] std::unique_ptr<Platform> makePlatform(Scheduler& scheduler, PlatformEvents events,
                                                      const QProcessEnvironment& environment);
