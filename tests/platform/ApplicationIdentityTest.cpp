@@ -87,7 +87,39 @@ TEST_F(ApplicationIdentityTest, InterpreterIsNobodysIdentity) {
     m_window.windowClass = text("Chess.py");
     EXPECT_EQ(id(), text("Chess.py"));
     m_window.windowClass = text("python3.11");
-    EXPECT_EQ(resolve().name, text("python3.11"));
+    m_scope.unitId = text("python3.11");
+    EXPECT_EQ(resolve(), Application());
+}
+
+TEST_F(ApplicationIdentityTest, ProgramsOfOneInterpreterAreToldApartByTheirScripts) {
+    auto interpreter = entry("python3", "Python 3", "python3");
+    interpreter.isInTerminal = true; // shown, as some distributions have it
+    install(interpreter);
+    m_scope.program = text("python3.11");
+    for (const char* shared : {"python3", "Python3.11", "Tk"}) {
+        m_window.windowClass = text(shared);
+        m_window.instance = text("python3");
+        m_scope.script = text("ledger.py");
+        EXPECT_EQ(resolve(), (Application{text("ledger.py"), text("ledger.py")})) << shared;
+        m_scope.script = text("chess.py");
+        EXPECT_EQ(id(), text("chess.py")) << shared;
+        m_scope.script.clear();
+        EXPECT_EQ(resolve(), Application()) << shared;
+    }
+}
+
+TEST_F(ApplicationIdentityTest, ScriptThatAnEntryStartsIsThatApplication) {
+    install(entry("org.example.Ledger", "Ledger", "", "ledger"));
+    m_window.windowClass = text("python3");
+    m_scope.program = text("python3.11");
+    m_scope.script = text("ledger");
+    EXPECT_EQ(resolve().name, text("Ledger"));
+}
+
+TEST_F(ApplicationIdentityTest, WindowOfTheToolkitOutsideAnInterpreterIsItself) {
+    m_window.windowClass = text("Tk");
+    m_scope.program = text("drawing");
+    EXPECT_EQ(id(), text("Tk"));
 }
 
 TEST_F(ApplicationIdentityTest, ProgramOfAHiddenOrATerminalsEntryTellsNothing) {

@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -70,6 +72,22 @@ TEST(ProcessScope, ProcessTellsItsProgramAndAVanishedOneNothing) {
     EXPECT_EQ(ProcessScope::read(QCoreApplication::applicationPid()).program,
               QFileInfo(QCoreApplication::applicationFilePath()).fileName());
     EXPECT_EQ(ProcessScope::read(std::numeric_limits<qint64>::max()), ProcessScope());
+}
+
+TEST(ProcessScope, ProcessOfAnInterpreterTellsItsScript) {
+    const QTemporaryDir folder;
+    QFile script(folder.filePath(QStringLiteral("ledger.py")));
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("input()");
+    script.close();
+    QProcess process;
+    process.start(QStringLiteral("/usr/bin/python3"), {QStringLiteral("-u"), script.fileName()});
+    ASSERT_TRUE(process.waitForStarted());
+    const ProcessScope scope = ProcessScope::read(process.processId());
+    EXPECT_TRUE(scope.program.startsWith(QStringLiteral("python3"))) << scope.program.toStdString();
+    EXPECT_EQ(scope.script, QStringLiteral("ledger.py"));
+    process.closeWriteChannel();
+    process.waitForFinished();
 }
 
 } // namespace

@@ -1,8 +1,9 @@
 #include "platform/desktop/ApplicationEntry.h"
 
+#include "platform/desktop/Interpreters.h"
+
 #include <QByteArrayView>
 #include <QHash>
-#include <QRegularExpression>
 
 #include <array>
 #include <utility>
@@ -105,12 +106,9 @@ QStringList wordsOf(const QString& command) {
     return words;
 }
 
-/// What is written before the program itself in some entries: shells, sandboxes, and interpreters
-/// of whatever version.
+/// What is written before the program itself in some entries: shells, sandboxes, interpreters.
 bool isLauncher(const QString& program) {
-    static const QRegularExpression kInterpreter(QStringLiteral(
-        "^(python|perl|ruby|node|nodejs|java|mono|lua|wish|tclsh|gjs|wine)[0-9.-]*$"));
-    if (kInterpreter.match(program).hasMatch()) return true;
+    if (interpreters::isOne(program)) return true;
     return program == QLatin1String("env") || program == QLatin1String("sh") ||
            program == QLatin1String("bash") || program == QLatin1String("flatpak") ||
            program == QLatin1String("snap") || program == QLatin1String("pkexec");

@@ -1,5 +1,6 @@
 #include "platform/desktop/ApplicationIdentity.h"
 
+#include "platform/desktop/Interpreters.h"
 #include "platform/desktop/KnownApplications.h"
 
 namespace vantle {
@@ -21,11 +22,11 @@ public:
         for (const QString& mark : {hints.windowClass, hints.instance})
             if (const auto* entry = oneOf(m_index.byWindowClass(mark))) return entry;
         for (const QString& mark : {hints.windowClass, hints.instance}) {
-            if (const auto* entry = withId(mark); entry != nullptr && !isInterpreter(*entry))
-                return entry;
+            if (const auto* entry = withId(mark)) return entry;
             if (const auto* entry = oneOf(m_index.byLastComponent(mark))) return entry;
         }
-        for (const QString& mark : {hints.windowClass, hints.instance, m_scope.program})
+        for (const QString& mark :
+             {hints.windowClass, hints.instance, m_scope.program, m_scope.script})
             if (const auto* entry = soleOf(m_index.byProgram(mark))) return entry;
         const auto* unit = withId(m_scope.unitId);
         return unit != nullptr && !unit->isTerminal ? unit : nullptr;
@@ -33,7 +34,8 @@ public:
 
 private:
     [[nodiscard]] const ApplicationEntry* withId(const QString& id) const {
-        return id.isEmpty() ? nullptr : m_index.byId(id);
+        const auto* entry = id.isEmpty() ? nullptr : m_index.byId(id);
+        return entry != nullptr && !isInterpreter(*entry) ? entry : nullptr;
     }
     /// A suite has an entry for each of its parts, which are in one sandbox and tell themselves
     /// apart by the window class. Ids of Flatpak entries are "{app}.{part}", of Snap
@@ -51,12 +53,14 @@ private:
     /// An entry of an interpreter, as distributions have one for each version, stands for a session
     /// with it in a terminal. Programs that it runs are not it.
     [[nodiscard]] static bool isInterpreter(const ApplicationEntry& entry) {
-        return entry.isInTerminal && !entry.isShown;
+        if (entry.isInTerminal && !entry.isShown) return true;
+        return (entry.isInTerminal || !entry.isShown) && interpreters::isOne(entry.id);
     }
     [[nodiscard]] bool isUnit(const ApplicationEntry& entry) const {
         return entry.id.compare(m_scope.unitId, Qt::CaseInsensitive) == 0;
     }
-    [[nodiscard]] const ApplicationEntry* oneOf(const DesktopEntryIndex::Matches& matches) const {
+    [[nodiscard]] const ApplicationEntry* oneOf(DesktopEntryIndex::Matches matches) const {
+        matches.removeIf([](const auto* match) { return isInterpreter(*match); });
         for (const auto* match : matches)
             if (isUnit(*match)) return match;
         return matches.isEmpty() ? nullptr : matches.first();
@@ -74,6 +78,14 @@ private:
     const DesktopEntryIndex& m_index;
 };
 
+/// Whether a window has its class from what runs it, so that all such programs have the same: the
+/// interpreter's own name, or that of the toolkit that comes with it.
+bool isOfInterpreter(const QString& mark, const ProcessScope& scope) {
+    return interpreters::isOne(mark) ||
+           (interpreters::isOne(scope.program) &&
+            mark.compare(QLatin1String("tk"), Qt::CaseInsensitive) == 0);
+}
+
 QString tidied(const QString& text) { return text.simplified().left(kMaxText); }
 
 QString firstOf(std::initializer_list<QString> texts) {
@@ -88,10 +100,13 @@ Application resolveIdentity(const WindowHints& hints, const ProcessScope& scope,
                             const DesktopEntryIndex& index) {
     if (const ApplicationEntry* entry = Search(scope, index).entryFor(hints))
         return {knownapplications::identityOf(entry->id), entry->name};
-    const QString id =
-        firstOf({scope.sandboxId, hints.windowClass, hints.instance, hints.applicationId});
-    return {knownapplications::identityOf(id),
-            firstOf({hints.windowClass, hints.instance, hints.applicationId, id})};
+    const auto own = [&](const QString& mark) {
+        return isOfInterpreter(mark, scope) ? QString() : mark;
+    };
+    const QString name = firstOf(
+        {own(hints.windowClass), own(hints.instance), own(hints.applicationId), scope.script});
+    const QString id = firstOf({scope.sandboxId, name});
+    return {knownapplications::identityOf(id), firstOf({name, id})};
 }
 
 } // namespace vantle

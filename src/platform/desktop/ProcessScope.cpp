@@ -1,5 +1,7 @@
 #include "platform/desktop/ProcessScope.h"
 
+#include "platform/desktop/Interpreters.h"
+
 #include <QFile>
 #include <QList>
 #include <QRegularExpression>
@@ -94,6 +96,9 @@ ProcessScope ProcessScope::read(qint64 processId) {
                                contentOf(folder + QStringLiteral("root/.flatpak-info")));
     scope.program =
         QFile::symLinkTarget(folder + QStringLiteral("exe")).section(QLatin1Char('/'), -1);
+    if (interpreters::isOne(scope.program))
+        scope.script =
+            interpreters::scriptOf(contentOf(folder + QStringLiteral("cmdline")).split('\0'));
     return scope;
 }
 

@@ -14,6 +14,7 @@ struct ProcessScope {
     /// started from within that one, as from a terminal, stay in its unit.
     QString unitId;
     QString program; ///< base name of its executable
+    QString script;  ///< what that runs where it is an interpreter, as `interpreters::scriptOf`
     friend bool operator==(const ProcessScope&, const ProcessScope&) = default;
 
     /// Reads what /proc tells; a process that is gone or not ours tells nothing. Takes some 20 µs.
