@@ -29,13 +29,16 @@ public:
     struct Question {
         QString text;
         std::vector<Answer> answers;
+        QString spoken = {}; ///< as it is asked; empty where something else tells of it
     };
 
     /// Replaces the owner's earlier question.
     void ask(Owner owner, Question question) {
         std::erase_if(m_open, [owner](const auto& one) { return one.first == owner; });
+        const QString spoken = question.spoken;
         m_open.emplace_back(owner, std::move(question));
         Q_EMIT changed();
+        if (!spoken.isEmpty()) Q_EMIT said(spoken);
     }
     void close(Owner owner) {
         if (std::erase_if(m_open, [owner](const auto& one) { return one.first == owner; }) > 0)
@@ -47,6 +50,8 @@ public:
 
 Q_SIGNALS:
     void changed();
+    /// What a card says is to be spoken, since no reader looks at a card by itself.
+    void said(const QString& text);
 
 private:
     std::vector<std::pair<Owner, Question>> m_open;

@@ -125,6 +125,8 @@ void AppDelegate::makeModel() {
                                                                .terminate = m_env.terminate},
                                          std::move(collaborators));
     m_model->showCommandCenter = [this] { showCommandCenter(); };
+    m_spoken = std::make_unique<SpokenEvents>(
+        SpokenEvents::Environment{*m_model, m_skills, m_questions, m_env.scheduler});
 }
 
 void AppDelegate::makeCards(Collaborators& collaborators) {

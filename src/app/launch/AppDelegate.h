@@ -4,6 +4,7 @@
 #include "app/AppModel.h"
 #include "app/OpenQuestions.h"
 #include "app/launch/MissingTray.h"
+#include "app/launch/SpokenEvents.h"
 #include "sensing/AutoSkillMonitor.h"
 #include "sensing/FocusLink.h"
 #include "surfaces/commandcenter/CommandCenterController.h"
@@ -128,6 +129,7 @@ private:
     RecoveryNoticeController* m_recovery = nullptr; ///< owned by the model
     StopSummaryController* m_summary = nullptr;     ///< owned by the model
     std::unique_ptr<AppModel> m_model;
+    std::unique_ptr<SpokenEvents> m_spoken;
     ForegroundActivation m_activation;
     std::unique_ptr<WindowRouter> m_router;
     std::unique_ptr<CommandCenterController> m_commandCenter;

@@ -1,5 +1,6 @@
 #include "surfaces/cards/RetagToastController.h"
 
+#include "app/OpenQuestions.h"
 #include "surfaces/cards/CardPlacement.h"
 #include "surfaces/cards/RetagToastModel.h"
 #include "surfaces/cards/SavedTime.h"
@@ -18,8 +19,9 @@ void RetagToastController::show(const QString& name, std::uint32_t color, std::i
     m_dismissTimer.reset();
     m_repositionTimer.reset();
     m_panel.reset();
-    if (!m_env.stage.visibleFrame()) return;
     const QString saved = savedTime(seconds, durationstyle::current(m_env.preferences));
+    Q_EMIT m_env.questions.said(RetagToastModel(saved, name, QColor::fromRgb(color)).spoken());
+    if (!m_env.stage.visibleFrame()) return;
     m_panel =
         m_env.stage.raise(CardView::RetagToast,
                           std::make_shared<RetagToastModel>(saved, name, QColor::fromRgb(color)));

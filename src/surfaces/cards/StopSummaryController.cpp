@@ -35,6 +35,10 @@ void StopSummaryController::show(const Content& content,
     finish(std::nullopt);
     if (!content.spotlightNote) m_last = Last{content, onClose};
     present(content, std::move(onClose));
+    const StopSummaryModel told(content, m_env.skills.display(content.session.skillId),
+                                durationstyle::current(m_env.preferences));
+    Q_EMIT m_env.questions.said(
+        QStringLiteral("Session stopped, %1. %2").arg(told.durationLabel(), told.resultText()));
 }
 
 void StopSummaryController::present(

@@ -92,6 +92,7 @@ bool TagPromptController::present(CardView view, const std::shared_ptr<QObject>&
     }
     m_model = model.get();
     m_completion = std::move(completion);
+    question.spoken = QStringLiteral("%1 The answers are in the panel.").arg(question.text);
     m_env.questions.ask(this, std::move(question));
     m_card.dismissAfter(Seconds(autoDismissSeconds), [this] { finish({}); });
     return true;

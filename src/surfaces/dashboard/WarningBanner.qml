@@ -13,6 +13,10 @@ Plate {
     color: Tint.alpha(DarkUI.warning, DarkUI.bannerFill)
     edge: Tint.alpha(DarkUI.warning, DarkUI.bannerEdge)
 
+    Announcer {
+        text: banner.text
+    }
+
     KitIcon {
         x: DarkUI.space14
         anchors.verticalCenter: parent.verticalCenter

@@ -13,6 +13,10 @@ Item {
     implicitHeight: filled ? Math.max(40, line.height + 2 * DarkUI.space10) : 0
     visible: filled
 
+    Announcer {
+        text: footer.failure
+    }
+
     DarkDivider {
         width: parent.width
     }

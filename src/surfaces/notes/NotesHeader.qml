@@ -12,6 +12,11 @@ FocusScope {
 
     implicitHeight: line.y + line.height
 
+    // What a search found.
+    Announcer {
+        text: header.model.query === "" ? "" : header.model.countText
+    }
+
     DarkText {
         id: title
         x: DarkUI.space28

@@ -3,6 +3,8 @@ import QtQuick
 import Vantle.Kit
 
 DarkText {
+    id: feedback
+
     property bool failed: false
 
     visible: text !== ""
@@ -10,4 +12,8 @@ DarkText {
     color: failed ? DarkUI.dangerText : DarkUI.good
     wrapMode: Text.Wrap
     Accessible.role: Accessible.AlertMessage
+
+    Announcer {
+        text: feedback.text
+    }
 }

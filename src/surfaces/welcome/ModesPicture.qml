@@ -80,6 +80,11 @@ FocusScope {
             width: parent.width
             visible: text !== "" && !picture.editing
             text: picture.model.modesNote
+
+            Announcer {
+                text: picture.model.modesNote
+            }
+
             role: DarkUI.small
             color: DarkUI.t3
             elide: Text.ElideRight

@@ -65,9 +65,14 @@ class Ear:
         return [one.name for one in self.heard() if one.role == "notification"
                 and one.kind == "StateChanged:showing" and one.now == 1]
 
-    def await_announced(self, words):
+    def await_announced(self, words, whole=True):
+        """Waits for the notification of these words, or of one that begins with them."""
+        def told():
+            return any(one == words or not whole and one.startswith(words)
+                       for one in self.announced())
+
         try:
-            wait_until(f"{words!r} to be announced", lambda: words in self.announced())
+            wait_until(f"{words!r} to be announced", told)
         except AssertionError as failure:
             raise AssertionError(f"{failure}: {self.announced()}") from None
 

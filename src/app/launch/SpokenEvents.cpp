@@ -1,0 +1,75 @@
+#include "app/launch/SpokenEvents.h"
+
+#include "app/AppModel.h"
+#include "app/OpenQuestions.h"
+#include "tracking/SkillList.h"
+
+#include <QPointer>
+
+namespace vantle {
+
+namespace {
+
+/// In which the toolkit connects to the accessibility service and learns what readers listen to.
+/// A message before that is lost.
+constexpr Seconds kDeafStart{3.0};
+
+} // namespace
+
+SpokenEvents::SpokenEvents(const Environment& environment)
+    : m_env(environment)
+    , m_told(environment.model.tracker().state()) {
+    m_start = m_env.scheduler.scheduleOnce(kDeafStart, [this] {
+        const TimerHandle spent = std::move(m_start);
+        if (!m_held.isEmpty()) m_announcer.say(std::exchange(m_held, {}));
+    });
+    AppModel& model = m_env.model;
+    connect(&model.tracker(), &TrackerCore::stateChanged, this, &SpokenEvents::followState);
+    connect(&model, &AppModel::selectedSkillIdChanged, this, [this] {
+        if (m_env.model.tracker().state() == TrackerCore::State::Idle)
+            say(QStringLiteral("%1 chosen")
+                    .arg(m_env.skills.by(m_env.model.selectedSkillId()).name));
+    });
+    connect(&model, &AppModel::lastActionNoteChanged, this, [this] {
+        if (const auto& note = m_env.model.lastActionNote()) say(*note);
+    });
+    connect(&m_env.questions, &OpenQuestions::said, this, &SpokenEvents::say);
+}
+
+void SpokenEvents::say(const QString& text) {
+    if (m_start)
+        m_held = text;
+    else
+        m_announcer.say(text);
+}
+
+void SpokenEvents::followState() {
+    // A change of skill ends one session and starts the next one: the last state is what counts.
+    if (std::exchange(m_isPosted, true)) return;
+    m_env.scheduler.post([self = QPointer(this)] {
+        if (!self) return;
+        self->m_isPosted = false;
+        self->tellState();
+    });
+}
+
+void SpokenEvents::tellState() {
+    using State = TrackerCore::State;
+    const State now = m_env.model.tracker().state();
+    const State before = std::exchange(m_told, now);
+    if (now == before) return;
+    if (now == State::Paused)
+        say(QStringLiteral("Paused, away"));
+    else if (now == State::Running)
+        say((before == State::Paused ? QStringLiteral("Resumed, %1")
+                                     : QStringLiteral("Session started, %1"))
+                .arg(currentSkill()));
+    // What it came to is said by the card after the session.
+}
+
+QString SpokenEvents::currentSkill() const {
+    const auto& id = m_env.model.tracker().currentSkillId();
+    return id ? m_env.skills.display(*id).name : QString();
+}
+
+} // namespace vantle
