@@ -3,11 +3,12 @@
 import unittest
 from datetime import datetime, timedelta, timezone
 
-from harness.bus import activate
+from harness.bus import activate, activate_action
 from harness.case import FIRST_SKILL, PANEL_TITLE
 from harness.records import stamp
 from harness.waiting import wait_until
-from harness.windows import DASHBOARD, NOTES, QUICK_LOG, WELCOME, WRAPPED, ReaderCase, record
+from harness.windows import (DASHBOARD, NOTES, QUICK_LOG, SETTINGS, WELCOME, WRAPPED, ReaderCase,
+                             record)
 
 CAPSULE = "Vantle Capsule"
 SUMMARY = "Vantle Session Summary"
@@ -32,6 +33,11 @@ class ScreenReader(ReaderCase):
                    "link", "list item", "graphic", "dialog")
         nameless = [one for one in window.all() if one.role in pressed and not one.name]
         self.assertEqual(nameless, [], window.told())
+
+    def page_of(self, window):
+        """Which page of how many is there."""
+        dots, = [one for one in window.all() if one.role == "indicator"]
+        return [int(word) for word in dots.name.split() if word.isdigit()]
 
 
 class OfWindows(ScreenReader):
@@ -146,11 +152,6 @@ class OfWindows(ScreenReader):
             wait_until("the next page",
                        lambda: self.page_of(self.reader.window("Wrapped")) != before)
 
-    def page_of(self, window):
-        """Which page of how many is there."""
-        dots, = [one for one in window.all() if one.role == "indicator"]
-        return [int(word) for word in dots.name.split() if word.isdigit()]
-
 
 class OfTextFields(ScreenReader):
 
@@ -181,6 +182,89 @@ class OfTextFields(ScreenReader):
             if one.kind.startswith("TextChanged")] == [
                 ("TextChanged:insert", "a"), ("TextChanged:insert", "b"),
                 ("TextChanged:delete", "b")])
+
+
+class OfEvents(ScreenReader):
+    """What is spoken without a question, whatever has the keyboard."""
+
+    def test_the_course_of_a_session(self):
+        self.launch()
+        self.begin_session()
+        self.reader.ear.await_announced("Session started, Build")
+        self.end_session()
+        wait_until("the sum", lambda: len(self.reader.ear.announced()) == 2)
+        self.assertRegex(self.reader.ear.announced()[-1],
+                         r"^Session stopped, \d+ sec of Build\. \d+ sec into your next dot$")
+
+    def test_an_offer_and_its_answer(self):
+        started = datetime.now(timezone.utc) - timedelta(hours=1)
+        self.vantle.write_marker(
+            id="0F6B1D1E-4A52-4C1B-9A1E-7F3B2C5D8E90", skillId=FIRST_SKILL, activeSeconds=125,
+            startedAt=stamp(started), lastSeenAt=stamp(started + timedelta(minutes=5)))
+        self.launch()
+        self.reader.ear.await_announced(
+            "Found 2 min from the previous run · choose Keep or Discard")
+        activate_action(self.desktop, "keep")
+        self.reader.ear.await_announced("Recovered 2 min from the previous run")
+
+    def test_what_a_search_finds(self):
+        self.write_log("first draft", "second draft")
+        self.launch()
+        self.open(*NOTES)
+        self.desktop.type("first")
+        self.reader.ear.await_announced("1 note")
+
+    def test_why_time_was_not_logged(self):
+        self.launch()
+        self.open(*QUICK_LOG)
+        self.desktop.press("ctrl+a")
+        self.desktop.type("0")
+        self.desktop.press("Tab")
+        self.desktop.type("0")
+        self.desktop.press("Return")
+        wrong = "Enter a time between 1 minute and 16 hours."
+        self.reader.ear.await_announced(wrong)
+        field = self.reader.window("Quick Log").find("text", "Hours worked")
+        self.assertEqual(field.description, wrong)
+
+    def test_the_question_of_the_erase(self):
+        self.launch()
+        self.open(*SETTINGS)
+        for key in ("shift+Tab",) * 3 + ("Return",):  # past the strip's two buttons
+            self.desktop.press(key)
+        for name in ("Cancel", "Erase"):
+            button = self.await_told("Settings", "push button", name)
+            self.assertEqual(button.description, "Erase everything? This cannot be undone.")
+
+    def test_each_page_of_the_review(self):
+        self.write_records([record(number, f"draft {number}") for number in range(1, 9)])
+        self.launch()
+        self.open(*WRAPPED)
+        self.reader.press(self.await_told("Wrapped", "page tab", "All time"))
+        self.await_told("Wrapped", "push button", "Next page")
+        _, count = self.page_of(self.reader.window("Wrapped"))
+        self.assertGreater(count, 3)
+        for page in range(2, count + 1):
+            self.reader.press(self.reader.window("Wrapped").find("push button", "Next page"))
+            self.reader.ear.await_announced(f"Page {page} of {count}. ", whole=False)
+            self.assertRegex(self.reader.ear.announced()[-1], r"of \d+\. [A-Z ,]+\. .{5}")
+        pane = wait_until("the focus on the page", lambda: [
+            one for one in self.reader.window("Wrapped").all()
+            if one.role == "panel" and one.name and "focused" in one.states])[-1]
+        self.assertIn(pane.description, self.reader.ear.announced()[-1])
+
+
+class OfStepsOfTheWelcome(ScreenReader):
+
+    newcomer = True
+
+    def test_each_step_is_spoken(self):
+        self.launch()
+        self.reader.press(self.await_told(WELCOME, "push button", "Continue"))
+        said = wait_until("the step", self.reader.ear.announced)[-1]
+        self.assertTrue(said.startswith("These are your modes. "), said)
+        button = self.reader.window(WELCOME).find("push button", "Continue")
+        self.assertEqual(button.description, said)
 
 
 class OfTheWelcome(ScreenReader):

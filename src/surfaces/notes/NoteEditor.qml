@@ -30,6 +30,7 @@ Column {
         role: DarkUI.note
         name: qsTr("Note")
         placeholder: qsTr("What moved forward")
+        help: qsTr("Return saves, Escape cancels")
         onEdited: editor.log.draft = field.text
         onAccepted: editor.log.commitEdit()
         Keys.onEscapePressed: editor.log.cancelEdit()

@@ -83,6 +83,7 @@ FocusScope {
                 name: qsTr("Hours worked")
                 focus: true
                 wrong: form.model.isTimeWrong
+                help: form.model.isTimeWrong ? form.model.errorMessage : ""
                 text: form.model.hoursText
                 onEdited: form.model.hoursText = hours.text
                 onFocusLost: form.model.normalizeDuration()
@@ -191,6 +192,10 @@ FocusScope {
                 onClicked: form.model.logEntry()
             }
         }
+    }
+
+    Announcer {
+        text: form.model.errorMessage
     }
 
     Connections {

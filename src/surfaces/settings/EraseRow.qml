@@ -9,6 +9,7 @@ FocusScope {
 
     required property SettingsView model
     readonly property bool confirming: model.confirmingErase
+    readonly property string question: qsTr("Erase everything? This cannot be undone.")
 
     implicitHeight: column.y + column.height + DarkUI.space14
 
@@ -51,7 +52,7 @@ FocusScope {
         DarkText {
             visible: row.confirming
             bottomPadding: -role.leading + 5
-            text: qsTr("Erase everything? This cannot be undone.")
+            text: row.question
             role: DarkUI.bodyMedium
             Accessible.role: Accessible.AlertMessage
         }
@@ -86,12 +87,14 @@ FocusScope {
                 DarkSecondaryButton {
                     id: cancel
                     text: qsTr("Cancel")
+                    Accessible.description: row.question
                     onClicked: row.cancelled()
                 }
 
                 DarkDangerButton {
                     id: confirm
                     text: qsTr("Erase")
+                    Accessible.description: row.question
                     onClicked: row.confirmed()
                 }
             }

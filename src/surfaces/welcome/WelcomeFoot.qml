@@ -47,6 +47,7 @@ FocusScope {
         focus: true
         enabled: foot.model.canPressPrimary
         text: foot.model.primaryText
+        Accessible.description: foot.model.spoken
         onClicked: foot.model.pressPrimary()
     }
 }

@@ -26,10 +26,15 @@ FocusScope {
 
     Component.onCompleted: takeKeyboard()
 
+    Announcer {
+        id: announcer
+    }
+
     Connections {
         target: page.model
         function onStepChanged(): void {
             page.takeKeyboard();
+            announcer.say(page.model.spoken);
         }
     }
 

@@ -33,6 +33,8 @@ class WelcomeView final : public QObject {
     Q_PROPERTY(int stepCount READ stepCount CONSTANT FINAL)
     Q_PROPERTY(QString title READ title NOTIFY stepChanged FINAL)
     Q_PROPERTY(QString body READ body NOTIFY wordsChanged FINAL)
+    /// Title and words as one, for the button that leads on and for screen readers.
+    Q_PROPERTY(QString spoken READ spoken NOTIFY wordsChanged FINAL)
     Q_PROPERTY(QString sampleLine READ sampleLine NOTIFY stepChanged FINAL)
     Q_PROPERTY(QString sampleLabel READ sampleLabel NOTIFY stepChanged FINAL)
     /// Why the shortcut does not work, on the step that asks for it; empty when it does.
@@ -97,6 +99,7 @@ public:
     [[nodiscard]] int step() const { return m_step; }
     [[nodiscard]] static int stepCount() { return welcometext::stepCount; }
     [[nodiscard]] QString title() const { return welcometext::title(m_step); }
+    [[nodiscard]] QString spoken() const { return title() + QStringLiteral(". ") + body(); }
     [[nodiscard]] QString body() const;
     [[nodiscard]] QString sampleLine() const { return welcometext::sampleLine(m_step); }
     [[nodiscard]] QString sampleLabel() const { return welcometext::sampleLabel(m_step); }

@@ -119,8 +119,11 @@ FocusScope {
         shownKey = key;
         current = made(card, isNew);
         current.focus = true;
+        current.lines = announcer.linesOf(current);
         if (!before)
             return;
+        const which = qsTr("Page %1 of %2").arg(model.page + 1).arg(model.cards.length);
+        announcer.say(which + ". " + current.lines);
         before.leaving = true;
         outFrom = before.x;
         outPresence = before.opacity;
@@ -148,6 +151,10 @@ FocusScope {
     onElapsedChanged: if (turn.running)
         place()
     Component.onCompleted: follow()
+
+    Announcer {
+        id: announcer
+    }
 
     NumberAnimation {
         id: turn

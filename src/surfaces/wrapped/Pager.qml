@@ -8,6 +8,14 @@ Item {
     id: pager
 
     required property WrappedView model
+    readonly property string place: dots.Accessible.name
+    signal dropped // the button with the focus leads nowhere any more
+
+    // A button that is disabled gives the focus to nobody.
+    function keepFocus(button: Item): void {
+        if (!button.enabled)
+            pager.dropped();
+    }
 
     implicitHeight: DarkUI.pagerButton
 
@@ -22,13 +30,19 @@ Item {
     }
 
     Chevron {
+        id: back
         name: qsTr("Previous page")
+        Accessible.description: pager.place
         icon: "chevron-left"
         enabled: pager.model.canTurnBack
-        onClicked: pager.model.turnBack()
+        onClicked: {
+            pager.model.turnBack();
+            pager.keepFocus(back);
+        }
     }
 
     PageDots {
+        id: dots
         anchors.centerIn: parent
         count: pager.model.cards.length
         current: pager.model.page
@@ -36,9 +50,14 @@ Item {
 
     Chevron {
         anchors.right: parent.right
+        id: on
         name: qsTr("Next page")
+        Accessible.description: pager.place
         icon: "chevron-right"
         enabled: pager.model.canTurnOn
-        onClicked: pager.model.turnOn()
+        onClicked: {
+            pager.model.turnOn();
+            pager.keepFocus(on);
+        }
     }
 }

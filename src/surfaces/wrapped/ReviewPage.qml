@@ -12,6 +12,7 @@ FocusScope {
     property string kicker
     property bool animated: false // its parts come in one after the other
     property bool leaving: false
+    property string lines // what stands on it, as it is read out
     readonly property real kickerHeight: DarkUI.kicker.line
     readonly property alias kickerWidth: heading.width
 
@@ -20,6 +21,8 @@ FocusScope {
     enabled: !leaving
     Accessible.role: Accessible.Pane
     Accessible.name: kicker
+    Accessible.description: lines
+    Accessible.focusable: true
 
     CascadeIn {
         animated: page.animated

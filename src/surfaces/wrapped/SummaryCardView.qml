@@ -105,6 +105,10 @@ ReviewPage {
         width: page.width
         horizontalAlignment: Text.AlignRight
         text: page.model.shareFeedback
+
+        Announcer {
+            text: page.model.copied ? page.model.copyText : page.model.shareFeedback
+        }
         role: DarkUI.caption
         color: DarkUI.dangerText
         elide: Text.ElideLeft

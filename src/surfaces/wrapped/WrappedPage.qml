@@ -78,11 +78,13 @@ FocusScope {
     }
 
     Pager {
+        id: pager
         x: DarkUI.space32
         anchors.bottom: parent.bottom
         anchors.bottomMargin: DarkUI.space20
         width: view.width - 2 * x
         visible: view.model.hasPager
         model: view.model
+        onDropped: stack.current.forceActiveFocus(Qt.TabFocusReason)
     }
 }
