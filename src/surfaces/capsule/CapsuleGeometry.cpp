@@ -51,15 +51,16 @@ QSizeF panelSize(const NotchMetrics& metrics) {
 
 QRectF panelFrame(const NotchMetrics& metrics, const ScreenShape& screen) {
     const QSizeF size = panelSize(metrics);
-    return {QPointF(metrics.anchorCenterX - size.width() * 0.5, screen.frame.top()), size};
+    const double left = std::floor(metrics.anchorCenterX - size.width() * 0.5);
+    return {QPointF(left, screen.frame.top()), size};
 }
 
 QRectF openFrame(const NotchMetrics& metrics, double requiredWidth) {
     const double want =
         std::min(std::max(metrics.notchWidth, requiredWidth), metrics.notchWidth + kMaxBeyondNotch);
     const double width = 2 * std::ceil(want * 0.5);
-    return {(panelSize(metrics).width() - width) * 0.5, metrics.topBar, width,
-            metrics.capsuleHeight};
+    const double left = std::floor((panelSize(metrics).width() - width) * 0.5); // whole pixels
+    return {left, metrics.topBar, width, metrics.capsuleHeight};
 }
 
 QRectF restingFrame(const NotchMetrics& metrics) {

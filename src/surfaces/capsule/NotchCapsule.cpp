@@ -144,6 +144,7 @@ void NotchCapsule::openedOrClosed() {
         m_tickTimer = m_env.scheduler.scheduleRepeatingTimer(kTick, kTickTolerance,
                                                              [this] { refreshLabel(); });
     }
+    if (isExpanded()) recomputeWidth(); // its skill may have changed while it was closed
     Q_EMIT expandedChanged();
     Q_EMIT frameChanged();
     follow();

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace vantle::tests {
 namespace {
 
@@ -39,6 +41,20 @@ TEST(CapsuleGeometry, TheWidthIsThatOfTheWidestPartAndAtLeast340) {
     EXPECT_EQ(capsule::requiredCapsuleWidth(metrics, 40, 300, {}), 378);
     EXPECT_EQ(capsule::requiredCapsuleWidth(metrics, 300, 120, {}), 393);
     EXPECT_EQ(capsule::requiredCapsuleWidth(metrics, 40, 120, {QSizeF(342, 54), true}), 378);
+}
+
+TEST(CapsuleGeometry, StandsOnWholePixelsWhateverTheScreensWidth) {
+    const auto isWhole = [](const QRectF& frame) { return frame.x() == std::floor(frame.x()); };
+    ScreenShape odd = kScreen;
+    odd.frame.setWidth(1365);
+    EXPECT_TRUE(isWhole(capsule::panelFrame(NotchMetrics::of(odd, 68), odd)));
+    ScreenShape notched = notchedScreen();
+    notched.auxiliaryTopRight->setLeft(notched.auxiliaryTopRight->left() + 1);
+    const NotchMetrics metrics = NotchMetrics::of(notched, 68);
+    const QRectF panel = capsule::panelFrame(metrics, notched);
+    EXPECT_TRUE(isWhole(panel));
+    EXPECT_TRUE(isWhole(capsule::openFrame(metrics, 340)));
+    EXPECT_EQ(panel.x() + capsule::restingFrame(metrics).x(), notched.auxiliaryTopLeft->right());
 }
 
 TEST(CapsuleGeometry, AWideHousingIsCoveredWhole) {

@@ -203,6 +203,26 @@ TEST_F(NotchCapsuleTest, AChangeOfSkillRecoloursTheDotAndMovesTheHighlight) {
     EXPECT_TRUE(highlighted(1));
 }
 
+TEST_F(NotchCapsuleTest, OpenedAfterAChangeOfSkillItIsAsWideAsItsWords) {
+    startSession();
+    tracker.pause(time.now());
+    time.settle();
+    NotchCapsule::Form form = world.runningForm();
+    form.skills.resize(2); // more chips are wider than any name
+    Skill wide = form.skills[1];
+    wide.name = text("WWWWWWWWWWWWWWWWWWWW");
+    make(form);
+    capsule->retag(wide, false);
+    enter();
+    const double width = capsule->openFrame().width();
+    form.skill = wide;
+    make(form);
+    EXPECT_EQ(capsule->openFrame().width(), width);
+    form.skill = form.skills[0];
+    make(form);
+    EXPECT_LT(capsule->openFrame().width(), width);
+}
+
 TEST_F(NotchCapsuleTest, AChangeOfSkillWithAFlashOpensItForAMoment) {
     startSession();
     make(world.runningForm());
