@@ -146,9 +146,8 @@ void AppDelegate::makeCards(Collaborators& collaborators) {
 
 void AppDelegate::makeWindows() {
     m_router = std::make_unique<WindowRouter>(
-        WindowEnvironment{m_env.viewEngine, m_activation, m_env.preferences, m_env.screens,
-                          m_env.panelHost, m_env.windowManager, m_env.scheduler,
-                          [this] { m_model->quit(); }},
+        WindowEnvironment{m_env.viewEngine, m_env.preferences, m_env.screens, m_env.panelHost,
+                          m_env.windowManager, m_env.scheduler, [this] { m_model->quit(); }},
         m_notifications);
     registerWindows({*m_model,
                      m_skills,

@@ -9,7 +9,6 @@
 #include "sensing/FocusLink.h"
 #include "surfaces/commandcenter/CommandCenterController.h"
 #include "surfaces/menubar/StatusItemController.h"
-#include "surfaces/window/ForegroundActivation.h"
 #include "surfaces/window/WindowRouter.h"
 #include "tracking/NotificationCenter.h"
 #include "tracking/SingleInstanceLock.h"
@@ -130,7 +129,6 @@ private:
     StopSummaryController* m_summary = nullptr;     ///< owned by the model
     std::unique_ptr<AppModel> m_model;
     std::unique_ptr<SpokenEvents> m_spoken;
-    ForegroundActivation m_activation;
     std::unique_ptr<WindowRouter> m_router;
     std::unique_ptr<CommandCenterController> m_commandCenter;
     std::unique_ptr<StatusItemController> m_statusItem;

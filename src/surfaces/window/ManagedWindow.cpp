@@ -4,7 +4,6 @@
 #include "platform/Preferences.h"
 #include "platform/Screens.h"
 #include "platform/WindowManager.h"
-#include "surfaces/window/ForegroundActivation.h"
 #include "surfaces/window/MemoryReturn.h"
 #include "surfaces/window/SharedEngine.h"
 #include "surfaces/window/WindowPlacement.h"
@@ -72,7 +71,6 @@ bool ManagedWindow::open() {
     for (const auto changed :
          {&QWindow::xChanged, &QWindow::yChanged, &QWindow::widthChanged, &QWindow::heightChanged})
         connect(m_shell, changed, this, &ManagedWindow::keepFrameSoon);
-    m_env.activation.windowAppeared();
     return true;
 }
 
@@ -139,7 +137,6 @@ void ManagedWindow::close() {
     shell->hide();
     connect(shell, &QObject::destroyed, &giveMemoryBack);
     shell->deleteLater();
-    m_env.activation.windowDisappeared();
     Q_EMIT closed();
 }
 

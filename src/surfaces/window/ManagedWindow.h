@@ -11,7 +11,6 @@ class QWindow;
 
 namespace vantle {
 
-class ForegroundActivation;
 class PanelHost;
 class Preferences;
 class Screens;
@@ -22,7 +21,6 @@ class WindowShell;
 /// What windows work with. All of it must outlive them.
 struct WindowEnvironment {
     SharedEngine& engine;
-    ForegroundActivation& activation;
     Preferences& preferences;
     const Screens& screens;
     PanelHost& host;

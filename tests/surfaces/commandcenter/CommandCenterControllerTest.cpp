@@ -8,7 +8,6 @@
 #include "fakes/FakeWindowManager.h"
 #include "support/Await.h"
 #include "surfaces/panel/FloatingPanel.h"
-#include "surfaces/window/ForegroundActivation.h"
 #include "surfaces/window/SharedEngine.h"
 #include "surfaces/window/WindowRouter.h"
 
@@ -55,13 +54,11 @@ protected:
     fakes::FakePanelHost host;
     fakes::FakeWindowManager manager;
     fakes::FakePointerPresses presses;
-    ForegroundActivation activation;
     OpenQuestions questions;
     SharedEngine engine;
     QRect item = kItem;
-    WindowRouter router{
-        {engine, activation, world.preferences, screens, host, manager, world.time, {}},
-        world.notifications};
+    WindowRouter router{{engine, world.preferences, screens, host, manager, world.time, {}},
+                        world.notifications};
     std::unique_ptr<CommandCenterController> controller;
 };
 

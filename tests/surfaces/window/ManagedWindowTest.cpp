@@ -6,7 +6,6 @@
 #include "fakes/MemoryPreferences.h"
 #include "fakes/VirtualTime.h"
 #include "support/Await.h"
-#include "surfaces/window/ForegroundActivation.h"
 #include "surfaces/window/SharedEngine.h"
 
 #include <QPointer>
@@ -65,7 +64,6 @@ protected:
     fakes::FakePanelHost host;
     fakes::FakeWindowManager manager;
     fakes::MemoryPreferences preferences;
-    ForegroundActivation activation;
     SharedEngine engine;
     WindowRules fixed;
     WindowRules filling;
@@ -73,8 +71,7 @@ protected:
     QPointer<QObject> model; ///< of the window that was opened last
     std::function<void()> closeFromView;
     fakes::VirtualTime time;
-    WindowEnvironment environment{engine, activation, preferences, screens,
-                                  host,   manager,    time,        {}};
+    WindowEnvironment environment{engine, preferences, screens, host, manager, time, {}};
 };
 
 TEST_F(ManagedWindowTest, AFixedWindowIsAsLargeAsItsViewAsksFor) {
@@ -124,7 +121,6 @@ TEST_F(ManagedWindowTest, ASecondShowBringsTheSameWindowForward) {
     QWindow* const shell = window.window();
     ASSERT_TRUE(window.show());
     EXPECT_EQ(window.window(), shell);
-    EXPECT_EQ(activation.openWindows(), 1);
 }
 
 TEST_F(ManagedWindowTest, TheFrameIsRestoredUnderItsName) {
@@ -236,14 +232,13 @@ TEST_F(ManagedWindowTest, TheDesktopMayCloseTheWindow) {
     ManagedWindow window(environment, fixed, content("Fixed.qml"));
     ASSERT_TRUE(window.show());
     window.window()->close();
-    EXPECT_TRUE(await([&] { return !window.isOpen() && activation.openWindows() == 0; }));
+    EXPECT_TRUE(await([&] { return !window.isOpen(); }));
 }
 
 TEST_F(ManagedWindowTest, AViewThatIsNoGoodOpensNothing) {
     ManagedWindow window(environment, fixed, content("Missing.qml"));
     EXPECT_FALSE(window.show());
     EXPECT_FALSE(window.isOpen());
-    EXPECT_EQ(activation.openWindows(), 0);
 }
 
 TEST_F(ManagedWindowTest, WindowsShareOneEngine) {
@@ -253,27 +248,6 @@ TEST_F(ManagedWindowTest, WindowsShareOneEngine) {
     const QQmlEngine* const shared = engine.acquire().get();
     ASSERT_TRUE(other.show());
     EXPECT_EQ(engine.acquire().get(), shared);
-}
-
-TEST(ForegroundActivation, TheProgramIsRegularFromTheFirstWindowToTheLast) {
-    ForegroundActivation activation;
-    int changes = 0;
-    QObject::connect(&activation, &ForegroundActivation::regularChanged, [&] { ++changes; });
-    activation.windowAppeared();
-    activation.windowAppeared();
-    activation.windowDisappeared();
-    EXPECT_TRUE(activation.isRegular());
-    activation.windowDisappeared();
-    EXPECT_FALSE(activation.isRegular());
-    EXPECT_EQ(changes, 2);
-}
-
-TEST(ForegroundActivation, OneMoreDisappearanceLeavesTheCountAtZero) {
-    ForegroundActivation activation;
-    activation.windowDisappeared();
-    EXPECT_EQ(activation.openWindows(), 0);
-    activation.windowAppeared();
-    EXPECT_EQ(activation.openWindows(), 1);
 }
 
 TEST_F(ManagedWindowTest, WhoCaresIsToldOfTheCloseWithTheModelAndNotOfTheEndOfTheProgram) {

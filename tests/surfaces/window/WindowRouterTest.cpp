@@ -5,7 +5,6 @@
 #include "fakes/FakeWindowManager.h"
 #include "fakes/MemoryPreferences.h"
 #include "fakes/VirtualTime.h"
-#include "surfaces/window/ForegroundActivation.h"
 #include "surfaces/window/SharedEngine.h"
 #include "tracking/NotificationCenter.h"
 
@@ -30,18 +29,15 @@ protected:
     fakes::FakePanelHost host;
     fakes::FakeWindowManager manager;
     fakes::MemoryPreferences preferences;
-    ForegroundActivation activation;
     SharedEngine engine;
     NotificationCenter notifications;
     fakes::VirtualTime time;
-    WindowRouter router{{engine, activation, preferences, screens, host, manager, time, {}},
-                        notifications};
+    WindowRouter router{{engine, preferences, screens, host, manager, time, {}}, notifications};
 };
 
 TEST_F(WindowRouterTest, AWindowThatNobodyRegisteredDoesNotOpen) {
     router.showSettings();
     EXPECT_FALSE(router.isOpen(WindowId::Settings));
-    EXPECT_EQ(activation.openWindows(), 0);
 }
 
 TEST_F(WindowRouterTest, EachCommandOpensItsWindow) {
@@ -54,17 +50,6 @@ TEST_F(WindowRouterTest, EachCommandOpensItsWindow) {
     EXPECT_EQ(router.window(WindowId::QuickLog)->title(), QStringLiteral("Quick Log"));
     EXPECT_EQ(router.window(WindowId::Settings)->title(), QStringLiteral("Settings"));
     EXPECT_EQ(router.window(WindowId::Welcome)->title(), QStringLiteral("Welcome"));
-    EXPECT_EQ(activation.openWindows(), 4);
-}
-
-TEST_F(WindowRouterTest, ClosingOneOfTwoWindowsKeepsThePlaceInTheTaskBar) {
-    registerAll();
-    router.showLog();
-    router.showSettings();
-    router.close(WindowId::Log);
-    EXPECT_TRUE(activation.isRegular());
-    router.close(WindowId::Settings);
-    EXPECT_FALSE(activation.isRegular());
 }
 
 TEST_F(WindowRouterTest, TheDashboardAndTheReviewAreNeverOpenTogether) {
@@ -74,10 +59,8 @@ TEST_F(WindowRouterTest, TheDashboardAndTheReviewAreNeverOpenTogether) {
     router.showDashboard();
     EXPECT_FALSE(router.isOpen(WindowId::Wrapped));
     EXPECT_EQ(router.window(WindowId::Dashboard)->title(), QStringLiteral("Your hours"));
-    EXPECT_EQ(activation.openWindows(), 1);
     router.showWrapped();
     EXPECT_FALSE(router.isOpen(WindowId::Dashboard));
-    EXPECT_EQ(activation.openWindows(), 1);
 }
 
 TEST_F(WindowRouterTest, TheReviewKnowsThePeriodThatItWasAskedToOpenOn) {
@@ -96,7 +79,6 @@ TEST_F(WindowRouterTest, AWindowOutOfSightIsOpenStillAndComesBackAsItWas) {
     router.orderOut(WindowId::Log); // which is closed
     EXPECT_FALSE(window->isVisible());
     EXPECT_TRUE(router.isOpen(WindowId::Welcome));
-    EXPECT_EQ(activation.openWindows(), 1);
     router.showWelcome();
     EXPECT_EQ(router.window(WindowId::Welcome), window);
     EXPECT_TRUE(window->isVisible());
