@@ -49,6 +49,21 @@ TEST_F(CapsuleWindowTest, OpenBelowABarItLeavesTheBarAlone) {
     EXPECT_EQ(world.calls, QStringList(text("tap")));
 }
 
+TEST_F(CapsuleWindowTest, BesideAHousingAllOfItTakesTheClick) {
+    ScreenShape& screen = world.screens.shapes.front();
+    screen.safeAreaTop = 32;
+    screen.auxiliaryTopLeft = QRectF(0, 0, 620, 32);
+    screen.auxiliaryTopRight = QRectF(820, 0, 620, 32);
+    raiseIdle();
+    const QRect open = window->capsule().openFrame().toRect();
+    ASSERT_GT(open.width(), 240);
+    EXPECT_TRUE(host.inputRegion.contains(open));
+    for (const QPoint place : {open.topLeft() + QPoint(8, 4), open.topRight() + QPoint(-8, 4),
+                               open.topLeft() + QPoint(8, 60)})
+        click(place);
+    EXPECT_EQ(world.calls, QStringList(3, text("tap")));
+}
+
 TEST_F(CapsuleWindowTest, WithoutACompositorThereIsNoWindowWhileItRests) {
     host.composited = false;
     raiseIdle();
