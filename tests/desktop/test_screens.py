@@ -28,7 +28,7 @@ class ScreensCase(DesktopTest):
         return self.frame(SUMMARY)
 
 
-class TwoScreens(ScreensCase):
+class TwoScreensCase(ScreensCase):
     """The two halves of the desktop, each 720 px wide; the left one is the main one."""
 
     tray_kind = DesktopTest.NO_TRAY
@@ -43,6 +43,9 @@ class TwoScreens(ScreensCase):
 
     def go_to(self, place):
         self.desktop.tool("xdotool", "mousemove", *map(str, place))
+
+
+class TwoScreens(TwoScreensCase):
 
     def test_a_window_opens_on_the_screen_with_the_pointer(self):
         for place, left in ((self.RIGHT, 720), (self.LEFT, 0)):
@@ -83,6 +86,17 @@ class TwoScreens(ScreensCase):
             self.desktop.await_keyboard(PANEL_TITLE)
             self.desktop.press("Escape")
             wait_until("no panel", lambda: not self.desktop.windows_named(PANEL_TITLE))
+
+
+class CapsuleOnTwoScreens(TwoScreensCase):
+
+    compositor = True
+
+    def test_the_capsule_stays_on_the_main_screen(self):
+        self.go_to(self.RIGHT)
+        self.begin_session()
+        x, _, width, _ = self.frame(CAPSULE)
+        self.assertEqual(x + width / 2, 360)
 
 
 class BarsWithoutWorkArea(ScreensCase):
