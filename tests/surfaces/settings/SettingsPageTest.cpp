@@ -38,6 +38,18 @@ protected:
         return names;
     }
 
+    /// How many menus of choices have been made, open or not.
+    [[nodiscard]] int menus() {
+        int count = 0;
+        QList<QQuickItem*> items{m_shown->window().contentItem()};
+        while (!items.isEmpty()) {
+            const QQuickItem* const item = items.takeLast();
+            if (item->metaObject()->indexOfProperty("picker") >= 0) ++count;
+            items += item->childItems();
+        }
+        return count;
+    }
+
     std::optional<tests::ShownView> m_shown;
 };
 
@@ -61,6 +73,19 @@ TEST_F(SettingsPageTest, ApplicationsNameIsReadBesideAModeOfALongOne) {
         });
     ASSERT_NE(name, nullptr);
     EXPECT_FALSE(name->property("truncated").toBool());
+}
+
+TEST_F(SettingsPageTest, NoMenuIsMadeForFortyApplicationsBeforeOneIsOpened) {
+    program();
+    rules->loadIfNeeded();
+    for (int number = 1; number <= 40; ++number) {
+        const QString id = text("app%1").arg(number, 2, 10, QLatin1Char('0'));
+        rules->recordSeen(id, id);
+    }
+    show();
+    EXPECT_EQ(menus(), 0);
+    m_shown->click(text("Skill for app01"));
+    EXPECT_EQ(menus(), 1);
 }
 
 TEST_F(SettingsPageTest, WhatAutoModeAndTheIdleCounterCantSeeStandsInTheirRows) {
