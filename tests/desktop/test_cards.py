@@ -153,12 +153,13 @@ class FirstSummary(CardTest):
 
 
 class ScreenThatGoes(CardTest):
-    """The card stands on the main screen, on the right, until that is unplugged."""
+    """The card stands where the pointer is, on the screen on the right, until that is unplugged."""
 
     def setUp(self):
         super().setUp()
         self.desktop.tool("xrandr", "--setmonitor", "*right", "640/169x900/238+800+0", "screen")
         self.desktop.tool("xrandr", "--setmonitor", "left", "800/210x900/238+0+0", "none")
+        self.desktop.tool("xdotool", "mousemove", "1100", "500")
 
     def test_the_card_comes_to_the_other_screen_with_its_half_written_note(self):
         self.launch()
@@ -167,6 +168,8 @@ class ScreenThatGoes(CardTest):
         x, y, _, height = self.await_card(SUMMARY)
         self.click(x + 120, y + height - 110)
         self.desktop.type("half a")
+        # As the server does when the screen under the pointer goes.
+        self.desktop.tool("xdotool", "mousemove", "400", "500")
         self.desktop.tool("xrandr", "--delmonitor", "right")
         window, = self.desktop.windows_named(SUMMARY)
         wait_until("the card on the other screen",
