@@ -17,9 +17,9 @@ class LiveCase(ReaderCase):
     def names(self, title, role):
         return [one.name for one in self.reader.window(title).all() if one.role == role]
 
-    def await_name(self, title, role, start):
-        wait_until(f"{role} {start!r}",
-                   lambda: any(name.startswith(start) for name in self.names(title, role)))
+    def await_name(self, title, role, part):
+        wait_until(f"{role} {part!r}",
+                   lambda: any(part in name for name in self.names(title, role)))
 
     def click(self, title, role, name):
         x, y, width, height = self.await_told(title, role, name).frame
@@ -96,7 +96,8 @@ class ReadOnly(LiveCase):
         self.edit("a better one")
         self.await_name("Your notes", "alert message",
                         "Couldn’t save your hours. Check available disk space and folder")
-        self.assertEqual(self.names("Your notes", "list item"), ["a draft, 09:00, Build, 30 min"])
+        self.assertEqual(self.names("Your notes", "list item"),
+                         ["Nov 1, 2025, a draft, 09:00, Build, 30 min"])
         self.assertEqual(self.vantle.log_bytes(), before)
         self.assertEqual([path.name for path in self.vantle.data_directory.iterdir()
                           if path.name.startswith(("sessions", ".sessions"))], ["sessions.jsonl"])
@@ -105,7 +106,8 @@ class ReadOnly(LiveCase):
         self.allow()
         self.edit("a better one")
         wait_until("the note saved", lambda: self.notes() == ["a better one"])
-        self.await_told("Your notes", "list item", "a better one, 09:00, Build, 30 min")
+        self.await_told("Your notes", "list item",
+                        "Nov 1, 2025, a better one, 09:00, Build, 30 min")
         self.assertEqual(self.names("Your notes", "alert message"), [])
 
 
