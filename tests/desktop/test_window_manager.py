@@ -104,18 +104,26 @@ class BareServer(ReaderCase):
         self.desktop.await_still(*self.desktop.frame_of(window))
         return window
 
-    def test_the_strip_moves_a_window_that_no_window_manager_moves(self):
-        window = self.open_settings()
+    def drag(self, window, steps):
+        """Drags it by its strip, 60 px each way at the end, and waits until it stands there."""
         x, y, width, height = self.desktop.frame_of(window)
         self.desktop.tool("xdotool", "mousemove", str(x + 100), str(y + 15), "mousedown", "1")
-        for step in (20, 40, 60):
+        for step in steps:
             self.desktop.tool("xdotool", "mousemove", str(x + 100 + step), str(y + 15 + step))
         self.desktop.tool("xdotool", "mouseup", "1")
         moved = (x + 60, y + 60, width, height)
         wait_until("the window there", lambda: self.desktop.frame_of(window) == moved)
+        return moved
+
+    def test_a_quick_pull_moves_a_window_as_far_as_a_slow_one(self):
+        self.drag(self.open_settings(), (60,))
+
+    def test_the_strip_moves_a_window_that_no_window_manager_moves(self):
+        window = self.open_settings()
+        moved = self.drag(window, (20, 40, 60))
         self.desktop.tool("xdotool", "mousemove", "100", "800")
         self.desktop.await_still(0, 0, 1440, 900)
-        self.assertEqual(self.desktop.frame_of(window), moved, "the hand has let go of it")
+        self.assertEqual(self.desktop.frame_of(window), moved, "it stays where it was dropped")
 
     def test_the_button_that_minimises_comes_and_goes_with_the_window_manager(self):
         self.open_settings()

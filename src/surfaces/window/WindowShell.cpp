@@ -81,14 +81,19 @@ void WindowShell::mousePressEvent(QMouseEvent* event) {
     QQuickWindow::mousePressEvent(event);
 }
 
-void WindowShell::mouseMoveEvent(QMouseEvent* event) {
-    if (!m_held) return QQuickWindow::mouseMoveEvent(event);
-    setGeometry(windowplacement::dragged(m_press.frame, *m_held,
-                                         event->globalPosition().toPoint() - m_press.pointer,
+void WindowShell::dragTo(QPoint pointer) {
+    setGeometry(windowplacement::dragged(m_press.frame, *m_held, pointer - m_press.pointer,
                                          minimumSize(), maximumSize()));
 }
 
+void WindowShell::mouseMoveEvent(QMouseEvent* event) {
+    if (!m_held) return QQuickWindow::mouseMoveEvent(event);
+    dragTo(event->globalPosition().toPoint());
+}
+
 void WindowShell::mouseReleaseEvent(QMouseEvent* event) {
+    // Of a quick movement the first event told, which began this, may be the last one as well.
+    if (m_held) dragTo(event->globalPosition().toPoint());
     m_held.reset();
     QQuickWindow::mouseReleaseEvent(event);
 }

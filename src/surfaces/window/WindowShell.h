@@ -66,6 +66,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    void dragTo(QPoint pointer);
+
     /// Where the pointer and the window were at the last press.
     struct Press {
         QPoint pointer;
