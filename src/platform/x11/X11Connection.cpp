@@ -21,6 +21,12 @@ xcb_window_t rootOfScreen(const xcb_setup_t* setup, int number) {
 
 } // namespace
 
+std::span<const std::uint32_t> numbersOf(const xcb_get_property_reply_t* property) {
+    if (property == nullptr || property->format != 32) return {};
+    return {static_cast<const std::uint32_t*>(xcb_get_property_value(property)),
+            property->value_len};
+}
+
 X11Connection::X11Connection(const QByteArray& display)
     : m_subscribers(std::make_shared<Subscribers>()) {
     m_xcb = xcb_connect(display.isEmpty() ? nullptr : display.constData(), &m_screen);
@@ -47,6 +53,15 @@ const xcb_query_extension_reply_t* X11Connection::extension(xcb_extension_t& id)
     const auto* data = xcb_get_extension_data(m_xcb, &id); // waits the first time
     drain();
     return data != nullptr && data->present != 0 ? data : nullptr;
+}
+
+void X11Connection::followRootProperties() {
+    // Others select events of that window as well, and each request replaces all before it.
+    const auto root =
+        reply<xcb_get_window_attributes_reply>(xcb_get_window_attributes(m_xcb, m_root));
+    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE | (root ? root->your_event_mask : 0U);
+    xcb_change_window_attributes(m_xcb, m_root, XCB_CW_EVENT_MASK, &mask);
+    flush();
 }
 
 int X11Connection::check(xcb_void_cookie_t cookie) {

@@ -9,12 +9,16 @@
 
 #include <xcb/xcb.h>
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <deque>
 #include <functional>
 #include <map>
 #include <memory>
+#include <span>
 #include <type_traits>
 
 class QSocketNotifier;
@@ -27,6 +31,10 @@ struct FreeXcb {
 /// Memory that xcb handed over.
 template <typename T>
 using XcbOwned = std::unique_ptr<T, FreeXcb>;
+
+/// The numbers of a property of numbers; none for one of another kind, or that is not there. They
+/// live as long as the answer.
+[[nodiscard]] std::span<const std::uint32_t> numbersOf(const xcb_get_property_reply_t* property);
 
 /// No server, or one that goes away, is an answer: isAlive() is false then, and every request is
 /// answered with nothing. Requests block for one round trip where they have an answer.
@@ -50,6 +58,25 @@ public:
     [[nodiscard]] int screen() const { return m_screen; }
     /// What the server says about an extension. Null when it lacks the extension.
     [[nodiscard]] const xcb_query_extension_reply_t* extension(xcb_extension_t& id);
+
+    /// The atoms of the names, in their order and in one round trip; XCB_ATOM_NONE for those that
+    /// the server does not answer.
+    template <std::size_t Count>
+    [[nodiscard]] std::array<xcb_atom_t, Count> atoms(const std::array<const char*, Count>& names) {
+        std::array<xcb_intern_atom_cookie_t, Count> cookies{};
+        for (std::size_t i = 0; i < Count; ++i)
+            cookies[i] = xcb_intern_atom(
+                m_xcb, 0, static_cast<std::uint16_t>(std::strlen(names[i])), names[i]);
+        std::array<xcb_atom_t, Count> atoms{};
+        for (std::size_t i = 0; i < Count; ++i)
+            if (const auto answer = reply<xcb_intern_atom_reply>(cookies[i]))
+                atoms[i] = answer->atom;
+        return atoms;
+    }
+
+    /// Has the server tell of changes of the root window's properties, as XCB_PROPERTY_NOTIFY,
+    /// beside what is selected of that window already.
+    void followRootProperties();
 
     /// Waits for the answer to a request: `reply<xcb_dpms_info_reply>(xcb_dpms_info(xcb()))`. Null
     /// when the server refused or is gone.

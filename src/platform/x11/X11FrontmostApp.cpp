@@ -52,9 +52,7 @@ void X11FrontmostApp::follow() {
         m_window = XCB_NONE;
         waitForNone(); // the window manager may have another one in a moment
     });
-    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    xcb_change_window_attributes(m_connection.xcb(), m_connection.root(), XCB_CW_EVENT_MASK, &mask);
-    m_connection.flush();
+    m_connection.followRootProperties();
 }
 
 void X11FrontmostApp::followWindow(xcb_window_t window) {

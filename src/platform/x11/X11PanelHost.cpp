@@ -7,6 +7,7 @@
 #include <xcb/shape.h>
 #include <xcb/xfixes.h>
 
+#include <array>
 #include <utility>
 #include <vector>
 
@@ -185,16 +186,14 @@ void X11PanelHost::returnKeyboardToCompositor(QWindow& window) {
 }
 
 xcb_atom_t X11PanelHost::atom(const QByteArray& name) {
-    const auto answer = m_x11.reply<xcb_intern_atom_reply>(
-        xcb_intern_atom(m_x11.xcb(), 0, static_cast<std::uint16_t>(name.size()), name.constData()));
-    return answer ? answer->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+    return m_x11.atoms(std::array{name.constData()}).front();
 }
 
 xcb_window_t X11PanelHost::activeWindow() {
     const auto answer = m_x11.reply<xcb_get_property_reply>(xcb_get_property(
         m_x11.xcb(), 0, m_x11.root(), atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, 0, 1));
-    if (!answer || xcb_get_property_value_length(answer.get()) < 4) return XCB_NONE;
-    return *static_cast<const xcb_window_t*>(xcb_get_property_value(answer.get()));
+    const auto active = numbersOf(answer.get());
+    return active.empty() ? static_cast<xcb_window_t>(XCB_NONE) : active.front();
 }
 
 } // namespace vantle

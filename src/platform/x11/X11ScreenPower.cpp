@@ -3,8 +3,7 @@
 #include <xcb/dpms.h>
 #include <xcb/screensaver.h>
 
-#include <cstring>
-#include <string_view>
+#include <array>
 
 namespace vantle {
 
@@ -69,20 +68,13 @@ void X11ScreenPower::followScreenSaver() {
 
 void X11ScreenPower::followStatus() {
     if (!m_connection.isAlive()) return;
-    static constexpr std::string_view kName = "_SCREENSAVER_STATUS";
-    const auto atom = m_connection.reply<xcb_intern_atom_reply>(
-        xcb_intern_atom(m_connection.xcb(), 0, kName.size(), kName.data()));
-    if (!atom) return;
-    m_statusAtom = atom->atom;
+    m_statusAtom = m_connection.atoms(std::array{"_SCREENSAVER_STATUS"}).front();
+    if (m_statusAtom == XCB_ATOM_NONE) return;
     m_properties = m_connection.subscribe(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
         const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
         if (change.window == m_connection.root() && change.atom == m_statusAtom) readStatus();
     });
-    // Others of this connection select events of the same window, and each request replaces all.
-    const auto root = m_connection.reply<xcb_get_window_attributes_reply>(
-        xcb_get_window_attributes(m_connection.xcb(), m_connection.root()));
-    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE | (root ? root->your_event_mask : 0U);
-    xcb_change_window_attributes(m_connection.xcb(), m_connection.root(), XCB_CW_EVENT_MASK, &mask);
+    m_connection.followRootProperties();
     readStatus();
 }
 
@@ -90,10 +82,8 @@ void X11ScreenPower::readStatus() {
     // The first of its numbers is an atom, BLANK or LOCK; 0 while the screen shows the desktop.
     const auto status = m_connection.reply<xcb_get_property_reply>(xcb_get_property(
         m_connection.xcb(), 0, m_connection.root(), m_statusAtom, XCB_GET_PROPERTY_TYPE_ANY, 0, 1));
-    std::uint32_t state = 0;
-    if (status && status->format == 32 && status->value_len > 0)
-        std::memcpy(&state, xcb_get_property_value(status.get()), sizeof state);
-    setCause(StatusCause, state != 0);
+    const auto state = numbersOf(status.get());
+    setCause(StatusCause, !state.empty() && state.front() != 0);
 }
 
 } // namespace vantle

@@ -1,7 +1,6 @@
 #include "platform/x11/X11Struts.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace vantle {
@@ -14,23 +13,12 @@ constexpr std::array<const char*, 3> kStrutAtoms{"_NET_WM_STRUT_PARTIAL", "_NET_
 /// Most windows looked at, of the list and of the root each.
 constexpr std::uint32_t kMostWindows = 1024;
 
-std::span<const std::uint32_t> numbersOf(const xcb_get_property_reply_t* property) {
-    if (property == nullptr || property->format != 32) return {};
-    return {static_cast<const std::uint32_t*>(xcb_get_property_value(property)),
-            property->value_len};
-}
-
 } // namespace
 
 X11Struts::X11Struts(X11Connection& x11) : m_x11(x11) {
     if (!m_x11.isAlive()) return;
     static_assert(kStrutAtoms.size() == AtomCount);
-    for (std::size_t i = 0; i < kStrutAtoms.size(); ++i) {
-        const auto answer = m_x11.reply<xcb_intern_atom_reply>(
-            xcb_intern_atom(m_x11.xcb(), 0, static_cast<std::uint16_t>(std::strlen(kStrutAtoms[i])),
-                            kStrutAtoms[i]));
-        if (answer) m_atoms[i] = answer->atom;
-    }
+    m_atoms = m_x11.atoms(kStrutAtoms);
     m_events.push_back(m_x11.subscribe(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
         handleProperty(reinterpret_cast<const xcb_property_notify_event_t&>(event));
     }));
@@ -47,8 +35,7 @@ X11Struts::X11Struts(X11Connection& x11) : m_x11(x11) {
     onWindow(XCB_DESTROY_NOTIFY, [](const auto& event) {
         return reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window;
     });
-    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    xcb_change_window_attributes(m_x11.xcb(), m_x11.root(), XCB_CW_EVENT_MASK, &mask);
+    m_x11.followRootProperties();
     m_last = all();
 }
 

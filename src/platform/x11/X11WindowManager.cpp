@@ -5,7 +5,6 @@
 #include <QByteArrayView>
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace vantle {
@@ -36,14 +35,7 @@ constexpr std::array<QByteArrayView, 2> kMinimiseSilently{"awesome", "qtile"};
 X11WindowManager::X11WindowManager(X11Connection& x11) : m_x11(x11) {
     if (!m_x11.isAlive()) return;
     static_assert(kManagerAtoms.size() == AtomCount);
-    std::array<xcb_intern_atom_cookie_t, AtomCount> cookies{};
-    for (std::size_t i = 0; i < kManagerAtoms.size(); ++i)
-        cookies[i] = xcb_intern_atom(m_x11.xcb(), 0,
-                                     static_cast<std::uint16_t>(std::strlen(kManagerAtoms[i])),
-                                     kManagerAtoms[i]);
-    for (std::size_t i = 0; i < cookies.size(); ++i)
-        if (const auto answer = m_x11.reply<xcb_intern_atom_reply>(cookies[i]))
-            m_atoms[i] = answer->atom;
+    m_atoms = m_x11.atoms(kManagerAtoms);
     m_properties = m_x11.subscribe(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
         handleProperty(reinterpret_cast<const xcb_property_notify_event_t&>(event));
     });
@@ -51,8 +43,7 @@ X11WindowManager::X11WindowManager(X11Connection& x11) : m_x11(x11) {
     m_ends = m_x11.subscribe(XCB_DESTROY_NOTIFY, [this](const auto& event) {
         if (reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == m_check) refresh();
     });
-    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    xcb_change_window_attributes(m_x11.xcb(), m_x11.root(), XCB_CW_EVENT_MASK, &mask);
+    m_x11.followRootProperties();
     refresh();
 }
 
@@ -99,10 +90,8 @@ bool X11WindowManager::servesMinimise() {
 std::vector<std::uint32_t> X11WindowManager::numbers(xcb_window_t window, Atom name) {
     const auto answer = m_x11.reply<xcb_get_property_reply>(xcb_get_property(
         m_x11.xcb(), 0, window, m_atoms[name], XCB_GET_PROPERTY_TYPE_ANY, 0, kLongestList));
-    if (!answer || answer->format != 32) return {};
-    const auto* const first =
-        static_cast<const std::uint32_t*>(xcb_get_property_value(answer.get()));
-    return {first, first + answer->value_len};
+    const auto found = numbersOf(answer.get());
+    return {found.begin(), found.end()};
 }
 
 void X11WindowManager::bringToUser(QWindow& window) {

@@ -7,8 +7,6 @@
 #include <xcb/res.h>
 
 #include <algorithm>
-#include <cstring>
-#include <span>
 
 namespace vantle {
 
@@ -29,12 +27,8 @@ constexpr std::array<const char*, 9> kNames{
 
 /// The first number of a property of numbers.
 std::optional<std::uint32_t> number(const xcb_get_property_reply_t* property) {
-    if (property == nullptr || property->format != 32 ||
-        xcb_get_property_value_length(property) < 4)
-        return std::nullopt;
-    std::uint32_t value = 0;
-    std::memcpy(&value, xcb_get_property_value(property), sizeof value);
-    return value;
+    const auto numbers = numbersOf(property);
+    return numbers.empty() ? std::nullopt : std::optional(numbers.front());
 }
 
 QByteArray bytes(const xcb_get_property_reply_t* property) {
@@ -74,15 +68,7 @@ X11WindowReader::X11WindowReader(X11Connection& connection)
     , m_host(QSysInfo::machineHostName().toLocal8Bit())
     , m_serverKnowsProcesses(connection.extension(xcb_res_id) != nullptr) {
     static_assert(kNames.size() == AtomCount);
-    std::array<xcb_intern_atom_cookie_t, AtomCount> cookies{};
-    for (std::size_t i = 0; i < kNames.size(); ++i) {
-        const auto length = static_cast<std::uint16_t>(std::strlen(kNames[i]));
-        cookies[i] = xcb_intern_atom(m_connection.xcb(), 0, length, kNames[i]);
-    }
-    for (std::size_t i = 0; i < cookies.size(); ++i) {
-        const auto answer = m_connection.reply<xcb_intern_atom_reply>(cookies[i]);
-        if (answer) m_atoms[i] = answer->atom;
-    }
+    m_atoms = connection.atoms(kNames);
 }
 
 xcb_window_t X11WindowReader::activeWindow() {
@@ -95,11 +81,7 @@ bool X11WindowReader::tellsActiveWindow() {
     const auto answer = m_connection.reply<xcb_get_property_reply>(
         xcb_get_property(m_connection.xcb(), 0, m_connection.root(), m_atoms[Supported],
                          XCB_ATOM_ATOM, 0, kMaxWords));
-    if (!answer || answer->format != 32) return false;
-    const auto* const first = static_cast<const xcb_atom_t*>(xcb_get_property_value(answer.get()));
-    const auto count =
-        static_cast<std::size_t>(xcb_get_property_value_length(answer.get())) / sizeof(xcb_atom_t);
-    const std::span supported(first, count);
+    const auto supported = numbersOf(answer.get());
     return std::ranges::find(supported, m_atoms[ActiveWindow]) != supported.end();
 }
 
