@@ -25,6 +25,14 @@ public:
     Q_INVOKABLE [[nodiscard]] static QString first(const QString& text, int limit) {
         return text::hasAtMost(text, limit) ? text : text::firstCharacters(text, limit);
     }
+    /// Which of how many pages is shown; `page` counts from 0.
+    Q_INVOKABLE [[nodiscard]] static QString place(int page, int count) {
+        return tr("Page %1 of %2").arg(QString::number(page + 1), QString::number(count));
+    }
+    /// What is spoken when that page is turned to: which one it is, and what stands on it.
+    Q_INVOKABLE [[nodiscard]] static QString turnedTo(int page, int count, const QString& lines) {
+        return place(page, count) + QStringLiteral(". ") + lines;
+    }
 };
 
 } // namespace vantle

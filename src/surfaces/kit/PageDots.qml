@@ -11,7 +11,7 @@ Row {
 
     spacing: DarkUI.space8
     Accessible.role: Accessible.Indicator
-    Accessible.name: qsTr("Page %1 of %2").arg(current + 1).arg(count)
+    Accessible.name: KitText.place(current, count)
 
     Repeater {
         model: dots.count

@@ -122,8 +122,7 @@ FocusScope {
         current.lines = announcer.linesOf(current);
         if (!before)
             return;
-        const which = qsTr("Page %1 of %2").arg(model.page + 1).arg(model.cards.length);
-        announcer.say(which + ". " + current.lines);
+        announcer.say(KitText.turnedTo(model.page, model.cards.length, current.lines));
         before.leaving = true;
         outFrom = before.x;
         outPresence = before.opacity;

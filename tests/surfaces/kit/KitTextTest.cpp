@@ -11,6 +11,12 @@ const QString kFamily =
 const QString kFlag = QStringLiteral("\U0001F1F8\U0001F1EA");
 const QString kAccented = QStringLiteral("e\u0301");
 
+TEST(KitText, SaysWhichPageItIsAndWhatStandsOnIt) {
+    EXPECT_EQ(KitText::place(0, 9), QStringLiteral("Page 1 of 9"));
+    EXPECT_EQ(KitText::turnedTo(2, 9, QStringLiteral("%1 of 5")),
+              QStringLiteral("Page 3 of 9. %1 of 5"));
+}
+
 TEST(KitText, ALimitCountsWhatThePersonSees) {
     const QString text = kFamily + kFlag + kAccented + QStringLiteral("x");
     EXPECT_EQ(KitText::count(text), 4);
