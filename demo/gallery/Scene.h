@@ -35,4 +35,13 @@ struct Scene {
 /// A desktop behind floating surfaces.
 inline const QColor kDesk{0x22, 0x26, 0x30};
 
+/// A view in the program's frame on that desktop. It stands in the property "view".
+inline Scene framedScene(const char* name) {
+    Scene made;
+    made.name = QLatin1String(name);
+    made.view = QUrl(QStringLiteral("qrc:/qt/qml/Vantle/DemoWindows/FramedScene.qml"));
+    made.ground = kDesk;
+    return made;
+}
+
 } // namespace vantle

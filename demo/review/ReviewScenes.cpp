@@ -81,10 +81,7 @@ public:
 Scene page(const char* name, Sample sample, WrappedPeriod period, const char* card,
            std::function<void(WrappedView&)> then = {}, const char* duration = "natural",
            const char* locale = "en_US") {
-    Scene made;
-    made.name = QLatin1String(name);
-    made.view = QUrl(QStringLiteral("qrc:/qt/qml/Vantle/DemoWindows/FramedScene.qml"));
-    made.ground = kDesk;
+    Scene made = framedScene(name);
     made.properties = [=](QObject* owner) {
         auto* const review = new DemoReview(owner, sample ? sample() : std::vector<Session>(),
                                             period, QLatin1String(duration), QLatin1String(locale));

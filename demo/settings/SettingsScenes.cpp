@@ -109,10 +109,7 @@ double end(const QList<QQuickItem*>& sections) {
 
 Scene settings(const char* name, Prepare prepare, Place place,
                std::function<void(SettingsView&)> then = {}) {
-    Scene made;
-    made.name = QLatin1String(name);
-    made.view = QUrl(QStringLiteral("qrc:/qt/qml/Vantle/DemoWindows/FramedScene.qml"));
-    made.ground = kDesk;
+    Scene made = framedScene(name);
     made.properties = [=](QObject* owner) {
         auto* const world = new DemoSettings(owner);
         if (prepare) prepare(*world);

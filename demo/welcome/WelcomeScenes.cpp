@@ -43,10 +43,7 @@ public:
 };
 
 Scene scene(const char* name, int step, std::function<void(Newcomer&)> then = {}) {
-    Scene made;
-    made.name = QLatin1String(name);
-    made.view = QUrl(QStringLiteral("qrc:/qt/qml/Vantle/DemoWindows/FramedScene.qml"));
-    made.ground = kDesk;
+    Scene made = framedScene(name);
     made.properties = [=](QObject* owner) {
         auto* const person = new Newcomer(owner);
         if (step > Pick) person->walkTo(step);

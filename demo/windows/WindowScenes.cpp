@@ -257,10 +257,7 @@ QList<Scene> quickLogs() {
 }
 
 Scene alert(const char* name, const char* message, const char* text, const QStringList& buttons) {
-    Scene made;
-    made.name = QLatin1String(name);
-    made.view = QUrl(QStringLiteral("qrc:/qt/qml/Vantle/DemoWindows/FramedScene.qml"));
-    made.ground = kDesk;
+    Scene made = framedScene(name);
     made.properties = [=](QObject* owner) {
         auto* const holder = new AlertHolder(owner);
         holder->model.message = QString::fromUtf8(message);

@@ -216,12 +216,7 @@ class OfEvents(ScreenReader):
 
     def test_why_time_was_not_logged(self):
         self.launch()
-        self.open(*QUICK_LOG)
-        self.desktop.press("ctrl+a")
-        self.desktop.type("0")
-        self.desktop.press("Tab")
-        self.desktop.type("0")
-        self.desktop.press("Return")
+        self.log_no_time()
         wrong = "Enter a time between 1 minute and 16 hours."
         self.reader.ear.await_announced(wrong)
         field = self.reader.window("Quick Log").find("text", "Hours worked")

@@ -3,6 +3,8 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointingDevice>
 #include <QQuickItem>
 #include <QQuickWindow>
 
@@ -38,6 +40,14 @@ inline void sendKey(QQuickWindow& window, int code, const QString& typed = {}) {
         QKeyEvent event(type, code, Qt::NoModifier, typed);
         QCoreApplication::sendEvent(&window, &event);
     }
+}
+
+/// What the pointer does at a place of the window, px of it.
+inline void sendMouse(QQuickWindow& window, QEvent::Type type, QPointF place,
+                      Qt::MouseButton button, Qt::MouseButtons held) {
+    QMouseEvent event(type, place, window.mapToGlobal(place), button, held, Qt::NoModifier,
+                      QPointingDevice::primaryPointingDevice());
+    QCoreApplication::sendEvent(&window, &event);
 }
 
 } // namespace vantle::tests

@@ -50,6 +50,12 @@ protected:
         EXPECT_TRUE(await([&] { return m_item->isShown() && colourOnScreen() == colour; }))
             << qPrintable(colourOnScreen().name()) << " instead of " << qPrintable(colour.name());
     }
+    /// The colour of the desktop's text, which a template takes.
+    void setTextColour(const QColor& colour) {
+        QPalette palette = m_palette;
+        palette.setColor(QPalette::WindowText, colour);
+        QGuiApplication::setPalette(palette);
+    }
     /// Whether the item is with that watcher's hosts and in no other tray.
     [[nodiscard]] bool isShownBy(const FakeStatusNotifierWatcher& watcher) const {
         return m_item->isShown() && !watcher.items.isEmpty() && m_item->geometry().isEmpty();
@@ -79,6 +85,7 @@ QImage imageOf(const TrayPixmap& pixmap) {
                 x, y, qFromBigEndian<QRgb>(pixmap.argb.constData() + 4 * (y * pixmap.width + x)));
     return image;
 }
+const QString kDarkBar = QStringLiteral("--transparent true --alpha 0 --tint 0x202020");
 const QByteArray kRedPixel = QByteArray::fromHex("ffff0000");
 const QByteArray kBluePixel = QByteArray::fromHex("ff0000ff");
 
@@ -95,26 +102,20 @@ TEST_F(DesktopTrayItemTest, TemplateTakesTheColourOfTheBarsText) {
     const Trayer tray;
     m_item->setImage(tests::disc(Qt::black), true);
     expectOnScreen(m_palette.color(QPalette::WindowText));
-    QPalette palette = m_palette;
-    palette.setColor(QPalette::WindowText, Qt::blue);
-    QGuiApplication::setPalette(palette);
+    setTextColour(Qt::blue);
     expectOnScreen(Qt::blue);
 }
 
 TEST_F(DesktopTrayItemTest, DarkTemplateIsWhiteOnADarkBar) {
-    QPalette palette = m_palette;
-    palette.setColor(QPalette::WindowText, Qt::black);
-    QGuiApplication::setPalette(palette);
-    const Trayer tray(QStringLiteral("--transparent true --alpha 0 --tint 0x202020"));
+    setTextColour(Qt::black);
+    const Trayer tray(kDarkBar);
     m_item->setImage(tests::disc(Qt::black), true);
     expectOnScreen(Qt::white);
 }
 
 TEST_F(DesktopTrayItemTest, TemplateHasNoEdgeOnABarWhoseColourIsSeen) {
-    QPalette palette = m_palette;
-    palette.setColor(QPalette::WindowText, Qt::black);
-    QGuiApplication::setPalette(palette);
-    const Trayer tray(QStringLiteral("--transparent true --alpha 0 --tint 0x202020"));
+    setTextColour(Qt::black);
+    const Trayer tray(kDarkBar);
     m_item->setImage(tests::disc(Qt::black), true);
     expectOnScreen(Qt::white);
     const auto darkest = [this] {

@@ -31,6 +31,15 @@ class WindowCase(DesktopTest):
     def notes(self):
         return [session["note"] for session in self.vantle.sessions()]
 
+    def log_no_time(self):
+        """Opens the form for time by hand and asks it to log 0 h 0 min."""
+        self.open(*QUICK_LOG)
+        self.desktop.press("ctrl+a")
+        self.desktop.type("0")
+        self.desktop.press("Tab")
+        self.desktop.type("0")
+        self.desktop.press("Return")
+
     def open(self, action, title):
         """Opens a window and waits until it has the keyboard."""
         activate_action(self.desktop, action)

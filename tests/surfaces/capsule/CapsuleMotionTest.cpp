@@ -1,14 +1,13 @@
 // How the capsule moves, as it is seen: pictures of its window, frame by frame.
 #include "CapsuleWorld.h"
 #include "fakes/FakePanelHost.h"
+#include "support/ShownItems.h"
 #include "support/SteppedAnimations.h"
 #include "support/Text.h"
 #include "surfaces/capsule/CapsuleWindow.h"
 #include "surfaces/kit/Motion.h"
 
 #include <QImage>
-#include <QMouseEvent>
-#include <QPointingDevice>
 #include <QQmlEngine>
 #include <QQuickItem>
 
@@ -99,9 +98,7 @@ protected:
     }
 
     void mouse(QEvent::Type type, QPointF place, Qt::MouseButton button, Qt::MouseButtons held) {
-        QMouseEvent event(type, place, window->panel().mapToGlobal(place), button, held,
-                          Qt::NoModifier, QPointingDevice::primaryPointingDevice());
-        QCoreApplication::sendEvent(&window->panel(), &event);
+        sendMouse(window->panel(), type, place, button, held);
     }
     void click(QPointF place) {
         mouse(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton);

@@ -17,6 +17,15 @@ protected:
         pointerInside = false;
         opening.pointerLeft();
     }
+    /// For a pointer of which the window does not tell.
+    void expectOpenUntilThePointerLeaves() {
+        pointerInside = true;
+        time.advance(5);
+        EXPECT_TRUE(opening.isExpanded());
+        pointerInside = false;
+        time.advance(0.7);
+        EXPECT_FALSE(opening.isExpanded());
+    }
 
     fakes::VirtualTime time;
     bool pointerInside = false;
@@ -127,22 +136,12 @@ TEST_F(CapsuleOpeningTest, FromTheWindowOnOnlyTheWindowTellsWhereThePointerIs) {
 TEST_F(CapsuleOpeningTest, APointerThatWentFromTheWindowToBesideItHoldsItOpenUntilItHasLeft) {
     enter();
     leave();
-    pointerInside = true;
-    time.advance(5);
-    EXPECT_TRUE(opening.isExpanded());
-    pointerInside = false;
-    time.advance(0.7);
-    EXPECT_FALSE(opening.isExpanded());
+    expectOpenUntilThePointerLeaves();
 }
 
 TEST_F(CapsuleOpeningTest, APointerBesideTheWindowWhileAFlashEndsKeepsItOpenUntilItLeaves) {
     opening.beginSessionFlash(Seconds(2));
-    pointerInside = true;
-    time.advance(5);
-    EXPECT_TRUE(opening.isExpanded());
-    pointerInside = false;
-    time.advance(0.7);
-    EXPECT_FALSE(opening.isExpanded());
+    expectOpenUntilThePointerLeaves();
 }
 
 TEST_F(CapsuleOpeningTest, AFlashEndsSuspendedOrNot) {

@@ -11,8 +11,6 @@
 
 #include <QAccessible>
 #include <QCoreApplication>
-#include <QMouseEvent>
-#include <QPointingDevice>
 #include <QQmlEngine>
 #include <QQuickItem>
 
@@ -63,9 +61,7 @@ protected:
     }
 
     void mouse(QEvent::Type type, QPointF place, Qt::MouseButton button, Qt::MouseButtons held) {
-        QMouseEvent event(type, place, window->panel().mapToGlobal(place), button, held,
-                          Qt::NoModifier, QPointingDevice::primaryPointingDevice());
-        QCoreApplication::sendEvent(&window->panel(), &event);
+        sendMouse(window->panel(), type, place, button, held);
     }
     void moveTo(QPointF place) {
         mouse(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton);
