@@ -24,7 +24,7 @@ public:
         QString text;
         QString help; ///< what it does; empty where the text says it
         std::function<void()> give;
-        bool takesKeyboard = false; ///< to the card: whoever had it has to let it go before
+        bool takesKeyboard = false; ///< for the card; the panel gives the keyboard back first
     };
     struct Question {
         QString text;

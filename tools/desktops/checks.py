@@ -182,7 +182,7 @@ def window_moved(scene):
     moved = scene.frame_of(window)
     scene.desktop.tool("xdotool", "mousemove", "200", "800", "sleep", "0.3")
     expect(abs(moved[0] - x) > 40, f"the window stays at {x}, {y}")
-    expect(scene.frame_of(window) == moved, "the hand does not let go of the window")
+    expect(scene.frame_of(window) == moved, "the window moves on after the drop")
 
 
 def window_minimised(scene):

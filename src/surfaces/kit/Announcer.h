@@ -8,8 +8,8 @@
 
 namespace vantle {
 
-/// A notification in the accessibility tree, shown anew with each message: the one event that this
-/// toolkit can send and that readers speak for an application in the background. (A role of
+/// A notification in the accessibility tree, shown again with each message: the one event that
+/// this toolkit can send and that readers speak for an application in the background. (A role of
 /// AlertMessage alone does nothing.) It has no window and nothing to be seen, so that a message
 /// comes through while the program shows nothing at all. Must outlive its message by the moment in
 /// which a reader asks for it. Main thread.
