@@ -22,6 +22,7 @@
 #include "platform/posix/PosixProcessRunner.h"
 #include "platform/posix/TerminationSignals.h"
 #include "platform/x11/ScaleFactor.h"
+#include "platform/x11/LostServer.h"
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11FrontmostApp.h"
 #include "platform/x11/X11HotKey.h"
@@ -113,6 +114,7 @@ public:
         , m_saveDialog(m_session, m_qtSaveDialog)
         , m_service(m_session)
         , m_signals([this](int) { m_events.endRequested(); }) {
+        endSilentlyWithServer();
         QObject::connect(&m_x11, &X11Connection::broken, &m_x11,
                          [this] { m_events.displayLost(); });
         QObject::connect(&m_service, &ApplicationService::activated, &m_service,

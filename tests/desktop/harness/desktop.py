@@ -9,7 +9,7 @@ import time
 from pathlib import Path
 
 from .display import Display
-from .eyes import Eyes
+from .eyes import Eyes, NotOnTheScreen
 from .waiting import wait_until
 
 WITH_DESKTOP = Path(__file__).resolve().parents[2] / "support" / "with-desktop"
@@ -183,8 +183,14 @@ class Desktop:
 
     def tray_picture(self):
         """The pixels of the tray's whole bar, which is as wide as its icons."""
-        bar = self._geometry(self._tray_window())
-        return self.picture(bar["X"], bar["Y"], bar["WIDTH"], bar["HEIGHT"])
+        def bar():
+            frame = self._geometry(self._tray_window())
+            try:
+                return self.picture(frame["X"], frame["Y"], frame["WIDTH"], frame["HEIGHT"])
+            except NotOnTheScreen:
+                return None  # it has moved or grown since it was asked where it is
+
+        return wait_until("the tray's bar on the screen", bar)
 
     def tray_frame(self):
         """Where the tray's bar is: x, y, width, height."""

@@ -13,6 +13,10 @@ class _Image(ctypes.Structure):
                 ("format", ctypes.c_int), ("data", ctypes.c_void_p)]
 
 
+class NotOnTheScreen(Exception):
+    """A part of the rectangle lies outside of the screen, which has no pixels there."""
+
+
 class Eyes:
     """Reads pixels of a display within milliseconds, over a connection of its own."""
 
@@ -41,6 +45,8 @@ class Eyes:
         root = self._x11.XDefaultRootWindow(self._display)
         image = self._x11.XGetImage(self._display, root, x, y, width, height, self._ALL_PLANES,
                                     self._WHOLE_PIXELS)
+        if not image:
+            raise NotOnTheScreen
         pixels = ctypes.string_at(image.contents.data, width * height * 4)
         self._x11.XDestroyImage(image)
         return pixels
