@@ -2,8 +2,6 @@
 #pragma once
 
 #include "app/PreferenceKeys.h"
-#include "app/launch/AppDelegate.h"
-#include "app/launch/PosterSharing.h"
 #include "fakes/FakeAutostart.h"
 #include "fakes/FakeCardStage.h"
 #include "fakes/FakeFrontmostApp.h"
@@ -23,6 +21,8 @@
 #include "fakes/MemoryFileSystem.h"
 #include "fakes/MemoryPreferences.h"
 #include "fakes/VirtualTime.h"
+#include "launch/AppDelegate.h"
+#include "launch/PosterSharing.h"
 #include "support/Text.h"
 #include "surfaces/window/SharedEngine.h"
 #include "tracking/AppPaths.h"

@@ -1,9 +1,9 @@
-#include "app/launch/AppInstaller.h"
+#include "launch/AppInstaller.h"
 
-#include "app/launch/InstallLocation.h"
 #include "fakes/FaultyFileSystem.h"
 #include "fakes/MemoryFileSystem.h"
 #include "fakes/MemoryPreferences.h"
+#include "launch/InstallLocation.h"
 #include "platform/WholeFile.h"
 #include "support/QtPrinters.h"
 

@@ -1,4 +1,4 @@
-#include "app/launch/MissingTray.h"
+#include "launch/MissingTray.h"
 
 #include "fakes/FakeTrayItem.h"
 #include "fakes/MemoryPreferences.h"

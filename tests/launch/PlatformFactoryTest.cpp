@@ -1,5 +1,5 @@
 // What the platform makes of the session that it finds: the X server tells, not the environment.
-#include "app/launch/PlatformFactory.h"
+#include "launch/PlatformFactory.h"
 
 #include "base/Scheduler.h"
 #include "support/Await.h"

@@ -1,4 +1,4 @@
-#include "app/launch/PosterSharing.h"
+#include "launch/PosterSharing.h"
 
 #include "fakes/FakeImageClipboard.h"
 #include "fakes/FakeSaveDialog.h"

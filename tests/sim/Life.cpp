@@ -1,6 +1,6 @@
 #include "sim/Life.h"
 
-#include "app/launch/AutoSkillAdapter.h"
+#include "launch/AutoSkillAdapter.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 """Includes point down only, and every edge between folders of src/ is stated in CMake.
 
 The folders from the bottom to the top of the house. A folder may use those in lower rows. Folders
-of a row do not know each other, but for app/launch, which alone sees the backends.
+of a row do not know each other, but for launch, which alone sees the backends.
 """
 
 import posixpath
@@ -20,7 +20,7 @@ ROWS = (
     ("review",),
     ("surfaces/*", "ceremony"),
     ("surfaces/welcome",),
-    ("app/launch", "platform/*"),
+    ("launch", "platform/*"),
 )
 RANKS = {folder: rank for rank, row in enumerate(ROWS) for folder in row}
 
@@ -44,7 +44,7 @@ def rank_of(folder):
 def may_use(user, used):
     if user == used:
         return True
-    if user == "app/launch" and used.startswith("platform/"):
+    if user == "launch" and used.startswith("platform/"):
         return True
     return rank_of(used) < rank_of(user)
 

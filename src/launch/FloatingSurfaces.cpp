@@ -1,4 +1,4 @@
-#include "app/launch/FloatingSurfaces.h"
+#include "launch/FloatingSurfaces.h"
 
 #include "surfaces/capsule/CapsuleWindow.h"
 #include "surfaces/window/SharedEngine.h"

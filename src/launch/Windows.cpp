@@ -1,7 +1,7 @@
-#include "app/launch/Windows.h"
+#include "launch/Windows.h"
 
 #include "app/AppModel.h"
-#include "app/launch/PosterSharing.h"
+#include "launch/PosterSharing.h"
 #include "review/WrappedView.h"
 #include "surfaces/dashboard/DashboardView.h"
 #include "surfaces/notes/LogView.h"

@@ -1,4 +1,4 @@
-#include "app/launch/ResourceFolders.h"
+#include "launch/ResourceFolders.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "app/launch/PlatformFactory.h"
+#include "launch/PlatformFactory.h"
 
 #include "base/Clock.h"
 #include "platform/CannotTell.h"
@@ -21,8 +21,8 @@
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/PosixProcessRunner.h"
 #include "platform/posix/TerminationSignals.h"
-#include "platform/x11/ScaleFactor.h"
 #include "platform/x11/LostServer.h"
+#include "platform/x11/ScaleFactor.h"
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11FrontmostApp.h"
 #include "platform/x11/X11HotKey.h"

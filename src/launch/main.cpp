@@ -1,3 +1,3 @@
-#include "app/launch/HourfoldApp.h"
+#include "launch/HourfoldApp.h"
 
 int main(int argc, char** argv) { return vantle::HourfoldMain(argc, argv); }

@@ -3,8 +3,8 @@
 
 #include "app/AppModel.h"
 #include "app/OpenQuestions.h"
-#include "app/launch/MissingTray.h"
-#include "app/launch/SpokenEvents.h"
+#include "launch/MissingTray.h"
+#include "launch/SpokenEvents.h"
 #include "sensing/AutoSkillMonitor.h"
 #include "sensing/FocusLink.h"
 #include "surfaces/commandcenter/CommandCenterController.h"

@@ -1,4 +1,4 @@
-#include "app/launch/AppInstaller.h"
+#include "launch/AppInstaller.h"
 
 #include "platform/FileSystem.h"
 #include "platform/Preferences.h"

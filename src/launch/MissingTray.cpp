@@ -1,4 +1,4 @@
-#include "app/launch/MissingTray.h"
+#include "launch/MissingTray.h"
 
 #include "platform/Preferences.h"
 #include "platform/TrayItem.h"

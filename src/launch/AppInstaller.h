@@ -1,8 +1,8 @@
 // Offers to move a program that runs from a download folder to its proper place.
 #pragma once
 
-#include "app/launch/InstallLocation.h"
 #include "base/Result.h"
+#include "launch/InstallLocation.h"
 #include "surfaces/alert/ModalPresenter.h"
 
 #include <QLatin1String>

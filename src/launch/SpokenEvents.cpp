@@ -1,4 +1,4 @@
-#include "app/launch/SpokenEvents.h"
+#include "launch/SpokenEvents.h"
 
 #include "app/AppModel.h"
 #include "app/OpenQuestions.h"

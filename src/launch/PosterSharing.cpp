@@ -1,4 +1,4 @@
-#include "app/launch/PosterSharing.h"
+#include "launch/PosterSharing.h"
 
 #include "platform/ImageClipboard.h"
 #include "platform/WholeFile.h"

@@ -1,4 +1,4 @@
-#include "app/launch/AutoSkillAdapter.h"
+#include "launch/AutoSkillAdapter.h"
 
 #include "sensing/AutoSuggestion.h"
 

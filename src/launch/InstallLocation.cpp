@@ -1,4 +1,4 @@
-#include "app/launch/InstallLocation.h"
+#include "launch/InstallLocation.h"
 
 #include "platform/FileSystem.h"
 

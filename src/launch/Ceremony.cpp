@@ -1,9 +1,9 @@
-#include "app/launch/Ceremony.h"
+#include "launch/Ceremony.h"
 
-#include "app/launch/ResourceFolders.h"
 #include "ceremony/RippleOverlayController.h"
 #include "ceremony/show/CeremonyFonts.h"
 #include "ceremony/show/CeremonyFrameRenderer.h"
+#include "launch/ResourceFolders.h"
 
 #include <QCoreApplication>
 #include <QDir>

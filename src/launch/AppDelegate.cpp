@@ -1,8 +1,8 @@
-#include "app/launch/AppDelegate.h"
+#include "launch/AppDelegate.h"
 
-#include "app/launch/AutoSkillAdapter.h"
-#include "app/launch/FocusLinkAdapter.h"
-#include "app/launch/Windows.h"
+#include "launch/AutoSkillAdapter.h"
+#include "launch/FocusLinkAdapter.h"
+#include "launch/Windows.h"
 #include "platform/Autostart.h"
 #include "platform/Preferences.h"
 #include "platform/Screens.h"
