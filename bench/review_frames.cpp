@@ -8,8 +8,8 @@
 #include "base/Clock.h"
 #include "base/Scheduler.h"
 #include "platform/LanguageModel.h"
-#include "platform/desktop/SettingsPreferences.h"
 #include "platform/posix/PosixFileSystem.h"
+#include "platform/posix/SettingsPreferences.h"
 #include "review/WrappedView.h"
 #include "tracking/NotificationCenter.h"
 

@@ -4,7 +4,7 @@
 #include "fakes/FaultyFileSystem.h"
 #include "fakes/MemoryFileSystem.h"
 #include "platform/WholeFile.h"
-#include "platform/desktop/DesktopAutostart.h"
+#include "platform/applications/DesktopAutostart.h"
 #include "platform/posix/PosixFileSystem.h"
 
 #include <QTemporaryDir>

@@ -2,10 +2,10 @@
 #include "contract/Contract.h"
 #include "fakes/FakeFrontmostApp.h"
 #include "fakes/VirtualTime.h"
+#include "platform/x11/OwnServer.h"
 #include "platform/x11/X11FrontmostApp.h"
 #include "support/Await.h"
 #include "support/QtPrinters.h"
-#include "x11/OwnServer.h"
 
 #include <vector>
 

@@ -2,9 +2,9 @@
 #include "contract/Contract.h"
 #include "fakes/FakeHotKeyPort.h"
 #include "fakes/VirtualTime.h"
+#include "platform/x11/OwnServer.h"
 #include "platform/x11/X11HotKey.h"
 #include "support/Await.h"
-#include "x11/OwnServer.h"
 
 #include <optional>
 #include <vector>

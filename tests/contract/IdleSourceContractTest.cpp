@@ -3,9 +3,9 @@
 #include "fakes/FakeIdleSource.h"
 #include "fakes/SleptClock.h"
 #include "fakes/VirtualTime.h"
+#include "platform/x11/OwnServer.h"
 #include "platform/x11/X11IdleSource.h"
 #include "support/Await.h"
-#include "x11/OwnServer.h"
 
 #include <QElapsedTimer>
 

@@ -1,7 +1,7 @@
 // What every clipboard for pictures promises.
 #include "contract/Contract.h"
 #include "fakes/FakeImageClipboard.h"
-#include "platform/desktop/QtImageClipboard.h"
+#include "platform/session/QtImageClipboard.h"
 #include "support/Await.h"
 #include "support/Text.h"
 

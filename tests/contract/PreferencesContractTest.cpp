@@ -1,7 +1,7 @@
 // What every preference store promises.
 #include "fakes/MemoryPreferences.h"
-#include "platform/desktop/SettingsPreferences.h"
 #include "platform/posix/PosixFileSystem.h"
+#include "platform/posix/SettingsPreferences.h"
 #include "support/QtPrinters.h"
 
 #include <QTemporaryDir>

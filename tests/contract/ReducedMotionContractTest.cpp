@@ -1,8 +1,8 @@
 // What every source of the wish for less movement promises.
 #include "contract/Contract.h"
-#include "dbus/FakePortal.h"
 #include "fakes/FakeReducedMotion.h"
-#include "platform/dbus/DesktopReducedMotion.h"
+#include "platform/session/DesktopReducedMotion.h"
+#include "platform/session/FakePortal.h"
 #include "support/Await.h"
 #include "support/Text.h"
 

@@ -1,9 +1,9 @@
 // What every save dialog promises.
 #include "contract/Contract.h"
-#include "dbus/FakeFileChooser.h"
 #include "fakes/FakeSaveDialog.h"
-#include "platform/dbus/PortalSaveDialog.h"
-#include "platform/desktop/QtSaveDialog.h"
+#include "platform/session/FakeFileChooser.h"
+#include "platform/session/PortalSaveDialog.h"
+#include "platform/session/QtSaveDialog.h"
 #include "support/Await.h"
 #include "support/QtPrinters.h"
 #include "support/Text.h"

@@ -1,15 +1,15 @@
 // What everything that tells of sleeping screens promises.
 #include "contract/Contract.h"
-#include "dbus/FakeLoginManager.h"
-#include "dbus/FakeScreenSaver.h"
 #include "fakes/FakeScreenPower.h"
 #include "fakes/VirtualTime.h"
-#include "platform/dbus/LoginScreenPower.h"
-#include "platform/dbus/SessionScreenPower.h"
+#include "platform/session/FakeLoginManager.h"
+#include "platform/session/FakeScreenSaver.h"
+#include "platform/session/LoginScreenPower.h"
+#include "platform/session/SessionScreenPower.h"
+#include "platform/x11/OwnServer.h"
 #include "platform/x11/X11ScreenPower.h"
 #include "sensing/ScreenPowerUnion.h"
 #include "support/Await.h"
-#include "x11/OwnServer.h"
 
 namespace vantle {
 namespace {

@@ -2,7 +2,7 @@
 #include "contract/Contract.h"
 #include "fakes/FakeScreens.h"
 #include "platform/ReservedStrips.h"
-#include "platform/desktop/QtScreens.h"
+#include "platform/session/QtScreens.h"
 #include "support/Await.h"
 
 #include <QCursor>

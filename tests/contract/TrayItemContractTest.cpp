@@ -1,11 +1,11 @@
 // What every tray item promises.
 #include "contract/Contract.h"
 #include "fakes/FakeTrayItem.h"
-#include "platform/desktop/DesktopTrayItem.h"
+#include "platform/tray/DesktopTrayItem.h"
+#include "platform/tray/FakeStatusNotifierWatcher.h"
+#include "platform/tray/Images.h"
+#include "platform/tray/Trayer.h"
 #include "support/Await.h"
-#include "tray/FakeStatusNotifierWatcher.h"
-#include "tray/Images.h"
-#include "tray/Trayer.h"
 
 #include <QCursor>
 

@@ -28,7 +28,7 @@ BANS = (
         r"|\bQDir\b.*(?:\.|::)(?:mkpath|mkdir|rmpath|rmdir|remove|removeRecursively|rename)\s*\("
         r"|\bstd::(?:basic_)?[of]?fstream\b|\bf(?:re)?open\s*\(",
         "data files are written through FileSystem only",
-        homes=("src/platform/posix/", "src/platform/desktop/")),
+        homes=("src/platform/posix/", "src/platform/applications/", "src/platform/session/")),
     Ban(r"\bq(?:C?Debug|C?Info|C?Warning|C?Critical)\b", "the program prints nothing",
         folders=("src", "tests", "demo")),
     Ban(r"\bstd::(?:cout|cerr|clog)\b|\b(?:std::)?(?:v?f?printf|puts|putchar|fputs)\s*\(",

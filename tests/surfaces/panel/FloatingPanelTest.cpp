@@ -3,7 +3,7 @@
 
 #include "fakes/FakePanelHost.h"
 #include "platform/ReservedStrips.h"
-#include "platform/desktop/QtScreens.h"
+#include "platform/session/QtScreens.h"
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11PanelHost.h"
 #include "support/Await.h"

@@ -1,0 +1,63 @@
+#include "platform/session/FileManager.h"
+
+#include "platform/ProcessRunner.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include <limits>
+
+namespace vantle {
+
+namespace {
+
+/// The bus never gives up on an answer. Any error then says that nothing was or will be opened:
+/// there is no file manager, it could not be started, it refused, or it ended over the question.
+constexpr int kNoLimit = std::numeric_limits<int>::max();
+
+} // namespace
+
+Result<> FileManager::moveToTrash(const QString& path) {
+    // Qt makes the trash but not the folder above it; without that one the file would land in the
+    // working directory.
+    QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    QFile file(path);
+    if (file.moveToTrash()) return {};
+    return Error{0, QStringLiteral("move to trash"), path, file.errorString()};
+}
+
+void FileManager::reveal(const QString& path) {
+    ask(QStringLiteral("ShowItems"), path, QFileInfo(path).path());
+}
+
+void FileManager::openFolder(const QString& path) {
+    ask(QStringLiteral("ShowFolders"), path, path);
+}
+
+void FileManager::ask(const QString& method, const QString& path, const QString& folder) {
+    // A call without a connection is one that never ends.
+    if (!m_session.isConnected()) return startOpener(folder);
+    auto call =
+        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.FileManager1"),
+                                       QStringLiteral("/org/freedesktop/FileManager1"),
+                                       QStringLiteral("org.freedesktop.FileManager1"), method);
+    call << QStringList{QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded)} << QString();
+    auto* const answer =
+        new QDBusPendingCallWatcher(m_session.asyncCall(call, kNoLimit), &m_answers);
+    QObject::connect(answer, &QDBusPendingCallWatcher::finished, answer, [this, answer, folder] {
+        if (answer->isError()) startOpener(folder);
+        answer->deleteLater();
+    });
+}
+
+void FileManager::startOpener(const QString& folder) {
+    const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    if (!opener.isEmpty()) (void)m_runner.startDetached({opener, {folder}});
+}
+
+} // namespace vantle

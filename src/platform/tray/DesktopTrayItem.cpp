@@ -1,0 +1,110 @@
+#include "platform/tray/DesktopTrayItem.h"
+
+#include "platform/tray/TemplateImage.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QEvent>
+
+namespace vantle {
+
+namespace {
+
+/// Some hosts give the same place for every click, some that of the item, some that of the pointer.
+/// What is farther from the pointer than an item is wide, in px, is none of the latter two.
+constexpr int kFarFromPointer = 200;
+
+} // namespace
+
+DesktopTrayItem::DesktopTrayItem(const QDBusConnection& session, bool tellsPointer)
+    : m_tellsPointer(tellsPointer)
+    , m_notifier(session) {
+    connect(&m_notifier, &StatusNotifierItem::clicked, this,
+            [this](QPoint told) { Q_EMIT clicked(placeOfClick(told)); });
+    connect(&m_notifier, &StatusNotifierItem::shownChanged, this, &DesktopTrayItem::updateShown);
+    connect(&m_notifier, &StatusNotifierItem::watcherChanged, this, &DesktopTrayItem::choose);
+    QCoreApplication::instance()->installEventFilter(this); // for changes of the palette
+}
+
+QPoint DesktopTrayItem::placeOfClick(QPoint told) const {
+    if (!m_tellsPointer) return told;
+    const QPoint pointer = QCursor::pos();
+    return (told - pointer).manhattanLength() > kFarFromPointer ? pointer : told;
+}
+
+void DesktopTrayItem::choose() {
+    const bool wanted = m_notifier.hasWatcher() == false && !m_image.isNull() &&
+                        qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
+    if (wanted == (m_window != nullptr)) return;
+    if (wanted) {
+        // The toolkit would take a watcher that is there now, and never a window again. Where one
+        // has just come, the notifier is about to tell so.
+        if (!m_notifier.isSurelyWithoutWatcher()) return;
+        m_window = std::make_unique<XEmbedTrayItem>(drawnImage(), m_toolTip);
+        connect(m_window.get(), &XEmbedTrayItem::clicked, this, &TrayItem::clicked);
+        connect(m_window.get(), &XEmbedTrayItem::shownChanged, this, &DesktopTrayItem::updateShown);
+        connect(m_window.get(), &XEmbedTrayItem::groundChanged, this, &DesktopTrayItem::showImage);
+        connect(m_window.get(), &XEmbedTrayItem::placeChanged, this, &TrayItem::placeChanged);
+    } else {
+        m_window.reset();
+        showImage(); // in the colour for a bar that is not known
+    }
+    updateShown();
+    Q_EMIT placeChanged();
+}
+
+void DesktopTrayItem::updateShown() {
+    const bool shown = m_notifier.isShown() || (m_window && m_window->isShown());
+    if (shown == m_shown) return;
+    m_shown = shown;
+    Q_EMIT shownChanged();
+}
+
+void DesktopTrayItem::setImage(const QIcon& image, bool isTemplate) {
+    m_image = image;
+    m_isTemplate = isTemplate;
+    showImage();
+    choose(); // the first image is what a window waits for
+}
+
+void DesktopTrayItem::showImage() {
+    const QIcon& drawn = drawnImage();
+    m_notifier.setImage(drawn);
+    if (m_window) m_window->setImage(drawn);
+}
+
+const QIcon& DesktopTrayItem::drawnImage() {
+    if (!m_isTemplate) return m_image;
+    // Hosts do not tell what colour their panel has.
+    const std::optional<QColor> ground = m_window ? m_window->ground() : std::nullopt;
+    const QColor colour = barTextColour(ground);
+    const bool edged = !ground;
+    if (m_coloured.shapeKey != m_image.cacheKey() || m_coloured.colour != colour ||
+        m_coloured.edged != edged)
+        m_coloured = {m_image.cacheKey(), colour, edged,
+                      edged ? inColourWithEdge(m_image, colour) : inColour(m_image, colour)};
+    return m_coloured.image;
+}
+
+void DesktopTrayItem::setToolTip(const QString& text) {
+    if (text == m_toolTip) return;
+    m_toolTip = text;
+    m_notifier.setToolTip(text);
+    if (m_window) m_window->setToolTip(text);
+}
+
+QRect DesktopTrayItem::geometry() const { return m_window ? m_window->geometry() : QRect(); }
+
+bool DesktopTrayItem::isPlacePending() const {
+    // A host of the other protocol never tells the place.
+    return m_window ? m_window->geometry().isEmpty() : m_notifier.hasWatcher() != true;
+}
+
+bool DesktopTrayItem::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange && m_isTemplate &&
+        watched == QCoreApplication::instance())
+        showImage();
+    return TrayItem::eventFilter(watched, event);
+}
+
+} // namespace vantle

@@ -1,0 +1,115 @@
+#include "platform/tray/TemplateImage.h"
+
+#include "platform/tray/TrayPixmaps.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmap>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace vantle {
+
+namespace {
+
+constexpr int kMiddleGray = 128;
+constexpr int kSeenDifference = 64; ///< of the grays of two colours that can be told apart well
+
+/// The edge's reach in px up to images of kEdgeGrowsFrom px; wider ones have a wider one. One pixel
+/// is too little: where the shape is smoothed the edge only mixes with it.
+constexpr double kEdgeReach = 1.5;
+constexpr double kEdgeGrowsFrom = 24;
+constexpr double kEdgeOpacity = 0.9;
+
+/// Alpha from which a pixel gets an edge, and from which it gets a full one. A plate that is laid
+/// below the shape, at 0.4, gets none.
+constexpr double kEdgedFrom = 0.42;
+constexpr double kFullyEdgedFrom = 0.52;
+
+QColor oppositeOf(const QColor& colour) {
+    return qGray(colour.rgb()) < kMiddleGray ? Qt::white : Qt::black;
+}
+
+double edgeWeight(QRgb pixel) {
+    return std::clamp((qAlpha(pixel) / 255.0 - kEdgedFrom) / (kFullyEdgedFrom - kEdgedFrom), 0.0,
+                      1.0);
+}
+
+/// How much of an edge there is at a pixel, from 0 to 1.
+double edgeAt(const QImage& image, const QPoint& place, double reach) {
+    const int around = static_cast<int>(std::ceil(reach));
+    double most = 0;
+    for (int dy = -around; dy <= around; ++dy)
+        for (int dx = -around; dx <= around; ++dx) {
+            const QPoint other = place + QPoint(dx, dy);
+            if (!image.valid(other)) continue;
+            const double near = std::clamp(reach + 0.5 - std::hypot(dx, dy), 0.0, 1.0);
+            most = std::max(most, near * edgeWeight(image.pixel(other)));
+        }
+    return most;
+}
+
+QImage withEdge(const QImage& image, const QColor& edgeColour) {
+    const double reach = kEdgeReach * std::max(1.0, image.width() / kEdgeGrowsFrom);
+    QImage edged(image.size(), QImage::Format_ARGB32);
+    QColor colour = edgeColour;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            colour.setAlphaF(static_cast<float>(kEdgeOpacity * edgeAt(image, {x, y}, reach)));
+            edged.setPixelColor(x, y, colour);
+        }
+    QPainter painter(&edged);
+    painter.drawImage(0, 0, image);
+    painter.end();
+    return edged;
+}
+
+QList<QSize> sizesOf(const QIcon& image) {
+    QList<QSize> sizes = image.availableSizes();
+    if (sizes.isEmpty()) // drawn on demand
+        for (const int size : kTraySizes)
+            sizes.append(QSize(size, size));
+    return sizes;
+}
+
+} // namespace
+
+QIcon inColour(const QIcon& shape, const QColor& colour) {
+    QIcon coloured;
+    for (const QSize& size : sizesOf(shape)) {
+        QPixmap pixmap = shape.pixmap(size, 1.0);
+        QPainter painter(&pixmap);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(pixmap.rect(), colour);
+        painter.end();
+        coloured.addPixmap(pixmap);
+    }
+    return coloured;
+}
+
+QIcon inColourWithEdge(const QIcon& shape, const QColor& colour) {
+    const QIcon coloured = inColour(shape, colour);
+    QIcon edged;
+    for (const QSize& size : coloured.availableSizes()) {
+        const QImage image = coloured.pixmap(size, 1.0).toImage();
+        edged.addPixmap(QPixmap::fromImage(
+            withEdge(image.convertToFormat(QImage::Format_ARGB32), oppositeOf(colour))));
+    }
+    return edged;
+}
+
+QColor barTextColour(const std::optional<QColor>& ground) {
+    QColor text = Qt::white;
+    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr)
+        text = QGuiApplication::palette().color(QPalette::Active, QPalette::WindowText);
+    if (!ground) return text;
+    const int groundGray = qGray(ground->rgb());
+    if (std::abs(groundGray - qGray(text.rgb())) >= kSeenDifference) return text;
+    return oppositeOf(*ground);
+}
+
+} // namespace vantle
