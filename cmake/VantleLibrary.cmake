@@ -19,6 +19,19 @@ function(vantle_qml_module name)
     if(VANTLE_QML_AHEAD)
         set(cache "")
     endif()
+    # A view of a subfolder stands in the module by its bare name, beside those of the others.
+    foreach(file IN LISTS ARG_QML_FILES)
+        cmake_path(GET file FILENAME bare_name)
+        set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS ${bare_name})
+    endforeach()
+    # The generated registration includes the headers of the module by their bare names.
+    set(folders "${CMAKE_CURRENT_SOURCE_DIR}")
+    foreach(file IN LISTS ARG_SOURCES)
+        cmake_path(GET file PARENT_PATH folder)
+        list(APPEND folders "${CMAKE_CURRENT_SOURCE_DIR}/${folder}")
+    endforeach()
+    list(TRANSFORM folders REPLACE "/$" "")
+    list(REMOVE_DUPLICATES folders)
     qt_add_library(${name} STATIC)
     qt_add_qml_module(${name}
         URI ${ARG_URI}
@@ -41,9 +54,7 @@ function(vantle_qml_module name)
     endif()
     # What Qt generates from the views shadows names and converts silently.
     target_compile_options(${name} PRIVATE -Wno-shadow -Wno-conversion)
-    # The generated registration includes the headers of the module by their bare names.
-    target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src"
-                                       PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src" PRIVATE ${folders})
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} Qt6::Quick)
     vantle_precompile(${name})
 endfunction()

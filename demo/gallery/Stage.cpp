@@ -1,6 +1,6 @@
 #include "gallery/Stage.h"
 
-#include "surfaces/kit/Motion.h"
+#include "surfaces/kit/tokens/Motion.h"
 
 #include <QEventLoop>
 #include <QQmlComponent>

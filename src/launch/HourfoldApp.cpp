@@ -14,7 +14,7 @@
 #include "review/drawing/PersonaArtwork.h"
 #include "sensing/AutoRules.h"
 #include "surfaces/alert/ModalPresenter.h"
-#include "surfaces/kit/Motion.h"
+#include "surfaces/kit/tokens/Motion.h"
 #include "surfaces/window/SharedEngine.h"
 #include "tracking/AppPaths.h"
 

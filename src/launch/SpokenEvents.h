@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Scheduler.h"
-#include "surfaces/kit/Announcer.h"
+#include "surfaces/kit/controls/Announcer.h"
 #include "tracking/TrackerCore.h"
 
 #include <QObject>

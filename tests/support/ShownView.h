@@ -2,7 +2,7 @@
 #pragma once
 
 #include "support/ShownItems.h"
-#include "surfaces/kit/Motion.h"
+#include "surfaces/kit/tokens/Motion.h"
 
 #include <QGuiApplication>
 #include <QImage>

@@ -1,7 +1,7 @@
 #include "review/drawing/PersonaGlyphPainter.h"
 
 #include "review/PersonaCard.h"
-#include "surfaces/kit/ColorMath.h"
+#include "surfaces/kit/tokens/ColorMath.h"
 
 #include <QFile>
 #include <QLinearGradient>

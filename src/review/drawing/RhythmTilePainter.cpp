@@ -1,6 +1,6 @@
 #include "review/drawing/RhythmTilePainter.h"
 
-#include "surfaces/kit/ColorMath.h"
+#include "surfaces/kit/tokens/ColorMath.h"
 
 #include <QPainter>
 #include <QTransform>

@@ -1,6 +1,6 @@
 #include "surfaces/capsule/CapsuleText.h"
 
-#include "surfaces/kit/Typeface.h"
+#include "surfaces/kit/text/Typeface.h"
 
 #include <QFont>
 

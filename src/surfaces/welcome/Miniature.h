@@ -1,7 +1,7 @@
 // A view as a picture, larger or smaller than the real thing.
 #pragma once
 
-#include "surfaces/kit/BakedItem.h"
+#include "surfaces/kit/painters/BakedItem.h"
 #include "surfaces/welcome/WelcomeSamples.h"
 
 #include <QImage>

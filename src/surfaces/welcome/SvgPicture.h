@@ -1,7 +1,7 @@
 // A picture in its own colours.
 #pragma once
 
-#include "surfaces/kit/BakedItem.h"
+#include "surfaces/kit/painters/BakedItem.h"
 
 #include <QUrl>
 

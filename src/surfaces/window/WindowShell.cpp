@@ -1,6 +1,6 @@
 #include "surfaces/window/WindowShell.h"
 
-#include "surfaces/kit/ApplicationIcon.h"
+#include "surfaces/kit/painters/ApplicationIcon.h"
 #include "surfaces/window/WindowKind.h"
 #include "surfaces/window/WindowPlacement.h"
 

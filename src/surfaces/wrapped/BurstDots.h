@@ -1,7 +1,7 @@
 // Dots that fly from a centre, once.
 #pragma once
 
-#include "surfaces/kit/BakedItem.h"
+#include "surfaces/kit/painters/BakedItem.h"
 
 #include <QColor>
 #include <QList>

@@ -1,6 +1,6 @@
 #include "surfaces/wrapped/DotRing.h"
 
-#include "surfaces/kit/GlassDotPainter.h"
+#include "surfaces/kit/painters/GlassDotPainter.h"
 
 #include <QPainter>
 

@@ -1,8 +1,8 @@
 // A ring of small glass dots around a figure.
 #pragma once
 
-#include "surfaces/kit/BakedItem.h"
-#include "surfaces/kit/GlassDotImages.h"
+#include "surfaces/kit/painters/BakedItem.h"
+#include "surfaces/kit/painters/GlassDotImages.h"
 
 #include <QColor>
 #include <QList>

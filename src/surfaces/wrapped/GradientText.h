@@ -1,7 +1,7 @@
 // A name in the colours of its gradient.
 #pragma once
 
-#include "surfaces/kit/BakedItem.h"
+#include "surfaces/kit/painters/BakedItem.h"
 
 #include <QColor>
 #include <QFont>

@@ -3,7 +3,7 @@
 
 #include "review/RhythmCard.h"
 #include "review/drawing/RhythmLayout.h"
-#include "surfaces/kit/BakedItem.h"
+#include "surfaces/kit/painters/BakedItem.h"
 
 #include <QFont>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "review/SharePoster.h"
-#include "surfaces/kit/BakedItem.h"
+#include "surfaces/kit/painters/BakedItem.h"
 
 namespace vantle {
 

@@ -5,7 +5,7 @@
 #include "support/SteppedAnimations.h"
 #include "support/Text.h"
 #include "surfaces/capsule/CapsuleWindow.h"
-#include "surfaces/kit/Motion.h"
+#include "surfaces/kit/tokens/Motion.h"
 
 #include <QImage>
 #include <QQmlEngine>

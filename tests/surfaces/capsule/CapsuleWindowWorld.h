@@ -7,7 +7,7 @@
 #include "support/ShownItems.h"
 #include "support/Text.h"
 #include "surfaces/capsule/CapsuleWindow.h"
-#include "surfaces/kit/Motion.h"
+#include "surfaces/kit/tokens/Motion.h"
 
 #include <QAccessible>
 #include <QCoreApplication>

@@ -6,7 +6,7 @@
 #include "support/Await.h"
 #include "surfaces/cards/CardWorld.h"
 #include "surfaces/cards/QuickCardStage.h"
-#include "surfaces/kit/Motion.h"
+#include "surfaces/kit/tokens/Motion.h"
 #include "surfaces/panel/FloatingPanel.h"
 
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 // The view over the real model: every step draws, and its controls and keys do what they say.
 #include "support/ShownItems.h"
-#include "surfaces/kit/Motion.h"
+#include "surfaces/kit/tokens/Motion.h"
 #include "surfaces/welcome/WelcomeWorld.h"
 
 #include <QAccessible>

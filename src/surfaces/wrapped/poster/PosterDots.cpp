@@ -1,6 +1,6 @@
 #include "surfaces/wrapped/poster/PosterDots.h"
 
-#include "surfaces/kit/GlassDotImages.h"
+#include "surfaces/kit/painters/GlassDotImages.h"
 
 #include <QPainter>
 

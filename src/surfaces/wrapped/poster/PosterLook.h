@@ -4,7 +4,7 @@
 // px of the poster, whatever the scale that it is drawn at.
 #pragma once
 
-#include "surfaces/kit/ColorMath.h"
+#include "surfaces/kit/tokens/ColorMath.h"
 
 #include <QColor>
 #include <QFont>

@@ -1,6 +1,6 @@
 #include "surfaces/wrapped/poster/PosterText.h"
 
-#include "surfaces/kit/Typeface.h"
+#include "surfaces/kit/text/Typeface.h"
 
 #include <QFontMetricsF>
 #include <QGlyphRun>

@@ -1,7 +1,7 @@
 // A picture of the review in a window of its own.
 #pragma once
 
-#include "surfaces/kit/Motion.h"
+#include "surfaces/kit/tokens/Motion.h"
 
 #include <QAccessible>
 #include <QCoreApplication>

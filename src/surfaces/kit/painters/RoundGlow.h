@@ -1,0 +1,39 @@
+// The soft light around a round control.
+#pragma once
+
+#include "surfaces/kit/painters/BakedItem.h"
+
+#include <QColor>
+
+namespace vantle {
+
+/// Takes the place of the control and glows around it, not below it. Main thread.
+class RoundGlow : public vantle::BakedItem {
+    Q_OBJECT
+    QML_ELEMENT
+    /// With the opacity that the glow would have below the control.
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY changed)
+    /// How far beyond the control it can be seen, in px.
+    Q_PROPERTY(double reach READ reach WRITE setReach NOTIFY changed)
+
+public:
+    explicit RoundGlow(QQuickItem* parent = nullptr) : BakedItem(parent) {}
+
+    [[nodiscard]] QColor color() const { return m_color; }
+    void setColor(const QColor& color);
+    [[nodiscard]] double reach() const { return m_reach; }
+    void setReach(double reach);
+
+Q_SIGNALS:
+    void changed();
+
+protected:
+    void paint(QPainter& painter, double scale) override;
+    [[nodiscard]] QMarginsF bleed() const override { return {m_reach, m_reach, m_reach, m_reach}; }
+
+private:
+    QColor m_color = Qt::transparent;
+    double m_reach = 0;
+};
+
+} // namespace vantle

@@ -1,0 +1,105 @@
+#include "surfaces/kit/painters/ShadowImage.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace vantle {
+namespace {
+
+// Beyond this many blurs the shadow is fainter than one step of a colour channel.
+constexpr double kReachOfBlur = 1.25;
+// Three boxes of this many blurs in a row come close to the bell curve whose deviation is half a
+// blur.
+constexpr double kBoxOfBlur = 0.94;
+constexpr int kBoxes = 3;
+
+/// The running mean along one line of `count` values, `stride` apart. `scratch` holds `count`.
+void boxBlur(uchar* line, int count, qsizetype stride, int reach, std::vector<uchar>& scratch) {
+    for (int i = 0; i < count; ++i)
+        scratch[i] = line[i * stride];
+    const int width = 2 * reach + 1;
+    int sum = 0;
+    for (int i = 0; i < std::min(reach, count); ++i)
+        sum += scratch[i];
+    for (int i = 0; i < count; ++i) {
+        if (i + reach < count) sum += scratch[i + reach];
+        line[i * stride] = static_cast<uchar>((sum + reach) / width);
+        if (i - reach >= 0) sum -= scratch[i - reach];
+    }
+}
+
+void blur(QImage& mask, double blurPixels) {
+    const int reach = std::max(1, static_cast<int>(std::round(blurPixels * kBoxOfBlur / 2)));
+    std::vector<uchar> scratch(std::max(mask.width(), mask.height()));
+    uchar* bits = mask.bits();
+    const qsizetype row = mask.bytesPerLine();
+    for (int pass = 0; pass < kBoxes; ++pass) {
+        for (int y = 0; y < mask.height(); ++y)
+            boxBlur(bits + y * row, mask.width(), 1, reach, scratch);
+        for (int x = 0; x < mask.width(); ++x)
+            boxBlur(bits + x, mask.height(), row, reach, scratch);
+    }
+}
+
+} // namespace
+
+QMarginsF ShadowShape::reach() const {
+    const double around = std::ceil(blur * kReachOfBlur);
+    return {around, std::max(0.0, around - offset), around, around + offset};
+}
+
+QMarginsF ShadowShape::patches() const {
+    const QMarginsF outside = reach();
+    const double around = outside.left() + radius;
+    const double sides = std::min(around, std::floor(size.width() / 2));
+    const double ends = std::min(around + std::abs(offset), std::floor(size.height() / 2));
+    return outside + QMarginsF(sides, ends, sides, ends);
+}
+
+ShadowShape ShadowShape::smallest() const {
+    const QMarginsF inside = patches() - reach();
+    ShadowShape shape = *this;
+    shape.size = QSizeF(std::min(size.width(), inside.left() + inside.right() + 1.0),
+                        std::min(size.height(), inside.top() + inside.bottom() + 1.0));
+    return shape;
+}
+
+QImage shadowImage(const ShadowShape& shape, double scale) {
+    const QMarginsF reach = shape.reach();
+    const QRectF surface(QPointF(reach.left(), reach.top()), shape.size);
+    const QSize pixels(
+        static_cast<int>(std::ceil((surface.width() + reach.left() + reach.right()) * scale)),
+        static_cast<int>(std::ceil((surface.height() + reach.top() + reach.bottom()) * scale)));
+
+    QImage mask(pixels, QImage::Format_Alpha8);
+    mask.fill(0);
+    QPainter maskPainter(&mask);
+    maskPainter.setRenderHint(QPainter::Antialiasing);
+    maskPainter.scale(scale, scale);
+    maskPainter.setPen(Qt::NoPen);
+    maskPainter.setBrush(Qt::black);
+    maskPainter.drawRoundedRect(surface.translated(0, shape.offset), shape.radius, shape.radius);
+    maskPainter.end();
+    blur(mask, shape.blur * scale);
+
+    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setOpacity(shape.strength);
+    painter.drawImage(0, 0, mask);
+    painter.setOpacity(1.0);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+    painter.scale(scale, scale);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    painter.drawRoundedRect(surface, shape.radius, shape.radius);
+    painter.end();
+    image.setDevicePixelRatio(scale);
+    return image;
+}
+
+} // namespace vantle

@@ -1,0 +1,48 @@
+// One layer of a surface's shadow. Views use DarkShadow, which knows the levels.
+#pragma once
+
+#include "surfaces/kit/painters/ShadowImage.h"
+
+#include <QQuickItem>
+
+namespace vantle {
+
+/// Takes the place of the surface and draws around it. Its image is as small as can be and is
+/// stretched, so that a surface that grows costs nothing here. Main thread.
+class ShadowLayer : public QQuickItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY changed)
+    Q_PROPERTY(double offset READ offset WRITE setOffset NOTIFY changed)
+    Q_PROPERTY(double blur READ blur WRITE setBlur NOTIFY changed)
+    Q_PROPERTY(double strength READ strength WRITE setStrength NOTIFY changed)
+
+public:
+    explicit ShadowLayer(QQuickItem* parent = nullptr);
+
+    [[nodiscard]] double radius() const { return m_shape.radius; }
+    void setRadius(double radius) { set(m_shape.radius, radius); }
+    [[nodiscard]] double offset() const { return m_shape.offset; }
+    void setOffset(double offset) { set(m_shape.offset, offset); }
+    [[nodiscard]] double blur() const { return m_shape.blur; }
+    void setBlur(double blur) { set(m_shape.blur, blur); }
+    [[nodiscard]] double strength() const { return m_shape.strength; }
+    void setStrength(double strength) { set(m_shape.strength, strength); }
+
+Q_SIGNALS:
+    void changed();
+
+protected:
+    QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
+    void geometryChange(const QRectF& now, const QRectF& before) override;
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
+
+private:
+    void set(double& member, double value);
+
+    ShadowShape m_shape;
+    ShadowShape m_baked; ///< what the node's image shows
+    double m_bakedScale = 0.0;
+};
+
+} // namespace vantle

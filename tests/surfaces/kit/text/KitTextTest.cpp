@@ -1,0 +1,33 @@
+#include "surfaces/kit/text/KitText.h"
+
+#include <gtest/gtest.h>
+
+namespace vantle {
+namespace {
+
+// A family of four, a flag, a letter with an accent of its own: one character each to the reader.
+const QString kFamily =
+    QStringLiteral("\U0001F468\u200D\U0001F469\u200D\U0001F467\u200D\U0001F466");
+const QString kFlag = QStringLiteral("\U0001F1F8\U0001F1EA");
+const QString kAccented = QStringLiteral("e\u0301");
+
+TEST(KitText, SaysWhichPageItIsAndWhatStandsOnIt) {
+    EXPECT_EQ(KitText::place(0, 9), QStringLiteral("Page 1 of 9"));
+    EXPECT_EQ(KitText::turnedTo(2, 9, QStringLiteral("%1 of 5")),
+              QStringLiteral("Page 3 of 9. %1 of 5"));
+}
+
+TEST(KitText, ALimitCountsWhatThePersonSees) {
+    const QString text = kFamily + kFlag + kAccented + QStringLiteral("x");
+    EXPECT_EQ(KitText::count(text), 4);
+    EXPECT_EQ(KitText::first(text, 4), text);
+    EXPECT_EQ(KitText::first(text, 3), kFamily + kFlag + kAccented);
+    EXPECT_EQ(KitText::first(text, 1), kFamily);
+}
+
+TEST(KitText, OfSixHundredCharactersFiveHundredStay) {
+    EXPECT_EQ(KitText::first(QString(600, QLatin1Char('a')), 500), QString(500, QLatin1Char('a')));
+}
+
+} // namespace
+} // namespace vantle
