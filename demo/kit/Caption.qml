@@ -4,5 +4,5 @@ import Vantle.Kit
 
 DarkText {
     role: DarkUI.small
-    color: DarkUI.t3
+    color: DarkUI.textTertiary
 }

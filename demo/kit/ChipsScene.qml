@@ -15,7 +15,7 @@ Rectangle {
         width: 920
         height: 132
         radius: DarkUI.radiusCard
-        color: DarkUI.capsule
+        color: DarkUI.capsuleGround
 
         DarkKicker {
             x: 28
@@ -92,7 +92,7 @@ Rectangle {
             y: 29
             text: "Use a short name you will recognize at a glance."
             role: DarkUI.small
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
         }
         DarkSectionLabel {
             x: DarkUI.space16
@@ -189,7 +189,7 @@ Rectangle {
             x: DarkUI.space20
             y: 50
             text: "Its shadow is two images that stretch."
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
         }
         DarkPrimaryButton {
             anchors.right: parent.right

@@ -9,7 +9,7 @@ Rectangle {
 
     implicitWidth: 1000
     implicitHeight: 550
-    color: DarkUI.base
+    color: DarkUI.windowGround
 
     Column {
         x: 48
@@ -198,7 +198,7 @@ Rectangle {
                         }
                         GlassBarTrack {
                             width: 120
-                            implicitHeight: DarkUI.barReview
+                            implicitHeight: DarkUI.barReviewHeight
                             GlassBarFill { color: DarkUI.barAllTime; fraction: 0.92 }
                         }
                     }

@@ -6,7 +6,7 @@ import Vantle.Kit
 Rectangle {
     implicitWidth: 1000
     implicitHeight: 470
-    color: DarkUI.base
+    color: DarkUI.windowGround
 
     DarkKicker {
         x: 56
@@ -39,7 +39,7 @@ Rectangle {
                 DarkText {
                     anchors.horizontalCenter: parent.horizontalCenter
                     text: kind.modelData
-                    color: DarkUI.t2
+                    color: DarkUI.textSecondary
                 }
             }
         }

@@ -7,7 +7,7 @@ import Vantle.DemoKit
 Rectangle {
     implicitWidth: 1000
     implicitHeight: 350
-    color: DarkUI.base
+    color: DarkUI.windowGround
 
     DarkKicker {
         x: 48
@@ -37,7 +37,7 @@ Rectangle {
                     width: 2 * DarkUI.iconSize
                     height: 2 * DarkUI.iconSize
                     name: cell.modelData
-                    color: DarkUI.t1
+                    color: DarkUI.textPrimary
                 }
                 Caption {
                     anchors.horizontalCenter: parent.horizontalCenter

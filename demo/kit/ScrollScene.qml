@@ -10,7 +10,7 @@ Rectangle {
 
     implicitWidth: 640
     implicitHeight: 360
-    color: DarkUI.base
+    color: DarkUI.windowGround
 
     DarkScrollView {
         x: DarkUI.space24

@@ -6,13 +6,13 @@ import Vantle.Kit
 Rectangle {
     implicitWidth: 1000
     implicitHeight: 570
-    color: DarkUI.base
+    color: DarkUI.windowGround
 
     component Step: Row {
         id: step
         required property TypeRole role
         required property string word
-        property color color: DarkUI.t1
+        property color color: DarkUI.textPrimary
         spacing: DarkUI.space16
 
         DarkText {
@@ -25,7 +25,7 @@ Rectangle {
             anchors.baseline: sampleWord.baseline
             text: step.role.size + " / " + step.role.line
             role: DarkUI.small
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
         }
     }
 
@@ -54,15 +54,19 @@ Rectangle {
             y: 40
             spacing: DarkUI.space14
 
-            Step { role: DarkUI.lead; word: "A lead that says what comes"; color: DarkUI.t2 }
+            Step {
+                role: DarkUI.lead
+                word: "A lead that says what comes"
+                color: DarkUI.textSecondary
+            }
             Step { role: DarkUI.note; word: "Webhook retries land in order" }
             Step { role: DarkUI.body; word: "Body" }
             Step { role: DarkUI.bodyMedium; word: "A row" }
             Step { role: DarkUI.bodyStrong; word: "A button" }
-            Step { role: DarkUI.caption; word: "Caption"; color: DarkUI.t2 }
-            Step { role: DarkUI.small; word: "Small"; color: DarkUI.t3 }
-            Step { role: DarkUI.kicker; word: "KICKER"; color: DarkUI.t3 }
-            Step { role: DarkUI.capsuleSkill; word: "Design"; color: DarkUI.capsuleName }
+            Step { role: DarkUI.caption; word: "Caption"; color: DarkUI.textSecondary }
+            Step { role: DarkUI.small; word: "Small"; color: DarkUI.textTertiary }
+            Step { role: DarkUI.kicker; word: "KICKER"; color: DarkUI.textTertiary }
+            Step { role: DarkUI.capsuleSkill; word: "Design"; color: DarkUI.textCapsuleName }
 
             DarkDivider {
                 width: 340
@@ -87,7 +91,7 @@ Rectangle {
                     TabularText {
                         required property string modelData
                         text: modelData
-                        color: DarkUI.t2
+                        color: DarkUI.textSecondary
                     }
                 }
             }

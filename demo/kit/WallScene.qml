@@ -12,7 +12,7 @@ Rectangle {
 
     implicitWidth: 1000
     implicitHeight: 420
-    color: DarkUI.base
+    color: DarkUI.windowGround
 
     function colorOf(hour: int): color {
         return palette[Math.floor(hour / 9 + hour * hour / 57) % palette.length];

@@ -9,7 +9,7 @@ import Vantle.Wrapped
 Rectangle {
     implicitWidth: 1000
     implicitHeight: 890
-    color: DarkUI.base
+    color: DarkUI.windowGround
 
     PersonaSamples {
         id: samples

@@ -36,7 +36,7 @@ FocusScope {
         DarkText {
             width: parent.width
             text: view.model.informativeText
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
             wrapMode: Text.Wrap
         }
     }

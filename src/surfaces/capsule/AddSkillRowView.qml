@@ -25,7 +25,7 @@ KitPressable {
         width: CapsuleTokens.addSquare
         height: CapsuleTokens.addSquare
         radius: DarkUI.radiusSegment
-        color: row.pressed ? DarkUI.segment
+        color: row.pressed ? DarkUI.segmentFill
              : row.hovered ? DarkUI.switchTrack : CapsuleTokens.addSquareFill
 
         Behavior on color {
@@ -37,10 +37,10 @@ KitPressable {
 
         KitIcon {
             anchors.centerIn: parent
-            width: DarkUI.space12
-            height: DarkUI.space12
+            width: DarkUI.iconSmall
+            height: DarkUI.iconSmall
             name: "plus"
-            color: DarkUI.t1
+            color: DarkUI.textPrimary
         }
 
         FocusRing {
@@ -55,7 +55,7 @@ KitPressable {
         anchors.verticalCenter: square.verticalCenter
         text: row.name
         role: DarkUI.captionMedium
-        color: row.hovered ? DarkUI.t1 : CapsuleTokens.addName
+        color: row.hovered ? DarkUI.textPrimary : CapsuleTokens.addName
         Accessible.ignored: true
     }
 }

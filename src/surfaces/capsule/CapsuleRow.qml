@@ -16,8 +16,8 @@ Item {
         id: dot
         x: CapsuleTokens.inset
         y: CapsuleTokens.dotTop
-        width: DarkUI.chipDot
-        height: DarkUI.chipDot
+        width: DarkUI.chipDotSize
+        height: DarkUI.chipDotSize
         antialiasing: true
         color: row.tint
         opacity: row.capsule.paused ? CapsuleTokens.pausedDot : 1
@@ -80,7 +80,7 @@ Item {
         y: CapsuleTokens.skillLineTop
         text: row.capsule.skillLine
         role: DarkUI.capsuleSkill
-        color: DarkUI.capsuleName
+        color: DarkUI.textCapsuleName
     }
 
     TabularText {
@@ -88,7 +88,7 @@ Item {
         y: CapsuleTokens.clockTop
         text: row.capsule.clock
         role: DarkUI.capsuleClock
-        color: DarkUI.t1
+        color: DarkUI.textPrimary
     }
 
     RoundGlow {
@@ -111,7 +111,7 @@ Item {
         Plate {
             anchors.fill: parent
             radius: width / 2
-            color: button.pressed ? DarkUI.segment : CapsuleTokens.roundChipFill
+            color: button.pressed ? DarkUI.segmentFill : CapsuleTokens.roundChipFill
             edge: row.capsule.idlePrompt ? Tint.alpha(row.tint, CapsuleTokens.ringOpacity)
                                          : DarkUI.clear
         }
@@ -130,7 +130,7 @@ Item {
             visible: !row.capsule.idlePrompt
             width: CapsuleTokens.stopGlyph
             height: CapsuleTokens.stopGlyph
-            radius: DarkUI.space2
+            radius: DarkUI.radiusTiny
             color: CapsuleTokens.glyph
         }
 

@@ -46,7 +46,7 @@ GlassBackground {
         anchors.centerIn: parent
         text: tip.capsule.toolTip
         role: DarkUI.small
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
         Accessible.ignored: true
     }
 }

@@ -96,13 +96,13 @@ Item {
             width: parent.width
             height: parent.height + view.radius
             radius: view.radius
-            color: Qt.tint(DarkUI.capsule, DarkUI.capsuleEdge)
+            color: Qt.tint(DarkUI.capsuleGround, DarkUI.capsuleEdge)
 
             Rectangle {
                 width: parent.width
                 height: parent.height - DarkUI.hairlineWidth
                 radius: view.radius
-                color: DarkUI.capsule
+                color: DarkUI.capsuleGround
             }
         }
 

@@ -16,9 +16,9 @@ KitPressable {
         id: ground
         anchors.fill: parent
         radius: DarkUI.radiusSmall
-        color: Tint.alpha(DarkUI.accent, !button.enabled ? DarkUI.popoverCommitDisabled
-                                       : button.pressed ? DarkUI.popoverCommitPressed
-                                                        : DarkUI.popoverCommit)
+        color: Tint.alpha(DarkUI.accent, !button.enabled ? DarkUI.popoverCommitDisabledOpacity
+                                       : button.pressed ? DarkUI.popoverCommitPressedOpacity
+                                                        : DarkUI.popoverCommitOpacity)
     }
 
     DarkText {
@@ -26,7 +26,7 @@ KitPressable {
         anchors.centerIn: parent
         text: button.text
         role: DarkUI.bodyStrong
-        color: button.enabled ? DarkUI.t1 : DarkUI.t4
+        color: button.enabled ? DarkUI.textPrimary : DarkUI.textDisabled
         Accessible.ignored: true
     }
 

@@ -36,7 +36,7 @@ DarkPopover {
         anchors.fill: parent
         z: -1
         radius: popover.composited ? DarkUI.radiusWindow : 0
-        color: DarkUI.base
+        color: DarkUI.windowGround
     }
 
     DarkText {
@@ -52,7 +52,7 @@ DarkPopover {
         y: popover.subtitleTop
         text: popover.editor.subtitle
         role: DarkUI.small
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
     }
 
     DarkKicker {

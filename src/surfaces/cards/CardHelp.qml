@@ -11,7 +11,7 @@ DarkText {
     onHelpChanged: if (help !== "") kept = help
     text: kept
     role: DarkUI.small
-    color: DarkUI.t3
+    color: DarkUI.textTertiary
     wrapMode: Text.Wrap
     maximumLineCount: 2
     elide: Text.ElideRight

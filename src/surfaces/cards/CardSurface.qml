@@ -42,7 +42,7 @@ FocusScope {
         width: surface.groundWidth
         height: surface.groundHeight
         radius: surface.composited ? surface.radius : 0
-        color: surface.composited ? DarkUI.floating : DarkUI.base
+        color: surface.composited ? DarkUI.floatingGround : DarkUI.windowGround
         shadow: surface.shadow
         shadowed: surface.composited
         opacity: shown

@@ -9,7 +9,7 @@ Item {
 
     property real radius: DarkUI.radiusButton
     property real phase: Motion.reduced ? 1 : 0 // 0 dark, 1 bright
-    readonly property int ringWidth: DarkUI.space2
+    readonly property int ringWidth: DarkUI.focusWidth
 
     z: -1
 

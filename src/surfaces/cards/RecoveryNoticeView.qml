@@ -33,9 +33,9 @@ CardSurface {
 
         DarkText {
             width: parent.width
-            text: view.model.styledBody(DarkUI.t1)
+            text: view.model.styledBody(DarkUI.textPrimary)
             textFormat: Text.StyledText
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
             wrapMode: Text.Wrap
             Accessible.name: view.model.body
         }

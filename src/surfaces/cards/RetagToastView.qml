@@ -30,15 +30,15 @@ CardSurface {
 
         Rectangle {
             anchors.verticalCenter: parent.verticalCenter
-            width: DarkUI.swatch
-            height: DarkUI.swatch
-            radius: DarkUI.swatch / 2
+            width: DarkUI.swatchSize
+            height: DarkUI.swatchSize
+            radius: DarkUI.swatchSize / 2
             color: Tint.alpha(view.model.skillColor, 0.22)
 
             KitIcon {
                 anchors.centerIn: parent
-                width: DarkUI.space10
-                height: DarkUI.space10
+                width: DarkUI.iconTiny
+                height: DarkUI.iconTiny
                 name: "check"
                 color: view.model.skillColor
             }

@@ -15,15 +15,15 @@ Row {
 
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter
-        width: DarkUI.chipDot
-        height: DarkUI.chipDot
-        radius: DarkUI.chipDot / 2
+        width: DarkUI.chipDotSize
+        height: DarkUI.chipDotSize
+        radius: DarkUI.chipDotSize / 2
         color: label.skillColor
     }
 
     DarkText {
         text: label.skillName
         role: label.role
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
     }
 }

@@ -56,7 +56,7 @@ CardSurface {
                     required property int index
                     text: modelData
                     role: figure
-                    color: index % 2 === 0 ? DarkUI.t1 : DarkUI.t3
+                    color: index % 2 === 0 ? DarkUI.textPrimary : DarkUI.textTertiary
                     Accessible.ignored: true
                 }
             }
@@ -114,7 +114,7 @@ CardSurface {
 
             Item {
                 visible: view.model.sliceFraction > 0
-                width: DarkUI.radiusTile
+                width: DarkUI.summaryDotSize
                 height: result.height
 
                 PartialDot {
@@ -129,7 +129,7 @@ CardSurface {
                 id: result
                 text: view.model.resultText
                 role: view.model.dotCount > 0 ? DarkUI.bodyMedium : DarkUI.body
-                color: view.model.dotCount > 0 ? DarkUI.t1 : DarkUI.t2
+                color: view.model.dotCount > 0 ? DarkUI.textPrimary : DarkUI.textSecondary
             }
         }
 
@@ -144,7 +144,7 @@ CardSurface {
             width: parent.width
             text: view.model.invitationText
             role: DarkUI.caption
-            color: DarkUI.t1
+            color: DarkUI.textPrimary
             wrapMode: Text.Wrap
         }
     }
@@ -180,10 +180,10 @@ CardSurface {
         KitIcon {
             id: lockIcon
             anchors.verticalCenter: parent.verticalCenter
-            width: DarkUI.space12
-            height: DarkUI.space12
+            width: DarkUI.iconSmall
+            height: DarkUI.iconSmall
             name: "lock"
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
         }
 
         DarkText {
@@ -191,14 +191,14 @@ CardSurface {
             x: lockIcon.width + DarkUI.space4
             text: view.model.lockText
             role: DarkUI.small
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
         }
 
         TabularText {
             anchors.right: parent.right
             text: view.model.counterText
             role: DarkUI.small
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
         }
     }
 
@@ -216,7 +216,7 @@ CardSurface {
             anchors.verticalCenter: parent.verticalCenter
             text: view.model.hintText
             role: DarkUI.small
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
             wrapMode: Text.Wrap
         }
 

@@ -34,7 +34,7 @@ CardSurface {
         DarkText {
             width: parent.width
             text: view.model.subtitle
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
             wrapMode: Text.Wrap
         }
     }

@@ -50,7 +50,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             text: qsTr("Started earlier?")
             role: DarkUI.caption
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
             Accessible.description: qsTr("Credit time back, only if this Mac was really active.")
         }
 
@@ -88,7 +88,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             text: qsTr("min")
             role: DarkUI.caption
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
             Accessible.ignored: true
         }
     }

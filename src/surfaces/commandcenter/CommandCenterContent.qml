@@ -71,7 +71,7 @@ FocusScope {
                 width: parent.width - keycap.width - DarkUI.space12
                 text: content.model.subtitle
                 role: DarkUI.caption
-                color: DarkUI.t2
+                color: DarkUI.textSecondary
                 elide: Text.ElideRight
             }
             Keycap {
@@ -132,7 +132,7 @@ FocusScope {
             topPadding: DarkUI.space10
             text: content.model.note
             role: DarkUI.caption
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
             wrapMode: Text.Wrap
             maximumLineCount: 3
             elide: Text.ElideRight
@@ -156,7 +156,7 @@ FocusScope {
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Switch anytime")
                 role: DarkUI.small
-                color: DarkUI.t3
+                color: DarkUI.textTertiary
             }
         }
 
@@ -248,7 +248,7 @@ FocusScope {
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Your focus history stays private on this Mac")
                 role: DarkUI.small
-                color: DarkUI.t3
+                color: DarkUI.textTertiary
                 elide: Text.ElideRight
             }
             DarkText {
@@ -257,7 +257,7 @@ FocusScope {
                 anchors.verticalCenter: parent.verticalCenter
                 text: "⌘Q"
                 role: DarkUI.small
-                color: DarkUI.t3
+                color: DarkUI.textTertiary
                 Accessible.ignored: true
             }
             DarkTextButton {

@@ -40,7 +40,7 @@ FocusScope {
         width: view.groundRect.width
         height: view.groundRect.height
         radius: view.composited ? DarkUI.radiusFloating : 0
-        color: view.composited ? DarkUI.floating : DarkUI.base
+        color: view.composited ? DarkUI.floatingGround : DarkUI.windowGround
         shadowed: view.composited
         opacity: shown
 

@@ -12,7 +12,7 @@ Plate {
 
     implicitHeight: column.implicitHeight + 2 * DarkUI.space14
     radius: DarkUI.radiusCard
-    color: DarkUI.card
+    color: DarkUI.cardFill
     edge: DarkUI.hairline
 
     Accessible.role: Accessible.Grouping
@@ -37,7 +37,7 @@ Plate {
                 width: parent.width
                 text: card.editor.help
                 role: DarkUI.caption
-                color: DarkUI.t2
+                color: DarkUI.textSecondary
                 wrapMode: Text.Wrap
             }
         }
@@ -54,13 +54,13 @@ Plate {
                     id: label
                     text: card.editor.fieldLabel
                     role: DarkUI.small
-                    color: DarkUI.t2
+                    color: DarkUI.textSecondary
                 }
                 DarkText {
                     anchors.right: parent.right
                     text: card.editor.counter
                     role: DarkUI.small
-                    color: DarkUI.t3
+                    color: DarkUI.textTertiary
                 }
             }
 

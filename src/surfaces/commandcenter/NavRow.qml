@@ -42,7 +42,7 @@ KitPressable {
         anchors.verticalCenter: parent.verticalCenter
         text: row.shortcut
         role: DarkUI.caption
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         Accessible.ignored: true
     }
 

@@ -23,8 +23,8 @@ KitPressable {
         id: sign
         x: DarkUI.space8
         anchors.verticalCenter: parent.verticalCenter
-        width: DarkUI.space12
-        height: DarkUI.space12
+        width: DarkUI.iconSmall
+        height: DarkUI.iconSmall
         name: "plus"
         color: label.color
     }
@@ -36,7 +36,8 @@ KitPressable {
         anchors.verticalCenter: parent.verticalCenter
         text: chip.name
         role: DarkUI.captionMedium
-        color: chip.hovered || chip.active || chip.ringed ? DarkUI.t1 : DarkUI.t2
+        color: chip.hovered || chip.active || chip.ringed ? DarkUI.textPrimary
+               : DarkUI.textSecondary
         Accessible.ignored: true
     }
 

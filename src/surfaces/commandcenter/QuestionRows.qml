@@ -32,7 +32,7 @@ Column {
                 width: parent.width
                 text: row.modelData
                 role: DarkUI.caption
-                color: DarkUI.t2
+                color: DarkUI.textSecondary
                 wrapMode: Text.Wrap
             }
 

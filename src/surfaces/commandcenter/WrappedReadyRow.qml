@@ -16,9 +16,10 @@ KitPressable {
         width: parent.width
         height: DarkUI.navRowHeight
         radius: DarkUI.radiusBanner
-        color: Tint.alpha(DarkUI.accent, row.pressed ? DarkUI.tintFillPressed
-                                       : row.hovered ? DarkUI.tintFillHover : DarkUI.wrappedFill)
-        edge: Tint.alpha(DarkUI.accent, DarkUI.wrappedEdge)
+        color: Tint.alpha(DarkUI.accent, row.pressed ? DarkUI.tintFillPressedOpacity
+                                       : row.hovered ? DarkUI.tintFillHoverOpacity
+                                       : DarkUI.wrappedFillOpacity)
+        edge: Tint.alpha(DarkUI.accent, DarkUI.wrappedEdgeOpacity)
 
         DarkText {
             anchors.left: parent.left

@@ -29,7 +29,7 @@ DarkCard {
         width: Math.min(implicitWidth, card.innerWidth - title.width - DarkUI.space12)
         text: card.detail
         role: DarkUI.caption
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         // Years of work make a long line; only then is it set smaller.
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: DarkUI.small.size

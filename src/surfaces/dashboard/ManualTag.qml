@@ -11,7 +11,7 @@ Item {
 
     Plate {
         anchors.fill: parent
-        radius: DarkUI.space4
+        radius: DarkUI.radiusTag
         color: DarkUI.clear
         edge: DarkUI.keycapEdge
     }
@@ -21,7 +21,7 @@ Item {
         anchors.centerIn: parent
         text: qsTr("manual")
         role: DarkUI.small
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         Accessible.ignored: true
     }
 

@@ -29,7 +29,7 @@ DashboardCard {
             visible: card.model.hasShortcut
             text: qsTr("⌥⌘B works from anywhere")
             role: DarkUI.caption
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
         }
     }
 

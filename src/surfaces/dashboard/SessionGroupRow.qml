@@ -18,7 +18,7 @@ Item {
         width: 96 - DarkUI.space4
         text: row.line.date
         role: DarkUI.caption
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         elide: Text.ElideRight
         Accessible.ignored: true
     }
@@ -26,8 +26,8 @@ Item {
     FlatDot {
         x: 96
         anchors.verticalCenter: parent.verticalCenter
-        width: DarkUI.chipDot
-        height: DarkUI.chipDot
+        width: DarkUI.chipDotSize
+        height: DarkUI.chipDotSize
         color: row.line.color
     }
 
@@ -57,7 +57,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         text: row.line.duration
         role: DarkUI.caption
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
         Accessible.ignored: true
     }
 }

@@ -26,7 +26,7 @@ Item {
         x: row.nameWidth
         anchors.verticalCenter: parent.verticalCenter
         width: row.width - x - 84 - DarkUI.space8 + DarkUI.space10
-        implicitHeight: DarkUI.barTable
+        implicitHeight: DarkUI.barTableHeight
 
         GlassBarFill {
             color: row.line.color
@@ -40,7 +40,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         text: row.line.hours
         role: DarkUI.caption
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
         Accessible.ignored: true
     }
 
@@ -49,7 +49,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         text: row.line.share
         role: DarkUI.caption
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         Accessible.ignored: true
     }
 }

@@ -19,7 +19,7 @@ DashboardCard {
         visible: card.model.skillTotals.length === 0
         text: qsTr("Your active skills will appear after the first session.")
         role: DarkUI.caption
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         wrapMode: Text.Wrap
     }
 

@@ -27,7 +27,7 @@ DarkCard {
         width: block.inner
         text: block.stat.title
         role: DarkUI.captionMedium
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
         elide: Text.ElideRight
         Accessible.ignored: true
     }
@@ -53,7 +53,7 @@ DarkCard {
         visible: block.hasValue
         text: block.stat.unit
         role: DarkUI.statUnit
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         Accessible.ignored: true
     }
 
@@ -65,7 +65,7 @@ DarkCard {
         visible: block.hasValue
         text: block.stat.context
         role: DarkUI.small
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         wrapMode: Text.Wrap
         Accessible.ignored: true
     }
@@ -91,7 +91,7 @@ DarkCard {
         visible: !block.hasValue
         text: block.stat.invitation
         role: DarkUI.caption
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         wrapMode: Text.Wrap
         Accessible.ignored: true
     }

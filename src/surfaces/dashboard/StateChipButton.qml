@@ -25,23 +25,23 @@ KitPressable {
     Plate {
         anchors.fill: parent
         radius: DarkUI.radiusButton
-        color: Tint.alpha(chip.model.chipColor, chip.pressed ? DarkUI.tintFillPressed
-                                              : chip.hovered ? DarkUI.tintFillHover
-                                                             : DarkUI.tintFill)
+        color: Tint.alpha(chip.model.chipColor, chip.pressed ? DarkUI.tintFillPressedOpacity
+                                              : chip.hovered ? DarkUI.tintFillHoverOpacity
+                                                             : DarkUI.tintFillOpacity)
         edge: Tint.alpha(chip.model.chipColor, 0.70)
     }
 
     FlatDot {
         x: DarkUI.space12
         anchors.verticalCenter: parent.verticalCenter
-        width: DarkUI.chipDot
-        height: DarkUI.chipDot
+        width: DarkUI.chipDotSize
+        height: DarkUI.chipDotSize
         color: chip.model.chipColor
         opacity: chip.model.isPaused ? 0.4 : 1
     }
 
     component Words: DarkText {
-        x: DarkUI.space12 + DarkUI.chipDot + DarkUI.space8
+        x: DarkUI.space12 + DarkUI.chipDotSize + DarkUI.space8
         anchors.verticalCenter: parent.verticalCenter
         role: DarkUI.bodyMedium
         Accessible.ignored: true

@@ -10,8 +10,8 @@ Plate {
 
     implicitHeight: Math.max(DarkUI.navRowHeight, message.height + 2 * DarkUI.space4)
     radius: DarkUI.radiusBanner
-    color: Tint.alpha(DarkUI.warning, DarkUI.bannerFill)
-    edge: Tint.alpha(DarkUI.warning, DarkUI.bannerEdge)
+    color: Tint.alpha(DarkUI.warning, DarkUI.bannerFillOpacity)
+    edge: Tint.alpha(DarkUI.warning, DarkUI.bannerEdgeOpacity)
 
     Announcer {
         text: banner.text

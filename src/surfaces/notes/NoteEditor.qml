@@ -40,6 +40,6 @@ Column {
         x: DarkUI.space12
         text: qsTr("Return saves. Esc cancels.")
         role: DarkUI.small
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
     }
 }

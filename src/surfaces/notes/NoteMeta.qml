@@ -15,15 +15,15 @@ Row {
 
     component Word: DarkText {
         role: DarkUI.caption
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
         Accessible.ignored: true
     }
 
     FlatDot {
         id: dot
         anchors.verticalCenter: parent.verticalCenter
-        width: DarkUI.chipDot
-        height: DarkUI.chipDot
+        width: DarkUI.chipDotSize
+        height: DarkUI.chipDotSize
         color: meta.skillColor
     }
 
@@ -40,7 +40,7 @@ Row {
     Word {
         id: divider
         text: "·"
-        color: DarkUI.t4
+        color: DarkUI.textDisabled
     }
 
     Word {
@@ -55,11 +55,11 @@ Row {
 
         Word {
             text: "·"
-            color: DarkUI.t4
+            color: DarkUI.textDisabled
         }
         Word {
             text: qsTr("Manual")
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
         }
     }
 }

@@ -106,7 +106,7 @@ KitControl {
         y: content.y + (row.editing ? DarkUI.space6 : 0)
         text: row.timeText
         role: DarkUI.body
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         Accessible.ignored: true
     }
 
@@ -120,7 +120,7 @@ KitControl {
         DarkText {
             visible: !row.editing
             // The room of the two buttons stays free, so that no line moves under the pointer.
-            width: parent.width - 2 * DarkUI.iconButton - DarkUI.space12
+            width: parent.width - 2 * DarkUI.iconButtonSize - DarkUI.space12
             text: row.note
             horizontalAlignment: undefined // that of its script
             role: DarkUI.note
@@ -168,6 +168,6 @@ KitControl {
         visible: row.copied
         text: qsTr("Copied")
         role: DarkUI.caption
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
     }
 }

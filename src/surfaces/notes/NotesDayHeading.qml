@@ -17,7 +17,7 @@ Item {
         y: DarkUI.space14
         text: heading.section
         role: DarkUI.captionStrong
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
         // The list makes it after the row below it and would have it read out in that order. The
         // row names the day instead.
         Accessible.ignored: true

@@ -37,7 +37,7 @@ Item {
             horizontalAlignment: Text.AlignHCenter
             text: qsTr("When you stop a session, jot one line about what you did.\n"
                        + "They collect here, newest first.")
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
         }
     }
 }

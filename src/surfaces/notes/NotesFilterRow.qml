@@ -16,7 +16,7 @@ Item {
     // The chip with the focus comes into sight.
     function bringIntoSight(chip: Item): void {
         const left = chip.mapToItem(chips, 0, 0).x;
-        const room = area.width - DarkUI.edgeFade;
+        const room = area.width - DarkUI.edgeFadeLength;
         if (left < area.contentX)
             area.contentX = left;
         else if (left + chip.width > area.contentX + room)
@@ -50,7 +50,7 @@ Item {
                 DarkChip {
                     text: qsTr("All")
                     choosable: true
-                    selectedTint: row.model.showsAll ? DarkUI.t3 : DarkUI.clear
+                    selectedTint: row.model.showsAll ? DarkUI.textTertiary : DarkUI.clear
                     onClicked: row.model.showAll()
                     onActiveFocusChanged: if (activeFocus) row.bringIntoSight(this)
                 }
@@ -87,7 +87,7 @@ Item {
 
     EdgeFade {
         anchors.left: area.left
-        width: DarkUI.edgeFade
+        width: DarkUI.edgeFadeLength
         height: parent.height
         edge: Qt.LeftEdge
         visible: !area.atXBeginning

@@ -30,7 +30,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         text: footer.failure !== "" ? footer.failure : footer.text
         role: DarkUI.caption
-        color: footer.failure !== "" ? DarkUI.dangerText : DarkUI.t3
+        color: footer.failure !== "" ? DarkUI.dangerText : DarkUI.textTertiary
         wrapMode: Text.Wrap
         Accessible.role: footer.failure !== "" ? Accessible.AlertMessage : Accessible.StaticText
     }

@@ -36,7 +36,7 @@ FocusScope {
         width: header.stacked ? header.width - 2 * x : title.width
         text: header.model.subtitleText
         role: DarkUI.caption
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
         elide: Text.ElideRight
     }
 

@@ -17,7 +17,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTr("Nothing matches that yet.")
             role: DarkUI.lead
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
         }
 
         DarkSecondaryButton {

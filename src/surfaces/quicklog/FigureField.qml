@@ -27,7 +27,7 @@ DarkTextField {
         anchors.verticalCenter: parent.verticalCenter
         text: field.unit
         role: DarkUI.caption
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         Accessible.ignored: true
     }
 }

@@ -4,5 +4,5 @@ import Vantle.Kit
 
 DarkText {
     role: DarkUI.captionMedium
-    color: DarkUI.t2
+    color: DarkUI.textSecondary
 }

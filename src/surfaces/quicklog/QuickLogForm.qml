@@ -34,7 +34,7 @@ FocusScope {
             text: qsTr("For work the clock didn’t see. "
                        + "It joins your totals and is marked as manual.")
             role: DarkUI.caption
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
             wrapMode: Text.Wrap
         }
 
@@ -69,7 +69,7 @@ FocusScope {
                 y: lengthLabel.topPadding
                 text: qsTr("1 min to 16 h")
                 role: DarkUI.caption
-                color: DarkUI.t3
+                color: DarkUI.textTertiary
             }
         }
 
@@ -145,7 +145,7 @@ FocusScope {
             topPadding: DarkUI.space8
             text: qsTr("Optional. Helps you remember what moved forward.")
             role: DarkUI.small
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
             Accessible.ignored: true
         }
 
@@ -156,8 +156,8 @@ FocusScope {
 
             KitIcon {
                 y: DarkUI.space16 + (DarkUI.captionMedium.line - height) / 2
-                width: DarkUI.space14
-                height: DarkUI.space14
+                width: DarkUI.iconMedium
+                height: DarkUI.iconMedium
                 name: "warning"
                 color: DarkUI.dangerText
             }

@@ -9,14 +9,14 @@ DarkMenuPicker {
     required property color skillColor
 
     implicitHeight: DarkUI.formFieldHeight
-    textLeft: DarkUI.fieldPadding + DarkUI.chipDot + DarkUI.space10
+    textLeft: DarkUI.fieldPadding + DarkUI.chipDotSize + DarkUI.space10
     role: DarkUI.body
 
     FlatDot {
         x: DarkUI.fieldPadding
         anchors.verticalCenter: parent.verticalCenter
-        width: DarkUI.chipDot
-        height: DarkUI.chipDot
+        width: DarkUI.chipDotSize
+        height: DarkUI.chipDotSize
         color: picker.skillColor
     }
 }

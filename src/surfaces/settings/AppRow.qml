@@ -36,8 +36,8 @@ Item {
         anchors.leftMargin: DarkUI.space10
         anchors.verticalCenter: parent.verticalCenter
         visible: row.isAutomatic
-        width: DarkUI.space14
-        height: DarkUI.space14
+        width: DarkUI.iconMedium
+        height: DarkUI.iconMedium
         name: "sparkles"
         color: DarkUI.accentText
 

@@ -9,14 +9,14 @@ DarkMenuPicker {
     property bool isSkill: false
     property color skillColor: DarkUI.clear
 
-    textLeft: isSkill ? DarkUI.space10 + DarkUI.chipDot + DarkUI.space8 : DarkUI.space10
+    textLeft: isSkill ? DarkUI.space10 + DarkUI.chipDotSize + DarkUI.space8 : DarkUI.space10
 
     FlatDot {
         x: DarkUI.space10
         anchors.verticalCenter: parent.verticalCenter
         visible: picker.isSkill
-        width: DarkUI.chipDot
-        height: DarkUI.chipDot
+        width: DarkUI.chipDotSize
+        height: DarkUI.chipDotSize
         color: picker.skillColor
     }
 }

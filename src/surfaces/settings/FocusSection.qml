@@ -125,7 +125,7 @@ SettingsSection {
                     anchors.verticalCenter: open.verticalCenter
                     width: parent.width - open.width - DarkUI.space20
                     text: qsTr("No Shortcuts found yet. Make one, then flip this off and on.")
-                    color: DarkUI.t2
+                    color: DarkUI.textSecondary
                 }
 
                 DarkSecondaryButton {

@@ -16,13 +16,13 @@ Column {
     SettingsCaption {
         width: parent.width
         text: advice.model.gaps.hotKeyAdvice
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
     }
 
     SettingsCaption {
         width: parent.width
         text: advice.model.gaps.command
-        color: DarkUI.t1
+        color: DarkUI.textPrimary
         wrapMode: Text.Wrap
     }
 

@@ -14,8 +14,8 @@ Row {
     KitIcon {
         anchors.verticalCenter: parent.verticalCenter
         visible: status.model.isHotKeyActive
-        width: DarkUI.space14
-        height: DarkUI.space14
+        width: DarkUI.iconMedium
+        height: DarkUI.iconMedium
         name: "check-circle"
         color: DarkUI.good
     }
@@ -25,7 +25,7 @@ Row {
         anchors.verticalCenter: parent.verticalCenter
         text: status.model.hotKeyText
         role: DarkUI.captionMedium
-        color: status.model.isHotKeyActive ? DarkUI.t1 : DarkUI.dangerText
+        color: status.model.isHotKeyActive ? DarkUI.textPrimary : DarkUI.dangerText
         Accessible.description: status.model.hotKeyFailure
 
         HoverHandler {

@@ -10,7 +10,7 @@ Plate {
 
     implicitHeight: column.height
     radius: DarkUI.radiusCard
-    color: DarkUI.card
+    color: DarkUI.cardFill
     edge: DarkUI.hairline
 
     Column {

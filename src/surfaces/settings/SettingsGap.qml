@@ -5,5 +5,5 @@ import Vantle.Kit
 SettingsCaption {
     visible: text !== ""
     topPadding: role.leading + DarkUI.space6
-    color: DarkUI.t2
+    color: DarkUI.textSecondary
 }

@@ -63,7 +63,7 @@ FocusScope {
                 topPadding: role.leading + DarkUI.space24
                 text: page.model.versionLine
                 role: DarkUI.small
-                color: DarkUI.t3
+                color: DarkUI.textTertiary
             }
         }
     }

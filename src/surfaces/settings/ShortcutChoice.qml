@@ -18,7 +18,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         text: line.title
         role: DarkUI.body
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
         Accessible.ignored: true // the menu says it
     }
 

@@ -14,10 +14,10 @@ KitPressable {
     KitIcon {
         x: DarkUI.space14
         anchors.verticalCenter: parent.verticalCenter
-        width: DarkUI.space12
-        height: DarkUI.space12
+        width: DarkUI.iconSmall
+        height: DarkUI.iconSmall
         name: "plus"
-        color: DarkUI.icon
+        color: DarkUI.iconPrimary
     }
 
     DarkText {
@@ -26,7 +26,8 @@ KitPressable {
         anchors.verticalCenter: parent.verticalCenter
         text: button.name
         role: DarkUI.bodyMedium
-        color: button.hovered || button.pressed || button.ringed ? DarkUI.t1 : DarkUI.t2
+        color: button.hovered || button.pressed || button.ringed ? DarkUI.textPrimary
+               : DarkUI.textSecondary
         Accessible.ignored: true
     }
 

@@ -21,7 +21,7 @@ Item {
         DarkText {
             text: qsTr("Your apps file themselves, by name only:")
             role: DarkUI.caption
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
         }
 
         SampleFrame {

@@ -50,7 +50,7 @@ Item {
             visible: text !== ""
             text: key.word
             role: DarkUI.caption
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
             Accessible.ignored: true
         }
     }

@@ -30,7 +30,7 @@ FocusScope {
                 id: label
                 text: qsTr("Category")
                 role: DarkUI.captionMedium
-                color: DarkUI.t2
+                color: DarkUI.textSecondary
                 Accessible.ignored: true // the field has it for its name
             }
 

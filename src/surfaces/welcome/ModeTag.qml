@@ -18,7 +18,7 @@ Plate {
     }
 
     radius: DarkUI.radiusTile
-    color: DarkUI.card
+    color: DarkUI.cardFill
     edge: DarkUI.hairline
     Accessible.role: Accessible.ListItem
     Accessible.name: name
@@ -26,8 +26,8 @@ Plate {
     FlatDot {
         x: DarkUI.space14
         anchors.verticalCenter: parent.verticalCenter
-        width: DarkUI.radiusButton
-        height: DarkUI.radiusButton
+        width: WelcomeTokens.tagDot
+        height: WelcomeTokens.tagDot
         color: Tint.fromHex(tag.hexRGB)
     }
 

@@ -86,7 +86,7 @@ FocusScope {
             }
 
             role: DarkUI.small
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
             elide: Text.ElideRight
             Accessible.role: Accessible.AlertMessage
         }

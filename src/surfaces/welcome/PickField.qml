@@ -16,7 +16,7 @@ FocusScope {
         id: label
         text: qsTr("Project")
         role: DarkUI.captionMedium
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
         Accessible.ignored: true // the field has it for its name
     }
 

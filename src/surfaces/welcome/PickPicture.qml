@@ -74,10 +74,10 @@ Item {
         color: DarkUI.accent
 
         Rectangle {
-            x: DarkUI.radiusBar
-            y: DarkUI.radiusBar
+            x: WelcomeTokens.shineInset
+            y: WelcomeTokens.shineInset
             width: parent.width - 2 * x
-            height: DarkUI.radiusButton
+            height: WelcomeTokens.shineHeight
             radius: height / 2
             color: WelcomeTokens.brickShine
         }

@@ -28,7 +28,7 @@ Item {
             anchors.centerIn: parent
             text: row.app.initial
             role: DarkUI.captionStrong
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
         }
     }
 

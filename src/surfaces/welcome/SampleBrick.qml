@@ -24,7 +24,7 @@ Item {
         anchors.fill: parent
         visible: brick.lit
         radius: DarkUI.radiusSmall
-        color: Tint.alpha(DarkUI.accent, DarkUI.dangerEdge)
+        color: Tint.alpha(DarkUI.accent, DarkUI.dangerEdgeOpacity)
         edge: DarkUI.accent
     }
 

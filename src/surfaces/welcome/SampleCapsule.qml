@@ -29,7 +29,7 @@ Item {
             width: parent.width
             height: parent.height + radius
             radius: DarkUI.radiusFloating
-            color: DarkUI.capsule
+            color: DarkUI.capsuleGround
         }
     }
 

@@ -26,7 +26,7 @@ DarkWindowGlass {
 
         Item {
             width: parent.width
-            height: DarkUI.iconButton + DarkUI.space10
+            height: DarkUI.iconButtonSize + DarkUI.space10
 
             DarkText {
                 anchors.verticalCenter: parent.verticalCenter
@@ -96,7 +96,7 @@ DarkWindowGlass {
                         SkillTotalRow {
                             required property skillTotalLine modelData
                             width: sample.skillsWidth - 2 * DarkUI.space16
-                            height: DarkUI.iconButton
+                            height: DarkUI.iconButtonSize
                             line: modelData
                         }
                     }

@@ -52,7 +52,7 @@ GlassBackground {
                 y: headline.height + DarkUI.space2
                 text: qsTr("Choose where your effort should go.")
                 role: DarkUI.caption
-                color: DarkUI.t2
+                color: DarkUI.textSecondary
             }
             Keycap {
                 anchors.right: parent.right
@@ -82,7 +82,7 @@ GlassBackground {
                 anchors.right: parent.right
                 text: qsTr("Switch anytime")
                 role: DarkUI.small
-                color: DarkUI.t3
+                color: DarkUI.textTertiary
             }
         }
 
@@ -147,7 +147,7 @@ GlassBackground {
                 y: DarkUI.space10 + (DarkUI.space44 - height) / 2
                 text: qsTr("Your focus history stays private on this Mac")
                 role: DarkUI.small
-                color: DarkUI.t3
+                color: DarkUI.textTertiary
             }
             DarkText {
                 anchors.right: keys.left
@@ -155,7 +155,7 @@ GlassBackground {
                 anchors.verticalCenter: promise.verticalCenter
                 text: qsTr("Quit")
                 role: DarkUI.captionMedium
-                color: DarkUI.t2
+                color: DarkUI.textSecondary
             }
             DarkText {
                 id: keys
@@ -164,7 +164,7 @@ GlassBackground {
                 anchors.verticalCenter: promise.verticalCenter
                 text: "⌘Q"
                 role: DarkUI.small
-                color: DarkUI.t3
+                color: DarkUI.textTertiary
             }
         }
     }

@@ -29,7 +29,7 @@ Item {
                 anchors.verticalCenter: parent.verticalCenter
                 text: picture.model.practiceSkill
                 role: WelcomeTokens.clockSkill
-                color: DarkUI.t2
+                color: DarkUI.textSecondary
             }
         }
 
@@ -47,7 +47,7 @@ Item {
                     required property int index
                     text: modelData
                     role: WelcomeTokens.clock
-                    color: index % 2 === 0 ? DarkUI.t1 : DarkUI.t3
+                    color: index % 2 === 0 ? DarkUI.textPrimary : DarkUI.textTertiary
                     Accessible.ignored: true
                 }
             }

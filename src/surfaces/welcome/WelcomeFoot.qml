@@ -27,7 +27,7 @@ FocusScope {
         anchors.verticalCenter: parent.verticalCenter
         text: foot.model.asideText
         role: DarkUI.caption
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
     }
 
     DarkTextButton {

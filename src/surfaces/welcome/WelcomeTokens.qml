@@ -21,7 +21,7 @@ QtObject {
     readonly property real dot: 6 // of the row that shows the step
     readonly property real dotPitch: 13
     readonly property color dotPast: Qt.rgba(1, 1, 1, 0.38)
-    readonly property color dotCurrent: DarkUI.t1
+    readonly property color dotCurrent: DarkUI.textPrimary
     readonly property color dotToCome: Qt.rgba(1, 1, 1, 0.143)
 
     readonly property real brickHeight: 26
@@ -30,6 +30,8 @@ QtObject {
     readonly property real brickFaintest: 0.015 // opacity of white, at the top
     readonly property real brickPlainest: 0.06 // at the bottom
     readonly property color brickShine: Qt.rgba(1, 1, 1, 0.20)
+    readonly property real shineInset: 3
+    readonly property real shineHeight: 9
     readonly property real glowReach: 14
     readonly property real glowOpacity: 0.34
     readonly property int glowTime: 700 // ms each way
@@ -42,6 +44,7 @@ QtObject {
     readonly property real tagWidth: 211
     readonly property real tagColumn: 221
     readonly property real tagsWidth: tagColumn + tagWidth
+    readonly property real tagDot: 9
 
     readonly property real key: 92
     readonly property real keyGap: 16

@@ -59,7 +59,7 @@ Column {
         order: 0
         text: words.model.title
         role: DarkUI.titleXL
-        color: DarkUI.t1
+        color: DarkUI.textPrimary
         accessibleRole: Accessible.Heading
     }
 
@@ -68,7 +68,7 @@ Column {
         order: 1
         text: words.model.body
         role: DarkUI.lead
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
     }
 
     Line {
@@ -76,7 +76,7 @@ Column {
         order: 2
         text: words.model.shortcutProblem || words.model.sampleLine
         role: DarkUI.caption
-        color: words.model.shortcutProblem !== "" ? DarkUI.dangerText : DarkUI.t3
+        color: words.model.shortcutProblem !== "" ? DarkUI.dangerText : DarkUI.textTertiary
         accessibleRole: words.model.shortcutProblem !== "" ? Accessible.AlertMessage
                                                            : Accessible.StaticText
     }

@@ -29,7 +29,7 @@ Item {
         anchors.rightMargin: 48
         text: row.line.hours
         role: DarkUI.note
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
         Accessible.ignored: true
     }
 
@@ -37,14 +37,14 @@ Item {
         anchors.right: parent.right
         text: row.line.share
         role: DarkUI.note
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         Accessible.ignored: true
     }
 
     GlassBarTrack {
         anchors.bottom: parent.bottom
         width: row.width
-        implicitHeight: DarkUI.barReview
+        implicitHeight: DarkUI.barReviewHeight
 
         GlassBarFill {
             visible: growth.way > 0

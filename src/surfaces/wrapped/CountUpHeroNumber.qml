@@ -29,7 +29,7 @@ Item {
     }
     component Unit: DarkText {
         leftPadding: Math.round(role.size * 0.25)
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         Accessible.ignored: true
     }
 

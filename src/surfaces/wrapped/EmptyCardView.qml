@@ -11,7 +11,7 @@ ReviewPage {
 
     Column {
         anchors.verticalCenter: parent.verticalCenter
-        anchors.verticalCenterOffset: DarkUI.pagerButton // no pager stands below
+        anchors.verticalCenterOffset: DarkUI.pagerButtonSize // no pager stands below
         width: page.width
 
         CascadeIn {
@@ -59,7 +59,7 @@ ReviewPage {
                 width: page.width
                 text: page.words
                 role: DarkUI.lead
-                color: DarkUI.t2
+                color: DarkUI.textSecondary
                 wrapMode: Text.Wrap
             }
         }

@@ -28,7 +28,7 @@ Plate {
         anchors.baseline: value.baseline
         text: box.fact.detail
         role: DarkUI.caption
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         Accessible.ignored: true
     }
 

@@ -22,7 +22,7 @@ ReviewPage {
             DarkText {
                 text: page.content.lead
                 role: DarkUI.titleMQuiet
-                color: DarkUI.t2
+                color: DarkUI.textSecondary
             }
         }
 
@@ -58,7 +58,7 @@ ReviewPage {
             DarkText {
                 text: page.content.inSentence
                 role: DarkUI.titleMQuiet
-                color: DarkUI.t2
+                color: DarkUI.textSecondary
             }
         }
 

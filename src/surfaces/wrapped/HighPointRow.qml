@@ -32,7 +32,7 @@ Item {
         }
     }
 
-    implicitHeight: DarkUI.pointDisc + (last ? 0 : DarkUI.space20 + DarkUI.hairlineWidth)
+    implicitHeight: DarkUI.pointDiscSize + (last ? 0 : DarkUI.space20 + DarkUI.hairlineWidth)
 
     PopIn {
         animated: row.animated
@@ -40,9 +40,9 @@ Item {
         baseDelay: DarkUI.cascadeDelay + 2 * DarkUI.cascadeStep
 
         FlatDot {
-            width: DarkUI.pointDisc
-            height: DarkUI.pointDisc
-            color: Tint.alpha(row.point.tint, DarkUI.pointTint)
+            width: DarkUI.pointDiscSize
+            height: DarkUI.pointDiscSize
+            color: Tint.alpha(row.point.tint, DarkUI.pointTintOpacity)
 
             KitIcon {
                 anchors.centerIn: parent
@@ -56,8 +56,8 @@ Item {
 
     CascadeIn {
         id: words
-        x: DarkUI.pointDisc + DarkUI.space16
-        y: (DarkUI.pointDisc - height) / 2
+        x: DarkUI.pointDiscSize + DarkUI.space16
+        y: (DarkUI.pointDiscSize - height) / 2
         width: row.width - x
         animated: row.animated
         order: 2 + row.order

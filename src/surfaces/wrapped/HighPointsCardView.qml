@@ -21,7 +21,7 @@ ReviewPage {
             width: page.width
             text: page.content.sentence
             role: DarkUI.lead
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
             wrapMode: Text.Wrap
         }
     }

@@ -49,7 +49,7 @@ Plate {
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTr("hours")
             role: DarkUI.captionMedium
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
             Accessible.ignored: true
         }
 
@@ -57,7 +57,7 @@ Plate {
             anchors.horizontalCenter: parent.horizontalCenter
             text: card.badge.date
             role: DarkUI.caption
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
             Accessible.ignored: true
         }
     }

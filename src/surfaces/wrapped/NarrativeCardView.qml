@@ -35,7 +35,8 @@ ReviewPage {
 
         DarkText {
             width: page.width
-            text: page.escaped(page.content.opening) + "<font color=\"" + DarkUI.t2 + "\">"
+            text: page.escaped(page.content.opening)
+                  + "<font color=\"" + DarkUI.textSecondary + "\">"
                   + page.escaped(page.content.rest) + "</font>"
             textFormat: Text.StyledText
             role: page.role

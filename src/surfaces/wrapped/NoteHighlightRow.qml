@@ -36,8 +36,8 @@ Item {
 
         FlatDot {
             anchors.verticalCenter: parent.verticalCenter
-            width: DarkUI.chipDot
-            height: DarkUI.chipDot
+            width: DarkUI.chipDotSize
+            height: DarkUI.chipDotSize
             color: row.note.skillColor
         }
 
@@ -46,7 +46,7 @@ Item {
             width: Math.min(implicitWidth, row.width - 100)
             text: row.note.skillName
             role: DarkUI.caption
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
             elide: Text.ElideRight
             Accessible.ignored: true
         }
@@ -54,7 +54,7 @@ Item {
         DarkText {
             text: "·  " + row.note.date
             role: DarkUI.caption
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
             Accessible.ignored: true
         }
     }

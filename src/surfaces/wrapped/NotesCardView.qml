@@ -120,7 +120,7 @@ ReviewPage {
 
             DarkText {
                 text: page.content.more
-                color: DarkUI.t3
+                color: DarkUI.textTertiary
             }
         }
 
@@ -133,15 +133,15 @@ ReviewPage {
 
                 KitIcon {
                     anchors.verticalCenter: parent.verticalCenter
-                    width: DarkUI.space12
-                    height: DarkUI.space12
+                    width: DarkUI.iconSmall
+                    height: DarkUI.iconSmall
                     name: "lock"
                     color: DarkUI.iconQuiet
                 }
 
                 DarkText {
                     text: page.content.foot
-                    color: DarkUI.t3
+                    color: DarkUI.textTertiary
                 }
             }
         }

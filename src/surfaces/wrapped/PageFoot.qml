@@ -51,7 +51,7 @@ Item {
                     required property string modelData
                     width: foot.width
                     text: modelData
-                    color: DarkUI.t3
+                    color: DarkUI.textTertiary
                     elide: Text.ElideRight
                 }
             }

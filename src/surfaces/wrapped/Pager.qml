@@ -17,16 +17,16 @@ Item {
             pager.dropped();
     }
 
-    implicitHeight: DarkUI.pagerButton
+    implicitHeight: DarkUI.pagerButtonSize
 
     component Chevron: DarkIconButton {
-        implicitWidth: DarkUI.pagerButton
-        implicitHeight: DarkUI.pagerButton
-        radius: DarkUI.pagerButton / 2
-        fill: enabled ? DarkUI.stepper : DarkUI.rowHover
+        implicitWidth: DarkUI.pagerButtonSize
+        implicitHeight: DarkUI.pagerButtonSize
+        radius: DarkUI.pagerButtonSize / 2
+        fill: enabled ? DarkUI.stepperFill : DarkUI.rowHover
         fillHover: DarkUI.fillPressed
-        fillPressed: DarkUI.segment
-        iconColor: DarkUI.t1
+        fillPressed: DarkUI.segmentFill
+        iconColor: DarkUI.textPrimary
     }
 
     Chevron {

@@ -34,7 +34,7 @@ Column {
     DarkText {
         width: wall.width
         text: wall.content.wallCaption
-        color: DarkUI.t3
+        color: DarkUI.textTertiary
         elide: Text.ElideRight
     }
 }

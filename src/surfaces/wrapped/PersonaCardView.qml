@@ -23,8 +23,8 @@ ReviewPage {
             baseDelay: DarkUI.cascadeDelay + DarkUI.cascadeStep
 
             PersonaDisc {
-                width: DarkUI.personaDisc
-                height: DarkUI.personaDisc
+                width: DarkUI.personaDiscSize
+                height: DarkUI.personaDiscSize
                 card: page.content
             }
         }

@@ -51,7 +51,7 @@ Column {
                     DarkText {
                         text: fact.modelData.substring(fact.split)
                         role: DarkUI.cardTitle
-                        color: DarkUI.t3
+                        color: DarkUI.textTertiary
                         Accessible.ignored: true
                     }
                 }

@@ -19,7 +19,7 @@ Column {
         DarkText {
             text: words.content.lead
             role: DarkUI.cardTitleQuiet
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
         }
     }
 

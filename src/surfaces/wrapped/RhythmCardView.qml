@@ -43,7 +43,7 @@ ReviewPage {
             DarkText {
                 width: page.width
                 text: page.content.caption
-                color: DarkUI.t3
+                color: DarkUI.textTertiary
                 elide: Text.ElideRight
             }
         }

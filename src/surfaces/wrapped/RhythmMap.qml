@@ -33,8 +33,8 @@ Item {
         height: implicitHeight
         picture: map.rhythm.picture
         font: DarkUI.small.font
-        color: DarkUI.weekday
-        futureColor: DarkUI.weekdayFuture
+        color: DarkUI.textWeekday
+        futureColor: DarkUI.textWeekdayFuture
         growing: map.animated && !map.arrived && !Motion.reduced ? growth.elapsed : -1
     }
 

@@ -22,8 +22,8 @@ ReviewPage {
         baseDelay: DarkUI.cascadeDelay + DarkUI.cascadeStep
 
         GlassDot {
-            width: DarkUI.iconButton
-            height: DarkUI.iconButton
+            width: DarkUI.iconButtonSize
+            height: DarkUI.iconButtonSize
             color: page.content.top.color
         }
     }
@@ -67,14 +67,14 @@ ReviewPage {
 
             Part {
                 text: " " + page.content.topFigure.unit
-                color: DarkUI.t3
+                color: DarkUI.textTertiary
                 rightPadding: DarkUI.space20
             }
 
             Part {
                 id: share
                 text: page.content.top.share
-                color: DarkUI.t2
+                color: DarkUI.textSecondary
             }
         }
     }
@@ -123,7 +123,7 @@ ReviewPage {
             DarkText {
                 text: page.content.more
                 role: DarkUI.caption
-                color: DarkUI.t3
+                color: DarkUI.textTertiary
             }
         }
     }

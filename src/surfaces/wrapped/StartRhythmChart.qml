@@ -37,9 +37,9 @@ Item {
             Rectangle {
                 anchors.bottom: parent.bottom
                 width: parent.width
-                height: DarkUI.barStat
+                height: DarkUI.barStatHeight
                 radius: height / 2
-                color: DarkUI.trough
+                color: DarkUI.barTrough
                 visible: bar.height < height
             }
 
@@ -50,7 +50,7 @@ Item {
                 height: Math.round(chart.card.bars[column.index] * parent.height * entrance.way)
                 radius: Math.min(DarkUI.radiusColumn, height / 2)
                 color: column.isPeak ? chart.card.accent
-                                     : Tint.alpha(chart.card.accent, DarkUI.columnRest)
+                                     : Tint.alpha(chart.card.accent, DarkUI.columnRestOpacity)
             }
         }
     }
@@ -71,7 +71,7 @@ Item {
             y: DarkUI.columnHeight + DarkUI.space8
             text: modelData
             role: DarkUI.small
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
             Accessible.ignored: true
         }
     }

@@ -23,7 +23,7 @@ ReviewPage {
             width: page.width
             text: page.content.closing
             role: DarkUI.note
-            color: DarkUI.t2
+            color: DarkUI.textSecondary
             wrapMode: Text.Wrap
             maximumLineCount: 3
             elide: Text.ElideRight
@@ -78,7 +78,7 @@ ReviewPage {
             width: 112
             text: page.content.foot
             role: DarkUI.caption
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
             wrapMode: Text.Wrap
         }
 

@@ -40,7 +40,7 @@ ReviewPage {
             DarkText {
                 width: page.width
                 text: page.content.detail
-                color: DarkUI.t3
+                color: DarkUI.textTertiary
                 elide: Text.ElideRight
             }
         }
@@ -57,7 +57,7 @@ ReviewPage {
         DarkText {
             text: page.content.chartCaption
             role: DarkUI.caption
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
         }
 
         DarkKicker {

@@ -17,8 +17,8 @@ ArrowGroup {
     function bringIntoSight(segment: Item): void {
         if (!segment)
             return;
-        const left = segment.x - DarkUI.edgeFade;
-        const right = segment.x + segment.width + DarkUI.edgeFade;
+        const left = segment.x - DarkUI.edgeFadeLength;
+        const right = segment.x + segment.width + DarkUI.edgeFadeLength;
         if (left < area.contentX)
             scrollTo(left);
         else if (right > area.contentX + area.width)
@@ -91,7 +91,7 @@ ArrowGroup {
                     Rectangle {
                         anchors.fill: parent
                         radius: DarkUI.radiusSmall
-                        color: segment.current ? DarkUI.segment
+                        color: segment.current ? DarkUI.segmentFill
                              : segment.hovered ? DarkUI.quietHover : DarkUI.clear
                     }
 
@@ -100,7 +100,8 @@ ArrowGroup {
                         anchors.centerIn: parent
                         text: segment.year
                         role: segment.current ? DarkUI.captionStrong : DarkUI.captionMedium
-                        color: segment.current || segment.hovered ? DarkUI.t1 : DarkUI.t2
+                        color: segment.current || segment.hovered ? DarkUI.textPrimary
+                               : DarkUI.textSecondary
                         Accessible.ignored: true
                     }
 
@@ -115,14 +116,14 @@ ArrowGroup {
 
     EdgeFade {
         anchors.right: parent.right
-        width: DarkUI.edgeFade
+        width: DarkUI.edgeFadeLength
         height: parent.height
         edge: Qt.RightEdge
         visible: !area.atXEnd
     }
 
     EdgeFade {
-        width: DarkUI.edgeFade
+        width: DarkUI.edgeFadeLength
         height: parent.height
         edge: Qt.LeftEdge
         visible: !area.atXBeginning

@@ -43,7 +43,7 @@ KitPressable {
         width: parent.height - 2 * inset
         height: width
         radius: height / 2
-        color: toggle.checked ? DarkUI.knob : DarkUI.switchKnob
+        color: toggle.checked ? DarkUI.knobFill : DarkUI.switchKnob
 
         Behavior on x {
             NumberAnimation {

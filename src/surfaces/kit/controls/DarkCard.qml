@@ -12,7 +12,7 @@ Plate {
     implicitWidth: inside.childrenRect.width + 2 * padding
     implicitHeight: inside.childrenRect.height + 2 * padding
     radius: DarkUI.radiusCard
-    color: DarkUI.card
+    color: DarkUI.cardFill
     edge: DarkUI.hairline
 
     Item {

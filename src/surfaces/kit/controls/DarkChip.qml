@@ -21,7 +21,7 @@ KitPressable {
     readonly property real gap: large ? DarkUI.space8 : DarkUI.space8
     signal contextMenuRequested
 
-    implicitWidth: (hasDot ? leading + DarkUI.chipDot + gap : leading + DarkUI.space2)
+    implicitWidth: (hasDot ? leading + DarkUI.chipDotSize + gap : leading + DarkUI.space2)
                    + label.implicitWidth + (check.visible ? gap + check.width : 0)
                    + (large ? DarkUI.space12 : 13)
     implicitHeight: large ? DarkUI.largeChipHeight : DarkUI.chipHeight
@@ -47,8 +47,8 @@ KitPressable {
         x: chip.leading
         anchors.verticalCenter: parent.verticalCenter
         visible: chip.hasDot && !chip.showsPlay
-        width: DarkUI.chipDot
-        height: DarkUI.chipDot
+        width: DarkUI.chipDotSize
+        height: DarkUI.chipDotSize
         color: chip.dotColor
     }
 
@@ -56,19 +56,19 @@ KitPressable {
         x: chip.leading - 1.5
         anchors.verticalCenter: parent.verticalCenter
         visible: chip.showsPlay
-        width: DarkUI.space10
-        height: DarkUI.space10
+        width: DarkUI.iconTiny
+        height: DarkUI.iconTiny
         name: "play"
         color: chip.dotColor
     }
 
     DarkText {
         id: label
-        x: chip.hasDot ? chip.leading + DarkUI.chipDot + chip.gap : chip.leading + DarkUI.space2
+        x: chip.hasDot ? chip.leading + DarkUI.chipDotSize + chip.gap : chip.leading + DarkUI.space2
         anchors.verticalCenter: parent.verticalCenter
         text: chip.text
         role: chip.large ? DarkUI.captionMedium : DarkUI.smallMedium
-        color: DarkUI.chipName
+        color: DarkUI.textChip
         Accessible.ignored: true
     }
 
@@ -78,10 +78,10 @@ KitPressable {
         anchors.rightMargin: DarkUI.space12
         anchors.verticalCenter: parent.verticalCenter
         visible: chip.large && chip.checked
-        width: DarkUI.space10
-        height: DarkUI.space10
+        width: DarkUI.iconTiny
+        height: DarkUI.iconTiny
         name: "check"
-        color: DarkUI.t1
+        color: DarkUI.textPrimary
     }
 
     FocusRing {

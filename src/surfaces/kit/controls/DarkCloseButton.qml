@@ -3,12 +3,12 @@ import QtQuick
 import Vantle.Kit
 
 DarkIconButton {
-    implicitWidth: DarkUI.closeButton
-    implicitHeight: DarkUI.closeButton
+    implicitWidth: DarkUI.closeButtonSize
+    implicitHeight: DarkUI.closeButtonSize
     name: qsTr("Close")
     icon: "close"
     iconSize: DarkUI.space10
-    radius: DarkUI.closeButton / 2
+    radius: DarkUI.closeButtonSize / 2
     fill: DarkUI.quietHover
     fillHover: DarkUI.fillPressed
     fillPressed: DarkUI.pageDot

@@ -14,9 +14,9 @@ Plate {
 
     implicitHeight: minHeight
     radius: DarkUI.radiusButton
-    color: focused ? DarkUI.wellFocused : DarkUI.well
+    color: focused ? DarkUI.fieldFillFocused : DarkUI.fieldFill
     edge: wrong ? DarkUI.danger : focused ? accent : DarkUI.hairline
-    edgeWidth: wrong || focused ? DarkUI.fieldEdge : DarkUI.hairlineWidth
+    edgeWidth: wrong || focused ? DarkUI.fieldEdgeWidth : DarkUI.hairlineWidth
 
     Behavior on color {
         ColorAnimation {

@@ -29,7 +29,7 @@ Item {
     Plate {
         anchors.fill: parent
         radius: DarkUI.radiusKeycap
-        color: DarkUI.menu
+        color: DarkUI.menuGround
         edge: DarkUI.hairline
     }
 
@@ -38,7 +38,7 @@ Item {
         anchors.centerIn: parent
         text: help.text
         role: DarkUI.small
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
         Accessible.ignored: true // the control says it
     }
 }

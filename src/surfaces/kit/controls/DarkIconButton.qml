@@ -9,13 +9,13 @@ KitPressable {
     required property string icon
     property real iconSize: DarkUI.iconSize
     property real radius: DarkUI.radiusSmall
-    property color iconColor: DarkUI.icon
+    property color iconColor: DarkUI.iconPrimary
     property color fill: DarkUI.clear
     property color fillHover: DarkUI.quietHover
     property color fillPressed: DarkUI.fillPressed
 
-    implicitWidth: DarkUI.iconButton
-    implicitHeight: DarkUI.iconButton
+    implicitWidth: DarkUI.iconButtonSize
+    implicitHeight: DarkUI.iconButtonSize
 
     Rectangle {
         anchors.fill: parent

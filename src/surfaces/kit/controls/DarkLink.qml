@@ -11,7 +11,7 @@ KitPressable {
     property TypeRole role: DarkUI.captionMedium
 
     implicitWidth: label.implicitWidth
-    implicitHeight: DarkUI.stripButton // more than the text, to be hit
+    implicitHeight: DarkUI.stripButtonSize // more than the text, to be hit
     name: text
     cursorShape: Qt.PointingHandCursor
     Accessible.role: Accessible.Link

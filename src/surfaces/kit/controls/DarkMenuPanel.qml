@@ -63,7 +63,7 @@ FocusScope {
         anchors.fill: parent
         material: GlassBackground.Menu
         radius: panel.composited ? DarkUI.radiusBanner : 0
-        color: panel.composited ? DarkUI.menu : DarkUI.base
+        color: panel.composited ? DarkUI.menuGround : DarkUI.windowGround
         shadowed: panel.composited
     }
 

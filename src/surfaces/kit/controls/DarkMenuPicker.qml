@@ -67,7 +67,8 @@ KitPressable {
         anchors.verticalCenter: parent.verticalCenter
         text: picker.currentText
         role: picker.role
-        color: !picker.enabled ? DarkUI.t4 : picker.quiet ? DarkUI.t2 : DarkUI.t1
+        color: !picker.enabled ? DarkUI.textDisabled
+               : picker.quiet ? DarkUI.textSecondary : DarkUI.textPrimary
         elide: Text.ElideRight
         Accessible.ignored: true
     }
@@ -77,8 +78,8 @@ KitPressable {
         anchors.right: parent.right
         anchors.rightMargin: DarkUI.space8
         anchors.verticalCenter: parent.verticalCenter
-        width: DarkUI.space12
-        height: DarkUI.space12
+        width: DarkUI.iconSmall
+        height: DarkUI.iconSmall
         name: "chevron-down"
         color: picker.enabled ? DarkUI.iconQuiet : DarkUI.iconDisabled
     }

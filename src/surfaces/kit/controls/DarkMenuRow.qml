@@ -34,10 +34,10 @@ KitPressable {
         x: DarkUI.space8
         anchors.verticalCenter: parent.verticalCenter
         visible: row.checked
-        width: DarkUI.space12
-        height: DarkUI.space12
+        width: DarkUI.iconSmall
+        height: DarkUI.iconSmall
         name: "check"
-        color: DarkUI.t1
+        color: DarkUI.textPrimary
     }
 
     DarkText {
@@ -48,7 +48,8 @@ KitPressable {
         elide: Text.ElideRight
         text: row.text
         role: DarkUI.captionMedium
-        color: !row.enabled ? DarkUI.t4 : row.danger ? DarkUI.dangerTextOnFill : DarkUI.t1
+        color: !row.enabled ? DarkUI.textDisabled
+               : row.danger ? DarkUI.dangerTextOnFill : DarkUI.textPrimary
         Accessible.ignored: true
     }
 }

@@ -27,7 +27,7 @@ FocusScope {
         anchors.fill: parent
         material: GlassBackground.Popover
         radius: popover.composited ? DarkUI.radiusWindow : 0
-        color: popover.composited ? DarkUI.popover : DarkUI.base
+        color: popover.composited ? DarkUI.popoverGround : DarkUI.windowGround
         shadowed: popover.composited
     }
 
@@ -46,8 +46,8 @@ FocusScope {
             height: popover.arrowSide
             rotation: 45
             antialiasing: true
-            radius: DarkUI.space2
-            color: DarkUI.base
+            radius: DarkUI.radiusTiny
+            color: DarkUI.windowGround
             edge: DarkUI.hairline
         }
     }

@@ -12,7 +12,7 @@ FocusScope {
     property alias contentHeight: flickable.contentHeight
     property alias contentY: flickable.contentY
     property bool faded: true // fades at the edges
-    property color ground: DarkUI.base
+    property color ground: DarkUI.windowGround
     property bool atWindowBottom: false // its fade leaves the window's edge and corners alone
     property bool scrollbarShown: false
 
@@ -70,9 +70,9 @@ FocusScope {
     Keys.onPressed: event => {
         event.accepted = true;
         if (event.key === Qt.Key_PageDown)
-            scrollTo(flickable.contentY + flickable.height - DarkUI.edgeFade);
+            scrollTo(flickable.contentY + flickable.height - DarkUI.edgeFadeLength);
         else if (event.key === Qt.Key_PageUp)
-            scrollTo(flickable.contentY - flickable.height + DarkUI.edgeFade);
+            scrollTo(flickable.contentY - flickable.height + DarkUI.edgeFadeLength);
         else if (event.key === Qt.Key_Home)
             scrollTo(0);
         else if (event.key === Qt.Key_End)

@@ -33,7 +33,7 @@ Item {
         width: DarkUI.scrollbarWidth
         height: bar.handleHeight
         radius: width / 2
-        color: hover.hovered || drag.active ? DarkUI.pageDot : DarkUI.scrollbar
+        color: hover.hovered || drag.active ? DarkUI.pageDot : DarkUI.scrollbarThumb
     }
 
     HoverHandler {

@@ -27,13 +27,13 @@ KitControl {
             moved(kept);
     }
     function askAt(x: real): void {
-        const way = Math.max(width - DarkUI.sliderKnob, 1);
-        const part = (x - DarkUI.sliderKnob / 2) / way;
+        const way = Math.max(width - DarkUI.sliderKnobSize, 1);
+        const part = (x - DarkUI.sliderKnobSize / 2) / way;
         ask(minimumValue + Math.max(0, Math.min(part, 1)) * (maximumValue - minimumValue));
     }
 
     implicitWidth: 200
-    implicitHeight: DarkUI.swatchCell
+    implicitHeight: DarkUI.sliderHeight
     opacity: enabled ? 1 : DarkUI.disabledOpacity
 
     Accessible.role: Accessible.Slider
@@ -92,10 +92,10 @@ KitControl {
         id: knob
         x: slider.position * (slider.width - width)
         anchors.verticalCenter: parent.verticalCenter
-        width: DarkUI.sliderKnob
-        height: DarkUI.sliderKnob
+        width: DarkUI.sliderKnobSize
+        height: DarkUI.sliderKnobSize
         radius: width / 2
-        color: DarkUI.knob
+        color: DarkUI.knobFill
 
         FocusRing {
             shown: slider.ringed

@@ -62,8 +62,8 @@ FocusScope {
             x: DarkUI.space10
             anchors.verticalCenter: parent.verticalCenter
             visible: field.icon !== ""
-            width: DarkUI.space14
-            height: DarkUI.space14
+            width: DarkUI.iconMedium
+            height: DarkUI.iconMedium
             name: field.icon
             color: DarkUI.iconQuiet
         }
@@ -80,9 +80,9 @@ FocusScope {
             activeFocusOnTab: true
             clip: true
             font: field.role.font
-            color: DarkUI.t1
-            selectionColor: Tint.alpha(DarkUI.accent, DarkUI.dangerEdge)
-            selectedTextColor: DarkUI.t1
+            color: DarkUI.textPrimary
+            selectionColor: Tint.alpha(DarkUI.accent, DarkUI.dangerEdgeOpacity)
+            selectedTextColor: DarkUI.textPrimary
             selectByMouse: true
             renderType: placeholderText.renderType
             cursorDelegate: DarkCaret {
@@ -124,7 +124,7 @@ FocusScope {
             visible: input.text === "" && input.preeditText === ""
             text: field.placeholder
             role: field.role
-            color: DarkUI.t3
+            color: DarkUI.textTertiary
             elide: Text.ElideRight
             Accessible.ignored: true
         }

@@ -21,7 +21,7 @@ Item {
         visible: strip.title !== ""
         text: strip.title
         role: DarkUI.bodyMedium
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
     }
 
     Item {
@@ -40,11 +40,11 @@ Item {
         spacing: DarkUI.space4
 
         component StripButton: DarkIconButton {
-            implicitWidth: DarkUI.stripButton
-            implicitHeight: DarkUI.stripButton
+            implicitWidth: DarkUI.stripButtonSize
+            implicitHeight: DarkUI.stripButtonSize
             iconSize: DarkUI.space12
             iconColor: DarkUI.iconStrip
-            radius: DarkUI.stripButton / 2
+            radius: DarkUI.stripButtonSize / 2
             fillHover: DarkUI.stripHover
         }
 

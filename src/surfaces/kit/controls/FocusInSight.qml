@@ -16,7 +16,7 @@ Item {
         if (!above)
             return;
         const top = item.mapToItem(view.contentItem, 0, 0).y;
-        const margin = DarkUI.edgeFade;
+        const margin = DarkUI.edgeFadeLength;
         if (top - margin < view.contentY)
             scrollTo(top - margin);
         else if (top + item.height + margin > view.contentY + view.height)

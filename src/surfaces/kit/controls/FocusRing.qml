@@ -10,7 +10,7 @@ Rectangle {
     anchors.fill: parent
     anchors.margins: -(DarkUI.focusGap + DarkUI.focusWidth)
     visible: shown
-    radius: controlRadius + DarkUI.focusRadius
+    radius: controlRadius + DarkUI.focusRadiusGain
     color: "transparent"
     border.width: DarkUI.focusWidth
     border.color: DarkUI.focusRing

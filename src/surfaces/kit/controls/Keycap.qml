@@ -9,7 +9,7 @@ Plate {
     required property string text
 
     implicitWidth: label.implicitWidth + 2 * DarkUI.space6
-    implicitHeight: DarkUI.space20
+    implicitHeight: DarkUI.keycapHeight
     radius: DarkUI.radiusKeycap
     color: DarkUI.rowHover
     edge: DarkUI.keycapEdge
@@ -19,6 +19,6 @@ Plate {
         anchors.centerIn: parent
         text: cap.text
         role: DarkUI.smallMedium
-        color: DarkUI.t2
+        color: DarkUI.textSecondary
     }
 }

@@ -35,13 +35,14 @@ KitPressable {
     }
     function dangerFill(): color {
         if (!enabled)
-            return DarkUI.card;
-        return Tint.alpha(DarkUI.danger, pressed ? DarkUI.dangerFillPressed
-                                       : hovered ? DarkUI.dangerFillHover : DarkUI.dangerFill);
+            return DarkUI.cardFill;
+        return Tint.alpha(DarkUI.danger, pressed ? DarkUI.dangerFillPressedOpacity
+                                       : hovered ? DarkUI.dangerFillHoverOpacity
+                                       : DarkUI.dangerFillOpacity);
     }
     function secondaryFill(): color {
         if (!enabled)
-            return DarkUI.card;
+            return DarkUI.cardFill;
         return pressed ? DarkUI.fillPressed : hovered ? DarkUI.fillHover : DarkUI.fill;
     }
     function fill(): color {
@@ -59,21 +60,22 @@ KitPressable {
     function edge(): color {
         if (kind === KitButton.Primary || kind === KitButton.Text)
             return DarkUI.clear;
-        return kind === KitButton.Danger && enabled ? Tint.alpha(DarkUI.danger, DarkUI.dangerEdge)
-                                                    : DarkUI.hairline;
+        if (kind === KitButton.Danger && enabled)
+            return Tint.alpha(DarkUI.danger, DarkUI.dangerEdgeOpacity);
+        return DarkUI.hairline;
     }
     function textColor(): color {
         if (!enabled)
-            return DarkUI.t4;
+            return DarkUI.textDisabled;
         switch (kind) {
         case KitButton.Primary:
             return Tint.inkOn(accent);
         case KitButton.Danger:
             return DarkUI.dangerTextOnFill;
         case KitButton.Text:
-            return hovered || pressed || ringed ? DarkUI.t1 : DarkUI.t2;
+            return hovered || pressed || ringed ? DarkUI.textPrimary : DarkUI.textSecondary;
         default:
-            return DarkUI.t1;
+            return DarkUI.textPrimary;
         }
     }
 

@@ -44,7 +44,7 @@ ArrowGroup {
     Rectangle {
         anchors.fill: parent
         radius: picker.radius
-        color: DarkUI.card
+        color: DarkUI.cardFill
     }
 
     Rectangle {
@@ -54,7 +54,7 @@ ArrowGroup {
         width: picker.segmentWidth
         height: parent.height - 2 * picker.inset
         radius: picker.radius - picker.inset
-        color: DarkUI.segment
+        color: DarkUI.segmentFill
 
         Behavior on x {
             NumberAnimation {
@@ -94,7 +94,8 @@ ArrowGroup {
                     anchors.centerIn: parent
                     text: segment.modelData
                     role: segment.chosen ? DarkUI.captionStrong : picker.role
-                    color: segment.chosen || segment.hovered ? DarkUI.t1 : DarkUI.t2
+                    color: segment.chosen || segment.hovered ? DarkUI.textPrimary
+                           : DarkUI.textSecondary
                     Accessible.ignored: true
                 }
 

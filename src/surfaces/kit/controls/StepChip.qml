@@ -22,7 +22,7 @@ KitPressable {
         anchors.fill: parent
         radius: chip.large ? DarkUI.radiusBanner : DarkUI.radiusSmall
         color: chip.pressed && chip.enabled ? DarkUI.fillPressed
-             : chip.hovered ? DarkUI.fillHover : chip.large ? DarkUI.card : DarkUI.stepper
+             : chip.hovered ? DarkUI.fillHover : chip.large ? DarkUI.cardFill : DarkUI.stepperFill
         edge: chip.large ? DarkUI.hairline : DarkUI.clear
 
         Behavior on color {
@@ -35,10 +35,10 @@ KitPressable {
 
     KitIcon {
         anchors.centerIn: parent
-        width: DarkUI.space12
-        height: DarkUI.space12
+        width: DarkUI.iconSmall
+        height: DarkUI.iconSmall
         name: chip.plus ? "plus" : "minus"
-        color: chip.enabled && !chip.exhausted ? DarkUI.t1 : DarkUI.iconDisabled
+        color: chip.enabled && !chip.exhausted ? DarkUI.textPrimary : DarkUI.iconDisabled
     }
 
     FocusRing {

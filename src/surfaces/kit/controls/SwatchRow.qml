@@ -10,11 +10,11 @@ ArrowGroup {
     property list<string> names // read out instead of their digits, in the order of the colours
     property int currentIndex: -1
     readonly property real pitch: colors.length > 1
-                                  ? (width - DarkUI.swatchCell) / (colors.length - 1) : 0
+                                  ? (width - DarkUI.swatchCellSize) / (colors.length - 1) : 0
     signal activated(int index)
 
-    implicitWidth: colors.length * DarkUI.swatchCell
-    implicitHeight: DarkUI.swatchCell
+    implicitWidth: colors.length * DarkUI.swatchCellSize
+    implicitHeight: DarkUI.swatchCellSize
     list: cells
     current: Math.max(currentIndex, 0)
     Accessible.name: qsTr("Color")
@@ -34,8 +34,8 @@ ArrowGroup {
                 readonly property bool chosen: index === row.currentIndex
 
                 x: Math.round(index * row.pitch)
-                width: DarkUI.swatchCell
-                height: DarkUI.swatchCell
+                width: DarkUI.swatchCellSize
+                height: DarkUI.swatchCellSize
                 name: row.names[index]
                       ?? qsTr("Color %1").arg(modelData.toString().slice(1).toUpperCase())
                 Accessible.role: Accessible.RadioButton
@@ -46,8 +46,8 @@ ArrowGroup {
 
                 Rectangle {
                     anchors.centerIn: parent
-                    width: DarkUI.swatch
-                    height: DarkUI.swatch
+                    width: DarkUI.swatchSize
+                    height: DarkUI.swatchSize
                     radius: width / 2
                     color: cell.hovered && !cell.chosen ? Tint.lightened(cell.modelData, 0.15)
                                                         : cell.modelData

@@ -11,7 +11,7 @@ Rectangle {
     property bool shadowed: false
 
     radius: composited ? DarkUI.radiusWindow : 0
-    color: DarkUI.base
+    color: DarkUI.windowGround
 
     DarkShadow {
         anchors.fill: parent

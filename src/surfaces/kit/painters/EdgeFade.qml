@@ -7,12 +7,12 @@ Rectangle {
     id: fade
 
     property int edge: Qt.BottomEdge
-    property color ground: DarkUI.base
+    property color ground: DarkUI.windowGround
     readonly property bool horizontal: edge === Qt.LeftEdge || edge === Qt.RightEdge
     readonly property bool toGround: edge === Qt.BottomEdge || edge === Qt.RightEdge
 
-    implicitWidth: DarkUI.edgeFade
-    implicitHeight: DarkUI.edgeFade
+    implicitWidth: DarkUI.edgeFadeLength
+    implicitHeight: DarkUI.edgeFadeLength
     gradient: Gradient {
         orientation: fade.horizontal ? Gradient.Horizontal : Gradient.Vertical
         GradientStop {

@@ -20,9 +20,9 @@ Plate {
     property bool shadowed: true
 
     radius: material === GlassBackground.Floating ? DarkUI.radiusFloating : DarkUI.radiusWindow
-    color: material === GlassBackground.Floating ? DarkUI.floating
-         : material === GlassBackground.Popover ? DarkUI.popover
-         : material === GlassBackground.Menu ? DarkUI.menu : DarkUI.overBlur
+    color: material === GlassBackground.Floating ? DarkUI.floatingGround
+         : material === GlassBackground.Popover ? DarkUI.popoverGround
+         : material === GlassBackground.Menu ? DarkUI.menuGround : DarkUI.glassGround
     edge: DarkUI.hairline
 
     DarkShadow {

@@ -5,7 +5,7 @@ import Vantle.Kit
 Rectangle {
     property real cornerRadius: DarkUI.radiusBar
 
-    implicitHeight: DarkUI.barStat
+    implicitHeight: DarkUI.barStatHeight
     radius: Math.min(cornerRadius, height / 2)
-    color: DarkUI.trough
+    color: DarkUI.barTrough
 }

@@ -12,8 +12,9 @@ Plate {
     readonly property bool selected: selectedTint.a > 0
 
     radius: height / 2
-    color: selected ? Tint.alpha(selectedTint, pressed ? DarkUI.tintFillPressed
-                                             : hovering ? DarkUI.tintFillHover : DarkUI.tintFill)
+    color: selected ? Tint.alpha(selectedTint, pressed ? DarkUI.tintFillPressedOpacity
+                                             : hovering ? DarkUI.tintFillHoverOpacity
+                                             : DarkUI.tintFillOpacity)
          : pressed ? DarkUI.fillPressed : hovering ? DarkUI.fillHover : DarkUI.fill
     edge: selected ? selectedTint : DarkUI.hairline
 

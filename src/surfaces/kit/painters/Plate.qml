@@ -13,7 +13,7 @@ Rectangle {
     readonly property real snappedEdge: Math.max(1, Math.round(edgeWidth * Screen.devicePixelRatio))
                                         / Screen.devicePixelRatio
 
-    color: DarkUI.card
+    color: DarkUI.cardFill
 
     Rectangle {
         anchors.fill: parent

@@ -4,6 +4,6 @@ import Vantle.Kit
 
 DarkText {
     role: DarkUI.kicker
-    color: DarkUI.t3
+    color: DarkUI.textTertiary
     Accessible.role: Accessible.Heading
 }

@@ -8,7 +8,7 @@ Text {
 
     property TypeRole role: DarkUI.body
 
-    color: DarkUI.t1
+    color: DarkUI.textPrimary
     font: role.font
     lineHeightMode: Text.FixedHeight
     lineHeight: role.line

@@ -6,7 +6,7 @@ import Vantle.Kit
 TabularLine {
     property TypeRole role: DarkUI.body
 
-    color: DarkUI.t1
+    color: DarkUI.textPrimary
     font: role.font
     lineHeight: role.line
 

@@ -10,57 +10,57 @@ import Vantle.Kit
 
 QtObject {
     // --- Grounds ---------------------------------------------------------------------------------
-    readonly property color base: "#0A0A0F"
-    readonly property color ink: base // text on the accent and on full skill colours
-    readonly property color card: Qt.rgba(1, 1, 1, 0.06)
+    readonly property color windowGround: "#0A0A0F"
+    readonly property color ink: windowGround // text on the accent and on full skill colours
+    readonly property color cardFill: Qt.rgba(1, 1, 1, 0.06)
     readonly property color hairline: Qt.rgba(1, 1, 1, 0.08)
     readonly property color windowEdge: Qt.rgba(1, 1, 1, 0.09) // outside the window's ground
-    readonly property color capsule: "#000000"
+    readonly property color capsuleGround: "#000000"
     readonly property color capsuleEdge: Qt.rgba(1, 1, 1, 0.06) // along the inside of its bottom
-    readonly property color menu: "#17171D"
-    readonly property color floating: Qt.rgba(10 / 255, 10 / 255, 15 / 255, 0.96)
-    readonly property color popover: Qt.rgba(10 / 255, 10 / 255, 15 / 255, 0.97)
-    readonly property color overBlur: Qt.rgba(10 / 255, 10 / 255, 15 / 255, 0.82)
+    readonly property color menuGround: "#17171D"
+    readonly property color floatingGround: Qt.rgba(10 / 255, 10 / 255, 15 / 255, 0.96)
+    readonly property color popoverGround: Qt.rgba(10 / 255, 10 / 255, 15 / 255, 0.97)
+    readonly property color glassGround: Qt.rgba(10 / 255, 10 / 255, 15 / 255, 0.82)
 
     // --- Fills: rest, hover, pressed -------------------------------------------------------------
-    readonly property color fill: card
+    readonly property color fill: cardFill
     readonly property color fillHover: Qt.rgba(1, 1, 1, 0.10)
     readonly property color fillPressed: Qt.rgba(1, 1, 1, 0.14)
     readonly property color fillDisabled: Qt.rgba(1, 1, 1, 0.08)
     readonly property color clear: Qt.rgba(1, 1, 1, 0)
     readonly property color quietHover: Qt.rgba(1, 1, 1, 0.08) // icon buttons, menu rows
-    readonly property color navHover: card // rows that lead somewhere
+    readonly property color navHover: cardFill // rows that lead somewhere
     readonly property color rowHover: Qt.rgba(1, 1, 1, 0.05) // rows of a list
     readonly property color stripHover: Qt.rgba(1, 1, 1, 0.10) // the window's two round buttons
-    readonly property color stepper: Qt.rgba(1, 1, 1, 0.08)
-    readonly property color segment: Qt.rgba(1, 1, 1, 0.14)
-    readonly property color trough: Qt.rgba(1, 1, 1, 0.08) // of bars
+    readonly property color stepperFill: Qt.rgba(1, 1, 1, 0.08)
+    readonly property color segmentFill: Qt.rgba(1, 1, 1, 0.14)
+    readonly property color barTrough: Qt.rgba(1, 1, 1, 0.08) // of bars
     readonly property color sliderTrack: Qt.rgba(1, 1, 1, 0.10)
-    readonly property color scrollbar: Qt.rgba(1, 1, 1, 0.16)
-    readonly property color well: Qt.rgba(1, 1, 1, 0.05)
-    readonly property color wellFocused: Qt.rgba(1, 1, 1, 0.07)
+    readonly property color scrollbarThumb: Qt.rgba(1, 1, 1, 0.16)
+    readonly property color fieldFill: Qt.rgba(1, 1, 1, 0.05)
+    readonly property color fieldFillFocused: Qt.rgba(1, 1, 1, 0.07)
     readonly property color keycapEdge: Qt.rgba(1, 1, 1, 0.12)
     readonly property color switchTrack: Qt.rgba(1, 1, 1, 0.14)
     readonly property color switchEdge: Qt.rgba(1, 1, 1, 0.40)
     readonly property color switchKnob: Qt.rgba(1, 1, 1, 0.92)
-    readonly property color knob: "#FFFFFF" // of a switch that is on, of a slider
+    readonly property color knobFill: "#FFFFFF" // of a switch that is on, of a slider
     readonly property color pageDot: Qt.rgba(1, 1, 1, 0.22)
     readonly property color pageDotCurrent: Qt.rgba(1, 1, 1, 0.92)
     readonly property color chosenRing: Qt.rgba(1, 1, 1, 0.95) // around the chosen swatch
 
     // --- Text and icons --------------------------------------------------------------------------
-    readonly property color t1: Qt.rgba(1, 1, 1, 0.95) // what is read
-    readonly property color t2: Qt.rgba(1, 1, 1, 0.68) // what goes with it
-    readonly property color t3: Qt.rgba(1, 1, 1, 0.54) // what may be passed over
-    readonly property color t4: Qt.rgba(1, 1, 1, 0.32) // disabled and separators only
+    readonly property color textPrimary: Qt.rgba(1, 1, 1, 0.95) // what is read
+    readonly property color textSecondary: Qt.rgba(1, 1, 1, 0.68) // what goes with it
+    readonly property color textTertiary: Qt.rgba(1, 1, 1, 0.54) // what may be passed over
+    readonly property color textDisabled: Qt.rgba(1, 1, 1, 0.32) // disabled and separators only
     readonly property color textCaption: Qt.rgba(1, 1, 1, 0.62) // captions of settings
-    readonly property color weekday: Qt.rgba(1, 1, 1, 0.55) // letters and months of a calendar
-    readonly property color weekdayFuture: Qt.rgba(1, 1, 1, 0.30) // of days to come
-    readonly property color capsuleName: Qt.rgba(1, 1, 1, 0.62)
-    readonly property color chipName: Qt.rgba(1, 1, 1, 0.90)
+    readonly property color textWeekday: Qt.rgba(1, 1, 1, 0.55) // letters and months of a calendar
+    readonly property color textWeekdayFuture: Qt.rgba(1, 1, 1, 0.30) // of days to come
+    readonly property color textCapsuleName: Qt.rgba(1, 1, 1, 0.62)
+    readonly property color textChip: Qt.rgba(1, 1, 1, 0.90)
     readonly property color iconQuiet: Qt.rgba(1, 1, 1, 0.54)
     readonly property color iconStrip: Qt.rgba(1, 1, 1, 0.62)
-    readonly property color icon: Qt.rgba(1, 1, 1, 0.80)
+    readonly property color iconPrimary: Qt.rgba(1, 1, 1, 0.80)
     readonly property color iconDisabled: Qt.rgba(1, 1, 1, 0.30)
 
     // --- Accents ---------------------------------------------------------------------------------
@@ -81,22 +81,22 @@ QtObject {
     readonly property color barAllTime: "#64D2FF"
 
     // Opacities of a colour: give them to Tint.alpha().
-    readonly property real dangerFill: 0.16
-    readonly property real dangerFillHover: 0.24
-    readonly property real dangerFillPressed: 0.32
-    readonly property real dangerEdge: 0.42
-    readonly property real tintFill: 0.18 // of a selected chip
-    readonly property real tintFillHover: 0.26
-    readonly property real tintFillPressed: 0.32
-    readonly property real popoverCommit: 0.60
-    readonly property real popoverCommitPressed: 0.95
-    readonly property real popoverCommitDisabled: 0.24
-    readonly property real bannerFill: 0.10
-    readonly property real bannerEdge: 0.30
-    readonly property real wrappedFill: 0.14 // of the row of a review that waits
-    readonly property real wrappedEdge: 0.34
-    readonly property real pointTint: 0.14 // of the disc of a high point
-    readonly property real columnRest: 0.62 // of the columns of a chart beside its highest
+    readonly property real dangerFillOpacity: 0.16
+    readonly property real dangerFillHoverOpacity: 0.24
+    readonly property real dangerFillPressedOpacity: 0.32
+    readonly property real dangerEdgeOpacity: 0.42
+    readonly property real tintFillOpacity: 0.18 // of a selected chip
+    readonly property real tintFillHoverOpacity: 0.26
+    readonly property real tintFillPressedOpacity: 0.32
+    readonly property real popoverCommitOpacity: 0.60
+    readonly property real popoverCommitPressedOpacity: 0.95
+    readonly property real popoverCommitDisabledOpacity: 0.24
+    readonly property real bannerFillOpacity: 0.10
+    readonly property real bannerEdgeOpacity: 0.30
+    readonly property real wrappedFillOpacity: 0.14 // of the row of a review that waits
+    readonly property real wrappedEdgeOpacity: 0.34
+    readonly property real pointTintOpacity: 0.14 // of the disc of a high point
+    readonly property real columnRestOpacity: 0.62 // of the columns of a chart beside its highest
     readonly property real pausedOpacity: 0.78 // of the wide button while time is paused
     readonly property real disabledOpacity: 0.45 // of a whole chip, switch or slider
 
@@ -172,7 +172,9 @@ QtObject {
 
     // --- Shape -----------------------------------------------------------------------------------
     readonly property real radiusYearTile: 2.8
+    readonly property int radiusTiny: 2 // the tip of an arrow, the sign of a stop
     readonly property int radiusBar: 3
+    readonly property int radiusTag: 4
     readonly property int radiusKeycap: 6
     readonly property int radiusMenuRow: 6
     readonly property int radiusColumn: 6 // of a chart
@@ -188,8 +190,8 @@ QtObject {
     readonly property int hairlineWidth: 1
     readonly property int focusWidth: 2
     readonly property int focusGap: 2 // clear space between a control and its ring
-    readonly property int focusRadius: 3 // more than the control's own
-    readonly property real fieldEdge: 1.5 // of a focused field, or of one that is wrong
+    readonly property int focusRadiusGain: 3 // more than the control's own
+    readonly property real fieldEdgeWidth: 1.5 // of a focused field, or of one that is wrong
     readonly property real caretWidth: 1.5
 
     // --- Sizes of controls -----------------------------------------------------------------------
@@ -199,13 +201,18 @@ QtObject {
     readonly property int formButtonPadding: 18
     readonly property int wideButtonHeight: 52
     readonly property int popoverButtonHeight: 26
-    readonly property int iconButton: 26
-    readonly property int closeButton: 22 // the round one of corner cards
+    readonly property int iconButtonSize: 26
+    readonly property int closeButtonSize: 22 // the round one of corner cards
     readonly property int iconSize: 16
+    readonly property int iconMedium: 14
+    readonly property int iconSmall: 12
+    readonly property int iconTiny: 10 // in chips
+    readonly property int keycapHeight: 20
     readonly property int chipHeight: 24
     readonly property int largeChipHeight: 28
+    readonly property int summaryDotSize: 11 // of a part of an hour
     readonly property int chipGap: 6
-    readonly property int chipDot: 7 // also the flat dot of labels
+    readonly property int chipDotSize: 7 // also the flat dot of labels
     readonly property int switchWidth: 38
     readonly property int switchHeight: 22
     readonly property int stepperSize: 26
@@ -220,25 +227,26 @@ QtObject {
     readonly property int welcomeFieldHeight: 48
     readonly property int searchFieldHeight: 32
     readonly property int fieldPadding: 12
+    readonly property int sliderHeight: 24
     readonly property int sliderTrackHeight: 4
-    readonly property int sliderKnob: 18
-    readonly property int barStat: 4
-    readonly property int barTable: 5
-    readonly property int barReview: 6
+    readonly property int sliderKnobSize: 18
+    readonly property int barStatHeight: 4
+    readonly property int barTableHeight: 5
+    readonly property int barReviewHeight: 6
     readonly property int columnWidth: 22 // of a chart
     readonly property int columnHeight: 112
-    readonly property int swatch: 18
-    readonly property int swatchCell: 24
+    readonly property int swatchSize: 18
+    readonly property int swatchCellSize: 24
     readonly property int scrollbarWidth: 5
     readonly property int scrollbarInset: 4
-    readonly property int edgeFade: 36
+    readonly property int edgeFadeLength: 36
     readonly property int stripHeight: 36
-    readonly property int stripButton: 24
+    readonly property int stripButtonSize: 24
     readonly property int navRowHeight: 38
     readonly property int pageDotSize: 6
-    readonly property int pagerButton: 32
-    readonly property int pointDisc: 44 // behind the icon of a high point
-    readonly property int personaDisc: 132
+    readonly property int pagerButtonSize: 32
+    readonly property int pointDiscSize: 44 // behind the icon of a high point
+    readonly property int personaDiscSize: 132
     readonly property int posterWidth: 264 // of the poster in the last card of the review
     readonly property int popoverWidth: 284
     readonly property int commandCenterWidth: 360
