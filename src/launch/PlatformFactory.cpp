@@ -2,7 +2,6 @@
 
 #include "base/Clock.h"
 #include "platform/CannotTell.h"
-#include "platform/applications/ApplicationEntry.h"
 #include "platform/applications/DesktopApplications.h"
 #include "platform/applications/DesktopAutostart.h"
 #include "platform/localmodel/SocketLanguageModel.h"
@@ -39,7 +38,6 @@
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDir>
-#include <QLocale>
 
 namespace vantle {
 
@@ -93,8 +91,7 @@ public:
         , m_idleSource(makeIdleSource(m_x11, m_clock, m_xwayland))
         , m_screenPower(makeScreenPower(m_x11, scheduler, m_session))
         , m_hotKey(m_x11, scheduler, m_xwayland.isXwayland)
-        , m_applications(DesktopApplications::standardFolders(),
-                         ApplicationEntry::localeNames(QLocale::system()))
+        , m_applications(DesktopApplications::standardFolders())
         , m_frontmostApp(makeFrontmostApp(m_x11, scheduler, m_xwayland, m_applications))
         , m_processRunner(environment)
         , m_fileManager(m_session, m_processRunner)

@@ -2,9 +2,7 @@
 #pragma once
 
 #include <QByteArray>
-#include <QLocale>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 
@@ -12,7 +10,7 @@ namespace vantle {
 
 struct ApplicationEntry {
     QString id;              ///< the file's name without suffix, subfolders joined by "-"
-    QString name;            ///< in the person's language where the entry has it
+    QString name;            ///< in the user's language where the entry has it
     QString windowClass;     ///< StartupWMClass
     QString program;         ///< base name of the program that Exec starts; empty when it is broken
     bool isShown = true;     ///< in menus
@@ -20,13 +18,10 @@ struct ApplicationEntry {
     bool isInTerminal = false; ///< its program runs in a terminal, which has the window
 
     /// Reads the file's content. Empty for what is no application or is marked as deleted; such a
-    /// file still keeps its id from entries further down. `locales` are tried in order, as in
-    /// {"de_AT", "de"}. Pure, any thread; bytes that are not UTF-8 are replaced, never refused.
-    [[nodiscard]] static std::optional<ApplicationEntry>
-    read(const QString& id, const QByteArray& content, const QStringList& locales);
-
-    /// The names under which entries may hold texts of a language, the best first.
-    [[nodiscard]] static QStringList localeNames(const QLocale& locale);
+    /// file still keeps its id from entries further down. The name is in the language that the
+    /// environment asks for. Any thread; bytes that are not UTF-8 are replaced, never refused.
+    [[nodiscard]] static std::optional<ApplicationEntry> read(const QString& id,
+                                                              const QByteArray& content);
 };
 
 } // namespace vantle

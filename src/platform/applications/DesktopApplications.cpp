@@ -40,9 +40,7 @@ bool isWithin(const QString& path, const QString& folder) {
 
 } // namespace
 
-DesktopApplications::DesktopApplications(QStringList folders, QStringList locales)
-    : m_folders(std::move(folders))
-    , m_locales(std::move(locales)) {
+DesktopApplications::DesktopApplications(QStringList folders) : m_folders(std::move(folders)) {
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this,
             &DesktopApplications::handleChange);
 }
@@ -95,7 +93,7 @@ void DesktopApplications::readAll() {
     m_missing.clear();
     for (const QString& folder : m_folders)
         if (!QFileInfo::exists(folder)) m_missing.append(folder);
-    m_index = DesktopEntryIndex::read(m_folders, m_locales);
+    m_index = DesktopEntryIndex::read(m_folders);
 }
 
 } // namespace vantle

@@ -19,7 +19,7 @@ class DesktopApplications final : public QObject {
 
 public:
     /// `folders` hold entries; of two with one id, that in the earlier folder counts.
-    DesktopApplications(QStringList folders, QStringList locales);
+    explicit DesktopApplications(QStringList folders);
 
     /// The folders of the freedesktop.org kind: `applications` under $XDG_DATA_HOME and each of
     /// $XDG_DATA_DIRS, and those of sandboxed applications. Absolute, in order.
@@ -35,7 +35,6 @@ private:
     void readAll();
 
     const QStringList m_folders;
-    const QStringList m_locales;
     std::optional<DesktopEntryIndex> m_index; ///< empty when it must be read
     QStringList m_missing;                    ///< of the folders, when they were read
     QFileSystemWatcher m_watcher;

@@ -7,20 +7,20 @@ namespace vantle {
 
 namespace {
 
-/// TryExec makes desktops pass over the entry in silence once the program is gone.
-QString entryFor(const QString& programPath) {
-    const QString command =
-        QStringLiteral("env VANTLE_AUTOSTART=1 ") + desktopentry::quotedArgument(programPath);
-    return QStringLiteral("[Desktop Entry]\n"
-                          "Type=Application\n"
-                          "Version=1.4\n"
-                          "Name=Vantle\n"
-                          "Comment=Counts the time you actually work\n"
-                          "Icon=local.vantle.Vantle\n"
-                          "TryExec=") +
-           desktopentry::escaped(programPath) + QStringLiteral("\nExec=") +
-           desktopentry::escaped(command) +
-           QStringLiteral("\nTerminal=false\nStartupNotify=false\n");
+QByteArray entryFor(const QString& programPath) {
+    DesktopEntry entry;
+    entry.setText("Type", QStringLiteral("Application"));
+    entry.setText("Version", QStringLiteral("1.4"));
+    entry.setText("Name", QStringLiteral("Vantle"));
+    entry.setText("Comment", QStringLiteral("Counts the time you actually work"));
+    entry.setText("Icon", QStringLiteral("local.vantle.Vantle"));
+    // Makes desktops pass over the entry in silence once the program is gone.
+    entry.setText("TryExec", programPath);
+    entry.setText("Exec", QStringLiteral("env VANTLE_AUTOSTART=1 ") +
+                              DesktopEntry::quotedArgument(programPath));
+    entry.setText("Terminal", QStringLiteral("false"));
+    entry.setText("StartupNotify", QStringLiteral("false"));
+    return entry.content();
 }
 
 } // namespace
@@ -33,16 +33,13 @@ DesktopAutostart::DesktopAutostart(FileSystem& files, QString entryPath, QString
 bool DesktopAutostart::isRegistered() const {
     const auto content = m_files.readAll(m_entryPath);
     if (!content) return false;
-    const auto is = [&](const QString& key, QLatin1String text) {
-        const auto value = desktopentry::value(content.value(), key);
-        return value && value->compare(text, Qt::CaseInsensitive) == 0;
-    };
-    return !is(QStringLiteral("Hidden"), QLatin1String("true")) &&
-           !is(QStringLiteral("X-GNOME-Autostart-enabled"), QLatin1String("false"));
+    const auto entry = DesktopEntry::read(content.value());
+    return entry && !entry->is("Hidden", "true") &&
+           !entry->is("X-GNOME-Autostart-enabled", "false");
 }
 
 Result<> DesktopAutostart::registerItem() {
-    return replaceFile(m_files, m_entryPath, entryFor(m_programPath).toUtf8());
+    return replaceFile(m_files, m_entryPath, entryFor(m_programPath));
 }
 
 Result<> DesktopAutostart::unregisterItem() {

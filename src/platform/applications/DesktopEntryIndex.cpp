@@ -20,7 +20,6 @@ QString key(const QString& text) { return text.toCaseFolded(); }
 
 /// Collects the entries of one folder tree.
 struct Collector {
-    const QStringList& locales;
     std::vector<ApplicationEntry> entries;
     QSet<QString> ids;     ///< taken, by deleted entries too
     QSet<QString> folders; ///< visited, by their real paths
@@ -30,7 +29,7 @@ struct Collector {
         if (ids.contains(id) || !file.open(QIODevice::ReadOnly)) return;
         if (file.size() > kMaxEntrySize) return;
         ids.insert(id);
-        if (auto entry = ApplicationEntry::read(id, file.readAll(), locales))
+        if (auto entry = ApplicationEntry::read(id, file.readAll()))
             entries.push_back(std::move(*entry));
     }
 
@@ -67,8 +66,8 @@ DesktopEntryIndex::DesktopEntryIndex(std::vector<ApplicationEntry> entries)
     }
 }
 
-DesktopEntryIndex DesktopEntryIndex::read(const QStringList& folders, const QStringList& locales) {
-    Collector collector{locales, {}, {}, {}};
+DesktopEntryIndex DesktopEntryIndex::read(const QStringList& folders) {
+    Collector collector;
     for (const QString& folder : folders)
         collector.readFolder(folder, {}, 0);
     return DesktopEntryIndex(std::move(collector.entries));

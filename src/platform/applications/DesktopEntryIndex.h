@@ -20,8 +20,7 @@ public:
     /// Reads all entries below `folders`, in this order. A file that can't be read, one that is
     /// larger than any entry, and a folder that a link leads back into are passed over. Blocks for
     /// the time of reading some hundred small files.
-    [[nodiscard]] static DesktopEntryIndex read(const QStringList& folders,
-                                                const QStringList& locales);
+    [[nodiscard]] static DesktopEntryIndex read(const QStringList& folders);
 
     using Matches = QList<const ApplicationEntry*>;
 

@@ -1,6 +1,7 @@
 #include "platform/applications/DesktopApplications.h"
 
 #include "support/Await.h"
+#include "support/EnvironmentVariable.h"
 #include "support/QtPrinters.h"
 #include "support/Text.h"
 
@@ -13,9 +14,10 @@
 namespace vantle {
 namespace {
 
+using tests::EnvironmentVariable;
 using tests::text;
 
-/// A person's folder of entries before the system's, on the real disk.
+/// A user's folder of entries before the system's, on the real disk.
 class DesktopApplicationsTest : public testing::Test {
 protected:
     [[nodiscard]] QString path(const char* name) const { return m_root.filePath(text(name)); }
@@ -30,10 +32,11 @@ protected:
     }
 
     QTemporaryDir m_root;
-    DesktopApplications m_applications{{path("mine"), path("system")}, {text("de")}};
+    DesktopApplications m_applications{{path("mine"), path("system")}};
 };
 
-TEST_F(DesktopApplicationsTest, NameIsThatOfTheEntryInThePersonsLanguage) {
+TEST_F(DesktopApplicationsTest, NameIsThatOfTheEntryInTheUsersLanguage) {
+    const EnvironmentVariable language("LANGUAGE", "de");
     write("system/tool.desktop", "Name=Files\nName[de]=Dateien\nStartupWMClass=Window\n");
     EXPECT_EQ(identify("Window"), (Application{text("tool"), text("Dateien")}));
 }

@@ -92,7 +92,7 @@ TEST_F(DesktopAutostartTest, ADirectoryInThePlaceOfTheEntryIsNoRegistration) {
 
 TEST(DesktopEntry, QuotesArgumentsAsTheExecKeyAsksForIt) {
     const auto quoted = [](const char* text) {
-        return desktopentry::quotedArgument(QString::fromUtf8(text)).toStdString();
+        return DesktopEntry::quotedArgument(QString::fromUtf8(text)).toStdString();
     };
     EXPECT_EQ(quoted("/usr/bin/vantle"), "/usr/bin/vantle");
     EXPECT_EQ(quoted("/opt/my apps/vantle"), "\"/opt/my apps/vantle\"");
@@ -103,10 +103,17 @@ TEST(DesktopEntry, QuotesArgumentsAsTheExecKeyAsksForIt) {
     EXPECT_EQ(quoted(""), "\"\"");
 }
 
-TEST(DesktopEntry, EscapesValues) {
-    EXPECT_EQ(desktopentry::escaped(QStringLiteral("a\\b\nc\td\re f")),
-              QStringLiteral("a\\\\b\\nc\\td\\re f"));
-    EXPECT_EQ(desktopentry::escaped(QStringLiteral("  a")), QStringLiteral("\\s a"));
+TEST(DesktopEntry, ReadsBackWhatItWrote) {
+    const QString text = QStringLiteral("  a\\b\nc\td\re f");
+    DesktopEntry entry;
+    entry.setText("Name", text);
+    EXPECT_EQ(DesktopEntry::read(entry.content())->text("Name"), text);
+}
+
+TEST(DesktopEntry, WhatIsNoKeyFileIsNone) {
+    EXPECT_FALSE(DesktopEntry::read("[Desktop Entry]\nName=Tool\nneither key nor comment\n"));
+    EXPECT_FALSE(DesktopEntry::read("Name=Tool\n"));
+    EXPECT_TRUE(DesktopEntry::read("# a comment\n\n[Desktop Entry]\nName=Tool\n"));
 }
 
 /// The desktop's own checker has the last word, for ordinary and for nasty places alike.

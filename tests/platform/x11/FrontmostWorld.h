@@ -57,8 +57,7 @@ protected:
     FrontmostWorld() {
         writeEntry("alpha", "Name=Alpha\nStartupWMClass=Alpha\n");
         writeEntry("org.example.Beta", "Name=Beta\n");
-        m_applications =
-            std::make_unique<DesktopApplications>(QStringList{m_entries.path()}, QStringList());
+        m_applications = std::make_unique<DesktopApplications>(QStringList{m_entries.path()});
         QObject::connect(&m_frontmost, &FrontmostApp::activated, &m_frontmost,
                          [this](const auto& app) { m_told.push_back(app); });
     }
