@@ -12,7 +12,7 @@
 #include "platform/session/ApplicationService.h"
 #include "platform/session/BusGreeting.h"
 #include "platform/session/DesktopReducedMotion.h"
-#include "platform/session/FileManager.h"
+#include "platform/session/DesktopFileManager.h"
 #include "platform/session/LoginScreenPower.h"
 #include "platform/session/PortalSaveDialog.h"
 #include "platform/session/QtImageClipboard.h"
@@ -141,7 +141,7 @@ public:
         return xdgDirectory("XDG_DATA_HOME", QStringLiteral("/.local/share"));
     }
     [[nodiscard]] Result<> moveToTrash(const QString& path) override {
-        return FileManager::moveToTrash(path);
+        return DesktopFileManager::moveToTrash(path);
     }
     void reveal(const QString& path) override { m_fileManager.reveal(path); }
     [[nodiscard]] Result<> openShortcuts() override {
@@ -174,7 +174,7 @@ private:
     DesktopApplications m_applications;
     std::unique_ptr<FrontmostApp> m_frontmostApp;
     PosixProcessRunner m_processRunner;
-    FileManager m_fileManager;
+    DesktopFileManager m_fileManager;
     DesktopReducedMotion m_reducedMotion;
     DesktopAutostart m_autostart;
     DesktopTrayItem m_trayItem;

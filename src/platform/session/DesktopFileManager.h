@@ -14,10 +14,10 @@ class ProcessRunner;
 /// Main thread. Opening returns at once and happens once: a file manager that takes long is waited
 /// for without limit. Where the bus has none, the desktop's opener for folders is started. What
 /// goes wrong shows nothing.
-class FileManager final {
+class DesktopFileManager final {
 public:
     /// The runner must outlive this object. A missing bus is no failure.
-    FileManager(QDBusConnection session, ProcessRunner& runner)
+    DesktopFileManager(QDBusConnection session, ProcessRunner& runner)
         : m_session(std::move(session))
         , m_runner(runner) {}
 

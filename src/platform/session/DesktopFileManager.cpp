@@ -1,4 +1,4 @@
-#include "platform/session/FileManager.h"
+#include "platform/session/DesktopFileManager.h"
 
 #include "platform/ProcessRunner.h"
 
@@ -22,7 +22,7 @@ constexpr int kNoLimit = std::numeric_limits<int>::max();
 
 } // namespace
 
-Result<> FileManager::moveToTrash(const QString& path) {
+Result<> DesktopFileManager::moveToTrash(const QString& path) {
     // Qt makes the trash but not the folder above it; without that one the file would land in the
     // working directory.
     QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
@@ -31,15 +31,15 @@ Result<> FileManager::moveToTrash(const QString& path) {
     return Error{0, QStringLiteral("move to trash"), path, file.errorString()};
 }
 
-void FileManager::reveal(const QString& path) {
+void DesktopFileManager::reveal(const QString& path) {
     ask(QStringLiteral("ShowItems"), path, QFileInfo(path).path());
 }
 
-void FileManager::openFolder(const QString& path) {
+void DesktopFileManager::openFolder(const QString& path) {
     ask(QStringLiteral("ShowFolders"), path, path);
 }
 
-void FileManager::ask(const QString& method, const QString& path, const QString& folder) {
+void DesktopFileManager::ask(const QString& method, const QString& path, const QString& folder) {
     // A call without a connection is one that never ends.
     if (!m_session.isConnected()) return startOpener(folder);
     auto call =
@@ -55,7 +55,7 @@ void FileManager::ask(const QString& method, const QString& path, const QString&
     });
 }
 
-void FileManager::startOpener(const QString& folder) {
+void DesktopFileManager::startOpener(const QString& folder) {
     const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
     if (!opener.isEmpty()) (void)m_runner.startDetached({opener, {folder}});
 }

@@ -1,4 +1,4 @@
-#include "platform/session/FileManager.h"
+#include "platform/session/DesktopFileManager.h"
 
 #include "fakes/FakeProcessRunner.h"
 #include "support/Await.h"
@@ -57,17 +57,17 @@ private:
     tests::BusClient m_client;
 };
 
-class FileManagerTest : public testing::Test {
+class DesktopFileManagerTest : public testing::Test {
 protected:
-    FileManagerTest() {
+    DesktopFileManagerTest() {
         QFile opener(m_programs.filePath(QStringLiteral("xdg-open")));
         EXPECT_TRUE(opener.open(QIODevice::WriteOnly));
         EXPECT_TRUE(opener.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
         qputenv("PATH", QFile::encodeName(m_programs.path()));
     }
-    ~FileManagerTest() override { qputenv("PATH", m_path); }
-    FileManagerTest(const FileManagerTest&) = delete;
-    FileManagerTest& operator=(const FileManagerTest&) = delete;
+    ~DesktopFileManagerTest() override { qputenv("PATH", m_path); }
+    DesktopFileManagerTest(const DesktopFileManagerTest&) = delete;
+    DesktopFileManagerTest& operator=(const DesktopFileManagerTest&) = delete;
 
     /// The desktop's opener was started for that folder, and for no other.
     [[nodiscard]] bool wasOpenedByDesktop(const char* folder) const {
@@ -80,10 +80,10 @@ protected:
     const QTemporaryDir m_programs;
     tests::BusClient m_client;
     fakes::FakeProcessRunner m_runner;
-    FileManager m_files{m_client.bus(), m_runner};
+    DesktopFileManager m_files{m_client.bus(), m_runner};
 };
 
-TEST_F(FileManagerTest, ShowsTheFileUnderAnAddressThatAnyNameFitsIn) {
+TEST_F(DesktopFileManagerTest, ShowsTheFileUnderAnAddressThatAnyNameFitsIn) {
     FakeFileManager manager;
     m_files.reveal(QStringLiteral("/tmp/Füße & 100 %/log#1.jsonl"));
     ASSERT_TRUE(await([&] { return !manager.shown.isEmpty(); }));
@@ -93,7 +93,7 @@ TEST_F(FileManagerTest, ShowsTheFileUnderAnAddressThatAnyNameFitsIn) {
     EXPECT_TRUE(m_runner.detached.empty());
 }
 
-TEST_F(FileManagerTest, OpensAFolderRatherThanShowingItInTheOneAbove) {
+TEST_F(DesktopFileManagerTest, OpensAFolderRatherThanShowingItInTheOneAbove) {
     FakeFileManager manager;
     m_files.openFolder(QStringLiteral("/tmp/short cuts"));
     ASSERT_TRUE(await([&] { return !manager.opened.isEmpty(); }));
@@ -101,7 +101,7 @@ TEST_F(FileManagerTest, OpensAFolderRatherThanShowingItInTheOneAbove) {
     EXPECT_TRUE(manager.shown.isEmpty());
 }
 
-TEST_F(FileManagerTest, SlowFileManagerIsWaitedForAndTheFolderOpensOnce) {
+TEST_F(DesktopFileManagerTest, SlowFileManagerIsWaitedForAndTheFolderOpensOnce) {
     FakeFileManager manager;
     manager.isSlow = true;
     QElapsedTimer timer;
@@ -114,7 +114,7 @@ TEST_F(FileManagerTest, SlowFileManagerIsWaitedForAndTheFolderOpensOnce) {
     EXPECT_TRUE(m_runner.detached.empty());
 }
 
-TEST_F(FileManagerTest, WithoutAFileManagerTheDesktopOpensTheFolder) {
+TEST_F(DesktopFileManagerTest, WithoutAFileManagerTheDesktopOpensTheFolder) {
     m_files.reveal(QStringLiteral("/srv/data/log"));
     EXPECT_TRUE(await([&] { return wasOpenedByDesktop("/srv/data"); }));
     m_runner.detached.clear();
@@ -122,14 +122,14 @@ TEST_F(FileManagerTest, WithoutAFileManagerTheDesktopOpensTheFolder) {
     EXPECT_TRUE(await([&] { return wasOpenedByDesktop("/srv/data"); }));
 }
 
-TEST_F(FileManagerTest, FileManagerThatRefusesLeavesItToTheDesktop) {
+TEST_F(DesktopFileManagerTest, FileManagerThatRefusesLeavesItToTheDesktop) {
     FakeFileManager manager;
     manager.refuses = true;
     m_files.reveal(QStringLiteral("/srv/data/log"));
     EXPECT_TRUE(await([&] { return wasOpenedByDesktop("/srv/data"); }));
 }
 
-TEST_F(FileManagerTest, FileManagerThatEndsOverTheQuestionLeavesItToTheDesktop) {
+TEST_F(DesktopFileManagerTest, FileManagerThatEndsOverTheQuestionLeavesItToTheDesktop) {
     FakeFileManager manager;
     manager.isSlow = true;
     m_files.reveal(QStringLiteral("/srv/data/log"));
@@ -138,13 +138,13 @@ TEST_F(FileManagerTest, FileManagerThatEndsOverTheQuestionLeavesItToTheDesktop) 
     EXPECT_TRUE(await([&] { return wasOpenedByDesktop("/srv/data"); }));
 }
 
-TEST_F(FileManagerTest, WithoutABusTheDesktopOpensTheFolder) {
-    FileManager files(tests::noBus(), m_runner);
+TEST_F(DesktopFileManagerTest, WithoutABusTheDesktopOpensTheFolder) {
+    DesktopFileManager files(tests::noBus(), m_runner);
     files.openFolder(QStringLiteral("/srv/data"));
     EXPECT_TRUE(await([&] { return wasOpenedByDesktop("/srv/data"); }));
 }
 
-TEST_F(FileManagerTest, WithoutAnyOpenerNothingHappens) {
+TEST_F(DesktopFileManagerTest, WithoutAnyOpenerNothingHappens) {
     ASSERT_TRUE(QFile::remove(m_programs.filePath(QStringLiteral("xdg-open"))));
     m_files.openFolder(QStringLiteral("/srv/data"));
     tests::runFor(100);
@@ -161,7 +161,7 @@ TEST(FileManagerTrash, TrashedFileIsGoneFromItsPlaceAndKeptInTheTrash) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write("program");
     }
-    EXPECT_TRUE(FileManager::moveToTrash(path));
+    EXPECT_TRUE(DesktopFileManager::moveToTrash(path));
     EXPECT_FALSE(QFile::exists(path));
     EXPECT_TRUE(QFile::exists(home.filePath(QStringLiteral("data/Trash/files/an old copy"))));
     if (before.isNull())
@@ -171,7 +171,7 @@ TEST(FileManagerTrash, TrashedFileIsGoneFromItsPlaceAndKeptInTheTrash) {
 }
 
 TEST(FileManagerTrash, FileThatIsNotThereCannotBeTrashed) {
-    const auto trashed = FileManager::moveToTrash(QStringLiteral("/nowhere/at all"));
+    const auto trashed = DesktopFileManager::moveToTrash(QStringLiteral("/nowhere/at all"));
     ASSERT_FALSE(trashed);
     EXPECT_TRUE(trashed.error().description().contains(QStringLiteral("/nowhere/at all")));
 }
@@ -179,4 +179,4 @@ TEST(FileManagerTrash, FileThatIsNotThereCannotBeTrashed) {
 } // namespace
 } // namespace vantle
 
-#include "FileManagerTest.moc"
+#include "DesktopFileManagerTest.moc"
