@@ -5,6 +5,7 @@
 #include "launch/Windows.h"
 #include "platform/Autostart.h"
 #include "platform/Preferences.h"
+#include "platform/RunningCopy.h"
 #include "platform/Screens.h"
 #include "platform/TrayItem.h"
 #include "surfaces/cards/RecoveryNoticeController.h"
@@ -41,12 +42,13 @@ const QString& ownBundleId() {
 
 AppDelegate::AppDelegate(const Environment& environment)
     : m_env(environment)
-    , m_skills(m_env.paths, m_env.ioQueue, m_env.preferences)
+    , m_platform(m_env.platform)
+    , m_skills(m_env.paths, m_env.ioQueue, m_platform.preferences)
     , m_autoSkill({m_env.clock, m_env.scheduler, m_env.autoSkillQueue, m_env.paths,
-                   m_env.preferences, m_skills, m_env.frontmostApp, m_env.idleSource,
+                   m_platform.preferences, m_skills, m_platform.frontmostApp, m_platform.idleSource,
                    ownBundleId()})
-    , m_focusLink(m_env.preferences, m_env.processRunner, m_env.shortcutsTool)
-    , m_missingTray({m_env.scheduler, m_env.preferences, m_env.trayItem,
+    , m_focusLink(m_platform.preferences, m_platform.processRunner, m_env.shortcutsTool)
+    , m_missingTray({m_env.scheduler, m_platform.preferences, m_platform.trayItem,
                      [this] { return m_commandCenter->isShown() && !m_model->lastActionNote(); },
                      [this](const QString& text) { m_model->report(text); }}) {}
 
@@ -57,7 +59,7 @@ bool AppDelegate::applicationDidFinishLaunching() {
     // Before anything else looks at the data.
     if (!m_lock.acquire(m_env.paths)) {
         // The panel of the copy that runs is what a start by hand is for.
-        if (m_env.startedUnasked || !m_env.showRunningCopy()) m_env.alertAlreadyRunning();
+        if (m_env.startedUnasked || !m_platform.runningCopy.show()) m_env.alertAlreadyRunning();
         return false;
     }
     registerLoginItemOnce();
@@ -82,23 +84,23 @@ bool AppDelegate::applicationDidFinishLaunching() {
 
 void AppDelegate::showFirstPanel() {
     // It drops from the tray item, which a tray takes a moment to put in its place.
-    if (!m_env.trayItem.isPlacePending()) return m_model->showCommandCenter();
+    if (!m_platform.trayItem.isPlacePending()) return m_model->showCommandCenter();
     const auto show = [this] {
         const TimerHandle spent = std::move(m_trayPatience);
         QObject::disconnect(m_trayPlaced);
         m_model->showCommandCenter();
     };
     m_trayPatience = m_env.scheduler.scheduleOnce(kPlacePatience, show);
-    m_trayPlaced =
-        QObject::connect(&m_env.trayItem, &TrayItem::placeChanged, m_model.get(), [this, show] {
-            if (!m_env.trayItem.isPlacePending()) show();
-        });
+    m_trayPlaced = QObject::connect(&m_platform.trayItem, &TrayItem::placeChanged, m_model.get(),
+                                    [this, show] {
+                                        if (!m_platform.trayItem.isPlacePending()) show();
+                                    });
 }
 
 void AppDelegate::registerLoginItemOnce() {
-    if (m_env.preferences.flag(kLoginAutoRegistered)) return;
-    m_env.preferences.setBoolean(kLoginAutoRegistered, true);
-    if (!m_env.autostart.isRegistered()) m_env.autostart.registerItem().ignore();
+    if (m_platform.preferences.flag(kLoginAutoRegistered)) return;
+    m_platform.preferences.setBoolean(kLoginAutoRegistered, true);
+    if (!m_platform.autostart.isRegistered()) m_platform.autostart.registerItem().ignore();
 }
 
 void AppDelegate::makeModel() {
@@ -108,33 +110,35 @@ void AppDelegate::makeModel() {
     if (m_env.makeRipple) collaborators.ripple = m_env.makeRipple();
     collaborators.autoSkill = std::make_unique<AutoSkillAdapter>(m_autoSkill);
     collaborators.focusLink = std::make_unique<FocusLinkAdapter>(m_focusLink);
-    m_model = std::make_unique<AppModel>(AppModel::Environment{.clock = m_env.clock,
-                                                               .scheduler = m_env.scheduler,
-                                                               .ioQueue = m_env.ioQueue,
-                                                               .paths = m_env.paths,
-                                                               .preferences = m_env.preferences,
-                                                               .skills = m_skills,
-                                                               .notifications = m_notifications,
-                                                               .idleSource = m_env.idleSource,
-                                                               .screenPower = m_env.screenPower,
-                                                               .hotKeyPort = m_env.hotKeyPort,
-                                                               .reducedMotion = m_env.reducedMotion,
-                                                               .cardSlot = m_cardSlot,
-                                                               .frontmostApp = &m_env.frontmostApp,
-                                                               .calendar = m_env.calendar,
-                                                               .terminate = m_env.terminate},
-                                         std::move(collaborators));
+    m_model =
+        std::make_unique<AppModel>(AppModel::Environment{.clock = m_env.clock,
+                                                         .scheduler = m_env.scheduler,
+                                                         .ioQueue = m_env.ioQueue,
+                                                         .paths = m_env.paths,
+                                                         .preferences = m_platform.preferences,
+                                                         .skills = m_skills,
+                                                         .notifications = m_notifications,
+                                                         .idleSource = m_platform.idleSource,
+                                                         .screenPower = m_platform.screenPower,
+                                                         .hotKeyPort = m_platform.hotKeyPort,
+                                                         .reducedMotion = m_platform.reducedMotion,
+                                                         .cardSlot = m_cardSlot,
+                                                         .frontmostApp = &m_platform.frontmostApp,
+                                                         .calendar = m_env.calendar,
+                                                         .terminate = m_env.terminate},
+                                   std::move(collaborators));
     m_model->showCommandCenter = [this] { showCommandCenter(); };
     m_spoken = std::make_unique<SpokenEvents>(
         SpokenEvents::Environment{*m_model, m_skills, m_questions, m_env.scheduler});
 }
 
 void AppDelegate::makeCards(Collaborators& collaborators) {
-    const CardEnvironment cards{m_env.scheduler, m_env.preferences, m_skills,   m_notifications,
-                                m_cardSlot,      m_env.cardStage,   m_questions};
+    const CardEnvironment cards{
+        m_env.scheduler, m_platform.preferences, m_skills,   m_notifications,
+        m_cardSlot,      m_env.cardStage,        m_questions};
     auto recovery = std::make_unique<RecoveryNoticeController>(cards);
     m_recovery = recovery.get();
-    QObject::connect(&m_env.screens, &Screens::changed, m_recovery,
+    QObject::connect(&m_platform.screens, &Screens::changed, m_recovery,
                      &RecoveryNoticeController::showWaiting);
     collaborators.recovery = std::move(recovery);
     auto summary = std::make_unique<StopSummaryController>(cards);
@@ -146,42 +150,25 @@ void AppDelegate::makeCards(Collaborators& collaborators) {
 
 void AppDelegate::makeWindows() {
     m_router = std::make_unique<WindowRouter>(
-        WindowEnvironment{m_env.viewEngine, m_env.preferences, m_env.screens, m_env.panelHost,
-                          m_env.windowManager, m_env.scheduler, [this] { m_model->quit(); }},
+        WindowEnvironment{m_env.viewEngine, m_platform.preferences, m_platform.screens,
+                          m_platform.panelHost, m_platform.windowManager, m_env.scheduler,
+                          [this] { m_model->quit(); }},
         m_notifications);
-    registerWindows({*m_model,
-                     m_skills,
-                     m_notifications,
-                     m_env.preferences,
-                     m_env.clock,
-                     m_env.scheduler,
-                     m_env.reducedMotion,
-                     m_env.calendar,
-                     *m_router,
-                     m_autoSkill.rules(),
-                     m_focusLink,
-                     m_env.autostart,
-                     m_env.paths,
-                     m_env.ioQueue,
-                     m_env.reveal,
-                     m_env.openShortcuts,
-                     m_env.languageModel,
-                     m_env.posterSharing,
-                     m_env.trayItem,
-                     m_env.idleSource,
-                     m_env.frontmostApp,
-                     m_env.panelHost});
+    registerWindows({m_platform, *m_model, m_skills, m_notifications, m_env.clock, m_env.scheduler,
+                     m_env.calendar, *m_router, m_autoSkill.rules(), m_focusLink, m_env.paths,
+                     m_env.ioQueue, m_env.posterSharing});
     m_commandCenter =
         std::make_unique<CommandCenterController>(CommandCenterController::Environment{
-            *m_model, m_skills, m_env.preferences, m_env.clock, m_env.scheduler, *m_router,
-            m_env.viewEngine, m_env.panelHost, m_env.screens, m_env.pointerPresses, m_questions});
+            *m_model, m_skills, m_platform.preferences, m_env.clock, m_env.scheduler, *m_router,
+            m_env.viewEngine, m_platform.panelHost, m_platform.screens, m_platform.pointerPresses,
+            m_questions});
     m_commandCenter->statusItemGeometry = [this] { return m_statusItem->geometry(); };
 }
 
 void AppDelegate::makeStatusItem() {
-    m_statusItem = std::make_unique<StatusItemController>(
-        StatusItemController::Environment{m_model->tracker(), m_skills, m_env.trayItem,
-                                          m_env.scheduler, m_env.reducedMotion, m_env.screenPower});
+    m_statusItem = std::make_unique<StatusItemController>(StatusItemController::Environment{
+        m_model->tracker(), m_skills, m_platform.trayItem, m_env.scheduler,
+        m_platform.reducedMotion, m_platform.screenPower});
     m_statusItem->onClick = [this](QPoint place) {
         m_commandCenter->toggle(place);
         m_model->ensureIdleNotch();

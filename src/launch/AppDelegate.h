@@ -5,6 +5,7 @@
 #include "app/OpenQuestions.h"
 #include "launch/MissingTray.h"
 #include "launch/SpokenEvents.h"
+#include "platform/Platform.h"
 #include "sensing/AutoSkillMonitor.h"
 #include "sensing/FocusLink.h"
 #include "surfaces/commandcenter/CommandCenterController.h"
@@ -19,52 +20,27 @@
 
 namespace vantle {
 
-class Autostart;
 class CardStage;
-class LanguageModel;
-class PanelHost;
-class PointerPresses;
 class PosterSharing;
-class ProcessRunner;
 class RecoveryNoticeController;
-class Screens;
 class SharedEngine;
 class StopSummaryController;
-class TrayItem;
-class WindowManager;
 
 /// Owns the top-level objects for the life of the process. Main thread.
 class AppDelegate {
 public:
     /// All of it must outlive the delegate.
     struct Environment {
+        const Platform& platform;
         const Clock& clock;
         Scheduler& scheduler;
         SerialQueue& ioQueue;
         SerialQueue& autoSkillQueue; ///< of auto mode's own file
         const AppPaths& paths;
-        Preferences& preferences;
-        IdleSource& idleSource;
-        ScreenPower& screenPower;
-        HotKeyPort& hotKeyPort;
-        FrontmostApp& frontmostApp;
-        ProcessRunner& processRunner;
-        LanguageModel& languageModel;
         PosterSharing& posterSharing;
-        const ReducedMotion& reducedMotion;
-        Autostart& autostart;
-        TrayItem& trayItem;
         CardStage& cardStage;
         SharedEngine& viewEngine; ///< of the panel and the windows
-        PanelHost& panelHost;
-        WindowManager& windowManager;
-        const Screens& screens;
-        PointerPresses& pointerPresses;
-        QString shortcutsTool; ///< absolute path of the program that runs shortcuts
-        /// Shows a file in the person's file manager, if there is one.
-        std::function<void(const QString& path)> reveal = [](const QString&) {};
-        /// Opens the folder of shortcuts there.
-        std::function<Result<>()> openShortcuts = [] { return Result<>(); };
+        QString shortcutsTool;    ///< absolute path of the program that runs shortcuts
         /// Makes the capsule; there is none without.
         std::function<std::unique_ptr<collaborators::Notch>()> makeNotch = {};
         /// Makes what plays at both ends of a session; nothing plays without.
@@ -73,9 +49,7 @@ public:
         /// Offers to move a downloaded program; true when a copy elsewhere takes over.
         std::function<bool()> offerMoveToApplications;
         std::function<void()> terminate;           ///< ends the process
-        std::function<void()> alertAlreadyRunning; ///< tells the person, and returns when they know
-        /// Has the copy that runs show itself; whether it answered, within a few seconds.
-        std::function<bool()> showRunningCopy = [] { return false; };
+        std::function<void()> alertAlreadyRunning; ///< tells the user, and returns when they know
         /// At login, or by the bus for a call that is about to come: nothing may pop up.
         bool startedUnasked = false;
     };
@@ -115,7 +89,8 @@ private:
     void showCommandCenter();
     void showStatus();
 
-    Environment m_env;
+    const Environment m_env;
+    const Platform& m_platform;
     /// While the call may come for which the bus started the program.
     TimerHandle m_firstCall;
     SingleInstanceLock m_lock;

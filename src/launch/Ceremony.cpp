@@ -4,12 +4,14 @@
 #include "ceremony/show/CeremonyFonts.h"
 #include "ceremony/show/CeremonyFrameRenderer.h"
 #include "launch/ResourceFolders.h"
+#include "platform/Platform.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
 #include <malloc.h>
+#include <utility>
 
 namespace vantle {
 
@@ -46,23 +48,26 @@ void Ceremony::prepareProcess() {
         QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
 }
 
-Ceremony::Ceremony(const Environment& environment)
-    : m_env(environment)
-    , m_stage(m_env.clock, m_env.scheduler, m_env.panelHost)
+Ceremony::Ceremony(const Platform& platform, const Clock& clock, Scheduler& scheduler,
+                   std::unique_ptr<SerialQueue> prepQueue)
+    : m_platform(platform)
+    , m_clock(clock)
+    , m_scheduler(scheduler)
+    , m_stage(clock, scheduler, platform.panelHost)
     , m_web(webModulePath(), findPage)
-    , m_prepQueue(QLatin1String(RippleOverlayController::prepQueueLabel)) {
+    , m_prepQueue(std::move(prepQueue)) {
     ceremonyfonts::registerBundledFonts(resourcefolders::all());
 }
 
 std::unique_ptr<collaborators::Ripple> Ceremony::makeRipple() {
     return std::make_unique<RippleOverlayController>(
-        RippleOverlayController::Environment{.clock = m_env.clock,
-                                             .scheduler = m_env.scheduler,
-                                             .prepQueue = m_prepQueue,
-                                             .preferences = m_env.preferences,
-                                             .reducedMotion = m_env.reducedMotion,
-                                             .screens = m_env.screens,
-                                             .host = m_env.panelHost,
+        RippleOverlayController::Environment{.clock = m_clock,
+                                             .scheduler = m_scheduler,
+                                             .prepQueue = *m_prepQueue,
+                                             .preferences = m_platform.preferences,
+                                             .reducedMotion = m_platform.reducedMotion,
+                                             .screens = m_platform.screens,
+                                             .host = m_platform.panelHost,
                                              .stage = m_stage,
                                              .web = m_web,
                                              .random = m_random,

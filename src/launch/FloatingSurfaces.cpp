@@ -1,5 +1,6 @@
 #include "launch/FloatingSurfaces.h"
 
+#include "platform/Platform.h"
 #include "surfaces/capsule/CapsuleWindow.h"
 #include "surfaces/window/SharedEngine.h"
 
@@ -7,11 +8,14 @@
 
 namespace vantle {
 
-FloatingSurfaces::FloatingSurfaces(const Environment& environment)
-    : m_env(environment)
-    , m_engine(m_env.engine.acquire())
-    , m_cardStage({[this]() -> QQmlEngine& { return *m_env.engine.acquire(); }, m_env.panelHost,
-                   m_env.screens}) {}
+FloatingSurfaces::FloatingSurfaces(const Platform& platform, Scheduler& scheduler,
+                                   SharedEngine& engine)
+    : m_platform(platform)
+    , m_scheduler(scheduler)
+    , m_engines(engine)
+    , m_engine(engine.acquire())
+    , m_cardStage({[this]() -> QQmlEngine& { return *m_engines.acquire(); }, platform.panelHost,
+                   platform.screens}) {}
 
 FloatingSurfaces::~FloatingSurfaces() {
     // Windows go in the next turn of the event loop, of which there is none any more.
@@ -20,13 +24,13 @@ FloatingSurfaces::~FloatingSurfaces() {
 
 std::unique_ptr<collaborators::Notch> FloatingSurfaces::makeNotch() {
     return std::make_unique<NotchStatusController>(NotchStatusController::Environment{
-        .scheduler = m_env.scheduler,
-        .preferences = m_env.preferences,
-        .reducedMotion = m_env.reducedMotion,
-        .screens = m_env.screens,
+        .scheduler = m_scheduler,
+        .preferences = m_platform.preferences,
+        .reducedMotion = m_platform.reducedMotion,
+        .screens = m_platform.screens,
         .raise = [this](std::unique_ptr<NotchCapsule> capsule, const QRectF& panelFrame) {
-            return CapsuleWindow::raise(std::move(capsule), panelFrame, *m_env.engine.acquire(),
-                                        m_env.panelHost);
+            return CapsuleWindow::raise(std::move(capsule), panelFrame, *m_engines.acquire(),
+                                        m_platform.panelHost);
         }});
 }
 

@@ -10,37 +10,24 @@
 
 namespace vantle {
 
-class PanelHost;
-class Preferences;
-class ReducedMotion;
 class Scheduler;
-class Screens;
 class SharedEngine;
+struct Platform;
 
 /// Must outlive what it makes. Main thread.
 class FloatingSurfaces {
 public:
     /// All of it must outlive this object.
-    struct Environment {
-        SharedEngine& engine;
-        Scheduler& scheduler;
-        const Preferences& preferences;
-        const ReducedMotion& reducedMotion;
-        const Screens& screens;
-        PanelHost& panelHost;
-    };
-
-    explicit FloatingSurfaces(const Environment& environment);
+    FloatingSurfaces(const Platform& platform, Scheduler& scheduler, SharedEngine& engine);
     ~FloatingSurfaces();
 
     [[nodiscard]] std::unique_ptr<collaborators::Notch> makeNotch();
     [[nodiscard]] CardStage& cardStage() { return m_cardStage; }
 
 private:
-    /// For one more view.
-    [[nodiscard]] QQmlEngine& engine();
-
-    const Environment m_env;
+    const Platform& m_platform;
+    Scheduler& m_scheduler;
+    SharedEngine& m_engines;
     const std::shared_ptr<QQmlEngine> m_engine; ///< the capsule is hardly ever away
     QuickCardStage m_cardStage;
 };

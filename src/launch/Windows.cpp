@@ -2,6 +2,9 @@
 
 #include "app/AppModel.h"
 #include "launch/PosterSharing.h"
+#include "platform/FileManager.h"
+#include "platform/FileSystem.h"
+#include "platform/Platform.h"
 #include "review/WrappedView.h"
 #include "surfaces/dashboard/DashboardView.h"
 #include "surfaces/notes/LogView.h"
@@ -33,7 +36,7 @@ std::unique_ptr<QObject> makeDashboard(const WindowParts& parts) {
     return std::make_unique<DashboardView>(DashboardView::Environment{
         .model = parts.model,
         .notifications = parts.notifications,
-        .preferences = parts.preferences,
+        .preferences = parts.platform.preferences,
         .clock = parts.clock,
         .scheduler = parts.scheduler,
         .calendar = parts.calendar,
@@ -49,7 +52,7 @@ std::unique_ptr<QObject> makeDashboard(const WindowParts& parts) {
 std::unique_ptr<QObject> makeLog(const WindowParts& parts) {
     return std::make_unique<LogView>(LogView::Environment{.model = parts.model,
                                                           .notifications = parts.notifications,
-                                                          .preferences = parts.preferences,
+                                                          .preferences = parts.platform.preferences,
                                                           .clock = parts.clock,
                                                           .scheduler = parts.scheduler,
                                                           .calendar = parts.calendar,
@@ -61,8 +64,8 @@ std::unique_ptr<QObject> makeWrapped(const WindowParts& parts) {
     PosterSharing& sharing = parts.posterSharing;
     auto view = std::make_unique<WrappedView>(WrappedView::Environment{
         .notifications = parts.notifications,
-        .preferences = parts.preferences,
-        .model = parts.languageModel,
+        .preferences = parts.platform.preferences,
+        .model = parts.platform.languageModel,
         .clock = parts.clock,
         .scheduler = parts.scheduler,
         .calendar = parts.calendar,
@@ -97,26 +100,36 @@ std::optional<QString> eraseAndStartOver(AppModel& model, WindowRouter& router) 
     return failure;
 }
 
+/// Opens the folder of the user's shortcuts; makes it, private, if it is missing.
+Result<> openShortcuts(const Platform& platform) {
+    constexpr int kPrivateDirectory = 0700;
+    const QString folder = platform.folders.config + QStringLiteral("/Vantle/shortcuts");
+    if (auto made = platform.fileSystem.makeDirectories(folder, kPrivateDirectory); !made)
+        return made;
+    platform.fileManager.openFolder(folder);
+    return {};
+}
+
 std::unique_ptr<QObject> makeSettings(const WindowParts& parts) {
-    return std::make_unique<SettingsView>(
-        SettingsView::Environment{.model = parts.model,
-                                  .rules = parts.autoRules,
-                                  .focusLink = parts.focusLink,
-                                  .autostart = parts.autostart,
-                                  .preferences = parts.preferences,
-                                  .notifications = parts.notifications,
-                                  .paths = parts.paths,
-                                  .ioQueue = parts.ioQueue,
-                                  .reveal = parts.reveal,
-                                  .openShortcuts = parts.openShortcuts,
-                                  .tray = parts.tray,
-                                  .idleSource = parts.idleSource,
-                                  .frontmostApp = parts.frontmostApp,
-                                  .panelHost = parts.panelHost,
-                                  .copy = copyText,
-                                  .eraseAllData = [&model = parts.model, &router = parts.router] {
-                                      return eraseAndStartOver(model, router);
-                                  }});
+    return std::make_unique<SettingsView>(SettingsView::Environment{
+        .model = parts.model,
+        .rules = parts.autoRules,
+        .focusLink = parts.focusLink,
+        .autostart = parts.platform.autostart,
+        .preferences = parts.platform.preferences,
+        .notifications = parts.notifications,
+        .paths = parts.paths,
+        .ioQueue = parts.ioQueue,
+        .reveal = [&manager =
+                       parts.platform.fileManager](const QString& path) { manager.reveal(path); },
+        .openShortcuts = [&platform = parts.platform] { return openShortcuts(platform); },
+        .tray = parts.platform.trayItem,
+        .idleSource = parts.platform.idleSource,
+        .frontmostApp = parts.platform.frontmostApp,
+        .panelHost = parts.platform.panelHost,
+        .copy = copyText,
+        .eraseAllData = [&model = parts.model,
+                         &router = parts.router] { return eraseAndStartOver(model, router); }});
 }
 
 std::unique_ptr<QObject> makeWelcome(const WindowParts& parts, const Close& close) {
@@ -124,8 +137,8 @@ std::unique_ptr<QObject> makeWelcome(const WindowParts& parts, const Close& clos
     return std::make_unique<WelcomeView>(WelcomeView::Environment{
         .model = parts.model,
         .notifications = parts.notifications,
-        .preferences = parts.preferences,
-        .reducedMotion = parts.reducedMotion,
+        .preferences = parts.platform.preferences,
+        .reducedMotion = parts.platform.reducedMotion,
         .scheduler = parts.scheduler,
         .orderOut = [&router] { router.orderOut(WindowId::Welcome); },
         .bringForward = [&router] { router.showWelcome(); },
@@ -153,7 +166,7 @@ void registerWindows(const WindowParts& parts) {
         [](const WindowParts& p, const Close&) { return makeLog(p); });
     add(WindowId::QuickLog, "QuickLog/QuickLogForm",
         [](const WindowParts& p, const Close& close) -> std::unique_ptr<QObject> {
-            return std::make_unique<QuickLogView>(p.model, p.preferences, close);
+            return std::make_unique<QuickLogView>(p.model, p.platform.preferences, close);
         });
     add(WindowId::Wrapped, "Wrapped/WrappedPage",
         [](const WindowParts& p, const Close&) { return makeWrapped(p); });

@@ -36,13 +36,13 @@ TEST_F(AppDelegateTest, ASecondCopyShowsOnlyTheAlertAndLeavesTheSessionOfTheFirs
 TEST_F(AppDelegateTest, SecondCopyEndsWithoutAWordWhenTheFirstShowsItself) {
     const auto first = makeCopy();
     ASSERT_TRUE(first->applicationDidFinishLaunching());
-    runningCopyAnswers = true;
+    runningCopy.answers = true;
     EXPECT_FALSE(makeCopy()->applicationDidFinishLaunching());
     EXPECT_EQ(alerts, 0);
-    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(runningCopy.calls, 1);
 
     EXPECT_FALSE(makeCopy(true)->applicationDidFinishLaunching()) << "nobody asked for the panel";
-    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(runningCopy.calls, 1);
 }
 
 TEST_F(AppDelegateTest, TheLockIsFreeAgainAfterTheFirstCopyHasGone) {
@@ -62,7 +62,7 @@ TEST_F(AppDelegateTest, ABrokenSupportDirectoryIsNoReasonNotToStart) {
     time.settle();
     EXPECT_EQ(app->model()->tracker().state(), State::Running);
     EXPECT_TRUE(app->model()->tracker().storageError());
-    EXPECT_TRUE(tray.toolTip.contains(text("Couldn’t save your hours.")));
+    EXPECT_TRUE(trayItem.toolTip.contains(text("Couldn’t save your hours.")));
 }
 
 TEST_F(AppDelegateTest, TheProgramRegistersItselfAtLoginOnce) {
@@ -115,15 +115,15 @@ TEST_F(AppDelegateTest, MenuOfTheTrayItemOpensStartsStopsAndQuits) {
     const auto app = makeCopy(true);
     ASSERT_TRUE(app->applicationDidFinishLaunching());
     time.settle();
-    ASSERT_TRUE(tray.choose(text("Open")));
+    ASSERT_TRUE(trayItem.choose(text("Open")));
     EXPECT_TRUE(app->commandCenter()->isShown());
-    ASSERT_TRUE(tray.choose(text("Start")));
+    ASSERT_TRUE(trayItem.choose(text("Start")));
     time.settle();
     EXPECT_EQ(app->model()->tracker().state(), State::Running);
-    ASSERT_TRUE(tray.choose(text("Stop")));
+    ASSERT_TRUE(trayItem.choose(text("Stop")));
     time.settle();
     EXPECT_EQ(app->model()->tracker().state(), State::Idle);
-    ASSERT_TRUE(tray.choose(text("Quit")));
+    ASSERT_TRUE(trayItem.choose(text("Quit")));
     EXPECT_EQ(terminations, 1);
 }
 
@@ -140,13 +140,13 @@ TEST_F(AppDelegateTest, NoticeThatFoundNoScreenComesWithTheFirstOne) {
 }
 
 TEST_F(AppDelegateTest, FirstPanelWaitsUntilTheTrayHasPlacedTheItem) {
-    shapes.shapes = fakes::FakeScreens().shapes;
-    tray.placePending = true;
+    screens.shapes = fakes::FakeScreens().shapes;
+    trayItem.placePending = true;
     const auto app = makeCopy();
     ASSERT_TRUE(app->applicationDidFinishLaunching());
     time.advance(0.4);
     EXPECT_FALSE(app->commandCenter()->isShown());
-    tray.moveTo(QRect(1000, 0, 24, 24));
+    trayItem.moveTo(QRect(1000, 0, 24, 24));
     ASSERT_TRUE(app->commandCenter()->isShown());
     const FloatingPanel* const panel = app->commandCenter()->panel();
     const QRect frame = panel->inputRegion().boundingRect().translated(panel->position());
@@ -157,8 +157,8 @@ TEST_F(AppDelegateTest, FirstPanelWaitsUntilTheTrayHasPlacedTheItem) {
 }
 
 TEST_F(AppDelegateTest, FirstPanelOpensInTheCornerWhereNoTrayPlacesTheItem) {
-    shapes.shapes = fakes::FakeScreens().shapes;
-    tray.placePending = true;
+    screens.shapes = fakes::FakeScreens().shapes;
+    trayItem.placePending = true;
     const auto app = makeCopy();
     ASSERT_TRUE(app->applicationDidFinishLaunching());
     time.advance(0.6);
@@ -190,9 +190,9 @@ TEST_F(AppDelegateTest, AClickOnTheTrayItemHidesThePanelOfAStartByHandAndAnother
     ASSERT_TRUE(app->applicationDidFinishLaunching());
     time.settle();
     EXPECT_TRUE(app->commandCenter()->isShown());
-    Q_EMIT tray.clicked({1000, 14});
+    Q_EMIT trayItem.clicked({1000, 14});
     EXPECT_FALSE(app->commandCenter()->isShown());
-    Q_EMIT tray.clicked({1000, 14});
+    Q_EMIT trayItem.clicked({1000, 14});
     EXPECT_TRUE(app->commandCenter()->isShown());
 }
 
@@ -235,9 +235,9 @@ TEST_F(AppDelegateTest, TheTrayTellsWhatTheSurfacesWould) {
     const auto app = makeCopy();
     ASSERT_TRUE(app->applicationDidFinishLaunching());
     time.settle();
-    EXPECT_EQ(tray.toolTip, text("Vantle"));
+    EXPECT_EQ(trayItem.toolTip, text("Vantle"));
     app->model()->quickLog(text("building"), 5, QString());
-    EXPECT_EQ(tray.toolTip, text("Vantle\nLogged 5 min manually (stays on this Mac)"));
+    EXPECT_EQ(trayItem.toolTip, text("Vantle\nLogged 5 min manually (stays on this Mac)"));
 }
 
 TEST_F(AppDelegateTest, AShortcutHeldByAnotherApplicationIsTold) {
@@ -245,7 +245,7 @@ TEST_F(AppDelegateTest, AShortcutHeldByAnotherApplicationIsTold) {
     const auto app = makeCopy();
     ASSERT_TRUE(app->applicationDidFinishLaunching());
     time.settle();
-    EXPECT_EQ(tray.toolTip, text("Vantle\n⌥⌘B is already used by another app."));
+    EXPECT_EQ(trayItem.toolTip, text("Vantle\n⌥⌘B is already used by another app."));
 }
 
 TEST_F(AppDelegateTest, AnOfferedSessionIsKeptOrDiscardedByAction) {
@@ -254,7 +254,7 @@ TEST_F(AppDelegateTest, AnOfferedSessionIsKeptOrDiscardedByAction) {
         const auto app = makeCopy();
         ASSERT_TRUE(app->applicationDidFinishLaunching());
         time.settle();
-        EXPECT_EQ(tray.toolTip,
+        EXPECT_EQ(trayItem.toolTip,
                   text("Vantle\nFound 2 min from the previous run · choose Keep or Discard"));
         const auto before = log().size();
         app->performAction(text(action));

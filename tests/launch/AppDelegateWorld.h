@@ -2,25 +2,8 @@
 #pragma once
 
 #include "app/PreferenceKeys.h"
-#include "fakes/FakeAutostart.h"
 #include "fakes/FakeCardStage.h"
-#include "fakes/FakeFrontmostApp.h"
-#include "fakes/FakeHotKeyPort.h"
-#include "fakes/FakeIdleSource.h"
-#include "fakes/FakeImageClipboard.h"
-#include "fakes/FakeLanguageModel.h"
-#include "fakes/FakePanelHost.h"
-#include "fakes/FakePointerPresses.h"
-#include "fakes/FakeProcessRunner.h"
-#include "fakes/FakeReducedMotion.h"
-#include "fakes/FakeSaveDialog.h"
-#include "fakes/FakeScreenPower.h"
-#include "fakes/FakeScreens.h"
-#include "fakes/FakeTrayItem.h"
-#include "fakes/FakeWindowManager.h"
-#include "fakes/MemoryFileSystem.h"
-#include "fakes/MemoryPreferences.h"
-#include "fakes/VirtualTime.h"
+#include "fakes/FakeDesktop.h"
 #include "launch/AppDelegate.h"
 #include "launch/PosterSharing.h"
 #include "support/Text.h"
@@ -54,39 +37,26 @@ private:
 };
 
 /// A machine on which copies of the program are started, by somebody who knows it already.
-class AppDelegateWorld {
+class AppDelegateWorld : protected fakes::FakeDesktop {
 protected:
     AppDelegateWorld() {
         time.attach(ioQueue);
         time.attach(autoSkillQueue);
         preferences.setBoolean(preferencekeys::onboardDone, true);
-        shapes.shapes.clear(); // nothing to show the panel on, which takes its time
+        screens.shapes.clear(); // nothing to show the panel on, which takes its time
     }
 
     std::unique_ptr<AppDelegate> makeCopy(bool atLogin = false) {
         return std::make_unique<AppDelegate>(AppDelegate::Environment{
+            .platform = platform,
             .clock = time,
             .scheduler = time,
             .ioQueue = ioQueue,
             .autoSkillQueue = autoSkillQueue,
             .paths = paths,
-            .preferences = preferences,
-            .idleSource = idleSource,
-            .screenPower = screens,
-            .hotKeyPort = hotKeyPort,
-            .frontmostApp = frontmostApp,
-            .processRunner = processRunner,
-            .languageModel = languageModel,
             .posterSharing = posterSharing,
-            .reducedMotion = reducedMotion,
-            .autostart = autostart,
-            .trayItem = tray,
             .cardStage = cardStage,
             .viewEngine = viewEngine,
-            .panelHost = panelHost,
-            .windowManager = windowManager,
-            .screens = shapes,
-            .pointerPresses = pointerPresses,
             .shortcutsTool = text("/bin/vantle-shortcuts"),
             .makeNotch = [this] { return std::make_unique<Capsule>(capsule); },
             .calendar =
@@ -96,12 +66,11 @@ protected:
             .offerMoveToApplications = [this] { return movesAway; },
             .terminate = [this] { ++terminations; },
             .alertAlreadyRunning = [this] { ++alerts; },
-            .showRunningCopy = [this] { return ++calls > 0 && runningCopyAnswers; },
             .startedUnasked = atLogin});
     }
 
     /// The desktop gets its first screen.
-    void connectScreen() { shapes.arrange(fakes::FakeScreens().shapes); }
+    void connectScreen() { screens.arrange(fakes::FakeScreens().shapes); }
 
     /// The titles of the windows that can be seen.
     [[nodiscard]] static QStringList openWindows(AppDelegate& app) {
@@ -130,35 +99,15 @@ protected:
         return disk.exists(text("/data/Vantle/") + QLatin1String(name));
     }
 
-    fakes::VirtualTime time;
     fakes::ManualQueue ioQueue;
     fakes::ManualQueue autoSkillQueue;
-    fakes::MemoryFileSystem disk;
-    fakes::MemoryPreferences preferences;
-    fakes::FakeIdleSource idleSource{time};
-    fakes::FakeScreenPower screens;
-    fakes::FakeHotKeyPort hotKeyPort;
-    fakes::FakeFrontmostApp frontmostApp;
-    fakes::FakeProcessRunner processRunner;
-    fakes::FakeLanguageModel languageModel;
-    fakes::FakeReducedMotion reducedMotion;
-    fakes::FakeTrayItem tray;
     fakes::FakeCardStage cardStage;
     SharedEngine viewEngine;
-    fakes::FakePanelHost panelHost;
-    fakes::FakeWindowManager windowManager;
-    fakes::FakeScreens shapes;
-    fakes::FakePointerPresses pointerPresses;
-    fakes::FakeAutostart autostart;
-    AppPaths paths{disk, text("/data")};
-    fakes::FakeImageClipboard clipboard;
-    fakes::FakeSaveDialog saveDialog;
+    AppPaths paths{disk, platform.folders.data};
     PosterSharing posterSharing{{clipboard, saveDialog, disk, time, ioQueue}};
     QString capsule; ///< what it shows; empty when there is none
     int terminations = 0;
     int alerts = 0;
-    int calls = 0; ///< of the copy that runs
-    bool runningCopyAnswers = false;
     bool movesAway = false;
 };
 

@@ -4,12 +4,16 @@
 #include "base/Scheduler.h"
 #include "support/Await.h"
 
+#include <QDir>
+#include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 #include <map>
+#include <optional>
 
 namespace vantle::tests {
 namespace {
@@ -64,43 +68,54 @@ private:
 
 class PlatformFactoryTest : public testing::Test {
 protected:
-    [[nodiscard]] Platform& platform() {
-        if (!m_platform)
-            m_platform = platformfactory::makePlatform(m_scheduler,
-                                                       {.activated = [] {},
-                                                        .actionActivated = {},
-                                                        .endRequested = [] {},
-                                                        .displayLost = [] {}},
-                                                       QProcessEnvironment());
+    [[nodiscard]] const Platform& platform() {
+        if (!m_owner)
+            m_owner.emplace(platformfactory::makePlatform(m_scheduler, {}, QProcessEnvironment()));
+        if (!m_platform) m_platform.emplace(m_owner->ports());
         return *m_platform;
     }
     void expectWaylandSession() {
-        EXPECT_FALSE(platform().idleSource().canTell());
-        EXPECT_FALSE(platform().idleSource().secondsSinceLastInput());
-        EXPECT_EQ(platform().frontmostApp().coverage(), AppCoverage::None);
-        EXPECT_FALSE(platform().frontmostApp().frontmost());
-        EXPECT_FALSE(platform().hotKeyPort().hearsEveryApp());
-        EXPECT_FALSE(platform().panelHost().tellsPointer());
-        EXPECT_TRUE(platform().panelHost().isComposited());
+        EXPECT_FALSE(platform().idleSource.canTell());
+        EXPECT_FALSE(platform().idleSource.secondsSinceLastInput());
+        EXPECT_EQ(platform().frontmostApp.coverage(), AppCoverage::None);
+        EXPECT_FALSE(platform().frontmostApp.frontmost());
+        EXPECT_FALSE(platform().hotKeyPort.hearsEveryApp());
+        EXPECT_FALSE(platform().panelHost.tellsPointer());
+        EXPECT_TRUE(platform().panelHost.isComposited());
     }
     void expectX11Session() {
-        EXPECT_TRUE(platform().idleSource().canTell());
-        EXPECT_TRUE(platform().idleSource().secondsSinceLastInput());
-        EXPECT_NE(platform().frontmostApp().coverage(), AppCoverage::None);
-        EXPECT_TRUE(platform().hotKeyPort().hearsEveryApp());
-        EXPECT_TRUE(platform().panelHost().tellsPointer());
-        EXPECT_TRUE(platform().panelHost().hasInputRegions());
-        EXPECT_FALSE(platform().panelHost().isComposited());
+        EXPECT_TRUE(platform().idleSource.canTell());
+        EXPECT_TRUE(platform().idleSource.secondsSinceLastInput());
+        EXPECT_NE(platform().frontmostApp.coverage(), AppCoverage::None);
+        EXPECT_TRUE(platform().hotKeyPort.hearsEveryApp());
+        EXPECT_TRUE(platform().panelHost.tellsPointer());
+        EXPECT_TRUE(platform().panelHost.hasInputRegions());
+        EXPECT_FALSE(platform().panelHost.isComposited());
     }
 
     QtScheduler m_scheduler;
     SessionVariables variables;
 
 private:
-    std::unique_ptr<Platform> m_platform;
+    std::optional<PlatformOwner> m_owner;
+    std::optional<Platform> m_platform;
 };
 
 TEST_F(PlatformFactoryTest, AnX11SessionTellsAll) { expectX11Session(); }
+
+TEST_F(PlatformFactoryTest, FilesLieWhereTheSessionPutsThem) {
+    const QTemporaryDir folder;
+    const QString config = folder.filePath(QStringLiteral("settings"));
+    variables.set("XDG_CONFIG_HOME", QFile::encodeName(config));
+    variables.set("XDG_DATA_HOME", "relative/paths/count/for/nothing");
+    EXPECT_EQ(platform().folders.config, config);
+    EXPECT_EQ(platform().folders.data, QDir::homePath() + QStringLiteral("/.local/share"));
+
+    platform().preferences.setBoolean(QLatin1String("a.flag"), true);
+    EXPECT_TRUE(QFile::exists(config + QStringLiteral("/Vantle/preferences.ini")));
+    EXPECT_TRUE(platform().autostart.registerItem());
+    EXPECT_TRUE(QFile::exists(config + QStringLiteral("/autostart/local.vantle.Vantle.desktop")));
+}
 
 TEST_F(PlatformFactoryTest, VariablesOfAWaylandSessionMakeNoneOfAnX11Server) {
     variables.set("WAYLAND_DISPLAY", "wayland-0");

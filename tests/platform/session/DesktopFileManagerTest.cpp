@@ -151,6 +151,11 @@ TEST_F(DesktopFileManagerTest, WithoutAnyOpenerNothingHappens) {
     EXPECT_TRUE(m_runner.detached.empty());
 }
 
+Result<> moveToTrash(const QString& path) {
+    fakes::FakeProcessRunner runner;
+    return DesktopFileManager(tests::noBus(), runner).moveToTrash(path);
+}
+
 TEST(FileManagerTrash, TrashedFileIsGoneFromItsPlaceAndKeptInTheTrash) {
     const QTemporaryDir home;
     const QByteArray before = qgetenv("XDG_DATA_HOME");
@@ -161,7 +166,7 @@ TEST(FileManagerTrash, TrashedFileIsGoneFromItsPlaceAndKeptInTheTrash) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write("program");
     }
-    EXPECT_TRUE(DesktopFileManager::moveToTrash(path));
+    EXPECT_TRUE(moveToTrash(path));
     EXPECT_FALSE(QFile::exists(path));
     EXPECT_TRUE(QFile::exists(home.filePath(QStringLiteral("data/Trash/files/an old copy"))));
     if (before.isNull())
@@ -171,7 +176,7 @@ TEST(FileManagerTrash, TrashedFileIsGoneFromItsPlaceAndKeptInTheTrash) {
 }
 
 TEST(FileManagerTrash, FileThatIsNotThereCannotBeTrashed) {
-    const auto trashed = DesktopFileManager::moveToTrash(QStringLiteral("/nowhere/at all"));
+    const auto trashed = moveToTrash(QStringLiteral("/nowhere/at all"));
     ASSERT_FALSE(trashed);
     EXPECT_TRUE(trashed.error().description().contains(QStringLiteral("/nowhere/at all")));
 }

@@ -1,0 +1,140 @@
+#include "launch/Program.h"
+
+#include "base/SerialQueue.h"
+#include "launch/InstallLocation.h"
+#include "platform/FileManager.h"
+#include "platform/ProcessRunner.h"
+#include "platform/ReducedMotion.h"
+#include "sensing/AutoRules.h"
+#include "surfaces/alert/ModalPresenter.h"
+#include "surfaces/kit/tokens/Motion.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStorageInfo>
+
+namespace vantle {
+
+namespace {
+
+void alertAlreadyRunning(PanelHost& host) {
+    (void)modalpresenter::runAlert(
+        {QStringLiteral("Vantle is already running"),
+         QStringLiteral("Another copy of Vantle is already using this Mac's data. This one will "
+                        "close so your history stays safe."),
+         {QStringLiteral("OK")}},
+        host);
+}
+
+/// The small program that runs the user's shortcuts lies beside this one.
+QString shortcutsTool() {
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/vantle-shortcuts");
+}
+
+/// Where this program lies, as the installer wants to know it. Where the user put it on purpose
+/// counts as its proper place.
+AppInstaller::Place thisProgram(FileSystem& files) {
+    const QString folder = QCoreApplication::applicationDirPath();
+    const bool isOnPurpose = installlocation::isOnPurpose(files, folder);
+    const QString home = QFileInfo(QDir::homePath()).canonicalFilePath();
+    AppInstaller::Place place;
+    place.home = home;
+    place.program = isOnPurpose
+                        ? installlocation::target(home)
+                        : QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
+    place.companions = installlocation::companions(folder, home);
+    place.isReadOnly = QStorageInfo(folder).isReadOnly();
+    return place;
+}
+
+AppInstaller::Operations installOperations(const Platform& platform) {
+    return {.runAlert = [&host = platform.panelHost](
+                            const Alert& alert) { return modalpresenter::runAlert(alert, host); },
+            .moveToTrash = [&files = platform.fileManager](
+                               const QString& path) { return files.moveToTrash(path); },
+            .reveal = [&files = platform.fileManager](const QString& path) { files.reveal(path); },
+            .start =
+                [&runner = platform.processRunner](const QString& program) {
+                    return runner.startDetached({program, {}});
+                },
+            .terminate = [] { QCoreApplication::exit(); }};
+}
+
+} // namespace
+
+Program::Program(const Platform& platform, const Process& process)
+    : m_platform(platform)
+    , m_process(process)
+    , m_paths(platform.fileSystem, platform.folders.data)
+    , m_ioQueue(process.makeQueue(QStringLiteral("local.vantle.tracker-io")))
+    , m_autoSkillQueue(process.makeQueue(QLatin1String(AutoRules::ioQueueLabel)))
+    , m_exportQueue(process.makeQueue(QStringLiteral("local.vantle.export-io")))
+    , m_posterSharing({platform.imageClipboard, platform.saveDialog, platform.fileSystem,
+                       process.scheduler, *m_exportQueue})
+    , m_installer(platform.preferences, platform.fileSystem, thisProgram(platform.fileSystem),
+                  installOperations(platform))
+    , m_ceremony(m_platform, process.clock, process.scheduler,
+                 process.makeQueue(QLatin1String(RippleOverlayController::prepQueueLabel)))
+    , m_viewEngine([&motion = platform.reducedMotion](QQmlEngine& engine) {
+        Motion::of(engine)->setReduced(motion.enabled());
+    })
+    , m_surfaces(m_platform, process.scheduler, m_viewEngine)
+    , m_delegate(environment()) {
+    QObject::connect(&platform.reducedMotion, &ReducedMotion::changed, &m_context,
+                     [this] { m_viewEngine.refresh(); });
+}
+
+Program::~Program() = default;
+
+AppDelegate::Environment Program::environment() {
+    return {.platform = m_platform,
+            .clock = m_process.clock,
+            .scheduler = m_process.scheduler,
+            .ioQueue = *m_ioQueue,
+            .autoSkillQueue = *m_autoSkillQueue,
+            .paths = m_paths,
+            .posterSharing = m_posterSharing,
+            .cardStage = m_surfaces.cardStage(),
+            .viewEngine = m_viewEngine,
+            .shortcutsTool = shortcutsTool(),
+            .makeNotch = [this] { return m_surfaces.makeNotch(); },
+            .makeRipple = [this] { return m_ceremony.makeRipple(); },
+            .calendar = m_process.calendar,
+            // Told to end while the offer stands, it must not take that for "not now" and go on.
+            .offerMoveToApplications =
+                [this] {
+                    return m_installer.offerMoveToApplicationsIfNeeded() || m_process.isEnding();
+                },
+            .terminate = m_process.terminate,
+            .alertAlreadyRunning =
+                [this] {
+                    if (!m_process.isEnding()) alertAlreadyRunning(m_platform.panelHost);
+                },
+            .startedUnasked = m_process.startedUnasked};
+}
+
+bool Program::start() {
+    m_isUp = m_delegate.applicationDidFinishLaunching();
+    return m_isUp;
+}
+
+void Program::reopen() {
+    if (m_isUp) m_delegate.applicationShouldHandleReopen();
+}
+
+void Program::performAction(const QString& name) {
+    if (m_isUp) m_delegate.performAction(name);
+}
+
+void Program::stop() {
+    if (m_isUp) m_delegate.applicationWillTerminate();
+}
+
+void Program::stopUnseen() {
+    m_delegate.applicationWillTerminateUnseen();
+    m_ceremony.settle();
+    m_exportQueue->drain();
+}
+
+} // namespace vantle

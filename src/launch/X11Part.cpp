@@ -1,0 +1,56 @@
+#include "base/Clock.h"
+#include "launch/PlatformParts.h"
+#include "platform/CannotTell.h"
+#include "platform/x11/LostServer.h"
+#include "platform/x11/X11Connection.h"
+#include "platform/x11/X11FrontmostApp.h"
+#include "platform/x11/X11HotKey.h"
+#include "platform/x11/X11IdleSource.h"
+#include "platform/x11/X11PanelHost.h"
+#include "platform/x11/X11PointerPresses.h"
+#include "platform/x11/X11RawPresses.h"
+#include "platform/x11/X11ScreenPower.h"
+#include "platform/x11/X11Struts.h"
+#include "platform/x11/X11WindowManager.h"
+#include "platform/x11/XwaylandTraits.h"
+
+namespace vantle::platformparts {
+
+namespace {
+
+struct X11Server {
+    X11Connection x11;
+    SystemClock clock;
+    X11RawPresses presses{x11};
+};
+
+} // namespace
+
+Display makeX11(Scheduler& scheduler, const PlatformEvents& events, const Posix& posix) {
+    const auto server = std::make_shared<X11Server>();
+    X11Connection& x11 = server->x11;
+    endSilentlyWithServer();
+    QObject::connect(&x11, &X11Connection::broken, &x11, [lost = events.displayLost] { lost(); });
+    const XwaylandTraits xwayland = xwaylandTraits(x11);
+    // Xwayland sees only the input that goes to X11 windows, and calls the last X11 window active
+    // while the user works in another one. What it says of either is worse than nothing.
+    std::unique_ptr<IdleSource> idleSource = std::make_unique<NoIdleSource>();
+    std::unique_ptr<FrontmostApp> frontmostApp = std::make_unique<NoFrontmostApp>();
+    if (!xwayland.isXwayland) {
+        idleSource = std::make_unique<X11IdleSource>(x11, server->clock);
+        frontmostApp = std::make_unique<X11FrontmostApp>(x11, scheduler, posix.identify);
+    }
+    return {.connection = server,
+            .tellsPointer = !xwayland.isXwayland,
+            .idleSource = std::move(idleSource),
+            .frontmostApp = std::move(frontmostApp),
+            .hotKeyPort = std::make_unique<X11HotKey>(x11, scheduler, xwayland.isXwayland),
+            .screenPower = std::make_unique<X11ScreenPower>(x11, scheduler,
+                                                            X11ScreenPower::powerManagement(x11)),
+            .reservedStrips = std::make_unique<X11Struts>(x11),
+            .panelHost = std::make_unique<X11PanelHost>(x11, scheduler, server->presses, xwayland),
+            .windowManager = std::make_unique<X11WindowManager>(x11),
+            .pointerPresses = std::make_unique<X11PointerPresses>(server->presses)};
+}
+
+} // namespace vantle::platformparts

@@ -1,0 +1,72 @@
+// A whole desktop that is made up: one fake for each port.
+#pragma once
+
+#include "fakes/FakeAutostart.h"
+#include "fakes/FakeFileManager.h"
+#include "fakes/FakeFrontmostApp.h"
+#include "fakes/FakeHotKeyPort.h"
+#include "fakes/FakeIdleSource.h"
+#include "fakes/FakeImageClipboard.h"
+#include "fakes/FakeLanguageModel.h"
+#include "fakes/FakePanelHost.h"
+#include "fakes/FakePointerPresses.h"
+#include "fakes/FakeProcessRunner.h"
+#include "fakes/FakeReducedMotion.h"
+#include "fakes/FakeRunningCopy.h"
+#include "fakes/FakeSaveDialog.h"
+#include "fakes/FakeScreenPower.h"
+#include "fakes/FakeScreens.h"
+#include "fakes/FakeTrayItem.h"
+#include "fakes/FakeWindowManager.h"
+#include "fakes/MemoryFileSystem.h"
+#include "fakes/MemoryPreferences.h"
+#include "fakes/VirtualTime.h"
+#include "platform/Platform.h"
+
+namespace vantle::fakes {
+
+struct FakeDesktop {
+    VirtualTime time;
+    MemoryFileSystem disk;
+    MemoryPreferences preferences;
+    FakeProcessRunner processRunner;
+    FakeLanguageModel languageModel;
+    FakeAutostart autostart;
+    FakeIdleSource idleSource{time};
+    FakeFrontmostApp frontmostApp;
+    FakeHotKeyPort hotKeyPort;
+    FakePanelHost panelHost;
+    FakeWindowManager windowManager;
+    FakePointerPresses pointerPresses;
+    FakeScreenPower screenPower;
+    FakeScreens screens;
+    FakeReducedMotion reducedMotion;
+    FakeTrayItem trayItem;
+    FakeImageClipboard clipboard;
+    FakeSaveDialog saveDialog;
+    FakeFileManager fileManager;
+    FakeRunningCopy runningCopy;
+
+    const Platform platform{.fileSystem = disk,
+                            .folders = {QStringLiteral("/config"), QStringLiteral("/data")},
+                            .preferences = preferences,
+                            .processRunner = processRunner,
+                            .languageModel = languageModel,
+                            .autostart = autostart,
+                            .idleSource = idleSource,
+                            .frontmostApp = frontmostApp,
+                            .hotKeyPort = hotKeyPort,
+                            .panelHost = panelHost,
+                            .windowManager = windowManager,
+                            .pointerPresses = pointerPresses,
+                            .screenPower = screenPower,
+                            .screens = screens,
+                            .reducedMotion = reducedMotion,
+                            .trayItem = trayItem,
+                            .imageClipboard = clipboard,
+                            .saveDialog = saveDialog,
+                            .fileManager = fileManager,
+                            .runningCopy = runningCopy};
+};
+
+} // namespace vantle::fakes
