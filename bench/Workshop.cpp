@@ -33,6 +33,8 @@ std::unique_ptr<AppModel> Workshop::makeModel(std::function<Calendar()> calendar
                                                             .hotKeyPort = m_hotKeyPort,
                                                             .reducedMotion = m_reducedMotion,
                                                             .cardSlot = m_cardSlot,
+                                                            .autoSkill = m_autoSkill,
+                                                            .focusLink = m_focusLink,
                                                             .calendar = std::move(calendar)},
                                       Collaborators());
 }

@@ -5,12 +5,16 @@
 #include "base/Clock.h"
 #include "base/Scheduler.h"
 #include "base/SerialQueue.h"
+#include "fakes/FakeFrontmostApp.h"
 #include "fakes/FakeHotKeyPort.h"
+#include "fakes/FakeProcessRunner.h"
 #include "fakes/FakeReducedMotion.h"
 #include "fakes/FakeScreenPower.h"
 #include "platform/CannotTell.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/SettingsPreferences.h"
+#include "sensing/AutoSkillMonitor.h"
+#include "sensing/FocusLink.h"
 #include "tracking/AppPaths.h"
 #include "tracking/NotificationCenter.h"
 #include "tracking/SkillList.h"
@@ -56,6 +60,11 @@ private:
     fakes::FakeHotKeyPort m_hotKeyPort;
     fakes::FakeReducedMotion m_reducedMotion;
     TopRightCardSlot m_cardSlot;
+    fakes::FakeFrontmostApp m_frontmost;
+    AutoSkillMonitor m_autoSkill{{m_clock, m_scheduler, m_queue, m_paths, m_preferences, m_skills,
+                                  m_frontmost, m_idleSource, QString()}};
+    fakes::FakeProcessRunner m_runner;
+    FocusLink m_focusLink{m_preferences, m_runner, QString()};
 };
 
 } // namespace vantle::bench

@@ -1,11 +1,11 @@
-// What the application model needs of the surfaces, the ceremony and auto mode, and no more.
+// What the application model needs of the surfaces, and no more.
 //
-// Each class is met only through these operations. The bodies here are those of a collaborator that
-// is not there: nothing is shown, no prompt is taken, no application is known. All on the main
-// thread; every callback handed over may be called at any later time, or never.
+// A surface is met only through these operations. The bodies here are those of a surface that is
+// not there: nothing is shown and no question is taken. All on the main thread. A callback that is
+// handed over may be called at any later time, or never. A surface that can't show what it is told
+// says so by its return value, else it fails silently: no session depends on one.
 #pragma once
 
-#include "platform/FrontmostApp.h"
 #include "tracking/Session.h"
 #include "tracking/Skill.h"
 #include "tracking/TrackerCore.h"
@@ -44,14 +44,19 @@ namespace collaborators {
 class Ripple {
 public:
     virtual ~Ripple() = default;
+    /// Called after the capsule was told of the start or the end of a session, never at a change of
+    /// skill. Ends a show that still plays; the name is empty at an end.
     virtual void play(CeremonyShow, std::uint32_t /*hexRGB*/,
                       const std::optional<QString>& /*skillName*/) {}
 };
 
 /// How the capsule changes skills in place.
 struct SkillEditCallbacks {
+    /// A skill gets another name or colour.
     std::function<void(const QString& id, const QString& name, std::uint32_t hexRGB)> onUpdate;
+    /// A skill goes, with the rules that name it.
     std::function<void(const QString& id)> onDelete;
+    /// There is a new skill.
     std::function<void(const QString& name, std::uint32_t hexRGB)> onAdd;
 };
 
@@ -59,16 +64,26 @@ struct SkillEditCallbacks {
 class Notch {
 public:
     virtual ~Notch() = default;
+    /// Called when a session has started, by the tracker's own call. Follows the tracker, which
+    /// outlives the capsule's window, until hide(); flashes at once where no ceremony plays.
     virtual void show(TrackerCore&, const Skill&, const std::vector<Skill>&, bool /*flash*/,
                       std::function<void()> /*onStop*/,
                       std::function<void(const QString&)> /*onPick*/) {}
+    /// Called while no session is open: at launch, after a session, and when the skills change.
+    /// Replaces an earlier prompt.
     virtual void showIdlePrompt(TrackerCore&, const Skill&, const std::vector<Skill>&,
                                 bool /*flash*/, std::function<void()> /*onStart*/,
                                 std::function<void(const QString&)> /*onPick*/,
                                 SkillEditCallbacks /*edit*/) {}
+    /// Called when the open session goes on under another skill or name, with a flash, and when
+    /// another skill is chosen for the next start, without one.
     virtual void retag(const Skill&, bool /*flash*/) {}
+    /// Called when a session has ended, before showIdlePrompt(). Not at the end of a process whose
+    /// screen is gone.
     virtual void hide() {}
+    /// Called after the ceremony of a start, if the session is still open.
     virtual void flashSessionStart() {}
+    /// Called once in an installation's life, after the panel was opened without a session.
     virtual void flashIdleCard() {}
 };
 
@@ -84,9 +99,11 @@ public:
         bool showHotkeyHint = false;
         bool spotlightNote = false;
     };
+    /// Called when a session has ended and was logged, also a practice session that was deleted
+    /// again. `onClose` gets the note, or nothing when none was written.
     virtual void show(const Content&,
                       std::function<void(const std::optional<QString>& note)> /*onClose*/) {}
-    /// The last session is out of reach: another one begins, or it was erased.
+    /// Called when the last session is out of reach: another one begins, or it was erased.
     virtual void forgetNote() {}
 };
 
@@ -94,9 +111,12 @@ public:
 class Recovery {
 public:
     virtual ~Recovery() = default;
+    /// Called once, after launch. Waits for the corner while another card has it; without an answer
+    /// the next launch offers the session again.
     virtual void show(const Session&, std::function<void()> /*onDiscard*/,
                       std::function<void()> /*onKeep*/) {}
-    /// Takes the notice down, and gives up its place among the cards.
+    /// Called before all data is erased. Takes the notice down, and gives up its place among the
+    /// cards.
     virtual void hideForEviction() {}
 };
 
@@ -109,13 +129,15 @@ public:
         Kind kind = Kind::Dismiss;
         QString skillId; ///< when Tagged
     };
-    /// What an unknown application is for. False when the question can't be asked now.
+    /// Asks what an unknown application is for. Called when auto mode suggests it. Returns false
+    /// when the question can't be asked now; `onResolve` is not called then.
     [[nodiscard]] virtual bool show(const QString& /*appName*/, const std::vector<Skill>&,
                                     bool /*isCounting*/, bool /*isBrowser*/,
                                     std::function<void(const Outcome&)> /*onResolve*/) {
         return false;
     }
-    /// Whether the application always counts as the skill. False when it can't be asked now.
+    /// Asks whether the application always counts as the skill. Called when the user has split the
+    /// session by hand. Returns false as show().
     [[nodiscard]] virtual bool showCorrection(const QString& /*appName*/, const Skill&,
                                               std::function<void(bool)> /*onResolve*/) {
         return false;
@@ -126,58 +148,10 @@ public:
 class RetagToast {
 public:
     virtual ~RetagToast() = default;
+    /// Called when the user has split the session by hand, with what was logged of it.
+    /// Needs no place in the corner.
     virtual void show(const QString& /*name*/, std::uint32_t /*color*/, std::int64_t /*seconds*/) {}
 };
-
-/// The person's own commands at both ends of a session.
-class FocusLink {
-public:
-    virtual ~FocusLink() = default;
-    virtual void sessionStarted() {}
-    virtual void sessionEnded() {}
-};
-
-/// Auto mode: rules that file time by the application in front.
-class AutoSkill {
-public:
-    virtual ~AutoSkill() = default;
-
-    /// How auto mode sees the open session, and how it answers. Set once by the model.
-    struct Hooks {
-        std::function<TrackerCore::State()> sessionState;
-        std::function<std::optional<QString>()> sessionSkillId;
-        std::function<std::optional<QString>()> sessionBundleId;
-        std::function<void(const QString& skillId)> onRetagSuggested;
-        std::function<void(const QString& skillId)> onAutoStart;
-        std::function<void(const QString& bundleId, const QString& appName)> onTagPromptSuggested;
-    };
-    virtual void setHooks(Hooks) {}
-
-    virtual void refreshFromDefaults() {}
-    virtual void clearSessionOverrides() {}
-    virtual void noteManualSkillChoice() {}
-    [[nodiscard]] virtual std::optional<Application> frontmostAppForCorrection() {
-        return std::nullopt;
-    }
-    [[nodiscard]] virtual std::optional<QString> ruling(const QString& /*bundleId*/) {
-        return std::nullopt;
-    }
-    [[nodiscard]] virtual bool mayOfferCorrectionPrompt(const QString& /*bundleId*/) {
-        return false;
-    }
-    virtual void setRule(const QString& /*bundleId*/, const QString& /*ruling*/) {}
-    virtual void forgetPromptOffer(const QString& /*bundleId*/) {}
-    virtual void noteTagPromptResolved(const QString& /*bundleId*/) {}
-    virtual void removeRules(const QString& /*skillId*/) {}
-    virtual void eraseAllData() {}
-    virtual void drainPendingIO() {}
-    [[nodiscard]] virtual bool isBrowser(const QString& /*bundleId*/, const QString& /*appName*/) {
-        return false;
-    }
-};
-
-/// The ruling that an application counts for nothing.
-inline constexpr const char* ignoreRuling = "ignore";
 
 } // namespace collaborators
 
@@ -192,10 +166,6 @@ struct Collaborators {
         std::make_unique<collaborators::TagPrompt>();
     std::unique_ptr<collaborators::RetagToast> retagToast =
         std::make_unique<collaborators::RetagToast>();
-    std::unique_ptr<collaborators::FocusLink> focusLink =
-        std::make_unique<collaborators::FocusLink>();
-    std::unique_ptr<collaborators::AutoSkill> autoSkill =
-        std::make_unique<collaborators::AutoSkill>();
 };
 
 } // namespace vantle

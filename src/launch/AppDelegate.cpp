@@ -1,7 +1,5 @@
 #include "launch/AppDelegate.h"
 
-#include "launch/AutoSkillAdapter.h"
-#include "launch/FocusLinkAdapter.h"
 #include "launch/Windows.h"
 #include "platform/Autostart.h"
 #include "platform/Preferences.h"
@@ -108,8 +106,6 @@ void AppDelegate::makeModel() {
     makeCards(collaborators);
     if (m_env.makeNotch) collaborators.notch = m_env.makeNotch();
     if (m_env.makeRipple) collaborators.ripple = m_env.makeRipple();
-    collaborators.autoSkill = std::make_unique<AutoSkillAdapter>(m_autoSkill);
-    collaborators.focusLink = std::make_unique<FocusLinkAdapter>(m_focusLink);
     m_model =
         std::make_unique<AppModel>(AppModel::Environment{.clock = m_env.clock,
                                                          .scheduler = m_env.scheduler,
@@ -123,6 +119,8 @@ void AppDelegate::makeModel() {
                                                          .hotKeyPort = m_platform.hotKeyPort,
                                                          .reducedMotion = m_platform.reducedMotion,
                                                          .cardSlot = m_cardSlot,
+                                                         .autoSkill = m_autoSkill,
+                                                         .focusLink = m_focusLink,
                                                          .frontmostApp = &m_platform.frontmostApp,
                                                          .calendar = m_env.calendar,
                                                          .terminate = m_env.terminate},

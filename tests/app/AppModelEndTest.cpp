@@ -52,12 +52,13 @@ TEST_F(AppModelEndTest, TheStopRunsOnceHoweverOftenTheEndIsTold) {
     model.prepareForTermination();
     model.quit();
     EXPECT_EQ(world.log().size(), 1u);
-    EXPECT_EQ(world.told.count(text("auto drain")), 1);
+    EXPECT_EQ(world.told.count(text("notch hide")), 1);
     EXPECT_EQ(world.terminations, 2);
 }
 
 TEST_F(AppModelEndTest, WithoutAScreenTheSessionIsLoggedAndNoSurfaceIsTold) {
     AppModel& model = world.launch();
+    world.linkShortcuts();
     world.press();
     world.time.advance(100.0);
     int told = 0;
@@ -67,8 +68,7 @@ TEST_F(AppModelEndTest, WithoutAScreenTheSessionIsLoggedAndNoSurfaceIsTold) {
     EXPECT_EQ(world.log().size(), 1u);
     EXPECT_FALSE(world.hasMarker());
     EXPECT_EQ(told, 0);
-    EXPECT_EQ(world.told.calls,
-              (QStringList{text("auto clear"), text("focus ended"), text("auto drain")}));
+    EXPECT_EQ(world.told.calls, QStringList{text("focus ended")});
 }
 
 TEST_F(AppModelEndTest, AQuitThatCannotSaveLeavesTheMarkerForTheNextLaunch) {
@@ -267,6 +267,7 @@ TEST_F(AppModelEndTest, AMarkerOfALoggedSessionIsNotLoggedTwice) {
 
 TEST_F(AppModelEndTest, EraseInASessionLeavesNothing) {
     AppModel& model = world.launch();
+    world.linkShortcuts();
     world.press();
     world.time.advance(100.0);
     world.press();
@@ -286,27 +287,28 @@ TEST_F(AppModelEndTest, EraseInASessionLeavesNothing) {
     EXPECT_TRUE(model.needsWelcome());
     EXPECT_EQ(world.preferences.string(text("skill.lastUsed")), std::nullopt);
     EXPECT_EQ(world.told.calls,
-              (QStringList{text("recovery hide"), text("auto erase"), text("auto drain"),
-                           text("auto refresh"), text("notch idle building flash 0")}));
+              (QStringList{text("recovery hide"), text("notch idle building flash 0")}));
 }
 
 TEST_F(AppModelEndTest, ErasedRulesDoNotComeBackFromAQueuedWrite) {
     AppModel& model = world.launch();
-    world.told.onAutoDrain = [this] {
-        world.disk.setContent(ModelWorld::file("auto-rules.json"), "{}");
-    };
+    world.autoSkill->rules().setRule(text("editor"), text("marketing"));
+    ASSERT_FALSE(world.autoQueue.empty());
     EXPECT_EQ(model.eraseEverything(), std::nullopt);
+    world.settle();
+    EXPECT_EQ(world.autoSkill->rules().ruling(text("editor")), std::nullopt);
     EXPECT_FALSE(world.disk.exists(ModelWorld::file("auto-rules.json")));
 }
 
 TEST_F(AppModelEndTest, QuitWaitsForWhatIsQueuedForTheDisk) {
     AppModel& model = world.launch();
-    bool rulesWritten = false;
     bool jobRan = false;
-    world.told.onAutoDrain = [&] { rulesWritten = true; };
+    world.autoSkill->rules().setRule(text("editor"), text("marketing"));
     world.ioQueue.async([&] { jobRan = true; });
     model.quit();
-    EXPECT_TRUE(rulesWritten);
+    EXPECT_TRUE(world.disk.content(ModelWorld::file("auto-rules.json"))
+                    .value_or(QByteArray())
+                    .contains("editor"));
     EXPECT_TRUE(jobRan);
 }
 

@@ -50,6 +50,7 @@ TEST_F(AppModelFailedStartTest, BackdatedStartThatFailsSaysWhyAndCountsNothing) 
 
 TEST_F(AppModelFailedStartTest, SplitWhoseSecondHalfCanNotStartKeepsTheFirstAndEndsTheSession) {
     AppModel& model = launched();
+    world.linkShortcuts();
     world.press();
     world.time.advance(90.0);
     world.told.calls.clear();
@@ -67,8 +68,8 @@ TEST_F(AppModelFailedStartTest, SplitWhoseSecondHalfCanNotStartKeepsTheFirstAndE
     EXPECT_FALSE(world.hasMarker());
     EXPECT_TRUE(world.note().startsWith(text("Couldn’t save your hours.")))
         << world.note().toStdString();
-    EXPECT_EQ(world.told.calls, (QStringList{text("auto clear"), text("focus ended"),
-                                             text("notch idle marketing flash 0")}));
+    EXPECT_EQ(world.told.calls,
+              (QStringList{text("focus ended"), text("notch idle marketing flash 0")}));
     EXPECT_EQ(model.sessionBundleId(), std::nullopt);
 }
 

@@ -62,6 +62,7 @@ TEST_F(AppModelSkillsTest, ATakenOrEmptyNameIsRefused) {
 }
 
 TEST_F(AppModelSkillsTest, DeletingTheRunningSkillSplitsTheSessionOntoTheFirst) {
+    world.autoSkill->rules().setRule(text("editor"), text("marketing"));
     model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
     model.toggleVantle();
     world.time.advance(30.0);
@@ -71,7 +72,7 @@ TEST_F(AppModelSkillsTest, DeletingTheRunningSkillSplitsTheSessionOntoTheFirst) 
     EXPECT_EQ(model.tracker().currentSkillId(), text("building"));
     ASSERT_EQ(world.log().size(), 1u);
     EXPECT_EQ(world.log().front().skillId, text("marketing"));
-    EXPECT_TRUE(world.told.has(text("auto remove rules marketing")));
+    EXPECT_EQ(world.autoSkill->rules().ruling(text("editor")), std::nullopt);
 }
 
 TEST_F(AppModelSkillsTest, DeletingTheSelectedSkillSelectsTheFirst) {
@@ -160,6 +161,7 @@ TEST_F(AppModelSkillsTest, ChoosingAnUnknownSkillChangesNothing) {
 }
 
 TEST_F(AppModelSkillsTest, AChoiceByHandSplitsTheSessionWithAToast) {
+    world.linkShortcuts();
     world.press();
     world.time.advance(61.0);
     world.told.calls.clear();
@@ -168,14 +170,13 @@ TEST_F(AppModelSkillsTest, AChoiceByHandSplitsTheSessionWithAToast) {
     ASSERT_EQ(world.log().size(), 1u);
     EXPECT_EQ(world.log().front().activeSeconds, 61);
     EXPECT_TRUE(world.told.has(text("toast Build 7A78FF 61")));
-    EXPECT_TRUE(world.told.has(text("auto manual choice")));
     EXPECT_TRUE(world.told.has(text("notch retag marketing flash 1")));
     EXPECT_FALSE(world.told.has(text("focus started")));
     EXPECT_FALSE(world.told.has(text("summary")));
 }
 
 TEST_F(AppModelSkillsTest, AnAutomaticChoiceSplitsWithoutAToastAndWithoutOfferingARule) {
-    world.told.correctionApp = Application{text("editor"), text("Editor")};
+    world.frontmost.application = Application{text("editor"), text("Editor")};
     world.press();
     world.time.advance(61.0);
     world.told.calls.clear();
@@ -245,37 +246,6 @@ TEST_F(AppModelSkillsTest, AnIdleChoiceOnlyColoursTheCapsule) {
     model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
     EXPECT_EQ(world.told.calls, QStringList{text("notch retag marketing flash 0")});
     EXPECT_EQ(model.tracker().state(), TrackerCore::State::Idle);
-}
-
-TEST_F(AppModelSkillsTest, ARuleIsOfferedAfterAChoiceByHand) {
-    world.told.correctionApp = Application{text("editor"), text("Editor")};
-    world.press();
-    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
-    EXPECT_TRUE(world.told.has(text("correction Editor as marketing")));
-    world.told.resolveCorrection(true);
-    EXPECT_TRUE(world.told.has(text("auto rule editor marketing")));
-    EXPECT_TRUE(world.told.has(text("auto resolved editor")));
-}
-
-TEST_F(AppModelSkillsTest, NoRuleIsOfferedForAnIgnoredOrAlreadyRuledApplicationOrWithAutoModeOff) {
-    world.told.correctionApp = Application{text("editor"), text("Editor")};
-    world.press();
-    world.told.correctionRuling = text("ignore");
-    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
-    world.told.correctionRuling = text("building");
-    model.selectSkill(text("building"), AppModel::SkillSelectionOrigin::Human);
-    world.told.correctionRuling.reset();
-    world.preferences.setBoolean(text("auto.enabled"), false);
-    model.selectSkill(text("connections"), AppModel::SkillSelectionOrigin::Human);
-    EXPECT_TRUE(world.told.calls.filter(text("correction")).isEmpty());
-}
-
-TEST_F(AppModelSkillsTest, ARefusedOfferIsForgotten) {
-    world.told.correctionApp = Application{text("editor"), text("Editor")};
-    world.told.promptsTaken = false;
-    world.press();
-    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
-    EXPECT_TRUE(world.told.has(text("auto forget offer editor")));
 }
 
 } // namespace

@@ -119,6 +119,7 @@ TEST_F(AppModelTest, SleepingScreensPauseAtOnce) {
 
 TEST_F(AppModelTest, AFullShowPlaysAndTheCapsuleFlashesAfterIt) {
     AppModel& model = launched();
+    world.linkShortcuts();
     world.told.calls.clear();
     model.toggleVantle();
     EXPECT_EQ(world.told.calls,
@@ -146,63 +147,6 @@ TEST_F(AppModelTest, WithReducedMotionTheCapsuleFlashesAtOnce) {
     EXPECT_TRUE(world.told.has(text("notch show building flash 1")));
     world.time.advance(5.0);
     EXPECT_FALSE(world.told.has(text("notch flash start")));
-}
-
-TEST_F(AppModelTest, AutoStartPlaysTheQuickShow) {
-    launched();
-    world.told.hooks.onAutoStart(text("marketing"));
-    EXPECT_TRUE(world.told.has(text("ripple quick FF375F Marketing")));
-    EXPECT_EQ(world.told.hooks.sessionState(), State::Running);
-    EXPECT_EQ(world.told.hooks.sessionSkillId(), text("marketing"));
-    world.time.advance(1.35);
-    EXPECT_TRUE(world.told.has(text("notch flash start")));
-}
-
-TEST_F(AppModelTest, AutoModeSeesTheApplicationOfTheSessionOnlyWhileOneIsOpen) {
-    AppModel& model = launched();
-    world.frontmost.application = Application{text("editor"), text("Editor")};
-    EXPECT_EQ(world.told.hooks.sessionBundleId(), std::nullopt);
-    model.toggleVantle();
-    EXPECT_EQ(world.told.hooks.sessionBundleId(), text("editor"));
-    model.toggleVantle();
-    EXPECT_EQ(world.told.hooks.sessionBundleId(), std::nullopt);
-}
-
-TEST_F(AppModelTest, ASuggestedRetagSplitsOnlyAnOpenSessionOntoAnotherKnownSkill) {
-    AppModel& model = launched();
-    world.told.hooks.onRetagSuggested(text("marketing"));
-    EXPECT_EQ(model.selectedSkillId(), text("building"));
-    model.toggleVantle();
-    world.told.hooks.onRetagSuggested(text("nonsense"));
-    EXPECT_TRUE(world.log().empty());
-    world.told.hooks.onRetagSuggested(text("marketing"));
-    EXPECT_EQ(world.log().size(), 1u);
-}
-
-TEST_F(AppModelTest, AnswersToTheTagPromptBecomeRules) {
-    using Outcome = collaborators::TagPrompt::Outcome;
-    AppModel& model = launched();
-    model.toggleVantle();
-    world.told.hooks.onTagPromptSuggested(text("browser"), text("Browser"));
-    EXPECT_TRUE(world.told.has(text("tag prompt Browser counting 1 browser 1")));
-    world.told.resolveTag({Outcome::Kind::Ignore, QString()});
-    EXPECT_TRUE(world.told.has(text("auto rule browser ignore")));
-    world.told.calls.clear();
-    world.told.resolveTag({Outcome::Kind::Dismiss, QString()});
-    EXPECT_EQ(world.told.calls, QStringList{text("auto resolved browser")});
-    world.told.resolveTag({Outcome::Kind::Tagged, text("gone")});
-    EXPECT_FALSE(world.told.has(text("auto rule browser gone")));
-    world.told.resolveTag({Outcome::Kind::Tagged, text("marketing")});
-    EXPECT_TRUE(world.told.has(text("auto rule browser marketing")));
-    EXPECT_EQ(model.tracker().currentSkillId(), text("marketing"));
-    EXPECT_EQ(world.log().size(), 1u);
-}
-
-TEST_F(AppModelTest, ARefusedTagPromptIsForgotten) {
-    launched();
-    world.told.promptsTaken = false;
-    world.told.hooks.onTagPromptSuggested(text("app"), text("App"));
-    EXPECT_TRUE(world.told.has(text("auto forget offer app")));
 }
 
 TEST_F(AppModelTest, TheSummaryTellsNewHoursAndTheCarry) {

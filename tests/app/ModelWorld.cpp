@@ -1,5 +1,6 @@
 #include "app/ModelWorld.h"
 
+#include <algorithm>
 #include <cerrno>
 
 namespace vantle::tests {
@@ -129,51 +130,6 @@ private:
     Told& m_told;
 };
 
-class RecordingFocusLink final : public collaborators::FocusLink {
-public:
-    explicit RecordingFocusLink(Told& told) : m_told(told) {}
-    void sessionStarted() override { m_told.calls << QStringLiteral("focus started"); }
-    void sessionEnded() override { m_told.calls << QStringLiteral("focus ended"); }
-
-private:
-    Told& m_told;
-};
-
-class RecordingAutoSkill final : public collaborators::AutoSkill {
-public:
-    explicit RecordingAutoSkill(Told& told) : m_told(told) {}
-    void setHooks(Hooks hooks) override { m_told.hooks = std::move(hooks); }
-    void refreshFromDefaults() override { m_told.calls << QStringLiteral("auto refresh"); }
-    void clearSessionOverrides() override { m_told.calls << QStringLiteral("auto clear"); }
-    void noteManualSkillChoice() override { m_told.calls << QStringLiteral("auto manual choice"); }
-    std::optional<Application> frontmostAppForCorrection() override { return m_told.correctionApp; }
-    std::optional<QString> ruling(const QString&) override { return m_told.correctionRuling; }
-    bool mayOfferCorrectionPrompt(const QString&) override { return m_told.mayOfferCorrection; }
-    void setRule(const QString& bundleId, const QString& ruling) override {
-        m_told.calls << QStringLiteral("auto rule %1 %2").arg(bundleId, ruling);
-    }
-    void forgetPromptOffer(const QString& bundleId) override {
-        m_told.calls << QStringLiteral("auto forget offer %1").arg(bundleId);
-    }
-    void noteTagPromptResolved(const QString& bundleId) override {
-        m_told.calls << QStringLiteral("auto resolved %1").arg(bundleId);
-    }
-    void removeRules(const QString& skillId) override {
-        m_told.calls << QStringLiteral("auto remove rules %1").arg(skillId);
-    }
-    void eraseAllData() override { m_told.calls << QStringLiteral("auto erase"); }
-    void drainPendingIO() override {
-        m_told.calls << QStringLiteral("auto drain");
-        if (m_told.onAutoDrain) m_told.onAutoDrain();
-    }
-    bool isBrowser(const QString& bundleId, const QString&) override {
-        return bundleId == QLatin1String("browser");
-    }
-
-private:
-    Told& m_told;
-};
-
 } // namespace
 
 Collaborators recordingCollaborators(Told& told) {
@@ -184,13 +140,15 @@ Collaborators recordingCollaborators(Told& told) {
     all.recovery = std::make_unique<RecordingRecovery>(told);
     all.tagPrompt = std::make_unique<RecordingTagPrompt>(told);
     all.retagToast = std::make_unique<RecordingToast>(told);
-    all.focusLink = std::make_unique<RecordingFocusLink>(told);
-    all.autoSkill = std::make_unique<RecordingAutoSkill>(told);
     return all;
 }
 
 ModelWorld::ModelWorld() {
     time.attach(ioQueue);
+    time.attach(autoQueue);
+    runner.onStart = [this](const Command& command) {
+        told.calls << QStringLiteral("focus ") + command.arguments.last();
+    };
     idleSource.growFrom(0);
     preferences.setBoolean(preferencekeys::onboardDone, true);
 }
@@ -199,8 +157,9 @@ ModelWorld::~ModelWorld() = default;
 
 AppModel& ModelWorld::launch() {
     skills = std::make_unique<SkillList>(paths, ioQueue, preferences);
-    Collaborators collaborators = recordingCollaborators(told);
-    if (furnish) furnish(collaborators);
+    autoSkill = std::make_unique<AutoSkillMonitor>(
+        AutoSkillMonitor::Environment{time, time, autoQueue, paths, preferences, *skills, frontmost,
+                                      idleSource, QStringLiteral("local.vantle.Vantle")});
     model = std::make_unique<AppModel>(
         AppModel::Environment{.clock = time,
                               .scheduler = time,
@@ -214,22 +173,41 @@ AppModel& ModelWorld::launch() {
                               .hotKeyPort = hotKeyPort,
                               .reducedMotion = reducedMotion,
                               .cardSlot = cardSlot,
+                              .autoSkill = *autoSkill,
+                              .focusLink = focusLink,
                               .frontmostApp = &frontmost,
                               .calendar =
                                   [] {
                                       return Calendar{QStringLiteral("UTC"), 2, 4};
                                   },
                               .terminate = [this] { ++terminations; }},
-        std::move(collaborators));
+        recordingCollaborators(told));
     settle();
     return *model;
 }
 
 void ModelWorld::kill() {
+    autoQueue.dropAll();
     ioQueue.dropAll();
     model.reset();
+    autoSkill.reset();
     skills.reset();
     time.settle();
+}
+
+void ModelWorld::workIn(const Application& application, double seconds) {
+    constexpr double kBetweenKeys = 10.0;
+    frontmost.activate(application);
+    for (double left = seconds; left > 0; left -= kBetweenKeys) {
+        idleSource.touch();
+        time.advance(std::min(left, kBetweenKeys));
+    }
+}
+
+void ModelWorld::linkShortcuts() {
+    preferences.setBoolean(FocusLink::enabledKey, true);
+    preferences.setString(FocusLink::startShortcutKey, QStringLiteral("started"));
+    preferences.setString(FocusLink::stopShortcutKey, QStringLiteral("ended"));
 }
 
 void ModelWorld::breakWrites(const QString& fileName, bool broken) {

@@ -6,12 +6,15 @@
 #include "fakes/FakeFrontmostApp.h"
 #include "fakes/FakeHotKeyPort.h"
 #include "fakes/FakeIdleSource.h"
+#include "fakes/FakeProcessRunner.h"
 #include "fakes/FakeReducedMotion.h"
 #include "fakes/FakeScreenPower.h"
 #include "fakes/FaultyFileSystem.h"
 #include "fakes/MemoryFileSystem.h"
 #include "fakes/MemoryPreferences.h"
 #include "fakes/VirtualTime.h"
+#include "sensing/AutoSkillMonitor.h"
+#include "sensing/FocusLink.h"
 #include "support/QtPrinters.h"
 #include "tracking/AppPaths.h"
 #include "tracking/NotificationCenter.h"
@@ -37,12 +40,7 @@ struct Told {
     std::function<void()> recoveryKeep;
     std::function<void(const collaborators::TagPrompt::Outcome&)> resolveTag;
     std::function<void(bool)> resolveCorrection;
-    collaborators::AutoSkill::Hooks hooks;
-    std::function<void()> onAutoDrain; ///< stands for a write of auto mode that is still queued
-    bool promptsTaken = true;          ///< whether the corner is free for prompts
-    std::optional<Application> correctionApp;
-    std::optional<QString> correctionRuling;
-    bool mayOfferCorrection = true;
+    bool promptsTaken = true; ///< whether the corner is free for prompts
 
     [[nodiscard]] int count(const QString& call) const {
         return static_cast<int>(calls.count(call));
@@ -69,6 +67,10 @@ public:
         hotKeyPort.press();
         settle();
     }
+    /// The user works in the application, which comes to the front, for that many seconds.
+    void workIn(const Application& application, double seconds);
+    /// Links a shortcut to each end of a session; `told` has "focus started" and "focus ended".
+    void linkShortcuts();
     /// Fails or heals every write of the file, new files beside it included.
     void breakWrites(const QString& fileName, bool broken);
 
@@ -79,6 +81,7 @@ public:
 
     fakes::VirtualTime time;
     fakes::ManualQueue ioQueue;
+    fakes::ManualQueue autoQueue; ///< of auto mode's own file
     fakes::MemoryFileSystem disk;
     fakes::FaultyFileSystem files{disk};
     fakes::MemoryPreferences preferences;
@@ -87,15 +90,16 @@ public:
     fakes::FakeHotKeyPort hotKeyPort;
     fakes::FakeReducedMotion reducedMotion;
     fakes::FakeFrontmostApp frontmost;
+    fakes::FakeProcessRunner runner;
+    FocusLink focusLink{preferences, runner, QStringLiteral("/opt/vantle-shortcuts")};
     NotificationCenter notifications;
     TopRightCardSlot cardSlot;
     AppPaths paths{files, QStringLiteral("/home/ada/.local/share")};
     Told told;
     int terminations = 0;
-    /// Puts something else in the place of collaborators that only write down, at each launch.
-    std::function<void(Collaborators&)> furnish;
 
     std::unique_ptr<SkillList> skills;
+    std::unique_ptr<AutoSkillMonitor> autoSkill;
     std::unique_ptr<AppModel> model;
 };
 

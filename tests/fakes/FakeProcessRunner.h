@@ -4,6 +4,7 @@
 #include "platform/ProcessRunner.h"
 
 #include <deque>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -17,6 +18,7 @@ public:
     }
     bool startDetached(const Command& command) override {
         detached.push_back(command);
+        if (onStart) onStart(command);
         return canStart;
     }
 
@@ -31,6 +33,7 @@ public:
     bool canStart = true;
     std::vector<Command> collected;
     std::vector<Command> detached;
+    std::function<void(const Command&)> onStart; ///< a detached command starts
 
 private:
     std::deque<std::function<void(std::optional<Output>)>> m_waiting;

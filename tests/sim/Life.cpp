@@ -1,7 +1,5 @@
 #include "sim/Life.h"
 
-#include "launch/AutoSkillAdapter.h"
-
 #include <algorithm>
 #include <array>
 
@@ -25,60 +23,10 @@ std::optional<Application> application(std::size_t which) {
     return which < all.size() ? std::optional(all[which]) : std::nullopt;
 }
 
-/// Passes all on to a monitor, which outlives it.
-class CountingAutoSkill final : public collaborators::AutoSkill {
-public:
-    CountingAutoSkill(AutoSkillMonitor& monitor, Life& life) : m_adapter(monitor), m_life(life) {}
-    void setHooks(Hooks hooks) override {
-        hooks.onAutoStart = [this, start = std::move(hooks.onAutoStart)](const QString& id) {
-            ++m_life.sessionsByItself;
-            start(id);
-        };
-        hooks.onRetagSuggested = [this,
-                                  split = std::move(hooks.onRetagSuggested)](const QString& id) {
-            ++m_life.splits;
-            split(id);
-        };
-        m_adapter.setHooks(std::move(hooks));
-    }
-    void refreshFromDefaults() override { m_adapter.refreshFromDefaults(); }
-    void clearSessionOverrides() override { m_adapter.clearSessionOverrides(); }
-    void noteManualSkillChoice() override { m_adapter.noteManualSkillChoice(); }
-    std::optional<Application> frontmostAppForCorrection() override {
-        return m_adapter.frontmostAppForCorrection();
-    }
-    std::optional<QString> ruling(const QString& id) override { return m_adapter.ruling(id); }
-    bool mayOfferCorrectionPrompt(const QString& id) override {
-        return m_adapter.mayOfferCorrectionPrompt(id);
-    }
-    void setRule(const QString& id, const QString& ruling) override {
-        m_adapter.setRule(id, ruling);
-    }
-    void forgetPromptOffer(const QString& id) override { m_adapter.forgetPromptOffer(id); }
-    void noteTagPromptResolved(const QString& id) override { m_adapter.noteTagPromptResolved(id); }
-    void removeRules(const QString& id) override { m_adapter.removeRules(id); }
-    void eraseAllData() override { m_adapter.eraseAllData(); }
-    void drainPendingIO() override { m_adapter.drainPendingIO(); }
-    bool isBrowser(const QString& id, const QString& name) override {
-        return m_adapter.isBrowser(id, name);
-    }
-
-private:
-    AutoSkillAdapter m_adapter;
-    Life& m_life;
-};
-
 } // namespace
 
 Life::Life(std::uint32_t seed) : m_random(seed) {
-    world.time.attach(m_autoQueue);
     world.preferences.setBoolean(QLatin1String(AutoSkillMonitor::autoStartKey), seed % 3 != 0);
-    world.furnish = [this](Collaborators& all) {
-        m_auto = std::make_unique<AutoSkillMonitor>(AutoSkillMonitor::Environment{
-            world.time, world.time, m_autoQueue, world.paths, world.preferences, *world.skills,
-            world.frontmost, world.idleSource, QStringLiteral("local.vantle.Vantle")});
-        all.autoSkill = std::make_unique<CountingAutoSkill>(*m_auto, *this);
-    };
     launch();
 }
 
@@ -94,14 +42,24 @@ double Life::seconds(double least, double most) {
 
 void Life::launch() {
     world.launch();
+    countSuggestions();
     promises.noteLaunch();
 }
 
+void Life::countSuggestions() {
+    AutoSkillMonitor& monitor = *world.autoSkill;
+    monitor.onAutoStart = [this, start = std::move(monitor.onAutoStart)](const QString& id) {
+        ++sessionsByItself;
+        start(id);
+    };
+    monitor.onRetagSuggested = [this,
+                                split = std::move(monitor.onRetagSuggested)](const QString& id) {
+        ++splits;
+        split(id);
+    };
+}
+
 void Life::end() {
-    m_autoQueue.dropAll();
-    world.ioQueue.dropAll();
-    world.model.reset();
-    m_auto.reset();
     world.kill();
     loseOffer();
 }

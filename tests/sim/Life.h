@@ -6,7 +6,6 @@
 #include "sim/Promises.h"
 
 #include <functional>
-#include <memory>
 #include <random>
 
 namespace vantle::tests {
@@ -71,14 +70,13 @@ private:
     void loseOffer();
 
     void end();
+    void countSuggestions();
     void healDisk();
     [[nodiscard]] TrackerCore& tracker() { return world.model->tracker(); }
     [[nodiscard]] std::size_t pick(std::size_t count);
     [[nodiscard]] double seconds(double least, double most);
 
     std::mt19937 m_random;
-    fakes::ManualQueue m_autoQueue;
-    std::unique_ptr<AutoSkillMonitor> m_auto;
     QStringList m_story;
     QStringList m_brokenByDeed; ///< promises about what a deed itself did
     int m_garbageCount = 0;

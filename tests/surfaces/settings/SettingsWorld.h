@@ -4,10 +4,8 @@
 #include "app/ModelWorld.h"
 #include "fakes/FakeAutostart.h"
 #include "fakes/FakePanelHost.h"
-#include "fakes/FakeProcessRunner.h"
 #include "fakes/FakeTrayItem.h"
 #include "sensing/AutoRules.h"
-#include "sensing/FocusLink.h"
 #include "surfaces/settings/SettingsView.h"
 
 #include <cerrno>
@@ -17,12 +15,10 @@ namespace vantle::tests {
 
 class SettingsWorld : public ModelWorld {
 public:
-    SettingsWorld() { time.attach(autoQueue); }
-
     /// The program, started unless it runs.
     AppModel& program() {
         if (!model) launch();
-        if (!rules) rules.emplace(AutoRules::Environment{time, time, autoQueue, paths, *skills});
+        rules = &autoSkill->rules();
         return *model;
     }
     /// The window opens, for the first time or again.
@@ -59,11 +55,8 @@ public:
         return preferences.raw(QLatin1String(key));
     }
 
-    fakes::ManualQueue autoQueue;
     fakes::FakeAutostart autostart;
-    fakes::FakeProcessRunner runner;
-    FocusLink focusLink{preferences, runner, QStringLiteral("/opt/vantle-shortcuts")};
-    std::optional<AutoRules> rules;
+    AutoRules* rules = nullptr; ///< of the program that runs
     fakes::FakeTrayItem tray;
     fakes::FakePanelHost panelHost;
     QStringList revealed;

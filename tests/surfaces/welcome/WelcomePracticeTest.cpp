@@ -265,7 +265,7 @@ TEST_F(WelcomePracticeTest, SessionThatBeginsInAnyOtherWayDuringAReplayIsWorkAnd
         {"a mode in the capsule", [this] { told.idlePick(text("marketing")); }},
         {"panel", [this] { model->startWithBackfill(0); }},
         {"bus", [this] { model->toggleVantle(); }},
-        {"auto mode", [this] { told.hooks.onAutoStart(text("marketing")); }}};
+        {"auto mode", [this] { autoSkill->onAutoStart(text("marketing")); }}};
     for (const auto& [way, start] : ways) {
         for (const bool inFront : {true, false}) {
             replay();

@@ -1,12 +1,16 @@
-// The erase of all data.
-#include "app/AppModel.h"
+#include "app/DataErase.h"
+
+#include "app/ActionNote.h"
+#include "app/SessionFlow.h"
+#include "app/SessionSurfaces.h"
+#include "app/SkillCommands.h"
 #include "base/SerialQueue.h"
 #include "platform/FileSystem.h"
 #include "platform/Preferences.h"
+#include "sensing/AutoSkillMonitor.h"
 #include "tracking/AppPaths.h"
-#include "tracking/SkillList.h"
 
-#include <utility>
+#include <QStringList>
 
 namespace vantle {
 
@@ -38,35 +42,31 @@ QStringList remainingDataFiles(const AppPaths& paths) {
 
 } // namespace
 
-std::optional<QString> AppModel::eraseEverything() {
-    setLastActionNote(std::nullopt);
+std::optional<QString> DataErase::run() {
+    TrackerCore& tracker = m_env.flow.tracker();
+    m_env.note.clear();
     // A pending offer must not act on erased data.
-    m_collaborators.recovery->hideForEviction();
-    m_env.cardSlot.release(m_collaborators.recovery.get());
-    m_collaborators.stopSummary->forgetNote();
-    m_tracker.discardOpenSessionForErase();
-    m_collaborators.autoSkill->eraseAllData();
+    m_env.surfaces.dropOffers();
+    tracker.discardOpenSessionForErase();
+    m_env.autoSkill.eraseAllData();
     // Nothing that is queued may bring a file back after it was removed.
-    m_tracker.drainPendingIO();
-    m_collaborators.autoSkill->drainPendingIO();
+    tracker.drainPendingIO();
+    m_env.autoSkill.rules().drainPendingIO();
     QStringList problems = m_env.ioQueue.run([this] { return removeDataFiles(m_env.paths); });
     m_env.preferences.removeAll();
-    m_env.skills.resetAfterErase();
-    publishSkills();
-    const QString first = m_skills.front().id;
-    if (std::exchange(m_selectedSkillId, first) != first) Q_EMIT selectedSkillIdChanged();
-    m_tracker.clearStorageError();
-    m_collaborators.autoSkill->refreshFromDefaults();
-    showIdleNotchPrompt(false);
-    m_tracker.notifySessionsChanged();
+    m_env.skills.reloadAfterErase();
+    tracker.clearStorageError();
+    m_env.autoSkill.refreshFromDefaults();
+    m_env.flow.showIdlePrompt();
+    tracker.notifySessionsChanged();
     problems += m_env.ioQueue.run([this] { return remainingDataFiles(m_env.paths); });
     if (problems.isEmpty()) {
-        setLastActionNote(QStringLiteral("All local Vantle data was erased"));
+        m_env.note.say(QStringLiteral("All local Vantle data was erased"));
         return std::nullopt;
     }
     const QString message = QStringLiteral("Some local data could not be erased: ") +
                             problems.join(QLatin1String("; "));
-    setLastActionNote(message);
+    m_env.note.say(message);
     return message;
 }
 

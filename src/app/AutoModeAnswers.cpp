@@ -1,0 +1,104 @@
+#include "app/AutoModeAnswers.h"
+
+#include "app/PreferenceKeys.h"
+#include "app/SessionFlow.h"
+#include "app/SkillCommands.h"
+#include "base/Clock.h"
+#include "platform/Preferences.h"
+#include "sensing/AutoSkillMonitor.h"
+#include "sensing/AutoSuggestion.h"
+#include "tracking/SkillList.h"
+
+#include <QPointer>
+
+namespace vantle {
+
+AutoModeAnswers::AutoModeAnswers(const Environment& environment) : m_env(environment) {
+    const QPointer self(this);
+    AutoSkillMonitor& monitor = m_env.monitor;
+    monitor.sessionState = [self] {
+        return self ? self->m_env.flow.tracker().state() : TrackerCore::State::Idle;
+    };
+    monitor.sessionSkillId = [self] {
+        return self ? self->m_env.flow.tracker().currentSkillId() : std::optional<QString>();
+    };
+    monitor.sessionBundleId = [self] {
+        return self && !self->m_env.flow.isIdle() ? self->m_env.flow.sessionBundleId()
+                                                  : std::optional<QString>();
+    };
+    monitor.onRetagSuggested = [self](const QString& skillId) {
+        if (self) self->changeSkill(skillId);
+    };
+    monitor.onAutoStart = [self](const QString& skillId) {
+        if (self) self->startSession(skillId);
+    };
+    monitor.onTagPromptSuggested = [self](const QString& bundleId, const QString& appName) {
+        if (self) self->askForTag(bundleId, appName);
+    };
+    m_env.skills.onSplitByHand = [self](const QString& skillId) {
+        if (self) self->offerRule(skillId);
+    };
+}
+
+void AutoModeAnswers::changeSkill(const QString& skillId) {
+    if (!m_env.flow.isIdle() && m_env.list.contains(skillId) &&
+        m_env.flow.tracker().currentSkillId() != skillId)
+        m_env.skills.select(skillId, SkillCommands::Origin::Auto);
+}
+
+void AutoModeAnswers::startSession(const QString& skillId) {
+    if (!m_env.flow.isIdle() || !m_env.list.contains(skillId)) return;
+    // Auto mode sees the idle counter, which is low just after the key that locked.
+    if (m_env.flow.idle().screensSleep()) return;
+    m_env.skills.select(skillId, SkillCommands::Origin::Auto);
+    m_env.flow.toggle(SessionCause::AutoMode);
+    // With a threshold under auto mode's own limit the user may count as away already. That absence
+    // is told only once, before the session: without this pause all of it would count.
+    if (m_env.flow.idle().isIdle()) m_env.flow.tracker().pause(m_env.clock.now());
+}
+
+void AutoModeAnswers::askForTag(const QString& bundleId, const QString& appName) {
+    const bool isAsked = m_env.tagPrompt.show(
+        appName, m_env.list.all(), !m_env.flow.isIdle(),
+        autosuggestion::isBrowser(bundleId, appName),
+        [self = QPointer(this), bundleId](const collaborators::TagPrompt::Outcome& outcome) {
+            if (self) self->resolveTag(bundleId, outcome);
+        });
+    if (!isAsked) m_env.monitor.forgetPromptOffer(bundleId);
+}
+
+void AutoModeAnswers::resolveTag(const QString& bundleId,
+                                 const collaborators::TagPrompt::Outcome& outcome) {
+    using Kind = collaborators::TagPrompt::Outcome::Kind;
+    AutoRules& rules = m_env.monitor.rules();
+    if (outcome.kind == Kind::Ignore)
+        rules.setRule(bundleId, QLatin1String(AutoRules::ignoreRuling));
+    if (outcome.kind == Kind::Tagged && m_env.list.contains(outcome.skillId)) {
+        rules.setRule(bundleId, outcome.skillId);
+        if (!m_env.flow.isIdle() && m_env.flow.tracker().currentSkillId() != outcome.skillId) {
+            m_env.flow.setSessionBundleId(bundleId);
+            m_env.skills.select(outcome.skillId, SkillCommands::Origin::Auto);
+        }
+    }
+    m_env.monitor.noteTagPromptResolved(bundleId);
+}
+
+void AutoModeAnswers::offerRule(const QString& chosenSkillId) {
+    if (!m_env.preferences.boolean(preferencekeys::autoModeEnabled).value_or(true)) return;
+    const auto application = m_env.monitor.frontmostAppForCorrection();
+    if (!application) return;
+    const QString bundleId = application->bundleId;
+    const auto ruling = m_env.monitor.rules().ruling(bundleId);
+    if (ruling == QLatin1String(AutoRules::ignoreRuling) || ruling == chosenSkillId) return;
+    if (!m_env.monitor.mayOfferCorrectionPrompt(bundleId)) return;
+    const bool isAsked = m_env.tagPrompt.showCorrection(
+        application->name, m_env.list.by(chosenSkillId),
+        [self = QPointer(this), bundleId, chosenSkillId](bool always) {
+            if (!self) return;
+            if (always) self->m_env.monitor.rules().setRule(bundleId, chosenSkillId);
+            self->m_env.monitor.noteTagPromptResolved(bundleId);
+        });
+    if (!isAsked) m_env.monitor.forgetPromptOffer(bundleId);
+}
+
+} // namespace vantle
