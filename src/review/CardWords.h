@@ -2,6 +2,7 @@
 #pragma once
 
 #include "review/stats/WrappedStats.h"
+#include "surfaces/kit/tokens/Look.h"
 
 #include <QColor>
 #include <QObject>
@@ -31,7 +32,7 @@ public:
 namespace cardwords {
 
 /// What is coloured when no skill lends its colour, 0xRRGGBB.
-inline constexpr std::uint32_t accent = 0x7A78FF;
+inline constexpr std::uint32_t accent = look::kDark.accent.rgb;
 
 /// The colour of the skill with the most time, else the accent.
 [[nodiscard]] std::uint32_t leadingColor(const WrappedStats& stats);

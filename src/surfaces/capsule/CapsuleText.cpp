@@ -8,31 +8,10 @@
 
 namespace vantle {
 
-namespace {
-
-// As the type scale of the kit has them.
-constexpr int kChipSize = 11;
-constexpr int kSkillLineSize = 10;
-constexpr double kSkillLineSpacing = 0.9;
-constexpr int kClockSize = 23;
-constexpr double kClockTracking = -0.010; // em
-
-QFont font(const QString& family, int size, QFont::Weight weight, double spacing = 0) {
-    QFont font(family);
-    font.setPixelSize(size);
-    font.setWeight(weight);
-    font.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
-    font.setHintingPreference(QFont::PreferVerticalHinting);
-    return font;
-}
-
-} // namespace
-
 CapsuleText::CapsuleText()
-    : m_chip(font(Typeface::text().family, kChipSize, QFont::Medium))
-    , m_skillLine(font(Typeface::text().family, kSkillLineSize, QFont::Normal, kSkillLineSpacing))
-    , m_clock(font(Typeface::display().family, kClockSize, QFont::DemiBold,
-                   (kClockTracking + Typeface::display().tracking) * kClockSize)) {}
+    : m_chip(fontOf(look::kType.smallMedium))
+    , m_skillLine(fontOf(look::kType.capsuleSkill))
+    , m_clock(fontOf(look::kType.capsuleClock)) {}
 
 QString CapsuleText::skillLine(const QString& skillName, bool paused) {
     const QString name = skillName.toUpper();

@@ -3,6 +3,8 @@
 // Pure functions over rectangles in px of the desktop, y downwards. Any thread.
 #pragma once
 
+#include "surfaces/kit/tokens/Look.h"
+
 #include <QPoint>
 #include <QRect>
 #include <QSize>
@@ -11,9 +13,9 @@
 
 namespace vantle::cardplacement {
 
-inline constexpr int kCardWidth = 380;
-inline constexpr int kRightInset = 12;
-inline constexpr int kTopInset = 10;
+inline constexpr int kCardWidth = look::kLengths.cardWidth;
+inline constexpr int kRightInset = look::kLengths.cardRight;
+inline constexpr int kTopInset = look::kLengths.cardTop;
 inline constexpr int kToastGap = 12;       ///< between the toast and what stands above it
 inline constexpr int kCornerDistance = 80; ///< what is as near to both edges is in the corner
 

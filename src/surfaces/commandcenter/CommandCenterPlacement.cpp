@@ -1,5 +1,7 @@
 #include "surfaces/commandcenter/CommandCenterPlacement.h"
 
+#include "surfaces/kit/tokens/Look.h"
+
 #include <algorithm>
 #include <optional>
 
@@ -7,9 +9,10 @@ namespace vantle::commandcenterplacement {
 
 namespace {
 
-constexpr double kEdge = 8;       // clear space to the edges of the free area
-constexpr double kItemGap = 4;    // between the tray item and the panel
-constexpr double kCornerGap = 12; // to the right edge, where nothing is known
+constexpr double kEdge = look::kLengths.panelEdge; // clear space to the edges of the free area
+constexpr double kItemGap = look::kLengths.panelItemGap; // between the tray item and the panel
+constexpr double kCornerGap =
+    look::kLengths.panelCorner; // to the right edge, where nothing is known
 
 struct Target {
     QRectF item; ///< may be a single point

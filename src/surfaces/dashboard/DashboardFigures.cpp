@@ -2,6 +2,7 @@
 
 #include "base/DateText.h"
 #include "base/Decimals.h"
+#include "surfaces/kit/tokens/Look.h"
 #include "tracking/DailyGoal.h"
 #include "tracking/DashFormat.h"
 #include "tracking/SessionGroup.h"
@@ -35,9 +36,9 @@ namespace vantle::dashboard {
 
 namespace {
 
-constexpr std::uint32_t kPink = 0xFF375F;
-constexpr std::uint32_t kViolet = 0x7A78FF;
-constexpr std::uint32_t kSky = 0x64D2FF;
+constexpr std::uint32_t kPink = look::kDark.barToday.rgb;
+constexpr std::uint32_t kViolet = look::kDark.barWeek.rgb;
+constexpr std::uint32_t kSky = look::kDark.barAllTime.rgb;
 
 /// A slice below this is not to be seen.
 constexpr double kTrace = 0.02;

@@ -4,6 +4,7 @@
 #include "base/LocalTime.h"
 #include "ceremony/show/VantleCopy.h"
 #include "platform/Preferences.h"
+#include "surfaces/kit/tokens/Look.h"
 #include "tracking/DailyGoal.h"
 #include "tracking/DashFormat.h"
 #include "tracking/NotificationCenter.h"
@@ -18,7 +19,7 @@ namespace vantle {
 namespace {
 
 /// The current hour's colour before there is a session.
-constexpr std::uint32_t kNoColor = 0x7A78FF;
+constexpr std::uint32_t kNoColor = look::kDark.accent.rgb;
 
 /// Without a session: records whose clock was ahead come to count as time passes.
 constexpr Seconds kIdleReload{3600.0};

@@ -4,6 +4,7 @@
 #include "platform/ReducedMotion.h"
 #include "surfaces/capsule/CapsuleText.h"
 #include "surfaces/dashboard/DashboardFigures.h"
+#include "surfaces/kit/tokens/Look.h"
 #include "surfaces/welcome/SampleSkills.h"
 
 #include <algorithm>
@@ -91,9 +92,11 @@ QVariantList WelcomeSamples::apps() {
 }
 
 QVariantList WelcomeSamples::stats() {
-    return {QVariant::fromValue(stat("Today", "1.4", "of 2 h goal", 0.71, 0xFF375F)),
-            QVariant::fromValue(stat("This week", "9.2", "of 14 h", 0.66, 0x7A78FF)),
-            QVariant::fromValue(stat("All time", "46.3", "next milestone 50 h", 0.926, 0x64D2FF))};
+    return {
+        QVariant::fromValue(stat("Today", "1.4", "of 2 h goal", 0.71, look::kDark.barToday.rgb)),
+        QVariant::fromValue(stat("This week", "9.2", "of 14 h", 0.66, look::kDark.barWeek.rgb)),
+        QVariant::fromValue(
+            stat("All time", "46.3", "next milestone 50 h", 0.926, look::kDark.barAllTime.rgb))};
 }
 
 QList<QColor> WelcomeSamples::wall() {

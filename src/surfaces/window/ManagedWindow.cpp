@@ -4,6 +4,7 @@
 #include "platform/Preferences.h"
 #include "platform/Screens.h"
 #include "platform/WindowManager.h"
+#include "surfaces/kit/tokens/Look.h"
 #include "surfaces/window/MemoryReturn.h"
 #include "surfaces/window/SharedEngine.h"
 #include "surfaces/window/WindowPlacement.h"
@@ -15,7 +16,7 @@ namespace vantle {
 
 namespace {
 
-constexpr int kStripHeight = 36;
+constexpr int kStripHeight = look::kLengths.stripHeight;
 constexpr int kMinContentHeight = 320; // of a resizable window
 
 /// How long a window has to rest before its frame is kept: a crash or a power cut loses no more.

@@ -1,5 +1,7 @@
 #include "surfaces/wrapped/AmbientDotPainter.h"
 
+#include "surfaces/kit/tokens/Look.h"
+
 #include <QPainter>
 
 #include <cmath>
@@ -11,7 +13,7 @@ namespace {
 
 using wrappedmotion::AmbientDot;
 
-constexpr QRgb kAccent = 0x7A78FF;
+constexpr QRgb kAccent = look::kDark.accent.rgb;
 constexpr double kWhiteLight = 0.16;
 constexpr double kTintedLight = 0.34;
 constexpr double kWhiteReach = 3.4; // radii

@@ -1,6 +1,6 @@
 #include "surfaces/wrapped/SharePosterPicture.h"
 
-#include "surfaces/wrapped/poster/PosterLook.h"
+#include "surfaces/kit/tokens/Look.h"
 #include "surfaces/wrapped/poster/SharePosterPainter.h"
 
 #include <QPainter>
@@ -50,7 +50,7 @@ void SharePosterPicture::drawEdge(QPainter& painter) {
     painter.fillPath(all.subtracted(inside), Qt::black);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     constexpr double kHalf = 0.5; // of the hairline, which lies inside
-    painter.setPen(QPen(posterlook::hairline(), 2 * kHalf));
+    painter.setPen(QPen(look::kDark.hairline.color(), 2 * kHalf));
     painter.drawRoundedRect(boundingRect().adjusted(kHalf, kHalf, -kHalf, -kHalf), m_radius - kHalf,
                             m_radius - kHalf);
 }

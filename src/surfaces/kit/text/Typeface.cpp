@@ -1,6 +1,5 @@
 #include "surfaces/kit/text/Typeface.h"
 
-#include <QFont>
 #include <QFontDatabase>
 #include <QStringList>
 
@@ -29,6 +28,17 @@ const Typeface& Typeface::display() {
         return Typeface{text().family, kStandInTracking};
     }();
     return face;
+}
+
+QFont fontOf(const look::TypeStep& step) {
+    const Typeface& face = step.display ? Typeface::display() : Typeface::text();
+    QFont font(face.family);
+    font.setPixelSize(step.size);
+    font.setWeight(step.weight);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, step.size * (step.tracking + face.tracking));
+    if (step.capitals) font.setCapitalization(QFont::AllUppercase);
+    font.setHintingPreference(QFont::PreferVerticalHinting);
+    return font;
 }
 
 } // namespace vantle

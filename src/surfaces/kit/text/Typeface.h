@@ -3,6 +3,9 @@
 // Main thread, after the application object. The fonts of the machine are asked once.
 #pragma once
 
+#include "surfaces/kit/tokens/Look.h"
+
+#include <QFont>
 #include <QString>
 
 namespace vantle {
@@ -18,5 +21,8 @@ struct Typeface {
     /// For titles and figures from 15 px upwards.
     [[nodiscard]] static const Typeface& display();
 };
+
+/// The font of a step of the type scale.
+[[nodiscard]] QFont fontOf(const look::TypeStep& step);
 
 } // namespace vantle

@@ -1,12 +1,12 @@
 #include "surfaces/kit/tokens/ColorMath.h"
 
+#include "surfaces/kit/tokens/Look.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace vantle::colormath {
 namespace {
-
-constexpr std::uint32_t kInk = 0x0A0A0F;
 
 /// Light that a channel gives, 0 to 1: what sRGB's curve was made from.
 double linear(double channel) {
@@ -43,7 +43,7 @@ double contrast(const QColor& one, const QColor& other) {
 }
 
 QColor inkOn(const QColor& fill) {
-    const QColor ink = fromHex(kInk);
+    const QColor ink = look::kDark.ink.color();
     const QColor white(Qt::white);
     return contrast(fill, ink) >= contrast(fill, white) ? ink : white;
 }

@@ -8,14 +8,21 @@
 
 namespace vantle {
 
+TypeRole::TypeRole(const look::TypeStep& step, QObject* parent)
+    : QObject(parent)
+    , m_display(step.display)
+    , m_size(step.size)
+    , m_line(step.line)
+    , m_weight(step.weight)
+    , m_tracking(step.tracking)
+    , m_capitals(step.capitals) {}
+
 QFont TypeRole::font() const {
-    const Typeface& face = m_display ? Typeface::display() : Typeface::text();
-    QFont font(m_family.isEmpty() ? face.family : m_family);
+    if (m_family.isEmpty())
+        return fontOf({m_size, m_line, static_cast<QFont::Weight>(m_weight), m_tracking, m_display,
+                       m_capitals});
+    QFont font(m_family);
     font.setPixelSize(m_size);
-    if (m_family.isEmpty()) {
-        font.setWeight(static_cast<QFont::Weight>(m_weight));
-        font.setLetterSpacing(QFont::AbsoluteSpacing, m_size * (m_tracking + face.tracking));
-    }
     if (m_capitals) font.setCapitalization(QFont::AllUppercase);
     font.setHintingPreference(QFont::PreferVerticalHinting);
     return font;

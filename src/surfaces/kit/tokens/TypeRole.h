@@ -1,5 +1,7 @@
-// One step of the type scale. The steps themselves stand in DarkUI.
+// One step of the type scale, for views. The steps themselves stand in Look.h.
 #pragma once
+
+#include "surfaces/kit/tokens/Look.h"
 
 #include <QFont>
 #include <QObject>
@@ -29,6 +31,7 @@ class TypeRole : public QObject {
 
 public:
     explicit TypeRole(QObject* parent = nullptr) : QObject(parent) {}
+    TypeRole(const look::TypeStep& step, QObject* parent);
 
     [[nodiscard]] QFont font() const;
     [[nodiscard]] double leading() const;

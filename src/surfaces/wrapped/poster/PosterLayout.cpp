@@ -1,5 +1,6 @@
 #include "surfaces/wrapped/poster/PosterLayout.h"
 
+#include "surfaces/kit/tokens/Look.h"
 #include "surfaces/wrapped/poster/PosterText.h"
 
 #include <algorithm>
@@ -47,7 +48,7 @@ PosterLayout PosterLayout::of(const SharePoster& poster) {
     const bool hasName = !poster.personaName.isEmpty();
     PosterLayout at;
     at.heroLine = hasName ? kNameLine : kHoursLine;
-    at.closing = postertext::broken(poster.closing, postertext::font(posterlook::kClosing), kColumn,
+    at.closing = postertext::broken(poster.closing, postertext::font(look::kType.lead), kColumn,
                                     kClosingLines);
     at.closingLine = at.heroLine + (hasName ? kNameToClosing : kHoursToClosing);
     const double closingEnd =

@@ -1,6 +1,7 @@
 #include "surfaces/wrapped/poster/PosterRhythm.h"
 
 #include "review/drawing/RhythmTilePainter.h"
+#include "surfaces/kit/tokens/Look.h"
 #include "surfaces/wrapped/poster/PosterLayout.h"
 #include "surfaces/wrapped/poster/PosterText.h"
 
@@ -16,18 +17,19 @@ constexpr int kWeeksInHalf = 27;
 
 constexpr TileShape kWeekTile{{40, 40}, 10};
 constexpr TileShape kMonthTile{{44, 26}, 7};
-constexpr TileShape kYearTile{{10.5, 10.5}, 2.8, true};
+constexpr TileShape kYearTile{{10.5, 10.5}, look::kLengths.radiusYearTile, true};
 
 void drawWeek(QPainter& painter, QPointF topLeft, const RhythmPicture& picture) {
     const TileShape& shape = kWeekTile;
     const double pitch = (PosterLayout::kColumn - shape.size.width()) / 6;
-    const QFont font = postertext::font(posterlook::kLetter);
+    const QFont font = postertext::font(look::kType.small);
     for (std::size_t i = 0; i < 7; ++i) {
         const DayTile& tile = picture.weeks.front()[i];
         const QPointF corner = topLeft + QPointF(pitch * double(i), 0);
-        postertext::drawAround(painter, corner + QPointF(shape.size.width() / 2, kLetterLine),
-                               picture.letters.value(qsizetype(i)), font,
-                               tile.isFuture ? posterlook::futureLetter() : posterlook::letter());
+        postertext::drawAround(
+            painter, corner + QPointF(shape.size.width() / 2, kLetterLine),
+            picture.letters.value(qsizetype(i)), font,
+            (tile.isFuture ? look::kDark.textWeekdayFuture : look::kDark.textWeekday).color());
         rhythmtile::draw(painter, corner + QPointF(0, kWeekTileTop), shape, tile);
     }
 }

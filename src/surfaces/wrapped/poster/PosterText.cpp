@@ -63,12 +63,8 @@ private:
 
 } // namespace
 
-QFont font(const posterlook::Role& role) {
-    const Typeface& face = role.display ? Typeface::display() : Typeface::text();
-    QFont font(face.family);
-    font.setPixelSize(role.size);
-    font.setWeight(role.weight);
-    font.setLetterSpacing(QFont::AbsoluteSpacing, role.size * (role.tracking + face.tracking));
+QFont font(const look::TypeStep& step) {
+    QFont font = fontOf(step);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }

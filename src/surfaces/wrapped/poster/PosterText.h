@@ -5,7 +5,7 @@
 // poster.
 #pragma once
 
-#include "surfaces/wrapped/poster/PosterLook.h"
+#include "surfaces/kit/tokens/Look.h"
 
 #include <QBrush>
 #include <QFont>
@@ -17,7 +17,7 @@ class QPainter;
 
 namespace vantle::postertext {
 
-[[nodiscard]] QFont font(const posterlook::Role& role);
+[[nodiscard]] QFont font(const look::TypeStep& step);
 
 [[nodiscard]] double width(const QString& text, const QFont& font);
 

@@ -1,5 +1,6 @@
 #include "surfaces/wrapped/poster/SharePosterPainter.h"
 
+#include "surfaces/kit/tokens/Look.h"
 #include "surfaces/wrapped/poster/PosterDots.h"
 #include "surfaces/wrapped/poster/PosterLayout.h"
 #include "surfaces/wrapped/poster/PosterRhythm.h"
@@ -15,7 +16,7 @@ namespace vantle::shareposter {
 
 namespace {
 
-using namespace posterlook;
+using look::kType;
 using Layout = PosterLayout;
 
 constexpr double kDotsHeight = 150;
@@ -37,14 +38,14 @@ void drawHeader(QPainter& painter, const SharePoster& poster) {
     QSvgRenderer icon(QStringLiteral(":/vantle/kit/app-icon.svg"));
     icon.render(&painter, {Layout::kMargin, Layout::kMargin, Layout::kIcon, Layout::kIcon});
     postertext::draw(painter, {Layout::kBesideIcon, Layout::kWordmarkLine}, poster.wordmark,
-                     postertext::font(kWordmark), t1());
+                     postertext::font(kType.cardTitle), look::kDark.textPrimary.color());
     postertext::draw(painter, {Layout::kBesideIcon, Layout::kTitleLine}, poster.title,
-                     postertext::font(kSmallKicker), t2());
+                     postertext::font(kType.kickerPoster), look::kDark.textSecondary.color());
 }
 
 void drawName(QPainter& painter, const SharePoster& poster, double line) {
     const QFont font =
-        postertext::fitted(postertext::font(kName), poster.personaName, Layout::kColumn);
+        postertext::fitted(postertext::font(kType.namePoster), poster.personaName, Layout::kColumn);
     const QString name = postertext::elided(poster.personaName, font, Layout::kColumn);
     QLinearGradient gradient(0, 0, postertext::width(name, font), 0); // from where the text stands
     gradient.setColorAt(0, poster.startColor);
@@ -53,23 +54,24 @@ void drawName(QPainter& painter, const SharePoster& poster, double line) {
 }
 
 void drawHours(QPainter& painter, const ReviewFigure& hours, double line) {
-    const QFont unitFont = postertext::font(kHoursUnit);
+    const QFont unitFont = postertext::font(kType.heroUnitPoster);
     const double unitRoom =
         hours.unit.isEmpty() ? 0 : kHoursUnitGap + postertext::width(hours.unit, unitFont);
-    const QFont font =
-        postertext::fitted(postertext::font(kHours), hours.value, Layout::kColumn - unitRoom);
+    const QFont font = postertext::fitted(postertext::font(kType.heroPoster), hours.value,
+                                          Layout::kColumn - unitRoom);
     const double left = optical(hours.value, font);
-    postertext::draw(painter, {left, line}, hours.value, font, t1());
+    postertext::draw(painter, {left, line}, hours.value, font, look::kDark.textPrimary.color());
     const double end = left + postertext::width(hours.value, font);
-    postertext::draw(painter, {end + kHoursUnitGap, line}, hours.unit, unitFont, t3());
+    postertext::draw(painter, {end + kHoursUnitGap, line}, hours.unit, unitFont,
+                     look::kDark.textTertiary.color());
 }
 
 void drawClosing(QPainter& painter, const Layout& at) {
-    const QFont font = postertext::font(kClosing);
+    const QFont font = postertext::font(kType.lead);
     for (qsizetype i = 0; i < at.closing.size(); ++i)
         postertext::draw(painter,
                          {Layout::kMargin, at.closingLine + Layout::kClosingLeading * double(i)},
-                         at.closing[i], font, t2());
+                         at.closing[i], font, look::kDark.textSecondary.color());
 }
 
 /// The breakdown's columns: names and hours get what they need, up to a point, and the bars what is
@@ -88,8 +90,8 @@ struct Columns {
         bar = QRectF(left, 0, right - left, Layout::kBarHeight);
     }
 
-    const QFont nameFont = postertext::font(kSkill);
-    const QFont hoursFont = postertext::font(kSkillHours);
+    const QFont nameFont = postertext::font(kType.bodyMedium);
+    const QFont hoursFont = postertext::font(kType.bodyMedium);
     double nameRoom = 0;
     QRectF bar; ///< full, at the top of the poster
 };
@@ -97,7 +99,7 @@ struct Columns {
 void drawBar(QPainter& painter, QRectF bar, const SkillLine& skill) {
     const double radius = bar.height() / 2;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(trough());
+    painter.setBrush(look::kDark.barTrough.color());
     painter.drawRoundedRect(bar, radius, radius);
     // Never less than a whole dot.
     bar.setWidth(std::max(bar.width() * skill.fraction, bar.height()));
@@ -108,7 +110,7 @@ void drawBar(QPainter& painter, QRectF bar, const SkillLine& skill) {
 void drawBreakdown(QPainter& painter, const SharePoster& poster, const Layout& at) {
     if (poster.breakdown.empty()) return;
     postertext::draw(painter, {Layout::kMargin, at.breakdownKickerLine}, poster.breakdownKicker,
-                     postertext::font(kKicker), t3());
+                     postertext::font(kType.kicker), look::kDark.textTertiary.color());
     const Columns columns(poster.breakdown);
     for (std::size_t i = 0; i < poster.breakdown.size(); ++i) {
         const SkillLine& skill = poster.breakdown[i];
@@ -116,27 +118,31 @@ void drawBreakdown(QPainter& painter, const SharePoster& poster, const Layout& a
         const double line = middle + kRowLine;
         postertext::draw(painter, {Layout::kMargin, line},
                          postertext::elided(skill.name, columns.nameFont, columns.nameRoom),
-                         columns.nameFont, t1());
+                         columns.nameFont, look::kDark.textPrimary.color());
         drawBar(painter, columns.bar.translated(0, middle - Layout::kBarHeight / 2), skill);
         postertext::drawBefore(painter, {Layout::kRight, line}, skill.hours, columns.hoursFont,
-                               t2());
+                               look::kDark.textSecondary.color());
     }
 }
 
 void drawFigures(QPainter& painter, const SharePoster& poster, const Layout& at) {
-    painter.fillRect(QRectF(Layout::kMargin, at.divider, Layout::kColumn, 1), hairline());
-    const QFont titleFont = postertext::font(kSmallKicker);
+    painter.fillRect(QRectF(Layout::kMargin, at.divider, Layout::kColumn, 1),
+                     look::kDark.hairline.color());
+    const QFont titleFont = postertext::font(kType.kickerPoster);
     const QString space(QLatin1Char(' '));
     const double pitch = Layout::kColumn / double(std::max<std::size_t>(poster.figures.size(), 1));
-    QFont font = postertext::font(kFigure); // one for all, in which the longest fits
+    QFont font = postertext::font(kType.titleL); // one for all, in which the longest fits
     for (const auto& [figure, title] : poster.figures)
         font = postertext::fitted(font, figure.value + space + figure.unit, pitch - kFigureGap);
     double x = Layout::kMargin;
     for (const auto& [figure, title] : poster.figures) {
-        postertext::draw(painter, {x, at.figureLine}, figure.value, font, t1());
+        postertext::draw(painter, {x, at.figureLine}, figure.value, font,
+                         look::kDark.textPrimary.color());
         const double unit = x + postertext::width(figure.value + space, font);
-        postertext::draw(painter, {unit, at.figureLine}, figure.unit, font, t3());
-        postertext::draw(painter, {x, at.figureTitleLine}, title, titleFont, t3());
+        postertext::draw(painter, {unit, at.figureLine}, figure.unit, font,
+                         look::kDark.textTertiary.color());
+        postertext::draw(painter, {x, at.figureTitleLine}, title, titleFont,
+                         look::kDark.textTertiary.color());
         x += pitch;
     }
 }
@@ -149,7 +155,7 @@ void draw(QPainter& painter, const SharePoster& poster, double scale) {
     const Layout at = Layout::of(poster);
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    painter.fillRect(QRectF({}, at.size()), ground());
+    painter.fillRect(QRectF({}, at.size()), look::kDark.windowGround.color());
     posterdots::draw(painter, {0, 0, Layout::kWidth, kDotsHeight}, poster.dotColors, scale);
     drawHeader(painter, poster);
     if (poster.personaName.isEmpty())
@@ -158,12 +164,12 @@ void draw(QPainter& painter, const SharePoster& poster, double scale) {
         drawName(painter, poster, at.heroLine);
     drawClosing(painter, at);
     postertext::draw(painter, {Layout::kMargin, at.rhythmKickerLine}, poster.rhythmKicker,
-                     postertext::font(kKicker), t3());
+                     postertext::font(kType.kicker), look::kDark.textTertiary.color());
     posterrhythm::draw(painter, {Layout::kMargin, at.rhythmTop}, poster.rhythm);
     drawBreakdown(painter, poster, at);
     drawFigures(painter, poster, at);
     postertext::draw(painter, {Layout::kMargin, at.footerLine}, poster.footer,
-                     postertext::font(kFooter), t3());
+                     postertext::font(kType.small), look::kDark.textTertiary.color());
     painter.restore();
 }
 

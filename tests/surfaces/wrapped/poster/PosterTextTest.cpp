@@ -11,8 +11,8 @@
 namespace vantle {
 namespace {
 
-using posterlook::kName;
-using posterlook::kSkill;
+constexpr look::TypeStep kName = look::kType.namePoster;
+constexpr look::TypeStep kSkill = look::kType.bodyMedium;
 using postertext::font;
 
 /// A line of text in white on black, its baseline at 40.
