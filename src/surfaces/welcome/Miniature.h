@@ -26,9 +26,6 @@ class Miniature : public vantle::BakedItem {
 public:
     explicit Miniature(QQuickItem* parent = nullptr);
 
-Q_SIGNALS:
-    void changed();
-
 protected:
     void paint(QPainter& painter, double scale) override;
     [[nodiscard]] QMarginsF bleed() const override;

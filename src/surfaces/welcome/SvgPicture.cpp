@@ -5,10 +5,6 @@
 
 namespace vantle {
 
-void SvgPicture::setSource(const QUrl& source) {
-    if (show(m_source, source)) Q_EMIT sourceChanged();
-}
-
 void SvgPicture::paint(QPainter& painter, double /*scale*/) {
     if (m_source.scheme() != QLatin1String("qrc")) return;
     QSvgRenderer svg(QLatin1Char(':') + m_source.path());

@@ -13,16 +13,10 @@ class SvgPicture : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
     /// Such as "qrc:/qt/qml/Vantle/Welcome/pictures/brick.svg".
-    Q_PROPERTY(QUrl source READ source WRITE setSource NOTIFY sourceChanged)
+    Q_PROPERTY(QUrl source MEMBER m_source NOTIFY changed)
 
 public:
     explicit SvgPicture(QQuickItem* parent = nullptr) : BakedItem(parent) {}
-
-    [[nodiscard]] QUrl source() const { return m_source; }
-    void setSource(const QUrl& source);
-
-Q_SIGNALS:
-    void sourceChanged();
 
 protected:
     void paint(QPainter& painter, double scale) override;

@@ -16,14 +16,6 @@ constexpr double kReach = 68 + 54 + 12 + 4;
 
 } // namespace
 
-void BurstDots::setColors(const QList<QColor>& colors) {
-    if (show(m_colors, colors)) Q_EMIT changed();
-}
-
-void BurstDots::setProgress(double progress) {
-    if (show(m_progress, progress)) Q_EMIT changed();
-}
-
 QMarginsF BurstDots::bleed() const {
     const double sides = std::max(0.0, kReach - width() / 2);
     const double ends = std::max(0.0, kReach - height() / 2);

@@ -13,20 +13,12 @@ namespace vantle {
 class BurstDots : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QList<QColor> colors READ colors WRITE setColors NOTIFY changed)
+    Q_PROPERTY(QList<QColor> colors MEMBER m_colors NOTIFY changed)
     /// From 0 to 1 over the burst.
-    Q_PROPERTY(double progress READ progress WRITE setProgress NOTIFY changed)
+    Q_PROPERTY(double progress MEMBER m_progress NOTIFY changed)
 
 public:
     explicit BurstDots(QQuickItem* parent = nullptr) : BakedItem(parent) {}
-
-    [[nodiscard]] QList<QColor> colors() const { return m_colors; }
-    void setColors(const QList<QColor>& colors);
-    [[nodiscard]] double progress() const { return m_progress; }
-    void setProgress(double progress);
-
-Q_SIGNALS:
-    void changed();
 
 protected:
     void paint(QPainter& painter, double scale) override;

@@ -10,18 +10,6 @@
 
 namespace vantle {
 
-void DotRing::setColors(const QList<QColor>& colors) {
-    if (show(m_colors, colors)) Q_EMIT changed();
-}
-
-void DotRing::setCount(int count) {
-    if (show(m_count, std::max(count, 0))) Q_EMIT changed();
-}
-
-void DotRing::setDotRadius(double radius) {
-    if (show(m_dotRadius, radius)) Q_EMIT changed();
-}
-
 QMarginsF DotRing::bleed() const {
     const double glow = std::ceil(m_dotRadius * (glassdotpainter::kGlowReach - 1)) + 1;
     return {glow, glow, glow, glow};

@@ -14,23 +14,13 @@ namespace vantle {
 class DotRing : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QList<QColor> colors READ colors WRITE setColors NOTIFY changed)
-    Q_PROPERTY(int count READ count WRITE setCount NOTIFY changed)
+    Q_PROPERTY(QList<QColor> colors MEMBER m_colors NOTIFY changed)
+    Q_PROPERTY(int count MEMBER m_count NOTIFY changed)
     /// px
-    Q_PROPERTY(double dotRadius READ dotRadius WRITE setDotRadius NOTIFY changed)
+    Q_PROPERTY(double dotRadius MEMBER m_dotRadius NOTIFY changed)
 
 public:
     explicit DotRing(QQuickItem* parent = nullptr) : BakedItem(parent) {}
-
-    [[nodiscard]] QList<QColor> colors() const { return m_colors; }
-    void setColors(const QList<QColor>& colors);
-    [[nodiscard]] int count() const { return m_count; }
-    void setCount(int count);
-    [[nodiscard]] double dotRadius() const { return m_dotRadius; }
-    void setDotRadius(double radius);
-
-Q_SIGNALS:
-    void changed();
 
 protected:
     void paint(QPainter& painter, double scale) override;

@@ -11,36 +11,6 @@
 
 namespace vantle {
 
-void GradientText::setText(const QString& text) {
-    if (!show(m_text, text)) return;
-    layOut();
-    Q_EMIT changed();
-}
-
-void GradientText::setShownCharacters(int count) {
-    if (show(m_shown, count)) Q_EMIT changed();
-}
-
-void GradientText::setStartColor(const QColor& color) {
-    if (show(m_start, color)) Q_EMIT changed();
-}
-
-void GradientText::setEndColor(const QColor& color) {
-    if (show(m_end, color)) Q_EMIT changed();
-}
-
-void GradientText::setFont(const QFont& font) {
-    if (!show(m_font, font)) return;
-    layOut();
-    Q_EMIT changed();
-}
-
-void GradientText::setLineHeight(double height) {
-    if (!show(m_lineHeight, height)) return;
-    layOut();
-    Q_EMIT changed();
-}
-
 void GradientText::layOut() {
     m_textWidth = QFontMetricsF(m_font).horizontalAdvance(m_text);
     setImplicitSize(std::ceil(m_textWidth), m_lineHeight);

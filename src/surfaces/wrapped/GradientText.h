@@ -14,33 +14,19 @@ namespace vantle {
 class GradientText : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QString text READ text WRITE setText NOTIFY changed)
+    Q_PROPERTY(QString text MEMBER m_text NOTIFY changed)
     /// How many characters of it are shown; -1 for all.
-    Q_PROPERTY(int shownCharacters READ shownCharacters WRITE setShownCharacters NOTIFY changed)
-    Q_PROPERTY(QColor startColor READ startColor WRITE setStartColor NOTIFY changed)
-    Q_PROPERTY(QColor endColor READ endColor WRITE setEndColor NOTIFY changed)
-    Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY changed)
+    Q_PROPERTY(int shownCharacters MEMBER m_shown NOTIFY changed)
+    Q_PROPERTY(QColor startColor MEMBER m_start NOTIFY changed)
+    Q_PROPERTY(QColor endColor MEMBER m_end NOTIFY changed)
+    Q_PROPERTY(QFont font MEMBER m_font NOTIFY changed)
     /// px
-    Q_PROPERTY(double lineHeight READ lineHeight WRITE setLineHeight NOTIFY changed)
+    Q_PROPERTY(double lineHeight MEMBER m_lineHeight NOTIFY changed)
 
 public:
-    explicit GradientText(QQuickItem* parent = nullptr) : BakedItem(parent) {}
-
-    [[nodiscard]] QString text() const { return m_text; }
-    void setText(const QString& text);
-    [[nodiscard]] int shownCharacters() const { return m_shown; }
-    void setShownCharacters(int count);
-    [[nodiscard]] QColor startColor() const { return m_start; }
-    void setStartColor(const QColor& color);
-    [[nodiscard]] QColor endColor() const { return m_end; }
-    void setEndColor(const QColor& color);
-    [[nodiscard]] QFont font() const { return m_font; }
-    void setFont(const QFont& font);
-    [[nodiscard]] double lineHeight() const { return m_lineHeight; }
-    void setLineHeight(double height);
-
-Q_SIGNALS:
-    void changed();
+    explicit GradientText(QQuickItem* parent = nullptr) : BakedItem(parent) {
+        connect(this, &BakedItem::changed, this, &GradientText::layOut);
+    }
 
 protected:
     void paint(QPainter& painter, double scale) override;

@@ -7,7 +7,6 @@ namespace vantle {
 
 void PersonaDisc::setCard(const PersonaCard& card) {
     m_card = card;
-    update();
     Q_EMIT changed();
 }
 

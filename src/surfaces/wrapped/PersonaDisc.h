@@ -18,9 +18,6 @@ public:
     [[nodiscard]] const PersonaCard& card() const { return m_card; }
     void setCard(const PersonaCard& card);
 
-Q_SIGNALS:
-    void changed();
-
 protected:
     void paint(QPainter& painter, double scale) override;
 

@@ -12,22 +12,6 @@ void RhythmTiles::setPicture(const RhythmPicture& picture) {
     Q_EMIT pictureChanged();
 }
 
-void RhythmTiles::setFont(const QFont& font) {
-    if (show(m_font, font)) Q_EMIT letteringChanged();
-}
-
-void RhythmTiles::setColor(const QColor& color) {
-    if (show(m_color, color)) Q_EMIT letteringChanged();
-}
-
-void RhythmTiles::setFutureColor(const QColor& color) {
-    if (show(m_futureColor, color)) Q_EMIT letteringChanged();
-}
-
-void RhythmTiles::setGrowing(double milliseconds) {
-    if (show(m_growing, milliseconds)) Q_EMIT growingChanged();
-}
-
 int RhythmTiles::growTime() {
     return static_cast<int>(std::lround(1000 * rhythmpainter::growSeconds()));
 }

@@ -17,12 +17,12 @@ class RhythmTiles : public vantle::BakedItem {
     Q_PROPERTY(vantle::RhythmPicture picture READ picture WRITE setPicture NOTIFY pictureChanged)
     Q_PROPERTY(int dayCount READ dayCount NOTIFY pictureChanged)
     /// Of letters and names of months.
-    Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY letteringChanged)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY letteringChanged)
-    Q_PROPERTY(QColor futureColor READ futureColor WRITE setFutureColor NOTIFY letteringChanged)
+    Q_PROPERTY(QFont font MEMBER m_font NOTIFY changed)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
+    Q_PROPERTY(QColor futureColor MEMBER m_futureColor NOTIFY changed)
     /// How many milliseconds after its page came the tiles of a week are shown, growing; a negative
     /// number when all are there.
-    Q_PROPERTY(double growing READ growing WRITE setGrowing NOTIFY growingChanged)
+    Q_PROPERTY(double growing MEMBER m_growing NOTIFY changed)
     /// How long all of that takes, in milliseconds.
     Q_PROPERTY(int growTime READ growTime CONSTANT)
 
@@ -32,14 +32,6 @@ public:
     [[nodiscard]] const RhythmPicture& picture() const { return m_picture; }
     void setPicture(const RhythmPicture& picture);
     [[nodiscard]] int dayCount() const { return static_cast<int>(m_layout.spots.size()); }
-    [[nodiscard]] QFont font() const { return m_font; }
-    void setFont(const QFont& font);
-    [[nodiscard]] QColor color() const { return m_color; }
-    void setColor(const QColor& color);
-    [[nodiscard]] QColor futureColor() const { return m_futureColor; }
-    void setFutureColor(const QColor& color);
-    [[nodiscard]] double growing() const { return m_growing; }
-    void setGrowing(double milliseconds);
     [[nodiscard]] static int growTime();
 
     /// The day at a point of the item; -1 for none.
@@ -51,8 +43,6 @@ public:
 
 Q_SIGNALS:
     void pictureChanged();
-    void letteringChanged();
-    void growingChanged();
 
 protected:
     void paint(QPainter& painter, double scale) override;

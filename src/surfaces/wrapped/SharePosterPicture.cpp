@@ -13,12 +13,7 @@ SharePosterPicture::SharePosterPicture(QQuickItem* parent) : BakedItem(parent) {
 void SharePosterPicture::setPoster(const SharePoster& poster) {
     m_poster = poster;
     wantHeight();
-    update();
     Q_EMIT changed();
-}
-
-void SharePosterPicture::setRadius(double radius) {
-    if (show(m_radius, radius)) Q_EMIT changed();
 }
 
 void SharePosterPicture::wantHeight() {

@@ -13,18 +13,13 @@ class SharePosterPicture : public vantle::BakedItem {
     QML_ELEMENT
     Q_PROPERTY(vantle::SharePoster poster READ poster WRITE setPoster NOTIFY changed)
     /// Of the corners, px; with one there is a fine edge as well.
-    Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY changed)
+    Q_PROPERTY(double radius MEMBER m_radius NOTIFY changed)
 
 public:
     explicit SharePosterPicture(QQuickItem* parent = nullptr);
 
     [[nodiscard]] const SharePoster& poster() const { return m_poster; }
     void setPoster(const SharePoster& poster);
-    [[nodiscard]] double radius() const { return m_radius; }
-    void setRadius(double radius);
-
-Q_SIGNALS:
-    void changed();
 
 protected:
     void paint(QPainter& painter, double scale) override;

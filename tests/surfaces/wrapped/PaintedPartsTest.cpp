@@ -50,11 +50,11 @@ protected:
     GradientTextTest() {
         QFont font;
         font.setPixelSize(40);
-        m_text.setFont(font);
-        m_text.setLineHeight(48);
-        m_text.setText(QStringLiteral("HHHHHHHH"));
-        m_text.setStartColor(Qt::red);
-        m_text.setEndColor(Qt::blue);
+        m_text.setProperty("font", font);
+        m_text.setProperty("lineHeight", 48);
+        m_text.setProperty("text", QStringLiteral("HHHHHHHH"));
+        m_text.setProperty("startColor", QColor(Qt::red));
+        m_text.setProperty("endColor", QColor(Qt::blue));
         m_text.setSize({m_text.implicitWidth(), m_text.implicitHeight()});
     }
     GradientText m_text;
@@ -71,14 +71,14 @@ TEST_F(GradientTextTest, GoesFromOneColourToTheOtherOverTheWholeName) {
 
 TEST_F(GradientTextTest, FirstLettersHaveTheColoursThatTheyWillKeep) {
     const QRect whole = litArea(pictureOf(m_text));
-    m_text.setShownCharacters(4);
+    m_text.setProperty("shownCharacters", 4);
     const QImage image = pictureOf(m_text);
     const QRect half = litArea(image);
     EXPECT_EQ(half.left(), whole.left());
     EXPECT_NEAR(half.width(), whole.width() / 2, 12);
     const QColor last = columnColor(image, half.right() - 3);
     EXPECT_GT(last.red(), last.blue() / 2) << "not at the end of the gradient yet";
-    m_text.setShownCharacters(0);
+    m_text.setProperty("shownCharacters", 0);
     EXPECT_TRUE(litArea(pictureOf(m_text)).isNull());
 }
 
@@ -93,9 +93,9 @@ class BurstDotsTest : public PaintedPartsTest {
 protected:
     [[nodiscard]] QRect areaAt(double progress) {
         BurstDots burst;
-        burst.setColors({Qt::red, Qt::green});
+        burst.setProperty("colors", QVariant::fromValue(QList<QColor>{Qt::red, Qt::green}));
         burst.setSize({120, 40});
-        burst.setProgress(progress);
+        burst.setProperty("progress", progress);
         return litArea(pictureOf(burst, {140, 140}));
     }
 };
@@ -116,9 +116,9 @@ TEST_F(BurstDotsTest, AreNotThereBeforeAndAfter) {
 
 TEST_F(PaintedPartsTest, RingBeginsAtTheTopAndLeavesItsMiddleFree) {
     DotRing ring;
-    ring.setColors({Qt::red, Qt::blue});
-    ring.setCount(2); // one at the top, one at the bottom
-    ring.setDotRadius(10);
+    ring.setProperty("colors", QVariant::fromValue(QList<QColor>{Qt::red, Qt::blue}));
+    ring.setProperty("count", 2); // one at the top, one at the bottom
+    ring.setProperty("dotRadius", 10);
     ring.setSize({100, 100});
     const QImage image = pictureOf(ring, {50, 50});
     const QColor top = image.pixelColor(100, 60);

@@ -58,7 +58,7 @@ TEST_F(SharePosterPictureTest, IsDrawnForTheScreenAndNotMadeSmaller) {
 
 TEST_F(SharePosterPictureTest, HasRoundCornersWhereItIsAskedTo) {
     EXPECT_NE(onScreen().pixelColor(0, 0), QColor(Qt::magenta));
-    m_picture.setRadius(14);
+    m_picture.setProperty("radius", 14);
     const QImage round = onScreen();
     EXPECT_EQ(round.pixelColor(0, 0), QColor(Qt::magenta));
     EXPECT_EQ(round.pixelColor(263, 0), QColor(Qt::magenta));

@@ -9,7 +9,10 @@
 
 namespace vantle {
 
-BakedItem::BakedItem(QQuickItem* parent) : QQuickItem(parent) { setFlag(ItemHasContents); }
+BakedItem::BakedItem(QQuickItem* parent) : QQuickItem(parent) {
+    setFlag(ItemHasContents);
+    connect(this, &BakedItem::changed, this, &QQuickItem::update);
+}
 
 QSGNode* BakedItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/) {
     const double scale = window()->effectiveDevicePixelRatio();

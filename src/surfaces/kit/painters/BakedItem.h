@@ -9,27 +9,22 @@ class QPainter;
 namespace vantle {
 
 /// Paints in its own coordinates at the scale of its window, again after update() or when that
-/// scale changes. What it paints may reach beyond its bounds, by bleed(). Main thread, with the
-/// software renderer.
+/// scale changes. What it paints may reach beyond its bounds, by bleed(). A property that shows is
+/// `Q_PROPERTY(... MEMBER ... NOTIFY changed)`. Main thread, with the software renderer.
 class BakedItem : public QQuickItem {
     Q_OBJECT
 
 public:
     explicit BakedItem(QQuickItem* parent = nullptr);
 
+Q_SIGNALS:
+    /// One of the properties is another: it paints again.
+    void changed();
+
 protected:
     /// `scale` is the number of device pixels in a pixel, which the painter accounts for already.
     virtual void paint(QPainter& painter, double scale) = 0;
     [[nodiscard]] virtual QMarginsF bleed() const { return {}; }
-
-    /// Sets a property that shows: repaints when it has changed, and tells whether it has.
-    template <typename T>
-    bool show(T& member, const T& value) {
-        if (member == value) return false;
-        member = value;
-        update();
-        return true;
-    }
 
     QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
     void geometryChange(const QRectF& now, const QRectF& before) override;

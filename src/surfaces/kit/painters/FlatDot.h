@@ -12,16 +12,10 @@ namespace vantle {
 class FlatDot : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY changed)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
 
 public:
     explicit FlatDot(QQuickItem* parent = nullptr) : BakedItem(parent) {}
-
-    [[nodiscard]] QColor color() const { return m_color; }
-    void setColor(const QColor& color);
-
-Q_SIGNALS:
-    void changed();
 
 protected:
     void paint(QPainter& painter, double scale) override;

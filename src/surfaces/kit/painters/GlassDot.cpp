@@ -8,18 +8,6 @@
 
 namespace vantle {
 
-void GlassDot::setColor(const QColor& color) {
-    if (show(m_color, color)) Q_EMIT changed();
-}
-
-void GlassDot::setFilled(bool filled) {
-    if (show(m_filled, filled)) Q_EMIT changed();
-}
-
-void GlassDot::setFraction(double fraction) {
-    if (show(m_fraction, fraction)) Q_EMIT changed();
-}
-
 double GlassDot::radius() const { return std::min(width(), height()) / 2; }
 
 QMarginsF GlassDot::bleed() const {

@@ -12,23 +12,13 @@ namespace vantle {
 class GlassDot : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY changed)
-    Q_PROPERTY(bool filled READ isFilled WRITE setFilled NOTIFY changed)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
+    Q_PROPERTY(bool filled MEMBER m_filled NOTIFY changed)
     /// How much of the hour is done, 0 to 1; negative for a whole dot.
-    Q_PROPERTY(double fraction READ fraction WRITE setFraction NOTIFY changed)
+    Q_PROPERTY(double fraction MEMBER m_fraction NOTIFY changed)
 
 public:
     explicit GlassDot(QQuickItem* parent = nullptr) : BakedItem(parent) {}
-
-    [[nodiscard]] QColor color() const { return m_color; }
-    void setColor(const QColor& color);
-    [[nodiscard]] bool isFilled() const { return m_filled; }
-    void setFilled(bool filled);
-    [[nodiscard]] double fraction() const { return m_fraction; }
-    void setFraction(double fraction);
-
-Q_SIGNALS:
-    void changed();
 
 protected:
     void paint(QPainter& painter, double scale) override;

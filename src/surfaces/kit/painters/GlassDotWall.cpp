@@ -8,35 +8,9 @@
 
 namespace vantle {
 
-void GlassDotWall::setColors(const QList<QColor>& colors) {
-    if (show(m_colors, colors)) Q_EMIT colorsChanged();
+WallGrid GlassDotWall::grid() const {
+    return {std::max(m_columns, 1), std::max(m_rows, 1), size()};
 }
-
-void GlassDotWall::setColumns(int columns) {
-    if (show(m_columns, std::max(columns, 1))) Q_EMIT gridChanged();
-}
-
-void GlassDotWall::setRows(int rows) {
-    if (show(m_rows, std::max(rows, 1))) Q_EMIT gridChanged();
-}
-
-void GlassDotWall::setFilledCount(int count) {
-    if (show(m_filledCount, count)) Q_EMIT filledCountChanged();
-}
-
-void GlassDotWall::setSliceFraction(double fraction) {
-    if (show(m_sliceFraction, fraction)) Q_EMIT sliceChanged();
-}
-
-void GlassDotWall::setSliceColor(const QColor& color) {
-    if (show(m_sliceColor, color)) Q_EMIT sliceChanged();
-}
-
-void GlassDotWall::setSockets(bool sockets) {
-    if (show(m_hasSockets, sockets)) Q_EMIT socketsChanged();
-}
-
-WallGrid GlassDotWall::grid() const { return {m_columns, m_rows, size()}; }
 
 QMarginsF GlassDotWall::bleed() const {
     const double glow = grid().radius() * glassdotpainter::kGlowReach;
@@ -48,7 +22,7 @@ QMarginsF GlassDotWall::bleed() const {
 
 void GlassDotWall::geometryChange(const QRectF& now, const QRectF& before) {
     BakedItem::geometryChange(now, before);
-    if (now.size() != before.size()) Q_EMIT gridChanged();
+    if (now.size() != before.size()) Q_EMIT changed();
 }
 
 void GlassDotWall::paint(QPainter& painter, double scale) {

@@ -12,14 +12,6 @@ constexpr double kGrid = 16.0;
 
 KitIcon::KitIcon(QQuickItem* parent) : BakedItem(parent) { setImplicitSize(kGrid, kGrid); }
 
-void KitIcon::setName(const QString& name) {
-    if (show(m_name, name)) Q_EMIT changed();
-}
-
-void KitIcon::setColor(const QColor& color) {
-    if (show(m_color, color)) Q_EMIT changed();
-}
-
 void KitIcon::paint(QPainter& painter, double /*scale*/) {
     if (m_name.isEmpty()) return;
     QSvgRenderer svg(QStringLiteral(":/qt/qml/Vantle/Kit/icons/%1.svg").arg(m_name));

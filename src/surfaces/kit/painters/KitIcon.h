@@ -13,19 +13,11 @@ class KitIcon : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
     /// Such as "close" or "chevron-down".
-    Q_PROPERTY(QString name READ name WRITE setName NOTIFY changed)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY changed)
+    Q_PROPERTY(QString name MEMBER m_name NOTIFY changed)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
 
 public:
     explicit KitIcon(QQuickItem* parent = nullptr);
-
-    [[nodiscard]] QString name() const { return m_name; }
-    void setName(const QString& name);
-    [[nodiscard]] QColor color() const { return m_color; }
-    void setColor(const QColor& color);
-
-Q_SIGNALS:
-    void changed();
 
 protected:
     void paint(QPainter& painter, double scale) override;

@@ -20,14 +20,6 @@ double lightAt(double part) {
 
 } // namespace
 
-void RoundGlow::setColor(const QColor& color) {
-    if (show(m_color, color)) Q_EMIT changed();
-}
-
-void RoundGlow::setReach(double reach) {
-    if (show(m_reach, reach)) Q_EMIT changed();
-}
-
 void RoundGlow::paint(QPainter& painter, double /*scale*/) {
     const QPointF centre(width() / 2, height() / 2);
     const double rim = width() / 2;

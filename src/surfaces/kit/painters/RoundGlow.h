@@ -12,20 +12,12 @@ class RoundGlow : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
     /// With the opacity that the glow would have below the control.
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY changed)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
     /// How far beyond the control it can be seen, in px.
-    Q_PROPERTY(double reach READ reach WRITE setReach NOTIFY changed)
+    Q_PROPERTY(double reach MEMBER m_reach NOTIFY changed)
 
 public:
     explicit RoundGlow(QQuickItem* parent = nullptr) : BakedItem(parent) {}
-
-    [[nodiscard]] QColor color() const { return m_color; }
-    void setColor(const QColor& color);
-    [[nodiscard]] double reach() const { return m_reach; }
-    void setReach(double reach);
-
-Q_SIGNALS:
-    void changed();
 
 protected:
     void paint(QPainter& painter, double scale) override;

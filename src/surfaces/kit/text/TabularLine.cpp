@@ -7,28 +7,6 @@
 
 namespace vantle {
 
-void TabularLine::setText(const QString& text) {
-    if (!show(m_text, text)) return;
-    layOut();
-    Q_EMIT changed();
-}
-
-void TabularLine::setColor(const QColor& color) {
-    if (show(m_color, color)) Q_EMIT changed();
-}
-
-void TabularLine::setFont(const QFont& font) {
-    if (!show(m_font, font)) return;
-    layOut();
-    Q_EMIT changed();
-}
-
-void TabularLine::setLineHeight(double height) {
-    if (!show(m_lineHeight, height)) return;
-    layOut();
-    Q_EMIT changed();
-}
-
 void TabularLine::layOut() {
     m_line = tabular::layOut(m_text, m_font);
     setImplicitSize(std::ceil(m_line.width), m_lineHeight);

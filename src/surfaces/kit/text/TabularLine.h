@@ -12,26 +12,16 @@ namespace vantle {
 class TabularLine : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QString text READ text WRITE setText NOTIFY changed)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY changed)
-    Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY changed)
+    Q_PROPERTY(QString text MEMBER m_text NOTIFY changed)
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
+    Q_PROPERTY(QFont font MEMBER m_font NOTIFY changed)
     /// px
-    Q_PROPERTY(double lineHeight READ lineHeight WRITE setLineHeight NOTIFY changed)
+    Q_PROPERTY(double lineHeight MEMBER m_lineHeight NOTIFY changed)
 
 public:
-    explicit TabularLine(QQuickItem* parent = nullptr) : BakedItem(parent) {}
-
-    [[nodiscard]] QString text() const { return m_text; }
-    void setText(const QString& text);
-    [[nodiscard]] QColor color() const { return m_color; }
-    void setColor(const QColor& color);
-    [[nodiscard]] QFont font() const { return m_font; }
-    void setFont(const QFont& font);
-    [[nodiscard]] double lineHeight() const { return m_lineHeight; }
-    void setLineHeight(double height);
-
-Q_SIGNALS:
-    void changed();
+    explicit TabularLine(QQuickItem* parent = nullptr) : BakedItem(parent) {
+        connect(this, &BakedItem::changed, this, &TabularLine::layOut);
+    }
 
 protected:
     void paint(QPainter& painter, double scale) override;

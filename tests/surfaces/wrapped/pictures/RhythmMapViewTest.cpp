@@ -30,6 +30,7 @@ protected:
         return *qobject_cast<RhythmTiles*>(
             PictureWindow::ofType(map, "vantle::RhythmTiles").value(0));
     }
+    static double growing(QQuickItem& map) { return tiles(map).property("growing").toDouble(); }
     static QStringList daysRead(QQuickItem& map) {
         QStringList words;
         for (QQuickItem* child : map.childItems())
@@ -77,19 +78,19 @@ TEST_F(RhythmMapView, ThePointerFindsTheDayUnderItAndNoneBesideIt) {
 
 TEST_F(RhythmMapView, AWeekGrowsOnceWhenItsPageComes) {
     QQuickItem& map = show(WrappedPeriod::Week, true);
-    EXPECT_GE(tiles(map).growing(), 0);
-    EXPECT_LT(tiles(map).growing(), tiles(map).growTime());
+    EXPECT_GE(growing(map), 0);
+    EXPECT_LT(growing(map), tiles(map).growTime());
     EXPECT_EQ(tiles(map).growTime(), 1100);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return tiles(map).growing() < 0; }, 10'000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return growing(map) < 0; }, 10'000));
     map.setProperty("rhythm", QVariant::fromValue(cardOf(WrappedPeriod::LastWeek)));
     QCoreApplication::processEvents();
-    EXPECT_LT(tiles(map).growing(), 0) << "another picture is there at once";
+    EXPECT_LT(growing(map), 0) << "another picture is there at once";
 }
 
 TEST_F(RhythmMapView, StandsStillWithReducedMotionAndWhereItIsSeenAgain) {
-    EXPECT_LT(tiles(show(WrappedPeriod::Week)).growing(), 0) << "not for the first time";
+    EXPECT_LT(growing(show(WrappedPeriod::Week)), 0) << "not for the first time";
     m_window.reduceMotion();
-    EXPECT_LT(tiles(show(WrappedPeriod::Week, true)).growing(), 0);
+    EXPECT_LT(growing(show(WrappedPeriod::Week, true)), 0);
 }
 
 TEST_F(RhythmMapView, ShowsTheTilesWhereTheyAre) {
