@@ -17,8 +17,9 @@ Calendar berlin() { return {QStringLiteral("Europe/Berlin"), 2, 4}; }
 void search(benchmark::State& state) {
     Workshop workshop(kMany);
     const std::unique_ptr<AppModel> model = workshop.makeModel(berlin);
-    LogView view({*model, workshop.notifications(), workshop.preferences(), workshop.clock(),
-                  workshop.scheduler(), berlin, [](const QString&) {}});
+    LogView view({model->tracker(), workshop.skills(), workshop.notifications(),
+                  workshop.preferences(), workshop.clock(), workshop.scheduler(), berlin,
+                  [](const QString&) {}});
     const auto& entries = view.rows()->content().log.entries;
     // Two letters in turn, of which one stands in most notes.
     const QString letters[] = {QStringLiteral("e"), QStringLiteral("qz")};

@@ -64,9 +64,9 @@ Scene dashboard(const char* name, Prepare prepare, std::function<void(DemoWorld&
     return window(QLatin1String(name), QStringLiteral("Dashboard/DashboardPage.qml"), prepare,
                   [then](DemoWorld& world) {
                       if (then) then(world);
-                      return new DashboardView({*world.model, world.notifications,
-                                                world.preferences, world.time, world.time,
-                                                world.calendarSource(), [] {}, [] {}});
+                      return new DashboardView({world.model->flow(), *world.skills,
+                                                world.notifications, world.preferences, world.time,
+                                                world.time, world.calendarSource(), [] {}, [] {}});
                   });
 }
 
@@ -75,9 +75,10 @@ Scene notes(const char* name, Prepare prepare, std::function<void(LogView&)> the
     return window(QLatin1String(name), QStringLiteral("Notes/NotesLogView.qml"), prepare,
                   [then, before](DemoWorld& world) {
                       if (before) before(world);
-                      auto* const view = new LogView(
-                          {*world.model, world.notifications, world.preferences, world.time,
-                           world.time, world.calendarSource(), [](const QString&) {}});
+                      auto* const view =
+                          new LogView({world.model->tracker(), *world.skills, world.notifications,
+                                       world.preferences, world.time, world.time,
+                                       world.calendarSource(), [](const QString&) {}});
                       if (then) then(*view);
                       return view;
                   });
@@ -88,7 +89,8 @@ Scene quickLog(const char* name, std::function<void(QuickLogView&)> then,
     return window(QLatin1String(name), QStringLiteral("QuickLog/QuickLogForm.qml"), fill,
                   [then, before](DemoWorld& world) {
                       if (before) before(world);
-                      auto* const view = new QuickLogView(*world.model, world.preferences, [] {});
+                      auto* const view = new QuickLogView(world.model->flow(), *world.skills,
+                                                          world.preferences, [] {});
                       then(*view);
                       return view;
                   });

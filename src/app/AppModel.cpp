@@ -50,7 +50,7 @@ AppModel::~AppModel() = default;
 
 void AppModel::publish() {
     connect(&m_flow, &SessionFlow::selectedSkillIdChanged, this, &AppModel::selectedSkillIdChanged);
-    connect(&m_skills, &SkillCommands::changed, this, &AppModel::skillsChanged);
+    connect(&m_env.skills, &SkillList::changed, this, &AppModel::skillsChanged);
     connect(&m_note, &ActionNote::changed, this, &AppModel::lastActionNoteChanged);
     connect(&m_panel, &PanelState::wrappedReadyChanged, this, &AppModel::wrappedReadyChanged);
     connect(&m_panel, &PanelState::backfillCoverageMinutesChanged, this,
@@ -69,7 +69,7 @@ void AppModel::markWelcomeDone() {
 
 void AppModel::prepareForTerminationUnseen() {
     for (QObject* heard : {static_cast<QObject*>(this), static_cast<QObject*>(&m_tracker),
-                           static_cast<QObject*>(&m_flow), static_cast<QObject*>(&m_skills),
+                           static_cast<QObject*>(&m_flow), static_cast<QObject*>(&m_env.skills),
                            static_cast<QObject*>(&m_note), static_cast<QObject*>(&m_panel),
                            static_cast<QObject*>(&m_env.notifications)})
         heard->blockSignals(true);

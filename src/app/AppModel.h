@@ -10,6 +10,7 @@
 #include "app/SessionSurfaces.h"
 #include "app/SkillCommands.h"
 #include "app/TopRightCardSlot.h"
+#include "tracking/SkillList.h"
 
 namespace vantle {
 
@@ -97,21 +98,16 @@ public:
     std::function<void()> showCommandCenter;
     std::function<void(bool)> highlightStatusItem;
 
-    // Parts
+    // Parts and state
 
     [[nodiscard]] TrackerCore& tracker() { return m_tracker; }
     [[nodiscard]] IdleMonitor& idle() { return m_flow.idle(); }
     [[nodiscard]] HotKey& hotKey() { return m_flow.hotKey(); }
-    [[nodiscard]] Collaborators& collaborators() { return m_surfaces.collaborators(); }
     [[nodiscard]] SessionFlow& flow() { return m_flow; }
-    [[nodiscard]] SkillCommands& skillCommands() { return m_skills; }
     [[nodiscard]] ActionNote& actionNote() { return m_note; }
     [[nodiscard]] PanelState& panelState() { return m_panel; }
-
-    // State
-
     [[nodiscard]] const QString& selectedSkillId() const { return m_flow.selectedSkillId(); }
-    [[nodiscard]] const std::vector<Skill>& skills() const { return m_skills.all(); }
+    [[nodiscard]] const std::vector<Skill>& skills() const { return m_env.skills.all(); }
     [[nodiscard]] const std::optional<QString>& lastActionNote() const { return m_note.text(); }
     [[nodiscard]] const std::optional<QString>& sessionBundleId() const {
         return m_flow.sessionBundleId();

@@ -54,7 +54,7 @@ std::optional<QString> DataErase::run() {
     m_env.autoSkill.rules().drainPendingIO();
     QStringList problems = m_env.ioQueue.run([this] { return removeDataFiles(m_env.paths); });
     m_env.preferences.removeAll();
-    m_env.skills.reloadAfterErase();
+    m_env.skills.resetAfterErase();
     tracker.clearStorageError();
     m_env.autoSkill.refreshFromDefaults();
     m_env.flow.showIdlePrompt();

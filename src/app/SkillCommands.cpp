@@ -12,15 +12,13 @@
 namespace vantle {
 
 void SkillCommands::load() {
-    m_all = m_env.list.all();
     reportUnreadable();
     m_env.flow.restoreChoice();
 }
 
-void SkillCommands::reloadAfterErase() {
+void SkillCommands::resetAfterErase() {
     m_env.list.resetAfterErase();
-    publish();
-    m_env.flow.chooseUnremembered(m_all.front().id);
+    m_env.flow.chooseUnremembered(m_env.list.all().front().id);
 }
 
 void SkillCommands::select(const QString& id, Origin origin) {
@@ -73,7 +71,6 @@ void SkillCommands::add(const QString& name, std::uint32_t hexRGB) {
                            .arg(Skill::maxNameLength));
         return;
     }
-    publish();
     if (m_env.flow.isIdle()) {
         m_env.flow.choose(added->id);
         m_env.flow.showIdlePrompt();
@@ -98,7 +95,6 @@ void SkillCommands::update(QString id, const QString& name, std::uint32_t hexRGB
                            .arg(Skill::maxNameLength));
         return;
     }
-    publish();
     if (m_env.flow.tracker().currentSkillId() == id)
         m_env.surfaces.showNewSkill(*updated);
     else
@@ -114,17 +110,11 @@ void SkillCommands::remove(QString id) {
         m_env.note.say(QStringLiteral("Keep at least one skill"));
         return;
     }
-    publish();
     m_env.autoSkill.rules().removeRules(id);
     if (m_env.flow.selectedSkillId() == id || m_env.flow.tracker().currentSkillId() == id)
         select(m_env.list.all().front().id, Origin::Auto);
     m_env.flow.showIdlePrompt();
     m_env.note.say(QStringLiteral("Deleted %1").arg(name));
-}
-
-void SkillCommands::publish() {
-    m_all = m_env.list.all();
-    Q_EMIT changed();
 }
 
 bool SkillCommands::reportUnreadable() {

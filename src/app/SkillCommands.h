@@ -1,12 +1,10 @@
 // The commands about skills, with the change of skill during a session.
 #pragma once
 
-#include "tracking/Skill.h"
+#include <QString>
 
-#include <QObject>
-
+#include <cstdint>
 #include <functional>
-#include <vector>
 
 namespace vantle {
 
@@ -17,9 +15,7 @@ class SessionSurfaces;
 class SkillList;
 
 /// Every command clears the note and ends with what became of it there. Main thread.
-class SkillCommands final : public QObject {
-    Q_OBJECT
-
+class SkillCommands {
 public:
     /// Who chose a skill.
     enum class Origin { Human, Auto };
@@ -36,11 +32,9 @@ public:
 
     /// Reads the list for the first time, and the choice of the last run.
     void load();
-    /// Takes the list as the erase of all data left it, and chooses its first skill.
-    void reloadAfterErase();
-
-    /// The skills in the user's order; never empty after load().
-    [[nodiscard]] const std::vector<Skill>& all() const { return m_all; }
+    /// Brings the list of a new user back, after the erase of all data, and chooses its first
+    /// skill.
+    void resetAfterErase();
 
     /// Chooses the skill. During a session under another one this splits it into two records; when
     /// the first can't be saved the choice is taken back.
@@ -54,17 +48,12 @@ public:
     /// once by the owner, which it must hold weakly.
     std::function<void(const QString& chosenSkillId)> onSplitByHand;
 
-Q_SIGNALS:
-    void changed();
-
 private:
     void split(const QString& id, Origin origin, const QString& previousId);
-    void publish();
     /// Returns whether the file of skills could not be read, which refuses every change to them.
     bool reportUnreadable();
 
     const Environment m_env;
-    std::vector<Skill> m_all; ///< mirror of the list, for surfaces
 };
 
 } // namespace vantle

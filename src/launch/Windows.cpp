@@ -34,7 +34,8 @@ void copyText(const QString& text) { QGuiApplication::clipboard()->setText(text)
 std::unique_ptr<QObject> makeDashboard(const WindowParts& parts) {
     WindowRouter& router = parts.router;
     return std::make_unique<DashboardView>(DashboardView::Environment{
-        .model = parts.model,
+        .flow = parts.model.flow(),
+        .skills = parts.skills,
         .notifications = parts.notifications,
         .preferences = parts.platform.preferences,
         .clock = parts.clock,
@@ -50,7 +51,8 @@ std::unique_ptr<QObject> makeDashboard(const WindowParts& parts) {
 }
 
 std::unique_ptr<QObject> makeLog(const WindowParts& parts) {
-    return std::make_unique<LogView>(LogView::Environment{.model = parts.model,
+    return std::make_unique<LogView>(LogView::Environment{.tracker = parts.model.tracker(),
+                                                          .skills = parts.skills,
                                                           .notifications = parts.notifications,
                                                           .preferences = parts.platform.preferences,
                                                           .clock = parts.clock,
@@ -80,8 +82,7 @@ std::unique_ptr<QObject> makeWrapped(const WindowParts& parts) {
                                                std::function<void(WrappedView::Saved)> done) {
                 sharing.save(png, name, router.window(WindowId::Wrapped), std::move(done));
             }});
-    // A review reads the names of skills from the list, and knows no more of the model.
-    QObject::connect(&model, &AppModel::skillsChanged, view.get(), &WrappedView::open);
+    QObject::connect(&parts.skills, &SkillList::changed, view.get(), &WrappedView::open);
     const auto follow = [&tracker = model.tracker(), view = view.get()] {
         view->setTracking(tracker.state() != TrackerCore::State::Idle);
     };
@@ -166,7 +167,8 @@ void registerWindows(const WindowParts& parts) {
         [](const WindowParts& p, const Close&) { return makeLog(p); });
     add(WindowId::QuickLog, "QuickLog/QuickLogForm",
         [](const WindowParts& p, const Close& close) -> std::unique_ptr<QObject> {
-            return std::make_unique<QuickLogView>(p.model, p.platform.preferences, close);
+            return std::make_unique<QuickLogView>(p.model.flow(), p.skills, p.platform.preferences,
+                                                  close);
         });
     add(WindowId::Wrapped, "Wrapped/WrappedPage",
         [](const WindowParts& p, const Close&) { return makeWrapped(p); });

@@ -189,6 +189,7 @@ std::optional<Skill> SkillList::addCustom(const QString& name, std::uint32_t hex
         m_all->pop_back();
         return std::nullopt;
     }
+    Q_EMIT changed();
     return skill;
 }
 
@@ -201,26 +202,32 @@ std::optional<Skill> SkillList::update(const QString& id, const QString& name,
     const Skill before = *skill;
     skill->name = cleaned;
     skill->hexRGB = hexRGB & Skill::colorMask;
+    const Skill after = *skill;
     if (!saveSkills(*m_all)) {
         *skill = before;
         return std::nullopt;
     }
-    return *skill;
+    Q_EMIT changed();
+    return after;
 }
 
 bool SkillList::remove(const QString& id) {
     if (all().size() < 2 || !contains(id)) return false;
     const std::vector<Skill> before = *m_all;
     std::erase_if(*m_all, [&](const Skill& skill) { return skill.id == id; });
-    if (saveSkills(*m_all)) return true;
-    m_all = before;
-    return false;
+    if (!saveSkills(*m_all)) {
+        m_all = before;
+        return false;
+    }
+    Q_EMIT changed();
+    return true;
 }
 
 void SkillList::resetAfterErase() {
     m_readError.reset();
     m_all.emplace(Skill::defaults().begin(), Skill::defaults().end());
     m_preferences.setInteger(QLatin1String(migrationKey), currentMigrationVersion);
+    Q_EMIT changed();
 }
 
 } // namespace vantle

@@ -4,7 +4,8 @@
 #include "base/Result.h"
 #include "tracking/Skill.h"
 
-#include <functional>
+#include <QObject>
+
 #include <optional>
 #include <vector>
 
@@ -21,7 +22,9 @@ class SerialQueue;
 /// that were never read. No operation has words of its own: the caller finds them.
 ///
 /// Main thread. File work runs on the I/O queue, and the calls that need it wait for it.
-class SkillList {
+class SkillList final : public QObject {
+    Q_OBJECT
+
 public:
     /// All three must outlive the list.
     SkillList(const AppPaths& paths, SerialQueue& ioQueue, Preferences& preferences);
@@ -62,6 +65,11 @@ public:
 
     /// The list of a new person, after all data was erased. Writes no file.
     void resetAfterErase();
+
+Q_SIGNALS:
+    /// A skill was added, changed or removed, or the list is that of a new user again. Emitted once
+    /// the change is saved.
+    void changed();
 
 private:
     std::vector<Skill> loadSkills();

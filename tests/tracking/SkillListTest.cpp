@@ -312,6 +312,30 @@ TEST_F(SkillListTest, ChangesThatCanNotBeSavedAreTakenBack) {
     EXPECT_TRUE(skills.remove(text("product_design")));
 }
 
+TEST_F(SkillListTest, EverySavedChangeIsToldOnceWithTheListAsItIsNow) {
+    std::vector<std::size_t> told;
+    QObject::connect(&skills, &SkillList::changed, [&] { told.push_back(skills.all().size()); });
+    const auto added = skills.addCustom(text("Deep Work"), 1);
+    skills.update(added->id, text("Deep Play"), 2);
+    skills.remove(added->id);
+    EXPECT_THAT(told, ElementsAre(7, 7, 6));
+    skills.resetAfterErase();
+    EXPECT_THAT(told, ElementsAre(7, 7, 6, 6));
+}
+
+TEST_F(SkillListTest, RefusedOrUnsavedChangeIsNotTold) {
+    int told = 0;
+    QObject::connect(&skills, &SkillList::changed, [&] { ++told; });
+    skills.addCustom(text("Build"), 1);
+    skills.update(text("gone"), text("Deep Play"), 2);
+    skills.remove(text("gone"));
+    failWrites();
+    skills.addCustom(text("Deep Work"), 1);
+    skills.update(text("building"), text("Ship"), 2);
+    skills.remove(text("building"));
+    EXPECT_EQ(told, 0);
+}
+
 TEST_F(SkillListTest, AnUnknownSkillIsReplacedByTheFirstToWorkWith) {
     EXPECT_EQ(skills.by(text("marketing")).name, text("Marketing"));
     EXPECT_EQ(skills.by(text("nope")), seeds.front());

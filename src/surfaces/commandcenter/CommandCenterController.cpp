@@ -14,7 +14,8 @@ namespace vantle {
 
 CommandCenterController::CommandCenterController(const Environment& environment)
     : m_env(environment)
-    , m_content({m_env.model, m_env.skills, m_env.preferences, m_env.scheduler, m_env.questions},
+    , m_content({m_env.model.flow(), m_env.model.actionNote(), m_env.model.panelState(),
+                 m_env.skills, m_env.preferences, m_env.scheduler, m_env.questions},
                 actions()) {
     connect(&m_env.presses, &PointerPresses::pressed, this, &CommandCenterController::onPress);
     connect(&m_env.screens, &Screens::changed, this, &CommandCenterController::repositionSoon);

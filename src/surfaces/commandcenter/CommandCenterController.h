@@ -9,6 +9,7 @@
 
 namespace vantle {
 
+class AppModel;
 class Clock;
 class FloatingPanel;
 class PanelHost;

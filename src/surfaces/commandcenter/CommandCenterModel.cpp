@@ -1,6 +1,8 @@
 #include "surfaces/commandcenter/CommandCenterModel.h"
 
-#include "app/AppModel.h"
+#include "app/ActionNote.h"
+#include "app/PanelState.h"
+#include "app/SessionFlow.h"
 #include "tracking/DashFormat.h"
 #include "tracking/SkillList.h"
 
@@ -25,27 +27,28 @@ CommandCenterModel::CommandCenterModel(const Environment& environment, CommandCe
 }
 
 void CommandCenterModel::follow() {
-    AppModel& model = m_env.model;
-    TrackerCore& tracker = model.tracker();
+    TrackerCore& tracker = m_env.flow.tracker();
+    PanelState& panel = m_env.panel;
     connect(&tracker, &TrackerCore::stateChanged, this, &CommandCenterModel::refreshStatus);
     connect(&tracker, &TrackerCore::currentSkillIdChanged, this,
             &CommandCenterModel::refreshStatus);
     connect(&tracker, &TrackerCore::welcomeBackChanged, this, &CommandCenterModel::refreshStatus);
-    connect(&model, &AppModel::selectedSkillIdChanged, this, [this] {
+    connect(&m_env.flow, &SessionFlow::selectedSkillIdChanged, this, [this] {
         refreshModes();
         refreshStatus();
     });
-    connect(&model, &AppModel::skillsChanged, this, [this] {
+    connect(&m_env.skills, &SkillList::changed, this, [this] {
         refreshModes();
         refreshStatus();
     });
-    connect(&model, &AppModel::wrappedReadyChanged, this, &CommandCenterModel::wrappedReadyChanged);
-    connect(&model, &AppModel::backfillCoverageMinutesChanged, this,
+    connect(&panel, &PanelState::wrappedReadyChanged, this,
+            &CommandCenterModel::wrappedReadyChanged);
+    connect(&panel, &PanelState::backfillCoverageMinutesChanged, this,
             &CommandCenterModel::backfillChoicesChanged);
-    connect(&model, &AppModel::lastActionNoteChanged, this, &CommandCenterModel::noteChanged);
+    connect(&m_env.note, &ActionNote::changed, this, &CommandCenterModel::noteChanged);
     connect(&m_env.questions, &OpenQuestions::changed, this, &CommandCenterModel::questionsChanged);
-    connect(&model, &AppModel::pulsePrimaryOnceChanged, this, [this] {
-        if (m_env.model.pulsePrimaryOnce()) Q_EMIT primaryPulseWanted();
+    connect(&panel, &PanelState::pulsePrimaryOnceChanged, this, [this] {
+        if (m_env.panel.pulsePrimaryOnce()) Q_EMIT primaryPulseWanted();
     });
     const auto relayout = [this] { m_actions.relayout(); };
     connect(&m_editor, &ModeEditor::shownChanged, this, relayout);
@@ -57,7 +60,7 @@ void CommandCenterModel::setShown(bool shown) {
 }
 
 void CommandCenterModel::refreshStatus() {
-    TrackerCore& tracker = m_env.model.tracker();
+    TrackerCore& tracker = m_env.flow.tracker();
     m_status.state = tracker.state();
     const std::optional<QString>& id = tracker.currentSkillId();
     m_status.skillName = id ? m_env.skills.display(*id).name : QString();
@@ -78,11 +81,11 @@ void CommandCenterModel::refreshClock() {
 }
 
 void CommandCenterModel::refreshModes() {
-    m_modes.show(m_env.model.skills(), m_env.model.selectedSkillId());
+    m_modes.show(m_env.skills.all(), m_env.flow.selectedSkillId());
 }
 
 Skill CommandCenterModel::chosenSkill() const {
-    return m_env.skills.by(m_env.model.selectedSkillId());
+    return m_env.skills.by(m_env.flow.selectedSkillId());
 }
 
 QString CommandCenterModel::primaryText() const {
@@ -91,15 +94,13 @@ QString CommandCenterModel::primaryText() const {
 
 QColor CommandCenterModel::primaryColor() const { return QColor::fromRgb(chosenSkill().hexRGB); }
 
-bool CommandCenterModel::isWrappedReady() const { return m_env.model.wrappedReady(); }
+bool CommandCenterModel::isWrappedReady() const { return m_env.panel.wrappedReady(); }
 
 QList<int> CommandCenterModel::backfillChoices() const {
-    return commandcentertext::backfillChoices(m_env.model.backfillCoverageMinutes());
+    return commandcentertext::backfillChoices(m_env.panel.backfillCoverageMinutes());
 }
 
-QString CommandCenterModel::note() const {
-    return m_env.model.lastActionNote().value_or(QString());
-}
+QString CommandCenterModel::note() const { return m_env.note.text().value_or(QString()); }
 
 QStringList CommandCenterModel::questions() const {
     QStringList texts;
@@ -143,7 +144,7 @@ void CommandCenterModel::deleteMode(const QString& id) {
     m_actions.deleteSkill(id);
 }
 
-void CommandCenterModel::addMode() { m_editor.openNew(m_env.model.skills()); }
+void CommandCenterModel::addMode() { m_editor.openNew(m_env.skills.all()); }
 
 void CommandCenterModel::commitEdit(const std::optional<QString>& id, const QString& name,
                                     std::uint32_t hexRGB) {
@@ -154,8 +155,8 @@ void CommandCenterModel::commitEdit(const std::optional<QString>& id, const QStr
 }
 
 bool CommandCenterModel::takePrimaryPulse() {
-    const bool wanted = m_env.model.pulsePrimaryOnce();
-    if (wanted) m_env.model.setPulsePrimaryOnce(false);
+    const bool wanted = m_env.panel.pulsePrimaryOnce();
+    if (wanted) m_env.panel.setPulsePrimaryOnce(false);
     return wanted;
 }
 

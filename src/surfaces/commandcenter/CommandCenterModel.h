@@ -14,8 +14,10 @@
 
 namespace vantle {
 
-class AppModel;
+class ActionNote;
+class PanelState;
 class Preferences;
+class SessionFlow;
 class SkillList;
 
 /// Follows the application model and the tracker as long as it lives; it keeps the texts of the
@@ -47,7 +49,9 @@ class CommandCenterModel final : public QObject {
 public:
     /// What the model works with. All of it must outlive the model.
     struct Environment {
-        AppModel& model;
+        SessionFlow& flow;
+        ActionNote& note;
+        PanelState& panel;
         SkillList& skills;
         const Preferences& preferences;
         Scheduler& scheduler;

@@ -1,6 +1,6 @@
 #include "surfaces/dashboard/DashboardView.h"
 
-#include "app/AppModel.h"
+#include "app/SessionFlow.h"
 #include "base/LocalTime.h"
 #include "ceremony/show/VantleCopy.h"
 #include "platform/Preferences.h"
@@ -39,20 +39,20 @@ DashboardView::DashboardView(Environment environment) : m_env(std::move(environm
             &DashboardView::reload);
     connect(&tracker(), &TrackerCore::stateChanged, this, &DashboardView::followState);
     connect(&tracker(), &TrackerCore::currentSkillIdChanged, this, &DashboardView::ticked);
-    connect(&m_env.model, &AppModel::skillsChanged, this, &DashboardView::reload);
+    connect(&m_env.skills, &SkillList::changed, this, &DashboardView::reload);
     connect(&m_env.preferences, &Preferences::changed, this, [this](const QString& key) {
         if (key == QLatin1String(dailygoal::hoursKey)) reload();
     });
     connect(&tracker(), &TrackerCore::storageErrorChanged, this, &DashboardView::warningChanged);
     connect(&tracker(), &TrackerCore::dataWarningChanged, this, &DashboardView::warningChanged);
-    connect(&m_env.model.hotKey(), &HotKey::isRegisteredChanged, this,
+    connect(&m_env.flow.hotKey(), &HotKey::isRegisteredChanged, this,
             &DashboardView::shortcutChanged);
     followState();
 }
 
 DashboardView::~DashboardView() = default;
 
-TrackerCore& DashboardView::tracker() const { return m_env.model.tracker(); }
+TrackerCore& DashboardView::tracker() const { return m_env.flow.tracker(); }
 
 void DashboardView::followState() {
     m_tick = {};
@@ -63,7 +63,7 @@ void DashboardView::followState() {
 }
 
 DashboardSetting DashboardView::setting() const {
-    return {m_env.clock.now(), m_env.calendar(), m_env.model.skills(),
+    return {m_env.clock.now(), m_env.calendar(), m_env.skills.all(),
             durationstyle::current(m_env.preferences), dailygoal::hours(m_env.preferences)};
 }
 
@@ -113,8 +113,7 @@ QColor DashboardView::sliceColor() const { return isOpen() ? chipColor() : m_las
 QString DashboardView::wallLabel() const { return dashboard::wallLabel(m_dots, partialFraction()); }
 
 Skill DashboardView::openSkill() const {
-    return SkillList::display(tracker().currentSkillId().value_or(m_env.model.selectedSkillId()),
-                              m_env.model.skills());
+    return m_env.skills.display(tracker().currentSkillId().value_or(m_env.flow.selectedSkillId()));
 }
 
 QColor DashboardView::chipColor() const { return QColor::fromRgb(openSkill().hexRGB); }
@@ -136,7 +135,7 @@ QString DashboardView::chipLabel() const {
 }
 
 bool DashboardView::hasShortcut() const {
-    const HotKey& hotKey = m_env.model.hotKey();
+    const HotKey& hotKey = m_env.flow.hotKey();
     return hotKey.isRegistered() && hotKey.hearsEveryApp();
 }
 
@@ -146,6 +145,6 @@ QString DashboardView::warning() const {
     return text ? QStringLiteral("Data warning: ") + *text : QString();
 }
 
-void DashboardView::toggle() { m_env.model.toggleVantle(); }
+void DashboardView::toggle() { m_env.flow.toggle(); }
 
 } // namespace vantle

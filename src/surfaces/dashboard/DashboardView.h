@@ -12,10 +12,11 @@
 
 namespace vantle {
 
-class AppModel;
 class Clock;
 class NotificationCenter;
 class Preferences;
+class SessionFlow;
+class SkillList;
 class TrackerCore;
 
 /// What the window shows and does. Holds a copy of the log and computes everything from it; reads
@@ -61,7 +62,8 @@ class DashboardView final : public QObject {
 public:
     /// What the window works with. All of it must outlive the view.
     struct Environment {
-        AppModel& model;
+        SessionFlow& flow;
+        SkillList& skills;
         NotificationCenter& notifications;
         const Preferences& preferences;
         const Clock& clock;

@@ -1,6 +1,5 @@
 #include "surfaces/notes/LogView.h"
 
-#include "app/AppModel.h"
 #include "base/Clock.h"
 #include "base/LocalTime.h"
 #include "base/Text.h"
@@ -15,17 +14,15 @@ namespace vantle {
 
 LogView::LogView(Environment environment) : m_env(std::move(environment)) {
     connect(&m_env.notifications, &NotificationCenter::HFSessionsChanged, this, &LogView::reload);
-    connect(&m_env.model, &AppModel::skillsChanged, this, &LogView::reload);
+    connect(&m_env.skills, &SkillList::changed, this, &LogView::reload);
     reload();
 }
 
 LogView::~LogView() = default;
 
-TrackerCore& LogView::tracker() const { return m_env.model.tracker(); }
-
 void LogView::reload() {
-    m_rows.update(content(noteslog::read(tracker().allSessions(), [this](const QString& id) {
-        return SkillList::display(id, m_env.model.skills());
+    m_rows.update(content(noteslog::read(m_env.tracker.allSessions(), [this](const QString& id) {
+        return m_env.skills.display(id);
     })));
     m_filters.setSkills(m_rows.content().log.skills);
     if (!m_editingId.isEmpty() && !entry(m_editingId)) cancelEdit();
@@ -117,8 +114,8 @@ void LogView::commitEdit() {
     if (!edited) return;
     const QString note = text::trimmed(m_draft);
     bool isSaved = true;
-    if (note != edited->note) isSaved = tracker().updateNote(edited->id, note);
-    setFailure(isSaved ? QString() : tracker().storageError().value_or(QString()));
+    if (note != edited->note) isSaved = m_env.tracker.updateNote(edited->id, note);
+    setFailure(isSaved ? QString() : m_env.tracker.storageError().value_or(QString()));
     cancelEdit();
     reload();
 }

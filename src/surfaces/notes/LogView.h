@@ -14,10 +14,10 @@
 
 namespace vantle {
 
-class AppModel;
 class Clock;
 class NotificationCenter;
 class Preferences;
+class SkillList;
 class TrackerCore;
 
 /// What the window shows and does. Reads the log when it is made, after every change of it or
@@ -55,7 +55,8 @@ public:
 
     /// What the window works with. All of it must outlive the view.
     struct Environment {
-        AppModel& model;
+        TrackerCore& tracker;
+        SkillList& skills;
         NotificationCenter& notifications;
         const Preferences& preferences;
         const Clock& clock;
@@ -105,7 +106,6 @@ Q_SIGNALS:
 
 private:
     void reload();
-    [[nodiscard]] TrackerCore& tracker() const;
     void narrow(LogFilter filter);
     [[nodiscard]] NoteRows::Content content(NotesLog log) const;
     [[nodiscard]] const LogEntry* entry(const QString& id) const;

@@ -1,7 +1,8 @@
 #include "surfaces/quicklog/QuickLogView.h"
 
-#include "app/AppModel.h"
+#include "app/SessionFlow.h"
 #include "platform/Preferences.h"
+#include "tracking/SkillList.h"
 
 #include <algorithm>
 #include <utility>
@@ -15,16 +16,17 @@ constexpr int kFirstMinutes = 30;
 
 } // namespace
 
-QuickLogView::QuickLogView(AppModel& model, const Preferences& preferences,
+QuickLogView::QuickLogView(SessionFlow& flow, SkillList& skills, const Preferences& preferences,
                            std::function<void()> onClose)
-    : m_model(model)
-    , m_skills(model.skills())
+    : m_flow(flow)
+    , m_list(skills)
+    , m_skills(skills.all())
     , m_onClose(std::move(onClose))
     , m_duration(QuickLogDuration::of(kFirstMinutes)) {
     m_skillIndex = placeOf(preferences.string(QLatin1String(TrackerCore::lastUsedSkillKey)));
-    connect(&model, &AppModel::skillsChanged, this, [this] {
+    connect(&skills, &SkillList::changed, this, [this] {
         const QString chosen = chosenSkill().id;
-        m_skills = m_model.skills();
+        m_skills = m_list.all();
         m_skillIndex = placeOf(chosen);
         Q_EMIT skillsChanged();
         Q_EMIT skillIndexChanged();
@@ -75,11 +77,11 @@ void QuickLogView::logEntry() {
         Q_EMIT hoursWanted();
         return;
     }
-    if (m_model.quickLog(chosenSkill().id, *minutes, m_note)) {
+    if (m_flow.quickLog(chosenSkill().id, *minutes, m_note)) {
         m_onClose();
         return;
     }
-    const QString reason = m_model.tracker().storageError().value_or(QString());
+    const QString reason = m_flow.tracker().storageError().value_or(QString());
     setError(reason.isEmpty() ? QStringLiteral("Couldn’t save that entry.") : reason, false);
 }
 

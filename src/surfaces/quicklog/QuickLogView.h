@@ -15,8 +15,9 @@
 
 namespace vantle {
 
-class AppModel;
 class Preferences;
+class SessionFlow;
+class SkillList;
 
 /// What the form holds and does. An entry that can't be logged leaves everything as it was typed,
 /// with the reason in `errorMessage`. Main thread.
@@ -36,8 +37,9 @@ class QuickLogView final : public QObject {
     Q_PROPERTY(bool isTimeWrong READ isTimeWrong NOTIFY errorMessageChanged FINAL)
 
 public:
-    /// `onClose` closes the form. The model and the preferences must outlive it.
-    QuickLogView(AppModel& model, const Preferences& preferences, std::function<void()> onClose);
+    /// `onClose` closes the form. The other three must outlive it.
+    QuickLogView(SessionFlow& flow, SkillList& skills, const Preferences& preferences,
+                 std::function<void()> onClose);
 
     [[nodiscard]] QList<QString> skillNames() const;
     [[nodiscard]] int skillIndex() const { return m_skillIndex; }
@@ -76,7 +78,8 @@ private:
     void setDuration(const QuickLogDuration& duration);
     void setError(const QString& message, bool isTimeWrong);
 
-    AppModel& m_model;
+    SessionFlow& m_flow;
+    SkillList& m_list;
     std::vector<Skill> m_skills; ///< never empty
     const std::function<void()> m_onClose;
     int m_skillIndex = 0;

@@ -16,8 +16,9 @@ protected:
         world.launch();
         world.settle();
         content = std::make_unique<CommandCenterModel>(
-            CommandCenterModel::Environment{*world.model, *world.skills, world.preferences,
-                                            world.time, questions},
+            CommandCenterModel::Environment{world.model->flow(), world.model->actionNote(),
+                                            world.model->panelState(), *world.skills,
+                                            world.preferences, world.time, questions},
             actions());
         content->setShown(true);
     }

@@ -13,12 +13,12 @@ protected:
     DashboardView& open() {
         idleSource.fix(0);
         if (!model) launch();
-        return view.emplace(
-            DashboardView::Environment{*model, notifications, preferences, time, time,
-                                       [] {
-                                           return Calendar{QStringLiteral("UTC"), 1, 1};
-                                       },
-                                       [this] { ++quickLogs; }, [this] { ++reviews; }});
+        return view.emplace(DashboardView::Environment{
+            model->flow(), *skills, notifications, preferences, time, time,
+            [] {
+                return Calendar{QStringLiteral("UTC"), 1, 1};
+            },
+            [this] { ++quickLogs; }, [this] { ++reviews; }});
     }
 
     int quickLogs = 0;

@@ -135,7 +135,7 @@ TEST_F(LogViewTest, FailedWriteKeepsTheOldNoteAndSaysWhy) {
     files.fail(Operation::Rename, QStringLiteral("sessions.jsonl"), 28);
     edit(1, "beta");
     EXPECT_EQ(shown(), QStringList{QStringLiteral("alpha")});
-    EXPECT_EQ(view->failure(), model->tracker().storageError().value_or(QString()));
+    EXPECT_EQ(view->failure(), tracker.storageError().value_or(QString()));
     EXPECT_FALSE(view->failure().isEmpty());
     files.healAll();
     edit(1, "beta");
@@ -222,9 +222,9 @@ TEST_F(LogViewTest, RowThatIsEditedKeepsItsViewThroughASearch) {
 TEST_F(LogViewTest, RenamedModeIsFollowedWhileTheWindowIsOpen) {
     write({"alpha"});
     open();
-    const Skill renamed = skills->display(QStringLiteral("building"));
+    const Skill renamed = skills.display(QStringLiteral("building"));
     ASSERT_EQ(shown(NoteRows::SkillNameRole), QStringList{renamed.name});
-    model->updateSkill(renamed.id, QStringLiteral("Drafts"), renamed.hexRGB);
+    skills.update(renamed.id, QStringLiteral("Drafts"), renamed.hexRGB);
     EXPECT_EQ(shown(NoteRows::SkillNameRole), QStringList{QStringLiteral("Drafts")});
     const QModelIndex chip = view->filters()->index(0);
     EXPECT_EQ(view->filters()->data(chip, NoteFilters::NameRole).toString(),

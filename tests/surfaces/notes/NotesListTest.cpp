@@ -126,7 +126,7 @@ TEST_F(NotesListTest, EveryChipOfTheFilterCanBeCheckedAndOneIs) {
         EXPECT_EQ(chip->role(), QAccessible::RadioButton) << name.toStdString();
         return chip->state();
     };
-    const QString skill = skills->display(text("building")).name;
+    const QString skill = skills.display(text("building")).name;
     for (const QString& name : {text("All"), skill}) {
         EXPECT_TRUE(state(name).checkable) << name.toStdString();
         EXPECT_EQ(state(name).checked, name == text("All")) << name.toStdString();
@@ -217,8 +217,8 @@ TEST_F(NotesListTest, NarrowWindowCutsNothingButTheNameOfAMode) {
     session.endedAt = session.startedAt + Seconds(3 * 3600.0);
     put(samples::line(session));
     open();
-    const Skill mode = skills->display(text("building"));
-    model->updateSkill(mode.id, longest, mode.hexRGB);
+    const Skill mode = skills.display(text("building"));
+    skills.update(mode.id, longest, mode.hexRGB);
     m_shown.emplace().show("Notes/NotesLogView", {{text("model"), QVariant::fromValue(&*view)}},
                            {380, 620});
     EXPECT_EQ(cut(), QStringList());
@@ -279,7 +279,7 @@ TEST_F(NotesListTest, ChipUnderThePointerLeavesTheCaretInTheDraft) {
     clickPencil("alpha");
     m_shown->type(text(" one"));
     m_shown->press(Qt::Key_Left);
-    m_shown->click(skills->display(text("building")).name);
+    m_shown->click(skills.display(text("building")).name);
     m_shown->type(text("x"));
     EXPECT_EQ(typedInto("Note"), text("alpha onxe"));
 }

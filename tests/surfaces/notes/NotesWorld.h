@@ -1,20 +1,30 @@
 // The notes window over a log that a test writes.
 #pragma once
 
-#include "app/ModelWorld.h"
+#include "fakes/FaultyFileSystem.h"
+#include "fakes/MemoryFileSystem.h"
+#include "fakes/MemoryPreferences.h"
+#include "fakes/VirtualTime.h"
 #include "surfaces/notes/LogView.h"
+#include "tracking/AppPaths.h"
+#include "tracking/NotificationCenter.h"
 #include "tracking/Samples.h"
+#include "tracking/SkillList.h"
+#include "tracking/TrackerCore.h"
 
 #include <optional>
 
 namespace vantle::tests {
 
-class NotesWorld : protected ModelWorld {
+class NotesWorld {
 protected:
-    NotesWorld() { launch(); }
+    NotesWorld() {
+        time.attach(queue);
+        paths.enforcePrivatePermissions();
+    }
 
     /// What the log holds from now on.
-    void put(const QByteArray& lines) { disk.setContent(file("sessions.jsonl"), lines); }
+    void put(const QByteArray& lines) { disk.setContent(paths.sessionsFile(), lines); }
     /// A log with one noted session for each text, an hour apart, the last one newest.
     void write(const std::vector<const char*>& notes) {
         QByteArray lines;
@@ -28,7 +38,8 @@ protected:
     }
     LogView& open() { return view.emplace(environment()); }
     [[nodiscard]] LogView::Environment environment() {
-        return {*model,
+        return {tracker,
+                skills,
                 notifications,
                 preferences,
                 time,
@@ -45,12 +56,21 @@ protected:
         return texts;
     }
     [[nodiscard]] QString stored(int number) {
-        for (const Session& session : log())
+        for (const Session& session : SessionLog(paths).readAll().sessions)
             if (session.id == samples::id(number)) return session.note;
         return QStringLiteral("gone");
     }
     [[nodiscard]] static QString idOf(int number) { return samples::id(number).toString(); }
 
+    fakes::VirtualTime time;
+    fakes::ManualQueue queue;
+    fakes::MemoryFileSystem disk;
+    fakes::FaultyFileSystem files{disk};
+    fakes::MemoryPreferences preferences;
+    NotificationCenter notifications;
+    AppPaths paths{files, QStringLiteral("/data")};
+    SkillList skills{paths, queue, preferences};
+    TrackerCore tracker{{time, time, queue, paths, preferences, skills, notifications}};
     QString clipboard;
     std::optional<LogView> view;
 };

@@ -15,7 +15,7 @@ class QuickLogFormTest : public testing::TestWithParam<const char*>, protected t
 protected:
     void show() {
         launch();
-        m_view.emplace(*model, preferences, [] {});
+        m_view.emplace(model->flow(), *skills, preferences, [] {});
         m_shown.emplace().show("QuickLog/QuickLogForm",
                                {{text("model"), QVariant::fromValue(&*m_view)}});
     }

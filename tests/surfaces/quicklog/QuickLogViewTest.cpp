@@ -11,7 +11,7 @@ class QuickLogViewTest : public testing::Test, protected tests::ModelWorld {
 protected:
     QuickLogView& open() {
         if (!model) launch();
-        return m_view.emplace(*model, preferences, [this] { ++m_closed; });
+        return m_view.emplace(model->flow(), *skills, preferences, [this] { ++m_closed; });
     }
     void type(const char* hours, const char* minutes) {
         m_view->setHoursText(QString::fromUtf8(hours));
