@@ -220,6 +220,32 @@ TEST_F(AppModelTest, TheIntroKeepsStillUnderReducedMotion) {
     EXPECT_FALSE(world.preferences.flag(preferencekeys::notchIntroFlashed));
 }
 
+TEST_F(AppModelTest, ButtonOfThePanelPulsesWithTheIntroductionOfTheCapsule) {
+    AppModel& model = launched();
+    model.flashIdleNotchIntroIfNeeded();
+    EXPECT_FALSE(model.pulsePrimaryOnce());
+    world.time.advance(2.0);
+    EXPECT_TRUE(world.told.has(text("notch flash idle")));
+    EXPECT_TRUE(model.pulsePrimaryOnce());
+    model.setPulsePrimaryOnce(false);
+    model.flashIdleNotchIntroIfNeeded();
+    world.time.advance(2.0);
+    EXPECT_FALSE(model.pulsePrimaryOnce()) << "once in an installation's life";
+}
+
+TEST_F(AppModelTest, RefreshOfThePanelTellsHowFarBackPresenceIsKnown) {
+    AppModel& model = launched();
+    world.time.advance(330.0);
+    model.toggleVantle();
+    model.report(text("something went wrong"));
+    int told = 0;
+    QObject::connect(&model, &AppModel::backfillCoverageMinutesChanged, &model, [&] { ++told; });
+    model.refreshPanelState();
+    EXPECT_EQ(model.backfillCoverageMinutes(), 5);
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(world.note(), text("something went wrong")) << "an open panel must show it";
+}
+
 TEST_F(AppModelTest, CallbacksOfTheCapsuleOutliveTheModel) {
     launched();
     world.press();
