@@ -5,7 +5,7 @@
 #include "surfaces/capsule/CapsuleText.h"
 #include "surfaces/dashboard/DashboardFigures.h"
 #include "surfaces/kit/tokens/Look.h"
-#include "surfaces/welcome/SampleSkills.h"
+#include "tracking/Skill.h"
 
 #include <algorithm>
 #include <array>
@@ -14,8 +14,13 @@ namespace vantle {
 
 namespace {
 
-using samples::seed;
-using samples::words;
+/// A literal as it is shown.
+QString words(const char* utf8) { return QString::fromUtf8(utf8); }
+
+/// The skill that every first start has under the id; the first of them for an id that none has.
+Skill seed(const char* id) {
+    return Skill::seedDefinition(QLatin1String(id)).value_or(Skill::defaults().front());
+}
 
 QColor colorOf(const char* id) { return QColor::fromRgb(seed(id).hexRGB); }
 
@@ -69,6 +74,58 @@ ScreenShape sampleScreen() {
 }
 
 constexpr int kHoveredChip = 3;
+
+struct Hours {
+    const char* skill;
+    const char* hours;
+    const char* share;
+    double fraction; ///< of the first
+};
+
+constexpr std::array kBreakdown = {Hours{"building", "8.2 h", "45%", 1.0},
+                                   Hours{"product_design", "4.1 h", "22%", 0.5},
+                                   Hours{"marketing", "2.6 h", "14%", 0.32}};
+
+struct Day {
+    const char* skill; ///< null for a day off
+    float opacity;
+};
+
+constexpr std::array kWeek = {Day{"building", 1.0F},      Day{"product_design", 0.75F},
+                              Day{"building", 1.0F},      Day{"connections", 0.5F},
+                              Day{"marketing", 1.0F},     Day{nullptr, 0.0F},
+                              Day{"product_design", 1.0F}};
+
+DayTile tile(const Day& day) {
+    DayTile made;
+    made.isDay = true;
+    made.hasFill = day.skill != nullptr;
+    if (!made.hasFill) return made;
+    made.fill = QColor::fromRgb(seed(day.skill).hexRGB);
+    made.fill.setAlphaF(day.opacity);
+    return made;
+}
+
+RhythmPicture week() {
+    RhythmPicture picture;
+    for (const char* letter : {"M", "T", "W", "T", "F", "S", "S"})
+        picture.letters << words(letter);
+    RhythmPicture::Week tiles;
+    for (std::size_t i = 0; i < tiles.size(); ++i)
+        tiles[i] = tile(kWeek[i]);
+    picture.weeks = {tiles};
+    return picture;
+}
+
+/// As the hours of a busy person follow each other.
+QList<QColor> dots() {
+    QList<QColor> colors;
+    for (const char* id :
+         {"founder_ops", "building", "building", "product_design", "building", "marketing",
+          "product_design", "building", "connections", "building", "product_design"})
+        colors << QColor::fromRgb(seed(id).hexRGB);
+    return colors;
+}
 
 } // namespace
 
@@ -139,6 +196,31 @@ NotchCapsule* WelcomeSamples::capsule() {
 
 int WelcomeSamples::hoveredChip() const {
     return std::min(kHoveredChip, static_cast<int>(m_skills.size()) - 1);
+}
+
+SharePoster WelcomeSamples::poster() {
+    SharePoster made;
+    made.wordmark = words("Vantle");
+    made.title = words("YOUR WEEK, IN FULL");
+    made.dotColors = dots();
+    made.personaName = words("Night Owl");
+    made.startColor = QColor::fromRgb(0x7A78FF);
+    made.endColor = QColor::fromRgb(0xBF5AF2);
+    made.hours = {words("18.4"), words("h")};
+    made.closing = words("18.4 h across 12 sessions, led by Build.");
+    made.rhythmKicker = words("YOUR RHYTHM");
+    made.rhythm = week();
+    made.breakdownKicker = words("THE BREAKDOWN");
+    for (const Hours& row : kBreakdown) {
+        const Skill skill = seed(row.skill);
+        made.breakdown.push_back({skill.name, QColor::fromRgb(skill.hexRGB), words(row.hours),
+                                  words(row.share), row.fraction});
+    }
+    made.figures = {{made.hours, words("TOTAL")},
+                    {{words("12"), {}}, words("SESSIONS")},
+                    {{words("6"), {}}, words("ACTIVE DAYS")}};
+    made.footer = words("Vantle · the work is adding up");
+    return made;
 }
 
 } // namespace vantle

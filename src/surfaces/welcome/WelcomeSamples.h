@@ -1,8 +1,8 @@
 // The made-up figures in the pictures of the welcome.
 #pragma once
 
+#include "review/SharePoster.h"
 #include "surfaces/capsule/NotchCapsule.h"
-#include "surfaces/welcome/SamplePoster.h"
 #include "tracking/Skill.h"
 
 #include <QColor>
@@ -73,7 +73,8 @@ public:
     [[nodiscard]] static QVariantList totals();
     [[nodiscard]] static QVariantList recent();
     [[nodiscard]] static QVariantList modes();
-    [[nodiscard]] static SharePoster poster() { return samplePoster(); }
+    /// A week that nobody worked.
+    [[nodiscard]] static SharePoster poster();
     /// Made when it is asked for: it measures its texts, which takes the fonts.
     [[nodiscard]] NotchCapsule* capsule();
     [[nodiscard]] int hoveredChip() const;
