@@ -1,8 +1,8 @@
 #include "gallery/Scenes.h"
 #include "surfaces/cards/CorrectionPromptModel.h"
 #include "surfaces/cards/RecoveryNoticeModel.h"
+#include "surfaces/cards/RetagToastController.h"
 #include "surfaces/cards/RetagToastModel.h"
-#include "surfaces/cards/SavedTime.h"
 #include "surfaces/cards/StopSummaryModel.h"
 #include "surfaces/cards/TagPromptModel.h"
 

@@ -94,7 +94,8 @@ Rectangle {
             role: DarkUI.small
             color: DarkUI.textSecondary
         }
-        DarkSectionLabel {
+        DarkKicker {
+            role: DarkUI.sectionLabel
             x: DarkUI.space16
             y: 52
             text: "Name"
@@ -109,7 +110,8 @@ Rectangle {
             text: "Design"
             focused: true
         }
-        DarkTextButton {
+        KitButton {
+            kind: KitButton.Text
             x: DarkUI.space16
             y: 120
             height: DarkUI.popoverButtonHeight
@@ -138,7 +140,8 @@ Rectangle {
             text: "Choose a color"
             role: DarkUI.bodyStrong
         }
-        DarkSectionLabel {
+        DarkKicker {
+            role: DarkUI.sectionLabel
             x: DarkUI.space16
             y: 30
             text: "Color"
@@ -151,7 +154,8 @@ Rectangle {
                      "#FF6482", "#40C8E0", "#ACF35C"]
             currentIndex: 6
         }
-        DarkTextButton {
+        KitButton {
+            kind: KitButton.Text
             x: DarkUI.space16
             y: 77
             height: DarkUI.popoverButtonHeight

@@ -85,7 +85,7 @@ Rectangle {
                 }
                 Sample {
                     caption: "Text"
-                    DarkTextButton { text: "Cancel" }
+                    KitButton { kind: KitButton.Text; text: "Cancel" }
                 }
                 Sample {
                     caption: "Icon"

@@ -100,7 +100,8 @@ DarkPopover {
         onActivated: index => popover.editor.select(index)
     }
 
-    DarkTextButton {
+    KitButton {
+        kind: KitButton.Text
         x: DarkUI.space16
         anchors.verticalCenter: commit.verticalCenter
         height: DarkUI.popoverButtonHeight

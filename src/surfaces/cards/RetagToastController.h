@@ -3,10 +3,15 @@
 
 #include "app/Collaborators.h"
 #include "surfaces/cards/CornerCard.h"
+#include "tracking/DurationStyle.h"
 
 #include <memory>
 
 namespace vantle {
+
+/// "12 min" for 750 seconds that were just put away; less than a second counts as one. Pure, any
+/// thread.
+[[nodiscard]] QString savedTime(std::int64_t seconds, DurationStyle style);
 
 /// Floats for two seconds, takes no clicks, and does not compete for the corner: it keeps below
 /// whatever stands there, also when that comes or goes meanwhile. Main thread.

@@ -4,7 +4,7 @@ import QtQuick
 import Vantle.Cards
 import Vantle.Kit
 
-CardSurface {
+FloatingSurface {
     id: view
 
     required property RetagToastModel model

@@ -4,7 +4,7 @@ import QtQuick
 import Vantle.Cards
 import Vantle.Kit
 
-CardSurface {
+FloatingSurface {
     id: view
 
     required property StopSummaryModel model
@@ -117,9 +117,11 @@ CardSurface {
                 width: DarkUI.summaryDotSize
                 height: result.height
 
-                PartialDot {
+                // The hour that is being worked on: clockwise from the top the part that is done.
+                GlassDot {
                     anchors.verticalCenter: parent.verticalCenter
                     width: parent.width
+                    height: width
                     fraction: view.model.sliceFraction
                     color: view.model.skillColor
                 }

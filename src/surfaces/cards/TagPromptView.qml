@@ -4,7 +4,7 @@ import QtQuick
 import Vantle.Cards
 import Vantle.Kit
 
-CardSurface {
+FloatingSurface {
     id: view
 
     required property TagPromptModel model
@@ -49,7 +49,8 @@ CardSurface {
         onPicked: index => view.model.pick(index)
     }
 
-    DarkTextButton {
+    KitButton {
+        kind: KitButton.Text
         id: ignore
         x: asked.x
         y: chips.y + chips.height + DarkUI.space10

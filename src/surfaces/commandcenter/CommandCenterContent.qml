@@ -260,7 +260,8 @@ FocusScope {
                 color: DarkUI.textTertiary
                 Accessible.ignored: true
             }
-            DarkTextButton {
+            KitButton {
+                kind: KitButton.Text
                 id: quit
                 anchors.right: quitKeys.left
                 anchors.rightMargin: DarkUI.space8

@@ -10,7 +10,8 @@ Column {
 
     spacing: DarkUI.space12
 
-    DarkSectionLabel {
+    DarkKicker {
+        role: DarkUI.sectionLabel
         x: DarkUI.space4
         topPadding: role.leading + 26
         bottomPadding: -role.leading - DarkUI.space2 // 10 with the spacing

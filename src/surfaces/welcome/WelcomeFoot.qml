@@ -30,7 +30,8 @@ FocusScope {
         color: DarkUI.textTertiary
     }
 
-    DarkTextButton {
+    KitButton {
+        kind: KitButton.Text
         anchors.right: primary.left
         anchors.rightMargin: DarkUI.space18
         anchors.verticalCenter: parent.verticalCenter

@@ -1,5 +1,5 @@
-// The ground of a card or a toast in its window: its place, its shadow, and how it comes and goes.
-// The window is larger than the ground by the room that the shadow takes.
+// The ground of a card, a toast or a panel in its window: its place, its shadow, and how it comes
+// and goes. The window is larger than the ground by the room that the shadow takes.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
