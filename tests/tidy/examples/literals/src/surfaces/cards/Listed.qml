@@ -1,0 +1,5 @@
+// A card.
+Rectangle {
+    width: 34
+    height: 56
+}
