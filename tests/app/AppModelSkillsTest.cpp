@@ -72,7 +72,7 @@ TEST_F(AppModelSkillsTest, DeletingTheRunningSkillSplitsTheSessionOntoTheFirst) 
     EXPECT_EQ(model.tracker().currentSkillId(), text("building"));
     ASSERT_EQ(world.log().size(), 1u);
     EXPECT_EQ(world.log().front().skillId, text("marketing"));
-    EXPECT_EQ(world.autoSkill->rules().ruling(text("editor")), std::nullopt);
+    EXPECT_FALSE(world.autoSkill->rules().rules().contains(text("editor")));
 }
 
 TEST_F(AppModelSkillsTest, DeletingTheSelectedSkillSelectsTheFirst) {
