@@ -1,0 +1,96 @@
+// A Wayland compositor in this process, with what a test lets it offer.
+#pragma once
+
+#include <QByteArray>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <set>
+#include <vector>
+
+struct wl_client;
+struct wl_display;
+struct wl_global;
+struct wl_resource;
+
+namespace vantle::tests {
+
+/// Speaks to one client over a pair of sockets, on the thread of the test: nothing happens on
+/// either side but in `settle`.
+class FakeCompositor {
+public:
+    FakeCompositor();
+    ~FakeCompositor();
+    FakeCompositor(const FakeCompositor&) = delete;
+    FakeCompositor& operator=(const FakeCompositor&) = delete;
+
+    /// The client's end, to be given to its connection.
+    [[nodiscard]] int takeSocket();
+
+    /// Lets requests and events take their way until nothing is left.
+    void settle();
+    /// Ends the connection as a compositor that crashes does.
+    void vanish();
+    /// Writes bytes that are no message.
+    void talkNonsense();
+
+    struct Idle {
+        wl_resource* resource = nullptr;
+        bool isKde = false;
+        bool ofInput = false; ///< whatever inhibits
+        std::uint32_t timeout = 0;
+        bool idle = false;
+    };
+
+    /// What it offers; each returns a number for `withdraw`.
+    int offerSeat();
+    int offerIdleNotifier(std::uint32_t version);
+    int offerKdeIdle();
+    int offerToplevels();
+    int offerOutputPower();
+    int offerOutput();
+    void withdraw(int number);
+
+    /// The user: `touch` is an input, `second` a second without any has passed.
+    void touch();
+    void second();
+    /// Something holds the session awake, in the way of compositors of the older kind: what is idle
+    /// stays so, nothing becomes idle.
+    void inhibit(bool inhibits) { m_inhibits = inhibits; }
+    /// The same where an inhibitor's begin ends what is idle.
+    void inhibitAndResume();
+    [[nodiscard]] std::size_t notifications() const { return m_idles.size(); }
+
+    /// Windows, by numbers.
+    int open(const QByteArray& appId);
+    void say(int window, const QByteArray& appId);
+    void activate(int window, bool isActivated);
+    void done(int window);
+    void close(int window);
+    void finish();
+
+    /// The power of the output with that number.
+    void power(int output, bool on);
+    void failPower(int output);
+
+private:
+    struct Bindings;
+    friend struct Bindings;
+
+    void tellIdle(Idle& idle, bool isIdle);
+    void tellPower(wl_global* output, wl_resource* power);
+
+    wl_display* m_display = nullptr;
+    wl_client* m_client = nullptr;
+    int m_socket = -1, m_own = -1;
+    std::vector<wl_global*> m_globals;
+    std::vector<std::unique_ptr<Idle>> m_idles;
+    bool m_inhibits = false;
+    wl_resource* m_toplevels = nullptr;
+    std::vector<wl_resource*> m_windows;
+    std::map<wl_global*, std::vector<wl_resource*>> m_powers;
+    std::set<wl_global*> m_dark;
+};
+
+} // namespace vantle::tests
