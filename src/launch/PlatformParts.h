@@ -59,6 +59,7 @@ struct Posix {
 /// What only the server of the display can answer.
 struct Display {
     std::shared_ptr<void> connection; ///< what all of the part share
+    std::shared_ptr<void> compositor; ///< the same of what the server stands beside
     /// Whether the place of the pointer is known over every window.
     bool tellsPointer = true;
     std::unique_ptr<IdleSource> idleSource;
@@ -93,6 +94,10 @@ struct Session {
 /// An X server, Xwayland included. `posix` must outlive the part.
 [[nodiscard]] Display makeX11(Scheduler& scheduler, const PlatformEvents& events,
                               const Posix& posix);
+
+/// Beside an Xwayland server, lets the compositor and the desktop's shell tell what that server
+/// can't, or nobody. They answer some milliseconds later.
+void addCompositor(Scheduler& scheduler, const Posix& posix, Display& display);
 
 /// `posix` and `display` must outlive the part, which takes the latter's screen power over.
 [[nodiscard]] Session makeSession(Scheduler& scheduler, const PlatformEvents& events,

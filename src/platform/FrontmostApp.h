@@ -15,6 +15,18 @@ struct Application {
     friend bool operator==(const Application&, const Application&) = default;
 };
 
+/// This program, when one of its windows is in front.
+[[nodiscard]] inline Application ourselves() {
+    return {QStringLiteral("local.vantle.Vantle"), QStringLiteral("Vantle")};
+}
+
+/// Two that the tables know as one are one: a switch between them is none.
+[[nodiscard]] inline bool sameApplication(const std::optional<Application>& a,
+                                          const std::optional<Application>& b) {
+    if (!a || !b) return a.has_value() == b.has_value();
+    return a->bundleId == b->bundleId;
+}
+
 /// The applications that a desktop tells about when they come to the front.
 enum class AppCoverage {
     All,

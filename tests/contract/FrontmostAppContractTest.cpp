@@ -2,11 +2,14 @@
 #include "contract/Contract.h"
 #include "fakes/FakeFrontmostApp.h"
 #include "fakes/VirtualTime.h"
+#include "platform/wayland/FakeCompositor.h"
+#include "platform/wayland/WaylandToplevels.h"
 #include "platform/x11/OwnServer.h"
 #include "platform/x11/X11FrontmostApp.h"
 #include "support/Await.h"
 #include "support/QtPrinters.h"
 
+#include <utility>
 #include <vector>
 
 namespace vantle {
@@ -92,6 +95,46 @@ private:
                           }};
 };
 
+class WaylandWorld final : public FrontmostWorld {
+public:
+    WaylandWorld() {
+        m_compositor.offerToplevels();
+        m_compositor.settle();
+    }
+    [[nodiscard]] FrontmostApp& app() override { return m_app; }
+    void bring(const char* id) override {
+        const int before = std::exchange(m_window, m_compositor.open(id));
+        tell(m_window, true);
+        if (before >= 0) tell(before, false);
+    }
+    void leave() override {
+        tell(std::exchange(m_window, -1), false);
+        m_time.advance(WaylandToplevels::noneIsBelievedAfter);
+    }
+    void lose() override {
+        m_compositor.vanish();
+        m_compositor.settle();
+    }
+
+private:
+    void tell(int window, bool isActivated) {
+        m_compositor.activate(window, isActivated);
+        m_compositor.done(window);
+    }
+
+    tests::FakeCompositor m_compositor;
+    WaylandConnection m_connection{m_compositor.takeSocket()};
+    fakes::VirtualTime m_time;
+    WaylandToplevels m_app{{.connection = m_connection,
+                            .scheduler = m_time,
+                            .resolve =
+                                [](const WindowHints& hints) {
+                                    return Application{hints.applicationId, hints.windowClass};
+                                },
+                            .oursHasTheKeyboard = [] { return false; }}};
+    int m_window = -1;
+};
+
 class FrontmostAppContract : public contract::Contract<FrontmostWorld> {
 protected:
     FrontmostAppContract() {
@@ -110,7 +153,8 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(, FrontmostAppContract,
                          testing::Values(contract::maker<FrontmostWorld, FakeWorld>("Fake"),
-                                         contract::maker<FrontmostWorld, X11World>("X11")),
+                                         contract::maker<FrontmostWorld, X11World>("X11"),
+                                         contract::maker<FrontmostWorld, WaylandWorld>("Wayland")),
                          contract::kByName);
 
 TEST_P(FrontmostAppContract, NothingIsInFrontAtFirstThoughItCanTell) {

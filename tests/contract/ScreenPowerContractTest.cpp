@@ -2,10 +2,14 @@
 #include "contract/Contract.h"
 #include "fakes/FakeScreenPower.h"
 #include "fakes/VirtualTime.h"
+#include "platform/gnome/FakeMutter.h"
+#include "platform/gnome/MutterScreenPower.h"
 #include "platform/session/FakeLoginManager.h"
 #include "platform/session/FakeScreenSaver.h"
 #include "platform/session/LoginScreenPower.h"
 #include "platform/session/SessionScreenPower.h"
+#include "platform/wayland/FakeCompositor.h"
+#include "platform/wayland/WaylandOutputPower.h"
 #include "platform/x11/OwnServer.h"
 #include "platform/x11/X11ScreenPower.h"
 #include "sensing/ScreenPowerUnion.h"
@@ -160,6 +164,40 @@ private:
     std::unique_ptr<LoginScreenPower> m_power;
 };
 
+class MutterWorld final : public BusWorld {
+public:
+    MutterWorld() { m_mutter.appear(); }
+    [[nodiscard]] ScreenPower& begin() override {
+        m_power = std::make_unique<MutterScreenPower>(m_client.bus());
+        return *m_power;
+    }
+    void sleep() override { m_mutter.setPowerSaveMode(3); }
+    void wake() override { m_mutter.setPowerSaveMode(0); }
+
+private:
+    tests::FakeMutter m_mutter;
+    tests::BusClient m_client;
+    std::unique_ptr<MutterScreenPower> m_power;
+};
+
+class WaylandWorld final : public PowerWorld {
+public:
+    [[nodiscard]] ScreenPower& begin() override {
+        m_compositor.offerOutputPower();
+        m_power = std::make_unique<WaylandOutputPower>(m_connection);
+        return *m_power;
+    }
+    void sleep() override { m_compositor.power(m_output, false); }
+    void wake() override { m_compositor.power(m_output, true); }
+    void settle() override { m_compositor.settle(); }
+
+private:
+    tests::FakeCompositor m_compositor;
+    const int m_output = m_compositor.offerOutput();
+    WaylandConnection m_connection{m_compositor.takeSocket()};
+    std::unique_ptr<WaylandOutputPower> m_power;
+};
+
 class ScreenPowerContract : public contract::Contract<PowerWorld> {
 protected:
     ScreenPower& begin() {
@@ -194,7 +232,9 @@ INSTANTIATE_TEST_SUITE_P(
                     contract::maker<PowerWorld, DarkDisplayWorld>("X11DarkDisplay"),
                     contract::maker<PowerWorld, StatusWorld>("X11Status"),
                     contract::maker<PowerWorld, SessionSaverWorld>("SessionSaver"),
-                    contract::maker<PowerWorld, LoginLockWorld>("LoginLock")),
+                    contract::maker<PowerWorld, LoginLockWorld>("LoginLock"),
+                    contract::maker<PowerWorld, MutterWorld>("Mutter"),
+                    contract::maker<PowerWorld, WaylandWorld>("Wayland")),
     contract::kByName);
 
 TEST_P(ScreenPowerContract, ScreensAreAwakeUntilTheySleep) {

@@ -143,7 +143,9 @@ void WaylandToplevels::refresh() {
     m_none.reset();
     const QString& id = (*active)->state().id;
     // Of a window of X11 it is the class.
-    adopt(m_env.resolve({.applicationId = id, .windowClass = id, .instance = {}, .processId = {}}));
+    const WindowHints hints{
+        .applicationId = id, .windowClass = id, .instance = {}, .processId = {}};
+    adopt(isOurs(hints) ? ourselves() : m_env.resolve(hints));
 }
 
 void WaylandToplevels::waitForNone() {
@@ -158,7 +160,8 @@ void WaylandToplevels::waitForNone() {
 }
 
 void WaylandToplevels::adopt(std::optional<Application> application) {
-    if (std::exchange(m_application, application) != application) Q_EMIT activated(application);
+    const auto former = std::exchange(m_application, std::move(application));
+    if (!sameApplication(former, m_application)) Q_EMIT activated(m_application);
 }
 
 } // namespace vantle

@@ -1,29 +1,6 @@
 #include "platform/x11/X11FrontmostApp.h"
 
-#include <QCoreApplication>
-
 namespace vantle {
-
-namespace {
-
-Application ourselves() {
-    return {QStringLiteral("local.vantle.Vantle"), QStringLiteral("Vantle")};
-}
-
-/// Whether it is a window of this program. The number of our process is another one for the server
-/// when we run in a sandbox, so the class tells it as well.
-bool isOurs(const WindowHints& hints) {
-    return hints.processId == QCoreApplication::applicationPid() ||
-           hints.windowClass.compare(QLatin1String("vantle"), Qt::CaseInsensitive) == 0;
-}
-
-/// Two applications that the tables know as one are one: a switch between them is none.
-bool sameApplication(const std::optional<Application>& a, const std::optional<Application>& b) {
-    if (!a || !b) return a.has_value() == b.has_value();
-    return a->bundleId == b->bundleId;
-}
-
-} // namespace
 
 X11FrontmostApp::X11FrontmostApp(X11Connection& connection, Scheduler& scheduler,
                                  IdentityResolver resolve)

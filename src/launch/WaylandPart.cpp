@@ -1,0 +1,61 @@
+#include "base/Clock.h"
+#include "launch/PlatformParts.h"
+#include "platform/FirstIdleSource.h"
+#include "platform/gnome/MutterIdleSource.h"
+#include "platform/gnome/MutterScreenPower.h"
+#include "platform/wayland/WaylandConnection.h"
+#include "platform/wayland/WaylandIdleSource.h"
+#include "platform/wayland/WaylandOutputPower.h"
+#include "platform/wayland/WaylandToplevels.h"
+#include "sensing/ScreenPowerUnion.h"
+
+#include <QDBusConnection>
+#include <QGuiApplication>
+
+#include <utility>
+#include <vector>
+
+namespace vantle::platformparts {
+
+namespace {
+
+struct Compositor {
+    WaylandConnection connection;
+    SystemClock clock;
+};
+
+} // namespace
+
+void addCompositor(Scheduler& scheduler, const Posix& posix, Display& display) {
+    const auto compositor = std::make_shared<Compositor>();
+    WaylandConnection& wayland = compositor->connection;
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+
+    std::vector<std::unique_ptr<IdleSource>> idle;
+    idle.reserve(2);
+    idle.push_back(std::make_unique<WaylandIdleSource>(wayland, compositor->clock));
+    idle.push_back(std::make_unique<MutterIdleSource>(bus, compositor->clock));
+    display.idleSource = std::make_unique<FirstIdleSource>(std::move(idle));
+
+    display.frontmostApp = std::make_unique<WaylandToplevels>(WaylandToplevels::Environment{
+        .connection = wayland,
+        .scheduler = scheduler,
+        .resolve =
+            [identify = posix.identify](const WindowHints& hints) {
+                // Not installed, the program has no entry to be found by.
+                return hints.windowClass == QCoreApplication::applicationName() ? ourselves()
+                                                                                : identify(hints);
+            },
+        .oursHasTheKeyboard = [] { return QGuiApplication::focusWindow() != nullptr; }});
+
+    std::vector<std::unique_ptr<ScreenPower>> power;
+    power.reserve(3);
+    power.push_back(std::move(display.screenPower));
+    power.push_back(std::make_unique<WaylandOutputPower>(wayland));
+    power.push_back(std::make_unique<MutterScreenPower>(bus));
+    display.screenPower = std::make_unique<ScreenPowerUnion>(std::move(power));
+
+    display.compositor = compositor;
+}
+
+} // namespace vantle::platformparts
