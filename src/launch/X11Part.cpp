@@ -41,6 +41,7 @@ Display makeX11(Scheduler& scheduler, const PlatformEvents& events, const Posix&
         frontmostApp = std::make_unique<X11FrontmostApp>(x11, scheduler, posix.identify);
     }
     return {.connection = server,
+            .compositor = nullptr,
             .tellsPointer = !xwayland.isXwayland,
             .idleSource = std::move(idleSource),
             .frontmostApp = std::move(frontmostApp),

@@ -8,20 +8,8 @@ from harness.waiting import wait_until
 
 DWELL = 45  # seconds in another application until a session follows it
 
-ENTRY = """[Desktop Entry]
-Type=Application
-Name=Painter
-Exec=xterm -class Painter
-StartupWMClass=Painter
-"""
-
 
 class FollowsWork(DesktopTest):
-
-    def install_application(self, entry_id):
-        folder = Path(self.desktop.env["XDG_DATA_HOME"], "applications")
-        folder.mkdir(parents=True, exist_ok=True)
-        (folder / f"{entry_id}.desktop").write_text(ENTRY)
 
     def open_in_front(self, window_class, title):
         self.desktop.open("xterm", "-class", window_class, "-T", title)
@@ -35,7 +23,7 @@ class FollowsWork(DesktopTest):
             time.sleep(0.5)
 
     def test_a_while_in_a_known_application_files_the_rest_under_its_skill(self):
-        self.install_application("gimp")
+        self.install_application("gimp", "Painter")
         self.launch()
         self.open_in_front("XTerm", "a terminal")
         self.begin_session()
@@ -51,7 +39,7 @@ class FollowsWork(DesktopTest):
         self.assertEqual(marker["startedAt"], record["endedAt"], "nothing is lost at the seam")
 
     def test_a_short_trip_elsewhere_keeps_what_was_banked(self):
-        self.install_application("gimp")
+        self.install_application("gimp", "Painter")
         self.launch()
         self.open_in_front("XTerm", "a terminal")
         self.begin_session()
@@ -66,7 +54,7 @@ class FollowsWork(DesktopTest):
         self.assertEqual(self.vantle.marker()["skillId"], "product_design")
 
     def test_a_closed_application_is_not_in_front_any_more(self):
-        self.install_application("gimp")
+        self.install_application("gimp", "Painter")
         self.launch()
         self.begin_session()
         self.open_in_front("Painter", "a painting")
@@ -79,7 +67,7 @@ class FollowsWork(DesktopTest):
         self.assertEqual(record["skillId"], FIRST_SKILL)
 
     def test_two_minutes_in_a_known_application_start_a_session_where_that_is_wanted(self):
-        self.install_application("gimp")
+        self.install_application("gimp", "Painter")
         self.vantle.write_preferences(auto__autostart="true")
         self.launch()
         self.open_in_front("Painter", "a painting")

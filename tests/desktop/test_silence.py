@@ -1,21 +1,15 @@
 """Time away from keyboard and mouse is cut out of the session."""
 
 import time
-from datetime import datetime, timezone
 
 from harness.case import DesktopTest
-from harness.waiting import wait_until
+from harness.program import epoch
 
 # The shortest threshold that the preference takes; the counter is looked at every 10 s, give or
 # take 2, so a silence is noticed within 22 s and input after it within 12.
 THRESHOLD = 10.0
 NOTICES_SILENCE = THRESHOLD + 12
 NOTICES_INPUT = 12
-
-
-def epoch(text):
-    parsed = datetime.strptime(text, "%Y-%m-%dT%H:%M:%SZ").replace(tzinfo=timezone.utc)
-    return parsed.timestamp()
 
 
 class Silence(DesktopTest):
@@ -31,7 +25,7 @@ class Silence(DesktopTest):
         self.desktop.nudge_pointer()
         last_input = time.time()
 
-        paused = self._await_next_marker(NOTICES_SILENCE + 2)
+        paused = self.vantle.await_next_marker(NOTICES_SILENCE + 2)
         self.assertGreaterEqual(time.time() - last_input, THRESHOLD)
         stopped = epoch(paused["lastSeenAt"])
         self.assertGreaterEqual(stopped, before_input - 1.5)
@@ -42,7 +36,7 @@ class Silence(DesktopTest):
         self.desktop.screenshot("paused")
 
         self.desktop.nudge_pointer()
-        resumed = self._await_next_marker(NOTICES_INPUT + 2)
+        resumed = self.vantle.await_next_marker(NOTICES_INPUT + 2)
         came_back = time.time()
         self.assertEqual(resumed["id"], paused["id"])
         self.assertEqual(resumed["activeSeconds"], paused["activeSeconds"])
@@ -59,7 +53,7 @@ class Silence(DesktopTest):
         self.vantle.write_preferences(idle__thresholdSeconds=THRESHOLD)
         self.launch()
         self.begin_session()
-        paused = self._await_next_marker(NOTICES_SILENCE + 2)
+        paused = self.vantle.await_next_marker(NOTICES_SILENCE + 2)
         self.assertIn(paused["activeSeconds"], (0, 1))
         # Not by a key press: that would be input.
         self.assertEqual(self.vantle.stop(), 0)
@@ -67,14 +61,3 @@ class Silence(DesktopTest):
         record, = self.vantle.sessions()
         self.assertEqual(record["activeSeconds"], paused["activeSeconds"])
         self.assertGreaterEqual(epoch(record["endedAt"]) - epoch(record["startedAt"]), THRESHOLD)
-
-    def _await_next_marker(self, deadline):
-        """Waits until the marker is written anew, which replaces the file, and returns it."""
-        old = self.vantle.marker_file.stat()
-        wait_until("a new marker", lambda: not _same_file(self.vantle.marker_file.stat(), old),
-                   deadline)
-        return self.vantle.marker()
-
-
-def _same_file(one, other):
-    return (one.st_ino, one.st_mtime_ns) == (other.st_ino, other.st_mtime_ns)

@@ -2,10 +2,8 @@
 
 import time
 
-from harness.bus import activate_action
-from harness.case import DesktopTest
 from harness.waiting import wait_until
-from harness.wayland import WaylandSession
+from harness.wayland import WaylandTest
 
 WIDTH = 1280
 MIDDLE = WIDTH // 2
@@ -13,60 +11,6 @@ CAPSULE = "Vantle Capsule"
 SUMMARY = "Vantle Session Summary"
 PANEL = "Vantle Command Center"
 OVERLAY = "Vantle ceremony"
-
-# As a terminal reports presses to what runs in it.
-PRESS = "\x1b[M "
-
-
-class WaylandTest(DesktopTest):
-
-    tray_kind = DesktopTest.NO_TRAY
-    window_manager = False
-
-    def setUp(self):
-        super().setUp()
-        self.desktop.env["VANTLE_AUTOSTART"] = "1"  # nothing pops up
-        session = WaylandSession(self.desktop)
-        self.addCleanup(session.stop)
-        session.start()
-        self.session = session.desktop
-        self.vantle = self.new_program(self.session)
-        self.vantle.write_preferences(notch__intro__flashed="true")
-        self.open_native_window()
-
-    def open_native_window(self):
-        """A terminal over the whole screen, which writes down what it gets."""
-        self._got = self.desktop.directory / "got"
-        self.session.open("foot", "sh", "-c",
-                          f"printf '\\033[?1000h'; stty -echo raw; exec cat >{self._got}")
-        wait_until("the native window", self._got.exists)
-        time.sleep(0.5)  # until it is in front
-
-    def got(self):
-        return self._got.read_bytes().decode("latin-1")
-
-    def presses(self):
-        return self.got().count(PRESS)
-
-    def click(self, x, y):
-        self.desktop.tool("xdotool", "mousemove", str(x), str(y), "sleep", "0.2", "click", "1",
-                          "sleep", "0.2")
-
-    def expect_press_through(self, x, y):
-        before = self.presses()
-        self.click(x, y)
-        wait_until(f"a press at {x}, {y} in the native window",
-                   lambda: self.presses() > before, deadline=3)
-
-    def expect_keys_through(self, letters):
-        self.desktop.type(letters)
-        wait_until(f"{letters!r} in the native window", lambda: letters in self.got(), deadline=3)
-
-    def toggle(self):
-        activate_action(self.session, "toggle")
-
-    def frames(self, title):
-        return [self.session.frame_of(window) for window in self.session.windows_named(title)]
 
 
 class Rests(WaylandTest):

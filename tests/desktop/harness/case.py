@@ -93,6 +93,14 @@ class DesktopTest(unittest.TestCase):
         wait_until("no panel", lambda: not self.desktop.windows_named(PANEL_TITLE))
         wait_until("the keyboard back", lambda: not keyboard or self.desktop.keyboard() == keyboard)
 
+    def install_application(self, entry_id, window_class):
+        """A desktop entry of the user's for windows of that class."""
+        folder = Path(self.desktop.env["XDG_DATA_HOME"], "applications")
+        folder.mkdir(parents=True, exist_ok=True)
+        (folder / f"{entry_id}.desktop").write_text(
+            f"[Desktop Entry]\nType=Application\nName=Painter\nExec=xterm -class {window_class}\n"
+            f"StartupWMClass={window_class}\n")
+
     def open_editor(self, *options):
         """Another application, with the keyboard; returns the file that its lines land in."""
         typed = self.desktop.directory / "typed"

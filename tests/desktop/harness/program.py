@@ -4,9 +4,16 @@ import json
 import os
 import signal
 import subprocess
+from datetime import datetime, timezone
 from pathlib import Path
 
 from .waiting import wait_until
+
+
+def epoch(text):
+    """A moment as the log has it, in seconds since 1970."""
+    parsed = datetime.strptime(text, "%Y-%m-%dT%H:%M:%SZ").replace(tzinfo=timezone.utc)
+    return parsed.timestamp()
 
 
 class Program:
@@ -110,6 +117,16 @@ class Program:
             return json.loads(self.marker_file.read_bytes())
         except FileNotFoundError:
             return None
+
+    def await_next_marker(self, deadline):
+        """Waits until the marker is written anew, which replaces the file, and returns it."""
+        def version():
+            now = self.marker_file.stat()
+            return now.st_ino, now.st_mtime_ns
+
+        old = version()
+        wait_until("a new marker", lambda: version() != old, deadline)
+        return self.marker()
 
     def write_marker(self, **fields):
         self.data_directory.mkdir(mode=0o700, parents=True, exist_ok=True)

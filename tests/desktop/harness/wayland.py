@@ -3,11 +3,19 @@
 import copy
 import os
 import subprocess
+import time
 from pathlib import Path
 
+from .bus import activate_action
+from .case import DesktopTest
 from .desktop import HOLDER
+from .waiting import wait_until
 
 WITH_SWAY = Path(__file__).resolve().parents[2] / "support" / "with-sway"
+
+
+# As a terminal reports presses to what runs in it.
+PRESS = "\x1b[M "
 
 
 class WaylandSession:
@@ -44,3 +52,55 @@ class WaylandSession:
         self._holder.wait(10)
         self._holder.stdout.close()
         self._holder = None
+
+
+class WaylandTest(DesktopTest):
+    """The program in a Wayland session, beside a window that X11 knows nothing of."""
+
+    tray_kind = DesktopTest.NO_TRAY
+    window_manager = False
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.env["VANTLE_AUTOSTART"] = "1"  # nothing pops up
+        session = WaylandSession(self.desktop)
+        self.addCleanup(session.stop)
+        session.start()
+        self.session = session.desktop
+        self.vantle = self.new_program(self.session)
+        self.vantle.write_preferences(notch__intro__flashed="true")
+        self.open_native_window()
+
+    def open_native_window(self):
+        """A terminal over the whole screen, which writes down what it gets."""
+        self._got = self.desktop.directory / "got"
+        self.session.open("foot", "sh", "-c",
+                          f"printf '\\033[?1000h'; stty -echo raw; exec cat >{self._got}")
+        wait_until("the native window", self._got.exists)
+        time.sleep(0.5)  # until it is in front
+
+    def got(self):
+        return self._got.read_bytes().decode("latin-1")
+
+    def presses(self):
+        return self.got().count(PRESS)
+
+    def click(self, x, y):
+        self.desktop.tool("xdotool", "mousemove", str(x), str(y), "sleep", "0.2", "click", "1",
+                          "sleep", "0.2")
+
+    def expect_press_through(self, x, y):
+        before = self.presses()
+        self.click(x, y)
+        wait_until(f"a press at {x}, {y} in the native window",
+                   lambda: self.presses() > before, deadline=3)
+
+    def expect_keys_through(self, letters):
+        self.desktop.type(letters)
+        wait_until(f"{letters!r} in the native window", lambda: letters in self.got(), deadline=3)
+
+    def toggle(self):
+        activate_action(self.session, "toggle")
+
+    def frames(self, title):
+        return [self.session.frame_of(window) for window in self.session.windows_named(title)]
