@@ -53,8 +53,8 @@ int run() {
     const ScreenShape screen{.frame = QRectF(0, 0, 1440, 900),
                              .available = QRectF(0, 0, 1440, 900)};
     auto capsule = makeCapsule({scheduler, preferences, motion, text}, screen);
-    const QRectF frame = capsule::panelFrame(capsule->metrics(), screen);
-    auto window = CapsuleWindow::raise(std::move(capsule), frame, engine, host);
+    const Placement place = capsule::placement(capsule->metrics(), screen);
+    auto window = CapsuleWindow::raise(std::move(capsule), place, engine, host);
     if (!window) return 1;
     runFor(1000);
 

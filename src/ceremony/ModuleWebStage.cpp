@@ -8,9 +8,11 @@
 
 namespace vantle {
 
-ModuleWebStage::ModuleWebStage(QString modulePath, std::function<QString()> findPage)
+ModuleWebStage::ModuleWebStage(QString modulePath, std::function<QString()> findPage,
+                               PanelHost& host)
     : m_modulePath(std::move(modulePath))
-    , m_findPage(std::move(findPage)) {}
+    , m_findPage(std::move(findPage))
+    , m_host(host) {}
 
 bool ModuleWebStage::hasPage() {
     if (!QCoreApplication::testAttribute(Qt::AA_ShareOpenGLContexts)) return false;
@@ -25,7 +27,7 @@ std::unique_ptr<OverlayWindow> ModuleWebStage::putUp(const QRect& frame, const Q
     QScreen* const screen = overlayscreens::withFrame(frame);
     std::unique_ptr<OverlayWindow> window;
     if (m_module && screen)
-        window = m_module->putUp(*screen, m_findPage(), script, std::move(message));
+        window = m_module->putUp(*screen, m_host, m_findPage(), script, std::move(message));
     return window ? std::move(window) : std::make_unique<OverlayWindow>();
 }
 

@@ -7,6 +7,7 @@
 
 namespace vantle {
 
+class PanelHost;
 class WebCeremonyModule;
 
 /// The module is loaded when there is a page to show, and not before: the engine takes a hundred
@@ -16,7 +17,8 @@ class WebCeremonyModule;
 class ModuleWebStage final : public WebStage {
 public:
     /// `modulePath` is the module's file; `findPage` gives the page's, empty where there is none.
-    ModuleWebStage(QString modulePath, std::function<QString()> findPage);
+    /// `host` must outlive this.
+    ModuleWebStage(QString modulePath, std::function<QString()> findPage, PanelHost& host);
 
     [[nodiscard]] bool hasPage() override;
     [[nodiscard]] std::unique_ptr<OverlayWindow> putUp(const QRect& frame, const QString& script,
@@ -25,6 +27,7 @@ public:
 private:
     const QString m_modulePath;
     const std::function<QString()> m_findPage;
+    PanelHost& m_host;
     bool m_wasTried = false;
     WebCeremonyModule* m_module = nullptr; ///< owned by the plugin system
 };

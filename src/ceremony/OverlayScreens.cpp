@@ -1,5 +1,7 @@
 #include "ceremony/OverlayScreens.h"
 
+#include "platform/PanelHost.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>
@@ -8,30 +10,21 @@
 
 namespace vantle::overlayscreens {
 
-namespace {
-
-/// Only a window past the window manager's care lets clicks through to the window below, lies above
-/// full-screen windows, and is on every workspace.
-constexpr Qt::WindowFlags kFlags = Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint |
-                                   Qt::WindowStaysOnTopHint | Qt::WindowTransparentForInput |
-                                   Qt::WindowDoesNotAcceptFocus;
-
-} // namespace
-
 QScreen* withFrame(const QRect& frame) {
     const QList<QScreen*> screens = QGuiApplication::screens();
     const auto screen = std::ranges::find(screens, frame, &QScreen::geometry);
     return screen == screens.end() ? nullptr : *screen;
 }
 
-void cover(QWindow& window, QScreen& screen) {
+void cover(QWindow& window, const QScreen& screen, PanelHost& host) {
     QSurfaceFormat format = window.format();
     format.setAlphaBufferSize(8);
     window.setFormat(format);
-    window.setFlags(kFlags);
     window.setTitle(QStringLiteral("Vantle ceremony"));
-    window.setScreen(&screen);
-    window.setGeometry(screen.geometry());
+    const QRectF frame = screen.geometry();
+    (void)host.place(window, {.spot = Placement::Spot::WholeScreen,
+                              .screen = {.frame = frame, .available = frame},
+                              .felt = QRegion()});
 }
 
 } // namespace vantle::overlayscreens

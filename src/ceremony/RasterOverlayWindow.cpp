@@ -15,7 +15,7 @@ RasterOverlayWindow::RasterOverlayWindow(QScreen& screen, std::unique_ptr<Overla
     : m_view(std::move(view))
     , m_clock(clock)
     , m_host(host) {
-    overlayscreens::cover(*this, screen);
+    overlayscreens::cover(*this, screen, m_host);
     // Left alone, the window would move to another screen when its own goes.
     connect(qApp, &QGuiApplication::screenRemoved, this, [this, &screen](QScreen* removed) {
         if (removed == &screen) end();
@@ -31,10 +31,6 @@ void RasterOverlayWindow::refresh() {
     if (isOver()) return;
     if (elapsed() >= m_view->endTime()) return end();
     if (!takeShape()) return hide();
-    if (handle() == nullptr) {
-        create();
-        m_host.markFloating(*this);
-    }
     show();
     update();
 }

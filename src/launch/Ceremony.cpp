@@ -54,7 +54,7 @@ Ceremony::Ceremony(const Platform& platform, const Clock& clock, Scheduler& sche
     , m_clock(clock)
     , m_scheduler(scheduler)
     , m_stage(clock, scheduler, platform.panelHost)
-    , m_web(webModulePath(), findPage)
+    , m_web(webModulePath(), findPage, platform.panelHost)
     , m_prepQueue(std::move(prepQueue)) {
     ceremonyfonts::registerBundledFonts(resourcefolders::all());
 }

@@ -28,8 +28,8 @@ std::unique_ptr<collaborators::Notch> FloatingSurfaces::makeNotch() {
         .preferences = m_platform.preferences,
         .reducedMotion = m_platform.reducedMotion,
         .screens = m_platform.screens,
-        .raise = [this](std::unique_ptr<NotchCapsule> capsule, const QRectF& panelFrame) {
-            return CapsuleWindow::raise(std::move(capsule), panelFrame, *m_engines.acquire(),
+        .raise = [this](std::unique_ptr<NotchCapsule> capsule, const Placement& placement) {
+            return CapsuleWindow::raise(std::move(capsule), placement, *m_engines.acquire(),
                                         m_platform.panelHost);
         }});
 }

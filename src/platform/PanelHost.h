@@ -1,6 +1,8 @@
 // What a floating panel asks of the desktop beyond having a window.
 #pragma once
 
+#include "platform/Placement.h"
+
 #include <QObject>
 #include <QRegion>
 #include <QWindow>
@@ -35,22 +37,29 @@ public:
     /// Where it is not, only entering and leaving a window can be believed. Does not change.
     [[nodiscard]] virtual bool tellsPointer() const { return true; }
 
-    /// Keeps the desktop from giving the keyboard to the window when it is shown. For each window
-    /// that floats, between its creation and its first show.
-    virtual void markFloating(QWindow&) {}
+    /// Makes the window one that floats there, or moves it there. Before its first show this
+    /// decides by which kind of window, and creates it; showing it gives it no keyboard. Where a
+    /// desktop has no input regions the window covers only what feels the pointer, else what is
+    /// drawn: returns the part of the placement's frame that it covers, in px of that frame.
+    virtual QRect place(QWindow& window, const Placement& placement);
+
+    /// The place of the pointer, in px of the window from its top left. Where tellsPointer() is
+    /// false, right only while the pointer is over the window.
+    [[nodiscard]] virtual QPoint pointerIn(const QWindow& window) const;
 
     /// Only this part of the window feels the pointer; all else lets it through to what is below.
     /// In px of the window, from its top left; an empty region lets everything through. To be set
-    /// again after the window was shown or resized.
+    /// again after the window was placed, shown or resized.
     virtual void setInputRegion(QWindow&, const QRegion&) {}
 
-    /// Calls `rested` when the pointer has come to rest in that part of the screen, in px of the
-    /// desktop, or rests there already; once for each visit, never within this call. Presses go to
+    /// Calls `rested` when the pointer has come to rest in that part of a placement, in px from the
+    /// top left of its ground(), or rests there already; once for each visit, never within this
+    /// call. No window need stand there. Presses go to
     /// what lies there, and what is pressed there, or dragged there, calls nothing for the rest of
     /// the visit. A server that can't tell of all that calls at the arrival and takes the presses.
     /// Null where there is no such thing. Must not outlive the host.
-    [[nodiscard]] virtual std::unique_ptr<PointerSensor> senseAt(const QRect& /*part*/,
-                                                                 std::function<void()> /*rested*/) {
+    [[nodiscard]] virtual std::unique_ptr<PointerSensor>
+    senseAt(const Placement& /*panel*/, const QRect& /*part*/, std::function<void()> /*rested*/) {
         return nullptr;
     }
 
@@ -64,6 +73,10 @@ public:
 Q_SIGNALS:
     /// isComposited() changed: a compositor came or went.
     void compositedChanged();
+
+protected:
+    /// Of a window that floats there, on any kind of display.
+    [[nodiscard]] virtual Qt::WindowFlags flagsFor(const Placement& placement) const;
 };
 
 } // namespace vantle

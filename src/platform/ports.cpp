@@ -3,6 +3,7 @@
 #include "platform/CannotTell.h"
 #include "platform/FileManager.h"
 #include "platform/FrontmostApp.h"
+#include "platform/GuestSession.h"
 #include "platform/HotKeyPort.h"
 #include "platform/IdleSource.h"
 #include "platform/ImageClipboard.h"

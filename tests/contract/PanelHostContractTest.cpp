@@ -9,12 +9,19 @@
 #include <QGuiApplication>
 #include <QProcess>
 
+#include <utility>
+#include <vector>
+
 namespace vantle {
 namespace {
 
 using tests::await;
 using tests::text;
 
+const ScreenShape kScreen{.frame = QRectF(0, 0, 1440, 900), .available = QRectF(0, 28, 1440, 872)};
+/// From 519 on, without a window.
+const Placement kCorner{.screen = kScreen, .size = {200, 100}, .inset = {12, 10}};
+const Placement kTop{.spot = Placement::Spot::TopCenter, .screen = kScreen, .size = {402, 100}};
 constexpr int kLongerThanARest = 700; // ms, that of X11RestSensor and what it looks after
 
 /// A desktop with a pointer, an application in front, and a compositor that comes and goes.
@@ -27,6 +34,8 @@ public:
     virtual void movePointer(QPoint place) = 0;
     /// Presses the first button where the pointer is, or lets it go.
     virtual void setButtonDown(bool isDown) = 0;
+    /// Where the desktop has the window.
+    [[nodiscard]] virtual QRect frameOf(const QWindow& window) = 0;
     /// Whether the keyboard is with the window.
     [[nodiscard]] virtual bool hasKeyboard(QWindow& window) = 0;
 };
@@ -39,6 +48,7 @@ public:
     void endCompositor() override { m_host.setComposited(false); }
     void movePointer(QPoint place) override { m_host.movePointer(place); }
     void setButtonDown(bool isDown) override { m_host.setButtonDown(isDown); }
+    [[nodiscard]] QRect frameOf(const QWindow& window) override { return window.geometry(); }
     [[nodiscard]] bool hasKeyboard(QWindow& window) override {
         return m_host.keyboardOwner == &window;
     }
@@ -74,6 +84,13 @@ public:
     void setButtonDown(bool isDown) override {
         EXPECT_TRUE(tests::run(isDown ? text("xdotool mousedown 1") : text("xdotool mouseup 1")));
     }
+    [[nodiscard]] QRect frameOf(const QWindow& window) override {
+        const auto id = static_cast<xcb_window_t>(window.winId());
+        const auto geometry =
+            m_x11.reply<xcb_get_geometry_reply>(xcb_get_geometry(m_x11.xcb(), id));
+        return geometry ? QRect(geometry->x, geometry->y, geometry->width, geometry->height)
+                        : QRect();
+    }
     [[nodiscard]] bool hasKeyboard(QWindow& window) override { return focus() == window.winId(); }
 
 private:
@@ -98,12 +115,10 @@ protected:
                          [this] { m_told.push_back(host().isComposited()); });
     }
     [[nodiscard]] PanelHost& host() const { return world().host(); }
-    /// A window as panels are: unmanaged, and shown without the keyboard.
-    [[nodiscard]] static std::unique_ptr<QWindow> makePanel() {
+    /// A window as panels are: placed, and then shown.
+    [[nodiscard]] std::unique_ptr<QWindow> makePanel(const Placement& placement = kCorner) const {
         auto panel = std::make_unique<QWindow>();
-        panel->setFlags(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint);
-        panel->setGeometry(300, 200, 200, 100);
-        panel->create();
+        (void)host().place(*panel, placement);
         panel->show();
         EXPECT_TRUE(await([&] { return panel->isExposed(); }));
         return panel;
@@ -126,6 +141,44 @@ TEST_P(PanelHostContract, TellsOfACompositorThatComesAndGoes) {
         EXPECT_TRUE(await([this] { return !host().isComposited(); }));
     }
     EXPECT_EQ(m_told, (QList<bool>{true, false, true, false}));
+}
+
+TEST_P(PanelHostContract, PlacesAWindowWhereItsSurfaceAskedToStand) {
+    auto shadowed = kCorner;
+    shadowed.room = {16, 8, 16, 24};
+    const Placement beside{.spot = Placement::Spot::Beside,
+                           .screen = kScreen,
+                           .size = {360, 500},
+                           .inset = {8, 8},
+                           .anchor = QRectF(1400, 2, 24, 24),
+                           .gap = 4};
+    const Placement whole{.spot = Placement::Spot::WholeScreen, .screen = kScreen};
+    const std::vector<std::pair<Placement, QRect>> expected{{kCorner, {1228, 38, 200, 100}},
+                                                            {shadowed, {1212, 30, 232, 132}},
+                                                            {kTop, {519, 0, 402, 100}},
+                                                            {beside, {1072, 36, 360, 500}},
+                                                            {whole, {0, 0, 1440, 900}}};
+    for (const auto& [placement, frame] : expected) {
+        const auto panel = makePanel(placement);
+        EXPECT_TRUE(await([&, here = frame] { return world().frameOf(*panel) == here; }))
+            << frame.x() << ' ' << frame.y();
+        EXPECT_FALSE(world().hasKeyboard(*panel));
+    }
+}
+
+TEST_P(PanelHostContract, MovesAWindowThatIsShown) {
+    const auto panel = makePanel();
+    auto lower = kCorner;
+    lower.inset.setY(200);
+    EXPECT_EQ(host().place(*panel, lower), QRect(0, 0, 200, 100));
+    EXPECT_TRUE(await([&] { return world().frameOf(*panel) == QRect(1228, 228, 200, 100); }));
+}
+
+TEST_P(PanelHostContract, TellsThePointerFromTheWindowsCorner) {
+    const auto panel = makePanel();
+    ASSERT_TRUE(await([&] { return world().frameOf(*panel).x() == 1228; }));
+    QCursor::setPos(1240, 50);
+    EXPECT_TRUE(await([&] { return host().pointerIn(*panel) == QPoint(12, 12); }));
 }
 
 TEST_P(PanelHostContract, GivesTheKeyboardToThePanelAndBack) {
@@ -151,7 +204,7 @@ TEST_P(PanelHostContract, ReturnsNothingThatIsAnothersByNow) {
 
 TEST_P(PanelHostContract, SensorTellsOfEachRestUntilItIsGone) {
     int rested = 0;
-    auto sensor = host().senseAt({600, 0, 230, 10}, [&] { ++rested; });
+    auto sensor = host().senseAt(kTop, {81, 0, 230, 10}, [&] { ++rested; });
     ASSERT_TRUE(sensor);
     EXPECT_EQ(rested, 0);
     for (int i = 1; i <= 2; ++i) {
@@ -173,14 +226,14 @@ TEST_P(PanelHostContract, SensorFeelsAPointerThatIsThereAlready) {
     world().movePointer({700, 5});
     tests::runFor(kLongerThanARest);
     int rested = 0;
-    const auto sensor = host().senseAt({600, 0, 230, 10}, [&] { ++rested; });
+    const auto sensor = host().senseAt(kTop, {81, 0, 230, 10}, [&] { ++rested; });
     EXPECT_EQ(rested, 0) << "not within the call";
     EXPECT_TRUE(await([&] { return rested == 1; }));
 }
 
 TEST_P(PanelHostContract, SensorSaysNothingWhileAButtonIsDown) {
     int rested = 0;
-    const auto sensor = host().senseAt({600, 0, 230, 10}, [&] { ++rested; });
+    const auto sensor = host().senseAt(kTop, {81, 0, 230, 10}, [&] { ++rested; });
     world().movePointer({700, 400});
     world().setButtonDown(true);
     world().movePointer({700, 5});
@@ -197,7 +250,7 @@ TEST_P(PanelHostContract, SensorSaysNothingWhileAButtonIsDown) {
 TEST_P(PanelHostContract, SensorMayGoInItsOwnCall) {
     std::unique_ptr<PointerSensor> sensor;
     int rested = 0;
-    sensor = host().senseAt({600, 0, 230, 10}, [&] {
+    sensor = host().senseAt(kTop, {81, 0, 230, 10}, [&] {
         sensor.reset();
         ++rested;
     });

@@ -16,12 +16,12 @@ public:
     ~FakeCardPanel() override;
 
     [[nodiscard]] QSize size() const override { return m_frame.size(); }
-    void showAt(QPoint topLeft) override {
-        m_frame.moveTopLeft(topLeft);
+    void showAt(const Placement& placement) override {
+        m_frame = placement.ground();
         isShown = true;
     }
-    void moveTo(QPoint topLeft) override {
-        m_frame.moveTopLeft(topLeft);
+    void moveTo(const Placement& placement) override {
+        m_frame = placement.ground();
         ++moves;
     }
     [[nodiscard]] QRect frame() const override { return m_frame; }
@@ -41,7 +41,10 @@ private:
 
 class FakeCardStage final : public CardStage {
 public:
-    [[nodiscard]] std::optional<QRect> visibleFrame() const override { return screen; }
+    [[nodiscard]] std::optional<ScreenShape> cardScreen() const override {
+        if (!screen) return std::nullopt;
+        return ScreenShape{.frame = *screen, .available = *screen};
+    }
     [[nodiscard]] std::unique_ptr<CardPanel> raise(CardView view,
                                                    std::shared_ptr<QObject> model) override {
         ++raised;
@@ -62,7 +65,7 @@ public:
     /// Another main screen, or none.
     void moveTo(const std::optional<QRect>& other) {
         screen = other;
-        Q_EMIT visibleFrameChanged();
+        Q_EMIT cardScreenChanged();
     }
 
     /// The panel that is up with that view; null when there is none.
@@ -77,6 +80,7 @@ public:
         return up(view) ? qobject_cast<Model*>(up(view)->model.get()) : nullptr;
     }
 
+    /// The screen of the cards without the desktop's bars.
     std::optional<QRect> screen = QRect(0, 28, 1440, 872);
     QSize cardSize{380, 263};
     QSize toastSize{206, 40};

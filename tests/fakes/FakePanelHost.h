@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 
+#include <map>
 #include <optional>
 #include <set>
 #include <utility>
@@ -16,13 +17,16 @@ public:
     [[nodiscard]] bool isComposited() override { return composited; }
     [[nodiscard]] bool hasInputRegions() const override { return inputRegions; }
     [[nodiscard]] bool tellsPointer() const override { return pointerIsTold; }
-    void markFloating(QWindow& window) override {
-        if (!window.isVisible()) marked.insert(&window);
+    QRect place(QWindow& window, const Placement& placement) override {
+        if (!window.isVisible()) placedBeforeShow.insert(&window);
+        placements[&window] = placement;
+        return PanelHost::place(window, placement);
     }
     void setInputRegion(QWindow&, const QRegion& region) override { inputRegion = region; }
-    [[nodiscard]] std::unique_ptr<PointerSensor> senseAt(const QRect& part,
+    [[nodiscard]] std::unique_ptr<PointerSensor> senseAt(const Placement& panel, const QRect& rect,
                                                          std::function<void()> rested) override {
         if (!senses) return nullptr;
+        const QRect part = rect.translated(panel.ground().topLeft());
         sensor = Sensor{part, std::move(rested)};
         // As a server tells it: later.
         if (part.contains(pointer))
@@ -55,9 +59,10 @@ public:
     bool composited = true;
     bool inputRegions = true;
     bool pointerIsTold = true;
-    bool senses = true;               ///< parts of the screen can be watched for the pointer
-    std::set<const QWindow*> marked;  ///< as floating, before their first show
-    QRegion inputRegion;              ///< of the window that set one last
+    bool senses = true; ///< parts of the screen can be watched for the pointer
+    std::set<const QWindow*> placedBeforeShow;
+    std::map<const QWindow*, Placement> placements; ///< the last of each window
+    QRegion inputRegion;                            ///< of the window that set one last
     QWindow* keyboardOwner = nullptr; ///< null while the keyboard is with the application below
 
 private:

@@ -38,10 +38,11 @@ WebCeremonyPlugin::WebCeremonyPlugin() {
                           " --disable-logging");
 }
 
-std::unique_ptr<OverlayWindow> WebCeremonyPlugin::putUp(QScreen& screen, const QString& page,
-                                                        const QString& script,
+std::unique_ptr<OverlayWindow> WebCeremonyPlugin::putUp(QScreen& screen, PanelHost& host,
+                                                        const QString& page, const QString& script,
                                                         WebStage::MessageHandler message) {
-    return std::make_unique<Place>(new WebOverlayWindow(screen, page, script, std::move(message)));
+    return std::make_unique<Place>(
+        new WebOverlayWindow(screen, host, page, script, std::move(message)));
 }
 
 } // namespace vantle

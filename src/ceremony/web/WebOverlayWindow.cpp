@@ -31,10 +31,10 @@ QString firstScript(const QString& configuration, const QString& prefix) {
 
 } // namespace
 
-WebOverlayWindow::WebOverlayWindow(QScreen& screen, const QString& page, const QString& script,
-                                   WebStage::MessageHandler message)
+WebOverlayWindow::WebOverlayWindow(QScreen& screen, PanelHost& host, const QString& page,
+                                   const QString& script, WebStage::MessageHandler message)
     : m_message(std::move(message)) {
-    overlayscreens::cover(*this, screen);
+    overlayscreens::cover(*this, screen, host);
     setColor(Qt::transparent);
     setResizeMode(QQuickView::SizeRootObjectToView);
     const QString prefix = QUuid::createUuid().toString(QUuid::WithoutBraces);

@@ -7,13 +7,15 @@
 
 namespace vantle {
 
+class PanelHost;
+
 /// Main thread. It stays up until it is destroyed, unless its screen goes away or the page crashes:
 /// then it is hidden.
 class WebOverlayWindow final : public QQuickView {
     Q_OBJECT
 
 public:
-    WebOverlayWindow(QScreen& screen, const QString& page, const QString& script,
+    WebOverlayWindow(QScreen& screen, PanelHost& host, const QString& page, const QString& script,
                      WebStage::MessageHandler message);
 
 private Q_SLOTS:

@@ -93,10 +93,19 @@ void X11PanelHost::setComposited(bool composited) {
     if (std::exchange(m_composited, composited) != composited) Q_EMIT compositedChanged();
 }
 
-void X11PanelHost::markFloating(QWindow& window) {
+/// Unmanaged: a window manager would give it a frame, a place in its lists, a workspace, and the
+/// keyboard at each click. Only such a window lies above full-screen ones.
+Qt::WindowFlags X11PanelHost::flagsFor(const Placement& placement) const {
+    return PanelHost::flagsFor(placement) | Qt::X11BypassWindowManagerHint;
+}
+
+QRect X11PanelHost::place(QWindow& window, const Placement& placement) {
+    const bool isNew = window.handle() == nullptr;
+    const QRect part = PanelHost::place(window, placement);
     // An X11 window manager has no part in these windows. Some Wayland compositors give the
     // keyboard to every such window that is not of a type that never wants it.
-    if (m_xwayland.isXwayland) setType(window, "_NET_WM_WINDOW_TYPE_NOTIFICATION");
+    if (isNew && m_xwayland.isXwayland) setType(window, "_NET_WM_WINDOW_TYPE_NOTIFICATION");
+    return part;
 }
 
 void X11PanelHost::setType(QWindow& window, const QByteArray& name) {
@@ -123,12 +132,13 @@ void X11PanelHost::setInputRegion(QWindow& window, const QRegion& region) {
     xcb_flush(connection);
 }
 
-std::unique_ptr<PointerSensor> X11PanelHost::senseAt(const QRect& part,
+std::unique_ptr<PointerSensor> X11PanelHost::senseAt(const Placement& panel, const QRect& part,
                                                      std::function<void()> rested) {
     // Xwayland places the pointer only while it is over an X11 window, and an input-only one is
     // none to the compositor.
     if (!m_x11.isAlive() || m_xwayland.isXwayland) return nullptr;
-    const QRect place = toDevice(part, qGuiApp->devicePixelRatio());
+    const QRect place =
+        toDevice(part.translated(panel.ground().topLeft()), qGuiApp->devicePixelRatio());
     if (!std::exchange(m_pointerIdleIsKnown, true))
         m_pointerIdle = X11PointerIdle::of(m_x11, m_presses);
     if (!m_pointerIdle) return std::make_unique<X11WindowSensor>(m_x11, place, std::move(rested));

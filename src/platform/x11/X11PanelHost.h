@@ -31,12 +31,15 @@ public:
     [[nodiscard]] bool isComposited() override { return m_composited; }
     [[nodiscard]] bool hasInputRegions() const override { return m_xwayland.passesInputRegions; }
     [[nodiscard]] bool tellsPointer() const override { return !m_xwayland.isXwayland; }
-    void markFloating(QWindow& window) override;
+    QRect place(QWindow& window, const Placement& placement) override;
     void setInputRegion(QWindow& window, const QRegion& region) override;
-    [[nodiscard]] std::unique_ptr<PointerSensor> senseAt(const QRect& part,
+    [[nodiscard]] std::unique_ptr<PointerSensor> senseAt(const Placement& panel, const QRect& part,
                                                          std::function<void()> rested) override;
     void takeKeyboard(QWindow& window) override;
     void returnKeyboard(QWindow& window) override;
+
+protected:
+    [[nodiscard]] Qt::WindowFlags flagsFor(const Placement& placement) const override;
 
 private:
     void followCompositor();

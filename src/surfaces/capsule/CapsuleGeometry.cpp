@@ -55,6 +55,14 @@ QRectF panelFrame(const NotchMetrics& metrics, const ScreenShape& screen) {
     return {QPointF(left, screen.frame.top()), size};
 }
 
+Placement placement(const NotchMetrics& metrics, const ScreenShape& screen) {
+    const QRect frame = panelFrame(metrics, screen).toAlignedRect();
+    Placement placement{.spot = Placement::Spot::TopCenter, .screen = screen, .size = frame.size()};
+    // A camera housing need not be in the middle.
+    placement.inset = frame.topLeft() - placement.ground().topLeft();
+    return placement;
+}
+
 QRectF openFrame(const NotchMetrics& metrics, double requiredWidth) {
     const double want =
         std::min(std::max(metrics.notchWidth, requiredWidth), metrics.notchWidth + kMaxBeyondNotch);

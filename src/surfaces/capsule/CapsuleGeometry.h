@@ -4,6 +4,7 @@
 // top edge is that of the screen.
 #pragma once
 
+#include "platform/Placement.h"
 #include "surfaces/capsule/NotchMetrics.h"
 
 #include <QRectF>
@@ -42,6 +43,8 @@ struct Content {
 [[nodiscard]] QSizeF panelSize(const NotchMetrics& metrics);
 /// Frame of the panel on the desktop.
 [[nodiscard]] QRectF panelFrame(const NotchMetrics& metrics, const ScreenShape& screen);
+/// The same as a placement, at the top of its screen.
+[[nodiscard]] Placement placement(const NotchMetrics& metrics, const ScreenShape& screen);
 
 /// The open capsule, which is never wider than the panel leaves room for, and of an even width. It
 /// stands below the desktop's bar, if there is one.

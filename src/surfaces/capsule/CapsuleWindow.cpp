@@ -1,6 +1,7 @@
 #include "surfaces/capsule/CapsuleWindow.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace vantle {
@@ -13,10 +14,10 @@ constexpr double kOverlayRoom = 56; // below the menu or the editor, for theirs
 } // namespace
 
 std::unique_ptr<CapsuleWindow> CapsuleWindow::raise(std::unique_ptr<NotchCapsule> capsule,
-                                                    const QRectF& panelFrame, QQmlEngine& engine,
+                                                    const Placement& placement, QQmlEngine& engine,
                                                     PanelHost& host) {
     std::unique_ptr<CapsuleWindow> window(
-        new CapsuleWindow(std::move(capsule), panelFrame, engine, host));
+        new CapsuleWindow(std::move(capsule), placement, engine, host));
     NotchCapsule& shown = window->capsule();
     if (!window->panel().load(
             QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Capsule/NotchCapsuleView.qml")),
@@ -26,10 +27,10 @@ std::unique_ptr<CapsuleWindow> CapsuleWindow::raise(std::unique_ptr<NotchCapsule
     return window;
 }
 
-CapsuleWindow::CapsuleWindow(std::unique_ptr<NotchCapsule> capsule, const QRectF& panelFrame,
+CapsuleWindow::CapsuleWindow(std::unique_ptr<NotchCapsule> capsule, const Placement& placement,
                              QQmlEngine& engine, PanelHost& host)
     : m_host(host)
-    , m_panelFrame(panelFrame)
+    , m_placement(placement)
     , m_capsule(capsule.release())
     , m_panel(new FloatingPanel(engine, host)) {
     m_panel->setTitle(QStringLiteral("Vantle Capsule"));
@@ -54,17 +55,10 @@ bool CapsuleWindow::pointerInside(const QRectF& part) const {
 void CapsuleWindow::follow() {
     if (m_panel->rootObject() == nullptr) return; // the view is being made
     sensePointer();
-    m_panel->setOpaqueRegion(m_capsule->opaqueRegion());
-    m_panel->setInputRegion(inputRegion());
-    if (mustHide()) {
+    if (mustHide())
         m_panel->hide();
-        return;
-    }
-    const QRect frame = windowFrame();
-    if (!m_panel->isVisible())
-        m_panel->showAt(frame);
-    else if (m_panel->frame() != frame)
-        m_panel->setFrame(frame);
+    else
+        m_panel->showAt(placement());
 }
 
 /// A window that can't be seen through is there only while the capsule is open; one that can't let
@@ -79,8 +73,7 @@ void CapsuleWindow::sensePointer() {
     if (strip.isEmpty())
         m_sensor.reset();
     else if (!m_sensor)
-        m_sensor = m_host.senseAt(strip.translated(m_panelFrame.topLeft().toPoint()),
-                                  [this] { m_capsule->pointerRested(); });
+        m_sensor = m_host.senseAt(m_placement, strip, [this] { m_capsule->pointerRested(); });
 }
 
 /// A window feels the strip only where nothing else can: it would take the presses there.
@@ -89,12 +82,15 @@ QRegion CapsuleWindow::inputRegion() const {
     return m_sensor ? shown : shown + m_capsule->freeStrip();
 }
 
-QRect CapsuleWindow::windowFrame() const {
+Placement CapsuleWindow::placement() const {
     const QRectF overlay = m_capsule->overlayRect();
-    const double below = overlay.isEmpty() ? 0 : overlay.bottom() + kOverlayRoom;
-    QRectF frame = m_panelFrame;
-    frame.setHeight(std::max(frame.height() + kShadowRoom, below));
-    return frame.toAlignedRect();
+    const double below =
+        overlay.isEmpty() ? 0 : overlay.bottom() + kOverlayRoom - m_placement.size.height();
+    Placement placement = m_placement;
+    placement.room.setBottom(static_cast<int>(std::ceil(std::max(kShadowRoom, below))));
+    placement.felt = inputRegion();
+    placement.opaque = m_capsule->opaqueRegion();
+    return placement;
 }
 
 } // namespace vantle

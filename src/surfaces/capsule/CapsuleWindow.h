@@ -17,7 +17,7 @@ public:
     /// Shows the capsule there. Null when its view can't be made. Engine and host must outlive the
     /// window; the engine finds the program's modules.
     [[nodiscard]] static std::unique_ptr<CapsuleWindow> raise(std::unique_ptr<NotchCapsule> capsule,
-                                                              const QRectF& panelFrame,
+                                                              const Placement& placement,
                                                               QQmlEngine& engine, PanelHost& host);
     ~CapsuleWindow() override;
 
@@ -25,7 +25,7 @@ public:
     [[nodiscard]] FloatingPanel& panel() { return *m_panel; }
 
 private:
-    CapsuleWindow(std::unique_ptr<NotchCapsule> capsule, const QRectF& panelFrame,
+    CapsuleWindow(std::unique_ptr<NotchCapsule> capsule, const Placement& placement,
                   QQmlEngine& engine, PanelHost& host);
 
     // CapsuleStage
@@ -37,14 +37,14 @@ private:
     void sensePointer();
     [[nodiscard]] QRegion inputRegion() const;
     [[nodiscard]] bool mustHide() const;
-    [[nodiscard]] QRect windowFrame() const;
+    [[nodiscard]] Placement placement() const;
 
     /// Both may be in the middle of an event when they have to go.
     struct DeleteLater {
         void operator()(QObject* object) const { object->deleteLater(); }
     };
     PanelHost& m_host;
-    QRectF m_panelFrame;
+    const Placement m_placement; ///< of the capsule's panel alone
     std::unique_ptr<PointerSensor>
         m_sensor; ///< of the free strip; null where there is no such thing
     std::unique_ptr<NotchCapsule, DeleteLater> m_capsule;

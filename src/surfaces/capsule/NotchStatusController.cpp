@@ -66,8 +66,8 @@ void NotchStatusController::present(NotchCapsule::Form form) {
     auto made = std::make_unique<NotchCapsule>(
         NotchCapsule::Environment{m_env.scheduler, m_env.preferences, m_env.reducedMotion, m_text},
         form, screen);
-    const QRectF frame = capsule::panelFrame(made->metrics(), screen);
-    m_panel = m_env.raise(std::move(made), frame);
+    const Placement placement = capsule::placement(made->metrics(), screen);
+    m_panel = m_env.raise(std::move(made), placement);
     if (m_panel) m_lastForm = std::move(form);
 }
 

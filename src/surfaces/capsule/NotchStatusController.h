@@ -33,7 +33,7 @@ public:
         const Screens& screens;
         /// Raises the panel of a capsule, resting, in front of everything; it keeps the capsule.
         std::function<std::unique_ptr<CapsulePanel>(std::unique_ptr<NotchCapsule>,
-                                                    const QRectF& panelFrame)>
+                                                    const Placement& placement)>
             raise;
     };
 

@@ -23,15 +23,20 @@ int cardWidth(const QRect& visibleFrame) {
     return std::min(kCardWidth, visibleFrame.width() - 2 * kRightInset);
 }
 
-QPoint card(const QRect& visibleFrame, const QSize& size) {
-    return {rightEdge(visibleFrame) - size.width() - kRightInset, visibleFrame.y() + kTopInset};
+Placement card(const ScreenShape& screen, const QSize& size) {
+    return {.spot = Placement::Spot::TopRight,
+            .screen = screen,
+            .size = size,
+            .inset = {kRightInset, kTopInset}};
 }
 
-QPoint toast(const QRect& visibleFrame, const QSize& size, const std::vector<QRect>& panels) {
-    QPoint place = card(visibleFrame, size);
+Placement toast(const ScreenShape& screen, const QSize& size, const std::vector<QRect>& panels) {
+    const QRect visibleFrame = screen.available.toRect();
+    Placement place = card(screen, size);
     for (const QRect& panel : panels)
         if (isInCorner(visibleFrame, panel))
-            place.setY(std::max(place.y(), bottomEdge(panel) + kToastGap));
+            place.inset.setY(
+                std::max(place.inset.y(), bottomEdge(panel) + kToastGap - visibleFrame.y()));
     return place;
 }
 

@@ -3,9 +3,9 @@
 // Pure functions over rectangles in px of the desktop, y downwards. Any thread.
 #pragma once
 
+#include "platform/Placement.h"
 #include "surfaces/kit/tokens/Look.h"
 
-#include <QPoint>
 #include <QRect>
 #include <QSize>
 
@@ -23,12 +23,12 @@ inline constexpr int kCornerDistance = 80; ///< what is as near to both edges is
 /// `visibleFrame` is the screen without the desktop's bars.
 [[nodiscard]] int cardWidth(const QRect& visibleFrame);
 
-/// The top left of a card of that size.
-[[nodiscard]] QPoint card(const QRect& visibleFrame, const QSize& size);
+/// A card of that size, without its shadow.
+[[nodiscard]] Placement card(const ScreenShape& screen, const QSize& size);
 
-/// The top left of a toast of that size: on the line of the cards, below those of `panels` that
+/// A toast of that size: on the line of the cards, below those of `panels` that
 /// stand in the corner.
-[[nodiscard]] QPoint toast(const QRect& visibleFrame, const QSize& size,
-                           const std::vector<QRect>& panels);
+[[nodiscard]] Placement toast(const ScreenShape& screen, const QSize& size,
+                              const std::vector<QRect>& panels);
 
 } // namespace vantle::cardplacement

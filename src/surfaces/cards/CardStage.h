@@ -1,8 +1,9 @@
 // What the cards need of a screen: windows to stand in, and where there is room.
 #pragma once
 
+#include "platform/Placement.h"
+
 #include <QObject>
-#include <QPoint>
 #include <QRect>
 #include <QSize>
 
@@ -25,10 +26,10 @@ public:
     [[nodiscard]] virtual QSize size() const = 0;
 
     /// Puts it on the screen, in front of everything, without taking the keyboard.
-    virtual void showAt(QPoint topLeft) = 0;
+    virtual void showAt(const Placement& ground) = 0;
 
     /// Glides there from where it is.
-    virtual void moveTo(QPoint topLeft) = 0;
+    virtual void moveTo(const Placement& ground) = 0;
 
     /// Where it stands, or where it is gliding to, without its shadow.
     [[nodiscard]] virtual QRect frame() const = 0;
@@ -42,9 +43,9 @@ class CardStage : public QObject {
     Q_OBJECT
 
 public:
-    /// The screen of the cards without the desktop's bars: the one in use, or the one where a card
-    /// is up; empty when there is no screen at all.
-    [[nodiscard]] virtual std::optional<QRect> visibleFrame() const = 0;
+    /// The screen of the cards: the one in use, or the one where a card is up; empty when there is
+    /// no screen at all.
+    [[nodiscard]] virtual std::optional<ScreenShape> cardScreen() const = 0;
 
     /// Makes the view over its model, which it keeps alive, and measures it; it is not shown yet.
     /// Cards are as wide as the screen allows. Null when the view can't be made.
@@ -58,8 +59,8 @@ public:
     [[nodiscard]] virtual std::vector<QRect> panelFrames() const = 0;
 
 Q_SIGNALS:
-    /// visibleFrame() may have changed. Several in a row when the user plugs a screen in or out.
-    void visibleFrameChanged();
+    /// cardScreen() may have changed. Several in a row when the user plugs a screen in or out.
+    void cardScreenChanged();
 };
 
 } // namespace vantle

@@ -9,27 +9,27 @@ namespace vantle {
 CornerCard::CornerCard(const CardEnvironment& environment)
     : m_scheduler(environment.scheduler)
     , m_stage(environment.stage) {
-    QObject::connect(&m_stage, &CardStage::visibleFrameChanged, &m_screenWatch,
+    QObject::connect(&m_stage, &CardStage::cardScreenChanged, &m_screenWatch,
                      [this] { followScreen(); });
 }
 
 bool CornerCard::present(CardView view, const std::shared_ptr<QObject>& model) {
     takeDown();
-    const auto visibleFrame = m_stage.visibleFrame();
-    if (!visibleFrame) return false;
+    const auto screen = m_stage.cardScreen();
+    if (!screen) return false;
     m_panel = m_stage.raise(view, model);
     if (!m_panel) return false;
     m_model = model;
-    m_panel->showAt(cardplacement::card(*visibleFrame, m_panel->size()));
+    m_panel->showAt(cardplacement::card(*screen, m_panel->size()));
     return true;
 }
 
 void CornerCard::followScreen() {
-    const auto visibleFrame = m_stage.visibleFrame();
+    const auto screen = m_stage.cardScreen();
     // Without any screen the card keeps its place until one is plugged in.
-    if (!m_panel || !visibleFrame) return;
-    const QPoint place = cardplacement::card(*visibleFrame, m_panel->size());
-    if (m_panel->frame().topLeft() != place) m_panel->showAt(place);
+    if (!m_panel || !screen) return;
+    const Placement place = cardplacement::card(*screen, m_panel->size());
+    if (m_panel->frame() != place.ground()) m_panel->showAt(place);
 }
 
 void CornerCard::dismissAfter(Seconds delay, std::function<void()> work) {

@@ -66,7 +66,7 @@ public:
     QuickCardPanel(FloatingPanel& panel, bool feelsPointer)
         : m_panel(&panel)
         , m_feelsPointer(feelsPointer)
-        , m_frame(QPoint(), ground().size())
+        , m_placement{.size = ground().size()}
         , m_compositing(
               QObject::connect(m_panel, &FloatingPanel::compositedChanged, [this] { place(); })) {}
 
@@ -78,30 +78,32 @@ public:
         m_panel->deleteLater();
     }
 
-    [[nodiscard]] QSize size() const override { return m_frame.size(); }
+    [[nodiscard]] QSize size() const override { return m_placement.size; }
 
-    void showAt(QPoint topLeft) override {
+    void showAt(const Placement& placement) override {
         delete m_glide;
-        m_frame.moveTopLeft(topLeft);
+        m_placement = placement;
         m_isUp = true;
         place();
         root().setProperty("up", true);
     }
 
-    void moveTo(QPoint topLeft) override {
-        m_frame.moveTopLeft(topLeft);
+    void moveTo(const Placement& placement) override {
         delete m_glide;
-        m_glide = new QPropertyAnimation(m_panel, "frameTop", m_panel);
+        const int from = m_panel->insetTop();
+        m_placement = placement;
+        m_glide = new QPropertyAnimation(m_panel, "insetTop", m_panel);
         m_glide->setDuration(root().property("moveTime").toInt());
         m_glide->setEasingCurve(QEasingCurve::OutCubic);
-        m_glide->setEndValue(topLeft.y() - ground().y());
+        m_glide->setStartValue(from);
+        m_glide->setEndValue(placement.inset.y());
+        Placement start = inWindow();
+        start.inset.setY(from);
+        m_panel->setPlacement(start);
         m_glide->start(QAbstractAnimation::DeleteWhenStopped);
-        QRect frame = m_panel->frame();
-        frame.moveLeft(topLeft.x() - ground().x());
-        m_panel->setFrame(frame);
     }
 
-    [[nodiscard]] QRect frame() const override { return m_frame; }
+    [[nodiscard]] QRect frame() const override { return m_placement.ground(); }
     void takeKeyboard() override { m_panel->takeKeyboard(); }
     void returnKeyboard() override { m_panel->returnKeyboard(); }
 
@@ -119,10 +121,17 @@ public:
 private:
     /// Puts the window around the card. The room for the shadow is there only with a compositor.
     void place() {
-        if (!m_isUp) return;
-        m_panel->setOpaqueRegion(ground());
-        m_panel->setInputRegion(m_feelsPointer ? QRegion(ground()) : QRegion());
-        m_panel->showAt(QRect(m_frame.topLeft() - ground().topLeft(), windowSize()));
+        if (m_isUp) m_panel->showAt(inWindow());
+    }
+    [[nodiscard]] Placement inWindow() const {
+        const QRect card = ground();
+        const QSize window = windowSize();
+        Placement placement = m_placement;
+        placement.room = {card.x(), card.y(), window.width() - card.x() - card.width(),
+                          window.height() - card.y() - card.height()};
+        placement.opaque = card;
+        placement.felt = m_feelsPointer ? QRegion(card) : QRegion();
+        return placement;
     }
     [[nodiscard]] QQuickItem& root() const { return *m_panel->rootObject(); }
     /// Where the card is within its window.
@@ -133,7 +142,7 @@ private:
 
     FloatingPanel* m_panel;
     const bool m_feelsPointer;
-    QRect m_frame; ///< of the card
+    Placement m_placement; ///< of the card
     bool m_isUp = false;
     QMetaObject::Connection m_compositing;
     QPointer<QPropertyAnimation> m_glide;
@@ -142,7 +151,7 @@ private:
 } // namespace
 
 QuickCardStage::QuickCardStage(Environment environment) : m_env(std::move(environment)) {
-    connect(&m_env.screens, &Screens::changed, this, &CardStage::visibleFrameChanged);
+    connect(&m_env.screens, &Screens::changed, this, &CardStage::cardScreenChanged);
 }
 
 QuickCardStage::~QuickCardStage() {
@@ -150,12 +159,7 @@ QuickCardStage::~QuickCardStage() {
         delete window.data();
 }
 
-std::optional<QRect> QuickCardStage::visibleFrame() const {
-    const auto chosen = screen();
-    return chosen ? std::optional(chosen->available.toRect()) : std::nullopt;
-}
-
-std::optional<ScreenShape> QuickCardStage::screen() const {
+std::optional<ScreenShape> QuickCardStage::cardScreen() const {
     auto screens = m_env.screens.inUseFirst();
     if (screens.empty()) return std::nullopt;
     const auto isUp = [](const auto& window) { return window && window->isVisible(); };
@@ -165,7 +169,7 @@ std::optional<ScreenShape> QuickCardStage::screen() const {
 }
 
 std::unique_ptr<CardPanel> QuickCardStage::raise(CardView view, std::shared_ptr<QObject> model) {
-    const auto chosen = screen();
+    const auto chosen = cardScreen();
     if (!chosen) return nullptr;
     m_screenFrame = chosen->frame;
     const bool isToast = view == CardView::RetagToast;

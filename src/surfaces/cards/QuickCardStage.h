@@ -32,16 +32,13 @@ public:
     explicit QuickCardStage(Environment environment);
     ~QuickCardStage() override;
 
-    [[nodiscard]] std::optional<QRect> visibleFrame() const override;
+    [[nodiscard]] std::optional<ScreenShape> cardScreen() const override;
     [[nodiscard]] std::unique_ptr<CardPanel> raise(CardView view,
                                                    std::shared_ptr<QObject> model) override;
     void dismiss(std::unique_ptr<CardPanel> panel) override;
     [[nodiscard]] std::vector<QRect> panelFrames() const override;
 
 private:
-    /// The screen of the cards that are up, else the one in use.
-    [[nodiscard]] std::optional<ScreenShape> screen() const;
-
     const Environment m_env;
     QRectF m_screenFrame;                           ///< of the screen that the last card came to
     std::vector<QPointer<FloatingPanel>> m_windows; ///< all that there are, fading ones too

@@ -43,25 +43,25 @@ void RetagToastController::show(const QString& name, std::uint32_t color, std::i
     m_panel.reset();
     const QString saved = savedTime(seconds, durationstyle::current(m_env.preferences));
     Q_EMIT m_env.questions.said(RetagToastModel(saved, name, QColor::fromRgb(color)).spoken());
-    if (!m_env.stage.visibleFrame()) return;
+    if (!m_env.stage.cardScreen()) return;
     m_panel =
         m_env.stage.raise(CardView::RetagToast,
                           std::make_shared<RetagToastModel>(saved, name, QColor::fromRgb(color)));
     if (!m_panel) return;
-    m_panel->showAt(place().value_or(QPoint()));
+    if (const auto here = place()) m_panel->showAt(*here);
     m_dismissTimer = m_env.scheduler.scheduleOnce(Seconds(visibleSeconds), [this] { fadeOut(); });
     m_repositionTimer = m_env.scheduler.scheduleRepeatingTimer(
         Seconds(repositionSeconds), kRepositionTolerance, [this] { reposition(); });
 }
 
-std::optional<QPoint> RetagToastController::place() const {
-    const auto visibleFrame = m_env.stage.visibleFrame();
-    if (!visibleFrame) return std::nullopt;
-    return cardplacement::toast(*visibleFrame, m_panel->size(), m_env.stage.panelFrames());
+std::optional<Placement> RetagToastController::place() const {
+    const auto screen = m_env.stage.cardScreen();
+    if (!screen) return std::nullopt;
+    return cardplacement::toast(*screen, m_panel->size(), m_env.stage.panelFrames());
 }
 
 void RetagToastController::reposition() {
-    if (const auto target = place(); target && *target != m_panel->frame().topLeft())
+    if (const auto target = place(); target && target->ground() != m_panel->frame())
         m_panel->moveTo(*target);
 }
 

@@ -26,7 +26,7 @@ public:
     void show(const QString& name, std::uint32_t color, std::int64_t seconds) override;
 
 private:
-    [[nodiscard]] std::optional<QPoint> place() const;
+    [[nodiscard]] std::optional<Placement> place() const;
     void reposition();
     void fadeOut();
 

@@ -52,7 +52,7 @@ void StopSummaryController::present(
                                  QStringLiteral("One line about what you worked on. Return saves "
                                                 "it, Escape goes back."),
                                  [this] { openNote(); }, true}}});
-    if (!m_env.stage.visibleFrame()) return finish(std::nullopt);
+    if (!m_env.stage.cardScreen()) return finish(std::nullopt);
     m_env.slot.takeForSummary(this, [this] { finish(std::nullopt); });
     connect(model.get(), &StopSummaryModel::interacted, this, [this] { m_card.stay(); });
     connect(model.get(), &StopSummaryModel::done, this,

@@ -83,7 +83,7 @@ void CommandCenterController::show() {
     if (screens.empty() || (!m_panel && !makePanel())) return;
     m_screenFrame = screens.front().frame;
     reposition();
-    m_panel->takeKeyboard();
+    m_panel->takeKeyboard(); // also when it was shown already
     if (m_env.model.highlightStatusItem) m_env.model.highlightStatusItem(true);
     m_env.presses.watch();
 }
@@ -119,14 +119,17 @@ QRect CommandCenterController::itemGeometry() const {
 void CommandCenterController::reposition() {
     QQuickItem* const view = m_panel->rootObject();
     const auto screens = startingWith(m_screenFrame, m_env.screens.all());
+    if (screens.empty()) return;
     const commandcenterplacement::Anchor anchor{itemGeometry(), m_click};
     view->setProperty("maximumHeight", commandcenterplacement::maximumHeight(anchor, screens));
     const QRect ground = view->property("groundRect").toRectF().toRect();
-    m_frame = commandcenterplacement::place(ground.size(), anchor, screens);
-    m_panel->setOpaqueRegion(ground);
-    m_panel->setInputRegion(ground);
+    Placement placement = commandcenterplacement::place(ground.size(), anchor, screens);
     const QSize size = QSizeF(view->implicitWidth(), view->implicitHeight()).toSize();
-    m_panel->showAt(QRect(m_frame.topLeft() - ground.topLeft(), size));
+    placement.room = {ground.x(), ground.y(), size.width() - ground.x() - ground.width(),
+                      size.height() - ground.y() - ground.height()};
+    placement.opaque = placement.felt.emplace(ground);
+    m_frame = placement.ground();
+    m_panel->showAt(placement);
     view->setProperty("up", true);
 }
 

@@ -9,13 +9,12 @@ namespace vantle::commandcenterplacement {
 
 namespace {
 
-constexpr double kEdge = look::kLengths.panelEdge; // clear space to the edges of the free area
-constexpr double kItemGap = look::kLengths.panelItemGap; // between the tray item and the panel
-constexpr double kCornerGap =
-    look::kLengths.panelCorner; // to the right edge, where nothing is known
+constexpr int kEdge = look::kLengths.panelEdge; // clear space to the edges of the free area
+constexpr int kItemGap = look::kLengths.panelItemGap; // between the tray item and the panel
+constexpr int kCornerGap = look::kLengths.panelCorner; // to the right edge, if nothing is known
 
 struct Target {
-    QRectF item; ///< may be a single point
+    QRectF item; ///< the place of the click where no more is known
     ScreenShape screen;
 };
 
@@ -32,35 +31,27 @@ std::optional<Target> target(const Anchor& anchor, const std::vector<ScreenShape
     return on(QRectF(anchor.click - QPointF(0.5, 0.5), QSizeF(1, 1)), screens);
 }
 
-/// The lower bound wins where both can't hold.
-double within(double value, double low, double high) {
-    return std::max(low, std::min(value, high));
-}
-
 } // namespace
 
-QRect place(const QSize& size, const Anchor& anchor, const std::vector<ScreenShape>& screens) {
-    if (screens.empty()) return {};
+Placement place(const QSize& size, const Anchor& anchor, const std::vector<ScreenShape>& screens) {
     const auto found = target(anchor, screens);
-    const QRectF area = found ? found->screen.available : screens.front().available;
-    const double height = std::min<double>(size.height(), area.height() - 2 * kEdge);
-    const double highest = area.top() + kEdge;
-    const double lowest = area.bottom() - kEdge - height;
-    double x = area.right() - size.width() - kCornerGap;
-    double y = highest;
+    Placement placement{.screen = found ? found->screen : screens.front(), .takesKeyboard = true};
+    const int highest = qRound(placement.screen.available.height()) - 2 * kEdge;
+    placement.size = {size.width(), std::min(size.height(), highest)};
     if (found) {
-        x = within(found->item.center().x() - size.width() / 2.0, area.left() + kEdge,
-                   area.right() - size.width() - kEdge);
-        // A bar may lie at either end of the screen.
-        const bool below = found->item.center().y() < found->screen.frame.center().y();
-        y = within(below ? found->item.bottom() + kItemGap : found->item.top() - kItemGap - height,
-                   highest, lowest);
+        placement.spot = Placement::Spot::Beside;
+        placement.anchor = found->item;
+        placement.gap = kItemGap;
+        placement.inset = {kEdge, kEdge};
+    } else {
+        placement.spot = Placement::Spot::TopRight;
+        placement.inset = {kCornerGap, kEdge};
     }
-    return {qRound(x), qRound(y), size.width(), qRound(height)};
+    return placement;
 }
 
 int maximumHeight(const Anchor& anchor, const std::vector<ScreenShape>& screens) {
-    return place(QSize(1, 1 << 20), anchor, screens).height();
+    return place(QSize(1, 1 << 20), anchor, screens).size.height();
 }
 
 } // namespace vantle::commandcenterplacement

@@ -1,7 +1,7 @@
 // Where the command center stands. Pure functions, any thread; px of the desktop, y downwards.
 #pragma once
 
-#include "platform/Screens.h"
+#include "platform/Placement.h"
 
 #include <QPoint>
 #include <QRect>
@@ -17,9 +17,9 @@ struct Anchor {
 
 /// The panel of that size: under or over the tray item, else by the place of the click, else in the
 /// top right corner of the first screen; never over the edge of a screen's free area, and no higher
-/// than it. An item that no screen shows counts as unknown. Empty without a screen.
-[[nodiscard]] QRect place(const QSize& size, const Anchor& anchor,
-                          const std::vector<ScreenShape>& screens);
+/// than it. An item that no screen shows counts as unknown. Requires a screen.
+[[nodiscard]] Placement place(const QSize& size, const Anchor& anchor,
+                              const std::vector<ScreenShape>& screens);
 
 /// The height that the panel may have at most, there.
 [[nodiscard]] int maximumHeight(const Anchor& anchor, const std::vector<ScreenShape>& screens);

@@ -1,17 +1,11 @@
 #include "surfaces/panel/FloatingPanel.h"
 
-#include <QCursor>
 #include <QQmlEngine>
 #include <QQuickItem>
 
 namespace vantle {
 
 namespace {
-
-/// Unmanaged: a window manager would give it a frame, a place in its lists, a workspace, and the
-/// keyboard at each click.
-constexpr auto kFlags =
-    Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint | Qt::WindowStaysOnTopHint;
 
 /// The item that has the focus as soon as the window has the keyboard.
 QQuickItem* focusItem(QQuickItem* scope) {
@@ -35,7 +29,6 @@ FloatingPanel::FloatingPanel(QQmlEngine& engine, PanelHost& host)
     translucent.setAlphaBufferSize(8);
     setFormat(translucent);
     setColor(Qt::transparent);
-    setFlags(kFlags);
     setResizeMode(QQuickView::SizeRootObjectToView);
     connect(&m_host, &PanelHost::compositedChanged, this, &FloatingPanel::followCompositing);
     connect(this, &QWindow::activeChanged, this, [this] {
@@ -55,42 +48,40 @@ bool FloatingPanel::load(const QUrl& source, const QVariantMap& properties) {
     return status() == QQuickView::Ready;
 }
 
-void FloatingPanel::showAt(const QRect& frame) {
-    setFrame(frame);
-    if (handle() == nullptr) {
-        create();
-        m_host.markFloating(*this);
-    }
-    applyRegions();
+void FloatingPanel::showAt(const Placement& placement) {
+    const bool wasShown = isVisible();
+    setPlacement(placement);
     show();
+    if (placement.takesKeyboard && !wasShown) takeKeyboard();
 }
 
-void FloatingPanel::setFrame(const QRect& frame) {
-    m_frame = frame;
+void FloatingPanel::setPlacement(const Placement& placement) {
+    m_placement = placement;
+    m_isPlaced = true;
+    fitWindow();
+    applyRegions();
+}
+
+void FloatingPanel::setInsetTop(int y) {
+    m_placement.inset.setY(y);
     fitWindow();
 }
 
 void FloatingPanel::setInputRegion(const QRegion& region) {
-    m_inputRegion = region;
-    m_hasInputRegion = true;
-    fitWindow();
+    m_placement.felt = region;
+    if (m_isPlaced) fitWindow();
     applyRegions();
 }
 
-void FloatingPanel::setOpaqueRegion(const QRegion& region) {
-    m_opaqueRegion = region;
-    fitWindow();
-    applyRegions();
+QRegion FloatingPanel::inputRegion() const {
+    return m_placement.felt.value_or(QRegion(QRect(QPoint(), frame().size())));
 }
 
-bool FloatingPanel::pointerInside() const {
-    return pointerInside(m_hasInputRegion ? m_inputRegion
-                                          : QRegion(QRect(QPoint(), m_frame.size())));
-}
+bool FloatingPanel::pointerInside() const { return pointerInside(inputRegion()); }
 
 bool FloatingPanel::pointerInside(const QRegion& part) const {
     if (!isVisible() || !(m_pointerIsIn || m_host.tellsPointer())) return false;
-    return part.contains(mapFromGlobal(QCursor::pos()) + m_offset);
+    return part.contains(m_host.pointerIn(*this) + m_offset);
 }
 
 void FloatingPanel::takeKeyboard() {
@@ -148,9 +139,10 @@ void FloatingPanel::hideEvent(QHideEvent* event) {
 
 void FloatingPanel::applyRegions() {
     if (handle() == nullptr) return;
-    const QRegion shape = m_composited ? QRegion() : m_opaqueRegion.translated(-m_offset);
+    const QRegion shape = m_composited ? QRegion() : m_placement.opaque.translated(-m_offset);
     if (shape != mask()) setMask(shape); // an empty one sets no limits
-    if (m_hasInputRegion && m_host.hasInputRegions()) m_host.setInputRegion(*this, m_inputRegion);
+    if (m_placement.felt && m_host.hasInputRegions())
+        m_host.setInputRegion(*this, *m_placement.felt);
 }
 
 void FloatingPanel::followCompositing() {
@@ -161,27 +153,16 @@ void FloatingPanel::followCompositing() {
     Q_EMIT compositedChanged();
 }
 
-/// The part of the frame that the window covers.
-QRect FloatingPanel::windowInFrame() const {
-    const QRect whole(QPoint(), m_frame.size());
-    if (m_host.hasInputRegions()) return whole;
-    if (!m_inputRegion.isEmpty()) return m_inputRegion.boundingRect();
-    return m_opaqueRegion.isEmpty() ? whole : m_opaqueRegion.boundingRect();
-}
-
 void FloatingPanel::fitWindow() {
-    if (m_frame.isEmpty()) return; // shown nowhere yet
-    const QRect part = windowInFrame();
-    m_offset = part.topLeft();
-    setGeometry(part.translated(m_frame.topLeft()));
+    m_offset = m_host.place(*this, m_placement).topLeft();
     placeView();
 }
 
 void FloatingPanel::placeView() {
     QQuickItem* const view = rootObject();
-    if (view == nullptr || m_frame.isEmpty() || m_host.hasInputRegions()) return;
+    if (view == nullptr || !m_isPlaced || m_host.hasInputRegions()) return;
     view->setPosition(-m_offset);
-    view->setSize(m_frame.size());
+    view->setSize(frame().size());
 }
 
 } // namespace vantle

@@ -21,8 +21,8 @@ namespace vantle {
 /// whole panel then, so that nothing in it moves; its shadow is cut away.
 class FloatingPanel : public QQuickView {
     Q_OBJECT
-    /// The top of frame(); for animations.
-    Q_PROPERTY(int frameTop READ frameTop WRITE setFrameTop)
+    /// The placement's distance from the top edge; for animations.
+    Q_PROPERTY(int insetTop READ insetTop WRITE setInsetTop)
 
 public:
     /// Both must outlive the panel.
@@ -33,24 +33,20 @@ public:
     /// The view has a property `composited`, which is kept up to date.
     [[nodiscard]] bool load(const QUrl& source, const QVariantMap& properties);
 
-    /// Shows the panel there, in px of the desktop, without taking the keyboard. Until
-    /// setInputRegion() is called all of it feels the pointer.
-    void showAt(const QRect& frame);
+    /// Puts the panel there; the host decides by which window before the first time.
+    void setPlacement(const Placement& placement);
+    [[nodiscard]] const Placement& placement() const { return m_placement; }
+    /// The same, and shows it without taking the keyboard.
+    void showAt(const Placement& placement);
 
     /// Where the panel stands, in px of the desktop; the window may be only a part of it.
-    [[nodiscard]] const QRect& frame() const { return m_frame; }
-    void setFrame(const QRect& frame);
-    [[nodiscard]] int frameTop() const { return m_frame.y(); }
-    void setFrameTop(int y) { setFrame(QRect(QPoint(m_frame.x(), y), m_frame.size())); }
+    [[nodiscard]] QRect frame() const { return m_placement.frame(); }
+    [[nodiscard]] int insetTop() const { return m_placement.inset.y(); }
+    void setInsetTop(int y);
 
-    /// Only this part feels the pointer, in px from the panel's top left. Holds until it is set
-    /// again; a change under a resting pointer counts as entering or leaving.
+    /// The placement's `felt`: a change under a resting pointer counts as entering or leaving.
     void setInputRegion(const QRegion& region);
-    [[nodiscard]] const QRegion& inputRegion() const { return m_inputRegion; }
-
-    /// Where the desktop mixes no transparency, only this part of the panel is there at all; it is
-    /// drawn with square corners and without a shadow. Ignored on other desktops. Not empty.
-    void setOpaqueRegion(const QRegion& region);
+    [[nodiscard]] QRegion inputRegion() const;
 
     /// Whether what is transparent shows what lies below.
     [[nodiscard]] bool isComposited() const { return m_composited; }
@@ -85,16 +81,13 @@ private:
     void followCompositing();
     void applyRegions();
     void fitWindow();
-    [[nodiscard]] QRect windowInFrame() const;
     void placeView();
     void takeKeyboardForField(QPointF place);
 
     PanelHost& m_host;
-    QRect m_frame;
+    Placement m_placement;
     QPoint m_offset; ///< of the window within the frame
-    QRegion m_inputRegion;
-    QRegion m_opaqueRegion;
-    bool m_hasInputRegion = false;
+    bool m_isPlaced = false;
     bool m_composited = true;
     bool m_hasKeyboard = false;
     bool m_wasExposed = false;

@@ -141,7 +141,7 @@ TEST_F(CapsuleWindowTest, WhereNoInputRegionHoldsTheWindowIsWhatFeelsThePointer)
 
 TEST_F(CapsuleWindowTest, IsMarkedAsFloatingBeforeItIsShown) {
     raiseIdle();
-    EXPECT_TRUE(host.marked.contains(&window->panel()));
+    EXPECT_TRUE(host.placedBeforeShow.contains(&window->panel()));
 }
 
 TEST_F(CapsuleWindowTest, AClickOnAChipPicksItsSkillAndOneBesideItStarts) {

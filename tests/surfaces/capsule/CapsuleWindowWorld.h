@@ -45,8 +45,9 @@ protected:
     void raise(NotchCapsule::Form form) {
         auto capsule = std::make_unique<NotchCapsule>(world.environment(), std::move(form),
                                                       world.screens.shapes.front());
-        const QRectF frame = capsule::panelFrame(capsule->metrics(), world.screens.shapes.front());
-        window = CapsuleWindow::raise(std::move(capsule), frame, *engine, host);
+        const Placement place =
+            capsule::placement(capsule->metrics(), world.screens.shapes.front());
+        window = CapsuleWindow::raise(std::move(capsule), place, *engine, host);
         ASSERT_TRUE(window);
         window->capsule().expand();
         settle();

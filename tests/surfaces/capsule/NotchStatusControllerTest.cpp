@@ -51,9 +51,9 @@ protected:
     QRectF lastFrame;
     NotchStatusController controller{
         {time, world.tracking.preferences, world.reducedMotion, world.screens,
-         [this](std::unique_ptr<NotchCapsule> capsule, const QRectF& frame) {
+         [this](std::unique_ptr<NotchCapsule> capsule, const Placement& placement) {
              ++raised;
-             lastFrame = frame;
+             lastFrame = placement.ground();
              return std::make_unique<FakePanel>(std::move(capsule), stage, up);
          }}};
 };

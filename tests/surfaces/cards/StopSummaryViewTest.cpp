@@ -161,7 +161,7 @@ TEST_F(StopSummaryViewTest, WhereNoInputRegionHoldsTheWindowIsTheCard) {
     host.inputRegions = false;
     show();
     EXPECT_EQ(window()->geometry(), QRect(1048, 38, 380, window()->height()));
-    EXPECT_TRUE(host.marked.contains(window()));
+    EXPECT_TRUE(host.placedBeforeShow.contains(window()));
     clickField();
     type(text("x"));
     click(text("Save note"));

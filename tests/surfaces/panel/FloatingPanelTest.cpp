@@ -22,7 +22,18 @@ namespace vantle::tests {
 namespace {
 
 constexpr QRect kFrame(300, 200, 200, 100);
+const ScreenShape kScreen{.frame = QRectF(0, 0, 1440, 900), .available = QRectF(0, 0, 1440, 900)};
 constexpr QPoint kFar(1200, 800);
+
+/// At kFrame, said from the corner of the screen.
+Placement placement(std::optional<QRegion> felt = {}, const QRegion& opaque = {}) {
+    return {.spot = Placement::Spot::TopRight,
+            .screen = kScreen,
+            .size = kFrame.size(),
+            .inset = {1440 - 500, 200},
+            .felt = std::move(felt),
+            .opaque = opaque};
+}
 
 /// A panel of 200 by 100 with a text field in its upper half, above a window of some application.
 class FloatingPanelTest : public testing::Test {
@@ -41,8 +52,8 @@ protected:
         ASSERT_TRUE(panel.load(QUrl::fromLocalFile(file.fileName()), {}));
     }
 
-    void show() {
-        panel.showAt(kFrame);
+    void show(const Placement& place = placement()) {
+        panel.showAt(place);
         ASSERT_TRUE(await([&] { return panel.isExposed(); }));
     }
 
@@ -97,10 +108,11 @@ TEST_F(FloatingPanelTest, NoWindowManagerKnowsIt) {
 }
 
 TEST_F(FloatingPanelTest, OnlyTheRegionFeelsThePointer) {
-    panel.setInputRegion(QRect(10, 10, 50, 20));
-    show();
+    show(placement(QRect(10, 10, 50, 20)));
     EXPECT_TRUE(await([&] { return regionOnServer() == QRegion(10, 10, 50, 20); }));
-    panel.resize(220, 120);
+    Placement larger = placement();
+    larger.size = QSize(220, 120);
+    panel.setPlacement(larger);
     panel.setInputRegion(QRegion(0, 0, 30, 30) + QRegion(60, 0, 30, 30));
     EXPECT_TRUE(
         await([&] { return regionOnServer() == QRegion(0, 0, 30, 30) + QRegion(60, 0, 30, 30); }));
@@ -113,8 +125,7 @@ TEST_F(FloatingPanelTest, TheRegionGrowingUnderARestingPointerCountsAsEntering) 
     int left = 0;
     QObject::connect(&panel, &FloatingPanel::pointerEntered, [&] { ++entered; });
     QObject::connect(&panel, &FloatingPanel::pointerLeft, [&] { ++left; });
-    panel.setInputRegion(QRect(0, 0, 20, 10));
-    show();
+    show(placement(QRect(0, 0, 20, 10)));
     QCursor::setPos(kFrame.topLeft() + QPoint(100, 50));
     EXPECT_FALSE(panel.pointerInside());
     panel.setInputRegion(QRect(0, 0, 150, 80));
@@ -174,8 +185,7 @@ TEST_F(FloatingPanelTest, LosingTheKeyboardToAnotherWindowIsTold) {
 }
 
 TEST_F(FloatingPanelTest, WithoutACompositorOnlyTheOpaquePartIsThere) {
-    panel.setOpaqueRegion(QRect(0, 0, 120, 60));
-    show();
+    show(placement({}, QRect(0, 0, 120, 60)));
     EXPECT_FALSE(panel.isComposited());
     EXPECT_EQ(panel.mask(), QRegion(0, 0, 120, 60));
 }
@@ -183,8 +193,7 @@ TEST_F(FloatingPanelTest, WithoutACompositorOnlyTheOpaquePartIsThere) {
 TEST_F(FloatingPanelTest, ACompositorThatComesAndGoesIsFollowed) {
     int told = 0;
     QObject::connect(&panel, &FloatingPanel::compositedChanged, [&] { ++told; });
-    panel.setOpaqueRegion(QRect(0, 0, 120, 60));
-    show();
+    show(placement({}, QRect(0, 0, 120, 60)));
     QProcess compositor;
     compositor.start(text("picom"), {text("--config"), text("/dev/null"), text("--backend"),
                                      text("xrender"), text("--no-vsync")});
@@ -214,8 +223,7 @@ protected:
 
 TEST_F(CutFloatingPanelTest, TheWindowIsAsLargeAsWhatFeelsThePointerAndNothingMovesInIt) {
     const QQuickItem* const view = cut.rootObject();
-    cut.setInputRegion(QRect(10, 20, 50, 30));
-    cut.showAt(kFrame);
+    cut.showAt(placement(QRect(10, 20, 50, 30)));
     ASSERT_TRUE(await([&] { return cut.isExposed(); }));
     EXPECT_EQ(cut.geometry(), QRect(310, 220, 50, 30));
     EXPECT_EQ(view->mapToGlobal(QPointF()), QPointF(kFrame.topLeft()));
@@ -227,17 +235,14 @@ TEST_F(CutFloatingPanelTest, TheWindowIsAsLargeAsWhatFeelsThePointerAndNothingMo
 }
 
 TEST_F(CutFloatingPanelTest, WhatFeelsNoPointerIsCutToWhatIsDrawn) {
-    cut.setOpaqueRegion(QRect(10, 20, 50, 30));
-    cut.setInputRegion({});
-    cut.showAt(kFrame);
+    cut.showAt(placement(QRegion(), QRect(10, 20, 50, 30)));
     EXPECT_TRUE(await([&] { return cut.geometry() == QRect(310, 220, 50, 30); }));
 }
 
 TEST_F(CutFloatingPanelTest, OnlyEnteringAndLeavingAreBelievedWhereThePointerIsNotTold) {
     cutHost.pointerIsTold = false;
     QCursor::setPos(kFar);
-    cut.setInputRegion(QRect(0, 0, 100, 50));
-    cut.showAt(kFrame);
+    cut.showAt(placement(QRect(0, 0, 100, 50)));
     ASSERT_TRUE(await([&] { return cut.isExposed(); }));
     EXPECT_FALSE(cut.pointerInside());
     QCursor::setPos(kFrame.topLeft() + QPoint(50, 25));
@@ -249,7 +254,8 @@ TEST_F(CutFloatingPanelTest, OnlyEnteringAndLeavingAreBelievedWhereThePointerIsN
 
 TEST_F(FloatingPanelTest, ASensorFeelsThePointerUntilItIsGone) {
     int entered = 0;
-    auto sensor = host.senseAt({600, 0, 230, 10}, [&] { ++entered; });
+    auto sensor =
+        host.senseAt({.screen = kScreen, .inset = {840, 0}}, {0, 0, 230, 10}, [&] { ++entered; });
     ASSERT_TRUE(sensor);
     QCursor::setPos(700, 400);
     QCursor::setPos(700, 5);
