@@ -18,13 +18,13 @@ namespace vantle {
 
 namespace {
 
-void alertAlreadyRunning(PanelHost& host) {
+void alertAlreadyRunning(const Platform& platform) {
     (void)modalpresenter::runAlert(
         {QStringLiteral("Vantle is already running"),
          QStringLiteral("Another copy of Vantle is already using this Mac's data. This one will "
                         "close so your history stays safe."),
          {QStringLiteral("OK")}},
-        host);
+        platform.panelHost, platform.screens);
 }
 
 /// The small program that runs the user's shortcuts lies beside this one.
@@ -49,8 +49,10 @@ AppInstaller::Place thisProgram(FileSystem& files) {
 }
 
 AppInstaller::Operations installOperations(const Platform& platform) {
-    return {.runAlert = [&host = platform.panelHost](
-                            const Alert& alert) { return modalpresenter::runAlert(alert, host); },
+    return {.runAlert =
+                [&host = platform.panelHost, &screens = platform.screens](const Alert& alert) {
+                    return modalpresenter::runAlert(alert, host, screens);
+                },
             .moveToTrash = [&files = platform.fileManager](
                                const QString& path) { return files.moveToTrash(path); },
             .reveal = [&files = platform.fileManager](const QString& path) { files.reveal(path); },
@@ -109,7 +111,7 @@ AppDelegate::Environment Program::environment() {
             .terminate = m_process.terminate,
             .alertAlreadyRunning =
                 [this] {
-                    if (!m_process.isEnding()) alertAlreadyRunning(m_platform.panelHost);
+                    if (!m_process.isEnding()) alertAlreadyRunning(m_platform);
                 },
             .startedUnasked = m_process.startedUnasked};
 }

@@ -1,4 +1,4 @@
-"""What may stand in its home only: the clock, timers, writing files, printing, waiting."""
+"""What may stand in its home only: clock, timers, writing files, the display, printing, waiting."""
 
 import re
 from dataclasses import dataclass
@@ -15,6 +15,7 @@ class Ban:
     folders: tuple = ("src",)
     suffixes: tuple = CPP
     homes: tuple = ()  # paths, or folders with a slash at the end
+    everywhere: bool = False  # in comments and literals too
 
 
 BANS = (
@@ -29,6 +30,15 @@ BANS = (
         r"|\bstd::(?:basic_)?[of]?fstream\b|\bf(?:re)?open\s*\(",
         "data files are written through FileSystem only",
         homes=("src/platform/posix/", "src/platform/applications/", "src/platform/session/")),
+    Ban(r"(?i)\bX(?:11|cb|wayland)|\bX server\b|wayland|\bQT_QPA_\w+",
+        "only the platform and the launch code know the display",
+        suffixes=CPP + (".qml",), homes=("src/platform/", "src/launch/"), everywhere=True),
+    Ban(r"\bQCursor::pos\b", "PanelHost and Screens know where the pointer is",
+        homes=("src/platform/",)),
+    # What the window manager manages may ask for a place, and need not get it.
+    Ban(r"\b(?:setGeometry|setFramePosition|BypassWindowManagerHint)\b",
+        "PanelHost places what floats",
+        homes=("src/platform/", "src/surfaces/alert/", "src/surfaces/window/")),
     Ban(r"\bq(?:C?Debug|C?Info|C?Warning|C?Critical)\b", "the program prints nothing",
         folders=("src", "tests", "demo")),
     Ban(r"\bstd::(?:cout|cerr|clog)\b|\b(?:std::)?(?:v?f?printf|puts|putchar|fputs)\s*\(",
@@ -52,7 +62,8 @@ def check(tree):
         for path in tree.files(ban.suffixes, ban.folders):
             if path.startswith(ban.homes):
                 continue
-            lines = tree.lines(path) if path.endswith(".py") else tree.code(path)
+            whole = ban.everywhere or path.endswith(".py")
+            lines = tree.lines(path) if whole else tree.code(path)
             for line, text in lines:
                 match = pattern.search(text)
                 if match:

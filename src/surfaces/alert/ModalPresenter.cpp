@@ -1,11 +1,11 @@
 #include "surfaces/alert/ModalPresenter.h"
 
 #include "platform/PanelHost.h"
+#include "platform/Screens.h"
 #include "surfaces/alert/AlertModel.h"
 #include "surfaces/window/WindowKind.h"
 #include "surfaces/window/WindowShell.h"
 
-#include <QCursor>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QQmlEngine>
@@ -21,7 +21,7 @@ QPoint centered(const QSize& size, const QRect& area) {
             area.y() + (area.height() - size.height()) / 2};
 }
 
-int runOnMainThread(const Alert& alert, PanelHost& host) {
+int runOnMainThread(const Alert& alert, PanelHost& host, const Screens& screens) {
     auto owned = std::make_unique<AlertModel>();
     AlertModel& model = *owned;
     model.message = alert.message;
@@ -52,10 +52,10 @@ int runOnMainThread(const Alert& alert, PanelHost& host) {
     const QSize size = window.fittingSize();
     window.setMinimumSize(size);
     window.setMaximumSize(size);
-    // On the screen in use. Beside a Wayland compositor the pointer may really be elsewhere.
-    const QScreen* const pointed = QGuiApplication::screenAt(QCursor::pos());
-    const QScreen& screen = pointed != nullptr ? *pointed : *window.screen();
-    window.setGeometry(QRect(centered(size, screen.availableGeometry()), size));
+    const auto shapes = screens.inUseFirst();
+    const QRect area =
+        shapes.empty() ? window.screen()->availableGeometry() : shapes.front().available.toRect();
+    window.setGeometry(QRect(centered(size, area), size));
     window.show();
     window.requestActivate();
     loop.exec();
@@ -64,11 +64,12 @@ int runOnMainThread(const Alert& alert, PanelHost& host) {
 
 } // namespace
 
-int runAlert(const Alert& alert, PanelHost& host) {
-    if (QThread::currentThread() == qApp->thread()) return runOnMainThread(alert, host);
+int runAlert(const Alert& alert, PanelHost& host, const Screens& screens) {
+    if (QThread::currentThread() == qApp->thread()) return runOnMainThread(alert, host, screens);
     int chosen = 0;
     QMetaObject::invokeMethod(
-        qApp, [&] { chosen = runOnMainThread(alert, host); }, Qt::BlockingQueuedConnection);
+        qApp, [&] { chosen = runOnMainThread(alert, host, screens); },
+        Qt::BlockingQueuedConnection);
     return chosen;
 }
 

@@ -7,6 +7,7 @@
 namespace vantle {
 
 class PanelHost;
+class Screens;
 
 /// What an alert says.
 struct Alert {
@@ -18,10 +19,11 @@ struct Alert {
 namespace modalpresenter {
 
 /// Shows the alert in front of everything, in a window with a place in the task bar and the frame
-/// of all windows, and returns the index of the chosen button. Escape and closing the window choose
-/// the last one. Runs the event loop until then; the program's other windows wait. Any thread,
-/// after the application object: off the main thread it waits for the answer there.
-[[nodiscard]] int runAlert(const Alert& alert, PanelHost& host);
+/// of all windows, on the screen in use, and returns the index of the chosen button. Escape and
+/// closing the window choose the last one. Runs the event loop until then; the program's other
+/// windows wait. Any thread, after the application object: off the main thread it waits for the
+/// answer there.
+[[nodiscard]] int runAlert(const Alert& alert, PanelHost& host, const Screens& screens);
 
 } // namespace modalpresenter
 } // namespace vantle

@@ -79,7 +79,7 @@ public:
 
     /// Takes what stands in the field, and returns what may stay there: no more than its limit.
     Q_INVOKABLE QString takeNote(const QString& text);
-    /// The user pressed the field. Its focus alone does not count: the X server gives the keyboard
+    /// The user pressed the field. Its focus alone does not count: the desktop gives the keyboard
     /// to a card that asks for the note when it comes to it, which nobody did by hand.
     Q_INVOKABLE void notePressed();
     /// Return, or one of the two buttons.

@@ -1,6 +1,7 @@
 #include "surfaces/settings/DesktopGaps.h"
 
 #include "platform/FrontmostApp.h"
+#include "platform/GuestSession.h"
 #include "platform/IdleSource.h"
 #include "platform/PanelHost.h"
 #include "platform/TrayItem.h"
@@ -25,9 +26,10 @@ QString DesktopGaps::hotKeyAdvice() const {
         return QStringLiteral("Another key does as well. In your desktop's keyboard settings, bind "
                               "one to this command:");
     if (!m_env.hotKey.hearsEveryApp())
-        return QStringLiteral("In a Wayland session Vantle hears these keys only over some apps. "
+        return QStringLiteral("In a %1 Vantle hears these keys only over some apps. "
                               "In your desktop's keyboard settings, bind a key to this command, "
-                              "and it works over all of them:");
+                              "and it works over all of them:")
+            .arg(guestSession());
     return {};
 }
 
@@ -82,8 +84,8 @@ QString DesktopGaps::autoStartAdvice() const {
 QString DesktopGaps::ceremonyAdvice() const {
     if (m_env.panelHost.hasInputRegions()) return {};
     return QStringLiteral(
-        "In this Wayland session a ceremony would catch every click while it plays, "
-        "so none plays.");
+               "In this %1 a ceremony would catch every click while it plays, so none plays.")
+        .arg(guestSession());
 }
 
 } // namespace vantle

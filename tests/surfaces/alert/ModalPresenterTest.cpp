@@ -1,6 +1,7 @@
 #include "surfaces/alert/ModalPresenter.h"
 
 #include "fakes/FakePanelHost.h"
+#include "fakes/FakeScreens.h"
 #include "support/ShownItems.h"
 #include "support/Text.h"
 
@@ -20,7 +21,8 @@ namespace vantle {
 namespace {
 
 /// What a person does with the alert, once its window is up.
-int runWhile(const std::function<void(QQuickWindow&)>& person, bool composited = true) {
+int runWhile(const std::function<void(QQuickWindow&)>& person, bool composited = true,
+             const fakes::FakeScreens& screens = {}) {
     fakes::FakePanelHost host;
     host.composited = composited;
     QTimer glance;
@@ -36,7 +38,7 @@ int runWhile(const std::function<void(QQuickWindow&)>& person, bool composited =
     return modalpresenter::runAlert({QStringLiteral("Something happened"),
                                      QStringLiteral("It means this."),
                                      {QStringLiteral("Replace"), QStringLiteral("Cancel")}},
-                                    host);
+                                    host, screens);
 }
 
 void press(QQuickWindow& view, Qt::Key key) {
@@ -90,8 +92,25 @@ TEST(ModalPresenter, CornersAreSquareWithoutACompositor) {
         false);
 }
 
+TEST(ModalPresenter, StandsInTheMiddleOfTheScreenInUse) {
+    fakes::FakeScreens screens;
+    screens.shapes.push_back(
+        {.frame = QRectF(1440, 0, 1024, 768), .available = QRectF(1440, 30, 1024, 738)});
+    screens.inUse = 1;
+    QRect frame;
+    (void)runWhile(
+        [&frame](QQuickWindow& view) {
+            frame = view.geometry();
+            press(view, Qt::Key_Escape);
+        },
+        true, screens);
+    EXPECT_NEAR(frame.center().x(), 1440 + 512, 1);
+    EXPECT_NEAR(frame.center().y(), 30 + 369, 1);
+}
+
 TEST(ModalPresenter, OffTheMainThreadTheQuestionIsAskedOnIt) {
     fakes::FakePanelHost host;
+    const fakes::FakeScreens screens;
     const QThread* askedOn = nullptr;
     int chosen = -1;
     QTimer glance;
@@ -107,7 +126,7 @@ TEST(ModalPresenter, OffTheMainThreadTheQuestionIsAskedOnIt) {
         chosen = modalpresenter::runAlert({QStringLiteral("Something happened"),
                                            QStringLiteral("It means this."),
                                            {QStringLiteral("Replace"), QStringLiteral("Cancel")}},
-                                          host);
+                                          host, screens);
     }));
     QEventLoop loop;
     QObject::connect(worker.get(), &QThread::finished, &loop, &QEventLoop::quit);
