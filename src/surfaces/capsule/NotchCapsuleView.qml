@@ -3,12 +3,12 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Capsule
 import Vantle.Kit
+import Vantle.Panel
 
-Item {
+PanelRoot {
     id: view
 
     required property NotchCapsule capsule
-    property bool composited: true // else corners can't be round, and nothing may be see-through
 
     readonly property real radius: composited ? capsule.bottomRadius : 0
 

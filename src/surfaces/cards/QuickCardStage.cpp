@@ -66,7 +66,7 @@ public:
     QuickCardPanel(FloatingPanel& panel, bool feelsPointer)
         : m_panel(&panel)
         , m_feelsPointer(feelsPointer)
-        , m_placement{.size = ground().size()}
+        , m_placement{.size = root().ground().size()}
         , m_compositing(
               QObject::connect(m_panel, &FloatingPanel::compositedChanged, [this] { place(); })) {}
 
@@ -85,7 +85,7 @@ public:
         m_placement = placement;
         m_isUp = true;
         place();
-        root().setProperty("up", true);
+        root().setUp(true);
     }
 
     void moveTo(const Placement& placement) override {
@@ -93,7 +93,7 @@ public:
         const int from = m_panel->insetTop();
         m_placement = placement;
         m_glide = new QPropertyAnimation(m_panel, "insetTop", m_panel);
-        m_glide->setDuration(root().property("moveTime").toInt());
+        m_glide->setDuration(root().moveTime());
         m_glide->setEasingCurve(QEasingCurve::OutCubic);
         m_glide->setStartValue(from);
         m_glide->setEndValue(placement.inset.y());
@@ -113,8 +113,8 @@ public:
         if (!m_panel->isVisible()) return;
         QObject::disconnect(m_compositing);
         m_panel->setInputRegion(QRegion());
-        QObject::connect(&root(), SIGNAL(gone()), m_panel, SLOT(deleteLater()));
-        root().setProperty("up", false);
+        QObject::connect(&root(), &PanelRoot::gone, m_panel, &QObject::deleteLater);
+        root().setUp(false);
         m_panel = nullptr;
     }
 
@@ -124,21 +124,9 @@ private:
         if (m_isUp) m_panel->showAt(inWindow());
     }
     [[nodiscard]] Placement inWindow() const {
-        const QRect card = ground();
-        const QSize window = windowSize();
-        Placement placement = m_placement;
-        placement.room = {card.x(), card.y(), window.width() - card.x() - card.width(),
-                          window.height() - card.y() - card.height()};
-        placement.opaque = card;
-        placement.felt = m_feelsPointer ? QRegion(card) : QRegion();
-        return placement;
+        return m_panel->withShadow(m_placement, m_feelsPointer);
     }
-    [[nodiscard]] QQuickItem& root() const { return *m_panel->rootObject(); }
-    /// Where the card is within its window.
-    [[nodiscard]] QRect ground() const { return root().property("groundRect").toRectF().toRect(); }
-    [[nodiscard]] QSize windowSize() const {
-        return QSizeF(root().implicitWidth(), root().implicitHeight()).toSize();
-    }
+    [[nodiscard]] PanelRoot& root() const { return *m_panel->root(); }
 
     FloatingPanel* m_panel;
     const bool m_feelsPointer;

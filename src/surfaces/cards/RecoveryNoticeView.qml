@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Cards
 import Vantle.Kit
+import Vantle.Panel
 
 FloatingSurface {
     id: view

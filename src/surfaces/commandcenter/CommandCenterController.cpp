@@ -98,10 +98,10 @@ bool CommandCenterController::makePanel() {
         m_content.setShown(false);
         return false;
     }
-    const QQuickItem* const view = panel->rootObject();
+    const PanelRoot* const view = panel->root();
     connect(view, &QQuickItem::implicitHeightChanged, this,
             &CommandCenterController::repositionSoon);
-    connect(view, SIGNAL(dismissed()), this, SLOT(hide()));
+    connect(view, &PanelRoot::dismissed, this, &CommandCenterController::hide);
     connect(panel.get(), &FloatingPanel::keyboardLost, this,
             &CommandCenterController::onKeyboardLost);
     connect(panel.get(), &FloatingPanel::compositedChanged, this,
@@ -117,20 +117,16 @@ QRect CommandCenterController::itemGeometry() const {
 }
 
 void CommandCenterController::reposition() {
-    QQuickItem* const view = m_panel->rootObject();
+    PanelRoot& view = *m_panel->root();
     const auto screens = startingWith(m_screenFrame, m_env.screens.all());
     if (screens.empty()) return;
     const commandcenterplacement::Anchor anchor{itemGeometry(), m_click};
-    view->setProperty("maximumHeight", commandcenterplacement::maximumHeight(anchor, screens));
-    const QRect ground = view->property("groundRect").toRectF().toRect();
-    Placement placement = commandcenterplacement::place(ground.size(), anchor, screens);
-    const QSize size = QSizeF(view->implicitWidth(), view->implicitHeight()).toSize();
-    placement.room = {ground.x(), ground.y(), size.width() - ground.x() - ground.width(),
-                      size.height() - ground.y() - ground.height()};
-    placement.opaque = placement.felt.emplace(ground);
+    view.setMaximumHeight(commandcenterplacement::maximumHeight(anchor, screens));
+    const Placement placement =
+        commandcenterplacement::place(view.ground().size(), anchor, screens);
     m_frame = placement.ground();
-    m_panel->showAt(placement);
-    view->setProperty("up", true);
+    m_panel->showAt(m_panel->withShadow(placement));
+    view.setUp(true);
 }
 
 void CommandCenterController::repositionSoon() {

@@ -48,7 +48,7 @@ public:
     /// A click on the tray item, at that place as far as known, else (0, 0).
     void toggle(QPoint click);
     void show(); ///< nothing where there is no screen
-    Q_SLOT void hide();
+    void hide();
     [[nodiscard]] bool isShown() const { return m_panel != nullptr; }
 
     /// What the panel shows.

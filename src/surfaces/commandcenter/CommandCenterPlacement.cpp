@@ -9,8 +9,8 @@ namespace vantle::commandcenterplacement {
 
 namespace {
 
-constexpr int kEdge = look::kLengths.panelEdge; // clear space to the edges of the free area
-constexpr int kItemGap = look::kLengths.panelItemGap; // between the tray item and the panel
+constexpr int kEdge = look::kLengths.panelEdge;        // clear space to the edges of the free area
+constexpr int kItemGap = look::kLengths.panelItemGap;  // between the tray item and the panel
 constexpr int kCornerGap = look::kLengths.panelCorner; // to the right edge, if nothing is known
 
 struct Target {

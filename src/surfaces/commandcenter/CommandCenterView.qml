@@ -4,13 +4,12 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.CommandCenter
 import Vantle.Kit
+import Vantle.Panel
 
 FloatingSurface {
     id: view
 
     required property CommandCenterModel model
-    property int maximumHeight: 1000000 // px, of the ground
-    signal dismissed
 
     groundWidth: content.implicitWidth
     groundHeight: Math.min(content.implicitHeight, maximumHeight)

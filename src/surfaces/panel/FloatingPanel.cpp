@@ -41,11 +41,21 @@ FloatingPanel::FloatingPanel(QQmlEngine& engine, PanelHost& host)
 FloatingPanel::~FloatingPanel() { returnKeyboard(); }
 
 bool FloatingPanel::load(const QUrl& source, const QVariantMap& properties) {
-    QVariantMap all = properties;
-    all.insert(QStringLiteral("composited"), m_composited);
-    setInitialProperties(all);
+    setInitialProperties(properties);
     setSource(source);
-    return status() == QQuickView::Ready;
+    if (status() != QQuickView::Ready || root() == nullptr) return false;
+    root()->setComposited(m_composited);
+    return true;
+}
+
+PanelRoot* FloatingPanel::root() const { return qobject_cast<PanelRoot*>(rootObject()); }
+
+Placement FloatingPanel::withShadow(Placement ground, bool feelsPointer) const {
+    const QRect seen = root()->ground();
+    ground.room = root()->room();
+    ground.opaque = seen;
+    ground.felt = feelsPointer ? QRegion(seen) : QRegion();
+    return ground;
 }
 
 void FloatingPanel::showAt(const Placement& placement) {
@@ -148,7 +158,7 @@ void FloatingPanel::applyRegions() {
 void FloatingPanel::followCompositing() {
     if (m_composited == m_host.isComposited()) return;
     m_composited = !m_composited;
-    if (rootObject() != nullptr) rootObject()->setProperty("composited", m_composited);
+    if (PanelRoot* const view = root()) view->setComposited(m_composited);
     applyRegions();
     Q_EMIT compositedChanged();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/PanelHost.h"
+#include "surfaces/panel/PanelRoot.h"
 
 #include <QQuickView>
 #include <QRegion>
@@ -30,8 +31,14 @@ public:
     ~FloatingPanel() override;
 
     /// Makes the view from its file and its required properties. False when the file is no good.
-    /// The view has a property `composited`, which is kept up to date.
+    /// Its root is a PanelRoot, whose `composited` is kept up to date.
     [[nodiscard]] bool load(const QUrl& source, const QVariantMap& properties);
+    /// Null until the view is loaded.
+    [[nodiscard]] PanelRoot* root() const;
+
+    /// The ground's placement with the room that the view's shadow takes around it. Requires a
+    /// view.
+    [[nodiscard]] Placement withShadow(Placement ground, bool feelsPointer = true) const;
 
     /// Puts the panel there; the host decides by which window before the first time.
     void setPlacement(const Placement& placement);

@@ -42,9 +42,12 @@ protected:
         ASSERT_TRUE(x11.isAlive());
         QFile file(folder.filePath(QStringLiteral("View.qml")));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("import QtQuick\nItem { property bool composited; TextInput { width: 200; "
-                   "height: 50 } }");
+        file.write("import QtQuick\nimport Vantle.Panel\n"
+                   "PanelRoot { groundRect: Qt.rect(16, 8, 200, 100)\n"
+                   "implicitWidth: 232; implicitHeight: 132\n"
+                   "TextInput { width: 200; height: 50 } }");
         file.close();
+        engine.addImportPath(text("qrc:/qt/qml"));
         QCursor::setPos(kFar);
         below.setGeometry(250, 150, 400, 300);
         below.show();
@@ -96,6 +99,13 @@ TEST_F(FloatingPanelTest, ShowingItLeavesTheKeyboardWithTheWindowBelow) {
     show();
     EXPECT_EQ(focus(), below.winId());
     EXPECT_EQ(panel.geometry(), kFrame);
+}
+
+TEST_F(FloatingPanelTest, TheShadowOfTheViewLiesAroundThePlaceAndLetsClicksThrough) {
+    show(panel.withShadow(placement()));
+    EXPECT_TRUE(await([&] { return panel.geometry() == kFrame.adjusted(-16, -8, 16, 24); }));
+    EXPECT_TRUE(await([&] { return regionOnServer() == QRegion(16, 8, 200, 100); }));
+    EXPECT_EQ(panel.mask(), QRegion(16, 8, 200, 100)) << "there is no compositor";
 }
 
 TEST_F(FloatingPanelTest, NoWindowManagerKnowsIt) {
@@ -199,12 +209,12 @@ TEST_F(FloatingPanelTest, ACompositorThatComesAndGoesIsFollowed) {
                                      text("xrender"), text("--no-vsync")});
     ASSERT_TRUE(await([&] { return panel.isComposited(); }));
     EXPECT_TRUE(panel.mask().isEmpty());
-    EXPECT_TRUE(panel.rootObject()->property("composited").toBool());
+    EXPECT_TRUE(panel.root()->isComposited());
     compositor.kill(); // as a crash does
     compositor.waitForFinished();
     ASSERT_TRUE(await([&] { return !panel.isComposited(); }));
     EXPECT_EQ(panel.mask(), QRegion(0, 0, 120, 60));
-    EXPECT_FALSE(panel.rootObject()->property("composited").toBool());
+    EXPECT_FALSE(panel.root()->isComposited());
     EXPECT_EQ(told, 2);
 }
 

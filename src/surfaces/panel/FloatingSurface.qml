@@ -3,15 +3,13 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
+import Vantle.Panel
 
-FocusScope {
+PanelRoot {
     id: surface
 
-    required property bool composited // else the ground alone is there, with square corners
-    property bool up: false // set once the window is shown, and cleared when it is to go
     property int inTime: DarkUI.cardInTime
     property int outTime: DarkUI.cardOutTime
-    property int moveTime: DarkUI.toastMoveTime // of the window, out of the way of another
     property int drop: DarkUI.cardRise // px that it comes down by
     property real radius: DarkUI.radiusFloating
     property ShadowToken shadow: DarkUI.shadowFloating
@@ -20,11 +18,11 @@ FocusScope {
     readonly property real aside: composited ? shadow.blur : 0
     readonly property real above: composited ? Math.max(0, shadow.blur - shadow.offset) : 0
     readonly property real below: composited ? shadow.blur + shadow.offset : 0
-    readonly property rect groundRect: Qt.rect(aside, above, groundWidth, groundHeight)
     readonly property real shown: ground.shown // 0 to 1, while it comes and goes
     default property alias content: inside.data
-    signal gone // it can't be seen any more
 
+    moveTime: DarkUI.toastMoveTime
+    groundRect: Qt.rect(aside, above, groundWidth, groundHeight)
     implicitWidth: groundWidth + 2 * aside
     implicitHeight: groundHeight + above + below
     enabled: up
