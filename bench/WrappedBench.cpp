@@ -3,7 +3,7 @@
 #include "Comparison.h"
 #include "Workshop.h"
 #include "platform/LanguageModel.h"
-#include "review/WrappedView.h"
+#include "surfaces/wrapped/WrappedView.h"
 
 namespace vantle::bench {
 namespace {

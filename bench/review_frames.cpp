@@ -10,7 +10,7 @@
 #include "platform/LanguageModel.h"
 #include "platform/posix/PosixFileSystem.h"
 #include "platform/posix/SettingsPreferences.h"
-#include "review/WrappedView.h"
+#include "surfaces/wrapped/WrappedView.h"
 #include "tracking/NotificationCenter.h"
 
 #include <QGuiApplication>

@@ -3,7 +3,7 @@
 #include "fakes/VirtualTime.h"
 #include "gallery/Scenes.h"
 #include "review/SampleReview.h"
-#include "review/WrappedView.h"
+#include "surfaces/wrapped/WrappedView.h"
 #include "surfaces/wrapped/poster/SharePng.h"
 #include "tracking/NotificationCenter.h"
 #include "windows/SampleYear.h"

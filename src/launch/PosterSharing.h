@@ -3,7 +3,7 @@
 
 #include "base/SerialQueue.h"
 #include "platform/SaveDialog.h"
-#include "review/WrappedView.h"
+#include "surfaces/wrapped/WrappedView.h"
 
 namespace vantle {
 

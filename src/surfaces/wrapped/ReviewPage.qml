@@ -3,7 +3,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
-import Vantle.Review
+import Vantle.Wrapped
 
 FocusScope {
     id: page

@@ -4,10 +4,10 @@
 #include "fakes/FakeLanguageModel.h"
 #include "fakes/MemoryPreferences.h"
 #include "fakes/VirtualTime.h"
-#include "review/WrappedView.h"
 #include "review/stats/ReviewSamples.h"
 #include "support/Await.h"
 #include "support/ShownView.h"
+#include "surfaces/wrapped/WrappedView.h"
 #include "tracking/NotificationCenter.h"
 
 #include <optional>

@@ -4,8 +4,8 @@
 #include "fakes/FakeLanguageModel.h"
 #include "fakes/MemoryPreferences.h"
 #include "fakes/VirtualTime.h"
-#include "review/WrappedView.h"
 #include "review/stats/ReviewSamples.h"
+#include "surfaces/wrapped/WrappedView.h"
 #include "tracking/NotificationCenter.h"
 
 #include <memory>

@@ -1,4 +1,4 @@
-#include "review/WrappedView.h"
+#include "surfaces/wrapped/WrappedView.h"
 
 #include "base/Clock.h"
 #include "platform/LanguageModel.h"

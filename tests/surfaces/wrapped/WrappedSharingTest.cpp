@@ -1,5 +1,5 @@
 // Copying and saving the poster of a review.
-#include "review/ReviewWorld.h"
+#include "surfaces/wrapped/ReviewWorld.h"
 
 #include <gtest/gtest.h>
 

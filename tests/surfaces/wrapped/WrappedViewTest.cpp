@@ -1,6 +1,6 @@
-#include "review/WrappedView.h"
+#include "surfaces/wrapped/WrappedView.h"
 
-#include "review/ReviewWorld.h"
+#include "surfaces/wrapped/ReviewWorld.h"
 
 #include <QQmlEngine>
 
