@@ -12,6 +12,12 @@ std::uint32_t leadingColor(const WrappedStats& stats) {
     return top ? top->hexRGB : accent;
 }
 
+QColor withOpacity(std::uint32_t hexRGB, double opacity) {
+    QColor color = QColor::fromRgb(hexRGB);
+    color.setAlphaF(static_cast<float>(opacity));
+    return color;
+}
+
 QString sessions(int count) {
     return count == 1 ? QStringLiteral("1 session") : QStringLiteral("%1 sessions").arg(count);
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "review/stats/WrappedStats.h"
-#include "surfaces/kit/tokens/Look.h"
 
 #include <QColor>
 #include <QObject>
@@ -32,10 +31,13 @@ public:
 namespace cardwords {
 
 /// What is coloured when no skill lends its colour, 0xRRGGBB.
-inline constexpr std::uint32_t accent = look::kDark.accent.rgb;
+inline constexpr std::uint32_t accent = 0x7A78FF;
 
 /// The colour of the skill with the most time, else the accent.
 [[nodiscard]] std::uint32_t leadingColor(const WrappedStats& stats);
+
+/// The colour 0xRRGGBB at an opacity, 0 to 1.
+[[nodiscard]] QColor withOpacity(std::uint32_t hexRGB, double opacity);
 
 [[nodiscard]] QString sessions(int count); ///< "1 session", "2 sessions"
 [[nodiscard]] ReviewFigure figure(double hours, DurationStyle style);

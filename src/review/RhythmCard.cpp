@@ -19,12 +19,6 @@ QVariantList tilesOf(const std::vector<RhythmPicture::Week>& weeks) {
     return list;
 }
 
-QColor withOpacity(std::uint32_t hexRGB, double opacity) {
-    QColor color = QColor::fromRgb(hexRGB);
-    color.setAlphaF(static_cast<float>(opacity));
-    return color;
-}
-
 /// Makes tiles of days.
 class TileMaker {
 public:
@@ -51,9 +45,9 @@ private:
         made.isFuture = day.isFuture;
         made.isToday = day.isToday;
         made.hasFill = look.fill.has_value();
-        if (look.fill) made.fill = withOpacity(*look.fill, look.fillOpacity);
+        if (look.fill) made.fill = cardwords::withOpacity(*look.fill, look.fillOpacity);
         if (look.outline) {
-            made.outline = withOpacity(0xFFFFFF, look.outline->opacity);
+            made.outline = cardwords::withOpacity(0xFFFFFF, look.outline->opacity);
             made.outlineWidth = look.outline->width.value_or(kHairline);
         }
         made.help = m_date(day.date);

@@ -1,7 +1,8 @@
 """Includes point down only, and every edge between folders of src/ is stated in CMake.
 
 The folders from the bottom to the top of the house. A folder may use those in lower rows. Folders
-of a row do not know each other, but for launch, which alone sees the backends.
+of a row do not know each other, but for launch, which alone sees the backends. Surfaces are seen by
+surfaces and by launch alone.
 """
 
 import posixpath
@@ -46,6 +47,8 @@ def may_use(user, used):
         return True
     if user == "launch" and used.startswith("platform/"):
         return True
+    if used.startswith("surfaces/") and not user.startswith(("surfaces/", "launch")):
+        return False
     return rank_of(used) < rank_of(user)
 
 

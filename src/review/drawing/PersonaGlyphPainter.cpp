@@ -1,7 +1,7 @@
 #include "review/drawing/PersonaGlyphPainter.h"
 
+#include "review/CardWords.h"
 #include "review/PersonaCard.h"
-#include "surfaces/kit/tokens/ColorMath.h"
 
 #include <QFile>
 #include <QLinearGradient>
@@ -24,7 +24,7 @@ PersonaGlyph PersonaGlyph::of(const PersonaCard& card, const QImage& artwork) {
 namespace personaglyph {
 namespace {
 
-using colormath::withAlpha;
+using cardwords::withOpacity;
 
 // All lengths are on a grid of 94, around its middle: the disc fills it.
 constexpr double kGrid = 94;
@@ -48,7 +48,7 @@ constexpr QSizeF kBrick(19, 12);
 constexpr double kBrickRadius = 3;
 constexpr double kBrickGap = 4;
 
-const QColor kWhite(Qt::white);
+constexpr std::uint32_t kWhite = 0xFFFFFF;
 
 QRectF around(QPointF center, double radius) {
     return {center.x() - radius, center.y() - radius, 2 * radius, 2 * radius};
@@ -73,7 +73,7 @@ void drawDisc(QPainter& painter, const PersonaGlyph& glyph) {
     painter.setBrush(colors);
     painter.drawEllipse(area);
 
-    painter.setPen(QPen(withAlpha(kWhite, 0.28), kRim));
+    painter.setPen(QPen(withOpacity(kWhite, 0.28), kRim));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(around({}, kDisc - kRim / 2));
 }
@@ -87,7 +87,7 @@ void drawSymbol(QPainter& painter, const QString& symbol) {
 void drawHours(QPainter& painter, std::int64_t count) {
     painter.setPen(Qt::NoPen);
     for (const Ring& ring : kRings) {
-        painter.setBrush(withAlpha(kWhite, ring.opacity));
+        painter.setBrush(withOpacity(kWhite, ring.opacity));
         const auto dots = static_cast<int>(std::clamp<std::int64_t>(count, 0, ring.room));
         for (int i = 0; i < dots; ++i) {
             const double angle = 2 * std::numbers::pi * i / ring.room;
@@ -105,7 +105,7 @@ void drawSessions(QPainter& painter, int count) {
     painter.setBrush(Qt::NoBrush);
     for (int i = 0; i < personaSessionsNeeded; ++i) {
         const QColor color =
-            i < count ? QColor::fromRgb(cardwords::accent) : withAlpha(kWhite, 0.12);
+            i < count ? QColor::fromRgb(cardwords::accent) : withOpacity(kWhite, 0.12);
         painter.setPen(QPen(color, kArcWidth, Qt::SolidLine, Qt::RoundCap));
         const double start = 90 - i * kStep - (kStep - kArcSweep) / 2;
         QPainterPath arc;
@@ -122,8 +122,8 @@ void drawDays(QPainter& painter, int count) {
     QRectF brick({-(personaDaysNeeded * step - kBrickGap) / 2, -kBrick.height() / 2}, kBrick);
     for (int i = 0; i < personaDaysNeeded; ++i, brick.translate(step, 0)) {
         const bool done = i < count;
-        painter.setPen(QPen(withAlpha(kWhite, done ? 0.28 : 0.12), kRim));
-        painter.setBrush(done ? QColor::fromRgb(cardwords::accent) : withAlpha(kWhite, 0.08));
+        painter.setPen(QPen(withOpacity(kWhite, done ? 0.28 : 0.12), kRim));
+        painter.setBrush(done ? QColor::fromRgb(cardwords::accent) : withOpacity(kWhite, 0.08));
         painter.drawRoundedRect(brick, kBrickRadius, kBrickRadius);
     }
 }

@@ -1,6 +1,6 @@
 #include "review/drawing/RhythmTilePainter.h"
 
-#include "surfaces/kit/tokens/ColorMath.h"
+#include "review/CardWords.h"
 
 #include <QPainter>
 #include <QTransform>
@@ -11,6 +11,7 @@ namespace vantle::rhythmtile {
 
 namespace {
 
+constexpr std::uint32_t kWhite = 0xFFFFFF;
 constexpr double kEdge = 1;
 constexpr double kEdgeOpacity = 0.16;
 constexpr double kEmptyOpacity = 0.05;
@@ -67,11 +68,11 @@ void draw(QPainter& painter, QPointF topLeft, const TileShape& shape, const DayT
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     fill(painter, area, shape.radius,
-         tile.hasFill ? tile.fill : colormath::withAlpha(Qt::white, kEmptyOpacity));
+         tile.hasFill ? tile.fill : cardwords::withOpacity(kWhite, kEmptyOpacity));
     if (tile.isFuture)
         edge(painter, area, shape.radius, tile.outline, pixels.snapped(tile.outlineWidth));
     else if (tile.hasFill && !shape.isSmall)
-        edge(painter, area, shape.radius, colormath::withAlpha(Qt::white, kEdgeOpacity),
+        edge(painter, area, shape.radius, cardwords::withOpacity(kWhite, kEdgeOpacity),
              pixels.snapped(kEdge));
     if (tile.isToday) {
         // A ring around the tile, as far away as it is wide where there is room for that.
