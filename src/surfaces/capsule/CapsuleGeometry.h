@@ -6,6 +6,7 @@
 
 #include "platform/Placement.h"
 #include "surfaces/capsule/NotchMetrics.h"
+#include "surfaces/kit/tokens/Look.h"
 
 #include <QRectF>
 
@@ -13,11 +14,11 @@
 
 namespace vantle::capsule {
 
-inline constexpr double kRowHeight = 58; ///< dot, skill line, clock and round chip
-inline constexpr double kDotDiameter = 7;
-inline constexpr double kDotGap = 8;
-inline constexpr double kRowInset = 18;
-inline constexpr double kStopChipSize = 26;
+inline constexpr double kRowHeight = look::kLengths.capsuleRowHeight;
+inline constexpr double kDotDiameter = look::kLengths.chipDotSize;
+inline constexpr double kDotGap = look::kLengths.space8;
+inline constexpr double kRowInset = look::kLengths.capsuleInset;
+inline constexpr double kStopChipSize = look::kLengths.capsuleChipSize;
 inline constexpr double kStopGap = 16;
 inline constexpr double kMaxChipRowWidth = 420;
 

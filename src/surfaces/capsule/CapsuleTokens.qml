@@ -4,13 +4,13 @@ import QtQuick
 import Vantle.Kit
 
 QtObject {
-    readonly property real inset: 18 // of everything, from the left and the right
-    readonly property real rowHeight: 58
+    readonly property real inset: DarkUI.capsuleInset // of everything, from the left and the right
+    readonly property real rowHeight: DarkUI.capsuleRowHeight
     readonly property real dotTop: 15
     readonly property real skillLineLeft: 33
     readonly property real skillLineTop: 12
     readonly property real clockTop: 25
-    readonly property real roundChip: 26
+    readonly property real roundChip: DarkUI.capsuleChipSize
     readonly property real roundChipTop: 16
     readonly property real stopGlyph: 9
     readonly property real playGlyph: 13 // on the icons' grid; the triangle itself is 8 wide
@@ -23,7 +23,7 @@ QtObject {
 
     readonly property real chipsTop: 60
     readonly property real lineBelowChips: 12 // from the chips to the line above the add row
-    readonly property real addRowHeight: 44
+    readonly property real addRowHeight: DarkUI.capsuleAddRowHeight
     readonly property real addSquare: 22
     readonly property color addSquareFill: DarkUI.quietHover
     readonly property color addName: Qt.rgba(1, 1, 1, 0.72)

@@ -2,6 +2,7 @@
 
 #include "platform/Preferences.h"
 #include "platform/ReducedMotion.h"
+#include "surfaces/kit/tokens/Look.h"
 #include "tracking/DashFormat.h"
 
 #include <algorithm>
@@ -16,7 +17,7 @@ constexpr Seconds kTickTolerance{0.2};
 constexpr Seconds kRetagHold{1.6};
 constexpr Seconds kFade{0.28};
 constexpr double kChipsBelowRow = 2; // px between the row and the chips
-constexpr double kAddRowHeight = 44;
+constexpr double kAddRowHeight = look::kLengths.capsuleAddRowHeight;
 constexpr double kAddRowTarget = 28; // of the square and its words
 
 bool showsAddRow(const NotchCapsule::Form& form) {

@@ -50,8 +50,6 @@ public:
     SkillPopoverEditor(Mode mode, std::optional<Skill> skill,
                        std::function<void(const Result&)> onResult);
 
-    static constexpr int width = 284; ///< px
-
     [[nodiscard]] Mode mode() const { return m_mode; }
     [[nodiscard]] QString title() const;
     [[nodiscard]] QString subtitle() const;

@@ -184,6 +184,8 @@ class DarkUI : public QObject {
     LOOK_LENGTH(scrollbarInset) LOOK_LENGTH(edgeFadeLength) LOOK_LENGTH(stripHeight)
     LOOK_LENGTH(stripButtonSize) LOOK_LENGTH(navRowHeight) LOOK_LENGTH(pageDotSize)
     LOOK_LENGTH(pagerButtonSize) LOOK_LENGTH(pointDiscSize) LOOK_LENGTH(personaDiscSize)
+    LOOK_LENGTH(capsuleInset) LOOK_LENGTH(capsuleRowHeight)
+    LOOK_LENGTH(capsuleChipSize) LOOK_LENGTH(capsuleAddRowHeight)
     LOOK_LENGTH(posterWidth) LOOK_LENGTH(popoverWidth) LOOK_LENGTH(commandCenterWidth)
     LOOK_LENGTH(backfillChipWidth) LOOK_LENGTH(cardWidth) LOOK_LENGTH(cardRight)
     LOOK_LENGTH(cardTop)

@@ -298,6 +298,10 @@ struct Lengths {
     int popoverWidth = 284;
     int commandCenterWidth = 360;
     int backfillChipWidth = 40;
+    int capsuleInset = 18;     ///< of all that stands in it, from the left and the right
+    int capsuleRowHeight = 58; ///< dot, skill line, clock and round chip
+    int capsuleChipSize = 26;  ///< the round one
+    int capsuleAddRowHeight = 44;
     int cardWidth = 380; ///< corner cards and alerts
     int cardRight = 12;  ///< from the right edge of the screen's free area
     int cardTop = 10;
