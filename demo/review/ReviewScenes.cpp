@@ -6,6 +6,7 @@
 #include "surfaces/wrapped/WrappedView.h"
 #include "surfaces/wrapped/poster/SharePng.h"
 #include "tracking/NotificationCenter.h"
+#include "tracking/Settings.h"
 #include "windows/SampleYear.h"
 
 #include <array>
@@ -46,7 +47,7 @@ public:
 
 private:
     WrappedView::Environment environment(WrappedPeriod period, const QString& duration) {
-        m_preferences.setString(QLatin1String(durationstyle::defaultsKey), duration);
+        m_preferences.setString(settings::durationStyle.key(), duration);
         return {.notifications = m_notifications,
                 .preferences = m_preferences,
                 .model = m_model,

@@ -1,5 +1,6 @@
 #include "gallery/Scenes.h"
 #include "surfaces/settings/SettingsWorld.h"
+#include "tracking/Settings.h"
 #include "windows/SampleYear.h"
 
 #include <QEventLoop>
@@ -19,8 +20,8 @@ public:
         idleSource.fix(0);
         time.shiftWall(epochSeconds(sampleNow()) - epochSeconds(time.now()));
         autostart.registered = true;
-        preferences.setBoolean(FocusLink::enabledKey, true);
-        preferences.setString(FocusLink::startShortcutKey, QStringLiteral("Deep Work On"));
+        settings::focusLinked.write(preferences, true);
+        settings::startShortcut.write(preferences, QStringLiteral("Deep Work On"));
     }
 
     QByteArray shortcuts = "Deep Work On\nDeep Work Off\nCall Mode\n";
@@ -107,8 +108,8 @@ double end(const QList<QQuickItem*>& sections) {
     return sections.last()->y(); // which is more than there is to scroll
 }
 
-Scene settings(const char* name, Prepare prepare, Place place,
-               std::function<void(SettingsView&)> then = {}) {
+Scene settingsScene(const char* name, Prepare prepare, Place place,
+                    std::function<void(SettingsView&)> then = {}) {
     Scene made = framedScene(name);
     made.properties = [=](QObject* owner) {
         auto* const world = new DemoSettings(owner);
@@ -136,7 +137,7 @@ QQuickItem* buttonNamed(QQuickItem* item, const QString& name) {
 }
 
 Scene eraseQuestion() {
-    Scene made = settings("settings-erase-confirm", {}, end);
+    Scene made = settingsScene("settings-erase-confirm", {}, end);
     made.arrange = [](QQuickItem& frame) {
         auto* const erase = buttonNamed(&frame, QStringLiteral("Erase everything"));
         QMetaObject::invokeMethod(erase, "focusByKeyboard");
@@ -150,25 +151,25 @@ Scene eraseQuestion() {
 } // namespace
 
 QList<Scene> settingsScenes() {
-    Scene first = settings("settings", {}, section(0));
+    Scene first = settingsScene("settings", {}, section(0));
     first.twice = true;
     return {first,
-            settings("settings-ceremony", {}, section(1)),
-            settings("settings-apps", {}, endOf(2)),
-            settings("settings-long-names", useLongNames, endOf(2)),
-            settings("settings-general", {}, end),
+            settingsScene("settings-ceremony", {}, section(1)),
+            settingsScene("settings-apps", {}, endOf(2)),
+            settingsScene("settings-long-names", useLongNames, endOf(2)),
+            settingsScene("settings-general", {}, end),
             eraseQuestion(),
-            settings(
+            settingsScene(
                 "settings-no-shortcuts", [](DemoSettings& world) { world.shortcuts.clear(); },
                 section(0)),
-            settings(
+            settingsScene(
                 "settings-plain-desktop",
                 [](DemoSettings& world) {
                     world.hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};
                     world.tray.setShown(false);
                 },
                 section(3)),
-            settings(
+            settingsScene(
                 "settings-failures",
                 [](DemoSettings& world) {
                     world.hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};

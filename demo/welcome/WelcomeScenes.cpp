@@ -1,6 +1,7 @@
 #include "app/ModelWorld.h"
 #include "gallery/Scenes.h"
 #include "surfaces/welcome/WelcomeView.h"
+#include "tracking/Settings.h"
 
 #include <memory>
 
@@ -14,8 +15,8 @@ using namespace welcometext;
 class Newcomer final : public QObject {
 public:
     explicit Newcomer(QObject* owner) : QObject(owner) {
-        world.preferences.remove(preferencekeys::onboardDone);
-        world.preferences.setBoolean(preferencekeys::rippleDisabled, true);
+        settings::welcomeDone.remove(world.preferences);
+        settings::rippleDisabled.write(world.preferences, true);
         world.idleSource.fix(0);
         world.launch();
         view = std::make_unique<WelcomeView>(

@@ -1,11 +1,11 @@
 #include "app/AppModel.h"
 
-#include "app/PreferenceKeys.h"
 #include "base/Text.h"
 #include "platform/Preferences.h"
 #include "sensing/AutoSkillMonitor.h"
 #include "tracking/AppPaths.h"
 #include "tracking/NotificationCenter.h"
+#include "tracking/Settings.h"
 
 #include <utility>
 
@@ -83,13 +83,12 @@ void AppModel::quit() {
 }
 
 std::optional<QString> AppModel::projectName() const {
-    const QString name =
-        text::trimmed(m_env.preferences.string(preferencekeys::projectName).value_or(QString()));
+    const QString name = text::trimmed(settings::projectName.read(m_env.preferences));
     return name.isEmpty() ? std::nullopt : std::optional(name);
 }
 
 void AppModel::setProjectName(const QString& name) {
-    m_env.preferences.setString(preferencekeys::projectName, name);
+    settings::projectName.write(m_env.preferences, name);
 }
 
 } // namespace vantle

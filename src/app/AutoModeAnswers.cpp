@@ -1,12 +1,12 @@
 #include "app/AutoModeAnswers.h"
 
-#include "app/PreferenceKeys.h"
 #include "app/SessionFlow.h"
 #include "app/SkillCommands.h"
 #include "base/Clock.h"
 #include "platform/Preferences.h"
 #include "sensing/AutoSkillMonitor.h"
 #include "sensing/AutoSuggestion.h"
+#include "tracking/Settings.h"
 #include "tracking/SkillList.h"
 
 #include <QPointer>
@@ -84,7 +84,7 @@ void AutoModeAnswers::resolveTag(const QString& bundleId,
 }
 
 void AutoModeAnswers::offerRule(const QString& chosenSkillId) {
-    if (!m_env.preferences.boolean(preferencekeys::autoModeEnabled).value_or(true)) return;
+    if (!settings::autoMode.read(m_env.preferences)) return;
     const auto application = m_env.monitor.frontmostAppForCorrection();
     if (!application) return;
     const QString bundleId = application->bundleId;

@@ -1,18 +1,16 @@
 #include "app/PracticeSessions.h"
 
-#include "app/PreferenceKeys.h"
 #include "platform/Preferences.h"
+#include "tracking/Settings.h"
 #include "tracking/TrackerCore.h"
 
 namespace vantle {
 
-bool PracticeSessions::needsWelcome() const {
-    return !m_preferences.flag(preferencekeys::onboardDone);
-}
+bool PracticeSessions::needsWelcome() const { return !settings::welcomeDone.read(m_preferences); }
 
 void PracticeSessions::finishWelcome() {
-    m_preferences.setBoolean(preferencekeys::onboardDone, true);
-    m_preferences.remove(preferencekeys::onboardStage);
+    settings::welcomeDone.write(m_preferences, true);
+    settings::welcomeStage.remove(m_preferences);
 }
 
 void PracticeSessions::markOpenSession() {

@@ -2,12 +2,12 @@
 
 #include "app/ActionNote.h"
 #include "app/PracticeSessions.h"
-#include "app/PreferenceKeys.h"
 #include "app/SessionSurfaces.h"
 #include "platform/FrontmostApp.h"
 #include "platform/Preferences.h"
 #include "sensing/AutoSkillMonitor.h"
 #include "sensing/FocusLink.h"
+#include "tracking/Settings.h"
 #include "tracking/SkillList.h"
 
 #include <QPointer>
@@ -69,7 +69,7 @@ void SessionFlow::begin() {
 // Commands
 
 void SessionFlow::onHotKeyPressed() {
-    m_env.preferences.setBoolean(preferencekeys::hotkeyHintShown, true);
+    settings::hotKeyHintShown.write(m_env.preferences, true);
     toggle(SessionCause::HotKey);
 }
 
@@ -195,7 +195,7 @@ std::optional<QString> SessionFlow::bundleIdInFront() const {
 // The skill of the next start
 
 void SessionFlow::choose(const QString& id) {
-    m_env.preferences.setString(QLatin1String(TrackerCore::lastUsedSkillKey), id);
+    settings::lastUsedSkill.write(m_env.preferences, id);
     chooseUnremembered(id);
 }
 
@@ -204,8 +204,8 @@ void SessionFlow::chooseUnremembered(const QString& id) {
 }
 
 void SessionFlow::restoreChoice() {
-    const auto lastUsed = m_env.preferences.string(QLatin1String(TrackerCore::lastUsedSkillKey));
-    chooseUnremembered(m_env.skills.by(lastUsed.value_or(QString())).id);
+    const QString lastUsed = settings::lastUsedSkill.read(m_env.preferences);
+    chooseUnremembered(m_env.skills.by(lastUsed).id);
 }
 
 void SessionFlow::showIdlePrompt() {

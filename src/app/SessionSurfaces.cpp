@@ -1,7 +1,6 @@
 #include "app/SessionSurfaces.h"
 
 #include "app/ActionNote.h"
-#include "app/PreferenceKeys.h"
 #include "app/RecoveryWords.h"
 #include "app/TopRightCardSlot.h"
 #include "base/Clock.h"
@@ -9,6 +8,7 @@
 #include "platform/ReducedMotion.h"
 #include "tracking/CrashRecovery.h"
 #include "tracking/DurationStyle.h"
+#include "tracking/Settings.h"
 #include "tracking/SkillList.h"
 #include "tracking/Totals.h"
 
@@ -39,7 +39,7 @@ bool SessionSurfaces::isIdle() const { return m_env.tracker.state() == TrackerCo
 
 void SessionSurfaces::showSession(const Skill& skill, bool byAutoMode) {
     const bool ceremonyPlays =
-        !m_env.preferences.flag(preferencekeys::rippleDisabled) && !m_env.reducedMotion.enabled();
+        !settings::rippleDisabled.read(m_env.preferences) && !m_env.reducedMotion.enabled();
     const QPointer self(this);
     m_collaborators.notch->show(
         m_env.tracker, skill, m_env.skills.all(), !ceremonyPlays,
@@ -75,9 +75,8 @@ void SessionSurfaces::showSummary(const Session& session, bool isPractice, bool 
     std::erase_if(sessions, [&](const Session& other) { return other.id == session.id; });
     const std::int64_t dotsBefore = totals::hourDotCount(sessions, now);
     content.newHours = std::max<std::int64_t>(dotsNow - dotsBefore, 0);
-    content.showHotkeyHint =
-        !suppressHint && !m_env.preferences.flag(preferencekeys::hotkeyHintShown);
-    if (content.showHotkeyHint) m_env.preferences.setBoolean(preferencekeys::hotkeyHintShown, true);
+    content.showHotkeyHint = !suppressHint && !settings::hotKeyHintShown.read(m_env.preferences);
+    if (content.showHotkeyHint) settings::hotKeyHintShown.write(m_env.preferences, true);
     content.spotlightNote = isPractice;
     m_collaborators.stopSummary->show(content, [self = QPointer(this), isPractice, id = session.id](
                                                    const std::optional<QString>& note) {
@@ -118,10 +117,10 @@ void SessionSurfaces::showIdlePrompt(const Skill& next) {
 }
 
 void SessionSurfaces::flashIntroductionIfNeeded() {
-    if (m_env.preferences.flag(preferencekeys::notchIntroFlashed) || !isIdle() ||
+    if (settings::notchIntroFlashed.read(m_env.preferences) || !isIdle() ||
         m_env.reducedMotion.enabled())
         return;
-    m_env.preferences.setBoolean(preferencekeys::notchIntroFlashed, true);
+    settings::notchIntroFlashed.write(m_env.preferences, true);
     afterDelay(kIntroDelay, [this] {
         if (!isIdle()) return;
         m_collaborators.notch->flashIdleCard();
@@ -133,7 +132,7 @@ void SessionSurfaces::offerRecovery(const OpenSessionMarker& marker) {
     const auto candidate = recovery::recoveryCandidate(marker);
     if (!candidate) return;
     const RecoveryWords words =
-        recoveryWords(*candidate, durationstyle::current(m_env.preferences));
+        recoveryWords(*candidate, settings::durationStyle.read(m_env.preferences));
     m_env.note.say(words.found);
     const QPointer self(this);
     m_collaborators.recovery->show(

@@ -1,6 +1,6 @@
 #include "app/WeeklyReview.h"
 
-#include "platform/Preferences.h"
+#include "tracking/Settings.h"
 
 #include <algorithm>
 
@@ -21,15 +21,15 @@ std::optional<WeekInterval> lastWeekInterval(Date now, const Calendar& calendar)
     return WeekInterval{*lastWeek, *thisWeek};
 }
 
-QString wrappedSeenKey(Date forWeekContaining, const Calendar& calendar) {
-    const auto week = calendar.weekOfYear(forWeekContaining).value_or(Calendar::WeekOfYear{});
-    return QStringLiteral("wrapped.seen.%1-%2").arg(week.yearForWeekOfYear).arg(week.weekOfYear);
+Calendar::WeekOfYear weekOf(Date date, const Calendar& calendar) {
+    return calendar.weekOfYear(date).value_or(Calendar::WeekOfYear{});
 }
 
 std::optional<WeekInterval> unseenLastWeek(Date now, const Calendar& calendar,
                                            const Preferences& preferences) {
     const auto week = lastWeekInterval(now, calendar);
-    if (week && preferences.flag(wrappedSeenKey(week->start, calendar))) return std::nullopt;
+    if (week && settings::reviewSeen.read(preferences, weekOf(week->start, calendar)))
+        return std::nullopt;
     return week;
 }
 

@@ -23,8 +23,8 @@ struct WeekInterval {
 /// The calendar's week before the one that holds `now`. Empty when the calendar can't tell.
 [[nodiscard]] std::optional<WeekInterval> lastWeekInterval(Date now, const Calendar& calendar);
 
-/// The preference that says that the review of the week was opened: "wrapped.seen.2026-9".
-[[nodiscard]] QString wrappedSeenKey(Date forWeekContaining, const Calendar& calendar);
+/// The week under which the review of the one that holds the date is kept as seen.
+[[nodiscard]] Calendar::WeekOfYear weekOf(Date date, const Calendar& calendar);
 
 /// Last week, if its review was not looked at yet. Empty: then the log need not be asked.
 [[nodiscard]] std::optional<WeekInterval> unseenLastWeek(Date now, const Calendar& calendar,

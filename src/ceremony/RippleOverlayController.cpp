@@ -12,6 +12,7 @@
 #include "platform/Preferences.h"
 #include "platform/ReducedMotion.h"
 #include "platform/Screens.h"
+#include "tracking/Settings.h"
 
 #include <QPointer>
 
@@ -77,7 +78,7 @@ CeremonyVariant RippleOverlayController::pickVariant() {
 
 void RippleOverlayController::play(CeremonyShow show, std::uint32_t hexRGB,
                                    const std::optional<QString>& skillName) {
-    if (m_env.preferences.flag(disabledDefaultsKey) || !m_env.host.hasInputRegions()) return;
+    if (settings::rippleDisabled.read(m_env.preferences) || !m_env.host.hasInputRegions()) return;
     dismiss();
     ++m_generation;
     const Date start = m_env.clock.now();
@@ -143,7 +144,7 @@ void RippleOverlayController::playWebCeremony(CeremonyShow show, CeremonyVariant
                                               const std::optional<QString>& skillName) {
     m_webViewCount = 0;
     m_webDoneCount = 0;
-    const bool blackout = m_env.preferences.boolean(blackoutDefaultsKey).value_or(true);
+    const bool blackout = settings::ceremonyBlackout.read(m_env.preferences);
     const QString script = ceremonypage::script(
         ceremonypage::configuration(show, variant, hexRGB, skillName, blackout));
     for (const QRect& frame : screenFrames()) {

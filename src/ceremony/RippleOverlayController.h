@@ -29,9 +29,6 @@ class RippleOverlayController final : public QObject, public collaborators::Ripp
     Q_OBJECT
 
 public:
-    static constexpr QLatin1String disabledDefaultsKey{"ripple.disabled"}; ///< bool
-    static constexpr QLatin1String blackoutDefaultsKey{
-        "ceremony.blackout"}; ///< bool, true if absent
     static constexpr const char* prepQueueLabel = "local.vantle.ceremony-prep";
 
     /// Makes the native show of one screen ready. Called on `prepQueue`.

@@ -10,6 +10,7 @@
 #include "surfaces/cards/RetagToastController.h"
 #include "surfaces/cards/StopSummaryController.h"
 #include "surfaces/cards/TagPromptController.h"
+#include "tracking/Settings.h"
 
 #include <QPointer>
 
@@ -18,9 +19,6 @@
 namespace vantle {
 
 namespace {
-
-/// The program has tried once to start at login. Whoever turns that off later stays off.
-constexpr QLatin1String kLoginAutoRegistered("login.autoRegistered");
 
 /// In which a tray has placed an item that has just come; where it has not, the panel opens in the
 /// corner of the screen.
@@ -96,8 +94,8 @@ void AppDelegate::showFirstPanel() {
 }
 
 void AppDelegate::registerLoginItemOnce() {
-    if (m_platform.preferences.flag(kLoginAutoRegistered)) return;
-    m_platform.preferences.setBoolean(kLoginAutoRegistered, true);
+    if (settings::loginAutoRegistered.read(m_platform.preferences)) return;
+    settings::loginAutoRegistered.write(m_platform.preferences, true);
     if (!m_platform.autostart.isRegistered()) m_platform.autostart.registerItem().ignore();
 }
 

@@ -3,6 +3,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Preferences.h"
 #include "platform/WholeFile.h"
+#include "tracking/Settings.h"
 
 #include <QUuid>
 
@@ -59,7 +60,7 @@ AppInstaller::AppInstaller(const Preferences& preferences, FileSystem& files, Pl
     , m_operations(std::move(operations)) {}
 
 bool AppInstaller::offerMoveToApplicationsIfNeeded() {
-    if (m_preferences.flag(skipPromptKey)) return false;
+    if (settings::skipInstallPrompt.read(m_preferences)) return false;
     if (installlocation::isProper(m_place.program, m_place.home)) return false;
     const QString target = installlocation::target(m_place.home);
     if (!wantsMove() || !mayReplace(target)) return false;

@@ -20,8 +20,6 @@ class Preferences;
 /// program from running: what fails ends in words and a folder shown.
 class AppInstaller {
 public:
-    static constexpr QLatin1String skipPromptKey{"dev.skipInstallPrompt"}; ///< bool
-
     struct Place {
         QString program; ///< this program's own file, absolute and free of links
         QString home;    ///< the person's home, likewise

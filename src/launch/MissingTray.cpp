@@ -2,6 +2,7 @@
 
 #include "platform/Preferences.h"
 #include "platform/TrayItem.h"
+#include "tracking/Settings.h"
 
 #include <utility>
 
@@ -17,10 +18,10 @@ constexpr Seconds kTrayPatience{2};
 MissingTray::MissingTray(Environment environment) : m_env(std::move(environment)) {}
 
 void MissingTray::panelOpened() {
-    if (m_env.preferences.flag(toldKey)) return;
+    if (settings::trayAbsenceTold.read(m_env.preferences)) return;
     m_check = m_env.scheduler.scheduleOnce(kTrayPatience, [this] {
         if (m_env.tray.isShown() || !m_env.canBeTold()) return;
-        m_env.preferences.setBoolean(toldKey, true);
+        settings::trayAbsenceTold.write(m_env.preferences, true);
         m_env.tell(QStringLiteral("No tray here: open Vantle again to get this panel back"));
     });
 }

@@ -17,8 +17,6 @@ class TrayItem;
 /// installation's life. Main thread.
 class MissingTray {
 public:
-    static constexpr QLatin1String toldKey{"tray.absence.told"}; ///< bool
-
     /// All of it must outlive this.
     struct Environment {
         Scheduler& scheduler;

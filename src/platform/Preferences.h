@@ -33,9 +33,6 @@ public:
     /// Returns when all changes so far are in the file, as far as that is possible.
     virtual void synchronize() = 0;
 
-    /// Whether the key holds true; absent counts as false.
-    [[nodiscard]] bool flag(const QString& key) const { return boolean(key).value_or(false); }
-
 Q_SIGNALS:
     /// After any write or removal through this object, within the call.
     void changed(const QString& key);

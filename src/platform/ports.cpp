@@ -11,6 +11,7 @@
 #include "platform/PanelHost.h"
 #include "platform/Platform.h"
 #include "platform/PointerPresses.h"
+#include "platform/Preference.h"
 #include "platform/Preferences.h"
 #include "platform/ProcessRunner.h"
 #include "platform/ReducedMotion.h"

@@ -3,6 +3,7 @@
 #include "app/WeeklyReview.h"
 #include "platform/Preferences.h"
 #include "tracking/DashFormat.h"
+#include "tracking/Settings.h"
 
 #include <algorithm>
 #include <utility>
@@ -117,7 +118,7 @@ std::optional<NarrativeQuestion> narrativeQuestion(const WrappedStats& stats, Du
 
 void markLastWeekSeen(Date now, const Calendar& calendar, Preferences& preferences) {
     if (const auto week = weeklyreview::lastWeekInterval(now, calendar))
-        preferences.setBoolean(weeklyreview::wrappedSeenKey(week->start, calendar), true);
+        settings::reviewSeen.write(preferences, weeklyreview::weekOf(week->start, calendar), true);
 }
 
 } // namespace wrappedreview

@@ -5,6 +5,7 @@
 #include "platform/Preferences.h"
 #include "sensing/AutoSuggestion.h"
 #include "sensing/IdleMonitor.h"
+#include "tracking/Settings.h"
 
 #include <QPointer>
 
@@ -17,7 +18,7 @@ AutoSkillMonitor::AutoSkillMonitor(const Environment& environment)
     , m_rules({environment.clock, environment.scheduler, environment.ioQueue, environment.paths,
                environment.skills}) {
     // Later, so that whoever writes several preferences is done with all of them.
-    connect(&m_env.preferences, &Preferences::changed, this, [this] {
+    settings::autoMode.watch(m_env.preferences, this, [this] {
         m_env.scheduler.post([self = QPointer(this)] {
             if (self) self->refreshFromDefaults();
         });
@@ -178,13 +179,9 @@ std::optional<Application> AutoSkillMonitor::frontmostAppForCorrection() {
 
 // What is known of the world
 
-bool AutoSkillMonitor::isEnabled() const {
-    return m_env.preferences.boolean(QLatin1String(enabledKey)).value_or(true);
-}
+bool AutoSkillMonitor::isEnabled() const { return settings::autoMode.read(m_env.preferences); }
 
-bool AutoSkillMonitor::isAutoStartOn() const {
-    return m_env.preferences.flag(QLatin1String(autoStartKey));
-}
+bool AutoSkillMonitor::isAutoStartOn() const { return settings::autoStart.read(m_env.preferences); }
 
 bool AutoSkillMonitor::isInFront(const QString& bundleId) {
     const auto app = m_env.frontmostApp.frontmost();

@@ -32,9 +32,6 @@ class AutoSkillMonitor final : public QObject {
     Q_OBJECT
 
 public:
-    static constexpr const char* enabledKey = "auto.enabled";     ///< bool, true when absent
-    static constexpr const char* autoStartKey = "auto.autostart"; ///< bool, false when absent
-
     static constexpr double retagDwellSeconds = RetagBank::dwellSeconds;
     static constexpr double retagGraceSeconds = RetagBank::graceSeconds;
     static constexpr double autoStartDwellSeconds = 120; ///< also the limit of idle time
@@ -62,7 +59,7 @@ public:
     /// Which application belongs to which skill.
     [[nodiscard]] AutoRules& rules() { return m_rules; }
 
-    /// Starts or stops as "auto.enabled" says. Follows changes of the preference by itself.
+    /// Starts or stops as `settings::autoMode` says. Follows changes of the preference by itself.
     void refreshFromDefaults();
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
 

@@ -1,6 +1,5 @@
 #include "sensing/FocusLink.h"
 
-#include "platform/Preferences.h"
 #include "platform/ProcessRunner.h"
 
 #include <QStringDecoder>
@@ -30,9 +29,9 @@ void FocusLink::listShortcuts(std::function<void(const QStringList&)> completion
         [completion = std::move(completion)](const auto& output) { completion(namesIn(output)); });
 }
 
-void FocusLink::run(QLatin1String nameKey) {
-    if (!m_preferences.flag(enabledKey)) return;
-    const QString name = m_preferences.string(nameKey).value_or(QString());
+void FocusLink::run(const Preference<QString>& shortcut) {
+    if (!settings::focusLinked.read(m_preferences)) return;
+    const QString name = shortcut.read(m_preferences);
     if (name.isEmpty()) return;
     (void)m_runner.startDetached({m_tool, {QStringLiteral("run"), name}}); // silent when it fails
 }

@@ -2,7 +2,8 @@
 // like.
 #pragma once
 
-#include <QLatin1String>
+#include "tracking/Settings.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -18,10 +19,6 @@ class ProcessRunner;
 /// on one.
 class FocusLink {
 public:
-    static constexpr QLatin1String enabledKey{"focus.linked"};               ///< bool
-    static constexpr QLatin1String startShortcutKey{"focus.shortcut.start"}; ///< string: a name
-    static constexpr QLatin1String stopShortcutKey{"focus.shortcut.stop"};   ///< string: a name
-
     /// `tool` is the absolute path of the shortcuts tool. Both references must outlive this.
     FocusLink(Preferences& preferences, ProcessRunner& runner, QString tool);
 
@@ -29,11 +26,11 @@ public:
     /// event loop, or never when the runner goes first.
     void listShortcuts(std::function<void(const QStringList&)> completion);
 
-    void sessionStarted() { run(startShortcutKey); }
-    void sessionEnded() { run(stopShortcutKey); }
+    void sessionStarted() { run(settings::startShortcut); }
+    void sessionEnded() { run(settings::stopShortcut); }
 
 private:
-    void run(QLatin1String nameKey);
+    void run(const Preference<QString>& shortcut);
 
     Preferences& m_preferences;
     ProcessRunner& m_runner;

@@ -1,5 +1,7 @@
 #include "sensing/IdleMonitor.h"
 
+#include "tracking/Settings.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -26,8 +28,7 @@ IdleMonitor::IdleMonitor(const Clock& clock, Scheduler& scheduler, IdleSource& s
 IdleMonitor::~IdleMonitor() { stop(); }
 
 double IdleMonitor::thresholdSeconds() const {
-    const double stored = m_preferences.number(QLatin1String(thresholdDefaultsKey)).value_or(0.0);
-    return stored >= minimumThreshold ? stored : defaultThreshold;
+    return settings::idleThresholdSeconds.read(m_preferences);
 }
 
 void IdleMonitor::start() {

@@ -28,10 +28,7 @@ class IdleMonitor final : public ActivityEvidence {
     Q_OBJECT
 
 public:
-    static constexpr double pollInterval = 10.0;      ///< seconds
-    static constexpr double defaultThreshold = 180.0; ///< seconds
-    static constexpr double minimumThreshold = 10.0;  ///< seconds
-    static constexpr const char* thresholdDefaultsKey = "idle.thresholdSeconds";
+    static constexpr double pollInterval = 10.0; ///< seconds
 
     /// All must outlive the monitor. It is stopped at first.
     IdleMonitor(const Clock& clock, Scheduler& scheduler, IdleSource& source, ScreenPower& screens,
@@ -39,8 +36,7 @@ public:
     ~IdleMonitor() override;
 
     /// From how many seconds without input on the person counts as away. Read from the preferences
-    /// at each use, so a change holds from the next reading on; a stored value under 10 counts as
-    /// none.
+    /// at each use, so a change holds from the next reading on.
     [[nodiscard]] double thresholdSeconds() const;
 
     /// Begins to watch, with a reading at once. Nothing when started already.

@@ -1,8 +1,8 @@
 #include "tracking/DurationStyle.h"
 
-#include "platform/Preferences.h"
 #include "tracking/DashFormat.h"
 #include "tracking/NotificationCenter.h"
+#include "tracking/Settings.h"
 
 namespace vantle::durationstyle {
 
@@ -45,13 +45,8 @@ QString sample(DurationStyle style) {
     return dashformat::inlineHours(kSampleHours, style);
 }
 
-DurationStyle current(const Preferences& preferences) {
-    const auto stored = preferences.string(QLatin1String(defaultsKey));
-    return stored ? fromRawValue(*stored).value_or(DurationStyle::Natural) : DurationStyle::Natural;
-}
-
 void adopt(DurationStyle style, Preferences& preferences, NotificationCenter& notifications) {
-    preferences.setString(QLatin1String(defaultsKey), rawValue(style));
+    settings::durationStyle.write(preferences, style);
     Q_EMIT notifications.HFSessionsChanged();
 }
 

@@ -1,6 +1,8 @@
 // The four ways of writing a duration, and the person's choice among them.
 #pragma once
 
+#include "platform/Preference.h"
+
 #include <QString>
 
 #include <array>
@@ -9,13 +11,11 @@
 namespace vantle {
 
 class NotificationCenter;
-class Preferences;
 
 enum class DurationStyle { Natural, HoursMinutes, Minutes, Clock };
 
 namespace durationstyle {
 
-inline constexpr const char* defaultsKey = "format.duration";
 inline constexpr std::array all = {DurationStyle::Natural, DurationStyle::HoursMinutes,
                                    DurationStyle::Minutes, DurationStyle::Clock};
 
@@ -29,11 +29,20 @@ inline constexpr std::array all = {DurationStyle::Natural, DurationStyle::HoursM
 /// 3 h 30 min 12 s in this style, the example in the settings.
 [[nodiscard]] QString sample(DurationStyle style);
 
-/// The person's choice; absent or unknown means Natural. Main thread.
-[[nodiscard]] DurationStyle current(const Preferences& preferences);
-
 /// Stores the choice, and tells every history view before this returns. Main thread.
 void adopt(DurationStyle style, Preferences& preferences, NotificationCenter& notifications);
 
 } // namespace durationstyle
+
+template <>
+struct PreferenceForm<DurationStyle> {
+    static std::optional<DurationStyle> read(const Preferences& store, const QString& key) {
+        const std::optional<QString> text = store.string(key);
+        return text ? durationstyle::fromRawValue(*text) : std::nullopt;
+    }
+    static void write(Preferences& store, const QString& key, DurationStyle value) {
+        store.setString(key, durationstyle::rawValue(value));
+    }
+};
+
 } // namespace vantle

@@ -6,6 +6,7 @@
 #include "platform/Preferences.h"
 #include "tracking/AppPaths.h"
 #include "tracking/JsonForm.h"
+#include "tracking/Settings.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -144,7 +145,7 @@ std::vector<Skill> SkillList::loadSkills() {
     if (!stored) {
         std::vector<Skill> seeds(Skill::defaults().begin(), Skill::defaults().end());
         if (saveSkills(seeds))
-            m_preferences.setInteger(QLatin1String(migrationKey), currentMigrationVersion);
+            settings::skillsMigrationVersion.write(m_preferences, currentMigrationVersion);
         return seeds;
     }
     std::vector<Skill> skills = sanitized(*stored);
@@ -154,13 +155,12 @@ std::vector<Skill> SkillList::loadSkills() {
 }
 
 void SkillList::migrate(std::vector<Skill>& skills) {
-    const QLatin1String key(migrationKey);
-    if (m_preferences.integer(key).value_or(0) >= currentMigrationVersion) return;
+    if (settings::skillsMigrationVersion.read(m_preferences) >= currentMigrationVersion) return;
     const bool renamed = renameOldDefaults(skills);
     const bool added = addMissingBuild(skills);
     // An unsaved change is tried again at the next launch.
     if ((renamed || added) && !saveSkills(skills)) return;
-    m_preferences.setInteger(key, currentMigrationVersion);
+    settings::skillsMigrationVersion.write(m_preferences, currentMigrationVersion);
 }
 
 bool SkillList::isTaken(const QString& name, const QString& exceptId) {
@@ -226,7 +226,7 @@ bool SkillList::remove(const QString& id) {
 void SkillList::resetAfterErase() {
     m_readError.reset();
     m_all.emplace(Skill::defaults().begin(), Skill::defaults().end());
-    m_preferences.setInteger(QLatin1String(migrationKey), currentMigrationVersion);
+    settings::skillsMigrationVersion.write(m_preferences, currentMigrationVersion);
     Q_EMIT changed();
 }
 

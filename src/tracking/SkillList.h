@@ -29,8 +29,7 @@ public:
     /// All three must outlive the list.
     SkillList(const AppPaths& paths, SerialQueue& ioQueue, Preferences& preferences);
 
-    /// Stored version of the one migration of the seed skills (integer, 0 when absent).
-    static constexpr const char* migrationKey = "skills.taxonomyMigrationVersion";
+    /// The version that the one migration of the seed skills leaves in the preferences.
     static constexpr int currentMigrationVersion = 1;
 
     [[nodiscard]] const std::vector<Skill>& all();

@@ -5,6 +5,7 @@
 #include "platform/Preferences.h"
 #include "tracking/AppPaths.h"
 #include "tracking/JsonForm.h"
+#include "tracking/Settings.h"
 
 #include <algorithm>
 #include <utility>
@@ -78,7 +79,7 @@ bool TrackerCore::open(const Skill& skill, Date from, int backfillMinutes) {
     setCurrentSkillId(skill.id);
     setStartedAt(from - minutesAsSeconds(backfillMinutes));
     setState(State::Running);
-    m_env.preferences.setString(QLatin1String(lastUsedSkillKey), skill.id);
+    settings::lastUsedSkill.write(m_env.preferences, skill.id);
     startTicking();
     if (!writeMarker()) {
         resetToIdle();

@@ -63,7 +63,6 @@ public:
     ~TrackerCore() override;
 
     static constexpr int maxBackfillMinutes = 30;
-    static constexpr const char* lastUsedSkillKey = "skill.lastUsed";
     static constexpr double futureStartTolerance = 300.0; ///< seconds
 
     // The session

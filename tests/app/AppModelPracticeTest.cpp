@@ -1,6 +1,7 @@
 // Sessions that leave nothing in the log, and those that must not be taken for them.
 #include "app/ModelWorld.h"
 #include "support/Text.h"
+#include "tracking/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +18,7 @@ protected:
 };
 
 TEST_F(AppModelPracticeTest, APracticeSessionIsShownButLeavesNoTraceInTheLog) {
-    world.preferences.remove(preferencekeys::onboardDone);
+    settings::welcomeDone.remove(world.preferences);
     launched();
     world.press();
     world.time.advance(60.0);
@@ -81,13 +82,13 @@ TEST_F(AppModelPracticeTest, DiscardingThePracticeSessionShowsNoSummary) {
 }
 
 TEST_F(AppModelPracticeTest, FinishingTheWelcomeIsRemembered) {
-    world.preferences.remove(preferencekeys::onboardDone);
-    world.preferences.setString(preferencekeys::onboardStage, text("3"));
+    settings::welcomeDone.remove(world.preferences);
+    settings::welcomeStage.write(world.preferences, text("3"));
     AppModel& model = launched();
     EXPECT_TRUE(model.needsWelcome());
     model.markWelcomeDone();
     EXPECT_FALSE(model.needsWelcome());
-    EXPECT_EQ(world.preferences.string(preferencekeys::onboardStage), std::nullopt);
+    EXPECT_EQ(settings::welcomeStage.stored(world.preferences), std::nullopt);
 }
 
 } // namespace

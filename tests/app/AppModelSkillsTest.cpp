@@ -1,5 +1,6 @@
 #include "app/ModelWorld.h"
 #include "support/Text.h"
+#include "tracking/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -104,7 +105,7 @@ protected:
     /// A user's own list, in a file of that mode.
     void store(int mode) {
         world.disk.setContent(ModelWorld::file("skills.json"), kSkills, mode);
-        world.preferences.setInteger(QLatin1String(SkillList::migrationKey), 1);
+        settings::skillsMigrationVersion.write(world.preferences, 1);
     }
 
     const QByteArray kSkills = R"([{"builtin":false,"hexRGB":1193046,"id":"mine","name":"Mine"}])";

@@ -1,5 +1,6 @@
 #include "app/ModelWorld.h"
 #include "support/Text.h"
+#include "tracking/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -217,7 +218,7 @@ TEST_F(AppModelTest, TheIntroKeepsStillUnderReducedMotion) {
     model.flashIdleNotchIntroIfNeeded();
     world.time.advance(2.0);
     EXPECT_FALSE(world.told.has(text("notch flash idle")));
-    EXPECT_FALSE(world.preferences.flag(preferencekeys::notchIntroFlashed));
+    EXPECT_FALSE(settings::notchIntroFlashed.read(world.preferences));
 }
 
 TEST_F(AppModelTest, ButtonOfThePanelPulsesWithTheIntroductionOfTheCapsule) {

@@ -1,6 +1,7 @@
 // What becomes of auto mode's suggestions: the real monitor follows applications on virtual time.
 #include "app/ModelWorld.h"
 #include "support/Text.h"
+#include "tracking/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -30,7 +31,7 @@ protected:
 };
 
 TEST_F(AutoModeAnswersTest, AutoStartPlaysTheQuickShow) {
-    world.preferences.setBoolean(text(AutoSkillMonitor::autoStartKey), true);
+    settings::autoStart.write(world.preferences, true);
     world.settle();
     rule(editor, "marketing");
     world.workIn(editor, kStartDwell);
@@ -42,7 +43,7 @@ TEST_F(AutoModeAnswersTest, AutoStartPlaysTheQuickShow) {
 }
 
 TEST_F(AutoModeAnswersTest, StartByHandAfterAnAutoStartPlaysTheFullShow) {
-    world.preferences.setBoolean(text(AutoSkillMonitor::autoStartKey), true);
+    settings::autoStart.write(world.preferences, true);
     world.settle();
     rule(editor, "marketing");
     world.workIn(editor, kStartDwell);

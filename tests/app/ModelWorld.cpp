@@ -1,5 +1,7 @@
 #include "app/ModelWorld.h"
 
+#include "tracking/Settings.h"
+
 #include <algorithm>
 #include <cerrno>
 
@@ -150,7 +152,7 @@ ModelWorld::ModelWorld() {
         told.calls << QStringLiteral("focus ") + command.arguments.last();
     };
     idleSource.growFrom(0);
-    preferences.setBoolean(preferencekeys::onboardDone, true);
+    settings::welcomeDone.write(preferences, true);
 }
 
 ModelWorld::~ModelWorld() = default;
@@ -205,9 +207,9 @@ void ModelWorld::workIn(const Application& application, double seconds) {
 }
 
 void ModelWorld::linkShortcuts() {
-    preferences.setBoolean(FocusLink::enabledKey, true);
-    preferences.setString(FocusLink::startShortcutKey, QStringLiteral("started"));
-    preferences.setString(FocusLink::stopShortcutKey, QStringLiteral("ended"));
+    settings::focusLinked.write(preferences, true);
+    settings::startShortcut.write(preferences, QStringLiteral("started"));
+    settings::stopShortcut.write(preferences, QStringLiteral("ended"));
 }
 
 void ModelWorld::breakWrites(const QString& fileName, bool broken) {

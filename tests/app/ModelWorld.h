@@ -2,7 +2,6 @@
 #pragma once
 
 #include "app/AppModel.h"
-#include "app/PreferenceKeys.h"
 #include "fakes/FakeFrontmostApp.h"
 #include "fakes/FakeHotKeyPort.h"
 #include "fakes/FakeIdleSource.h"
@@ -18,6 +17,7 @@
 #include "support/QtPrinters.h"
 #include "tracking/AppPaths.h"
 #include "tracking/NotificationCenter.h"
+#include "tracking/Settings.h"
 #include "tracking/SkillList.h"
 
 #include <QStringList>

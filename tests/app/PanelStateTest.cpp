@@ -6,6 +6,7 @@
 #include "fakes/FakeScreenPower.h"
 #include "sensing/IdleMonitor.h"
 #include "support/Text.h"
+#include "tracking/Settings.h"
 #include "tracking/TrackingWorld.h"
 
 #include <gtest/gtest.h>
@@ -63,7 +64,7 @@ TEST_F(PanelStateTest, ReviewIsDueInTheWeekAfterTwoSessions) {
 TEST_F(PanelStateTest, WeekThatWasSeenReadsNoLog) {
     const auto week = weeklyreview::lastWeekInterval(time.now(), utc);
     ASSERT_TRUE(week);
-    preferences.setBoolean(weeklyreview::wrappedSeenKey(week->start, utc), true);
+    settings::reviewSeen.write(preferences, weeklyreview::weekOf(week->start, utc), true);
     EXPECT_FALSE(readsToRefresh());
 }
 

@@ -1,8 +1,8 @@
 // The rule alone, over a tracker without a model.
 #include "app/PracticeSessions.h"
 
-#include "app/PreferenceKeys.h"
 #include "support/Text.h"
+#include "tracking/Settings.h"
 #include "tracking/TrackingWorld.h"
 
 #include <gtest/gtest.h>
@@ -31,7 +31,7 @@ TEST_F(PracticeSessionsTest, SessionThatWasMarkedStaysPracticeAfterTheWelcome) {
     start();
     practice.finishWelcome();
     EXPECT_FALSE(practice.isOpen()) << "there was nothing to mark";
-    preferences.setBoolean(preferencekeys::onboardDone, false);
+    settings::welcomeDone.write(preferences, false);
     practice.markOpenSession();
     practice.finishWelcome();
     EXPECT_TRUE(practice.isOpen());

@@ -2,6 +2,7 @@
 
 #include "ceremony/CeremonyWorld.h"
 #include "fakes/VirtualTime.h"
+#include "tracking/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -24,9 +25,7 @@ protected:
         play(show);
         time.settle();
     }
-    void switchOff() {
-        world.preferences.setBoolean(RippleOverlayController::disabledDefaultsKey, true);
-    }
+    void switchOff() { settings::rippleDisabled.write(world.preferences, true); }
     [[nodiscard]] QList<Kind> kinds() const {
         QList<Kind> kinds;
         for (const ShownWindow& window : world.windows.all())
@@ -64,7 +63,7 @@ TEST_F(RippleOverlayControllerTest, SwitchedOffNothingHappensAndARunningShowIsNo
     EXPECT_FALSE(controller.isHardStopPending());
     EXPECT_EQ(controller.lastVariantIndex(), -1);
 
-    world.preferences.setBoolean(RippleOverlayController::disabledDefaultsKey, false);
+    settings::rippleDisabled.write(world.preferences, false);
     playReady(CeremonyShow::Full);
     switchOff();
     play(CeremonyShow::Collapse);

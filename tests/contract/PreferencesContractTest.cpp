@@ -94,7 +94,6 @@ TEST_P(PreferencesContract, AnAbsentKeyHasNoValueOfAnyType) {
     EXPECT_EQ(store().integer(kKey), std::nullopt);
     EXPECT_EQ(store().number(kKey), std::nullopt);
     EXPECT_EQ(store().string(kKey), std::nullopt);
-    EXPECT_FALSE(store().flag(kKey));
 }
 
 TEST_P(PreferencesContract, KeepsValuesOfEachTypeOverARestart) {
@@ -156,7 +155,6 @@ TEST_P(PreferencesContract, AValueThatIsNotOfTheTypeAskedForIsAbsent) {
     for (const char* text : {"2", "-1", "on", "truely"}) {
         store().setString(kKey, QLatin1String(text));
         EXPECT_EQ(store().boolean(kKey), std::nullopt) << text;
-        EXPECT_FALSE(store().flag(kKey)) << text;
     }
 }
 
@@ -164,7 +162,6 @@ TEST_P(PreferencesContract, ReadsTheFormsThatPeopleWrite) {
     for (const char* text : {"true", "1", "True", "TRUE"}) {
         store().setString(kKey, QLatin1String(text));
         EXPECT_EQ(store().boolean(kKey), true) << text;
-        EXPECT_TRUE(store().flag(kKey)) << text;
     }
     for (const char* text : {"false", "0", "False"}) {
         store().setString(kKey, QLatin1String(text));

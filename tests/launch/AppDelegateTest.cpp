@@ -26,7 +26,7 @@ TEST_F(AppDelegateTest, ASecondCopyShowsOnlyTheAlertAndLeavesTheSessionOfTheFirs
     EXPECT_FALSE(second->applicationDidFinishLaunching());
     EXPECT_EQ(alerts, 1);
     EXPECT_EQ(second->model(), nullptr);
-    EXPECT_FALSE(preferences.flag(text("login.autoRegistered")));
+    EXPECT_EQ(preferences.boolean(text("login.autoRegistered")), std::nullopt);
     EXPECT_EQ(first->model()->tracker().state(), State::Running);
     EXPECT_TRUE(exists("open-session.json"));
     second->applicationWillTerminate();

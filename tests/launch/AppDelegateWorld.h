@@ -1,7 +1,6 @@
 // A machine on which the program is launched, with everything on it made up.
 #pragma once
 
-#include "app/PreferenceKeys.h"
 #include "fakes/FakeCardStage.h"
 #include "fakes/FakeDesktop.h"
 #include "launch/AppDelegate.h"
@@ -9,6 +8,7 @@
 #include "support/Text.h"
 #include "surfaces/window/SharedEngine.h"
 #include "tracking/AppPaths.h"
+#include "tracking/Settings.h"
 
 #include <QWindow>
 
@@ -42,7 +42,7 @@ protected:
     AppDelegateWorld() {
         time.attach(ioQueue);
         time.attach(autoSkillQueue);
-        preferences.setBoolean(preferencekeys::onboardDone, true);
+        settings::welcomeDone.write(preferences, true);
         screens.shapes.clear(); // nothing to show the panel on, which takes its time
     }
 

@@ -6,6 +6,7 @@
 #include "launch/InstallLocation.h"
 #include "platform/WholeFile.h"
 #include "support/QtPrinters.h"
+#include "tracking/Settings.h"
 
 #include <QDir>
 #include <QFile>
@@ -131,7 +132,7 @@ TEST_F(AppInstallerTest, FromItsProperPlaceNothingIsAsked) {
 }
 
 TEST_F(AppInstallerTest, ThePreferenceOfDevelopersAsksNothing) {
-    m_preferences.setBoolean(AppInstaller::skipPromptKey, true);
+    settings::skipInstallPrompt.write(m_preferences, true);
     EXPECT_FALSE(launch({}));
     EXPECT_TRUE(m_alerts.empty());
 }

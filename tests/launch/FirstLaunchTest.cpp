@@ -3,6 +3,7 @@
 #include "support/QtPrinters.h"
 #include "surfaces/welcome/WelcomeView.h"
 #include "surfaces/window/WindowShell.h"
+#include "tracking/Settings.h"
 
 #include <QCoreApplication>
 
@@ -13,7 +14,7 @@ namespace {
 
 class FirstLaunchTest : public testing::Test, protected AppDelegateWorld {
 protected:
-    FirstLaunchTest() { preferences.remove(preferencekeys::onboardDone); }
+    FirstLaunchTest() { settings::welcomeDone.remove(preferences); }
 
     std::unique_ptr<AppDelegate> launch(bool atLogin = false) {
         auto app = makeCopy(atLogin);
@@ -103,7 +104,7 @@ TEST_F(FirstLaunchTest, ProgramThatEndsWithTheWelcomeOpenShowsItAgain) {
     app->performAction(text("quit"));
     app.reset();
     EXPECT_TRUE(log().empty());
-    EXPECT_FALSE(preferences.flag(preferencekeys::onboardDone));
+    EXPECT_FALSE(settings::welcomeDone.read(preferences));
     EXPECT_TRUE(showsWelcome(*launch()));
 }
 

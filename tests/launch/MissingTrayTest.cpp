@@ -4,6 +4,7 @@
 #include "fakes/MemoryPreferences.h"
 #include "fakes/VirtualTime.h"
 #include "support/QtPrinters.h"
+#include "tracking/Settings.h"
 
 #include <QStringList>
 
@@ -40,7 +41,7 @@ TEST_F(MissingTrayTest, IsToldOfOnce) {
 TEST_F(MissingTrayTest, IsNotToldOfWhereThereIsOne) {
     openPanel();
     EXPECT_EQ(m_told, QStringList());
-    EXPECT_FALSE(m_preferences.flag(MissingTray::toldKey));
+    EXPECT_FALSE(settings::trayAbsenceTold.read(m_preferences));
 }
 
 TEST_F(MissingTrayTest, ATrayThatShowsTheItemAMomentLaterIsNotMissed) {

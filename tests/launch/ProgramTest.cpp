@@ -6,6 +6,7 @@
 #include "support/QtPrinters.h"
 #include "support/Text.h"
 #include "surfaces/panel/FloatingPanel.h"
+#include "tracking/Settings.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -35,7 +36,7 @@ class ProgramTest : public testing::Test, protected fakes::FakeDesktop {
 protected:
     ProgramTest() {
         preferences.setBoolean(QLatin1String("onboard.done"), true);
-        preferences.setBoolean(AppInstaller::skipPromptKey, true);
+        settings::skipInstallPrompt.write(preferences, true);
         // The ceremony covers a screen of the toolkit's.
         const QRectF screen = QGuiApplication::primaryScreen()->geometry();
         screens.shapes = {{.frame = screen, .available = screen}};

@@ -204,7 +204,7 @@ TEST(WrappedReviewSeen, OpeningMarksTheWeekBefore) {
     fakes::MemoryPreferences preferences;
     const Calendar calendar = samples::calendarIn(QStringLiteral("UTC"));
     wrappedreview::markLastWeekSeen(samples::at(kNow), calendar, preferences);
-    EXPECT_TRUE(preferences.flag(QStringLiteral("wrapped.seen.2026-10")));
+    EXPECT_EQ(preferences.boolean(QStringLiteral("wrapped.seen.2026-10")), true);
     EXPECT_EQ(preferences.keys().size(), 1);
 }
 

@@ -1,5 +1,6 @@
 // When auto mode runs, and what it does about sessions.
 #include "sensing/AutoSkillWorld.h"
+#include "tracking/Settings.h"
 
 #include <gmock/gmock.h>
 
@@ -16,19 +17,19 @@ class AutoSkillMonitorTest : public testing::Test, protected AutoSkillWorld {};
 TEST_F(AutoSkillMonitorTest, RunsUnlessThePersonSwitchedItOff) {
     start();
     EXPECT_TRUE(monitor->isRunning());
-    set(AutoSkillMonitor::enabledKey, false);
+    set(settings::autoMode, false);
     EXPECT_FALSE(monitor->isRunning());
-    set(AutoSkillMonitor::enabledKey, true);
+    set(settings::autoMode, true);
     EXPECT_TRUE(monitor->isRunning());
 }
 
 TEST_F(AutoSkillMonitorTest, CountsTheApplicationInFrontFromWhenItIsSwitchedOn) {
     beRunning("marketing");
-    set(AutoSkillMonitor::enabledKey, false);
+    set(settings::autoMode, false);
     frontmost.application = xcode;
     start();
     time.advance(100);
-    set(AutoSkillMonitor::enabledKey, true);
+    set(settings::autoMode, true);
     time.advance(44.875);
     EXPECT_THAT(takeCalls(), IsEmpty());
     time.advance(0.125);
@@ -40,11 +41,11 @@ TEST_F(AutoSkillMonitorTest, SwitchedOffForgetsWhatItWaitedForAndHearsOfNoSwitch
     start();
     activate(xcode);
     time.advance(30);
-    set(AutoSkillMonitor::enabledKey, false);
+    set(settings::autoMode, false);
     EXPECT_EQ(time.timerCount(), 0u);
     activate(figma);
     EXPECT_EQ(time.timerCount(), 0u);
-    set(AutoSkillMonitor::enabledKey, true);
+    set(settings::autoMode, true);
     activate(xcode);
     time.advance(44.875);
     EXPECT_THAT(takeCalls(), IsEmpty()) << "the thirty seconds are forgotten";
@@ -358,7 +359,7 @@ TEST_F(AutoSkillMonitorTest, StartsNothingWhenThePersonChangedTheirMind) {
     start();
     activate(xcode);
     time.advance(60);
-    set(AutoSkillMonitor::autoStartKey, false);
+    set(settings::autoStart, false);
     time.advance(60);
     EXPECT_THAT(takeCalls(), IsEmpty());
 }

@@ -1,5 +1,6 @@
 // Auto mode against random switches, sessions, answers and preferences.
 #include "sensing/AutoSkillWorld.h"
+#include "tracking/Settings.h"
 
 #include <rapidcheck/gtest.h>
 
@@ -29,7 +30,7 @@ public:
         monitor->onAutoStart = [this](const QString& skill) {
             ++starts;
             RC_ASSERT(state == State::Idle);
-            RC_ASSERT(preferences.flag(QLatin1String(AutoSkillMonitor::autoStartKey)));
+            RC_ASSERT(settings::autoStart.read(preferences));
             RC_ASSERT(time.timerClock() - lastSwitchAt == 120.0);
             checkCause(skill);
             state = State::Running;
@@ -57,13 +58,12 @@ public:
             skillId = state == State::Idle ? std::nullopt : std::optional(anySkill());
             break;
         case 4:
-            set(AutoSkillMonitor::enabledKey,
-                any(rc::gen::weightedElement<bool>({{5, true}, {1, false}})));
+            set(settings::autoMode, any(rc::gen::weightedElement<bool>({{5, true}, {1, false}})));
             // Switched on, it takes what is in front for just activated.
             if (!wasRunning && monitor->isRunning()) lastSwitchAt = time.timerClock();
             break;
         case 5:
-            set(AutoSkillMonitor::autoStartKey, any(rc::gen::arbitrary<bool>()));
+            set(settings::autoStart, any(rc::gen::arbitrary<bool>()));
             break;
         case 6:
             answer();

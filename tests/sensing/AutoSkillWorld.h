@@ -3,6 +3,7 @@
 
 #include "sensing/AutoSkillMonitor.h"
 #include "sensing/AutoWorld.h"
+#include "tracking/Settings.h"
 
 #include <string>
 #include <utility>
@@ -36,11 +37,11 @@ struct AutoSkillWorld : AutoWorld {
         state = State::Running;
         skillId = text(skill);
     }
-    void set(const char* key, bool value) {
-        preferences.setBoolean(QLatin1String(key), value);
+    void set(const Preference<bool>& preference, bool value) {
+        preference.write(preferences, value);
         time.settle();
     }
-    void turnOnAutoStart() { set(AutoSkillMonitor::autoStartKey, true); }
+    void turnOnAutoStart() { set(settings::autoStart, true); }
     void start() { monitor->refreshFromDefaults(); }
     void activate(const Application& app) { frontmost.activate(app); }
 

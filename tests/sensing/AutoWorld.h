@@ -13,6 +13,7 @@
 #include "support/Text.h"
 #include "tracking/AppPaths.h"
 #include "tracking/JsonForm.h"
+#include "tracking/Settings.h"
 #include "tracking/SkillList.h"
 
 #include <gtest/gtest.h>
@@ -38,7 +39,7 @@ struct AutoWorld {
     /// The person has exactly these skills from now on.
     void setSkills(const std::vector<Skill>& list) {
         disk.setContent(QStringLiteral("/data/Vantle/skills.json"), json::encode(list));
-        skillPreferences.setInteger(QLatin1String(SkillList::migrationKey), 1);
+        settings::skillsMigrationVersion.write(skillPreferences, 1);
         skills.emplace(paths, queue, skillPreferences);
     }
 

@@ -3,6 +3,7 @@
 #include "fakes/FakeProcessRunner.h"
 #include "fakes/MemoryPreferences.h"
 #include "support/QtPrinters.h"
+#include "tracking/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -13,9 +14,9 @@ QString q(const char* text) { return QString::fromUtf8(text); }
 
 class FocusLinkTest : public testing::Test {
 protected:
-    void choose(QLatin1String key, const QString& name) {
-        m_preferences.setBoolean(FocusLink::enabledKey, true);
-        m_preferences.setString(key, name);
+    void choose(const Preference<QString>& shortcut, const QString& name) {
+        settings::focusLinked.write(m_preferences, true);
+        shortcut.write(m_preferences, name);
     }
     [[nodiscard]] Command running(const QString& name) const { return {m_tool, {q("run"), name}}; }
     [[nodiscard]] QStringList listed(std::optional<ProcessRunner::Output> output) {
@@ -32,37 +33,37 @@ protected:
 };
 
 TEST_F(FocusLinkTest, EachEndOfASessionRunsItsOwnShortcut) {
-    choose(FocusLink::startShortcutKey, q("Quiet"));
-    choose(FocusLink::stopShortcutKey, q("Loud"));
+    choose(settings::startShortcut, q("Quiet"));
+    choose(settings::stopShortcut, q("Loud"));
     m_link.sessionStarted();
     m_link.sessionEnded();
     EXPECT_EQ(m_runner.detached, (std::vector{running(q("Quiet")), running(q("Loud"))}));
 }
 
 TEST_F(FocusLinkTest, NothingRunsWhileItIsOff) {
-    choose(FocusLink::startShortcutKey, q("Quiet"));
-    m_preferences.setBoolean(FocusLink::enabledKey, false);
+    choose(settings::startShortcut, q("Quiet"));
+    settings::focusLinked.write(m_preferences, false);
     m_link.sessionStarted();
-    m_preferences.remove(FocusLink::enabledKey);
+    settings::focusLinked.remove(m_preferences);
     m_link.sessionStarted();
     EXPECT_TRUE(m_runner.detached.empty());
 }
 
 TEST_F(FocusLinkTest, StoppingWithNothingChosenStartsNoProcess) {
-    choose(FocusLink::startShortcutKey, q("Quiet"));
+    choose(settings::startShortcut, q("Quiet"));
     m_link.sessionEnded();
     EXPECT_TRUE(m_runner.detached.empty());
 }
 
 TEST_F(FocusLinkTest, EmptyNameCountsAsNone) {
-    choose(FocusLink::startShortcutKey, QString());
+    choose(settings::startShortcut, QString());
     m_link.sessionStarted();
     EXPECT_TRUE(m_runner.detached.empty());
 }
 
 TEST_F(FocusLinkTest, NameReachesTheToolAsOneUnchangedArgument) {
     const QString name = q(" Do \"not\" $(disturb); it's 'late' ");
-    choose(FocusLink::startShortcutKey, name);
+    choose(settings::startShortcut, name);
     m_link.sessionStarted();
     ASSERT_EQ(m_runner.detached.size(), 1U);
     EXPECT_EQ(m_runner.detached[0].arguments, (QStringList{q("run"), name}));
@@ -70,7 +71,7 @@ TEST_F(FocusLinkTest, NameReachesTheToolAsOneUnchangedArgument) {
 
 TEST_F(FocusLinkTest, ToolThatCannotBeStartedIsNoFailureOfTheSession) {
     m_runner.canStart = false;
-    choose(FocusLink::startShortcutKey, q("Quiet"));
+    choose(settings::startShortcut, q("Quiet"));
     m_link.sessionStarted();
     m_link.sessionStarted();
     EXPECT_EQ(m_runner.detached.size(), 2U);
@@ -90,7 +91,7 @@ TEST_F(FocusLinkTest, NamesKeepTheToolsOrderAndTheirBlanks) {
 
 TEST_F(FocusLinkTest, NameWithATrailingBlankIsPassedBackTheSameWay) {
     const QStringList names = listed({{0, "Quiet \n"}});
-    choose(FocusLink::startShortcutKey, names.value(0));
+    choose(settings::startShortcut, names.value(0));
     m_link.sessionStarted();
     EXPECT_EQ(m_runner.detached, std::vector{running(q("Quiet "))});
 }

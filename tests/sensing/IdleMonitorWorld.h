@@ -5,6 +5,7 @@
 #include "fakes/FakeScreenPower.h"
 #include "fakes/MemoryPreferences.h"
 #include "sensing/IdleMonitor.h"
+#include "tracking/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -42,7 +43,7 @@ protected:
     std::vector<std::string> takeCalls() { return std::exchange(calls, {}); }
 
     void setThreshold(double seconds) {
-        preferences.setNumber(QLatin1String(IdleMonitor::thresholdDefaultsKey), seconds);
+        settings::idleThresholdSeconds.write(preferences, seconds);
     }
 
     /// The person works for that long, with a keystroke just before each poll.

@@ -1,5 +1,6 @@
 // What the real auto mode starts while the user is away.
 #include "sim/Life.h"
+#include "tracking/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +13,7 @@ using State = TrackerCore::State;
 class AutoStartAwayTest : public testing::Test {
 protected:
     AutoStartAwayTest() {
-        world.preferences.setBoolean(QLatin1String(AutoSkillMonitor::autoStartKey), true);
+        settings::autoStart.write(world.preferences, true);
         world.settle();
         openEditor();
     }
@@ -52,7 +53,7 @@ TEST_F(AutoStartAwayTest, PasswordBeforeTheUnlockStartsNoSession) {
 }
 
 TEST_F(AutoStartAwayTest, SessionOfAUserWhoIsAwayStartsPausedAndCountsFromTheirReturn) {
-    world.preferences.setNumber(QLatin1String(IdleMonitor::thresholdDefaultsKey), 60.0);
+    settings::idleThresholdSeconds.write(world.preferences, 60.0);
     world.time.advance(15.0);
     world.idleSource.touch();
     // Away for 105 s when auto mode looks: enough for the monitor, too little for auto mode.

@@ -1,5 +1,7 @@
 #include "sim/Life.h"
 
+#include "tracking/Settings.h"
+
 #include <algorithm>
 #include <array>
 
@@ -26,7 +28,7 @@ std::optional<Application> application(std::size_t which) {
 } // namespace
 
 Life::Life(std::uint32_t seed) : m_random(seed) {
-    world.preferences.setBoolean(QLatin1String(AutoSkillMonitor::autoStartKey), seed % 3 != 0);
+    settings::autoStart.write(world.preferences, seed % 3 != 0);
     launch();
 }
 

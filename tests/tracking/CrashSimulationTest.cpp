@@ -1,6 +1,7 @@
 // The process dies, or the power fails, at every single call to the file system. After a fresh
 // start nothing that was logged is lost, nothing is logged twice, and of the open session at most
 // what its last marker did not know yet.
+#include "tracking/Settings.h"
 #include "tracking/TrackingWorld.h"
 
 #include <gmock/gmock.h>
@@ -267,7 +268,7 @@ TEST(CrashInAChangeOfSkills, LeavesTheOldListOrTheNewOne) {
     for (int n = 1; died; ++n) {
         fakes::MemoryFileSystem disk;
         fakes::MemoryPreferences preferences;
-        preferences.setInteger(QLatin1String(SkillList::migrationKey), 1);
+        settings::skillsMigrationVersion.write(preferences, 1);
         disk.setContent(path, json::encode(before));
         fakes::FaultyFileSystem files(disk);
         TrackingProcess process(files, preferences, samples::morning());

@@ -2,6 +2,7 @@
 
 #include "fakes/MemoryPreferences.h"
 #include "tracking/NotificationCenter.h"
+#include "tracking/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +11,7 @@ namespace {
 
 using enum DurationStyle;
 
-const QString kStyleKey = QLatin1String(durationstyle::defaultsKey);
+const QString kStyleKey = settings::durationStyle.key();
 
 TEST(DurationStyle, HasAStoredValueALabelAndASample) {
     const std::array<std::array<const char*, 3>, 4> expected = {{
@@ -30,13 +31,13 @@ TEST(DurationStyle, HasAStoredValueALabelAndASample) {
 
 TEST(DurationStyle, AbsentOrUnknownReadsAsNatural) {
     fakes::MemoryPreferences preferences;
-    EXPECT_EQ(durationstyle::current(preferences), Natural);
+    EXPECT_EQ(settings::durationStyle.read(preferences), Natural);
     for (const char* stored : {"", "Clock", " clock", "fortnights"}) {
         preferences.setString(kStyleKey, QLatin1String(stored));
-        EXPECT_EQ(durationstyle::current(preferences), Natural) << stored;
+        EXPECT_EQ(settings::durationStyle.read(preferences), Natural) << stored;
     }
     preferences.setString(kStyleKey, QStringLiteral("hoursMinutes"));
-    EXPECT_EQ(durationstyle::current(preferences), HoursMinutes);
+    EXPECT_EQ(settings::durationStyle.read(preferences), HoursMinutes);
 }
 
 TEST(DurationStyle, IsStoredBeforeHistoryViewsAreToldAndTheyAreToldAtOnce) {
@@ -45,7 +46,7 @@ TEST(DurationStyle, IsStoredBeforeHistoryViewsAreToldAndTheyAreToldAtOnce) {
     int told = 0;
     QObject::connect(&center, &NotificationCenter::HFSessionsChanged, [&] {
         ++told;
-        EXPECT_EQ(durationstyle::current(preferences), Clock);
+        EXPECT_EQ(settings::durationStyle.read(preferences), Clock);
     });
     durationstyle::adopt(Clock, preferences, center);
     EXPECT_EQ(told, 1);

@@ -1,6 +1,7 @@
 #include "tracking/SkillList.h"
 
 #include "support/Text.h"
+#include "tracking/Settings.h"
 #include "tracking/TrackingWorld.h"
 
 #include <gmock/gmock.h>
@@ -39,7 +40,7 @@ protected:
         return list;
     }
 
-    const QString key = QLatin1String(SkillList::migrationKey);
+    const QString key = settings::skillsMigrationVersion.key();
     const std::vector<Skill> seeds = samples::seeds();
 };
 

@@ -1,6 +1,7 @@
 #include "vectors/AutoRulesSteps.h"
 
 #include "tracking/JsonForm.h"
+#include "tracking/Settings.h"
 #include "vectors/NeutralRecords.h"
 #include "vectors/Script.h"
 
@@ -9,8 +10,7 @@ namespace vantle::vectors {
 void GivenSkills::set(const QJsonValue& skills) {
     m_folder.put(QStringLiteral("skills.json"),
                  FileImage{json::encode(skillsFromJson(skills)), 0600});
-    m_preferences.setInteger(QLatin1String(SkillList::migrationKey),
-                             SkillList::currentMigrationVersion);
+    settings::skillsMigrationVersion.write(m_preferences, SkillList::currentMigrationVersion);
     m_skills.emplace(m_folder.paths(), m_queue, m_preferences);
 }
 

@@ -1,6 +1,7 @@
 // How durations read in each of the styles. Grouping is that of en_US.
 #include "fakes/MemoryPreferences.h"
 #include "tracking/DashFormat.h"
+#include "tracking/Settings.h"
 #include "vectors/NeutralRecords.h"
 #include "vectors/forms.h"
 
@@ -27,10 +28,9 @@ QJsonValue statValue(double hours) {
 
 QJsonValue currentStyle(const QJsonValue& stored) {
     fakes::MemoryPreferences preferences;
-    if (stored.isString())
-        preferences.setString(QLatin1String(durationstyle::defaultsKey), stored.toString());
-    return QJsonObject{
-        {QStringLiteral("style"), durationstyle::rawValue(durationstyle::current(preferences))}};
+    if (stored.isString()) preferences.setString(settings::durationStyle.key(), stored.toString());
+    return QJsonObject{{QStringLiteral("style"),
+                        durationstyle::rawValue(settings::durationStyle.read(preferences))}};
 }
 
 /// As a list of objects where the case has `styles`, else as three lists.

@@ -3,6 +3,7 @@
 #include "fakes/FakeScreenPower.h"
 #include "fakes/MemoryPreferences.h"
 #include "sensing/IdleMonitor.h"
+#include "tracking/Settings.h"
 #include "vectors/Script.h"
 #include "vectors/forms.h"
 
@@ -40,7 +41,7 @@ public:
     }
 
 private:
-    static QLatin1String thresholdKey() { return QLatin1String(IdleMonitor::thresholdDefaultsKey); }
+    static QLatin1String thresholdKey() { return settings::idleThresholdSeconds.key(); }
 
     QJsonValue resultOf(const QJsonObject& event) {
         const QString op = operation(event);

@@ -1,6 +1,7 @@
 // overlay_control: what is played over the screens, on virtual time, and when it goes.
 #include "ceremony/CeremonyWorld.h"
 #include "fakes/VirtualTime.h"
+#include "tracking/Settings.h"
 #include "vectors/Script.h"
 #include "vectors/forms.h"
 
@@ -129,8 +130,7 @@ private:
     void set(const QJsonObject& values) {
         for (auto value = values.begin(); value != values.end(); ++value) {
             if (value.key() == QLatin1String("disabled"))
-                m_world.preferences.setBoolean(RippleOverlayController::disabledDefaultsKey,
-                                               value->toBool());
+                settings::rippleDisabled.write(m_world.preferences, value->toBool());
             else if (value.key() == QLatin1String("reducedMotion"))
                 m_world.reducedMotion.isOn = value->toBool();
             else if (value.key() == QLatin1String("pageExists"))

@@ -1,6 +1,7 @@
 // The list of skills: names, seeds, and scripts over its file.
 #include "fakes/MemoryPreferences.h"
 #include "fakes/VirtualTime.h"
+#include "tracking/Settings.h"
 #include "tracking/SkillList.h"
 #include "vectors/DataFolder.h"
 #include "vectors/NeutralRecords.h"
@@ -72,7 +73,7 @@ private:
     }
 
     const QString m_file = QStringLiteral("skills.json");
-    const QString m_versionKey = QLatin1String(SkillList::migrationKey);
+    const QString m_versionKey = settings::skillsMigrationVersion.key();
     DataFolder m_folder;
     fakes::ManualQueue m_queue;
     fakes::MemoryPreferences m_preferences;

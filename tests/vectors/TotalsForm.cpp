@@ -1,7 +1,8 @@
 // What the totals, the wall, the badges and the groups come to.
 #include "fakes/MemoryPreferences.h"
-#include "tracking/DailyGoal.h"
+#include "tracking/DashFormat.h"
 #include "tracking/SessionGroup.h"
+#include "tracking/Settings.h"
 #include "tracking/Totals.h"
 #include "tracking/TrackerCore.h"
 #include "vectors/NeutralRecords.h"
@@ -102,14 +103,13 @@ QJsonValue log(const QJsonObject& input) {
 QJsonValue goal(const QJsonObject& input) {
     fakes::MemoryPreferences preferences;
     const QJsonValue stored = input[QLatin1String("stored")];
-    if (stored.isDouble()) dailygoal::setHours(stored.toDouble(), preferences);
+    if (stored.isDouble()) settings::dailyGoalHours.write(preferences, stored.toDouble());
     const QJsonValue style = input[QLatin1String("style")];
-    if (style.isString())
-        preferences.setString(QLatin1String(durationstyle::defaultsKey), style.toString());
-    const double hours = dailygoal::hours(preferences);
-    return QJsonObject{
-        {QStringLiteral("hours"), hours},
-        {QStringLiteral("label"), dailygoal::label(hours, durationstyle::current(preferences))}};
+    if (style.isString()) preferences.setString(settings::durationStyle.key(), style.toString());
+    const double hours = settings::dailyGoalHours.read(preferences);
+    return QJsonObject{{QStringLiteral("hours"), hours},
+                       {QStringLiteral("label"),
+                        dashformat::inlineHours(hours, settings::durationStyle.read(preferences))}};
 }
 
 QJsonValue answer(const Case& item) {

@@ -3,6 +3,7 @@
 #include "app/RecoveryWords.h"
 #include "tracking/CrashRecovery.h"
 #include "tracking/JsonForm.h"
+#include "tracking/Settings.h"
 #include "vectors/Form.h"
 #include "vectors/NeutralRecords.h"
 #include "vectors/Script.h"
@@ -118,8 +119,7 @@ void TrackerWorld::setSkillIds(const QJsonValue& ids) {
             skills.push_back({id.toString(), id.toString().left(Skill::maxNameLength), 0, false});
         m_folder.put(QStringLiteral("skills.json"), FileImage{json::encode(skills), 0600});
     }
-    m_preferences.setInteger(QLatin1String(SkillList::migrationKey),
-                             SkillList::currentMigrationVersion);
+    settings::skillsMigrationVersion.write(m_preferences, SkillList::currentMigrationVersion);
     m_skills.emplace(m_folder.paths(), m_queue, m_preferences);
 }
 
@@ -264,22 +264,22 @@ std::optional<QJsonValue> TrackerWorld::performOnWorld(const QString& operation,
 QJsonObject TrackerWorld::state() {
     const TrackerCore& tracker = *m_tracker;
     const TrackerCore::Internals inner = tracker.internals();
-    return {{QStringLiteral("state"), nameOf(tracker.state())},
-            {QStringLiteral("currentSkillId"), toJson(tracker.currentSkillId())},
-            {QStringLiteral("startedAt"), toJson(tracker.startedAt())},
-            {QStringLiteral("accumulatedSeconds"), inner.accumulatedSeconds},
-            {QStringLiteral("segmentStart"), toJson(inner.segmentStart)},
-            {QStringLiteral("lastKnownGoodAt"), toJson(inner.lastKnownGoodAt)},
-            {QStringLiteral("ticksSinceMarkerWrite"), inner.ticksSinceMarkerWrite},
-            {QStringLiteral("ticking"), inner.ticking},
-            {QStringLiteral("welcomeBack"), toJson(tracker.welcomeBack())},
-            {QStringLiteral("welcomeBackShownAt"), toJson(tracker.welcomeBackShownAt())},
-            {QStringLiteral("displayActiveSeconds"), toJson(tracker.displayActiveSeconds())},
-            {QStringLiteral("storageErrorSet"), tracker.storageError().has_value()},
-            {QStringLiteral("dataWarning"), toJson(tracker.dataWarning())},
-            {QStringLiteral("lastUsedSkill"),
-             toJson(m_preferences.string(QLatin1String(TrackerCore::lastUsedSkillKey)))},
-            {QStringLiteral("now"), toJson(m_time.now())}};
+    return {
+        {QStringLiteral("state"), nameOf(tracker.state())},
+        {QStringLiteral("currentSkillId"), toJson(tracker.currentSkillId())},
+        {QStringLiteral("startedAt"), toJson(tracker.startedAt())},
+        {QStringLiteral("accumulatedSeconds"), inner.accumulatedSeconds},
+        {QStringLiteral("segmentStart"), toJson(inner.segmentStart)},
+        {QStringLiteral("lastKnownGoodAt"), toJson(inner.lastKnownGoodAt)},
+        {QStringLiteral("ticksSinceMarkerWrite"), inner.ticksSinceMarkerWrite},
+        {QStringLiteral("ticking"), inner.ticking},
+        {QStringLiteral("welcomeBack"), toJson(tracker.welcomeBack())},
+        {QStringLiteral("welcomeBackShownAt"), toJson(tracker.welcomeBackShownAt())},
+        {QStringLiteral("displayActiveSeconds"), toJson(tracker.displayActiveSeconds())},
+        {QStringLiteral("storageErrorSet"), tracker.storageError().has_value()},
+        {QStringLiteral("dataWarning"), toJson(tracker.dataWarning())},
+        {QStringLiteral("lastUsedSkill"), toJson(settings::lastUsedSkill.stored(m_preferences))},
+        {QStringLiteral("now"), toJson(m_time.now())}};
 }
 
 QJsonArray TrackerWorld::takeEvents() {

@@ -1,6 +1,7 @@
 // Which week the review is about, and whether it waits.
 #include "app/WeeklyReview.h"
 #include "fakes/MemoryPreferences.h"
+#include "tracking/Settings.h"
 #include "vectors/NeutralRecords.h"
 #include "vectors/forms.h"
 
@@ -8,18 +9,21 @@ namespace vantle::vectors {
 
 namespace {
 
+QString seenKey(Date date, const Calendar& calendar) {
+    return settings::reviewSeen.key(weeklyreview::weekOf(date, calendar));
+}
+
 QJsonValue week(const QJsonObject& input) {
     const Calendar calendar = calendarFromJson(input[QLatin1String("calendar")]);
     const Date date = dateFromJson(input[QLatin1String("date")]);
     const auto last = weeklyreview::lastWeekInterval(date, calendar);
-    QJsonObject answer{{QStringLiteral("seenKey"), weeklyreview::wrappedSeenKey(date, calendar)},
+    QJsonObject answer{{QStringLiteral("seenKey"), seenKey(date, calendar)},
                        {QStringLiteral("lastWeek"), QJsonValue::Null},
                        {QStringLiteral("seenKeyOfLastWeek"), QJsonValue::Null}};
     if (last) {
         answer[QLatin1String("lastWeek")] =
             QJsonArray{instantText(last->start), instantText(last->end)};
-        answer[QLatin1String("seenKeyOfLastWeek")] =
-            weeklyreview::wrappedSeenKey(last->start, calendar);
+        answer[QLatin1String("seenKeyOfLastWeek")] = seenKey(last->start, calendar);
     }
     return answer;
 }

@@ -16,10 +16,11 @@ import layers  # noqa: E402
 import lengths  # noqa: E402
 import listed  # noqa: E402
 import literals  # noqa: E402
+import preferences  # noqa: E402
 import programs  # noqa: E402
 from tree import Tree  # noqa: E402
 
-CHECKS = (layers, banned, listed, lengths, literals, docs, headers, programs)
+CHECKS = (layers, banned, listed, lengths, literals, docs, headers, preferences, programs)
 
 
 def findings(root):

@@ -4,6 +4,7 @@
 #include "platform/ReducedMotion.h"
 #include "surfaces/kit/tokens/Look.h"
 #include "tracking/DashFormat.h"
+#include "tracking/Settings.h"
 
 #include <algorithm>
 #include <utility>
@@ -160,7 +161,7 @@ void NotchCapsule::refreshLabel() {
     if (state == TrackerCore::State::Idle) return;
     const std::int64_t seconds = std::max<std::int64_t>(0, m_form.tracker->displayActiveSeconds());
     const QString clock =
-        dashformat::sessionDuration(seconds, durationstyle::current(m_env.preferences));
+        dashformat::sessionDuration(seconds, settings::durationStyle.read(m_env.preferences));
     const bool paused = state == TrackerCore::State::Paused;
     if (clock == m_clock && paused == m_showsPaused) return;
     m_clock = clock;

@@ -3,6 +3,7 @@
 #include "app/OpenQuestions.h"
 #include "app/TopRightCardSlot.h"
 #include "surfaces/cards/RecoveryNoticeModel.h"
+#include "tracking/Settings.h"
 #include "tracking/SkillList.h"
 
 #include <QPointer>
@@ -37,7 +38,7 @@ void RecoveryNoticeController::show(const Session& session, std::function<void()
 std::shared_ptr<RecoveryNoticeModel> RecoveryNoticeController::makeModel() const {
     return std::make_shared<RecoveryNoticeModel>(m_offer->session,
                                                  m_env.skills.display(m_offer->session.skillId),
-                                                 durationstyle::current(m_env.preferences));
+                                                 settings::durationStyle.read(m_env.preferences));
 }
 
 void RecoveryNoticeController::present() {

@@ -4,6 +4,7 @@
 #include "surfaces/cards/CardPlacement.h"
 #include "surfaces/cards/RetagToastModel.h"
 #include "tracking/DashFormat.h"
+#include "tracking/Settings.h"
 
 #include <algorithm>
 #include <utility>
@@ -41,7 +42,7 @@ void RetagToastController::show(const QString& name, std::uint32_t color, std::i
     m_dismissTimer.reset();
     m_repositionTimer.reset();
     m_panel.reset();
-    const QString saved = savedTime(seconds, durationstyle::current(m_env.preferences));
+    const QString saved = savedTime(seconds, settings::durationStyle.read(m_env.preferences));
     Q_EMIT m_env.questions.said(RetagToastModel(saved, name, QColor::fromRgb(color)).spoken());
     if (!m_env.stage.cardScreen()) return;
     m_panel =

@@ -5,6 +5,7 @@
 #include "base/Text.h"
 #include "surfaces/cards/StopSummaryModel.h"
 #include "tracking/NotificationCenter.h"
+#include "tracking/Settings.h"
 #include "tracking/SkillList.h"
 
 #include <utility>
@@ -36,7 +37,7 @@ void StopSummaryController::show(const Content& content,
     if (!content.spotlightNote) m_last = Last{content, onClose};
     present(content, std::move(onClose));
     const StopSummaryModel told(content, m_env.skills.display(content.session.skillId),
-                                durationstyle::current(m_env.preferences));
+                                settings::durationStyle.read(m_env.preferences));
     Q_EMIT m_env.questions.said(
         QStringLiteral("Session stopped, %1. %2").arg(told.durationLabel(), told.resultText()));
 }
@@ -46,7 +47,7 @@ void StopSummaryController::present(
     m_completion = std::move(onClose);
     const auto model =
         std::make_shared<StopSummaryModel>(content, m_env.skills.display(content.session.skillId),
-                                           durationstyle::current(m_env.preferences));
+                                           settings::durationStyle.read(m_env.preferences));
     m_env.questions.ask(this, {QStringLiteral("Last session: %1").arg(model->durationLabel()),
                                {{QStringLiteral("Write a note"),
                                  QStringLiteral("One line about what you worked on. Return saves "

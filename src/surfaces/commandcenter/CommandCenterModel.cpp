@@ -4,6 +4,7 @@
 #include "app/PanelState.h"
 #include "app/SessionFlow.h"
 #include "tracking/DashFormat.h"
+#include "tracking/Settings.h"
 #include "tracking/SkillList.h"
 
 namespace vantle {
@@ -66,7 +67,7 @@ void CommandCenterModel::refreshStatus() {
     m_status.skillName = id ? m_env.skills.display(*id).name : QString();
     m_status.welcomeBack = tracker.welcomeBack().value_or(QString());
     m_status.time = dashformat::sessionDuration(tracker.displayActiveSeconds(),
-                                                durationstyle::current(m_env.preferences));
+                                                settings::durationStyle.read(m_env.preferences));
     refreshClock();
     Q_EMIT statusChanged();
 }

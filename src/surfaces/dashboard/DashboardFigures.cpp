@@ -3,7 +3,6 @@
 #include "base/DateText.h"
 #include "base/Decimals.h"
 #include "surfaces/kit/tokens/Look.h"
-#include "tracking/DailyGoal.h"
 #include "tracking/DashFormat.h"
 #include "tracking/SessionGroup.h"
 #include "tracking/SkillList.h"

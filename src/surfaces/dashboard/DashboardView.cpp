@@ -5,9 +5,9 @@
 #include "ceremony/show/VantleCopy.h"
 #include "platform/Preferences.h"
 #include "surfaces/kit/tokens/Look.h"
-#include "tracking/DailyGoal.h"
 #include "tracking/DashFormat.h"
 #include "tracking/NotificationCenter.h"
+#include "tracking/Settings.h"
 #include "tracking/SkillList.h"
 #include "tracking/Totals.h"
 
@@ -40,9 +40,7 @@ DashboardView::DashboardView(Environment environment) : m_env(std::move(environm
     connect(&tracker(), &TrackerCore::stateChanged, this, &DashboardView::followState);
     connect(&tracker(), &TrackerCore::currentSkillIdChanged, this, &DashboardView::ticked);
     connect(&m_env.skills, &SkillList::changed, this, &DashboardView::reload);
-    connect(&m_env.preferences, &Preferences::changed, this, [this](const QString& key) {
-        if (key == QLatin1String(dailygoal::hoursKey)) reload();
-    });
+    settings::dailyGoalHours.watch(m_env.preferences, this, [this] { reload(); });
     connect(&tracker(), &TrackerCore::storageErrorChanged, this, &DashboardView::warningChanged);
     connect(&tracker(), &TrackerCore::dataWarningChanged, this, &DashboardView::warningChanged);
     connect(&m_env.flow.hotKey(), &HotKey::isRegisteredChanged, this,
@@ -64,7 +62,8 @@ void DashboardView::followState() {
 
 DashboardSetting DashboardView::setting() const {
     return {m_env.clock.now(), m_env.calendar(), m_env.skills.all(),
-            durationstyle::current(m_env.preferences), dailygoal::hours(m_env.preferences)};
+            settings::durationStyle.read(m_env.preferences),
+            settings::dailyGoalHours.read(m_env.preferences)};
 }
 
 void DashboardView::reload() {
@@ -90,7 +89,7 @@ void DashboardView::reload() {
 
 QString DashboardView::recentText() const {
     return dashboard::recentText(m_count, m_loggedSeconds,
-                                 durationstyle::current(m_env.preferences));
+                                 settings::durationStyle.read(m_env.preferences));
 }
 
 bool DashboardView::isOpen() const { return tracker().state() != TrackerCore::State::Idle; }
@@ -119,7 +118,8 @@ Skill DashboardView::openSkill() const {
 QColor DashboardView::chipColor() const { return QColor::fromRgb(openSkill().hexRGB); }
 
 QString DashboardView::elapsed() const {
-    return dashformat::sessionDuration(activeSeconds(), durationstyle::current(m_env.preferences));
+    return dashformat::sessionDuration(activeSeconds(),
+                                       settings::durationStyle.read(m_env.preferences));
 }
 
 QString DashboardView::chipState() const {

@@ -4,6 +4,7 @@
 #include "base/LocalTime.h"
 #include "base/Text.h"
 #include "tracking/NotificationCenter.h"
+#include "tracking/Settings.h"
 #include "tracking/SkillList.h"
 #include "tracking/TrackerCore.h"
 
@@ -36,7 +37,7 @@ void LogView::reload() {
 NoteRows::Content LogView::content(NotesLog log) const {
     noteslog::Places visible = noteslog::visible(log, m_filter);
     return {std::move(log), std::move(visible), m_env.clock.now(), m_env.calendar(),
-            durationstyle::current(m_env.preferences)};
+            settings::durationStyle.read(m_env.preferences)};
 }
 
 void LogView::narrow(LogFilter filter) {

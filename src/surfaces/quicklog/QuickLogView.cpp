@@ -2,6 +2,7 @@
 
 #include "app/SessionFlow.h"
 #include "platform/Preferences.h"
+#include "tracking/Settings.h"
 #include "tracking/SkillList.h"
 
 #include <algorithm>
@@ -23,7 +24,7 @@ QuickLogView::QuickLogView(SessionFlow& flow, SkillList& skills, const Preferenc
     , m_skills(skills.all())
     , m_onClose(std::move(onClose))
     , m_duration(QuickLogDuration::of(kFirstMinutes)) {
-    m_skillIndex = placeOf(preferences.string(QLatin1String(TrackerCore::lastUsedSkillKey)));
+    m_skillIndex = placeOf(settings::lastUsedSkill.stored(preferences));
     connect(&skills, &SkillList::changed, this, [this] {
         const QString chosen = chosenSkill().id;
         m_skills = m_list.all();

@@ -1,7 +1,7 @@
 // The person's own shortcuts in the settings.
-#include "platform/Preferences.h"
 #include "sensing/FocusLink.h"
 #include "surfaces/settings/SettingsView.h"
+#include "tracking/Settings.h"
 
 #include <QPointer>
 
@@ -9,7 +9,7 @@ namespace vantle {
 
 void SettingsView::setFocusLinked(bool linked) {
     m_focusLinked = linked;
-    m_env.preferences.setBoolean(FocusLink::enabledKey, linked);
+    settings::focusLinked.write(m_env.preferences, linked);
     Q_EMIT switched();
     if (linked) listShortcuts();
 }
@@ -42,16 +42,16 @@ int SettingsView::choice(const QString& chosen) const {
 
 void SettingsView::chooseStartShortcut(int choice) {
     m_focusStartShortcut = choice > 0 ? startChoices().value(choice) : QString();
-    setFocusShortcut(FocusLink::startShortcutKey, m_focusStartShortcut);
+    setFocusShortcut(settings::startShortcut, m_focusStartShortcut);
 }
 
 void SettingsView::chooseStopShortcut(int choice) {
     m_focusStopShortcut = choice > 0 ? stopChoices().value(choice) : QString();
-    setFocusShortcut(FocusLink::stopShortcutKey, m_focusStopShortcut);
+    setFocusShortcut(settings::stopShortcut, m_focusStopShortcut);
 }
 
-void SettingsView::setFocusShortcut(QLatin1String key, const QString& name) {
-    m_env.preferences.setString(key, name);
+void SettingsView::setFocusShortcut(const Preference<QString>& shortcut, const QString& name) {
+    shortcut.write(m_env.preferences, name);
     Q_EMIT shortcutsChanged();
 }
 

@@ -1,14 +1,13 @@
 #include "surfaces/settings/SettingsView.h"
 
 #include "app/AppModel.h"
-#include "app/PreferenceKeys.h"
 #include "platform/Autostart.h"
 #include "platform/Preferences.h"
 #include "sensing/AutoRules.h"
-#include "sensing/AutoSkillMonitor.h"
 #include "sensing/FocusLink.h"
-#include "tracking/DailyGoal.h"
+#include "tracking/DashFormat.h"
 #include "tracking/NotificationCenter.h"
+#include "tracking/Settings.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,13 +18,6 @@ namespace vantle {
 namespace {
 
 constexpr double kSecondsPerMinute = 60;
-constexpr QLatin1String kIdleKey(IdleMonitor::thresholdDefaultsKey);
-constexpr QLatin1String kAutoModeKey(AutoSkillMonitor::enabledKey);
-constexpr QLatin1String kAutoStartKey(AutoSkillMonitor::autoStartKey);
-
-QString storedText(const Preferences& preferences, QLatin1String key) {
-    return preferences.string(key).value_or(QString());
-}
 
 } // namespace
 
@@ -64,15 +56,15 @@ void SettingsView::readState() {
 void SettingsView::readPreferences() {
     const Preferences& stored = m_env.preferences;
     m_idleMinutes = m_env.model.idle().thresholdSeconds() / kSecondsPerMinute;
-    m_dailyGoalHours = dailygoal::hours(stored);
-    m_rippleOn = !stored.flag(preferencekeys::rippleDisabled);
-    m_ceremonyBlackout = stored.boolean(preferencekeys::ceremonyBlackout).value_or(true);
-    m_autoModeOn = stored.boolean(kAutoModeKey).value_or(true);
-    m_autoStartOn = stored.flag(kAutoStartKey);
-    m_focusLinked = stored.flag(FocusLink::enabledKey);
-    m_focusStartShortcut = storedText(stored, FocusLink::startShortcutKey);
-    m_focusStopShortcut = storedText(stored, FocusLink::stopShortcutKey);
-    m_durationStyle = durationstyle::current(stored);
+    m_dailyGoalHours = settings::dailyGoalHours.read(stored);
+    m_rippleOn = !settings::rippleDisabled.read(stored);
+    m_ceremonyBlackout = settings::ceremonyBlackout.read(stored);
+    m_autoModeOn = settings::autoMode.read(stored);
+    m_autoStartOn = settings::autoStart.read(stored);
+    m_focusLinked = settings::focusLinked.read(stored);
+    m_focusStartShortcut = settings::startShortcut.read(stored);
+    m_focusStopShortcut = settings::stopShortcut.read(stored);
+    m_durationStyle = settings::durationStyle.read(stored);
     Q_EMIT idleChanged();
     Q_EMIT goalChanged();
     Q_EMIT switched();
@@ -82,42 +74,42 @@ void SettingsView::readPreferences() {
 
 void SettingsView::setIdleMinutes(double minutes) {
     m_idleMinutes = std::clamp(std::round(minutes), minIdleMinutes, maxIdleMinutes);
-    m_env.preferences.setNumber(kIdleKey, m_idleMinutes * kSecondsPerMinute);
+    settings::idleThresholdSeconds.write(m_env.preferences, m_idleMinutes * kSecondsPerMinute);
     Q_EMIT idleChanged();
 }
 
 QString SettingsView::goalText() const {
-    return dailygoal::label(m_dailyGoalHours, m_durationStyle);
+    return dashformat::inlineHours(m_dailyGoalHours, m_durationStyle);
 }
 
 void SettingsView::stepGoal(int steps) {
     m_dailyGoalHours =
         std::clamp(m_dailyGoalHours + steps * goalStepHours, minGoalHours, maxGoalHours);
-    dailygoal::setHours(m_dailyGoalHours, m_env.preferences);
+    settings::dailyGoalHours.write(m_env.preferences, m_dailyGoalHours);
     Q_EMIT goalChanged();
 }
 
 void SettingsView::setRippleOn(bool on) {
     m_rippleOn = on;
-    m_env.preferences.setBoolean(preferencekeys::rippleDisabled, !on);
+    settings::rippleDisabled.write(m_env.preferences, !on);
     Q_EMIT switched();
 }
 
 void SettingsView::setCeremonyBlackout(bool on) {
     m_ceremonyBlackout = on;
-    m_env.preferences.setBoolean(preferencekeys::ceremonyBlackout, on);
+    settings::ceremonyBlackout.write(m_env.preferences, on);
     Q_EMIT switched();
 }
 
 void SettingsView::setAutoModeOn(bool on) {
     m_autoModeOn = on;
-    m_env.preferences.setBoolean(kAutoModeKey, on);
+    settings::autoMode.write(m_env.preferences, on);
     Q_EMIT switched();
 }
 
 void SettingsView::setAutoStartOn(bool on) {
     m_autoStartOn = on;
-    m_env.preferences.setBoolean(kAutoStartKey, on);
+    settings::autoStart.write(m_env.preferences, on);
     Q_EMIT switched();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "platform/Preference.h"
 #include "surfaces/settings/DesktopGaps.h"
 #include "surfaces/settings/SeenAppRows.h"
 #include "tracking/DurationStyle.h"
@@ -243,7 +244,7 @@ private:
     void listShortcuts();
     [[nodiscard]] QList<QString> choices(const QString& chosen) const;
     [[nodiscard]] int choice(const QString& chosen) const;
-    void setFocusShortcut(QLatin1String key, const QString& name);
+    void setFocusShortcut(const Preference<QString>& shortcut, const QString& name);
     void refreshApps();
     [[nodiscard]] SeenAppRows::Row rowOf(const SeenApp& app) const;
     [[nodiscard]] Result<> ensureLog() const;

@@ -1,12 +1,12 @@
 #include "surfaces/welcome/WelcomeView.h"
 
 #include "app/AppModel.h"
-#include "app/PreferenceKeys.h"
 #include "base/Text.h"
 #include "platform/Preferences.h"
 #include "platform/ReducedMotion.h"
 #include "tracking/DashFormat.h"
 #include "tracking/NotificationCenter.h"
+#include "tracking/Settings.h"
 #include "tracking/SkillList.h"
 
 #include <algorithm>
@@ -188,8 +188,7 @@ void WelcomeView::stopCardClosed() {
 }
 
 void WelcomeView::bowOutForCeremony() {
-    if (m_env.preferences.flag(preferencekeys::rippleDisabled) || m_env.reducedMotion.enabled())
-        return;
+    if (settings::rippleDisabled.read(m_env.preferences) || m_env.reducedMotion.enabled()) return;
     m_env.orderOut();
     m_return = m_env.scheduler.scheduleOnce(kOutOfTheWay, [this] { bringForward(); });
 }
@@ -207,7 +206,7 @@ void WelcomeView::refreshClock() {
     if (tracker().state() == TrackerCore::State::Idle) return; // what it came to stays
     const auto seconds = std::max<std::int64_t>(tracker().displayActiveSeconds(), 0);
     m_practiceWords =
-        dashformat::sessionDuration(seconds, durationstyle::current(m_env.preferences))
+        dashformat::sessionDuration(seconds, settings::durationStyle.read(m_env.preferences))
             .split(QLatin1Char(' '));
     Q_EMIT practiceTicked();
 }

@@ -97,9 +97,8 @@ void ManagedWindow::place() {
     const QRectF area = screens.empty() ? QRectF() : screens.front().available;
     const QSize size = screens.empty() ? wantedSize() : windowplacement::fitted(wantedSize(), area);
     QRect frame = windowplacement::centred(size, area);
-    if (!m_rules.frameAutosaveName.isEmpty()) {
-        const auto kept = windowplacement::decode(
-            m_env.preferences.string(m_rules.frameAutosaveName).value_or(QString()));
+    if (m_rules.frame) {
+        const auto kept = windowplacement::decode(m_rules.frame->read(m_env.preferences));
         if (kept) frame = windowplacement::onScreen(*kept, screens).value_or(frame);
     }
     if (m_rules.resizable) {
@@ -127,18 +126,18 @@ void ManagedWindow::refit() {
 }
 
 void ManagedWindow::keepFrameSoon() {
-    if (m_rules.frameAutosaveName.isEmpty()) return;
+    if (!m_rules.frame) return;
     m_frameTimer = m_env.scheduler.scheduleOnce(kFrameRest, [this] { keepFrame(); });
 }
 
 void ManagedWindow::keepFrame() {
     m_frameTimer.reset();
     // A window that was not moved keeps nothing: after all data was erased none comes back.
-    if (m_rules.frameAutosaveName.isEmpty() || m_shell->geometry() == m_placedFrame) return;
+    if (!m_rules.frame || m_shell->geometry() == m_placedFrame) return;
     // A maximised window comes back as large as it was.
     if (m_shell->windowStates() & (Qt::WindowMinimized | Qt::WindowFullScreen)) return;
     m_placedFrame = m_shell->geometry();
-    m_env.preferences.setString(m_rules.frameAutosaveName, windowplacement::encode(m_placedFrame));
+    m_rules.frame->write(m_env.preferences, windowplacement::encode(m_placedFrame));
 }
 
 void ManagedWindow::close() {

@@ -1,5 +1,7 @@
 #include "surfaces/window/WindowKind.h"
 
+#include "tracking/Settings.h"
+
 #include <array>
 
 namespace vantle {
@@ -11,13 +13,13 @@ std::array<WindowRules, 6> makeTable() {
               .resizable = true,
               .minContentWidth = 380,
               .contentSize = {612, 512},
-              .frameAutosaveName = QStringLiteral("Hourfold.dashboard.compact-overview.v2")},
+              .frame = &settings::dashboardFrame},
              {.title = QStringLiteral("Wrapped")},
              {.title = QStringLiteral("Your notes"),
               .resizable = true,
               .minContentWidth = 380,
               .contentSize = {520, 620},
-              .frameAutosaveName = QStringLiteral("Hourfold.notes.v1")},
+              .frame = &settings::notesFrame},
              {.title = QStringLiteral("Quick Log")},
              {.title = QStringLiteral("Welcome")},
              // Its rows scroll under their own title, so less height is no loss.

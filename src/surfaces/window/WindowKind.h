@@ -1,6 +1,8 @@
 // What a window is: its rules, and what it shows.
 #pragma once
 
+#include "platform/Preference.h"
+
 #include <QObject>
 #include <QSize>
 #include <QString>
@@ -17,14 +19,14 @@ enum class WindowId { Dashboard, Wrapped, Log, QuickLog, Welcome, Settings };
 /// How a window looks and behaves to the desktop. Sizes are in px and are those of the content,
 /// without the title strip.
 struct WindowRules {
-    QString title;               ///< in the task bar
-    bool resizable = false;      ///< by the person
-    bool showsTitle = false;     ///< also in its strip; most contents open with a title themselves
-    int minContentWidth = 460;   ///< of a resizable window
-    QSize contentSize = {};      ///< at first; empty means what the content asks for
-    QString frameAutosaveName{}; ///< preference under which its place is kept; empty for none
-    int scrollableHeight = 0;    ///< least height at which the content still serves: where the
-                                 ///< screen gives less, the window scrolls it; 0 means its own
+    QString title;             ///< in the task bar
+    bool resizable = false;    ///< by the person
+    bool showsTitle = false;   ///< also in its strip; most contents open with a title themselves
+    int minContentWidth = 460; ///< of a resizable window
+    QSize contentSize = {};    ///< at first; empty means what the content asks for
+    const Preference<QString>* frame = nullptr; ///< keeps its place; null where that is not kept
+    int scrollableHeight = 0; ///< least height at which the content still serves: where the
+                              ///< screen gives less, the window scrolls it; 0 means its own
 };
 
 /// What stands in a window. The view is an item with `required property <Type> model`, in which

@@ -4,8 +4,8 @@
 #include "platform/LanguageModel.h"
 #include "platform/Preferences.h"
 #include "review/WrappedMotion.h"
-#include "tracking/DailyGoal.h"
 #include "tracking/NotificationCenter.h"
+#include "tracking/Settings.h"
 
 #include <QPointer>
 
@@ -19,9 +19,7 @@ WrappedView::WrappedView(Environment environment)
     , m_narrator(m_env.model, m_env.scheduler) {
     connect(&m_env.notifications, &NotificationCenter::HFSessionsChanged, this,
             &WrappedView::reload);
-    connect(&m_env.preferences, &Preferences::changed, this, [this](const QString& key) {
-        if (key == QLatin1String(dailygoal::hoursKey)) reload();
-    });
+    settings::dailyGoalHours.watch(m_env.preferences, this, [this] { reload(); });
     open();
 }
 
@@ -29,7 +27,8 @@ WrappedView::~WrappedView() = default;
 
 WrappedSettings WrappedView::settings() const {
     return {m_env.clock.now(), m_env.calendar(), m_env.skills(),
-            durationstyle::current(m_env.preferences), dailygoal::hours(m_env.preferences)};
+            settings::durationStyle.read(m_env.preferences),
+            settings::dailyGoalHours.read(m_env.preferences)};
 }
 
 void WrappedView::open() {

@@ -5,6 +5,7 @@
 #include "sensing/shortcuts/ShortcutsFolder.h"
 #include "support/Await.h"
 #include "support/QtPrinters.h"
+#include "tracking/Settings.h"
 
 #include <QDir>
 #include <QFile>
@@ -152,8 +153,8 @@ TEST_F(ShortcutsToolTest, SessionsRunWhatTheListOffered) {
     QStringList names;
     link.listShortcuts([&](const QStringList& told) { names = told; });
     ASSERT_TRUE(tests::await([&] { return !names.isEmpty(); }));
-    preferences.setBoolean(FocusLink::enabledKey, true);
-    preferences.setString(FocusLink::startShortcutKey, names.first());
+    settings::focusLinked.write(preferences, true);
+    settings::startShortcut.write(preferences, names.first());
     link.sessionStarted();
     EXPECT_TRUE(tests::await([&] { return ran() == pathOf("Quiet \"now\" "); }));
 }

@@ -4,6 +4,7 @@
 #include "support/QtPrinters.h"
 #include "support/Text.h"
 #include "tracking/DurationStyle.h"
+#include "tracking/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -129,7 +130,7 @@ TEST_F(NotchCapsuleTest, TheClockRunsWhileItCanBeSeen) {
 }
 
 TEST_F(NotchCapsuleTest, TheClockFollowsThePersonsWayOfWritingDurations) {
-    world.tracking.preferences.setString(QLatin1String(durationstyle::defaultsKey), text("clock"));
+    world.tracking.preferences.setString(settings::durationStyle.key(), text("clock"));
     startSession();
     make(world.runningForm());
     enter();
@@ -138,7 +139,7 @@ TEST_F(NotchCapsuleTest, TheClockFollowsThePersonsWayOfWritingDurations) {
 }
 
 TEST_F(NotchCapsuleTest, TheClockNeverShowsANegativeNumber) {
-    world.tracking.preferences.setString(QLatin1String(durationstyle::defaultsKey), text("clock"));
+    world.tracking.preferences.setString(settings::durationStyle.key(), text("clock"));
     startSession();
     make(world.runningForm());
     time.shiftWall(-7200);

@@ -13,6 +13,7 @@
 #include "tracking/DurationStyle.h"
 #include "tracking/NotificationCenter.h"
 #include "tracking/Session.h"
+#include "tracking/Settings.h"
 #include "tracking/SkillList.h"
 
 #include <gtest/gtest.h>
@@ -24,8 +25,7 @@ public:
     CardWorld() { time.attach(ioQueue); }
 
     void setStyle(DurationStyle style) {
-        preferences.setString(QLatin1String(durationstyle::defaultsKey),
-                              durationstyle::rawValue(style));
+        preferences.setString(settings::durationStyle.key(), durationstyle::rawValue(style));
     }
 
     [[nodiscard]] static Session session(std::int64_t seconds,

@@ -1,6 +1,7 @@
 #include "surfaces/quicklog/QuickLogView.h"
 
 #include "app/ModelWorld.h"
+#include "tracking/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -24,11 +25,11 @@ protected:
 
 TEST_F(QuickLogViewTest, OpensWithTheSkillThatWasUsedLast) {
     launch();
-    preferences.setString(QLatin1String(TrackerCore::lastUsedSkillKey), model->skills()[2].id);
+    settings::lastUsedSkill.write(preferences, model->skills()[2].id);
     EXPECT_EQ(open().skillIndex(), 2);
-    preferences.setString(QLatin1String(TrackerCore::lastUsedSkillKey), QStringLiteral("gone"));
+    settings::lastUsedSkill.write(preferences, QStringLiteral("gone"));
     EXPECT_EQ(open().skillIndex(), 0);
-    preferences.remove(QLatin1String(TrackerCore::lastUsedSkillKey));
+    settings::lastUsedSkill.remove(preferences);
     EXPECT_EQ(open().skillIndex(), 0);
 }
 

@@ -1,5 +1,6 @@
 // The practice session in the middle of the welcome.
 #include "surfaces/welcome/WelcomeWorld.h"
+#include "tracking/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -78,7 +79,7 @@ TEST_F(WelcomePracticeTest, WindowMakesWayForTheCeremonyAndComesBack) {
 }
 
 TEST_F(WelcomePracticeTest, WindowStaysUpWithoutACeremony) {
-    preferences.setBoolean(preferencekeys::rippleDisabled, true);
+    settings::rippleDisabled.write(preferences, true);
     open();
     beginPractice();
     EXPECT_EQ(view->step(), Stop);

@@ -1,5 +1,6 @@
 // The steps, and what each of them does.
 #include "surfaces/welcome/WelcomeWorld.h"
+#include "tracking/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -43,7 +44,7 @@ TEST_F(WelcomeViewTest, StartsWithTheFirstStepAtEachOpening) {
     open();
     walkTo(Success);
     EXPECT_EQ(open().step(), Pick);
-    EXPECT_EQ(preferences.string(preferencekeys::onboardStage), std::nullopt);
+    EXPECT_EQ(settings::welcomeStage.stored(preferences), std::nullopt);
 }
 
 TEST_F(WelcomeViewTest, SpeaksOfTheProjectByItsName) {

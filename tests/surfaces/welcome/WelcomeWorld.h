@@ -3,6 +3,7 @@
 
 #include "app/ModelWorld.h"
 #include "surfaces/welcome/WelcomeView.h"
+#include "tracking/Settings.h"
 
 #include <optional>
 
@@ -11,7 +12,7 @@ namespace vantle::tests {
 class WelcomeWorld : public ModelWorld {
 public:
     WelcomeWorld() {
-        preferences.remove(preferencekeys::onboardDone);
+        settings::welcomeDone.remove(preferences);
         idleSource.fix(0); // somebody is there all the time
     }
 

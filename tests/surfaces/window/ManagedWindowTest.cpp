@@ -19,6 +19,7 @@ namespace vantle::tests {
 namespace {
 
 constexpr int kStrip = 36;
+constexpr Preference<QString> kFrame{"a.frame"};
 
 class ManagedWindowTest : public testing::Test {
 protected:
@@ -28,7 +29,7 @@ protected:
         filling.resizable = true;
         filling.minContentWidth = 380;
         filling.contentSize = {612, 512};
-        filling.frameAutosaveName = QStringLiteral("a.frame");
+        filling.frame = &kFrame;
     }
 
     WindowContent content(const char* view) {

@@ -47,7 +47,7 @@ TEST_F(WrappedViewTest, OpensOnThePeriodThatItIsAskedFor) {
 
 TEST_F(WrappedViewTest, OpeningMarksLastWeekAsSeen) {
     open();
-    EXPECT_TRUE(preferences.flag(QStringLiteral("wrapped.seen.2026-10")));
+    EXPECT_EQ(preferences.boolean(QStringLiteral("wrapped.seen.2026-10")), true);
 }
 
 TEST_F(WrappedViewTest, PagesFromEndToEnd) {
