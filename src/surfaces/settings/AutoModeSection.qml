@@ -1,7 +1,6 @@
 // What the application in front may do to the clock.
 pragma ComponentBehavior: Bound
 import QtQuick
-import Vantle.Kit
 import Vantle.Settings
 
 SettingsSection {
@@ -14,36 +13,9 @@ SettingsSection {
     SettingsCard {
         width: parent.width
 
-        ToggleRow {
+        PreferenceRows {
             width: parent.width
-            first: true
-            title: section.model.title(SettingsView.AutoModeRow)
-            caption: section.model.caption(SettingsView.AutoModeRow)
-            checked: section.model.autoModeOn
-            onToggled: checked => section.model.autoModeOn = checked
-
-            SettingsCaption {
-                width: parent.width - DarkUI.space20
-                text: section.model.caption(SettingsView.AutoModePrivacyRow)
-            }
-
-            SettingsGap {
-                width: parent.width
-                text: section.model.gaps.autoModeAdvice
-            }
-        }
-
-        ToggleRow {
-            width: parent.width
-            title: section.model.title(SettingsView.AutoStartRow)
-            caption: section.model.caption(SettingsView.AutoStartRow)
-            checked: section.model.autoStartOn
-            onToggled: checked => section.model.autoStartOn = checked
-
-            SettingsGap {
-                width: parent.width
-                text: section.model.gaps.autoStartAdvice
-            }
+            model: section.model.rows(PreferenceRowModel.AutoMode)
         }
     }
 

@@ -13,26 +13,9 @@ SettingsSection {
     SettingsCard {
         width: parent.width
 
-        ToggleRow {
+        PreferenceRows {
             width: parent.width
-            first: true
-            title: section.model.title(SettingsView.RippleRow)
-            caption: section.model.caption(SettingsView.RippleRow)
-            checked: section.model.rippleOn
-            onToggled: checked => section.model.rippleOn = checked
-
-            SettingsGap {
-                width: parent.width
-                text: section.model.gaps.ceremonyAdvice
-            }
-        }
-
-        ToggleRow {
-            width: parent.width
-            title: section.model.title(SettingsView.BlackoutRow)
-            caption: section.model.caption(SettingsView.BlackoutRow)
-            checked: section.model.ceremonyBlackout
-            onToggled: checked => section.model.ceremonyBlackout = checked
+            model: section.model.rows(PreferenceRowModel.Ceremony)
         }
     }
 }

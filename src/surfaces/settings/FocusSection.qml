@@ -14,72 +14,9 @@ SettingsSection {
     SettingsCard {
         width: parent.width
 
-        Item {
+        PreferenceRows {
             width: parent.width
-            implicitHeight: idle.y + idle.height + DarkUI.space14
-
-            Column {
-                id: idle
-                x: DarkUI.space16
-                y: DarkUI.space14
-                width: parent.width - 2 * x
-
-                DarkText {
-                    text: section.model.idleTitle
-                    role: DarkUI.bodyMedium
-                }
-
-                Item {
-                    width: parent.width
-                    height: DarkUI.space6 + slider.height
-
-                    DarkSlider {
-                        id: slider
-                        y: DarkUI.space6
-                        width: parent.width
-                        name: section.model.idleTitle
-                        minimumValue: 1
-                        maximumValue: 10
-                        stepSize: 1
-                        value: section.model.idleMinutes
-                        valueText: section.model.idleCaption
-                        onMoved: value => section.model.idleMinutes = value
-                    }
-                }
-
-                SettingsCaption {
-                    topPadding: role.leading + DarkUI.space2
-                    width: parent.width - DarkUI.space20
-                    text: section.model.idleCaption
-                }
-            }
-        }
-
-        SettingsRow {
-            width: parent.width
-            title: section.model.title(SettingsView.GoalRow)
-            caption: section.model.caption(SettingsView.GoalRow)
-
-            control: [
-                DarkText {
-                    anchors.verticalCenter: parent.verticalCenter
-                    rightPadding: DarkUI.space4
-                    text: section.model.goalText
-                    role: DarkUI.bodyStrong
-                },
-                StepChip {
-                    label: "−"
-                    name: qsTr("Half an hour less")
-                    exhausted: section.model.isGoalLowest
-                    onAction: section.model.stepGoal(-1)
-                },
-                StepChip {
-                    label: "+"
-                    name: qsTr("Half an hour more")
-                    exhausted: section.model.isGoalHighest
-                    onAction: section.model.stepGoal(1)
-                }
-            ]
+            model: section.model.rows(PreferenceRowModel.Focus)
         }
 
         ToggleRow {

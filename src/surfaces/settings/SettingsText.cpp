@@ -1,37 +1,17 @@
-// The words of the settings.
+// The words of the settings, apart from those of the table.
 #include "app/AppModel.h"
 #include "surfaces/settings/SettingsView.h"
 
-#include <algorithm>
-#include <cmath>
-
 namespace vantle {
-
-namespace {
-
-/// Whole minutes as they are told; there are none below one.
-int toldMinutes(double minutes) { return std::max(static_cast<int>(std::lround(minutes)), 1); }
-
-} // namespace
 
 QString SettingsView::title(Row row) {
     switch (row) {
-    case GoalRow:
-        return QStringLiteral("Daily goal");
     case FocusLinkRow:
         return QStringLiteral("Focus with sessions");
     case StartShortcutRow:
         return QStringLiteral("When a session starts");
     case StopShortcutRow:
         return QStringLiteral("When it stops");
-    case RippleRow:
-        return QStringLiteral("Ripple ceremony");
-    case BlackoutRow:
-        return QStringLiteral("Black out the screen");
-    case AutoModeRow:
-        return QStringLiteral("Auto mode");
-    case AutoStartRow:
-        return QStringLiteral("Start sessions automatically");
     case LoginRow:
         return QStringLiteral("Launch at login");
     case HotKeyRow:
@@ -42,7 +22,6 @@ QString SettingsView::title(Row row) {
         return QStringLiteral("How time reads");
     case WelcomeRow:
         return QStringLiteral("Welcome");
-    case AutoModePrivacyRow:
     case ExportRow:
     case EraseRow:
         return {};
@@ -52,38 +31,11 @@ QString SettingsView::title(Row row) {
 
 QString SettingsView::caption(Row row) {
     switch (row) {
-    case GoalRow:
-        return QStringLiteral("The dashboard's Today card measures against this goal, and This "
-                              "week against seven of it. Default is 2 hours.");
     case FocusLinkRow:
         return QStringLiteral("Runs a Shortcut of yours when a session starts, and another when it "
                               "stops. Make them in the Shortcuts app with the Set Focus action; "
                               "macOS does the silencing, and Vantle never sees your notifications. "
                               "Nothing is blocked.");
-    case RippleRow:
-        return QStringLiteral("Presenter mode: turn this off before a screen share and the "
-                              "ceremony never crashes your call. It's a manual switch on purpose: "
-                              "macOS can only detect screen sharing through an API that itself "
-                              "triggers the Screen Recording permission prompt, the exact pop-up "
-                              "this app promises never to show.");
-    case BlackoutRow:
-        return QStringLiteral("The ritual plays on a fully black screen instead of over your "
-                              "dimmed desktop. Your windows come back the moment it ends. Turn "
-                              "this on when the apps behind the dots feel busy.");
-    case AutoModeRow:
-        return QStringLiteral(
-            "On from the first launch; this switch turns it off. Vantle notices which app is in "
-            "front and files the time under the right category on its own. It already knows the "
-            "common tools: Claude, Codex and Xcode count as Build, Figma as Design, Slack and Mail "
-            "as Connections, Notion and Linear as Founder Ops, and dozens more. Anything it does "
-            "not recognize, it asks you about once, right when you are in it. Stay in a mapped app "
-            "for about 45 seconds and a running session switches by itself. Every mapping is yours "
-            "to change below.");
-    case AutoModePrivacyRow:
-        return QStringLiteral("It reads only the app's name. No window titles, no tabs, no "
-                              "documents, no screen. App names never leave this Mac.");
-    case AutoStartRow:
-        return QStringLiteral("After about 2 minutes in a mapped app, vantle starts on its own.");
     case LoginRow:
         return QStringLiteral("Registers with macOS as a login item (you'll see the standard "
                               "\"background item added\" notice once).");
@@ -134,19 +86,6 @@ QString SettingsView::help(Row row) {
     default:
         return {};
     }
-}
-
-QString SettingsView::idleTitle() const {
-    return QStringLiteral("Auto-pause after %1 min").arg(toldMinutes(m_idleMinutes));
-}
-
-QString SettingsView::idleCaption() const {
-    if (QString gap = m_gaps.idleAdvice(); !gap.isEmpty()) return gap;
-    const int minutes = toldMinutes(m_idleMinutes);
-    return QStringLiteral("No input for %1 minute%2 pauses the clock, backdated to your last "
-                          "keystroke or click so away time is never counted. Default is 3.")
-        .arg(minutes)
-        .arg(minutes == 1 ? QString() : QStringLiteral("s"));
 }
 
 QString SettingsView::hotKeyText() const {

@@ -5,27 +5,21 @@
 #include "platform/Preferences.h"
 #include "sensing/AutoRules.h"
 #include "sensing/FocusLink.h"
-#include "tracking/DashFormat.h"
 #include "tracking/NotificationCenter.h"
 #include "tracking/Settings.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace vantle {
-
-namespace {
-
-constexpr double kSecondsPerMinute = 60;
-
-} // namespace
 
 SettingsView::SettingsView(Environment environment)
     : m_env(std::move(environment))
     , m_gaps({m_env.model.hotKey(), m_env.tray, m_env.idleSource, m_env.frontmostApp,
               m_env.panelHost, m_env.copy}) {
     m_env.rules.loadIfNeeded();
+    for (const PreferenceRowModel::Entry& entry : settingsTable())
+        m_rows << new PreferenceRowModel(entry, m_env.preferences, m_gaps, this);
     readState();
     refreshApps();
     follow();
@@ -38,7 +32,6 @@ void SettingsView::follow() {
     const HotKey& hotKey = m_env.model.hotKey();
     connect(&hotKey, &HotKey::isRegisteredChanged, this, &SettingsView::hotKeyChanged);
     connect(&hotKey, &HotKey::registrationErrorChanged, this, &SettingsView::hotKeyChanged);
-    connect(&m_gaps, &DesktopGaps::idleChanged, this, &SettingsView::idleChanged);
     connect(&m_env.rules, &AutoRules::rulesChanged, this, &SettingsView::refreshApps);
     connect(&m_env.rules, &AutoRules::seenAppsChanged, this, &SettingsView::refreshApps);
     connect(&m_env.rules, &AutoRules::persistenceErrorChanged, this,
@@ -55,62 +48,20 @@ void SettingsView::readState() {
 
 void SettingsView::readPreferences() {
     const Preferences& stored = m_env.preferences;
-    m_idleMinutes = m_env.model.idle().thresholdSeconds() / kSecondsPerMinute;
-    m_dailyGoalHours = settings::dailyGoalHours.read(stored);
-    m_rippleOn = !settings::rippleDisabled.read(stored);
-    m_ceremonyBlackout = settings::ceremonyBlackout.read(stored);
-    m_autoModeOn = settings::autoMode.read(stored);
-    m_autoStartOn = settings::autoStart.read(stored);
     m_focusLinked = settings::focusLinked.read(stored);
     m_focusStartShortcut = settings::startShortcut.read(stored);
     m_focusStopShortcut = settings::stopShortcut.read(stored);
     m_durationStyle = settings::durationStyle.read(stored);
-    Q_EMIT idleChanged();
-    Q_EMIT goalChanged();
     Q_EMIT switched();
     Q_EMIT shortcutsChanged();
     Q_EMIT durationChanged();
 }
 
-void SettingsView::setIdleMinutes(double minutes) {
-    m_idleMinutes = std::clamp(std::round(minutes), minIdleMinutes, maxIdleMinutes);
-    settings::idleThresholdSeconds.write(m_env.preferences, m_idleMinutes * kSecondsPerMinute);
-    Q_EMIT idleChanged();
-}
-
-QString SettingsView::goalText() const {
-    return dashformat::inlineHours(m_dailyGoalHours, m_durationStyle);
-}
-
-void SettingsView::stepGoal(int steps) {
-    m_dailyGoalHours =
-        std::clamp(m_dailyGoalHours + steps * goalStepHours, minGoalHours, maxGoalHours);
-    settings::dailyGoalHours.write(m_env.preferences, m_dailyGoalHours);
-    Q_EMIT goalChanged();
-}
-
-void SettingsView::setRippleOn(bool on) {
-    m_rippleOn = on;
-    settings::rippleDisabled.write(m_env.preferences, !on);
-    Q_EMIT switched();
-}
-
-void SettingsView::setCeremonyBlackout(bool on) {
-    m_ceremonyBlackout = on;
-    settings::ceremonyBlackout.write(m_env.preferences, on);
-    Q_EMIT switched();
-}
-
-void SettingsView::setAutoModeOn(bool on) {
-    m_autoModeOn = on;
-    settings::autoMode.write(m_env.preferences, on);
-    Q_EMIT switched();
-}
-
-void SettingsView::setAutoStartOn(bool on) {
-    m_autoStartOn = on;
-    settings::autoStart.write(m_env.preferences, on);
-    Q_EMIT switched();
+QList<QObject*> SettingsView::rows(PreferenceRowModel::Section section) const {
+    QList<QObject*> found;
+    for (PreferenceRowModel* const row : m_rows)
+        if (row->section() == section) found << row;
+    return found;
 }
 
 void SettingsView::setLaunchAtLogin(bool on) {
@@ -148,7 +99,6 @@ void SettingsView::chooseDuration(int choice) {
     m_durationStyle = durationstyle::all.at(static_cast<std::size_t>(choice));
     durationstyle::adopt(m_durationStyle, m_env.preferences, m_env.notifications);
     Q_EMIT durationChanged();
-    Q_EMIT goalChanged(); // is a duration itself
 }
 
 void SettingsView::replayWelcome() {

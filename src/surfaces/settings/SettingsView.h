@@ -4,6 +4,7 @@
 #include "base/Result.h"
 #include "platform/Preference.h"
 #include "surfaces/settings/DesktopGaps.h"
+#include "surfaces/settings/PreferenceRowModel.h"
 #include "surfaces/settings/SeenAppRows.h"
 #include "tracking/DurationStyle.h"
 
@@ -36,22 +37,7 @@ class SettingsView final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the window router.")
-    /// Minutes without input after which a session pauses. One that was stored by other means may
-    /// lie outside of what can be chosen here.
-    Q_PROPERTY(double idleMinutes READ idleMinutes WRITE setIdleMinutes NOTIFY idleChanged FINAL)
-    Q_PROPERTY(QString idleTitle READ idleTitle NOTIFY idleChanged FINAL)
-    /// What the limit does, or why it does nothing on this desktop.
-    Q_PROPERTY(QString idleCaption READ idleCaption NOTIFY idleChanged FINAL)
-    Q_PROPERTY(QString goalText READ goalText NOTIFY goalChanged FINAL)
-    Q_PROPERTY(bool isGoalLowest READ isGoalLowest NOTIFY goalChanged FINAL)
-    Q_PROPERTY(bool isGoalHighest READ isGoalHighest NOTIFY goalChanged FINAL)
-
     Q_PROPERTY(bool focusLinked READ focusLinked WRITE setFocusLinked NOTIFY switched FINAL)
-    Q_PROPERTY(bool rippleOn READ rippleOn WRITE setRippleOn NOTIFY switched FINAL)
-    Q_PROPERTY(
-        bool ceremonyBlackout READ ceremonyBlackout WRITE setCeremonyBlackout NOTIFY switched FINAL)
-    Q_PROPERTY(bool autoModeOn READ autoModeOn WRITE setAutoModeOn NOTIFY switched FINAL)
-    Q_PROPERTY(bool autoStartOn READ autoStartOn WRITE setAutoStartOn NOTIFY switched FINAL)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY switched FINAL)
 
     /// The tool has answered that there are none.
@@ -94,23 +80,11 @@ class SettingsView final : public QObject {
     Q_PROPERTY(QString versionLine READ versionLine CONSTANT FINAL)
 
 public:
-    static constexpr double minIdleMinutes = 1;
-    static constexpr double maxIdleMinutes = 10;
-    static constexpr double minGoalHours = 0.5;
-    static constexpr double maxGoalHours = 12;
-    static constexpr double goalStepHours = 0.5;
-
-    /// The rows whose words never change.
+    /// The rows that are not in the table, as far as their words never change.
     enum Row {
-        GoalRow,
         FocusLinkRow,
         StartShortcutRow,
         StopShortcutRow,
-        RippleRow,
-        BlackoutRow,
-        AutoModeRow,
-        AutoModePrivacyRow,
-        AutoStartRow,
         LoginRow,
         HotKeyRow,
         TrayRow,
@@ -155,28 +129,11 @@ public:
     /// What the control of a row does, for a pointer that rests on it.
     Q_INVOKABLE static QString help(Row row);
 
-    [[nodiscard]] double idleMinutes() const { return m_idleMinutes; }
-    void setIdleMinutes(double minutes);
-    [[nodiscard]] QString idleTitle() const;
-    [[nodiscard]] QString idleCaption() const;
-
-    [[nodiscard]] double dailyGoalHours() const { return m_dailyGoalHours; }
-    [[nodiscard]] QString goalText() const;
-    [[nodiscard]] bool isGoalLowest() const { return m_dailyGoalHours <= minGoalHours; }
-    [[nodiscard]] bool isGoalHighest() const { return m_dailyGoalHours >= maxGoalHours; }
-    /// So many half hours more. The chips can't leave their range.
-    Q_INVOKABLE void stepGoal(int steps);
+    /// The rows of the table in a section, from the top.
+    Q_INVOKABLE [[nodiscard]] QList<QObject*> rows(PreferenceRowModel::Section section) const;
 
     [[nodiscard]] bool focusLinked() const { return m_focusLinked; }
     void setFocusLinked(bool linked);
-    [[nodiscard]] bool rippleOn() const { return m_rippleOn; }
-    void setRippleOn(bool on);
-    [[nodiscard]] bool ceremonyBlackout() const { return m_ceremonyBlackout; }
-    void setCeremonyBlackout(bool on);
-    [[nodiscard]] bool autoModeOn() const { return m_autoModeOn; }
-    void setAutoModeOn(bool on);
-    [[nodiscard]] bool autoStartOn() const { return m_autoStartOn; }
-    void setAutoStartOn(bool on);
     [[nodiscard]] bool launchAtLogin() const { return m_launchAtLogin; }
     void setLaunchAtLogin(bool on);
 
@@ -225,8 +182,6 @@ public:
     Q_INVOKABLE void confirmErase();
 
 Q_SIGNALS:
-    void idleChanged();
-    void goalChanged();
     void switched();
     void shortcutsChanged();
     void appsChanged();
@@ -253,11 +208,7 @@ private:
     const Environment m_env;
     SeenAppRows m_apps;
     DesktopGaps m_gaps;
-    double m_idleMinutes = 0;
-    double m_dailyGoalHours = 0;
-    bool m_rippleOn = true;
-    bool m_ceremonyBlackout = true;
-    bool m_autoModeOn = true;
+    QList<PreferenceRowModel*> m_rows; ///< children of this
     bool m_welcomeReplayArmed = false;
     bool m_focusLinked = false;
     std::optional<QStringList> m_focusShortcutNames; ///< empty until the tool has answered
@@ -265,7 +216,6 @@ private:
     QString m_focusStartShortcut;
     QString m_focusStopShortcut;
     QString m_shortcutsFailure;
-    bool m_autoStartOn = false;
     bool m_launchAtLogin = false;
     DurationStyle m_durationStyle = DurationStyle::Natural;
     bool m_confirmingErase = false;

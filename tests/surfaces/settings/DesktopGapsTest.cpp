@@ -30,8 +30,8 @@ TEST_F(DesktopGapsTest, WhereACeremonyWouldCatchClicksItIsSaidThatNonePlays) {
 TEST_F(DesktopGapsTest, AnEmptyReadingIsNoGapWhereTheDesktopCanTell) {
     idleSource.becomeUnknown();
     frontmost.activate(std::nullopt);
-    const SettingsView& settings = open();
-    EXPECT_EQ(settings.idleCaption(),
+    open();
+    EXPECT_EQ(row("Auto-pause").caption(),
               text("No input for 3 minutes pauses the clock, backdated to your last keystroke or "
                    "click so away time is never counted. Default is 3."));
     EXPECT_EQ(view->gaps()->autoModeAdvice(), QString());
@@ -39,8 +39,8 @@ TEST_F(DesktopGapsTest, AnEmptyReadingIsNoGapWhereTheDesktopCanTell) {
 
 TEST_F(DesktopGapsTest, WithoutAnIdleCounterNoPauseIsPromised) {
     idleSource.setCanTell(false);
-    const SettingsView& settings = open();
-    EXPECT_EQ(settings.idleCaption(),
+    open();
+    EXPECT_EQ(row("Auto-pause").caption(),
               text("This desktop doesn't tell apps when you last used keyboard or mouse, so Vantle "
                    "can't pause by that. Stop the session when you step away."));
     EXPECT_EQ(view->gaps()->autoStartAdvice(),
@@ -49,10 +49,10 @@ TEST_F(DesktopGapsTest, WithoutAnIdleCounterNoPauseIsPromised) {
                    "app."));
     EXPECT_EQ(view->gaps()->autoModeAdvice(), QString());
     int times = 0;
-    QObject::connect(&settings, &SettingsView::idleChanged, [&] { ++times; });
+    QObject::connect(&row("Auto-pause"), &PreferenceRowModel::changed, [&] { ++times; });
     idleSource.setCanTell(true);
-    EXPECT_EQ(times, 1);
-    EXPECT_TRUE(settings.idleCaption().startsWith(text("No input for 3 minutes")));
+    EXPECT_GT(times, 0);
+    EXPECT_TRUE(row("Auto-pause").caption().startsWith(text("No input for 3 minutes")));
     EXPECT_EQ(view->gaps()->autoStartAdvice(), QString());
 }
 

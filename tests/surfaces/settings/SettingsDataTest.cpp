@@ -73,9 +73,9 @@ TEST_F(SettingsDataTest, NothingIsErasedWithoutBeingAskedFor) {
 TEST_F(SettingsDataTest, EraseTakesTheRunningSessionAndEveryPreference) {
     SettingsView& settings = open();
     press();
-    settings.setRippleOn(false);
-    settings.stepGoal(3);
-    settings.setIdleMinutes(7);
+    row("Ripple ceremony").setOn(false);
+    row("Daily goal").step(3);
+    row("Auto-pause").setValue(7);
     settings.exportData();
     settings.askToErase();
     settings.confirmErase();
@@ -90,18 +90,18 @@ TEST_F(SettingsDataTest, EraseTakesTheRunningSessionAndEveryPreference) {
 
 TEST_F(SettingsDataTest, AfterAnEraseTheRowsShowWhatHoldsNow) {
     SettingsView& settings = open();
-    settings.setRippleOn(false);
+    row("Ripple ceremony").setOn(false);
     settings.setFocusLinked(true);
-    settings.stepGoal(3);
-    settings.setIdleMinutes(7);
+    row("Daily goal").step(3);
+    row("Auto-pause").setValue(7);
     settings.chooseDuration(3);
     settings.exportData();
     settings.askToErase();
     settings.confirmErase();
-    EXPECT_TRUE(settings.rippleOn());
+    EXPECT_TRUE(row("Ripple ceremony").isOn());
     EXPECT_FALSE(settings.focusLinked());
-    EXPECT_EQ(settings.goalText(), text("2 h"));
-    EXPECT_EQ(settings.idleTitle(), text("Auto-pause after 3 min"));
+    EXPECT_EQ(row("Daily goal").valueText(), text("2 h"));
+    EXPECT_EQ(row("Auto-pause").title(), text("Auto-pause after 3 min"));
     EXPECT_EQ(settings.durationChoice(), 0);
     EXPECT_EQ(settings.exportFeedback(), QString());
 }

@@ -12,109 +12,117 @@ class SettingsViewTest : public testing::Test, protected tests::SettingsWorld {}
 
 TEST_F(SettingsViewTest, NewPersonFindsTheDefaults) {
     const SettingsView& settings = open();
-    EXPECT_EQ(settings.idleMinutes(), 3);
-    EXPECT_EQ(settings.dailyGoalHours(), 2);
-    EXPECT_EQ(settings.goalText(), text("2 h"));
+    EXPECT_EQ(row("Auto-pause").value(), 3);
+    EXPECT_EQ(row("Daily goal").value(), 2);
+    EXPECT_EQ(row("Daily goal").valueText(), text("2 h"));
     EXPECT_FALSE(settings.focusLinked());
-    EXPECT_TRUE(settings.rippleOn());
-    EXPECT_TRUE(settings.ceremonyBlackout());
-    EXPECT_TRUE(settings.autoModeOn());
-    EXPECT_FALSE(settings.autoStartOn());
+    EXPECT_TRUE(row("Ripple ceremony").isOn());
+    EXPECT_TRUE(row("Black out").isOn());
+    EXPECT_TRUE(row("Auto mode").isOn());
+    EXPECT_FALSE(row("Start sessions").isOn());
     EXPECT_FALSE(settings.launchAtLogin());
     EXPECT_EQ(settings.durationChoice(), 0);
 }
 
 TEST_F(SettingsViewTest, EverySwitchIsStoredAtOnceAndFoundAgain) {
     SettingsView& settings = open();
-    settings.setCeremonyBlackout(false);
+    row("Black out").setOn(false);
     EXPECT_EQ(stored("ceremony.blackout"), text("false"));
-    settings.setAutoModeOn(false);
+    row("Auto mode").setOn(false);
     EXPECT_EQ(stored("auto.enabled"), text("false"));
-    settings.setAutoStartOn(true);
+    row("Start sessions").setOn(true);
     EXPECT_EQ(stored("auto.autostart"), text("true"));
     settings.setFocusLinked(true);
     EXPECT_EQ(stored("focus.linked"), text("true"));
     const SettingsView& again = open();
-    EXPECT_FALSE(again.ceremonyBlackout());
-    EXPECT_FALSE(again.autoModeOn());
-    EXPECT_TRUE(again.autoStartOn());
+    EXPECT_FALSE(row("Black out").isOn());
+    EXPECT_FALSE(row("Auto mode").isOn());
+    EXPECT_TRUE(row("Start sessions").isOn());
     EXPECT_TRUE(again.focusLinked());
 }
 
 TEST_F(SettingsViewTest, TurningTheCeremonyOffStoresThatItIsDisabled) {
-    SettingsView& settings = open();
-    settings.setRippleOn(false);
+    open();
+    row("Ripple ceremony").setOn(false);
     EXPECT_EQ(stored("ripple.disabled"), text("true"));
-    EXPECT_FALSE(open().rippleOn());
-    view->setRippleOn(true);
+    open();
+    EXPECT_FALSE(row("Ripple ceremony").isOn());
+    row("Ripple ceremony").setOn(true);
     EXPECT_EQ(stored("ripple.disabled"), text("false"));
 }
 
 TEST_F(SettingsViewTest, AwayLimitIsStoredInSecondsAndHoldsAtOnce) {
-    SettingsView& settings = open();
-    settings.setIdleMinutes(7);
-    EXPECT_EQ(preferences.number(text("idle.thresholdSeconds")), 420);
+    open();
+    row("Auto-pause").setValue(7);
+    EXPECT_EQ(stored("idle.thresholdSeconds"), text("420"));
     EXPECT_EQ(model->idle().thresholdSeconds(), 420);
-    EXPECT_EQ(open().idleMinutes(), 7);
+    open();
+    EXPECT_EQ(row("Auto-pause").value(), 7);
 }
 
 TEST_F(SettingsViewTest, AwayLimitIsOneToTenWholeMinutes) {
-    SettingsView& settings = open();
-    settings.setIdleMinutes(0);
-    EXPECT_EQ(settings.idleMinutes(), 1);
-    settings.setIdleMinutes(11);
-    EXPECT_EQ(settings.idleMinutes(), 10);
-    settings.setIdleMinutes(4.4);
-    EXPECT_EQ(settings.idleMinutes(), 4);
+    open();
+    PreferenceRowModel& limit = row("Auto-pause");
+    limit.setValue(0);
+    EXPECT_EQ(limit.value(), 1);
+    limit.setValue(11);
+    EXPECT_EQ(limit.value(), 10);
+    limit.setValue(4.4);
+    EXPECT_EQ(limit.value(), 4);
 }
 
 TEST_F(SettingsViewTest, AwayLimitOfAnotherMakingIsToldAsItIs) {
+    open();
+    const PreferenceRowModel& limit = row("Auto-pause");
     preferences.setNumber(text("idle.thresholdSeconds"), 1800);
-    EXPECT_EQ(open().idleTitle(), text("Auto-pause after 30 min"));
+    EXPECT_EQ(limit.title(), text("Auto-pause after 30 min"));
     preferences.setNumber(text("idle.thresholdSeconds"), 20);
-    EXPECT_EQ(open().idleTitle(), text("Auto-pause after 1 min"));
+    EXPECT_EQ(limit.title(), text("Auto-pause after 1 min"));
     preferences.setNumber(text("idle.thresholdSeconds"), 9); // counts as none
-    EXPECT_EQ(open().idleTitle(), text("Auto-pause after 3 min"));
+    EXPECT_EQ(limit.title(), text("Auto-pause after 3 min"));
 }
 
 TEST_F(SettingsViewTest, StoredGoalOutOfReasonIsReadAsEverywhereElse) {
+    open();
+    const PreferenceRowModel& goal = row("Daily goal");
     for (const double stored : {0.0, -3.0}) {
         preferences.setNumber(text("goal.dailyHours"), stored);
-        EXPECT_EQ(open().dailyGoalHours(), 2) << stored;
+        EXPECT_EQ(goal.value(), 2) << stored;
     }
     preferences.setNumber(text("goal.dailyHours"), 30);
-    EXPECT_EQ(open().goalText(), text("24 h"));
+    EXPECT_EQ(goal.valueText(), text("24 h"));
 }
 
 TEST_F(SettingsViewTest, GoalGoesByHalfHoursAndIsStored) {
-    SettingsView& settings = open();
-    settings.stepGoal(1);
-    EXPECT_EQ(settings.goalText(), text("2.5 h"));
-    EXPECT_EQ(preferences.number(text("goal.dailyHours")), 2.5);
-    settings.stepGoal(-1);
-    EXPECT_EQ(preferences.number(text("goal.dailyHours")), 2);
+    open();
+    PreferenceRowModel& goal = row("Daily goal");
+    goal.step(1);
+    EXPECT_EQ(goal.valueText(), text("2.5 h"));
+    EXPECT_EQ(stored("goal.dailyHours"), text("2.5"));
+    goal.step(-1);
+    EXPECT_EQ(stored("goal.dailyHours"), text("2"));
 }
 
 TEST_F(SettingsViewTest, ChipsCannotLeaveTheRangeOfTheGoal) {
-    SettingsView& settings = open();
-    EXPECT_FALSE(settings.isGoalLowest());
-    for (int i = 0; i < 5; ++i)
-        settings.stepGoal(-1);
-    EXPECT_EQ(settings.dailyGoalHours(), 0.5);
-    EXPECT_EQ(settings.goalText(), text("30 min"));
-    EXPECT_TRUE(settings.isGoalLowest());
+    open();
+    PreferenceRowModel& goal = row("Daily goal");
+    EXPECT_FALSE(goal.isLowest());
+    goal.step(-5);
+    EXPECT_EQ(goal.value(), 0.5);
+    EXPECT_EQ(goal.valueText(), text("30 min"));
+    EXPECT_TRUE(goal.isLowest());
     for (int i = 0; i < 30; ++i)
-        settings.stepGoal(1);
-    EXPECT_EQ(settings.dailyGoalHours(), 12);
-    EXPECT_TRUE(settings.isGoalHighest());
+        goal.step(1);
+    EXPECT_EQ(goal.value(), 12);
+    EXPECT_TRUE(goal.isHighest());
 }
 
 TEST_F(SettingsViewTest, GoalAboveTheRangeComesBackIntoItByTheFirstStep) {
     preferences.setNumber(text("goal.dailyHours"), 20);
-    SettingsView& settings = open();
-    EXPECT_TRUE(settings.isGoalHighest());
-    settings.stepGoal(-1);
-    EXPECT_EQ(settings.dailyGoalHours(), 12);
+    open();
+    EXPECT_TRUE(row("Daily goal").isHighest());
+    row("Daily goal").step(-1);
+    EXPECT_EQ(row("Daily goal").value(), 12);
 }
 
 TEST_F(SettingsViewTest, LoginSwitchDrivesTheDesktop) {
@@ -172,13 +180,13 @@ TEST_F(SettingsViewTest, EachStyleOfDurationsIsOfferedWithAnExample) {
 
 TEST_F(SettingsViewTest, ChosenStyleHoldsEverywhereAtOnce) {
     SettingsView& settings = open();
-    settings.stepGoal(1);
+    row("Daily goal").step(1);
     int times = 0;
     QObject::connect(&notifications, &NotificationCenter::HFSessionsChanged, [&] { ++times; });
     settings.chooseDuration(1);
     EXPECT_EQ(stored("format.duration"), text("hoursMinutes"));
     EXPECT_EQ(times, 1);
-    EXPECT_EQ(settings.goalText(), text("2 h 30 min"));
+    EXPECT_EQ(row("Daily goal").valueText(), text("2 h 30 min"));
     EXPECT_EQ(open().durationChoice(), 1);
     view->chooseDuration(4); // there is none
     EXPECT_EQ(view->durationChoice(), 1);

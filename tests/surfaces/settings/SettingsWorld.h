@@ -26,6 +26,16 @@ public:
         program();
         return view.emplace(environment());
     }
+    /// The row of the table whose title begins so, in the open window.
+    [[nodiscard]] PreferenceRowModel& row(const char* title) {
+        for (const auto section : {PreferenceRowModel::Focus, PreferenceRowModel::Ceremony,
+                                   PreferenceRowModel::AutoMode})
+            for (QObject* const object : view->rows(section))
+                if (auto* const found = static_cast<PreferenceRowModel*>(object);
+                    found->title().startsWith(QLatin1String(title)))
+                    return *found;
+        qFatal("no such row");
+    }
     [[nodiscard]] SettingsView::Environment environment() {
         return {*model,
                 *rules,

@@ -1,0 +1,129 @@
+// A row of the settings that shows one preference and changes it.
+#pragma once
+
+#include "platform/Preference.h"
+#include "tracking/DurationStyle.h"
+
+#include <QList>
+#include <QObject>
+#include <QQmlEngine>
+#include <QString>
+
+#include <variant>
+
+namespace vantle {
+
+class DesktopGaps;
+
+/// Reads and writes the preference itself, so it shows what other windows store, too. Main thread.
+class PreferenceRowModel final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the settings.")
+    Q_PROPERTY(Kind kind READ kind CONSTANT FINAL)
+    Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
+    /// What the preference does, or why it does nothing on this desktop.
+    Q_PROPERTY(QString caption READ caption NOTIFY changed FINAL)
+    /// A second paragraph of the caption; empty for none.
+    Q_PROPERTY(QString note READ note CONSTANT FINAL)
+    /// What this desktop lacks for it; empty for nothing.
+    Q_PROPERTY(QString gap READ gap NOTIFY changed FINAL)
+
+    /// Of a switch.
+    Q_PROPERTY(bool on READ isOn WRITE setOn NOTIFY changed FINAL)
+
+    /// Of a slider and a stepper, in the unit of the row. A value that was stored by other means
+    /// may lie outside of the range.
+    Q_PROPERTY(double value READ value WRITE setValue NOTIFY changed FINAL)
+    Q_PROPERTY(double least READ least CONSTANT FINAL)
+    Q_PROPERTY(double most READ most CONSTANT FINAL)
+    Q_PROPERTY(double stepSize READ stepSize CONSTANT FINAL)
+    Q_PROPERTY(bool isLowest READ isLowest NOTIFY changed FINAL)
+    Q_PROPERTY(bool isHighest READ isHighest NOTIFY changed FINAL)
+    /// The value in words, beside a stepper.
+    Q_PROPERTY(QString valueText READ valueText NOTIFY changed FINAL)
+    /// The names of a stepper's two chips.
+    Q_PROPERTY(QString lessName READ lessName CONSTANT FINAL)
+    Q_PROPERTY(QString moreName READ moreName CONSTANT FINAL)
+
+public:
+    enum Kind { Switch, Slider, Stepper };
+    Q_ENUM(Kind)
+    enum Section { Focus, Ceremony, AutoMode };
+    Q_ENUM(Section)
+
+    /// A switch for a preference.
+    struct OnOff {
+        Preference<bool> preference;
+        bool isStoredInverted = false; ///< on is stored as false
+    };
+    /// What can be chosen of a number.
+    struct Range {
+        Preference<double> preference;
+        double storedPerUnit; ///< what is stored for 1 in the row
+        double least;
+        double most;
+        double step;
+        QString (*text)(double value, DurationStyle style) = nullptr;
+        QString lessName = {};
+        QString moreName = {};
+    };
+    /// A row of the table. In title and caption "%1" is the value as a whole number of at least 1,
+    /// "%2" the ending of its plural.
+    struct Entry {
+        Section section;
+        Kind kind;
+        std::variant<OnOff, Range> setting;
+        QString title;
+        QString caption;
+        QString note = {};
+        QString (DesktopGaps::*gap)() const = nullptr;
+        bool gapReplacesCaption = false;
+    };
+
+    /// All of it must outlive the row.
+    PreferenceRowModel(const Entry& entry, Preferences& preferences, const DesktopGaps& gaps,
+                       QObject* parent);
+
+    [[nodiscard]] Section section() const { return m_entry.section; }
+    [[nodiscard]] Kind kind() const { return m_entry.kind; }
+    [[nodiscard]] QString title() const { return worded(m_entry.title); }
+    [[nodiscard]] QString caption() const;
+    [[nodiscard]] QString note() const { return m_entry.note; }
+    [[nodiscard]] QString gap() const;
+
+    [[nodiscard]] bool isOn() const;
+    void setOn(bool on);
+
+    [[nodiscard]] double value() const;
+    /// Stores the nearest value that can be chosen.
+    void setValue(double value);
+    /// So many steps more. A value outside of the range comes back into it.
+    Q_INVOKABLE void step(int steps);
+    [[nodiscard]] double least() const { return range() ? range()->least : 0; }
+    [[nodiscard]] double most() const { return range() ? range()->most : 0; }
+    [[nodiscard]] double stepSize() const { return range() ? range()->step : 0; }
+    [[nodiscard]] bool isLowest() const { return value() <= least(); }
+    [[nodiscard]] bool isHighest() const { return value() >= most(); }
+    [[nodiscard]] QString valueText() const;
+    [[nodiscard]] QString lessName() const { return range() ? range()->lessName : QString(); }
+    [[nodiscard]] QString moreName() const { return range() ? range()->moreName : QString(); }
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    [[nodiscard]] const Range* range() const { return std::get_if<Range>(&m_entry.setting); }
+    void store(double value);
+    [[nodiscard]] QString worded(QString text) const;
+    [[nodiscard]] QString gapHere() const;
+
+    const Entry& m_entry;
+    Preferences& m_preferences;
+    const DesktopGaps& m_gaps;
+};
+
+/// The rows of the settings that show one preference each, from the top.
+[[nodiscard]] const QList<PreferenceRowModel::Entry>& settingsTable();
+
+} // namespace vantle

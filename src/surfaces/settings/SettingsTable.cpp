@@ -1,0 +1,95 @@
+// The table of the settings: what is on the page, in which words, and what it stores.
+#include "surfaces/settings/DesktopGaps.h"
+#include "surfaces/settings/PreferenceRowModel.h"
+#include "tracking/DashFormat.h"
+#include "tracking/Settings.h"
+
+namespace vantle {
+
+namespace {
+
+constexpr double kSecondsPerMinute = 60;
+
+using Entry = PreferenceRowModel::Entry;
+using OnOff = PreferenceRowModel::OnOff;
+using Range = PreferenceRowModel::Range;
+
+QList<Entry> focusRows() {
+    return {
+        {.section = PreferenceRowModel::Focus,
+         .kind = PreferenceRowModel::Slider,
+         .setting = Range{settings::idleThresholdSeconds, kSecondsPerMinute, 1, 10, 1},
+         .title = QStringLiteral("Auto-pause after %1 min"),
+         .caption = QStringLiteral("No input for %1 minute%2 pauses the clock, backdated to your "
+                                   "last keystroke or click so away time is never counted. "
+                                   "Default is 3."),
+         .gap = &DesktopGaps::idleAdvice,
+         .gapReplacesCaption = true},
+        {.section = PreferenceRowModel::Focus,
+         .kind = PreferenceRowModel::Stepper,
+         .setting = Range{settings::dailyGoalHours, 1, 0.5, 12, 0.5, &dashformat::inlineHours,
+                          QStringLiteral("Half an hour less"), QStringLiteral("Half an hour more")},
+         .title = QStringLiteral("Daily goal"),
+         .caption = QStringLiteral("The dashboard's Today card measures against this goal, and "
+                                   "This week against seven of it. Default is 2 hours.")},
+    };
+}
+
+QList<Entry> ceremonyRows() {
+    return {
+        {.section = PreferenceRowModel::Ceremony,
+         .kind = PreferenceRowModel::Switch,
+         .setting = OnOff{settings::rippleDisabled, true},
+         .title = QStringLiteral("Ripple ceremony"),
+         .caption =
+             QStringLiteral("Presenter mode: turn this off before a screen share and the ceremony "
+                            "never crashes your call. It's a manual switch on purpose: macOS can "
+                            "only detect screen sharing through an API that itself triggers the "
+                            "Screen Recording permission prompt, the exact pop-up this app "
+                            "promises never to show."),
+         .gap = &DesktopGaps::ceremonyAdvice},
+        {.section = PreferenceRowModel::Ceremony,
+         .kind = PreferenceRowModel::Switch,
+         .setting = OnOff{settings::ceremonyBlackout},
+         .title = QStringLiteral("Black out the screen"),
+         .caption = QStringLiteral("The ritual plays on a fully black screen instead of over your "
+                                   "dimmed desktop. Your windows come back the moment it ends. "
+                                   "Turn this on when the apps behind the dots feel busy.")},
+    };
+}
+
+QList<Entry> autoModeRows() {
+    return {
+        {.section = PreferenceRowModel::AutoMode,
+         .kind = PreferenceRowModel::Switch,
+         .setting = OnOff{settings::autoMode},
+         .title = QStringLiteral("Auto mode"),
+         .caption = QStringLiteral(
+             "On from the first launch; this switch turns it off. Vantle notices which app is in "
+             "front and files the time under the right category on its own. It already knows the "
+             "common tools: Claude, Codex and Xcode count as Build, Figma as Design, Slack and "
+             "Mail as Connections, Notion and Linear as Founder Ops, and dozens more. Anything it "
+             "does not recognize, it asks you about once, right when you are in it. Stay in a "
+             "mapped app for about 45 seconds and a running session switches by itself. Every "
+             "mapping is yours to change below."),
+         .note = QStringLiteral("It reads only the app's name. No window titles, no tabs, no "
+                                "documents, no screen. App names never leave this Mac."),
+         .gap = &DesktopGaps::autoModeAdvice},
+        {.section = PreferenceRowModel::AutoMode,
+         .kind = PreferenceRowModel::Switch,
+         .setting = OnOff{settings::autoStart},
+         .title = QStringLiteral("Start sessions automatically"),
+         .caption =
+             QStringLiteral("After about 2 minutes in a mapped app, vantle starts on its own."),
+         .gap = &DesktopGaps::autoStartAdvice},
+    };
+}
+
+} // namespace
+
+const QList<Entry>& settingsTable() {
+    static const QList<Entry> table = focusRows() + ceremonyRows() + autoModeRows();
+    return table;
+}
+
+} // namespace vantle
