@@ -37,6 +37,13 @@ struct Skill {
         0xFF375F, 0xFF9F0A, 0x7A78FF, 0x30D158, 0x64D2FF,
         0xFFD60A, 0xBF5AF2, 0xFF6482, 0x40C8E0, 0xACF35C};
 
+    /// What a colour of the palette is called, in the order of `palette`.
+    static constexpr std::array<QLatin1String, palette.size()> paletteNames = {
+        QLatin1String("Red"),    QLatin1String("Orange"), QLatin1String("Violet"),
+        QLatin1String("Green"),  QLatin1String("Sky"),    QLatin1String("Yellow"),
+        QLatin1String("Purple"), QLatin1String("Pink"),   QLatin1String("Teal"),
+        QLatin1String("Lime")};
+
     /// The seed with that id: of `defaults`, else of `legacyDefaults`, else none.
     [[nodiscard]] static std::optional<Skill> seedDefinition(const QString& id);
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "support/ShownItems.h"
+#include "surfaces/kit/controls/Announcer.h"
 #include "surfaces/kit/tokens/Motion.h"
 
 #include <QGuiApplication>
@@ -138,6 +139,13 @@ public:
         for (const QChar letter : text)
             QTest::keyClick(&m_window, letter.toLatin1());
         settle();
+    }
+    /// What each announcer of the view said last.
+    [[nodiscard]] QStringList announced() const {
+        QStringList said;
+        for (const Announcer* one : m_window.findChildren<Announcer*>())
+            said << one->text();
+        return said;
     }
     /// What has the keyboard; null for nothing.
     [[nodiscard]] QQuickItem* keyboardOwner() const { return m_window.activeFocusItem(); }

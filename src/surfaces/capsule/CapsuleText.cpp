@@ -9,7 +9,7 @@
 namespace vantle {
 
 CapsuleText::CapsuleText()
-    : m_chip(fontOf(look::kType.smallMedium))
+    : m_chip(fontOf(look::kType.capsuleChip))
     , m_skillLine(fontOf(look::kType.capsuleSkill))
     , m_clock(fontOf(look::kType.capsuleClock)) {}
 

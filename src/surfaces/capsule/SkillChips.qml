@@ -26,6 +26,7 @@ Item {
             width: frame.width
             height: frame.height
             text: skillName
+            role: DarkUI.capsuleChip
             dotColor: Tint.fromHex(hexRGB)
             selectedTint: highlighted ? Tint.fromHex(hexRGB) : DarkUI.clear
             playOnHover: chips.capsule.idlePrompt

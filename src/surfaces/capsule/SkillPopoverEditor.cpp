@@ -70,6 +70,10 @@ QList<QColor> SkillPopoverEditor::palette() {
     return colors;
 }
 
+QList<QString> SkillPopoverEditor::colorNames() {
+    return {Skill::paletteNames.begin(), Skill::paletteNames.end()};
+}
+
 int SkillPopoverEditor::selectedIndex() const {
     const auto found = std::find(Skill::palette.begin(), Skill::palette.end(), m_selectedHex);
     return found == Skill::palette.end() ? -1 : static_cast<int>(found - Skill::palette.begin());

@@ -31,6 +31,8 @@ class SkillPopoverEditor final : public QObject {
     Q_PROPERTY(bool canCommit READ canCommit NOTIFY nameChanged)
     Q_PROPERTY(int maxNameLength READ maxNameLength CONSTANT)
     Q_PROPERTY(QList<QColor> palette READ palette CONSTANT)
+    /// Read out for the colours, in the order of the palette.
+    Q_PROPERTY(QList<QString> colorNames READ colorNames CONSTANT)
     /// Which colour of the palette is chosen; -1 for one that is not in it.
     Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectedHexChanged)
 
@@ -62,6 +64,7 @@ public:
     [[nodiscard]] bool canCommit() const;
     [[nodiscard]] static int maxNameLength() { return Skill::maxNameLength; }
     [[nodiscard]] static QList<QColor> palette();
+    [[nodiscard]] static QList<QString> colorNames();
     [[nodiscard]] std::uint32_t selectedHex() const { return m_selectedHex; }
     [[nodiscard]] int selectedIndex() const;
 

@@ -96,6 +96,7 @@ DarkPopover {
         visible: popover.editor.hasColors
         focus: !popover.editor.hasName
         colors: popover.editor.palette
+        names: popover.editor.colorNames
         currentIndex: popover.editor.selectedIndex
         onActivated: index => popover.editor.select(index)
     }

@@ -171,9 +171,15 @@ FocusScope {
             modes: content.model.modes
             adding: content.model.editor.shown && content.model.editor.adding
             onChosen: id => content.model.selectMode(id)
-            onEditWanted: id => content.model.editMode(id)
+            onEditWanted: id => {
+                editor.origin = id;
+                content.model.editMode(id);
+            }
             onDeleteWanted: id => content.model.deleteMode(id)
-            onAddWanted: content.model.addMode()
+            onAddWanted: {
+                editor.origin = "";
+                content.model.addMode();
+            }
         }
 
         Gap {
@@ -182,6 +188,8 @@ FocusScope {
         }
 
         ModeEditorView {
+            id: editor
+            property string origin // the mode whose chip opened it; empty for the way to a new one
             x: content.margin
             width: content.inner
             visible: content.model.editor.shown
@@ -268,7 +276,7 @@ FocusScope {
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Quit")
                 role: DarkUI.captionMedium
-                Accessible.description: qsTr("Quit Vantle (⌘Q)")
+                Accessible.description: KitText.spoken(qsTr("Quit Vantle (⌘Q)"))
                 onClicked: content.model.quit()
             }
             Shortcut {
@@ -282,6 +290,15 @@ FocusScope {
         settle();
         if (content.model.takePrimaryPulse())
             enter.pulse();
+    }
+
+    Connections {
+        target: content.model.editor
+        // What had the keyboard has gone.
+        function onShownChanged(): void {
+            if (!content.model.editor.shown)
+                modes.takeKeyboard(editor.origin);
+        }
     }
 
     Connections {

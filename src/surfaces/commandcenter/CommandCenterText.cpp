@@ -67,9 +67,4 @@ QList<int> backfillChoices(int coverageMinutes) {
     return choices;
 }
 
-QString colorName(std::uint32_t hexRGB) {
-    const QString digits = QStringLiteral("%1").arg(hexRGB, 6, 16, QLatin1Char('0'));
-    return QStringLiteral("Color ") + digits.toUpper();
-}
-
 } // namespace vantle::commandcentertext

@@ -35,7 +35,4 @@ struct Title {
 /// The minutes that may be credited, for a presence that is confirmed that far back.
 [[nodiscard]] QList<int> backfillChoices(int coverageMinutes);
 
-/// "Color 30D158"
-[[nodiscard]] QString colorName(std::uint32_t hexRGB);
-
 } // namespace vantle::commandcentertext

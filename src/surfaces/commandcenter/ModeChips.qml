@@ -16,6 +16,18 @@ Item {
 
     implicitHeight: flow.implicitHeight
 
+    // Back from the editor to the chip that it was opened for, or to the way to another mode.
+    function takeKeyboard(id: string): void {
+        const all = group.stops();
+        let place = all.length - 1;
+        for (let i = 0; i < all.length; ++i) {
+            if (all[i].skillId === id)
+                place = i;
+        }
+        all[place].focusByKeyboard();
+        group.current = place;
+        group.refresh();
+    }
     function settle(): void {
         flow.forceLayout();
     }

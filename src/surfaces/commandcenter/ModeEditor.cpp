@@ -1,7 +1,6 @@
 #include "surfaces/commandcenter/ModeEditor.h"
 
 #include "base/Text.h"
-#include "surfaces/commandcenter/CommandCenterText.h"
 
 #include <algorithm>
 
@@ -91,10 +90,7 @@ QList<QColor> ModeEditor::palette() {
 }
 
 QStringList ModeEditor::colorNames() {
-    QStringList names;
-    for (const std::uint32_t hexRGB : Skill::palette)
-        names.append(commandcentertext::colorName(hexRGB));
-    return names;
+    return {Skill::paletteNames.begin(), Skill::paletteNames.end()};
 }
 
 int ModeEditor::colorIndex() const {

@@ -12,7 +12,7 @@ KitPressable {
 
     implicitHeight: DarkUI.navRowHeight
     name: title
-    Accessible.description: shortcut
+    Accessible.description: KitText.spoken(shortcut)
 
     Rectangle {
         id: ground

@@ -285,7 +285,7 @@ TEST_F(CapsuleWindowTest, ANewSkillTakesTheColourThatWasClicked) {
     raiseIdle();
     click(middleOf(text("New skill")));
     type(text("Writing"));
-    click(middleOf(text("Color FFD60A")));
+    click(middleOf(text("Yellow")));
     click(middleOf(text("Create skill")));
     EXPECT_EQ(world.calls, QStringList(text("add Writing ffd60a")));
 }

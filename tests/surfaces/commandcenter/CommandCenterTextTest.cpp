@@ -65,10 +65,5 @@ TEST(CommandCenterText, OnlyConfirmedMinutesCanBeCredited) {
     EXPECT_EQ(backfillChoices(30), QList<int>({5, 10, 15, 30}));
 }
 
-TEST(CommandCenterText, AColourIsNamedByItsSixDigits) {
-    EXPECT_EQ(colorName(0x30D158), QStringLiteral("Color 30D158"));
-    EXPECT_EQ(colorName(0x00000A), QStringLiteral("Color 00000A"));
-}
-
 } // namespace
 } // namespace vantle::commandcentertext

@@ -1,4 +1,5 @@
 // The panel by pointer and keys.
+#include "support/ReadElements.h"
 #include "support/ShownView.h"
 #include "support/Text.h"
 #include "surfaces/commandcenter/CommandCenterWorld.h"
@@ -74,6 +75,46 @@ TEST_F(CommandCenterViewTest, ModeIsDeletedByTheMenuOfItsChip) {
     click(last, Qt::RightButton);
     click(text("Delete %1").arg(last));
     EXPECT_EQ(names(), left);
+}
+
+TEST_F(CommandCenterViewTest, ColoursAreOneStopOfTheTabKeyThatStartsAtTheChosenOne) {
+    show();
+    click(nameOf(2), Qt::RightButton);
+    click(text("Change color…"));
+    const QString chosen = content->editor()->colorNames().at(content->editor()->colorIndex());
+    m_shown->press(Qt::Key_Tab);
+    EXPECT_EQ(m_shown->keyboardOwner(), m_shown->control(chosen));
+    m_shown->press(Qt::Key_Tab);
+    EXPECT_EQ(m_shown->keyboardOwner(), m_shown->control(text("Cancel")));
+    m_shown->press(Qt::Key_Backtab);
+    m_shown->press(Qt::Key_Home);
+    EXPECT_EQ(m_shown->keyboardOwner(), m_shown->control(text("Red")));
+    EXPECT_EQ(content->editor()->colorIndex(), 0);
+    EXPECT_EQ(readElement(m_shown->window(), text("Red")).description,
+              text("Color FF375F, selected"));
+}
+
+TEST_F(CommandCenterViewTest, KeysAreToldInWordsThatTheKeyboardHas) {
+    show();
+    EXPECT_EQ(readElement(m_shown->window(), text("Dashboard")).description, text("Ctrl+D"));
+    EXPECT_EQ(readElement(m_shown->window(), text("Settings")).description, text("Ctrl+Comma"));
+    EXPECT_EQ(readElement(m_shown->window(), text("Quit")).description,
+              text("Quit Vantle (Ctrl+Q)"));
+    for (const ReadElement& one : readElements(m_shown->window())) {
+        EXPECT_FALSE(one.name.contains(u'⌘')) << one.name.toStdString();
+        EXPECT_FALSE(one.description.contains(u'⌘')) << one.description.toStdString();
+    }
+}
+
+TEST_F(CommandCenterViewTest, KeyboardGoesBackToTheChipWhoseEditorCloses) {
+    show();
+    click(nameOf(2), Qt::RightButton);
+    click(text("Change color…"));
+    click(text("Cancel"));
+    EXPECT_EQ(m_shown->keyboardOwner(), m_shown->control(nameOf(2)));
+    click(text("New Mode"));
+    click(text("Cancel"));
+    EXPECT_EQ(m_shown->keyboardOwner(), m_shown->control(text("New Mode")));
 }
 
 TEST_F(CommandCenterViewTest, MenuOfAChipOpensTheEditorForItsColour) {

@@ -1,5 +1,7 @@
 #include "surfaces/kit/controls/Announcer.h"
 
+#include "base/KeySigns.h"
+
 #include <QAccessible>
 #include <QAccessibleObject>
 #include <QCoreApplication>
@@ -27,8 +29,8 @@ public:
         return state;
     }
     [[nodiscard]] QString text(QAccessible::Text which) const override {
-        return which == QAccessible::Name ? static_cast<const Announcer*>(object())->text()
-                                          : QString();
+        if (which != QAccessible::Name) return {};
+        return keySignsInWords(static_cast<const Announcer*>(object())->text());
     }
 };
 

@@ -70,5 +70,7 @@ FocusScope {
             event.accepted = false;
         }
     }
+    // Hidden stops are none: a group that is made hidden finds its own when it is shown.
+    onVisibleChanged: refresh()
     Component.onCompleted: refresh()
 }

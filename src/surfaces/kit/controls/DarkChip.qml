@@ -14,6 +14,7 @@ KitPressable {
     property bool checked: false // shows the check of a large chip
     property bool playOnHover: false // the dot turns into a play sign
     property bool choosable: false // one of several, of which one is chosen
+    property TypeRole role: large ? DarkUI.captionMedium : DarkUI.smallMedium
     property int key: -1 // whatever the group's owner knows it by
     readonly property bool hasDot: dotColor.a > 0
     readonly property bool showsPlay: playOnHover && (hovered || ringed)
@@ -67,7 +68,7 @@ KitPressable {
         x: chip.hasDot ? chip.leading + DarkUI.chipDotSize + chip.gap : chip.leading + DarkUI.space2
         anchors.verticalCenter: parent.verticalCenter
         text: chip.text
-        role: chip.large ? DarkUI.captionMedium : DarkUI.smallMedium
+        role: chip.role
         color: DarkUI.textChip
         Accessible.ignored: true
     }

@@ -11,7 +11,7 @@ KitControl {
     property real maximumValue: 1
     property real stepSize: 0 // 0 for any number; then an arrow key goes a twentieth
     property real value: 0
-    property string valueText // what is read out instead of the number
+    property string valueText // read out after the name and the number
     property bool ringed: keyboardFocus
     // A value beyond the ends stands at an end.
     readonly property real position: Math.max(0, Math.min((value - minimumValue)

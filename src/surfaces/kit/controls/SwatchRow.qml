@@ -7,7 +7,7 @@ ArrowGroup {
     id: row
 
     required property list<color> colors
-    property list<string> names // read out instead of their digits, in the order of the colours
+    property list<string> names // read out, in the order of the colours
     property int currentIndex: -1
     readonly property real pitch: colors.length > 1
                                   ? (width - DarkUI.swatchCellSize) / (colors.length - 1) : 0
@@ -36,12 +36,11 @@ ArrowGroup {
                 x: Math.round(index * row.pitch)
                 width: DarkUI.swatchCellSize
                 height: DarkUI.swatchCellSize
-                name: row.names[index]
-                      ?? qsTr("Color %1").arg(modelData.toString().slice(1).toUpperCase())
+                name: row.names[index] ?? KitText.digits(modelData)
                 Accessible.role: Accessible.RadioButton
                 Accessible.checkable: true
                 Accessible.checked: chosen
-                Accessible.description: chosen ? qsTr("Selected") : qsTr("Not selected")
+                Accessible.description: KitText.swatch(modelData, chosen)
                 onClicked: row.activated(index)
 
                 Rectangle {

@@ -24,6 +24,6 @@ Text {
                                                                  : Text.QtRendering
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: text
+    Accessible.name: KitText.spoken(text)
     Accessible.ignored: text === ""
 }

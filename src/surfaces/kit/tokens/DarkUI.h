@@ -5,6 +5,7 @@
 #include "surfaces/kit/tokens/TypeRole.h"
 
 #include <QColor>
+#include <QList>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -69,6 +70,14 @@ public:                                                                         
 #define LOOK_ROLE(name)                                                                            \
     Q_PROPERTY(vantle::TypeRole* name READ name CONSTANT)                                          \
 public:                                                                                            \
+    [[nodiscard]] TypeRole* name() { return grown(made(m_##name, look::kType.name)); }             \
+                                                                                                   \
+private:                                                                                           \
+    TypeRole* m_##name = nullptr;
+// A role whose place is measured beforehand: it keeps its size.
+#define LOOK_FIXED_ROLE(name)                                                                      \
+    Q_PROPERTY(vantle::TypeRole* name READ name CONSTANT)                                          \
+public:                                                                                            \
     [[nodiscard]] TypeRole* name() { return made(m_##name, look::kType.name); }                    \
                                                                                                    \
 private:                                                                                           \
@@ -91,6 +100,11 @@ private:                                                                        
     Q_PROPERTY(int name READ name CONSTANT)                                                        \
 public:                                                                                            \
     [[nodiscard]] static int name() { return look::kLengths.name; }
+// What holds a line of text grows with it.
+#define LOOK_TEXT_LENGTH(name)                                                                     \
+    Q_PROPERTY(int name READ name NOTIFY textScaleChanged)                                         \
+public:                                                                                            \
+    [[nodiscard]] int name() const { return forText(look::kLengths.name); }
 #define LOOK_FINE_LENGTH(name)                                                                     \
     Q_PROPERTY(double name READ name CONSTANT)                                                     \
 public:                                                                                            \
@@ -149,14 +163,15 @@ class DarkUI : public QObject {
     LOOK_OPACITY(wrappedFillOpacity) LOOK_OPACITY(wrappedEdgeOpacity)
     LOOK_OPACITY(pointTintOpacity) LOOK_OPACITY(columnRestOpacity) LOOK_OPACITY(pausedOpacity)
     LOOK_OPACITY(disabledOpacity)
-    LOOK_ROLE(heroReview) LOOK_ROLE(heroPoster) LOOK_ROLE(nameReview) LOOK_ROLE(namePoster)
+    LOOK_ROLE(heroReview) LOOK_FIXED_ROLE(heroPoster) LOOK_ROLE(nameReview)
+    LOOK_FIXED_ROLE(namePoster)
     LOOK_ROLE(duration) LOOK_ROLE(statValue) LOOK_ROLE(statUnit) LOOK_ROLE(quotation)
-    LOOK_ROLE(titleXL) LOOK_ROLE(titleL) LOOK_ROLE(capsuleClock) LOOK_ROLE(titleM)
+    LOOK_ROLE(titleXL) LOOK_ROLE(titleL) LOOK_FIXED_ROLE(capsuleClock) LOOK_ROLE(titleM)
     LOOK_ROLE(titleMWide) LOOK_ROLE(titleMQuiet) LOOK_ROLE(cardTitle) LOOK_ROLE(cardTitleQuiet)
     LOOK_ROLE(panelTitle) LOOK_ROLE(lead) LOOK_ROLE(leadButton) LOOK_ROLE(note) LOOK_ROLE(body)
     LOOK_ROLE(bodyMedium) LOOK_ROLE(bodyStrong) LOOK_ROLE(caption) LOOK_ROLE(captionMedium)
     LOOK_ROLE(captionStrong) LOOK_ROLE(small) LOOK_ROLE(smallMedium) LOOK_ROLE(kicker)
-    LOOK_ROLE(sectionLabel) LOOK_ROLE(capsuleSkill)
+    LOOK_ROLE(sectionLabel) LOOK_FIXED_ROLE(capsuleSkill) LOOK_FIXED_ROLE(capsuleChip)
     LOOK_LENGTH(space2) LOOK_LENGTH(space4) LOOK_LENGTH(space6) LOOK_LENGTH(space8)
     LOOK_LENGTH(space10) LOOK_LENGTH(space12) LOOK_LENGTH(space14) LOOK_LENGTH(space16)
     LOOK_LENGTH(space18) LOOK_LENGTH(space20) LOOK_LENGTH(space24) LOOK_LENGTH(space28)
@@ -167,27 +182,31 @@ class DarkUI : public QObject {
     LOOK_LENGTH(radiusBanner) LOOK_LENGTH(radiusTile) LOOK_LENGTH(radiusCard)
     LOOK_LENGTH(radiusWindow) LOOK_LENGTH(radiusFloating) LOOK_LENGTH(hairlineWidth)
     LOOK_LENGTH(focusWidth) LOOK_LENGTH(focusGap) LOOK_LENGTH(focusRadiusGain)
-    LOOK_LENGTH(buttonHeight) LOOK_LENGTH(buttonPadding) LOOK_LENGTH(formButtonHeight)
-    LOOK_LENGTH(formButtonPadding) LOOK_LENGTH(wideButtonHeight) LOOK_LENGTH(popoverButtonHeight)
+    LOOK_TEXT_LENGTH(buttonHeight) LOOK_LENGTH(buttonPadding) LOOK_TEXT_LENGTH(formButtonHeight)
+    LOOK_LENGTH(formButtonPadding) LOOK_TEXT_LENGTH(wideButtonHeight)
+    LOOK_TEXT_LENGTH(popoverButtonHeight)
     LOOK_LENGTH(iconButtonSize) LOOK_LENGTH(closeButtonSize) LOOK_LENGTH(iconSize)
-    LOOK_LENGTH(iconMedium) LOOK_LENGTH(iconSmall) LOOK_LENGTH(iconTiny) LOOK_LENGTH(keycapHeight)
-    LOOK_LENGTH(chipHeight) LOOK_LENGTH(largeChipHeight) LOOK_LENGTH(summaryDotSize)
+    LOOK_LENGTH(iconMedium) LOOK_LENGTH(iconSmall) LOOK_LENGTH(iconTiny)
+    LOOK_TEXT_LENGTH(keycapHeight)
+    LOOK_TEXT_LENGTH(chipHeight) LOOK_TEXT_LENGTH(largeChipHeight) LOOK_LENGTH(summaryDotSize)
     LOOK_LENGTH(chipGap) LOOK_LENGTH(chipDotSize) LOOK_LENGTH(switchWidth)
     LOOK_LENGTH(switchHeight) LOOK_LENGTH(stepperSize) LOOK_LENGTH(formStepperSize)
-    LOOK_LENGTH(menuHeight) LOOK_LENGTH(menuRowHeight) LOOK_LENGTH(fieldHeight)
-    LOOK_LENGTH(popoverFieldHeight) LOOK_LENGTH(editorFieldHeight) LOOK_LENGTH(formFieldHeight)
-    LOOK_LENGTH(figureFieldHeight) LOOK_LENGTH(welcomeFieldHeight) LOOK_LENGTH(searchFieldHeight)
+    LOOK_TEXT_LENGTH(menuHeight) LOOK_TEXT_LENGTH(menuRowHeight) LOOK_TEXT_LENGTH(fieldHeight)
+    LOOK_TEXT_LENGTH(popoverFieldHeight) LOOK_TEXT_LENGTH(editorFieldHeight)
+    LOOK_TEXT_LENGTH(formFieldHeight)
+    LOOK_TEXT_LENGTH(figureFieldHeight) LOOK_TEXT_LENGTH(welcomeFieldHeight)
+    LOOK_TEXT_LENGTH(searchFieldHeight)
     LOOK_LENGTH(fieldPadding) LOOK_LENGTH(sliderHeight) LOOK_LENGTH(sliderTrackHeight)
     LOOK_LENGTH(sliderKnobSize) LOOK_LENGTH(barStatHeight) LOOK_LENGTH(barTableHeight)
     LOOK_LENGTH(barReviewHeight) LOOK_LENGTH(columnWidth) LOOK_LENGTH(columnHeight)
     LOOK_LENGTH(swatchSize) LOOK_LENGTH(swatchCellSize) LOOK_LENGTH(scrollbarWidth)
     LOOK_LENGTH(scrollbarInset) LOOK_LENGTH(edgeFadeLength) LOOK_LENGTH(stripHeight)
-    LOOK_LENGTH(stripButtonSize) LOOK_LENGTH(navRowHeight) LOOK_LENGTH(pageDotSize)
+    LOOK_LENGTH(stripButtonSize) LOOK_TEXT_LENGTH(navRowHeight) LOOK_LENGTH(pageDotSize)
     LOOK_LENGTH(pagerButtonSize) LOOK_LENGTH(pointDiscSize) LOOK_LENGTH(personaDiscSize)
     LOOK_LENGTH(capsuleInset) LOOK_LENGTH(capsuleRowHeight)
     LOOK_LENGTH(capsuleChipSize) LOOK_LENGTH(capsuleAddRowHeight)
-    LOOK_LENGTH(posterWidth) LOOK_LENGTH(popoverWidth) LOOK_LENGTH(commandCenterWidth)
-    LOOK_LENGTH(backfillChipWidth) LOOK_LENGTH(cardWidth) LOOK_LENGTH(cardRight)
+    LOOK_LENGTH(posterWidth) LOOK_LENGTH(popoverWidth) LOOK_TEXT_LENGTH(commandCenterWidth)
+    LOOK_TEXT_LENGTH(backfillChipWidth) LOOK_LENGTH(cardWidth) LOOK_LENGTH(cardRight)
     LOOK_LENGTH(cardTop)
     LOOK_FINE_LENGTH(radiusYearTile) LOOK_FINE_LENGTH(fieldEdgeWidth) LOOK_FINE_LENGTH(caretWidth)
     LOOK_SHADOW(shadowWindow) LOOK_SHADOW(shadowFloating) LOOK_SHADOW(shadowPopover)
@@ -223,11 +242,16 @@ class DarkUI : public QObject {
     /// Every view takes the colours at once.
     void setPalette(const look::Palette& palette);
 
+    /// The factor on the sizes of text, beyond the scale factor of the screen. Every view takes it
+    /// at once.
+    void setTextScale(double factor);
+
     [[nodiscard]] static double heroUnitScale() { return look::kType.heroUnitScale; }
 
 Q_SIGNALS:
     void paletteChanged();
     void reducedChanged();
+    void textScaleChanged();
 
 private:
     explicit DarkUI(QQmlEngine& engine);
@@ -239,17 +263,23 @@ private:
         return kept;
     }
     [[nodiscard]] int inMotion(int value, int reduced) const;
+    [[nodiscard]] int forText(int length) const;
+    TypeRole* grown(TypeRole* role);
 
     look::Palette m_palette;
+    double m_textScale = 1.0;
+    QList<TypeRole*> m_growing; ///< roles that follow the factor
     Motion* m_motion;
 };
 
 #undef LOOK_COLOR
 #undef LOOK_OPACITY
 #undef LOOK_ROLE
+#undef LOOK_FIXED_ROLE
 #undef LOOK_SHADOW
 #undef LOOK_SPRING
 #undef LOOK_LENGTH
+#undef LOOK_TEXT_LENGTH
 #undef LOOK_FINE_LENGTH
 #undef LOOK_TIME
 #undef LOOK_FADE

@@ -24,6 +24,8 @@ struct Color {
     [[nodiscard]] QColor color() const {
         return colormath::withAlpha(colormath::fromHex(rgb), alpha);
     }
+
+    friend bool operator==(const Color&, const Color&) = default;
 };
 
 /// A step of the type scale.
@@ -152,6 +154,8 @@ struct Palette {
     double columnRestOpacity = 0.62; ///< of the columns of a chart beside its highest
     double pausedOpacity = 0.78;     ///< of the wide button while time is paused
     double disabledOpacity = 0.45;   ///< of a whole chip, switch or slider
+
+    friend bool operator==(const Palette&, const Palette&) = default;
 };
 
 struct TypeScale {
@@ -194,6 +198,7 @@ struct TypeScale {
     TypeStep kicker = plain(11, 14, QFont::DemiBold, 0.080);
     TypeStep sectionLabel = plain(11, 14, QFont::DemiBold, 0.080, true);
     TypeStep capsuleSkill = plain(10, 13, QFont::Normal, 0.09);
+    TypeStep capsuleChip = plain(11, 15, QFont::Medium);
     TypeStep kickerPoster = plain(10, 13, QFont::DemiBold, 0.080);
     TypeStep heroUnitPoster = display(30, 36, -0.020);
     double heroUnitScale = 0.36; ///< of a hero figure's size

@@ -17,12 +17,32 @@ TypeRole::TypeRole(const look::TypeStep& step, QObject* parent)
     , m_tracking(step.tracking)
     , m_capitals(step.capitals) {}
 
+void TypeRole::setSize(int size) {
+    if (m_size == size) return;
+    m_size = size;
+    Q_EMIT changed();
+}
+
+void TypeRole::setLine(int line) {
+    if (m_line == line) return;
+    m_line = line;
+    Q_EMIT changed();
+}
+
+void TypeRole::setScale(double scale) {
+    if (m_scale == scale) return;
+    m_scale = scale;
+    Q_EMIT changed();
+}
+
+int TypeRole::scaled(int length) const { return static_cast<int>(std::lround(length * m_scale)); }
+
 QFont TypeRole::font() const {
     if (m_family.isEmpty())
-        return fontOf({m_size, m_line, static_cast<QFont::Weight>(m_weight), m_tracking, m_display,
+        return fontOf({size(), line(), static_cast<QFont::Weight>(m_weight), m_tracking, m_display,
                        m_capitals});
     QFont font(m_family);
-    font.setPixelSize(m_size);
+    font.setPixelSize(size());
     if (m_capitals) font.setCapitalization(QFont::AllUppercase);
     font.setHintingPreference(QFont::PreferVerticalHinting);
     return font;
@@ -30,7 +50,7 @@ QFont TypeRole::font() const {
 
 double TypeRole::leading() const {
     const QFontMetricsF metrics(font());
-    return std::round((m_line - metrics.ascent() - metrics.descent()) / 2);
+    return std::round((line() - metrics.ascent() - metrics.descent()) / 2);
 }
 
 } // namespace vantle

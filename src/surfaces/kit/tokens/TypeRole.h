@@ -15,10 +15,10 @@ class TypeRole : public QObject {
     QML_ELEMENT
     /// A family in place of the scale's own, in its normal weight and tracking; empty for none.
     Q_PROPERTY(QString family MEMBER m_family NOTIFY changed)
-    /// px
-    Q_PROPERTY(int size MEMBER m_size NOTIFY changed)
-    /// px from baseline to baseline
-    Q_PROPERTY(int line MEMBER m_line NOTIFY changed)
+    /// px; reads multiplied
+    Q_PROPERTY(int size READ size WRITE setSize NOTIFY changed)
+    /// px from baseline to baseline; reads multiplied
+    Q_PROPERTY(int line READ line WRITE setLine NOTIFY changed)
     Q_PROPERTY(int weight MEMBER m_weight NOTIFY changed)
     /// em
     Q_PROPERTY(double tracking MEMBER m_tracking NOTIFY changed)
@@ -33,6 +33,12 @@ public:
     explicit TypeRole(QObject* parent = nullptr) : QObject(parent) {}
     TypeRole(const look::TypeStep& step, QObject* parent);
 
+    [[nodiscard]] int size() const { return scaled(m_size); }
+    void setSize(int size);
+    [[nodiscard]] int line() const { return scaled(m_line); }
+    void setLine(int line);
+    /// What size and line are multiplied with, for users who wish for larger text.
+    void setScale(double scale);
     [[nodiscard]] QFont font() const;
     [[nodiscard]] double leading() const;
 
@@ -46,7 +52,10 @@ protected:
         , m_weight(weight) {}
 
 private:
+    [[nodiscard]] int scaled(int length) const;
+
     bool m_display = false;
+    double m_scale = 1.0;
     QString m_family;
     int m_size = 13;
     int m_line = 20;

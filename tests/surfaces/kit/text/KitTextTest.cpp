@@ -15,6 +15,16 @@ TEST(KitText, SaysWhichPageItIsAndWhatStandsOnIt) {
     EXPECT_EQ(KitText::place(0, 9), QStringLiteral("Page 1 of 9"));
     EXPECT_EQ(KitText::turnedTo(2, 9, QStringLiteral("%1 of 5")),
               QStringLiteral("Page 3 of 9. %1 of 5"));
+    EXPECT_EQ(KitText::turnedTo(0, 0, QStringLiteral("Nothing this week yet")),
+              QStringLiteral("Nothing this week yet"));
+}
+
+TEST(KitText, ColorsDigitsAreReadOutAfterItsName) {
+    const QColor green = QColor::fromRgb(0x30D158);
+    EXPECT_EQ(KitText::digits(green), QStringLiteral("Color 30D158"));
+    EXPECT_EQ(KitText::digits(QColor::fromRgb(0x00000A)), QStringLiteral("Color 00000A"));
+    EXPECT_EQ(KitText::swatch(green, true), QStringLiteral("Color 30D158, selected"));
+    EXPECT_EQ(KitText::swatch(green, false), QStringLiteral("Color 30D158, not selected"));
 }
 
 TEST(KitText, ALimitCountsWhatThePersonSees) {

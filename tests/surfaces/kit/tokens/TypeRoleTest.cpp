@@ -19,6 +19,16 @@ TEST(TypeRole, TrackingIsAPartOfTheSize) {
     EXPECT_NEAR(role.font().letterSpacing(), -0.6, kFontUnit);
 }
 
+TEST(TypeRole, LargerTextIsLargerInSizeAndLine) {
+    TypeRole role;
+    role.setProperty("size", 13);
+    role.setProperty("line", 20);
+    role.setScale(1.5);
+    EXPECT_EQ(role.property("size").toInt(), 20);
+    EXPECT_EQ(role.property("line").toInt(), 30);
+    EXPECT_EQ(role.font().pixelSize(), 20);
+}
+
 TEST(TypeRole, TheSpaceOfALineIsAboveAndBelowTheLetters) {
     TypeRole role;
     role.setProperty("size", 13);

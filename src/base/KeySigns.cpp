@@ -1,0 +1,46 @@
+#include "base/KeySigns.h"
+
+#include <QStringView>
+
+namespace vantle {
+
+namespace {
+
+constexpr char16_t kCommand = u'⌘';
+constexpr char16_t kOption = u'⌥';
+
+bool isSign(QChar letter) { return letter == kCommand || letter == kOption; }
+
+/// With Alt it is the combination that holds everywhere, which takes Super; alone it is a key of a
+/// window, which takes Ctrl: desktops keep most of those with Super for themselves.
+QString modifiers(QStringView signs) {
+    const bool alt = signs.contains(kOption);
+    const bool command = signs.contains(kCommand);
+    QString words = alt ? QStringLiteral("Alt+") : QString();
+    if (command) words += alt ? QStringLiteral("Super+") : QStringLiteral("Ctrl+");
+    return words;
+}
+
+} // namespace
+
+QString keySignsInWords(const QString& text) {
+    QString words;
+    for (qsizetype i = 0; i < text.size();) {
+        const qsizetype start = i;
+        while (i < text.size() && isSign(text.at(i)))
+            ++i;
+        if (i == start) {
+            words += text.at(i++);
+            continue;
+        }
+        words += modifiers(QStringView(text).sliced(start, i - start));
+        // Readers pass over a comma as well.
+        if (i < text.size() && text.at(i) == u',') {
+            words += QStringLiteral("Comma");
+            ++i;
+        }
+    }
+    return words;
+}
+
+} // namespace vantle
