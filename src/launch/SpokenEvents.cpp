@@ -18,7 +18,8 @@ constexpr Seconds kDeafStart{3.0};
 
 SpokenEvents::SpokenEvents(const Environment& environment)
     : m_env(environment)
-    , m_told(environment.model.tracker().state()) {
+    , m_told(environment.model.tracker().state())
+    , m_toldSkill(currentSkill()) {
     m_start = m_env.scheduler.scheduleOnce(kDeafStart, [this] {
         const TimerHandle spent = std::move(m_start);
         if (!m_held.isEmpty()) m_announcer.say(std::exchange(m_held, {}));
@@ -44,7 +45,7 @@ void SpokenEvents::say(const QString& text) {
 }
 
 void SpokenEvents::followState() {
-    // A change of skill ends one session and starts the next one: the last state is what counts.
+    // A change of skill ends one session and starts the next one: what comes of it is what counts.
     if (std::exchange(m_isPosted, true)) return;
     m_env.scheduler.post([self = QPointer(this)] {
         if (!self) return;
@@ -57,13 +58,19 @@ void SpokenEvents::tellState() {
     using State = TrackerCore::State;
     const State now = m_env.model.tracker().state();
     const State before = std::exchange(m_told, now);
-    if (now == before) return;
+    const QString skill = currentSkill();
+    const bool isSwitched = std::exchange(m_toldSkill, skill) != skill;
+    if (now == before) {
+        // Auto mode switches by itself; what the user switched from is told by the toast.
+        if (isSwitched && now != State::Idle) say(QStringLiteral("Switched to %1").arg(skill));
+        return;
+    }
     if (now == State::Paused)
         say(QStringLiteral("Paused, away"));
     else if (now == State::Running)
         say((before == State::Paused ? QStringLiteral("Resumed, %1")
                                      : QStringLiteral("Session started, %1"))
-                .arg(currentSkill()));
+                .arg(skill));
     // What it came to is said by the card after the session.
 }
 

@@ -43,6 +43,7 @@ private:
     TimerHandle m_start; ///< there while nobody would hear a message
     QString m_held;      ///< the last message until then
     TrackerCore::State m_told;
+    QString m_toldSkill; ///< of the session
     bool m_isPosted = false;
 };
 
