@@ -16,6 +16,7 @@
 #include "platform/PointerPresses.h"
 #include "platform/Preferences.h"
 #include "platform/ProcessRunner.h"
+#include "platform/ReadingWishes.h"
 #include "platform/ReducedMotion.h"
 #include "platform/ReservedStrips.h"
 #include "platform/RunningCopy.h"
@@ -76,6 +77,7 @@ struct Display {
 struct Session {
     std::unique_ptr<ScreenPower> screenPower;
     std::unique_ptr<Screens> screens;
+    std::unique_ptr<ReadingWishes> readingWishes;
     std::unique_ptr<ReducedMotion> reducedMotion;
     std::unique_ptr<TrayItem> trayItem;
     std::unique_ptr<ImageClipboard> imageClipboard;

@@ -4,14 +4,18 @@
 #include "launch/InstallLocation.h"
 #include "platform/FileManager.h"
 #include "platform/ProcessRunner.h"
+#include "platform/ReadingWishes.h"
 #include "platform/ReducedMotion.h"
 #include "sensing/AutoRules.h"
 #include "surfaces/alert/ModalPresenter.h"
+#include "surfaces/kit/tokens/ContrastPalette.h"
+#include "surfaces/kit/tokens/DarkUI.h"
 #include "surfaces/kit/tokens/Motion.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QStorageInfo>
 
 namespace vantle {
@@ -78,12 +82,19 @@ Program::Program(const Platform& platform, const Process& process)
                   installOperations(platform))
     , m_ceremony(m_platform, process.clock, process.scheduler,
                  process.makeQueue(QLatin1String(RippleOverlayController::prepQueueLabel)))
-    , m_viewEngine([&motion = platform.reducedMotion](QQmlEngine& engine) {
-        Motion::of(engine)->setReduced(motion.enabled());
+    , m_textScale(qGuiApp->devicePixelRatio())
+    , m_viewEngine([this](QQmlEngine& engine) {
+        Motion::of(engine)->setReduced(m_platform.reducedMotion.enabled());
+        const ReadingWishes& wishes = m_platform.readingWishes;
+        DarkUI* const tokens = DarkUI::of(engine);
+        tokens->setPalette(wishes.moreContrast() ? look::kContrasted : look::kDark);
+        tokens->setTextScale(m_textScale.beyondScreen(wishes.textScale()));
     })
     , m_surfaces(m_platform, process.scheduler, m_viewEngine)
     , m_delegate(environment()) {
     QObject::connect(&platform.reducedMotion, &ReducedMotion::changed, &m_context,
+                     [this] { m_viewEngine.refresh(); });
+    QObject::connect(&platform.readingWishes, &ReadingWishes::changed, &m_context,
                      [this] { m_viewEngine.refresh(); });
 }
 

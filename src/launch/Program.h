@@ -6,6 +6,7 @@
 #include "launch/Ceremony.h"
 #include "launch/FloatingSurfaces.h"
 #include "launch/PosterSharing.h"
+#include "launch/WishedTextScale.h"
 #include "surfaces/window/SharedEngine.h"
 #include "tracking/AppPaths.h"
 
@@ -63,6 +64,7 @@ private:
     PosterSharing m_posterSharing;
     AppInstaller m_installer;
     Ceremony m_ceremony;
+    WishedTextScale m_textScale;
     SharedEngine m_viewEngine;
     FloatingSurfaces m_surfaces;
     AppDelegate m_delegate;

@@ -1,6 +1,7 @@
 #include "launch/PlatformParts.h"
 #include "platform/session/ApplicationService.h"
 #include "platform/session/DesktopFileManager.h"
+#include "platform/session/DesktopReadingWishes.h"
 #include "platform/session/DesktopReducedMotion.h"
 #include "platform/session/LoginScreenPower.h"
 #include "platform/session/PortalSaveDialog.h"
@@ -68,6 +69,7 @@ Session makeSession(Scheduler& scheduler, const PlatformEvents& events, const Po
     SaveDialog& otherwise = *otherSaveDialog;
     return {.screenPower = unite(std::move(display.screenPower), bus),
             .screens = std::make_unique<QtScreens>(*display.reservedStrips, display.tellsPointer),
+            .readingWishes = std::make_unique<DesktopReadingWishes>(bus),
             .reducedMotion = std::make_unique<DesktopReducedMotion>(bus, posix.folders.config),
             .trayItem = std::make_unique<DesktopTrayItem>(bus, display.tellsPointer),
             .imageClipboard = std::make_unique<QtImageClipboard>(),

@@ -17,6 +17,7 @@ class PanelHost;
 class PointerPresses;
 class Preferences;
 class ProcessRunner;
+class ReadingWishes;
 class ReducedMotion;
 class RunningCopy;
 class SaveDialog;
@@ -49,6 +50,7 @@ struct Platform {
 
     ScreenPower& screenPower;
     Screens& screens;
+    ReadingWishes& readingWishes;
     ReducedMotion& reducedMotion;
     TrayItem& trayItem;
     ImageClipboard& imageClipboard;

@@ -14,6 +14,7 @@
 #include "platform/Preference.h"
 #include "platform/Preferences.h"
 #include "platform/ProcessRunner.h"
+#include "platform/ReadingWishes.h"
 #include "platform/ReducedMotion.h"
 #include "platform/ReservedStrips.h"
 #include "platform/RunningCopy.h"

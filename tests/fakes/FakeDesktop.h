@@ -11,6 +11,7 @@
 #include "fakes/FakePanelHost.h"
 #include "fakes/FakePointerPresses.h"
 #include "fakes/FakeProcessRunner.h"
+#include "fakes/FakeReadingWishes.h"
 #include "fakes/FakeReducedMotion.h"
 #include "fakes/FakeRunningCopy.h"
 #include "fakes/FakeSaveDialog.h"
@@ -40,6 +41,7 @@ struct FakeDesktop {
     FakePointerPresses pointerPresses;
     FakeScreenPower screenPower;
     FakeScreens screens;
+    FakeReadingWishes readingWishes;
     FakeReducedMotion reducedMotion;
     FakeTrayItem trayItem;
     FakeImageClipboard clipboard;
@@ -61,6 +63,7 @@ struct FakeDesktop {
                             .pointerPresses = pointerPresses,
                             .screenPower = screenPower,
                             .screens = screens,
+                            .readingWishes = readingWishes,
                             .reducedMotion = reducedMotion,
                             .trayItem = trayItem,
                             .imageClipboard = clipboard,

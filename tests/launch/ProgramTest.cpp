@@ -4,16 +4,21 @@
 
 #include "fakes/FakeDesktop.h"
 #include "support/QtPrinters.h"
+#include "support/ShownItems.h"
 #include "support/Text.h"
+#include "surfaces/kit/tokens/ContrastPalette.h"
 #include "surfaces/panel/FloatingPanel.h"
 #include "tracking/Settings.h"
 
+#include <QFont>
 #include <QGuiApplication>
+#include <QQuickWindow>
 #include <QScreen>
 #include <QWindow>
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <list>
 
 namespace vantle::tests {
@@ -98,6 +103,27 @@ TEST_F(ProgramTest, WelcomesANewUser) {
     preferences.remove(QLatin1String("onboard.done"));
     start();
     EXPECT_TRUE(windowTitled("Welcome") != nullptr);
+}
+
+TEST_F(ProgramTest, WishesForContrastAndLargerTextAreFollowedWhileThePanelStands) {
+    start();
+    const auto* const panel = qobject_cast<QQuickWindow*>(windowTitled("Vantle Command Center"));
+    ASSERT_NE(panel, nullptr);
+    const QQuickItem* const words = shownItem(panel->contentItem(), [](const QQuickItem& item) {
+        return item.property("text").toString() == text("Switch anytime");
+    });
+    ASSERT_NE(words, nullptr);
+    const auto size = [&] { return words->property("font").value<QFont>().pixelSize(); };
+    const auto color = [&] { return words->property("color").value<QColor>(); };
+    EXPECT_EQ(size(), look::kType.small.size);
+    readingWishes.setMoreContrast(true);
+    EXPECT_EQ(color(), look::kContrasted.textTertiary.color());
+    readingWishes.setTextScale(1.5);
+    EXPECT_EQ(size(), std::lround(look::kType.small.size * 1.5));
+    readingWishes.setMoreContrast(false);
+    readingWishes.setTextScale(1.0);
+    EXPECT_EQ(color(), look::kDark.textTertiary.color());
+    EXPECT_EQ(size(), look::kType.small.size);
 }
 
 TEST_F(ProgramTest, RecordsASessionFromShortcutToLog) {
