@@ -23,6 +23,7 @@ SettingsCard {
                 text: qsTr("Your apps")
                 role: DarkUI.bodyMedium
                 Accessible.role: Accessible.Heading
+                Accessible.description: card.model.appsNote
             }
 
             SettingsCaption {

@@ -40,6 +40,7 @@ SettingsCard {
                     text: card.model.action(SettingsView.ExportRow)
                     help: card.model.help(SettingsView.ExportRow)
                     role: DarkUI.captionMedium
+                    Accessible.description: card.model.caption(SettingsView.ExportRow)
                     onClicked: card.model.exportData()
                 }
             }

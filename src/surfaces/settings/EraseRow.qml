@@ -9,7 +9,7 @@ FocusScope {
 
     required property SettingsView model
     readonly property bool confirming: model.confirmingErase
-    readonly property string question: qsTr("Erase everything? This cannot be undone.")
+    readonly property string question: model.eraseQuestion
 
     implicitHeight: column.y + column.height + DarkUI.space14
 
@@ -75,6 +75,7 @@ FocusScope {
                 text: row.model.action(SettingsView.EraseRow)
                 help: row.model.help(SettingsView.EraseRow)
                 role: DarkUI.captionStrong
+                Accessible.description: row.model.caption(SettingsView.EraseRow)
                 onClicked: row.ask()
             }
 

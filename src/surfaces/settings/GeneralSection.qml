@@ -72,6 +72,7 @@ SettingsSection {
             control: DarkSecondaryButton {
                 text: section.model.action(SettingsView.WelcomeRow)
                 role: DarkUI.captionMedium
+                Accessible.description: section.model.welcomeCaption
                 onClicked: section.model.replayWelcome()
             }
         }

@@ -33,6 +33,7 @@ Column {
             id: copy
             text: qsTr("Copy the command")
             role: DarkUI.captionMedium
+            Accessible.description: advice.model.gaps.hotKeyAdvice + " " + advice.model.gaps.command
             onClicked: advice.model.gaps.copyCommand()
         }
 

@@ -26,7 +26,7 @@ Row {
         text: status.model.hotKeyText
         role: DarkUI.captionMedium
         color: status.model.isHotKeyActive ? DarkUI.textPrimary : DarkUI.dangerText
-        Accessible.description: status.model.hotKeyFailure
+        Accessible.description: KitText.spoken(status.model.hotKeyFailure)
 
         HoverHandler {
             id: hover

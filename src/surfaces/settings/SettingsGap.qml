@@ -6,4 +6,5 @@ SettingsCaption {
     visible: text !== ""
     topPadding: role.leading + DarkUI.space6
     color: DarkUI.textSecondary
+    Accessible.ignored: text === "" // it is rare, and news
 }

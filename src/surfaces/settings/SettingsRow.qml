@@ -39,6 +39,7 @@ Item {
                 text: row.title
                 role: DarkUI.bodyMedium
                 elide: Text.ElideRight
+                Accessible.description: row.caption
             }
 
             Row {

@@ -28,7 +28,8 @@ QList<Entry> focusRows() {
         {.section = PreferenceRowModel::Focus,
          .kind = PreferenceRowModel::Stepper,
          .setting = Range{settings::dailyGoalHours, 1, 0.5, 12, 0.5, &dashformat::inlineHours,
-                          QStringLiteral("Half an hour less"), QStringLiteral("Half an hour more")},
+                          QStringLiteral("Daily goal, half an hour less"),
+                          QStringLiteral("Daily goal, half an hour more")},
          .title = QStringLiteral("Daily goal"),
          .caption = QStringLiteral("The dashboard's Today card measures against this goal, and "
                                    "This week against seven of it. Default is 2 hours.")},

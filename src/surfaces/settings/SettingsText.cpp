@@ -88,6 +88,10 @@ QString SettingsView::help(Row row) {
     }
 }
 
+QString SettingsView::eraseQuestion() {
+    return QStringLiteral("Erase everything? This cannot be undone.");
+}
+
 QString SettingsView::hotKeyText() const {
     if (isHotKeyActive()) return QStringLiteral("⌥⌘B · active");
     return m_env.model.hotKey().isRegistered() ? QStringLiteral("⌥⌘B · only over some apps")

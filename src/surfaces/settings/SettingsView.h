@@ -74,6 +74,7 @@ class SettingsView final : public QObject {
     Q_PROPERTY(QString exportFeedback READ exportFeedback NOTIFY exportChanged FINAL)
     Q_PROPERTY(bool exportFailed READ exportFailed NOTIFY exportChanged FINAL)
     Q_PROPERTY(bool confirmingErase READ confirmingErase NOTIFY eraseChanged FINAL)
+    Q_PROPERTY(QString eraseQuestion READ eraseQuestion CONSTANT FINAL)
     /// What came of the erase; empty before one.
     Q_PROPERTY(QString eraseStatus READ eraseStatus NOTIFY eraseChanged FINAL)
     Q_PROPERTY(bool eraseSucceeded READ eraseSucceeded NOTIFY eraseChanged FINAL)
@@ -174,6 +175,7 @@ public:
     Q_INVOKABLE void exportData();
 
     [[nodiscard]] bool confirmingErase() const { return m_confirmingErase; }
+    [[nodiscard]] static QString eraseQuestion();
     [[nodiscard]] QString eraseStatus() const { return m_eraseStatus.value_or(QString()); }
     [[nodiscard]] bool eraseSucceeded() const { return m_eraseSucceeded; }
     Q_INVOKABLE void askToErase() { setConfirmingErase(true); }

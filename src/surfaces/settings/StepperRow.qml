@@ -9,6 +9,11 @@ SettingsRow {
 
     required property PreferenceRowModel preference
 
+    function step(steps: int): void {
+        preference.step(steps);
+        announcer.say(preference.title + ", " + preference.valueText);
+    }
+
     title: preference.title
     caption: preference.caption
 
@@ -22,16 +27,22 @@ SettingsRow {
         StepChip {
             label: "−"
             name: row.preference.lessName
+            Accessible.description: row.preference.valueText
             exhausted: row.preference.isLowest
-            onAction: row.preference.step(-1)
+            onAction: row.step(-1)
         },
         StepChip {
             label: "+"
             name: row.preference.moreName
+            Accessible.description: row.preference.valueText
             exhausted: row.preference.isHighest
-            onAction: row.preference.step(1)
+            onAction: row.step(1)
         }
     ]
+
+    Announcer {
+        id: announcer
+    }
 
     SettingsGap {
         width: parent.width

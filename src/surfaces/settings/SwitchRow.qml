@@ -11,6 +11,7 @@ ToggleRow {
 
     title: preference.title
     caption: preference.caption
+    spoken: preference.note === "" ? caption : caption + " " + preference.note
     checked: preference.on
     onToggled: checked => preference.on = checked
 

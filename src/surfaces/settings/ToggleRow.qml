@@ -7,12 +7,13 @@ SettingsRow {
     id: row
 
     property bool checked: false
+    property string spoken: caption // read out after the title
     signal toggled(bool checked)
 
     control: BrandToggle {
         name: row.title
         checked: row.checked
         onToggled: checked => row.toggled(checked)
-        Accessible.description: row.caption
+        Accessible.description: row.spoken
     }
 }

@@ -1,5 +1,6 @@
 // The settings by pointer and keys: what is on the page, and that its controls reach what they are
 // for.
+#include "support/ReadElements.h"
 #include "support/ShownView.h"
 #include "support/Text.h"
 #include "surfaces/settings/SettingsWorld.h"
@@ -57,6 +58,19 @@ TEST_F(SettingsPageTest, WhatTheDesktopLacksStandsInItsRowAndNowhereWhereNothing
     show();
     EXPECT_FALSE(shows("Tray"));
     EXPECT_EQ(control("Copy the command"), nullptr);
+}
+
+// A reader that comes to a window speaks its loose texts.
+TEST_F(SettingsPageTest, CaptionsAreToldAsDescriptionsAlone) {
+    show();
+    QStringList texts;
+    QStringList descriptions;
+    for (const tests::ReadElement& one : tests::readElements(m_shown->window())) {
+        descriptions << one.description;
+        if (one.role == QAccessible::StaticText || one.role == QAccessible::Heading)
+            texts << one.name;
+    }
+    EXPECT_LT(texts.join(u' ').split(u' ').size(), 60) << texts.join(u'|').toStdString();
 }
 
 TEST_F(SettingsPageTest, ApplicationsNameIsReadBesideAModeOfALongOne) {
@@ -161,12 +175,23 @@ TEST_F(SettingsPageTest, HasEveryRowUnderItsHeading) {
     EXPECT_FALSE(shows("Erase everything? This cannot be undone."));
 }
 
+TEST_F(SettingsPageTest, StepperSaysWhatItSteps) {
+    show();
+    const tests::ReadElement more =
+        tests::readElement(m_shown->window(), text("Daily goal, half an hour more"));
+    EXPECT_EQ(more.description, text("2 h"));
+    click("Ripple ceremony"); // says nothing of the goal
+    EXPECT_FALSE(m_shown->announced().contains(text("Daily goal, 2 h")));
+    click("Daily goal, half an hour more");
+    EXPECT_TRUE(m_shown->announced().contains(text("Daily goal, 2.5 h")));
+}
+
 TEST_F(SettingsPageTest, ControlsReachTheirRows) {
     show();
-    click("Half an hour more");
+    click("Daily goal, half an hour more");
     EXPECT_TRUE(shows("2.5 h"));
-    click("Half an hour less");
-    click("Half an hour less");
+    click("Daily goal, half an hour less");
+    click("Daily goal, half an hour less");
     EXPECT_TRUE(shows("1.5 h"));
     click("Ripple ceremony");
     EXPECT_EQ(stored("ripple.disabled"), text("true"));
