@@ -13,6 +13,8 @@ FocusScope {
     readonly property bool stacked: width < 560
 
     focus: true
+    Accessible.role: Accessible.Pane
+    Accessible.description: model.figuresSpoken
     implicitWidth: 612
     implicitHeight: 512
 
@@ -41,33 +43,63 @@ FocusScope {
                 text: page.model.warning
             }
 
-            Row {
-                id: figures
-                // All as high as the one whose words need most lines.
-                readonly property real highest: {
-                    let most = 0;
-                    for (let i = 0; i < children.length; ++i)
-                        most = Math.max(most, children[i].implicitHeight);
-                    return most;
-                }
-                topPadding: DarkUI.space4
-                spacing: DarkUI.space12
+            ArrowGroup {
+                id: progress
+                width: page.inner
+                height: figures.height
+                list: figures
+                Accessible.name: qsTr("Progress")
 
-                Repeater {
-                    model: page.model.stats
+                Row {
+                    id: figures
+                    // All as high as the one whose words need most lines.
+                    readonly property real highest: {
+                        let most = 0;
+                        for (let i = 0; i < children.length; ++i)
+                            most = Math.max(most, children[i].implicitHeight);
+                        return most;
+                    }
+                    topPadding: DarkUI.space4
+                    spacing: DarkUI.space12
 
-                    StatBlockView {
-                        required property statBlock modelData
-                        width: (page.inner - 2 * DarkUI.space12) / 3
-                        height: figures.highest
-                        stat: modelData
+                    Repeater {
+                        model: page.model.stats
+                        onItemAdded: progress.refresh()
+                        onItemRemoved: progress.refresh()
+
+                        ReadableStop {
+                            id: stop
+                            required property statBlock modelData
+                            width: (page.inner - 2 * DarkUI.space12) / 3
+                            implicitHeight: block.implicitHeight
+                            height: figures.highest
+                            radius: DarkUI.radiusCard
+                            name: modelData.spoken
+
+                            StatBlockView {
+                                id: block
+                                width: stop.width
+                                height: stop.height
+                                stat: stop.modelData
+                            }
+                        }
                     }
                 }
             }
 
-            HourWallCard {
+            ReadableStop {
+                id: wallStop
                 width: page.inner
-                model: page.model
+                implicitHeight: wall.implicitHeight
+                radius: DarkUI.radiusCard
+                name: page.model.wallLabel
+                Accessible.role: Accessible.Graphic
+
+                HourWallCard {
+                    id: wall
+                    width: wallStop.width
+                    model: page.model
+                }
             }
 
             Flow {

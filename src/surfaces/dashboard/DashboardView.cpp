@@ -109,6 +109,14 @@ double DashboardView::sliceFraction() const {
 
 QColor DashboardView::sliceColor() const { return isOpen() ? chipColor() : m_lastColor; }
 
+QString DashboardView::figuresSpoken() const {
+    QStringList parts;
+    parts.reserve(m_stats.size());
+    for (const QVariant& block : m_stats)
+        parts << block.value<StatBlock>().spoken();
+    return parts.join(QStringLiteral(". "));
+}
+
 QString DashboardView::wallLabel() const { return dashboard::wallLabel(m_dots, partialFraction()); }
 
 Skill DashboardView::openSkill() const {

@@ -29,6 +29,8 @@ class DashboardView final : public QObject {
     QML_UNCREATABLE("Made by the window router.")
     /// A StatBlock each.
     Q_PROPERTY(QVariantList stats READ stats NOTIFY figuresChanged FINAL)
+    /// The three of them in words.
+    Q_PROPERTY(QString figuresSpoken READ figuresSpoken NOTIFY figuresChanged FINAL)
     Q_PROPERTY(QList<QColor> wallColors READ wallColors NOTIFY figuresChanged FINAL)
     Q_PROPERTY(QString wallText READ wallText NOTIFY figuresChanged FINAL)
     /// A SkillTotalLine each.
@@ -77,6 +79,7 @@ public:
     ~DashboardView() override;
 
     [[nodiscard]] QVariantList stats() const { return m_stats; }
+    [[nodiscard]] QString figuresSpoken() const;
     [[nodiscard]] QList<QColor> wallColors() const { return m_wallColors; }
     [[nodiscard]] QString wallText() const { return dashboard::wallText(m_dots); }
     [[nodiscard]] QVariantList skillTotals() const { return m_skillTotals; }

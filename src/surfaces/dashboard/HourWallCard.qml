@@ -12,8 +12,6 @@ DashboardCard {
     implicitHeight: 90
     heading: qsTr("Hour wall")
     detail: model.wallText
-    Accessible.role: Accessible.Graphic
-    Accessible.name: model.wallLabel
 
     GlassDotWall {
         y: DarkUI.space4

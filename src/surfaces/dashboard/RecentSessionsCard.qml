@@ -33,14 +33,27 @@ DashboardCard {
         }
     }
 
-    Column {
-        Repeater {
-            model: card.model.recent
+    ArrowGroup {
+        id: group
+        width: card.innerWidth
+        height: lines.height
+        list: lines
+        Accessible.role: Accessible.List
+        Accessible.name: card.heading
 
-            SessionGroupRow {
-                required property recentLine modelData
-                width: card.innerWidth
-                line: modelData
+        Column {
+            id: lines
+
+            Repeater {
+                model: card.model.recent
+                onItemAdded: group.refresh()
+                onItemRemoved: group.refresh()
+
+                SessionGroupRow {
+                    required property recentLine modelData
+                    width: card.innerWidth
+                    line: modelData
+                }
             }
         }
     }

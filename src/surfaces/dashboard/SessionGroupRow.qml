@@ -4,14 +4,13 @@ import QtQuick
 import Vantle.Kit
 import Vantle.Dashboard
 
-Item {
+ReadableStop {
     id: row
 
     required property recentLine line
 
     implicitHeight: 26
-    Accessible.role: Accessible.StaticText
-    Accessible.name: line.spoken
+    name: line.spoken
 
     DarkText {
         anchors.verticalCenter: parent.verticalCenter

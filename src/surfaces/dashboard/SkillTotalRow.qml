@@ -4,14 +4,13 @@ import QtQuick
 import Vantle.Kit
 import Vantle.Dashboard
 
-Item {
+ReadableStop {
     id: row
 
     required property skillTotalLine line
     readonly property real nameWidth: Math.max(84, Math.round(width * 0.4))
 
-    Accessible.role: Accessible.StaticText
-    Accessible.name: line.spoken
+    name: line.spoken
 
     DarkText {
         anchors.verticalCenter: parent.verticalCenter

@@ -23,15 +23,28 @@ DashboardCard {
         wrapMode: Text.Wrap
     }
 
-    Column {
-        Repeater {
-            model: card.model.skillTotals
+    ArrowGroup {
+        id: group
+        width: card.innerWidth
+        height: lines.height
+        list: lines
+        Accessible.role: Accessible.List
+        Accessible.name: card.heading
 
-            SkillTotalRow {
-                required property skillTotalLine modelData
-                width: card.innerWidth
-                height: card.pitch
-                line: modelData
+        Column {
+            id: lines
+
+            Repeater {
+                model: card.model.skillTotals
+                onItemAdded: group.refresh()
+                onItemRemoved: group.refresh()
+
+                SkillTotalRow {
+                    required property skillTotalLine modelData
+                    width: card.innerWidth
+                    height: card.pitch
+                    line: modelData
+                }
             }
         }
     }

@@ -17,8 +17,6 @@ DarkCard {
 
     implicitHeight: Math.max(110, Math.ceil(needed))
     padding: 0
-    Accessible.role: Accessible.Grouping
-    Accessible.name: stat.spoken
 
     DarkText {
         id: title

@@ -1,4 +1,5 @@
 // The hours window by pointer and keys.
+#include "support/ReadElements.h"
 #include "support/ShownView.h"
 #include "support/Text.h"
 #include "surfaces/dashboard/DashboardWorld.h"
@@ -38,6 +39,27 @@ TEST_F(DashboardPageTest, ButtonsOfTheHeadDoWhatTheySay) {
     click("Start building");
     EXPECT_TRUE(hasMarker());
     EXPECT_EQ(m_shown->control(text("Start building")), nullptr);
+}
+
+TEST_F(DashboardPageTest, FiguresAndListsAreStopsOfTheKeyboard) {
+    launch();
+    disk.setContent(file("sessions.jsonl"),
+                    samples::line(samples::session(1)) + samples::line(samples::session(2)));
+    show();
+    QStringList stops;
+    for (int i = 0; i < 5; ++i) {
+        stops << m_shown->keyboardOwner()->property("name").toString();
+        m_shown->press(Qt::Key_Tab);
+    }
+    EXPECT_EQ(stops.at(0), text("Start building"));
+    EXPECT_TRUE(stops.at(1).startsWith(text("Today: "))) << stops.at(1).toStdString();
+    EXPECT_TRUE(stops.at(2).startsWith(text("Hour wall, "))) << stops.at(2).toStdString();
+    EXPECT_EQ(stops.at(3), text("Build, 1 h, 100%"));
+    for (const char* start : {"Today: ", "This week: ", "All time: "})
+        EXPECT_TRUE(view->figuresSpoken().contains(text(start))) << start;
+    const auto all = tests::readElements(m_shown->window());
+    EXPECT_TRUE(std::ranges::any_of(
+        all, [&](const auto& one) { return one.description == view->figuresSpoken(); }));
 }
 
 TEST_F(DashboardPageTest, ShortcutIsOfferedOnlyWhileItIsHeldAndHeardEverywhere) {
