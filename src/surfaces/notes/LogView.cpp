@@ -83,10 +83,11 @@ const LogEntry* LogView::entry(const QString& id) const {
 }
 
 void LogView::copyNote(const QString& id) {
-    const LogEntry* copied = entry(id);
-    if (!copied) return;
-    m_env.copy(copied->note);
+    const LogEntry* const source = entry(id);
+    if (!source) return;
+    m_env.copy(source->note);
     setCopiedId(id);
+    Q_EMIT copied();
     m_copiedEnds =
         m_env.scheduler.scheduleOnce(Seconds(copiedSeconds), [this] { setCopiedId(QString()); });
 }

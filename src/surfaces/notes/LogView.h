@@ -102,6 +102,7 @@ Q_SIGNALS:
     void editingChanged();
     void draftChanged();
     void copiedIdChanged();
+    void copied(); ///< a note, or the one before once more
     void failureChanged();
 
 private:

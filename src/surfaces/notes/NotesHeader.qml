@@ -12,9 +12,9 @@ FocusScope {
 
     implicitHeight: line.y + line.height
 
-    // What a search found.
+    // What a search or a filter found.
     Announcer {
-        text: header.model.query === "" ? "" : header.model.countText
+        text: header.model.query === "" && header.model.showsAll ? "" : header.model.countText
     }
 
     DarkText {

@@ -1,6 +1,7 @@
 // The notes window: a head with the search and the filters, the notes by days, a foot.
 pragma ComponentBehavior: Bound
 import QtQuick
+import Vantle.Kit
 import Vantle.Notes
 
 FocusScope {
@@ -11,6 +12,17 @@ FocusScope {
     focus: true
     implicitWidth: 520
     implicitHeight: 620
+
+    Announcer {
+        id: announcer
+    }
+
+    Connections {
+        target: window.model
+        function onCopied(): void {
+            announcer.say(qsTr("Copied"));
+        }
+    }
 
     NotesEmpty {
         anchors.fill: parent

@@ -44,6 +44,20 @@ QuickLogDuration QuickLogDuration::normalized() const {
     return all && *all >= minMinutes ? of(*all) : *this;
 }
 
+QString QuickLogDuration::spoken() const {
+    const auto all = total();
+    if (!all) return {};
+    const std::int64_t wholeHours = *all / 60;
+    const std::int64_t rest = *all % 60;
+    QStringList parts;
+    if (wholeHours > 0)
+        parts << (wholeHours == 1 ? QStringLiteral("1 hour")
+                                  : QStringLiteral("%1 hours").arg(wholeHours));
+    if (rest > 0 || wholeHours == 0)
+        parts << (rest == 1 ? QStringLiteral("1 minute") : QStringLiteral("%1 minutes").arg(rest));
+    return parts.join(u' ');
+}
+
 QuickLogDuration QuickLogDuration::stepped(int steps) const {
     return of(sum(parse(hours).value_or(0), parse(minutes).value_or(0)) +
               std::int64_t{steps} * stepMinutes);

@@ -35,6 +35,9 @@ struct QuickLogDuration {
     /// What is no time, and no time at all, stay as they are: the person finds them, and is told.
     [[nodiscard]] QuickLogDuration normalized() const;
 
+    /// "1 hour 30 minutes"; empty while a field holds no number.
+    [[nodiscard]] QString spoken() const;
+
     /// One step more or less. A field that holds no number counts as 0.
     [[nodiscard]] QuickLogDuration stepped(int steps) const;
 };

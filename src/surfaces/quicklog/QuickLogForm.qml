@@ -10,6 +10,11 @@ FocusScope {
     required property QuickLogView model
     readonly property real margin: 32
 
+    function step(steps: int): void {
+        model.stepDuration(steps);
+        stepped.say(model.durationSpoken);
+    }
+
     focus: true
     implicitWidth: 460
     implicitHeight: column.y + column.height + DarkUI.space20
@@ -111,15 +116,17 @@ FocusScope {
                 StepChip {
                     label: "−"
                     large: true
-                    name: qsTr("5 minutes less")
-                    onAction: form.model.stepDuration(-1)
+                    name: qsTr("Time worked, 5 minutes less")
+                    Accessible.description: form.model.durationSpoken
+                    onAction: form.step(-1)
                 }
 
                 StepChip {
                     label: "+"
                     large: true
-                    name: qsTr("5 minutes more")
-                    onAction: form.model.stepDuration(1)
+                    name: qsTr("Time worked, 5 minutes more")
+                    Accessible.description: form.model.durationSpoken
+                    onAction: form.step(1)
                 }
             }
         }
@@ -192,6 +199,10 @@ FocusScope {
                 onClicked: form.model.logEntry()
             }
         }
+    }
+
+    Announcer {
+        id: stepped
     }
 
     Announcer {

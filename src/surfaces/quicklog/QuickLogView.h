@@ -31,6 +31,8 @@ class QuickLogView final : public QObject {
     Q_PROPERTY(QString hoursText READ hoursText WRITE setHoursText NOTIFY durationChanged FINAL)
     Q_PROPERTY(
         QString minutesText READ minutesText WRITE setMinutesText NOTIFY durationChanged FINAL)
+    /// Both fields as one time, read out with the buttons that step it.
+    Q_PROPERTY(QString durationSpoken READ durationSpoken NOTIFY durationChanged FINAL)
     Q_PROPERTY(QString note MEMBER m_note NOTIFY noteChanged FINAL)
     Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged FINAL)
     /// The error is about the time, not about the log.
@@ -50,6 +52,8 @@ public:
     void setHoursText(const QString& text) { setDuration({text, m_duration.minutes}); }
     [[nodiscard]] const QString& minutesText() const { return m_duration.minutes; }
     void setMinutesText(const QString& text) { setDuration({m_duration.hours, text}); }
+
+    [[nodiscard]] QString durationSpoken() const { return m_duration.spoken(); }
 
     [[nodiscard]] const QString& errorMessage() const { return m_errorMessage; }
     [[nodiscard]] bool isTimeWrong() const { return m_isTimeWrong; }

@@ -241,6 +241,7 @@ TEST_F(NotesListTest, CopyPutsTheNoteOnTheClipboardAndSaysSo) {
     }));
     EXPECT_EQ(clipboard, text("alpha"));
     EXPECT_TRUE(m_shown->shows(text("Copied")));
+    EXPECT_TRUE(m_shown->announced().contains(text("Copied")));
 }
 
 TEST_F(NotesListTest, SearchKeepsTheKeyboardWhileANoteIsEdited) {

@@ -60,6 +60,14 @@ TEST(QuickLogDuration, StepsAreOfFiveMinutesAndStayInRange) {
     EXPECT_EQ(typed("16", "0").stepped(1), typed("16", "0"));
 }
 
+TEST(QuickLogDuration, IsReadOutAsOneTime) {
+    EXPECT_EQ(typed("1", "30").spoken(), QStringLiteral("1 hour 30 minutes"));
+    EXPECT_EQ(typed("2", "0").spoken(), QStringLiteral("2 hours"));
+    EXPECT_EQ(typed("", "1").spoken(), QStringLiteral("1 minute"));
+    EXPECT_EQ(typed("0", "0").spoken(), QStringLiteral("0 minutes"));
+    EXPECT_EQ(typed("x", "1").spoken(), QString());
+}
+
 TEST(QuickLogDuration, StepsStartFromWhatParses) {
     EXPECT_EQ(typed("x", "20").stepped(1), typed("0", "25"));
     EXPECT_EQ(typed("2", "x").stepped(-1), typed("1", "55"));
