@@ -104,7 +104,14 @@ class ByKeys(ByKeysCase):
         window = self.open(*DASHBOARD)
         self.assertEqual(self.desktop.frame_of(window)[2], 612 * SCALE)
         self.assertEqual(self.tour("Your hours"),
-                         [*STRIP, "Log time", "Wrapped", "Start building"])
+                         ["Today: 2 h goal · a session starts the bar",
+                          "Hour wall, 1 completed hours, current hour 0 percent complete",
+                          "Build, 1 h, 100%", "Nov 2 · 09:30, Build, 30 min",
+                          *STRIP, "Log time", "Wrapped", "Start building"])
+        # The lines of a list are led to by the arrow keys.
+        self.go_to("Your hours", "Nov 2 · 09:30, Build, 30 min")
+        self.desktop.press("Down")
+        self.await_focus("Your hours", "Nov 1 · 09:30, Build, 30 min")
         self.desktop.screenshot("toured")
 
     def test_the_notes(self):
@@ -134,15 +141,17 @@ class ByKeys(ByKeysCase):
         self.launch()
         self.open(*QUICK_LOG)
         self.assertEqual(self.tour("Quick Log"),
-                         ["Minutes worked", "5 minutes less", "5 minutes more", "Work note",
-                          "Cancel", "Add to history", *STRIP, "Skill", "Hours worked"])
+                         ["Minutes worked", "Time worked, 5 minutes less",
+                          "Time worked, 5 minutes more", "Work note", "Cancel", "Add to history",
+                          *STRIP, "Skill", "Hours worked"])
 
     def test_the_settings(self):
         self.launch()
         self.open(*SETTINGS)
         self.assertEqual(
             self.tour("Settings"),
-            ["Auto-pause after 3 min", "Half an hour less", "Half an hour more",
+            ["Minutes until auto-pause", "Daily goal, half an hour less",
+             "Daily goal, half an hour more",
              "Focus with sessions", "Ripple ceremony", "Black out the screen", "Auto mode",
              "Start sessions automatically", "Launch at login", "How time reads",
              "Show the welcome again", "Export my data", "Erase everything", *STRIP])
@@ -157,6 +166,14 @@ class ByKeys(ByKeysCase):
             self.desktop.press("Right")
         self.await_focus("Wrapped", "All time")
         self.assertEqual(self.tour("Wrapped"), ["Next page", *STRIP, "All time"])
+
+    def test_escape_on_the_review_gives_the_keyboard_to_the_window_below(self):
+        self.open_editor()
+        self.launch()
+        self.open(*WRAPPED)
+        self.desktop.press("Escape")
+        self.await_closed("Wrapped")
+        self.desktop.await_keyboard("editor")
 
     def test_the_panel(self):
         self.launch()

@@ -13,6 +13,10 @@ Plate {
     signal renameWanted
     signal removeWanted
 
+    // Back from the field in which it was renamed.
+    function takeBack(): void {
+        rename.focusByKeyboard();
+    }
     function takeKeyboard(): void {
         (remove.visible ? remove : rename).forceActiveFocus(Qt.OtherFocusReason);
     }

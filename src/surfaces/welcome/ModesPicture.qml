@@ -12,6 +12,8 @@ FocusScope {
     readonly property bool low: editing || tags.count > 6
     readonly property real pitch: low ? WelcomeTokens.tagLowPitch : WelcomeTokens.tagPitch
 
+    property int renamed: -1 // the tag whose pencil opened the field; -1 for a new mode
+
     // What had the keyboard has gone: the nearest to it takes it.
     function takeKeyboard(index: int): void {
         const tag = tags.itemAt(Math.min(index, tags.count - 1)) as ModeTag;
@@ -26,7 +28,11 @@ FocusScope {
         function onShownChanged(): void {
             if (picture.editing)
                 return;
-            if (add.visible)
+            const tag = tags.itemAt(picture.renamed) as ModeTag;
+            picture.renamed = -1;
+            if (tag)
+                tag.takeBack();
+            else if (add.visible)
                 add.forceActiveFocus(Qt.OtherFocusReason);
             else
                 picture.takeKeyboard(0);
@@ -54,7 +60,10 @@ FocusScope {
                     y: Math.floor(index / 2) * picture.pitch
                     width: WelcomeTokens.tagWidth
                     height: picture.low ? WelcomeTokens.tagLowHeight : WelcomeTokens.tagHeight
-                    onRenameWanted: picture.model.beginRename(skillId)
+                    onRenameWanted: {
+                        picture.renamed = index;
+                        picture.model.beginRename(skillId);
+                    }
                     onRemoveWanted: {
                         const place = index; // it goes with the tag
                         picture.model.removeCategory(skillId);

@@ -48,7 +48,7 @@ FocusScope {
         focus: true
         enabled: foot.model.canPressPrimary
         text: foot.model.primaryText
-        Accessible.description: foot.model.spoken
+        Accessible.description: KitText.spoken(foot.model.spoken)
         onClicked: foot.model.pressPrimary()
     }
 }

@@ -122,7 +122,9 @@ FocusScope {
         current.lines = announcer.linesOf(current);
         if (!before)
             return;
-        announcer.say(KitText.turnedTo(model.page, model.cards.length, current.lines));
+        // A page that the keyboard is on is read out as it gets the focus.
+        announcer.say(KitText.turnedTo(model.page, model.cards.length,
+                                       activeFocus ? "" : current.lines));
         before.leaving = true;
         outFrom = before.x;
         outPresence = before.opacity;

@@ -186,6 +186,10 @@ TEST_F(WelcomePageTest, KeyboardStaysNearWhatHasGone) {
     click("Add your own");
     key(Qt::Key_Escape);
     EXPECT_EQ(m_window.activeFocusItem(), control("Add your own"));
+    control("Rename Marketing")->forceActiveFocus(Qt::TabFocusReason);
+    key(Qt::Key_Space);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(m_window.activeFocusItem(), control("Rename Marketing"));
     control("Remove Design")->forceActiveFocus(Qt::TabFocusReason);
     key(Qt::Key_Space);
     EXPECT_FALSE(shows("Design"));
