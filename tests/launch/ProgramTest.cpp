@@ -114,15 +114,15 @@ TEST_F(ProgramTest, WishesForContrastAndLargerTextAreFollowedWhileThePanelStands
     });
     ASSERT_NE(words, nullptr);
     const auto size = [&] { return words->property("font").value<QFont>().pixelSize(); };
-    const auto color = [&] { return words->property("color").value<QColor>(); };
+    const auto color = [&] { return words->property("color").value<QColor>().rgba(); };
     EXPECT_EQ(size(), look::kType.small.size);
     readingWishes.setMoreContrast(true);
-    EXPECT_EQ(color(), look::kContrasted.textTertiary.color());
+    EXPECT_EQ(color(), look::kContrasted.textTertiary.color().rgba());
     readingWishes.setTextScale(1.5);
     EXPECT_EQ(size(), std::lround(look::kType.small.size * 1.5));
     readingWishes.setMoreContrast(false);
     readingWishes.setTextScale(1.0);
-    EXPECT_EQ(color(), look::kDark.textTertiary.color());
+    EXPECT_EQ(color(), look::kDark.textTertiary.color().rgba());
     EXPECT_EQ(size(), look::kType.small.size);
 }
 

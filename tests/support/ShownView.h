@@ -143,8 +143,14 @@ public:
     /// What each announcer of the view said last.
     [[nodiscard]] QStringList announced() const {
         QStringList said;
-        for (const Announcer* one : m_window.findChildren<Announcer*>())
-            said << one->text();
+        QList<QQuickItem*> items{m_window.contentItem()};
+        while (!items.isEmpty()) { // what a Repeater or a Loader made is a child as an item alone
+            const QQuickItem* const item = items.takeLast();
+            for (const Announcer* one :
+                 item->findChildren<Announcer*>(QString(), Qt::FindDirectChildrenOnly))
+                said << one->text();
+            items += item->childItems();
+        }
         return said;
     }
     /// What has the keyboard; null for nothing.

@@ -51,8 +51,8 @@ TEST_F(SettingsTableTest, EveryRowHasItsWords) {
     EXPECT_EQ(row("Auto mode").note(),
               text("It reads only the app's name. No window titles, no tabs, no documents, no "
                    "screen. App names never leave this Mac."));
-    EXPECT_EQ(row("Daily goal").lessName(), text("Half an hour less"));
-    EXPECT_EQ(row("Daily goal").moreName(), text("Half an hour more"));
+    EXPECT_EQ(row("Daily goal").lessName(), text("Daily goal, half an hour less"));
+    EXPECT_EQ(row("Daily goal").moreName(), text("Daily goal, half an hour more"));
 }
 
 TEST_F(SettingsTableTest, AwayLimitOfOneMinuteIsSingular) {
