@@ -9,7 +9,8 @@ function(vantle_library name)
     vantle_precompile(${name})
 endfunction()
 
-# A folder with views: a static library that is a QML module as well. Programs link NAME and NAMEplugin.
+# A folder with views: a static library that is a QML module as well. Programs link NAME, and get its
+# views by vantle_use_views.
 # DEPENDENCIES names the modules of which it uses C++ types for its own, for the views' checker.
 option(VANTLE_QML_AHEAD "Turn the views into byte code ahead of time" ON)
 function(vantle_qml_module name)
@@ -57,6 +58,28 @@ function(vantle_qml_module name)
     target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src" PRIVATE ${folders})
     target_link_libraries(${name} PUBLIC ${ARG_LINKS} Qt6::Quick)
     vantle_precompile(${name})
+endfunction()
+
+# Links the views of all modules that a program links, directly or by others. Called once the program
+# has all of its links.
+function(vantle_use_views program)
+    set(pending ${program})
+    set(seen "")
+    while(pending)
+        list(POP_FRONT pending target)
+        if(target IN_LIST seen OR NOT TARGET ${target})
+            continue()
+        endif()
+        list(APPEND seen ${target})
+        if(TARGET ${target}plugin)
+            target_link_libraries(${program} PRIVATE ${target}plugin)
+        endif()
+        get_target_property(links ${target} LINK_LIBRARIES)
+        if(links)
+            list(FILTER links INCLUDE REGEX "^vantle_")
+            list(APPEND pending ${links})
+        endif()
+    endwhile()
 endfunction()
 
 # Qt's targets for resources and for the start of a plugin hold nothing for moc, yet each would have a

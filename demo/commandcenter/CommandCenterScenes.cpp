@@ -19,7 +19,7 @@ public:
         content = std::make_unique<CommandCenterModel>(
             CommandCenterModel::Environment{world.model->flow(), world.model->actionNote(),
                                             world.model->panelState(), *world.skills,
-                                            world.preferences, world.time, questions},
+                                            world.preferences, world.time, questions, doors},
             actions());
         choose("Design");
     }
@@ -41,6 +41,12 @@ public:
     std::unique_ptr<CommandCenterModel> content;
 
 private:
+    static QList<CommandCenterModel::Door> doors() {
+        return {{WindowId::Dashboard, {QStringLiteral("Dashboard"), QStringLiteral("D")}},
+                {WindowId::Wrapped, {QStringLiteral("Wrapped")}},
+                {WindowId::Log, {QStringLiteral("Notes")}},
+                {WindowId::Settings, {QStringLiteral("Settings"), QStringLiteral(",")}}};
+    }
     CommandCenterActions actions() {
         AppModel& model = *world.model;
         CommandCenterActions made;

@@ -10,8 +10,11 @@
 #include "surfaces/cards/RetagToastController.h"
 #include "surfaces/cards/StopSummaryController.h"
 #include "surfaces/cards/TagPromptController.h"
+#include "surfaces/window/WindowParts.h"
 #include "tracking/Settings.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QPointer>
 
 #include <utility>
@@ -67,7 +70,7 @@ bool AppDelegate::applicationDidFinishLaunching() {
             m_env.scheduler.scheduleOnce(kFirstCallWithin, [this] { m_firstCall.reset(); });
     if (m_model->needsWelcome()) {
         m_env.scheduler.post([router = QPointer(m_router.get())] {
-            if (router) router->showWelcome();
+            if (router) router->show(WindowId::Welcome);
         });
         return true;
     }
@@ -150,9 +153,20 @@ void AppDelegate::makeWindows() {
                           m_platform.panelHost, m_platform.windowManager, m_env.scheduler,
                           [this] { m_model->quit(); }},
         m_notifications);
-    registerWindows({m_platform, *m_model, m_skills, m_notifications, m_env.clock, m_env.scheduler,
-                     m_env.calendar, *m_router, m_autoSkill.rules(), m_focusLink, m_env.paths,
-                     m_env.ioQueue, m_env.posterSharing});
+    addWindows({.platform = m_platform,
+                .model = *m_model,
+                .skills = m_skills,
+                .notifications = m_notifications,
+                .clock = m_env.clock,
+                .scheduler = m_env.scheduler,
+                .calendar = m_env.calendar,
+                .router = *m_router,
+                .autoRules = m_autoSkill.rules(),
+                .focusLink = m_focusLink,
+                .paths = m_env.paths,
+                .ioQueue = m_env.ioQueue,
+                .posterSharing = m_env.posterSharing,
+                .copy = [](const QString& text) { QGuiApplication::clipboard()->setText(text); }});
     m_commandCenter =
         std::make_unique<CommandCenterController>(CommandCenterController::Environment{
             *m_model, m_skills, m_platform.preferences, m_env.clock, m_env.scheduler, *m_router,
@@ -205,7 +219,7 @@ void AppDelegate::applicationShouldHandleReopen() {
     // person that is the welcome, without the panel over it.
     const TimerHandle firstCall = std::exchange(m_firstCall, nullptr);
     if (firstCall && m_model->needsWelcome()) {
-        m_router->showWelcome();
+        m_router->show(WindowId::Welcome);
         return;
     }
     m_model->showCommandCenter();
@@ -230,18 +244,10 @@ void AppDelegate::performAction(const QString& name) {
         m_recovery->discard();
     else if (name == QLatin1String("note"))
         m_summary->openNote();
-    else if (name == QLatin1String("dashboard"))
-        m_router->showDashboard();
-    else if (name == QLatin1String("wrapped"))
-        m_router->showWrapped();
-    else if (name == QLatin1String("notes"))
-        m_router->showLog();
-    else if (name == QLatin1String("quick-log"))
-        m_router->showQuickLog();
-    else if (name == QLatin1String("settings"))
-        m_router->showSettings();
     else if (name == QLatin1String("quit"))
         m_model->quit();
+    else
+        m_router->showByAction(name);
 }
 
 } // namespace vantle

@@ -70,8 +70,7 @@ public:
     void applicationWillTerminateUnseen();
 
     /// One of the actions that the desktop may call by name: "toggle", "keep", "discard", "note",
-    /// "quit", and the windows "dashboard", "wrapped", "notes", "quick-log", "settings". Unknown
-    /// names do nothing.
+    /// "quit", and those of the windows (`WindowSpec::action`). Unknown names do nothing.
     void performAction(const QString& name);
 
     /// Null before the launch, and in a second copy.

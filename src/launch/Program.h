@@ -5,9 +5,9 @@
 #include "launch/AppInstaller.h"
 #include "launch/Ceremony.h"
 #include "launch/FloatingSurfaces.h"
-#include "launch/PosterSharing.h"
 #include "launch/WishedTextScale.h"
 #include "surfaces/window/SharedEngine.h"
+#include "surfaces/wrapped/PosterSharing.h"
 #include "tracking/AppPaths.h"
 
 #include <QObject>

@@ -220,6 +220,20 @@ TEST_F(AppDelegateTest, EachWindowOpensByItsNameAndByNoOther) {
     }
 }
 
+TEST_F(AppDelegateTest, CommandCenterLeadsToFourWindowsInTheirOrder) {
+    const auto app = makeCopy(true);
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    CommandCenterModel& panel = app->commandCenter()->content();
+    EXPECT_EQ(panel.doors(),
+              QStringList({text("Dashboard"), text("Wrapped"), text("Notes"), text("Settings")}));
+    QStringList keys;
+    for (int door = 0; door < panel.doors().size(); ++door)
+        keys << panel.doorKey(door);
+    EXPECT_EQ(keys, QStringList({text("D"), QString(), QString(), text(",")}));
+    panel.openDoor(2);
+    EXPECT_EQ(openWindows(*app), QStringList{text("Your notes")});
+}
+
 TEST_F(AppDelegateTest, DataFilesBecomePrivateAtLaunchAndTheRetiredOneGoes) {
     disk.setDirectory(text("/data/Vantle"), 0755);
     disk.setContent(text("/data/Vantle/sessions.jsonl"), QByteArray(), 0644);

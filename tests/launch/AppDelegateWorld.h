@@ -4,9 +4,9 @@
 #include "fakes/FakeCardStage.h"
 #include "fakes/FakeDesktop.h"
 #include "launch/AppDelegate.h"
-#include "launch/PosterSharing.h"
 #include "support/Text.h"
 #include "surfaces/window/SharedEngine.h"
+#include "surfaces/wrapped/PosterSharing.h"
 #include "tracking/AppPaths.h"
 #include "tracking/Settings.h"
 

@@ -3,8 +3,8 @@
 #include "platform/PanelHost.h"
 #include "platform/Screens.h"
 #include "surfaces/alert/AlertModel.h"
-#include "surfaces/window/WindowKind.h"
 #include "surfaces/window/WindowShell.h"
+#include "surfaces/window/WindowSpec.h"
 
 #include <QEventLoop>
 #include <QGuiApplication>

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "review/stats/WrappedPeriod.h"
+#include "surfaces/window/WindowSpec.h"
 
 #include <QString>
 
 #include <cstdint>
 #include <functional>
-#include <optional>
 
 namespace vantle {
 
@@ -19,10 +19,8 @@ struct CommandCenterActions {
     std::function<void(const QString& id, const QString& name, std::uint32_t hexRGB)> updateSkill;
     std::function<void(const QString& id)> deleteSkill;
     std::function<void(int minutes)> backfill;
-    std::function<void()> openDashboard;
-    std::function<void(std::optional<WrappedPeriod> period)> openWrapped;
-    std::function<void()> openNotes;
-    std::function<void()> openSettings;
+    std::function<void(WindowId id)> openWindow;
+    std::function<void(WrappedPeriod period)> openWrapped;
     std::function<void()> quit;
     std::function<void()> hide;
     std::function<void()> relayout; ///< the content has another height

@@ -207,33 +207,20 @@ FocusScope {
             height: DarkUI.space6
         }
 
-        NavRow {
-            x: content.margin - DarkUI.space10
-            width: content.inner + DarkUI.space20
-            title: qsTr("Dashboard")
-            shortcut: "⌘D"
-            key: "D"
-            onClicked: content.model.openDashboard()
-        }
-        NavRow {
-            x: content.margin - DarkUI.space10
-            width: content.inner + DarkUI.space20
-            title: qsTr("Wrapped")
-            onClicked: content.model.openWrapped()
-        }
-        NavRow {
-            x: content.margin - DarkUI.space10
-            width: content.inner + DarkUI.space20
-            title: qsTr("Notes")
-            onClicked: content.model.openNotes()
-        }
-        NavRow {
-            x: content.margin - DarkUI.space10
-            width: content.inner + DarkUI.space20
-            title: qsTr("Settings")
-            shortcut: "⌘,"
-            key: ","
-            onClicked: content.model.openSettings()
+        Repeater {
+            model: content.model.doors
+
+            NavRow {
+                required property int index
+                required property string modelData
+
+                x: content.margin - DarkUI.space10
+                width: content.inner + DarkUI.space20
+                title: modelData
+                key: content.model.doorKey(index)
+                shortcut: key === "" ? "" : "⌘" + key
+                onClicked: content.model.openDoor(index)
+            }
         }
 
         Gap {

@@ -15,7 +15,8 @@ namespace vantle {
 CommandCenterController::CommandCenterController(const Environment& environment)
     : m_env(environment)
     , m_content({m_env.model.flow(), m_env.model.actionNote(), m_env.model.panelState(),
-                 m_env.skills, m_env.preferences, m_env.scheduler, m_env.questions},
+                 m_env.skills, m_env.preferences, m_env.scheduler, m_env.questions,
+                 [this] { return doors(); }},
                 actions()) {
     connect(&m_env.presses, &PointerPresses::pressed, this, &CommandCenterController::onPress);
     connect(&m_env.screens, &Screens::changed, this, &CommandCenterController::repositionSoon);
@@ -28,15 +29,11 @@ CommandCenterController::~CommandCenterController() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-std::function<void()> CommandCenterController::afterHiding(void (WindowRouter::*open)()) {
-    return [this, open] {
-        // Hiding the panel destroys its content, and this function with it: what comes after needs
-        // copies of its own.
-        WindowRouter& router = m_env.router;
-        const auto openWindow = open;
-        hide();
-        (router.*openWindow)();
-    };
+QList<CommandCenterModel::Door> CommandCenterController::doors() const {
+    QList<CommandCenterModel::Door> doors;
+    for (const WindowSpec* const spec : m_env.router.doors())
+        doors << CommandCenterModel::Door{spec->id, spec->door};
+    return doors;
 }
 
 CommandCenterActions CommandCenterController::actions() {
@@ -53,14 +50,16 @@ CommandCenterActions CommandCenterController::actions() {
                                 std::uint32_t hexRGB) { model.updateSkill(id, name, hexRGB); },
         .deleteSkill = [&model](const QString& id) { model.deleteSkill(id); },
         .backfill = [&model](int minutes) { model.startWithBackfill(minutes); },
-        .openDashboard = afterHiding(&WindowRouter::showDashboard),
+        .openWindow =
+            [this](WindowId id) {
+                hide();
+                m_env.router.show(id);
+            },
         .openWrapped =
-            [this](std::optional<WrappedPeriod> period) {
+            [this](WrappedPeriod period) {
                 hide();
                 m_env.router.showWrapped(period);
             },
-        .openNotes = afterHiding(&WindowRouter::showLog),
-        .openSettings = afterHiding(&WindowRouter::showSettings),
         .quit = [&model] { model.quit(); },
         .hide = [this] { hide(); },
         .relayout = [this] { repositionSoon(); },

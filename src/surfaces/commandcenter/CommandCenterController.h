@@ -58,7 +58,7 @@ public:
 
 private:
     [[nodiscard]] CommandCenterActions actions();
-    [[nodiscard]] std::function<void()> afterHiding(void (WindowRouter::*open)());
+    [[nodiscard]] QList<CommandCenterModel::Door> doors() const;
     [[nodiscard]] bool makePanel();
     void reposition();
     void repositionSoon();

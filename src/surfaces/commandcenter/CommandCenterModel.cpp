@@ -89,6 +89,20 @@ Skill CommandCenterModel::chosenSkill() const {
     return m_env.skills.by(m_env.flow.selectedSkillId());
 }
 
+QStringList CommandCenterModel::doors() const {
+    QStringList titles;
+    for (const Door& door : m_env.doors())
+        titles << door.row.title;
+    return titles;
+}
+
+QString CommandCenterModel::doorKey(int door) const { return m_env.doors().value(door).row.key; }
+
+void CommandCenterModel::openDoor(int door) {
+    const QList<Door> doors = m_env.doors();
+    if (door >= 0 && door < doors.size()) m_actions.openWindow(doors[door].window);
+}
+
 QString CommandCenterModel::primaryText() const {
     return commandcentertext::primary(m_status, chosenSkill().name);
 }

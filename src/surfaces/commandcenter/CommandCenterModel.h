@@ -46,7 +46,15 @@ class CommandCenterModel final : public QObject {
     Q_PROPERTY(vantle::ModeListModel* modes READ modes CONSTANT)
     Q_PROPERTY(vantle::ModeEditor* editor READ editor CONSTANT)
 
+    /// The windows that the panel leads to, as their rows call them; asked for by their place.
+    Q_PROPERTY(QStringList doors READ doors CONSTANT)
+
 public:
+    /// A row that leads to a window.
+    struct Door {
+        WindowId window{};
+        WindowDoor row;
+    };
     /// What the model works with. All of it must outlive the model.
     struct Environment {
         SessionFlow& flow;
@@ -56,6 +64,7 @@ public:
         const Preferences& preferences;
         Scheduler& scheduler;
         OpenQuestions& questions;
+        std::function<QList<Door>()> doors; ///< looked at when a panel is made
     };
 
     CommandCenterModel(const Environment& environment, CommandCenterActions actions);
@@ -75,6 +84,7 @@ public:
     [[nodiscard]] QList<int> backfillChoices() const;
     [[nodiscard]] QString note() const;
     [[nodiscard]] QStringList questions() const;
+    [[nodiscard]] QStringList doors() const;
     [[nodiscard]] ModeListModel* modes() { return &m_modes; }
     [[nodiscard]] ModeEditor* editor() { return &m_editor; }
 
@@ -85,11 +95,9 @@ public:
     Q_INVOKABLE void editMode(const QString& id);
     Q_INVOKABLE void deleteMode(const QString& id);
     Q_INVOKABLE void addMode();
-    Q_INVOKABLE void openDashboard() { m_actions.openDashboard(); }
-    Q_INVOKABLE void openWrapped() { m_actions.openWrapped(std::nullopt); }
+    Q_INVOKABLE void openDoor(int door);
+    Q_INVOKABLE [[nodiscard]] QString doorKey(int door) const;
     Q_INVOKABLE void openLastWeek() { m_actions.openWrapped(WrappedPeriod::LastWeek); }
-    Q_INVOKABLE void openNotes() { m_actions.openNotes(); }
-    Q_INVOKABLE void openSettings() { m_actions.openSettings(); }
     Q_INVOKABLE [[nodiscard]] QStringList answersTo(int question) const;
     Q_INVOKABLE [[nodiscard]] QString answerHelp(int question, int answer) const;
     Q_INVOKABLE void answer(int question, int answer);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Scheduler.h"
-#include "surfaces/window/WindowKind.h"
+#include "surfaces/window/WindowSpec.h"
 
 #include <QPointer>
 #include <QRect>

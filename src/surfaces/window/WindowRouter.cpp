@@ -4,55 +4,74 @@
 
 #include <QWindow>
 
+#include <algorithm>
+#include <utility>
+
 namespace vantle {
 
 WindowRouter::WindowRouter(const WindowEnvironment& environment, NotificationCenter& notifications)
     : m_env(environment) {
-    connect(&notifications, &NotificationCenter::HFShowWelcome, this, &WindowRouter::showWelcome);
+    connect(&notifications, &NotificationCenter::HFShowWelcome, this,
+            [this] { show(WindowId::Welcome); });
 }
 
 WindowRouter::~WindowRouter() = default;
 
-void WindowRouter::registerWindow(WindowId id, WindowContent content) {
-    m_windows[id] = std::make_unique<ManagedWindow>(m_env, rulesOf(id), std::move(content));
+void WindowRouter::add(WindowSpec spec) {
+    Q_ASSERT(entry(spec.id) == nullptr);
+    m_windows.push_back(std::make_unique<Entry>(m_env, std::move(spec)));
 }
 
 void WindowRouter::show(WindowId id) {
-    const auto found = m_windows.find(id);
-    if (found != m_windows.end() && found->second->show()) Q_EMIT shown(id);
+    m_wrappedInitialPeriod.reset();
+    open(id);
 }
-
-void WindowRouter::showDashboard() {
-    close(WindowId::Wrapped);
-    show(WindowId::Dashboard);
-}
-
-void WindowRouter::showWrapped() { showWrapped(std::nullopt); }
 
 void WindowRouter::showWrapped(std::optional<WrappedPeriod> startingOn) {
     m_wrappedInitialPeriod = startingOn;
-    close(WindowId::Dashboard);
-    show(WindowId::Wrapped);
+    open(WindowId::Wrapped);
 }
 
-void WindowRouter::showLog() { show(WindowId::Log); }
-void WindowRouter::showQuickLog() { show(WindowId::QuickLog); }
-void WindowRouter::showWelcome() { show(WindowId::Welcome); }
-void WindowRouter::showSettings() { show(WindowId::Settings); }
+void WindowRouter::showByAction(const QString& action) {
+    if (action.isEmpty()) return; // as that of a window without one
+    const auto found = std::ranges::find_if(
+        m_windows, [&](const auto& entry) { return entry->spec.action == action; });
+    if (found != m_windows.end()) show((*found)->spec.id);
+}
+
+void WindowRouter::open(WindowId id) {
+    Entry* const wanted = entry(id);
+    if (wanted == nullptr) return;
+    if (wanted->spec.replaces) close(*wanted->spec.replaces);
+    if (wanted->window.show()) Q_EMIT shown(id);
+}
+
+std::vector<const WindowSpec*> WindowRouter::doors() const {
+    std::vector<const WindowSpec*> found;
+    for (const auto& entry : m_windows)
+        if (!entry->spec.door.title.isEmpty()) found.push_back(&entry->spec);
+    return found;
+}
 
 void WindowRouter::orderOut(WindowId id) {
     if (QWindow* const open = window(id)) open->hide();
 }
 
 void WindowRouter::close(WindowId id) {
-    if (const auto found = m_windows.find(id); found != m_windows.end()) found->second->close();
+    if (Entry* const found = entry(id)) found->window.close();
 }
 
 bool WindowRouter::isOpen(WindowId id) const { return window(id) != nullptr; }
 
 QWindow* WindowRouter::window(WindowId id) const {
-    const auto found = m_windows.find(id);
-    return found == m_windows.end() ? nullptr : found->second->window();
+    const Entry* const found = entry(id);
+    return found ? found->window.window() : nullptr;
+}
+
+WindowRouter::Entry* WindowRouter::entry(WindowId id) const {
+    const auto found =
+        std::ranges::find_if(m_windows, [&](const auto& entry) { return entry->spec.id == id; });
+    return found == m_windows.end() ? nullptr : found->get();
 }
 
 } // namespace vantle

@@ -4,15 +4,16 @@
 #include "review/stats/WrappedPeriod.h"
 #include "surfaces/window/ManagedWindow.h"
 
-#include <map>
 #include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace vantle {
 
 class NotificationCenter;
 
-/// A window that nobody has registered does not open, and nothing else happens. Main thread.
+/// A window that was not added does not open, and nothing else happens. Main thread.
 class WindowRouter : public QObject {
     Q_OBJECT
 
@@ -20,16 +21,16 @@ public:
     WindowRouter(const WindowEnvironment& environment, NotificationCenter& notifications);
     ~WindowRouter() override;
 
-    /// What the window shows from its next opening on.
-    void registerWindow(WindowId id, WindowContent content);
+    /// One window for each id.
+    void add(WindowSpec spec);
 
-    void showDashboard(); ///< closes the review: the two large windows are never open together
-    void showWrapped();   ///< closes the dashboard
+    void show(WindowId id);
     void showWrapped(std::optional<WrappedPeriod> startingOn);
-    void showLog();
-    void showQuickLog();
-    void showWelcome();
-    void showSettings();
+    /// Opens the window of that action on the bus; nothing happens when there is none.
+    void showByAction(const QString& action);
+
+    /// The windows that have a row in the command center, in the order in which they were added.
+    [[nodiscard]] std::vector<const WindowSpec*> doors() const;
 
     /// The period on which the review was asked to open; its view model reads it when it is made.
     [[nodiscard]] std::optional<WrappedPeriod> wrappedInitialPeriod() const {
@@ -48,10 +49,20 @@ Q_SIGNALS:
     void shown(WindowId id);
 
 private:
-    void show(WindowId id);
+    struct Entry {
+        Entry(const WindowEnvironment& environment, WindowSpec&& said)
+            : spec(std::move(said))
+            , window(environment, spec.rules, spec.content) {}
+
+        const WindowSpec spec;
+        ManagedWindow window; ///< works by the rules of the spec
+    };
+
+    void open(WindowId id);
+    [[nodiscard]] Entry* entry(WindowId id) const;
 
     WindowEnvironment m_env;
-    std::map<WindowId, std::unique_ptr<ManagedWindow>> m_windows;
+    std::vector<std::unique_ptr<Entry>> m_windows;
     std::optional<WrappedPeriod> m_wrappedInitialPeriod;
 };
 

@@ -1,8 +1,8 @@
 #include "surfaces/window/WindowShell.h"
 
 #include "surfaces/kit/painters/ApplicationIcon.h"
-#include "surfaces/window/WindowKind.h"
 #include "surfaces/window/WindowPlacement.h"
+#include "surfaces/window/WindowSpec.h"
 
 #include <QQmlComponent>
 #include <QQmlEngine>

@@ -192,12 +192,15 @@ TEST_F(CommandCenterControllerTest, CreditedTimeLandsInTheLog) {
 
 TEST_F(CommandCenterControllerTest, AWindowOpensAfterThePanelIsHidden) {
     bool shownAtOpening = true;
-    router.registerWindow(WindowId::Settings, {QUrl(), [&](const std::function<void()>&) {
-                                                   shownAtOpening = controller->isShown();
-                                                   return std::make_unique<QObject>();
-                                               }});
+    router.add({.id = WindowId::Settings,
+                .door = {QStringLiteral("Settings")},
+                .content = {QUrl(), [&](const std::function<void()>&) {
+                                shownAtOpening = controller->isShown();
+                                return std::make_unique<QObject>();
+                            }}});
     controller->show();
-    controller->content().openSettings();
+    ASSERT_EQ(controller->content().doors(), QStringList{QStringLiteral("Settings")});
+    controller->content().openDoor(0);
     EXPECT_FALSE(shownAtOpening);
 }
 

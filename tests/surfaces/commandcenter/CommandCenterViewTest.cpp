@@ -96,8 +96,8 @@ TEST_F(CommandCenterViewTest, ColoursAreOneStopOfTheTabKeyThatStartsAtTheChosenO
 
 TEST_F(CommandCenterViewTest, KeysAreToldInWordsThatTheKeyboardHas) {
     show();
-    EXPECT_EQ(readElement(m_shown->window(), text("Dashboard")).description, text("Ctrl+D"));
-    EXPECT_EQ(readElement(m_shown->window(), text("Settings")).description, text("Ctrl+Comma"));
+    EXPECT_EQ(readElement(m_shown->window(), text("Hours")).description, text("Ctrl+D"));
+    EXPECT_EQ(readElement(m_shown->window(), text("Notes")).description, QString());
     EXPECT_EQ(readElement(m_shown->window(), text("Quit")).description,
               text("Quit Vantle (Ctrl+Q)"));
     for (const ReadElement& one : readElements(m_shown->window())) {

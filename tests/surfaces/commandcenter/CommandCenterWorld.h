@@ -6,6 +6,7 @@
 #include "surfaces/commandcenter/CommandCenterModel.h"
 
 #include <memory>
+#include <vector>
 
 namespace vantle::tests {
 
@@ -18,11 +19,15 @@ protected:
         content = std::make_unique<CommandCenterModel>(
             CommandCenterModel::Environment{world.model->flow(), world.model->actionNote(),
                                             world.model->panelState(), *world.skills,
-                                            world.preferences, world.time, questions},
+                                            world.preferences, world.time, questions, doors},
             actions());
         content->setShown(true);
     }
 
+    static QList<CommandCenterModel::Door> doors() {
+        return {{WindowId::Dashboard, {QStringLiteral("Hours"), QStringLiteral("D")}},
+                {WindowId::Log, {QStringLiteral("Notes")}}};
+    }
     CommandCenterActions actions() {
         AppModel& model = *world.model;
         const auto told = [this](const char* what) {
@@ -40,14 +45,11 @@ protected:
                                     std::uint32_t hexRGB) { model.updateSkill(id, name, hexRGB); },
             .deleteSkill = [&model](const QString& id) { model.deleteSkill(id); },
             .backfill = [&model](int minutes) { model.startWithBackfill(minutes); },
-            .openDashboard = told("dashboard"),
+            .openWindow = [this](WindowId id) { opened.push_back(id); },
             .openWrapped =
-                [this](std::optional<WrappedPeriod> period) {
-                    calls.append(QStringLiteral("wrapped ") +
-                                 (period ? wrappedperiod::id(*period) : QString()));
+                [this](WrappedPeriod period) {
+                    calls.append(QStringLiteral("wrapped ") + wrappedperiod::id(period));
                 },
-            .openNotes = told("notes"),
-            .openSettings = told("settings"),
             .quit = told("quit"),
             .hide = told("hide"),
             .relayout = told("relayout")};
@@ -60,6 +62,7 @@ protected:
     ModelWorld world;
     OpenQuestions questions;
     QStringList calls;
+    std::vector<WindowId> opened;
     std::unique_ptr<CommandCenterModel> content;
 };
 

@@ -3,8 +3,8 @@
 #include "support/ReadElements.h"
 #include "support/ShownView.h"
 #include "support/Text.h"
+#include "surfaces/settings/SettingsWindow.h"
 #include "surfaces/settings/SettingsWorld.h"
-#include "surfaces/window/WindowKind.h"
 
 namespace vantle {
 namespace {
@@ -17,7 +17,7 @@ protected:
         open();
         return m_shown.emplace().show("Settings/SettingsPage",
                                       {{text("model"), QVariant::fromValue(&*view)}},
-                                      rulesOf(WindowId::Settings).contentSize);
+                                      settingsWindowRules().contentSize);
     }
     [[nodiscard]] bool shows(const char* words) { return m_shown->shows(text(words)); }
     [[nodiscard]] QQuickItem* control(const char* name) { return m_shown->control(text(name)); }
@@ -134,7 +134,7 @@ TEST_F(SettingsPageTest, ACommandStandsInForAShortcutThatCantBeHad) {
 
 TEST_F(SettingsPageTest, FillsItsWindowAndNothingStandsOutAtItsSides) {
     const QQuickItem& page = show();
-    const QSize window = rulesOf(WindowId::Settings).contentSize;
+    const QSize window = settingsWindowRules().contentSize;
     EXPECT_EQ(QSizeF(page.implicitWidth(), page.implicitHeight()).toSize(), window);
     (void)tests::shownItem(m_shown->window().contentItem(), [&](const QQuickItem& item) {
         const bool isText = !item.property("text").toString().isEmpty();

@@ -17,12 +17,26 @@ namespace {
 
 class WindowRouterTest : public testing::Test {
 protected:
-    void registerAll() {
-        for (const auto id : {WindowId::Dashboard, WindowId::Wrapped, WindowId::Log,
-                              WindowId::QuickLog, WindowId::Welcome, WindowId::Settings})
-            router.registerWindow(
-                id, {QUrl(QStringLiteral("qrc:/views/Fixed.qml")),
-                     [](const std::function<void()>&) { return std::make_unique<QObject>(); }});
+    void add(WindowId id, const char* title, const char* action = "", const char* door = "",
+             std::optional<WindowId> replaces = {}) {
+        router.add({.id = id,
+                    .action = QLatin1String(action),
+                    .door = {QLatin1String(door)},
+                    .replaces = replaces,
+                    .rules = {.title = QLatin1String(title)},
+                    .content = {QUrl(QStringLiteral("qrc:/views/Fixed.qml")),
+                                [](const auto&) { return std::make_unique<QObject>(); }}});
+    }
+    void addAll() {
+        // In another order than that of the ids, on which nothing depends.
+        add(WindowId::Welcome, "Welcome");
+        add(WindowId::Log, "Notes", "notes", "Your notes");
+        add(WindowId::Wrapped, "Wrapped", "wrapped", "", WindowId::Dashboard);
+        add(WindowId::Dashboard, "Hours", "dashboard", "Your hours", WindowId::Wrapped);
+    }
+    [[nodiscard]] QString titleOf(WindowId id) const {
+        const QWindow* const window = router.window(id);
+        return window ? window->title() : QString();
     }
 
     fakes::FakeScreens screens;
@@ -35,57 +49,72 @@ protected:
     WindowRouter router{{engine, preferences, screens, host, manager, time, {}}, notifications};
 };
 
-TEST_F(WindowRouterTest, AWindowThatNobodyRegisteredDoesNotOpen) {
-    router.showSettings();
+TEST_F(WindowRouterTest, AWindowThatWasNotAddedDoesNotOpen) {
+    router.show(WindowId::Settings);
     EXPECT_FALSE(router.isOpen(WindowId::Settings));
 }
 
-TEST_F(WindowRouterTest, EachCommandOpensItsWindow) {
-    registerAll();
-    router.showLog();
-    router.showQuickLog();
-    router.showSettings();
-    router.showWelcome();
-    EXPECT_EQ(router.window(WindowId::Log)->title(), QStringLiteral("Your notes"));
-    EXPECT_EQ(router.window(WindowId::QuickLog)->title(), QStringLiteral("Quick Log"));
-    EXPECT_EQ(router.window(WindowId::Settings)->title(), QStringLiteral("Settings"));
-    EXPECT_EQ(router.window(WindowId::Welcome)->title(), QStringLiteral("Welcome"));
+TEST_F(WindowRouterTest, EachWindowHasTheRulesOfItsOwnEntry) {
+    addAll();
+    router.show(WindowId::Log);
+    router.show(WindowId::Welcome);
+    EXPECT_EQ(titleOf(WindowId::Log), QStringLiteral("Notes"));
+    EXPECT_EQ(titleOf(WindowId::Welcome), QStringLiteral("Welcome"));
 }
 
-TEST_F(WindowRouterTest, TheDashboardAndTheReviewAreNeverOpenTogether) {
-    registerAll();
-    router.showWrapped();
-    EXPECT_EQ(router.window(WindowId::Wrapped)->title(), QStringLiteral("Wrapped"));
-    router.showDashboard();
+TEST_F(WindowRouterTest, ActionsOnTheBusOpenTheirWindowsAlone) {
+    addAll();
+    for (const char* none : {"", "welcome", "Notes", "no-such-window"}) {
+        router.showByAction(QLatin1String(none));
+        EXPECT_FALSE(router.isOpen(WindowId::Welcome)) << none;
+        EXPECT_FALSE(router.isOpen(WindowId::Log)) << none;
+    }
+    router.showByAction(QStringLiteral("notes"));
+    EXPECT_TRUE(router.isOpen(WindowId::Log));
+}
+
+TEST_F(WindowRouterTest, DoorsAreThoseOfTheWindowsThatHaveOneInTheirOrder) {
+    addAll();
+    QStringList titles;
+    for (const WindowSpec* const spec : router.doors())
+        titles << spec->door.title;
+    EXPECT_EQ(titles, QStringList({QStringLiteral("Your notes"), QStringLiteral("Your hours")}));
+}
+
+TEST_F(WindowRouterTest, WindowThatReplacesAnotherClosesIt) {
+    addAll();
+    router.show(WindowId::Wrapped);
+    EXPECT_TRUE(router.isOpen(WindowId::Wrapped));
+    router.show(WindowId::Dashboard);
     EXPECT_FALSE(router.isOpen(WindowId::Wrapped));
-    EXPECT_EQ(router.window(WindowId::Dashboard)->title(), QStringLiteral("Your hours"));
-    router.showWrapped();
+    EXPECT_TRUE(router.isOpen(WindowId::Dashboard));
+    router.showWrapped(WrappedPeriod::LastWeek);
     EXPECT_FALSE(router.isOpen(WindowId::Dashboard));
 }
 
 TEST_F(WindowRouterTest, TheReviewKnowsThePeriodThatItWasAskedToOpenOn) {
-    registerAll();
+    addAll();
     router.showWrapped(WrappedPeriod::LastWeek);
     EXPECT_EQ(router.wrappedInitialPeriod(), WrappedPeriod::LastWeek);
-    router.showWrapped();
+    router.show(WindowId::Wrapped);
     EXPECT_EQ(router.wrappedInitialPeriod(), std::nullopt);
 }
 
 TEST_F(WindowRouterTest, AWindowOutOfSightIsOpenStillAndComesBackAsItWas) {
-    registerAll();
-    router.showWelcome();
+    addAll();
+    router.show(WindowId::Welcome);
     QWindow* const window = router.window(WindowId::Welcome);
     router.orderOut(WindowId::Welcome);
     router.orderOut(WindowId::Log); // which is closed
     EXPECT_FALSE(window->isVisible());
     EXPECT_TRUE(router.isOpen(WindowId::Welcome));
-    router.showWelcome();
+    router.show(WindowId::Welcome);
     EXPECT_EQ(router.window(WindowId::Welcome), window);
     EXPECT_TRUE(window->isVisible());
 }
 
 TEST_F(WindowRouterTest, TheWelcomeOpensWhenItIsAskedForAgain) {
-    registerAll();
+    addAll();
     Q_EMIT notifications.HFShowWelcome();
     EXPECT_TRUE(router.isOpen(WindowId::Welcome));
 }

@@ -1,4 +1,4 @@
-#include "launch/PosterSharing.h"
+#include "surfaces/wrapped/PosterSharing.h"
 
 #include "fakes/FakeImageClipboard.h"
 #include "fakes/FakeSaveDialog.h"

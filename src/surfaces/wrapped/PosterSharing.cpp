@@ -1,4 +1,4 @@
-#include "launch/PosterSharing.h"
+#include "surfaces/wrapped/PosterSharing.h"
 
 #include "platform/ImageClipboard.h"
 #include "platform/WholeFile.h"

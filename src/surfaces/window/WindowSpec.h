@@ -1,8 +1,9 @@
-// What a window is: its rules, and what it shows.
+// What a window is: its rules, what it shows, and what leads to it.
 #pragma once
 
 #include "platform/Preference.h"
 
+#include <QList>
 #include <QObject>
 #include <QSize>
 #include <QString>
@@ -10,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace vantle {
 
@@ -20,13 +22,13 @@ enum class WindowId { Dashboard, Wrapped, Log, QuickLog, Welcome, Settings };
 /// without the title strip.
 struct WindowRules {
     QString title;             ///< in the task bar
-    bool resizable = false;    ///< by the person
+    bool resizable = false;    ///< by the user
     bool showsTitle = false;   ///< also in its strip; most contents open with a title themselves
     int minContentWidth = 460; ///< of a resizable window
     QSize contentSize = {};    ///< at first; empty means what the content asks for
     const Preference<QString>* frame = nullptr; ///< keeps its place; null where that is not kept
-    int scrollableHeight = 0; ///< least height at which the content still serves: where the
-                              ///< screen gives less, the window scrolls it; 0 means its own
+    int scrollableHeight = 0; ///< least height at which the content still serves: where the screen
+                              ///< gives less, the window scrolls it; 0 means its own
 };
 
 /// What stands in a window. The view is an item with `required property <Type> model`, in which
@@ -40,7 +42,25 @@ struct WindowContent {
     std::function<void(QObject& model)> willClose = {};
 };
 
-/// The rules of each window.
-[[nodiscard]] const WindowRules& rulesOf(WindowId id);
+/// The row of the command center that leads to a window.
+struct WindowDoor {
+    QString title; ///< empty for no row
+    QString key{}; ///< opens the window with Ctrl or Super while the panel is there; empty for none
+};
+
+/// All that the rest of the program knows of a window. Its own folder makes it.
+struct WindowSpec {
+    WindowId id;
+    QString action{}; ///< the action on the bus that opens it; empty for none
+    WindowDoor door{};
+    std::optional<WindowId> replaces{}; ///< closed before this one opens
+    WindowRules rules{};
+    WindowContent content{};
+};
+
+/// The place of a view among the modules, such as "Notes/NotesLogView".
+[[nodiscard]] inline QUrl viewAt(const char* place) {
+    return QUrl(QStringLiteral("qrc:/qt/qml/Vantle/%1.qml").arg(QLatin1String(place)));
+}
 
 } // namespace vantle

@@ -1,0 +1,12 @@
+// The hours as a window.
+#pragma once
+
+#include "surfaces/window/WindowSpec.h"
+
+namespace vantle {
+
+struct WindowParts;
+
+[[nodiscard]] WindowSpec dashboardWindow(const WindowParts& parts);
+
+} // namespace vantle

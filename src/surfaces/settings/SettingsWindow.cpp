@@ -1,0 +1,76 @@
+#include "surfaces/settings/SettingsWindow.h"
+
+#include "app/AppModel.h"
+#include "platform/FileManager.h"
+#include "platform/FileSystem.h"
+#include "platform/Platform.h"
+#include "surfaces/settings/SettingsView.h"
+#include "surfaces/window/WindowParts.h"
+#include "surfaces/window/WindowRouter.h"
+
+namespace vantle {
+
+namespace {
+
+/// What is left is the program of a new user, whose sessions are practice until the welcome is
+/// done. So it comes up again, once the settings have said what became of the erase.
+std::optional<QString> eraseAndStartOver(AppModel& model, WindowRouter& router) {
+    auto failure = model.eraseEverything();
+    if (model.needsWelcome())
+        QMetaObject::invokeMethod(
+            &router, [&router] { router.show(WindowId::Welcome); }, Qt::QueuedConnection);
+    return failure;
+}
+
+/// Opens the folder of the user's shortcuts; makes it, private, if it is missing.
+Result<> openShortcuts(const Platform& platform) {
+    constexpr int kPrivateDirectory = 0700;
+    const QString folder = platform.folders.config + QStringLiteral("/Vantle/shortcuts");
+    if (auto made = platform.fileSystem.makeDirectories(folder, kPrivateDirectory); !made)
+        return made;
+    platform.fileManager.openFolder(folder);
+    return {};
+}
+
+std::unique_ptr<QObject> makeModel(const WindowParts& parts) {
+    return std::make_unique<SettingsView>(SettingsView::Environment{
+        .model = parts.model,
+        .rules = parts.autoRules,
+        .focusLink = parts.focusLink,
+        .autostart = parts.platform.autostart,
+        .preferences = parts.platform.preferences,
+        .notifications = parts.notifications,
+        .paths = parts.paths,
+        .ioQueue = parts.ioQueue,
+        .reveal = [&manager =
+                       parts.platform.fileManager](const QString& path) { manager.reveal(path); },
+        .openShortcuts = [&platform = parts.platform] { return openShortcuts(platform); },
+        .tray = parts.platform.trayItem,
+        .idleSource = parts.platform.idleSource,
+        .frontmostApp = parts.platform.frontmostApp,
+        .panelHost = parts.platform.panelHost,
+        .copy = parts.copy,
+        .eraseAllData = [&model = parts.model,
+                         &router = parts.router] { return eraseAndStartOver(model, router); }});
+}
+
+} // namespace
+
+WindowRules settingsWindowRules() {
+    // Its rows scroll under their own title, so less height is no loss.
+    return {.title = QStringLiteral("Settings"),
+            .showsTitle = true,
+            .contentSize = {480, 620},
+            .scrollableHeight = 240};
+}
+
+WindowSpec settingsWindow(const WindowParts& parts) {
+    return {.id = WindowId::Settings,
+            .action = QStringLiteral("settings"),
+            .door = {QStringLiteral("Settings"), QStringLiteral(",")},
+            .rules = settingsWindowRules(),
+            .content = {viewAt("Settings/SettingsPage"),
+                        [parts](const auto&) { return makeModel(parts); }}};
+}
+
+} // namespace vantle
