@@ -1,5 +1,7 @@
 #include "surfaces/quicklog/QuickLogDuration.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace vantle {
