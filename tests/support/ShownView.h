@@ -82,6 +82,26 @@ public:
         return cut;
     }
 
+    /// The texts that stand in others, two by two: "one / other".
+    [[nodiscard]] QStringList overlappingTexts() const {
+        constexpr double kTouch = 2; // lines stand as close as their glyphs let them
+        QList<std::pair<QString, QRectF>> texts;
+        (void)shownItem(m_window.contentItem(), [&](const QQuickItem& item) {
+            const QString words = item.property("text").toString();
+            if (!words.isEmpty() && item.opacity() > 0 && item.childItems().isEmpty())
+                texts.append({words, frameOf(item)});
+            return false;
+        });
+        QStringList overlapping;
+        for (qsizetype i = 0; i < texts.size(); ++i)
+            for (qsizetype k = i + 1; k < texts.size(); ++k) {
+                const QRectF common = texts[i].second & texts[k].second;
+                if (common.width() > kTouch && common.height() > kTouch)
+                    overlapping << texts[i].first + QStringLiteral(" / ") + texts[k].first;
+            }
+        return overlapping;
+    }
+
     void moveTo(QPointF place) {
         QTest::mouseMove(&m_window, place.toPoint());
         settle();

@@ -39,7 +39,7 @@ DarkCard {
     Item {
         id: area
         x: DarkUI.space16
-        y: 38
+        y: Math.round(38 * DarkUI.textScale)
         width: card.innerWidth
         height: card.height - y - DarkUI.space12
     }

@@ -10,7 +10,7 @@ FocusScope {
     required property DashboardView model
     readonly property real margin: DarkUI.space24
     readonly property real inner: width - 2 * margin
-    readonly property bool stacked: width < 560
+    readonly property bool stacked: width < 560 * DarkUI.textScale
 
     focus: true
     Accessible.role: Accessible.Pane
@@ -108,13 +108,13 @@ FocusScope {
 
                 SkillTotalsCard {
                     width: page.stacked ? page.inner : 246
-                    height: 208
+                    height: Math.round(208 * DarkUI.textScale)
                     model: page.model
                 }
 
                 RecentSessionsCard {
                     width: page.stacked ? page.inner : page.inner - 246 - DarkUI.space12
-                    height: 208
+                    height: Math.round(208 * DarkUI.textScale)
                     model: page.model
                 }
             }

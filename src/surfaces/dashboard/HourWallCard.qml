@@ -9,7 +9,9 @@ DashboardCard {
 
     required property DashboardView model
 
-    implicitHeight: 90
+    readonly property real belowHeading: 52
+
+    implicitHeight: belowHeading + Math.round(38 * DarkUI.textScale)
     heading: qsTr("Hour wall")
     detail: model.wallText
 

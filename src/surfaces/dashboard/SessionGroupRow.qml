@@ -8,13 +8,15 @@ ReadableStop {
     id: row
 
     required property recentLine line
+    readonly property real dotLeft: 96 * DarkUI.textScale
+    readonly property real nameLeft: dotLeft + 15
 
-    implicitHeight: 26
+    implicitHeight: 26 * DarkUI.textScale
     name: line.spoken
 
     DarkText {
         anchors.verticalCenter: parent.verticalCenter
-        width: 96 - DarkUI.space4
+        width: row.dotLeft - DarkUI.space4
         text: row.line.date
         role: DarkUI.caption
         color: DarkUI.textTertiary
@@ -23,7 +25,7 @@ ReadableStop {
     }
 
     FlatDot {
-        x: 96
+        x: row.dotLeft
         anchors.verticalCenter: parent.verticalCenter
         width: DarkUI.chipDotSize
         height: DarkUI.chipDotSize
@@ -32,7 +34,7 @@ ReadableStop {
 
     DarkText {
         id: name
-        x: 111
+        x: row.nameLeft
         anchors.verticalCenter: parent.verticalCenter
         width: Math.min(implicitWidth, duration.x - x - DarkUI.space8
                                        - (tag.visible ? tag.width + DarkUI.space8 : 0))

@@ -24,7 +24,7 @@ ReadableStop {
     GlassBarTrack {
         x: row.nameWidth
         anchors.verticalCenter: parent.verticalCenter
-        width: row.width - x - 84 - DarkUI.space8 + DarkUI.space10
+        width: row.width - x - 84 * DarkUI.textScale - DarkUI.space8 + DarkUI.space10
         implicitHeight: DarkUI.barTableHeight
 
         GlassBarFill {
@@ -35,7 +35,7 @@ ReadableStop {
 
     TabularText {
         anchors.right: parent.right
-        anchors.rightMargin: 36
+        anchors.rightMargin: 36 * DarkUI.textScale
         anchors.verticalCenter: parent.verticalCenter
         text: row.line.hours
         role: DarkUI.caption

@@ -9,8 +9,9 @@ DashboardCard {
 
     required property DashboardView model
     // All of them fit, however many the person has.
-    readonly property real pitch: Math.min(26, (height - 38 - DarkUI.space12)
+    readonly property real pitch: Math.min(26 * DarkUI.textScale, room
                                                / Math.max(model.skillTotals.length, 1))
+    readonly property real room: height - 38 * DarkUI.textScale - DarkUI.space12
 
     heading: qsTr("Hours by skill")
 

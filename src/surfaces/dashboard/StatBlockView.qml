@@ -11,6 +11,8 @@ DarkCard {
     readonly property bool hasValue: stat.value !== ""
     readonly property real inner: width - 2 * DarkUI.space16
     readonly property real bottomGap: 13
+    // The figure's own height has room to spare, which larger text takes.
+    readonly property real belowValue: value.y + (DarkUI.textScale > 1 ? value.height : 37)
     readonly property real needed: hasValue
         ? context.y + context.height + DarkUI.space8 + bar.height + bottomGap
         : title.y + title.height + DarkUI.space4 + invitation.height + bottomGap
@@ -33,7 +35,7 @@ DarkCard {
     DarkText {
         id: value
         x: DarkUI.space16
-        y: 30
+        y: title.y + Math.round(17 * DarkUI.textScale)
         width: Math.min(implicitWidth, block.inner - unit.implicitWidth - DarkUI.space4)
         visible: block.hasValue
         text: block.stat.value
@@ -58,7 +60,7 @@ DarkCard {
     DarkText {
         id: context
         x: DarkUI.space16
-        y: 67
+        y: block.belowValue
         width: block.inner
         visible: block.hasValue
         text: block.stat.context

@@ -3,6 +3,7 @@
 #include "support/ShownView.h"
 #include "support/Text.h"
 #include "surfaces/dashboard/DashboardWorld.h"
+#include "surfaces/kit/tokens/DarkUI.h"
 #include "tracking/Samples.h"
 
 #include <algorithm>
@@ -60,6 +61,24 @@ TEST_F(DashboardPageTest, FiguresAndListsAreStopsOfTheKeyboard) {
     const auto all = tests::readElements(m_shown->window());
     EXPECT_TRUE(std::ranges::any_of(
         all, [&](const auto& one) { return one.description == view->figuresSpoken(); }));
+}
+
+TEST_F(DashboardPageTest, LargerTextStandsInNoOther) {
+    launch();
+    QByteArray log;
+    for (int i = 1; i <= 60; ++i) {
+        Session session = samples::session(i);
+        session.skillId = text(i % 3 == 0 ? "building" : i % 3 == 1 ? "connections" : "marketing");
+        log += samples::line(session);
+    }
+    disk.setContent(file("sessions.jsonl"), log);
+    for (const double factor : {1.0, 1.25, 1.5, 2.0}) {
+        show();
+        DarkUI::of(*m_shown->window().engine())->setTextScale(factor);
+        m_shown->settle();
+        EXPECT_EQ(m_shown->overlappingTexts(), QStringList()) << factor;
+        m_shown.reset();
+    }
 }
 
 TEST_F(DashboardPageTest, ShortcutIsOfferedOnlyWhileItIsHeldAndHeardEverywhere) {

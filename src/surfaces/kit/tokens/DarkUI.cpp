@@ -46,7 +46,7 @@ TypeRole* DarkUI::grown(TypeRole* role) {
 }
 
 int DarkUI::forText(int length) const {
-    return static_cast<int>(std::lround(length * std::max(m_textScale, 1.0)));
+    return static_cast<int>(std::lround(length * textScale()));
 }
 
 int DarkUI::inMotion(int value, int reduced) const { return m_motion->reduced() ? reduced : value; }

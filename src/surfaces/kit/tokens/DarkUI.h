@@ -9,6 +9,8 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
+#include <algorithm>
+
 class QJSEngine;
 class QQmlEngine;
 
@@ -231,8 +233,9 @@ class DarkUI : public QObject {
     LOOK_FACTOR(invitationGlowOpacity) LOOK_FACTOR(pulseScale) LOOK_FACTOR(pulseGlowOpacity)
         // clang-format on
         Q_PROPERTY(double heroUnitScale READ heroUnitScale CONSTANT)
+            Q_PROPERTY(double textScale READ textScale NOTIFY textScaleChanged)
 
-            public :
+                public :
         /// The one of an engine, which it belongs to.
         [[nodiscard]] static DarkUI* of(QQmlEngine& engine);
     /// For the engine itself.
@@ -245,6 +248,9 @@ class DarkUI : public QObject {
     /// The factor on the sizes of text, beyond the scale factor of the screen. Every view takes it
     /// at once.
     void setTextScale(double factor);
+
+    /// For what a view makes room for text with: never below 1, since room for less is no gain.
+    [[nodiscard]] double textScale() const { return std::max(m_textScale, 1.0); }
 
     [[nodiscard]] static double heroUnitScale() { return look::kType.heroUnitScale; }
 
