@@ -59,6 +59,7 @@ SettingsSection {
                 visible: section.model.focusLinked && section.model.hasNoShortcuts
 
                 SettingsCaption {
+                    id: none
                     anchors.verticalCenter: open.verticalCenter
                     width: parent.width - open.width - DarkUI.space20
                     text: qsTr("No Shortcuts found yet. Make one, then flip this off and on.")
@@ -71,6 +72,7 @@ SettingsSection {
                     y: 7
                     text: section.model.action(SettingsView.FocusLinkRow)
                     role: DarkUI.captionMedium
+                    Accessible.description: none.text
                     onClicked: section.model.openShortcuts()
                 }
             }

@@ -6,6 +6,8 @@
 #include "surfaces/settings/SettingsWindow.h"
 #include "surfaces/settings/SettingsWorld.h"
 
+#include <algorithm>
+
 namespace vantle {
 namespace {
 
@@ -71,6 +73,11 @@ TEST_F(SettingsPageTest, CaptionsAreToldAsDescriptionsAlone) {
             texts << one.name;
     }
     EXPECT_LT(texts.join(u' ').split(u' ').size(), 60) << texts.join(u'|').toStdString();
+    for (const char* start : {"No input for 3 minutes pauses", "The dashboard's Today card",
+                              "Runs a Shortcut of yours", "Presenter mode:"})
+        EXPECT_TRUE(std::ranges::any_of(descriptions, [&](const QString& said) {
+            return said.startsWith(text(start));
+        })) << start;
 }
 
 TEST_F(SettingsPageTest, ApplicationsNameIsReadBesideAModeOfALongOne) {
@@ -224,7 +231,9 @@ TEST_F(SettingsPageTest, ShortcutRowsComeWithTheSwitch) {
     answer("");
     m_shown->settle();
     EXPECT_FALSE(shows("When it stops"));
-    EXPECT_TRUE(shows("No Shortcuts found yet. Make one, then flip this off and on."));
+    const QString none = text("No Shortcuts found yet. Make one, then flip this off and on.");
+    EXPECT_TRUE(m_shown->shows(none));
+    EXPECT_EQ(tests::readElement(m_shown->window(), text("Open Shortcuts")).description, none);
     click("Open Shortcuts");
     EXPECT_EQ(foldersOpened, 1);
 }
