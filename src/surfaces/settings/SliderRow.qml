@@ -18,6 +18,10 @@ Item {
         visible: !row.first
     }
 
+    Announcer {
+        id: announcer
+    }
+
     Column {
         id: content
         x: DarkUI.space16
@@ -43,7 +47,11 @@ Item {
                 stepSize: row.preference.stepSize
                 value: row.preference.value
                 valueText: row.preference.caption
-                onMoved: value => row.preference.value = value
+                // Of its value a reader knows the bare number alone.
+                onMoved: value => {
+                    row.preference.value = value;
+                    announcer.say(row.preference.title);
+                }
             }
         }
 

@@ -193,6 +193,18 @@ TEST_F(SettingsPageTest, StepperSaysWhatItSteps) {
     EXPECT_TRUE(m_shown->announced().contains(text("Daily goal, 2.5 h")));
 }
 
+TEST_F(SettingsPageTest, SliderSaysItsNumberWithItsUnit) {
+    show();
+    QQuickItem* const slider =
+        tests::shownItem(m_shown->window().contentItem(), [](const QQuickItem& item) {
+            return item.property("name").toString() == text("Auto-pause after 3 min");
+        });
+    ASSERT_NE(slider, nullptr);
+    slider->forceActiveFocus();
+    m_shown->press(Qt::Key_Right);
+    EXPECT_TRUE(m_shown->announced().contains(text("Auto-pause after 4 min")));
+}
+
 TEST_F(SettingsPageTest, ControlsReachTheirRows) {
     show();
     click("Daily goal, half an hour more");
