@@ -69,10 +69,7 @@ WaylandIdleSource::WaylandIdleSource(WaylandConnection& connection, const Clock&
     choose();
 }
 
-WaylandIdleSource::~WaylandIdleSource() {
-    disconnect(&m_connection, nullptr, this, nullptr);
-    lose();
-}
+WaylandIdleSource::~WaylandIdleSource() { release(); }
 
 void WaylandIdleSource::choose() {
     if (m_base || !m_connection.isReady()) return;
@@ -103,13 +100,17 @@ void WaylandIdleSource::forget(std::uint32_t global) {
 
 void WaylandIdleSource::lose() {
     const bool could = canTell();
+    release();
+    if (could) Q_EMIT canTellChanged();
+}
+
+void WaylandIdleSource::release() {
     m_probe.reset();
     m_base.reset();
     m_isInhibited = false;
     if (m_notifier != nullptr) ext_idle_notifier_v1_destroy(std::exchange(m_notifier, nullptr));
     if (m_kde != nullptr) org_kde_kwin_idle_destroy(std::exchange(m_kde, nullptr));
     if (m_seat != nullptr) wl_seat_destroy(std::exchange(m_seat, nullptr));
-    if (could) Q_EMIT canTellChanged();
 }
 
 WaylandIdleSource::NotificationHandle WaylandIdleSource::notification() {

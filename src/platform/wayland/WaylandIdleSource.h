@@ -20,7 +20,7 @@ namespace vantle {
 /// A film, a call or a presentation holds the session awake (an idle inhibitor). From version 2 of
 /// the notifier on, input is told all the same. Before, compositors differ: some tell nothing more
 /// until the inhibitor ends, and in others a notification that was idle when it began stays idle
-/// while the user types. So a second notification, the probe, is made anew at each reading: one
+/// while the user types. So a second notification, the probe, is made at each reading: one
 /// that does not become idle beside an idle one shows an inhibitor. Then readings are empty, until
 /// there was a second without input after its end.
 class WaylandIdleSource final : public IdleSource {
@@ -44,6 +44,7 @@ private:
     using NotificationHandle = std::unique_ptr<Notification>;
 
     void choose();
+    void release();
     void lose();
     void forget(std::uint32_t global);
     [[nodiscard]] NotificationHandle notification();

@@ -58,11 +58,7 @@ WaylandOutputPower::WaylandOutputPower(WaylandConnection& connection) : m_connec
     choose();
 }
 
-WaylandOutputPower::~WaylandOutputPower() {
-    disconnect(&m_connection, nullptr, this, nullptr);
-    blockSignals(true);
-    lose();
-}
+WaylandOutputPower::~WaylandOutputPower() { release(); }
 
 void WaylandOutputPower::choose() {
     if (!m_connection.isReady()) return;
@@ -90,10 +86,14 @@ void WaylandOutputPower::forget(std::uint32_t global) {
 }
 
 void WaylandOutputPower::lose() {
+    release();
+    refresh();
+}
+
+void WaylandOutputPower::release() {
     m_outputs.clear();
     if (m_manager != nullptr)
         zwlr_output_power_manager_v1_destroy(std::exchange(m_manager, nullptr));
-    refresh();
 }
 
 void WaylandOutputPower::refresh() {

@@ -26,6 +26,7 @@ private:
     void choose();
     void follow(const WaylandGlobal& global);
     void forget(std::uint32_t global);
+    void release();
     void lose();
     void refresh();
 

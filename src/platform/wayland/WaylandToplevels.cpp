@@ -85,11 +85,7 @@ WaylandToplevels::WaylandToplevels(Environment environment) : m_env(std::move(en
     choose();
 }
 
-WaylandToplevels::~WaylandToplevels() {
-    disconnect(&m_env.connection, nullptr, this, nullptr);
-    blockSignals(true);
-    lose();
-}
+WaylandToplevels::~WaylandToplevels() { release(); }
 
 AppCoverage WaylandToplevels::coverage() const {
     return m_manager != nullptr ? AppCoverage::All : AppCoverage::None;
@@ -119,12 +115,17 @@ void WaylandToplevels::choose() {
 }
 
 void WaylandToplevels::lose() {
-    m_toplevels.clear();
-    m_none.reset();
     if (m_manager == nullptr) return;
-    zwlr_foreign_toplevel_manager_v1_destroy(std::exchange(m_manager, nullptr));
+    release();
+    m_none.reset();
     adopt(std::nullopt);
     Q_EMIT coverageChanged();
+}
+
+void WaylandToplevels::release() {
+    m_toplevels.clear();
+    if (m_manager != nullptr)
+        zwlr_foreign_toplevel_manager_v1_destroy(std::exchange(m_manager, nullptr));
 }
 
 void WaylandToplevels::add(zwlr_foreign_toplevel_handle_v1* handle) {

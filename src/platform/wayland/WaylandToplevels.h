@@ -44,6 +44,7 @@ private:
     class Toplevel;
 
     void choose();
+    void release();
     void lose();
     void add(zwlr_foreign_toplevel_handle_v1* handle);
     void remove(Toplevel* toplevel);

@@ -139,7 +139,6 @@ FakeCompositor::FakeCompositor() : m_display(wl_display_create()) {
     m_socket = pair[0];
     m_own = pair[1];
     m_client = wl_client_create(m_display, m_own);
-    m_globals.reserve(64); // the outputs point into it
 }
 
 FakeCompositor::~FakeCompositor() {
@@ -167,42 +166,34 @@ void FakeCompositor::talkNonsense() {
     EXPECT_EQ(write(m_own, words.data(), sizeof words), static_cast<ssize_t>(sizeof words));
 }
 
-int FakeCompositor::offerSeat() {
-    m_globals.push_back(
-        wl_global_create(m_display, &wl_seat_interface, 5, this, Bindings::bindSeat));
+int FakeCompositor::offer(const wl_interface& interface, int version, Bind bind) {
+    // What is bound knows the compositor, but for an output, which knows its own global.
+    wl_global*& global = m_globals.emplace_back();
+    void* data = this;
+    if (&interface == &wl_output_interface) data = &global;
+    global = wl_global_create(m_display, &interface, version, data, bind);
     return static_cast<int>(m_globals.size()) - 1;
 }
 
+int FakeCompositor::offerSeat() { return offer(wl_seat_interface, 5, Bindings::bindSeat); }
+
 int FakeCompositor::offerIdleNotifier(std::uint32_t version) {
-    m_globals.push_back(wl_global_create(m_display, &ext_idle_notifier_v1_interface,
-                                         static_cast<int>(version), this, Bindings::bindNotifier));
-    return static_cast<int>(m_globals.size()) - 1;
+    return offer(ext_idle_notifier_v1_interface, static_cast<int>(version), Bindings::bindNotifier);
 }
 
 int FakeCompositor::offerKdeIdle() {
-    m_globals.push_back(
-        wl_global_create(m_display, &org_kde_kwin_idle_interface, 1, this, Bindings::bindKde));
-    return static_cast<int>(m_globals.size()) - 1;
+    return offer(org_kde_kwin_idle_interface, 1, Bindings::bindKde);
 }
 
 int FakeCompositor::offerToplevels() {
-    m_globals.push_back(wl_global_create(m_display, &zwlr_foreign_toplevel_manager_v1_interface, 3,
-                                         this, Bindings::bindToplevels));
-    return static_cast<int>(m_globals.size()) - 1;
+    return offer(zwlr_foreign_toplevel_manager_v1_interface, 3, Bindings::bindToplevels);
 }
 
 int FakeCompositor::offerOutputPower() {
-    m_globals.push_back(wl_global_create(m_display, &zwlr_output_power_manager_v1_interface, 1,
-                                         this, Bindings::bindPower));
-    return static_cast<int>(m_globals.size()) - 1;
+    return offer(zwlr_output_power_manager_v1_interface, 1, Bindings::bindPower);
 }
 
-int FakeCompositor::offerOutput() {
-    m_globals.push_back(nullptr);
-    m_globals.back() = wl_global_create(m_display, &wl_output_interface, 2, &m_globals.back(),
-                                        Bindings::bindOutput);
-    return static_cast<int>(m_globals.size()) - 1;
-}
+int FakeCompositor::offerOutput() { return offer(wl_output_interface, 2, Bindings::bindOutput); }
 
 void FakeCompositor::withdraw(int number) {
     wl_global_remove(m_globals[static_cast<std::size_t>(number)]);

@@ -4,6 +4,7 @@
 #include <QByteArray>
 
 #include <cstdint>
+#include <deque>
 #include <map>
 #include <memory>
 #include <set>
@@ -12,6 +13,7 @@
 struct wl_client;
 struct wl_display;
 struct wl_global;
+struct wl_interface;
 struct wl_resource;
 
 namespace vantle::tests {
@@ -78,13 +80,15 @@ private:
     struct Bindings;
     friend struct Bindings;
 
+    using Bind = void (*)(wl_client*, void* data, std::uint32_t version, std::uint32_t id);
+    int offer(const wl_interface& interface, int version, Bind bind);
     void tellIdle(Idle& idle, bool isIdle);
     void tellPower(wl_global* output, wl_resource* power);
 
     wl_display* m_display = nullptr;
     wl_client* m_client = nullptr;
     int m_socket = -1, m_own = -1;
-    std::vector<wl_global*> m_globals;
+    std::deque<wl_global*> m_globals; ///< outputs point into it
     std::vector<std::unique_ptr<Idle>> m_idles;
     bool m_inhibits = false;
     wl_resource* m_toplevels = nullptr;

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 namespace vantle {
 namespace {
 
@@ -178,6 +180,21 @@ TEST(WaylandIdleSource, TheNotifierGoesBeforeTheOlderProtocol) {
     time.advance(5.0);
     compositor.touch();
     EXPECT_LT(source.secondsSinceLastInput().value(), 1.0) << "told whatever inhibits";
+}
+
+TEST(WaylandIdleSource, ASourceThatGoesTellsNothing) {
+    FakeCompositor compositor;
+    compositor.offerSeat();
+    compositor.offerIdleNotifier(2);
+    WaylandConnection connection(compositor.takeSocket());
+    fakes::VirtualTime time;
+    auto source = std::make_unique<WaylandIdleSource>(connection, time);
+    compositor.settle();
+    ASSERT_TRUE(source->canTell());
+    int changes = 0;
+    QObject::connect(source.get(), &IdleSource::canTellChanged, &connection, [&] { ++changes; });
+    source.reset();
+    EXPECT_EQ(changes, 0) << "who asks it then asks what is half gone";
 }
 
 TEST(WaylandIdleSource, ACompositorThatOffersNothingCantTell) {
