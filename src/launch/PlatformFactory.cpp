@@ -70,7 +70,7 @@ PlatformOwner makePlatform(Scheduler& scheduler, const PlatformEvents& events,
                            const QProcessEnvironment& environment) {
     auto posix = platformparts::makePosix(scheduler, environment);
     auto display = platformparts::makeX11(scheduler, events, posix);
-    if (!display.tellsPointer) platformparts::addCompositor(scheduler, posix, display);
+    if (display.isXwayland) platformparts::addCompositor(scheduler, posix, display);
     auto session = platformparts::makeSession(scheduler, events, posix, display);
     return {std::move(posix), std::move(display), std::move(session),
             platformparts::watchSignals(events)};

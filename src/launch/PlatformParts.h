@@ -61,8 +61,8 @@ struct Posix {
 struct Display {
     std::shared_ptr<void> connection; ///< what all of the part share
     std::shared_ptr<void> compositor; ///< the same of what the server stands beside
-    /// Whether the place of the pointer is known over every window.
-    bool tellsPointer = true;
+    /// Then a Wayland compositor has the input, the windows and the pointer over them.
+    bool isXwayland = false;
     std::unique_ptr<IdleSource> idleSource;
     std::unique_ptr<FrontmostApp> frontmostApp;
     std::unique_ptr<HotKeyPort> hotKeyPort;

@@ -68,10 +68,10 @@ Session makeSession(Scheduler& scheduler, const PlatformEvents& events, const Po
     auto otherSaveDialog = std::make_unique<QtSaveDialog>();
     SaveDialog& otherwise = *otherSaveDialog;
     return {.screenPower = unite(std::move(display.screenPower), bus),
-            .screens = std::make_unique<QtScreens>(*display.reservedStrips, display.tellsPointer),
+            .screens = std::make_unique<QtScreens>(*display.reservedStrips, !display.isXwayland),
             .readingWishes = std::make_unique<DesktopReadingWishes>(bus),
             .reducedMotion = std::make_unique<DesktopReducedMotion>(bus, posix.folders.config),
-            .trayItem = std::make_unique<DesktopTrayItem>(bus, display.tellsPointer),
+            .trayItem = std::make_unique<DesktopTrayItem>(bus, !display.isXwayland),
             .imageClipboard = std::make_unique<QtImageClipboard>(),
             .otherSaveDialog = std::move(otherSaveDialog),
             .saveDialog = std::make_unique<PortalSaveDialog>(bus, otherwise),

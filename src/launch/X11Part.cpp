@@ -42,7 +42,7 @@ Display makeX11(Scheduler& scheduler, const PlatformEvents& events, const Posix&
     }
     return {.connection = server,
             .compositor = nullptr,
-            .tellsPointer = !xwayland.isXwayland,
+            .isXwayland = xwayland.isXwayland,
             .idleSource = std::move(idleSource),
             .frontmostApp = std::move(frontmostApp),
             .hotKeyPort = std::make_unique<X11HotKey>(x11, scheduler, xwayland.isXwayland),
