@@ -1,6 +1,7 @@
 #include "base/Calendar.h"
 
 #include "base/Iso8601.h"
+#include "support/EnvironmentVariable.h"
 #include "support/QtPrinters.h"
 
 #include <QDir>
@@ -14,6 +15,8 @@
 
 namespace vantle {
 namespace {
+
+using tests::EnvironmentVariable;
 
 constexpr int kSunday = 1;
 constexpr int kMonday = 2;
@@ -123,22 +126,6 @@ TEST(Calendar, NumbersWeeksByTheRules) {
     EXPECT_EQ(week(american, "2021-01-02T12:00:00Z"), (Week{2021, 1}));
     EXPECT_EQ(week(american, "2019-12-31T12:00:00Z"), (Week{2020, 1}));
 }
-
-class EnvironmentVariable {
-public:
-    EnvironmentVariable(const char* name, const QByteArray& value)
-        : m_name(name)
-        , m_former(qgetenv(name)) {
-        qputenv(name, value);
-    }
-    ~EnvironmentVariable() { qputenv(m_name, m_former); }
-    EnvironmentVariable(const EnvironmentVariable&) = delete;
-    EnvironmentVariable& operator=(const EnvironmentVariable&) = delete;
-
-private:
-    const char* m_name;
-    const QByteArray m_former;
-};
 
 TEST(Calendar, TakesTheZoneAndTheWeekRulesOfThisMachine) {
     const EnvironmentVariable zone("TZ", "Europe/Berlin");

@@ -3,17 +3,13 @@
 import json
 import stat
 import time
-from datetime import datetime, timezone
 
 from harness.case import FIRST_SKILL, FIRST_SKILL_COLOUR, PANEL_TITLE, DesktopTest
 from harness.picture import rgb_of
+from harness.records import moment
 from harness.waiting import wait_until
 
 KEYS_OF_A_RECORD = ["activeSeconds", "endedAt", "id", "note", "skillId", "source", "startedAt"]
-
-
-def moment(text):
-    return datetime.strptime(text, "%Y-%m-%dT%H:%M:%SZ").replace(tzinfo=timezone.utc)
 
 
 class Session(DesktopTest):

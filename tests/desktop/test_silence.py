@@ -3,7 +3,7 @@
 import time
 
 from harness.case import DesktopTest
-from harness.program import epoch
+from harness.records import epoch
 
 # The shortest threshold that the preference takes; the counter is looked at every 10 s, give or
 # take 2, so a silence is noticed within 22 s and input after it within 12.

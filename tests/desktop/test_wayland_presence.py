@@ -2,7 +2,7 @@
 
 import time
 
-from harness.program import epoch
+from harness.records import epoch
 from harness.waiting import wait_until
 from harness.wayland import WaylandTest
 

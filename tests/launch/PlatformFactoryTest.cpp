@@ -3,6 +3,7 @@
 
 #include "base/Scheduler.h"
 #include "support/Await.h"
+#include "support/EnvironmentVariable.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,31 +13,11 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
+#include <list>
 #include <optional>
 
 namespace vantle::tests {
 namespace {
-
-/// Variables of the session as the program finds them, until the end of the test.
-class SessionVariables {
-public:
-    ~SessionVariables() {
-        for (const auto& [name, value] : m_before)
-            value.isNull() ? qunsetenv(name) : qputenv(name, value);
-    }
-    SessionVariables() = default;
-    SessionVariables(const SessionVariables&) = delete;
-    SessionVariables& operator=(const SessionVariables&) = delete;
-
-    void set(const char* name, const QByteArray& value) {
-        m_before.try_emplace(name, qgetenv(name));
-        value.isNull() ? qunsetenv(name) : qputenv(name, value);
-    }
-
-private:
-    std::map<const char*, QByteArray> m_before;
-};
 
 /// A Wayland session in a window of the test's X server.
 class WaylandSession {
@@ -90,9 +71,11 @@ protected:
     }
 
     QtScheduler m_scheduler;
-    SessionVariables variables;
+    /// For the rest of the test; what the program finds of its session.
+    void set(const char* name, const QByteArray& value) { m_variables.emplace_back(name, value); }
 
 private:
+    std::list<EnvironmentVariable> m_variables;
     std::optional<PlatformOwner> m_owner;
     std::optional<Platform> m_platform;
 };
@@ -102,8 +85,8 @@ TEST_F(PlatformFactoryTest, AnX11SessionTellsAll) { expectX11Session(); }
 TEST_F(PlatformFactoryTest, FilesLieWhereTheSessionPutsThem) {
     const QTemporaryDir folder;
     const QString config = folder.filePath(QStringLiteral("settings"));
-    variables.set("XDG_CONFIG_HOME", QFile::encodeName(config));
-    variables.set("XDG_DATA_HOME", "relative/paths/count/for/nothing");
+    set("XDG_CONFIG_HOME", QFile::encodeName(config));
+    set("XDG_DATA_HOME", "relative/paths/count/for/nothing");
     EXPECT_EQ(platform().folders.config, config);
     EXPECT_EQ(platform().folders.data, QDir::homePath() + QStringLiteral("/.local/share"));
 
@@ -114,16 +97,16 @@ TEST_F(PlatformFactoryTest, FilesLieWhereTheSessionPutsThem) {
 }
 
 TEST_F(PlatformFactoryTest, VariablesOfAWaylandSessionMakeNoneOfAnX11Server) {
-    variables.set("WAYLAND_DISPLAY", "wayland-0");
-    variables.set("XDG_SESSION_TYPE", "wayland");
+    set("WAYLAND_DISPLAY", "wayland-0");
+    set("XDG_SESSION_TYPE", "wayland");
     expectX11Session();
 }
 
 TEST_F(PlatformFactoryTest, BesideXwaylandTheCompositorTells) {
     const WaylandSession session;
-    variables.set("DISPLAY", session.display());
-    variables.set("WAYLAND_DISPLAY", session.socket());
-    variables.set("XDG_SESSION_TYPE", "wayland");
+    set("DISPLAY", session.display());
+    set("WAYLAND_DISPLAY", session.socket());
+    set("XDG_SESSION_TYPE", "wayland");
     expectWaylandSession();
     EXPECT_TRUE(await([this] { return platform().idleSource.canTell(); }));
     EXPECT_TRUE(platform().idleSource.secondsSinceLastInput());
@@ -132,9 +115,9 @@ TEST_F(PlatformFactoryTest, BesideXwaylandTheCompositorTells) {
 
 TEST_F(PlatformFactoryTest, XwaylandIsKnownWithoutAnyVariableOfTheSession) {
     const WaylandSession session;
-    variables.set("DISPLAY", session.display());
-    variables.set("WAYLAND_DISPLAY", {});
-    variables.set("XDG_SESSION_TYPE", {});
+    set("DISPLAY", session.display());
+    set("WAYLAND_DISPLAY", {});
+    set("XDG_SESSION_TYPE", {});
     expectWaylandSession();
     runFor(200);
     EXPECT_FALSE(platform().idleSource.canTell()) << "Xwayland is asked for nothing it can't tell";

@@ -5,27 +5,24 @@
 
 namespace vantle::tests {
 
-/// Has the value while the object lives, then what it had before.
+/// Has the value while the object lives, then what it had before. A null value is none: not set.
 class EnvironmentVariable {
 public:
     EnvironmentVariable(const char* name, const QByteArray& value)
         : m_name(name)
-        , m_wasSet(qEnvironmentVariableIsSet(name))
         , m_before(qgetenv(name)) {
-        qputenv(name, value);
+        set(value);
     }
-    ~EnvironmentVariable() {
-        if (m_wasSet)
-            qputenv(m_name, m_before);
-        else
-            qunsetenv(m_name);
-    }
+    ~EnvironmentVariable() { set(m_before); }
     EnvironmentVariable(const EnvironmentVariable&) = delete;
     EnvironmentVariable& operator=(const EnvironmentVariable&) = delete;
 
 private:
-    const char* m_name;
-    const bool m_wasSet;
+    void set(const QByteArray& value) const {
+        value.isNull() ? qunsetenv(m_name) : qputenv(m_name, value);
+    }
+
+    const char* const m_name;
     const QByteArray m_before;
 };
 

@@ -13,15 +13,6 @@ LONGEST_FILE = 600
 ALLOWED = "tools/tidy/allowed_long.txt"
 
 
-def _allowed(tree):
-    """The listed files as path -> (lines, line in the list)."""
-    if not tree.exists(ALLOWED):
-        return {}
-    entries = [(number, text.split()) for number, text in tree.lines(ALLOWED)
-               if text.strip() and not text.startswith("#")]
-    return {words[0]: (int(words[1]), number) for number, words in entries}
-
-
 def _file_length(path, length, allowed):
     if path.endswith(".qml") or length > LONGEST_FILE:
         limit = FILE if path.endswith(".qml") else LONGEST_FILE
@@ -35,7 +26,7 @@ def _file_length(path, length, allowed):
 
 
 def check(tree):
-    allowed = _allowed(tree)
+    allowed = tree.allowances(ALLOWED)
     for path, (limit, number) in allowed.items():
         length = len(tree.lines(path)) if tree.exists(path) else 0
         if length <= FILE:

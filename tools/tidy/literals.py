@@ -21,15 +21,6 @@ NAMED = re.compile(r"\s*readonly property (?:real|int) (\w+):")
 OF_THE_LOOK = re.compile(r"radius|time|duration|delay|opacity|fontSize|pixelSize", re.IGNORECASE)
 
 
-def _allowed(tree):
-    """The listed views as path -> (count, line in the list)."""
-    if not tree.exists(ALLOWED):
-        return {}
-    entries = [(number, text.split()) for number, text in tree.lines(ALLOWED)
-               if text.strip() and not text.startswith("#")]
-    return {words[0]: (int(words[1]), number) for number, words in entries}
-
-
 def _literals(tree, path):
     """Each literal that belongs to the tokens: (line, what it is)."""
     raw = dict(tree.lines(path))
@@ -46,7 +37,7 @@ def _literals(tree, path):
 
 
 def check(tree):
-    allowed = _allowed(tree)
+    allowed = tree.allowances(ALLOWED)
     for path, (count, number) in allowed.items():
         found = len(list(_literals(tree, path))) if tree.exists(path) else 0
         if found == 0:

@@ -70,3 +70,12 @@ class Tree:
             rest = "\n" * hidden.count("\n")
             return rest if hidden.startswith("/") else f'""{rest}'
         return list(enumerate(HIDDEN.sub(blank, self.text(path)).splitlines(), start=1))
+
+    def allowances(self, path):
+        """What a list of exceptions has, one "file number" a line, "#" before comments: as
+        file -> (number, line in the list). A list that is not there is empty."""
+        if not self.exists(path):
+            return {}
+        entries = [(line, text.split()) for line, text in self.lines(path)
+                   if text.strip() and not text.startswith("#")]
+        return {words[0]: (int(words[1]), line) for line, words in entries}

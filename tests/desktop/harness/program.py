@@ -4,16 +4,9 @@ import json
 import os
 import signal
 import subprocess
-from datetime import datetime, timezone
 from pathlib import Path
 
 from .waiting import wait_until
-
-
-def epoch(text):
-    """A moment as the log has it, in seconds since 1970."""
-    parsed = datetime.strptime(text, "%Y-%m-%dT%H:%M:%SZ").replace(tzinfo=timezone.utc)
-    return parsed.timestamp()
 
 
 class Program:
@@ -119,7 +112,7 @@ class Program:
             return None
 
     def await_next_marker(self, deadline):
-        """Waits until the marker is written anew, which replaces the file, and returns it."""
+        """Waits until the marker is written again, which replaces the file, and returns it."""
         def version():
             now = self.marker_file.stat()
             return now.st_ino, now.st_mtime_ns

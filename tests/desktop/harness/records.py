@@ -11,6 +11,16 @@ def stamp(moment):
     return moment.astimezone(timezone.utc).strftime("%Y-%m-%dT%H:%M:%SZ")
 
 
+def moment(text):
+    """What stamp() has made a text of."""
+    return datetime.strptime(text, "%Y-%m-%dT%H:%M:%SZ").replace(tzinfo=timezone.utc)
+
+
+def epoch(text):
+    """The same in seconds since 1970."""
+    return moment(text).timestamp()
+
+
 def start_of_week():
     """The first midnight of this week. Weeks begin on Monday in the desktop's locale."""
     today = date.today()

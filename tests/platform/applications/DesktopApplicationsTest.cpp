@@ -98,22 +98,18 @@ TEST_F(DesktopApplicationsTest, ChangesBesideAFolderThatIsToComeReadNothingAnew)
 }
 
 TEST(DesktopApplications, StandardFoldersAreThePersonsThenTheSystems) {
-    const QByteArray home = qgetenv("XDG_DATA_HOME");
-    const QByteArray dirs = qgetenv("XDG_DATA_DIRS");
-    qputenv("XDG_DATA_HOME", "/home/ada/data");
-    qputenv("XDG_DATA_DIRS", "/one::relative:/two/:/one");
+    const EnvironmentVariable home("XDG_DATA_HOME", "/home/ada/data");
+    const EnvironmentVariable dirs("XDG_DATA_DIRS", "/one::relative:/two/:/one");
     const QStringList folders = DesktopApplications::standardFolders();
     EXPECT_EQ(folders.first(3),
               (QStringList{text("/home/ada/data/applications"), text("/one/applications"),
                            text("/two/applications")}));
     EXPECT_EQ(folders.filter(text("relative")), QStringList());
     EXPECT_EQ(folders.count(text("/one/applications")), 1);
-    qputenv("XDG_DATA_DIRS", "");
+    const EnvironmentVariable none("XDG_DATA_DIRS", "");
     EXPECT_EQ(
         DesktopApplications::standardFolders().mid(1, 2),
         (QStringList{text("/usr/local/share/applications"), text("/usr/share/applications")}));
-    home.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", home);
-    dirs.isNull() ? qunsetenv("XDG_DATA_DIRS") : qputenv("XDG_DATA_DIRS", dirs);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "fakes/FakeProcessRunner.h"
 #include "support/Await.h"
 #include "support/Buses.h"
+#include "support/EnvironmentVariable.h"
 #include "support/QtPrinters.h"
 
 #include <QDBusContext>
@@ -17,6 +18,7 @@ namespace vantle {
 namespace {
 
 using tests::await;
+using tests::EnvironmentVariable;
 
 /// A file manager on the bus, in the same thread: a call that blocks would never return.
 class FakeFileManager final : public QObject, protected QDBusContext {
@@ -63,11 +65,7 @@ protected:
         QFile opener(m_programs.filePath(QStringLiteral("xdg-open")));
         EXPECT_TRUE(opener.open(QIODevice::WriteOnly));
         EXPECT_TRUE(opener.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
-        qputenv("PATH", QFile::encodeName(m_programs.path()));
     }
-    ~DesktopFileManagerTest() override { qputenv("PATH", m_path); }
-    DesktopFileManagerTest(const DesktopFileManagerTest&) = delete;
-    DesktopFileManagerTest& operator=(const DesktopFileManagerTest&) = delete;
 
     /// The desktop's opener was started for that folder, and for no other.
     [[nodiscard]] bool wasOpenedByDesktop(const char* folder) const {
@@ -76,8 +74,8 @@ protected:
                    {m_programs.filePath(QStringLiteral("xdg-open")), {QString::fromUtf8(folder)}}};
     }
 
-    const QByteArray m_path = qgetenv("PATH");
     const QTemporaryDir m_programs;
+    const EnvironmentVariable m_path{"PATH", QFile::encodeName(m_programs.path())};
     tests::BusClient m_client;
     fakes::FakeProcessRunner m_runner;
     DesktopFileManager m_files{m_client.bus(), m_runner};
@@ -158,8 +156,8 @@ Result<> moveToTrash(const QString& path) {
 
 TEST(FileManagerTrash, TrashedFileIsGoneFromItsPlaceAndKeptInTheTrash) {
     const QTemporaryDir home;
-    const QByteArray before = qgetenv("XDG_DATA_HOME");
-    qputenv("XDG_DATA_HOME", QFile::encodeName(home.filePath(QStringLiteral("data"))));
+    const EnvironmentVariable data("XDG_DATA_HOME",
+                                   QFile::encodeName(home.filePath(QStringLiteral("data"))));
     const QString path = home.filePath(QStringLiteral("an old copy"));
     {
         QFile file(path);
@@ -169,10 +167,6 @@ TEST(FileManagerTrash, TrashedFileIsGoneFromItsPlaceAndKeptInTheTrash) {
     EXPECT_TRUE(moveToTrash(path));
     EXPECT_FALSE(QFile::exists(path));
     EXPECT_TRUE(QFile::exists(home.filePath(QStringLiteral("data/Trash/files/an old copy"))));
-    if (before.isNull())
-        qunsetenv("XDG_DATA_HOME");
-    else
-        qputenv("XDG_DATA_HOME", before);
 }
 
 TEST(FileManagerTrash, FileThatIsNotThereCannotBeTrashed) {

@@ -2,6 +2,7 @@
 
 #include "platform/session/FakeScreenSaver.h"
 #include "support/Await.h"
+#include "support/ToldPower.h"
 
 #include <QElapsedTimer>
 
@@ -13,15 +14,7 @@ namespace {
 using tests::await;
 using tests::BusClient;
 using tests::FakeScreenSaver;
-
-struct Told {
-    explicit Told(ScreenPower& power) {
-        QObject::connect(&power, &ScreenPower::slept, [this] { ++slept; });
-        QObject::connect(&power, &ScreenPower::woke, [this] { ++woke; });
-    }
-    int slept = 0;
-    int woke = 0;
-};
+using tests::ToldPower;
 
 class SessionScreenPowerTest : public testing::Test {
 protected:
@@ -45,7 +38,7 @@ TEST_F(SessionScreenPowerTest, EveryScreenSaverSleepsAndWakesOnce) {
     for (FakeScreenSaver* saver : {&m_freedesktop, &m_gnome, &mate, &cinnamon, &xfce}) {
         saver->appear();
         SessionScreenPower power(m_session.bus());
-        Told told(power);
+        ToldPower told(power);
         ASSERT_TRUE(await([&] { return saver->asked == 1; }));
         EXPECT_FALSE(power.asleep());
         saver->change(true);
@@ -82,7 +75,7 @@ TEST_F(SessionScreenPowerTest, ScreenSaverThatIsActiveAtTheStartIsToldOnce) {
     m_gnome.active = true;
     m_gnome.appear();
     SessionScreenPower power(m_session.bus());
-    Told told(power);
+    ToldPower told(power);
     EXPECT_TRUE(await([&] { return power.asleep(); }));
     catchUp();
     EXPECT_EQ(told.slept, 1);
@@ -92,7 +85,7 @@ TEST_F(SessionScreenPowerTest, ScreenSaverThatIsActiveAtTheStartIsToldOnce) {
 
 TEST_F(SessionScreenPowerTest, ScreenSaverThatComesLaterIsFollowed) {
     SessionScreenPower power(m_session.bus());
-    Told told(power);
+    ToldPower told(power);
     catchUp();
     m_freedesktop.appear();
     m_freedesktop.change(true);
@@ -110,7 +103,7 @@ TEST_F(SessionScreenPowerTest, ScreenSaverThatComesLaterAndActiveIsNoticed) {
 TEST_F(SessionScreenPowerTest, ScreenSaverThatDiesWakesTheScreens) {
     m_freedesktop.appear();
     SessionScreenPower power(m_session.bus());
-    Told told(power);
+    ToldPower told(power);
     m_freedesktop.change(true);
     ASSERT_TRUE(await([&] { return power.asleep(); }));
     m_freedesktop.disappear();

@@ -3,6 +3,7 @@
 #include "fakes/VirtualTime.h"
 #include "platform/x11/OwnServer.h"
 #include "support/Await.h"
+#include "support/ToldPower.h"
 
 #include <gtest/gtest.h>
 
@@ -13,16 +14,7 @@ namespace vantle {
 namespace {
 
 using tests::catchUp;
-
-/// Counts what a ScreenPower tells.
-struct Told {
-    explicit Told(ScreenPower& power) {
-        QObject::connect(&power, &ScreenPower::slept, [this] { ++slept; });
-        QObject::connect(&power, &ScreenPower::woke, [this] { ++woke; });
-    }
-    int slept = 0;
-    int woke = 0;
-};
+using tests::ToldPower;
 
 class X11ScreenPowerTest : public testing::Test {
 protected:
@@ -34,7 +26,7 @@ protected:
 
 TEST_F(X11ScreenPowerTest, ScreenSaverTellsOnceWhenItShowsAndOnceWhenItGoes) {
     X11ScreenPower power(m_connection, m_time, {});
-    Told told(power);
+    ToldPower told(power);
     EXPECT_FALSE(power.asleep());
 
     ASSERT_TRUE(tests::run(QStringLiteral("xset s activate")));
@@ -52,7 +44,7 @@ TEST_F(X11ScreenPowerTest, ScreenSaverTellsOnceWhenItShowsAndOnceWhenItGoes) {
 
 TEST_F(X11ScreenPowerTest, InputWakesTheScreenSaverOnce) {
     X11ScreenPower power(m_connection, m_time, {});
-    Told told(power);
+    ToldPower told(power);
     ASSERT_TRUE(tests::run(QStringLiteral("xset s activate")));
     ASSERT_TRUE(tests::run(QStringLiteral("xdotool mousemove_relative 5 5 key shift")));
     catchUp(m_connection);
@@ -63,7 +55,7 @@ TEST_F(X11ScreenPowerTest, InputWakesTheScreenSaverOnce) {
 TEST_F(X11ScreenPowerTest, ScreenSaverThatShowsAlreadyMeansAsleepFromTheStart) {
     ASSERT_TRUE(tests::run(QStringLiteral("xset s activate")));
     X11ScreenPower power(m_connection, m_time, {});
-    Told told(power);
+    ToldPower told(power);
     EXPECT_TRUE(power.asleep());
     ASSERT_TRUE(tests::run(QStringLiteral("xset s reset")));
     catchUp(m_connection);
@@ -74,7 +66,7 @@ TEST_F(X11ScreenPowerTest, ScreenSaverThatShowsAlreadyMeansAsleepFromTheStart) {
 TEST_F(X11ScreenPowerTest, DarkDisplayIsNoticedWithinFiveSeconds) {
     bool off = false;
     X11ScreenPower power(m_connection, m_time, [&] { return off; });
-    Told told(power);
+    ToldPower told(power);
     m_time.advance(60);
     EXPECT_EQ(told.slept, 0);
     off = true;
@@ -91,7 +83,7 @@ TEST_F(X11ScreenPowerTest, DarkDisplayIsNoticedWithinFiveSeconds) {
 TEST_F(X11ScreenPowerTest, DarkDisplayUnderAScreenSaverIsOneSleep) {
     bool off = false;
     X11ScreenPower power(m_connection, m_time, [&] { return off; });
-    Told told(power);
+    ToldPower told(power);
     ASSERT_TRUE(tests::run(QStringLiteral("xset s activate")));
     catchUp(m_connection);
     off = true;
@@ -126,7 +118,7 @@ TEST_F(X11ScreenPowerTest, BlankedOrLockedScreenOfXscreensaverIsASleep) {
     X11Connection connection(server.display());
     X11Connection locker(server.display());
     X11ScreenPower power(connection, m_time, {});
-    Told told(power);
+    ToldPower told(power);
     sayStatus(locker, "");
     catchUp(connection);
     EXPECT_FALSE(power.asleep());
@@ -182,7 +174,7 @@ TEST_F(X11ScreenPowerTest, ServerThatGoesAwayWakesTheScreens) {
     tests::OwnServer server;
     X11Connection connection(server.display());
     X11ScreenPower power(connection, m_time, [] { return true; });
-    Told told(power);
+    ToldPower told(power);
     EXPECT_TRUE(power.asleep());
     server.stop();
     EXPECT_TRUE(tests::await([&] { return told.woke == 1; }));

@@ -4,6 +4,7 @@
 #include "sensing/FocusLink.h"
 #include "sensing/shortcuts/ShortcutsFolder.h"
 #include "support/Await.h"
+#include "support/EnvironmentVariable.h"
 #include "support/QtPrinters.h"
 #include "tracking/Settings.h"
 
@@ -23,15 +24,7 @@ namespace {
 
 class ShortcutsToolTest : public testing::Test {
 protected:
-    ShortcutsToolTest() {
-        m_formerConfig = qgetenv("XDG_CONFIG_HOME");
-        qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_config.path()));
-        EXPECT_TRUE(QDir().mkpath(folder()));
-    }
-    ~ShortcutsToolTest() override {
-        m_formerConfig.isNull() ? qunsetenv("XDG_CONFIG_HOME")
-                                : qputenv("XDG_CONFIG_HOME", m_formerConfig);
-    }
+    ShortcutsToolTest() { EXPECT_TRUE(QDir().mkpath(folder())); }
 
     [[nodiscard]] QString folder() const {
         return m_config.path() + QStringLiteral("/Vantle/shortcuts");
@@ -70,7 +63,8 @@ protected:
     int runShortcut(const QString& name) { return tool({QStringLiteral("run"), name}); }
 
     QTemporaryDir m_config;
-    QByteArray m_formerConfig;
+    const tests::EnvironmentVariable m_variable{"XDG_CONFIG_HOME",
+                                                QFile::encodeName(m_config.path())};
     QByteArray m_printed;
 };
 

@@ -1,0 +1,18 @@
+// What a source of sleeping screens has told.
+#pragma once
+
+#include "platform/ScreenPower.h"
+
+namespace vantle::tests {
+
+/// Counts; the source must outlive it.
+struct ToldPower {
+    explicit ToldPower(ScreenPower& power) {
+        QObject::connect(&power, &ScreenPower::slept, [this] { ++slept; });
+        QObject::connect(&power, &ScreenPower::woke, [this] { ++woke; });
+    }
+    int slept = 0;
+    int woke = 0;
+};
+
+} // namespace vantle::tests
