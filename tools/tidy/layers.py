@@ -1,8 +1,8 @@
 """Includes point down only, and every edge between folders of src/ is stated in CMake.
 
 The folders from the bottom to the top of the house. A folder may use those in lower rows. Folders
-of a row do not know each other, but for launch, which alone sees the backends. Surfaces are seen by
-surfaces and by launch alone.
+of a row do not know each other, but for launch, which alone sees the backends. What backends share
+they alone see. Surfaces are seen by surfaces and by launch alone.
 """
 
 import posixpath
@@ -15,7 +15,7 @@ RULE = "layers"
 ROWS = (
     ("base",),
     ("platform", "surfaces/kit"),
-    ("tracking", "surfaces/panel"),
+    ("platform/bus", "tracking", "surfaces/panel"),
     ("sensing", "review/stats", "review/narrative", "ceremony/show"),
     ("app", "surfaces/window"),
     ("review",),
@@ -45,8 +45,8 @@ def rank_of(folder):
 def may_use(user, used):
     if user == used:
         return True
-    if user == "launch" and used.startswith("platform/"):
-        return True
+    if used.startswith("platform/"):
+        return user == "launch" or (user.startswith("platform/") and rank_of(used) < rank_of(user))
     if used.startswith("surfaces/") and not user.startswith(("surfaces/", "launch")):
         return False
     return rank_of(used) < rank_of(user)

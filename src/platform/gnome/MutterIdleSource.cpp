@@ -1,8 +1,6 @@
 #include "platform/gnome/MutterIdleSource.h"
 
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusServiceWatcher>
+#include <QVariant>
 
 namespace vantle {
 
@@ -17,19 +15,15 @@ constexpr qulonglong kShortWhile = static_cast<qulonglong>(IdleEvents::shortWhil
 } // namespace
 
 MutterIdleSource::MutterIdleSource(const QDBusConnection& session, const Clock& clock)
-    : m_session(session)
+    : m_monitor(session, kMonitor)
     , m_clock(clock) {
-    if (!m_session.isConnected()) return;
-    m_session.connect(kMonitor, kMonitorPath, kMonitor, QStringLiteral("WatchFired"), this,
-                      SLOT(takeWatch(uint)));
-    auto* watcher = new QDBusServiceWatcher(kMonitor, m_session,
-                                            QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString&, const QString&, const QString& newOwner) {
-                lose();
-                if (!newOwner.isEmpty()) meet();
-            });
-    meet();
+    connect(&m_monitor, &FollowedService::came, this, &MutterIdleSource::meet);
+    connect(&m_monitor, &FollowedService::gone, this, &MutterIdleSource::lose);
+    m_monitor.hear(kMonitorPath, kMonitor, QStringLiteral("WatchFired"),
+                   [this](const QDBusMessage& signal) {
+                       const QVariantList values = signal.arguments();
+                       if (!values.isEmpty()) takeWatch(values.constFirst().toUInt());
+                   });
 }
 
 std::optional<double> MutterIdleSource::secondsSinceLastInput() {
@@ -37,28 +31,17 @@ std::optional<double> MutterIdleSource::secondsSinceLastInput() {
     return m_events->secondsSinceLastInput();
 }
 
-void MutterIdleSource::ask(const QString& method, const QVariantList& arguments,
-                           const std::function<void(const QVariant&)>& take) {
-    auto call = QDBusMessage::createMethodCall(kMonitor, kMonitorPath, kMonitor, method);
-    call.setArguments(arguments);
-    call.setAutoStartService(false);
-    auto* answer = new QDBusPendingCallWatcher(m_session.asyncCall(call), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [answer, take] {
-        answer->deleteLater();
-        const QVariantList values = answer->reply().arguments();
-        if (!answer->isError() && !values.isEmpty()) take(values.constFirst());
-    });
+QDBusMessage MutterIdleSource::callTo(const QString& method) const {
+    return m_monitor.call(kMonitorPath, kMonitor, method);
 }
 
 void MutterIdleSource::meet() {
-    ask(QStringLiteral("AddIdleWatch"), {QVariant::fromValue(kShortWhile)},
-        [this](const QVariant& id) {
-            const bool could = canTell();
-            m_idleWatch = id.toUInt();
-            m_inputWatch = 0;
-            m_events.emplace(m_clock);
-            if (!could) Q_EMIT canTellChanged();
-        });
+    m_monitor.ask<uint>(callTo(QStringLiteral("AddIdleWatch")) << kShortWhile, [this](uint id) {
+        m_idleWatch = id;
+        m_inputWatch = 0;
+        m_events.emplace(m_clock);
+        Q_EMIT canTellChanged();
+    });
 }
 
 void MutterIdleSource::lose() {
@@ -80,18 +63,19 @@ void MutterIdleSource::takeWatch(uint id) {
 }
 
 void MutterIdleSource::watchForInput() {
-    ask(QStringLiteral("AddUserActiveWatch"), {}, [this](const QVariant& id) {
-        m_inputWatch = id.toUInt();
+    m_monitor.ask<uint>(callTo(QStringLiteral("AddUserActiveWatch")), [this](uint id) {
+        m_inputWatch = id;
         askWhetherStillIdle();
     });
 }
 
 void MutterIdleSource::askWhetherStillIdle() {
     // An input between the first second and the watch for the next input was told by nothing.
-    ask(QStringLiteral("GetIdletime"), {}, [this](const QVariant& milliseconds) {
-        if (!m_events || !m_events->isIdle() || milliseconds.toULongLong() >= kShortWhile) return;
-        m_events->resumed();
-    });
+    m_monitor.ask<qulonglong>(
+        callTo(QStringLiteral("GetIdletime")), [this](qulonglong milliseconds) {
+            if (!m_events || !m_events->isIdle() || milliseconds >= kShortWhile) return;
+            m_events->resumed();
+        });
 }
 
 } // namespace vantle

@@ -3,10 +3,11 @@
 
 #include "platform/IdleEvents.h"
 #include "platform/IdleSource.h"
+#include "platform/bus/FollowedService.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 
-#include <functional>
 #include <optional>
 
 namespace vantle {
@@ -25,18 +26,15 @@ public:
     [[nodiscard]] std::optional<double> secondsSinceLastInput() override;
     [[nodiscard]] bool canTell() const override { return m_events.has_value(); }
 
-private Q_SLOTS:
-    void takeWatch(uint id);
-
 private:
     void meet();
     void lose();
     void watchForInput();
     void askWhetherStillIdle();
-    void ask(const QString& method, const QVariantList& arguments,
-             const std::function<void(const QVariant&)>& take);
+    void takeWatch(uint id);
+    [[nodiscard]] QDBusMessage callTo(const QString& method) const;
 
-    QDBusConnection m_session;
+    FollowedService m_monitor;
     const Clock& m_clock;
     std::optional<IdleEvents> m_events; ///< while the shell tells
     uint m_idleWatch = 0;

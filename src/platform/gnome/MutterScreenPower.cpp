@@ -1,9 +1,7 @@
 #include "platform/gnome/MutterScreenPower.h"
 
 #include <QDBusArgument>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
+#include <QDBusMessage>
 #include <QDBusVariant>
 #include <QVariantMap>
 
@@ -20,35 +18,21 @@ constexpr unsigned kSavesPower = 0;
 
 } // namespace
 
-MutterScreenPower::MutterScreenPower(const QDBusConnection& session) : m_session(session) {
-    if (!m_session.isConnected()) return;
-    m_session.connect(kDisplays, kDisplaysPath, kProperties, QStringLiteral("PropertiesChanged"),
-                      QStringList{kDisplays}, QString(), this, SLOT(takeProperties(QDBusMessage)));
-    auto* watcher = new QDBusServiceWatcher(kDisplays, m_session,
-                                            QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString&, const QString&, const QString& newOwner) {
-                setCause(kSavesPower, false); // what the old one said died with it
-                if (!newOwner.isEmpty()) ask();
-            });
-    ask();
+MutterScreenPower::MutterScreenPower(const QDBusConnection& session)
+    : m_displays(session, kDisplays) {
+    connect(&m_displays, &FollowedService::came, this, &MutterScreenPower::ask);
+    connect(&m_displays, &FollowedService::gone, this, [this] { setCause(kSavesPower, false); });
+    m_displays.hear(
+        kDisplaysPath, kProperties, QStringLiteral("PropertiesChanged"),
+        [this](const QDBusMessage& signal) { takeProperties(signal.arguments()); }, kDisplays);
 }
 
 void MutterScreenPower::ask() {
-    auto call = QDBusMessage::createMethodCall(kDisplays, kDisplaysPath, kProperties,
-                                               QStringLiteral("Get"));
-    call << kDisplays << kMode;
-    call.setAutoStartService(false);
-    auto* answer = new QDBusPendingCallWatcher(m_session.asyncCall(call), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        answer->deleteLater();
-        const QDBusPendingReply<QDBusVariant> reply = *answer;
-        if (reply.isValid()) take(reply.value().variant());
-    });
+    m_displays.ask<QDBusVariant>(m_displays.get(kDisplaysPath, kDisplays, kMode),
+                                 [this](const QDBusVariant& mode) { take(mode.variant()); });
 }
 
-void MutterScreenPower::takeProperties(const QDBusMessage& signal) {
-    const QVariantList arguments = signal.arguments();
+void MutterScreenPower::takeProperties(const QVariantList& arguments) {
     if (arguments.size() < 3) return;
     const auto changed = qdbus_cast<QVariantMap>(arguments[1]);
     if (changed.contains(kMode))

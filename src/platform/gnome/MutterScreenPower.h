@@ -2,9 +2,9 @@
 #pragma once
 
 #include "platform/CausedScreenPower.h"
+#include "platform/bus/FollowedService.h"
 
 #include <QDBusConnection>
-#include <QDBusMessage>
 #include <QVariant>
 
 namespace vantle {
@@ -17,14 +17,12 @@ class MutterScreenPower final : public CausedScreenPower {
 public:
     explicit MutterScreenPower(const QDBusConnection& session);
 
-private Q_SLOTS:
-    void takeProperties(const QDBusMessage& signal);
-
 private:
     void ask();
+    void takeProperties(const QVariantList& arguments);
     void take(const QVariant& mode);
 
-    QDBusConnection m_session;
+    FollowedService m_displays;
 };
 
 } // namespace vantle

@@ -1,7 +1,6 @@
 #include "platform/session/ApplicationService.h"
 
 #include "base/Scheduler.h"
-#include "platform/session/AnswerLimit.h"
 #include "platform/session/ApplicationAdaptor.h"
 
 #include <QDBusPendingCallWatcher>
@@ -17,6 +16,8 @@ const QString kObjectPath = QStringLiteral("/local/vantle/Vantle");
 
 const QString kBus = QStringLiteral("org.freedesktop.DBus");
 const QString kBusPath = QStringLiteral("/org/freedesktop/DBus");
+
+constexpr int kAnswerLimitMs = 2000; // of a running copy
 
 constexpr uint kDoNotQueue = 4;   // RequestName: a name that is taken is not waited for
 constexpr uint kPrimaryOwner = 1; // its answer: the name is ours now

@@ -37,7 +37,7 @@ public:
     void start();
 
     /// For a copy that finds the data taken: asks the one that runs to show itself, and waits for
-    /// its answer, kAnswerLimitMs at the most, also for one that has no name yet because it has
+    /// its answer, two seconds at the most, also for one that has no name yet because it has
     /// just been started. Starts none. Returns whether it answered. Runs an event loop.
     [[nodiscard]] static bool showRunningCopy(const QDBusConnection& session, Scheduler& scheduler);
 

@@ -2,9 +2,6 @@
 
 #include <QDBusArgument>
 #include <QDBusObjectPath>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <QVariantMap>
 
@@ -24,42 +21,30 @@ const QString kLoginUser = QStringLiteral("org.freedesktop.login1.User");
 const QString kPropertyInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 const QString kLockedHint = QStringLiteral("LockedHint");
 
-QDBusMessage callTo(const QString& path, const QString& interface, const QString& method) {
-    auto call = QDBusMessage::createMethodCall(kLogin, path, interface, method);
-    call.setAutoStartService(false);
-    return call;
-}
-
-QDBusMessage propertyOf(const QString& path, const QString& interface, const QString& name) {
-    return callTo(path, kPropertyInterface, QStringLiteral("Get")) << interface << name;
-}
-
 } // namespace
 
 LoginScreenPower::LoginScreenPower(const QByteArray& systemBusAddress, QString sessionId)
     : m_sessionId(std::move(sessionId))
-    , m_late(systemBusAddress)
-    , m_bus(QString()) {
+    , m_late(systemBusAddress) {
     connect(&m_late, &LateBus::connected, this, &LoginScreenPower::follow);
 }
 
 void LoginScreenPower::follow(const QDBusConnection& bus) {
-    m_bus = bus;
-    auto* watcher =
-        new QDBusServiceWatcher(kLogin, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString&, const QString&, const QString& newOwner) {
-                loseManager();
-                if (!newOwner.isEmpty()) meetManager();
-            });
-    m_bus.connect(kLogin, kLoginPath, kLoginManager, QStringLiteral("PrepareForSleep"), this,
-                  SLOT(takeSuspension(bool)));
+    m_login = std::make_unique<FollowedService>(bus, kLogin);
+    connect(m_login.get(), &FollowedService::gone, this, &LoginScreenPower::loseManager);
+    connect(m_login.get(), &FollowedService::came, this, &LoginScreenPower::meetManager);
+    m_login->hear(kLoginPath, kLoginManager, QStringLiteral("PrepareForSleep"),
+                  [this](const QDBusMessage& signal) {
+                      const QVariantList values = signal.arguments();
+                      if (!values.isEmpty()) takeSuspension(values.constFirst().toBool());
+                  });
     // From every session: which one is the user's is not known yet.
     for (const auto& name : {QStringLiteral("Lock"), QStringLiteral("Unlock")})
-        m_bus.connect(kLogin, QString(), kLoginSession, name, this, SLOT(takeLock(QDBusMessage)));
-    m_bus.connect(kLogin, QString(), kPropertyInterface, QStringLiteral("PropertiesChanged"),
-                  QStringList{kLoginSession}, QString(), this, SLOT(takeProperties(QDBusMessage)));
-    meetManager();
+        m_login->hear(QString(), kLoginSession, name,
+                      [this](const QDBusMessage& signal) { takeLock(signal); });
+    m_login->hear(
+        QString(), kPropertyInterface, QStringLiteral("PropertiesChanged"),
+        [this](const QDBusMessage& signal) { takeProperties(signal); }, kLoginSession);
 }
 
 void LoginScreenPower::meetManager() {
@@ -75,31 +60,15 @@ void LoginScreenPower::loseManager() {
         setCause(cause, false);
 }
 
-template <typename Reply, typename Take, typename Fail>
-void LoginScreenPower::ask(const QDBusMessage& call, Take take, Fail fail) {
-    auto* answer = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [answer, take, fail] {
-        answer->deleteLater();
-        const QDBusPendingReply<Reply> reply = *answer;
-        if (reply.isValid())
-            take(reply.value());
-        else
-            fail();
-    });
-}
-
 void LoginScreenPower::inhibit() {
-    const auto call = callTo(kLoginPath, kLoginManager, QStringLiteral("Inhibit"))
+    const auto call = m_login->call(kLoginPath, kLoginManager, QStringLiteral("Inhibit"))
                       << QStringLiteral("sleep") << QStringLiteral("Vantle")
                       << QStringLiteral("Notes down the pause of the session")
                       << QStringLiteral("delay");
-    ask<QDBusUnixFileDescriptor>(
-        call,
-        [this](const QDBusUnixFileDescriptor& lock) {
-            // One that comes while the machine is about to sleep would only hold it up.
-            if (!m_suspending) m_inhibitor = lock;
-        },
-        [] {});
+    m_login->ask<QDBusUnixFileDescriptor>(call, [this](const QDBusUnixFileDescriptor& lock) {
+        // One that comes while the machine is about to sleep would only hold it up.
+        if (!m_suspending) m_inhibitor = lock;
+    });
 }
 
 void LoginScreenPower::takeSuspension(bool begins) {
@@ -116,40 +85,39 @@ void LoginScreenPower::askForSession() {
         askForSessionOfUser();
         return;
     }
-    const auto call = callTo(kLoginPath, kLoginManager, QStringLiteral("GetSession"))
+    const auto call = m_login->call(kLoginPath, kLoginManager, QStringLiteral("GetSession"))
                       << m_sessionId;
-    ask<QDBusObjectPath>(
+    m_login->ask<QDBusObjectPath>(
         call, [this](const QDBusObjectPath& path) { takeSession(path.path()); },
         [this] { askForSessionOfUser(); });
 }
 
 void LoginScreenPower::askForSessionOfUser() {
-    const auto call = callTo(kLoginPath, kLoginManager, QStringLiteral("GetUser")) << getuid();
-    ask<QDBusObjectPath>(
-        call, [this](const QDBusObjectPath& path) { askForDisplay(path.path()); }, [] {});
+    const auto call = m_login->call(kLoginPath, kLoginManager, QStringLiteral("GetUser"))
+                      << getuid();
+    m_login->ask<QDBusObjectPath>(
+        call, [this](const QDBusObjectPath& path) { askForDisplay(path.path()); });
 }
 
 void LoginScreenPower::askForDisplay(const QString& userPath) {
-    ask<QDBusVariant>(
-        propertyOf(userPath, kLoginUser, QStringLiteral("Display")),
-        [this](const QDBusVariant& display) {
-            const auto fields = display.variant().value<QDBusArgument>();
-            if (fields.currentSignature() != QLatin1String("(so)")) return;
-            QString id;
-            QDBusObjectPath path;
-            fields.beginStructure();
-            fields >> id >> path;
-            fields.endStructure();
-            takeSession(path.path());
-        },
-        [] {});
+    m_login->ask<QDBusVariant>(m_login->get(userPath, kLoginUser, QStringLiteral("Display")),
+                               [this](const QDBusVariant& display) {
+                                   const auto fields = display.variant().value<QDBusArgument>();
+                                   if (fields.currentSignature() != QLatin1String("(so)")) return;
+                                   QString id;
+                                   QDBusObjectPath path;
+                                   fields.beginStructure();
+                                   fields >> id >> path;
+                                   fields.endStructure();
+                                   takeSession(path.path());
+                               });
 }
 
 void LoginScreenPower::takeSession(const QString& path) {
     m_sessionPath = path;
-    ask<QDBusVariant>(
-        propertyOf(path, kLoginSession, kLockedHint),
-        [this](const QDBusVariant& hint) { setLockedHint(hint.variant().toBool()); }, [] {});
+    m_login->ask<QDBusVariant>(
+        m_login->get(path, kLoginSession, kLockedHint),
+        [this](const QDBusVariant& hint) { setLockedHint(hint.variant().toBool()); });
 }
 
 void LoginScreenPower::takeLock(const QDBusMessage& signal) {

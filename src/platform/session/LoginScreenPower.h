@@ -2,10 +2,13 @@
 #pragma once
 
 #include "platform/CausedScreenPower.h"
+#include "platform/bus/FollowedService.h"
 #include "platform/session/LateBus.h"
 
 #include <QDBusMessage>
 #include <QDBusUnixFileDescriptor>
+
+#include <memory>
 
 namespace vantle {
 
@@ -24,12 +27,10 @@ public:
     /// session id it is the one that the manager shows for the user.
     LoginScreenPower(const QByteArray& systemBusAddress, QString sessionId);
 
-private Q_SLOTS:
+private:
     void takeSuspension(bool begins);
     void takeLock(const QDBusMessage& signal);
     void takeProperties(const QDBusMessage& signal);
-
-private:
     void follow(const QDBusConnection& bus);
     void meetManager();
     void loseManager();
@@ -40,14 +41,11 @@ private:
     void takeSession(const QString& path);
     void setLockedHint(bool locked);
 
-    template <typename Reply, typename Take, typename Fail>
-    void ask(const QDBusMessage& call, Take take, Fail fail);
-
     const QString m_sessionId;
     LateBus m_late;
-    QDBusConnection m_bus;
-    QString m_sessionPath;               ///< empty until the manager has named it
-    QDBusUnixFileDescriptor m_inhibitor; ///< the machine waits while this is open
+    std::unique_ptr<FollowedService> m_login; ///< once the bus answers
+    QString m_sessionPath;                    ///< empty until the manager has named it
+    QDBusUnixFileDescriptor m_inhibitor;      ///< the machine waits while this is open
     bool m_suspending = false;
 };
 

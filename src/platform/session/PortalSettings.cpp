@@ -1,11 +1,7 @@
 #include "platform/session/PortalSettings.h"
 
-#include "platform/session/AnswerLimit.h"
-
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
+#include <QDBusVariant>
 
 #include <utility>
 
@@ -27,38 +23,27 @@ QVariant unwrapped(QVariant value) {
 } // namespace
 
 PortalSettings::PortalSettings(const QDBusConnection& session, QList<Key> keys)
-    : m_session(session)
+    : m_portal(session, kService)
     , m_keys(std::move(keys)) {
-    if (!m_session.isConnected()) return;
-    m_session.connect(kService, kPortalPath, kInterface, QStringLiteral("SettingChanged"), this,
-                      SLOT(takeChange(QString, QString, QDBusVariant)));
-    auto* watcher = new QDBusServiceWatcher(kService, m_session,
-                                            QDBusServiceWatcher::WatchForRegistration, this);
-    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, [this] { ask(); });
-    ask();
-}
-
-void PortalSettings::ask() {
-    for (const Key& key : m_keys)
-        ask(key);
+    connect(&m_portal, &FollowedService::came, this, [this] {
+        for (const Key& key : m_keys)
+            ask(key);
+    });
+    m_portal.hear(kPortalPath, kInterface, QStringLiteral("SettingChanged"),
+                  [this](const QDBusMessage& signal) { takeChange(signal.arguments()); });
+    m_portal.start();
 }
 
 void PortalSettings::ask(const Key& key) {
-    auto call =
-        QDBusMessage::createMethodCall(kService, kPortalPath, kInterface, QStringLiteral("Read"));
-    call << key.space << key.name;
-    auto* answer = new QDBusPendingCallWatcher(m_session.asyncCall(call, kAnswerLimitMs), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, key] {
-        answer->deleteLater();
-        const QDBusPendingReply<QDBusVariant> reply = *answer;
-        if (reply.isValid()) Q_EMIT told(key, unwrapped(reply.value().variant()));
-    });
+    m_portal.ask<QDBusVariant>(
+        m_portal.call(kPortalPath, kInterface, QStringLiteral("Read")) << key.space << key.name,
+        [this, key](const QDBusVariant& value) { Q_EMIT told(key, unwrapped(value.variant())); });
 }
 
-void PortalSettings::takeChange(const QString& space, const QString& name,
-                                const QDBusVariant& value) {
-    const Key key{space, name};
-    if (m_keys.contains(key)) Q_EMIT told(key, unwrapped(value.variant()));
+void PortalSettings::takeChange(const QVariantList& change) {
+    if (change.size() < 3) return;
+    const Key key{change[0].toString(), change[1].toString()};
+    if (m_keys.contains(key)) Q_EMIT told(key, unwrapped(change[2]));
 }
 
 } // namespace vantle

@@ -1,8 +1,9 @@
 // What the desktop's settings portal says of a few keys.
 #pragma once
 
+#include "platform/bus/FollowedService.h"
+
 #include <QDBusConnection>
-#include <QDBusVariant>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -30,14 +31,11 @@ Q_SIGNALS:
     /// One of the keys has that value, which need not be another one than before.
     void told(const vantle::PortalSettings::Key& key, const QVariant& value);
 
-private Q_SLOTS:
-    void takeChange(const QString& space, const QString& name, const QDBusVariant& value);
-
 private:
-    void ask();
     void ask(const Key& key);
+    void takeChange(const QVariantList& change);
 
-    QDBusConnection m_session;
+    FollowedService m_portal;
     const QList<Key> m_keys;
 };
 

@@ -1,11 +1,10 @@
 #include "platform/session/SessionScreenPower.h"
 
-#include "platform/session/AnswerLimit.h"
+#include "platform/bus/FollowedService.h"
 
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusServiceWatcher>
+#include <QDBusMessage>
 #include <QStringList>
+#include <QVariant>
 
 namespace vantle {
 
@@ -22,42 +21,25 @@ QString pathOf(const QString& name) { return u'/' + QString(name).replace(u'.', 
 
 } // namespace
 
-SessionScreenPower::SessionScreenPower(const QDBusConnection& session) : m_session(session) {
-    if (!m_session.isConnected()) return;
+SessionScreenPower::SessionScreenPower(const QDBusConnection& session) {
     for (int i = 0; i < kScreenSavers.size(); ++i)
-        follow(static_cast<unsigned>(i), kScreenSavers[i]);
+        follow(session, static_cast<unsigned>(i), kScreenSavers[i]);
 }
 
-void SessionScreenPower::follow(unsigned cause, const QString& name) {
-    // From any path: some services signal on an older one.
-    m_session.connect(name, QString(), name, QStringLiteral("ActiveChanged"), this,
-                      SLOT(takeActive(QDBusMessage)));
-    auto* watcher =
-        new QDBusServiceWatcher(name, m_session, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this, cause, name](const QString&, const QString&, const QString& newOwner) {
-                setCause(cause, false); // what the old one said died with it
-                if (!newOwner.isEmpty()) askWhetherActive(cause, name);
-            });
-    askWhetherActive(cause, name);
-}
-
-void SessionScreenPower::askWhetherActive(unsigned cause, const QString& name) {
-    auto call =
-        QDBusMessage::createMethodCall(name, pathOf(name), name, QStringLiteral("GetActive"));
-    call.setAutoStartService(false);
-    auto* answer = new QDBusPendingCallWatcher(m_session.asyncCall(call, kAnswerLimitMs), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, cause] {
-        answer->deleteLater();
-        const QDBusPendingReply<bool> reply = *answer;
-        if (reply.isValid()) setCause(cause, reply.value());
+void SessionScreenPower::follow(const QDBusConnection& session, unsigned cause,
+                                const QString& name) {
+    auto* saver = new FollowedService(session, name, this);
+    connect(saver, &FollowedService::gone, this, [this, cause] { setCause(cause, false); });
+    connect(saver, &FollowedService::came, this, [this, saver, cause, name] {
+        saver->ask<bool>(saver->call(pathOf(name), name, QStringLiteral("GetActive")),
+                         [this, cause](bool active) { setCause(cause, active); });
     });
-}
-
-void SessionScreenPower::takeActive(const QDBusMessage& signal) {
-    const auto cause = kScreenSavers.indexOf(signal.interface());
-    if (cause < 0 || signal.arguments().isEmpty()) return;
-    setCause(static_cast<unsigned>(cause), signal.arguments().constFirst().toBool());
+    // From any path: some services signal on an older one.
+    saver->hear(QString(), name, QStringLiteral("ActiveChanged"),
+                [this, cause](const QDBusMessage& signal) {
+                    const QVariantList values = signal.arguments();
+                    if (!values.isEmpty()) setCause(cause, values.constFirst().toBool());
+                });
 }
 
 } // namespace vantle

@@ -4,7 +4,7 @@
 #include "platform/CausedScreenPower.h"
 
 #include <QDBusConnection>
-#include <QDBusMessage>
+#include <QString>
 
 namespace vantle {
 
@@ -20,14 +20,8 @@ class SessionScreenPower final : public CausedScreenPower {
 public:
     explicit SessionScreenPower(const QDBusConnection& session);
 
-private Q_SLOTS:
-    void takeActive(const QDBusMessage& signal);
-
 private:
-    void follow(unsigned cause, const QString& name);
-    void askWhetherActive(unsigned cause, const QString& name);
-
-    QDBusConnection m_session;
+    void follow(const QDBusConnection& session, unsigned cause, const QString& name);
 };
 
 } // namespace vantle
