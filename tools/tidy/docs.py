@@ -1,4 +1,4 @@
-"""What README.md and docs/ name is there: paths of the tree in backticks, and links."""
+"""What README.md and docs/ name is there: paths of the tree in backticks, links, headings."""
 
 import posixpath
 import re
@@ -49,16 +49,34 @@ def _prose(tree, path):
             yield line, text
 
 
+def _anchors(tree, path):
+    """What a link may name after the #: the headings, as the pages of a repository spell them."""
+    headings = (text.lstrip("#").strip().lower() for _, text in _prose(tree, path)
+                if text.startswith("#"))
+    return {re.sub(r"[^\w -]", "", heading).replace(" ", "-") for heading in headings}
+
+
+def _missing(tree, document, link):
+    """What a link leads to that is not there; empty when all is."""
+    path, _, anchor = link.partition("#")
+    target = posixpath.normpath(posixpath.join(posixpath.dirname(document), path))
+    target = target if path else document
+    if not tree.exists(target):
+        return target
+    if anchor and target.endswith(".md") and anchor not in _anchors(tree, target):
+        return f"{target}#{anchor}"
+    return ""
+
+
 def check(tree):
     documents = ["README.md"] if tree.exists("README.md") else []
     for document in documents + tree.files((".md",), ("docs",)):
-        folder = posixpath.dirname(document)
         for line, text in _prose(tree, document):
             for span in CODE_SPAN.findall(text):
                 for path in _tree_paths(tree, span):
                     if not _is_there(tree, path):
                         yield Finding(document, line, RULE, f"there is no {path}")
             for link in LINK.findall(text):
-                target = posixpath.normpath(posixpath.join(folder, link.split("#")[0]))
-                if not re.match(r"\w+:|#", link) and not tree.exists(target):
-                    yield Finding(document, line, RULE, f"there is no {target}")
+                missing = "" if re.match(r"\w+:", link) else _missing(tree, document, link)
+                if missing:
+                    yield Finding(document, line, RULE, f"there is no {missing}")

@@ -12,6 +12,7 @@ sys.dont_write_bytecode = True
 import banned  # noqa: E402
 import docs  # noqa: E402
 import headers  # noqa: E402
+import house  # noqa: E402
 import layers  # noqa: E402
 import lengths  # noqa: E402
 import listed  # noqa: E402
@@ -20,7 +21,7 @@ import preferences  # noqa: E402
 import programs  # noqa: E402
 from tree import Tree  # noqa: E402
 
-CHECKS = (layers, banned, listed, lengths, literals, docs, headers, preferences, programs)
+CHECKS = (layers, banned, listed, lengths, literals, docs, house, headers, preferences, programs)
 
 
 def findings(root):
