@@ -16,7 +16,7 @@ ROWS = (
     ("base",),
     ("platform", "surfaces/kit"),
     ("platform/bus", "tracking", "surfaces/panel"),
-    ("sensing", "review/stats", "review/narrative", "ceremony/show"),
+    ("sensing", "review/stats", "review/narrative", "ceremony/show", "surfaces/skills"),
     ("app", "surfaces/window"),
     ("review",),
     ("surfaces/*", "ceremony"),

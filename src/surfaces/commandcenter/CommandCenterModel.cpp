@@ -52,7 +52,7 @@ void CommandCenterModel::follow() {
         if (m_env.panel.pulsePrimaryOnce()) Q_EMIT primaryPulseWanted();
     });
     const auto relayout = [this] { m_actions.relayout(); };
-    connect(&m_editor, &ModeEditor::shownChanged, this, relayout);
+    connect(&m_editor, &SkillEditor::shownChanged, this, relayout);
 }
 
 void CommandCenterModel::setShown(bool shown) {

@@ -5,8 +5,8 @@
 #include "base/Scheduler.h"
 #include "surfaces/commandcenter/CommandCenterActions.h"
 #include "surfaces/commandcenter/CommandCenterText.h"
-#include "surfaces/commandcenter/ModeEditor.h"
-#include "surfaces/commandcenter/ModeListModel.h"
+#include "surfaces/skills/SkillEditor.h"
+#include "surfaces/skills/SkillListModel.h"
 
 #include <QColor>
 #include <QObject>
@@ -43,8 +43,8 @@ class CommandCenterModel final : public QObject {
     Q_PROPERTY(QString note READ note NOTIFY noteChanged)
     /// What the cards ask; the answers are asked for by its place.
     Q_PROPERTY(QStringList questions READ questions NOTIFY questionsChanged)
-    Q_PROPERTY(vantle::ModeListModel* modes READ modes CONSTANT)
-    Q_PROPERTY(vantle::ModeEditor* editor READ editor CONSTANT)
+    Q_PROPERTY(vantle::SkillListModel* modes READ modes CONSTANT)
+    Q_PROPERTY(vantle::SkillEditor* editor READ editor CONSTANT)
 
     /// The windows that the panel leads to, as their rows call them; asked for by their place.
     Q_PROPERTY(QStringList doors READ doors CONSTANT)
@@ -85,8 +85,8 @@ public:
     [[nodiscard]] QString note() const;
     [[nodiscard]] QStringList questions() const;
     [[nodiscard]] QStringList doors() const;
-    [[nodiscard]] ModeListModel* modes() { return &m_modes; }
-    [[nodiscard]] ModeEditor* editor() { return &m_editor; }
+    [[nodiscard]] SkillListModel* modes() { return &m_modes; }
+    [[nodiscard]] SkillEditor* editor() { return &m_editor; }
 
     // What the controls do.
     Q_INVOKABLE void pressPrimary() { m_actions.toggleVantle(); }
@@ -127,8 +127,8 @@ private:
     Environment m_env;
     CommandCenterActions m_actions;
     commandcentertext::Status m_status;
-    ModeListModel m_modes;
-    ModeEditor m_editor;
+    SkillListModel m_modes;
+    SkillEditor m_editor;
     TimerHandle m_clock; ///< there exactly while a running session is looked at
     bool m_shown = false;
 };

@@ -1,13 +1,13 @@
 // The modes to choose from, and the way to another one.
 pragma ComponentBehavior: Bound
 import QtQuick
-import Vantle.CommandCenter
 import Vantle.Kit
+import Vantle.Skills
 
 Item {
     id: chips
 
-    required property ModeListModel modes
+    required property SkillListModel modes
     required property bool adding // the editor is open for a new mode
     signal chosen(string id)
     signal editWanted(string id)

@@ -1,13 +1,13 @@
 // The card in which a mode gets its name and its colour.
 pragma ComponentBehavior: Bound
 import QtQuick
-import Vantle.CommandCenter
 import Vantle.Kit
+import Vantle.Skills
 
 Plate {
     id: card
 
-    required property ModeEditor editor
+    required property SkillEditor editor
     readonly property int inner: width - 2 * DarkUI.space14
 
     implicitHeight: column.implicitHeight + 2 * DarkUI.space14

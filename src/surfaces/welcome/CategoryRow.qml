@@ -1,15 +1,15 @@
 // A mode's name and colour, for a new one or one that is renamed.
 pragma ComponentBehavior: Bound
 import QtQuick
-import Vantle.CommandCenter
 import Vantle.Kit
+import Vantle.Skills
 import Vantle.Welcome
 
 FocusScope {
     id: row
 
     required property WelcomeView model
-    readonly property ModeEditor editor: model.category
+    readonly property SkillEditor editor: model.category
 
     implicitHeight: column.implicitHeight
     Accessible.role: Accessible.Grouping

@@ -55,7 +55,7 @@ WelcomeView::WelcomeView(Environment environment)
     connect(&m_env.model, &AppModel::skillsChanged, this, &WelcomeView::refreshModes);
     connect(&m_env.model.hotKey(), &HotKey::registrationErrorChanged, this,
             &WelcomeView::shortcutProblemChanged);
-    connect(&m_category, &ModeEditor::nameChanged, this, &WelcomeView::categoryChanged);
+    connect(&m_category, &SkillEditor::nameChanged, this, &WelcomeView::categoryChanged);
     refreshModes();
 }
 

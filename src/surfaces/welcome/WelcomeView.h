@@ -2,8 +2,8 @@
 #pragma once
 
 #include "base/Scheduler.h"
-#include "surfaces/commandcenter/ModeEditor.h"
-#include "surfaces/commandcenter/ModeListModel.h"
+#include "surfaces/skills/SkillEditor.h"
+#include "surfaces/skills/SkillListModel.h"
 #include "surfaces/welcome/WelcomeSamples.h"
 #include "surfaces/welcome/WelcomeText.h"
 #include "tracking/TrackerCore.h"
@@ -45,9 +45,9 @@ class WelcomeView final : public QObject {
     Q_PROPERTY(QString asideText READ asideText NOTIFY wordsChanged FINAL)
     Q_PROPERTY(QString productName MEMBER m_productName NOTIFY productNameChanged FINAL)
 
-    Q_PROPERTY(vantle::ModeListModel* modes READ modes CONSTANT FINAL)
+    Q_PROPERTY(vantle::SkillListModel* modes READ modes CONSTANT FINAL)
     /// The row that adds a mode or renames one.
-    Q_PROPERTY(vantle::ModeEditor* category READ category CONSTANT FINAL)
+    Q_PROPERTY(vantle::SkillEditor* category READ category CONSTANT FINAL)
     /// The name in that row is long enough.
     Q_PROPERTY(bool canCommitCategory READ canCommitCategory NOTIFY categoryChanged FINAL)
     Q_PROPERTY(bool canAddCategory READ canAddCategory NOTIFY modesChanged FINAL)
@@ -109,8 +109,8 @@ public:
     [[nodiscard]] QString quietText() const { return welcometext::quiet(m_step); }
     [[nodiscard]] QString asideText() const;
 
-    [[nodiscard]] ModeListModel* modes() { return &m_modes; }
-    [[nodiscard]] ModeEditor* category() { return &m_category; }
+    [[nodiscard]] SkillListModel* modes() { return &m_modes; }
+    [[nodiscard]] SkillEditor* category() { return &m_category; }
     [[nodiscard]] bool canCommitCategory() const;
     [[nodiscard]] bool canAddCategory() const;
     [[nodiscard]] const QString& modesNote() const { return m_modesNote; }
@@ -153,8 +153,8 @@ private:
     int m_step = welcometext::Pick;
     bool m_finished = false;
     QString m_productName;
-    ModeListModel m_modes;
-    ModeEditor m_category;
+    SkillListModel m_modes;
+    SkillEditor m_category;
     QString m_modesNote;
     bool m_sessionOpen = false; ///< as the view last saw it
     bool m_practiceRunning = false;

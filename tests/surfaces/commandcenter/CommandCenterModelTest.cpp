@@ -17,10 +17,10 @@ TEST_F(CommandCenterModelTest, AtRestItOffersTheChosenMode) {
 }
 
 TEST_F(CommandCenterModelTest, ChoosingAModeNamesItOnTheButton) {
-    content->selectMode(mode(1, ModeListModel::SkillId).toString());
+    content->selectMode(mode(1, SkillListModel::SkillId).toString());
     EXPECT_EQ(content->primaryText(), QStringLiteral("Enter Design Mode"));
-    EXPECT_FALSE(mode(0, ModeListModel::Selected).toBool());
-    EXPECT_TRUE(mode(1, ModeListModel::Selected).toBool());
+    EXPECT_FALSE(mode(0, SkillListModel::Selected).toBool());
+    EXPECT_TRUE(mode(1, SkillListModel::Selected).toBool());
 }
 
 TEST_F(CommandCenterModelTest, TheRunningTimeGoesOnWhileItIsLookedAt) {
@@ -61,19 +61,19 @@ TEST_F(CommandCenterModelTest, AModeIsAddedByTheEditor) {
     content->editor()->setName(QStringLiteral("Research"));
     content->editor()->commit();
     EXPECT_EQ(content->modes()->rowCount(), 7);
-    EXPECT_EQ(mode(6, ModeListModel::Name), QStringLiteral("Research"));
+    EXPECT_EQ(mode(6, SkillListModel::Name), QStringLiteral("Research"));
     EXPECT_EQ(content->note(), QStringLiteral("Added Research"));
     EXPECT_FALSE(content->editor()->isShown());
     EXPECT_EQ(calls.count(QStringLiteral("relayout")), 2);
 }
 
 TEST_F(CommandCenterModelTest, AModeIsRenamedAndRecolouredByTheEditor) {
-    content->editMode(mode(1, ModeListModel::SkillId).toString());
+    content->editMode(mode(1, SkillListModel::SkillId).toString());
     content->editor()->setName(QStringLiteral("Drawing"));
     content->editor()->chooseColor(3);
     content->editor()->commit();
-    EXPECT_EQ(mode(1, ModeListModel::Name), QStringLiteral("Drawing"));
-    EXPECT_EQ(mode(1, ModeListModel::HexRGB).toUInt(), Skill::palette[3]);
+    EXPECT_EQ(mode(1, SkillListModel::Name), QStringLiteral("Drawing"));
+    EXPECT_EQ(mode(1, SkillListModel::HexRGB).toUInt(), Skill::palette[3]);
 }
 
 TEST_F(CommandCenterModelTest, AnUnknownModeIsNotEdited) {
@@ -83,14 +83,14 @@ TEST_F(CommandCenterModelTest, AnUnknownModeIsNotEdited) {
 
 TEST_F(CommandCenterModelTest, TheLastModeCanNotBeDeleted) {
     while (content->modes()->rowCount() > 1) {
-        EXPECT_TRUE(mode(0, ModeListModel::Deletable).toBool());
-        content->deleteMode(mode(0, ModeListModel::SkillId).toString());
+        EXPECT_TRUE(mode(0, SkillListModel::Deletable).toBool());
+        content->deleteMode(mode(0, SkillListModel::SkillId).toString());
     }
-    EXPECT_FALSE(mode(0, ModeListModel::Deletable).toBool());
+    EXPECT_FALSE(mode(0, SkillListModel::Deletable).toBool());
 }
 
 TEST_F(CommandCenterModelTest, DeletingTheModeThatIsEditedClosesTheEditor) {
-    const QString id = mode(1, ModeListModel::SkillId).toString();
+    const QString id = mode(1, SkillListModel::SkillId).toString();
     content->editMode(id);
     content->deleteMode(id);
     EXPECT_FALSE(content->editor()->isShown());

@@ -21,7 +21,7 @@ protected:
         m_shown->settle();
     }
     [[nodiscard]] QString nameOf(int row) const {
-        return mode(row, ModeListModel::Name).toString();
+        return mode(row, SkillListModel::Name).toString();
     }
     [[nodiscard]] QStringList names() const {
         QStringList all;
@@ -36,7 +36,7 @@ protected:
 TEST_F(CommandCenterViewTest, ChipThatIsClickedIsTheModeOfTheButton) {
     show();
     click(nameOf(1));
-    EXPECT_TRUE(mode(1, ModeListModel::Selected).toBool());
+    EXPECT_TRUE(mode(1, SkillListModel::Selected).toBool());
     EXPECT_TRUE(m_shown->shows(content->primaryText()));
     EXPECT_EQ(content->primaryText(), text("Enter Design Mode"));
 }
@@ -55,7 +55,7 @@ TEST_F(CommandCenterViewTest, DeleteOnAFocusedChipDeletesNothing) {
     show();
     const QStringList before = names();
     const int last = static_cast<int>(before.size()) - 1;
-    ASSERT_TRUE(mode(last, ModeListModel::Deletable).toBool());
+    ASSERT_TRUE(mode(last, SkillListModel::Deletable).toBool());
     for (int stops = 0; stops < 6 && m_shown->keyboardOwner() != m_shown->control(nameOf(0));
          ++stops)
         m_shown->press(Qt::Key_Tab);

@@ -14,7 +14,8 @@ protected:
     [[nodiscard]] QStringList modeNames() {
         QStringList names;
         for (int row = 0; row < view->modes()->rowCount(); ++row)
-            names << view->modes()->data(view->modes()->index(row), ModeListModel::Name).toString();
+            names
+                << view->modes()->data(view->modes()->index(row), SkillListModel::Name).toString();
         return names;
     }
     void nameProduct(const char* name) { view->setProperty("productName", text(name)); }
@@ -223,8 +224,8 @@ TEST_F(WelcomeViewTest, LastModeHasToStayAndMoreThanEightAreNotOffered) {
     EXPECT_FALSE(view->canAddCategory());
     while (view->modes()->rowCount() > 1)
         view->removeCategory(
-            view->modes()->data(view->modes()->index(0), ModeListModel::SkillId).toString());
-    EXPECT_FALSE(view->modes()->data(view->modes()->index(0), ModeListModel::Deletable).toBool());
+            view->modes()->data(view->modes()->index(0), SkillListModel::SkillId).toString());
+    EXPECT_FALSE(view->modes()->data(view->modes()->index(0), SkillListModel::Deletable).toBool());
 }
 
 TEST_F(WelcomeViewTest, RowIsGoneWithTheStep) {

@@ -11,10 +11,10 @@
 namespace vantle {
 
 /// One row a skill, in the stored order. Main thread.
-class ModeListModel : public QAbstractListModel {
+class SkillListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("Made by the command center.")
+    QML_UNCREATABLE("Made by the models of the surfaces.")
 
 public:
     enum Role { SkillId = Qt::UserRole, Name, HexRGB, Selected, Deletable };

@@ -16,10 +16,10 @@
 namespace vantle {
 
 /// Holds what the person has typed and chosen, also while the panel is hidden. Main thread.
-class ModeEditor final : public QObject {
+class SkillEditor final : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("Made by the command center.")
+    QML_UNCREATABLE("Made by the models of the surfaces.")
     Q_PROPERTY(bool shown READ isShown NOTIFY shownChanged)
     Q_PROPERTY(bool adding READ isAdding NOTIFY shownChanged)
     Q_PROPERTY(QString title READ title NOTIFY shownChanged)
@@ -46,7 +46,7 @@ public:
     using Commit =
         std::function<void(const std::optional<QString>& id, const QString& name, std::uint32_t)>;
 
-    explicit ModeEditor(Commit commit) : m_commit(std::move(commit)) {}
+    explicit SkillEditor(Commit commit) : m_commit(std::move(commit)) {}
 
     /// Opens with what the skill has.
     void openFor(const Skill& skill);

@@ -1,4 +1,4 @@
-#include "surfaces/commandcenter/ModeEditor.h"
+#include "surfaces/skills/SkillEditor.h"
 
 #include "base/Text.h"
 
@@ -6,9 +6,9 @@
 
 namespace vantle {
 
-void ModeEditor::openFor(const Skill& skill) { open(skill.id, skill.name, skill.hexRGB); }
+void SkillEditor::openFor(const Skill& skill) { open(skill.id, skill.name, skill.hexRGB); }
 
-void ModeEditor::openNew(const std::vector<Skill>& skills) {
+void SkillEditor::openNew(const std::vector<Skill>& skills) {
     const auto isFree = [&](std::uint32_t hexRGB) {
         return std::ranges::none_of(skills, [&](const Skill& s) { return s.hexRGB == hexRGB; });
     };
@@ -16,7 +16,7 @@ void ModeEditor::openNew(const std::vector<Skill>& skills) {
     open(std::nullopt, {}, free == Skill::palette.end() ? Skill::palette.front() : *free);
 }
 
-void ModeEditor::open(std::optional<QString> id, const QString& name, std::uint32_t hexRGB) {
+void SkillEditor::open(std::optional<QString> id, const QString& name, std::uint32_t hexRGB) {
     m_editingSkillId = std::move(id);
     m_name = name;
     m_hexRGB = hexRGB;
@@ -27,13 +27,13 @@ void ModeEditor::open(std::optional<QString> id, const QString& name, std::uint3
     Q_EMIT opened();
 }
 
-void ModeEditor::commit() {
+void SkillEditor::commit() {
     if (!canCommit()) return;
     m_commit(m_editingSkillId, text::trimmed(m_name), m_hexRGB);
     close();
 }
 
-void ModeEditor::close() {
+void SkillEditor::close() {
     m_shown = false;
     m_editingSkillId.reset();
     m_name.clear();
@@ -41,33 +41,33 @@ void ModeEditor::close() {
     Q_EMIT shownChanged();
 }
 
-void ModeEditor::chooseColor(int index) {
+void SkillEditor::chooseColor(int index) {
     if (index < 0 || index >= static_cast<int>(Skill::palette.size())) return;
     m_hexRGB = Skill::palette.at(static_cast<std::size_t>(index));
     Q_EMIT colorChanged();
 }
 
-QString ModeEditor::title() const {
+QString SkillEditor::title() const {
     return isAdding() ? QStringLiteral("Name your mode") : QStringLiteral("Rename mode");
 }
 
-QString ModeEditor::help() {
+QString SkillEditor::help() {
     return QStringLiteral("Choose a short name you will recognize at a glance.");
 }
 
-QString ModeEditor::fieldLabel() { return QStringLiteral("Mode name"); }
-QString ModeEditor::placeholder() { return QStringLiteral("e.g. Writing"); }
-QString ModeEditor::cancelText() { return QStringLiteral("Cancel"); }
+QString SkillEditor::fieldLabel() { return QStringLiteral("Mode name"); }
+QString SkillEditor::placeholder() { return QStringLiteral("e.g. Writing"); }
+QString SkillEditor::cancelText() { return QStringLiteral("Cancel"); }
 
-QString ModeEditor::fieldName() const {
+QString SkillEditor::fieldName() const {
     return isAdding() ? QStringLiteral("New mode name") : fieldLabel();
 }
 
-QString ModeEditor::confirmText() const {
+QString SkillEditor::confirmText() const {
     return isAdding() ? QStringLiteral("Add mode") : QStringLiteral("Save");
 }
 
-void ModeEditor::setName(const QString& name) {
+void SkillEditor::setName(const QString& name) {
     const QString cut = text::hasAtMost(name, Skill::maxNameLength)
                             ? name
                             : text::firstCharacters(name, Skill::maxNameLength);
@@ -76,24 +76,24 @@ void ModeEditor::setName(const QString& name) {
     Q_EMIT nameChanged();
 }
 
-QString ModeEditor::counter() const {
+QString SkillEditor::counter() const {
     return QStringLiteral("%1/%2").arg(text::characterCount(m_name)).arg(Skill::maxNameLength);
 }
 
-bool ModeEditor::canCommit() const { return !text::trimmed(m_name).isEmpty(); }
+bool SkillEditor::canCommit() const { return !text::trimmed(m_name).isEmpty(); }
 
-QList<QColor> ModeEditor::palette() {
+QList<QColor> SkillEditor::palette() {
     QList<QColor> colors;
     for (const std::uint32_t hexRGB : Skill::palette)
         colors.append(QColor::fromRgb(hexRGB));
     return colors;
 }
 
-QStringList ModeEditor::colorNames() {
+QStringList SkillEditor::colorNames() {
     return {Skill::paletteNames.begin(), Skill::paletteNames.end()};
 }
 
-int ModeEditor::colorIndex() const {
+int SkillEditor::colorIndex() const {
     const auto* const found = std::ranges::find(Skill::palette, m_hexRGB);
     return found == Skill::palette.end() ? -1 : static_cast<int>(found - Skill::palette.begin());
 }

@@ -1,4 +1,4 @@
-#include "surfaces/commandcenter/ModeEditor.h"
+#include "surfaces/skills/SkillEditor.h"
 
 #include "support/QtPrinters.h"
 
@@ -7,7 +7,7 @@
 namespace vantle {
 namespace {
 
-class ModeEditorTest : public testing::Test {
+class SkillEditorTest : public testing::Test {
 protected:
     struct Done {
         std::optional<QString> id;
@@ -16,13 +16,13 @@ protected:
     };
     std::vector<Skill> skills{Skill::defaults().begin(), Skill::defaults().end()};
     std::vector<Done> done;
-    ModeEditor editor{
+    SkillEditor editor{
         [this](const std::optional<QString>& id, const QString& name, std::uint32_t hexRGB) {
             done.push_back({id, name, hexRGB});
         }};
 };
 
-TEST_F(ModeEditorTest, ANewModeStartsEmptyInAColourThatIsFree) {
+TEST_F(SkillEditorTest, ANewModeStartsEmptyInAColourThatIsFree) {
     editor.openNew(skills);
     EXPECT_TRUE(editor.isShown());
     EXPECT_EQ(editor.title(), QStringLiteral("Name your mode"));
@@ -33,7 +33,7 @@ TEST_F(ModeEditorTest, ANewModeStartsEmptyInAColourThatIsFree) {
     EXPECT_EQ(editor.counter(), QStringLiteral("0/20"));
 }
 
-TEST_F(ModeEditorTest, WhereNoColourIsFreeItIsTheFirst) {
+TEST_F(SkillEditorTest, WhereNoColourIsFreeItIsTheFirst) {
     skills.clear();
     for (const std::uint32_t hexRGB : Skill::palette)
         skills.push_back({.id = QString::number(hexRGB), .name = {}, .hexRGB = hexRGB});
@@ -41,7 +41,7 @@ TEST_F(ModeEditorTest, WhereNoColourIsFreeItIsTheFirst) {
     EXPECT_EQ(editor.colorIndex(), 0);
 }
 
-TEST_F(ModeEditorTest, AModeIsEditedFromWhatItHas) {
+TEST_F(SkillEditorTest, AModeIsEditedFromWhatItHas) {
     editor.openFor(skills[1]);
     EXPECT_EQ(editor.title(), QStringLiteral("Rename mode"));
     EXPECT_EQ(editor.confirmText(), QStringLiteral("Save"));
@@ -58,7 +58,7 @@ TEST_F(ModeEditorTest, AModeIsEditedFromWhatItHas) {
     EXPECT_FALSE(editor.isShown());
 }
 
-TEST_F(ModeEditorTest, AColourOutsideThePaletteIsNoneOfIt) {
+TEST_F(SkillEditorTest, AColourOutsideThePaletteIsNoneOfIt) {
     editor.openFor({.id = QStringLiteral("x"), .name = QStringLiteral("X"), .hexRGB = 0x123456});
     EXPECT_EQ(editor.colorIndex(), -1);
     editor.chooseColor(10);
@@ -66,7 +66,7 @@ TEST_F(ModeEditorTest, AColourOutsideThePaletteIsNoneOfIt) {
     EXPECT_EQ(editor.color(), QColor::fromRgb(0x123456));
 }
 
-TEST_F(ModeEditorTest, AnEmptyNameCanNotBeCommitted) {
+TEST_F(SkillEditorTest, AnEmptyNameCanNotBeCommitted) {
     editor.openNew(skills);
     for (const char* name : {"", "   "}) {
         editor.setName(QString::fromLatin1(name));
@@ -77,7 +77,7 @@ TEST_F(ModeEditorTest, AnEmptyNameCanNotBeCommitted) {
     EXPECT_TRUE(done.empty());
 }
 
-TEST_F(ModeEditorTest, TwentyCharactersAsPeopleCountThemFit) {
+TEST_F(SkillEditorTest, TwentyCharactersAsPeopleCountThemFit) {
     editor.openNew(skills);
     const QString family = QStringLiteral("👩‍👩‍👧");
     editor.setName(family.repeated(21));
@@ -85,7 +85,7 @@ TEST_F(ModeEditorTest, TwentyCharactersAsPeopleCountThemFit) {
     EXPECT_EQ(editor.counter(), QStringLiteral("20/20"));
 }
 
-TEST_F(ModeEditorTest, TurningAwayLeavesNothing) {
+TEST_F(SkillEditorTest, TurningAwayLeavesNothing) {
     editor.openFor(skills[1]);
     editor.close();
     EXPECT_FALSE(editor.isShown());

@@ -1,14 +1,14 @@
-#include "surfaces/commandcenter/ModeListModel.h"
+#include "surfaces/skills/SkillListModel.h"
 
 #include <algorithm>
 
 namespace vantle {
 
-int ModeListModel::rowCount(const QModelIndex& parent) const {
+int SkillListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(m_skills.size());
 }
 
-QVariant ModeListModel::data(const QModelIndex& index, int role) const {
+QVariant SkillListModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
     const Skill& skill = m_skills.at(static_cast<std::size_t>(index.row()));
     switch (role) {
@@ -27,7 +27,7 @@ QVariant ModeListModel::data(const QModelIndex& index, int role) const {
     }
 }
 
-QHash<int, QByteArray> ModeListModel::roleNames() const {
+QHash<int, QByteArray> SkillListModel::roleNames() const {
     return {{SkillId, "skillId"},
             {Name, "name"},
             {HexRGB, "hexRGB"},
@@ -35,7 +35,7 @@ QHash<int, QByteArray> ModeListModel::roleNames() const {
             {Deletable, "deletable"}};
 }
 
-void ModeListModel::show(const std::vector<Skill>& skills, const QString& selectedId) {
+void SkillListModel::show(const std::vector<Skill>& skills, const QString& selectedId) {
     m_selectedId = selectedId;
     const auto sameId = [](const Skill& a, const Skill& b) { return a.id == b.id; };
     if (!std::ranges::equal(skills, m_skills, sameId)) {
