@@ -60,19 +60,18 @@ FocusScope {
     }
 
     Repeater {
-        model: overlay.capsule.editor ? [overlay.capsule.editor] : []
+        model: overlay.capsule.editor.shown ? 1 : 0
         onItemAdded: (index, item) => overlay.present(item)
         onItemRemoved: overlay.shown = null
 
         SkillPopoverView {
-            required property SkillPopoverEditor modelData
             readonly property real middle: overlay.anchor.x + overlay.anchor.width / 2
 
             x: overlay.clamped(middle - width / 2, width)
             y: overlay.anchor.y + overlay.anchor.height + CapsuleTokens.popoverGap + arrowHeight
             arrowX: middle - x
             composited: overlay.composited
-            editor: modelData
+            editor: overlay.capsule.editor
         }
     }
 }

@@ -35,14 +35,25 @@ capsule::Content contentOf(const NotchCapsule::Form& form, const SkillChipLayout
 NotchCapsule::NotchCapsule(const Environment& environment, Form form, const ScreenShape& screen)
     : m_env(environment)
     , m_form(std::move(form))
-    , m_chips(SkillChipLayout::compute(
-                  m_form.skills, capsule::kMaxChipRowWidth, false,
-                  [this](const QString& name) { return m_env.text.chipNameWidth(name); }),
-              m_form.skill.id)
-    , m_content(contentOf(m_form, m_chips.layout()))
+    , m_layout(SkillChipLayout::compute(
+          m_form.skills, capsule::kMaxChipRowWidth, false,
+          [this](const QString& name) { return m_env.text.chipNameWidth(name); }))
+    , m_content(contentOf(m_form, m_layout))
     , m_metrics(NotchMetrics::of(screen, m_content.extraHeight()))
+    , m_editor([this](const std::optional<QString>& id, const QString& name, std::uint32_t hexRGB) {
+        commitEdit(id, name, hexRGB);
+    })
     , m_opening({environment.scheduler, [this] { return pointerInHoverRegion(); },
                  [this] { openedOrClosed(); }}) {
+    m_chips.show(m_form.skills, m_form.skill.id);
+    connect(&m_editor, &SkillEditor::opened, this, [this] {
+        m_opening.pushCollapseSuspend();
+        if (m_stage != nullptr) m_stage->takeKeyboard();
+    });
+    connect(&m_editor, &SkillEditor::closed, this, [this] {
+        if (m_stage != nullptr) m_stage->returnKeyboard();
+        m_opening.popCollapseSuspend();
+    });
     if (m_form.idlePrompt) {
         m_clock = CapsuleText::startPrompt();
     } else if (m_form.tracker) {
@@ -92,7 +103,7 @@ QRegion NotchCapsule::opaqueRegion() const {
 
 void NotchCapsule::retag(const Skill& skill, bool flash) {
     m_form.skill = skill;
-    m_chips.highlight(skill.id);
+    m_chips.show(m_form.skills, skill.id);
     Q_EMIT labelChanged();
     if (isExpanded()) recomputeWidth();
     if (flash) m_opening.beginSessionFlash(kRetagHold);
@@ -112,11 +123,11 @@ void NotchCapsule::animateOut(std::function<void()> completion) {
 }
 
 void NotchCapsule::retire() {
+    m_editor.close();
     m_opening.cancel();
     m_tickTimer.reset();
     if (m_form.tracker) m_form.tracker->disconnect(this);
-    if (!m_editor && m_menuSkillId.isEmpty()) return;
-    const auto closing = std::move(m_editor); // outlives the view that shows it
+    if (m_menuSkillId.isEmpty()) return;
     m_menuSkillId.clear();
     Q_EMIT overlayChanged();
     if (m_stage != nullptr) m_stage->returnKeyboard();
@@ -190,12 +201,12 @@ bool NotchCapsule::pointerInHoverRegion() const {
 }
 
 QString NotchCapsule::menuSkillName() const {
-    const auto skill = m_chips.skill(m_menuSkillId);
-    return skill ? skill->name : QString();
+    const Skill* const skill = find(m_menuSkillId);
+    return skill != nullptr ? skill->name : QString();
 }
 
 void NotchCapsule::openMenu(const QString& skillId) {
-    if (!chipMayEdit() || m_leaving || !m_chips.skill(skillId)) return;
+    if (!chipMayEdit() || m_leaving || find(skillId) == nullptr) return;
     dismissOverlay();
     m_opening.pushCollapseSuspend();
     m_menuSkillId = skillId;
@@ -204,17 +215,9 @@ void NotchCapsule::openMenu(const QString& skillId) {
     if (m_stage != nullptr) m_stage->takeKeyboard();
 }
 
-void NotchCapsule::chipRequestsRename() {
-    const auto skill = m_chips.skill(m_menuSkillId);
-    closeMenu();
-    if (skill) presentEditor(SkillPopoverEditor::Mode::Rename, skill);
-}
+void NotchCapsule::chipRequestsRename() { presentEditor(SkillEditor::Fields::Name); }
 
-void NotchCapsule::chipRequestsRecolor() {
-    const auto skill = m_chips.skill(m_menuSkillId);
-    closeMenu();
-    if (skill) presentEditor(SkillPopoverEditor::Mode::Recolor, skill);
-}
+void NotchCapsule::chipRequestsRecolor() { presentEditor(SkillEditor::Fields::Color); }
 
 void NotchCapsule::chipRequestsDelete() {
     const QString id = m_menuSkillId;
@@ -225,12 +228,14 @@ void NotchCapsule::chipRequestsDelete() {
 }
 
 void NotchCapsule::chipRequestsAdd() {
-    if (chipMayEdit() && !m_leaving) presentEditor(SkillPopoverEditor::Mode::Add, std::nullopt);
+    if (!chipMayEdit() || m_leaving) return;
+    makeWay(addRowRect());
+    m_editor.openNew();
 }
 
 void NotchCapsule::dismissOverlay() {
     closeMenu();
-    closeEditor();
+    m_editor.close();
 }
 
 void NotchCapsule::setOverlayRect(const QRectF& rect) {
@@ -240,14 +245,17 @@ void NotchCapsule::setOverlayRect(const QRectF& rect) {
     follow();
 }
 
-void NotchCapsule::presentEditor(SkillPopoverEditor::Mode mode, const std::optional<Skill>& skill) {
+void NotchCapsule::presentEditor(SkillEditor::Fields fields) {
+    const Skill* const skill = find(m_menuSkillId);
+    if (skill == nullptr) return;
+    makeWay(chipRect(skill->id));
+    m_editor.openFor(*skill, fields);
+}
+
+void NotchCapsule::makeWay(const QRectF& anchor) {
     dismissOverlay();
-    m_opening.pushCollapseSuspend();
-    m_editor.reset(new SkillPopoverEditor(
-        mode, skill, [this](const SkillPopoverEditor::Result& result) { handle(result); }));
-    m_overlayAnchor = skill ? chipRect(skill->id) : addRowRect();
+    m_overlayAnchor = anchor;
     Q_EMIT overlayChanged();
-    if (m_stage != nullptr) m_stage->takeKeyboard();
 }
 
 void NotchCapsule::closeMenu() {
@@ -260,33 +268,36 @@ void NotchCapsule::closeMenu() {
     });
 }
 
-void NotchCapsule::closeEditor() {
-    if (!m_editor) return;
-    const auto closing = std::move(m_editor); // outlives the view that shows it
-    Q_EMIT overlayChanged();
-    if (m_stage != nullptr) m_stage->returnKeyboard();
-    m_opening.popCollapseSuspend();
+void NotchCapsule::commitEdit(const std::optional<QString>& id, const QString& name,
+                              std::uint32_t hexRGB) {
+    if (!m_form.edit) return;
+    // Another capsule may come of it, which must not happen inside the editor's own event.
+    m_env.scheduler.post([edit = *m_form.edit, id, name, hexRGB] {
+        if (id)
+            edit.onUpdate(*id, name, hexRGB);
+        else
+            edit.onAdd(name, hexRGB);
+    });
 }
 
-void NotchCapsule::handle(const SkillPopoverEditor::Result& result) {
-    closeEditor();
-    if (!m_form.edit) return;
-    using Kind = SkillPopoverEditor::Result::Kind;
-    // Another capsule may come of it, which must not happen inside the editor's own event.
-    if (result.kind == Kind::Save)
-        m_env.scheduler.post([update = m_form.edit->onUpdate, result] {
-            update(result.id, result.name, result.hexRGB);
-        });
-    if (result.kind == Kind::Add)
-        m_env.scheduler.post(
-            [add = m_form.edit->onAdd, result] { add(result.name, result.hexRGB); });
+const Skill* NotchCapsule::find(const QString& skillId) const {
+    const auto found = std::ranges::find(m_form.skills, skillId, &Skill::id);
+    return found == m_form.skills.end() ? nullptr : &*found;
+}
+
+QList<QRectF> NotchCapsule::chipFrames() const {
+    QList<QRectF> frames;
+    frames.reserve(static_cast<qsizetype>(m_layout.items.size()));
+    for (const auto& item : m_layout.items)
+        frames.append(item.frame);
+    return frames;
 }
 
 QRectF NotchCapsule::chipRect(const QString& skillId) const {
     const double left = m_openFrame.left() + capsule::kRowInset;
     const double top =
         m_openFrame.top() + m_metrics.notchHeight + capsule::kRowHeight + kChipsBelowRow;
-    for (const auto& item : m_chips.layout().items)
+    for (const auto& item : m_layout.items)
         if (item.skill && item.skill->id == skillId) return item.frame.translated(left, top);
     return {};
 }

@@ -6,8 +6,9 @@
 #include "surfaces/capsule/CapsuleOpening.h"
 #include "surfaces/capsule/CapsuleStage.h"
 #include "surfaces/capsule/CapsuleText.h"
-#include "surfaces/capsule/SkillChipModel.h"
-#include "surfaces/capsule/SkillPopoverEditor.h"
+#include "surfaces/capsule/SkillChipLayout.h"
+#include "surfaces/skills/SkillEditor.h"
+#include "surfaces/skills/SkillListModel.h"
 
 #include <QObject>
 #include <QPointer>
@@ -39,7 +40,9 @@ class NotchCapsule final : public QObject {
     Q_PROPERTY(bool showAddRow READ showAddRow CONSTANT)
     Q_PROPERTY(QSizeF chipsSize READ chipsSize CONSTANT)
     Q_PROPERTY(QString toolTip READ toolTip CONSTANT)
-    Q_PROPERTY(vantle::SkillChipModel* chips READ chips CONSTANT)
+    /// The skills; the session's is selected, or the one that a start would take.
+    Q_PROPERTY(vantle::SkillListModel* chips READ chips CONSTANT)
+    Q_PROPERTY(QList<QRectF> chipFrames READ chipFrames CONSTANT)
 
     Q_PROPERTY(bool expanded READ isExpanded NOTIFY expandedChanged)
     /// Where the capsule is or is moving to.
@@ -56,8 +59,7 @@ class NotchCapsule final : public QObject {
     /// The chip whose menu is open; empty when none is.
     Q_PROPERTY(QString menuSkillId READ menuSkillId NOTIFY overlayChanged)
     Q_PROPERTY(QString menuSkillName READ menuSkillName NOTIFY overlayChanged)
-    /// The open editor, or null.
-    Q_PROPERTY(vantle::SkillPopoverEditor* editor READ editor NOTIFY overlayChanged)
+    Q_PROPERTY(vantle::SkillEditor* editor READ editor CONSTANT)
     /// What menu or editor hang below: a chip, or the add row.
     Q_PROPERTY(QRectF overlayAnchor READ overlayAnchor NOTIFY overlayChanged)
     /// Where the view has put the menu or the editor; empty when none is open.
@@ -132,7 +134,8 @@ public:
     [[nodiscard]] bool showAddRow() const { return m_content.showAddRow; }
     [[nodiscard]] QSizeF chipsSize() const { return m_content.chips.value_or(QSizeF(0, 0)); }
     [[nodiscard]] QString toolTip() const;
-    [[nodiscard]] SkillChipModel* chips() { return &m_chips; }
+    [[nodiscard]] SkillListModel* chips() { return &m_chips; }
+    [[nodiscard]] QList<QRectF> chipFrames() const;
 
     [[nodiscard]] bool isExpanded() const { return m_opening.isExpanded(); }
     [[nodiscard]] QRectF frame() const { return isExpanded() ? m_openFrame : restingFrame(); }
@@ -149,7 +152,7 @@ public:
     [[nodiscard]] bool chipMayEdit() const { return m_form.edit.has_value(); }
     [[nodiscard]] const QString& menuSkillId() const { return m_menuSkillId; }
     [[nodiscard]] QString menuSkillName() const;
-    [[nodiscard]] SkillPopoverEditor* editor() const { return m_editor.get(); }
+    [[nodiscard]] SkillEditor* editor() { return &m_editor; }
     [[nodiscard]] QRectF overlayAnchor() const { return m_overlayAnchor; }
     [[nodiscard]] QRectF overlayRect() const { return m_overlayRect; }
 
@@ -169,27 +172,26 @@ Q_SIGNALS:
     void overlayRectChanged();
 
 private:
-    /// As QML wants objects gone that it may be in the middle of using.
-    struct DeleteLater {
-        void operator()(QObject* object) const { object->deleteLater(); }
-    };
-
     void openedOrClosed();
     void refreshLabel();
     void recomputeWidth();
     void follow();
     [[nodiscard]] bool pointerInHoverRegion() const;
 
-    void presentEditor(SkillPopoverEditor::Mode mode, const std::optional<Skill>& skill);
-    void closeEditor();
+    /// Opens the editor for the skill whose menu is open.
+    void presentEditor(SkillEditor::Fields fields);
+    /// To be called before the editor opens below `anchor`.
+    void makeWay(const QRectF& anchor);
     void closeMenu();
-    void handle(const SkillPopoverEditor::Result& result);
+    void commitEdit(const std::optional<QString>& id, const QString& name, std::uint32_t hexRGB);
+    [[nodiscard]] const Skill* find(const QString& skillId) const;
     [[nodiscard]] QRectF chipRect(const QString& skillId) const;
     [[nodiscard]] QRectF addRowRect() const;
 
     Environment m_env;
     Form m_form;
-    SkillChipModel m_chips;
+    SkillChipLayout m_layout;
+    SkillListModel m_chips;
     capsule::Content m_content;
     NotchMetrics m_metrics;
     QRectF m_openFrame;
@@ -199,7 +201,7 @@ private:
     CapsuleStage* m_stage = nullptr;
 
     QString m_menuSkillId;
-    std::unique_ptr<SkillPopoverEditor, DeleteLater> m_editor;
+    SkillEditor m_editor;
     QRectF m_overlayAnchor;
     QRectF m_overlayRect;
 

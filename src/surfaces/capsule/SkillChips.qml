@@ -16,19 +16,20 @@ Item {
             id: chip
 
             required property string skillId
-            required property string skillName
+            required property int index
+            required property string name
             required property int hexRGB
-            required property rect frame
-            required property bool highlighted
+            required property bool selected
+            readonly property rect frame: chips.capsule.chipFrames[index]
 
             x: frame.x
             y: frame.y
             width: frame.width
             height: frame.height
-            text: skillName
+            text: name
             role: DarkUI.capsuleChip
             dotColor: Tint.fromHex(hexRGB)
-            selectedTint: highlighted ? Tint.fromHex(hexRGB) : DarkUI.clear
+            selectedTint: selected ? dotColor : DarkUI.clear
             playOnHover: chips.capsule.idlePrompt
             choosable: !playOnHover
             onClicked: chips.capsule.pickSkill(skillId)

@@ -1,16 +1,19 @@
 // The editor of one skill: its name, its colour, or both for a new one.
 pragma ComponentBehavior: Bound
 import QtQuick
-import Vantle.Capsule
 import Vantle.Kit
+import Vantle.Skills
 
 DarkPopover {
     id: popover
 
-    required property SkillPopoverEditor editor
+    required property SkillEditor editor
 
     // Recolouring alone is set tighter.
     readonly property bool tight: !editor.hasName
+    readonly property real heightOfName: 158
+    readonly property real heightOfColor: 112
+    readonly property real heightOfBoth: 204
     readonly property real titleTop: tight ? 10 : DarkUI.space12
     readonly property real subtitleTop: 30
     readonly property real nameTop: 54
@@ -25,9 +28,9 @@ DarkPopover {
     }
 
     width: DarkUI.popoverWidth
-    height: editor.height
-    name: editor.title
-    onDismissed: editor.cancel()
+    height: tight ? heightOfColor : editor.hasColors ? heightOfBoth : heightOfName
+    name: title.text
+    onDismissed: editor.close()
     Keys.onReturnPressed: editor.commit()
     Keys.onEnterPressed: editor.commit()
 
@@ -40,9 +43,11 @@ DarkPopover {
     }
 
     DarkText {
+        id: title
         x: DarkUI.space16
         y: popover.titleTop
-        text: popover.editor.title
+        text: popover.editor.adding ? qsTr("Create a skill")
+              : popover.tight ? qsTr("Choose a color") : qsTr("Rename skill")
         role: DarkUI.bodyStrong
         Accessible.role: Accessible.Heading
     }
@@ -50,7 +55,9 @@ DarkPopover {
     DarkText {
         x: DarkUI.space16
         y: popover.subtitleTop
-        text: popover.editor.subtitle
+        visible: popover.editor.hasName
+        text: popover.editor.adding ? qsTr("What do you want to build time toward?")
+                                    : qsTr("Use a short name you will recognize at a glance.")
         role: DarkUI.small
         color: DarkUI.textSecondary
     }
@@ -63,8 +70,7 @@ DarkPopover {
         role: popover.kickerRole
     }
 
-    DarkTextField {
-        id: field
+    SkillNameField {
         x: DarkUI.space16
         y: popover.nameTop + popover.belowKicker
         width: parent.width - 2 * DarkUI.space16
@@ -72,11 +78,8 @@ DarkPopover {
         focus: popover.editor.hasName
         height: DarkUI.popoverFieldHeight
         padding: DarkUI.space10
-        limit: popover.editor.maxNameLength
         name: qsTr("Skill name")
-        placeholder: qsTr("e.g. Writing")
-        text: popover.editor.name
-        onTextChanged: popover.editor.edit(text)
+        editor: popover.editor
         onAccepted: popover.editor.commit()
         Component.onCompleted: selectAll()
     }
@@ -89,16 +92,13 @@ DarkPopover {
         role: popover.kickerRole
     }
 
-    SwatchRow {
+    SkillSwatches {
         x: DarkUI.space16
         y: popover.colorTop + popover.belowKicker
         width: parent.width - 2 * DarkUI.space16
         visible: popover.editor.hasColors
         focus: !popover.editor.hasName
-        colors: popover.editor.palette
-        names: popover.editor.colorNames
-        currentIndex: popover.editor.selectedIndex
-        onActivated: index => popover.editor.select(index)
+        editor: popover.editor
     }
 
     KitButton {
@@ -107,17 +107,44 @@ DarkPopover {
         anchors.verticalCenter: commit.verticalCenter
         height: DarkUI.popoverButtonHeight
         text: qsTr("Cancel")
-        onClicked: popover.editor.cancel()
+        onClicked: popover.editor.close()
     }
 
-    PopoverCommitButton {
+    KitPressable {
         id: commit
+        readonly property real fillOpacity: !enabled ? DarkUI.popoverCommitDisabledOpacity
+                                            : pressed ? DarkUI.popoverCommitPressedOpacity
+                                                      : DarkUI.popoverCommitOpacity
+
         anchors.right: parent.right
         anchors.rightMargin: DarkUI.space16
         anchors.bottom: parent.bottom
         anchors.bottomMargin: popover.bottomMargin
+        implicitWidth: words.implicitWidth + 2 * DarkUI.space14
+        implicitHeight: DarkUI.popoverButtonHeight
         enabled: popover.editor.canCommit
-        text: popover.editor.commitTitle
+        name: popover.editor.adding ? qsTr("Create skill") : qsTr("Save")
         onClicked: popover.editor.commit()
+
+        Rectangle {
+            id: ground
+            anchors.fill: parent
+            radius: DarkUI.radiusSmall
+            color: Tint.alpha(DarkUI.accent, commit.fillOpacity)
+        }
+
+        DarkText {
+            id: words
+            anchors.centerIn: parent
+            text: commit.name
+            role: DarkUI.bodyStrong
+            color: commit.enabled ? DarkUI.textPrimary : DarkUI.textDisabled
+            Accessible.ignored: true
+        }
+
+        FocusRing {
+            shown: commit.ringed
+            controlRadius: ground.radius
+        }
     }
 }

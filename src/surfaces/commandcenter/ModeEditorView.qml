@@ -16,7 +16,7 @@ Plate {
     edge: DarkUI.hairline
 
     Accessible.role: Accessible.Grouping
-    Accessible.name: editor.title
+    Accessible.name: title.text
 
     Column {
         id: column
@@ -30,12 +30,13 @@ Plate {
             spacing: DarkUI.space2
 
             DarkText {
-                text: card.editor.title
+                id: title
+                text: card.editor.adding ? qsTr("Name your mode") : qsTr("Rename mode")
                 role: DarkUI.bodyStrong
             }
             DarkText {
                 width: parent.width
-                text: card.editor.help
+                text: qsTr("Choose a short name you will recognize at a glance.")
                 role: DarkUI.caption
                 color: DarkUI.textSecondary
                 wrapMode: Text.Wrap
@@ -52,7 +53,7 @@ Plate {
 
                 DarkText {
                     id: label
-                    text: card.editor.fieldLabel
+                    text: qsTr("Mode name")
                     role: DarkUI.small
                     color: DarkUI.textSecondary
                 }
@@ -64,52 +65,24 @@ Plate {
                 }
             }
 
-            DarkTextField {
-                id: field
+            SkillNameField {
                 width: parent.width
                 minHeight: DarkUI.editorFieldHeight
-                name: card.editor.fieldName
-                placeholder: card.editor.placeholder
-                text: card.editor.name
-                onEdited: {
-                    card.editor.name = text;
-                    text = card.editor.name;
-                }
+                name: card.editor.adding ? qsTr("New mode name") : label.text
+                editor: card.editor
                 onAccepted: card.editor.commit()
             }
         }
 
-        SwatchRow {
+        SkillSwatches {
             width: parent.width
-            colors: card.editor.palette
-            names: card.editor.colorNames
-            currentIndex: card.editor.colorIndex
-            onActivated: index => card.editor.chooseColor(index)
+            editor: card.editor
         }
 
-        Row {
+        SkillEditorButtons {
             anchors.right: parent.right
-            spacing: DarkUI.space8
-
-            DarkSecondaryButton {
-                text: card.editor.cancelText
-                onClicked: card.editor.close()
-            }
-            DarkPrimaryButton {
-                text: card.editor.confirmText
-                accent: card.editor.color
-                enabled: card.editor.canCommit
-                onClicked: card.editor.commit()
-            }
-        }
-    }
-
-    Connections {
-        target: card.editor
-        function onOpened(): void {
-            field.text = card.editor.name;
-            field.input.forceActiveFocus(Qt.OtherFocusReason);
-            field.selectAll();
+            editor: card.editor
+            onConfirmed: card.editor.commit()
         }
     }
 }

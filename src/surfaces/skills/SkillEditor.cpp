@@ -3,23 +3,29 @@
 #include "base/Text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vantle {
 
-void SkillEditor::openFor(const Skill& skill) { open(skill.id, skill.name, skill.hexRGB); }
+void SkillEditor::openFor(const Skill& skill, Fields fields) {
+    open(skill.id, skill.name, skill.hexRGB, fields);
+}
 
 void SkillEditor::openNew(const std::vector<Skill>& skills) {
     const auto isFree = [&](std::uint32_t hexRGB) {
         return std::ranges::none_of(skills, [&](const Skill& s) { return s.hexRGB == hexRGB; });
     };
     const auto* const free = std::ranges::find_if(Skill::palette, isFree);
-    open(std::nullopt, {}, free == Skill::palette.end() ? Skill::palette.front() : *free);
+    open(std::nullopt, {}, free == Skill::palette.end() ? Skill::palette.front() : *free,
+         Fields::Both);
 }
 
-void SkillEditor::open(std::optional<QString> id, const QString& name, std::uint32_t hexRGB) {
+void SkillEditor::open(std::optional<QString> id, const QString& name, std::uint32_t hexRGB,
+                       Fields fields) {
     m_editingSkillId = std::move(id);
     m_name = name;
     m_hexRGB = hexRGB;
+    m_fields = fields;
     m_shown = true;
     Q_EMIT nameChanged();
     Q_EMIT colorChanged();
@@ -28,46 +34,29 @@ void SkillEditor::open(std::optional<QString> id, const QString& name, std::uint
 }
 
 void SkillEditor::commit() {
-    if (!canCommit()) return;
-    m_commit(m_editingSkillId, text::trimmed(m_name), m_hexRGB);
+    if (!m_shown || !canCommit()) return;
+    m_commit(m_editingSkillId, hasName() ? text::trimmed(m_name) : m_name, m_hexRGB);
     close();
 }
 
 void SkillEditor::close() {
-    m_shown = false;
+    if (!std::exchange(m_shown, false)) return;
     m_editingSkillId.reset();
+    // Gone before its name is: a screen reader would tell of a field that was emptied.
+    Q_EMIT shownChanged();
     m_name.clear();
     Q_EMIT nameChanged();
-    Q_EMIT shownChanged();
+    Q_EMIT closed();
 }
 
 void SkillEditor::chooseColor(int index) {
-    if (index < 0 || index >= static_cast<int>(Skill::palette.size())) return;
+    if (!hasColors() || index < 0 || index >= static_cast<int>(Skill::palette.size())) return;
     m_hexRGB = Skill::palette.at(static_cast<std::size_t>(index));
     Q_EMIT colorChanged();
 }
 
-QString SkillEditor::title() const {
-    return isAdding() ? QStringLiteral("Name your mode") : QStringLiteral("Rename mode");
-}
-
-QString SkillEditor::help() {
-    return QStringLiteral("Choose a short name you will recognize at a glance.");
-}
-
-QString SkillEditor::fieldLabel() { return QStringLiteral("Mode name"); }
-QString SkillEditor::placeholder() { return QStringLiteral("e.g. Writing"); }
-QString SkillEditor::cancelText() { return QStringLiteral("Cancel"); }
-
-QString SkillEditor::fieldName() const {
-    return isAdding() ? QStringLiteral("New mode name") : fieldLabel();
-}
-
-QString SkillEditor::confirmText() const {
-    return isAdding() ? QStringLiteral("Add mode") : QStringLiteral("Save");
-}
-
 void SkillEditor::setName(const QString& name) {
+    if (!hasName()) return;
     const QString cut = text::hasAtMost(name, Skill::maxNameLength)
                             ? name
                             : text::firstCharacters(name, Skill::maxNameLength);
@@ -80,7 +69,9 @@ QString SkillEditor::counter() const {
     return QStringLiteral("%1/%2").arg(text::characterCount(m_name)).arg(Skill::maxNameLength);
 }
 
-bool SkillEditor::canCommit() const { return !text::trimmed(m_name).isEmpty(); }
+bool SkillEditor::canCommit() const {
+    return !hasName() || text::characterCount(text::trimmed(m_name)) >= m_shortestName;
+}
 
 QList<QColor> SkillEditor::palette() {
     QList<QColor> colors;

@@ -1,4 +1,4 @@
-// The editor of one mode, below the chips of the command center.
+// The editor of one skill: its name, its colour, or both.
 #pragma once
 
 #include "tracking/Skill.h"
@@ -15,22 +15,20 @@
 
 namespace vantle {
 
-/// Holds what the person has typed and chosen, also while the panel is hidden. Main thread.
+/// Holds what the user has typed and chosen until they commit or close it, also while its surface
+/// is hidden. Whether a name is taken is not known here, only whether it is long enough; one that
+/// is too long is cut. Main thread.
 class SkillEditor final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the models of the surfaces.")
     Q_PROPERTY(bool shown READ isShown NOTIFY shownChanged)
+    /// It adds a skill; else it changes one.
     Q_PROPERTY(bool adding READ isAdding NOTIFY shownChanged)
-    Q_PROPERTY(QString title READ title NOTIFY shownChanged)
-    Q_PROPERTY(QString help READ help CONSTANT)
-    Q_PROPERTY(QString fieldLabel READ fieldLabel CONSTANT)
-    Q_PROPERTY(QString placeholder READ placeholder CONSTANT)
-    /// What is read out for the field.
-    Q_PROPERTY(QString fieldName READ fieldName NOTIFY shownChanged)
-    Q_PROPERTY(QString confirmText READ confirmText NOTIFY shownChanged)
-    Q_PROPERTY(QString cancelText READ cancelText CONSTANT)
+    Q_PROPERTY(bool hasName READ hasName NOTIFY shownChanged)
+    Q_PROPERTY(bool hasColors READ hasColors NOTIFY shownChanged)
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
+    Q_PROPERTY(int maxNameLength READ maxNameLength CONSTANT) ///< user-perceived characters
     /// "8/20"
     Q_PROPERTY(QString counter READ counter NOTIFY nameChanged)
     Q_PROPERTY(bool canCommit READ canCommit NOTIFY nameChanged)
@@ -42,18 +40,24 @@ class SkillEditor final : public QObject {
     Q_PROPERTY(int colorIndex READ colorIndex NOTIFY colorChanged)
 
 public:
-    /// What is done with a finished edit: the id is empty when a mode is added.
+    /// What of a skill is edited.
+    enum class Fields { Both, Name, Color };
+
+    /// What is done with a finished edit: the id is empty when a skill is added.
     using Commit =
         std::function<void(const std::optional<QString>& id, const QString& name, std::uint32_t)>;
 
-    explicit SkillEditor(Commit commit) : m_commit(std::move(commit)) {}
+    /// A name with fewer characters than `shortestName` can't be committed.
+    explicit SkillEditor(Commit commit, int shortestName = 1)
+        : m_commit(std::move(commit))
+        , m_shortestName(shortestName) {}
 
-    /// Opens with what the skill has.
-    void openFor(const Skill& skill);
+    /// Opens with what the skill has. What is not edited stays as it is.
+    void openFor(const Skill& skill, Fields fields = Fields::Both);
     /// Opens empty, with the first colour of the palette that none of the skills has.
-    void openNew(const std::vector<Skill>& skills);
+    void openNew(const std::vector<Skill>& skills = {});
 
-    /// Hands the edit over and closes; nothing while there is no name. The name is trimmed.
+    /// Hands the edit over and closes; nothing while the name is too short. The name is trimmed.
     Q_INVOKABLE void commit();
     Q_INVOKABLE void close();
     /// Chooses a colour of the palette.
@@ -62,16 +66,11 @@ public:
     [[nodiscard]] bool isShown() const { return m_shown; }
     [[nodiscard]] bool isAdding() const { return !m_editingSkillId; }
     [[nodiscard]] const std::optional<QString>& editingSkillId() const { return m_editingSkillId; }
-    [[nodiscard]] QString title() const;
-    [[nodiscard]] static QString help();
-    [[nodiscard]] static QString fieldLabel();
-    [[nodiscard]] static QString placeholder();
-    [[nodiscard]] QString fieldName() const;
-    [[nodiscard]] QString confirmText() const;
-    [[nodiscard]] static QString cancelText();
+    [[nodiscard]] bool hasName() const { return m_fields != Fields::Color; }
+    [[nodiscard]] bool hasColors() const { return m_fields != Fields::Name; }
     [[nodiscard]] const QString& name() const { return m_name; }
-    /// What is too long is cut.
     void setName(const QString& name);
+    [[nodiscard]] static int maxNameLength() { return Skill::maxNameLength; }
     [[nodiscard]] QString counter() const;
     [[nodiscard]] bool canCommit() const;
     [[nodiscard]] QColor color() const { return QColor::fromRgb(m_hexRGB); }
@@ -83,14 +82,18 @@ Q_SIGNALS:
     void shownChanged();
     void nameChanged();
     void colorChanged();
-    /// The editor was opened: the keyboard belongs to the name.
+    /// The editor is shown: the keyboard belongs to the name.
     void opened();
+    /// The editor is gone from its surface.
+    void closed();
 
 private:
-    void open(std::optional<QString> id, const QString& name, std::uint32_t hexRGB);
+    void open(std::optional<QString> id, const QString& name, std::uint32_t hexRGB, Fields fields);
 
     Commit m_commit;
+    int m_shortestName;
     bool m_shown = false;
+    Fields m_fields = Fields::Both;
     std::optional<QString> m_editingSkillId;
     QString m_name;
     std::uint32_t m_hexRGB = 0;

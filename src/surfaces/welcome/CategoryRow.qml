@@ -13,7 +13,7 @@ FocusScope {
 
     implicitHeight: column.implicitHeight
     Accessible.role: Accessible.Grouping
-    Accessible.name: row.editor.title
+    Accessible.name: editor.adding ? qsTr("Name your mode") : qsTr("Rename mode")
 
     Keys.onEscapePressed: row.editor.close()
 
@@ -34,7 +34,7 @@ FocusScope {
                 Accessible.ignored: true // the field has it for its name
             }
 
-            DarkTextField {
+            SkillNameField {
                 id: field
                 y: label.height + DarkUI.space6
                 anchors.left: parent.left
@@ -44,49 +44,22 @@ FocusScope {
                 minHeight: DarkUI.editorFieldHeight
                 name: label.text
                 placeholder: qsTr("e.g. Investors, Support")
-                text: row.editor.name
-                onEdited: {
-                    row.editor.name = field.text;
-                    if (field.text !== row.editor.name)
-                        field.text = row.editor.name;
-                }
+                editor: row.editor
                 onAccepted: row.model.commitCategory()
             }
 
-            Row {
+            SkillEditorButtons {
                 id: buttons
                 anchors.right: parent.right
                 anchors.verticalCenter: field.verticalCenter
-                spacing: DarkUI.space8
-
-                DarkSecondaryButton {
-                    text: row.editor.cancelText
-                    onClicked: row.editor.close()
-                }
-                DarkPrimaryButton {
-                    text: row.editor.confirmText
-                    accent: row.editor.color
-                    enabled: row.model.canCommitCategory
-                    onClicked: row.model.commitCategory()
-                }
+                editor: row.editor
+                onConfirmed: row.model.commitCategory()
             }
         }
 
-        SwatchRow {
+        SkillSwatches {
             width: parent.width
-            colors: row.editor.palette
-            names: row.editor.colorNames
-            currentIndex: row.editor.colorIndex
-            onActivated: index => row.editor.chooseColor(index)
-        }
-    }
-
-    Connections {
-        target: row.editor
-        function onOpened(): void {
-            field.text = row.editor.name;
-            field.input.forceActiveFocus(Qt.OtherFocusReason);
-            field.selectAll();
+            editor: row.editor
         }
     }
 }

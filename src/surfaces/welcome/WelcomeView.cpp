@@ -23,7 +23,7 @@ constexpr Seconds kOutOfTheWay{3.6};
 constexpr Seconds kTick{1.0};
 constexpr Seconds kTickTolerance{0.2};
 /// Fewer characters are a slip of the hand, not a name.
-constexpr qsizetype kShortestName = 2;
+constexpr int kShortestName = 2;
 /// What the practice runs under, when it is there.
 constexpr QLatin1String kPracticeSkill("building");
 
@@ -35,12 +35,12 @@ WelcomeView::WelcomeView(Environment environment)
     : m_env(std::move(environment))
     , m_category(
           [this](const std::optional<QString>& id, const QString& name, std::uint32_t hexRGB) {
-              if (!isName(name)) return;
               if (id)
                   m_env.model.updateSkill(*id, name, hexRGB);
               else
                   m_env.model.addSkill(name, hexRGB);
-          })
+          },
+          kShortestName)
     , m_sessionOpen(tracker().state() != TrackerCore::State::Idle)
     , m_samples(std::make_unique<WelcomeSamples>(
           WelcomeSamples::Environment{m_env.scheduler, m_env.preferences, m_env.reducedMotion})) {
@@ -55,7 +55,6 @@ WelcomeView::WelcomeView(Environment environment)
     connect(&m_env.model, &AppModel::skillsChanged, this, &WelcomeView::refreshModes);
     connect(&m_env.model.hotKey(), &HotKey::registrationErrorChanged, this,
             &WelcomeView::shortcutProblemChanged);
-    connect(&m_category, &SkillEditor::nameChanged, this, &WelcomeView::categoryChanged);
     refreshModes();
 }
 
@@ -230,8 +229,6 @@ bool WelcomeView::canAddCategory() const {
     return m_env.model.skills().size() < static_cast<std::size_t>(Skill::maxCount);
 }
 
-bool WelcomeView::canCommitCategory() const { return isName(text::trimmed(m_category.name())); }
-
 void WelcomeView::addCategory() {
     if (canAddCategory()) m_category.openNew(m_env.model.skills());
 }
@@ -250,8 +247,8 @@ void WelcomeView::removeCategory(const QString& skillId) {
 }
 
 void WelcomeView::commitCategory() {
-    const bool changes = canCommitCategory();
-    if (changes) m_category.commit();
+    const bool changes = m_category.canCommit();
+    m_category.commit();
     m_category.close();
     if (!changes) return;
     m_modesNote = m_env.model.lastActionNote().value_or(QString());

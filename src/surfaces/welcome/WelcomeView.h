@@ -48,8 +48,6 @@ class WelcomeView final : public QObject {
     Q_PROPERTY(vantle::SkillListModel* modes READ modes CONSTANT FINAL)
     /// The row that adds a mode or renames one.
     Q_PROPERTY(vantle::SkillEditor* category READ category CONSTANT FINAL)
-    /// The name in that row is long enough.
-    Q_PROPERTY(bool canCommitCategory READ canCommitCategory NOTIFY categoryChanged FINAL)
     Q_PROPERTY(bool canAddCategory READ canAddCategory NOTIFY modesChanged FINAL)
     /// What became of the last change to a mode; empty before the first.
     Q_PROPERTY(QString modesNote READ modesNote NOTIFY modesChanged FINAL)
@@ -111,7 +109,6 @@ public:
 
     [[nodiscard]] SkillListModel* modes() { return &m_modes; }
     [[nodiscard]] SkillEditor* category() { return &m_category; }
-    [[nodiscard]] bool canCommitCategory() const;
     [[nodiscard]] bool canAddCategory() const;
     [[nodiscard]] const QString& modesNote() const { return m_modesNote; }
 
@@ -130,7 +127,6 @@ Q_SIGNALS:
     void shortcutProblemChanged();
     void productNameChanged();
     void modesChanged();
-    void categoryChanged();
     void practiceChanged();
     void practiceTicked();
 

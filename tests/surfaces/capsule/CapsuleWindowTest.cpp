@@ -114,7 +114,7 @@ TEST_F(CapsuleWindowTest, MenuAndEditorHaveOpaqueCornersWithoutACompositor) {
     click(middleOf(text("Design")), Qt::RightButton);
     expectOpaqueCorners(window->capsule().overlayRect().toRect());
     click(middleOf(text("Rename…")));
-    ASSERT_NE(window->capsule().editor(), nullptr);
+    ASSERT_TRUE(window->capsule().editor()->isShown());
     expectOpaqueCorners(window->capsule().overlayRect().toRect());
 }
 
@@ -129,7 +129,7 @@ TEST_F(CapsuleWindowTest, WhereNoInputRegionHoldsTheWindowIsWhatFeelsThePointer)
     click(middleOf(text("Design")), Qt::RightButton);
     ASSERT_NE(item(text("Rename…")), nullptr);
     click(middleOf(text("Rename…")));
-    EXPECT_NE(window->capsule().editor(), nullptr);
+    EXPECT_TRUE(window->capsule().editor()->isShown());
     window->capsule().dismissOverlay();
     window->capsule().collapse();
     EXPECT_EQ(window->panel().geometry(), QRect(605, 0, 230, 10));
@@ -165,7 +165,7 @@ TEST_F(CapsuleWindowTest, APressOnTheEmptyRowReleasedOnAChipOrTheAddRowDoesNothi
         mouse(QEvent::MouseButtonRelease, end, Qt::LeftButton, Qt::NoButton);
         settle();
         EXPECT_TRUE(world.calls.isEmpty());
-        EXPECT_EQ(window->capsule().editor(), nullptr);
+        EXPECT_FALSE(window->capsule().editor()->isShown());
     }
 }
 
@@ -222,8 +222,8 @@ TEST_F(CapsuleWindowTest, TheMenuWorksByKeysAlone) {
     press(Qt::Key_Down);
     press(Qt::Key_Down);
     press(Qt::Key_Return);
-    ASSERT_NE(window->capsule().editor(), nullptr);
-    EXPECT_EQ(window->capsule().editor()->mode(), SkillPopoverEditor::Mode::Recolor);
+    ASSERT_TRUE(window->capsule().editor()->isShown());
+    EXPECT_TRUE(shows(text("Choose a color")));
 }
 
 TEST_F(CapsuleWindowTest, DeletingFromTheMenuReachesTheModel) {
@@ -231,6 +231,50 @@ TEST_F(CapsuleWindowTest, DeletingFromTheMenuReachesTheModel) {
     click(middleOf(text("Design")), Qt::RightButton);
     click(middleOf(text("Delete Design")));
     EXPECT_EQ(world.calls, QStringList(text("delete product_design")));
+}
+
+TEST_F(CapsuleWindowTest, RenamingShowsTheNameAndNoColours) {
+    raiseIdle();
+    click(middleOf(text("Design")), Qt::RightButton);
+    click(middleOf(text("Rename…")));
+    EXPECT_TRUE(shows(text("Rename skill")));
+    EXPECT_TRUE(shows(text("Use a short name you will recognize at a glance.")));
+    EXPECT_TRUE(shows(text("NAME")));
+    EXPECT_FALSE(shows(text("COLOR")));
+    EXPECT_EQ(item(text("Red")), nullptr);
+    ASSERT_NE(item(text("Save")), nullptr);
+    EXPECT_TRUE(item(text("Save"))->isEnabled());
+    EXPECT_EQ(window->capsule().overlayRect().size(), QSizeF(284, 158));
+}
+
+TEST_F(CapsuleWindowTest, RecolouringShowsTheColourAndNoName) {
+    raiseIdle();
+    click(middleOf(text("Design")), Qt::RightButton);
+    click(middleOf(text("Change color…")));
+    EXPECT_TRUE(shows(text("Choose a color")));
+    EXPECT_TRUE(shows(text("COLOR")));
+    EXPECT_FALSE(shows(text("NAME")));
+    EXPECT_EQ(item(text("Skill name")), nullptr);
+    ASSERT_NE(item(text("Purple")), nullptr);
+    EXPECT_TRUE(item(text("Purple"))->property("chosen").toBool());
+    EXPECT_EQ(window->capsule().overlayRect().size(), QSizeF(284, 112));
+    click(middleOf(text("Red")));
+    click(middleOf(text("Save")));
+    EXPECT_EQ(world.calls, QStringList(text("update product_design Design ff375f")));
+}
+
+TEST_F(CapsuleWindowTest, AddingBeginsEmptyWithTheFirstColour) {
+    raiseIdle();
+    click(middleOf(text("New skill")));
+    EXPECT_TRUE(shows(text("Create a skill")));
+    EXPECT_TRUE(shows(text("What do you want to build time toward?")));
+    EXPECT_TRUE(shows(text("e.g. Writing")));
+    EXPECT_TRUE(shows(text("NAME")) && shows(text("COLOR")));
+    ASSERT_NE(item(text("Red")), nullptr);
+    EXPECT_TRUE(item(text("Red"))->property("chosen").toBool());
+    ASSERT_NE(item(text("Create skill")), nullptr);
+    EXPECT_FALSE(item(text("Create skill"))->isEnabled());
+    EXPECT_EQ(window->capsule().overlayRect().size(), QSizeF(284, 204));
 }
 
 TEST_F(CapsuleWindowTest, ANewNameIsTypedOverTheOldOneAndReturnSavesIt) {
@@ -254,7 +298,7 @@ TEST_F(CapsuleWindowTest, EscapeInTheFieldLeavesTheNameAsItWas) {
     type(text("Sketching"));
     press(Qt::Key_Escape);
     EXPECT_TRUE(world.calls.isEmpty());
-    EXPECT_EQ(window->capsule().editor(), nullptr);
+    EXPECT_FALSE(window->capsule().editor()->isShown());
 }
 
 TEST_F(CapsuleWindowTest, ANameOfBlanksKeepsTheButtonDisabledAndReturnDoesNothing) {
@@ -265,7 +309,7 @@ TEST_F(CapsuleWindowTest, ANameOfBlanksKeepsTheButtonDisabledAndReturnDoesNothin
     type(text("   "));
     EXPECT_FALSE(item(text("Create skill"))->isEnabled());
     press(Qt::Key_Return);
-    EXPECT_NE(window->capsule().editor(), nullptr);
+    EXPECT_TRUE(window->capsule().editor()->isShown());
     EXPECT_TRUE(world.calls.isEmpty());
 }
 
@@ -295,7 +339,7 @@ TEST_F(CapsuleWindowTest, WhoeverClicksAnotherWindowHasTurnedAwayFromTheEditor) 
     click(middleOf(text("New skill")));
     Q_EMIT window->panel().keyboardLost();
     settle();
-    EXPECT_EQ(window->capsule().editor(), nullptr);
+    EXPECT_FALSE(window->capsule().editor()->isShown());
 }
 
 TEST_F(CapsuleWindowTest, ACapsuleThatGoesWhileItIsClickedGoesQuietly) {

@@ -83,6 +83,9 @@ protected:
             press(0, letter);
     }
 
+    [[nodiscard]] bool shows(const QString& words) const {
+        return showsText(window->panel(), words);
+    }
     /// The visible item that is read out as that; null when there is none.
     [[nodiscard]] QQuickItem* item(const QString& name) const {
         return find(window->panel().contentItem(), name);

@@ -8,8 +8,6 @@
 namespace vantle::tests {
 namespace {
 
-using Mode = SkillPopoverEditor::Mode;
-
 /// An open idle capsule with the pointer on the chip of "Design".
 class NotchCapsuleEditingTest : public testing::Test {
 protected:
@@ -82,8 +80,8 @@ TEST_F(NotchCapsuleEditingTest, TheEditorHoldsTheCapsuleOpenThroughout) {
     capsule.openMenu(design);
     capsule.chipRequestsRename();
     time.settle();
-    ASSERT_NE(capsule.editor(), nullptr);
-    EXPECT_EQ(capsule.editor()->mode(), Mode::Rename);
+    ASSERT_TRUE(capsule.editor()->isShown());
+    EXPECT_TRUE(capsule.editor()->hasName() && !capsule.editor()->hasColors());
     EXPECT_TRUE(capsule.menuSkillId().isEmpty());
     EXPECT_TRUE(stage.hasKeyboard);
     EXPECT_EQ(capsule.collapseSuspendCount(), 1);
@@ -96,8 +94,8 @@ TEST_F(NotchCapsuleEditingTest, WithThePointerOutsideItCloses03SecondsAfterTheEd
     capsule.chipRequestsAdd();
     pointAway();
     time.advance(5);
-    capsule.editor()->cancel();
-    EXPECT_EQ(capsule.editor(), nullptr);
+    capsule.editor()->close();
+    EXPECT_FALSE(capsule.editor()->isShown());
     time.advance(0.29);
     EXPECT_TRUE(capsule.isExpanded());
     time.advance(0.02);
@@ -106,7 +104,7 @@ TEST_F(NotchCapsuleEditingTest, WithThePointerOutsideItCloses03SecondsAfterTheEd
 
 TEST_F(NotchCapsuleEditingTest, WithThePointerInsideItStaysAfterTheEditor) {
     capsule.chipRequestsAdd();
-    capsule.editor()->cancel();
+    capsule.editor()->close();
     time.advance(5);
     EXPECT_TRUE(capsule.isExpanded());
     EXPECT_FALSE(stage.hasKeyboard);
@@ -115,9 +113,9 @@ TEST_F(NotchCapsuleEditingTest, WithThePointerInsideItStaysAfterTheEditor) {
 TEST_F(NotchCapsuleEditingTest, ANewNameReachesTheModelAfterThePresentEvent) {
     capsule.openMenu(design);
     capsule.chipRequestsRename();
-    capsule.editor()->edit(text("Sketching"));
+    capsule.editor()->setName(text("Sketching"));
     capsule.editor()->commit();
-    EXPECT_EQ(capsule.editor(), nullptr);
+    EXPECT_FALSE(capsule.editor()->isShown());
     EXPECT_TRUE(world.calls.isEmpty());
     time.settle();
     EXPECT_EQ(world.calls, QStringList(text("update product_design Sketching bf5af2")));
@@ -126,7 +124,7 @@ TEST_F(NotchCapsuleEditingTest, ANewNameReachesTheModelAfterThePresentEvent) {
 TEST_F(NotchCapsuleEditingTest, ANewColourReachesTheModel) {
     capsule.openMenu(design);
     capsule.chipRequestsRecolor();
-    capsule.editor()->select(3);
+    capsule.editor()->chooseColor(3);
     capsule.editor()->commit();
     time.settle();
     EXPECT_EQ(world.calls, QStringList(text("update product_design Design 30d158")));
@@ -134,9 +132,9 @@ TEST_F(NotchCapsuleEditingTest, ANewColourReachesTheModel) {
 
 TEST_F(NotchCapsuleEditingTest, ANewSkillReachesTheModel) {
     capsule.chipRequestsAdd();
-    EXPECT_EQ(capsule.editor()->mode(), Mode::Add);
+    EXPECT_TRUE(capsule.editor()->isAdding());
     EXPECT_GT(capsule.overlayAnchor().top(), 120);
-    capsule.editor()->edit(text("Writing"));
+    capsule.editor()->setName(text("Writing"));
     capsule.editor()->commit();
     time.settle();
     EXPECT_EQ(world.calls, QStringList(text("add Writing ff375f")));
@@ -144,7 +142,7 @@ TEST_F(NotchCapsuleEditingTest, ANewSkillReachesTheModel) {
 
 TEST_F(NotchCapsuleEditingTest, TurningAwayChangesNothing) {
     capsule.chipRequestsAdd();
-    capsule.editor()->edit(text("Writing"));
+    capsule.editor()->setName(text("Writing"));
     capsule.dismissOverlay();
     time.settle();
     EXPECT_TRUE(world.calls.isEmpty());
@@ -170,10 +168,10 @@ TEST_F(NotchCapsuleEditingTest, WhatHangsBelowFeelsThePointerToo) {
 
 TEST_F(NotchCapsuleEditingTest, ACapsuleThatGoesClosesItsEditorWithoutAResult) {
     capsule.chipRequestsAdd();
-    capsule.editor()->edit(text("Writing"));
+    capsule.editor()->setName(text("Writing"));
     capsule.retire();
     time.settle();
-    EXPECT_EQ(capsule.editor(), nullptr);
+    EXPECT_FALSE(capsule.editor()->isShown());
     EXPECT_FALSE(stage.hasKeyboard);
     EXPECT_TRUE(world.calls.isEmpty());
 }

@@ -197,7 +197,7 @@ TEST_F(NotchCapsuleTest, AChangeOfSkillRecoloursTheDotAndMovesTheHighlight) {
     EXPECT_EQ(capsule->skillLine(), text("DESIGN"));
     const auto highlighted = [&](int row) {
         return capsule->chips()
-            ->data(capsule->chips()->index(row), SkillChipModel::Highlighted)
+            ->data(capsule->chips()->index(row), SkillListModel::Selected)
             .toBool();
     };
     EXPECT_FALSE(highlighted(0));

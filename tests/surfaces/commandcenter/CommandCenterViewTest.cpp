@@ -117,6 +117,39 @@ TEST_F(CommandCenterViewTest, KeyboardGoesBackToTheChipWhoseEditorCloses) {
     EXPECT_EQ(m_shown->keyboardOwner(), m_shown->control(text("New Mode")));
 }
 
+TEST_F(CommandCenterViewTest, EditorSaysWhetherAModeIsNewOrChanged) {
+    show();
+    click(text("New Mode"));
+    EXPECT_TRUE(m_shown->shows(text("Name your mode")));
+    EXPECT_TRUE(m_shown->shows(text("Choose a short name you will recognize at a glance.")));
+    EXPECT_TRUE(m_shown->shows(text("0/20")));
+    EXPECT_NE(m_shown->field(text("New mode name")), nullptr);
+    ASSERT_NE(m_shown->control(text("Add mode")), nullptr);
+    EXPECT_FALSE(m_shown->control(text("Add mode"))->isEnabled());
+    click(text("Cancel"));
+    click(nameOf(1), Qt::RightButton);
+    click(text("Change color…"));
+    EXPECT_TRUE(m_shown->shows(text("Rename mode")));
+    EXPECT_NE(m_shown->field(text("Mode name")), nullptr);
+    ASSERT_NE(m_shown->control(text("Save")), nullptr);
+    EXPECT_TRUE(m_shown->control(text("Save"))->isEnabled());
+}
+
+TEST_F(CommandCenterViewTest, NameIsCutWhereItIsTypedAndTheCaretStays) {
+    show();
+    click(text("New Mode"));
+    m_shown->type(text("abcdefghijklmnopqrstu"));
+    EXPECT_EQ(content->editor()->name(), text("abcdefghijklmnopqrst"));
+    m_shown->press(Qt::Key_Home);
+    m_shown->press(Qt::Key_Delete);
+    m_shown->type(text("z"));
+    EXPECT_EQ(content->editor()->name(), text("zbcdefghijklmnopqrst"));
+    EXPECT_TRUE(m_shown->shows(text("20/20")));
+    click(text("Cancel"));
+    click(text("New Mode"));
+    EXPECT_EQ(m_shown->field(text("New mode name"))->property("text"), QString());
+}
+
 TEST_F(CommandCenterViewTest, MenuOfAChipOpensTheEditorForItsColour) {
     show();
     click(nameOf(1), Qt::RightButton);

@@ -25,10 +25,10 @@ protected:
 TEST_F(SkillEditorTest, ANewModeStartsEmptyInAColourThatIsFree) {
     editor.openNew(skills);
     EXPECT_TRUE(editor.isShown());
-    EXPECT_EQ(editor.title(), QStringLiteral("Name your mode"));
-    EXPECT_EQ(editor.confirmText(), QStringLiteral("Add mode"));
-    EXPECT_EQ(editor.fieldName(), QStringLiteral("New mode name"));
+    EXPECT_TRUE(editor.isAdding() && editor.hasName() && editor.hasColors());
+    EXPECT_FALSE(editor.canCommit());
     EXPECT_EQ(editor.name(), QString());
+    EXPECT_EQ(editor.palette().size(), 10);
     EXPECT_EQ(editor.color(), QColor(0xFF, 0xD6, 0x0A));
     EXPECT_EQ(editor.counter(), QStringLiteral("0/20"));
 }
@@ -41,11 +41,22 @@ TEST_F(SkillEditorTest, WhereNoColourIsFreeItIsTheFirst) {
     EXPECT_EQ(editor.colorIndex(), 0);
 }
 
+TEST_F(SkillEditorTest, ANewModeStartsWithTheFirstColourWhereNoneIsTaken) {
+    editor.openNew();
+    EXPECT_EQ(editor.colorIndex(), 0);
+    editor.setName(QStringLiteral("Writing"));
+    editor.chooseColor(5);
+    editor.commit();
+    ASSERT_EQ(done.size(), 1U);
+    EXPECT_EQ(done[0].id, std::nullopt);
+    EXPECT_EQ(done[0].name, QStringLiteral("Writing"));
+    EXPECT_EQ(done[0].hexRGB, 0xFFD60AU);
+}
+
 TEST_F(SkillEditorTest, AModeIsEditedFromWhatItHas) {
     editor.openFor(skills[1]);
-    EXPECT_EQ(editor.title(), QStringLiteral("Rename mode"));
-    EXPECT_EQ(editor.confirmText(), QStringLiteral("Save"));
-    EXPECT_EQ(editor.fieldName(), QStringLiteral("Mode name"));
+    EXPECT_FALSE(editor.isAdding());
+    EXPECT_TRUE(editor.hasName() && editor.hasColors() && editor.canCommit());
     EXPECT_EQ(editor.name(), skills[1].name);
     EXPECT_EQ(editor.color(), QColor::fromRgb(skills[1].hexRGB));
     editor.setName(QStringLiteral("  Drawing "));
@@ -58,6 +69,30 @@ TEST_F(SkillEditorTest, AModeIsEditedFromWhatItHas) {
     EXPECT_FALSE(editor.isShown());
 }
 
+TEST_F(SkillEditorTest, WhereTheNameAloneIsEditedTheColourStays) {
+    editor.openFor(skills[1], SkillEditor::Fields::Name);
+    EXPECT_TRUE(editor.hasName() && !editor.hasColors() && editor.canCommit());
+    editor.setName(QStringLiteral("  Sketching "));
+    editor.chooseColor(0);
+    editor.commit();
+    ASSERT_EQ(done.size(), 1U);
+    EXPECT_EQ(done[0].id, skills[1].id);
+    EXPECT_EQ(done[0].name, QStringLiteral("Sketching"));
+    EXPECT_EQ(done[0].hexRGB, skills[1].hexRGB);
+}
+
+TEST_F(SkillEditorTest, WhereTheColourAloneIsEditedTheNameStays) {
+    editor.openFor(skills[1], SkillEditor::Fields::Color);
+    EXPECT_TRUE(!editor.hasName() && editor.hasColors() && editor.canCommit());
+    editor.setName(QStringLiteral("Sketching"));
+    editor.chooseColor(0);
+    editor.commit();
+    ASSERT_EQ(done.size(), 1U);
+    EXPECT_EQ(done[0].id, skills[1].id);
+    EXPECT_EQ(done[0].name, skills[1].name);
+    EXPECT_EQ(done[0].hexRGB, Skill::palette[0]);
+}
+
 TEST_F(SkillEditorTest, AColourOutsideThePaletteIsNoneOfIt) {
     editor.openFor({.id = QStringLiteral("x"), .name = QStringLiteral("X"), .hexRGB = 0x123456});
     EXPECT_EQ(editor.colorIndex(), -1);
@@ -68,13 +103,36 @@ TEST_F(SkillEditorTest, AColourOutsideThePaletteIsNoneOfIt) {
 
 TEST_F(SkillEditorTest, AnEmptyNameCanNotBeCommitted) {
     editor.openNew(skills);
-    for (const char* name : {"", "   "}) {
+    for (const char* name : {"", "   ", "  \t\n "}) {
         editor.setName(QString::fromLatin1(name));
         EXPECT_FALSE(editor.canCommit());
         editor.commit();
         EXPECT_TRUE(editor.isShown());
     }
     EXPECT_TRUE(done.empty());
+}
+
+TEST_F(SkillEditorTest, ANameShorterThanTheShortestCanNotBeCommitted) {
+    SkillEditor strict(
+        [this](const auto& id, const QString& name, std::uint32_t hexRGB) {
+            done.push_back({id, name, hexRGB});
+        },
+        2);
+    strict.openNew(skills);
+    strict.setName(QStringLiteral("x "));
+    EXPECT_FALSE(strict.canCommit());
+    strict.setName(QStringLiteral("雪山"));
+    EXPECT_TRUE(strict.canCommit());
+}
+
+TEST_F(SkillEditorTest, ANameOfTwentyCharactersStaysAndOneMoreIsCut) {
+    editor.openNew(skills);
+    const QString twenty = QStringLiteral("Ende der Kümmernisse");
+    ASSERT_EQ(twenty.size(), 20);
+    editor.setName(twenty);
+    EXPECT_EQ(editor.name(), twenty);
+    editor.setName(twenty + QStringLiteral("!"));
+    EXPECT_EQ(editor.name(), twenty);
 }
 
 TEST_F(SkillEditorTest, TwentyCharactersAsPeopleCountThemFit) {
@@ -86,8 +144,9 @@ TEST_F(SkillEditorTest, TwentyCharactersAsPeopleCountThemFit) {
 }
 
 TEST_F(SkillEditorTest, TurningAwayLeavesNothing) {
-    editor.openFor(skills[1]);
+    editor.openFor(skills[1], SkillEditor::Fields::Color);
     editor.close();
+    editor.commit();
     EXPECT_FALSE(editor.isShown());
     EXPECT_TRUE(done.empty());
     editor.openNew(skills);

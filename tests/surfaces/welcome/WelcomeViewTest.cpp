@@ -196,7 +196,7 @@ TEST_F(WelcomeViewTest, ModeNameOfOneLetterClosesTheRowAndAddsNothing) {
     walkTo(Modes);
     view->addCategory();
     view->category()->setName(text("x "));
-    EXPECT_FALSE(view->canCommitCategory());
+    EXPECT_FALSE(view->category()->canCommit());
     view->commitCategory();
     EXPECT_FALSE(view->category()->isShown());
     EXPECT_EQ(modeNames().size(), 6);

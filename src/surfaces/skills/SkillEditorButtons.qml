@@ -1,0 +1,24 @@
+// What ends an edit: taking it back, or handing it over in the skill's colour.
+import QtQuick
+import Vantle.Kit
+import Vantle.Skills
+
+Row {
+    id: buttons
+
+    required property SkillEditor editor
+    signal confirmed
+
+    spacing: DarkUI.space8
+
+    DarkSecondaryButton {
+        text: qsTr("Cancel")
+        onClicked: buttons.editor.close()
+    }
+    DarkPrimaryButton {
+        text: buttons.editor.adding ? qsTr("Add mode") : qsTr("Save")
+        accent: buttons.editor.color
+        enabled: buttons.editor.canCommit
+        onClicked: buttons.confirmed()
+    }
+}

@@ -1,0 +1,13 @@
+// The colours that a skill may have.
+import QtQuick
+import Vantle.Kit
+import Vantle.Skills
+
+SwatchRow {
+    required property SkillEditor editor
+
+    colors: editor.palette
+    names: editor.colorNames
+    currentIndex: editor.colorIndex
+    onActivated: index => editor.chooseColor(index)
+}
