@@ -9,6 +9,23 @@ function(vantle_library name)
     vantle_precompile(${name})
 endfunction()
 
+# Compiles resources/translations/vantle_<language>.ts for each language into a library.
+function(vantle_translations name)
+    find_program(VANTLE_LRELEASE NAMES lrelease lrelease6 lrelease-qt6 REQUIRED
+                 HINTS "${QT6_INSTALL_PREFIX}/${QT6_INSTALL_BINS}" NO_DEFAULT_PATH)
+    set(compiled "")
+    foreach(language IN LISTS ARGN)
+        set(source "${CMAKE_SOURCE_DIR}/resources/translations/vantle_${language}.ts")
+        set(catalogue "${CMAKE_CURRENT_BINARY_DIR}/vantle_${language}.qm")
+        add_custom_command(OUTPUT "${catalogue}"
+            COMMAND "${VANTLE_LRELEASE}" -silent "${source}" -qm "${catalogue}"
+            DEPENDS "${source}" VERBATIM)
+        list(APPEND compiled "${catalogue}")
+    endforeach()
+    qt_add_resources(${name} ${name}_files PREFIX "/vantle/translations"
+                     BASE "${CMAKE_CURRENT_BINARY_DIR}" FILES ${compiled})
+endfunction()
+
 # A folder with views: a static library that is a QML module as well. Programs link NAME, and get its
 # views by vantle_use_views.
 # DEPENDENCIES names the modules of which it uses C++ types for its own, for the views' checker.

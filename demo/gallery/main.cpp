@@ -8,6 +8,7 @@
 // it, into files named …@2x.png.
 #include "gallery/Scenes.h"
 #include "gallery/Stage.h"
+#include "launch/Catalogues.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -66,6 +67,7 @@ int draw(const QDir& folder, const QStringList& wanted) {
 int main(int argc, char** argv) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QGuiApplication application(argc, argv);
+    const vantle::Catalogues catalogues({});
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     if (arguments.isEmpty() || arguments.first() == QLatin1String("--list")) return vantle::list();
     if (arguments.first() == QLatin1String("--show")) return vantle::play(arguments.value(1));

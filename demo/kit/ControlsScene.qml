@@ -222,7 +222,7 @@ Rectangle {
                 }
                 Keycap {
                     anchors.verticalCenter: parent.verticalCenter
-                    text: "⌥⌘B"
+                    text: "Alt+Super+B"
                 }
                 DarkLink {
                     anchors.verticalCenter: parent.verticalCenter

@@ -1,4 +1,5 @@
 #include "app/ModelWorld.h"
+#include "base/Words.h"
 #include "gallery/Scenes.h"
 #include "surfaces/alert/AlertModel.h"
 #include "surfaces/dashboard/DashboardView.h"
@@ -262,9 +263,10 @@ Scene alert(const char* name, const char* message, const char* text, const QStri
     Scene made = framedScene(name);
     made.properties = [=](QObject* owner) {
         auto* const holder = new AlertHolder(owner);
-        holder->model.message = QString::fromUtf8(message);
-        holder->model.informativeText = QString::fromUtf8(text);
-        holder->model.buttons = buttons;
+        holder->model.message = Words::tr(message);
+        holder->model.informativeText = Words::tr(text);
+        for (const QString& button : buttons)
+            holder->model.buttons << Words::tr(button.toUtf8());
         return QVariantMap{{QStringLiteral("view"),
                             QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Alert/AlertView.qml"))},
                            {QStringLiteral("minimisable"), false},

@@ -3,6 +3,7 @@
 #include "app/ActionNote.h"
 #include "app/PracticeSessions.h"
 #include "app/SessionSurfaces.h"
+#include "base/Words.h"
 #include "platform/FrontmostApp.h"
 #include "platform/Preferences.h"
 #include "sensing/AutoSkillMonitor.h"
@@ -77,38 +78,36 @@ void SessionFlow::toggle(SessionCause cause) {
     const CauseScope scope(m_cause, cause);
     m_env.note.clear();
     if (!isIdle()) {
-        if (!m_env.tracker.stop()) m_env.note.report(QStringLiteral("Couldn’t save this session"));
+        if (!m_env.tracker.stop()) m_env.note.report(Words::tr("Couldn’t save this session"));
         return;
     }
     if (!m_env.tracker.start(m_env.skills.by(m_selectedSkillId), 0))
-        m_env.note.report(QStringLiteral("Couldn’t start vantle"));
+        m_env.note.report(Words::tr("Couldn’t start vantle"));
 }
 
 void SessionFlow::startWithBackfill(int minutes) {
     m_env.note.clear();
     if (!isIdle()) {
-        m_env.note.say(
-            m_env.tracker.applyBackfill(minutes)
-                ? QStringLiteral("Moved the session start back %1 min").arg(minutes)
-                : QStringLiteral("Backfill skipped · couldn't confirm this Mac was active"));
+        m_env.note.say(m_env.tracker.applyBackfill(minutes)
+                           ? Words::tr("Moved the session start back %1 min").arg(minutes)
+                           : Words::tr("Backfill skipped · couldn't confirm this Mac was active"));
         return;
     }
     const auto applied = m_env.tracker.start(m_env.skills.by(m_selectedSkillId), minutes);
     if (!applied)
-        m_env.note.report(QStringLiteral("Couldn’t start vantle"));
+        m_env.note.report(Words::tr("Couldn’t start vantle"));
     else if (*applied < minutes)
-        m_env.note.say(
-            QStringLiteral("Started now · couldn't confirm %1 min of activity").arg(minutes));
+        m_env.note.say(Words::tr("Started now · couldn't confirm %1 min of activity").arg(minutes));
 }
 
 bool SessionFlow::quickLog(const QString& skillId, int minutes, const QString& note) {
     constexpr int kMaxMinutes = 960;
     const int clamped = std::clamp(minutes, 1, kMaxMinutes);
     if (!m_env.tracker.logManual(skillId, clamped, note)) {
-        m_env.note.report(QStringLiteral("Couldn’t log that time"));
+        m_env.note.report(Words::tr("Couldn’t log that time"));
         return false;
     }
-    m_env.note.say(QStringLiteral("Logged %1 min manually (stays on this Mac)").arg(clamped));
+    m_env.note.say(Words::tr("Logged %1 min manually (stays on this Mac)").arg(clamped));
     return true;
 }
 

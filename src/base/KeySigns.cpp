@@ -29,13 +29,12 @@ QString keySignsInWords(const QString& text) {
         const qsizetype start = i;
         while (i < text.size() && isSign(text.at(i)))
             ++i;
-        if (i == start) {
+        if (i == start)
             words += text.at(i++);
-            continue;
-        }
-        words += modifiers(QStringView(text).sliced(start, i - start));
+        else
+            words += modifiers(QStringView(text).sliced(start, i - start));
         // Readers pass over a comma as well.
-        if (i < text.size() && text.at(i) == u',') {
+        if (i < text.size() && text.at(i) == u',' && words.endsWith(QLatin1Char('+'))) {
             words += QStringLiteral("Comma");
             ++i;
         }

@@ -1,5 +1,6 @@
 #include "launch/AppInstaller.h"
 
+#include "base/Words.h"
 #include "platform/FileSystem.h"
 #include "platform/Preferences.h"
 #include "platform/WholeFile.h"
@@ -32,22 +33,22 @@ Result<> copyFile(FileSystem& files, const QString& from, const QString& to, int
 }
 
 Alert moveOffer() {
-    return {QStringLiteral("Move Vantle to Applications?"),
-            QStringLiteral("Vantle runs best from your Applications folder — it keeps it out of "
-                           "Downloads and lets it update cleanly. Move it there now?"),
-            {QStringLiteral("Move to Applications"), QStringLiteral("Not Now")}};
+    return {Words::tr("Move Vantle to Applications?"),
+            Words::tr("Vantle runs best from your Applications folder — it keeps it out of "
+                      "Downloads and lets it update cleanly. Move it there now?"),
+            {Words::tr("Move to Applications"), Words::tr("Not Now")}};
 }
 
 Alert replaceQuestion() {
-    return {QStringLiteral("Vantle is already in Applications."),
-            QStringLiteral("Replace it with this version?"),
-            {QStringLiteral("Replace"), QStringLiteral("Cancel")}};
+    return {Words::tr("Vantle is already in Applications."),
+            Words::tr("Replace it with this version?"),
+            {Words::tr("Replace"), Words::tr("Cancel")}};
 }
 
 Alert dragNotice() {
-    return {QStringLiteral("Couldn't move it automatically."),
-            QStringLiteral("Drag Vantle into Applications yourself — it's selected in Finder now."),
-            {QStringLiteral("OK")}};
+    return {Words::tr("Couldn't move it automatically."),
+            Words::tr("Drag Vantle into Applications yourself — it's selected in Finder now."),
+            {Words::tr("OK")}};
 }
 
 } // namespace

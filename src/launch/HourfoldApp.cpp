@@ -2,6 +2,7 @@
 
 #include "base/Clock.h"
 #include "base/SerialQueue.h"
+#include "launch/Catalogues.h"
 #include "launch/Ceremony.h"
 #include "launch/PlatformFactory.h"
 #include "launch/Program.h"
@@ -10,6 +11,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLocale>
 #include <QProcessEnvironment>
 #include <QQuickWindow>
 
@@ -129,6 +131,7 @@ int HourfoldMain(int argc, char** argv) {
     Ceremony::prepareProcess();
     describeApplication();
     const QApplication application(argc, argv);
+    const Catalogues catalogues(QLocale().uiLanguages());
     return run(startedUnasked, environment);
 }
 

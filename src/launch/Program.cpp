@@ -1,6 +1,7 @@
 #include "launch/Program.h"
 
 #include "base/SerialQueue.h"
+#include "base/Words.h"
 #include "launch/InstallLocation.h"
 #include "platform/FileManager.h"
 #include "platform/ProcessRunner.h"
@@ -24,10 +25,10 @@ namespace {
 
 void alertAlreadyRunning(const Platform& platform) {
     (void)modalpresenter::runAlert(
-        {QStringLiteral("Vantle is already running"),
-         QStringLiteral("Another copy of Vantle is already using this Mac's data. This one will "
-                        "close so your history stays safe."),
-         {QStringLiteral("OK")}},
+        {Words::tr("Vantle is already running"),
+         Words::tr("Another copy of Vantle is already using this Mac's data. This one will close "
+                   "so your history stays safe."),
+         {Words::tr("OK")}},
         platform.panelHost, platform.screens);
 }
 

@@ -3,6 +3,7 @@
 #include "base/Bidi.h"
 #include "base/DateText.h"
 #include "base/Text.h"
+#include "base/Words.h"
 
 #include <QTextBoundaryFinder>
 
@@ -22,8 +23,8 @@ namespace {
 
 QString moreNotes(qsizetype left) {
     if (left <= 0) return {};
-    return left == 1 ? QStringLiteral("1 more note is in your log")
-                     : QStringLiteral("%1 more notes are in your log").arg(left);
+    return left == 1 ? Words::tr("1 more note is in your log")
+                     : Words::tr("%1 more notes are in your log").arg(left);
 }
 
 /// The length of the first sentence, with the space after it.
@@ -36,9 +37,9 @@ qsizetype firstSentence(const QString& text) {
 
 NarrativeCard narrative(WrappedPeriod period, const QString& text) {
     const auto opening = firstSentence(text);
-    return {text::upperCased(wrappedperiod::label(period)) + QStringLiteral(", IN WORDS"), text,
+    return {text::upperCased(wrappedperiod::label(period)) + Words::tr(", IN WORDS"), text,
             text.left(opening), text.mid(opening),
-            QStringLiteral("Written on your Mac. Nothing was sent anywhere.")};
+            Words::tr("Written on your Mac. Nothing was sent anywhere.")};
 }
 
 std::optional<NotesCard> notes(const WrappedStats& stats, const WrappedSettings& settings,
@@ -46,21 +47,21 @@ std::optional<NotesCard> notes(const WrappedStats& stats, const WrappedSettings&
     if (!stats.noteDigest) return std::nullopt;
     const WrappedNoteDigest& digest = *stats.noteDigest;
     NotesCard card;
-    card.kicker = QStringLiteral("WHAT MOVED FORWARD");
+    card.kicker = Words::tr("WHAT MOVED FORWARD");
     card.story = digest.storyLine();
     card.themes = digest.themes;
-    const DateText date = DateText::fixed(QStringLiteral("MMM d"), settings.calendar);
+    const DateText date = DateText::fixed(Words::tr("MMM d"), settings.calendar);
     for (const auto& note : cardwords::firstOf(digest.highlights, shown))
         card.highlights.push_back({note.text, note.skill.name, QColor::fromRgb(note.skill.hexRGB),
                                    bidi::isolated(date(note.endedAt))});
     card.more = moreNotes(digest.noteCount - static_cast<qsizetype>(card.highlights.size()));
-    card.foot = QStringLiteral("Made only from notes saved on this Mac");
+    card.foot = Words::tr("Made only from notes saved on this Mac");
     return card;
 }
 
 SummaryCard summary(const WrappedStats& stats, const WrappedSettings& settings) {
     return {wrappedperiod::summaryTitle(stats.period), stats.closingLine(settings.durationStyle),
-            QStringLiteral("Made on this Mac, ready to share"), posterFileName(stats.period)};
+            Words::tr("Made on this Mac, ready to share"), posterFileName(stats.period)};
 }
 
 QString posterFileName(WrappedPeriod period) {

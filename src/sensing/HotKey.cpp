@@ -1,5 +1,7 @@
 #include "sensing/HotKey.h"
 
+#include "base/Words.h"
+
 #include <QPointer>
 
 #include <utility>
@@ -9,8 +11,8 @@ namespace {
 
 QString failureText(const HotKeyPort::Outcome& outcome) {
     if (outcome.registration == HotKeyPort::Registration::HeldByAnother)
-        return QStringLiteral("⌥⌘B is already used by another app.");
-    return QStringLiteral("Couldn’t register ⌥⌘B (%1).").arg(outcome.status);
+        return Words::tr("⌥⌘B is already used by another app.");
+    return Words::tr("Couldn’t register ⌥⌘B (%1).").arg(outcome.status);
 }
 
 } // namespace
@@ -31,8 +33,7 @@ void HotKey::registerHotKey() {
     // 1. and 2. The handler first, so that no press is lost between the two.
     const int status = m_port.installHandler([this] { deliverPressLater(); });
     if (status != 0) {
-        setRegistrationError(
-            QStringLiteral("Couldn’t install the shortcut handler (%1).").arg(status));
+        setRegistrationError(Words::tr("Couldn’t install the shortcut handler (%1).").arg(status));
         return;
     }
 

@@ -13,6 +13,7 @@ using tests::text;
 TEST(KeySigns, AreTheKeysThatWorkOnThisKeyboard) {
     EXPECT_EQ(keySignsInWords(text("⌘D")), text("Ctrl+D"));
     EXPECT_EQ(keySignsInWords(text("⌘,")), text("Ctrl+Comma"));
+    EXPECT_EQ(keySignsInWords(text("Ctrl+,")), text("Ctrl+Comma"));
     EXPECT_EQ(keySignsInWords(text("⌥⌘B")), text("Alt+Super+B"));
     EXPECT_EQ(keySignsInWords(text("Press ⌘⌥B again to stop.")),
               text("Press Alt+Super+B again to stop."));

@@ -77,7 +77,7 @@ class HeldKey(DesktopTest):
 
     def test_with_the_shortcut_held_by_another_application_the_action_still_works(self):
         self.launch()
-        self.await_tool_tip("⌥⌘B is already used by another app.")
+        self.await_tool_tip("Alt+Super+B is already used by another app.")
         self.desktop.press(SHORTCUT)
         self.assertIsNone(self.vantle.marker())
         activate_action(self.desktop, "toggle")

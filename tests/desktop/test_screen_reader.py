@@ -53,7 +53,7 @@ class OfWindows(ScreenReader):
         self.assert_nothing_is_nameless(window)
         self.assert_told(
             window, ("heading", "Your hours"), ("push button", "Log time"),
-            ("push button", "Wrapped", "A recap of your work, computed on this Mac"),
+            ("push button", "Wrapped", "A recap of your work, computed on this computer"),
             ("push button", "Start building"),
             ("list item", "Today: 2 h goal · a session starts the bar"),
             ("list item", "All time: 1.5 h, next milestone 10 h"),
@@ -324,7 +324,7 @@ class OfTheWelcome(ScreenReader):
         self.reader.press(self.await_told(WELCOME, "push button", "Stop Vantle"))
         self.reader.press(self.await_told(SUMMARY, "push button", "Close"))
         self.await_told(WELCOME, "heading", "As easy as that")
-        self.step("Continue", "Switch modes from the notch")
+        self.step("Continue", "Switch modes from the top edge")
         samples = []
         for heading in ("Your hours, one click away", "What is behind it", "Your work, wrapped",
                         "That is the whole app"):

@@ -19,9 +19,11 @@ import listed  # noqa: E402
 import literals  # noqa: E402
 import preferences  # noqa: E402
 import programs  # noqa: E402
+import words  # noqa: E402
 from tree import Tree  # noqa: E402
 
-CHECKS = (layers, banned, listed, lengths, literals, docs, house, headers, preferences, programs)
+CHECKS = (layers, banned, listed, lengths, literals, docs, house, headers, preferences, programs,
+          words)
 
 
 def findings(root):

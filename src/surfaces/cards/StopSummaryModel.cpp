@@ -1,6 +1,7 @@
 #include "surfaces/cards/StopSummaryModel.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "ceremony/show/CeremonyFonts.h"
 #include "tracking/DashFormat.h"
 
@@ -23,25 +24,23 @@ StopSummaryModel::StopSummaryModel(const collaborators::StopSummary::Content& co
     : m_content(content)
     , m_skill(skill)
     , m_durationWords(durationOf(content.session, style).split(QLatin1Char(' ')))
-    , m_durationLabel(
-          QStringLiteral("%1 of %2").arg(durationOf(content.session, style), skill.name))
+    , m_durationLabel(Words::tr("%1 of %2").arg(durationOf(content.session, style), skill.name))
     , m_resultText(describedResult(style)) {}
 
 QString StopSummaryModel::describedResult(DurationStyle style) const {
-    if (m_content.newHours == 1) return QStringLiteral("Completed an hour on your wall");
+    if (m_content.newHours == 1) return Words::tr("Completed an hour on your wall");
     if (m_content.newHours > 1)
-        return QStringLiteral("Completed %1 hours on your wall").arg(m_content.newHours);
+        return Words::tr("Completed %1 hours on your wall").arg(m_content.newHours);
     if (m_content.carrySeconds >= 1)
-        return QStringLiteral("%1 into your next dot")
+        return Words::tr("%1 into your next dot")
             .arg(dashformat::sessionDuration(m_content.carrySeconds, style));
-    return QStringLiteral("Added to your wall");
+    return Words::tr("Added to your wall");
 }
 
 QString StopSummaryModel::durationFamily() { return ceremonyfonts::titleFamily(); }
 
 QString StopSummaryModel::firstSessionText() const {
-    return m_content.isFirstSession ? QStringLiteral("Your first session is on the wall.")
-                                    : QString();
+    return m_content.isFirstSession ? Words::tr("Your first session is on the wall.") : QString();
 }
 
 int StopSummaryModel::dotCount() const {
@@ -55,23 +54,21 @@ double StopSummaryModel::sliceFraction() const {
 }
 
 QString StopSummaryModel::invitationText() const {
-    return m_content.spotlightNote
-               ? QStringLiteral("Try the note: one line about what you just did. This first one is "
-                                "just practice.")
-               : QString();
+    return m_content.spotlightNote ? Words::tr("Try the note: one line about what you just did. "
+                                               "This first one is just practice.")
+                                   : QString();
 }
 
 QString StopSummaryModel::lockText() const {
     return m_content.spotlightNote
-               ? QStringLiteral("Notes save privately with each session, after this one.")
-               : QStringLiteral("Saved privately with this session.");
+               ? Words::tr("Notes save privately with each session, after this one.")
+               : Words::tr("Saved privately with this session.");
 }
 
 QString StopSummaryModel::hintText() const {
     return m_content.showHotkeyHint
-               ? QStringLiteral(
-                     "Next time: press option command B to start and stop from anywhere.")
-               : QStringLiteral("Press Return to save");
+               ? Words::tr("Next time: press option command B to start and stop from anywhere.")
+               : Words::tr("Press Return to save");
 }
 
 QString StopSummaryModel::counterText() const {
@@ -81,11 +78,11 @@ QString StopSummaryModel::counterText() const {
 }
 
 QString StopSummaryModel::doneText() const {
-    return hasNote() ? QStringLiteral("Save note") : QStringLiteral("Done");
+    return hasNote() ? Words::tr("Save note") : Words::tr("Done");
 }
 
 QString StopSummaryModel::closeLabel() const {
-    return hasNote() ? QStringLiteral("Close and save note") : QStringLiteral("Close");
+    return hasNote() ? Words::tr("Close and save note") : Words::tr("Close");
 }
 
 QString StopSummaryModel::takeNote(const QString& text) {

@@ -1,5 +1,7 @@
 #include "surfaces/cards/TagPromptModel.h"
 
+#include "base/Words.h"
+
 #include <QColor>
 
 namespace vantle {
@@ -24,26 +26,26 @@ TagPromptModel::TagPromptModel(const QString& appName, const std::vector<Skill>&
     , m_choices(skills) {}
 
 QString TagPromptModel::headline() const {
-    if (m_isBrowser) return QStringLiteral("What is %1 usually?").arg(m_appName);
-    if (m_isCounting) return QStringLiteral("Counting time in %1").arg(m_appName);
-    return QStringLiteral("Count %1 toward a skill?").arg(m_appName);
+    if (m_isBrowser) return Words::tr("What is %1 usually?").arg(m_appName);
+    if (m_isCounting) return Words::tr("Counting time in %1").arg(m_appName);
+    return Words::tr("Count %1 toward a skill?").arg(m_appName);
 }
 
 QString TagPromptModel::subtitle() const {
     if (m_isBrowser)
-        return QStringLiteral("A browser can be anything; pick its usual job or keep it flexible.");
-    if (m_isCounting) return QStringLiteral("Which skill is this?");
-    return QStringLiteral("Auto mode remembers your choice.");
+        return Words::tr("A browser can be anything; pick its usual job or keep it flexible.");
+    if (m_isCounting) return Words::tr("Which skill is this?");
+    return Words::tr("Auto mode remembers your choice.");
 }
 
 QString TagPromptModel::ignoreText() const {
-    return m_isBrowser ? QStringLiteral("Keep it flexible") : QStringLiteral("Ignore this app");
+    return m_isBrowser ? Words::tr("Keep it flexible") : Words::tr("Ignore this app");
 }
 
 QString TagPromptModel::ignoreHelp() const {
-    return m_isBrowser ? QStringLiteral("Auto mode never guesses for this browser; switch "
-                                        "categories from the notch any time")
-                       : QStringLiteral("Auto mode never reacts to this app");
+    return m_isBrowser ? Words::tr("Auto mode never guesses for this browser; switch categories "
+                                   "from the notch any time")
+                       : Words::tr("Auto mode never reacts to this app");
 }
 
 void TagPromptModel::pick(int index) {

@@ -218,7 +218,7 @@ FocusScope {
                 width: content.inner + DarkUI.space20
                 title: modelData
                 key: content.model.doorKey(index)
-                shortcut: key === "" ? "" : "⌘" + key
+                shortcut: key === "" ? "" : qsTr("⌘%1").arg(key)
                 onClicked: content.model.openDoor(index)
             }
         }
@@ -250,7 +250,7 @@ FocusScope {
                 id: quitKeys
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
-                text: "⌘Q"
+                text: qsTr("⌘Q")
                 role: DarkUI.small
                 color: DarkUI.textTertiary
                 Accessible.ignored: true

@@ -3,6 +3,7 @@
 
 #include "app/OpenQuestions.h"
 #include "base/Scheduler.h"
+#include "base/Words.h"
 #include "surfaces/commandcenter/CommandCenterActions.h"
 #include "surfaces/commandcenter/CommandCenterText.h"
 #include "surfaces/skills/SkillEditor.h"
@@ -76,7 +77,7 @@ public:
     [[nodiscard]] QString titleState() const { return commandcentertext::title(m_status).state; }
     [[nodiscard]] QString titleTime() const { return commandcentertext::title(m_status).time; }
     [[nodiscard]] QString subtitle() const { return commandcentertext::subtitle(m_status.state); }
-    [[nodiscard]] static QString shortcut() { return QStringLiteral("⌥⌘B"); }
+    [[nodiscard]] static QString shortcut() { return Words::tr("⌥⌘B"); }
     [[nodiscard]] QString primaryText() const;
     [[nodiscard]] QColor primaryColor() const;
     [[nodiscard]] bool isPaused() const { return m_status.state == TrackerCore::State::Paused; }

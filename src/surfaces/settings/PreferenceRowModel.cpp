@@ -1,5 +1,6 @@
 #include "surfaces/settings/PreferenceRowModel.h"
 
+#include "base/Words.h"
 #include "surfaces/settings/DesktopGaps.h"
 #include "tracking/Settings.h"
 
@@ -25,7 +26,8 @@ PreferenceRowModel::PreferenceRowModel(const Entry& entry, Preferences& preferen
 QString PreferenceRowModel::caption() const {
     if (m_entry.gapReplacesCaption)
         if (QString gap = gapHere(); !gap.isEmpty()) return gap;
-    return worded(m_entry.caption);
+    const bool one = m_entry.captionOfOne && wholeValue() == 1;
+    return worded(one ? m_entry.captionOfOne : m_entry.caption);
 }
 
 QString PreferenceRowModel::gap() const {
@@ -68,12 +70,22 @@ QString PreferenceRowModel::valueText() const {
     return range()->text(value(), settings::durationStyle.read(m_preferences));
 }
 
-QString PreferenceRowModel::worded(QString text) const {
-    if (!range()) return text;
-    const int number = std::max(static_cast<int>(std::lround(value())), 1);
-    text.replace(QLatin1String("%1"), QString::number(number));
-    text.replace(QLatin1String("%2"), number == 1 ? QString() : QStringLiteral("s"));
-    return text;
+QString PreferenceRowModel::note() const { return Words::tr(m_entry.note); }
+
+QString PreferenceRowModel::lessName() const {
+    return range() ? Words::tr(range()->lessName) : QString();
+}
+
+QString PreferenceRowModel::moreName() const {
+    return range() ? Words::tr(range()->moreName) : QString();
+}
+
+int PreferenceRowModel::wholeValue() const {
+    return std::max(static_cast<int>(std::lround(value())), 1);
+}
+
+QString PreferenceRowModel::worded(const char* source) const {
+    return range() ? Words::tr(source, nullptr, wholeValue()) : Words::tr(source);
 }
 
 } // namespace vantle

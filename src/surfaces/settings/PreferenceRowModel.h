@@ -65,18 +65,19 @@ public:
         double most;
         double step;
         QString (*text)(double value, DurationStyle style) = nullptr;
-        QString lessName = {};
-        QString moreName = {};
+        const char* lessName = ""; ///< source texts, like those of an entry
+        const char* moreName = "";
     };
-    /// A row of the table. In title and caption "%1" is the value as a whole number of at least 1,
-    /// "%2" the ending of its plural.
+    /// A row of the table, with the sources of its texts. In title and caption "%n" is the value as
+    /// a whole number of at least 1.
     struct Entry {
         Section section;
         Kind kind;
         std::variant<OnOff, Range> setting;
-        QString title;
-        QString caption;
-        QString note = {};
+        const char* title;
+        const char* caption;
+        const char* captionOfOne = nullptr; ///< the caption where the value is 1, if that differs
+        const char* note = "";
         QString (DesktopGaps::*gap)() const = nullptr;
         bool gapReplacesCaption = false;
     };
@@ -89,7 +90,7 @@ public:
     [[nodiscard]] Kind kind() const { return m_entry.kind; }
     [[nodiscard]] QString title() const { return worded(m_entry.title); }
     [[nodiscard]] QString caption() const;
-    [[nodiscard]] QString note() const { return m_entry.note; }
+    [[nodiscard]] QString note() const;
     [[nodiscard]] QString gap() const;
 
     [[nodiscard]] bool isOn() const;
@@ -106,8 +107,8 @@ public:
     [[nodiscard]] bool isLowest() const { return value() <= least(); }
     [[nodiscard]] bool isHighest() const { return value() >= most(); }
     [[nodiscard]] QString valueText() const;
-    [[nodiscard]] QString lessName() const { return range() ? range()->lessName : QString(); }
-    [[nodiscard]] QString moreName() const { return range() ? range()->moreName : QString(); }
+    [[nodiscard]] QString lessName() const;
+    [[nodiscard]] QString moreName() const;
 
 Q_SIGNALS:
     void changed();
@@ -115,7 +116,8 @@ Q_SIGNALS:
 private:
     [[nodiscard]] const Range* range() const { return std::get_if<Range>(&m_entry.setting); }
     void store(double value);
-    [[nodiscard]] QString worded(QString text) const;
+    [[nodiscard]] int wholeValue() const;
+    [[nodiscard]] QString worded(const char* source) const;
     [[nodiscard]] QString gapHere() const;
 
     const Entry& m_entry;

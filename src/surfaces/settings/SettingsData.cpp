@@ -1,6 +1,7 @@
 // Export and erase in the settings.
 #include "app/AppModel.h"
 #include "base/SerialQueue.h"
+#include "base/Words.h"
 #include "platform/FileSystem.h"
 #include "surfaces/settings/SettingsView.h"
 #include "tracking/AppPaths.h"
@@ -18,8 +19,8 @@ Result<> SettingsView::ensureLog() const {
 void SettingsView::exportData() {
     const Result<> there = ensureLog();
     m_exportFailed = !there;
-    m_exportFeedback = there ? QStringLiteral("Revealed in Finder")
-                             : QStringLiteral("Couldn't export: ") + there.error().description();
+    m_exportFeedback = there ? Words::tr("Revealed in Finder")
+                             : Words::tr("Couldn't export: ") + there.error().description();
     Q_EMIT exportChanged();
     if (there) m_env.reveal(m_env.paths.sessionsFile());
 }
@@ -34,7 +35,7 @@ void SettingsView::confirmErase() {
     m_confirmingErase = false;
     const auto failure = m_env.eraseAllData();
     m_eraseSucceeded = !failure;
-    m_eraseStatus = failure.value_or(QStringLiteral("Erased all local Vantle data."));
+    m_eraseStatus = failure.value_or(Words::tr("Erased all local Vantle data."));
     // What was exported is gone with the rest.
     m_exportFailed = false;
     m_exportFeedback.reset();

@@ -1,4 +1,5 @@
 // The table of the settings: what is on the page, in which words, and what it stores.
+#include "base/Words.h"
 #include "surfaces/settings/DesktopGaps.h"
 #include "surfaces/settings/PreferenceRowModel.h"
 #include "tracking/DashFormat.h"
@@ -19,20 +20,24 @@ QList<Entry> focusRows() {
         {.section = PreferenceRowModel::Focus,
          .kind = PreferenceRowModel::Slider,
          .setting = Range{settings::idleThresholdSeconds, kSecondsPerMinute, 1, 10, 1},
-         .title = QStringLiteral("Auto-pause after %1 min"),
-         .caption = QStringLiteral("No input for %1 minute%2 pauses the clock, backdated to your "
-                                   "last keystroke or click so away time is never counted. "
-                                   "Default is 3."),
+         .title = QT_TRANSLATE_NOOP("Words", "Auto-pause after %n min"),
+         .caption = QT_TRANSLATE_NOOP(
+             "Words", "No input for %n minutes pauses the clock, backdated to your last keystroke "
+                      "or click so away time is never counted. Default is 3."),
+         .captionOfOne = QT_TRANSLATE_NOOP(
+             "Words", "No input for 1 minute pauses the clock, backdated to your last keystroke or "
+                      "click so away time is never counted. Default is 3."),
          .gap = &DesktopGaps::idleAdvice,
          .gapReplacesCaption = true},
         {.section = PreferenceRowModel::Focus,
          .kind = PreferenceRowModel::Stepper,
          .setting = Range{settings::dailyGoalHours, 1, 0.5, 12, 0.5, &dashformat::inlineHours,
-                          QStringLiteral("Daily goal, half an hour less"),
-                          QStringLiteral("Daily goal, half an hour more")},
-         .title = QStringLiteral("Daily goal"),
-         .caption = QStringLiteral("The dashboard's Today card measures against this goal, and "
-                                   "This week against seven of it. Default is 2 hours.")},
+                          QT_TRANSLATE_NOOP("Words", "Daily goal, half an hour less"),
+                          QT_TRANSLATE_NOOP("Words", "Daily goal, half an hour more")},
+         .title = QT_TRANSLATE_NOOP("Words", "Daily goal"),
+         .caption = QT_TRANSLATE_NOOP(
+             "Words", "The dashboard's Today card measures against this goal, and This "
+                      "week against seven of it. Default is 2 hours.")},
     };
 }
 
@@ -41,21 +46,21 @@ QList<Entry> ceremonyRows() {
         {.section = PreferenceRowModel::Ceremony,
          .kind = PreferenceRowModel::Switch,
          .setting = OnOff{settings::rippleDisabled, true},
-         .title = QStringLiteral("Ripple ceremony"),
-         .caption =
-             QStringLiteral("Presenter mode: turn this off before a screen share and the ceremony "
-                            "never crashes your call. It's a manual switch on purpose: macOS can "
-                            "only detect screen sharing through an API that itself triggers the "
-                            "Screen Recording permission prompt, the exact pop-up this app "
-                            "promises never to show."),
+         .title = QT_TRANSLATE_NOOP("Words", "Ripple ceremony"),
+         .caption = QT_TRANSLATE_NOOP(
+             "Words", "Presenter mode: turn this off before a screen share and the ceremony never "
+                      "crashes your call. It's a manual switch on purpose: macOS can only detect "
+                      "screen sharing through an API that itself triggers the Screen Recording "
+                      "permission prompt, the exact pop-up this app promises never to show."),
          .gap = &DesktopGaps::ceremonyAdvice},
         {.section = PreferenceRowModel::Ceremony,
          .kind = PreferenceRowModel::Switch,
          .setting = OnOff{settings::ceremonyBlackout},
-         .title = QStringLiteral("Black out the screen"),
-         .caption = QStringLiteral("The ritual plays on a fully black screen instead of over your "
-                                   "dimmed desktop. Your windows come back the moment it ends. "
-                                   "Turn this on when the apps behind the dots feel busy.")},
+         .title = QT_TRANSLATE_NOOP("Words", "Black out the screen"),
+         .caption = QT_TRANSLATE_NOOP(
+             "Words", "The ritual plays on a fully black screen instead of over your "
+                      "dimmed desktop. Your windows come back the moment it ends. Turn "
+                      "this on when the apps behind the dots feel busy.")},
     };
 }
 
@@ -64,8 +69,9 @@ QList<Entry> autoModeRows() {
         {.section = PreferenceRowModel::AutoMode,
          .kind = PreferenceRowModel::Switch,
          .setting = OnOff{settings::autoMode},
-         .title = QStringLiteral("Auto mode"),
-         .caption = QStringLiteral(
+         .title = QT_TRANSLATE_NOOP("Words", "Auto mode"),
+         .caption = QT_TRANSLATE_NOOP(
+             "Words",
              "On from the first launch; this switch turns it off. Vantle notices which app is in "
              "front and files the time under the right category on its own. It already knows the "
              "common tools: Claude, Codex and Xcode count as Build, Figma as Design, Slack and "
@@ -73,15 +79,16 @@ QList<Entry> autoModeRows() {
              "does not recognize, it asks you about once, right when you are in it. Stay in a "
              "mapped app for about 45 seconds and a running session switches by itself. Every "
              "mapping is yours to change below."),
-         .note = QStringLiteral("It reads only the app's name. No window titles, no tabs, no "
-                                "documents, no screen. App names never leave this Mac."),
+         .note = QT_TRANSLATE_NOOP(
+             "Words", "It reads only the app's name. No window titles, no tabs, no documents, "
+                      "no screen. App names never leave this Mac."),
          .gap = &DesktopGaps::autoModeAdvice},
         {.section = PreferenceRowModel::AutoMode,
          .kind = PreferenceRowModel::Switch,
          .setting = OnOff{settings::autoStart},
-         .title = QStringLiteral("Start sessions automatically"),
-         .caption =
-             QStringLiteral("After about 2 minutes in a mapped app, vantle starts on its own."),
+         .title = QT_TRANSLATE_NOOP("Words", "Start sessions automatically"),
+         .caption = QT_TRANSLATE_NOOP(
+             "Words", "After about 2 minutes in a mapped app, vantle starts on its own."),
          .gap = &DesktopGaps::autoStartAdvice},
     };
 }

@@ -1,5 +1,6 @@
 // The words of the settings, apart from those of the table.
 #include "app/AppModel.h"
+#include "base/Words.h"
 #include "surfaces/settings/SettingsView.h"
 
 namespace vantle {
@@ -7,21 +8,21 @@ namespace vantle {
 QString SettingsView::title(Row row) {
     switch (row) {
     case FocusLinkRow:
-        return QStringLiteral("Focus with sessions");
+        return Words::tr("Focus with sessions");
     case StartShortcutRow:
-        return QStringLiteral("When a session starts");
+        return Words::tr("When a session starts");
     case StopShortcutRow:
-        return QStringLiteral("When it stops");
+        return Words::tr("When it stops");
     case LoginRow:
-        return QStringLiteral("Launch at login");
+        return Words::tr("Launch at login");
     case HotKeyRow:
-        return QStringLiteral("Global hotkey");
+        return Words::tr("Global hotkey");
     case TrayRow:
-        return QStringLiteral("Tray");
+        return Words::tr("Tray");
     case DurationRow:
-        return QStringLiteral("How time reads");
+        return Words::tr("How time reads");
     case WelcomeRow:
-        return QStringLiteral("Welcome");
+        return Words::tr("Welcome");
     case ExportRow:
     case EraseRow:
         return {};
@@ -32,25 +33,24 @@ QString SettingsView::title(Row row) {
 QString SettingsView::caption(Row row) {
     switch (row) {
     case FocusLinkRow:
-        return QStringLiteral("Runs a Shortcut of yours when a session starts, and another when it "
-                              "stops. Make them in the Shortcuts app with the Set Focus action; "
-                              "macOS does the silencing, and Vantle never sees your notifications. "
-                              "Nothing is blocked.");
+        return Words::tr(
+            "Runs a Shortcut of yours when a session starts, and another when it stops. Make them "
+            "in the Shortcuts app with the Set Focus action; macOS does the silencing, and Vantle "
+            "never sees your notifications. Nothing is blocked.");
     case LoginRow:
-        return QStringLiteral("Registers with macOS as a login item (you'll see the standard "
-                              "\"background item added\" notice once).");
+        return Words::tr("Registers with macOS as a login item (you'll see the standard "
+                         "\"background item added\" notice once).");
     case HotKeyRow:
-        return QStringLiteral("Starts or stops vantle from inside any app. Fixed in this version.");
+        return Words::tr("Starts or stops vantle from inside any app. Fixed in this version.");
     case DurationRow:
-        return QStringLiteral("Every duration in Vantle reads this way: the dashboard, the notch, "
-                              "Wrapped, and the card after each session. Clock is the only one "
-                              "that counts seconds while you work.");
+        return Words::tr(
+            "Every duration in Vantle reads this way: the dashboard, the notch, Wrapped, and the "
+            "card after each session. Clock is the only one that counts seconds while you work.");
     case ExportRow:
-        return QStringLiteral("Your whole log, one JSON line per session.");
+        return Words::tr("Your whole log, one JSON line per session.");
     case EraseRow:
-        return QStringLiteral("Deletes all local sessions, skills, app categories, and "
-                              "preferences. Everything this app knows lives on this Mac, so this "
-                              "removes all of it.");
+        return Words::tr("Deletes all local sessions, skills, app categories, and preferences. "
+                         "Everything this app knows lives on this Mac, so this removes all of it.");
     case StartShortcutRow:
     case StopShortcutRow:
     case TrayRow:    // says what is missing
@@ -63,13 +63,13 @@ QString SettingsView::caption(Row row) {
 QString SettingsView::action(Row row) {
     switch (row) {
     case FocusLinkRow:
-        return QStringLiteral("Open Shortcuts");
+        return Words::tr("Open Shortcuts");
     case WelcomeRow:
-        return QStringLiteral("Show the welcome again");
+        return Words::tr("Show the welcome again");
     case ExportRow:
-        return QStringLiteral("Export my data");
+        return Words::tr("Export my data");
     case EraseRow:
-        return QStringLiteral("Erase everything");
+        return Words::tr("Erase everything");
     default:
         return {};
     }
@@ -78,34 +78,34 @@ QString SettingsView::action(Row row) {
 QString SettingsView::help(Row row) {
     switch (row) {
     case DurationRow:
-        return QStringLiteral("How durations are written");
+        return Words::tr("How durations are written");
     case ExportRow:
-        return QStringLiteral("Reveal the local session log in Finder");
+        return Words::tr("Reveal the local session log in Finder");
     case EraseRow:
-        return QStringLiteral("Delete every local data file this app has written");
+        return Words::tr("Delete every local data file this app has written");
     default:
         return {};
     }
 }
 
 QString SettingsView::eraseQuestion() {
-    return QStringLiteral("Erase everything? This cannot be undone.");
+    return Words::tr("Erase everything? This cannot be undone.");
 }
 
 QString SettingsView::hotKeyText() const {
-    if (isHotKeyActive()) return QStringLiteral("⌥⌘B · active");
-    return m_env.model.hotKey().isRegistered() ? QStringLiteral("⌥⌘B · only over some apps")
-                                               : QStringLiteral("⌥⌘B unavailable");
+    if (isHotKeyActive()) return Words::tr("⌥⌘B · active");
+    return m_env.model.hotKey().isRegistered() ? Words::tr("⌥⌘B · only over some apps")
+                                               : Words::tr("⌥⌘B unavailable");
 }
 
 QString SettingsView::welcomeCaption() const {
     return m_welcomeReplayArmed
-               ? QStringLiteral("The welcome window is open.")
-               : QStringLiteral("Opens the welcome again, right away. Your log is untouched.");
+               ? Words::tr("The welcome window is open.")
+               : Words::tr("Opens the welcome again, right away. Your log is untouched.");
 }
 
 QString SettingsView::versionLine() {
-    return QStringLiteral("Vantle %1 (%2)")
+    return Words::tr("Vantle %1 (%2)")
         .arg(QLatin1String(VANTLE_VERSION), QLatin1String(VANTLE_BUILD));
 }
 

@@ -7,8 +7,7 @@ import Vantle.Welcome
 Item {
     id: key
 
-    required property string sign
-    property string word
+    required property string sign // or its name: "B", "Super"
     property bool lit: false
 
     implicitWidth: WelcomeTokens.key
@@ -34,24 +33,11 @@ Item {
         edge: key.lit ? DarkUI.accent : DarkUI.keycapEdge
     }
 
-    Column {
+    DarkText {
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -DarkUI.hairlineWidth
-        spacing: DarkUI.space4
-
-        DarkText {
-            anchors.horizontalCenter: parent.horizontalCenter
-            text: key.sign
-            role: WelcomeTokens.keySign
-            Accessible.ignored: true
-        }
-        DarkText {
-            anchors.horizontalCenter: parent.horizontalCenter
-            visible: text !== ""
-            text: key.word
-            role: DarkUI.caption
-            color: DarkUI.textTertiary
-            Accessible.ignored: true
-        }
+        text: key.sign
+        role: text.length > 1 ? WelcomeTokens.keyWord : WelcomeTokens.keySign
+        Accessible.ignored: true
     }
 }

@@ -17,12 +17,10 @@ Item {
         spacing: WelcomeTokens.keyGap
 
         BigKey {
-            sign: "⌥"
-            word: qsTr("alt")
+            sign: qsTr("⌥")
         }
         BigKey {
-            sign: "⌘"
-            word: qsTr("super")
+            sign: qsTr("⌘")
         }
         BigKey {
             sign: "B"

@@ -56,7 +56,7 @@ GlassBackground {
             }
             Keycap {
                 anchors.right: parent.right
-                text: "⌥⌘B"
+                text: qsTr("⌥⌘B")
             }
         }
 
@@ -120,7 +120,7 @@ GlassBackground {
 
         Door {
             title: qsTr("Dashboard")
-            shortcut: "⌘D"
+            shortcut: qsTr("⌘D")
         }
         Door {
             title: qsTr("Wrapped")
@@ -130,7 +130,7 @@ GlassBackground {
         }
         Door {
             title: qsTr("Settings")
-            shortcut: "⌘,"
+            shortcut: qsTr("⌘,")
         }
 
         Item {
@@ -162,7 +162,7 @@ GlassBackground {
                 anchors.right: parent.right
                 anchors.rightMargin: panel.margin
                 anchors.verticalCenter: promise.verticalCenter
-                text: "⌘Q"
+                text: qsTr("⌘Q")
                 role: DarkUI.small
                 color: DarkUI.textTertiary
             }

@@ -54,6 +54,7 @@ QtObject {
     readonly property real litSide: 0.08 // opacities of the accent
     readonly property real litTop: 0.12
     readonly property TypeRole keySign: DisplayRole { size: 32; line: 36; weight: Font.Medium }
+    readonly property TypeRole keyWord: DisplayRole { size: 22; line: 28; weight: Font.Medium }
 
     readonly property TypeRole clock: DisplayRole { size: 70; line: 78; tracking: -0.018 }
     readonly property TypeRole clockSkill: TypeRole { size: 12; line: 16; tracking: 0.09 }

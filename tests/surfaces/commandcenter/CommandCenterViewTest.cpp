@@ -1,4 +1,5 @@
 // The panel by pointer and keys.
+#include "launch/Catalogues.h"
 #include "support/ReadElements.h"
 #include "support/ShownView.h"
 #include "support/Text.h"
@@ -104,6 +105,32 @@ TEST_F(CommandCenterViewTest, KeysAreToldInWordsThatTheKeyboardHas) {
         EXPECT_FALSE(one.name.contains(u'⌘')) << one.name.toStdString();
         EXPECT_FALSE(one.description.contains(u'⌘')) << one.description.toStdString();
     }
+}
+
+TEST_F(CommandCenterViewTest, KeysThatAreShownOpenTheirWindows) {
+    const Catalogues catalogues({});
+    show();
+    int tried = 0;
+    for (const QString& title : content->doors()) {
+        const QString keys = m_shown->control(title)->property("shortcut").toString();
+        if (keys.isEmpty()) continue;
+        const QKeyCombination pressed = QKeySequence(keys)[0];
+        ASSERT_EQ(pressed.keyboardModifiers(), Qt::ControlModifier) << keys.toStdString();
+        opened.clear();
+        m_shown->press(pressed.key(), pressed.keyboardModifiers());
+        EXPECT_EQ(opened.size(), 1) << keys.toStdString();
+        ++tried;
+    }
+    EXPECT_EQ(tried, 1);
+    EXPECT_TRUE(m_shown->shows(text("Ctrl+Q")));
+    m_shown->press(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(calls, QStringList{text("quit")});
+    EXPECT_TRUE(m_shown->shows(text("Alt+Super+B")));
+    const QQuickItem* const signs =
+        shownItem(m_shown->window().contentItem(), [](const QQuickItem& item) {
+            return item.property("text").toString().contains(u'⌘');
+        });
+    EXPECT_EQ(signs, nullptr);
 }
 
 TEST_F(CommandCenterViewTest, KeyboardGoesBackToTheChipWhoseEditorCloses) {

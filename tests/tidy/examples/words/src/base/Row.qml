@@ -1,0 +1,4 @@
+Item {
+    property string keys: "⌘D"
+    property string others: qsTr("⌘Q")
+}
