@@ -1,7 +1,7 @@
 // The native show on one screen: the field of dots, the title pill and the caption over it.
 #pragma once
 
-#include "ceremony/OverlayView.h"
+#include "platform/OverlayView.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 // The end of a session: one ring that closes on the centre of the screen.
 #pragma once
 
-#include "ceremony/OverlayView.h"
+#include "platform/OverlayView.h"
 
 #include <QRgb>
 #include <QSizeF>

@@ -1,7 +1,7 @@
 #include "ceremony/ModuleWebStage.h"
 
-#include "ceremony/OverlayScreens.h"
 #include "ceremony/WebCeremonyModule.h"
+#include "platform/WholeScreen.h"
 
 #include <QCoreApplication>
 #include <QPluginLoader>
@@ -24,7 +24,7 @@ bool ModuleWebStage::hasPage() {
 
 std::unique_ptr<OverlayWindow> ModuleWebStage::putUp(const QRect& frame, const QString& script,
                                                      MessageHandler message) {
-    QScreen* const screen = overlayscreens::withFrame(frame);
+    QScreen* const screen = wholescreen::withFrame(frame);
     std::unique_ptr<OverlayWindow> window;
     if (m_module && screen)
         window = m_module->putUp(*screen, m_host, m_findPage(), script, std::move(message));

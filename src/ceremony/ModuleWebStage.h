@@ -1,7 +1,7 @@
 // Pages shown by the module with the web engine, as far as both are there.
 #pragma once
 
-#include "ceremony/OverlayStage.h"
+#include "platform/OverlayStage.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 // What people see who asked for less movement: the screen dims softly, and lights up again.
 #pragma once
 
-#include "ceremony/OverlayView.h"
+#include "platform/OverlayView.h"
 
 #include <QRgb>
 

@@ -3,8 +3,8 @@
 
 #include "app/Collaborators.h"
 #include "base/Scheduler.h"
-#include "ceremony/OverlayStage.h"
 #include "ceremony/show/CeremonyVariant.h"
+#include "platform/OverlayStage.h"
 
 #include <QObject>
 #include <QSizeF>

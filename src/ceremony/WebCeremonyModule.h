@@ -1,7 +1,7 @@
 // What the module with the web engine offers the program, which is built without one.
 #pragma once
 
-#include "ceremony/OverlayStage.h"
+#include "platform/OverlayStage.h"
 
 #include <QtPlugin>
 

@@ -4,7 +4,7 @@
 #include "base/RandomSource.h"
 #include "base/SerialQueue.h"
 #include "ceremony/ModuleWebStage.h"
-#include "ceremony/RasterStage.h"
+#include "platform/session/QtOverlayStage.h"
 
 #include <memory>
 
@@ -40,7 +40,7 @@ private:
     const Clock& m_clock;
     Scheduler& m_scheduler;
     SystemRandom m_random;
-    RasterStage m_stage;
+    QtOverlayStage m_stage;
     ModuleWebStage m_web;
     const std::unique_ptr<SerialQueue> m_prepQueue;
 };

@@ -3,9 +3,9 @@
 
 #include "ceremony/CeremonyLayerView.h"
 #include "ceremony/CollapseRippleView.h"
-#include "ceremony/OverlayStage.h"
 #include "ceremony/ReducedMotionFadeView.h"
 #include "ceremony/show/CeremonyFrameRenderer.h"
+#include "platform/OverlayStage.h"
 
 #include <QList>
 

@@ -1,7 +1,7 @@
 #include "ceremony/web/WebOverlayWindow.h"
 
-#include "ceremony/OverlayScreens.h"
 #include "ceremony/web/LocalFilesOnly.h"
+#include "platform/WholeScreen.h"
 
 #include <QGuiApplication>
 #include <QJsonArray>
@@ -34,7 +34,7 @@ QString firstScript(const QString& configuration, const QString& prefix) {
 WebOverlayWindow::WebOverlayWindow(QScreen& screen, PanelHost& host, const QString& page,
                                    const QString& script, WebStage::MessageHandler message)
     : m_message(std::move(message)) {
-    overlayscreens::cover(*this, screen, host);
+    wholescreen::cover(*this, screen, host);
     setColor(Qt::transparent);
     setResizeMode(QQuickView::SizeRootObjectToView);
     const QString prefix = QUuid::createUuid().toString(QUuid::WithoutBraces);

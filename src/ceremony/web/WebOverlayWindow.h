@@ -1,7 +1,7 @@
 // One page over one screen.
 #pragma once
 
-#include "ceremony/OverlayStage.h"
+#include "platform/OverlayStage.h"
 
 #include <QQuickView>
 

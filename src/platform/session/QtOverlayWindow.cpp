@@ -1,8 +1,8 @@
-#include "ceremony/RasterOverlayWindow.h"
+#include "platform/session/QtOverlayWindow.h"
 
 #include "base/Clock.h"
-#include "ceremony/OverlayScreens.h"
 #include "platform/PanelHost.h"
+#include "platform/WholeScreen.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -10,24 +10,24 @@
 
 namespace vantle {
 
-RasterOverlayWindow::RasterOverlayWindow(QScreen& screen, std::unique_ptr<OverlayView> view,
-                                         const Clock& clock, PanelHost& host)
+QtOverlayWindow::QtOverlayWindow(QScreen& screen, std::unique_ptr<OverlayView> view,
+                                 const Clock& clock, PanelHost& host)
     : m_view(std::move(view))
     , m_clock(clock)
     , m_host(host) {
-    overlayscreens::cover(*this, screen, m_host);
+    wholescreen::cover(*this, screen, m_host);
     // Left alone, the window would move to another screen when its own goes.
     connect(qApp, &QGuiApplication::screenRemoved, this, [this, &screen](QScreen* removed) {
         if (removed == &screen) end();
     });
-    connect(&screen, &QScreen::geometryChanged, this, &RasterOverlayWindow::end);
+    connect(&screen, &QScreen::geometryChanged, this, &QtOverlayWindow::end);
 }
 
-RasterOverlayWindow::~RasterOverlayWindow() = default;
+QtOverlayWindow::~QtOverlayWindow() = default;
 
-Seconds RasterOverlayWindow::elapsed() const { return m_clock.now() - m_view->start(); }
+Seconds QtOverlayWindow::elapsed() const { return m_clock.now() - m_view->start(); }
 
-void RasterOverlayWindow::refresh() {
+void QtOverlayWindow::refresh() {
     if (isOver()) return;
     if (elapsed() >= m_view->endTime()) return end();
     if (!takeShape()) return hide();
@@ -36,7 +36,7 @@ void RasterOverlayWindow::refresh() {
 }
 
 /// Limits the window to what can be shown. False when that is nothing.
-bool RasterOverlayWindow::takeShape() {
+bool QtOverlayWindow::takeShape() {
     QRegion shape; // empty: no limits
     m_isSolid = !m_host.isComposited();
     if (m_isSolid) {
@@ -47,7 +47,7 @@ bool RasterOverlayWindow::takeShape() {
     return true;
 }
 
-void RasterOverlayWindow::paintEvent(QPaintEvent*) {
+void QtOverlayWindow::paintEvent(QPaintEvent*) {
     if (isOver()) return;
     QPainter painter(this);
     if (m_isSolid)
@@ -56,7 +56,7 @@ void RasterOverlayWindow::paintEvent(QPaintEvent*) {
         m_view->paint(painter, size(), elapsed());
 }
 
-void RasterOverlayWindow::end() {
+void QtOverlayWindow::end() {
     m_view.reset();
     destroy(); // the picture of the window too
 }

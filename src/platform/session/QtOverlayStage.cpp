@@ -1,8 +1,8 @@
-#include "ceremony/RasterStage.h"
+#include "platform/session/QtOverlayStage.h"
 
 #include "base/Scheduler.h"
-#include "ceremony/OverlayScreens.h"
-#include "ceremony/RasterOverlayWindow.h"
+#include "platform/WholeScreen.h"
+#include "platform/session/QtOverlayWindow.h"
 
 #include <algorithm>
 #include <malloc.h>
@@ -17,7 +17,7 @@ constexpr Seconds kFrame{1.0 / 60};
 } // namespace
 
 /// The windows that are up at one time, driven by one timer.
-class RasterStage::Show {
+class QtOverlayStage::Show {
 public:
     explicit Show(Scheduler& scheduler) : m_scheduler(scheduler) {}
     /// What windows and views took lies between other blocks of the heap, which would keep it.
@@ -27,29 +27,29 @@ public:
     Show(const Show&) = delete;
     Show& operator=(const Show&) = delete;
 
-    void add(RasterOverlayWindow& window) {
+    void add(QtOverlayWindow& window) {
         m_windows.push_back(&window);
         window.refresh();
         if (m_frames) return;
         m_frames = m_scheduler.scheduleRepeatingTimer(kFrame, Seconds::zero(), [this] { step(); });
     }
-    void remove(RasterOverlayWindow& window) { std::erase(m_windows, &window); }
+    void remove(QtOverlayWindow& window) { std::erase(m_windows, &window); }
 
 private:
     void step() {
-        for (RasterOverlayWindow* window : m_windows)
+        for (QtOverlayWindow* window : m_windows)
             window->refresh();
-        if (std::ranges::all_of(m_windows, &RasterOverlayWindow::isOver)) m_frames.reset();
+        if (std::ranges::all_of(m_windows, &QtOverlayWindow::isOver)) m_frames.reset();
     }
 
     Scheduler& m_scheduler;
-    std::vector<RasterOverlayWindow*> m_windows;
+    std::vector<QtOverlayWindow*> m_windows;
     TimerHandle m_frames;
 };
 
-class RasterStage::Place final : public OverlayWindow {
+class QtOverlayStage::Place final : public OverlayWindow {
 public:
-    Place(std::shared_ptr<Show> show, std::unique_ptr<RasterOverlayWindow> window)
+    Place(std::shared_ptr<Show> show, std::unique_ptr<QtOverlayWindow> window)
         : m_show(std::move(show))
         , m_window(std::move(window)) {
         m_show->add(*m_window);
@@ -60,23 +60,23 @@ public:
 
 private:
     const std::shared_ptr<Show> m_show;
-    const std::unique_ptr<RasterOverlayWindow> m_window;
+    const std::unique_ptr<QtOverlayWindow> m_window;
 };
 
-RasterStage::RasterStage(const Clock& clock, Scheduler& scheduler, PanelHost& host)
+QtOverlayStage::QtOverlayStage(const Clock& clock, Scheduler& scheduler, PanelHost& host)
     : m_clock(clock)
     , m_scheduler(scheduler)
     , m_host(host) {}
 
-RasterStage::~RasterStage() = default;
+QtOverlayStage::~QtOverlayStage() = default;
 
-std::unique_ptr<OverlayWindow> RasterStage::putUp(const QRect& frame,
-                                                  std::unique_ptr<OverlayView> view) {
-    QScreen* const screen = overlayscreens::withFrame(frame);
+std::unique_ptr<OverlayWindow> QtOverlayStage::putUp(const QRect& frame,
+                                                     std::unique_ptr<OverlayView> view) {
+    QScreen* const screen = wholescreen::withFrame(frame);
     if (!screen) return std::make_unique<OverlayWindow>();
     std::shared_ptr<Show> show = m_show.lock();
     if (!show) m_show = show = std::make_shared<Show>(m_scheduler);
-    return std::make_unique<Place>(std::move(show), std::make_unique<RasterOverlayWindow>(
+    return std::make_unique<Place>(std::move(show), std::make_unique<QtOverlayWindow>(
                                                         *screen, std::move(view), m_clock, m_host));
 }
 

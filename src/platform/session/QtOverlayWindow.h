@@ -1,7 +1,7 @@
 // One window over one screen.
 #pragma once
 
-#include "ceremony/OverlayView.h"
+#include "platform/OverlayView.h"
 
 #include <QRasterWindow>
 
@@ -13,14 +13,14 @@ class Clock;
 class PanelHost;
 
 /// Shows the present moment of a view whenever refresh() is called. Main thread.
-class RasterOverlayWindow final : public QRasterWindow {
+class QtOverlayWindow final : public QRasterWindow {
     Q_OBJECT
 
 public:
     /// Not visible yet. `clock` and `host` must outlive this.
-    RasterOverlayWindow(QScreen& screen, std::unique_ptr<OverlayView> view, const Clock& clock,
-                        PanelHost& host);
-    ~RasterOverlayWindow() override;
+    QtOverlayWindow(QScreen& screen, std::unique_ptr<OverlayView> view, const Clock& clock,
+                    PanelHost& host);
+    ~QtOverlayWindow() override;
 
     /// Shows the next frame, or hides the window when its view is over.
     void refresh();

@@ -1,4 +1,4 @@
-#include "ceremony/OverlayScreens.h"
+#include "platform/WholeScreen.h"
 
 #include "platform/PanelHost.h"
 
@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-namespace vantle::overlayscreens {
+namespace vantle::wholescreen {
 
 QScreen* withFrame(const QRect& frame) {
     const QList<QScreen*> screens = QGuiApplication::screens();
@@ -27,4 +27,4 @@ void cover(QWindow& window, const QScreen& screen, PanelHost& host) {
                               .felt = QRegion()});
 }
 
-} // namespace vantle::overlayscreens
+} // namespace vantle::wholescreen

@@ -1,7 +1,7 @@
 // How the ceremony's views and pages come over the screens.
 #pragma once
 
-#include "ceremony/OverlayView.h"
+#include "platform/OverlayView.h"
 
 #include <QJsonValue>
 #include <QRect>

@@ -10,7 +10,7 @@ namespace vantle {
 class PanelHost;
 }
 
-namespace vantle::overlayscreens {
+namespace vantle::wholescreen {
 
 /// The first screen with that frame; null where it is gone. Main thread.
 [[nodiscard]] QScreen* withFrame(const QRect& frame);
@@ -19,4 +19,4 @@ namespace vantle::overlayscreens {
 /// everything, see-through, without pointer and keyboard. Main thread.
 void cover(QWindow& window, const QScreen& screen, PanelHost& host);
 
-} // namespace vantle::overlayscreens
+} // namespace vantle::wholescreen

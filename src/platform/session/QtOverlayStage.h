@@ -1,7 +1,7 @@
 // The ceremony's views in real windows, painted by the processor.
 #pragma once
 
-#include "ceremony/OverlayStage.h"
+#include "platform/OverlayStage.h"
 
 #include <memory>
 
@@ -14,11 +14,11 @@ class Scheduler;
 /// Up to 60 frames a second while a show runs and none otherwise; when the last window is gone, its
 /// memory goes back to the system. Where nobody blends windows, one would be a black sheet: there
 /// it is cut down to the solid part of its view, and to nothing where that is empty.
-class RasterStage final : public OverlayStage {
+class QtOverlayStage final : public OverlayStage {
 public:
     /// All must outlive this.
-    RasterStage(const Clock& clock, Scheduler& scheduler, PanelHost& host);
-    ~RasterStage() override;
+    QtOverlayStage(const Clock& clock, Scheduler& scheduler, PanelHost& host);
+    ~QtOverlayStage() override;
 
     [[nodiscard]] std::unique_ptr<OverlayWindow> putUp(const QRect& frame,
                                                        std::unique_ptr<OverlayView> view) override;
