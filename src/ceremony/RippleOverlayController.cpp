@@ -8,15 +8,15 @@
 #include "ceremony/CollapseRippleView.h"
 #include "ceremony/ReducedMotionFadeView.h"
 #include "ceremony/show/CeremonyFrameRenderer.h"
-#include "platform/PanelHost.h"
 #include "platform/Preferences.h"
 #include "platform/ReducedMotion.h"
-#include "platform/Screens.h"
 #include "tracking/Settings.h"
 
 #include <QPointer>
 
 #include <algorithm>
+#include <malloc.h>
+#include <utility>
 
 namespace vantle {
 
@@ -78,7 +78,7 @@ CeremonyVariant RippleOverlayController::pickVariant() {
 
 void RippleOverlayController::play(CeremonyShow show, std::uint32_t hexRGB,
                                    const std::optional<QString>& skillName) {
-    if (settings::rippleDisabled.read(m_env.preferences) || !m_env.host.hasInputRegions()) return;
+    if (settings::rippleDisabled.read(m_env.preferences) || !m_env.stage.isAvailable()) return;
     dismiss();
     ++m_generation;
     const Date start = m_env.clock.now();
@@ -105,11 +105,13 @@ void RippleOverlayController::play(CeremonyShow show, std::uint32_t hexRGB,
 void RippleOverlayController::dismiss() {
     // Empty before any of them goes: a window may report something while it is destroyed.
     const auto windows = std::exchange(m_windows, {});
+    // What windows and views took lies between other blocks of the heap, which would keep it.
+    if (!windows.empty()) m_env.scheduler.post([] { malloc_trim(0); });
 }
 
 template <typename View>
 void RippleOverlayController::playView(Date start, std::uint32_t accent) {
-    for (const QRect& frame : screenFrames())
+    for (const QRect& frame : m_env.stage.frames())
         m_windows.push_back(m_env.stage.putUp(frame, std::make_unique<View>(start, accent)));
     dismissLater(View::duration + kAfterView);
 }
@@ -117,7 +119,7 @@ void RippleOverlayController::playView(Date start, std::uint32_t accent) {
 void RippleOverlayController::playNative(CeremonyVariant variant,
                                          const std::optional<QString>& skillName, Date start) {
     m_env.prepQueue.async([prepare = m_env.prepare, &scheduler = m_env.scheduler,
-                           frames = screenFrames(), variant, skillName, start,
+                           frames = m_env.stage.frames(), variant, skillName, start,
                            generation = m_generation, self = QPointer(this)] {
         // Shared, since posted work has to be copyable.
         const auto prepared = std::make_shared<std::vector<Prepared>>();
@@ -130,7 +132,7 @@ void RippleOverlayController::playNative(CeremonyVariant variant,
 }
 
 void RippleOverlayController::showPrepared(std::vector<Prepared>& prepared, Date start) {
-    const std::vector<QRect> frames = screenFrames();
+    const std::vector<QRect> frames = m_env.stage.frames();
     for (Prepared& screen : prepared) {
         // A screen that was unplugged meanwhile.
         if (std::ranges::find(frames, screen.frame) == frames.end()) continue;
@@ -147,7 +149,7 @@ void RippleOverlayController::playWebCeremony(CeremonyShow show, CeremonyVariant
     const bool blackout = settings::ceremonyBlackout.read(m_env.preferences);
     const QString script = ceremonypage::script(
         ceremonypage::configuration(show, variant, hexRGB, skillName, blackout));
-    for (const QRect& frame : screenFrames()) {
+    for (const QRect& frame : m_env.web.frames()) {
         m_windows.push_back(m_env.web.putUp(
             frame, script,
             [self = QPointer(this), generation = m_generation](const QJsonValue& body) {
@@ -170,16 +172,6 @@ void RippleOverlayController::receive(int generation, const QJsonValue& body) {
     case ceremonypage::Message::None:
         return;
     }
-}
-
-std::vector<QRect> RippleOverlayController::screenFrames() const {
-    std::vector<QRect> frames;
-    for (const ScreenShape& screen : m_env.screens.all()) {
-        const QRect frame = screen.frame.toRect();
-        // Screens that mirror each other are one to look at.
-        if (std::ranges::find(frames, frame) == frames.end()) frames.push_back(frame);
-    }
-    return frames;
 }
 
 void RippleOverlayController::armHardStop(int generation) {

@@ -3,6 +3,7 @@
 
 #include "app/Collaborators.h"
 #include "base/Scheduler.h"
+#include "ceremony/WebStage.h"
 #include "ceremony/show/CeremonyVariant.h"
 #include "platform/OverlayStage.h"
 
@@ -15,11 +16,9 @@ namespace vantle {
 
 class CeremonyFrameRenderer;
 class Clock;
-class PanelHost;
 class Preferences;
 class RandomSource;
 class ReducedMotion;
-class Screens;
 class SerialQueue;
 
 /// Nobody ever has to look at a stuck show: whatever a page, a screen or a slow machine does, a
@@ -42,8 +41,6 @@ public:
         SerialQueue& prepQueue;
         Preferences& preferences;
         const ReducedMotion& reducedMotion;
-        const Screens& screens;
-        const PanelHost& host;
         OverlayStage& stage;
         WebStage& web;
         RandomSource& random; ///< chooses the variants; main thread
@@ -99,7 +96,6 @@ private:
     void playWebCeremony(CeremonyShow show, CeremonyVariant variant, std::uint32_t hexRGB,
                          const std::optional<QString>& skillName);
 
-    [[nodiscard]] std::vector<QRect> screenFrames() const;
     [[nodiscard]] CeremonyVariant pickVariant();
     void armHardStop(int generation);
     void dismissLater(Seconds delay);

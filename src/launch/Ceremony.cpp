@@ -53,8 +53,7 @@ Ceremony::Ceremony(const Platform& platform, const Clock& clock, Scheduler& sche
     : m_platform(platform)
     , m_clock(clock)
     , m_scheduler(scheduler)
-    , m_stage(clock, scheduler, platform.panelHost)
-    , m_web(webModulePath(), findPage, platform.panelHost)
+    , m_web(webModulePath(), findPage, platform.screens, platform.panelHost)
     , m_prepQueue(std::move(prepQueue)) {
     ceremonyfonts::registerBundledFonts(resourcefolders::all());
 }
@@ -66,9 +65,7 @@ std::unique_ptr<collaborators::Ripple> Ceremony::makeRipple() {
                                              .prepQueue = *m_prepQueue,
                                              .preferences = m_platform.preferences,
                                              .reducedMotion = m_platform.reducedMotion,
-                                             .screens = m_platform.screens,
-                                             .host = m_platform.panelHost,
-                                             .stage = m_stage,
+                                             .stage = m_platform.overlayStage,
                                              .web = m_web,
                                              .random = m_random,
                                              .prepare = preparation()});

@@ -1,15 +1,16 @@
-// The ceremony put together: its controller, its windows, the module that shows pages.
+// The ceremony put together: its controller, the module that shows pages.
 #pragma once
 
 #include "base/RandomSource.h"
 #include "base/SerialQueue.h"
 #include "ceremony/ModuleWebStage.h"
-#include "platform/session/QtOverlayStage.h"
 
 #include <memory>
 
 namespace vantle {
 
+class Clock;
+class Scheduler;
 struct Platform;
 
 namespace collaborators {
@@ -40,7 +41,6 @@ private:
     const Clock& m_clock;
     Scheduler& m_scheduler;
     SystemRandom m_random;
-    QtOverlayStage m_stage;
     ModuleWebStage m_web;
     const std::unique_ptr<SerialQueue> m_prepQueue;
 };

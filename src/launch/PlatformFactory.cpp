@@ -24,6 +24,7 @@ Platform PlatformOwner::ports() const {
             .pointerPresses = *display.pointerPresses,
             .screenPower = *session.screenPower,
             .screens = *session.screens,
+            .overlayStage = *session.overlayStage,
             .readingWishes = *session.readingWishes,
             .reducedMotion = *session.reducedMotion,
             .trayItem = *session.trayItem,

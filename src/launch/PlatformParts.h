@@ -2,6 +2,7 @@
 // backend.
 #pragma once
 
+#include "base/Clock.h"
 #include "base/Scheduler.h"
 #include "platform/Autostart.h"
 #include "platform/FileManager.h"
@@ -11,6 +12,7 @@
 #include "platform/IdleSource.h"
 #include "platform/ImageClipboard.h"
 #include "platform/LanguageModel.h"
+#include "platform/OverlayStage.h"
 #include "platform/PanelHost.h"
 #include "platform/Platform.h"
 #include "platform/PointerPresses.h"
@@ -68,6 +70,7 @@ struct Display {
     std::unique_ptr<HotKeyPort> hotKeyPort;
     std::unique_ptr<ScreenPower> screenPower; ///< goes into that of the session
     std::unique_ptr<ReservedStrips> reservedStrips;
+    std::unique_ptr<OverlayStage> overlayStage; ///< one better than windows; null where none is
     std::unique_ptr<PanelHost> panelHost;
     std::unique_ptr<WindowManager> windowManager;
     std::unique_ptr<PointerPresses> pointerPresses;
@@ -77,6 +80,8 @@ struct Display {
 struct Session {
     std::unique_ptr<ScreenPower> screenPower;
     std::unique_ptr<Screens> screens;
+    std::unique_ptr<Clock> clock;
+    std::unique_ptr<OverlayStage> overlayStage;
     std::unique_ptr<ReadingWishes> readingWishes;
     std::unique_ptr<ReducedMotion> reducedMotion;
     std::unique_ptr<TrayItem> trayItem;
@@ -101,7 +106,8 @@ struct Session {
 /// can't, or nobody. They answer some milliseconds later.
 void addCompositor(Scheduler& scheduler, const Posix& posix, Display& display);
 
-/// `posix` and `display` must outlive the part, which takes the latter's screen power over.
+/// `posix` and `display` must outlive the part, which takes the latter's screen power and overlay
+/// stage over.
 [[nodiscard]] Session makeSession(Scheduler& scheduler, const PlatformEvents& events,
                                   const Posix& posix, Display& display);
 

@@ -1,4 +1,6 @@
+#include "base/Clock.h"
 #include "launch/PlatformParts.h"
+#include "platform/FirstOverlayStage.h"
 #include "platform/session/ApplicationService.h"
 #include "platform/session/DesktopFileManager.h"
 #include "platform/session/DesktopReadingWishes.h"
@@ -6,6 +8,7 @@
 #include "platform/session/LoginScreenPower.h"
 #include "platform/session/PortalSaveDialog.h"
 #include "platform/session/QtImageClipboard.h"
+#include "platform/session/QtOverlayStage.h"
 #include "platform/session/QtSaveDialog.h"
 #include "platform/session/QtScreens.h"
 #include "platform/session/SessionScreenPower.h"
@@ -67,8 +70,17 @@ Session makeSession(Scheduler& scheduler, const PlatformEvents& events, const Po
     const QDBusConnection bus = QDBusConnection::sessionBus();
     auto otherSaveDialog = std::make_unique<QtSaveDialog>();
     SaveDialog& otherwise = *otherSaveDialog;
+    auto screens = std::make_unique<QtScreens>(*display.reservedStrips, !display.isXwayland);
+    auto clock = std::make_unique<SystemClock>();
+    std::vector<std::unique_ptr<OverlayStage>> overlays;
+    overlays.reserve(2);
+    if (display.overlayStage) overlays.push_back(std::move(display.overlayStage));
+    overlays.push_back(
+        std::make_unique<QtOverlayStage>(*clock, scheduler, *screens, *display.panelHost));
     return {.screenPower = unite(std::move(display.screenPower), bus),
-            .screens = std::make_unique<QtScreens>(*display.reservedStrips, !display.isXwayland),
+            .screens = std::move(screens),
+            .clock = std::move(clock),
+            .overlayStage = std::make_unique<FirstOverlayStage>(std::move(overlays)),
             .readingWishes = std::make_unique<DesktopReadingWishes>(bus),
             .reducedMotion = std::make_unique<DesktopReducedMotion>(bus, posix.folders.config),
             .trayItem = std::make_unique<DesktopTrayItem>(bus, !display.isXwayland),

@@ -49,6 +49,7 @@ Display makeX11(Scheduler& scheduler, const PlatformEvents& events, const Posix&
             .screenPower = std::make_unique<X11ScreenPower>(x11, scheduler,
                                                             X11ScreenPower::powerManagement(x11)),
             .reservedStrips = std::make_unique<X11Struts>(x11),
+            .overlayStage = nullptr,
             .panelHost = std::make_unique<X11PanelHost>(x11, scheduler, server->presses, xwayland),
             .windowManager = std::make_unique<X11WindowManager>(x11),
             .pointerPresses = std::make_unique<X11PointerPresses>(server->presses)};

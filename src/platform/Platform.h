@@ -13,6 +13,7 @@ class HotKeyPort;
 class IdleSource;
 class ImageClipboard;
 class LanguageModel;
+class OverlayStage;
 class PanelHost;
 class PointerPresses;
 class Preferences;
@@ -50,6 +51,7 @@ struct Platform {
 
     ScreenPower& screenPower;
     Screens& screens;
+    OverlayStage& overlayStage;
     ReadingWishes& readingWishes;
     ReducedMotion& reducedMotion;
     TrayItem& trayItem;

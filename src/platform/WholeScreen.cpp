@@ -1,27 +1,34 @@
 #include "platform/WholeScreen.h"
 
 #include "platform/PanelHost.h"
+#include "platform/Screens.h"
 
-#include <QGuiApplication>
-#include <QScreen>
+#include <QSurfaceFormat>
 #include <QWindow>
 
 #include <algorithm>
 
 namespace vantle::wholescreen {
 
-QScreen* withFrame(const QRect& frame) {
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    const auto screen = std::ranges::find(screens, frame, &QScreen::geometry);
-    return screen == screens.end() ? nullptr : *screen;
+std::vector<QRect> frames(const Screens& screens) {
+    std::vector<QRect> frames;
+    for (const ScreenShape& screen : screens.all()) {
+        const QRect frame = screen.frame.toRect();
+        if (std::ranges::find(frames, frame) == frames.end()) frames.push_back(frame);
+    }
+    return frames;
 }
 
-void cover(QWindow& window, const QScreen& screen, PanelHost& host) {
+bool exists(const Screens& screens, const QRect& frame) {
+    const auto all = frames(screens);
+    return std::ranges::find(all, frame) != all.end();
+}
+
+void cover(QWindow& window, const QRect& frame, PanelHost& host) {
     QSurfaceFormat format = window.format();
     format.setAlphaBufferSize(8);
     window.setFormat(format);
     window.setTitle(QStringLiteral("Vantle ceremony"));
-    const QRectF frame = screen.geometry();
     (void)host.place(window, {.spot = Placement::Spot::WholeScreen,
                               .screen = {.frame = frame, .available = frame},
                               .felt = QRegion()});

@@ -1,22 +1,28 @@
-// What every overlay window has in common, whatever it shows.
+// What every window over a whole screen has in common, whatever it shows.
 #pragma once
 
 #include <QRect>
 
-class QScreen;
+#include <vector>
+
 class QWindow;
 
 namespace vantle {
+
 class PanelHost;
-}
+class Screens;
 
-namespace vantle::wholescreen {
+namespace wholescreen {
 
-/// The first screen with that frame; null where it is gone. Main thread.
-[[nodiscard]] QScreen* withFrame(const QRect& frame);
+/// The frames of the screens; those that mirror each other are one to look at. Main thread.
+[[nodiscard]] std::vector<QRect> frames(const Screens& screens);
 
-/// Makes a window, before it is shown, one that covers the screen and is in nobody's way: above
-/// everything, see-through, without pointer and keyboard. Main thread.
-void cover(QWindow& window, const QScreen& screen, PanelHost& host);
+/// Whether a screen has that frame. Main thread.
+[[nodiscard]] bool exists(const Screens& screens, const QRect& frame);
 
-} // namespace vantle::wholescreen
+/// Makes a window, before it is shown, one that covers the screen with that frame and is in
+/// nobody's way: above everything, see-through, without pointer and keyboard. Main thread.
+void cover(QWindow& window, const QRect& frame, PanelHost& host);
+
+} // namespace wholescreen
+} // namespace vantle

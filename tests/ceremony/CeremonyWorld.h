@@ -4,7 +4,6 @@
 #include "base/RandomSource.h"
 #include "ceremony/FakeStages.h"
 #include "ceremony/RippleOverlayController.h"
-#include "fakes/FakePanelHost.h"
 #include "fakes/FakeReducedMotion.h"
 #include "fakes/FakeScreens.h"
 #include "fakes/MemoryPreferences.h"
@@ -45,8 +44,6 @@ struct CeremonyWorld {
                       .prepQueue = prepQueue,
                       .preferences = preferences,
                       .reducedMotion = reducedMotion,
-                      .screens = screens,
-                      .host = host,
                       .stage = stage,
                       .web = web,
                       .random = random,
@@ -59,10 +56,9 @@ struct CeremonyWorld {
     fakes::MemoryPreferences preferences;
     fakes::FakeReducedMotion reducedMotion;
     fakes::FakeScreens screens;
-    fakes::FakePanelHost host;
     ShownWindows windows;
-    FakeStage stage{windows};
-    FakeWebStage web{windows};
+    FakeStage stage{windows, screens};
+    FakeWebStage web{windows, screens};
     GivenNumbers random;
     RippleOverlayController controller;
 };

@@ -4,8 +4,10 @@
 #include "ceremony/CeremonyLayerView.h"
 #include "ceremony/CollapseRippleView.h"
 #include "ceremony/ReducedMotionFadeView.h"
+#include "ceremony/WebStage.h"
 #include "ceremony/show/CeremonyFrameRenderer.h"
 #include "platform/OverlayStage.h"
+#include "platform/WholeScreen.h"
 
 #include <QList>
 
@@ -52,7 +54,14 @@ private:
 
 class FakeStage final : public OverlayStage {
 public:
-    explicit FakeStage(ShownWindows& windows) : m_windows(windows) {}
+    FakeStage(ShownWindows& windows, const Screens& screens)
+        : m_windows(windows)
+        , m_screens(screens) {}
+
+    [[nodiscard]] bool isAvailable() const override { return available; }
+    [[nodiscard]] std::vector<QRect> frames() const override {
+        return wholescreen::frames(m_screens);
+    }
 
     std::unique_ptr<OverlayWindow> putUp(const QRect& frame,
                                          std::unique_ptr<OverlayView> view) override {
@@ -70,16 +79,24 @@ public:
         return m_windows.add(std::move(window));
     }
 
+    bool available = true;
+
 private:
     ShownWindows& m_windows;
+    const Screens& m_screens;
 };
 
 /// Keeps the handlers of pages that are gone: their messages may still be on the way.
 class FakeWebStage final : public WebStage {
 public:
-    explicit FakeWebStage(ShownWindows& windows) : m_windows(windows) {}
+    FakeWebStage(ShownWindows& windows, const Screens& screens)
+        : m_windows(windows)
+        , m_screens(screens) {}
 
     [[nodiscard]] bool hasPage() override { return pageExists; }
+    [[nodiscard]] std::vector<QRect> frames() const override {
+        return wholescreen::frames(m_screens);
+    }
     std::unique_ptr<OverlayWindow> putUp(const QRect& frame, const QString& script,
                                          MessageHandler message) override {
         pages << std::move(message);
@@ -94,6 +111,7 @@ public:
 
 private:
     ShownWindows& m_windows;
+    const Screens& m_screens;
 };
 
 } // namespace vantle::tests

@@ -112,7 +112,7 @@ TEST_F(RippleOverlayControllerTest, ReducedMotionEndsAShowThatPlays) {
 }
 
 TEST_F(RippleOverlayControllerTest, NothingPlaysWhereAWindowWouldSwallowThePresses) {
-    world.host.inputRegions = false;
+    world.stage.available = false;
     for (const CeremonyShow show : {CeremonyShow::Full, CeremonyShow::Collapse}) {
         playReady(show);
         EXPECT_EQ(world.windows.count(), 0);

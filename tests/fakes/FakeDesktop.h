@@ -8,6 +8,7 @@
 #include "fakes/FakeIdleSource.h"
 #include "fakes/FakeImageClipboard.h"
 #include "fakes/FakeLanguageModel.h"
+#include "fakes/FakeOverlayStage.h"
 #include "fakes/FakePanelHost.h"
 #include "fakes/FakePointerPresses.h"
 #include "fakes/FakeProcessRunner.h"
@@ -41,6 +42,7 @@ struct FakeDesktop {
     FakePointerPresses pointerPresses;
     FakeScreenPower screenPower;
     FakeScreens screens;
+    FakeOverlayStage overlayStage;
     FakeReadingWishes readingWishes;
     FakeReducedMotion reducedMotion;
     FakeTrayItem trayItem;
@@ -63,6 +65,7 @@ struct FakeDesktop {
                             .pointerPresses = pointerPresses,
                             .screenPower = screenPower,
                             .screens = screens,
+                            .overlayStage = overlayStage,
                             .readingWishes = readingWishes,
                             .reducedMotion = reducedMotion,
                             .trayItem = trayItem,

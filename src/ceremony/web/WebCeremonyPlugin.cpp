@@ -38,11 +38,12 @@ WebCeremonyPlugin::WebCeremonyPlugin() {
                           " --disable-logging");
 }
 
-std::unique_ptr<OverlayWindow> WebCeremonyPlugin::putUp(QScreen& screen, PanelHost& host,
-                                                        const QString& page, const QString& script,
+std::unique_ptr<OverlayWindow> WebCeremonyPlugin::putUp(const QRect& frame, const Screens& screens,
+                                                        PanelHost& host, const QString& page,
+                                                        const QString& script,
                                                         WebStage::MessageHandler message) {
     return std::make_unique<Place>(
-        new WebOverlayWindow(screen, host, page, script, std::move(message)));
+        new WebOverlayWindow(frame, screens, host, page, script, std::move(message)));
 }
 
 } // namespace vantle

@@ -9,14 +9,15 @@ namespace vantle {
 
 class WebCeremonyPlugin final : public QObject, public WebCeremonyModule {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID "local.vantle.WebCeremonyModule/2")
+    Q_PLUGIN_METADATA(IID "local.vantle.WebCeremonyModule/3")
     Q_INTERFACES(vantle::WebCeremonyModule)
 
 public:
     WebCeremonyPlugin();
 
-    [[nodiscard]] std::unique_ptr<OverlayWindow> putUp(QScreen& screen, PanelHost& host,
-                                                       const QString& page, const QString& script,
+    [[nodiscard]] std::unique_ptr<OverlayWindow> putUp(const QRect& frame, const Screens& screens,
+                                                       PanelHost& host, const QString& page,
+                                                       const QString& script,
                                                        WebStage::MessageHandler message) override;
 };
 

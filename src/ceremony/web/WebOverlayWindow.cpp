@@ -1,15 +1,14 @@
 #include "ceremony/web/WebOverlayWindow.h"
 
 #include "ceremony/web/LocalFilesOnly.h"
+#include "platform/Screens.h"
 #include "platform/WholeScreen.h"
 
-#include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWebEngineProfile>
-#include <QScreen>
 #include <QUrl>
 #include <QUuid>
 
@@ -31,10 +30,11 @@ QString firstScript(const QString& configuration, const QString& prefix) {
 
 } // namespace
 
-WebOverlayWindow::WebOverlayWindow(QScreen& screen, PanelHost& host, const QString& page,
-                                   const QString& script, WebStage::MessageHandler message)
+WebOverlayWindow::WebOverlayWindow(const QRect& frame, const Screens& screens, PanelHost& host,
+                                   const QString& page, const QString& script,
+                                   WebStage::MessageHandler message)
     : m_message(std::move(message)) {
-    wholescreen::cover(*this, screen, host);
+    wholescreen::cover(*this, frame, host);
     setColor(Qt::transparent);
     setResizeMode(QQuickView::SizeRootObjectToView);
     const QString prefix = QUuid::createUuid().toString(QUuid::WithoutBraces);
@@ -49,10 +49,9 @@ WebOverlayWindow::WebOverlayWindow(QScreen& screen, PanelHost& host, const QStri
     connect(view, SIGNAL(crashed()), this, SLOT(hide()));
     auto* const profile = view->property("profile").value<QQuickWebEngineProfile*>();
     profile->setUrlRequestInterceptor(new LocalFilesOnly(page, profile));
-    connect(qApp, &QGuiApplication::screenRemoved, this, [this, &screen](QScreen* removed) {
-        if (removed == &screen) hide();
+    connect(&screens, &Screens::changed, this, [this, &screens, frame] {
+        if (!wholescreen::exists(screens, frame)) hide();
     });
-    connect(&screen, &QScreen::geometryChanged, this, &QWindow::hide);
     view->setProperty("url", url);
     show();
 }

@@ -1,13 +1,14 @@
 // One page over one screen.
 #pragma once
 
-#include "platform/OverlayStage.h"
+#include "ceremony/WebStage.h"
 
 #include <QQuickView>
 
 namespace vantle {
 
 class PanelHost;
+class Screens;
 
 /// Main thread. It stays up until it is destroyed, unless its screen goes away or the page crashes:
 /// then it is hidden.
@@ -15,8 +16,9 @@ class WebOverlayWindow final : public QQuickView {
     Q_OBJECT
 
 public:
-    WebOverlayWindow(QScreen& screen, PanelHost& host, const QString& page, const QString& script,
-                     WebStage::MessageHandler message);
+    /// Over the screen with that frame. `screens` and `host` must outlive this.
+    WebOverlayWindow(const QRect& frame, const Screens& screens, PanelHost& host,
+                     const QString& page, const QString& script, WebStage::MessageHandler message);
 
 private Q_SLOTS:
     void receive(const QString& body);

@@ -1,11 +1,11 @@
 #include "platform/session/QtOverlayStage.h"
 
 #include "base/Scheduler.h"
+#include "platform/PanelHost.h"
 #include "platform/WholeScreen.h"
 #include "platform/session/QtOverlayWindow.h"
 
 #include <algorithm>
-#include <malloc.h>
 #include <vector>
 
 namespace vantle {
@@ -20,12 +20,6 @@ constexpr Seconds kFrame{1.0 / 60};
 class QtOverlayStage::Show {
 public:
     explicit Show(Scheduler& scheduler) : m_scheduler(scheduler) {}
-    /// What windows and views took lies between other blocks of the heap, which would keep it.
-    ~Show() {
-        m_scheduler.post([] { malloc_trim(0); });
-    }
-    Show(const Show&) = delete;
-    Show& operator=(const Show&) = delete;
 
     void add(QtOverlayWindow& window) {
         m_windows.push_back(&window);
@@ -63,21 +57,27 @@ private:
     const std::unique_ptr<QtOverlayWindow> m_window;
 };
 
-QtOverlayStage::QtOverlayStage(const Clock& clock, Scheduler& scheduler, PanelHost& host)
+QtOverlayStage::QtOverlayStage(const Clock& clock, Scheduler& scheduler, const Screens& screens,
+                               PanelHost& host)
     : m_clock(clock)
     , m_scheduler(scheduler)
+    , m_screens(screens)
     , m_host(host) {}
 
 QtOverlayStage::~QtOverlayStage() = default;
 
+bool QtOverlayStage::isAvailable() const { return m_host.hasInputRegions(); }
+
+std::vector<QRect> QtOverlayStage::frames() const { return wholescreen::frames(m_screens); }
+
 std::unique_ptr<OverlayWindow> QtOverlayStage::putUp(const QRect& frame,
                                                      std::unique_ptr<OverlayView> view) {
-    QScreen* const screen = wholescreen::withFrame(frame);
-    if (!screen) return std::make_unique<OverlayWindow>();
+    if (!wholescreen::exists(m_screens, frame)) return std::make_unique<OverlayWindow>();
     std::shared_ptr<Show> show = m_show.lock();
     if (!show) m_show = show = std::make_shared<Show>(m_scheduler);
-    return std::make_unique<Place>(std::move(show), std::make_unique<QtOverlayWindow>(
-                                                        *screen, std::move(view), m_clock, m_host));
+    return std::make_unique<Place>(
+        std::move(show),
+        std::make_unique<QtOverlayWindow>(frame, std::move(view), m_clock, m_screens, m_host));
 }
 
 } // namespace vantle

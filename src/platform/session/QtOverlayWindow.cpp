@@ -2,25 +2,23 @@
 
 #include "base/Clock.h"
 #include "platform/PanelHost.h"
+#include "platform/Screens.h"
 #include "platform/WholeScreen.h"
 
-#include <QGuiApplication>
 #include <QPainter>
-#include <QScreen>
 
 namespace vantle {
 
-QtOverlayWindow::QtOverlayWindow(QScreen& screen, std::unique_ptr<OverlayView> view,
-                                 const Clock& clock, PanelHost& host)
+QtOverlayWindow::QtOverlayWindow(const QRect& frame, std::unique_ptr<OverlayView> view,
+                                 const Clock& clock, const Screens& screens, PanelHost& host)
     : m_view(std::move(view))
     , m_clock(clock)
     , m_host(host) {
-    wholescreen::cover(*this, screen, m_host);
+    wholescreen::cover(*this, frame, m_host);
     // Left alone, the window would move to another screen when its own goes.
-    connect(qApp, &QGuiApplication::screenRemoved, this, [this, &screen](QScreen* removed) {
-        if (removed == &screen) end();
+    connect(&screens, &Screens::changed, this, [this, &screens, frame] {
+        if (!wholescreen::exists(screens, frame)) end();
     });
-    connect(&screen, &QScreen::geometryChanged, this, &QtOverlayWindow::end);
 }
 
 QtOverlayWindow::~QtOverlayWindow() = default;

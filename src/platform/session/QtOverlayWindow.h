@@ -11,15 +11,17 @@ namespace vantle {
 
 class Clock;
 class PanelHost;
+class Screens;
 
 /// Shows the present moment of a view whenever refresh() is called. Main thread.
 class QtOverlayWindow final : public QRasterWindow {
     Q_OBJECT
 
 public:
-    /// Not visible yet. `clock` and `host` must outlive this.
-    QtOverlayWindow(QScreen& screen, std::unique_ptr<OverlayView> view, const Clock& clock,
-                    PanelHost& host);
+    /// Not visible yet, over the screen with that frame. `clock`, `screens` and `host` must outlive
+    /// this.
+    QtOverlayWindow(const QRect& frame, std::unique_ptr<OverlayView> view, const Clock& clock,
+                    const Screens& screens, PanelHost& host);
     ~QtOverlayWindow() override;
 
     /// Shows the next frame, or hides the window when its view is over.

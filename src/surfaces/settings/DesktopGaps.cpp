@@ -3,7 +3,7 @@
 #include "platform/FrontmostApp.h"
 #include "platform/GuestSession.h"
 #include "platform/IdleSource.h"
-#include "platform/PanelHost.h"
+#include "platform/OverlayStage.h"
 #include "platform/TrayItem.h"
 #include "sensing/HotKey.h"
 
@@ -82,7 +82,7 @@ QString DesktopGaps::autoStartAdvice() const {
 }
 
 QString DesktopGaps::ceremonyAdvice() const {
-    if (m_env.panelHost.hasInputRegions()) return {};
+    if (m_env.overlayStage.isAvailable()) return {};
     return QStringLiteral(
                "In this %1 a ceremony would catch every click while it plays, so none plays.")
         .arg(guestSession());

@@ -11,7 +11,7 @@ namespace vantle {
 class FrontmostApp;
 class HotKey;
 class IdleSource;
-class PanelHost;
+class OverlayStage;
 class TrayItem;
 
 /// Advice for the rows of the settings where the person looks for what is missing; empty where
@@ -40,7 +40,7 @@ public:
         const TrayItem& tray;
         const IdleSource& idleSource;
         const FrontmostApp& frontmostApp;
-        const PanelHost& panelHost;
+        const OverlayStage& overlayStage;
         std::function<void(const QString& text)> copy; ///< puts it into the clipboard
     };
     explicit DesktopGaps(Environment environment);

@@ -24,7 +24,7 @@ class Autostart;
 class FocusLink;
 class FrontmostApp;
 class IdleSource;
-class PanelHost;
+class OverlayStage;
 class NotificationCenter;
 class Preferences;
 class SerialQueue;
@@ -111,7 +111,7 @@ public:
         const TrayItem& tray;
         const IdleSource& idleSource;
         const FrontmostApp& frontmostApp;
-        const PanelHost& panelHost;
+        const OverlayStage& overlayStage;
         std::function<void(const QString& text)> copy; ///< puts it into the clipboard
         /// Erases everything; empty on full success, else what the person is told.
         std::function<std::optional<QString>()> eraseAllData;

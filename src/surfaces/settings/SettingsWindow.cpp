@@ -48,7 +48,7 @@ std::unique_ptr<QObject> makeModel(const WindowParts& parts) {
         .tray = parts.platform.trayItem,
         .idleSource = parts.platform.idleSource,
         .frontmostApp = parts.platform.frontmostApp,
-        .panelHost = parts.platform.panelHost,
+        .overlayStage = parts.platform.overlayStage,
         .copy = parts.copy,
         .eraseAllData = [&model = parts.model,
                          &router = parts.router] { return eraseAndStartOver(model, router); }});

@@ -22,7 +22,7 @@ TEST_F(DesktopGapsTest, WhereNothingIsMissingNothingIsSaid) {
 }
 
 TEST_F(DesktopGapsTest, WhereACeremonyWouldCatchClicksItIsSaidThatNonePlays) {
-    panelHost.inputRegions = false;
+    overlayStage.available = false;
     open();
     EXPECT_TRUE(view->gaps()->ceremonyAdvice().startsWith(text("In this Wayland session")));
 }

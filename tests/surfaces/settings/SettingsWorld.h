@@ -3,7 +3,7 @@
 
 #include "app/ModelWorld.h"
 #include "fakes/FakeAutostart.h"
-#include "fakes/FakePanelHost.h"
+#include "fakes/FakeOverlayStage.h"
 #include "fakes/FakeTrayItem.h"
 #include "sensing/AutoRules.h"
 #include "surfaces/settings/SettingsView.h"
@@ -54,7 +54,7 @@ public:
                 tray,
                 idleSource,
                 frontmost,
-                panelHost,
+                overlayStage,
                 [this](const QString& text) { copied << text; },
                 [this] { return model->eraseEverything(); }};
     }
@@ -68,7 +68,7 @@ public:
     fakes::FakeAutostart autostart;
     AutoRules* rules = nullptr; ///< of the program that runs
     fakes::FakeTrayItem tray;
-    fakes::FakePanelHost panelHost;
+    fakes::FakeOverlayStage overlayStage;
     QStringList revealed;
     QStringList copied;
     int foldersOpened = 0;
