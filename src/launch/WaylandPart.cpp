@@ -3,6 +3,7 @@
 #include "platform/FirstIdleSource.h"
 #include "platform/gnome/MutterIdleSource.h"
 #include "platform/gnome/MutterScreenPower.h"
+#include "platform/wayland/LayerOverlayStage.h"
 #include "platform/wayland/WaylandConnection.h"
 #include "platform/wayland/WaylandIdleSource.h"
 #include "platform/wayland/WaylandOutputPower.h"
@@ -21,6 +22,7 @@ namespace {
 
 struct Compositor {
     WaylandConnection connection;
+    WaylandConnection shows; ///< a mistake in a show ends only this one
     SystemClock clock;
 };
 
@@ -54,6 +56,9 @@ void addCompositor(Scheduler& scheduler, const Posix& posix, Display& display) {
     power.push_back(std::make_unique<WaylandOutputPower>(wayland));
     power.push_back(std::make_unique<MutterScreenPower>(bus));
     display.screenPower = std::make_unique<ScreenPowerUnion>(std::move(power));
+
+    display.overlayStage =
+        std::make_unique<LayerOverlayStage>(compositor->shows, compositor->clock, scheduler);
 
     display.compositor = compositor;
 }

@@ -10,13 +10,10 @@ from pathlib import Path
 from harness.bus import PROGRAM_NAME, activate_action, owner_of
 from harness.case import EXECUTABLE, FIRST_SKILL_COLOUR, SHORTCUT
 from harness.ceremony import ALL_GONE, GROUND_RGB, CeremonyCase
+from harness.page import PARTS, install, write_page
 from harness.picture import is_near, rgb_of
 from harness.program import Program
 from harness.waiting import wait_until
-
-PAGE = Path(__file__).resolve().parent / "pages" / "ceremony.html"
-# What is installed, and where.
-PARTS = {"vantle": "bin", "vantle-shortcuts": "bin", "vantle-webceremony.so": "lib/vantle/plugins"}
 
 ACCENT = rgb_of(FIRST_SKILL_COLOUR)
 
@@ -31,7 +28,7 @@ class MovedProgram(CeremonyCase):
             shutil.copy2(EXECUTABLE.parent / part, download / folder / part)
         (download / "share" / "vantle").mkdir(parents=True)
         page = download / "share" / "vantle" / "ceremony.html"
-        page.write_text(PAGE.read_text().replace("BEHAVIOUR", "done"))
+        write_page(page, "done")
         if os.getuid() == 0:
             self.desktop.env["QTWEBENGINE_DISABLE_SANDBOX"] = "1"
         downloaded = Program(download / "bin" / "vantle", self.desktop)
@@ -54,24 +51,15 @@ class Page(CeremonyCase):
 
     def new_program(self):
         """A copy of the program that is installed with a page of its own."""
-        prefix = self.desktop.directory / "installed"
-        (prefix / "share" / "vantle").mkdir(parents=True)
-        for part, folder in PARTS.items():
-            (prefix / folder).mkdir(parents=True, exist_ok=True)
-            shutil.copy(EXECUTABLE.parent / part, prefix / folder / part)
-        self.page = prefix / "share" / "vantle" / "ceremony.html"
-        if os.getuid() == 0:
-            # The engine refuses to run its sandbox as root.
-            self.desktop.env["QTWEBENGINE_DISABLE_SANDBOX"] = "1"
-        program = Program(prefix / "bin" / "vantle", self.desktop)
+        executable, self.page = install(self.desktop)
+        program = Program(executable, self.desktop)
         self.addCleanup(self._expect_silence, program)
         self.addCleanup(program.kill)
         program.write_preferences(dev__skipInstallPrompt="true")
         return program
 
     def launch_with(self, behaviour, address=""):
-        text = PAGE.read_text().replace("BEHAVIOUR", behaviour).replace("ADDRESS", address)
-        self.page.write_text(text)
+        write_page(self.page, behaviour, address)
         self.launch()
 
     def shows_square(self):

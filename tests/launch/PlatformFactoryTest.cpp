@@ -67,6 +67,7 @@ protected:
         EXPECT_TRUE(platform().hotKeyPort.hearsEveryApp());
         EXPECT_TRUE(platform().panelHost.tellsPointer());
         EXPECT_TRUE(platform().panelHost.hasInputRegions());
+        EXPECT_TRUE(platform().overlayStage.isAvailable());
         EXPECT_FALSE(platform().panelHost.isComposited());
     }
 
@@ -111,6 +112,10 @@ TEST_F(PlatformFactoryTest, BesideXwaylandTheCompositorTells) {
     EXPECT_TRUE(await([this] { return platform().idleSource.canTell(); }));
     EXPECT_TRUE(platform().idleSource.secondsSinceLastInput());
     EXPECT_TRUE(await([this] { return platform().frontmostApp.coverage() == AppCoverage::All; }));
+    EXPECT_TRUE(await([this] { return platform().overlayStage.isAvailable(); }));
+    EXPECT_TRUE(await([this] {
+        return platform().overlayStage.frames() == std::vector{QRect(0, 0, 1280, 800)};
+    }));
 }
 
 TEST_F(PlatformFactoryTest, XwaylandIsKnownWithoutAnyVariableOfTheSession) {
@@ -124,6 +129,7 @@ TEST_F(PlatformFactoryTest, XwaylandIsKnownWithoutAnyVariableOfTheSession) {
     EXPECT_FALSE(platform().idleSource.secondsSinceLastInput());
     EXPECT_EQ(platform().frontmostApp.coverage(), AppCoverage::None);
     EXPECT_FALSE(platform().frontmostApp.frontmost());
+    EXPECT_EQ(platform().overlayStage.isAvailable(), platform().panelHost.hasInputRegions());
 }
 
 } // namespace

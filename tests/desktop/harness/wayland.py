@@ -20,16 +20,19 @@ PRESS = "\x1b[M "
 
 class WaylandSession:
     """Lives from start() to stop(). `desktop` is the session as an X11 program sees it, through
-    Xwayland; pointer and keys come from the desktop around it."""
+    Xwayland; pointer and keys come from the desktop around it. At a scale of 1.25 its screen is
+    1024x640 of its own px."""
 
-    def __init__(self, around):
+    def __init__(self, around, scale=1):
         self._around = around
+        self._scale = scale
         self._holder = None
         self.desktop = None
 
     def start(self):
-        self._holder = subprocess.Popen([WITH_SWAY, "--", *HOLDER], env=self._around.env,
-                                        stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        self._holder = subprocess.Popen([WITH_SWAY, "--scale", str(self._scale), "--", *HOLDER],
+                                        env=self._around.env, stdin=subprocess.PIPE,
+                                        stdout=subprocess.PIPE)
         answer = b""
         while not answer.endswith(b"\0\n"):
             part = os.read(self._holder.stdout.fileno(), 65536)
@@ -59,11 +62,13 @@ class WaylandTest(DesktopTest):
 
     tray_kind = DesktopTest.NO_TRAY
     window_manager = False
+    scale = 1
+    native_window = ("foot",)  # and its options
 
     def setUp(self):
         super().setUp()
         self.desktop.env["VANTLE_AUTOSTART"] = "1"  # nothing pops up
-        session = WaylandSession(self.desktop)
+        session = WaylandSession(self.desktop, self.scale)
         self.addCleanup(session.stop)
         session.start()
         self.session = session.desktop
@@ -74,7 +79,7 @@ class WaylandTest(DesktopTest):
     def open_native_window(self):
         """A terminal over the whole screen, which writes down what it gets."""
         self._got = self.desktop.directory / "got"
-        self.session.open("foot", "sh", "-c",
+        self.session.open(*self.native_window, "sh", "-c",
                           f"printf '\\033[?1000h'; stty -echo raw; exec cat >{self._got}")
         wait_until("the native window", self._got.exists)
         time.sleep(0.5)  # until it is in front

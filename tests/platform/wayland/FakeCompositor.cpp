@@ -175,6 +175,11 @@ int FakeCompositor::offer(const wl_interface& interface, int version, Bind bind)
     return static_cast<int>(m_globals.size()) - 1;
 }
 
+int FakeCompositor::offer(const wl_interface& interface, int version, Bind bind, void* data) {
+    m_globals.push_back(wl_global_create(m_display, &interface, version, data, bind));
+    return static_cast<int>(m_globals.size()) - 1;
+}
+
 int FakeCompositor::offerSeat() { return offer(wl_seat_interface, 5, Bindings::bindSeat); }
 
 int FakeCompositor::offerIdleNotifier(std::uint32_t version) {

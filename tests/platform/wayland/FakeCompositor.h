@@ -54,6 +54,11 @@ public:
     int offerOutput();
     void withdraw(int number);
 
+    using Bind = void (*)(wl_client*, void* data, std::uint32_t version, std::uint32_t id);
+    /// For what stands on this one. `data` is what `bind` gets.
+    int offer(const wl_interface& interface, int version, Bind bind, void* data);
+    [[nodiscard]] wl_display* display() const { return m_display; }
+
     /// The user: `touch` is an input, `second` a second without any has passed.
     void touch();
     void second();
@@ -80,7 +85,6 @@ private:
     struct Bindings;
     friend struct Bindings;
 
-    using Bind = void (*)(wl_client*, void* data, std::uint32_t version, std::uint32_t id);
     int offer(const wl_interface& interface, int version, Bind bind);
     void tellIdle(Idle& idle, bool isIdle);
     void tellPower(wl_global* output, wl_resource* power);
