@@ -29,7 +29,7 @@ void alertAlreadyRunning(const Platform& platform) {
          Words::tr("Another copy of Vantle is already using this Mac's data. This one will close "
                    "so your history stays safe."),
          {Words::tr("OK")}},
-        platform.panelHost, platform.screens);
+        platform.panelHost, platform.windowManager, platform.screens);
 }
 
 /// The small program that runs the user's shortcuts lies beside this one.
@@ -55,8 +55,9 @@ AppInstaller::Place thisProgram(FileSystem& files) {
 
 AppInstaller::Operations installOperations(const Platform& platform) {
     return {.runAlert =
-                [&host = platform.panelHost, &screens = platform.screens](const Alert& alert) {
-                    return modalpresenter::runAlert(alert, host, screens);
+                [platform](const Alert& alert) {
+                    return modalpresenter::runAlert(alert, platform.panelHost,
+                                                    platform.windowManager, platform.screens);
                 },
             .moveToTrash = [&files = platform.fileManager](
                                const QString& path) { return files.moveToTrash(path); },

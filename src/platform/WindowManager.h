@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QRect>
 #include <QWindow>
 
 namespace vantle {
@@ -13,6 +14,10 @@ class WindowManager : public QObject {
 public:
     /// Whether a minimised window leaves the screen and the user can fetch it back.
     [[nodiscard]] virtual bool canMinimise() const { return true; }
+
+    /// Asks for that frame of a window, shown or not, in px of the desktop. The desktop may give it
+    /// another one; where it places windows itself, no more than the size is asked for.
+    virtual void place(QWindow& window, const QRect& frame) { window.setGeometry(frame); }
 
     /// Shows the window where the user is: on the workspace in use, no longer minimised, above the
     /// other windows and with the keyboard. The desktop follows a moment later.

@@ -12,6 +12,12 @@ namespace vantle::fakes {
 class FakeWindowManager final : public WindowManager {
 public:
     [[nodiscard]] bool canMinimise() const override { return minimises; }
+    void place(QWindow& window, const QRect& frame) override {
+        if (places)
+            WindowManager::place(window, frame);
+        else
+            window.resize(frame.size());
+    }
     void bringToUser(QWindow& window) override {
         brought = &window;
         WindowManager::bringToUser(window);
@@ -22,6 +28,7 @@ public:
         if (std::exchange(minimises, can) != can) Q_EMIT changed();
     }
 
+    bool places = true; ///< where windows ask for; else they get no more than their size
     bool minimises = true;
     QPointer<QWindow> brought; ///< the last one that was to come to the user
 };

@@ -35,10 +35,12 @@ BANS = (
         suffixes=CPP + (".qml",), homes=("src/platform/", "src/launch/"), everywhere=True),
     Ban(r"\bQCursor::pos\b", "PanelHost and Screens know where the pointer is",
         homes=("src/platform/",)),
-    # What the window manager manages may ask for a place, and need not get it.
     Ban(r"\b(?:setGeometry|setFramePosition|BypassWindowManagerHint)\b",
-        "PanelHost places what floats",
-        homes=("src/platform/", "src/surfaces/alert/", "src/surfaces/window/")),
+        "PanelHost places what floats, WindowManager what it manages",
+        homes=("src/platform/",)),
+    Ban(r"(?:\.|->)(?:setProperty|property)\s*\(|\bQQmlProperty\b"
+        r"|\binvokeMethod\s*\([^,]*,\s*\"|\b(?:SIGNAL|SLOT)\s*\(",
+        "what crosses to a view is a member of a typed item", homes=("src/platform/",)),
     Ban(r"\bq(?:C?Debug|C?Info|C?Warning|C?Critical)\b", "the program prints nothing",
         folders=("src", "tests", "demo")),
     Ban(r"\bstd::(?:cout|cerr|clog)\b|\b(?:std::)?(?:v?f?printf|puts|putchar|fputs)\s*\(",

@@ -1,13 +1,14 @@
 #include "ceremony/web/WebOverlayWindow.h"
 
 #include "ceremony/web/LocalFilesOnly.h"
+#include "ceremony/web/PageRoot.h"
 #include "platform/Screens.h"
 #include "platform/WholeScreen.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QQmlComponent>
 #include <QQmlEngine>
-#include <QQuickItem>
 #include <QQuickWebEngineProfile>
 #include <QUrl>
 #include <QUuid>
@@ -38,21 +39,22 @@ WebOverlayWindow::WebOverlayWindow(const QRect& frame, const Screens& screens, P
     setColor(Qt::transparent);
     setResizeMode(QQuickView::SizeRootObjectToView);
     const QString prefix = QUuid::createUuid().toString(QUuid::WithoutBraces);
-    const QUrl url = QUrl::fromLocalFile(page);
-    setInitialProperties({{QStringLiteral("page"), url},
-                          {QStringLiteral("script"), firstScript(script, prefix)},
-                          {QStringLiteral("messagePrefix"), prefix}});
-    setSource(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/CeremonyWeb/CeremonyPage.qml")));
-    QQuickItem* const view = rootObject();
-    if (!view) return; // the engine's own QML files are missing: the hard stop ends it
-    connect(view, SIGNAL(messagePosted(QString)), this, SLOT(receive(QString)));
-    connect(view, SIGNAL(crashed()), this, SLOT(hide()));
-    auto* const profile = view->property("profile").value<QQuickWebEngineProfile*>();
-    profile->setUrlRequestInterceptor(new LocalFilesOnly(page, profile));
+    const QUrl source(QStringLiteral("qrc:/qt/qml/Vantle/CeremonyWeb/CeremonyPage.qml"));
+    auto* const component = new QQmlComponent(engine(), source, this);
+    auto* const root = qobject_cast<PageRoot*>(component->beginCreate(engine()->rootContext()));
+    if (!root) return; // the engine's own QML files are missing: the hard stop ends it
+    root->page = QUrl::fromLocalFile(page);
+    root->script = firstScript(script, prefix);
+    root->messagePrefix = prefix;
+    component->completeCreate();
+    setContent(source, component, root);
+    connect(root, &PageRoot::messagePosted, this, &WebOverlayWindow::receive);
+    connect(root, &PageRoot::crashed, this, &QWindow::hide);
+    root->profile()->setUrlRequestInterceptor(new LocalFilesOnly(page, root->profile()));
     connect(&screens, &Screens::changed, this, [this, &screens, frame] {
         if (!wholescreen::exists(screens, frame)) hide();
     });
-    view->setProperty("url", url);
+    root->setGuarded();
     show();
 }
 

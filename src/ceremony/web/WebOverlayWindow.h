@@ -20,10 +20,9 @@ public:
     WebOverlayWindow(const QRect& frame, const Screens& screens, PanelHost& host,
                      const QString& page, const QString& script, WebStage::MessageHandler message);
 
-private Q_SLOTS:
+private:
     void receive(const QString& body);
 
-private:
     const WebStage::MessageHandler m_message;
 };
 

@@ -2,7 +2,9 @@
 
 #include "platform/PanelHost.h"
 #include "platform/Screens.h"
+#include "platform/WindowManager.h"
 #include "surfaces/alert/AlertModel.h"
+#include "surfaces/window/WindowPlacement.h"
 #include "surfaces/window/WindowShell.h"
 #include "surfaces/window/WindowSpec.h"
 
@@ -16,12 +18,8 @@ namespace vantle::modalpresenter {
 
 namespace {
 
-QPoint centered(const QSize& size, const QRect& area) {
-    return {area.x() + (area.width() - size.width()) / 2,
-            area.y() + (area.height() - size.height()) / 2};
-}
-
-int runOnMainThread(const Alert& alert, PanelHost& host, const Screens& screens) {
+int runOnMainThread(const Alert& alert, PanelHost& host, WindowManager& windowManager,
+                    const Screens& screens) {
     auto owned = std::make_unique<AlertModel>();
     AlertModel& model = *owned;
     model.message = alert.message;
@@ -32,7 +30,7 @@ int runOnMainThread(const Alert& alert, PanelHost& host, const Screens& screens)
     engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
     WindowRules rules;
     rules.title = QStringLiteral("Vantle");
-    WindowShell window(engine);
+    WindowShell window(engine, windowManager);
     int chosen = static_cast<int>(alert.buttons.size()) - 1;
     if (!window.load(rules, QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Alert/AlertView.qml")),
                      std::move(owned), host.isComposited()))
@@ -53,9 +51,9 @@ int runOnMainThread(const Alert& alert, PanelHost& host, const Screens& screens)
     window.setMinimumSize(size);
     window.setMaximumSize(size);
     const auto shapes = screens.inUseFirst();
-    const QRect area =
-        shapes.empty() ? window.screen()->availableGeometry() : shapes.front().available.toRect();
-    window.setGeometry(QRect(centered(size, area), size));
+    const QRectF area =
+        shapes.empty() ? window.screen()->availableGeometry() : shapes.front().available;
+    windowManager.place(window, windowplacement::centred(size, area));
     window.show();
     window.requestActivate();
     loop.exec();
@@ -64,11 +62,13 @@ int runOnMainThread(const Alert& alert, PanelHost& host, const Screens& screens)
 
 } // namespace
 
-int runAlert(const Alert& alert, PanelHost& host, const Screens& screens) {
-    if (QThread::currentThread() == qApp->thread()) return runOnMainThread(alert, host, screens);
+int runAlert(const Alert& alert, PanelHost& host, WindowManager& windowManager,
+             const Screens& screens) {
+    if (QThread::currentThread() == qApp->thread())
+        return runOnMainThread(alert, host, windowManager, screens);
     int chosen = 0;
     QMetaObject::invokeMethod(
-        qApp, [&] { chosen = runOnMainThread(alert, host, screens); },
+        qApp, [&] { chosen = runOnMainThread(alert, host, windowManager, screens); },
         Qt::BlockingQueuedConnection);
     return chosen;
 }

@@ -8,6 +8,7 @@ namespace vantle {
 
 class PanelHost;
 class Screens;
+class WindowManager;
 
 /// What an alert says.
 struct Alert {
@@ -23,7 +24,8 @@ namespace modalpresenter {
 /// closing the window choose the last one. Runs the event loop until then; the program's other
 /// windows wait. Any thread, after the application object: off the main thread it waits for the
 /// answer there.
-[[nodiscard]] int runAlert(const Alert& alert, PanelHost& host, const Screens& screens);
+[[nodiscard]] int runAlert(const Alert& alert, PanelHost& host, WindowManager& windowManager,
+                           const Screens& screens);
 
 } // namespace modalpresenter
 } // namespace vantle

@@ -57,7 +57,7 @@ bool ManagedWindow::show() {
 }
 
 bool ManagedWindow::open() {
-    auto shell = std::make_unique<WindowShell>(m_env.engine.acquire());
+    auto shell = std::make_unique<WindowShell>(m_env.engine.acquire(), m_env.windowManager);
     // Queued: the view that asks for it is destroyed by it.
     const auto closeLater = [window = QPointer(this)] {
         if (window) QMetaObject::invokeMethod(window, &ManagedWindow::close, Qt::QueuedConnection);
@@ -108,7 +108,7 @@ void ManagedWindow::place() {
         m_shell->setMinimumSize(frame.size());
         m_shell->setMaximumSize(frame.size());
     }
-    m_shell->setGeometry(frame);
+    m_env.windowManager.place(*m_shell, frame);
     m_placedFrame = frame;
 }
 
@@ -120,7 +120,7 @@ void ManagedWindow::refit() {
     // In an order that never asks for a size outside the bounds of the moment.
     m_shell->setMinimumSize(frame.size().boundedTo(m_shell->size()));
     m_shell->setMaximumSize(frame.size().expandedTo(m_shell->size()));
-    m_shell->setGeometry(frame);
+    m_env.windowManager.place(*m_shell, frame);
     m_shell->setMinimumSize(frame.size());
     m_shell->setMaximumSize(frame.size());
 }

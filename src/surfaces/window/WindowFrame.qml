@@ -4,22 +4,13 @@ import QtQuick
 import Vantle.Kit
 import Vantle.Window
 
-Item {
+FrameRoot {
     id: frame
 
-    required property WindowShell shell
-    required property string title // in the strip; empty where the view opens with one
-    required property bool resizable
-    required property bool rounded
-    property bool minimisable: true // by the window manager
-    required property int minimumHeight // of the view; 0 means what it asks for
-    required property url view
-    required property QtObject model
-
-    readonly property bool ready: loader.status === Loader.Ready
     readonly property int viewMinimum: resizable ? 0 : minimumHeight > 0 ? minimumHeight
                                                                          : loader.implicitHeight
 
+    ready: loader.status === Loader.Ready
     implicitWidth: loader.implicitWidth
     implicitHeight: loader.implicitHeight + DarkUI.stripHeight
 

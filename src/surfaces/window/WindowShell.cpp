@@ -1,6 +1,8 @@
 #include "surfaces/window/WindowShell.h"
 
+#include "platform/WindowManager.h"
 #include "surfaces/kit/painters/ApplicationIcon.h"
+#include "surfaces/window/FrameRoot.h"
 #include "surfaces/window/WindowPlacement.h"
 #include "surfaces/window/WindowSpec.h"
 
@@ -10,7 +12,9 @@
 
 namespace vantle {
 
-WindowShell::WindowShell(std::shared_ptr<QQmlEngine> engine) : m_engine(std::move(engine)) {
+WindowShell::WindowShell(std::shared_ptr<QQmlEngine> engine, WindowManager& windowManager)
+    : m_engine(std::move(engine))
+    , m_windowManager(windowManager) {
     QSurfaceFormat translucent = format();
     translucent.setAlphaBufferSize(8);
     setFormat(translucent);
@@ -26,28 +30,27 @@ bool WindowShell::load(const WindowRules& rules, const QUrl& view, std::unique_p
     m_model = std::move(model);
     QQmlComponent component(m_engine.get(),
                             QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Window/WindowFrame.qml")));
-    m_frame.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
-        {{QStringLiteral("shell"), QVariant::fromValue(this)},
-         {QStringLiteral("title"), rules.showsTitle ? rules.title : QString()},
-         {QStringLiteral("resizable"), rules.resizable},
-         {QStringLiteral("rounded"), rounded},
-         {QStringLiteral("minimumHeight"), rules.scrollableHeight},
-         {QStringLiteral("view"), view},
-         {QStringLiteral("model"), QVariant::fromValue(m_model.get())}})));
+    m_frame.reset(qobject_cast<FrameRoot*>(component.beginCreate(m_engine->rootContext())));
     if (!m_frame) return false;
+    m_frame->shell = this;
+    m_frame->title = rules.showsTitle ? rules.title : QString();
+    m_frame->resizable = rules.resizable;
+    m_frame->minimumHeight = rules.scrollableHeight;
+    m_frame->view = view;
+    m_frame->model = m_model.get();
+    m_frame->setRounded(rounded);
+    component.completeCreate();
     m_frame->setParent(this);
     m_frame->setParentItem(contentItem());
     const auto changed = [this] { Q_EMIT fittingSizeChanged(); };
     connect(m_frame.get(), &QQuickItem::implicitWidthChanged, this, changed);
     connect(m_frame.get(), &QQuickItem::implicitHeightChanged, this, changed);
-    return m_frame->property("ready").toBool();
+    return m_frame->isReady();
 }
 
-void WindowShell::setRounded(bool rounded) { m_frame->setProperty("rounded", rounded); }
+void WindowShell::setRounded(bool rounded) { m_frame->setRounded(rounded); }
 
-void WindowShell::setMinimisable(bool minimisable) {
-    m_frame->setProperty("minimisable", minimisable);
-}
+void WindowShell::setMinimisable(bool minimisable) { m_frame->setMinimisable(minimisable); }
 
 void WindowShell::beginMove() {
     if (!startSystemMove()) m_held = Qt::Edges();
@@ -82,8 +85,9 @@ void WindowShell::mousePressEvent(QMouseEvent* event) {
 }
 
 void WindowShell::dragTo(QPoint pointer) {
-    setGeometry(windowplacement::dragged(m_press.frame, *m_held, pointer - m_press.pointer,
-                                         minimumSize(), maximumSize()));
+    m_windowManager.place(*this, windowplacement::dragged(m_press.frame, *m_held,
+                                                          pointer - m_press.pointer, minimumSize(),
+                                                          maximumSize()));
 }
 
 void WindowShell::mouseMoveEvent(QMouseEvent* event) {

@@ -11,6 +11,8 @@ class QQmlEngine;
 
 namespace vantle {
 
+class FrameRoot;
+class WindowManager;
 struct WindowRules;
 
 /// A window without the desktop's frame, which has a place in the task bar and takes the keyboard
@@ -22,7 +24,8 @@ class WindowShell : public QQuickWindow {
     QML_UNCREATABLE("Made by its managed window.")
 
 public:
-    explicit WindowShell(std::shared_ptr<QQmlEngine> engine);
+    /// `windowManager` must outlive the window.
+    WindowShell(std::shared_ptr<QQmlEngine> engine, WindowManager& windowManager);
     ~WindowShell() override;
 
     /// Makes the frame with the view in it. False when the view is no good. `rounded` says that the
@@ -76,7 +79,8 @@ private:
 
     std::shared_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QObject> m_model;
-    std::unique_ptr<QQuickItem> m_frame;
+    WindowManager& m_windowManager;
+    std::unique_ptr<FrameRoot> m_frame;
     Press m_press;
     std::optional<Qt::Edges> m_held; ///< what follows the pointer by hand; no edges move all of it
 };

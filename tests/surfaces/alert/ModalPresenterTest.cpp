@@ -2,6 +2,7 @@
 
 #include "fakes/FakePanelHost.h"
 #include "fakes/FakeScreens.h"
+#include "fakes/FakeWindowManager.h"
 #include "support/ShownItems.h"
 #include "support/Text.h"
 
@@ -24,6 +25,7 @@ namespace {
 int runWhile(const std::function<void(QQuickWindow&)>& person, bool composited = true,
              const fakes::FakeScreens& screens = {}) {
     fakes::FakePanelHost host;
+    fakes::FakeWindowManager windowManager;
     host.composited = composited;
     QTimer glance;
     QObject::connect(&glance, &QTimer::timeout, [&] {
@@ -38,7 +40,7 @@ int runWhile(const std::function<void(QQuickWindow&)>& person, bool composited =
     return modalpresenter::runAlert({QStringLiteral("Something happened"),
                                      QStringLiteral("It means this."),
                                      {QStringLiteral("Replace"), QStringLiteral("Cancel")}},
-                                    host, screens);
+                                    host, windowManager, screens);
 }
 
 void press(QQuickWindow& view, Qt::Key key) {
@@ -110,6 +112,7 @@ TEST(ModalPresenter, StandsInTheMiddleOfTheScreenInUse) {
 
 TEST(ModalPresenter, OffTheMainThreadTheQuestionIsAskedOnIt) {
     fakes::FakePanelHost host;
+    fakes::FakeWindowManager windowManager;
     const fakes::FakeScreens screens;
     const QThread* askedOn = nullptr;
     int chosen = -1;
@@ -126,7 +129,7 @@ TEST(ModalPresenter, OffTheMainThreadTheQuestionIsAskedOnIt) {
         chosen = modalpresenter::runAlert({QStringLiteral("Something happened"),
                                            QStringLiteral("It means this."),
                                            {QStringLiteral("Replace"), QStringLiteral("Cancel")}},
-                                          host, screens);
+                                          host, windowManager, screens);
     }));
     QEventLoop loop;
     QObject::connect(worker.get(), &QThread::finished, &loop, &QEventLoop::quit);

@@ -92,6 +92,13 @@ TEST_F(ManagedWindowTest, AResizableWindowHasItsSizeAndItsLeastSize) {
     EXPECT_EQ(window.window()->minimumSize(), QSize(380, 320 + kStrip));
 }
 
+TEST_F(ManagedWindowTest, ADesktopThatPlacesWindowsItselfGivesTheirSize) {
+    manager.places = false;
+    ManagedWindow window(environment, fixed, content("Fixed.qml"));
+    ASSERT_TRUE(window.show());
+    EXPECT_EQ(window.window()->geometry(), QRect(0, 0, 200, 136));
+}
+
 TEST_F(ManagedWindowTest, AClosedWindowLeavesNothingOfItsView) {
     ManagedWindow window(environment, fixed, content("Fixed.qml"));
     ASSERT_TRUE(window.show());

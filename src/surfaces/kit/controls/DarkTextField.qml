@@ -105,7 +105,16 @@ FocusScope {
                 id: reading
                 name: field.name
                 description: field.help
+                cursorPosition: input.cursorPosition
+                selectionStart: input.selectionStart
+                selectionEnd: input.selectionEnd
                 onFocusWanted: field.keyboardWanted()
+                onSelectionWanted: (start, end) => input.select(start, end)
+                onCaretWanted: offset => input.cursorPosition = offset
+                onRemovalWanted: (start, end) => input.remove(start, end)
+                onInsertionWanted: (offset, text) => input.insert(offset, text)
+                onSightWanted: offset => input.ensureVisible(offset)
+                onCaretRectWanted: offset => caretRect = input.positionToRectangle(offset)
             }
 
             // The text takes the press: the handler of the well does not hear of it.

@@ -35,7 +35,6 @@ QList<int> starts(const QString& text, QAccessible::TextBoundaryType kind) {
     return found;
 }
 
-/// Geometry, text and focus are asked of the TextInput by its properties: its C++ class is private.
 class FieldInterface final : public QAccessibleObject,
                              public QAccessibleTextInterface,
                              public QAccessibleEditableTextInterface,
@@ -116,22 +115,24 @@ public:
 
     void selection(int index, int* start, int* end) const override {
         const bool isThere = index == 0 && selectionCount() == 1;
-        *start = isThere ? number("selectionStart") : 0;
-        *end = isThere ? number("selectionEnd") : 0;
+        *start = isThere ? reading()->selectionStart() : 0;
+        *end = isThere ? reading()->selectionEnd() : 0;
     }
     [[nodiscard]] int selectionCount() const override {
-        return number("selectionStart") == number("selectionEnd") ? 0 : 1;
+        return reading() && reading()->selectionStart() != reading()->selectionEnd() ? 1 : 0;
     }
     void addSelection(int start, int end) override { select(start, end); }
     void removeSelection(int index) override {
-        if (index == 0) QMetaObject::invokeMethod(&item(), "deselect");
+        if (index == 0) select(cursorPosition(), cursorPosition());
     }
     void setSelection(int index, int start, int end) override {
         if (index == 0) select(start, end);
     }
-    [[nodiscard]] int cursorPosition() const override { return number("cursorPosition"); }
+    [[nodiscard]] int cursorPosition() const override {
+        return reading() ? reading()->cursorPosition() : 0;
+    }
     void setCursorPosition(int position) override {
-        item().setProperty("cursorPosition", within(position));
+        if (reading()) Q_EMIT reading()->caretWanted(within(position));
     }
 
     // -- the text
@@ -181,8 +182,9 @@ public:
         return characterCount();
     }
     void scrollToSubstring(int start, int end) override {
-        QMetaObject::invokeMethod(&item(), "ensureVisible", Q_ARG(int, within(end)));
-        QMetaObject::invokeMethod(&item(), "ensureVisible", Q_ARG(int, within(start)));
+        if (!reading()) return;
+        Q_EMIT reading()->sightWanted(within(end));
+        Q_EMIT reading()->sightWanted(within(start));
     }
 
     // -- editing
@@ -190,25 +192,19 @@ public:
     void deleteText(int start, int end) override { replaceText(start, end, {}); }
     void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
     void replaceText(int start, int end, const QString& text) override {
-        if (!item().isEnabled()) return;
+        if (!item().isEnabled() || !reading()) return;
         const int from = within(start);
         const int to = std::max(from, within(end));
-        if (to > from)
-            QMetaObject::invokeMethod(&item(), "remove", Q_ARG(int, from), Q_ARG(int, to));
-        if (!text.isEmpty())
-            QMetaObject::invokeMethod(&item(), "insert", Q_ARG(int, from), Q_ARG(QString, text));
+        if (to > from) Q_EMIT reading()->removalWanted(from, to);
+        if (!text.isEmpty()) Q_EMIT reading()->insertionWanted(from, text);
     }
 
 private:
     [[nodiscard]] QQuickItem& item() const { return static_cast<QQuickItem&>(*object()); }
-    [[nodiscard]] QString content() const { return item().property("text").toString(); }
-    [[nodiscard]] int number(const char* property) const {
-        return item().property(property).toInt();
-    }
+    [[nodiscard]] QString content() const { return reading() ? reading()->text() : QString(); }
     [[nodiscard]] int within(int offset) const { return std::clamp(offset, 0, characterCount()); }
     void select(int start, int end) {
-        QMetaObject::invokeMethod(&item(), "select", Q_ARG(int, within(start)),
-                                  Q_ARG(int, within(end)));
+        if (reading()) Q_EMIT reading()->selectionWanted(within(start), within(end));
     }
     QString part(int offset, QAccessible::TextBoundaryType kind, int step, int* start,
                  int* end) const {
@@ -222,10 +218,7 @@ private:
         return found.start < 0 ? QString() : all.sliced(found.start, found.end - found.start);
     }
     [[nodiscard]] QRectF caretRect(int offset) const {
-        QRectF place;
-        QMetaObject::invokeMethod(&item(), "positionToRectangle", Q_RETURN_ARG(QRectF, place),
-                                  Q_ARG(int, offset));
-        return place;
+        return reading() ? reading()->caretRectAt(offset) : QRectF();
     }
     [[nodiscard]] QRect onScreen(const QRectF& place) const {
         const QRect scene = item().mapRectToScene(place).toRect();
