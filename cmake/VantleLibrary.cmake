@@ -77,6 +77,12 @@ function(vantle_qml_module name)
     vantle_precompile(${name})
 endfunction()
 
+# A folder with one of the program's windows: such a module, which launch/Windows.cpp may use.
+function(vantle_window name)
+    vantle_qml_module(${ARGV})
+    set_property(GLOBAL APPEND PROPERTY VANTLE_WINDOWS ${name})
+endfunction()
+
 # Links the views of all modules that a program links, directly or by others. Called once the program
 # has all of its links.
 function(vantle_use_views program)

@@ -9,8 +9,10 @@ ARGUMENT = re.compile(r'"(?:\\.|[^"\\])*"|[^\s"]+')
 COMMENT = re.compile(r'("(?:\\.|[^"\\])*")|#[^\n]*')
 VARIABLE = re.compile(r"\$\{\w+\}")
 
-MAKES_TARGET = {"vantle_library", "vantle_qml_module", "vantle_test", "add_library",
-                "add_executable", "qt_add_library", "qt_add_executable", "qt_add_qml_module"}
+MAKES_TARGET = {"vantle_library", "vantle_qml_module", "vantle_window", "vantle_test",
+                "add_library", "add_executable", "qt_add_library", "qt_add_executable",
+                "qt_add_qml_module"}
+ALL_WINDOWS = "${windows}"
 LINK_KEYWORDS = {"LINKS", "PRIVATE_LINKS"}
 SCOPES = {"PUBLIC", "PRIVATE", "INTERFACE"}
 
@@ -60,7 +62,7 @@ def _read_into(target, arguments, path):
 
 def targets(tree, folders):
     """All targets made below the folders, by name."""
-    made = {}
+    made, windows = {}, []
     for path in tree.files(("CMakeLists.txt",), folders):
         for name, arguments in commands(tree.text(path)):
             if not arguments:
@@ -69,9 +71,13 @@ def targets(tree, folders):
             if name in MAKES_TARGET:
                 target = made.setdefault(first, Target(first, path))
                 _read_into(target, arguments[1:], path)
+                windows += [first] if name == "vantle_window" else []
             elif name == "target_link_libraries" and first in made:
                 made[first].links += [(text, path, line) for text, line in arguments[1:]
                                       if text not in SCOPES]
+    for target in made.values():
+        target.links = [(name, path, line) for text, path, line in target.links
+                        for name in (windows if text == ALL_WINDOWS else [text])]
     return made
 
 

@@ -12,11 +12,29 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 namespace vantle {
 
-/// The windows of the program.
-enum class WindowId { Dashboard, Wrapped, Log, QuickLog, Welcome, Settings };
+/// The name of a window. Only those that other folders open have one here.
+class WindowId {
+public:
+    constexpr WindowId() = default;
+    explicit constexpr WindowId(std::string_view name) : m_name(name) {}
+    friend constexpr bool operator==(WindowId, WindowId) = default;
+
+    static const WindowId Dashboard, Wrapped, Log, QuickLog, Welcome, Settings;
+
+private:
+    std::string_view m_name;
+};
+
+inline constexpr WindowId WindowId::Dashboard{"dashboard"};
+inline constexpr WindowId WindowId::Wrapped{"wrapped"};
+inline constexpr WindowId WindowId::Log{"notes"};
+inline constexpr WindowId WindowId::QuickLog{"quick log"};
+inline constexpr WindowId WindowId::Welcome{"welcome"};
+inline constexpr WindowId WindowId::Settings{"settings"};
 
 /// How a window looks and behaves to the desktop. Sizes are in px and are those of the content,
 /// without the title strip.

@@ -1,5 +1,6 @@
 #include "platform/Port.h"
 #include "platform/posix/Files.h"
+#include "surfaces/cards/CardWindow.h"
 
 // qDebug, QTimer and QSaveFile in a comment are talk only, /* and
 /* so is std::cout here,

@@ -1,0 +1,2 @@
+// The card as a window.
+#pragma once
