@@ -9,6 +9,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <type_traits>
 #include <utility>
 
 namespace vantle {
@@ -40,17 +41,20 @@ public:
     [[nodiscard]] QDBusMessage get(const QString& path, const QString& interface,
                                    const QString& property) const;
 
-    /// Sends the call. Calls `take` with an answer of that type, `fail` after an error or any other
-    /// answer; neither when the service goes first.
+    /// Sends the call. Calls `take` with an answer of that type, or `void` for none; `fail` after
+    /// an error or any other answer; neither when the service goes first.
     template <typename Answer, typename Take>
     void ask(
         const QDBusMessage& call, Take take, std::function<void()> fail = [] {}) {
         send(call, [take = std::move(take), fail = std::move(fail)](const QDBusPendingCall& ended) {
-            const QDBusPendingReply<Answer> reply = ended;
-            if (reply.isValid())
-                take(reply.value());
+            using Reply = std::conditional_t<std::is_void_v<Answer>, QDBusPendingReply<>,
+                                             QDBusPendingReply<Answer>>;
+            const Reply reply = ended;
+            if (!reply.isValid()) return fail();
+            if constexpr (std::is_void_v<Answer>)
+                take();
             else
-                fail();
+                take(reply.value());
         });
     }
 

@@ -3,13 +3,10 @@
 #include "platform/tray/StatusNotifierAdaptor.h"
 
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusReply>
-#include <QDBusServiceWatcher>
+#include <QDBusVariant>
 
 #include <algorithm>
-#include <utility>
 
 namespace vantle {
 
@@ -34,21 +31,11 @@ QDBusMessage watcherQuestion() {
     return question;
 }
 
-/// Calls `take` with the reply, unless `owner` is gone by then.
-template <typename Take>
-void whenAnswered(const QDBusPendingCall& call, QObject* owner, Take take) {
-    auto* watcher = new QDBusPendingCallWatcher(call, owner);
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, owner,
-                     [take = std::move(take)](QDBusPendingCallWatcher* finished) {
-                         finished->deleteLater();
-                         take(*finished);
-                     });
-}
-
 } // namespace
 
 StatusNotifierItem::StatusNotifierItem(const QDBusConnection& session)
     : m_session(session)
+    , m_watcher(session, kWatcher)
     , m_menu(session)
     , m_adaptor(new StatusNotifierAdaptor(*this)) {
     registerTrayTypes();
@@ -57,20 +44,12 @@ StatusNotifierItem::StatusNotifierItem(const QDBusConnection& session)
         m_hasWatcher = false;
         return;
     }
-    auto* watcher = new QDBusServiceWatcher(kWatcher, m_session,
-                                            QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString&, const QString&, const QString& newOwner) {
-                setWatcher(!newOwner.isEmpty());
-            });
+    connect(&m_watcher, &FollowedService::came, this, [this] { setWatcher(true); });
+    connect(&m_watcher, &FollowedService::gone, this, [this] { setWatcher(false); });
     for (const auto& signal : {QStringLiteral("StatusNotifierHostRegistered"),
                                QStringLiteral("StatusNotifierHostUnregistered")})
-        m_session.connect(kWatcher, kWatcherPath, kWatcher, signal, this, SLOT(askForHost()));
-
-    whenAnswered(m_session.asyncCall(watcherQuestion()), this,
-                 [this](const QDBusPendingReply<bool>& reply) {
-                     if (!m_hasWatcher) setWatcher(reply.isValid() && reply.value());
-                 });
+        m_watcher.hear(kWatcherPath, kWatcher, signal,
+                       [this](const QDBusMessage&) { askForHost(); });
 }
 
 bool StatusNotifierItem::isSurelyWithoutWatcher() const {
@@ -82,7 +61,6 @@ bool StatusNotifierItem::isSurelyWithoutWatcher() const {
 StatusNotifierItem::~StatusNotifierItem() { m_session.unregisterObject(kItemPath); }
 
 void StatusNotifierItem::setWatcher(bool present) {
-    ++m_watcherGeneration;
     m_hasWatcher = present;
     setState(false, false);
     if (present && m_imageKey != 0) announce();
@@ -90,32 +68,22 @@ void StatusNotifierItem::setWatcher(bool present) {
 }
 
 void StatusNotifierItem::announce() {
-    auto call = QDBusMessage::createMethodCall(kWatcher, kWatcherPath, kWatcher,
-                                               QStringLiteral("RegisterStatusNotifierItem"));
-    call << m_session.baseService();
-    call.setAutoStartService(false);
-    whenAnswered(m_session.asyncCall(call), this,
-                 [this, generation = m_watcherGeneration](const QDBusPendingReply<>& reply) {
-                     if (reply.isError() || generation != m_watcherGeneration) return;
-                     setState(true, m_hosted);
-                     askForHost();
-                 });
+    const auto call =
+        m_watcher.call(kWatcherPath, kWatcher, QStringLiteral("RegisterStatusNotifierItem"))
+        << m_session.baseService();
+    m_watcher.ask<void>(call, [this] {
+        setState(true, m_hosted);
+        askForHost();
+    });
 }
 
 void StatusNotifierItem::askForHost() {
     if (!m_announced) return;
-    auto question = QDBusMessage::createMethodCall(
-        kWatcher, kWatcherPath, QStringLiteral("org.freedesktop.DBus.Properties"),
-        QStringLiteral("Get"));
-    question << kWatcher << QStringLiteral("IsStatusNotifierHostRegistered");
-    question.setAutoStartService(false);
-    whenAnswered(
-        m_session.asyncCall(question), this,
-        [this, generation = m_watcherGeneration](const QDBusPendingReply<QDBusVariant>& reply) {
-            if (generation != m_watcherGeneration) return;
-            // A watcher that can't tell has taken the item; that must be enough.
-            setState(true, reply.isError() || reply.value().variant().toBool());
-        });
+    m_watcher.ask<QDBusVariant>(
+        m_watcher.get(kWatcherPath, kWatcher, QStringLiteral("IsStatusNotifierHostRegistered")),
+        [this](const QDBusVariant& isThere) { setState(true, isThere.variant().toBool()); },
+        // A watcher that can't tell has taken the item; that must be enough.
+        [this] { setState(true, true); });
 }
 
 void StatusNotifierItem::setState(bool announced, bool hosted) {

@@ -1,6 +1,7 @@
 // A tray item by the StatusNotifierItem protocol, over D-Bus.
 #pragma once
 
+#include "platform/bus/FollowedService.h"
 #include "platform/tray/TrayMenu.h"
 #include "platform/tray/TrayPixmaps.h"
 
@@ -8,7 +9,6 @@
 #include <QObject>
 #include <QPoint>
 
-#include <cstdint>
 #include <list>
 #include <optional>
 
@@ -55,14 +55,12 @@ Q_SIGNALS:
     /// A click of whichever kind opens things, where the host says that it was, or at (0, 0).
     void clicked(QPoint place);
 
-private Q_SLOTS:
-    void askForHost();
-
 private:
     friend class StatusNotifierAdaptor;
 
     void setWatcher(bool present);
     void announce();
+    void askForHost();
     void setState(bool announced, bool hosted);
     [[nodiscard]] const TrayPixmaps& pixmapsOf(const QIcon& image);
 
@@ -72,10 +70,10 @@ private:
     };
 
     QDBusConnection m_session;
+    FollowedService m_watcher;
     TrayMenu m_menu;
     StatusNotifierAdaptor* m_adaptor = nullptr;
     std::optional<bool> m_hasWatcher;
-    std::uint64_t m_watcherGeneration = 0; ///< tells answers of a watcher that is gone
     bool m_announced = false;
     bool m_hosted = false;
 
