@@ -5,6 +5,7 @@
 #include "app/SessionSurfaces.h"
 #include "app/SkillCommands.h"
 #include "base/SerialQueue.h"
+#include "base/Words.h"
 #include "platform/FileSystem.h"
 #include "platform/Preferences.h"
 #include "sensing/AutoSkillMonitor.h"
@@ -36,7 +37,7 @@ QStringList remainingDataFiles(const AppPaths& paths) {
     QStringList problems;
     for (const QString& file : paths.allDataFiles())
         if (paths.fileSystem().exists(file))
-            problems.append(QStringLiteral("%1 still exists").arg(nameOf(file)));
+            problems.append(Words::tr("%1 still exists").arg(nameOf(file)));
     return problems;
 }
 
@@ -61,11 +62,11 @@ std::optional<QString> DataErase::run() {
     tracker.notifySessionsChanged();
     problems += m_env.ioQueue.run([this] { return remainingDataFiles(m_env.paths); });
     if (problems.isEmpty()) {
-        m_env.note.say(QStringLiteral("All local Vantle data was erased"));
+        m_env.note.say(Words::tr("All local Vantle data was erased"));
         return std::nullopt;
     }
-    const QString message = QStringLiteral("Some local data could not be erased: ") +
-                            problems.join(QLatin1String("; "));
+    const QString message = Words::tr("Some local data could not be erased: %1")
+                                .arg(problems.join(QLatin1String("; ")));
     m_env.note.say(message);
     return message;
 }

@@ -4,6 +4,7 @@
 #include "app/RecoveryWords.h"
 #include "app/TopRightCardSlot.h"
 #include "base/Clock.h"
+#include "base/Words.h"
 #include "platform/Preferences.h"
 #include "platform/ReducedMotion.h"
 #include "tracking/CrashRecovery.h"
@@ -83,7 +84,7 @@ void SessionSurfaces::showSummary(const Session& session, bool isPractice, bool 
         if (!self || !note || isPractice) return;
         if (!self->m_env.tracker.updateNote(id, *note))
             self->m_env.note.report(
-                QStringLiteral("The session was saved, but its note could not be added."));
+                Words::tr("The session was saved, but its note could not be added."));
     });
 }
 
@@ -140,7 +141,7 @@ void SessionSurfaces::offerRecovery(const OpenSessionMarker& marker) {
         [self, marker] {
             if (!self) return;
             self->m_env.tracker.discardRecovery(marker);
-            self->m_env.note.say(QStringLiteral("Discarded the recovered session"));
+            self->m_env.note.say(Words::tr("Discarded the recovered session"));
         },
         [self, marker, recovered = words.recovered] {
             if (self && self->m_env.tracker.recoverSession(marker)) self->m_env.note.say(recovered);

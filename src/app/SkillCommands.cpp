@@ -4,6 +4,7 @@
 #include "app/SessionFlow.h"
 #include "app/SessionSurfaces.h"
 #include "base/Bidi.h"
+#include "base/Words.h"
 #include "sensing/AutoSkillMonitor.h"
 #include "tracking/SkillList.h"
 
@@ -37,12 +38,11 @@ void SkillCommands::split(const QString& id, Origin origin, const QString& previ
     const auto [ended, hasStarted] = m_env.flow.split(m_env.list.by(id));
     if (!ended) {
         m_env.flow.choose(previousId);
-        m_env.note.report(QStringLiteral("Couldn’t save before changing skill"));
+        m_env.note.report(Words::tr("Couldn’t save before changing skill"));
         return;
     }
     if (!hasStarted) {
-        m_env.note.report(
-            QStringLiteral("Saved the previous session but couldn’t start the new one"));
+        m_env.note.report(Words::tr("Saved the previous session but couldn’t start the new one"));
         m_env.flow.closeBrokenSplit();
         return;
     }
@@ -60,22 +60,22 @@ void SkillCommands::add(const QString& name, std::uint32_t hexRGB) {
         all, [&](const Skill& skill) { return Skill::comparisonKey(skill.name) == key; });
     if (existing != all.end()) {
         if (m_env.flow.isIdle()) m_env.flow.choose(existing->id);
-        m_env.note.say(QStringLiteral("%1 already exists").arg(bidi::isolated(existing->name)));
+        m_env.note.say(Words::tr("%1 already exists").arg(bidi::isolated(existing->name)));
         return;
     }
     const auto added = m_env.list.addCustom(name, hexRGB);
     if (!added) {
         if (reportUnreadable()) return;
-        m_env.note.say(QStringLiteral("Couldn’t add mode · %1 modes max, %2 characters")
-                           .arg(Skill::maxCount)
-                           .arg(Skill::maxNameLength));
+        m_env.note.say(
+            Words::tr("Couldn’t add mode · %1 modes max, %2 characters")
+                .arg(QString::number(Skill::maxCount), QString::number(Skill::maxNameLength)));
         return;
     }
     if (m_env.flow.isIdle()) {
         m_env.flow.choose(added->id);
         m_env.flow.showIdlePrompt();
     }
-    m_env.note.say(QStringLiteral("Added %1").arg(added->name));
+    m_env.note.say(Words::tr("Added %1").arg(bidi::isolated(added->name)));
 }
 
 void SkillCommands::update(QString id, const QString& name, std::uint32_t hexRGB) {
@@ -85,13 +85,13 @@ void SkillCommands::update(QString id, const QString& name, std::uint32_t hexRGB
         return skill.id != id && Skill::comparisonKey(skill.name) == key;
     });
     if (taken) {
-        m_env.note.say(QStringLiteral("That mode already exists"));
+        m_env.note.say(Words::tr("That mode already exists"));
         return;
     }
     const auto updated = m_env.list.update(id, name, hexRGB);
     if (!updated) {
         if (reportUnreadable()) return;
-        m_env.note.say(QStringLiteral("Couldn’t save mode · names are 1 to %1 characters")
+        m_env.note.say(Words::tr("Couldn’t save mode · names are 1 to %1 characters")
                            .arg(Skill::maxNameLength));
         return;
     }
@@ -99,7 +99,7 @@ void SkillCommands::update(QString id, const QString& name, std::uint32_t hexRGB
         m_env.surfaces.showNewSkill(*updated);
     else
         m_env.flow.showIdlePrompt();
-    m_env.note.say(QStringLiteral("Saved %1").arg(updated->name));
+    m_env.note.say(Words::tr("Saved %1").arg(bidi::isolated(updated->name)));
 }
 
 void SkillCommands::remove(QString id) {
@@ -107,22 +107,23 @@ void SkillCommands::remove(QString id) {
     const QString name = m_env.list.by(id).name;
     if (!m_env.list.remove(id)) {
         if (reportUnreadable()) return;
-        m_env.note.say(QStringLiteral("Keep at least one skill"));
+        m_env.note.say(Words::tr("Keep at least one skill"));
         return;
     }
     m_env.autoSkill.rules().removeRules(id);
     if (m_env.flow.selectedSkillId() == id || m_env.flow.tracker().currentSkillId() == id)
         select(m_env.list.all().front().id, Origin::Auto);
     m_env.flow.showIdlePrompt();
-    m_env.note.say(QStringLiteral("Deleted %1").arg(name));
+    m_env.note.say(Words::tr("Deleted %1").arg(bidi::isolated(name)));
 }
 
 bool SkillCommands::reportUnreadable() {
     const auto& error = m_env.list.readError();
     if (!error) return false;
-    m_env.note.say(QStringLiteral("Couldn’t read your modes. Check folder permissions, then "
-                                  "start Vantle again. (%1)")
-                       .arg(error->description()));
+    m_env.note.say(
+        Words::tr(
+            "Couldn’t read your modes. Check folder permissions, then start Vantle again. (%1)")
+            .arg(error->description()));
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "launch/MissingTray.h"
 
+#include "base/Words.h"
 #include "platform/Preferences.h"
 #include "platform/TrayItem.h"
 #include "tracking/Settings.h"
@@ -22,7 +23,7 @@ void MissingTray::panelOpened() {
     m_check = m_env.scheduler.scheduleOnce(kTrayPatience, [this] {
         if (m_env.tray.isShown() || !m_env.canBeTold()) return;
         settings::trayAbsenceTold.write(m_env.preferences, true);
-        m_env.tell(QStringLiteral("No tray here: open Vantle again to get this panel back"));
+        m_env.tell(Words::tr("No tray here: open Vantle again to get this panel back"));
     });
 }
 

@@ -2,6 +2,8 @@
 
 #include "app/AppModel.h"
 #include "app/OpenQuestions.h"
+#include "base/Bidi.h"
+#include "base/Words.h"
 #include "tracking/SkillList.h"
 
 #include <QPointer>
@@ -28,8 +30,8 @@ SpokenEvents::SpokenEvents(const Environment& environment)
     connect(&model.tracker(), &TrackerCore::stateChanged, this, &SpokenEvents::followState);
     connect(&model, &AppModel::selectedSkillIdChanged, this, [this] {
         if (m_env.model.tracker().state() == TrackerCore::State::Idle)
-            say(QStringLiteral("%1 chosen")
-                    .arg(m_env.skills.by(m_env.model.selectedSkillId()).name));
+            say(Words::tr("%1 chosen")
+                    .arg(bidi::isolated(m_env.skills.by(m_env.model.selectedSkillId()).name)));
     });
     connect(&model, &AppModel::lastActionNoteChanged, this, [this] {
         if (const auto& note = m_env.model.lastActionNote()) say(*note);
@@ -62,15 +64,15 @@ void SpokenEvents::tellState() {
     const bool isSwitched = std::exchange(m_toldSkill, skill) != skill;
     if (now == before) {
         // Auto mode switches by itself; what the user switched from is told by the toast.
-        if (isSwitched && now != State::Idle) say(QStringLiteral("Switched to %1").arg(skill));
+        if (isSwitched && now != State::Idle)
+            say(Words::tr("Switched to %1").arg(bidi::isolated(skill)));
         return;
     }
     if (now == State::Paused)
-        say(QStringLiteral("Paused, away"));
+        say(Words::tr("Paused, away"));
     else if (now == State::Running)
-        say((before == State::Paused ? QStringLiteral("Resumed, %1")
-                                     : QStringLiteral("Session started, %1"))
-                .arg(skill));
+        say((before == State::Paused ? Words::tr("Resumed, %1") : Words::tr("Session started, %1"))
+                .arg(bidi::isolated(skill)));
     // What it came to is said by the card after the session.
 }
 

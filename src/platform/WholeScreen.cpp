@@ -1,5 +1,6 @@
 #include "platform/WholeScreen.h"
 
+#include "base/Words.h"
 #include "platform/PanelHost.h"
 #include "platform/Screens.h"
 
@@ -28,7 +29,7 @@ void cover(QWindow& window, const QRect& frame, PanelHost& host) {
     QSurfaceFormat format = window.format();
     format.setAlphaBufferSize(8);
     window.setFormat(format);
-    window.setTitle(QStringLiteral("Vantle ceremony"));
+    window.setTitle(Words::tr("Vantle ceremony"));
     (void)host.place(window, {.spot = Placement::Spot::WholeScreen,
                               .screen = {.frame = frame, .available = frame},
                               .felt = QRegion()});

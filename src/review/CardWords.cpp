@@ -1,6 +1,7 @@
 #include "review/CardWords.h"
 
 #include "base/Decimals.h"
+#include "base/Words.h"
 #include "tracking/DashFormat.h"
 
 #include <algorithm>
@@ -19,7 +20,7 @@ QColor withOpacity(std::uint32_t hexRGB, double opacity) {
 }
 
 QString sessions(int count) {
-    return count == 1 ? QStringLiteral("1 session") : QStringLiteral("%1 sessions").arg(count);
+    return count == 1 ? Words::tr("1 session") : Words::tr("%n sessions", nullptr, count);
 }
 
 ReviewFigure figure(double hours, DurationStyle style) {

@@ -1,6 +1,7 @@
 #include "review/HoursCards.h"
 
 #include "base/DateText.h"
+#include "base/Words.h"
 #include "tracking/DashFormat.h"
 
 #include <algorithm>
@@ -21,25 +22,24 @@ namespace {
 
 QString weekBefore(const WrappedStats& stats, DurationStyle style) {
     if (!stats.lastWeekHours) return {};
-    const QString week = stats.period == WrappedPeriod::LastWeek ? QStringLiteral("The week before")
-                                                                 : QStringLiteral("Last week");
-    return week + QLatin1String(": ") + dashformat::inlineHours(*stats.lastWeekHours, style);
+    const QString text = stats.period == WrappedPeriod::LastWeek ? Words::tr("The week before: %1")
+                                                                 : Words::tr("Last week: %1");
+    return text.arg(dashformat::inlineHours(*stats.lastWeekHours, style));
 }
 
 QString origin(const WrappedStats& stats, DurationStyle style) {
     const bool isTracked = stats.verifiedHours > 0;
-    if (stats.manualHours <= 0)
-        return isTracked ? QStringLiteral("All of it tracked live") : QString();
-    if (!isTracked) return QStringLiteral("All of it logged by hand");
-    return dashformat::inlineHours(stats.verifiedHours, style) +
-           QStringLiteral(" tracked live · ") + dashformat::inlineHours(stats.manualHours, style) +
-           QLatin1String(" logged by hand");
+    if (stats.manualHours <= 0) return isTracked ? Words::tr("All of it tracked live") : QString();
+    if (!isTracked) return Words::tr("All of it logged by hand");
+    return Words::tr("%1 tracked live · %2 logged by hand")
+        .arg(dashformat::inlineHours(stats.verifiedHours, style),
+             dashformat::inlineHours(stats.manualHours, style));
 }
 
 QString noted(int count) {
     if (count < 1) return {};
-    return count == 1 ? QStringLiteral("1 session has a note")
-                      : QStringLiteral("%1 sessions have notes").arg(count);
+    return count == 1 ? Words::tr("1 session has a note")
+                      : Words::tr("%n sessions have notes", nullptr, count);
 }
 
 /// The colours of the first `hours` hours of the log, as many as a ring has dots.
@@ -57,6 +57,13 @@ QList<QColor> ringOf(int hours, const std::vector<totals::DotRun>& log) {
     return ring;
 }
 
+QString crossed(const WrappedStats& stats) {
+    const int count = static_cast<int>(stats.milestones.size());
+    const QString text = count == 1 ? Words::tr("You crossed a milestone %1")
+                                    : Words::tr("You crossed %n milestones %1", nullptr, count);
+    return text.arg(wrappedperiod::inSentence(stats.period));
+}
+
 } // namespace
 
 HeroCard hero(const WrappedStats& stats, const WrappedSettings& settings) {
@@ -64,8 +71,8 @@ HeroCard hero(const WrappedStats& stats, const WrappedSettings& settings) {
     QStringList quiet = {weekBefore(stats, style), origin(stats, style),
                          noted(stats.notedSessionCount)};
     quiet.removeAll(QString());
-    return {QStringLiteral("WRAPPED"),
-            QStringLiteral("You built for"),
+    return {Words::tr("WRAPPED"),
+            Words::tr("You built for"),
             stats.totalHours,
             dashformat::inlineHours(stats.totalHours, style),
             cardwords::figure(stats.totalHours, style),
@@ -86,8 +93,8 @@ std::vector<SkillLine> skillLines(const WrappedStats& stats, const WrappedSettin
 
 SkillsCard skillsWithoutTime(const WrappedStats& stats, const WrappedSettings& settings) {
     SkillsCard card;
-    card.kicker = QStringLiteral("TOP SKILL");
-    card.top.name = QStringLiteral("Nothing %1 yet").arg(wrappedperiod::inSentence(stats.period));
+    card.kicker = Words::tr("TOP SKILL");
+    card.top.name = Words::tr("Nothing %1 yet").arg(wrappedperiod::inSentence(stats.period));
     card.top.hours = dashformat::inlineHours(0, settings.durationStyle);
     card.topFigure = cardwords::figure(0, settings.durationStyle);
     return card;
@@ -98,12 +105,12 @@ std::optional<SkillsCard> skills(const WrappedStats& stats, const WrappedSetting
     std::vector<SkillLine> lines = skillLines(stats, settings, std::max<std::size_t>(shown, 1));
     if (lines.empty()) return std::nullopt;
     SkillsCard card;
-    card.kicker = QStringLiteral("TOP SKILL");
+    card.kicker = Words::tr("TOP SKILL");
     card.top = lines.front();
     card.topFigure = cardwords::figure(stats.skillHours.front().hours, settings.durationStyle);
-    if (stats.skillHours.size() > 1) card.breakdownKicker = QStringLiteral("THE BREAKDOWN");
+    if (stats.skillHours.size() > 1) card.breakdownKicker = Words::tr("THE BREAKDOWN");
     if (const std::size_t left = stats.skillHours.size() - lines.size(); left > 0)
-        card.more = QStringLiteral("+%1 more").arg(left);
+        card.more = Words::tr("+%1 more").arg(left);
     card.others.assign(lines.begin() + 1, lines.end());
     return card;
 }
@@ -112,13 +119,9 @@ std::optional<MilestonesCard> milestones(const WrappedStats& stats,
                                          const WrappedSettings& settings) {
     if (stats.milestones.empty()) return std::nullopt;
     MilestonesCard card;
-    card.kicker = QStringLiteral("MILESTONES");
-    const QString what = stats.milestones.size() == 1
-                             ? QStringLiteral("a milestone")
-                             : QStringLiteral("%1 milestones").arg(stats.milestones.size());
-    card.sentence = QStringLiteral("You crossed ") + what + QLatin1Char(' ') +
-                    wrappedperiod::inSentence(stats.period);
-    const DateText date = DateText::fixed(QStringLiteral("MMM d"), settings.calendar);
+    card.kicker = Words::tr("MILESTONES");
+    card.sentence = crossed(stats);
+    const DateText date = DateText::fixed(Words::tr("MMM d", "date pattern"), settings.calendar);
     for (const totals::Badge& badge : stats.milestones)
         card.badges.push_back(
             {badge.hours, date(badge.earnedAt), ringOf(badge.hours, stats.milestoneDots)});

@@ -24,7 +24,7 @@ namespace {
 QString moreNotes(qsizetype left) {
     if (left <= 0) return {};
     return left == 1 ? Words::tr("1 more note is in your log")
-                     : Words::tr("%1 more notes are in your log").arg(left);
+                     : Words::tr("%n more notes are in your log", nullptr, static_cast<int>(left));
 }
 
 /// The length of the first sentence, with the space after it.
@@ -37,7 +37,7 @@ qsizetype firstSentence(const QString& text) {
 
 NarrativeCard narrative(WrappedPeriod period, const QString& text) {
     const auto opening = firstSentence(text);
-    return {text::upperCased(wrappedperiod::label(period)) + Words::tr(", IN WORDS"), text,
+    return {Words::tr("%1, IN WORDS").arg(text::upperCased(wrappedperiod::label(period))), text,
             text.left(opening), text.mid(opening),
             Words::tr("Written on your Mac. Nothing was sent anywhere.")};
 }
@@ -50,7 +50,7 @@ std::optional<NotesCard> notes(const WrappedStats& stats, const WrappedSettings&
     card.kicker = Words::tr("WHAT MOVED FORWARD");
     card.story = digest.storyLine();
     card.themes = digest.themes;
-    const DateText date = DateText::fixed(Words::tr("MMM d"), settings.calendar);
+    const DateText date = DateText::fixed(Words::tr("MMM d", "date pattern"), settings.calendar);
     for (const auto& note : cardwords::firstOf(digest.highlights, shown))
         card.highlights.push_back({note.text, note.skill.name, QColor::fromRgb(note.skill.hexRGB),
                                    bidi::isolated(date(note.endedAt))});

@@ -1,5 +1,7 @@
 #include "review/PersonaCard.h"
 
+#include "base/Words.h"
+
 namespace vantle::reviewcards {
 
 namespace {
@@ -14,12 +16,12 @@ QList<QColor> celebration(const BuilderPersona& persona, const WrappedStats& sta
 }
 
 void addPersona(PersonaCard& card, const BuilderPersona& persona, const WrappedStats& stats) {
-    card.lead = QStringLiteral("Your builder personality is");
-    card.name = persona.name;
+    card.lead = Words::tr("Your builder personality is");
+    card.name = builderpersona::shownName(persona.name);
     card.line = persona.line;
     card.facts = {persona.whenFact, persona.paceFact,
                   cardwords::sessions(stats.personaSessionCount)};
-    card.quiet = QStringLiteral("From ") + stats.personaScope;
+    card.quiet = Words::tr("From %1").arg(stats.personaScope);
     card.startColor = QColor::fromRgb(persona.startHex);
     card.endColor = QColor::fromRgb(persona.endHex);
     card.symbol = builderpersona::symbol(persona.name);
@@ -28,21 +30,21 @@ void addPersona(PersonaCard& card, const BuilderPersona& persona, const WrappedS
 }
 
 void addUnfinished(PersonaCard& card, const WrappedStats& stats) {
-    card.lead = QStringLiteral("Taking shape");
-    card.facts = {QStringLiteral("%1 / %2 sessions")
-                      .arg(stats.personaSessionCount)
-                      .arg(personaSessionsNeeded),
-                  QStringLiteral("%1 / %2 days").arg(stats.activeDays).arg(personaDaysNeeded)};
-    card.line =
-        QStringLiteral("Complete 5 sessions across 2 days to reveal a pattern you can trust.");
-    card.quiet = QStringLiteral("Your type is based only on your local activity.");
+    card.lead = Words::tr("Taking shape");
+    card.facts = {Words::tr("%1 / %2 sessions")
+                      .arg(QString::number(stats.personaSessionCount),
+                           QString::number(personaSessionsNeeded)),
+                  Words::tr("%1 / %2 days")
+                      .arg(QString::number(stats.activeDays), QString::number(personaDaysNeeded))};
+    card.line = Words::tr("Complete 5 sessions across 2 days to reveal a pattern you can trust.");
+    card.quiet = Words::tr("Your type is based only on your local activity.");
 }
 
 } // namespace
 
 PersonaCard persona(const WrappedStats& stats) {
     PersonaCard card;
-    card.kicker = QStringLiteral("YOUR BUILDER TYPE");
+    card.kicker = Words::tr("YOUR BUILDER TYPE");
     card.dotCount = cardwords::dotCount(stats);
     card.sessionCount = stats.personaSessionCount;
     card.activeDays = stats.activeDays;

@@ -1,6 +1,8 @@
 #include "review/RhythmCard.h"
 
+#include "base/Bidi.h"
 #include "base/DateText.h"
+#include "base/Words.h"
 #include "tracking/DashFormat.h"
 
 #include <algorithm>
@@ -25,7 +27,7 @@ public:
     TileMaker(const WrappedStats& stats, const WrappedSettings& settings)
         : m_accent(cardwords::leadingColor(stats))
         , m_style(settings.durationStyle)
-        , m_date(DateText::fixed(QStringLiteral("EEE, MMM d"), settings.calendar)) {}
+        , m_date(DateText::fixed(Words::tr("EEE, MMM d", "date pattern"), settings.calendar)) {}
 
     [[nodiscard]] std::vector<RhythmPicture::Week>
     weeks(const std::vector<rhythmshape::Week>& grid) const {
@@ -50,7 +52,7 @@ private:
             made.outline = cardwords::withOpacity(0xFFFFFF, look.outline->opacity);
             made.outlineWidth = look.outline->width.value_or(kHairline);
         }
-        made.help = m_date(day.date);
+        made.help = bidi::isolated(m_date(day.date));
         if (rhythmmap::opacity(day.hours))
             made.help += QStringLiteral(" · ") + dashformat::inlineHours(day.hours, m_style);
         return made;
@@ -79,11 +81,10 @@ void addMonths(RhythmPicture& picture, const std::vector<std::vector<GridDay>>& 
 }
 
 QString wallCaption(std::int64_t leftOut) {
-    if (leftOut <= 0)
-        return QStringLiteral("One dot per finished hour, in the skill that earned it.");
-    return QStringLiteral("One dot per finished hour. %1 earlier %2 off the top.")
-        .arg(leftOut)
-        .arg(leftOut == 1 ? QStringLiteral("hour") : QStringLiteral("hours"));
+    if (leftOut <= 0) return Words::tr("One dot per finished hour, in the skill that earned it.");
+    if (leftOut == 1) return Words::tr("One dot per finished hour. 1 earlier hour off the top.");
+    return Words::tr("One dot per finished hour. %n earlier hours off the top.", nullptr,
+                     static_cast<int>(leftOut));
 }
 
 } // namespace
@@ -126,7 +127,7 @@ RhythmCard rhythm(const WrappedStats& stats, const WrappedSettings& settings,
     const RhythmDays today{settings.now, settings.calendar, {}};
     const int year = rhythmmap::yearShown(chosenYear, stats.activeYears, today);
     RhythmCard card;
-    card.kicker = QStringLiteral("YOUR RHYTHM");
+    card.kicker = Words::tr("YOUR RHYTHM");
     card.picture = rhythmPicture(stats, settings, year);
     card.caption = rhythmmap::caption(stats.period, year, today);
     card.label = rhythmmap::label(stats.period, year);
@@ -135,7 +136,7 @@ RhythmCard rhythm(const WrappedStats& stats, const WrappedSettings& settings,
             card.years.push_back({choice, rhythmmap::yearChoiceLabel(choice)});
     // A month or more has no room for its wall.
     if (card.picture.isWeek() && !stats.hourDots.empty()) {
-        card.wallKicker = QStringLiteral("EVERY HOUR, ON THE WALL");
+        card.wallKicker = Words::tr("EVERY HOUR, ON THE WALL");
         card.wallCaption = wallCaption(cardwords::dotCount(stats) - wallCapacity);
         card.wallColors = cardwords::dotColors(stats, wallCapacity);
     }

@@ -3,6 +3,7 @@
 #include "base/Bidi.h"
 #include "base/DateText.h"
 #include "base/LocalTime.h"
+#include "base/Words.h"
 
 #include <algorithm>
 
@@ -42,14 +43,14 @@ std::vector<int> yearChoices(const std::vector<int>& activeYears) {
     return activeYears.size() < 2 ? std::vector<int>() : activeYears;
 }
 
-QString yearChoiceLabel(int year) { return QStringLiteral("Show %1").arg(year); }
+QString yearChoiceLabel(int year) { return Words::tr("Show %1").arg(year); }
 
 QString caption(WrappedPeriod period, int year, const RhythmDays& days) {
-    QString what = QStringLiteral("This week");
-    if (period == WrappedPeriod::LastWeek) what = QStringLiteral("Last week");
+    QString what = Words::tr("This week");
+    if (period == WrappedPeriod::LastWeek) what = Words::tr("Last week");
     if (period == WrappedPeriod::Month) what = bidi::isolated(monthName(days));
     if (period == WrappedPeriod::AllTime) what = QString::number(year);
-    return what + QStringLiteral(", day by day. Brighter is more time.");
+    return Words::tr("%1, day by day. Brighter is more time.").arg(what);
 }
 
 QString label(WrappedPeriod period, int year) {
@@ -57,9 +58,9 @@ QString label(WrappedPeriod period, int year) {
     case Picture::Week:
         return {};
     case Picture::Month:
-        return QStringLiteral("Daily activity this month");
+        return Words::tr("Daily activity this month");
     case Picture::Year:
-        return QStringLiteral("Daily activity across %1, week by week").arg(year);
+        return Words::tr("Daily activity across %1, week by week").arg(year);
     }
     Q_UNREACHABLE();
 }

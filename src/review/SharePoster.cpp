@@ -1,5 +1,7 @@
 #include "review/SharePoster.h"
 
+#include "base/Words.h"
+
 #include <algorithm>
 
 namespace vantle::reviewcards {
@@ -29,23 +31,24 @@ SharePoster poster(const WrappedStats& stats, const WrappedSettings& settings) {
     poster.title = wrappedperiod::summaryTitle(stats.period);
     poster.dotColors = posterColors(stats);
     if (stats.persona) {
-        poster.personaName = stats.persona->name;
+        poster.personaName = builderpersona::shownName(stats.persona->name);
         poster.startColor = QColor::fromRgb(stats.persona->startHex);
         poster.endColor = QColor::fromRgb(stats.persona->endHex);
     }
     poster.hours = cardwords::figure(stats.totalHours, settings.durationStyle);
     poster.closing = stats.closingLine(settings.durationStyle);
-    poster.rhythmKicker = QStringLiteral("YOUR RHYTHM");
+    poster.rhythmKicker = Words::tr("YOUR RHYTHM");
     const RhythmDays today{settings.now, settings.calendar, {}};
     poster.rhythm = rhythmPicture(stats, settings,
                                   rhythmmap::yearShown(std::nullopt, stats.activeYears, today));
     poster.breakdown = skillLines(stats, settings, posterSkills);
-    if (!poster.breakdown.empty()) poster.breakdownKicker = QStringLiteral("THE BREAKDOWN");
-    poster.figures = {
-        {poster.hours, QStringLiteral("TOTAL")},
-        counted(stats.sessionCount, QStringLiteral("SESSION"), QStringLiteral("SESSIONS")),
-        counted(stats.activeDays, QStringLiteral("ACTIVE DAY"), QStringLiteral("ACTIVE DAYS"))};
-    poster.footer = QStringLiteral("Vantle · the work is adding up");
+    if (!poster.breakdown.empty()) poster.breakdownKicker = Words::tr("THE BREAKDOWN");
+    poster.figures = {{poster.hours, Words::tr("TOTAL")},
+                      counted(stats.sessionCount, Words::tr("SESSION"),
+                              Words::tr("SESSIONS", nullptr, stats.sessionCount)),
+                      counted(stats.activeDays, Words::tr("ACTIVE DAY"),
+                              Words::tr("ACTIVE DAYS", nullptr, stats.activeDays))};
+    poster.footer = Words::tr("Vantle · the work is adding up");
     return poster;
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/DateText.h"
 #include "base/HourLabel.h"
+#include "base/Words.h"
 #include "review/RhythmMap.h"
 #include "tracking/DashFormat.h"
 
@@ -12,15 +13,15 @@ namespace {
 std::vector<FactBox> facts(const WrappedStats& stats, const WrappedSettings& settings) {
     const DurationStyle style = settings.durationStyle;
     std::vector<FactBox> boxes;
-    if (stats.typicalStart)
-        boxes.push_back({QStringLiteral("TYPICAL START"), *stats.typicalStart, {}});
+    if (stats.typicalStart) boxes.push_back({Words::tr("TYPICAL START"), *stats.typicalStart, {}});
     if (stats.longest)
-        boxes.push_back({QStringLiteral("LONGEST SESSION"),
+        boxes.push_back({Words::tr("LONGEST SESSION"),
                          dashformat::sessionDuration(stats.longest->activeSeconds, style),
                          {}});
     if (stats.biggestDay) {
-        const DateText date = DateText::fixed(QStringLiteral("EEE, MMM d"), settings.calendar);
-        boxes.push_back({QStringLiteral("BIGGEST DAY"),
+        const DateText date =
+            DateText::fixed(Words::tr("EEE, MMM d", "date pattern"), settings.calendar);
+        boxes.push_back({Words::tr("BIGGEST DAY"),
                          dashformat::inlineHours(stats.biggestDay->hours, style),
                          date(stats.biggestDay->day)});
     }
@@ -34,7 +35,7 @@ std::optional<WhenCard> when(const WrappedStats& stats, const WrappedSettings& s
     const StartRhythm& rhythm = *stats.startRhythm;
     const auto bars = rhythmmap::startBars(rhythm.counts);
     WhenCard card;
-    card.kicker = QStringLiteral("WHEN YOU BUILD");
+    card.kicker = Words::tr("WHEN YOU BUILD");
     card.headline = rhythm.headline;
     card.detail = rhythm.detail.value_or(QString());
     card.bars = QList<double>(bars.begin(), bars.end());
@@ -42,18 +43,18 @@ std::optional<WhenCard> when(const WrappedStats& stats, const WrappedSettings& s
     for (const int hour : {0, 6, 12, 18, 0})
         card.hourMarks << hourLabel(hour, settings.calendar.locale);
     card.accent = QColor::fromRgb(cardwords::leadingColor(stats));
-    card.chartCaption = QStringLiteral("when sessions begin");
-    card.chartLabel = QStringLiteral("Session starts by hour of day");
-    card.peak = QStringLiteral("PEAK · ") + hourLabel(rhythm.peakHour, settings.calendar.locale);
+    card.chartCaption = Words::tr("when sessions begin");
+    card.chartLabel = Words::tr("Session starts by hour of day");
+    card.peak = Words::tr("PEAK · %1").arg(hourLabel(rhythm.peakHour, settings.calendar.locale));
     card.facts = facts(stats, settings);
     return card;
 }
 
 HighPointsCard highPoints(const WrappedStats& stats) {
     HighPointsCard card;
-    card.kicker = QStringLiteral("HIGH POINTS");
-    card.sentence = QStringLiteral("The numbers worth saying out loud ") +
-                    wrappedperiod::inSentence(stats.period);
+    card.kicker = Words::tr("HIGH POINTS");
+    card.sentence = Words::tr("The numbers worth saying out loud %1")
+                        .arg(wrappedperiod::inSentence(stats.period));
     for (const SuperlativeLine& line : stats.superlatives)
         card.lines.push_back({line.icon, QColor::fromRgb(line.tintHex), line.text});
     return card;

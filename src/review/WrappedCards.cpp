@@ -1,5 +1,7 @@
 #include "review/WrappedCards.h"
 
+#include "base/Words.h"
+
 #include <array>
 
 namespace vantle::wrappedcards {
@@ -51,13 +53,13 @@ std::vector<WrappedPeriod> segments(WrappedPeriod shown) {
 
 EmptyCard emptyCard(WrappedPeriod period, bool isLogEmpty) {
     if (isLogEmpty)
-        return {QStringLiteral("Ready when you are"),
-                QStringLiteral("Track your first session and this fills in.")};
+        return {Words::tr("Ready when you are"),
+                Words::tr("Track your first session and this fills in.")};
     if (period == WrappedPeriod::LastWeek)
-        return {QStringLiteral("Nothing tracked last week"),
-                QStringLiteral("Start a session and this week's page fills in.")};
-    return {QStringLiteral("Nothing %1 yet").arg(wrappedperiod::inSentence(period)),
-            QStringLiteral("Start a session and this page fills in.")};
+        return {Words::tr("Nothing tracked last week"),
+                Words::tr("Start a session and this week's page fills in.")};
+    return {Words::tr("Nothing %1 yet").arg(wrappedperiod::inSentence(period)),
+            Words::tr("Start a session and this page fills in.")};
 }
 
 } // namespace vantle::wrappedcards

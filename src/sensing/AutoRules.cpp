@@ -3,6 +3,7 @@
 #include "base/Clock.h"
 #include "base/Scheduler.h"
 #include "base/SerialQueue.h"
+#include "base/Words.h"
 #include "platform/FileSystem.h"
 #include "sensing/AutoRulesJson.h"
 #include "sensing/AutoSuggestion.h"
@@ -59,8 +60,7 @@ void AutoRules::save() {
 }
 
 void AutoRules::noteSaveFailure(const Error& error) {
-    setPersistenceError(
-        QStringLiteral("Couldn’t save Auto mode choices: %1").arg(error.description()));
+    setPersistenceError(Words::tr("Couldn’t save Auto mode choices: %1").arg(error.description()));
 }
 
 void AutoRules::setPersistenceError(const std::optional<QString>& text) {
@@ -177,7 +177,7 @@ void AutoRules::eraseAllData() {
     const Result<> removed = m_env.ioQueue.run(
         [this] { return m_env.paths.removeIfPresent(m_env.paths.autoRulesFile()); });
     setPersistenceError(removed ? std::nullopt
-                                : std::optional(QStringLiteral("Couldn’t erase Auto mode data: %1")
+                                : std::optional(Words::tr("Couldn’t erase Auto mode data: %1")
                                                     .arg(removed.error().description())));
 }
 

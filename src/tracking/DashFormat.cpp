@@ -2,6 +2,7 @@
 
 #include "base/Decimals.h"
 #include "base/Rounding.h"
+#include "base/Words.h"
 #include "tracking/Totals.h"
 
 #include <QLocale>
@@ -15,15 +16,8 @@ namespace {
 constexpr std::int64_t kMinute = 60;
 constexpr std::int64_t kHour = 3600;
 
-const QString& minuteUnit() {
-    static const QString unit = QStringLiteral("min");
-    return unit;
-}
-
-const QString& hourUnit() {
-    static const QString unit = QStringLiteral("h");
-    return unit;
-}
+QString minuteUnit() { return Words::tr("min"); }
+QString hourUnit() { return Words::tr("h"); }
 
 /// One decimal without a trailing ".0"; from 99.95 on without any decimals.
 QString decimalHours(double hours) {
@@ -36,8 +30,8 @@ QString decimalHours(double hours) {
 QString grouped(std::int64_t minutes) { return QLocale::system().toString(qlonglong(minutes)); }
 
 QString hoursAndMinutes(std::int64_t hours, std::int64_t minutes) {
-    if (minutes == 0) return QStringLiteral("%1 h").arg(hours);
-    return QStringLiteral("%1 h %2 min").arg(hours).arg(minutes);
+    if (minutes == 0) return Words::tr("%1 h").arg(hours);
+    return Words::tr("%1 h %2 min").arg(QString::number(hours), QString::number(minutes));
 }
 
 } // namespace
@@ -66,7 +60,7 @@ StatValue statValue(double hours, DurationStyle style) {
         const std::int64_t h = totalMinutes / 60;
         const std::int64_t m = totalMinutes % 60;
         if (m == 0) return {QString::number(h), hourUnit()};
-        return {QStringLiteral("%1 h %2").arg(h).arg(m), minuteUnit()};
+        return {Words::tr("%1 h %2").arg(QString::number(h), QString::number(m)), minuteUnit()};
     }
     case DurationStyle::Minutes:
         return {grouped(std::max<std::int64_t>(totalMinutes, 0)), minuteUnit()};
@@ -82,12 +76,12 @@ QString inlineHours(double hours, DurationStyle style) {
     case DurationStyle::Clock:
         return clock(s);
     case DurationStyle::Natural:
-        if (s == 0) return QStringLiteral("0 min");
-        if (s < kMinute) return QStringLiteral("%1 sec").arg(s);
+        if (s == 0) return Words::tr("0 min");
+        if (s < kMinute) return Words::tr("%1 sec").arg(s);
         break;
     case DurationStyle::HoursMinutes:
     case DurationStyle::Minutes:
-        if (s >= 1 && roundedToInteger(hours * 60.0) < 1) return QStringLiteral("<1 min");
+        if (s >= 1 && roundedToInteger(hours * 60.0) < 1) return Words::tr("<1 min");
         break;
     }
     const StatValue stat = statValue(hours, style);
@@ -103,8 +97,8 @@ QString sessionDuration(std::int64_t seconds, DurationStyle style) {
     case DurationStyle::Clock:
         return clock(s);
     case DurationStyle::Natural:
-        if (s < kMinute) return QStringLiteral("%1 sec").arg(s);
-        if (s < kHour) return QStringLiteral("%1 min").arg(s / kMinute);
+        if (s < kMinute) return Words::tr("%1 sec").arg(s);
+        if (s < kHour) return Words::tr("%1 min").arg(s / kMinute);
         return hoursAndMinutes(s / kHour, s % kHour / kMinute);
     }
     Q_UNREACHABLE();

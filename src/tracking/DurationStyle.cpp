@@ -1,5 +1,6 @@
 #include "tracking/DurationStyle.h"
 
+#include "base/Words.h"
 #include "tracking/DashFormat.h"
 #include "tracking/NotificationCenter.h"
 #include "tracking/Settings.h"
@@ -29,13 +30,13 @@ std::optional<DurationStyle> fromRawValue(const QString& value) {
 QString label(DurationStyle style) {
     switch (style) {
     case DurationStyle::Natural:
-        return QStringLiteral("Natural");
+        return Words::tr("Natural");
     case DurationStyle::HoursMinutes:
-        return QStringLiteral("Hours and minutes");
+        return Words::tr("Hours and minutes");
     case DurationStyle::Minutes:
-        return QStringLiteral("Minutes only");
+        return Words::tr("Minutes only");
     case DurationStyle::Clock:
-        return QStringLiteral("Clock");
+        return Words::tr("Clock");
     }
     Q_UNREACHABLE();
 }

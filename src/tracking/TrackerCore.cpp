@@ -2,6 +2,7 @@
 
 #include "base/Rounding.h"
 #include "base/SerialQueue.h"
+#include "base/Words.h"
 #include "platform/Preferences.h"
 #include "tracking/AppPaths.h"
 #include "tracking/JsonForm.h"
@@ -129,7 +130,7 @@ void TrackerCore::resume() {
     const Date now = m_env.clock.now();
     if (m_lastKnownGoodAt) {
         const std::int64_t minutes = roundedToInteger((now - *m_lastKnownGoodAt).count() / 60.0);
-        setWelcomeBack(QStringLiteral("welcome back, paused %1m").arg(minutes), now);
+        setWelcomeBack(Words::tr("welcome back, paused %1m").arg(minutes), now);
     }
     m_segmentStart = now;
     m_lastKnownGoodAt = now;

@@ -1,5 +1,6 @@
 // The tracker's operations on the log, and the recovery after a crash.
 #include "base/SerialQueue.h"
+#include "base/Words.h"
 #include "platform/FileSystem.h"
 #include "tracking/AppPaths.h"
 #include "tracking/CrashRecovery.h"
@@ -17,12 +18,11 @@ namespace {
 constexpr int kMaxManualMinutes = 960;
 
 QString warningFor(int unreadable) {
-    return unreadable == 1
-               ? QStringLiteral("1 unreadable session record is preserved in the export but "
-                                "excluded from totals.")
-               : QStringLiteral("%1 unreadable session records are preserved in the export but "
-                                "excluded from totals.")
-                     .arg(unreadable);
+    return unreadable == 1 ? Words::tr("1 unreadable session record is preserved in the export but "
+                                       "excluded from totals.")
+                           : Words::tr("%n unreadable session records are preserved in the export "
+                                       "but excluded from totals.",
+                                       nullptr, unreadable);
 }
 
 } // namespace
@@ -83,8 +83,8 @@ void TrackerCore::notifySessionsChanged() {
 }
 
 void TrackerCore::noteStorageFailure(const Error& error) {
-    setStorageError(QStringLiteral("Couldn’t save your hours. Check available disk space and "
-                                   "folder permissions, then try again. (%1)")
+    setStorageError(Words::tr("Couldn’t save your hours. Check available disk space and folder "
+                              "permissions, then try again. (%1)")
                         .arg(error.description()));
 }
 

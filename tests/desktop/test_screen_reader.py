@@ -363,6 +363,24 @@ class OfFloatingSurfaces(ScreenReader):
             self.assertRegex(one.description, f"^Color [0-9A-F]{{6}}, {chosen}$")
         self.assertEqual([one.name for one in swatches if "checked" in one.states], ["Yellow"])
 
+    def test_the_keys_that_the_panel_shows_are_those_that_work(self):
+        self.launch()
+        activate(self.desktop)
+        self.await_told(PANEL_TITLE, "push button", "Enter Vantle")
+        keys, = [one.name for one in self.reader.window(PANEL_TITLE).all() if "+" in one.name]
+        self.desktop.press(keys.lower())
+        wait_until("a marker", self.vantle.marker)
+        self.desktop.press(keys.lower())
+        wait_until("no marker", lambda: self.vantle.marker() is None)
+        for title, window in (("Dashboard", "Your hours"), ("Settings", "Settings")):
+            activate(self.desktop)
+            door = self.await_told(PANEL_TITLE, "push button", title)
+            self.desktop.await_keyboard(PANEL_TITLE)
+            self.desktop.press(door.description.lower())
+            wait_until(window, lambda: self.desktop.windows_named(window))
+            self.desktop.await_keyboard(window)
+            self.close(window)
+
     def test_the_capsule_and_its_editor(self):
         self.launch()
         self.desktop.tool("xdotool", "mousemove", "720", "2")

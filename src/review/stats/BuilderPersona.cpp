@@ -2,6 +2,7 @@
 
 #include "base/LocalTime.h"
 #include "base/Rounding.h"
+#include "base/Words.h"
 #include "review/stats/SkillNumbers.h"
 #include "tracking/DashFormat.h"
 
@@ -100,7 +101,8 @@ std::optional<BuilderPersona> compute(SessionRefs sessions, const Calendar& cale
     persona.name = name(found->when, found->style, found->focus);
     persona.line = line(persona.name, found->when);
     persona.whenFact = whenFact(found->when);
-    persona.paceFact = dashformat::sessionDuration(pace, durationStyle) + QLatin1String(" average");
+    persona.paceFact =
+        Words::tr("%1 average").arg(dashformat::sessionDuration(pace, durationStyle));
     const Gradient colors = gradient(persona.name);
     persona.startHex = colors.start;
     persona.endHex = colors.end;

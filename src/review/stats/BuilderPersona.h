@@ -71,6 +71,8 @@ struct Gradient {
 [[nodiscard]] QString symbol(const QString& name);
 
 /// The picture of a name without its extension: "persona-night-owl".
+/// The name as it is shown.
+[[nodiscard]] QString shownName(const QString& name);
 [[nodiscard]] QString artworkName(const QString& name);
 
 } // namespace builderpersona

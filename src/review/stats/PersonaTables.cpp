@@ -1,5 +1,6 @@
 // The eleven names, and what belongs to each.
 #include "base/Text.h"
+#include "base/Words.h"
 #include "review/stats/BuilderPersona.h"
 
 #include <algorithm>
@@ -12,7 +13,7 @@ struct Entry {
     QString name;
     Gradient gradient;
     QString symbol;
-    QString line; ///< of "Quick Hitter": see below
+    const char* line; ///< the source of its text; of "Quick Hitter": see below
 };
 
 const QString& quickHitter() {
@@ -30,49 +31,67 @@ const std::array<Entry, 11>& table() {
         {QStringLiteral("Early Bird"),
          {0xFFD60A, 0xFF9F0A},
          QStringLiteral("sunrise.fill"),
-         QStringLiteral(
+         QT_TRANSLATE_NOOP(
+             "Words",
              "Your clearest pattern is showing up and moving the work forward before noon.")},
         {QStringLiteral("Night Owl"),
          {0x7A78FF, 0xBF5AF2},
          QStringLiteral("moon.stars.fill"),
-         QStringLiteral("Your deepest stretches of focused work tend to happen late at night.")},
+         QT_TRANSLATE_NOOP("Words",
+                           "Your deepest stretches of focused work tend to happen late at night.")},
         {QStringLiteral("Night Shift"),
          {0x64D2FF, 0x7A78FF},
          QStringLiteral("moon.fill"),
-         QStringLiteral("You build momentum in compact late-night sessions.")},
+         QT_TRANSLATE_NOOP("Words", "You build momentum in compact late-night sessions.")},
         {QStringLiteral("Deep Diver"),
          {0x40C8E0, 0x7A78FF},
          QStringLiteral("water.waves"),
-         QStringLiteral(
+         QT_TRANSLATE_NOOP(
+             "Words",
              "You make progress by staying with one part of the work for long stretches.")},
         {QStringLiteral("Busy Bee"),
          {0xFFD60A, 0xACF35C},
          QStringLiteral("sparkles"),
-         QStringLiteral("You keep several parts of the work moving through quick bursts.")},
-        {quickHitter(), {0xFF375F, 0xFF9F0A}, QStringLiteral("bolt.fill"), QString()},
+         QT_TRANSLATE_NOOP("Words",
+                           "You keep several parts of the work moving through quick bursts.")},
+        {quickHitter(), {0xFF375F, 0xFF9F0A}, QStringLiteral("bolt.fill"), ""},
         {QStringLiteral("Multi Builder"),
          {0xFF375F, 0x7A78FF},
          QStringLiteral("square.grid.2x2.fill"),
-         QStringLiteral("You keep several parts of the work moving without losing your rhythm.")},
+         QT_TRANSLATE_NOOP(
+             "Words", "You keep several parts of the work moving without losing your rhythm.")},
         {QStringLiteral("Long Hauler"),
          {0xFF9F0A, 0xFF6482},
          QStringLiteral("infinity"),
-         QStringLiteral("You move meaningful work forward through long, committed sessions.")},
+         QT_TRANSLATE_NOOP("Words",
+                           "You move meaningful work forward through long, committed sessions.")},
         {QStringLiteral("Steady Hand"),
          {0x30D158, 0x40C8E0},
          QStringLiteral("scope"),
-         QStringLiteral("You make progress through a calm, repeatable daytime rhythm.")},
+         QT_TRANSLATE_NOOP("Words",
+                           "You make progress through a calm, repeatable daytime rhythm.")},
         {QStringLiteral("After Hours"),
          {0xFF6482, 0xBF5AF2},
          QStringLiteral("sunset.fill"),
-         QStringLiteral("Your momentum tends to arrive after the rest of the day is done.")},
+         QT_TRANSLATE_NOOP("Words",
+                           "Your momentum tends to arrive after the rest of the day is done.")},
         {allRounder(),
          {0xACF35C, 0x30D158},
          QStringLiteral("circle.hexagongrid.fill"),
-         QStringLiteral("You make progress through a flexible rhythm that works across the day.")},
+         QT_TRANSLATE_NOOP(
+             "Words", "You make progress through a flexible rhythm that works across the day.")},
     }};
     return entries;
 }
+
+// The names as sources of texts; in the table they are what a persona is known by.
+[[maybe_unused]] constexpr const char* kShownNames[] = {
+    QT_TRANSLATE_NOOP("Words", "Early Bird"),    QT_TRANSLATE_NOOP("Words", "Night Owl"),
+    QT_TRANSLATE_NOOP("Words", "Night Shift"),   QT_TRANSLATE_NOOP("Words", "Deep Diver"),
+    QT_TRANSLATE_NOOP("Words", "Busy Bee"),      QT_TRANSLATE_NOOP("Words", "Quick Hitter"),
+    QT_TRANSLATE_NOOP("Words", "Multi Builder"), QT_TRANSLATE_NOOP("Words", "Long Hauler"),
+    QT_TRANSLATE_NOOP("Words", "Steady Hand"),   QT_TRANSLATE_NOOP("Words", "After Hours"),
+    QT_TRANSLATE_NOOP("Words", "All Rounder")};
 
 const Entry* entryOf(const QString& name) {
     const auto found = std::ranges::find(table(), name, &Entry::name);
@@ -83,15 +102,15 @@ const Entry* entryOf(const QString& name) {
 QString quickHitterLine(DayPart when) {
     switch (when) {
     case DayPart::Morning:
-        return QStringLiteral("You tend to move work forward in short morning bursts.");
+        return Words::tr("You tend to move work forward in short morning bursts.");
     case DayPart::Daylight:
-        return QStringLiteral("You tend to move work forward in quick daytime bursts.");
+        return Words::tr("You tend to move work forward in quick daytime bursts.");
     case DayPart::Evening:
-        return QStringLiteral("You tend to move work forward in short evening bursts.");
+        return Words::tr("You tend to move work forward in short evening bursts.");
     case DayPart::Night:
-        return QStringLiteral("You tend to move work forward in quick late-night bursts.");
+        return Words::tr("You tend to move work forward in quick late-night bursts.");
     case DayPart::Anytime:
-        return QStringLiteral("You make progress in quick bursts throughout the day.");
+        return Words::tr("You make progress in quick bursts throughout the day.");
     }
     Q_UNREACHABLE();
 }
@@ -116,24 +135,26 @@ QString name(DayPart when, Style style, Focus focus) {
 QString line(const QString& name, DayPart when) {
     if (name == quickHitter()) return quickHitterLine(when);
     const Entry* entry = entryOf(name);
-    return entry ? entry->line : QString();
+    return entry ? Words::tr(entry->line) : QString();
 }
 
 QString whenFact(DayPart when) {
     switch (when) {
     case DayPart::Morning:
-        return QStringLiteral("Before noon");
+        return Words::tr("Before noon");
     case DayPart::Daylight:
-        return QStringLiteral("Noon to 6 PM");
+        return Words::tr("Noon to 6 PM");
     case DayPart::Evening:
-        return QStringLiteral("After 6 PM");
+        return Words::tr("After 6 PM");
     case DayPart::Night:
-        return QStringLiteral("Late night");
+        return Words::tr("Late night");
     case DayPart::Anytime:
-        return QStringLiteral("Across the day");
+        return Words::tr("Across the day");
     }
     Q_UNREACHABLE();
 }
+
+QString shownName(const QString& name) { return Words::tr(name.toUtf8()); }
 
 Gradient gradient(const QString& name) {
     const Entry* entry = entryOf(name);

@@ -2,6 +2,7 @@
 
 #include "base/HourLabel.h"
 #include "base/LocalTime.h"
+#include "base/Words.h"
 
 #include <algorithm>
 #include <numeric>
@@ -20,7 +21,9 @@ int startsIn(const Hours& perHour, int first, int last) {
     return std::accumulate(perHour.begin() + first, perHour.begin() + last + 1, 0);
 }
 
-QString withCounts(const QString& text, int count, int total) { return text.arg(count).arg(total); }
+QString withCounts(const QString& text, int count, int total) {
+    return text.arg(QString::number(count), QString::number(total));
+}
 
 void putIntoWords(StartRhythm& rhythm, const Hours& perHour, int total) {
     const int early = startsIn(perHour, 0, 4);
@@ -28,29 +31,29 @@ void putIntoWords(StartRhythm& rhythm, const Hours& perHour, int total) {
                                       startsIn(perHour, 18, 22), perHour[23] + early};
     const auto most = std::ranges::max_element(bands); // the first of equal ones
     if (static_cast<double>(*most) / total < kLeastShareOfBand) {
-        rhythm.headline = QStringLiteral("Your starts are spread across the whole day.");
+        rhythm.headline = Words::tr("Your starts are spread across the whole day.");
         return;
     }
     switch (most - bands.begin()) {
     case 0:
-        rhythm.headline = QStringLiteral("Most sessions started before noon.");
+        rhythm.headline = Words::tr("Most sessions started before noon.");
         rhythm.detail =
-            withCounts(QStringLiteral("%1 of %2 sessions started before noon."), *most, total);
+            withCounts(Words::tr("%1 of %2 sessions started before noon."), *most, total);
         return;
     case 1:
-        rhythm.headline = QStringLiteral("Most sessions started in the afternoon.");
-        rhythm.detail = withCounts(
-            QStringLiteral("%1 of %2 sessions started between noon and 6 PM."), *most, total);
+        rhythm.headline = Words::tr("Most sessions started in the afternoon.");
+        rhythm.detail =
+            withCounts(Words::tr("%1 of %2 sessions started between noon and 6 PM."), *most, total);
         return;
     case 2:
-        rhythm.headline = QStringLiteral("Most sessions started after dark.");
+        rhythm.headline = Words::tr("Most sessions started after dark.");
         rhythm.detail =
-            withCounts(QStringLiteral("%1 of %2 sessions started after 6 PM."), *most, total);
+            withCounts(Words::tr("%1 of %2 sessions started after 6 PM."), *most, total);
         return;
     default:
         // The night begins at 23, but "after 10 PM" has to be true of what it counts.
-        rhythm.headline = QStringLiteral("Most sessions started late at night.");
-        rhythm.detail = withCounts(QStringLiteral("%1 of %2 sessions started after 10 PM."),
+        rhythm.headline = Words::tr("Most sessions started late at night.");
+        rhythm.detail = withCounts(Words::tr("%1 of %2 sessions started after 10 PM."),
                                    startsIn(perHour, 22, 23) + early, total);
         return;
     }

@@ -1,6 +1,7 @@
 #include "review/stats/WrappedPeriod.h"
 
 #include "base/LocalTime.h"
+#include "base/Words.h"
 
 #include <algorithm>
 
@@ -10,29 +11,31 @@ namespace {
 
 struct Names {
     QString id;
-    QString label;
-    QString pickerLabel;
-    QString inSentence;
     QString fileSuffix;
-    QString summaryTitle;
+    const char* label; ///< sources of texts, like those below
+    const char* pickerLabel;
+    const char* inSentence;
+    const char* summaryTitle;
 };
 
 const Names& names(WrappedPeriod period) {
     static const std::array<Names, 5> table = {{
-        {QStringLiteral("today"), QStringLiteral("Today"), QStringLiteral("Today"),
-         QStringLiteral("today"), QStringLiteral("today"), QStringLiteral("YOUR DAY, IN FULL")},
-        {QStringLiteral("week"), QStringLiteral("This week"), QStringLiteral("Week"),
-         QStringLiteral("this week"), QStringLiteral("this-week"),
-         QStringLiteral("YOUR WEEK, IN FULL")},
-        {QStringLiteral("month"), QStringLiteral("This month"), QStringLiteral("Month"),
-         QStringLiteral("this month"), QStringLiteral("this-month"),
-         QStringLiteral("YOUR MONTH, IN FULL")},
-        {QStringLiteral("allTime"), QStringLiteral("All time"), QStringLiteral("All time"),
-         QStringLiteral("all time"), QStringLiteral("all-time"),
-         QStringLiteral("YOUR WORK, IN FULL")},
-        {QStringLiteral("lastWeek"), QStringLiteral("Last week"), QStringLiteral("Last week"),
-         QStringLiteral("last week"), QStringLiteral("last-week"),
-         QStringLiteral("YOUR WEEK, IN FULL")},
+        {QStringLiteral("today"), QStringLiteral("today"), QT_TRANSLATE_NOOP("Words", "Today"),
+         QT_TRANSLATE_NOOP("Words", "Today"), QT_TRANSLATE_NOOP("Words", "today"),
+         QT_TRANSLATE_NOOP("Words", "YOUR DAY, IN FULL")},
+        {QStringLiteral("week"), QStringLiteral("this-week"),
+         QT_TRANSLATE_NOOP("Words", "This week"), QT_TRANSLATE_NOOP("Words", "Week"),
+         QT_TRANSLATE_NOOP("Words", "this week"), QT_TRANSLATE_NOOP("Words", "YOUR WEEK, IN FULL")},
+        {QStringLiteral("month"), QStringLiteral("this-month"),
+         QT_TRANSLATE_NOOP("Words", "This month"), QT_TRANSLATE_NOOP("Words", "Month"),
+         QT_TRANSLATE_NOOP("Words", "this month"),
+         QT_TRANSLATE_NOOP("Words", "YOUR MONTH, IN FULL")},
+        {QStringLiteral("allTime"), QStringLiteral("all-time"),
+         QT_TRANSLATE_NOOP("Words", "All time"), QT_TRANSLATE_NOOP("Words", "All time"),
+         QT_TRANSLATE_NOOP("Words", "all time"), QT_TRANSLATE_NOOP("Words", "YOUR WORK, IN FULL")},
+        {QStringLiteral("lastWeek"), QStringLiteral("last-week"),
+         QT_TRANSLATE_NOOP("Words", "Last week"), QT_TRANSLATE_NOOP("Words", "Last week"),
+         QT_TRANSLATE_NOOP("Words", "last week"), QT_TRANSLATE_NOOP("Words", "YOUR WEEK, IN FULL")},
     }};
     return table[static_cast<std::size_t>(period)];
 }
@@ -52,15 +55,15 @@ Date monthStart(Date now, const Calendar& calendar) {
 
 QString id(WrappedPeriod period) { return names(period).id; }
 
-QString label(WrappedPeriod period) { return names(period).label; }
+QString label(WrappedPeriod period) { return Words::tr(names(period).label); }
 
-QString pickerLabel(WrappedPeriod period) { return names(period).pickerLabel; }
+QString pickerLabel(WrappedPeriod period) { return Words::tr(names(period).pickerLabel); }
 
-QString inSentence(WrappedPeriod period) { return names(period).inSentence; }
+QString inSentence(WrappedPeriod period) { return Words::tr(names(period).inSentence); }
 
 QString fileSuffix(WrappedPeriod period) { return names(period).fileSuffix; }
 
-QString summaryTitle(WrappedPeriod period) { return names(period).summaryTitle; }
+QString summaryTitle(WrappedPeriod period) { return Words::tr(names(period).summaryTitle); }
 
 std::optional<WrappedPeriod> fromId(const QString& text) {
     const auto found = std::ranges::find(all, text, id);

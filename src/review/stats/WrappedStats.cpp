@@ -1,5 +1,7 @@
 #include "review/stats/WrappedStats.h"
 
+#include "base/Bidi.h"
+#include "base/Words.h"
 #include "tracking/DashFormat.h"
 
 #include <algorithm>
@@ -12,11 +14,16 @@ std::optional<Skill> WrappedStats::topSkill() const {
 }
 
 QString WrappedStats::closingLine(DurationStyle durationStyle) const {
-    QString line = dashformat::inlineHours(totalHours, durationStyle) + QLatin1String(" across ");
-    line += sessionCount == 1 ? QStringLiteral("one session")
-                              : QStringLiteral("%1 sessions").arg(sessionCount);
-    if (const auto top = topSkill()) line += QLatin1String(", led by ") + top->name;
-    return line + QLatin1Char('.');
+    const QString hours = dashformat::inlineHours(totalHours, durationStyle);
+    if (const auto top = topSkill()) {
+        const QString text = sessionCount == 1 ? Words::tr("%1 across one session, led by %2.")
+                                               : Words::tr("%1 across %n sessions, led by %2.",
+                                                           nullptr, sessionCount);
+        return text.arg(hours, bidi::isolated(top->name));
+    }
+    return (sessionCount == 1 ? Words::tr("%1 across one session.")
+                              : Words::tr("%1 across %n sessions.", nullptr, sessionCount))
+        .arg(hours);
 }
 
 namespace {

@@ -1,5 +1,7 @@
 #include "surfaces/capsule/CapsuleText.h"
 
+#include "base/Bidi.h"
+#include "base/Words.h"
 #include "surfaces/kit/text/Typeface.h"
 
 #include <QFont>
@@ -15,15 +17,15 @@ CapsuleText::CapsuleText()
 
 QString CapsuleText::skillLine(const QString& skillName, bool paused) {
     const QString name = skillName.toUpper();
-    return paused ? name + QStringLiteral("  \u00B7  PAUSED") : name;
+    return paused ? Words::tr("%1  ·  PAUSED").arg(bidi::isolated(name)) : name;
 }
 
-QString CapsuleText::startPrompt() { return QStringLiteral("Start vantle"); }
+QString CapsuleText::startPrompt() { return Words::tr("Start vantle"); }
 
 QString CapsuleText::toolTip(bool idlePrompt, bool hasSkills) {
-    if (idlePrompt) return QStringLiteral("Click a skill to start vantle");
-    if (hasSkills) return QStringLiteral("Click a skill to switch. Click anywhere else to stop.");
-    return QStringLiteral("Click to end the session");
+    if (idlePrompt) return Words::tr("Click a skill to start vantle");
+    if (hasSkills) return Words::tr("Click a skill to switch. Click anywhere else to stop.");
+    return Words::tr("Click to end the session");
 }
 
 double CapsuleText::chipNameWidth(const QString& name) const {

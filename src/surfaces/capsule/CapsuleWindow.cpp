@@ -1,5 +1,7 @@
 #include "surfaces/capsule/CapsuleWindow.h"
 
+#include "base/Words.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -33,7 +35,7 @@ CapsuleWindow::CapsuleWindow(std::unique_ptr<NotchCapsule> capsule, const Placem
     , m_placement(placement)
     , m_capsule(capsule.release())
     , m_panel(new FloatingPanel(engine, host)) {
-    m_panel->setTitle(QStringLiteral("Vantle Capsule"));
+    m_panel->setTitle(Words::tr("Vantle Capsule"));
     m_capsule->setStage(this);
     QObject::connect(m_panel.get(), &FloatingPanel::keyboardLost, m_capsule.get(),
                      &NotchCapsule::dismissOverlay);

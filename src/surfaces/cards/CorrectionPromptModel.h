@@ -1,6 +1,8 @@
 // The offer to make a skill chosen by hand the rule for an application, as its view sees it.
 #pragma once
 
+#include "base/Bidi.h"
+#include "base/Words.h"
 #include "tracking/Skill.h"
 
 #include <QColor>
@@ -26,13 +28,15 @@ public:
         , m_skill(skill) {}
 
     [[nodiscard]] QString question() const {
-        return QStringLiteral("Always count %1 as %2?").arg(m_appName, m_skill.name);
+        return Words::tr("Always count %1 as %2?")
+            .arg(bidi::isolated(m_appName), bidi::isolated(m_skill.name));
     }
     [[nodiscard]] const QString& skillName() const { return m_skill.name; }
     [[nodiscard]] QColor skillColor() const { return QColor::fromRgb(m_skill.hexRGB); }
-    [[nodiscard]] QString noHelp() const { return QStringLiteral("Keeps Auto mode as it is"); }
+    [[nodiscard]] QString noHelp() const { return Words::tr("Keeps Auto mode as it is"); }
     [[nodiscard]] QString alwaysHelp() const {
-        return QStringLiteral("Auto mode counts %1 as %2 from now on").arg(m_appName, m_skill.name);
+        return Words::tr("Auto mode counts %1 as %2 from now on")
+            .arg(bidi::isolated(m_appName), bidi::isolated(m_skill.name));
     }
 
     Q_INVOKABLE void decline() { Q_EMIT declined(); }

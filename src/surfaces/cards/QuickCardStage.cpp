@@ -1,5 +1,6 @@
 #include "surfaces/cards/QuickCardStage.h"
 
+#include "base/Words.h"
 #include "surfaces/cards/CardPlacement.h"
 #include "surfaces/panel/FloatingPanel.h"
 
@@ -38,14 +39,14 @@ QUrl sourceOf(CardView view) {
 QString titleOf(CardView view) {
     switch (view) {
     case CardView::StopSummary:
-        return QStringLiteral("Vantle Session Summary");
+        return Words::tr("Vantle Session Summary");
     case CardView::RecoveryNotice:
-        return QStringLiteral("Vantle Recovery");
+        return Words::tr("Vantle Recovery");
     case CardView::TagPrompt:
     case CardView::CorrectionPrompt:
-        return QStringLiteral("Vantle Question");
+        return Words::tr("Vantle Question");
     case CardView::RetagToast:
-        return QStringLiteral("Vantle Saved Time");
+        return Words::tr("Vantle Saved Time");
     }
     Q_UNREACHABLE();
 }

@@ -2,6 +2,7 @@
 
 #include "app/OpenQuestions.h"
 #include "app/TopRightCardSlot.h"
+#include "base/Words.h"
 #include "surfaces/cards/RecoveryNoticeModel.h"
 #include "tracking/Settings.h"
 #include "tracking/SkillList.h"
@@ -28,10 +29,10 @@ void RecoveryNoticeController::show(const Session& session, std::function<void()
     m_env.slot.release(owner());
     m_offer = Offer{session, std::move(onDiscard), std::move(onKeep)};
     const auto model = makeModel();
-    m_env.questions.ask(
-        this, {model->body(),
-               {{QStringLiteral("Keep"), model->keepHelp(), [this] { keep(); }},
-                {QStringLiteral("Discard"), model->discardHelp(), [this] { discard(); }}}});
+    m_env.questions.ask(this,
+                        {model->body(),
+                         {{Words::tr("Keep"), model->keepHelp(), [this] { keep(); }},
+                          {Words::tr("Discard"), model->discardHelp(), [this] { discard(); }}}});
     present();
 }
 

@@ -1,5 +1,7 @@
 #include "surfaces/cards/RecoveryNoticeModel.h"
 
+#include "base/Bidi.h"
+#include "base/Words.h"
 #include "tracking/DashFormat.h"
 
 #include <algorithm>
@@ -10,25 +12,30 @@ namespace {
 
 constexpr std::int64_t kShortestShown = 60; // seconds
 
+QString bodyText() {
+    return Words::tr(
+        "Vantle didn't shut down cleanly. Keep %1 of %2? Nothing is saved unless you choose Keep.");
+}
+
 } // namespace
 
 RecoveryNoticeModel::RecoveryNoticeModel(const Session& session, const Skill& skill,
                                          DurationStyle style)
-    : m_bodyPieces{
-          QStringLiteral("Vantle didn't shut down cleanly. Keep "),
-          dashformat::sessionDuration(std::max(session.activeSeconds, kShortestShown), style),
-          QStringLiteral(" of "), skill.name,
-          QStringLiteral("? Nothing is saved unless you choose Keep.")} {}
+    : m_duration(
+          dashformat::sessionDuration(std::max(session.activeSeconds, kShortestShown), style))
+    , m_skillName(skill.name) {}
+
+QString RecoveryNoticeModel::body() const {
+    return bodyText().arg(m_duration, bidi::isolated(m_skillName));
+}
 
 QString RecoveryNoticeModel::styledBody(const QColor& stressed) const {
-    QString body;
-    for (qsizetype i = 0; i < m_bodyPieces.size(); ++i) {
-        const QString piece = m_bodyPieces[i].toHtmlEscaped();
-        body += i % 2 == 0 ? piece
-                           : QStringLiteral("<font color=\"%1\">%2</font>")
-                                 .arg(stressed.name(QColor::HexArgb), piece);
-    }
-    return body;
+    const auto inColor = [&](const QString& part) {
+        return QStringLiteral("<font color=\"%1\">%2</font>")
+            .arg(stressed.name(QColor::HexArgb), part.toHtmlEscaped());
+    };
+    return bodyText().toHtmlEscaped().arg(inColor(m_duration),
+                                          inColor(bidi::isolated(m_skillName)));
 }
 
 } // namespace vantle

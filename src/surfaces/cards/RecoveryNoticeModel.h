@@ -1,6 +1,7 @@
 // What the notice about a session that a crash interrupted says, as its view sees it.
 #pragma once
 
+#include "base/Words.h"
 #include "tracking/DurationStyle.h"
 #include "tracking/Session.h"
 #include "tracking/Skill.h"
@@ -8,7 +9,7 @@
 #include <QColor>
 #include <QObject>
 #include <QQmlEngine>
-#include <QStringList>
+#include <QString>
 
 namespace vantle {
 
@@ -25,18 +26,16 @@ class RecoveryNoticeModel final : public QObject {
 public:
     RecoveryNoticeModel(const Session& session, const Skill& skill, DurationStyle style);
 
-    [[nodiscard]] QString title() const { return QStringLiteral("Recover your last session?"); }
-    [[nodiscard]] QString body() const { return m_bodyPieces.join(QString()); }
-    /// Plain pieces and ones to stress take turns, a plain one first.
-    [[nodiscard]] const QStringList& bodyPieces() const { return m_bodyPieces; }
+    [[nodiscard]] QString title() const { return Words::tr("Recover your last session?"); }
+    [[nodiscard]] QString body() const;
     [[nodiscard]] QString discardHelp() const {
-        return QStringLiteral("Deletes the interrupted session without saving it");
+        return Words::tr("Deletes the interrupted session without saving it");
     }
     [[nodiscard]] QString keepHelp() const {
-        return QStringLiteral("Saves the interrupted session to your local log");
+        return Words::tr("Saves the interrupted session to your local log");
     }
 
-    /// The body as styled text, with the pieces to stress in that colour.
+    /// The body as styled text, with duration and skill in that colour.
     Q_INVOKABLE [[nodiscard]] QString styledBody(const QColor& stressed) const;
     Q_INVOKABLE void discard() { Q_EMIT discarded(); }
     Q_INVOKABLE void keep() { Q_EMIT kept(); }
@@ -46,7 +45,8 @@ Q_SIGNALS:
     void kept();
 
 private:
-    const QStringList m_bodyPieces;
+    const QString m_duration;
+    const QString m_skillName;
 };
 
 } // namespace vantle

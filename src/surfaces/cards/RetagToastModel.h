@@ -1,6 +1,8 @@
 // What the short word after a change of skill says, as its view sees it.
 #pragma once
 
+#include "base/Words.h"
+
 #include <QColor>
 #include <QObject>
 #include <QQmlEngine>
@@ -21,7 +23,7 @@ class RetagToastModel final : public QObject {
 
 public:
     RetagToastModel(const QString& savedTime, const QString& skillName, const QColor& skillColor)
-        : m_text(QStringLiteral("%1 saved").arg(savedTime))
+        : m_text(Words::tr("%1 saved").arg(savedTime))
         , m_skillName(skillName)
         , m_skillColor(skillColor) {}
 

@@ -3,6 +3,7 @@
 #include "app/OpenQuestions.h"
 #include "app/TopRightCardSlot.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "surfaces/cards/StopSummaryModel.h"
 #include "tracking/NotificationCenter.h"
 #include "tracking/Settings.h"
@@ -39,7 +40,7 @@ void StopSummaryController::show(const Content& content,
     const StopSummaryModel told(content, m_env.skills.display(content.session.skillId),
                                 settings::durationStyle.read(m_env.preferences));
     Q_EMIT m_env.questions.said(
-        QStringLiteral("Session stopped, %1. %2").arg(told.durationLabel(), told.resultText()));
+        Words::tr("Session stopped, %1. %2").arg(told.durationLabel(), told.resultText()));
 }
 
 void StopSummaryController::present(
@@ -48,11 +49,11 @@ void StopSummaryController::present(
     const auto model =
         std::make_shared<StopSummaryModel>(content, m_env.skills.display(content.session.skillId),
                                            settings::durationStyle.read(m_env.preferences));
-    m_env.questions.ask(this, {QStringLiteral("Last session: %1").arg(model->durationLabel()),
-                               {{QStringLiteral("Write a note"),
-                                 QStringLiteral("One line about what you worked on. Return saves "
-                                                "it, Escape goes back."),
-                                 [this] { openNote(); }, true}}});
+    m_env.questions.ask(
+        this, {Words::tr("Last session: %1").arg(model->durationLabel()),
+               {{Words::tr("Write a note"),
+                 Words::tr("One line about what you worked on. Return saves it, Escape goes back."),
+                 [this] { openNote(); }, true}}});
     if (!m_env.stage.cardScreen()) return finish(std::nullopt);
     m_env.slot.takeForSummary(this, [this] { finish(std::nullopt); });
     connect(model.get(), &StopSummaryModel::interacted, this, [this] { m_card.stay(); });

@@ -1,5 +1,6 @@
 #include "surfaces/cards/StopSummaryModel.h"
 
+#include "base/Bidi.h"
 #include "base/Text.h"
 #include "base/Words.h"
 #include "ceremony/show/CeremonyFonts.h"
@@ -24,13 +25,15 @@ StopSummaryModel::StopSummaryModel(const collaborators::StopSummary::Content& co
     : m_content(content)
     , m_skill(skill)
     , m_durationWords(durationOf(content.session, style).split(QLatin1Char(' ')))
-    , m_durationLabel(Words::tr("%1 of %2").arg(durationOf(content.session, style), skill.name))
+    , m_durationLabel(
+          Words::tr("%1 of %2").arg(durationOf(content.session, style), bidi::isolated(skill.name)))
     , m_resultText(describedResult(style)) {}
 
 QString StopSummaryModel::describedResult(DurationStyle style) const {
     if (m_content.newHours == 1) return Words::tr("Completed an hour on your wall");
     if (m_content.newHours > 1)
-        return Words::tr("Completed %1 hours on your wall").arg(m_content.newHours);
+        return Words::tr("Completed %n hours on your wall", nullptr,
+                         static_cast<int>(m_content.newHours));
     if (m_content.carrySeconds >= 1)
         return Words::tr("%1 into your next dot")
             .arg(dashformat::sessionDuration(m_content.carrySeconds, style));

@@ -2,6 +2,7 @@
 
 #include "app/OpenQuestions.h"
 #include "app/TopRightCardSlot.h"
+#include "base/Words.h"
 #include "surfaces/cards/CorrectionPromptModel.h"
 #include "surfaces/cards/TagPromptModel.h"
 
@@ -24,7 +25,7 @@ OpenQuestions::Question questionOf(TagPromptModel& model) {
     question.answers.push_back({model.ignoreText(), model.ignoreHelp(), [shown] {
                                     if (shown) shown->ignore();
                                 }});
-    question.answers.push_back({QStringLiteral("Not now"), {}, [shown] {
+    question.answers.push_back({Words::tr("Not now"), {}, [shown] {
                                     if (shown) shown->dismiss();
                                 }});
     return question;
@@ -38,9 +39,9 @@ OpenQuestions::Question questionOf(CorrectionPromptModel& model) {
     const auto no = [shown] {
         if (shown) shown->decline();
     };
-    return {model.question(),
-            {{QStringLiteral("Always"), model.alwaysHelp(), always},
-             {QStringLiteral("No"), model.noHelp(), no}}};
+    return {
+        model.question(),
+        {{Words::tr("Always"), model.alwaysHelp(), always}, {Words::tr("No"), model.noHelp(), no}}};
 }
 
 } // namespace
@@ -92,7 +93,7 @@ bool TagPromptController::present(CardView view, const std::shared_ptr<QObject>&
     }
     m_model = model.get();
     m_completion = std::move(completion);
-    question.spoken = QStringLiteral("%1 The answers are in the panel.").arg(question.text);
+    question.spoken = Words::tr("%1 The answers are in the panel.").arg(question.text);
     m_env.questions.ask(this, std::move(question));
     m_card.dismissAfter(Seconds(autoDismissSeconds), [this] { finish({}); });
     return true;

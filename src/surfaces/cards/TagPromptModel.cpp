@@ -1,5 +1,6 @@
 #include "surfaces/cards/TagPromptModel.h"
 
+#include "base/Bidi.h"
 #include "base/Words.h"
 
 #include <QColor>
@@ -26,9 +27,9 @@ TagPromptModel::TagPromptModel(const QString& appName, const std::vector<Skill>&
     , m_choices(skills) {}
 
 QString TagPromptModel::headline() const {
-    if (m_isBrowser) return Words::tr("What is %1 usually?").arg(m_appName);
-    if (m_isCounting) return Words::tr("Counting time in %1").arg(m_appName);
-    return Words::tr("Count %1 toward a skill?").arg(m_appName);
+    if (m_isBrowser) return Words::tr("What is %1 usually?").arg(bidi::isolated(m_appName));
+    if (m_isCounting) return Words::tr("Counting time in %1").arg(bidi::isolated(m_appName));
+    return Words::tr("Count %1 toward a skill?").arg(bidi::isolated(m_appName));
 }
 
 QString TagPromptModel::subtitle() const {

@@ -244,6 +244,8 @@ FocusScope {
                 text: qsTr("Your focus history stays private on this Mac")
                 role: DarkUI.small
                 color: DarkUI.textTertiary
+                wrapMode: Text.Wrap
+                maximumLineCount: 2
                 elide: Text.ElideRight
             }
             DarkText {

@@ -1,6 +1,7 @@
 #include "surfaces/commandcenter/CommandCenterController.h"
 
 #include "app/AppModel.h"
+#include "base/Words.h"
 #include "platform/PointerPresses.h"
 #include "surfaces/panel/FloatingPanel.h"
 #include "surfaces/window/SharedEngine.h"
@@ -90,7 +91,7 @@ void CommandCenterController::show() {
 bool CommandCenterController::makePanel() {
     auto engine = m_env.engine.acquire();
     auto panel = std::make_unique<FloatingPanel>(*engine, m_env.host);
-    panel->setTitle(QStringLiteral("Vantle Command Center"));
+    panel->setTitle(Words::tr("Vantle Command Center"));
     m_content.setShown(true);
     if (!panel->load(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/CommandCenter/CommandCenterView.qml")),
                      {{QStringLiteral("model"), QVariant::fromValue(&m_content)}})) {

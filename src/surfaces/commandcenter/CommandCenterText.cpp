@@ -1,5 +1,7 @@
 #include "surfaces/commandcenter/CommandCenterText.h"
 
+#include "base/Bidi.h"
+#include "base/Words.h"
 #include "ceremony/show/VantleCopy.h"
 #include "tracking/Skill.h"
 
@@ -10,13 +12,12 @@ namespace vantle::commandcentertext {
 namespace {
 
 constexpr std::array kBackfillMinutes = {5, 10, 15, 30};
-constexpr QLatin1String kMode(" mode");
-
-QString middleDot() { return QStringLiteral(" · "); }
 
 } // namespace
 
-QString Title::whole() const { return time.isEmpty() ? state : state + middleDot() + time; }
+QString Title::whole() const {
+    return time.isEmpty() ? state : state + QStringLiteral(" · ") + time;
+}
 
 Title title(const Status& status) {
     switch (status.state) {
@@ -27,9 +28,9 @@ Title title(const Status& status) {
                                              : status.welcomeBack,
                 status.time};
     case TrackerCore::State::Paused:
-        return {QStringLiteral("Paused (away)") + middleDot() + status.skillName, status.time};
+        return {Words::tr("Paused (away) · %1").arg(bidi::isolated(status.skillName)), status.time};
     }
-    return {QStringLiteral("Ready to focus"), {}};
+    return {Words::tr("Ready to focus"), {}};
 }
 
 QString subtitle(TrackerCore::State state) {
@@ -37,27 +38,25 @@ QString subtitle(TrackerCore::State state) {
     case TrackerCore::State::Idle:
         break;
     case TrackerCore::State::Running:
-        return QStringLiteral("Only active time counts.");
+        return Words::tr("Only active time counts.");
     case TrackerCore::State::Paused:
-        return QStringLiteral("Time is paused while you’re away.");
+        return Words::tr("Time is paused while you’re away.");
     }
-    return QStringLiteral("Choose where your effort should go.");
+    return Words::tr("Choose where your effort should go.");
 }
 
 QString primary(const Status& status, const QString& modeName) {
     if (status.state == TrackerCore::State::Idle) return enter(modeName);
-    const QString stop = QStringLiteral("Stop") + middleDot() + status.time;
-    return status.state == TrackerCore::State::Paused
-               ? stop + middleDot() + QStringLiteral("paused")
-               : stop;
+    return (status.state == TrackerCore::State::Paused ? Words::tr("Stop · %1 · paused")
+                                                       : Words::tr("Stop · %1"))
+        .arg(status.time);
 }
 
 QString enter(const QString& skillName) {
-    QString mode = vantlecopy::modeName(skillName);
-    // On a button the word is part of a title; where the person wrote it, it stands as they did.
-    if (mode == Skill::cleanedName(skillName) + kMode)
-        mode = mode.chopped(kMode.size()) + QLatin1String(" Mode");
-    return QStringLiteral("Enter ") + mode;
+    // On a button the word is part of a title; where the user wrote it, it stands as they did.
+    if (vantlecopy::addsMode(skillName))
+        return Words::tr("Enter %1 Mode").arg(bidi::isolated(Skill::cleanedName(skillName)));
+    return Words::tr("Enter %1").arg(bidi::isolated(vantlecopy::modeName(skillName)));
 }
 
 QList<int> backfillChoices(int coverageMinutes) {

@@ -2,6 +2,7 @@
 
 #include "base/DateText.h"
 #include "base/Decimals.h"
+#include "base/Words.h"
 #include "surfaces/kit/tokens/Look.h"
 #include "tracking/DashFormat.h"
 #include "tracking/SessionGroup.h"
@@ -14,9 +15,9 @@
 namespace vantle {
 
 QString StatBlock::spoken() const {
-    if (value.isEmpty()) return title + QStringLiteral(": ") + invitation;
+    if (value.isEmpty()) return Words::tr("%1: %2").arg(title, invitation);
     const QString figure = unit.isEmpty() ? value : value + QLatin1Char(' ') + unit;
-    return title + QStringLiteral(": ") + figure + QStringLiteral(", ") + context;
+    return Words::tr("%1: %2, %3").arg(title, figure, context);
 }
 
 QString SkillTotalLine::spoken() const {
@@ -25,7 +26,7 @@ QString SkillTotalLine::spoken() const {
 
 QString RecentLine::spoken() const {
     QStringList parts{date, skillName, duration};
-    if (isManual) parts << QStringLiteral("manual");
+    if (isManual) parts << Words::tr("manual");
     return parts.join(QStringLiteral(", "));
 }
 
@@ -61,7 +62,7 @@ StatBlock goalBlock(const QString& title, double hours, double goal, std::uint32
     StatBlock stat = block(title, hours, goal, accent, style);
     const QString goalText = dashformat::inlineHours(goal, style);
     stat.context = contextForm.arg(goalText);
-    stat.invitation = QStringLiteral("%1 goal · a session starts the bar").arg(goalText);
+    stat.invitation = Words::tr("%1 goal · a session starts the bar").arg(goalText);
     return stat;
 }
 
@@ -71,14 +72,13 @@ std::vector<StatBlock> stats(const Sessions& sessions, const DashboardSetting& s
     const auto& [now, calendar, skills, style, goal] = setting;
     const double allTime = totals::hoursAllTime(sessions, now);
     const double milestone = dashformat::nextMilestone(allTime);
-    StatBlock all = block(QStringLiteral("All time"), allTime, milestone, kSky, style);
-    all.context =
-        QStringLiteral("next milestone %1").arg(dashformat::inlineHours(milestone, style));
-    all.invitation = QStringLiteral("Your first dot lights at 1 h");
-    return {goalBlock(QStringLiteral("Today"), totals::hoursToday(sessions, now, calendar), goal,
-                      kPink, QStringLiteral("of %1 goal"), style),
-            goalBlock(QStringLiteral("This week"), totals::hoursThisWeek(sessions, now, calendar),
-                      goal * 7, kViolet, QStringLiteral("of %1"), style),
+    StatBlock all = block(Words::tr("All time"), allTime, milestone, kSky, style);
+    all.context = Words::tr("next milestone %1").arg(dashformat::inlineHours(milestone, style));
+    all.invitation = Words::tr("Your first dot lights at 1 h");
+    return {goalBlock(Words::tr("Today"), totals::hoursToday(sessions, now, calendar), goal, kPink,
+                      Words::tr("of %1 goal"), style),
+            goalBlock(Words::tr("This week"), totals::hoursThisWeek(sessions, now, calendar),
+                      goal * 7, kViolet, Words::tr("of %1"), style),
             std::move(all)};
 }
 
@@ -93,8 +93,8 @@ QList<QColor> wallColors(const Sessions& sessions, const DashboardSetting& setti
 }
 
 QString wallText(std::int64_t dots) {
-    if (dots == 0) return QStringLiteral("Your first hour lights the first dot");
-    return dots == 1 ? QStringLiteral("1 hour") : QStringLiteral("%1 hours").arg(dots);
+    if (dots == 0) return Words::tr("Your first hour lights the first dot");
+    return dots == 1 ? Words::tr("1 hour") : Words::tr("%n hours", nullptr, static_cast<int>(dots));
 }
 
 double partialFraction(std::int64_t loggedSeconds, std::int64_t activeSeconds) {
@@ -107,9 +107,8 @@ double sliceFraction(double partialFraction, std::int64_t dots) {
 }
 
 QString wallLabel(std::int64_t dots, double partialFraction) {
-    return QStringLiteral("Hour wall, %1 completed hours, current hour %2 percent complete")
-        .arg(dots)
-        .arg(std::lround(partialFraction * 100));
+    return Words::tr("Hour wall, %1 completed hours, current hour %2 percent complete")
+        .arg(QString::number(dots), QString::number(std::lround(partialFraction * 100)));
 }
 
 std::vector<SkillTotalLine> skillTotals(const Sessions& sessions, const DashboardSetting& setting) {
@@ -135,7 +134,8 @@ QString shareText(double part, double whole) {
 
 std::vector<RecentLine> recent(const Sessions& sessions, const DashboardSetting& setting) {
     const auto groups = SessionGroup::grouped(sessions);
-    const DateText date = DateText::fixed(QStringLiteral("MMM d · HH:mm"), setting.calendar);
+    const DateText date =
+        DateText::fixed(Words::tr("MMM d · HH:mm", "date pattern"), setting.calendar);
     std::vector<RecentLine> lines;
     for (auto group = groups.rbegin(); group != groups.rend() && lines.size() < recentGroups;
          ++group) {
@@ -149,9 +149,9 @@ std::vector<RecentLine> recent(const Sessions& sessions, const DashboardSetting&
 
 QString recentText(std::size_t count, std::int64_t seconds, DurationStyle style) {
     if (count == 0) return {};
-    const QString words = count == 1 ? QStringLiteral("session") : QStringLiteral("sessions");
-    return QString::number(count) + QLatin1Char(' ') + words + QStringLiteral(" · ") +
-           dashformat::sessionDuration(seconds, style);
+    return (count == 1 ? Words::tr("1 session · %1")
+                       : Words::tr("%n sessions · %1", nullptr, static_cast<int>(count)))
+        .arg(dashformat::sessionDuration(seconds, style));
 }
 
 } // namespace vantle::dashboard

@@ -2,6 +2,7 @@
 
 #include "app/SessionFlow.h"
 #include "base/LocalTime.h"
+#include "base/Words.h"
 #include "ceremony/show/VantleCopy.h"
 #include "platform/Preferences.h"
 #include "surfaces/kit/tokens/Look.h"
@@ -131,15 +132,15 @@ QString DashboardView::elapsed() const {
 }
 
 QString DashboardView::chipState() const {
-    return isPaused() ? QStringLiteral("Paused") : vantlecopy::activeStatus(openSkill().name);
+    return isPaused() ? Words::tr("Paused") : vantlecopy::activeStatus(openSkill().name);
 }
 
 QString DashboardView::chipText() const { return chipState() + QStringLiteral(" · ") + elapsed(); }
 
-QString DashboardView::chipHoverText() const { return QStringLiteral("Stop · ") + elapsed(); }
+QString DashboardView::chipHoverText() const { return Words::tr("Stop · %1").arg(elapsed()); }
 
 QString DashboardView::chipLabel() const {
-    return chipText() + QStringLiteral(". Stops the session.");
+    return Words::tr("%1. Stops the session.").arg(chipText());
 }
 
 bool DashboardView::hasShortcut() const {
@@ -150,7 +151,7 @@ bool DashboardView::hasShortcut() const {
 QString DashboardView::warning() const {
     const auto& text =
         tracker().storageError() ? tracker().storageError() : tracker().dataWarning();
-    return text ? QStringLiteral("Data warning: ") + *text : QString();
+    return text ? Words::tr("Data warning: %1").arg(*text) : QString();
 }
 
 void DashboardView::toggle() { m_env.flow.toggle(); }

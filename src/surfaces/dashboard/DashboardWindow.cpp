@@ -1,6 +1,7 @@
 #include "surfaces/dashboard/DashboardWindow.h"
 
 #include "app/AppModel.h"
+#include "base/Words.h"
 #include "platform/Platform.h"
 #include "surfaces/dashboard/DashboardView.h"
 #include "surfaces/window/WindowParts.h"
@@ -35,9 +36,9 @@ std::unique_ptr<QObject> makeModel(const WindowParts& parts) {
 WindowSpec dashboardWindow(const WindowParts& parts) {
     return {.id = WindowId::Dashboard,
             .action = QStringLiteral("dashboard"),
-            .door = {QStringLiteral("Dashboard"), QStringLiteral("D")},
+            .door = {Words::tr("Dashboard"), QStringLiteral("D")},
             .replaces = WindowId::Wrapped,
-            .rules = {.title = QStringLiteral("Your hours"),
+            .rules = {.title = Words::tr("Your hours"),
                       .resizable = true,
                       .minContentWidth = 380,
                       .contentSize = {612, 512},

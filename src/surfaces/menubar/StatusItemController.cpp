@@ -1,5 +1,6 @@
 #include "surfaces/menubar/StatusItemController.h"
 
+#include "base/Words.h"
 #include "surfaces/menubar/MenuBarDrawing.h"
 
 #include <QPointer>
@@ -58,7 +59,7 @@ void StatusItemController::applyLater() {
 
 void StatusItemController::applyMenu() {
     const bool idle = m_env.tracker.state() == TrackerCore::State::Idle;
-    const QString toggle = idle ? QStringLiteral("Start") : QStringLiteral("Stop");
+    const QString toggle = idle ? Words::tr("Start") : Words::tr("Stop");
     if (std::exchange(m_toggleText, toggle) == toggle) return;
     // The item outlives the controller.
     const auto calls = [self = QPointer(this)](std::function<void()> StatusItemController::*on) {
@@ -66,9 +67,9 @@ void StatusItemController::applyMenu() {
             if (self && self->*on) (self->*on)();
         };
     };
-    m_env.item.setMenu({{QStringLiteral("Open"), calls(&StatusItemController::onOpen)},
+    m_env.item.setMenu({{Words::tr("Open"), calls(&StatusItemController::onOpen)},
                         {toggle, calls(&StatusItemController::onToggle)},
-                        {QStringLiteral("Quit"), calls(&StatusItemController::onQuit)}});
+                        {Words::tr("Quit"), calls(&StatusItemController::onQuit)}});
 }
 
 void StatusItemController::apply() {

@@ -1,5 +1,6 @@
 #include "surfaces/notes/NoteRows.h"
 
+#include "base/Words.h"
 #include "tracking/DashFormat.h"
 
 #include <QColor>
@@ -151,7 +152,7 @@ QString NoteRows::spoken(std::size_t number) const {
     const LogEntry& entry = entryOf(row);
     QStringList parts{entry.note, m_time(entry.startedAt), m_content.log.skillOf(entry).name,
                       dashformat::sessionDuration(entry.activeSeconds, m_content.style)};
-    if (entry.isManual) parts << QStringLiteral("Manual");
+    if (entry.isManual) parts << Words::tr("Manual");
     if (number == 0 || m_lines.rows[number - 1].day != row.day)
         parts.prepend((*m_dayLabels)(m_lines.days[row.day].day));
     return parts.join(QStringLiteral(", "));

@@ -1,7 +1,9 @@
 #include "surfaces/notes/NotesLog.h"
 
+#include "base/Bidi.h"
 #include "base/LocalTime.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "tracking/DashFormat.h"
 
 #include <QHash>
@@ -106,7 +108,7 @@ std::vector<LogDay> days(const NotesLog& log, const Places& visible, const Calen
 }
 
 QString countWord(std::size_t count) {
-    return count == 1 ? QStringLiteral("note") : QStringLiteral("notes");
+    return count == 1 ? Words::tr("note") : Words::tr("notes", nullptr, static_cast<int>(count));
 }
 
 QString subtitleText(const NotesLog& log, const Places& visible, bool isFiltering,
@@ -114,8 +116,8 @@ QString subtitleText(const NotesLog& log, const Places& visible, bool isFilterin
     std::int64_t seconds = 0;
     for (const std::size_t place : visible)
         seconds += log.entries[place].activeSeconds;
-    const QString form = isFiltering ? QStringLiteral("Across %1 of the work you filtered to.")
-                                     : QStringLiteral("Across %1 of tracked work.");
+    const QString form = isFiltering ? Words::tr("Across %1 of the work you filtered to.")
+                                     : Words::tr("Across %1 of tracked work.");
     return form.arg(dashformat::sessionDuration(seconds, style));
 }
 
@@ -133,8 +135,8 @@ QString footerText(const NotesLog& log, const Places& visible, DurationStyle sty
         std::ranges::max_element(notes, {}, [](const auto& pair) { return pair.second; });
 
     const QString duration = dashformat::sessionDuration(secondsOf(longest), style);
-    return QStringLiteral("Longest noted session: ") + duration + QStringLiteral(". Most noted: ") +
-           most->first + QLatin1Char('.');
+    return Words::tr("Longest noted session: %1. Most noted: %2.")
+        .arg(duration, bidi::isolated(most->first));
 }
 
 } // namespace noteslog

@@ -1,6 +1,7 @@
 #include "surfaces/notes/NotesWindow.h"
 
 #include "app/AppModel.h"
+#include "base/Words.h"
 #include "platform/Platform.h"
 #include "surfaces/notes/LogView.h"
 #include "surfaces/window/WindowParts.h"
@@ -26,8 +27,8 @@ std::unique_ptr<QObject> makeModel(const WindowParts& parts) {
 WindowSpec notesWindow(const WindowParts& parts) {
     return {.id = WindowId::Log,
             .action = QStringLiteral("notes"),
-            .door = {QStringLiteral("Notes")},
-            .rules = {.title = QStringLiteral("Your notes"),
+            .door = {Words::tr("Notes")},
+            .rules = {.title = Words::tr("Your notes"),
                       .resizable = true,
                       .minContentWidth = 380,
                       .contentSize = {520, 620},

@@ -1,5 +1,7 @@
 #include "surfaces/quicklog/QuickLogDuration.h"
 
+#include "base/Words.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -53,10 +55,11 @@ QString QuickLogDuration::spoken() const {
     const std::int64_t rest = *all % 60;
     QStringList parts;
     if (wholeHours > 0)
-        parts << (wholeHours == 1 ? QStringLiteral("1 hour")
-                                  : QStringLiteral("%1 hours").arg(wholeHours));
+        parts << (wholeHours == 1 ? Words::tr("1 hour")
+                                  : Words::tr("%n hours", nullptr, static_cast<int>(wholeHours)));
     if (rest > 0 || wholeHours == 0)
-        parts << (rest == 1 ? QStringLiteral("1 minute") : QStringLiteral("%1 minutes").arg(rest));
+        parts << (rest == 1 ? Words::tr("1 minute")
+                            : Words::tr("%n minutes", nullptr, static_cast<int>(rest)));
     return parts.join(u' ');
 }
 

@@ -1,6 +1,7 @@
 #include "surfaces/quicklog/QuickLogView.h"
 
 #include "app/SessionFlow.h"
+#include "base/Words.h"
 #include "platform/Preferences.h"
 #include "tracking/Settings.h"
 #include "tracking/SkillList.h"
@@ -74,7 +75,7 @@ void QuickLogView::setError(const QString& message, bool isTimeWrong) {
 void QuickLogView::logEntry() {
     const auto minutes = m_duration.validMinutes();
     if (!minutes) {
-        setError(QStringLiteral("Enter a time between 1 minute and 16 hours."), true);
+        setError(Words::tr("Enter a time between 1 minute and 16 hours."), true);
         Q_EMIT hoursWanted();
         return;
     }
@@ -83,7 +84,7 @@ void QuickLogView::logEntry() {
         return;
     }
     const QString reason = m_flow.tracker().storageError().value_or(QString());
-    setError(reason.isEmpty() ? QStringLiteral("Couldn’t save that entry.") : reason, false);
+    setError(reason.isEmpty() ? Words::tr("Couldn’t save that entry.") : reason, false);
 }
 
 } // namespace vantle

@@ -1,5 +1,6 @@
 #include "surfaces/settings/DesktopGaps.h"
 
+#include "base/Words.h"
 #include "platform/FrontmostApp.h"
 #include "platform/GuestSession.h"
 #include "platform/IdleSource.h"
@@ -23,12 +24,12 @@ DesktopGaps::DesktopGaps(Environment environment) : m_env(std::move(environment)
 
 QString DesktopGaps::hotKeyAdvice() const {
     if (!m_env.hotKey.isRegistered())
-        return QStringLiteral("Another key does as well. In your desktop's keyboard settings, bind "
-                              "one to this command:");
+        return Words::tr("Another key does as well. In your desktop's keyboard settings, bind one "
+                         "to this command:");
     if (!m_env.hotKey.hearsEveryApp())
-        return QStringLiteral("In a %1 Vantle hears these keys only over some apps. "
-                              "In your desktop's keyboard settings, bind a key to this command, "
-                              "and it works over all of them:")
+        return Words::tr(
+                   "In a %1 Vantle hears these keys only over some apps. In your desktop's "
+                   "keyboard settings, bind a key to this command, and it works over all of them:")
             .arg(guestSession());
     return {};
 }
@@ -47,14 +48,14 @@ void DesktopGaps::copyCommand() {
 
 QString DesktopGaps::trayAdvice() const {
     if (m_env.tray.isShown()) return {};
-    return QStringLiteral("This desktop shows no tray, so there is no icon to click. Open Vantle "
-                          "from your applications once more, and its panel comes up.");
+    return Words::tr("This desktop shows no tray, so there is no icon to click. Open Vantle from "
+                     "your applications once more, and its panel comes up.");
 }
 
 QString DesktopGaps::idleAdvice() const {
     if (m_env.idleSource.canTell()) return {};
-    return QStringLiteral("This desktop doesn't tell apps when you last used keyboard or mouse, so "
-                          "Vantle can't pause by that. Stop the session when you step away.");
+    return Words::tr("This desktop doesn't tell apps when you last used keyboard or mouse, so "
+                     "Vantle can't pause by that. Stop the session when you step away.");
 }
 
 QString DesktopGaps::autoModeAdvice() const {
@@ -62,29 +63,28 @@ QString DesktopGaps::autoModeAdvice() const {
     case AppCoverage::All:
         return {};
     case AppCoverage::Some:
-        return QStringLiteral("This desktop tells Vantle about some apps only. In all others Auto "
-                              "mode does nothing, and time stays under the category it has.");
+        return Words::tr("This desktop tells Vantle about some apps only. In all others Auto mode "
+                         "does nothing, and time stays under the category it has.");
     case AppCoverage::None:
-        return QStringLiteral("This desktop doesn't tell Vantle which app is in front, so Auto "
-                              "mode has nothing to go by. Choose the category by hand.");
+        return Words::tr("This desktop doesn't tell Vantle which app is in front, so Auto mode has "
+                         "nothing to go by. Choose the category by hand.");
     }
     return {};
 }
 
 QString DesktopGaps::autoStartAdvice() const {
     if (m_env.frontmostApp.coverage() == AppCoverage::None)
-        return QStringLiteral("This desktop doesn't tell Vantle which app is in front, so nothing "
-                              "starts on its own.");
+        return Words::tr("This desktop doesn't tell Vantle which app is in front, so nothing "
+                         "starts on its own.");
     if (m_env.idleSource.canTell()) return {};
-    return QStringLiteral("This desktop doesn't tell apps when you last used keyboard or mouse, so "
-                          "Vantle can't know that you are there: it starts nothing on its own, and "
-                          "asks about no app.");
+    return Words::tr(
+        "This desktop doesn't tell apps when you last used keyboard or mouse, so Vantle can't know "
+        "that you are there: it starts nothing on its own, and asks about no app.");
 }
 
 QString DesktopGaps::ceremonyAdvice() const {
     if (m_env.overlayStage.isAvailable()) return {};
-    return QStringLiteral(
-               "In this %1 a ceremony would catch every click while it plays, so none plays.")
+    return Words::tr("In this %1 a ceremony would catch every click while it plays, so none plays.")
         .arg(guestSession());
 }
 

@@ -1,5 +1,8 @@
 #include "surfaces/settings/SeenAppRows.h"
 
+#include "base/Bidi.h"
+#include "base/Words.h"
+
 #include <QColor>
 
 #include <algorithm>
@@ -9,9 +12,8 @@ namespace vantle {
 namespace {
 
 QString forgetLabel(const SeenAppRows::Row& row) {
-    return (row.hasChoice ? QStringLiteral("Forget %1 and its category")
-                          : QStringLiteral("Forget %1"))
-        .arg(row.name);
+    return (row.hasChoice ? Words::tr("Forget %1 and its category") : Words::tr("Forget %1"))
+        .arg(bidi::isolated(row.name));
 }
 
 } // namespace
@@ -74,7 +76,7 @@ QVariant SeenAppRows::data(const QModelIndex& index, int role) const {
     case ColorRole:
         return QColor::fromRgb(row.hexRGB.value_or(0));
     case MenuLabelRole:
-        return QStringLiteral("Skill for %1").arg(row.name);
+        return Words::tr("Skill for %1").arg(bidi::isolated(row.name));
     case ForgetLabelRole:
         return forgetLabel(row);
     default:

@@ -1,5 +1,6 @@
 // The applications of auto mode in the settings.
 #include "app/AppModel.h"
+#include "base/Words.h"
 #include "sensing/AutoRules.h"
 #include "surfaces/settings/SettingsView.h"
 
@@ -45,17 +46,17 @@ void SettingsView::refreshApps() {
 
 QString SettingsView::appsNote() const {
     return m_apps.rowCount() == 0
-               ? QStringLiteral("Apps you use will appear here once Auto mode is on.")
-               : QStringLiteral("Sparkles means Vantle categorized the app locally. Change any "
-                                "choice, or remove an app with ×. Browsers stay unassigned "
-                                "because their purpose is ambiguous.");
+               ? Words::tr("Apps you use will appear here once Auto mode is on.")
+               : Words::tr("Sparkles means Vantle categorized the app locally. Change any choice, "
+                           "or remove an app with ×. Browsers stay unassigned because their "
+                           "purpose is ambiguous.");
 }
 
 QList<QString> SettingsView::appChoices() const {
     QList<QString> choices;
     for (const Skill& skill : m_env.model.skills())
         choices << skill.name;
-    return choices << QStringLiteral("Ignore") << QStringLiteral("Not set");
+    return choices << Words::tr("Ignore") << Words::tr("Not set");
 }
 
 QString SettingsView::appsFailure() const {

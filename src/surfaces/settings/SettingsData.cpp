@@ -20,7 +20,7 @@ void SettingsView::exportData() {
     const Result<> there = ensureLog();
     m_exportFailed = !there;
     m_exportFeedback = there ? Words::tr("Revealed in Finder")
-                             : Words::tr("Couldn't export: ") + there.error().description();
+                             : Words::tr("Couldn't export: %1").arg(there.error().description());
     Q_EMIT exportChanged();
     if (there) m_env.reveal(m_env.paths.sessionsFile());
 }

@@ -1,4 +1,5 @@
 // The person's own shortcuts in the settings.
+#include "base/Words.h"
 #include "sensing/FocusLink.h"
 #include "surfaces/settings/SettingsView.h"
 #include "tracking/Settings.h"
@@ -30,7 +31,7 @@ bool SettingsView::hasNoShortcuts() const {
 /// A shortcut that is no longer there is offered as long as it is the chosen one: it would still be
 /// asked for at the next session.
 QList<QString> SettingsView::choices(const QString& chosen) const {
-    QList<QString> all{QStringLiteral("Choose a Shortcut")};
+    QList<QString> all{Words::tr("Choose a Shortcut")};
     all += m_focusShortcutNames.value_or(QStringList());
     if (!chosen.isEmpty() && all.indexOf(chosen, 1) < 0) all << chosen;
     return all;
@@ -59,7 +60,7 @@ void SettingsView::openShortcuts() {
     const Result<> opened = m_env.openShortcuts();
     m_shortcutsFailure =
         opened ? QString()
-               : QStringLiteral("Couldn't open Shortcuts: ") + opened.error().description();
+               : Words::tr("Couldn't open Shortcuts: %1").arg(opened.error().description());
     Q_EMIT shortcutsChanged();
 }
 

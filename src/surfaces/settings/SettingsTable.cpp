@@ -20,8 +20,8 @@ QList<Entry> focusRows() {
         {.section = PreferenceRowModel::Focus,
          .kind = PreferenceRowModel::Slider,
          .setting = Range{settings::idleThresholdSeconds, kSecondsPerMinute, 1, 10, 1},
-         .title = QT_TRANSLATE_NOOP("Words", "Auto-pause after %n min"),
-         .caption = QT_TRANSLATE_NOOP(
+         .title = QT_TRANSLATE_N_NOOP("Words", "Auto-pause after %n min"),
+         .caption = QT_TRANSLATE_N_NOOP(
              "Words", "No input for %n minutes pauses the clock, backdated to your last keystroke "
                       "or click so away time is never counted. Default is 3."),
          .captionOfOne = QT_TRANSLATE_NOOP(

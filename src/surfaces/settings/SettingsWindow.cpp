@@ -1,6 +1,7 @@
 #include "surfaces/settings/SettingsWindow.h"
 
 #include "app/AppModel.h"
+#include "base/Words.h"
 #include "platform/FileManager.h"
 #include "platform/FileSystem.h"
 #include "platform/Platform.h"
@@ -58,7 +59,7 @@ std::unique_ptr<QObject> makeModel(const WindowParts& parts) {
 
 WindowRules settingsWindowRules() {
     // Its rows scroll under their own title, so less height is no loss.
-    return {.title = QStringLiteral("Settings"),
+    return {.title = Words::tr("Settings"),
             .showsTitle = true,
             .contentSize = {480, 620},
             .scrollableHeight = 240};
@@ -67,7 +68,7 @@ WindowRules settingsWindowRules() {
 WindowSpec settingsWindow(const WindowParts& parts) {
     return {.id = WindowId::Settings,
             .action = QStringLiteral("settings"),
-            .door = {QStringLiteral("Settings"), QStringLiteral(",")},
+            .door = {Words::tr("Settings"), QStringLiteral(",")},
             .rules = settingsWindowRules(),
             .content = {viewAt("Settings/SettingsPage"),
                         [parts](const auto&) { return makeModel(parts); }}};

@@ -1,11 +1,24 @@
 #include "surfaces/skills/SkillEditor.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace vantle {
+
+namespace {
+
+/// Skill::paletteNames as sources of texts.
+[[maybe_unused]] constexpr const char* kColorNames[] = {
+    QT_TRANSLATE_NOOP("Words", "Red"),    QT_TRANSLATE_NOOP("Words", "Orange"),
+    QT_TRANSLATE_NOOP("Words", "Violet"), QT_TRANSLATE_NOOP("Words", "Green"),
+    QT_TRANSLATE_NOOP("Words", "Sky"),    QT_TRANSLATE_NOOP("Words", "Yellow"),
+    QT_TRANSLATE_NOOP("Words", "Purple"), QT_TRANSLATE_NOOP("Words", "Pink"),
+    QT_TRANSLATE_NOOP("Words", "Teal"),   QT_TRANSLATE_NOOP("Words", "Lime")};
+
+} // namespace
 
 void SkillEditor::openFor(const Skill& skill, Fields fields) {
     open(skill.id, skill.name, skill.hexRGB, fields);
@@ -81,7 +94,11 @@ QList<QColor> SkillEditor::palette() {
 }
 
 QStringList SkillEditor::colorNames() {
-    return {Skill::paletteNames.begin(), Skill::paletteNames.end()};
+    QStringList names;
+    names.reserve(Skill::paletteNames.size());
+    for (const QLatin1String name : Skill::paletteNames)
+        names << Words::tr(name.data());
+    return names;
 }
 
 int SkillEditor::colorIndex() const {

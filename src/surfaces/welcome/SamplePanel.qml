@@ -145,11 +145,15 @@ GlassBackground {
                 id: promise
                 x: panel.margin
                 y: DarkUI.space10 + (DarkUI.space44 - height) / 2
+                width: quit.x - x - DarkUI.space12
                 text: qsTr("Your focus history stays private on this Mac")
+                wrapMode: Text.Wrap
+                maximumLineCount: 2
                 role: DarkUI.small
                 color: DarkUI.textTertiary
             }
             DarkText {
+                id: quit
                 anchors.right: keys.left
                 anchors.rightMargin: DarkUI.space8
                 anchors.verticalCenter: promise.verticalCenter

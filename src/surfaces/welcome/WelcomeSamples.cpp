@@ -1,21 +1,29 @@
 #include "surfaces/welcome/WelcomeSamples.h"
 
+#include "base/Words.h"
 #include "platform/Preferences.h"
 #include "platform/ReducedMotion.h"
 #include "surfaces/capsule/CapsuleText.h"
 #include "surfaces/dashboard/DashboardFigures.h"
 #include "surfaces/kit/tokens/Look.h"
+#include "tracking/DashFormat.h"
 #include "tracking/Skill.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 namespace vantle {
 
 namespace {
 
-/// A literal as it is shown.
+/// A figure, or a name, as it is shown.
 QString words(const char* utf8) { return QString::fromUtf8(utf8); }
+
+QString inHours(double hours) { return dashformat::inlineHours(hours, DurationStyle::Natural); }
+QString inMinutes(std::int64_t minutes) {
+    return dashformat::sessionDuration(minutes * 60, DurationStyle::Natural);
+}
 
 /// The skill that every first start has under the id; the first of them for an id that none has.
 Skill seed(const char* id) {
@@ -28,24 +36,25 @@ SampleApp app(const char* name, const char* skill) {
     return {words(name), seed(skill).name, colorOf(skill)};
 }
 
-StatBlock stat(const char* title, const char* value, const char* context, double fraction,
+StatBlock stat(const QString& title, double hours, const QString& context, double fraction,
                std::uint32_t accent) {
     StatBlock made;
-    made.title = words(title);
-    made.value = words(value);
-    made.unit = words("h");
-    made.context = words(context);
+    const dashformat::StatValue figure = dashformat::statValue(hours, DurationStyle::Natural);
+    made.title = title;
+    made.value = figure.value;
+    made.unit = figure.unit;
+    made.context = context;
     made.fraction = fraction;
     made.accent = QColor::fromRgb(accent);
     return made;
 }
 
-SkillTotalLine total(const char* skill, double fraction, const char* hours, const char* share) {
-    return {seed(skill).name, colorOf(skill), fraction, words(hours), words(share)};
+SkillTotalLine total(const char* skill, double fraction, double hours, const char* share) {
+    return {seed(skill).name, colorOf(skill), fraction, inHours(hours), words(share)};
 }
 
-RecentLine line(const char* date, const char* skill, const char* duration) {
-    return {words(date), colorOf(skill), seed(skill).name, words(duration), false};
+RecentLine line(const QString& date, const char* skill, int minutes) {
+    return {date, colorOf(skill), seed(skill).name, inMinutes(minutes), false};
 }
 
 /// A letter an hour: the first of the mode's name.
@@ -77,14 +86,14 @@ constexpr int kHoveredChip = 3;
 
 struct Hours {
     const char* skill;
-    const char* hours;
+    double hours;
     const char* share;
     double fraction; ///< of the first
 };
 
-constexpr std::array kBreakdown = {Hours{"building", "8.2 h", "45%", 1.0},
-                                   Hours{"product_design", "4.1 h", "22%", 0.5},
-                                   Hours{"marketing", "2.6 h", "14%", 0.32}};
+constexpr std::array kBreakdown = {Hours{"building", 8.2, "45%", 1.0},
+                                   Hours{"product_design", 4.1, "22%", 0.5},
+                                   Hours{"marketing", 2.6, "14%", 0.32}};
 
 struct Day {
     const char* skill; ///< null for a day off
@@ -150,10 +159,13 @@ QVariantList WelcomeSamples::apps() {
 
 QVariantList WelcomeSamples::stats() {
     return {
-        QVariant::fromValue(stat("Today", "1.4", "of 2 h goal", 0.71, look::kDark.barToday.rgb)),
-        QVariant::fromValue(stat("This week", "9.2", "of 14 h", 0.66, look::kDark.barWeek.rgb)),
-        QVariant::fromValue(
-            stat("All time", "46.3", "next milestone 50 h", 0.926, look::kDark.barAllTime.rgb))};
+        QVariant::fromValue(stat(Words::tr("Today"), 1.4, Words::tr("of %1 goal").arg(inHours(2)),
+                                 0.71, look::kDark.barToday.rgb)),
+        QVariant::fromValue(stat(Words::tr("This week"), 9.2, Words::tr("of %1").arg(inHours(14)),
+                                 0.66, look::kDark.barWeek.rgb)),
+        QVariant::fromValue(stat(Words::tr("All time"), 46.3,
+                                 Words::tr("next milestone %1").arg(inHours(50)), 0.926,
+                                 look::kDark.barAllTime.rgb))};
 }
 
 QList<QColor> WelcomeSamples::wall() {
@@ -164,13 +176,13 @@ QList<QColor> WelcomeSamples::wall() {
 }
 
 QVariantList WelcomeSamples::totals() {
-    return {QVariant::fromValue(total("building", 1.0, "21.4 h", "46%")),
-            QVariant::fromValue(total("product_design", 0.49, "10.5 h", "23%"))};
+    return {QVariant::fromValue(total("building", 1.0, 21.4, "46%")),
+            QVariant::fromValue(total("product_design", 0.49, 10.5, "23%"))};
 }
 
 QVariantList WelcomeSamples::recent() {
-    return {QVariant::fromValue(line("Nov 21 · 13:12", "building", "1 h 12 min")),
-            QVariant::fromValue(line("Nov 20 · 18:26", "product_design", "48 min"))};
+    return {QVariant::fromValue(line(Words::tr("Nov 21 · 13:12"), "building", 72)),
+            QVariant::fromValue(line(Words::tr("Nov 20 · 18:26"), "product_design", 48))};
 }
 
 QVariantList WelcomeSamples::modes() {
@@ -186,7 +198,7 @@ NotchCapsule* WelcomeSamples::capsule() {
     NotchCapsule::Form form;
     form.skill = m_skills.front();
     form.skills = m_skills;
-    form.clock = words("1 h 12 min");
+    form.clock = inMinutes(72);
     m_capsule = std::make_unique<NotchCapsule>(
         NotchCapsule::Environment{m_env.scheduler, m_env.preferences, m_env.reducedMotion,
                                   *m_capsuleText},
@@ -201,25 +213,26 @@ int WelcomeSamples::hoveredChip() const {
 SharePoster WelcomeSamples::poster() {
     SharePoster made;
     made.wordmark = words("Vantle");
-    made.title = words("YOUR WEEK, IN FULL");
+    made.title = Words::tr("YOUR WEEK, IN FULL");
     made.dotColors = dots();
-    made.personaName = words("Night Owl");
+    made.personaName = Words::tr("Night Owl");
     made.startColor = QColor::fromRgb(0x7A78FF);
     made.endColor = QColor::fromRgb(0xBF5AF2);
-    made.hours = {words("18.4"), words("h")};
-    made.closing = words("18.4 h across 12 sessions, led by Build.");
-    made.rhythmKicker = words("YOUR RHYTHM");
+    made.hours = {words("18.4"), Words::tr("h")};
+    made.closing = Words::tr("%1 across %n sessions, led by %2.", nullptr, 12)
+                       .arg(inHours(18.4), seed("building").name);
+    made.rhythmKicker = Words::tr("YOUR RHYTHM");
     made.rhythm = week();
-    made.breakdownKicker = words("THE BREAKDOWN");
+    made.breakdownKicker = Words::tr("THE BREAKDOWN");
     for (const Hours& row : kBreakdown) {
         const Skill skill = seed(row.skill);
-        made.breakdown.push_back({skill.name, QColor::fromRgb(skill.hexRGB), words(row.hours),
+        made.breakdown.push_back({skill.name, QColor::fromRgb(skill.hexRGB), inHours(row.hours),
                                   words(row.share), row.fraction});
     }
-    made.figures = {{made.hours, words("TOTAL")},
-                    {{words("12"), {}}, words("SESSIONS")},
-                    {{words("6"), {}}, words("ACTIVE DAYS")}};
-    made.footer = words("Vantle · the work is adding up");
+    made.figures = {{made.hours, Words::tr("TOTAL")},
+                    {{words("12"), {}}, Words::tr("SESSIONS", nullptr, 12)},
+                    {{words("6"), {}}, Words::tr("ACTIVE DAYS", nullptr, 6)}};
+    made.footer = Words::tr("Vantle · the work is adding up");
     return made;
 }
 

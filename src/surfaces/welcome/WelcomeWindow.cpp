@@ -1,5 +1,6 @@
 #include "surfaces/welcome/WelcomeWindow.h"
 
+#include "base/Words.h"
 #include "platform/Platform.h"
 #include "surfaces/welcome/WelcomeView.h"
 #include "surfaces/window/WindowParts.h"
@@ -34,7 +35,7 @@ std::unique_ptr<QObject> makeModel(const WindowParts& parts, const std::function
 
 WindowSpec welcomeWindow(const WindowParts& parts) {
     return {.id = WindowId::Welcome,
-            .rules = {.title = QStringLiteral("Welcome")},
+            .rules = {.title = Words::tr("Welcome")},
             .content = {viewAt("Welcome/WelcomePage"),
                         [parts](const auto& close) { return makeModel(parts, close); },
                         [](QObject& model) { static_cast<WelcomeView&>(model).finish(); }}};

@@ -1,5 +1,6 @@
 #include "surfaces/wrapped/PosterSharing.h"
 
+#include "base/Words.h"
 #include "platform/ImageClipboard.h"
 #include "platform/WholeFile.h"
 
@@ -11,8 +12,8 @@ void PosterSharing::copy(const QByteArray& png) { m_env.clipboard.copyPng(png); 
 
 void PosterSharing::save(const QByteArray& png, const QString& name, QWindow* above,
                          std::function<void(Saved)> done) {
-    const SaveQuestion question{QStringLiteral("Save image"), name, *m_folder,
-                                QStringLiteral("PNG image"), QStringLiteral("png")};
+    const SaveQuestion question{Words::tr("Save image"), name, *m_folder, Words::tr("PNG image"),
+                                QStringLiteral("png")};
     m_open.reset(); // before the next one opens
     m_open =
         m_env.dialog.ask(question, above, [this, png, done](const std::optional<QString>& path) {

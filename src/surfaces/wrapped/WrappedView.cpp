@@ -1,6 +1,7 @@
 #include "surfaces/wrapped/WrappedView.h"
 
 #include "base/Clock.h"
+#include "base/Words.h"
 #include "platform/LanguageModel.h"
 #include "platform/Preferences.h"
 #include "review/WrappedMotion.h"
@@ -128,7 +129,7 @@ QString WrappedView::emptyText() const {
 }
 
 QString WrappedView::enterText() const {
-    return m_tracking ? QStringLiteral("Stop Vantle") : QStringLiteral("Enter Vantle");
+    return m_tracking ? Words::tr("Stop Vantle") : Words::tr("Enter Vantle");
 }
 
 void WrappedView::setTracking(bool tracking) {
@@ -171,7 +172,7 @@ void WrappedView::synthesizeNarrative() {
 
 std::optional<QByteArray> WrappedView::renderedPoster() {
     auto png = m_env.renderPng(m_texts.poster);
-    if (!png) setShareFeedback(QStringLiteral("Couldn't render the image"));
+    if (!png) setShareFeedback(Words::tr("Couldn't render the image"));
     return png;
 }
 
@@ -192,12 +193,12 @@ void WrappedView::saveImage() {
         view->setShareFeedback(
             saved == Saved::Written
                 ? std::nullopt
-                : std::optional(QStringLiteral("Couldn't save there. Try a different folder.")));
+                : std::optional(Words::tr("Couldn't save there. Try a different folder.")));
     });
 }
 
 QString WrappedView::copyText() const {
-    return copied() ? QStringLiteral("Copied") : QStringLiteral("Copy image");
+    return copied() ? Words::tr("Copied") : Words::tr("Copy image");
 }
 
 QString WrappedView::shareFeedback() const { return m_review.shareFeedback().value_or(QString()); }

@@ -1,6 +1,7 @@
 #include "surfaces/wrapped/WrappedWindow.h"
 
 #include "app/AppModel.h"
+#include "base/Words.h"
 #include "platform/Platform.h"
 #include "surfaces/window/WindowParts.h"
 #include "surfaces/window/WindowRouter.h"
@@ -48,9 +49,9 @@ std::unique_ptr<QObject> makeModel(const WindowParts& parts) {
 WindowSpec wrappedWindow(const WindowParts& parts) {
     return {.id = WindowId::Wrapped,
             .action = QStringLiteral("wrapped"),
-            .door = {QStringLiteral("Wrapped")},
+            .door = {Words::tr("Wrapped")},
             .replaces = WindowId::Dashboard, // the two large windows are never open together
-            .rules = {.title = QStringLiteral("Wrapped")},
+            .rules = {.title = Words::tr("Wrapped")},
             .content = {viewAt("Wrapped/WrappedPage"),
                         [parts](const auto&) { return makeModel(parts); }}};
 }

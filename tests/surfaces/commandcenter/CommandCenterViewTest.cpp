@@ -121,6 +121,7 @@ TEST_F(CommandCenterViewTest, KeysThatAreShownOpenTheirWindows) {
         EXPECT_EQ(opened.size(), 1) << keys.toStdString();
         ++tried;
     }
+    EXPECT_EQ(m_shown->cutTexts(), QStringList());
     EXPECT_EQ(tried, 1);
     EXPECT_TRUE(m_shown->shows(text("Ctrl+Q")));
     m_shown->press(Qt::Key_Q, Qt::ControlModifier);

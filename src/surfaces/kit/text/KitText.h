@@ -3,6 +3,7 @@
 
 #include "base/KeySigns.h"
 #include "base/Text.h"
+#include "base/Words.h"
 
 #include <QColor>
 #include <QObject>
@@ -33,15 +34,16 @@ public:
     }
     /// "Color 30D158"
     Q_INVOKABLE [[nodiscard]] static QString digits(const QColor& color) {
-        return tr("Color %1").arg(color.name(QColor::HexRgb).sliced(1).toUpper());
+        return Words::tr("Color %1").arg(color.name(QColor::HexRgb).sliced(1).toUpper());
     }
     /// What is read out after the name of a colour that can be chosen.
     Q_INVOKABLE [[nodiscard]] static QString swatch(const QColor& color, bool chosen) {
-        return (chosen ? tr("%1, selected") : tr("%1, not selected")).arg(digits(color));
+        return (chosen ? Words::tr("%1, selected") : Words::tr("%1, not selected"))
+            .arg(digits(color));
     }
     /// Which of how many pages is shown; `page` counts from 0.
     Q_INVOKABLE [[nodiscard]] static QString place(int page, int count) {
-        return tr("Page %1 of %2").arg(QString::number(page + 1), QString::number(count));
+        return Words::tr("Page %1 of %2").arg(QString::number(page + 1), QString::number(count));
     }
     /// What is spoken when that page is turned to: which one it is, where there are more, and what
     /// stands on it unless that is empty.
