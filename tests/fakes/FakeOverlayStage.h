@@ -5,6 +5,7 @@
 
 #include <QList>
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -17,12 +18,32 @@ public:
     [[nodiscard]] std::vector<QRect> frames() const override { return screens; }
     [[nodiscard]] std::unique_ptr<OverlayWindow> putUp(const QRect& frame,
                                                        std::unique_ptr<OverlayView> view) override {
+        if (std::ranges::find(screens, frame) == screens.end())
+            return std::make_unique<OverlayWindow>();
         return std::make_unique<Window>(*this, frame, std::move(view));
+    }
+
+    void unplug(const QRect& frame) {
+        std::erase(screens, frame);
+        for (Window* window : m_windows)
+            if (window->frame == frame) window->view.reset();
+    }
+    /// The views come to their ends.
+    void finish() {
+        for (Window* window : m_windows)
+            window->view.reset();
+    }
+
+    /// What shows, in the order in which it was put up.
+    [[nodiscard]] QList<QRect> shown() const {
+        QList<QRect> frames;
+        for (const Window* window : m_windows)
+            if (window->view) frames << window->frame;
+        return frames;
     }
 
     bool available = true;
     std::vector<QRect> screens{QRect(0, 0, 1440, 900)};
-    QList<QRect> shown; ///< in the order in which they were put up, as long as somebody keeps them
 
 private:
     struct Window final : OverlayWindow {
@@ -30,16 +51,18 @@ private:
             : stage(owner)
             , frame(over)
             , view(std::move(shownView)) {
-            stage.shown << frame;
+            stage.m_windows << this;
         }
-        ~Window() override { stage.shown.removeOne(frame); }
+        ~Window() override { stage.m_windows.removeOne(this); }
         Window(const Window&) = delete;
         Window& operator=(const Window&) = delete;
 
         FakeOverlayStage& stage;
         const QRect frame;
-        const std::unique_ptr<OverlayView> view;
+        std::unique_ptr<OverlayView> view;
     };
+
+    QList<Window*> m_windows;
 };
 
 } // namespace vantle::fakes

@@ -132,7 +132,7 @@ TEST_F(ProgramTest, RecordsASessionFromShortcutToLog) {
     time.settle();
     EXPECT_EQ(state(), State::Running);
     time.advance(1.0);
-    EXPECT_EQ(overlayStage.shown, QList<QRect>{overlayStage.screens.front()});
+    EXPECT_EQ(overlayStage.shown(), QList<QRect>{overlayStage.screens.front()});
 
     for (int minute = 0; minute < 10; ++minute) {
         idleSource.touch();
