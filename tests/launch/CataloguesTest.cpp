@@ -25,6 +25,25 @@ TEST(Catalogues, LeaveTextsThatAreTrueAnywhereAsTheyAre) {
     EXPECT_EQ(Words::tr("Couldn’t start vantle"), text("Couldn’t start vantle"));
 }
 
+TEST(Catalogues, FirstLanguageThatTheProgramKnowsIsSpoken) {
+    for (const QStringList& languages :
+         {QStringList{text("de-AT"), text("en")}, QStringList{text("nl"), text("de")}}) {
+        const Catalogues catalogues(languages);
+        EXPECT_EQ(shortcutTaken(), text("Alt+Super+B wird schon von einer anderen App benutzt."));
+    }
+    const Catalogues catalogues({text("en-GB"), text("de")});
+    EXPECT_EQ(shortcutTaken(), text("Alt+Super+B is already used by another app."));
+}
+
+TEST(Catalogues, PluralHasTheFormsOfItsLanguage) {
+    const Catalogues catalogues({text("de")});
+    EXPECT_EQ(Words::tr("%n hours", nullptr, 1), text("1 Stunde"));
+    EXPECT_EQ(Words::tr("%n hours", nullptr, 2), text("2 Stunden"));
+    EXPECT_EQ(
+        Words::tr("%1 across %n sessions, led by %2.", nullptr, 3).arg(text("2 h"), text("Build")),
+        text("2 h in 3 Sitzungen, vor allem Build."));
+}
+
 TEST(Catalogues, AreGoneAfterTheirLife) {
     { const Catalogues catalogues({}); }
     EXPECT_EQ(shortcutTaken(), text("⌥⌘B is already used by another app."));
