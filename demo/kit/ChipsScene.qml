@@ -9,7 +9,7 @@ Rectangle {
     implicitHeight: 660
     color: "#22262F"
 
-    Rectangle {
+    Plate {
         x: 40
         y: 40
         width: 920

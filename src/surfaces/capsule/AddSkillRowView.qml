@@ -18,7 +18,7 @@ KitPressable {
         color: DarkUI.hairline
     }
 
-    Rectangle {
+    Plate {
         id: square
         x: CapsuleTokens.inset
         y: DarkUI.hairlineWidth + (CapsuleTokens.addRowHeight - height) / 2

@@ -18,7 +18,6 @@ Item {
         y: CapsuleTokens.dotTop
         width: DarkUI.chipDotSize
         height: DarkUI.chipDotSize
-        antialiasing: true
         color: row.tint
         opacity: row.capsule.paused ? CapsuleTokens.pausedDot : 1
 
@@ -125,7 +124,7 @@ Item {
             color: CapsuleTokens.glyph
         }
 
-        Rectangle {
+        Plate {
             anchors.centerIn: parent
             visible: !row.capsule.idlePrompt
             width: CapsuleTokens.stopGlyph

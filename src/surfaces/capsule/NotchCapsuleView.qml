@@ -91,14 +91,14 @@ PanelRoot {
         clip: true
 
         // A line of light along the inside of the bottom.
-        Rectangle {
+        Plate {
             y: -view.radius
             width: parent.width
             height: parent.height + view.radius
             radius: view.radius
             color: Qt.tint(DarkUI.capsuleGround, DarkUI.capsuleEdge)
 
-            Rectangle {
+            Plate {
                 width: parent.width
                 height: parent.height - DarkUI.hairlineWidth
                 radius: view.radius

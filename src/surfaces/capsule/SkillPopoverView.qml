@@ -35,7 +35,7 @@ DarkPopover {
     Keys.onEnterPressed: editor.commit()
 
     // The names of the chips below would show through.
-    Rectangle {
+    Plate {
         anchors.fill: parent
         z: -1
         radius: popover.composited ? DarkUI.radiusWindow : 0
@@ -126,7 +126,7 @@ DarkPopover {
         name: popover.editor.adding ? qsTr("Create skill") : qsTr("Save")
         onClicked: popover.editor.commit()
 
-        Rectangle {
+        Plate {
             id: ground
             anchors.fill: parent
             radius: DarkUI.radiusSmall

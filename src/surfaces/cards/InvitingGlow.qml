@@ -29,20 +29,19 @@ Item {
         }
     }
 
-    Rectangle {
+    Plate {
         anchors.fill: parent
         anchors.margins: -DarkUI.invitationHalo
         radius: light.radius + DarkUI.invitationHalo
-        color: "transparent"
-        border.width: DarkUI.invitationHalo
-        border.color: Tint.alpha(DarkUI.accent, DarkUI.invitationHaloOpacity * light.phase)
+        edgeWidth: DarkUI.invitationHalo
+        edge: Tint.alpha(DarkUI.accent, DarkUI.invitationHaloOpacity * light.phase)
     }
 
     // The glow is made of rings, so that none of it lies under the field, which is not opaque.
     Repeater {
         model: Motion.reduced ? 0 : DarkUI.invitationGlow / light.ringWidth
 
-        Rectangle {
+        Plate {
             required property int index
             readonly property real reach: (index + 1) * light.ringWidth // px beyond the field
             readonly property real nearness: 1 - reach / (DarkUI.invitationGlow + light.ringWidth)
@@ -50,9 +49,8 @@ Item {
             anchors.fill: parent
             anchors.margins: -reach
             radius: light.radius + reach
-            color: "transparent"
-            border.width: light.ringWidth
-            border.color: Tint.alpha(DarkUI.accent, DarkUI.invitationGlowOpacity * light.phase
+            edgeWidth: light.ringWidth
+            edge: Tint.alpha(DarkUI.accent, DarkUI.invitationGlowOpacity * light.phase
                                                     * nearness * nearness)
         }
     }

@@ -29,7 +29,7 @@ FloatingSurface {
         height: parent.height
         spacing: DarkUI.space10
 
-        Rectangle {
+        Plate {
             anchors.verticalCenter: parent.verticalCenter
             width: DarkUI.swatchSize
             height: DarkUI.swatchSize

@@ -13,7 +13,7 @@ Row {
 
     spacing: gap
 
-    Rectangle {
+    Plate {
         anchors.verticalCenter: parent.verticalCenter
         width: DarkUI.chipDotSize
         height: DarkUI.chipDotSize

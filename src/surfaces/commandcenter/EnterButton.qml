@@ -44,7 +44,7 @@ KitPressable {
         anchors.fill: parent
         scale: 1 + (DarkUI.pulseScale - 1) * button.glow
 
-        Rectangle {
+        Plate {
             anchors.fill: parent
             anchors.margins: -DarkUI.space4 * button.glow
             visible: button.glow > 0
@@ -52,7 +52,7 @@ KitPressable {
             color: Tint.alpha(button.accent, DarkUI.pulseGlowOpacity * button.glow)
         }
 
-        Rectangle {
+        Plate {
             id: plate
             anchors.fill: parent
             radius: DarkUI.radiusWindow

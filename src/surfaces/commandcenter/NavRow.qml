@@ -14,7 +14,7 @@ KitPressable {
     name: title
     Accessible.description: KitText.spoken(shortcut)
 
-    Rectangle {
+    Plate {
         id: ground
         anchors.fill: parent
         radius: DarkUI.radiusButton

@@ -88,7 +88,7 @@ KitControl {
         id: hover
     }
 
-    Rectangle {
+    Plate {
         anchors.fill: parent
         anchors.leftMargin: DarkUI.space16
         anchors.rightMargin: DarkUI.space16

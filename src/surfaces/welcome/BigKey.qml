@@ -13,13 +13,13 @@ Item {
     implicitWidth: WelcomeTokens.key
     implicitHeight: WelcomeTokens.key
 
-    Rectangle {
+    Plate {
         anchors.fill: parent
         radius: DarkUI.radiusFloating
         color: key.lit ? Tint.alpha(DarkUI.accent, WelcomeTokens.litSide) : WelcomeTokens.keySide
     }
 
-    Rectangle {
+    Plate {
         width: parent.width
         height: parent.height - WelcomeTokens.keyFront
         radius: DarkUI.radiusFloating

@@ -42,7 +42,7 @@ Item {
 
                 model: plan.split(" ").length - 1
 
-                Rectangle {
+                Plate {
                     required property int index
                     readonly property real share: course.row / (picture.courses.length - 1)
 
@@ -64,7 +64,7 @@ Item {
         anchors.fill: first
     }
 
-    Rectangle {
+    Plate {
         id: first
         x: picture.begin(picture.courses[0], 2)
         y: picture.lowest
@@ -73,7 +73,7 @@ Item {
         radius: DarkUI.radiusSmall
         color: DarkUI.accent
 
-        Rectangle {
+        Plate {
             x: WelcomeTokens.shineInset
             y: WelcomeTokens.shineInset
             width: parent.width - 2 * x

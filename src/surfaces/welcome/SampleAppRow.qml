@@ -17,7 +17,7 @@ Item {
         visible: row.ruled
     }
 
-    Rectangle {
+    Plate {
         anchors.verticalCenter: parent.verticalCenter
         width: WelcomeTokens.appTile
         height: WelcomeTokens.appTile

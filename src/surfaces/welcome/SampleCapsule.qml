@@ -24,7 +24,7 @@ Item {
         anchors.fill: parent
         clip: true
 
-        Rectangle {
+        Plate {
             y: -radius
             width: parent.width
             height: parent.height + radius

@@ -4,7 +4,7 @@ import QtQuick
 import Vantle.Kit
 import Vantle.Welcome
 
-Rectangle {
+Plate {
     id: desk
 
     required property real barHeight
@@ -18,7 +18,7 @@ Rectangle {
         height: desk.barHeight
         clip: true
 
-        Rectangle {
+        Plate {
             width: parent.width
             height: parent.height + radius
             radius: desk.radius

@@ -15,7 +15,7 @@ Item {
     Repeater {
         model: WelcomeTokens.glowReach / glow.ringWidth
 
-        Rectangle {
+        Plate {
             required property int index
             readonly property real reach: (index + 1) * glow.ringWidth // px beyond what is lit
             readonly property real nearness: 1 - reach / (WelcomeTokens.glowReach + glow.ringWidth)
@@ -23,9 +23,8 @@ Item {
             anchors.fill: parent
             anchors.margins: -reach
             radius: glow.radius + reach
-            color: "transparent"
-            border.width: glow.ringWidth
-            border.color: Tint.alpha(glow.color, WelcomeTokens.glowOpacity * glow.strength
+            edgeWidth: glow.ringWidth
+            edge: Tint.alpha(glow.color, WelcomeTokens.glowOpacity * glow.strength
                                                  * nearness * nearness)
         }
     }

@@ -4,7 +4,7 @@ import QtQuick
 import Vantle.Kit
 import Vantle.Welcome
 
-Rectangle {
+Plate {
     id: stage
 
     required property WelcomeView model

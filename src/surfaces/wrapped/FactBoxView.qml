@@ -11,6 +11,7 @@ Plate {
 
     implicitHeight: 46
     radius: DarkUI.radiusCard
+    color: DarkUI.cardFill
     edge: DarkUI.hairline
     Accessible.role: Accessible.StaticText
     Accessible.name: fact.title + ", " + (fact.detail === "" ? "" : fact.detail + ", ") + fact.value

@@ -14,6 +14,7 @@ Plate {
 
     implicitHeight: small ? 128 : 168
     radius: DarkUI.radiusCard
+    color: DarkUI.cardFill
     edge: DarkUI.hairline
     Accessible.role: Accessible.StaticText
     Accessible.name: qsTr("%1 hours, %2").arg(badge.hours).arg(badge.date)

@@ -34,7 +34,7 @@ Item {
                 order: column.index
             }
 
-            Rectangle {
+            Plate {
                 anchors.bottom: parent.bottom
                 width: parent.width
                 height: DarkUI.barStatHeight
@@ -43,7 +43,7 @@ Item {
                 visible: bar.height < height
             }
 
-            Rectangle {
+            Plate {
                 id: bar
                 anchors.bottom: parent.bottom
                 width: parent.width

@@ -11,6 +11,7 @@ Plate {
     implicitWidth: Math.ceil(label.implicitWidth) + 2 * DarkUI.space12
     implicitHeight: DarkUI.largeChipHeight
     radius: height / 2
+    color: DarkUI.cardFill
     edge: DarkUI.hairline
 
     DarkText {

@@ -88,7 +88,7 @@ ArrowGroup {
                     onActiveFocusChanged: if (activeFocus) picker.bringIntoSight(segment)
                     onCurrentChanged: if (current) picker.shown = segment
 
-                    Rectangle {
+                    Plate {
                         anchors.fill: parent
                         radius: DarkUI.radiusSmall
                         color: segment.current ? DarkUI.segmentFill

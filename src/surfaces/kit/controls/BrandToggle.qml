@@ -36,7 +36,7 @@ KitPressable {
         }
     }
 
-    Rectangle {
+    Plate {
         readonly property real inset: DarkUI.space2
         x: toggle.checked ? parent.width - width - inset : inset
         y: inset

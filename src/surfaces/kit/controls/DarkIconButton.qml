@@ -17,7 +17,7 @@ KitPressable {
     implicitWidth: DarkUI.iconButtonSize
     implicitHeight: DarkUI.iconButtonSize
 
-    Rectangle {
+    Plate {
         anchors.fill: parent
         radius: button.radius
         color: button.pressed ? button.fillPressed : button.hovered ? button.fillHover : button.fill

@@ -23,7 +23,7 @@ KitPressable {
     onClicked: triggered()
     onHoveredChanged: if (hovered) forceActiveFocus(Qt.MouseFocusReason)
 
-    Rectangle {
+    Plate {
         anchors.fill: parent
         visible: row.activeFocus || row.hovered
         radius: DarkUI.radiusMenuRow

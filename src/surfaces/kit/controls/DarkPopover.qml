@@ -31,24 +31,15 @@ FocusScope {
         shadowed: popover.composited
     }
 
-    Item {
+    PopoverArrow {
         x: popover.arrowX - width / 2
         y: -popover.arrowHeight
         visible: popover.arrowed
         width: 2 * popover.arrowHeight + DarkUI.space2
         height: popover.arrowHeight + DarkUI.hairlineWidth // over the panel's edge
-        clip: true
-
-        Plate {
-            anchors.horizontalCenter: parent.horizontalCenter
-            y: (parent.height - DarkUI.hairlineWidth) - width / 2
-            width: popover.arrowSide
-            height: popover.arrowSide
-            rotation: 45
-            antialiasing: true
-            radius: DarkUI.radiusTiny
-            color: DarkUI.windowGround
-            edge: DarkUI.hairline
-        }
+        side: popover.arrowSide
+        radius: DarkUI.radiusTiny
+        color: DarkUI.windowGround
+        edge: DarkUI.hairline
     }
 }

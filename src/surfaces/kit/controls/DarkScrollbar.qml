@@ -24,7 +24,7 @@ Item {
         }
     }
 
-    Rectangle {
+    Plate {
         id: handle
         anchors.right: parent.right
         anchors.rightMargin: DarkUI.scrollbarInset

@@ -71,7 +71,7 @@ KitControl {
         }
     }
 
-    Rectangle {
+    Plate {
         id: track
         x: 0
         anchors.verticalCenter: parent.verticalCenter
@@ -80,7 +80,7 @@ KitControl {
         radius: height / 2
         color: DarkUI.sliderTrack
 
-        Rectangle {
+        Plate {
             width: knob.x + knob.width / 2
             height: parent.height
             radius: height / 2
@@ -88,7 +88,7 @@ KitControl {
         }
     }
 
-    Rectangle {
+    Plate {
         id: knob
         x: slider.position * (slider.width - width)
         anchors.verticalCenter: parent.verticalCenter

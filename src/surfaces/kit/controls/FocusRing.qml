@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
 
-Rectangle {
+Plate {
     property bool shown: false
     property real controlRadius: 0
 
@@ -11,7 +11,6 @@ Rectangle {
     anchors.margins: -(DarkUI.focusGap + DarkUI.focusWidth)
     visible: shown
     radius: controlRadius + DarkUI.focusRadiusGain
-    color: "transparent"
-    border.width: DarkUI.focusWidth
-    border.color: DarkUI.focusRing
+    edgeWidth: DarkUI.focusWidth
+    edge: DarkUI.focusRing
 }

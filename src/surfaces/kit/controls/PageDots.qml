@@ -16,7 +16,7 @@ Row {
     Repeater {
         model: dots.count
 
-        Rectangle {
+        Plate {
             required property int index
             width: DarkUI.pageDotSize
             height: DarkUI.pageDotSize

@@ -41,13 +41,13 @@ ArrowGroup {
         onTriggered: picker.takeUp()
     }
 
-    Rectangle {
+    Plate {
         anchors.fill: parent
         radius: picker.radius
         color: DarkUI.cardFill
     }
 
-    Rectangle {
+    Plate {
         x: picker.inset + picker.currentIndex * picker.segmentWidth
         y: picker.inset
         visible: picker.currentIndex >= 0

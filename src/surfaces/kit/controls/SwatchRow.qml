@@ -43,7 +43,7 @@ ArrowGroup {
                 Accessible.description: KitText.swatch(modelData, chosen)
                 onClicked: row.activated(index)
 
-                Rectangle {
+                Plate {
                     anchors.centerIn: parent
                     width: DarkUI.swatchSize
                     height: DarkUI.swatchSize
@@ -52,13 +52,12 @@ ArrowGroup {
                                                         : cell.modelData
                 }
 
-                Rectangle {
+                Plate {
                     anchors.fill: parent
                     visible: cell.chosen
                     radius: width / 2
-                    color: "transparent"
-                    border.width: DarkUI.focusWidth
-                    border.color: DarkUI.chosenRing
+                    edgeWidth: DarkUI.focusWidth
+                    edge: DarkUI.chosenRing
                 }
 
                 FocusRing {

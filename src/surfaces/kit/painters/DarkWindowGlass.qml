@@ -4,7 +4,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
 
-Rectangle {
+Plate {
     id: glass
 
     property bool composited: true
@@ -20,13 +20,12 @@ Rectangle {
         radius: glass.radius
     }
 
-    Rectangle {
+    Plate {
         readonly property real outside: glass.shadowed ? DarkUI.hairlineWidth : 0
         anchors.fill: parent
         anchors.margins: -outside
         radius: glass.radius > 0 ? glass.radius + outside : 0
-        color: "transparent"
-        border.width: DarkUI.hairlineWidth
-        border.color: DarkUI.windowEdge
+        edgeWidth: DarkUI.hairlineWidth
+        edge: DarkUI.windowEdge
     }
 }

@@ -2,7 +2,7 @@
 import QtQuick
 import Vantle.Kit
 
-Rectangle {
+Plate {
     property real cornerRadius: DarkUI.radiusBar
     property real fraction: 1 // of the trough, 0 to 1
 

@@ -2,7 +2,7 @@
 import QtQuick
 import Vantle.Kit
 
-Rectangle {
+Plate {
     property real cornerRadius: DarkUI.radiusBar
 
     implicitHeight: DarkUI.barStatHeight

@@ -31,8 +31,8 @@ void boxBlur(uchar* line, int count, qsizetype stride, int reach, std::vector<uc
     }
 }
 
-void blur(QImage& mask, double blurPixels) {
-    const int reach = std::max(1, static_cast<int>(std::round(blurPixels * kBoxOfBlur / 2)));
+void blur(QImage& mask, double blur) {
+    const int reach = std::max(1, static_cast<int>(std::round(blur * kBoxOfBlur / 2)));
     std::vector<uchar> scratch(std::max(mask.width(), mask.height()));
     uchar* bits = mask.bits();
     const qsizetype row = mask.bytesPerLine();
@@ -46,44 +46,48 @@ void blur(QImage& mask, double blurPixels) {
 
 } // namespace
 
-QMarginsF ShadowShape::reach() const {
-    const double around = std::ceil(blur * kReachOfBlur);
-    return {around, std::max(0.0, around - offset), around, around + offset};
+ShadowShape ShadowShape::atScale(double scale) const {
+    return {QSizeF(std::round(size.width() * scale), std::round(size.height() * scale)),
+            radius * scale, std::round(offset * scale), blur * scale, strength};
 }
 
-QMarginsF ShadowShape::patches() const {
-    const QMarginsF outside = reach();
-    const double around = outside.left() + radius;
-    const double sides = std::min(around, std::floor(size.width() / 2));
-    const double ends = std::min(around + std::abs(offset), std::floor(size.height() / 2));
-    return outside + QMarginsF(sides, ends, sides, ends);
+QMargins ShadowShape::reach() const {
+    const int around = static_cast<int>(std::ceil(blur * kReachOfBlur));
+    const int down = static_cast<int>(std::round(offset));
+    return {around, std::max(0, around - down), around, around + down};
+}
+
+QMargins ShadowShape::patches() const {
+    const QMargins outside = reach();
+    const int around = outside.left() + static_cast<int>(std::ceil(radius));
+    const int down = static_cast<int>(std::round(std::abs(offset)));
+    const int sides = std::min(around, static_cast<int>(size.width() / 2));
+    const int ends = std::min(around + down, static_cast<int>(size.height() / 2));
+    return outside + QMargins(sides, ends, sides, ends);
 }
 
 ShadowShape ShadowShape::smallest() const {
-    const QMarginsF inside = patches() - reach();
+    const QMargins inside = patches() - reach();
     ShadowShape shape = *this;
     shape.size = QSizeF(std::min(size.width(), inside.left() + inside.right() + 1.0),
                         std::min(size.height(), inside.top() + inside.bottom() + 1.0));
     return shape;
 }
 
-QImage shadowImage(const ShadowShape& shape, double scale) {
-    const QMarginsF reach = shape.reach();
+QImage shadowImage(const ShadowShape& shape) {
+    const QMargins reach = shape.reach();
     const QRectF surface(QPointF(reach.left(), reach.top()), shape.size);
-    const QSize pixels(
-        static_cast<int>(std::ceil((surface.width() + reach.left() + reach.right()) * scale)),
-        static_cast<int>(std::ceil((surface.height() + reach.top() + reach.bottom()) * scale)));
+    const QSize pixels = shape.size.toSize().grownBy(reach);
 
     QImage mask(pixels, QImage::Format_Alpha8);
     mask.fill(0);
     QPainter maskPainter(&mask);
     maskPainter.setRenderHint(QPainter::Antialiasing);
-    maskPainter.scale(scale, scale);
     maskPainter.setPen(Qt::NoPen);
     maskPainter.setBrush(Qt::black);
     maskPainter.drawRoundedRect(surface.translated(0, shape.offset), shape.radius, shape.radius);
     maskPainter.end();
-    blur(mask, shape.blur * scale);
+    blur(mask, shape.blur);
 
     QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -93,12 +97,9 @@ QImage shadowImage(const ShadowShape& shape, double scale) {
     painter.setOpacity(1.0);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
-    painter.scale(scale, scale);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::black);
     painter.drawRoundedRect(surface, shape.radius, shape.radius);
-    painter.end();
-    image.setDevicePixelRatio(scale);
     return image;
 }
 

@@ -1,7 +1,8 @@
 #include "surfaces/kit/painters/ShadowLayer.h"
 
+#include "surfaces/kit/painters/PatchesNode.h"
+
 #include <QQuickWindow>
-#include <QSGNinePatchNode>
 
 namespace vantle {
 
@@ -15,29 +16,26 @@ void ShadowLayer::set(double& member, double value) {
 }
 
 QSGNode* ShadowLayer::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/) {
+    const double scale = window()->effectiveDevicePixelRatio();
     m_shape.size = size();
-    if (m_shape.size.isEmpty() || m_shape.strength <= 0.0 || m_shape.blur <= 0.0) {
+    const ShadowShape shape = m_shape.atScale(scale);
+    if (shape.size.isEmpty() || shape.strength <= 0.0 || shape.blur <= 0.0) {
         delete old;
-        m_bakedScale = 0.0;
+        m_baked = {};
         return nullptr;
     }
-    auto* node = static_cast<QSGNinePatchNode*>(old);
+    auto* node = static_cast<PatchesNode*>(old);
     if (!node) {
-        node = window()->createNinePatchNode();
-        m_bakedScale = 0.0;
+        node = new PatchesNode(*window());
+        m_baked = {};
     }
-    const double scale = window()->effectiveDevicePixelRatio();
-    const ShadowShape smallest = m_shape.smallest();
-    if (!(smallest == m_baked) || scale != m_bakedScale) {
-        node->setTexture(window()->createTextureFromImage(shadowImage(smallest, scale)));
-        node->setDevicePixelRatio(scale);
+    if (const ShadowShape smallest = shape.smallest(); smallest != m_baked) {
+        node->setImage(shadowImage(smallest));
         m_baked = smallest;
-        m_bakedScale = scale;
     }
-    const QMarginsF patches = m_shape.patches();
-    node->setPadding(patches.left(), patches.top(), patches.right(), patches.bottom());
-    node->setBounds(boundingRect().marginsAdded(m_shape.reach()));
-    node->update();
+    const QMargins reach = shape.reach();
+    node->layOut(-QPointF(reach.left(), reach.top()) / scale, shape.size.toSize().grownBy(reach),
+                 shape.patches(), scale);
     return node;
 }
 

@@ -40,9 +40,8 @@ protected:
 private:
     void set(double& member, double value);
 
-    ShadowShape m_shape;
-    ShadowShape m_baked; ///< what the node's image shows
-    double m_bakedScale = 0.0;
+    ShadowShape m_shape; ///< in px
+    ShadowShape m_baked; ///< what the node's image shows, in device pixels
 };
 
 } // namespace vantle

@@ -27,8 +27,8 @@ TEST(ShadowImage, ASurfaceSmallerThanItsShadowIsItsOwnForm) {
 }
 
 TEST(ShadowImage, IsClearBelowTheSurfaceAndDarkestJustBelowIt) {
-    const QImage image = shadowImage(kCard, 1.0);
-    const QMarginsF reach = kCard.reach();
+    const QImage image = shadowImage(kCard);
+    const QMargins reach = kCard.reach();
     const int middle = image.width() / 2;
     const int bottom = static_cast<int>(reach.top() + kCard.size.height());
     EXPECT_EQ(image.pixelColor(middle, bottom - 20).alpha(), 0);
@@ -40,8 +40,8 @@ TEST(ShadowImage, IsClearBelowTheSurfaceAndDarkestJustBelowIt) {
 }
 
 TEST(ShadowImage, FallsDownwards) {
-    const QImage image = shadowImage(kCard, 1.0);
-    const QMarginsF reach = kCard.reach();
+    const QImage image = shadowImage(kCard);
+    const QMargins reach = kCard.reach();
     const int middle = image.width() / 2;
     const int top = static_cast<int>(reach.top());
     const int bottom = static_cast<int>(reach.top() + kCard.size.height());
@@ -49,11 +49,23 @@ TEST(ShadowImage, FallsDownwards) {
               2 * image.pixelColor(middle, top - 3).alpha());
 }
 
-TEST(ShadowImage, IsBakedAtTheScaleOfTheScreen) {
-    const QImage once = shadowImage(kCard.smallest(), 1.0);
-    const QImage twice = shadowImage(kCard.smallest(), 2.0);
-    EXPECT_EQ(twice.size(), 2 * once.size());
-    EXPECT_EQ(twice.devicePixelRatio(), 2.0);
+TEST(ShadowImage, AtEveryScaleTheSurfaceBeginsAndEndsOnWholePixels) {
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        const ShadowShape shape = kCard.atScale(scale);
+        const QImage image = shadowImage(shape);
+        const QMargins reach = shape.reach();
+        const QSize surface(qRound(kCard.size.width() * scale),
+                            qRound(kCard.size.height() * scale));
+        EXPECT_EQ(image.size(), surface.grownBy(reach)) << scale;
+        const int middle = image.width() / 2;
+        const int bottom = reach.top() + surface.height();
+        EXPECT_EQ(image.pixelColor(middle, bottom - 1).alpha(), 0) << scale;
+        EXPECT_GT(image.pixelColor(middle, bottom).alpha(), 60) << scale;
+        const int left = reach.left();
+        const int half = reach.top() + surface.height() / 2;
+        EXPECT_EQ(image.pixelColor(left, half).alpha(), 0) << scale;
+        EXPECT_GT(image.pixelColor(left - 1, half).alpha(), 10) << scale;
+    }
 }
 
 } // namespace

@@ -31,7 +31,7 @@ protected:
     static QList<QQuickItem*> bars(QQuickItem& chart) {
         return PictureWindow::all(chart, [](const QQuickItem& item) {
             const QColor color = item.property("color").value<QColor>();
-            return item.inherits("QQuickRectangle") && color.blue() > color.red();
+            return item.inherits("vantle::Plate") && color.blue() > color.red();
         });
     }
 
