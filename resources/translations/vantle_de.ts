@@ -1234,8 +1234,12 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
         <translation>Alt+Super+B · aktiv</translation>
     </message>
     <message>
-        <source>⌥⌘B · only over some apps</source>
-        <translation>Alt+Super+B · nur über manchen Apps</translation>
+        <source>%1 · active</source>
+        <translation>%1 · aktiv</translation>
+    </message>
+    <message>
+        <source>The desktop has not answered yet</source>
+        <translation>Der Desktop hat noch nicht geantwortet</translation>
     </message>
     <message>
         <source>⌥⌘B unavailable</source>
@@ -2643,8 +2647,28 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
         <translation>Eine andere Taste tut es auch. Leg in den Tastatureinstellungen deines Desktops eine auf diesen Befehl:</translation>
     </message>
     <message>
-        <source>In a %1 Vantle hears these keys only over some apps. In your desktop&apos;s keyboard settings, bind a key to this command, and it works over all of them:</source>
-        <translation>In einer %1 hört Vantle diese Tasten nur über manchen Apps. Leg in den Tastatureinstellungen deines Desktops eine Taste auf diesen Befehl, dann wirkt sie über allen:</translation>
+        <source>This desktop gives Vantle the shortcut only if you say so: set it up, or bind a key to this command:</source>
+        <translation>Dieser Desktop gibt Vantle die Tastenkombination nur, wenn du es sagst: Richte sie ein, oder leg eine Taste auf diesen Befehl:</translation>
+    </message>
+    <message>
+        <source>Your desktop&apos;s settings leave Vantle without keys. Choose some there, or bind a key to this command:</source>
+        <translation>Die Einstellungen deines Desktops lassen Vantle ohne Tasten. Wähl dort welche, oder leg eine Taste auf diesen Befehl:</translation>
+    </message>
+    <message>
+        <source>In this %1 no app can take keys by itself. In your desktop&apos;s keyboard settings, bind a key to this command, and it works over all apps:</source>
+        <translation>In dieser %1 kann sich keine App selbst Tasten nehmen. Leg in den Tastatureinstellungen deines Desktops eine Taste auf diesen Befehl, dann wirkt sie über allen Apps:</translation>
+    </message>
+    <message>
+        <source>Switch the shortcut off</source>
+        <translation>Tastenkombination abschalten</translation>
+    </message>
+    <message>
+        <source>Set up the shortcut</source>
+        <translation>Tastenkombination einrichten</translation>
+    </message>
+    <message>
+        <source>The shortcut doesn&apos;t work here yet. The settings say how it can.</source>
+        <translation>Die Tastenkombination wirkt hier noch nicht. Die Einstellungen sagen, wie sie es kann.</translation>
     </message>
     <message>
         <source>This desktop shows no tray, so there is no icon to click. Open Vantle from your applications once more, and its panel comes up.</source>

@@ -198,10 +198,6 @@
         <translation>Alt+Super+B · active</translation>
     </message>
     <message>
-        <source>⌥⌘B · only over some apps</source>
-        <translation>Alt+Super+B · only over some apps</translation>
-    </message>
-    <message>
         <source>⌥⌘B unavailable</source>
         <translation>Alt+Super+B unavailable</translation>
     </message>

@@ -24,7 +24,7 @@ using CauseScope = QScopedValueRollback<SessionCause>;
 SessionFlow::SessionFlow(const Environment& environment)
     : m_env(environment)
     , m_idle(m_env.clock, m_env.scheduler, m_env.idleSource, m_env.screenPower, m_env.preferences)
-    , m_hotKey(m_env.hotKeyPort, m_env.scheduler) {
+    , m_hotKey(m_env.hotKeyPort, m_env.scheduler, m_env.preferences) {
     wireIdle();
     m_env.tracker.onSessionStarted = [this](const Skill& skill, Date) { onSessionStarted(skill); };
     m_env.tracker.onSessionEnded = [this](const Session& session) { onSessionEnded(session); };

@@ -1,6 +1,7 @@
 #include "base/Clock.h"
 #include "launch/PlatformParts.h"
 #include "platform/CannotTell.h"
+#include "platform/FirstHotKey.h"
 #include "platform/x11/LostServer.h"
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11FrontmostApp.h"
@@ -13,6 +14,9 @@
 #include "platform/x11/X11Struts.h"
 #include "platform/x11/X11WindowManager.h"
 #include "platform/x11/XwaylandTraits.h"
+
+#include <utility>
+#include <vector>
 
 namespace vantle::platformparts {
 
@@ -36,16 +40,20 @@ Display makeX11(Scheduler& scheduler, const PlatformEvents& events, const Posix&
     // while the user works in another one. What it says of either is worse than nothing.
     std::unique_ptr<IdleSource> idleSource = std::make_unique<NoIdleSource>();
     std::unique_ptr<FrontmostApp> frontmostApp = std::make_unique<NoFrontmostApp>();
+    // A grab would hear the keys over X11 windows alone.
+    std::unique_ptr<HotKeyPort> hotKeyPort =
+        std::make_unique<FirstHotKey>(std::vector<std::unique_ptr<OfferedHotKey>>());
     if (!xwayland.isXwayland) {
         idleSource = std::make_unique<X11IdleSource>(x11, server->clock);
         frontmostApp = std::make_unique<X11FrontmostApp>(x11, scheduler, posix.identify);
+        hotKeyPort = std::make_unique<X11HotKey>(x11, scheduler);
     }
     return {.connection = server,
             .compositor = nullptr,
             .isXwayland = xwayland.isXwayland,
             .idleSource = std::move(idleSource),
             .frontmostApp = std::move(frontmostApp),
-            .hotKeyPort = std::make_unique<X11HotKey>(x11, scheduler, xwayland.isXwayland),
+            .hotKeyPort = std::move(hotKeyPort),
             .screenPower = std::make_unique<X11ScreenPower>(x11, scheduler,
                                                             X11ScreenPower::powerManagement(x11)),
             .reservedStrips = std::make_unique<X11Struts>(x11),

@@ -1,6 +1,7 @@
 #include "sensing/HotKey.h"
 
 #include "base/Words.h"
+#include "tracking/Settings.h"
 
 #include <QPointer>
 
@@ -9,15 +10,31 @@
 namespace vantle {
 namespace {
 
-QString failureText(const HotKeyPort::Outcome& outcome) {
-    if (outcome.registration == HotKeyPort::Registration::HeldByAnother)
+using Registration = HotKeyPort::Registration;
+
+/// Empty where nothing failed.
+std::optional<QString> failureText(const HotKeyPort::Outcome& outcome) {
+    switch (outcome.registration) {
+    case Registration::HeldByAnother:
         return Words::tr("⌥⌘B is already used by another app.");
-    return Words::tr("Couldn’t register ⌥⌘B (%1).").arg(outcome.status);
+    case Registration::Failed:
+        return Words::tr("Couldn’t register ⌥⌘B (%1).").arg(outcome.status);
+    default:
+        return std::nullopt;
+    }
+}
+
+/// Whether the port keeps the handler, and may come to hold the key.
+bool goesOn(Registration registration) {
+    return registration != Registration::HeldByAnother && registration != Registration::Failed;
 }
 
 } // namespace
 
-HotKey::HotKey(HotKeyPort& port, Scheduler& scheduler) : m_port(port), m_scheduler(scheduler) {
+HotKey::HotKey(HotKeyPort& port, Scheduler& scheduler, Preferences& preferences)
+    : m_port(port)
+    , m_scheduler(scheduler)
+    , m_preferences(preferences) {
     m_port.onOutcomeChanged = [this](const auto& outcome) { adopt(outcome); };
 }
 
@@ -38,8 +55,9 @@ void HotKey::registerHotKey() {
     }
 
     // 3. The combination itself.
+    m_port.recallAllowed(settings::hotKeyAllowed.read(m_preferences));
     const HotKeyPort::Outcome outcome = m_port.registerKey();
-    m_portHolds = outcome.registration == HotKeyPort::Registration::Registered;
+    m_portHolds = goesOn(outcome.registration);
     adopt(outcome);
 
     // 4. A handler without a key has no use, and the next attempt installs its own.
@@ -47,9 +65,24 @@ void HotKey::registerHotKey() {
 }
 
 void HotKey::adopt(const HotKeyPort::Outcome& outcome) {
-    const bool registered = outcome.registration == HotKeyPort::Registration::Registered;
-    setRegistered(registered);
-    setRegistrationError(registered ? std::nullopt : std::optional(failureText(outcome)));
+    const bool changed = std::exchange(m_outcome, outcome) != outcome;
+    if (outcome.registration == Registration::NotAllowed) forgetAllowance();
+    setRegistered(outcome.registration == Registration::Registered);
+    setRegistrationError(failureText(outcome));
+    if (changed) Q_EMIT outcomeChanged();
+}
+
+void HotKey::allow(bool allowed) {
+    const QString way = m_port.wayToAllow();
+    if (!m_portHolds || way.isEmpty()) return;
+    if (allowed) settings::hotKeyAllowed.write(m_preferences, way);
+    adopt(m_port.allow(allowed));
+}
+
+void HotKey::forgetAllowance() {
+    // That of another way, which the desktop has just not got, stays.
+    if (settings::hotKeyAllowed.read(m_preferences) == m_port.wayToAllow())
+        settings::hotKeyAllowed.remove(m_preferences);
 }
 
 void HotKey::unregisterHotKey() {

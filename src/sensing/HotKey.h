@@ -3,6 +3,7 @@
 
 #include "base/Scheduler.h"
 #include "platform/HotKeyPort.h"
+#include "platform/Preferences.h"
 
 #include <QObject>
 #include <QString>
@@ -13,8 +14,9 @@
 namespace vantle {
 
 /// Holds the combination while registered. A failure is told in `registrationError`, in the
-/// person's words, and nowhere else. A registration that failed is not tried again by itself; a
-/// combination that was taken and is lost, the port takes again when it can. Main thread.
+/// user's words, and nowhere else; that the desktop gives no keys, or none yet, is no failure. A
+/// registration that failed at once is not tried again by itself; in all other cases the port
+/// follows the desktop, and takes a lost combination again when it can. Main thread.
 class HotKey final : public QObject {
     Q_OBJECT
     /// The shortcut is active.
@@ -24,8 +26,8 @@ class HotKey final : public QObject {
         QString registrationError READ registrationErrorText NOTIFY registrationErrorChanged FINAL)
 
 public:
-    /// Both must outlive the hot key.
-    HotKey(HotKeyPort& port, Scheduler& scheduler);
+    /// All of it must outlive the hot key.
+    HotKey(HotKeyPort& port, Scheduler& scheduler, Preferences& preferences);
     ~HotKey() override;
 
     /// Takes the combination. Nothing when it is held already. After a failure nothing is held, so
@@ -39,8 +41,16 @@ public:
     [[nodiscard]] const std::optional<QString>& registrationError() const {
         return m_registrationError;
     }
-    /// Whether it works over every application while it is active.
-    [[nodiscard]] bool hearsEveryApp() const { return m_port.hearsEveryApp(); }
+    /// Whether the desktop gives the combination on the user's word alone.
+    [[nodiscard]] bool takesAllowance() const { return !m_port.wayToAllow().isEmpty(); }
+    /// The user gives that word, which is remembered for later runs, or takes it back. Nothing
+    /// where it is not taken.
+    void allow(bool allowed);
+
+    /// How things stand with the desktop; Failed before the first attempt.
+    [[nodiscard]] HotKeyPort::Registration registration() const { return m_outcome.registration; }
+    /// The keys that were really taken, as the user reads them; empty where they are ⌥⌘B.
+    [[nodiscard]] const QString& keys() const { return m_outcome.keys; }
 
     /// Called at each press, after the platform's own handler has returned. Set once by the owner,
     /// which it must hold weakly.
@@ -49,9 +59,11 @@ public:
 Q_SIGNALS:
     void isRegisteredChanged();
     void registrationErrorChanged();
+    void outcomeChanged(); ///< `registration` or `keys`
 
 private:
     void adopt(const HotKeyPort::Outcome& outcome);
+    void forgetAllowance();
     void deliverPressLater();
     void release();
     void setRegistered(bool registered);
@@ -62,7 +74,9 @@ private:
 
     HotKeyPort& m_port;
     Scheduler& m_scheduler;
-    bool m_portHolds = false; ///< the handler, and the key unless it was lost
+    Preferences& m_preferences;
+    bool m_portHolds = false; ///< the handler, and the key unless it was lost or is to come
+    HotKeyPort::Outcome m_outcome;
     bool m_isRegistered = false;
     std::optional<QString> m_registrationError;
 };

@@ -29,6 +29,7 @@ inline constexpr Preference<bool> skipInstallPrompt{"dev.skipInstallPrompt", fal
 inline constexpr Preference<QString> lastUsedSkill{"skill.lastUsed"};
 inline constexpr Preference<qint64> skillsMigrationVersion{"skills.taxonomyMigrationVersion", 0};
 inline constexpr Preference<bool> hotKeyHintShown{"hint.hotkey.shown", false};
+inline constexpr Preference<QString> hotKeyAllowed{"hotkey.allowed"};
 inline constexpr Preference<bool> loginAutoRegistered{"login.autoRegistered", false};
 inline constexpr Preference<bool> notchIntroFlashed{"notch.intro.flashed", false};
 inline constexpr Preference<bool> welcomeDone{"onboard.done", false};

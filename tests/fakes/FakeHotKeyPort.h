@@ -3,6 +3,7 @@
 
 #include "platform/HotKeyPort.h"
 
+#include <optional>
 #include <utility>
 
 namespace vantle::fakes {
@@ -21,16 +22,28 @@ public:
         m_pressed = nullptr;
     }
     [[nodiscard]] Outcome registerKey() override {
-        if (outcome.registration == Registration::Registered) ++keys;
+        if (outcome.registration == Registration::HeldByAnother ||
+            outcome.registration == Registration::Failed)
+            return outcome;
+        ++keys;
+        m_isLost = outcome.registration != Registration::Registered;
         return outcome;
     }
     void unregisterKey() override {
         --keys;
         m_isLost = false;
     }
-    [[nodiscard]] bool hearsEveryApp() const override { return isHeardEverywhere; }
+    [[nodiscard]] QString wayToAllow() const override { return way; }
+    void recallAllowed(const QString& allowedWay) override { recalled = allowedWay; }
+    [[nodiscard]] Outcome allow(bool allowed) override {
+        isAllowed = allowed;
+        const Outcome answer{allowed ? Registration::Waiting : Registration::NotAllowed};
+        m_isLost = true;
+        return answer;
+    }
 
-    /// The desktop takes the combination away, or gives it back; nothing when it was never taken.
+    /// The desktop answers, takes the combination away, or gives it back; nothing when the attempt
+    /// failed at once.
     void become(const Outcome& now) {
         if (keys == 0) return;
         m_isLost = now.registration != Registration::Registered;
@@ -47,7 +60,11 @@ public:
     // What the next attempt comes to.
     int installStatus = 0;
     Outcome outcome{Registration::Registered, 0};
-    bool isHeardEverywhere = true;
+    QString way; ///< that takes the user's word
+
+    // What the user has said: in former runs, and in this one.
+    QString recalled;
+    std::optional<bool> isAllowed;
 
     // What is held now; more than one, or fewer than none, is a fault of the code under test.
     int handlers = 0;

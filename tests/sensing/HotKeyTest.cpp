@@ -1,7 +1,9 @@
 #include "sensing/HotKey.h"
 
 #include "fakes/FakeHotKeyPort.h"
+#include "fakes/MemoryPreferences.h"
 #include "fakes/VirtualTime.h"
+#include "tracking/Settings.h"
 
 #include <QVariant>
 
@@ -32,7 +34,8 @@ protected:
 
     fakes::VirtualTime time;
     fakes::FakeHotKeyPort port;
-    std::unique_ptr<HotKey> hotKey = std::make_unique<HotKey>(port, time);
+    fakes::MemoryPreferences preferences;
+    std::unique_ptr<HotKey> hotKey = std::make_unique<HotKey>(port, time, preferences);
     int presses = 0;
     int registeredChanges = 0;
     int errorChanges = 0;
@@ -146,6 +149,93 @@ TEST_F(HotKeyTest, TellsThatTheCombinationWasLostAndThatItIsBack) {
     port.press();
     time.settle();
     EXPECT_EQ(presses, 1);
+}
+
+TEST_F(HotKeyTest, WaitsForADesktopThatAnswersLater) {
+    port.outcome = {Registration::Waiting};
+    hotKey->registerHotKey();
+    EXPECT_FALSE(hotKey->isRegistered());
+    EXPECT_EQ(hotKey->registrationError(), std::nullopt);
+    port.become({Registration::Registered});
+    expectHeld(true);
+    port.press();
+    time.settle();
+    EXPECT_EQ(presses, 1);
+    port.become({Registration::HeldByAnother});
+    EXPECT_EQ(hotKey->registrationError(),
+              QStringLiteral("\u2325\u2318B is already used by another app."));
+    hotKey->unregisterHotKey();
+    expectHeld(false);
+}
+
+TEST_F(HotKeyTest, NoKeysToBeHadIsNoFailure) {
+    for (const auto registration : {Registration::NotOffered, Registration::KeysRemoved}) {
+        port.outcome = {registration};
+        hotKey->registerHotKey();
+        EXPECT_FALSE(hotKey->isRegistered());
+        EXPECT_EQ(hotKey->registration(), registration);
+        EXPECT_EQ(hotKey->registrationError(), std::nullopt);
+        hotKey->unregisterHotKey();
+        expectHeld(false);
+    }
+}
+
+TEST_F(HotKeyTest, NamesTheKeysThatWereReallyTaken) {
+    int changes = 0;
+    QObject::connect(hotKey.get(), &HotKey::outcomeChanged, [&] { ++changes; });
+    hotKey->registerHotKey();
+    EXPECT_EQ(hotKey->keys(), QString());
+    port.become({Registration::Registered, 0, QStringLiteral("Meta+Alt+C")});
+    EXPECT_EQ(hotKey->keys(), QStringLiteral("Meta+Alt+C"));
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(HotKeyTest, TheUsersWordIsRememberedForLaterRuns) {
+    port.way = QStringLiteral("portal");
+    port.outcome = {Registration::NotAllowed};
+    hotKey->registerHotKey();
+    EXPECT_EQ(port.recalled, QString());
+    EXPECT_TRUE(hotKey->takesAllowance());
+    EXPECT_EQ(port.isAllowed, std::nullopt);
+    hotKey->allow(true);
+    EXPECT_EQ(port.isAllowed, true);
+    EXPECT_EQ(hotKey->registration(), Registration::Waiting);
+    port.become({Registration::Registered});
+    expectHeld(true);
+
+    hotKey = std::make_unique<HotKey>(port, time, preferences);
+    port.outcome = {Registration::Registered};
+    hotKey->registerHotKey();
+    EXPECT_EQ(port.recalled, QStringLiteral("portal"));
+    hotKey->allow(false);
+    EXPECT_EQ(port.isAllowed, false);
+    EXPECT_FALSE(hotKey->isRegistered());
+    EXPECT_EQ(settings::hotKeyAllowed.read(preferences), QString());
+}
+
+TEST_F(HotKeyTest, WhatTheUserDeclinesInTheDesktopsDialogIsForgotten) {
+    port.way = QStringLiteral("portal");
+    port.outcome = {Registration::NotAllowed};
+    hotKey->registerHotKey();
+    hotKey->allow(true);
+    EXPECT_EQ(settings::hotKeyAllowed.read(preferences), QStringLiteral("portal"));
+    port.become({Registration::NotAllowed});
+    EXPECT_EQ(settings::hotKeyAllowed.read(preferences), QString());
+}
+
+TEST_F(HotKeyTest, AnAllowanceOutlastsADesktopThatHasAnotherWay) {
+    settings::hotKeyAllowed.write(preferences, QStringLiteral("gnome"));
+    port.way = QStringLiteral("portal");
+    port.outcome = {Registration::NotAllowed};
+    hotKey->registerHotKey();
+    EXPECT_EQ(settings::hotKeyAllowed.read(preferences), QStringLiteral("gnome"));
+}
+
+TEST_F(HotKeyTest, WhereNoWordIsTakenNoneIsGiven) {
+    hotKey->registerHotKey();
+    hotKey->allow(true);
+    EXPECT_EQ(port.isAllowed, std::nullopt);
+    EXPECT_EQ(settings::hotKeyAllowed.read(preferences), QString());
 }
 
 TEST_F(HotKeyTest, ALostCombinationIsGivenBackAndCanBeRegisteredAnew) {

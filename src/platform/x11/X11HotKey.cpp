@@ -15,10 +15,9 @@ const Event& as(const xcb_generic_event_t& event) {
 
 } // namespace
 
-X11HotKey::X11HotKey(X11Connection& connection, Scheduler& scheduler, bool inWaylandSession)
+X11HotKey::X11HotKey(X11Connection& connection, Scheduler& scheduler)
     : m_connection(connection)
-    , m_scheduler(scheduler)
-    , m_inWaylandSession(inWaylandSession) {}
+    , m_scheduler(scheduler) {}
 
 X11HotKey::~X11HotKey() { unregisterKey(); }
 

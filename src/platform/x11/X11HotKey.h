@@ -17,22 +17,22 @@ namespace vantle {
 /// server tells when another program gives a key back.
 ///
 /// While another program holds the whole keyboard, an open menu or a screen locker, presses don't
-/// reach us. In a Wayland session they do so only while an X11 window has it.
+/// reach us. Not for a server beside a Wayland compositor, where only X11 windows have their keys
+/// heard.
 class X11HotKey final : public HotKeyPort {
 public:
     /// Statuses beside the codes of X errors.
     static constexpr int kNoConnection = X11Connection::kBroken;
     static constexpr int kNoSuchKey = -2; ///< the keyboard map has no Alt or no Super
 
-    /// Both must outlive this. `inWaylandSession`: the X server is one beside a Wayland compositor.
-    X11HotKey(X11Connection& connection, Scheduler& scheduler, bool inWaylandSession = false);
+    /// Both must outlive this.
+    X11HotKey(X11Connection& connection, Scheduler& scheduler);
     ~X11HotKey() override;
 
     [[nodiscard]] int installHandler(std::function<void()> pressed) override;
     void removeHandler() override;
     [[nodiscard]] Outcome registerKey() override;
     void unregisterKey() override;
-    [[nodiscard]] bool hearsEveryApp() const override { return !m_inWaylandSession; }
 
 private:
     void handlePress(const xcb_key_press_event_t& event);
@@ -45,7 +45,6 @@ private:
 
     X11Connection& m_connection;
     Scheduler& m_scheduler;
-    const bool m_inWaylandSession;
     std::shared_ptr<std::function<void()>> m_pressed; ///< posted calls hold it weakly
     bool m_registered = false;                        ///< wanted, if not held since the map changed
     std::optional<X11KeyCombination> m_grabbed;       ///< while held

@@ -143,10 +143,7 @@ QString DashboardView::chipLabel() const {
     return Words::tr("%1. Stops the session.").arg(chipText());
 }
 
-bool DashboardView::hasShortcut() const {
-    const HotKey& hotKey = m_env.flow.hotKey();
-    return hotKey.isRegistered() && hotKey.hearsEveryApp();
-}
+bool DashboardView::hasShortcut() const { return m_env.flow.hotKey().isRegistered(); }
 
 QString DashboardView::warning() const {
     const auto& text =

@@ -5,6 +5,7 @@
 #include "platform/GuestSession.h"
 #include "platform/IdleSource.h"
 #include "platform/OverlayStage.h"
+#include "platform/ToggleCommand.h"
 #include "platform/TrayItem.h"
 #include "sensing/HotKey.h"
 
@@ -13,8 +14,7 @@
 namespace vantle {
 
 DesktopGaps::DesktopGaps(Environment environment) : m_env(std::move(environment)) {
-    connect(&m_env.hotKey, &HotKey::isRegisteredChanged, this, &DesktopGaps::hotKeyChanged);
-    connect(&m_env.hotKey, &HotKey::registrationErrorChanged, this, &DesktopGaps::hotKeyChanged);
+    connect(&m_env.hotKey, &HotKey::outcomeChanged, this, &DesktopGaps::hotKeyChanged);
     connect(&m_env.tray, &TrayItem::shownChanged, this, &DesktopGaps::trayChanged);
     connect(&m_env.idleSource, &IdleSource::canTellChanged, this, &DesktopGaps::idleChanged);
     connect(&m_env.idleSource, &IdleSource::canTellChanged, this, &DesktopGaps::autoModeChanged);
@@ -23,22 +23,41 @@ DesktopGaps::DesktopGaps(Environment environment) : m_env(std::move(environment)
 }
 
 QString DesktopGaps::hotKeyAdvice() const {
-    if (!m_env.hotKey.isRegistered())
-        return Words::tr("Another key does as well. In your desktop's keyboard settings, bind one "
-                         "to this command:");
-    if (!m_env.hotKey.hearsEveryApp())
-        return Words::tr(
-                   "In a %1 Vantle hears these keys only over some apps. In your desktop's "
-                   "keyboard settings, bind a key to this command, and it works over all of them:")
+    switch (m_env.hotKey.registration()) {
+    case HotKeyPort::Registration::Registered:
+    case HotKeyPort::Registration::Waiting:
+        return {};
+    case HotKeyPort::Registration::HeldByAnother:
+    case HotKeyPort::Registration::Failed:
+        return Words::tr("Another key does as well. In your desktop's keyboard settings, bind "
+                         "one to this command:");
+    case HotKeyPort::Registration::NotAllowed:
+        return Words::tr("This desktop gives Vantle the shortcut only if you say so: set it up, "
+                         "or bind a key to this command:");
+    case HotKeyPort::Registration::KeysRemoved:
+        return Words::tr("Your desktop's settings leave Vantle without keys. Choose some "
+                         "there, or bind a key to this command:");
+    case HotKeyPort::Registration::NotOffered:
+        return Words::tr("In this %1 no app can take keys by itself. In your desktop's "
+                         "keyboard settings, bind a key to this command, and it works over "
+                         "all apps:")
             .arg(guestSession());
+    }
     return {};
 }
 
-QString DesktopGaps::command() {
-    return QStringLiteral("gdbus call --session --dest local.vantle.Vantle "
-                          "--object-path /local/vantle/Vantle "
-                          "--method org.freedesktop.Application.ActivateAction toggle '[]' '{}'");
+QString DesktopGaps::hotKeyAction() const {
+    const auto registration = m_env.hotKey.registration();
+    if (!m_env.hotKey.takesAllowance() || registration == HotKeyPort::Registration::Waiting)
+        return {};
+    return registration == HotKeyPort::Registration::Registered
+               ? Words::tr("Switch the shortcut off")
+               : Words::tr("Set up the shortcut");
 }
+
+void DesktopGaps::pressHotKeyAction() { m_env.hotKey.allow(!m_env.hotKey.isRegistered()); }
+
+QString DesktopGaps::command() { return toggleCommand(); }
 
 void DesktopGaps::copyCommand() {
     m_env.copy(command());

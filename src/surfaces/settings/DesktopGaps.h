@@ -19,8 +19,10 @@ class TrayItem;
 class DesktopGaps final : public QObject {
     Q_OBJECT
     QML_ANONYMOUS
-    /// How to have a shortcut although ⌥⌘B can't be had, or is not heard everywhere.
+    /// How to have a shortcut although ⌥⌘B can't be had.
     Q_PROPERTY(QString hotKeyAdvice READ hotKeyAdvice NOTIFY hotKeyChanged FINAL)
+    /// What a press does about ⌥⌘B, where the desktop gives it on the user's word; empty elsewhere.
+    Q_PROPERTY(QString hotKeyAction READ hotKeyAction NOTIFY hotKeyChanged FINAL)
     /// The command that the advice speaks of.
     Q_PROPERTY(QString command READ command CONSTANT FINAL)
     Q_PROPERTY(bool commandCopied READ commandCopied NOTIFY commandCopiedChanged FINAL)
@@ -36,7 +38,7 @@ class DesktopGaps final : public QObject {
 public:
     /// What may be missing. All of it must outlive this.
     struct Environment {
-        const HotKey& hotKey;
+        HotKey& hotKey;
         const TrayItem& tray;
         const IdleSource& idleSource;
         const FrontmostApp& frontmostApp;
@@ -46,6 +48,8 @@ public:
     explicit DesktopGaps(Environment environment);
 
     [[nodiscard]] QString hotKeyAdvice() const;
+    [[nodiscard]] QString hotKeyAction() const;
+    Q_INVOKABLE void pressHotKeyAction();
     [[nodiscard]] static QString command();
     [[nodiscard]] bool commandCopied() const { return m_commandCopied; }
     Q_INVOKABLE void copyCommand();

@@ -9,18 +9,22 @@ Column {
 
     required property SettingsView model
 
-    visible: model.gaps.hotKeyAdvice !== ""
+    readonly property bool offersCommand: model.gaps.hotKeyAdvice !== ""
+
+    visible: offersCommand || model.gaps.hotKeyAction !== ""
     topPadding: DarkUI.space8
     spacing: DarkUI.space8
 
     SettingsCaption {
         width: parent.width
+        visible: advice.offersCommand
         text: advice.model.gaps.hotKeyAdvice
         color: DarkUI.textSecondary
     }
 
     SettingsCaption {
         width: parent.width
+        visible: advice.offersCommand
         text: advice.model.gaps.command
         color: DarkUI.textPrimary
         wrapMode: Text.Wrap
@@ -30,7 +34,16 @@ Column {
         spacing: DarkUI.space12
 
         DarkSecondaryButton {
+            visible: text !== ""
+            text: advice.model.gaps.hotKeyAction
+            role: DarkUI.captionMedium
+            Accessible.description: advice.model.gaps.hotKeyAdvice
+            onClicked: advice.model.gaps.pressHotKeyAction()
+        }
+
+        DarkSecondaryButton {
             id: copy
+            visible: advice.offersCommand
             text: qsTr("Copy the command")
             role: DarkUI.captionMedium
             Accessible.description: advice.model.gaps.hotKeyAdvice + " " + advice.model.gaps.command

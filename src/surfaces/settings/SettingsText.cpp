@@ -1,6 +1,7 @@
 // The words of the settings, apart from those of the table.
 #include "app/AppModel.h"
 #include "base/Words.h"
+#include "sensing/HotKey.h"
 #include "surfaces/settings/SettingsView.h"
 
 namespace vantle {
@@ -93,9 +94,16 @@ QString SettingsView::eraseQuestion() {
 }
 
 QString SettingsView::hotKeyText() const {
-    if (isHotKeyActive()) return Words::tr("⌥⌘B · active");
-    return m_env.model.hotKey().isRegistered() ? Words::tr("⌥⌘B · only over some apps")
-                                               : Words::tr("⌥⌘B unavailable");
+    const HotKey& hotKey = m_env.model.hotKey();
+    switch (hotKey.registration()) {
+    case HotKeyPort::Registration::Registered:
+        return hotKey.keys().isEmpty() ? Words::tr("⌥⌘B · active")
+                                       : Words::tr("%1 · active").arg(hotKey.keys());
+    case HotKeyPort::Registration::Waiting:
+        return Words::tr("The desktop has not answered yet");
+    default:
+        return Words::tr("⌥⌘B unavailable");
+    }
 }
 
 QString SettingsView::welcomeCaption() const {

@@ -30,8 +30,7 @@ SettingsView::~SettingsView() = default;
 
 void SettingsView::follow() {
     const HotKey& hotKey = m_env.model.hotKey();
-    connect(&hotKey, &HotKey::isRegisteredChanged, this, &SettingsView::hotKeyChanged);
-    connect(&hotKey, &HotKey::registrationErrorChanged, this, &SettingsView::hotKeyChanged);
+    connect(&hotKey, &HotKey::outcomeChanged, this, &SettingsView::hotKeyChanged);
     connect(&m_env.rules, &AutoRules::rulesChanged, this, &SettingsView::refreshApps);
     connect(&m_env.rules, &AutoRules::seenAppsChanged, this, &SettingsView::refreshApps);
     connect(&m_env.rules, &AutoRules::persistenceErrorChanged, this,
@@ -71,10 +70,7 @@ void SettingsView::setLaunchAtLogin(bool on) {
     Q_EMIT switched();
 }
 
-bool SettingsView::isHotKeyActive() const {
-    const HotKey& hotKey = m_env.model.hotKey();
-    return hotKey.isRegistered() && hotKey.hearsEveryApp();
-}
+bool SettingsView::isHotKeyActive() const { return m_env.model.hotKey().isRegistered(); }
 
 QString SettingsView::hotKeyFailure() const {
     if (m_env.model.hotKey().isRegistered()) return {};

@@ -2,6 +2,7 @@
 
 #include "app/AppModel.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "platform/Preferences.h"
 #include "platform/ReducedMotion.h"
 #include "tracking/DashFormat.h"
@@ -53,7 +54,7 @@ WelcomeView::WelcomeView(Environment environment)
     connect(&m_env.notifications, &NotificationCenter::HFStopSummaryResolved, this,
             &WelcomeView::stopCardClosed);
     connect(&m_env.model, &AppModel::skillsChanged, this, &WelcomeView::refreshModes);
-    connect(&m_env.model.hotKey(), &HotKey::registrationErrorChanged, this,
+    connect(&m_env.model.hotKey(), &HotKey::outcomeChanged, this,
             &WelcomeView::shortcutProblemChanged);
     refreshModes();
 }
@@ -77,8 +78,19 @@ QString WelcomeView::asideText() const {
 bool WelcomeView::isAtWork() const { return m_sessionOpen && !m_env.model.needsWelcome(); }
 
 QString WelcomeView::shortcutProblem() const {
-    return m_step == Press ? m_env.model.hotKey().registrationError().value_or(QString())
-                           : QString();
+    const HotKey& hotKey = m_env.model.hotKey();
+    if (m_step != Press) return {};
+    switch (hotKey.registration()) {
+    case HotKeyPort::Registration::Registered:
+    case HotKeyPort::Registration::Waiting:
+        return {};
+    case HotKeyPort::Registration::NotOffered:
+    case HotKeyPort::Registration::NotAllowed:
+    case HotKeyPort::Registration::KeysRemoved:
+        return Words::tr("The shortcut doesn't work here yet. The settings say how it can.");
+    default:
+        return hotKey.registrationError().value_or(QString());
+    }
 }
 
 void WelcomeView::goTo(int step) {

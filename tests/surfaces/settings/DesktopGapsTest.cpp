@@ -13,6 +13,7 @@ class DesktopGapsTest : public testing::Test, protected tests::SettingsWorld {};
 TEST_F(DesktopGapsTest, WhereNothingIsMissingNothingIsSaid) {
     const SettingsView& settings = open();
     EXPECT_EQ(view->gaps()->hotKeyAdvice(), QString());
+    EXPECT_EQ(view->gaps()->hotKeyAction(), QString());
     EXPECT_EQ(view->gaps()->trayAdvice(), QString());
     EXPECT_EQ(view->gaps()->idleAdvice(), QString());
     EXPECT_EQ(view->gaps()->autoModeAdvice(), QString());
@@ -102,13 +103,63 @@ TEST_F(DesktopGapsTest, AShortcutThatWasLostIsNotCalledActiveUntilItIsBack) {
     EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B · active"));
 }
 
-TEST_F(DesktopGapsTest, AShortcutThatIsNotHeardEverywhereIsNotCalledActive) {
-    hotKeyPort.isHeardEverywhere = false;
+TEST_F(DesktopGapsTest, WithoutKeysFromTheDesktopTheCommandIsOffered) {
+    hotKeyPort.outcome = {HotKeyPort::Registration::NotOffered};
     const SettingsView& settings = open();
     EXPECT_FALSE(settings.isHotKeyActive());
-    EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B · only over some apps"));
+    EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B unavailable"));
     EXPECT_EQ(settings.hotKeyFailure(), QString());
-    EXPECT_TRUE(view->gaps()->hotKeyAdvice().startsWith(text("In a Wayland session")));
+    EXPECT_EQ(view->gaps()->hotKeyAdvice(),
+              text("In this Wayland session no app can take keys by itself. In your desktop's "
+                   "keyboard settings, bind a key to this command, and it works over all apps:"));
+}
+
+TEST_F(DesktopGapsTest, UntilTheDesktopAnswersTheShortcutIsNeitherActiveNorMissing) {
+    hotKeyPort.outcome = {HotKeyPort::Registration::Waiting};
+    const SettingsView& settings = open();
+    EXPECT_FALSE(settings.isHotKeyActive());
+    EXPECT_EQ(settings.hotKeyText(), text("The desktop has not answered yet"));
+    EXPECT_EQ(view->gaps()->hotKeyAdvice(), QString());
+    int times = 0;
+    QObject::connect(&settings, &SettingsView::hotKeyChanged, [&] { ++times; });
+    hotKeyPort.become({HotKeyPort::Registration::Registered});
+    EXPECT_EQ(times, 1);
+    EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B · active"));
+}
+
+TEST_F(DesktopGapsTest, KeysOfTheUsersOwnChoiceAreNamed) {
+    hotKeyPort.outcome = {HotKeyPort::Registration::Registered, 0, text("Meta+Alt+C")};
+    const SettingsView& settings = open();
+    EXPECT_TRUE(settings.isHotKeyActive());
+    EXPECT_EQ(settings.hotKeyText(), text("Meta+Alt+C · active"));
+    hotKeyPort.become({HotKeyPort::Registration::KeysRemoved});
+    EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B unavailable"));
+    EXPECT_EQ(view->gaps()->hotKeyAdvice(),
+              text("Your desktop's settings leave Vantle without keys. Choose some there, or bind "
+                   "a key to this command:"));
+}
+
+TEST_F(DesktopGapsTest, ShortcutOnTheUsersWordIsSetUpAndSwitchedOffByAPress) {
+    hotKeyPort.way = text("portal");
+    hotKeyPort.outcome = {HotKeyPort::Registration::NotAllowed};
+    const SettingsView& settings = open();
+    EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B unavailable"));
+    EXPECT_EQ(settings.hotKeyFailure(), QString());
+    EXPECT_EQ(
+        view->gaps()->hotKeyAdvice(),
+        text("This desktop gives Vantle the shortcut only if you say so: set it up, or bind a "
+             "key to this command:"));
+    EXPECT_EQ(view->gaps()->hotKeyAction(), text("Set up the shortcut"));
+    view->gaps()->pressHotKeyAction();
+    EXPECT_EQ(hotKeyPort.isAllowed, true);
+    EXPECT_EQ(view->gaps()->hotKeyAction(), QString()) << "while the desktop asks the user";
+    hotKeyPort.become({HotKeyPort::Registration::Registered});
+    EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B · active"));
+    EXPECT_EQ(view->gaps()->hotKeyAdvice(), QString());
+    EXPECT_EQ(view->gaps()->hotKeyAction(), text("Switch the shortcut off"));
+    view->gaps()->pressHotKeyAction();
+    EXPECT_EQ(hotKeyPort.isAllowed, false);
+    EXPECT_EQ(view->gaps()->hotKeyAction(), text("Set up the shortcut"));
 }
 
 TEST_F(DesktopGapsTest, TheCommandCanBeCopied) {

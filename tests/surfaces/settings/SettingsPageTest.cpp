@@ -139,6 +139,22 @@ TEST_F(SettingsPageTest, ACommandStandsInForAShortcutThatCantBeHad) {
     EXPECT_TRUE(shows("Copied"));
 }
 
+TEST_F(SettingsPageTest, AShortcutOnTheUsersWordIsSetUpAndSwitchedOffByButtons) {
+    hotKeyPort.way = QStringLiteral("portal");
+    hotKeyPort.outcome = {HotKeyPort::Registration::NotAllowed};
+    show();
+    EXPECT_TRUE(shows("Copy the command"));
+    click("Set up the shortcut");
+    EXPECT_EQ(hotKeyPort.isAllowed, true);
+    hotKeyPort.become({HotKeyPort::Registration::Registered});
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(shows("⌥⌘B · active"));
+    EXPECT_FALSE(shows("Copy the command"));
+    click("Switch the shortcut off");
+    EXPECT_EQ(hotKeyPort.isAllowed, false);
+    EXPECT_TRUE(shows("Set up the shortcut"));
+}
+
 TEST_F(SettingsPageTest, FillsItsWindowAndNothingStandsOutAtItsSides) {
     const QQuickItem& page = show();
     const QSize window = settingsWindowRules().contentSize;

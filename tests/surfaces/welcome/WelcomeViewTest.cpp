@@ -168,6 +168,18 @@ TEST_F(WelcomeViewTest, TellsWhenTheShortcutIsHeldByAnotherAndTheButtonWorksAllT
     EXPECT_EQ(view->step(), Success);
 }
 
+TEST_F(WelcomeViewTest, PromisesNoShortcutWhereTheDesktopGivesNone) {
+    hotKeyPort.outcome = {HotKeyPort::Registration::Waiting};
+    open();
+    walkTo(Press);
+    EXPECT_EQ(view->shortcutProblem(), QString());
+    hotKeyPort.become({HotKeyPort::Registration::NotOffered});
+    EXPECT_EQ(view->shortcutProblem(),
+              text("The shortcut doesn't work here yet. The settings say how it can."));
+    hotKeyPort.become({HotKeyPort::Registration::Registered});
+    EXPECT_EQ(view->shortcutProblem(), QString());
+}
+
 TEST_F(WelcomeViewTest, ModesAreAddedRenamedAndRemoved) {
     open();
     walkTo(Modes);

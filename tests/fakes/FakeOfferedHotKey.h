@@ -1,0 +1,45 @@
+// A way to the shortcut that the desktop offers or not.
+#pragma once
+
+#include "fakes/FakeHotKeyPort.h"
+#include "platform/OfferedHotKey.h"
+
+#include <optional>
+#include <utility>
+
+namespace vantle::fakes {
+
+/// Everything but the offer is that of `port`.
+class FakeOfferedHotKey final : public OfferedHotKey {
+public:
+    explicit FakeOfferedHotKey(std::optional<bool> isOffered) : m_isOffered(isOffered) {
+        port.onOutcomeChanged = [this](const Outcome& outcome) {
+            if (onOutcomeChanged) onOutcomeChanged(outcome);
+        };
+    }
+
+    // OfferedHotKey
+    [[nodiscard]] std::optional<bool> isOffered() const override { return m_isOffered; }
+    [[nodiscard]] int installHandler(std::function<void()> pressed) override {
+        return port.installHandler(std::move(pressed));
+    }
+    void removeHandler() override { port.removeHandler(); }
+    [[nodiscard]] Outcome registerKey() override { return port.registerKey(); }
+    void unregisterKey() override { port.unregisterKey(); }
+    [[nodiscard]] QString wayToAllow() const override { return port.wayToAllow(); }
+    void recallAllowed(const QString& way) override { port.recallAllowed(way); }
+    [[nodiscard]] Outcome allow(bool allowed) override { return port.allow(allowed); }
+
+    /// The service comes or goes.
+    void offer(bool isOffered) {
+        m_isOffered = isOffered;
+        if (onOfferedChanged) onOfferedChanged();
+    }
+
+    FakeHotKeyPort port;
+
+private:
+    std::optional<bool> m_isOffered;
+};
+
+} // namespace vantle::fakes
