@@ -20,6 +20,11 @@ LateBus::LateBus(const QByteArray& address)
 
 LateBus::~LateBus() { QDBusConnection::disconnectFromBus(m_name); }
 
+QByteArray LateBus::sessionAddress() {
+    const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    return address.isEmpty() ? "unix:path=" + qgetenv("XDG_RUNTIME_DIR") + "/bus" : address;
+}
+
 QByteArray LateBus::systemAddress() {
     const QByteArray address = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
     return address.isEmpty() ? QByteArray("unix:path=/run/dbus/system_bus_socket") : address;

@@ -23,7 +23,8 @@ public:
     /// Closes the connection.
     ~LateBus() override;
 
-    /// Where the system's bus is.
+    /// Where the session's bus is, and the system's.
+    [[nodiscard]] static QByteArray sessionAddress();
     [[nodiscard]] static QByteArray systemAddress();
 
 Q_SIGNALS:

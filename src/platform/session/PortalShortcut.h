@@ -1,0 +1,35 @@
+// A shortcut of the portal, in the form that goes over the bus: (sa{sv}).
+#pragma once
+
+#include <QDBusArgument>
+#include <QList>
+#include <QMetaType>
+#include <QString>
+#include <QVariantMap>
+
+namespace vantle {
+
+struct PortalShortcut {
+    QString id;
+    QVariantMap properties;
+};
+
+using PortalShortcuts = QList<PortalShortcut>;
+
+inline QDBusArgument& operator<<(QDBusArgument& out, const PortalShortcut& shortcut) {
+    out.beginStructure();
+    out << shortcut.id << shortcut.properties;
+    out.endStructure();
+    return out;
+}
+
+inline const QDBusArgument& operator>>(const QDBusArgument& in, PortalShortcut& shortcut) {
+    in.beginStructure();
+    in >> shortcut.id >> shortcut.properties;
+    in.endStructure();
+    return in;
+}
+
+} // namespace vantle
+
+Q_DECLARE_METATYPE(vantle::PortalShortcut)
