@@ -1,6 +1,7 @@
 #include "launch/PlatformFactory.h"
 
 #include "platform/session/BusGreeting.h"
+#include "platform/session/LateBus.h"
 #include "platform/x11/ScaleFactor.h"
 
 #include <xcb/xcb.h>
@@ -50,11 +51,9 @@ void chooseWindows() {
 
 void leaveMuteSessionBus() {
     constexpr int kLimitMs = 1000;
-    constexpr const char* kVariable = "DBUS_SESSION_BUS_ADDRESS";
-    QByteArray address = qgetenv(kVariable);
-    if (address.isEmpty()) address = "unix:path=" + qgetenv("XDG_RUNTIME_DIR") + "/bus";
-    if (BusGreeting(address).waitForAnswer(kLimitMs) == BusGreeting::Answer::Waiting)
-        qputenv(kVariable, "disabled:");
+    if (BusGreeting(LateBus::sessionAddress()).waitForAnswer(kLimitMs) ==
+        BusGreeting::Answer::Waiting)
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
 }
 
 void settleScaleFactor() {

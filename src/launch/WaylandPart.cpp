@@ -1,8 +1,13 @@
 #include "base/Clock.h"
 #include "launch/PlatformParts.h"
+#include "platform/FirstHotKey.h"
 #include "platform/FirstIdleSource.h"
+#include "platform/gnome/CustomKeyHotKey.h"
 #include "platform/gnome/MutterIdleSource.h"
 #include "platform/gnome/MutterScreenPower.h"
+#include "platform/kde/KGlobalAccelHotKey.h"
+#include "platform/session/LateBus.h"
+#include "platform/session/PortalHotKey.h"
 #include "platform/wayland/LayerOverlayStage.h"
 #include "platform/wayland/WaylandConnection.h"
 #include "platform/wayland/WaylandIdleSource.h"
@@ -12,6 +17,7 @@
 
 #include <QDBusConnection>
 #include <QGuiApplication>
+#include <QStandardPaths>
 
 #include <utility>
 #include <vector>
@@ -25,6 +31,17 @@ struct Compositor {
     WaylandConnection shows; ///< a mistake in a show ends only this one
     SystemClock clock;
 };
+
+std::unique_ptr<HotKeyPort> shortcut(const QDBusConnection& bus, const Posix& posix,
+                                     const Clock& clock) {
+    std::vector<std::unique_ptr<OfferedHotKey>> ways;
+    ways.reserve(3);
+    ways.push_back(std::make_unique<KGlobalAccelHotKey>(bus, clock));
+    ways.push_back(std::make_unique<PortalHotKey>(bus, LateBus::sessionAddress(), clock));
+    ways.push_back(std::make_unique<CustomKeyHotKey>(
+        bus, *posix.processRunner, QStandardPaths::findExecutable(QStringLiteral("gsettings"))));
+    return std::make_unique<FirstHotKey>(std::move(ways));
+}
 
 } // namespace
 
@@ -60,6 +77,7 @@ void addCompositor(Scheduler& scheduler, const Posix& posix, Display& display) {
     display.overlayStage =
         std::make_unique<LayerOverlayStage>(compositor->shows, compositor->clock, scheduler);
 
+    display.hotKeyPort = shortcut(bus, posix, compositor->clock);
     display.compositor = compositor;
 }
 

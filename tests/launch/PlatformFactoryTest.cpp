@@ -2,6 +2,9 @@
 #include "launch/PlatformFactory.h"
 
 #include "base/Scheduler.h"
+#include "platform/gnome/FakeCustomKeys.h"
+#include "platform/kde/FakeKGlobalAccel.h"
+#include "platform/session/FakeShortcutPortal.h"
 #include "support/Await.h"
 #include "support/EnvironmentVariable.h"
 
@@ -56,7 +59,6 @@ protected:
         return *m_platform;
     }
     void expectWaylandSession() {
-        EXPECT_FALSE(platform().hotKeyPort.hearsEveryApp());
         EXPECT_FALSE(platform().panelHost.tellsPointer());
         EXPECT_TRUE(platform().panelHost.isComposited());
     }
@@ -64,11 +66,16 @@ protected:
         EXPECT_TRUE(platform().idleSource.canTell());
         EXPECT_TRUE(platform().idleSource.secondsSinceLastInput());
         EXPECT_NE(platform().frontmostApp.coverage(), AppCoverage::None);
-        EXPECT_TRUE(platform().hotKeyPort.hearsEveryApp());
         EXPECT_TRUE(platform().panelHost.tellsPointer());
         EXPECT_TRUE(platform().panelHost.hasInputRegions());
         EXPECT_TRUE(platform().overlayStage.isAvailable());
         EXPECT_FALSE(platform().panelHost.isComposited());
+    }
+
+    /// The program ends.
+    void forget() {
+        m_platform.reset();
+        m_owner.reset();
     }
 
     QtScheduler m_scheduler;
@@ -130,6 +137,39 @@ TEST_F(PlatformFactoryTest, XwaylandIsKnownWithoutAnyVariableOfTheSession) {
     EXPECT_EQ(platform().frontmostApp.coverage(), AppCoverage::None);
     EXPECT_FALSE(platform().frontmostApp.frontmost());
     EXPECT_EQ(platform().overlayStage.isAvailable(), platform().panelHost.hasInputRegions());
+}
+
+TEST_F(PlatformFactoryTest, BesideXwaylandTheFirstServiceOfTheSessionGivesTheShortcut) {
+    const WaylandSession session;
+    set("DISPLAY", session.display());
+    set("WAYLAND_DISPLAY", session.socket());
+    for (int services = 0; services < 8; ++services) {
+        FakeKGlobalAccel kde;
+        FakeShortcutPortal portal;
+        FakeCustomKeys gnome;
+        const bool hasKde = (services & 1) != 0, hasPortal = (services & 2) != 0,
+                   hasGnome = (services & 4) != 0;
+        if (hasKde) kde.appear();
+        if (hasPortal) portal.appear();
+        if (hasGnome) gnome.appear();
+        HotKeyPort& key = platform().hotKeyPort;
+        auto outcome = key.registerKey();
+        key.onOutcomeChanged = [&](const auto& later) { outcome = later; };
+        using enum HotKeyPort::Registration;
+        EXPECT_TRUE(await([&] { return outcome.registration != Waiting; }));
+        const bool onWord = !hasKde && (hasPortal || hasGnome);
+        EXPECT_EQ(outcome.registration, hasKde   ? Registered
+                                        : onWord ? NotAllowed
+                                                 : NotOffered)
+            << services;
+        EXPECT_EQ(key.wayToAllow(), QString::fromLatin1(!onWord     ? ""
+                                                        : hasPortal ? "portal"
+                                                                    : "gnome"))
+            << services;
+        EXPECT_EQ(kde.isHeld(), hasKde);
+        EXPECT_FALSE(portal.isAsking());
+        forget();
+    }
 }
 
 } // namespace
