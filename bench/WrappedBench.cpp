@@ -41,7 +41,7 @@ void opening(benchmark::State& state, WrappedPeriod period) {
                  .renderPng = [](const SharePoster&) { return std::nullopt; },
                  .copyPng = [](const QByteArray&) {},
                  .savePng = [](const QByteArray&, const QString&, const auto&) {}});
-            benchmark::DoNotOptimize(view.poster());
+            benchmark::DoNotOptimize(view.texts().poster);
         },
         [&] { benchmark::DoNotOptimize(workshop.tracker().allSessions()); });
 }

@@ -6,9 +6,6 @@ import Vantle.Kit
 ReviewPage {
     id: page
 
-    required property string title
-    required property string words
-
     Column {
         anchors.verticalCenter: parent.verticalCenter
         anchors.verticalCenterOffset: DarkUI.pagerButtonSize // no pager stands below
@@ -39,7 +36,7 @@ ReviewPage {
 
             DarkText {
                 width: page.width
-                text: page.title
+                text: page.texts.emptyTitle
                 role: DarkUI.titleXL
                 wrapMode: Text.Wrap
                 Accessible.role: Accessible.Heading
@@ -57,7 +54,7 @@ ReviewPage {
 
             DarkText {
                 width: page.width
-                text: page.words
+                text: page.texts.emptyText
                 role: DarkUI.lead
                 color: DarkUI.textSecondary
                 wrapMode: Text.Wrap

@@ -7,7 +7,7 @@ import Vantle.Review
 ReviewPage {
     id: page
 
-    required property heroCard content
+    readonly property heroCard content: texts.hero
 
     kicker: content.kicker
 

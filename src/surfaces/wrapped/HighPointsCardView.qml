@@ -7,7 +7,7 @@ import Vantle.Review
 ReviewPage {
     id: page
 
-    required property highPointsCard content
+    readonly property highPointsCard content: texts.highPoints
 
     kicker: content.kicker
 

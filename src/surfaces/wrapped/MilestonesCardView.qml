@@ -7,8 +7,7 @@ import Vantle.Review
 ReviewPage {
     id: page
 
-    required property milestonesCard content
-    required property list<color> dotColors
+    readonly property milestonesCard content: texts.milestones
     readonly property int count: content.badges.length
     readonly property int columns: count <= 4 ? 2 : count <= 9 ? 3 : 4
     readonly property real gap: DarkUI.space12
@@ -64,6 +63,6 @@ ReviewPage {
         y: grid.y + (grid.height - height) / 2
         animated: page.animated
         delay: DarkUI.cascadeDelay + 2 * DarkUI.cascadeStep + page.count * DarkUI.popStep
-        colors: page.dotColors
+        colors: page.texts.poster.dotColors
     }
 }

@@ -7,7 +7,7 @@ import Vantle.Review
 ReviewPage {
     id: page
 
-    required property narrativeCard content
+    readonly property narrativeCard content: texts.narrative
     readonly property real room: foot.y - kickerHeight - DarkUI.space44
     // A sentence that is long for its page is set smaller.
     readonly property TypeRole role: measure.height <= room ? DarkUI.quotation : DarkUI.titleMQuiet

@@ -7,7 +7,7 @@ import Vantle.Review
 ReviewPage {
     id: page
 
-    required property notesCard content
+    readonly property notesCard content: texts.notes
     readonly property real gap: DarkUI.space12 // on both sides of the line between two notes
     readonly property real room: foot.y - notes.y - gap
     // Lines that are left when each note has one; the first long notes get them.

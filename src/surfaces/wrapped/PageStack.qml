@@ -30,65 +30,31 @@ FocusScope {
         passing = false;
         follow();
     }
-    function fileOf(card: string): string {
+    function pageOf(card: string): Component {
         switch (card) {
         case "hero":
-            return "HeroCardView.qml";
+            return hero;
         case "skills":
-            return "SkillsCardView.qml";
+            return skills;
         case "persona":
-            return "PersonaCardView.qml";
+            return persona;
         case "rhythm":
-            return "RhythmCardView.qml";
+            return rhythm;
         case "when":
-            return "WhenCardView.qml";
+            return when;
         case "superlatives":
-            return "HighPointsCardView.qml";
+            return highPoints;
         case "milestones":
-            return "MilestonesCardView.qml";
+            return milestones;
         case "narrative":
-            return "NarrativeCardView.qml";
+            return narrative;
         case "notes":
-            return "NotesCardView.qml";
+            return notes;
         case "summary":
-            return "SummaryCardView.qml";
+            return summary;
         default:
-            return "EmptyCardView.qml";
+            return empty;
         }
-    }
-    // What a page shows, as it is at this moment.
-    function valuesOf(card: string) {
-        switch (card) {
-        case "hero":
-            return { "content": model.hero };
-        case "skills":
-            return { "content": model.skills };
-        case "persona":
-            return { "content": model.persona };
-        case "rhythm":
-            return { "content": model.rhythm };
-        case "when":
-            return { "content": model.when };
-        case "superlatives":
-            return { "content": model.highPoints };
-        case "milestones":
-            return { "content": model.milestones, "dotColors": model.poster.dotColors };
-        case "narrative":
-            return { "content": model.narrative };
-        case "notes":
-            return { "content": model.notes };
-        case "summary":
-            return { "content": model.summary, "poster": model.poster };
-        default:
-            return { "title": model.emptyTitle, "words": model.emptyText };
-        }
-    }
-    function made(card: string, animated: bool): ReviewPage {
-        const component = Qt.createComponent(fileOf(card));
-        const values = valuesOf(card);
-        values.model = model;
-        values.animated = animated;
-        return component.createObject(stack, values) as ReviewPage;
     }
     function keyOf(card: string): string {
         return card + " " + model.period;
@@ -99,14 +65,12 @@ FocusScope {
         if (keyOf(card) !== shownKey)
             show(card, keyOf(card));
         else if (outdated || card === "narrative")
-            refresh(card);
+            refresh();
         outdated = false;
     }
-    function refresh(card: string): void {
-        const values = valuesOf(card);
+    function refresh(): void {
         current.animated = false;
-        for (const name in values)
-            current[name] = values[name];
+        current.texts = model.texts;
     }
     function show(card: string, key: string): void {
         const isNew = !seen.includes(key);
@@ -117,7 +81,11 @@ FocusScope {
             before.destroy();
         before = current;
         shownKey = key;
-        current = made(card, isNew);
+        current = pageOf(card).createObject(stack, {
+            "model": model,
+            "texts": model.texts,
+            "animated": isNew
+        }) as ReviewPage;
         current.focus = true;
         current.lines = announcer.linesOf(current);
         if (!before)
@@ -153,6 +121,52 @@ FocusScope {
         place()
     Component.onCompleted: follow()
 
+    // A page is made when the review turns to it.
+    Component {
+        id: hero
+        HeroCardView {}
+    }
+    Component {
+        id: skills
+        SkillsCardView {}
+    }
+    Component {
+        id: persona
+        PersonaCardView {}
+    }
+    Component {
+        id: rhythm
+        RhythmCardView {}
+    }
+    Component {
+        id: when
+        WhenCardView {}
+    }
+    Component {
+        id: highPoints
+        HighPointsCardView {}
+    }
+    Component {
+        id: milestones
+        MilestonesCardView {}
+    }
+    Component {
+        id: narrative
+        NarrativeCardView {}
+    }
+    Component {
+        id: notes
+        NotesCardView {}
+    }
+    Component {
+        id: summary
+        SummaryCardView {}
+    }
+    Component {
+        id: empty
+        EmptyCardView {}
+    }
+
     Announcer {
         id: announcer
     }
@@ -182,7 +196,7 @@ FocusScope {
         // Another year. All else that changes the calendar is told of once more above.
         function onRhythmChanged(): void {
             if (stack.shownKey === stack.keyOf("rhythm"))
-                stack.refresh("rhythm");
+                stack.refresh();
         }
     }
 }

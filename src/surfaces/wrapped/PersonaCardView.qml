@@ -8,7 +8,7 @@ import Vantle.Wrapped
 ReviewPage {
     id: page
 
-    required property personaCard content
+    readonly property personaCard content: texts.persona
     readonly property bool known: content.name !== ""
 
     kicker: content.kicker

@@ -1,5 +1,4 @@
-// What all pages of a review have in common: a heading at the top, and room below it. A page shows
-// the values that it was given: it must not change while it is on its way out.
+// What all pages of a review have in common: a heading at the top, and room below it.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -9,6 +8,8 @@ FocusScope {
     id: page
 
     required property WrappedView model
+    // As they were when the page was shown: it must not change while it is on its way out.
+    required property reviewTexts texts
     property string kicker
     property bool animated: false // its parts come in one after the other
     property bool leaving: false

@@ -7,7 +7,7 @@ import Vantle.Review
 ReviewPage {
     id: page
 
-    required property rhythmCard content
+    readonly property rhythmCard content: texts.rhythm
     readonly property bool hasWall: content.wallKicker !== ""
     readonly property real below: content.years.length > 0 ? years.height + DarkUI.space14
                                                          : kickerHeight + DarkUI.space14

@@ -7,7 +7,7 @@ import Vantle.Review
 ReviewPage {
     id: page
 
-    required property skillsCard content
+    readonly property skillsCard content: texts.skills
 
     kicker: content.kicker
 

@@ -8,8 +8,8 @@ import Vantle.Wrapped
 ReviewPage {
     id: page
 
-    required property summaryCard content
-    required property sharePoster poster
+    readonly property summaryCard content: texts.summary
+    readonly property sharePoster poster: texts.poster
 
     kicker: content.title
 

@@ -7,7 +7,7 @@ import Vantle.Review
 ReviewPage {
     id: page
 
-    required property whenCard content
+    readonly property whenCard content: texts.when
     readonly property real headlineWidth: 330
 
     kicker: content.kicker

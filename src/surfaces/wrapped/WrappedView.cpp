@@ -57,6 +57,9 @@ void WrappedView::showReview() {
     m_texts.notes = reviewcards::notes(stats, now, highlightsShown).value_or(NotesCard());
     m_texts.summary = reviewcards::summary(stats, now);
     m_texts.poster = reviewcards::poster(stats, now);
+    const auto empty = wrappedcards::emptyCard(m_review.period(), m_review.isLogEmpty());
+    m_texts.emptyTitle = empty.title;
+    m_texts.emptyText = empty.text;
     showSegments();
     Q_EMIT reviewChanged();
     showRhythm();
@@ -65,7 +68,7 @@ void WrappedView::showReview() {
 }
 
 void WrappedView::showRhythm() {
-    m_rhythm =
+    m_texts.rhythm =
         reviewcards::rhythm(m_review.stats(), m_review.settings(), m_chosenYear, m_wallCapacity);
     Q_EMIT rhythmChanged();
 }
@@ -74,6 +77,8 @@ void WrappedView::showCards() {
     m_cards.clear();
     for (const WrappedCard card : m_review.cards())
         m_cards << wrappedcards::id(card);
+    m_texts.narrative =
+        reviewcards::narrative(m_review.period(), m_review.narrative().value_or(QString()));
     Q_EMIT cardsChanged();
     Q_EMIT pageChanged();
 }
@@ -120,14 +125,6 @@ void WrappedView::setWallCapacity(int capacity) {
     showRhythm();
 }
 
-QString WrappedView::emptyTitle() const {
-    return wrappedcards::emptyCard(m_review.period(), m_review.isLogEmpty()).title;
-}
-
-QString WrappedView::emptyText() const {
-    return wrappedcards::emptyCard(m_review.period(), m_review.isLogEmpty()).text;
-}
-
 QString WrappedView::enterText() const {
     return m_tracking ? Words::tr("Stop Vantle") : Words::tr("Enter Vantle");
 }
@@ -143,10 +140,6 @@ void WrappedView::enterVantle() {
 ReviewFigure WrappedView::countedUp(double seconds) const {
     return cardwords::figure(wrappedmotion::countUp(m_review.stats().totalHours, seconds),
                              m_review.settings().durationStyle);
-}
-
-NarrativeCard WrappedView::narrative() const {
-    return reviewcards::narrative(m_review.period(), m_review.narrative().value_or(QString()));
 }
 
 void WrappedView::synthesizeNarrative() {

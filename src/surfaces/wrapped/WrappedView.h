@@ -20,6 +20,40 @@ namespace vantle {
 class Clock;
 class NotificationCenter;
 
+/// What stands on the pages of a review.
+struct ReviewTexts {
+    Q_GADGET
+    QML_VALUE_TYPE(reviewTexts)
+    Q_PROPERTY(vantle::HeroCard hero MEMBER hero CONSTANT)
+    Q_PROPERTY(vantle::SkillsCard skills MEMBER skills CONSTANT)
+    Q_PROPERTY(vantle::PersonaCard persona MEMBER persona CONSTANT)
+    Q_PROPERTY(vantle::RhythmCard rhythm MEMBER rhythm CONSTANT)
+    Q_PROPERTY(vantle::WhenCard when MEMBER when CONSTANT)
+    Q_PROPERTY(vantle::HighPointsCard highPoints MEMBER highPoints CONSTANT)
+    Q_PROPERTY(vantle::MilestonesCard milestones MEMBER milestones CONSTANT)
+    Q_PROPERTY(vantle::NarrativeCard narrative MEMBER narrative CONSTANT)
+    Q_PROPERTY(vantle::NotesCard notes MEMBER notes CONSTANT)
+    Q_PROPERTY(vantle::SummaryCard summary MEMBER summary CONSTANT)
+    Q_PROPERTY(vantle::SharePoster poster MEMBER poster CONSTANT)
+    Q_PROPERTY(QString emptyTitle MEMBER emptyTitle CONSTANT)
+    Q_PROPERTY(QString emptyText MEMBER emptyText CONSTANT)
+
+public:
+    HeroCard hero;
+    SkillsCard skills;
+    PersonaCard persona;
+    RhythmCard rhythm;
+    WhenCard when;
+    HighPointsCard highPoints;
+    MilestonesCard milestones;
+    NarrativeCard narrative;
+    NotesCard notes;
+    SummaryCard summary;
+    SharePoster poster;
+    QString emptyTitle; ///< stands there without pages
+    QString emptyText;
+};
+
 /// What the window shows and does. Holds a copy of the log, which it reads when the window opens
 /// and on every change; everything else is computed from it. The sentence about the notes comes
 /// later, if there is a model to write it, and its card with it. Main thread.
@@ -43,25 +77,13 @@ class WrappedView final : public QObject {
     Q_PROPERTY(bool canTurnBack READ canTurnBack NOTIFY pageChanged FINAL)
     Q_PROPERTY(bool canTurnOn READ canTurnOn NOTIFY pageChanged FINAL)
 
-    /// Without pages, this stands there.
+    /// There are no pages.
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY cardsChanged FINAL)
-    Q_PROPERTY(QString emptyTitle READ emptyTitle NOTIFY reviewChanged FINAL)
-    Q_PROPERTY(QString emptyText READ emptyText NOTIFY reviewChanged FINAL)
     Q_PROPERTY(bool canEnter READ canEnter CONSTANT FINAL)
     Q_PROPERTY(QString enterText READ enterText NOTIFY trackingChanged FINAL)
 
-    /// What stands on each page.
-    Q_PROPERTY(vantle::HeroCard hero READ hero NOTIFY reviewChanged FINAL)
-    Q_PROPERTY(vantle::SkillsCard skills READ skills NOTIFY reviewChanged FINAL)
-    Q_PROPERTY(vantle::PersonaCard persona READ persona NOTIFY reviewChanged FINAL)
-    Q_PROPERTY(vantle::RhythmCard rhythm READ rhythm NOTIFY rhythmChanged FINAL)
-    Q_PROPERTY(vantle::WhenCard when READ when NOTIFY reviewChanged FINAL)
-    Q_PROPERTY(vantle::HighPointsCard highPoints READ highPoints NOTIFY reviewChanged FINAL)
-    Q_PROPERTY(vantle::MilestonesCard milestones READ milestones NOTIFY reviewChanged FINAL)
-    Q_PROPERTY(vantle::NarrativeCard narrative READ narrative NOTIFY cardsChanged FINAL)
-    Q_PROPERTY(vantle::NotesCard notes READ notes NOTIFY reviewChanged FINAL)
-    Q_PROPERTY(vantle::SummaryCard summary READ summary NOTIFY reviewChanged FINAL)
-    Q_PROPERTY(vantle::SharePoster poster READ poster NOTIFY reviewChanged FINAL)
+    /// A copy, as it is now. Views show it until they ask for another.
+    Q_PROPERTY(vantle::ReviewTexts texts READ texts NOTIFY reviewChanged FINAL)
 
     /// How many dots the wall on the rhythm page has room for.
     Q_PROPERTY(int wallCapacity READ wallCapacity WRITE setWallCapacity NOTIFY rhythmChanged FINAL)
@@ -134,21 +156,9 @@ public:
     [[nodiscard]] bool canTurnBack() const { return page() > 0; }
     [[nodiscard]] bool canTurnOn() const { return page() + 1 < m_cards.size(); }
     [[nodiscard]] bool isEmpty() const { return m_cards.isEmpty(); }
-    [[nodiscard]] QString emptyTitle() const;
-    [[nodiscard]] QString emptyText() const;
     [[nodiscard]] bool canEnter() const { return static_cast<bool>(m_env.enterVantle); }
     [[nodiscard]] QString enterText() const;
-    [[nodiscard]] const HeroCard& hero() const { return m_texts.hero; }
-    [[nodiscard]] const SkillsCard& skills() const { return m_texts.skills; }
-    [[nodiscard]] const PersonaCard& persona() const { return m_texts.persona; }
-    [[nodiscard]] const RhythmCard& rhythm() const { return m_rhythm; }
-    [[nodiscard]] const WhenCard& when() const { return m_texts.when; }
-    [[nodiscard]] const HighPointsCard& highPoints() const { return m_texts.highPoints; }
-    [[nodiscard]] const MilestonesCard& milestones() const { return m_texts.milestones; }
-    [[nodiscard]] NarrativeCard narrative() const;
-    [[nodiscard]] const NotesCard& notes() const { return m_texts.notes; }
-    [[nodiscard]] const SummaryCard& summary() const { return m_texts.summary; }
-    [[nodiscard]] const SharePoster& poster() const { return m_texts.poster; }
+    [[nodiscard]] const ReviewTexts& texts() const { return m_texts; }
     [[nodiscard]] int wallCapacity() const { return m_wallCapacity; }
     void setWallCapacity(int capacity);
     [[nodiscard]] bool copied() const { return m_review.isCopied(); }
@@ -165,18 +175,6 @@ Q_SIGNALS:
     void trackingChanged();
 
 private:
-    /// Made anew with every review, so that views can read them freely.
-    struct Texts {
-        HeroCard hero;
-        SkillsCard skills;
-        PersonaCard persona;
-        WhenCard when;
-        HighPointsCard highPoints;
-        MilestonesCard milestones;
-        NotesCard notes;
-        SummaryCard summary;
-        SharePoster poster;
-    };
     struct Asked {
         WrappedPeriod period;
         wrappedreview::NarrativeQuestion question;
@@ -198,8 +196,7 @@ private:
     const Environment m_env;
     const NoteNarrative m_narrator;
     WrappedReview m_review;
-    Texts m_texts;
-    RhythmCard m_rhythm;
+    ReviewTexts m_texts;
     QStringList m_segments;
     QStringList m_cards;
     int m_wallCapacity = 48;

@@ -15,6 +15,13 @@ protected:
             return item.property("hasStar").isValid();
         });
     }
+    /// How many there are, shown or not.
+    [[nodiscard]] int pages() {
+        int count = 0;
+        for (const QObject* one : window->rootObject()->findChildren<QObject*>())
+            count += one->property("kicker").isValid() ? 1 : 0;
+        return count;
+    }
     [[nodiscard]] QQuickItem* reveal() {
         return tests::shownItem(window->contentItem(), [](const QQuickItem& item) {
             return item.property("typingDone").isValid();
@@ -40,6 +47,18 @@ TEST_F(WrappedMovementTest, PageOnItsWayOutKeepsWhatItShowed) {
     EXPECT_TRUE(shows("all time"));
 }
 
+TEST_F(WrappedMovementTest, OnlyTheShownPageAndTheOneOnItsWayOutAreThere) {
+    workAWeek();
+    show(false);
+    ASSERT_GT(view->cards().size(), 5);
+    EXPECT_EQ(pages(), 1);
+    press(Qt::Key_Right);
+    ASSERT_TRUE(isTurning());
+    EXPECT_EQ(pages(), 2);
+    awaitTurned();
+    EXPECT_EQ(pages(), 1);
+}
+
 TEST_F(WrappedMovementTest, OnlyOnePageIsLeftAfterQuickTurns) {
     workAWeek();
     show(false);
@@ -47,10 +66,7 @@ TEST_F(WrappedMovementTest, OnlyOnePageIsLeftAfterQuickTurns) {
         press(Qt::Key_Right);
     press(Qt::Key_Left);
     awaitTurned();
-    int pages = 0;
-    for (const QQuickItem* child : page()->parentItem()->childItems())
-        pages += child->property("kicker").isValid() ? 1 : 0;
-    EXPECT_EQ(pages, 1);
+    EXPECT_EQ(pages(), 1);
     EXPECT_EQ(page()->x(), 0);
     EXPECT_EQ(page()->opacity(), 1);
 }
@@ -72,7 +88,7 @@ TEST_F(WrappedMovementTest, HoursAreCountedUpToTheFigure) {
     workAWeek();
     show(false);
     const auto shown = [this] { return figure()->property("shown").value<ReviewFigure>(); };
-    const ReviewFigure whole = view->hero().figure;
+    const ReviewFigure whole = view->texts().hero.figure;
     EXPECT_FALSE(shown() == whole);
     EXPECT_TRUE(tests::await([&] { return shown() == whole; }));
 }
@@ -89,7 +105,7 @@ TEST_F(WrappedMovementTest, NameOfATypeIsWrittenLetterByLetter) {
     EXPECT_FALSE(name->property("typingDone").toBool());
     EXPECT_TRUE(tests::await([&] { return shown() == 3; }));
     EXPECT_TRUE(tests::await([&] { return name->property("typingDone").toBool(); }));
-    EXPECT_EQ(shown(), view->persona().name.size());
+    EXPECT_EQ(shown(), view->texts().persona.name.size());
 }
 
 TEST_F(WrappedMovementTest, NameStopsWhereItIsWhenItsPageLeaves) {
@@ -116,7 +132,7 @@ TEST_F(WrappedMovementTest, NameStopsWhereItIsWhenItsPageLeaves) {
 TEST_F(WrappedMovementTest, WithReducedMotionAllIsThereAtOnce) {
     workAWeek();
     show(true);
-    EXPECT_EQ(figure()->property("shown").value<ReviewFigure>(), view->hero().figure);
+    EXPECT_EQ(figure()->property("shown").value<ReviewFigure>(), view->texts().hero.figure);
     press(Qt::Key_Right);
     EXPECT_EQ(page()->x(), 0) << "pages fade, and do not slide";
     awaitTurned();

@@ -108,7 +108,7 @@ TEST_F(WrappedPageTest, PageFollowsALogThatChanges) {
     Q_EMIT notifications.HFSessionsChanged();
     settle();
     EXPECT_TRUE(shows("4 sessions"));
-    EXPECT_TRUE(shows(view->hero().figure.value));
+    EXPECT_TRUE(shows(view->texts().hero.figure.value));
     EXPECT_FALSE(isTurning());
 }
 
@@ -272,8 +272,8 @@ TEST_F(WrappedPageTest, LongThemesAndClosingLineStayInTheWindow) {
     press(Qt::Key_End);
     awaitTurned();
     driver->settle();
-    EXPECT_FALSE(driver->cutTexts().contains(view->summary().closing))
-        << view->summary().closing.toStdString();
+    EXPECT_FALSE(driver->cutTexts().contains(view->texts().summary.closing))
+        << view->texts().summary.closing.toStdString();
 }
 
 } // namespace

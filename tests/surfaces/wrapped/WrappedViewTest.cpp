@@ -19,7 +19,7 @@ TEST_F(WrappedViewTest, WithoutALogInvites) {
     open();
     EXPECT_TRUE(view->isEmpty());
     EXPECT_FALSE(view->hasPager());
-    EXPECT_EQ(view->emptyTitle(), QStringLiteral("Ready when you are"));
+    EXPECT_EQ(view->texts().emptyTitle, QStringLiteral("Ready when you are"));
     EXPECT_TRUE(view->canEnter());
     view->enterVantle();
     EXPECT_EQ(entered, 1);
@@ -35,14 +35,14 @@ TEST_F(WrappedViewTest, OpensOnLastWeekOnceAndOffersItWhileItIsShown) {
     EXPECT_EQ(view->segmentLabels().size(), 4);
     view->open();
     EXPECT_EQ(shown(), QStringLiteral("Week"));
-    EXPECT_EQ(view->emptyTitle(), QStringLiteral("Nothing this week yet"));
+    EXPECT_EQ(view->texts().emptyTitle, QStringLiteral("Nothing this week yet"));
 }
 
 TEST_F(WrappedViewTest, OpensOnThePeriodThatItIsAskedFor) {
     log = {worked("2026-03-10T09:00:00Z", 60)};
     open(WrappedPeriod::LastWeek);
     EXPECT_EQ(shown(), QStringLiteral("Last week"));
-    EXPECT_EQ(view->emptyTitle(), QStringLiteral("Nothing tracked last week"));
+    EXPECT_EQ(view->texts().emptyTitle, QStringLiteral("Nothing tracked last week"));
 }
 
 TEST_F(WrappedViewTest, OpeningMarksLastWeekAsSeen) {
@@ -73,7 +73,7 @@ TEST_F(WrappedViewTest, ChangedLogIsReadAtOnce) {
     log = {worked("2026-03-11T09:00:00Z", 90)};
     Q_EMIT notifications.HFSessionsChanged();
     EXPECT_FALSE(view->isEmpty());
-    EXPECT_EQ(view->hero().hoursText, QStringLiteral("1.5 h"));
+    EXPECT_EQ(view->texts().hero.hoursText, QStringLiteral("1.5 h"));
     EXPECT_EQ(shown(), QStringLiteral("Week"));
 }
 
@@ -89,8 +89,8 @@ TEST_F(WrappedViewTest, DurationStyleIsTakenFromTheSettings) {
     log = {worked("2026-03-11T09:00:00Z", 90)};
     preferences.setString(QStringLiteral("format.duration"), QStringLiteral("hoursMinutes"));
     open();
-    EXPECT_EQ(view->hero().hoursText, QStringLiteral("1 h 30 min"));
-    EXPECT_EQ(view->countedUp(0.8).value, view->hero().figure.value);
+    EXPECT_EQ(view->texts().hero.hoursText, QStringLiteral("1 h 30 min"));
+    EXPECT_EQ(view->countedUp(0.8).value, view->texts().hero.figure.value);
 }
 
 TEST_F(WrappedViewTest, NarrativeCardComesWithTheAnswer) {
@@ -102,8 +102,9 @@ TEST_F(WrappedViewTest, NarrativeCardComesWithTheAnswer) {
     EXPECT_TRUE(has("narrative"));
     EXPECT_EQ(view->cards().indexOf(QStringLiteral("narrative")) + 1,
               view->cards().indexOf(QStringLiteral("notes")));
-    EXPECT_EQ(view->narrative().text, QStringLiteral("3 h this week, mostly Build. ") + sentence());
-    EXPECT_EQ(view->narrative().kicker, QStringLiteral("THIS WEEK, IN WORDS"));
+    EXPECT_EQ(view->texts().narrative.text,
+              QStringLiteral("3 h this week, mostly Build. ") + sentence());
+    EXPECT_EQ(view->texts().narrative.kicker, QStringLiteral("THIS WEEK, IN WORDS"));
 }
 
 TEST_F(WrappedViewTest, NarrativeThatComesLateLeavesTheReaderAtHisPage) {
@@ -141,7 +142,7 @@ TEST_F(WrappedViewTest, NarrativeThatComesAfterAChangeOfPeriodIsDropped) {
     EXPECT_EQ(model.openSessions(), 0);
     answerModel();
     EXPECT_FALSE(has("narrative"));
-    EXPECT_TRUE(view->narrative().text.isEmpty());
+    EXPECT_TRUE(view->texts().narrative.text.isEmpty());
 }
 
 TEST_F(WrappedViewTest, AnswerOnItsWayWhenThePeriodChangesIsDropped) {
@@ -152,7 +153,7 @@ TEST_F(WrappedViewTest, AnswerOnItsWayWhenThePeriodChangesIsDropped) {
     time.settle();
     EXPECT_FALSE(has("narrative"));
     answerModel();
-    EXPECT_EQ(view->narrative().kicker, QStringLiteral("THIS MONTH, IN WORDS"));
+    EXPECT_EQ(view->texts().narrative.kicker, QStringLiteral("THIS MONTH, IN WORDS"));
     EXPECT_TRUE(has("narrative"));
 }
 
@@ -201,21 +202,21 @@ TEST_F(WrappedViewTest, ClosedWindowAsksNothingAnyMore) {
 TEST_F(WrappedViewTest, ChosenYearHoldsForAsLongAsThePageStays) {
     log = {worked("2024-03-10T09:00:00Z", 60), worked("2026-03-10T09:00:00Z", 60)};
     open(WrappedPeriod::AllTime);
-    EXPECT_EQ(view->rhythm().picture.year, 2026);
+    EXPECT_EQ(view->texts().rhythm.picture.year, 2026);
     view->showYear(2024);
-    EXPECT_EQ(view->rhythm().picture.year, 2024);
-    EXPECT_TRUE(view->rhythm().caption.startsWith(QStringLiteral("2024, ")));
+    EXPECT_EQ(view->texts().rhythm.picture.year, 2024);
+    EXPECT_TRUE(view->texts().rhythm.caption.startsWith(QStringLiteral("2024, ")));
     view->turnOn();
-    EXPECT_EQ(view->rhythm().picture.year, 2026);
+    EXPECT_EQ(view->texts().rhythm.picture.year, 2026);
 }
 
 TEST_F(WrappedViewTest, WallTakesTheRoomThatThePageHas) {
     log = {worked("2026-03-10T01:00:00Z", 5 * 60)};
     open();
-    EXPECT_EQ(view->rhythm().wallColors.size(), 5);
+    EXPECT_EQ(view->texts().rhythm.wallColors.size(), 5);
     view->setWallCapacity(2);
-    EXPECT_EQ(view->rhythm().wallColors.size(), 2);
-    EXPECT_EQ(view->rhythm().wallCaption,
+    EXPECT_EQ(view->texts().rhythm.wallColors.size(), 2);
+    EXPECT_EQ(view->texts().rhythm.wallCaption,
               QStringLiteral("One dot per finished hour. 3 earlier hours off the top."));
 }
 
@@ -232,23 +233,23 @@ TEST_F(WrappedViewTest, ViewsCanReadIntoEveryPage) {
     log.push_back(worked("2026-03-09T09:00:00Z", 12 * 60, QStringLiteral("marketing")));
     open();
     const std::map<const char*, QString> pages = {
-        {"view.hero.figure.value", QStringLiteral("15")},
-        {"view.hero.quiet[0]", QStringLiteral("All of it tracked live")},
-        {"view.skills.top.name", QStringLiteral("Marketing")},
-        {"view.skills.others[0].share", QStringLiteral("20%")},
-        {"view.persona.facts[1]", QStringLiteral("2 / 2 days")},
-        {"view.rhythm.picture.isWeek", QStringLiteral("true")},
-        {"view.rhythm.picture.tiles[0].hasFill", QStringLiteral("true")},
-        {"view.rhythm.wallColors.length", QStringLiteral("15")},
-        {"view.when.bars.length", QStringLiteral("12")},
-        {"view.when.facts[1].value", QStringLiteral("12 h")},
-        {"view.highPoints.lines.length > 0", QStringLiteral("true")},
-        {"view.milestones.badges[0].hours", QStringLiteral("10")},
-        {"view.narrative.kicker", QStringLiteral("THIS WEEK, IN WORDS")},
-        {"view.notes.highlights[0].skillName", QStringLiteral("Build")},
-        {"view.summary.fileName", QStringLiteral("wrapped-this-week.png")},
-        {"view.poster.figures[1].figure.value", QStringLiteral("4")},
-        {"view.poster.rhythm.tiles[2].isToday", QStringLiteral("true")},
+        {"view.texts.hero.figure.value", QStringLiteral("15")},
+        {"view.texts.hero.quiet[0]", QStringLiteral("All of it tracked live")},
+        {"view.texts.skills.top.name", QStringLiteral("Marketing")},
+        {"view.texts.skills.others[0].share", QStringLiteral("20%")},
+        {"view.texts.persona.facts[1]", QStringLiteral("2 / 2 days")},
+        {"view.texts.rhythm.picture.isWeek", QStringLiteral("true")},
+        {"view.texts.rhythm.picture.tiles[0].hasFill", QStringLiteral("true")},
+        {"view.texts.rhythm.wallColors.length", QStringLiteral("15")},
+        {"view.texts.when.bars.length", QStringLiteral("12")},
+        {"view.texts.when.facts[1].value", QStringLiteral("12 h")},
+        {"view.texts.highPoints.lines.length > 0", QStringLiteral("true")},
+        {"view.texts.milestones.badges[0].hours", QStringLiteral("10")},
+        {"view.texts.narrative.kicker", QStringLiteral("THIS WEEK, IN WORDS")},
+        {"view.texts.notes.highlights[0].skillName", QStringLiteral("Build")},
+        {"view.texts.summary.fileName", QStringLiteral("wrapped-this-week.png")},
+        {"view.texts.poster.figures[1].figure.value", QStringLiteral("4")},
+        {"view.texts.poster.rhythm.tiles[2].isToday", QStringLiteral("true")},
         {"view.countedUp(0.8).unit", QStringLiteral("h")}};
     for (const auto& [expression, text] : pages)
         EXPECT_EQ(readByAView(*view, expression), text) << expression;
