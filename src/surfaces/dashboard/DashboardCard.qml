@@ -10,13 +10,15 @@ DarkCard {
     property string detail
     default property alias inner: area.data
     readonly property real innerWidth: width - 2 * DarkUI.space16
+    readonly property real headingTop: 11
+    readonly property real innerTop: 38
 
     padding: 0
 
     DarkText {
         id: title
         x: DarkUI.space16
-        y: 11
+        y: card.headingTop
         text: card.heading
         role: DarkUI.bodyStrong
         Accessible.role: Accessible.Heading
@@ -39,7 +41,7 @@ DarkCard {
     Item {
         id: area
         x: DarkUI.space16
-        y: Math.round(38 * DarkUI.textScale)
+        y: Math.round(card.innerTop * DarkUI.textScale)
         width: card.innerWidth
         height: card.height - y - DarkUI.space12
     }

@@ -12,6 +12,7 @@ FocusScope {
     readonly property real actionsWidth: logging.width + wrapped.width + 2 * actions.spacing
                                          + (open ? chip.width : start.width)
     property bool open: false // follows the model by way of follow()
+    readonly property real leastHeight: 34
 
     // What takes the place of a control that has the keyboard gets it, with its ring.
     function follow(): void {
@@ -42,7 +43,7 @@ FocusScope {
     }
 
     implicitHeight: stacked ? title.height + DarkUI.space8 + actions.height
-                            : Math.max(34, actions.height)
+                            : Math.max(leastHeight, actions.height)
 
     DarkText {
         id: title

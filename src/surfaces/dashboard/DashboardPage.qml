@@ -10,7 +10,10 @@ FocusScope {
     required property DashboardView model
     readonly property real margin: DarkUI.space24
     readonly property real inner: width - 2 * margin
-    readonly property bool stacked: width < 560 * DarkUI.textScale
+    readonly property bool stacked: width < leastBeside * DarkUI.textScale
+    readonly property real leastBeside: 560 // px of width, for two cards beside each other
+    readonly property real skillsWidth: 246
+    readonly property real cardHeight: Math.round(208 * DarkUI.textScale)
 
     focus: true
     Accessible.role: Accessible.Pane
@@ -107,14 +110,15 @@ FocusScope {
                 spacing: DarkUI.space12
 
                 SkillTotalsCard {
-                    width: page.stacked ? page.inner : 246
-                    height: Math.round(208 * DarkUI.textScale)
+                    width: page.stacked ? page.inner : page.skillsWidth
+                    height: page.cardHeight
                     model: page.model
                 }
 
                 RecentSessionsCard {
-                    width: page.stacked ? page.inner : page.inner - 246 - DarkUI.space12
-                    height: Math.round(208 * DarkUI.textScale)
+                    width: page.stacked ? page.inner
+                                        : page.inner - page.skillsWidth - DarkUI.space12
+                    height: page.cardHeight
                     model: page.model
                 }
             }

@@ -8,17 +8,18 @@ DashboardCard {
     id: card
 
     required property DashboardView model
+    readonly property real captionRoom: 38
 
     readonly property real belowHeading: 52
 
-    implicitHeight: belowHeading + Math.round(38 * DarkUI.textScale)
+    implicitHeight: belowHeading + Math.round(captionRoom * DarkUI.textScale)
     heading: qsTr("Hour wall")
     detail: model.wallText
 
     GlassDotWall {
         y: DarkUI.space4
         width: card.innerWidth
-        height: 36
+        height: DarkUI.space36
         colors: card.model.wallColors
         sliceFraction: card.model.sliceFraction
         sliceColor: card.model.sliceColor

@@ -10,8 +10,9 @@ ReadableStop {
     required property recentLine line
     readonly property real dotLeft: 96 * DarkUI.textScale
     readonly property real nameLeft: dotLeft + 15
+    readonly property real lineHeight: 26
 
-    implicitHeight: 26 * DarkUI.textScale
+    implicitHeight: lineHeight * DarkUI.textScale
     name: line.spoken
 
     DarkText {

@@ -9,6 +9,8 @@ ReadableStop {
 
     required property skillTotalLine line
     readonly property real nameWidth: Math.max(84, Math.round(width * 0.4))
+    readonly property real figuresWidth: 84
+    readonly property real shareWidth: 36
 
     name: line.spoken
 
@@ -24,7 +26,7 @@ ReadableStop {
     GlassBarTrack {
         x: row.nameWidth
         anchors.verticalCenter: parent.verticalCenter
-        width: row.width - x - 84 * DarkUI.textScale - DarkUI.space8 + DarkUI.space10
+        width: row.width - x - row.figuresWidth * DarkUI.textScale - DarkUI.space8 + DarkUI.space10
         implicitHeight: DarkUI.barTableHeight
 
         GlassBarFill {
@@ -35,7 +37,7 @@ ReadableStop {
 
     TabularText {
         anchors.right: parent.right
-        anchors.rightMargin: 36 * DarkUI.textScale
+        anchors.rightMargin: row.shareWidth * DarkUI.textScale
         anchors.verticalCenter: parent.verticalCenter
         text: row.line.hours
         role: DarkUI.caption

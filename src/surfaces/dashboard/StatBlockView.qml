@@ -16,14 +16,18 @@ DarkCard {
     readonly property real needed: hasValue
         ? context.y + context.height + DarkUI.space8 + bar.height + bottomGap
         : title.y + title.height + DarkUI.space4 + invitation.height + bottomGap
+    readonly property real leastHeight: 110
+    readonly property real titleTop: 13
+    readonly property real titleRoom: 17
+    readonly property real smallestFigure: 12
 
-    implicitHeight: Math.max(110, Math.ceil(needed))
+    implicitHeight: Math.max(leastHeight, Math.ceil(needed))
     padding: 0
 
     DarkText {
         id: title
         x: DarkUI.space16
-        y: 13
+        y: block.titleTop
         width: block.inner
         text: block.stat.title
         role: DarkUI.captionMedium
@@ -35,13 +39,13 @@ DarkCard {
     DarkText {
         id: value
         x: DarkUI.space16
-        y: title.y + Math.round(17 * DarkUI.textScale)
+        y: title.y + Math.round(block.titleRoom * DarkUI.textScale)
         width: Math.min(implicitWidth, block.inner - unit.implicitWidth - DarkUI.space4)
         visible: block.hasValue
         text: block.stat.value
         role: DarkUI.statValue
         fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 12
+        minimumPixelSize: block.smallestFigure
         Accessible.ignored: true
     }
 

@@ -9,6 +9,7 @@ KitControl {
 
     required property LogView log
     required property real timeWidth // of the column, the same for all rows
+    readonly property real lineGap: 3
     signal leftBehind(int step) // an arrow key leads to a row before or after
     signal editorEntered // the keyboard is in the editor
 
@@ -115,7 +116,7 @@ KitControl {
         x: row.textX
         y: DarkUI.space8
         width: parent.width - x - DarkUI.space28
-        spacing: 3
+        spacing: row.lineGap
 
         DarkText {
             visible: !row.editing

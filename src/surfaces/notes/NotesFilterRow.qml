@@ -8,6 +8,7 @@ Item {
     id: row
 
     required property LogView model
+    readonly property real fadeAtEnd: 104
 
     readonly property real ringRoom: DarkUI.focusWidth + DarkUI.focusGap
 
@@ -79,7 +80,7 @@ Item {
 
     EdgeFade {
         anchors.right: area.right
-        width: 104
+        width: row.fadeAtEnd
         height: parent.height
         edge: Qt.RightEdge
         visible: !area.atXEnd

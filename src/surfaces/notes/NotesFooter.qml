@@ -9,8 +9,9 @@ Item {
     required property string text
     required property string failure
     readonly property bool filled: text !== "" || failure !== ""
+    readonly property real leastHeight: 40
 
-    implicitHeight: filled ? Math.max(40, line.height + 2 * DarkUI.space10) : 0
+    implicitHeight: filled ? Math.max(leastHeight, line.height + 2 * DarkUI.space10) : 0
     visible: filled
 
     Announcer {

@@ -8,7 +8,12 @@ FocusScope {
     id: header
 
     required property LogView model
-    readonly property bool stacked: width < 500 // the line below the count has a row of its own
+    readonly property bool stacked: width < leastBeside // the line below the count has its own row
+    readonly property real leastBeside: 500 // px of width
+    readonly property real wideFrom: 560 // px of width, for the long search field
+    readonly property real searchWidth: 190
+    readonly property real searchWidthNarrow: 160
+    readonly property real leastFiltersTop: 69
 
     implicitHeight: line.y + line.height
 
@@ -45,7 +50,7 @@ FocusScope {
         anchors.right: parent.right
         anchors.rightMargin: DarkUI.space28
         y: DarkUI.space14
-        width: header.width < 560 ? 160 : 190
+        width: header.width < header.wideFrom ? header.searchWidthNarrow : header.searchWidth
         minHeight: DarkUI.searchFieldHeight
         icon: "search"
         name: qsTr("Search notes")
@@ -73,7 +78,7 @@ FocusScope {
         anchors.leftMargin: DarkUI.space28
         anchors.right: parent.right
         anchors.rightMargin: DarkUI.space28
-        y: Math.max(69, subtitle.y + subtitle.height + DarkUI.space10)
+        y: Math.max(header.leastFiltersTop, subtitle.y + subtitle.height + DarkUI.space10)
         visible: header.model.showsFilters
         model: header.model
     }

@@ -7,9 +7,10 @@ DarkTextField {
     id: field
 
     required property string unit
+    readonly property real figureWidth: 118
     signal focusLost
 
-    implicitWidth: 118
+    implicitWidth: figureWidth
     minHeight: DarkUI.figureFieldHeight
     role: DarkUI.titleM
     input.inputMethodHints: Qt.ImhDigitsOnly

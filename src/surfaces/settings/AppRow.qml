@@ -8,6 +8,7 @@ Item {
     id: row
 
     required property SettingsView settings
+    readonly property real rowHeight: 40
 
     required property string bundleId
     required property string name
@@ -18,7 +19,7 @@ Item {
     required property string menuLabel
     required property string forgetLabel
 
-    implicitHeight: 40
+    implicitHeight: rowHeight
 
     DarkText {
         id: label

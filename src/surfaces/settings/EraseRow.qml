@@ -10,6 +10,7 @@ FocusScope {
     required property SettingsView model
     readonly property bool confirming: model.confirmingErase
     readonly property string question: model.eraseQuestion
+    readonly property real belowQuestion: 5
 
     implicitHeight: column.y + column.height + DarkUI.space14
 
@@ -51,7 +52,7 @@ FocusScope {
 
         DarkText {
             visible: row.confirming
-            bottomPadding: -role.leading + 5
+            bottomPadding: -role.leading + row.belowQuestion
             text: row.question
             role: DarkUI.bodyMedium
             Accessible.role: Accessible.AlertMessage

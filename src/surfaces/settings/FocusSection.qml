@@ -8,6 +8,7 @@ SettingsSection {
     id: section
 
     required property SettingsView model
+    readonly property real aboveChoices: 7
 
     title: qsTr("FOCUS")
 
@@ -33,7 +34,7 @@ SettingsSection {
                 visible: section.model.focusLinked
                          && (!section.model.hasNoShortcuts || section.model.startChoice > 0
                              || section.model.stopChoice > 0)
-                topPadding: 7
+                topPadding: section.aboveChoices
                 spacing: DarkUI.space8
 
                 ShortcutChoice {
@@ -55,7 +56,7 @@ SettingsSection {
 
             Item {
                 width: parent.width
-                height: open.height + 7
+                height: open.height + section.aboveChoices
                 visible: section.model.focusLinked && section.model.hasNoShortcuts
 
                 SettingsCaption {
@@ -69,7 +70,7 @@ SettingsSection {
                 DarkSecondaryButton {
                     id: open
                     anchors.right: parent.right
-                    y: 7
+                    y: section.aboveChoices
                     text: section.model.action(SettingsView.FocusLinkRow)
                     role: DarkUI.captionMedium
                     Accessible.description: none.text

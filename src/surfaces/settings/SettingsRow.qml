@@ -10,6 +10,7 @@ Item {
     property string caption
     property bool first: false // no hairline above
     readonly property real inner: width - 2 * DarkUI.space16
+    readonly property real captionGap: 5
     property alias control: controls.data // at the right end of the title's line
     default property alias more: extra.data // below the caption
 
@@ -26,7 +27,7 @@ Item {
         x: DarkUI.space16
         y: DarkUI.space14 + (row.first ? 0 : DarkUI.hairlineWidth)
         width: row.inner
-        spacing: 5
+        spacing: row.captionGap
 
         Item {
             width: parent.width

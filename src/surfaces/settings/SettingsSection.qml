@@ -7,13 +7,14 @@ Column {
     id: section
 
     required property string title
+    readonly property real aboveTitle: 26
 
     spacing: DarkUI.space12
 
     DarkKicker {
         role: DarkUI.sectionLabel
         x: DarkUI.space4
-        topPadding: role.leading + 26
+        topPadding: role.leading + section.aboveTitle
         bottomPadding: -role.leading - DarkUI.space2 // 10 with the spacing
         text: section.title
     }

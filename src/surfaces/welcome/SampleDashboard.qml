@@ -12,6 +12,9 @@ DarkWindowGlass {
     readonly property real margin: DarkUI.space24
     readonly property real inner: width - 2 * margin
     readonly property real skillsWidth: 246
+    readonly property real wallHeight: 90
+    readonly property real cardHeight: 208
+    readonly property real slice: 0.3 // of the hour that is worked on
 
     shadowed: true
     width: WelcomeTokens.windowWidth
@@ -67,7 +70,7 @@ DarkWindowGlass {
 
         DashboardCard {
             width: parent.width
-            implicitHeight: 90
+            implicitHeight: sample.wallHeight
             heading: qsTr("Hour wall")
             detail: qsTr("46 hours")
 
@@ -76,7 +79,7 @@ DarkWindowGlass {
                 width: parent.width
                 height: DarkUI.space36
                 colors: sample.samples.wall
-                sliceFraction: 0.3
+                sliceFraction: sample.slice
                 sliceColor: DarkUI.accent
             }
         }
@@ -86,7 +89,7 @@ DarkWindowGlass {
 
             DashboardCard {
                 width: sample.skillsWidth
-                height: 208
+                height: sample.cardHeight
                 heading: qsTr("Hours by skill")
 
                 Column {
@@ -106,7 +109,7 @@ DarkWindowGlass {
             DashboardCard {
                 id: recent
                 width: sample.inner - sample.skillsWidth - DarkUI.space12
-                height: 208
+                height: sample.cardHeight
                 heading: qsTr("Recent sessions")
                 detail: qsTr("58 sessions · 46 h 18 min")
 

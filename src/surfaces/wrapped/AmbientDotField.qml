@@ -8,12 +8,13 @@ import Vantle.Wrapped
 AmbientDots {
     id: field
 
-    readonly property int starStep: Math.ceil(1000 / 30) // ms; no more moments a second than that
+    readonly property int starStep: Math.ceil(second / 30) // ms; no more moments a second than that
+    readonly property real second: 1000 // ms
 
     Timer {
         interval: field.hasStar ? field.starStep : DarkUI.ambientStep
         repeat: true
         running: field.visible && field.Window.active && !Motion.reduced
-        onTriggered: field.seconds += interval / 1000
+        onTriggered: field.seconds += interval / field.second
     }
 }

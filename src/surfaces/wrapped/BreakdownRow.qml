@@ -10,8 +10,10 @@ Item {
     required property reviewSkillLine line
     property bool animated: false
     property int order: 0
+    readonly property real rowHeight: 34
+    readonly property real shareWidth: 48
 
-    implicitHeight: 34
+    implicitHeight: rowHeight
     Accessible.role: Accessible.StaticText
     Accessible.name: line.spoken
 
@@ -26,7 +28,7 @@ Item {
     TabularText {
         id: hours
         anchors.right: parent.right
-        anchors.rightMargin: 48
+        anchors.rightMargin: row.shareWidth
         text: row.line.hours
         role: DarkUI.note
         color: DarkUI.textSecondary

@@ -11,13 +11,15 @@ Item {
     property bool animated: false
     readonly property bool pending: animated && !Motion.reduced && !over
     property bool over: false
+    readonly property real reach: 320
+    readonly property real rise: 100
 
     function end(): void {
         over = true;
     }
 
-    implicitWidth: 320
-    implicitHeight: 100
+    implicitWidth: reach
+    implicitHeight: rise
 
     DotBurst {
         id: burst

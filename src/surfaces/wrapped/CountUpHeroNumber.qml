@@ -19,6 +19,7 @@ Item {
                                                              : content.figure
     // A figure that is too wide for the page is set smaller, with its unit.
     readonly property real fit: width > 0 ? Math.min(1, width / full.implicitWidth) : 1
+    readonly property real countingSeconds: DarkUI.countUpTime / 1000
     readonly property int unitSize: Math.round(DarkUI.heroReview.size * DarkUI.heroUnitScale)
 
     implicitHeight: DarkUI.heroReview.line
@@ -29,7 +30,8 @@ Item {
         Accessible.ignored: true
     }
     component Unit: DarkText {
-        leftPadding: Math.round(role.size * 0.25)
+        readonly property real gap: 0.25 // of its size
+        leftPadding: Math.round(role.size * gap)
         color: DarkUI.textTertiary
         Accessible.ignored: true
     }
@@ -94,7 +96,7 @@ Item {
         property: "seconds"
         running: number.counts && !number.stopped
         from: 0
-        to: DarkUI.countUpTime / 1000
+        to: number.countingSeconds
         duration: DarkUI.countUpTime
         onFinished: number.counted = true
     }

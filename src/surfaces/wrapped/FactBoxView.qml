@@ -8,8 +8,9 @@ Plate {
     id: box
 
     required property factBox fact
+    readonly property real boxHeight: 46
 
-    implicitHeight: 46
+    implicitHeight: boxHeight
     radius: DarkUI.radiusCard
     color: DarkUI.cardFill
     edge: DarkUI.hairline

@@ -11,8 +11,13 @@ Plate {
     required property milestoneBadge badge
     required property list<color> colors
     property bool small: false // several in a row
+    readonly property real ringWidth: small ? 60 : 78
+    readonly property real ringDot: small ? 3 : 3.75
+    readonly property real ringDots: 6 // that lie beside the figure, by their halves
+    readonly property real smallestFigure: 10
+    readonly property real badgeHeight: small ? 128 : 168
 
-    implicitHeight: small ? 128 : 168
+    implicitHeight: badgeHeight
     radius: DarkUI.radiusCard
     color: DarkUI.cardFill
     edge: DarkUI.hairline
@@ -23,20 +28,20 @@ Plate {
         id: ring
         anchors.horizontalCenter: parent.horizontalCenter
         y: card.small ? DarkUI.space14 : DarkUI.space24
-        width: card.small ? 60 : 78
+        width: card.ringWidth
         height: width
-        dotRadius: card.small ? 3 : 3.75
+        dotRadius: card.ringDot
         colors: card.colors
         count: card.colors.length
 
         DarkText {
             anchors.centerIn: parent
-            width: ring.width - 6 * ring.dotRadius
+            width: ring.width - card.ringDots * ring.dotRadius
             horizontalAlignment: Text.AlignHCenter
             text: card.badge.hours
             role: card.small ? DarkUI.titleM : DarkUI.titleXL
             fontSizeMode: Text.HorizontalFit
-            minimumPixelSize: 10
+            minimumPixelSize: card.smallestFigure
             Accessible.ignored: true
         }
     }

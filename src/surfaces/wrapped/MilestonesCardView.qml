@@ -12,6 +12,8 @@ ReviewPage {
     readonly property int columns: count <= 4 ? 2 : count <= 9 ? 3 : 4
     readonly property real gap: DarkUI.space12
     readonly property real cellWidth: (width - (columns - 1) * gap) / columns
+    readonly property real sentenceWidth: 300
+    readonly property real gridPlace: 0.4 // of the room that it leaves, a little above the middle
 
     kicker: content.kicker
 
@@ -22,7 +24,7 @@ ReviewPage {
         order: 1
 
         DarkText {
-            width: 300
+            width: page.sentenceWidth
             text: page.content.sentence
             role: DarkUI.titleXL
             wrapMode: Text.Wrap
@@ -32,8 +34,7 @@ ReviewPage {
     Grid {
         id: grid
         readonly property real room: page.height - sentence.y - sentence.height - DarkUI.space24
-        // A little above the middle of the room.
-        y: page.height - room + Math.max(0, Math.round((room - height) * 0.4))
+        y: page.height - room + Math.max(0, Math.round((room - height) * page.gridPlace))
         columns: page.columns
         spacing: page.gap
 

@@ -11,6 +11,7 @@ ReviewPage {
     readonly property real room: foot.y - kickerHeight - DarkUI.space44
     // A sentence that is long for its page is set smaller.
     readonly property TypeRole role: measure.height <= room ? DarkUI.quotation : DarkUI.titleMQuiet
+    readonly property real sentencePlace: 0.45 // of the room that it leaves
 
     function escaped(words: string): string {
         return words.replace(/&/g, "&amp;").replace(/</g, "&lt;").replace(/>/g, "&gt;");
@@ -29,7 +30,8 @@ ReviewPage {
 
     CascadeIn {
         y: page.kickerHeight + Math.max(DarkUI.space20,
-                                        Math.round((foot.y - page.kickerHeight - height) * 0.45))
+                                        Math.round((foot.y - page.kickerHeight - height)
+                                                   * page.sentencePlace))
         animated: page.animated
         order: 1
 

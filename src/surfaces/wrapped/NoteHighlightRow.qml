@@ -11,6 +11,7 @@ Item {
     property int mostLines: 2
     property real gap: DarkUI.space12 // above the line below it
     property bool last: false
+    readonly property real dateRoom: 100
 
     implicitHeight: words.height + DarkUI.space4 + meta.height
                     + (last ? 0 : gap + DarkUI.hairlineWidth)
@@ -43,7 +44,7 @@ Item {
 
         DarkText {
             leftPadding: 1
-            width: Math.min(implicitWidth, row.width - 100)
+            width: Math.min(implicitWidth, row.width - row.dateRoom)
             text: row.note.skillName
             role: DarkUI.caption
             color: DarkUI.textTertiary

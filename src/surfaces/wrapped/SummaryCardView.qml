@@ -10,6 +10,7 @@ ReviewPage {
 
     readonly property summaryCard content: texts.summary
     readonly property sharePoster poster: texts.poster
+    readonly property real footWidth: 112
 
     kicker: content.title
 
@@ -75,7 +76,7 @@ ReviewPage {
 
         DarkText {
             anchors.verticalCenter: parent.verticalCenter
-            width: 112
+            width: page.footWidth
             text: page.content.foot
             role: DarkUI.caption
             color: DarkUI.textTertiary

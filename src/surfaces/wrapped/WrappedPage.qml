@@ -10,6 +10,7 @@ FocusScope {
 
     required property WrappedView model
     readonly property alias turning: stack.turning
+    readonly property real stackHeight: 514 // leaves room for the pager and for what sharing tells
 
     function turnToFirst(): void {
         stack.pass(() => {
@@ -66,13 +67,12 @@ FocusScope {
         onActivated: index => view.model.pickSegment(index)
     }
 
-    // What is below it is the pager's, and the room for what is told about sharing.
     PageStack {
         id: stack
         x: DarkUI.space36
         y: DarkUI.space64
         width: view.width - 2 * x
-        height: 514
+        height: view.stackHeight
         focus: true
         model: view.model
     }

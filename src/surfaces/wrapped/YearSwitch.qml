@@ -10,6 +10,8 @@ ArrowGroup {
 
     required property rhythmCard content
     property Item shown: null // of the segments
+    readonly property real wheelUnits: 8 // of a degree
+    readonly property real pixelsPerDegree: 3
     signal chosen(int year)
 
     onShownChanged: bringIntoSight(shown)
@@ -57,8 +59,10 @@ ArrowGroup {
             target: null
             onWheel: wheel => {
                 const pixels = wheel.pixelDelta.x + wheel.pixelDelta.y;
-                const degrees = (wheel.angleDelta.x + wheel.angleDelta.y) / 8;
-                picker.scrollTo(area.contentX - (pixels !== 0 ? pixels : degrees * 3));
+                const degrees = (wheel.angleDelta.x + wheel.angleDelta.y)
+                                / picker.wheelUnits;
+                picker.scrollTo(area.contentX - (pixels !== 0 ? pixels
+                                                              : degrees * picker.pixelsPerDegree));
             }
         }
 

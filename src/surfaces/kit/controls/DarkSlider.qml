@@ -17,6 +17,7 @@ KitControl {
     readonly property real position: Math.max(0, Math.min((value - minimumValue)
                                      / Math.max(maximumValue - minimumValue, 1e-9), 1))
     readonly property real keyStep: stepSize > 0 ? stepSize : (maximumValue - minimumValue) / 20
+    readonly property real pageSteps: 5 // that Page Up and Page Down go at once
     signal moved(real value)
 
     function ask(wanted: real): void {
@@ -55,10 +56,10 @@ KitControl {
             ask(value - keyStep);
             break;
         case Qt.Key_PageUp:
-            ask(value + 5 * keyStep);
+            ask(value + pageSteps * keyStep);
             break;
         case Qt.Key_PageDown:
-            ask(value - 5 * keyStep);
+            ask(value - pageSteps * keyStep);
             break;
         case Qt.Key_Home:
             ask(minimumValue);
