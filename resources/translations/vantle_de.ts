@@ -1234,14 +1234,6 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
         <translation>Alt+Super+B · aktiv</translation>
     </message>
     <message>
-        <source>%1 · active</source>
-        <translation>%1 · aktiv</translation>
-    </message>
-    <message>
-        <source>The desktop has not answered yet</source>
-        <translation>Der Desktop hat noch nicht geantwortet</translation>
-    </message>
-    <message>
         <source>⌥⌘B unavailable</source>
         <translation>Alt+Super+B nicht verfügbar</translation>
     </message>
@@ -2647,30 +2639,6 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
         <translation>Eine andere Taste tut es auch. Leg in den Tastatureinstellungen deines Desktops eine auf diesen Befehl:</translation>
     </message>
     <message>
-        <source>This desktop gives Vantle the shortcut only if you say so: set it up, or bind a key to this command:</source>
-        <translation>Dieser Desktop gibt Vantle die Tastenkombination nur, wenn du es sagst: Richte sie ein, oder leg eine Taste auf diesen Befehl:</translation>
-    </message>
-    <message>
-        <source>Your desktop&apos;s settings leave Vantle without keys. Choose some there, or bind a key to this command:</source>
-        <translation>Die Einstellungen deines Desktops lassen Vantle ohne Tasten. Wähl dort welche, oder leg eine Taste auf diesen Befehl:</translation>
-    </message>
-    <message>
-        <source>In this %1 no app can take keys by itself. In your desktop&apos;s keyboard settings, bind a key to this command, and it works over all apps:</source>
-        <translation>In dieser %1 kann sich keine App selbst Tasten nehmen. Leg in den Tastatureinstellungen deines Desktops eine Taste auf diesen Befehl, dann wirkt sie über allen Apps:</translation>
-    </message>
-    <message>
-        <source>Switch the shortcut off</source>
-        <translation>Tastenkombination abschalten</translation>
-    </message>
-    <message>
-        <source>Set up the shortcut</source>
-        <translation>Tastenkombination einrichten</translation>
-    </message>
-    <message>
-        <source>The shortcut doesn&apos;t work here yet. The settings say how it can.</source>
-        <translation>Die Tastenkombination wirkt hier noch nicht. Die Einstellungen sagen, wie sie es kann.</translation>
-    </message>
-    <message>
         <source>This desktop shows no tray, so there is no icon to click. Open Vantle from your applications once more, and its panel comes up.</source>
         <translation>Dieser Desktop zeigt keinen Systemabschnitt, also gibt es kein Symbol zum Anklicken. Öffne Vantle noch einmal aus deinen Anwendungen, dann erscheint sein Panel.</translation>
     </message>
@@ -2697,6 +2665,38 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     <message>
         <source>In this %1 a ceremony would catch every click while it plays, so none plays.</source>
         <translation>In dieser %1 finge eine Zeremonie jeden Klick ab, solange sie läuft, also läuft keine.</translation>
+    </message>
+    <message>
+        <source>This desktop gives Vantle the shortcut only if you say so: set it up, or bind a key to this command:</source>
+        <translation>Dieser Desktop gibt Vantle das Tastenkürzel nur, wenn du es erlaubst: Richte es ein oder leg eine Taste auf diesen Befehl:</translation>
+    </message>
+    <message>
+        <source>Your desktop&apos;s settings leave Vantle without keys. Choose some there, or bind a key to this command:</source>
+        <translation>In den Einstellungen deines Desktops hat Vantle keine Tasten. Wähl dort welche oder leg eine Taste auf diesen Befehl:</translation>
+    </message>
+    <message>
+        <source>In this %1 no app can take keys by itself. In your desktop&apos;s keyboard settings, bind a key to this command, and it works over all apps:</source>
+        <translation>In dieser %1 kann keine App selbst Tasten belegen. Leg in den Tastatureinstellungen deines Desktops eine Taste auf diesen Befehl, dann wirkt sie über allen Apps:</translation>
+    </message>
+    <message>
+        <source>Switch the shortcut off</source>
+        <translation>Tastenkürzel ausschalten</translation>
+    </message>
+    <message>
+        <source>Set up the shortcut</source>
+        <translation>Tastenkürzel einrichten</translation>
+    </message>
+    <message>
+        <source>%1 · active</source>
+        <translation>%1 · aktiv</translation>
+    </message>
+    <message>
+        <source>The desktop has not answered yet</source>
+        <translation>Der Desktop hat noch nicht geantwortet</translation>
+    </message>
+    <message>
+        <source>The shortcut doesn&apos;t work here yet. The settings say how it can.</source>
+        <translation>Das Tastenkürzel wirkt hier noch nicht. Die Einstellungen sagen, wie es gehen kann.</translation>
     </message>
 </context>
 <context>
