@@ -3,16 +3,22 @@
 //     vantle_gallery <folder> [scene...]     writes pictures, of all scenes when none is named
 //     vantle_gallery --show <scene>          opens one to be played with
 //     vantle_gallery --list
+//     vantle_gallery --pseudo <folder> [scene...]     pictures in the pseudo-locale
+//     vantle_gallery --texts [scene...]     tells what can't be read in the pseudo-locale, one line
+//                                           a fault: "scene: kind: text"
 //
 // Pictures are drawn at the scale that QT_SCALE_FACTOR says; above 1 only the scenes that ask for
 // it, into files named …@2x.png.
+#include "gallery/PseudoLocale.h"
 #include "gallery/Scenes.h"
 #include "gallery/Stage.h"
+#include "gallery/TextFaults.h"
 #include "launch/Catalogues.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QQuickWindow>
 
 #include <cstdio>
@@ -41,6 +47,18 @@ int play(const QString& name) {
     return fail(QStringLiteral("No scene is called %1").arg(name));
 }
 
+int tellFaults(const QStringList& wanted) {
+    for (const Scene& scene : allScenes()) {
+        if (!wanted.isEmpty() && !wanted.contains(scene.name)) continue;
+        Stage stage(scene, true);
+        if (!stage.error().isEmpty()) return fail(stage.error());
+        for (QString& fault : textFaults(stage.window()))
+            std::printf("%s: %s\n", qUtf8Printable(scene.name),
+                        qUtf8Printable(fault.replace(QLatin1Char('\n'), QLatin1Char(' '))));
+    }
+    return 0;
+}
+
 int draw(const QDir& folder, const QStringList& wanted) {
     int drawn = 0;
     for (const Scene& scene : allScenes()) {
@@ -61,15 +79,25 @@ int draw(const QDir& folder, const QStringList& wanted) {
     return 0;
 }
 
+int drawPseudo(const QStringList& arguments) {
+    PseudoLocale pseudo;
+    QCoreApplication::installTranslator(&pseudo);
+    if (arguments.first() == QLatin1String("--texts")) return tellFaults(arguments.mid(1));
+    return draw(QDir(arguments.value(1)), arguments.mid(2));
+}
+
 } // namespace
 } // namespace vantle
 
 int main(int argc, char** argv) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QGuiApplication application(argc, argv);
-    const vantle::Catalogues catalogues({});
+    const vantle::Catalogues catalogues(QLocale().uiLanguages());
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     if (arguments.isEmpty() || arguments.first() == QLatin1String("--list")) return vantle::list();
     if (arguments.first() == QLatin1String("--show")) return vantle::play(arguments.value(1));
+    if (arguments.first() == QLatin1String("--pseudo") ||
+        arguments.first() == QLatin1String("--texts"))
+        return vantle::drawPseudo(arguments);
     return vantle::draw(QDir(arguments.first()), arguments.mid(1));
 }
