@@ -2,6 +2,7 @@
 #include "review/stats/EarlierWeeks.h"
 #include "vectors/NeutralRecords.h"
 #include "vectors/NoteDigestJson.h"
+#include "vectors/ReviewTextsJson.h"
 #include "vectors/StatsJson.h"
 #include "vectors/forms.h"
 
@@ -103,14 +104,7 @@ QJsonObject inner(const WrappedStats& stats, const std::vector<Session>& session
 }
 
 QJsonValue compute(const QJsonObject& input) {
-    WrappedSettings settings;
-    settings.now = dateFromJson(input[QLatin1String("now")]);
-    settings.calendar = calendarFromJson(input[QLatin1String("calendar")]);
-    settings.skills = skillsFromJson(input[QLatin1String("skills")]);
-    settings.dailyGoalHours = input[QLatin1String("dailyGoalHours")].toDouble();
-    settings.durationStyle =
-        durationstyle::fromRawValue(input[QLatin1String("durationStyle")].toString())
-            .value_or(DurationStyle::Natural);
+    const WrappedSettings settings = reviewSettingsFromJson(input);
     const auto sessions = sessionsFromJson(input[QLatin1String("sessions")]);
     const auto period = wrappedperiod::fromId(input[QLatin1String("period")].toString()).value();
     const WrappedStats stats = WrappedStats::compute(sessions, period, settings);
