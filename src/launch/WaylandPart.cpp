@@ -1,11 +1,15 @@
 #include "base/Clock.h"
 #include "launch/PlatformParts.h"
+#include "platform/FirstFrontmostApp.h"
 #include "platform/FirstHotKey.h"
 #include "platform/FirstIdleSource.h"
+#include "platform/ReportedFrontmostApp.h"
 #include "platform/gnome/CustomKeyHotKey.h"
 #include "platform/gnome/MutterIdleSource.h"
 #include "platform/gnome/MutterScreenPower.h"
+#include "platform/gnome/ShellFrontmostApp.h"
 #include "platform/kde/KGlobalAccelHotKey.h"
+#include "platform/kde/KWinFrontmostApp.h"
 #include "platform/session/LateBus.h"
 #include "platform/session/PortalHotKey.h"
 #include "platform/wayland/LayerOverlayStage.h"
@@ -56,16 +60,18 @@ void addCompositor(Scheduler& scheduler, const Posix& posix, Display& display) {
     idle.push_back(std::make_unique<MutterIdleSource>(bus, compositor->clock));
     display.idleSource = std::make_unique<FirstIdleSource>(std::move(idle));
 
-    display.frontmostApp = std::make_unique<WaylandToplevels>(WaylandToplevels::Environment{
-        .connection = wayland,
-        .scheduler = scheduler,
-        .resolve =
-            [identify = posix.identify](const WindowHints& hints) {
-                // Not installed, the program has no entry to be found by.
-                return hints.windowClass == QCoreApplication::applicationName() ? ourselves()
-                                                                                : identify(hints);
-            },
-        .oursHasTheKeyboard = [] { return QGuiApplication::focusWindow() != nullptr; }});
+    const ReportedFrontmostApp::Reading reading{
+        .scheduler = scheduler, .resolve = posix.identify, .oursHasTheKeyboard = [] {
+            return QGuiApplication::focusWindow() != nullptr;
+        }};
+    std::vector<std::unique_ptr<FrontmostApp>> frontmost;
+    frontmost.reserve(4);
+    frontmost.push_back(std::make_unique<WaylandToplevels>(wayland, reading));
+    frontmost.push_back(std::make_unique<KWinFrontmostApp>(bus, reading));
+    frontmost.push_back(std::make_unique<ShellFrontmostApp>(
+        bus, QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation), reading));
+    frontmost.push_back(std::move(display.frontmostApp)); // of X11 windows alone
+    display.frontmostApp = std::make_unique<FirstFrontmostApp>(std::move(frontmost));
 
     std::vector<std::unique_ptr<ScreenPower>> power;
     power.reserve(3);

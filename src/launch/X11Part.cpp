@@ -36,23 +36,22 @@ Display makeX11(Scheduler& scheduler, const PlatformEvents& events, const Posix&
     endSilentlyWithServer();
     QObject::connect(&x11, &X11Connection::broken, &x11, [lost = events.displayLost] { lost(); });
     const XwaylandTraits xwayland = xwaylandTraits(x11);
-    // Xwayland sees only the input that goes to X11 windows, and calls the last X11 window active
-    // while the user works in another one. What it says of either is worse than nothing.
+    // Xwayland sees only the input that goes to X11 windows: a counter of that is worse than none.
     std::unique_ptr<IdleSource> idleSource = std::make_unique<NoIdleSource>();
-    std::unique_ptr<FrontmostApp> frontmostApp = std::make_unique<NoFrontmostApp>();
     // A grab would hear the keys over X11 windows alone.
     std::unique_ptr<HotKeyPort> hotKeyPort =
         std::make_unique<FirstHotKey>(std::vector<std::unique_ptr<OfferedHotKey>>());
     if (!xwayland.isXwayland) {
         idleSource = std::make_unique<X11IdleSource>(x11, server->clock);
-        frontmostApp = std::make_unique<X11FrontmostApp>(x11, scheduler, posix.identify);
         hotKeyPort = std::make_unique<X11HotKey>(x11, scheduler);
     }
     return {.connection = server,
             .compositor = nullptr,
             .isXwayland = xwayland.isXwayland,
             .idleSource = std::move(idleSource),
-            .frontmostApp = std::move(frontmostApp),
+            .frontmostApp = std::make_unique<X11FrontmostApp>(
+                x11, scheduler, posix.identify,
+                xwayland.isXwayland ? AppCoverage::Some : AppCoverage::All),
             .hotKeyPort = std::move(hotKeyPort),
             .screenPower = std::make_unique<X11ScreenPower>(x11, scheduler,
                                                             X11ScreenPower::powerManagement(x11)),

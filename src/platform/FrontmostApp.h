@@ -34,6 +34,15 @@ enum class AppCoverage {
     None, ///< the desktop can't tell at all
 };
 
+/// A part of the desktop that would tell more, once the user switches it on.
+enum class FrontmostHelp {
+    None,
+    Offered,
+    Asked,   ///< accepted; the desktop has not done it yet
+    Refused, ///< accepted, and the desktop did not do it
+    AtLogin, ///< installed since the user logged in: the desktop sees it at the next login
+};
+
 /// Tells which application has the keyboard, now and whenever that changes. Main thread, the
 /// signals included.
 class FrontmostApp : public QObject {
@@ -48,10 +57,15 @@ public:
     /// while no application is in front.
     [[nodiscard]] virtual AppCoverage coverage() const = 0;
 
+    [[nodiscard]] virtual FrontmostHelp help() const { return FrontmostHelp::None; }
+    /// Switches the help on, where it is offered or was refused. The user has pressed for it.
+    virtual void acceptHelp() {}
+
 Q_SIGNALS:
     /// Another application came to the front, or the same one again. Empty when none is in front.
     void activated(const std::optional<vantle::Application>& app);
     void coverageChanged();
+    void helpChanged();
 };
 
 } // namespace vantle

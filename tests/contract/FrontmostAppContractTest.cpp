@@ -2,6 +2,10 @@
 #include "contract/Contract.h"
 #include "fakes/FakeFrontmostApp.h"
 #include "fakes/VirtualTime.h"
+#include "platform/gnome/FakeShell.h"
+#include "platform/gnome/ShellFrontmostApp.h"
+#include "platform/kde/FakeKWin.h"
+#include "platform/kde/KWinFrontmostApp.h"
 #include "platform/wayland/FakeCompositor.h"
 #include "platform/wayland/WaylandToplevels.h"
 #include "platform/x11/OwnServer.h"
@@ -16,6 +20,15 @@ namespace vantle {
 namespace {
 
 QString q(const char* text) { return QString::fromUtf8(text); }
+
+ReportedFrontmostApp::Reading readingOf(Scheduler& scheduler) {
+    return {.scheduler = scheduler,
+            .resolve =
+                [](const WindowHints& hints) {
+                    return Application{hints.applicationId, hints.windowClass};
+                },
+            .oursHasTheKeyboard = [] { return false; }};
+}
 
 /// A desktop with windows, and what tells which of their applications is in front.
 class FrontmostWorld {
@@ -125,15 +138,80 @@ private:
     tests::FakeCompositor m_compositor;
     WaylandConnection m_connection{m_compositor.takeSocket()};
     fakes::VirtualTime m_time;
-    WaylandToplevels m_app{{.connection = m_connection,
-                            .scheduler = m_time,
-                            .resolve =
-                                [](const WindowHints& hints) {
-                                    return Application{hints.applicationId, hints.windowClass};
-                                },
-                            .oursHasTheKeyboard = [] { return false; }}};
+    WaylandToplevels m_app{m_connection, readingOf(m_time)};
     int m_window = -1;
 };
+
+/// `Version` of KDE's window manager.
+template <tests::KWinVersion Version>
+class KWinWorld final : public FrontmostWorld {
+public:
+    KWinWorld() {
+        m_kwin.appear();
+        EXPECT_TRUE(tests::await([this] { return m_app.coverage() == AppCoverage::All; }));
+    }
+    [[nodiscard]] FrontmostApp& app() override { return m_app; }
+    void bring(const char* id) override {
+        m_kwin.script()->activate(q(id));
+        EXPECT_TRUE(tests::await([&] {
+            const auto app = m_app.frontmost();
+            return app && app->bundleId == q(id);
+        }));
+    }
+    void leave() override {
+        m_kwin.script()->activate({});
+        EXPECT_TRUE(tests::await([this] { return m_time.timerCount() > 0; }));
+        m_time.advance(KWinFrontmostApp::noneIsBelievedAfter);
+    }
+    void lose() override {
+        m_kwin.disappear();
+        EXPECT_TRUE(tests::await([this] { return m_app.coverage() == AppCoverage::None; }));
+    }
+
+private:
+    tests::FakeKWin m_kwin{Version};
+    tests::BusClient m_session;
+    fakes::VirtualTime m_time;
+    KWinFrontmostApp m_app{m_session.bus(), readingOf(m_time)};
+};
+
+/// GNOME's shell with the extension on.
+class ShellWorld final : public FrontmostWorld {
+public:
+    ShellWorld() {
+        m_shell.appear();
+        report({});
+        EXPECT_TRUE(tests::await([this] { return m_app.coverage() == AppCoverage::All; }));
+    }
+    [[nodiscard]] FrontmostApp& app() override { return m_app; }
+    void bring(const char* id) override {
+        report(q(id));
+        EXPECT_TRUE(tests::await([&] {
+            const auto app = m_app.frontmost();
+            return app && app->bundleId == q(id);
+        }));
+    }
+    void leave() override {
+        report({});
+        EXPECT_TRUE(tests::await([this] { return m_time.timerCount() > 0; }));
+        m_time.advance(ShellFrontmostApp::noneIsBelievedAfter);
+    }
+    void lose() override {
+        m_shell.disappear();
+        EXPECT_TRUE(tests::await([this] { return m_app.coverage() == AppCoverage::None; }));
+    }
+
+private:
+    void report(const QString& id) { m_shell.report(m_session.bus().baseService(), id); }
+
+    tests::FakeShell m_shell;
+    tests::BusClient m_session;
+    fakes::VirtualTime m_time;
+    ShellFrontmostApp m_app{m_session.bus(), {}, readingOf(m_time)};
+};
+
+using KWin5World = KWinWorld<tests::KWinVersion::Five>;
+using KWin6World = KWinWorld<tests::KWinVersion::Six>;
 
 class FrontmostAppContract : public contract::Contract<FrontmostWorld> {
 protected:
@@ -154,7 +232,10 @@ protected:
 INSTANTIATE_TEST_SUITE_P(, FrontmostAppContract,
                          testing::Values(contract::maker<FrontmostWorld, FakeWorld>("Fake"),
                                          contract::maker<FrontmostWorld, X11World>("X11"),
-                                         contract::maker<FrontmostWorld, WaylandWorld>("Wayland")),
+                                         contract::maker<FrontmostWorld, WaylandWorld>("Wayland"),
+                                         contract::maker<FrontmostWorld, ShellWorld>("Shell"),
+                                         contract::maker<FrontmostWorld, KWin5World>("KWin5"),
+                                         contract::maker<FrontmostWorld, KWin6World>("KWin6")),
                          contract::kByName);
 
 TEST_P(FrontmostAppContract, NothingIsInFrontAtFirstThoughItCanTell) {

@@ -24,11 +24,19 @@ public:
         if (coverage == AppCoverage::None && application) activate(std::nullopt);
     }
 
+    [[nodiscard]] FrontmostHelp help() const override { return m_help; }
+    void acceptHelp() override { ++accepted; }
+    void setHelp(FrontmostHelp help) {
+        if (std::exchange(m_help, help) != help) Q_EMIT helpChanged();
+    }
+    int accepted = 0; ///< how often the user took the help
+
     /// In front now. A change by this way is told to nobody.
     std::optional<Application> application;
 
 private:
     AppCoverage m_coverage = AppCoverage::All;
+    FrontmostHelp m_help = FrontmostHelp::None;
 };
 
 } // namespace vantle::fakes

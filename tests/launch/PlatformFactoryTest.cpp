@@ -3,7 +3,9 @@
 
 #include "base/Scheduler.h"
 #include "platform/gnome/FakeCustomKeys.h"
+#include "platform/gnome/FakeShell.h"
 #include "platform/kde/FakeKGlobalAccel.h"
+#include "platform/kde/FakeKWin.h"
 #include "platform/session/FakeShortcutPortal.h"
 #include "support/Await.h"
 #include "support/EnvironmentVariable.h"
@@ -134,7 +136,7 @@ TEST_F(PlatformFactoryTest, XwaylandIsKnownWithoutAnyVariableOfTheSession) {
     runFor(200);
     EXPECT_FALSE(platform().idleSource.canTell()) << "Xwayland is asked for nothing it can't tell";
     EXPECT_FALSE(platform().idleSource.secondsSinceLastInput());
-    EXPECT_EQ(platform().frontmostApp.coverage(), AppCoverage::None);
+    EXPECT_EQ(platform().frontmostApp.coverage(), AppCoverage::Some) << "X11 windows alone";
     EXPECT_FALSE(platform().frontmostApp.frontmost());
     EXPECT_EQ(platform().overlayStage.isAvailable(), platform().panelHost.hasInputRegions());
 }
@@ -169,6 +171,63 @@ TEST_F(PlatformFactoryTest, BesideXwaylandTheFirstServiceOfTheSessionGivesTheSho
         EXPECT_EQ(kde.isHeld(), hasKde);
         EXPECT_FALSE(portal.isAsking());
         forget();
+    }
+}
+
+TEST_F(PlatformFactoryTest, XwaylandAloneTellsOfItsOwnWindowsAndOfNoOther) {
+    const WaylandSession session;
+    set("DISPLAY", session.display());
+    set("WAYLAND_DISPLAY", {});
+    EXPECT_EQ(platform().frontmostApp.coverage(), AppCoverage::Some);
+    QProcess own;
+    own.start(QStringLiteral("xterm"), {QStringLiteral("-e"), QStringLiteral("cat")});
+    EXPECT_TRUE(await([this] { return platform().frontmostApp.frontmost().has_value(); }));
+    QProcess other;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("WAYLAND_DISPLAY"), QString::fromUtf8(session.socket()));
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8")); // it ends without one
+    other.setProcessEnvironment(environment);
+    other.start(QStringLiteral("foot"), {QStringLiteral("cat")});
+    EXPECT_TRUE(await([this] { return !platform().frontmostApp.frontmost(); }));
+    for (QProcess* const process : {&own, &other}) {
+        process->kill();
+        process->waitForFinished();
+    }
+}
+
+TEST_F(PlatformFactoryTest, OfEachCombinationOfServicesTheFirstTellsTheApplicationInFront) {
+    const WaylandSession session;
+    set("DISPLAY", session.display());
+    for (const bool hasToplevels : {false, true}) {
+        set("WAYLAND_DISPLAY", hasToplevels ? session.socket() : QByteArray());
+        const PlatformOwner owner =
+            platformfactory::makePlatform(m_scheduler, {}, QProcessEnvironment());
+        FrontmostApp& front = owner.ports().frontmostApp;
+        for (unsigned services = 0; services < 4; ++services) {
+            SCOPED_TRACE(testing::Message() << hasToplevels << ' ' << services);
+            std::optional<FakeKWin> kwin;
+            std::optional<FakeShell> shell;
+            if ((services & 1U) != 0) {
+                kwin.emplace(KWinVersion::Six).appear();
+                ASSERT_TRUE(await([&] { return kwin->isScriptRunning(); }));
+                kwin->script()->activate(QStringLiteral("of-kwin"));
+            }
+            if ((services & 2U) != 0) {
+                shell.emplace().appear();
+                shell->report(QDBusConnection::sessionBus().baseService(),
+                              QStringLiteral("of-shell"));
+            }
+            const QString expected = hasToplevels ? QString()
+                                     : kwin       ? QStringLiteral("of-kwin")
+                                     : shell      ? QStringLiteral("of-shell")
+                                                  : QString();
+            EXPECT_TRUE(await([&] {
+                const auto app = front.frontmost();
+                return (app ? app->name : QString()) == expected &&
+                       front.coverage() ==
+                           (hasToplevels || services != 0 ? AppCoverage::All : AppCoverage::Some);
+            }));
+        }
     }
 }
 

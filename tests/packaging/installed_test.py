@@ -53,6 +53,9 @@ class Installed(unittest.TestCase):
             "bin/vantle", "bin/vantle-shortcuts",
             f"share/applications/{ID}.desktop",
             f"share/dbus-1/services/{ID}.service",
+            *(f"share/gnome-shell/extensions/{form}@vantle.local/{part}"
+              for form in ("frontmost", "frontmost-44")
+              for part in ("extension.js", "metadata.json")),
             "share/doc/vantle/changelog.gz", "share/doc/vantle/copyright",
             f"{icons}/scalable/apps/{ID}.svg", f"{icons}/symbolic/apps/{ID}-symbolic.svg",
             "share/man/man1/vantle.1.gz", "share/man/man1/vantle-shortcuts.1.gz",

@@ -25,6 +25,10 @@ public:
     FollowedService(const QDBusConnection& bus, QString name, QObject* parent = nullptr);
 
     [[nodiscard]] bool isThere() const { return !m_owner.isEmpty(); }
+    /// Whether the connection of that unique name has the service now.
+    [[nodiscard]] bool isOwnedBy(const QString& connection) const {
+        return isThere() && connection == m_owner;
+    }
 
     /// Asks the bus to start the service, where it knows how to.
     void start();

@@ -74,12 +74,13 @@ private:
     State m_state, m_next;
 };
 
-WaylandToplevels::WaylandToplevels(Environment environment) : m_env(std::move(environment)) {
-    auto* const connection = &m_env.connection;
-    connect(connection, &WaylandConnection::ready, this, &WaylandToplevels::choose);
-    connect(connection, &WaylandConnection::added, this, &WaylandToplevels::choose);
-    connect(connection, &WaylandConnection::broken, this, &WaylandToplevels::lose);
-    connect(connection, &WaylandConnection::removed, this, [this](std::uint32_t name) {
+WaylandToplevels::WaylandToplevels(WaylandConnection& connection, Reading reading)
+    : ReportedFrontmostApp(std::move(reading))
+    , m_connection(connection) {
+    connect(&m_connection, &WaylandConnection::ready, this, &WaylandToplevels::choose);
+    connect(&m_connection, &WaylandConnection::added, this, &WaylandToplevels::choose);
+    connect(&m_connection, &WaylandConnection::broken, this, &WaylandToplevels::lose);
+    connect(&m_connection, &WaylandConnection::removed, this, [this](std::uint32_t name) {
         if (m_manager != nullptr && name == m_managerName) lose();
     });
     choose();
@@ -87,14 +88,10 @@ WaylandToplevels::WaylandToplevels(Environment environment) : m_env(std::move(en
 
 WaylandToplevels::~WaylandToplevels() { release(); }
 
-AppCoverage WaylandToplevels::coverage() const {
-    return m_manager != nullptr ? AppCoverage::All : AppCoverage::None;
-}
-
 void WaylandToplevels::choose() {
-    if (m_manager != nullptr || !m_env.connection.isReady()) return;
+    if (m_manager != nullptr || !m_connection.isReady()) return;
     const auto& interface = zwlr_foreign_toplevel_manager_v1_interface;
-    const auto global = m_env.connection.global(interface.name);
+    const auto global = m_connection.global(interface.name);
     if (!global) return;
     static constexpr zwlr_foreign_toplevel_manager_v1_listener kListener{
         .toplevel =
@@ -106,20 +103,17 @@ void WaylandToplevels::choose() {
             [](void* data, zwlr_foreign_toplevel_manager_v1*) {
                 static_cast<WaylandToplevels*>(data)->lose();
             }};
-    m_manager =
-        m_env.connection.bind<zwlr_foreign_toplevel_manager_v1>(*global, interface, kNewest);
+    m_manager = m_connection.bind<zwlr_foreign_toplevel_manager_v1>(*global, interface, kNewest);
     m_managerName = global->name;
     zwlr_foreign_toplevel_manager_v1_add_listener(m_manager, &kListener, this);
-    m_env.connection.flush();
-    Q_EMIT coverageChanged();
+    m_connection.flush();
+    begin();
 }
 
 void WaylandToplevels::lose() {
     if (m_manager == nullptr) return;
     release();
-    m_none.reset();
-    adopt(std::nullopt);
-    Q_EMIT coverageChanged();
+    end();
 }
 
 void WaylandToplevels::release() {
@@ -140,29 +134,10 @@ void WaylandToplevels::remove(Toplevel* toplevel) {
 void WaylandToplevels::refresh() {
     const auto active = std::ranges::find_if(
         m_toplevels, [](const auto& toplevel) { return toplevel->state().isActivated; });
-    if (active == m_toplevels.end()) return waitForNone();
-    m_none.reset();
+    if (active == m_toplevels.end()) return reportNone();
     const QString& id = (*active)->state().id;
     // Of a window of X11 it is the class.
-    const WindowHints hints{
-        .applicationId = id, .windowClass = id, .instance = {}, .processId = {}};
-    adopt(isOurs(hints) ? ourselves() : m_env.resolve(hints));
-}
-
-void WaylandToplevels::waitForNone() {
-    if (!m_application || m_none) return;
-    m_none = m_env.scheduler.scheduleOnce(noneIsBelievedAfter, [this] {
-        m_none.reset();
-        if (m_env.oursHasTheKeyboard())
-            waitForNone();
-        else
-            adopt(std::nullopt);
-    });
-}
-
-void WaylandToplevels::adopt(std::optional<Application> application) {
-    const auto former = std::exchange(m_application, std::move(application));
-    if (!sameApplication(former, m_application)) Q_EMIT activated(m_application);
+    report({.applicationId = id, .windowClass = id, .instance = {}, .processId = {}});
 }
 
 } // namespace vantle

@@ -3,11 +3,12 @@
 namespace vantle {
 
 X11FrontmostApp::X11FrontmostApp(X11Connection& connection, Scheduler& scheduler,
-                                 IdentityResolver resolve)
+                                 IdentityResolver resolve, AppCoverage most)
     : m_connection(connection)
     , m_scheduler(scheduler)
     , m_reader(connection)
-    , m_resolve(std::move(resolve)) {
+    , m_resolve(std::move(resolve))
+    , m_most(most) {
     follow();
     refreshCoverage();
     refresh(); // nobody listens yet
@@ -92,7 +93,7 @@ bool X11FrontmostApp::oursHasTheKeyboard() {
 }
 
 void X11FrontmostApp::refreshCoverage() {
-    setCoverage(m_reader.tellsActiveWindow() ? AppCoverage::All : AppCoverage::None);
+    setCoverage(m_reader.tellsActiveWindow() ? m_most : AppCoverage::None);
 }
 
 void X11FrontmostApp::setCoverage(AppCoverage coverage) {

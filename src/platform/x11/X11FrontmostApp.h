@@ -17,20 +17,23 @@ namespace vantle {
 /// in front stays in front then. A dock, the desktop and a window that vanished while it was read
 /// are no application: nothing is in front. Only a change of application is told, not one of
 /// windows. Our own windows count as the application `local.vantle.Vantle`. Without a window
-/// manager that keeps the property, and without a server, nothing is in front.
+/// manager that keeps the property, and without a server, nothing is in front. Beside a Wayland
+/// compositor that is the property of its X11 windows, and "none" stands for each other one.
 class X11FrontmostApp final : public FrontmostApp {
     Q_OBJECT
 
 public:
     static constexpr Seconds noneIsBelievedAfter{0.1};
 
-    /// Both must outlive this.
-    X11FrontmostApp(X11Connection& connection, Scheduler& scheduler, IdentityResolver resolve);
+    /// Both must outlive this. `most` is what a window manager can tell here that keeps the
+    /// property.
+    X11FrontmostApp(X11Connection& connection, Scheduler& scheduler, IdentityResolver resolve,
+                    AppCoverage most = AppCoverage::All);
 
     /// Asks the server, which may know better than what it has told up to now. One round trip, a
     /// few where it does.
     [[nodiscard]] std::optional<Application> frontmost() override;
-    /// None without a window manager that keeps the property, else all.
+    /// None without a window manager that keeps the property.
     [[nodiscard]] AppCoverage coverage() const override { return m_coverage; }
 
 private:
@@ -49,6 +52,7 @@ private:
     Scheduler& m_scheduler;
     X11WindowReader m_reader;
     const IdentityResolver m_resolve;
+    const AppCoverage m_most;
     std::optional<Application> m_application;
     AppCoverage m_coverage = AppCoverage::None;
     xcb_window_t m_window = XCB_NONE; ///< the active one while it is followed

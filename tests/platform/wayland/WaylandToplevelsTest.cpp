@@ -37,8 +37,8 @@ protected:
     WaylandConnection m_connection{m_compositor.takeSocket()};
     fakes::VirtualTime m_time;
     bool m_oursHasTheKeyboard = false;
-    WaylandToplevels m_front{{.connection = m_connection,
-                              .scheduler = m_time,
+    WaylandToplevels m_front{m_connection,
+                             {.scheduler = m_time,
                               .resolve =
                                   [](const WindowHints& hints) {
                                       return Application{hints.applicationId, {}};

@@ -1,0 +1,119 @@
+#include "platform/kde/KWinFrontmostApp.h"
+
+#include <QDBusReply>
+#include <QDir>
+#include <QLatin1String>
+#include <QStandardPaths>
+#include <QStringList>
+#include <QTemporaryFile>
+
+#include <utility>
+
+namespace vantle {
+
+namespace {
+
+const QString kKWin = QStringLiteral("org.kde.KWin");
+const QString kScript = QStringLiteral("local.vantle.Frontmost"); // KWin's name for it
+const QString kReports = QStringLiteral("/local/vantle/Vantle/KWinFrontmost");
+
+// The texts of KWin 5 are byte arrays, hence String(). A window names its application before it is
+// activated or, some of X11, later. The desktop and the panels are windows, too.
+constexpr const char* kSource = R"(
+(function () {
+    const isSix = typeof workspace.windowActivated !== "undefined";
+    let followed = null;
+    function text(value) { return value === undefined || value === null ? "" : String(value); }
+    function report() {
+        const it = followed && !followed.desktopWindow && !followed.dock ? followed : {};
+        callDBus(service, path, "local.vantle.Frontmost", "report", text(it.desktopFileName),
+                 text(it.resourceClass), text(it.resourceName), text(it.pid));
+    }
+    function each(window, call) {
+        for (const name of ["desktopFileNameChanged", "windowClassChanged"])
+            if (window && window[name]) window[name][call](report);
+    }
+    function follow(window) {
+        each(followed, "disconnect");
+        followed = window;
+        each(followed, "connect");
+        report();
+    }
+    (isSix ? workspace.windowActivated : workspace.clientActivated).connect(follow);
+    follow(isSix ? workspace.activeWindow : workspace.activeClient);
+})();
+)";
+
+/// The script with whom it reports to: the connection, not its name, which another may have later.
+QByteArray sourceFor(const QString& service) {
+    return QStringLiteral("const service = \"%1\", path = \"%2\";")
+               .arg(service, kReports)
+               .toUtf8() +
+           kSource;
+}
+
+} // namespace
+
+KWinFrontmostApp::KWinFrontmostApp(const QDBusConnection& session, Reading reading)
+    : ReportedFrontmostApp(std::move(reading))
+    , m_session(session)
+    , m_kwin(session, kKWin)
+    , m_reports(session, kReports, [this](const QDBusMessage& call) { take(call); }) {
+    connect(&m_kwin, &FollowedService::came, this, &KWinFrontmostApp::meet);
+    connect(&m_kwin, &FollowedService::gone, this, [this] {
+        m_script.reset();
+        end();
+    });
+}
+
+KWinFrontmostApp::~KWinFrontmostApp() {
+    if (m_script) m_session.send(scripting(QStringLiteral("unloadScript")) << kScript);
+}
+
+QDBusMessage KWinFrontmostApp::scripting(const QString& method) const {
+    return m_kwin.call(QStringLiteral("/Scripting"), QStringLiteral("org.kde.kwin.Scripting"),
+                       method);
+}
+
+void KWinFrontmostApp::meet() {
+    const auto next = [this] { load(); };
+    m_kwin.ask<bool>(
+        scripting(QStringLiteral("unloadScript")) << kScript, [next](bool) { next(); }, next);
+}
+
+void KWinFrontmostApp::load() {
+    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    m_script = std::make_unique<QTemporaryFile>((runtime.isEmpty() ? QDir::tempPath() : runtime) +
+                                                QStringLiteral("/vantle-XXXXXX.js"));
+    if (!m_script->open() || m_script->write(sourceFor(m_session.baseService())) < 0) return;
+    m_script->close();
+    m_kwin.ask<int>(scripting(QStringLiteral("loadScript")) << m_script->fileName() << kScript,
+                    [this](int script) { run(script); });
+}
+
+void KWinFrontmostApp::run(int script) {
+    // The object of a script: one of these is KWin 6's, the other KWin 5's, and the wrong one is
+    // nobody's. What the script reports is the answer.
+    for (const auto* path : {"/Scripting/Script%1", "/%1"})
+        m_session.send(m_kwin.call(QString::fromLatin1(path).arg(script),
+                                   QStringLiteral("org.kde.kwin.Script"), QStringLiteral("run")));
+}
+
+void KWinFrontmostApp::take(const QDBusMessage& call) {
+    if (!m_kwin.isOwnedBy(call.service()) || call.signature() != QLatin1String("ssss")) return;
+    const QVariantList told = call.arguments();
+    bool hasProcess = false;
+    const qint64 process = told[3].toString().toLongLong(&hasProcess);
+    const WindowHints hints{.applicationId = told[0].toString(),
+                            .windowClass = told[1].toString(),
+                            .instance = told[2].toString(),
+                            .processId =
+                                hasProcess && process > 0 ? std::optional(process) : std::nullopt};
+    begin();
+    if (hints == WindowHints{})
+        reportNone();
+    else
+        report(hints);
+}
+
+} // namespace vantle

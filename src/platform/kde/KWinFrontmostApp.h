@@ -1,0 +1,43 @@
+// The application in front, from KDE's window manager.
+#pragma once
+
+#include "platform/ReportedFrontmostApp.h"
+#include "platform/bus/CalledObject.h"
+#include "platform/bus/FollowedService.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QString>
+
+#include <memory>
+
+class QTemporaryFile;
+
+namespace vantle {
+
+/// KWin 5 and 6 on the session bus. Its protocol for task bars is for Plasma alone, but it runs
+/// scripts of any program: one is loaded that reports each activated window to an object of this
+/// program, by what tells its application and nothing else. Only calls of KWin itself count. The
+/// script is unloaded with this object; one that a killed program left behind, before the next is
+/// loaded. KWin may come, go and come back. Nothing blocks. Main thread.
+class KWinFrontmostApp final : public ReportedFrontmostApp {
+    Q_OBJECT
+
+public:
+    KWinFrontmostApp(const QDBusConnection& session, Reading reading);
+    ~KWinFrontmostApp() override;
+
+private:
+    void meet();
+    void load();
+    void run(int script);
+    void take(const QDBusMessage& call);
+    [[nodiscard]] QDBusMessage scripting(const QString& method) const;
+
+    QDBusConnection m_session;
+    FollowedService m_kwin;
+    CalledObject m_reports;
+    std::unique_ptr<QTemporaryFile> m_script; ///< read by KWin when it runs it
+};
+
+} // namespace vantle
