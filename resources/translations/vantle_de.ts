@@ -861,6 +861,13 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
 </context>
 <context>
+    <name>SwitchRow</name>
+    <message>
+        <source>Done</source>
+        <translation>Erledigt</translation>
+    </message>
+</context>
+<context>
     <name>TagPromptView</name>
     <message>
         <source>Not now</source>
@@ -2653,6 +2660,34 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     <message>
         <source>This desktop doesn&apos;t tell Vantle which app is in front, so Auto mode has nothing to go by. Choose the category by hand.</source>
         <translation>Dieser Desktop sagt Vantle nicht, welche App vorn ist, also hat der Auto-Modus nichts, wonach er sich richten kann. Wähl die Kategorie von Hand.</translation>
+    </message>
+    <message>
+        <source>This desktop doesn&apos;t tell Vantle which app is in front, so Auto mode has nothing to go by.</source>
+        <translation>Dieser Desktop sagt Vantle nicht, welche App vorn ist, also hat der Auto-Modus nichts, wonach er sich richten kann.</translation>
+    </message>
+    <message>
+        <source>A small GNOME extension came with Vantle: it tells Vantle the name of the app in front, and nothing else.</source>
+        <translation>Eine kleine GNOME-Erweiterung kam mit Vantle: Sie sagt Vantle den Namen der App, die vorn ist, und sonst nichts.</translation>
+    </message>
+    <message>
+        <source>GNOME did not switch Vantle&apos;s extension on. Allow extensions in GNOME&apos;s Extensions app, and try again.</source>
+        <translation>GNOME hat die Erweiterung von Vantle nicht eingeschaltet. Erlaub Erweiterungen in GNOMEs App „Erweiterungen“ und versuch es noch einmal.</translation>
+    </message>
+    <message>
+        <source>A small GNOME extension came with Vantle since you logged in. Log out and in again, and you can switch it on here.</source>
+        <translation>Seit deiner Anmeldung kam eine kleine GNOME-Erweiterung mit Vantle. Meld dich ab und wieder an, dann kannst du sie hier einschalten.</translation>
+    </message>
+    <message>
+        <source>Switch the extension on</source>
+        <translation>Erweiterung einschalten</translation>
+    </message>
+    <message>
+        <source>Switching it on…</source>
+        <translation>Wird eingeschaltet …</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Noch einmal versuchen</translation>
     </message>
     <message>
         <source>This desktop doesn&apos;t tell Vantle which app is in front, so nothing starts on its own.</source>

@@ -20,6 +20,7 @@ DesktopGaps::DesktopGaps(Environment environment) : m_env(std::move(environment)
     connect(&m_env.idleSource, &IdleSource::canTellChanged, this, &DesktopGaps::autoModeChanged);
     connect(&m_env.frontmostApp, &FrontmostApp::coverageChanged, this,
             &DesktopGaps::autoModeChanged);
+    connect(&m_env.frontmostApp, &FrontmostApp::helpChanged, this, &DesktopGaps::autoModeChanged);
 }
 
 QString DesktopGaps::hotKeyAdvice() const {
@@ -78,18 +79,60 @@ QString DesktopGaps::idleAdvice() const {
 }
 
 QString DesktopGaps::autoModeAdvice() const {
+    const QString help = frontmostHelp();
     switch (m_env.frontmostApp.coverage()) {
     case AppCoverage::All:
         return {};
     case AppCoverage::Some:
         return Words::tr("This desktop tells Vantle about some apps only. In all others Auto mode "
-                         "does nothing, and time stays under the category it has.");
+                         "does nothing, and time stays under the category it has.") +
+               help;
     case AppCoverage::None:
-        return Words::tr("This desktop doesn't tell Vantle which app is in front, so Auto mode has "
-                         "nothing to go by. Choose the category by hand.");
+        return help.isEmpty()
+                   ? Words::tr("This desktop doesn't tell Vantle which app is in front, so Auto "
+                               "mode has nothing to go by. Choose the category by hand.")
+                   : Words::tr("This desktop doesn't tell Vantle which app is in front, so Auto "
+                               "mode has nothing to go by.") +
+                         help;
     }
     return {};
 }
+
+QString DesktopGaps::frontmostHelp() const {
+    const auto sentence = [](const QString& text) { return QLatin1Char(' ') + text; };
+    switch (m_env.frontmostApp.help()) {
+    case FrontmostHelp::None:
+        return {};
+    case FrontmostHelp::Offered:
+    case FrontmostHelp::Asked:
+        return sentence(Words::tr("A small GNOME extension came with Vantle: it tells Vantle the "
+                                  "name of the app in front, and nothing else."));
+    case FrontmostHelp::Refused:
+        return sentence(Words::tr("GNOME did not switch Vantle's extension on. Allow extensions in "
+                                  "GNOME's Extensions app, and try again."));
+    case FrontmostHelp::AtLogin:
+        return sentence(Words::tr("A small GNOME extension came with Vantle since you logged in. "
+                                  "Log out and in again, and you can switch it on here."));
+    }
+    return {};
+}
+
+QString DesktopGaps::autoModeRemedy() const {
+    switch (m_env.frontmostApp.help()) {
+    case FrontmostHelp::None:
+    case FrontmostHelp::AtLogin:
+        return {};
+    case FrontmostHelp::Offered:
+        return Words::tr("Switch the extension on");
+    case FrontmostHelp::Asked:
+        return Words::tr("Switching it on…");
+    case FrontmostHelp::Refused:
+        return Words::tr("Try again");
+    }
+    return {};
+}
+
+void DesktopGaps::applyAutoModeRemedy() { m_env.frontmostApp.acceptHelp(); }
 
 QString DesktopGaps::autoStartAdvice() const {
     if (m_env.frontmostApp.coverage() == AppCoverage::None)

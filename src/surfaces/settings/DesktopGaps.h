@@ -30,6 +30,8 @@ class DesktopGaps final : public QObject {
     Q_PROPERTY(QString trayAdvice READ trayAdvice NOTIFY trayChanged FINAL)
     /// What auto mode does not do, since the desktop tells of no application or only of some.
     Q_PROPERTY(QString autoModeAdvice READ autoModeAdvice NOTIFY autoModeChanged FINAL)
+    /// What a press does about it; empty where nothing can be done.
+    Q_PROPERTY(QString autoModeRemedy READ autoModeRemedy NOTIFY autoModeChanged FINAL)
     /// Why no session starts by itself.
     Q_PROPERTY(QString autoStartAdvice READ autoStartAdvice NOTIFY autoModeChanged FINAL)
     /// Why no ceremony plays.
@@ -41,7 +43,7 @@ public:
         HotKey& hotKey;
         const TrayItem& tray;
         const IdleSource& idleSource;
-        const FrontmostApp& frontmostApp;
+        FrontmostApp& frontmostApp;
         const OverlayStage& overlayStage;
         std::function<void(const QString& text)> copy; ///< puts it into the clipboard
     };
@@ -57,6 +59,8 @@ public:
     /// What stands in for the pause that an absence would bring.
     [[nodiscard]] QString idleAdvice() const;
     [[nodiscard]] QString autoModeAdvice() const;
+    [[nodiscard]] QString autoModeRemedy() const;
+    void applyAutoModeRemedy();
     [[nodiscard]] QString autoStartAdvice() const;
     [[nodiscard]] QString ceremonyAdvice() const;
 
@@ -68,6 +72,9 @@ Q_SIGNALS:
     void autoModeChanged();
 
 private:
+    /// What the help that the desktop has for auto mode would do, or why it does not.
+    [[nodiscard]] QString frontmostHelp() const;
+
     const Environment m_env;
     bool m_commandCopied = false;
 };

@@ -10,7 +10,7 @@
 namespace vantle {
 
 PreferenceRowModel::PreferenceRowModel(const Entry& entry, Preferences& preferences,
-                                       const DesktopGaps& gaps, QObject* parent)
+                                       DesktopGaps& gaps, QObject* parent)
     : QObject(parent)
     , m_entry(entry)
     , m_preferences(preferences)
@@ -32,6 +32,14 @@ QString PreferenceRowModel::caption() const {
 
 QString PreferenceRowModel::gap() const {
     return m_entry.gapReplacesCaption ? QString() : gapHere();
+}
+
+QString PreferenceRowModel::remedy() const {
+    return m_entry.remedy ? (m_gaps.*m_entry.remedy)() : QString();
+}
+
+void PreferenceRowModel::applyRemedy() {
+    if (m_entry.applyRemedy) (m_gaps.*m_entry.applyRemedy)();
 }
 
 QString PreferenceRowModel::gapHere() const {

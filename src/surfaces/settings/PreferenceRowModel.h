@@ -28,6 +28,8 @@ class PreferenceRowModel final : public QObject {
     Q_PROPERTY(QString note READ note CONSTANT FINAL)
     /// What this desktop lacks for it; empty for nothing.
     Q_PROPERTY(QString gap READ gap NOTIFY changed FINAL)
+    /// What a press does about the gap; empty where nothing can be done.
+    Q_PROPERTY(QString remedy READ remedy NOTIFY changed FINAL)
 
     /// Of a switch.
     Q_PROPERTY(bool on READ isOn WRITE setOn NOTIFY changed FINAL)
@@ -80,10 +82,12 @@ public:
         const char* note = "";
         QString (DesktopGaps::*gap)() const = nullptr;
         bool gapReplacesCaption = false;
+        QString (DesktopGaps::*remedy)() const = nullptr;
+        void (DesktopGaps::*applyRemedy)() = nullptr;
     };
 
     /// All of it must outlive the row.
-    PreferenceRowModel(const Entry& entry, Preferences& preferences, const DesktopGaps& gaps,
+    PreferenceRowModel(const Entry& entry, Preferences& preferences, DesktopGaps& gaps,
                        QObject* parent);
 
     [[nodiscard]] Section section() const { return m_entry.section; }
@@ -92,6 +96,8 @@ public:
     [[nodiscard]] QString caption() const;
     [[nodiscard]] QString note() const;
     [[nodiscard]] QString gap() const;
+    [[nodiscard]] QString remedy() const;
+    Q_INVOKABLE void applyRemedy();
 
     [[nodiscard]] bool isOn() const;
     void setOn(bool on);
@@ -122,7 +128,7 @@ private:
 
     const Entry& m_entry;
     Preferences& m_preferences;
-    const DesktopGaps& m_gaps;
+    DesktopGaps& m_gaps;
 };
 
 /// The rows of the settings that show one preference each, from the top.

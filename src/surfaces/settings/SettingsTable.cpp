@@ -82,7 +82,9 @@ QList<Entry> autoModeRows() {
          .note = QT_TRANSLATE_NOOP(
              "Words", "It reads only the app's name. No window titles, no tabs, no documents, "
                       "no screen. App names never leave this Mac."),
-         .gap = &DesktopGaps::autoModeAdvice},
+         .gap = &DesktopGaps::autoModeAdvice,
+         .remedy = &DesktopGaps::autoModeRemedy,
+         .applyRemedy = &DesktopGaps::applyAutoModeRemedy},
         {.section = PreferenceRowModel::AutoMode,
          .kind = PreferenceRowModel::Switch,
          .setting = OnOff{settings::autoStart},

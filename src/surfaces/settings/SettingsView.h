@@ -110,7 +110,7 @@ public:
         std::function<Result<>()> openShortcuts;         ///< opens the folder of shortcuts
         const TrayItem& tray;
         const IdleSource& idleSource;
-        const FrontmostApp& frontmostApp;
+        FrontmostApp& frontmostApp;
         const OverlayStage& overlayStage;
         std::function<void(const QString& text)> copy; ///< puts it into the clipboard
         /// Erases everything; empty on full success, else what the person is told.

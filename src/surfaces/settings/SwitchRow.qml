@@ -25,4 +25,22 @@ ToggleRow {
         width: parent.width
         text: row.preference.gap
     }
+
+    Column {
+        // Until the focus has moved on the button stays, and says what the press did.
+        visible: row.preference.remedy !== "" || remedy.activeFocus
+        topPadding: DarkUI.space8
+
+        DarkSecondaryButton {
+            id: remedy
+            text: row.preference.remedy !== "" ? row.preference.remedy : qsTr("Done")
+            role: DarkUI.captionMedium
+            Accessible.description: row.preference.gap
+            onClicked: row.preference.applyRemedy()
+
+            Announcer {
+                text: remedy.activeFocus && row.preference.remedy === "" ? remedy.text : ""
+            }
+        }
+    }
 }

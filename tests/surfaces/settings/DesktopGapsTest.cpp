@@ -78,6 +78,31 @@ TEST_F(DesktopGapsTest, WhereNoAppOrOnlySomeAreSeenInFrontItIsSaid) {
     EXPECT_EQ(view->gaps()->autoModeAdvice(), QString());
 }
 
+TEST_F(DesktopGapsTest, HelpForAutoModeSaysWhatItDoesOrWhyItDoesNot) {
+    frontmost.setCoverage(AppCoverage::Some);
+    frontmost.setHelp(FrontmostHelp::AtLogin);
+    open();
+    const DesktopGaps& gaps = *view->gaps();
+    EXPECT_TRUE(gaps.autoModeAdvice().startsWith(text("This desktop tells Vantle about some")));
+    EXPECT_TRUE(gaps.autoModeAdvice().endsWith(
+        text("Log out and in again, and you can switch it on here.")));
+    EXPECT_EQ(gaps.autoModeRemedy(), QString());
+    int times = 0;
+    QObject::connect(&row("Auto mode"), &PreferenceRowModel::changed, [&] { ++times; });
+    frontmost.setHelp(FrontmostHelp::Offered);
+    EXPECT_EQ(times, 1);
+    EXPECT_EQ(row("Auto mode").remedy(), text("Switch the extension on"));
+    row("Auto mode").applyRemedy();
+    EXPECT_EQ(frontmost.accepted, 1);
+    frontmost.setHelp(FrontmostHelp::Asked);
+    EXPECT_EQ(gaps.autoModeRemedy(), text("Switching it on…"));
+    frontmost.setHelp(FrontmostHelp::Refused);
+    EXPECT_EQ(gaps.autoModeRemedy(), text("Try again"));
+    EXPECT_TRUE(gaps.autoModeAdvice().endsWith(
+        text("Allow extensions in GNOME's Extensions app, and try again.")));
+    EXPECT_EQ(row("Start sessions").remedy(), QString());
+}
+
 TEST_F(DesktopGapsTest, AShortcutOfSomebodyElseLeavesTheCommand) {
     hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};
     open();
