@@ -1,0 +1,133 @@
+"""What is played in each Wayland session: one entry a column of its table.
+
+As in checks.py: a check returns when what it is about holds, fails by an AssertionError that says
+what the user sees, and by `NotHere` where the session has no such thing at all. Each starts with
+the native window in front, no session and no card.
+"""
+
+import time
+
+from checks import NotHere, expect
+from scene import CARD
+from wayland_scene import SETTINGS
+from wayland_sessions import HEIGHT, WIDTH
+
+from harness.bus import activate_action  # noqa: E402
+from harness.records import epoch  # noqa: E402
+from harness.waiting import wait_until  # noqa: E402
+
+DWELL = 45  # seconds in another application until a session follows it
+MIDDLE = WIDTH // 2
+
+
+def away_cut_out(scene):
+    """Silence pauses back to the last key into a native window, and a key resumes."""
+    scene.begin()
+    scene.work(3)
+    last_input = time.time()
+    paused = scene.vantle.await_next_marker(scene.THRESHOLD + 20)
+    off = abs(epoch(paused["lastSeenAt"]) - last_input)
+    expect(off <= 2.5, f"counting stopped {off:.1f} s beside the last input")
+    scene.desktop.type("w")
+    scene.vantle.await_next_marker(14)
+    record = scene.end()
+    cut = epoch(record["endedAt"]) - epoch(record["startedAt"]) - record["activeSeconds"]
+    expect(cut >= scene.THRESHOLD - 1, f"only {cut:.0f} s are cut out")
+
+
+def typing_counted(scene):
+    """Who types into a native window is never away."""
+    scene.work(1)  # a user who starts a session is there
+    scene.begin()
+    began = time.monotonic()
+    scene.work(2.5 * scene.THRESHOLD)
+    worked = time.monotonic() - began
+    counted = scene.end()["activeSeconds"]
+    expect(counted >= worked - 1, f"{counted} of {worked:.0f} s are counted")
+
+
+def application_in_front(scene):
+    """Work in a native application is filed under its skill."""
+    scene.install_application("gimp", "painter")
+    if hasattr(scene.session.kind, "EXTENSION"):
+        _switch_extension_on(scene)
+    scene.begin()
+    painter, _ = scene.open_native_window("painter")
+    before = len(scene.vantle.sessions())
+    try:
+        scene.work(DWELL + 8)
+        expect(len(scene.vantle.sessions()) > before, "the session stays where it was")
+        skill = scene.vantle.marker()["skillId"]
+        expect(skill == "product_design", f"it goes on under {skill}")
+    finally:
+        painter.terminate()
+        time.sleep(1)
+
+
+def _switch_extension_on(scene):
+    """By the button in the settings, which Tab leads to."""
+    activate_action(scene.inside, "settings")
+    scene.reader.window(SETTINGS)
+    for _ in range(20):
+        scene.desktop.press("Tab")
+        time.sleep(0.5)
+        focused = [one.name for one in scene.reader.window(SETTINGS).all()
+                   if "focused" in one.states]
+        if "Switch the extension on" in focused:
+            break
+    else:
+        raise AssertionError("Tab leads to no button that switches the extension on")
+    scene.desktop.screenshot("extension-offered")
+    scene.desktop.press("space")
+    wait_until("the button to say so", lambda: "Done" in [
+        one.name for one in scene.reader.window(SETTINGS).all() if "focused" in one.states])
+    scene.desktop.screenshot("extension-on")
+    scene.desktop.press("ctrl+w")
+    wait_until("no window", lambda: not scene.frames(SETTINGS))
+
+
+def clicks_at_rest(scene):
+    """Presses around the resting capsule reach the native window."""
+    wait_until("the capsule at rest",
+               lambda: all(height <= 10 for *_, height in scene.frames("Vantle Capsule")))
+    for x, y in ((MIDDLE, 60), (MIDDLE - 200, 20), (MIDDLE + 200, 150)):
+        before = scene.got().count("press")
+        scene.click(x, y)
+        expect(scene.got().count("press") > before, f"the press at {x}, {y} is swallowed")
+
+
+def keys_beside_card(scene):
+    """The card after a session takes no keys from the native window."""
+    scene.begin()
+    time.sleep(3)  # until a ceremony is over
+    scene.end()
+    wait_until("the card", lambda: scene.frames(CARD))
+    before = scene.got().count("key m")
+    scene.desktop.type("mmm")
+    time.sleep(0.5)
+    expect(scene.got().count("key m") == before + 3, "the keys do not arrive")
+    scene.desktop.screenshot("card")
+
+
+def press_through_ceremony(scene):
+    """A press lands in the native window while the ceremony plays."""
+    place = MIDDLE - 100, HEIGHT // 2 - 100, 200, 200
+    calm = list(scene.desktop.picture(*place).pixels())
+    scene.toggle()
+    end = time.monotonic() + 2
+    while list(scene.desktop.picture(*place).pixels()) == calm:
+        if time.monotonic() > end:
+            raise NotHere("none plays: it would catch every click")
+    before = scene.got().count("press")
+    scene.click(300, 600)
+    expect(scene.got().count("press") > before, "the ceremony swallows the press")
+
+
+CHECKS = {
+    "away cut out": away_cut_out,
+    "typing counted": typing_counted,
+    "application in front": application_in_front,
+    "clicks at rest": clicks_at_rest,
+    "keys beside a card": keys_beside_card,
+    "press through the ceremony": press_through_ceremony,
+}
