@@ -3,6 +3,7 @@
 #include "Comparison.h"
 #include "base/RandomSource.h"
 #include "ceremony/show/CeremonyFrameRenderer.h"
+#include "ceremony/show/FieldStretch.h"
 
 #include <algorithm>
 #include <cstring>
@@ -113,6 +114,29 @@ void construction(benchmark::State& state, CeremonyVariant variant, const Goal& 
         clearFrame);
 }
 
+/// The frame over a screen of 3840 x 2160; the bound is a memset of that.
+void stretchOverLargeScreen(benchmark::State& state, const Goal& goal) {
+    constexpr QSize kLarge(3840, 2160);
+    SystemRandom random;
+    CeremonyFrameRenderer renderer(
+        CeremonyGridModel::build(CeremonyVariant::Nova, kLarge, kSkill, random), PixelOrder::Bgra);
+    renderer.fillField(0.62);
+    const QSize size(renderer.bufferWidth(), renderer.bufferHeight());
+    QImage window(kLarge, QImage::Format_ARGB32_Premultiplied);
+    window.fill(Qt::transparent);
+    FieldStretch stretch;
+    compareComputing(
+        state, goal,
+        [&] {
+            stretch.stretch(renderer.fieldBuffer(), size, renderer.bufferScale(), {}, window);
+            benchmark::ClobberMemory();
+        },
+        [&] {
+            std::memset(window.bits(), 1, static_cast<std::size_t>(window.sizeInBytes()));
+            benchmark::ClobberMemory();
+        });
+}
+
 template <typename Function>
 void add(const char* what, CeremonyVariant variant, Function function, const Goal& goal) {
     const std::string name = ceremonyvariant::name(variant).data() + std::string(": ") + what;
@@ -131,6 +155,11 @@ void add(const char* what, CeremonyVariant variant, Function function, const Goa
         add("model and renderer", variant, construction,
             {Goal::Kind::NanosecondsEach, 12 * kMillisecond, 1});
     }
+    benchmark::RegisterBenchmark("ceremony: a frame over 3840 x 2160", stretchOverLargeScreen,
+                                 Goal{Goal::Kind::Ratio, 2.5, 1})
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(60);
     return true;
 }();
 
