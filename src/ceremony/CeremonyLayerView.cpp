@@ -18,13 +18,25 @@ constexpr double kCaptionHeight = 46;
 /// Corner radius of the title pill, in points.
 constexpr double kPillRadius = 20;
 
-QRectF centredAt(QPointF centre, QSizeF size) {
-    return {centre - QPointF(size.width(), size.height()) / 2, size};
+QPointF titleCentre(const CeremonyFrameRenderer& renderer, QSizeF size, Seconds t) {
+    return {size.width() / 2, size.height() / 2 - renderer.titleRise(t.count())};
 }
 
-QRectF titleRect(const CeremonyFrameRenderer& renderer, QSize size, Seconds t) {
-    const QPointF centre(size.width() / 2.0, size.height() / 2.0 - renderer.titleRise(t.count()));
-    return centredAt(centre, renderer.model().titleSize);
+QImage scaled(const QImage& image, QSizeF size, double ratio) {
+    const QSize pixels = (size * ratio).toSize();
+    if (image.isNull() || image.size() == pixels) return image;
+    return image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+/// The same memory with a pixel a point.
+QImage pixelsOf(QImage& frame) {
+    return {frame.bits(), frame.width(), frame.height(), frame.bytesPerLine(), frame.format()};
+}
+
+/// On whole pixels, where the painter copies instead of stretching.
+void drawAround(QPainter& painter, QPointF centre, const QImage& image) {
+    painter.drawImage((centre - QRectF(image.rect()).center()).toPoint(), image);
 }
 
 /// The moment whose title shows at `t` where the title is all there is.
@@ -40,54 +52,60 @@ CeremonyLayerView::~CeremonyLayerView() = default;
 
 Seconds CeremonyLayerView::endTime() const { return Seconds(CeremonyGridModel::endTime); }
 
-void CeremonyLayerView::paint(QPainter& painter, QSize size, Seconds t) {
-    if (t < Seconds::zero() || t >= endTime()) return;
-    m_renderer->fillField(t.count());
-    const auto shake = m_renderer->shakeOffset(t.count());
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.translate(shake.dx, shake.dy);
-    paintField(painter);
-    paintTitle(painter, size, t);
+void CeremonyLayerView::scaleWords(double ratio) {
+    if (m_words.ratio == ratio) return;
     const CeremonyGridModel& model = m_renderer->model();
+    m_words = {ratio, scaled(model.titleImage, model.titleSize, ratio),
+               scaled(model.captionImage, model.captionSize, ratio)};
+    m_words.title.setDevicePixelRatio(1);
+    m_words.caption.setDevicePixelRatio(1);
+}
+
+void CeremonyLayerView::paint(QImage& frame, Seconds t) {
+    if (t < Seconds::zero() || t >= endTime()) return frame.fill(Qt::transparent);
+    m_renderer->fillField(t.count());
+    const auto offset = m_renderer->shakeOffset(t.count());
+    const QPointF shake(offset.dx, offset.dy);
+    const double ratio = frame.devicePixelRatio();
+    m_stretch.stretch(m_renderer->fieldBuffer(),
+                      QSize(m_renderer->bufferWidth(), m_renderer->bufferHeight()),
+                      m_renderer->bufferScale() * ratio, shake * ratio, frame);
+    scaleWords(ratio);
+    const QSizeF size = frame.deviceIndependentSize();
+    QImage pixels = pixelsOf(frame);
+    QPainter painter(&pixels);
+    paintTitle(painter, size, shake, t);
     if (const double opacity = m_renderer->captionOpacity(t.count()); opacity > 0) {
         painter.setOpacity(opacity);
-        const QPointF centre(size.width() / 2.0, size.height() - kCaptionHeight);
-        painter.drawImage(centredAt(centre, model.captionSize), model.captionImage);
+        const QPointF centre(size.width() / 2, size.height() - kCaptionHeight);
+        drawAround(painter, (centre + shake) * ratio, m_words.caption);
     }
 }
 
-void CeremonyLayerView::paintSolid(QPainter& painter, QSize size, Seconds t) {
+void CeremonyLayerView::paintSolid(QImage& frame, Seconds t) {
+    frame.fill(Qt::transparent);
     if (t < Seconds::zero() || t >= endTime()) return;
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    paintTitle(painter, size, solidTime(t));
+    scaleWords(frame.devicePixelRatio());
+    QImage pixels = pixelsOf(frame);
+    QPainter painter(&pixels);
+    paintTitle(painter, frame.deviceIndependentSize(), {}, solidTime(t));
 }
 
-void CeremonyLayerView::paintTitle(QPainter& painter, QSize size, Seconds t) {
+void CeremonyLayerView::paintTitle(QPainter& painter, QSizeF size, QPointF shake, Seconds t) const {
     const double opacity = m_renderer->titleOpacity(t.count());
     if (opacity <= 0) return;
     painter.setOpacity(opacity);
-    painter.drawImage(titleRect(*m_renderer, size, t), m_renderer->model().titleImage);
-}
-
-void CeremonyLayerView::paintField(QPainter& painter) {
-    const int width = m_renderer->bufferWidth();
-    const int height = m_renderer->bufferHeight();
-    // Wraps the buffer without a copy.
-    const QImage field(reinterpret_cast<const uchar*>(m_renderer->fieldBuffer().data()), width,
-                       height, qsizetype{width} * 4, QImage::Format_ARGB32_Premultiplied);
-    const double scale = m_renderer->bufferScale();
-    // The ground is clear, so there is nothing to blend with, which is a good deal cheaper.
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.drawImage(QRectF(0, 0, width * scale, height * scale), field);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    drawAround(painter, (titleCentre(*m_renderer, size, t) + shake) * m_words.ratio, m_words.title);
 }
 
 QRegion CeremonyLayerView::solidPart(QSize size, Seconds t) const {
     const Seconds shown = solidTime(t);
     if (t < Seconds::zero() || m_renderer->titleOpacity(shown.count()) <= 0) return {};
-    const QRect pill = titleRect(*m_renderer, size, shown).toRect();
+    const QSizeF title = m_renderer->model().titleSize;
+    QRectF pill({}, title);
+    pill.moveCenter(titleCentre(*m_renderer, size, shown));
     QPainterPath outline;
-    outline.addRoundedRect(pill, kPillRadius, kPillRadius);
+    outline.addRoundedRect(pill.toRect(), kPillRadius, kPillRadius);
     return QRegion(outline.toFillPolygon().toPolygon());
 }
 

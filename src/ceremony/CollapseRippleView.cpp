@@ -22,9 +22,12 @@ std::optional<CollapseRippleView::Ring> CollapseRippleView::ringAt(QSizeF size, 
     return Ring{(1 - p * p) * reach, 2.5, (0.7 * p + 0.3) * 0.5};
 }
 
-void CollapseRippleView::paint(QPainter& painter, QSize size, Seconds t) {
+void CollapseRippleView::paint(QImage& picture, Seconds t) {
+    picture.fill(Qt::transparent);
+    const QSizeF size = picture.deviceIndependentSize();
     const auto ring = ringAt(size, t);
     if (!ring || !ring->isDrawn()) return;
+    QPainter painter(&picture);
     QColor color = QColor::fromRgb(m_accent);
     color.setAlphaF(static_cast<float>(ring->opacity));
     painter.setRenderHint(QPainter::Antialiasing);

@@ -28,7 +28,7 @@ public:
     CollapseRippleView(Date start, std::uint32_t accent) : OverlayView(start), m_accent(accent) {}
 
     [[nodiscard]] Seconds endTime() const override { return duration; }
-    void paint(QPainter& painter, QSize size, Seconds t) override;
+    void paint(QImage& picture, Seconds t) override;
     [[nodiscard]] QRegion solidPart(QSize size, Seconds t) const override;
 
 private:

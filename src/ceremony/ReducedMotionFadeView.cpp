@@ -15,11 +15,12 @@ std::optional<ReducedMotionFadeView::Frame> ReducedMotionFadeView::frameAt(Secon
     return Frame{f, 0.9 * f, 220};
 }
 
-void ReducedMotionFadeView::paint(QPainter& painter, QSize size, Seconds t) {
+void ReducedMotionFadeView::paint(QImage& picture, Seconds t) {
     const auto frame = frameAt(t);
-    if (!frame) return;
-    painter.fillRect(QRect(QPoint(), size), QColor::fromRgbF(0, 0, 0, float(frame->black)));
-    const QPointF centre = QRectF(QPointF(), size).center();
+    if (!frame) return picture.fill(Qt::transparent);
+    picture.fill(QColor::fromRgbF(0, 0, 0, float(frame->black)));
+    QPainter painter(&picture);
+    const QPointF centre = QRectF(QPointF(), picture.deviceIndependentSize()).center();
     QColor color = QColor::fromRgb(m_accent);
     QRadialGradient glow(centre, frame->radius);
     color.setAlphaF(static_cast<float>(frame->centre));

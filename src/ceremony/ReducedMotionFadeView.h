@@ -28,7 +28,7 @@ public:
         , m_accent(accent) {}
 
     [[nodiscard]] Seconds endTime() const override { return duration; }
-    void paint(QPainter& painter, QSize size, Seconds t) override;
+    void paint(QImage& picture, Seconds t) override;
     /// Nothing: a fade is all transparency.
     [[nodiscard]] QRegion solidPart(QSize, Seconds) const override { return {}; }
 

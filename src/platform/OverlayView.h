@@ -3,10 +3,9 @@
 
 #include "base/Date.h"
 
+#include <QImage>
 #include <QRegion>
 #include <QSize>
-
-class QPainter;
 
 namespace vantle {
 
@@ -25,11 +24,12 @@ public:
     /// From this time on nothing shows any more.
     [[nodiscard]] virtual Seconds endTime() const = 0;
 
-    /// Draws the moment onto a clear ground of that size. Nothing outside of 0 up to the end.
-    virtual void paint(QPainter& painter, QSize size, Seconds t) = 0;
+    /// Writes the moment over all of `frame`, whatever that holds: Format_ARGB32_Premultiplied,
+    /// with as many pixels a point as its devicePixelRatio. All clear outside of 0 up to the end.
+    virtual void paint(QImage& frame, Seconds t) = 0;
 
-    /// Draws the moment where no window can be see-through; only solidPart() of it can be seen.
-    virtual void paintSolid(QPainter& painter, QSize size, Seconds t) { paint(painter, size, t); }
+    /// Writes the moment where no window can be see-through; only solidPart() of it can be seen.
+    virtual void paintSolid(QImage& frame, Seconds t) { paint(frame, t); }
 
     /// The part of the screen that can be shown where no window can be see-through. Outside of it
     /// the window must not be; empty means that there is nothing to show.

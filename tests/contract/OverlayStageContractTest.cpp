@@ -9,7 +9,7 @@
 #include "platform/wayland/LayerOverlayStage.h"
 #include "support/Await.h"
 
-#include <QPainter>
+#include <QImage>
 
 #include <algorithm>
 #include <functional>
@@ -35,7 +35,10 @@ public:
     SeenView& operator=(const SeenView&) = delete;
 
     [[nodiscard]] Seconds endTime() const override { return kEnd; }
-    void paint(QPainter&, QSize size, Seconds) override { m_seen.painted = size; }
+    void paint(QImage& frame, Seconds) override {
+        frame.fill(Qt::transparent);
+        m_seen.painted = frame.deviceIndependentSize().toSize();
+    }
     [[nodiscard]] QRegion solidPart(QSize, Seconds) const override { return {}; }
 
 private:

@@ -6,6 +6,7 @@
 #include "platform/session/QtOverlayWindow.h"
 
 #include <algorithm>
+#include <ctime>
 #include <vector>
 
 namespace vantle {
@@ -13,6 +14,17 @@ namespace vantle {
 namespace {
 
 constexpr Seconds kFrame{1.0 / 60};
+/// Where a frame takes too long: every second one, on purpose, instead of one now and one then.
+constexpr Seconds kSlowFrame{1.0 / 30};
+/// Of a frame on all screens. What is left is for the display server, which has as much to do.
+constexpr Seconds kBudget{0.014};
+
+/// Of this thread: what else the machine does would make every show a slow one.
+Seconds processorTime() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return Seconds(static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec));
+}
 
 } // namespace
 
@@ -24,21 +36,27 @@ public:
     void add(QtOverlayWindow& window) {
         m_windows.push_back(&window);
         window.refresh();
-        if (m_frames) return;
-        m_frames = m_scheduler.scheduleRepeatingTimer(kFrame, Seconds::zero(), [this] { step(); });
+        if (!m_frames) play(kFrame);
     }
     void remove(QtOverlayWindow& window) { std::erase(m_windows, &window); }
 
 private:
+    void play(Seconds frame) {
+        m_frames = m_scheduler.scheduleRepeatingTimer(frame, Seconds::zero(), [this] { step(); });
+    }
     void step() {
+        const Seconds began = processorTime();
         for (QtOverlayWindow* window : m_windows)
             window->refresh();
-        if (std::ranges::all_of(m_windows, &QtOverlayWindow::isOver)) m_frames.reset();
+        if (std::ranges::all_of(m_windows, &QtOverlayWindow::isOver)) return m_frames.reset();
+        m_late = processorTime() - began > kBudget ? m_late + 1 : 0;
+        if (m_late == 2) play(kSlowFrame);
     }
 
     Scheduler& m_scheduler;
     std::vector<QtOverlayWindow*> m_windows;
     TimerHandle m_frames;
+    int m_late = 0; ///< frames in a row that took more than the budget
 };
 
 class QtOverlayStage::Place final : public OverlayWindow {

@@ -12,9 +12,9 @@ class PanelHost;
 class Scheduler;
 class Screens;
 
-/// Up to 60 frames a second while a show runs and none otherwise. Without a compositor a
-/// translucent window is opaque black: there it is cut down to the solid part of its view, and to
-/// nothing where that is empty.
+/// Up to 60 frames a second while a show runs, 30 from the moment that two in a row take too long,
+/// and none otherwise. Without a compositor a translucent window is opaque black: there it is cut
+/// down to the solid part of its view, and to nothing where that is empty.
 class QtOverlayStage final : public OverlayStage {
 public:
     /// All must outlive this.

@@ -5,6 +5,7 @@
 #include "platform/Screens.h"
 #include "platform/WholeScreen.h"
 
+#include <QImage>
 #include <QPainter>
 
 namespace vantle {
@@ -30,7 +31,7 @@ void QtOverlayWindow::refresh() {
     if (elapsed() >= m_view->endTime()) return end();
     if (!takeShape()) return hide();
     show();
-    update();
+    draw();
 }
 
 /// Limits the window to what can be shown. False when that is nothing.
@@ -45,18 +46,42 @@ bool QtOverlayWindow::takeShape() {
     return true;
 }
 
-void QtOverlayWindow::paintEvent(QPaintEvent*) {
-    if (isOver()) return;
-    QPainter painter(this);
+void QtOverlayWindow::exposeEvent(QExposeEvent*) { draw(); }
+
+void QtOverlayWindow::draw() {
+    if (isOver() || !isExposed()) return;
+    if (!m_store) m_store = std::make_unique<QBackingStore>(this);
+    if (m_store->size() != size()) m_store->resize(size());
+    // What is named here is blanked before; all of it is written anyway.
+    m_store->beginPaint(QRect(0, 0, 1, 1));
+    QPaintDevice& device = *m_store->paintDevice();
+    auto* const picture =
+        device.devType() == QInternal::Image ? static_cast<QImage*>(&device) : nullptr;
+    if (picture != nullptr && picture->format() == QImage::Format_ARGB32_Premultiplied) {
+        write(*picture);
+    } else {
+        QImage frame(size() * devicePixelRatio(), QImage::Format_ARGB32_Premultiplied);
+        frame.setDevicePixelRatio(devicePixelRatio());
+        write(frame);
+        QPainter painter(&device);
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        painter.drawImage(QPointF(), frame);
+    }
+    m_store->endPaint();
+    m_store->flush(QRect(QPoint(), size()));
+}
+
+void QtOverlayWindow::write(QImage& frame) {
     if (m_isSolid)
-        m_view->paintSolid(painter, size(), elapsed());
+        m_view->paintSolid(frame, elapsed());
     else
-        m_view->paint(painter, size(), elapsed());
+        m_view->paint(frame, elapsed());
 }
 
 void QtOverlayWindow::end() {
     m_view.reset();
-    destroy(); // the picture of the window too
+    m_store.reset(); // the memory of a whole screen
+    destroy();
 }
 
 } // namespace vantle

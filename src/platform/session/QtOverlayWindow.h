@@ -3,7 +3,8 @@
 
 #include "platform/OverlayView.h"
 
-#include <QRasterWindow>
+#include <QBackingStore>
+#include <QWindow>
 
 #include <memory>
 
@@ -13,8 +14,9 @@ class Clock;
 class PanelHost;
 class Screens;
 
-/// Shows the present moment of a view whenever refresh() is called. Main thread.
-class QtOverlayWindow final : public QRasterWindow {
+/// Shows the present moment of a view whenever refresh() is called. Its backing store is written
+/// but once a frame: a QRasterWindow would blank all of it before. Main thread.
+class QtOverlayWindow final : public QWindow {
     Q_OBJECT
 
 public:
@@ -31,9 +33,11 @@ public:
     [[nodiscard]] bool isOver() const { return m_view == nullptr; }
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void exposeEvent(QExposeEvent* event) override;
 
 private:
+    void draw();
+    void write(QImage& frame);
     [[nodiscard]] Seconds elapsed() const;
     [[nodiscard]] bool takeShape();
     void end();
@@ -41,6 +45,7 @@ private:
     std::unique_ptr<OverlayView> m_view; ///< null from its end on, so that its memory is free
     const Clock& m_clock;
     PanelHost& m_host;
+    std::unique_ptr<QBackingStore> m_store;
     bool m_isSolid = false; ///< the window has the shape of what the view calls solid
 };
 

@@ -2,8 +2,6 @@
 
 #include "platform/wayland/SharedPictures.h"
 
-#include <QPainter>
-
 #include <utility>
 #include <viewporter-client-protocol.h>
 #include <wayland-client.h>
@@ -122,12 +120,8 @@ void LayerOverlayWindow::draw() {
     if (m_waitsForPicture) return;
     m_drawnAt = m_env.clock.uptime().awake;
     QImage image = m_pictures->image(*picture);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.scale(static_cast<double>(image.width()) / m_size.width(),
-                  static_cast<double>(image.height()) / m_size.height());
-    m_view->paint(painter, m_size, elapsed());
-    painter.end();
+    image.setDevicePixelRatio(static_cast<double>(image.width()) / m_size.width());
+    m_view->paint(image, elapsed());
     picture->isShown = true;
     wl_surface_attach(m_surface, picture->buffer, 0, 0);
     show(m_surface);

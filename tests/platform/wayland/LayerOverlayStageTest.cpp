@@ -32,10 +32,12 @@ public:
     HalfRed& operator=(const HalfRed&) = delete;
 
     [[nodiscard]] Seconds endTime() const override { return Seconds(kEnd); }
-    void paint(QPainter& painter, QSize size, Seconds t) override {
+    void paint(QImage& frame, Seconds t) override {
         m_seen.times.push_back(t.count());
-        m_seen.size = size;
-        painter.fillRect(0, 0, size.width() / 2, size.height(), Qt::red);
+        m_seen.size = frame.deviceIndependentSize().toSize();
+        frame.fill(Qt::transparent);
+        QPainter painter(&frame);
+        painter.fillRect(0, 0, m_seen.size.width() / 2, m_seen.size.height(), Qt::red);
     }
     [[nodiscard]] QRegion solidPart(QSize, Seconds) const override { return {}; }
 
