@@ -19,6 +19,8 @@ elseif(VANTLE_SANITIZE STREQUAL "thread")
     add_compile_options(-fsanitize=thread -fno-omit-frame-pointer
                         $<$<CXX_COMPILER_ID:GNU>:-Wno-tsan>)
     add_link_options(-fsanitize=thread)
+elseif(VANTLE_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined)
 elseif(NOT VANTLE_SANITIZE STREQUAL "")
     message(FATAL_ERROR "VANTLE_SANITIZE is '${VANTLE_SANITIZE}': address, thread or empty")
 endif()

@@ -58,7 +58,7 @@ rc::Gen<QUuid> id() {
         rc::gen::tuple(rc::gen::arbitrary<std::uint32_t>(), rc::gen::arbitrary<std::uint64_t>()),
         [](const auto& parts) {
             const auto [high, low] = parts;
-            const auto byte = [&](int i) { return uchar(low >> (8 * i)); };
+            const auto byte = [low = low](int i) { return uchar(low >> (8 * i)); };
             return QUuid(high, ushort(high >> 3), 0x4abc, byte(0), byte(1), byte(2), byte(3),
                          byte(4), byte(5), byte(6), byte(7));
         });
