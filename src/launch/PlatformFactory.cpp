@@ -2,9 +2,6 @@
 
 #include "platform/session/BusGreeting.h"
 #include "platform/session/LateBus.h"
-#include "platform/x11/ScaleFactor.h"
-
-#include <xcb/xcb.h>
 
 #include <utility>
 
@@ -37,16 +34,13 @@ Platform PlatformOwner::ports() const {
 
 namespace platformfactory {
 
-bool desktopIsReachable() {
-    xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
-    const bool reachable = xcb_connection_has_error(connection) == 0;
-    xcb_disconnect(connection);
-    return reachable;
-}
+// X11 in a Wayland session too: its windows can be placed and stay on top.
+
+bool desktopIsReachable() { return platformparts::x11IsReachable(); }
 
 void chooseWindows() {
-    // In a Wayland session too: X11 windows can be placed and stay on top.
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", platformparts::kX11Windows);
 }
 
 void leaveMuteSessionBus() {
@@ -62,8 +56,7 @@ void settleScaleFactor() {
                              "QT_SCALE_FACTOR_ROUNDING_POLICY", "QT_USE_PHYSICAL_DPI"})
         if (qEnvironmentVariableIsSet(told)) return;
     // No rounding policy of Qt's leaves 1.25 and 1.5 as they are.
-    if (const auto dpi = scalefactor::settledDpi(scalefactor::desktopDpi()))
-        qputenv(kDpi, QByteArray::number(*dpi));
+    if (const auto dpi = platformparts::x11SettledDpi()) qputenv(kDpi, QByteArray::number(*dpi));
 }
 
 PlatformOwner makePlatform(Scheduler& scheduler, const PlatformEvents& events,

@@ -33,6 +33,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace vantle {
 
@@ -97,6 +98,15 @@ struct Session {
 
 /// The signals that ask a process to end call `endRequested` until the watch is destroyed.
 [[nodiscard]] std::shared_ptr<void> watchSignals(const PlatformEvents& events);
+
+/// Whether there is an X server. Before the application object, as the next.
+[[nodiscard]] bool x11IsReachable();
+
+/// The desktop's dots per inch, where a scale factor next to a whole number is meant for that.
+[[nodiscard]] std::optional<int> x11SettledDpi();
+
+/// The toolkit's name for such windows.
+inline constexpr const char* kX11Windows = "xcb";
 
 /// An X server, Xwayland included. `posix` must outlive the part.
 [[nodiscard]] Display makeX11(Scheduler& scheduler, const PlatformEvents& events,

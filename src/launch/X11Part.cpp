@@ -3,6 +3,7 @@
 #include "platform/CannotTell.h"
 #include "platform/FirstHotKey.h"
 #include "platform/x11/LostServer.h"
+#include "platform/x11/ScaleFactor.h"
 #include "platform/x11/X11Connection.h"
 #include "platform/x11/X11FrontmostApp.h"
 #include "platform/x11/X11HotKey.h"
@@ -14,6 +15,8 @@
 #include "platform/x11/X11Struts.h"
 #include "platform/x11/X11WindowManager.h"
 #include "platform/x11/XwaylandTraits.h"
+
+#include <xcb/xcb.h>
 
 #include <utility>
 #include <vector>
@@ -29,6 +32,15 @@ struct X11Server {
 };
 
 } // namespace
+
+bool x11IsReachable() {
+    xcb_connection_t* const connection = xcb_connect(nullptr, nullptr);
+    const bool reachable = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return reachable;
+}
+
+std::optional<int> x11SettledDpi() { return scalefactor::settledDpi(scalefactor::desktopDpi()); }
 
 Display makeX11(Scheduler& scheduler, const PlatformEvents& events, const Posix& posix) {
     const auto server = std::make_shared<X11Server>();
