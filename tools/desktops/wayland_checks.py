@@ -16,6 +16,7 @@ from harness.bus import activate_action  # noqa: E402
 from harness.records import epoch  # noqa: E402
 from harness.waiting import wait_until  # noqa: E402
 
+READING = 10  # seconds between two looks at the time without input
 DWELL = 45  # seconds in another application until a session follows it
 MIDDLE = WIDTH // 2
 
@@ -37,7 +38,9 @@ def away_cut_out(scene):
 
 def typing_counted(scene):
     """Who types into a native window is never away."""
-    scene.work(1)  # a user who starts a session is there
+    # Until the counter was read again: an absence that ended since then is cut out at the next
+    # reading, up to which nothing tells how long ago that was.
+    scene.work(READING + 1)
     scene.begin()
     began = time.monotonic()
     scene.work(2.5 * scene.THRESHOLD)
