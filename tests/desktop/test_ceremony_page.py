@@ -169,7 +169,6 @@ class Page(CeremonyCase):
         (self.page.parents[2] / PARTS[module] / module).unlink()
         self.launch_with("done")
         pressed = self.press_and_play()
-        self.wait_for_moment(pressed, 2.3)
-        middle = self.desktop.picture(520, 400, 400, 100)
-        self.assertTrue(middle.shows((255, 255, 255), tolerance=20))
+        wait_until("the title", lambda: self.desktop.picture(520, 400, 400, 100).shows(
+            (255, 255, 255), tolerance=20))
         self.assert_all_gone(pressed)

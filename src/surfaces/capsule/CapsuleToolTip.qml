@@ -13,7 +13,7 @@ GlassBackground {
     material: GlassBackground.Menu
     shadowed: false
     radius: DarkUI.radiusKeycap
-    width: label.implicitWidth + 2 * DarkUI.space8
+    width: Math.ceil(label.implicitWidth) + 2 * DarkUI.space8
     height: CapsuleTokens.tipHeight
     visible: opacity > 0
     opacity: 0

@@ -20,7 +20,7 @@ Item {
     }
 
     z: 1000
-    width: label.implicitWidth + 2 * DarkUI.space8
+    width: Math.ceil(label.implicitWidth) + 2 * DarkUI.space8
     height: label.implicitHeight + 2 * DarkUI.space4
     x: area ? Math.max(DarkUI.space4, Math.min(below.x - width / 2,
                                                area.width - width - DarkUI.space4)) : 0

@@ -43,7 +43,7 @@ FocusScope {
         return stops().findIndex(row => row.activeFocus);
     }
 
-    implicitWidth: column.widest + 2 * padding
+    implicitWidth: Math.ceil(column.widest) + 2 * padding // the window is whole px
     implicitHeight: column.height + 2 * padding
 
     Accessible.role: Accessible.PopupMenu
