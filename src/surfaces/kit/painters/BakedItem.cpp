@@ -9,11 +9,6 @@
 
 namespace vantle {
 
-BakedItem::BakedItem(QQuickItem* parent) : QQuickItem(parent) {
-    setFlag(ItemHasContents);
-    connect(this, &BakedItem::changed, this, &QQuickItem::update);
-}
-
 QSGNode* BakedItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/) {
     const double scale = window()->effectiveDevicePixelRatio();
     const QRectF area = boundingRect().marginsAdded(bleed());
@@ -41,16 +36,6 @@ QSGNode* BakedItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/)
     // Whole device pixels, so that one pixel of the image is one of the screen.
     node->setRect(QRectF(area.topLeft(), QSizeF(pixels) / scale));
     return node;
-}
-
-void BakedItem::geometryChange(const QRectF& now, const QRectF& before) {
-    QQuickItem::geometryChange(now, before);
-    if (now.size() != before.size()) update();
-}
-
-void BakedItem::itemChange(ItemChange change, const ItemChangeData& data) {
-    if (change == ItemDevicePixelRatioHasChanged) update();
-    QQuickItem::itemChange(change, data);
 }
 
 } // namespace vantle

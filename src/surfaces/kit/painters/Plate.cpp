@@ -25,11 +25,6 @@ QPainterPath rimOf(const QRectF& rect, double radius, int width) {
 
 } // namespace
 
-Plate::Plate(QQuickItem* parent) : QQuickItem(parent) {
-    setFlag(ItemHasContents);
-    connect(this, &Plate::changed, this, &QQuickItem::update);
-}
-
 QSGNode* Plate::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/) {
     const double scale = window()->effectiveDevicePixelRatio();
     const QSize pixels(qRound(width() * scale), qRound(height() * scale));
@@ -60,16 +55,6 @@ QSGNode* Plate::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/) {
     node->setImage(image);
     node->layOut({}, pixels, QMargins(corner, corner, corner, corner), scale);
     return node;
-}
-
-void Plate::geometryChange(const QRectF& now, const QRectF& before) {
-    QQuickItem::geometryChange(now, before);
-    if (now.size() != before.size()) update();
-}
-
-void Plate::itemChange(ItemChange change, const ItemChangeData& data) {
-    if (change == ItemDevicePixelRatioHasChanged) update();
-    QQuickItem::itemChange(change, data);
 }
 
 } // namespace vantle

@@ -1,15 +1,16 @@
 // A rounded ground with an edge drawn over its rim.
 #pragma once
 
+#include "surfaces/kit/painters/ScaledItem.h"
+
 #include <QColor>
-#include <QQuickItem>
 
 namespace vantle {
 
 /// Lies on whole device pixels at every scale, which the Rectangle of the software renderer does
 /// not: at 1.25 it is torn, at 1.5 a round one is broken. Its corners and rims are painted once,
 /// and what is between them is stretched. Main thread, with the software renderer.
-class Plate : public QQuickItem {
+class Plate : public vantle::ScaledItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
@@ -21,15 +22,10 @@ class Plate : public QQuickItem {
     Q_PROPERTY(double edgeWidth MEMBER m_edgeWidth NOTIFY changed)
 
 public:
-    explicit Plate(QQuickItem* parent = nullptr);
-
-Q_SIGNALS:
-    void changed();
+    explicit Plate(QQuickItem* parent = nullptr) : ScaledItem(parent) {}
 
 protected:
     QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
-    void geometryChange(const QRectF& now, const QRectF& before) override;
-    void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
     QColor m_color = Qt::transparent;

@@ -6,12 +6,9 @@
 
 namespace vantle {
 
-ShadowLayer::ShadowLayer(QQuickItem* parent) : QQuickItem(parent) { setFlag(ItemHasContents); }
-
 void ShadowLayer::set(double& member, double value) {
     if (member == value) return;
     member = value;
-    update();
     Q_EMIT changed();
 }
 
@@ -37,16 +34,6 @@ QSGNode* ShadowLayer::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*
     node->layOut(-QPointF(reach.left(), reach.top()) / scale, shape.size.toSize().grownBy(reach),
                  shape.patches(), scale);
     return node;
-}
-
-void ShadowLayer::geometryChange(const QRectF& now, const QRectF& before) {
-    QQuickItem::geometryChange(now, before);
-    if (now.size() != before.size()) update();
-}
-
-void ShadowLayer::itemChange(ItemChange change, const ItemChangeData& data) {
-    if (change == ItemDevicePixelRatioHasChanged) update();
-    QQuickItem::itemChange(change, data);
 }
 
 } // namespace vantle

@@ -1,15 +1,14 @@
 // One layer of a surface's shadow. Views use DarkShadow, which knows the levels.
 #pragma once
 
+#include "surfaces/kit/painters/ScaledItem.h"
 #include "surfaces/kit/painters/ShadowImage.h"
-
-#include <QQuickItem>
 
 namespace vantle {
 
 /// Takes the place of the surface and draws around it. Its image is as small as can be and is
 /// stretched, so that a surface that grows costs nothing here. Main thread.
-class ShadowLayer : public QQuickItem {
+class ShadowLayer : public vantle::ScaledItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(double radius READ radius WRITE setRadius NOTIFY changed)
@@ -18,7 +17,7 @@ class ShadowLayer : public QQuickItem {
     Q_PROPERTY(double strength READ strength WRITE setStrength NOTIFY changed)
 
 public:
-    explicit ShadowLayer(QQuickItem* parent = nullptr);
+    explicit ShadowLayer(QQuickItem* parent = nullptr) : ScaledItem(parent) {}
 
     [[nodiscard]] double radius() const { return m_shape.radius; }
     void setRadius(double radius) { set(m_shape.radius, radius); }
@@ -29,13 +28,8 @@ public:
     [[nodiscard]] double strength() const { return m_shape.strength; }
     void setStrength(double strength) { set(m_shape.strength, strength); }
 
-Q_SIGNALS:
-    void changed();
-
 protected:
     QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
-    void geometryChange(const QRectF& now, const QRectF& before) override;
-    void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
     void set(double& member, double value);
