@@ -26,6 +26,7 @@ class OverFullScreen(WaylandTest):
     """Over a native window that fills the screen, of one colour."""
 
     native_window = ("foot", "--fullscreen", "--override=colors.background=808080")
+    has_played = False
 
     def setUp(self):
         super().setUp()
@@ -42,10 +43,19 @@ class OverFullScreen(WaylandTest):
                        for x, y in ((2, 2), (2, 797), (1277, 797)))
 
     def start_a_show(self):
-        self.toggle()
-        begun = time.monotonic()
-        wait_until("the show", self.plays)
-        return begun
+        """Before a busy compositor has answered the program, sessions start without one: until the
+        first show, that was no trial."""
+        for _ in range(1 if self.has_played else 4):
+            self.toggle()
+            begun = time.monotonic()
+            wait_until("the session", self.vantle.marker)
+            while time.monotonic() < begun + 4:
+                if self.plays():
+                    self.has_played = True
+                    return begun
+            self.end_session()
+            time.sleep(1.2)
+        raise AssertionError("a start without a show")
 
     def end_session(self):
         self.toggle()
