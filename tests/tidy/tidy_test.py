@@ -2,7 +2,7 @@
 """Each rule of tools/tidy finds its bad examples, and nothing in a clean tree.
 
 examples/ holds one small tree a rule, with the findings it must give in expected.txt. Lengths are
-tried on files made here, since long examples would be long.
+tried on files made here, since long examples would be long, and commits in a repository made here.
 """
 
 import contextlib
@@ -20,11 +20,12 @@ HERE = Path(__file__).resolve().parent
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(HERE.parents[1] / "tools" / "tidy"))
 
+import commits  # noqa: E402
 import programs  # noqa: E402
 import tidy  # noqa: E402
 from tree import Tree  # noqa: E402
 
-HEADER = "// What it is for.\n#pragma once\n"
+HEADER = "// The first type.\n#pragma once\n"
 
 
 def findings(root):
@@ -46,7 +47,7 @@ class Examples(unittest.TestCase):
         said = "".join(path.read_text(encoding="utf-8")
                        for path in (HERE / "examples").glob("*/expected.txt"))
         for check in tidy.CHECKS:
-            if check.RULE != "length":
+            if check.RULE not in ("length", "commits"):
                 self.assertIn(f"[{check.RULE}]", said)
 
 
@@ -108,6 +109,61 @@ class Lengths(unittest.TestCase):
         self.put("src/base/A.h", HEADER + "// " + "\u00e9" * 97 + "\n// " + "x" * 98 + "\n")
         self.assertEqual(findings(self.root),
                          ["src/base/A.h:4: 101 columns; 100 are the most [length]"])
+
+
+class Commits(unittest.TestCase):
+    def setUp(self):
+        directory = tempfile.TemporaryDirectory()
+        self.addCleanup(directory.cleanup)
+        self.root = Path(directory.name)
+
+    def git(self, *words, **environment):
+        subprocess.run(["git", "-C", str(self.root), *words], check=True, capture_output=True,
+                       env={**os.environ, **environment})
+
+    def commit(self, subject, day="2031-05-06"):
+        self.git("-c", "user.name=Ada", "-c", "user.email=ada@example.org", "commit",
+                 "--allow-empty", "--message", subject, GIT_AUTHOR_DATE=f"{day}T12:00:00+00:00")
+
+    def messages(self):
+        return [finding.message for finding in commits.check(Tree(self.root))]
+
+    def test_a_subject_names_an_area_and_an_act(self):
+        self.git("init")
+        for subject in ("x11: follow the focus", "tests, demo: bring the rows together",
+                        "Follow the focus", "x11: Follow the focus", "x11: follow the focus.",
+                        "x11: followed the focus", "x11: following the focus", "x11: follows it",
+                        "x11: " + "a" * 55, "x11: " + "a" * 56):
+            self.commit(subject)
+        form = "not of the form `area: imperative summary`"
+        self.assertEqual(self.messages(), [
+            f'"x11: {"a" * 56}": 61 columns; 60 are the most',
+            '"x11: follows it": begins with follows, not with a lower-case imperative',
+            '"x11: following the focus": begins with following, not with a lower-case imperative',
+            '"x11: followed the focus": begins with followed, not with a lower-case imperative',
+            f'"x11: follow the focus.": {form}',
+            '"x11: Follow the focus": begins with Follow, not with a lower-case imperative',
+            f'"Follow the focus": {form}'])
+
+    def test_commits_from_before_the_form_are_left_alone(self):
+        self.git("init")
+        self.commit("Follow the focus", day="2001-02-03")
+        self.assertEqual(self.messages(), [])
+
+    def test_a_tree_without_history_has_nothing_to_check(self):
+        self.assertEqual(self.messages(), [])
+        self.git("init")
+        self.assertEqual(self.messages(), [])
+        (self.root / ".git" / "HEAD").unlink()
+        self.assertEqual(self.messages(), [])
+
+    def test_the_history_around_the_tree_is_not_the_tree_s(self):
+        self.git("init")
+        self.commit("Follow the focus")
+        self.assertEqual(list(commits.check(Tree(HERE / "examples" / "clean"))), [])
+        inner = self.root / "inner"
+        inner.mkdir()
+        self.assertEqual(list(commits.check(Tree(inner))), [])
 
 
 class Programs(unittest.TestCase):

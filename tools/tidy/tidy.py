@@ -10,6 +10,7 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 
 import banned  # noqa: E402
+import commits  # noqa: E402
 import docs  # noqa: E402
 import headers  # noqa: E402
 import house  # noqa: E402
@@ -23,7 +24,7 @@ import words  # noqa: E402
 from tree import Tree  # noqa: E402
 
 CHECKS = (layers, banned, listed, lengths, literals, docs, house, headers, preferences, programs,
-          words)
+          words, commits)
 
 
 def findings(root):
