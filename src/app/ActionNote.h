@@ -10,7 +10,7 @@ namespace vantle {
 
 class TrackerCore;
 
-/// Every failure of a command ends here. Main thread.
+/// Shows how every failed command ended. Main thread.
 class ActionNote final : public QObject {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ public:
 
     void clear() { set(std::nullopt); }
     void say(const QString& text) { set(text); }
-    /// Says `text`, or the tracker's own words about storage where there are some.
+    /// Shows `text`, or the tracker's storage error where there is one.
     void report(const QString& text);
 
 Q_SIGNALS:

@@ -30,7 +30,7 @@ AppModel::AppModel(const Environment& environment, Collaborators collaborators)
                m_flow.idle()})
     , m_erase({m_env.ioQueue, m_env.paths, m_env.preferences, m_env.autoSkill, m_note, m_surfaces,
                m_flow, m_skills}) {
-    // Before any data file is read: this gives back what its owner may not read.
+    // First, since this restores read access for the owner before any data file is read.
     m_env.paths.enforcePrivatePermissions();
     m_skills.load();
     m_surfaces.setCommands(
@@ -57,7 +57,7 @@ void AppModel::publish() {
             &AppModel::backfillCoverageMinutesChanged);
     connect(&m_panel, &PanelState::pulsePrimaryOnceChanged, this,
             &AppModel::pulsePrimaryOnceChanged);
-    // The button in the panel does the same as the capsule that introduces itself.
+    // The panel's button pulses together with the capsule's introduction.
     connect(&m_surfaces, &SessionSurfaces::introduced, &m_panel,
             [this] { m_panel.setPulsePrimaryOnce(true); });
 }

@@ -14,9 +14,9 @@
 
 namespace vantle {
 
-/// Owns the parts that do the work, and passes every call on to one of them, whose header says what
-/// it does and how it fails. A class that uses one or two parts takes those instead of this. Every
-/// failure ends in `lastActionNote`. Main thread only.
+/// Owns the parts that do the work and passes each call to one of them; the part's header describes
+/// effect and failure. A class that needs one or two parts takes those instead of this one. Every
+/// failure is shown in `lastActionNote`. Main thread.
 class AppModel final : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString selectedSkillId READ selectedSkillId NOTIFY selectedSkillIdChanged FINAL)
@@ -30,7 +30,7 @@ class AppModel final : public QObject {
 public:
     using SkillSelectionOrigin = SkillCommands::Origin;
 
-    /// What the model works with. All of it must outlive the model.
+    /// The services that the model uses. All of them must outlive the model.
     struct Environment {
         const Clock& clock;
         Scheduler& scheduler;
@@ -43,16 +43,16 @@ public:
         ScreenPower& screenPower;
         HotKeyPort& hotKeyPort;
         const ReducedMotion& reducedMotion;
-        TopRightCardSlot& cardSlot; ///< which its cards ask for the corner
+        TopRightCardSlot& cardSlot; ///< arbitrates the corner among the cards
         AutoSkillMonitor& autoSkill;
         FocusLink& focusLink;
-        FrontmostApp* frontmostApp = nullptr; ///< null where the desktop can't tell
-        std::function<Calendar()> calendar;   ///< the user's calendar at the moment
+        FrontmostApp* frontmostApp = nullptr; ///< null where the desktop has no such interface
+        std::function<Calendar()> calendar;   ///< returns the user's current calendar
         std::function<void()> terminate = {}; ///< ends the process once the model has stopped
     };
 
-    /// Tightens permissions, loads the skills, starts the monitors, takes the shortcut, and
-    /// schedules the offer of a session that the last run left open.
+    /// Tightens file permissions, loads the skills, starts the monitors, registers the shortcut,
+    /// and schedules the offer of a session that the last run left open.
     AppModel(const Environment& environment, Collaborators collaborators);
     ~AppModel() override;
 
@@ -80,8 +80,8 @@ public:
     [[nodiscard]] bool needsWelcome() const { return m_practice.needsWelcome(); }
     void markWelcomeDone();
 
-    /// Called each time the panel opens. Leaves `lastActionNote` alone: an offer to recover a
-    /// session must not vanish because the panel opens.
+    /// Called each time the panel opens. Keeps `lastActionNote`: the offer to recover a session
+    /// must not vanish because the panel opens.
     void refreshPanelState() { m_panel.refresh(); }
     void report(const QString& text) { m_note.report(text); }
     void ensureIdleNotch() { m_flow.ensureIdlePrompt(); }
@@ -89,9 +89,10 @@ public:
 
     /// Stops as prepareForTermination() does, then ends the process.
     void quit();
-    /// The one guarded stop of every orderly exit. Does nothing the second time.
+    /// The guarded stop of every orderly exit. Does nothing the second time.
     void prepareForTermination() { m_flow.end(); }
-    /// The same where the toolkit is half gone: no surface is told, and no view hears of a change.
+    /// Like prepareForTermination(), for a toolkit that is half gone: no surface is told and no
+    /// view gets a change signal.
     void prepareForTerminationUnseen();
 
     // Set at launch
@@ -117,7 +118,7 @@ public:
     [[nodiscard]] bool pulsePrimaryOnce() const { return m_panel.pulsePrimaryOnce(); }
     void setPulsePrimaryOnce(bool pulse) { m_panel.setPulsePrimaryOnce(pulse); }
     [[nodiscard]] bool isQuitting() const { return m_flow.isEnding(); }
-    /// What the user is building; empty when they didn't say.
+    /// What the user is building; empty when not given.
     [[nodiscard]] std::optional<QString> projectName() const;
     void setProjectName(const QString& name);
 

@@ -48,12 +48,14 @@ void AutoModeAnswers::changeSkill(const QString& skillId) {
 
 void AutoModeAnswers::startSession(const QString& skillId) {
     if (!m_env.flow.isIdle() || !m_env.list.contains(skillId)) return;
-    // Auto mode sees the idle counter, which is low just after the key that locked.
+    // Auto mode reads the idle counter, which is still low just after the key that locked the
+    // screen.
     if (m_env.flow.idle().screensSleep()) return;
     m_env.skills.select(skillId, SkillCommands::Origin::Auto);
     m_env.flow.toggle(SessionCause::AutoMode);
-    // With a threshold under auto mode's own limit the user may count as away already. That absence
-    // is told only once, before the session: without this pause all of it would count.
+    // When the idle threshold is shorter than auto mode's own delay, the user may already be away.
+    // The monitor reported that absence once, before the session, so without this pause all of it
+    // would count.
     if (m_env.flow.idle().isIdle()) m_env.flow.tracker().pause(m_env.clock.now());
 }
 

@@ -1,4 +1,4 @@
-// Answers auto mode: tells it of the session and carries out its suggestions.
+// Answers to auto mode: reports the session and carries out suggestions.
 #pragma once
 
 #include "app/Collaborators.h"
@@ -14,8 +14,8 @@ class SessionFlow;
 class SkillCommands;
 class SkillList;
 
-/// Sets the monitor's hooks, which hold this object weakly. Nothing here fails: a question that no
-/// card can ask now is forgotten, so that it may come again. Main thread.
+/// Sets the monitor's hooks, which hold this object weakly. Does not fail: a question that no card
+/// can show now is forgotten, so that auto mode may ask it again. Main thread.
 class AutoModeAnswers final : public QObject {
     Q_OBJECT
 
@@ -37,7 +37,8 @@ private:
     void startSession(const QString& skillId);
     void askForTag(const QString& bundleId, const QString& appName);
     void resolveTag(const QString& bundleId, const collaborators::TagPrompt::Outcome& outcome);
-    /// After a choice by hand: offers that the application in front always counts as that skill.
+    /// After the user chose a skill: offers that the application in front always counts as that
+    /// skill.
     void offerRule(const QString& chosenSkillId);
 
     const Environment m_env;

@@ -1,9 +1,9 @@
-// What the application model needs of the surfaces, and no more.
+// The operations that the application model needs from the surfaces.
 //
-// A surface is met only through these operations. The bodies here are those of a surface that is
-// not there: nothing is shown and no question is taken. All on the main thread. A callback that is
-// handed over may be called at any later time, or never. A surface that can't show what it is told
-// says so by its return value, else it fails silently: no session depends on one.
+// The model reaches a surface only through these classes. Their own bodies are those of a missing
+// surface: they show nothing and accept no question. Main thread. The surface may call a callback
+// at any later time, or never. A surface that cannot show something returns false where the
+// operation has a result, and is silent elsewhere: no session depends on a surface.
 #pragma once
 
 #include "tracking/Session.h"
@@ -17,11 +17,11 @@
 
 namespace vantle {
 
-/// What the ceremony plays.
+/// The kind of ceremony to play.
 struct CeremonyShow {
     enum Kind {
-        Full,      ///< a session started by the person
-        Quick,     ///< a session started by auto mode
+        Full,      ///< the user started a session
+        Quick,     ///< auto mode started a session
         Collapse,  ///< a session ended
         Milestone, ///< a round number of hours was reached
     };
@@ -35,7 +35,7 @@ struct CeremonyShow {
     friend bool operator==(const CeremonyShow&, const CeremonyShow&) = default;
 
     Kind kind;
-    std::int64_t hours = 0; ///< of a milestone
+    std::int64_t hours = 0; ///< of a milestone, else 0
 };
 
 namespace collaborators {
@@ -44,19 +44,20 @@ namespace collaborators {
 class Ripple {
 public:
     virtual ~Ripple() = default;
-    /// Called after the capsule was told of the start or the end of a session, never at a change of
-    /// skill. Ends a show that still plays; the name is empty at an end.
+    /// Plays `show` in the skill's colour (0xRRGGBB) and cuts off a show that still plays. Called
+    /// after the capsule has the start or the end of a session, not at a change of skill. The name
+    /// is empty at an end.
     virtual void play(CeremonyShow, std::uint32_t /*hexRGB*/,
                       const std::optional<QString>& /*skillName*/) {}
 };
 
-/// How the capsule changes skills in place.
+/// The edits of skills that the capsule offers.
 struct SkillEditCallbacks {
-    /// A skill gets another name or colour.
+    /// Renames or recolours a skill.
     std::function<void(const QString& id, const QString& name, std::uint32_t hexRGB)> onUpdate;
-    /// A skill goes, with the rules that name it.
+    /// Deletes a skill and the rules that name it.
     std::function<void(const QString& id)> onDelete;
-    /// There is a new skill.
+    /// Adds a skill.
     std::function<void(const QString& name, std::uint32_t hexRGB)> onAdd;
 };
 
@@ -64,26 +65,29 @@ struct SkillEditCallbacks {
 class Notch {
 public:
     virtual ~Notch() = default;
-    /// Called when a session has started, by the tracker's own call. Follows the tracker, which
-    /// outlives the capsule's window, until hide(); flashes at once where no ceremony plays.
+    /// Shows the running session. Called inside the tracker's start. The capsule follows the
+    /// tracker, which outlives it, until hide(). `flash` opens the capsule at once, where no
+    /// ceremony plays.
     virtual void show(TrackerCore&, const Skill&, const std::vector<Skill>&, bool /*flash*/,
                       std::function<void()> /*onStop*/,
                       std::function<void(const QString&)> /*onPick*/) {}
-    /// Called while no session is open: at launch, after a session, and when the skills change.
-    /// Replaces an earlier prompt.
+    /// Shows the prompt to start a session, in place of an earlier prompt. Called while no session
+    /// is open: at launch, after a session, and when the skills change.
     virtual void showIdlePrompt(TrackerCore&, const Skill&, const std::vector<Skill>&,
                                 bool /*flash*/, std::function<void()> /*onStart*/,
                                 std::function<void(const QString&)> /*onPick*/,
                                 SkillEditCallbacks /*edit*/) {}
-    /// Called when the open session goes on under another skill or name, with a flash, and when
-    /// another skill is chosen for the next start, without one.
+    /// Shows another skill. Called with a flash when the open session continues under another skill
+    /// or name, and without one when the user chooses the skill of the next start.
     virtual void retag(const Skill&, bool /*flash*/) {}
-    /// Called when a session has ended, before showIdlePrompt(). Not at the end of a process whose
-    /// screen is gone.
+    /// Takes the running session off the capsule. Called when a session has ended, before
+    /// showIdlePrompt(); not when the display is already lost.
     virtual void hide() {}
-    /// Called after the ceremony of a start, if the session is still open.
+    /// Opens the capsule briefly. Called after the ceremony of a start, if the session is still
+    /// open.
     virtual void flashSessionStart() {}
-    /// Called once in an installation's life, after the panel was opened without a session.
+    /// Opens the idle capsule briefly, as its introduction. Called once per installation, after the
+    /// panel was opened without a session.
     virtual void flashIdleCard() {}
 };
 
@@ -93,17 +97,18 @@ public:
     virtual ~StopSummary() = default;
     struct Content {
         Session session;
-        std::int64_t newHours = 0;     ///< dots that it added to the wall
-        std::int64_t carrySeconds = 0; ///< towards the next dot
+        std::int64_t newHours = 0;     ///< dots that the session added to the wall
+        std::int64_t carrySeconds = 0; ///< progress towards the next dot
         bool isFirstSession = false;
         bool showHotkeyHint = false;
         bool spotlightNote = false;
     };
-    /// Called when a session has ended and was logged, also a practice session that was deleted
-    /// again. `onClose` gets the note, or nothing when none was written.
+    /// Shows the card. Called after a session was logged, also for a practice session whose record
+    /// is deleted again. `onClose` gets the note; empty when the user wrote none.
     virtual void show(const Content&,
                       std::function<void(const std::optional<QString>& note)> /*onClose*/) {}
-    /// Called when the last session is out of reach: another one begins, or it was erased.
+    /// Stops accepting a note for the last session. Called when another session begins, or when the
+    /// last one was erased.
     virtual void forgetNote() {}
 };
 
@@ -111,16 +116,16 @@ public:
 class Recovery {
 public:
     virtual ~Recovery() = default;
-    /// Called once, after launch. Waits for the corner while another card has it; without an answer
-    /// the next launch offers the session again.
+    /// Shows the notice, or queues it while another card holds the corner. Called once, after
+    /// launch. If the user does not answer, the next launch offers the session again.
     virtual void show(const Session&, std::function<void()> /*onDiscard*/,
                       std::function<void()> /*onKeep*/) {}
-    /// Called before all data is erased. Takes the notice down, and gives up its place among the
-    /// cards.
+    /// Removes the notice and its place in the queue for the corner. Called before all data is
+    /// erased.
     virtual void hideForEviction() {}
 };
 
-/// The questions about an application.
+/// The card that asks about an application.
 class TagPrompt {
 public:
     virtual ~TagPrompt() = default;
@@ -129,33 +134,33 @@ public:
         Kind kind = Kind::Dismiss;
         QString skillId; ///< when Tagged
     };
-    /// Asks what an unknown application is for. Called when auto mode suggests it. Returns false
-    /// when the question can't be asked now; `onResolve` is not called then.
+    /// Asks which skill an unknown application belongs to. Called when auto mode suggests it.
+    /// Returns false when the card cannot ask now; then it never calls `onResolve`.
     [[nodiscard]] virtual bool show(const QString& /*appName*/, const std::vector<Skill>&,
                                     bool /*isCounting*/, bool /*isBrowser*/,
                                     std::function<void(const Outcome&)> /*onResolve*/) {
         return false;
     }
-    /// Asks whether the application always counts as the skill. Called when the user has split the
-    /// session by hand. Returns false as show().
+    /// Asks whether the application always counts as the skill. Called after the user split the
+    /// session. Returns false as show() does.
     [[nodiscard]] virtual bool showCorrection(const QString& /*appName*/, const Skill&,
                                               std::function<void(bool)> /*onResolve*/) {
         return false;
     }
 };
 
-/// The short word after a change of skill.
+/// The toast after a change of skill.
 class RetagToast {
 public:
     virtual ~RetagToast() = default;
-    /// Called when the user has split the session by hand, with what was logged of it.
-    /// Needs no place in the corner.
+    /// Shows the time that was logged before the change. Called when the user split the session.
+    /// Does not need the corner.
     virtual void show(const QString& /*name*/, std::uint32_t /*color*/, std::int64_t /*seconds*/) {}
 };
 
 } // namespace collaborators
 
-/// All of them, owned by the model. One that is not replaced is not there.
+/// All surfaces, owned by the model. A member that is not replaced stands for a missing surface.
 struct Collaborators {
     std::unique_ptr<collaborators::Ripple> ripple = std::make_unique<collaborators::Ripple>();
     std::unique_ptr<collaborators::Notch> notch = std::make_unique<collaborators::Notch>();

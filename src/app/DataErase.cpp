@@ -19,7 +19,7 @@ namespace {
 
 QString nameOf(const QString& path) { return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1); }
 
-/// Removes every data file. What went wrong, one text a file.
+/// Removes every data file. Returns one text for each file that could not be removed.
 QStringList removeDataFiles(const AppPaths& paths) {
     QStringList problems;
     for (const QString& file : paths.allDataFiles()) {
@@ -28,7 +28,7 @@ QStringList removeDataFiles(const AppPaths& paths) {
             problems.append(
                 QStringLiteral("%1: %2").arg(nameOf(file), removed.error().description()));
     }
-    // So that nothing erased comes back after a power loss.
+    // Synced so that no erased file comes back after a power loss.
     paths.fileSystem().syncDirectory(paths.supportDir()).ignore();
     return problems;
 }
@@ -46,11 +46,11 @@ QStringList remainingDataFiles(const AppPaths& paths) {
 std::optional<QString> DataErase::run() {
     TrackerCore& tracker = m_env.flow.tracker();
     m_env.note.clear();
-    // A pending offer must not act on erased data.
+    // A pending offer would act on erased data.
     m_env.surfaces.dropOffers();
     tracker.discardOpenSessionForErase();
     m_env.autoSkill.eraseAllData();
-    // Nothing that is queued may bring a file back after it was removed.
+    // A queued write would bring a removed file back.
     tracker.drainPendingIO();
     m_env.autoSkill.rules().drainPendingIO();
     QStringList problems = m_env.ioQueue.run([this] { return removeDataFiles(m_env.paths); });

@@ -16,7 +16,7 @@ class SessionFlow;
 class SessionSurfaces;
 class SkillCommands;
 
-/// Main thread; waits for the disk. What is left afterwards is the program of a new user, idle.
+/// Leaves the state of a new user, idle. Main thread; waits for the disk.
 class DataErase {
 public:
     /// All of it must outlive this object.
@@ -32,8 +32,8 @@ public:
     };
     explicit DataErase(const Environment& environment) : m_env(environment) {}
 
-    /// Returns what the user is told when a file could not be removed, the rest is gone then; empty
-    /// on full success.
+    /// Returns the text for the user when some files could not be removed (the others are gone);
+    /// empty on full success.
     std::optional<QString> run();
 
 private:

@@ -1,4 +1,4 @@
-// What the cards ask at the moment, for surfaces that can be worked by keys.
+// The cards' open questions, for surfaces that work by keyboard.
 #pragma once
 
 #include <QObject>
@@ -10,9 +10,8 @@
 
 namespace vantle {
 
-/// Cards float above other applications and never take the keyboard by themselves, so a user who
-/// works by keys or hears the screen answers in the panel. Made once by the launch code. Main
-/// thread.
+/// Cards float above other applications and do not take the keyboard, so a user who works by keys
+/// or with a screen reader answers in the panel. One object, made by the launch code. Main thread.
 class OpenQuestions final : public QObject {
     Q_OBJECT
 
@@ -22,14 +21,15 @@ public:
 
     struct Answer {
         QString text;
-        QString help; ///< what it does; empty where the text says it
+        QString help; ///< what the answer does; empty where its text says so
         std::function<void()> give;
-        bool takesKeyboard = false; ///< for the card; the panel gives the keyboard back first
+        // whether the card needs the keyboard; the panel then returns the focus first
+        bool takesKeyboard = false;
     };
     struct Question {
         QString text;
         std::vector<Answer> answers;
-        QString spoken = {}; ///< as it is asked; empty where something else tells of it
+        QString spoken = {}; ///< the announcement; empty where another text already announces it
     };
 
     /// Replaces the owner's earlier question.
@@ -50,7 +50,7 @@ public:
 
 Q_SIGNALS:
     void changed();
-    /// What a card says is to be spoken, since no reader looks at a card by itself.
+    /// A card's text, to be spoken: no screen reader visits a card by itself.
     void said(const QString& text);
 
 private:

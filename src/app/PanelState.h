@@ -1,4 +1,4 @@
-// What the panel shows beside the session: due review, backfill, pulse.
+// The panel's state beside the session: due review, backfill, pulse.
 #pragma once
 
 #include "base/Calendar.h"
@@ -17,8 +17,8 @@ class NotificationCenter;
 class Preferences;
 class TrackerCore;
 
-/// Figures are as of the last refresh(), so that an open panel does not change under the pointer.
-/// Main thread; nothing here fails.
+/// Values change only in refresh(), so that an open panel does not change under the pointer. Does
+/// not fail. Main thread.
 class PanelState final : public QObject {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ public:
     /// All of it must outlive this object.
     struct Environment {
         const Clock& clock;
-        std::function<Calendar()> calendar; ///< the user's calendar at the moment
+        std::function<Calendar()> calendar; ///< returns the user's current calendar
         const Preferences& preferences;
         NotificationCenter& notifications;
         TrackerCore& tracker;
@@ -34,15 +34,15 @@ public:
     };
     explicit PanelState(const Environment& environment);
 
-    /// Works out what the panel shows. Reads the log only after it has changed or a new week has
-    /// begun: it may hold years.
+    /// Computes the values. Reads the log, which may hold years, only after it changed or a new
+    /// week began.
     void refresh();
 
     /// A weekly review is due.
     [[nodiscard]] bool wrappedReady() const { return m_wrappedReady; }
-    /// How many minutes back presence can be confirmed.
+    /// How many minutes before now the user was present, as far as the idle counter confirms it.
     [[nodiscard]] int backfillCoverageMinutes() const { return m_backfillCoverageMinutes; }
-    /// The primary button is asked to pulse once. The view takes the wish back.
+    /// Asks the primary button to pulse once. The view resets it.
     [[nodiscard]] bool pulsePrimaryOnce() const { return m_pulsePrimaryOnce; }
     void setPulsePrimaryOnce(bool pulse);
 
@@ -54,7 +54,7 @@ Q_SIGNALS:
 private:
     const Environment m_env;
     bool m_wrappedReady = false;
-    /// Whether the week that starts then holds a review; forgotten when the log changes.
+    /// Whether the week that starts at the date holds a review; reset when the log changes.
     std::optional<std::pair<Date, bool>> m_reviewOfWeek;
     int m_backfillCoverageMinutes = 0;
     bool m_pulsePrimaryOnce = false;

@@ -1,4 +1,4 @@
-// The rule which sessions are practice and leave nothing in the log.
+// The rule that decides which sessions are practice and leave no record.
 #pragma once
 
 namespace vantle {
@@ -6,9 +6,8 @@ namespace vantle {
 class Preferences;
 class TrackerCore;
 
-/// Before the welcome is done every session is practice; afterwards only one that was started as
-/// such. `SessionFlow` tells it of starts and ends, and deletes the records. Main thread; nothing
-/// here fails.
+/// Until the welcome is done every session is practice; afterwards only those started as practice.
+/// `SessionFlow` reports starts and ends, and deletes the records. Does not fail. Main thread.
 class PracticeSessions {
 public:
     /// Both must outlive this object.
@@ -16,17 +15,17 @@ public:
         : m_preferences(preferences)
         , m_tracker(tracker) {}
 
-    /// Whether the welcome still has to be walked through.
+    /// Whether the welcome is still to be shown.
     [[nodiscard]] bool needsWelcome() const;
     void finishWelcome();
 
-    /// Makes the open session practice. Nothing once the welcome is done: from then on a session is
-    /// work, however it comes about, unless it was started as practice.
+    /// Marks the open session as practice. Has no effect once the welcome is done: then only a
+    /// session that was started as practice is one.
     void markOpenSession();
 
     /// Whether a practice session is open.
     [[nodiscard]] bool isOpen() const;
-    /// Whether the session that is open, or that just ended, is practice.
+    /// Whether the open session, or the one that just ended, is practice.
     [[nodiscard]] bool isPractice() const { return m_isMarked || needsWelcome(); }
 
     void noteStart(bool asPractice) { m_isMarked = asPractice; }

@@ -1,4 +1,6 @@
-// What the person reads about a session that the last run left open. Pure, any thread.
+// The texts about a session that the last run left open.
+//
+// Pure function, any thread.
 #pragma once
 
 #include "tracking/DurationStyle.h"
@@ -9,8 +11,8 @@
 namespace vantle {
 
 struct RecoveryWords {
-    QString found;     ///< with the offer
-    QString recovered; ///< after it was kept
+    QString found;     ///< shown with the offer
+    QString recovered; ///< shown after the user kept it
 };
 
 [[nodiscard]] RecoveryWords recoveryWords(const Session& candidate, DurationStyle style);

@@ -42,14 +42,14 @@ void SessionFlow::wireIdle() {
     m_idle.onIdleBegan = [this, &tracker](double seconds) {
         tracker.pause(m_env.clock.now() - Seconds(seconds));
     };
-    // A reading that shows input while the screens sleep is a password, or the key that locked.
+    // Input while the screens sleep is a password, or the key that locked them.
     m_idle.onActivityResumed = [this, &tracker] {
         if (!m_idle.screensSleep()) tracker.resume();
     };
     m_idle.onScreensWoke = [&tracker] { tracker.resume(); };
     m_idle.onScreensSlept = [this, &tracker] {
         tracker.pause(m_env.clock.now());
-        // The machine may sleep as soon as this returns.
+        // The machine may suspend as soon as this returns.
         tracker.drainPendingIO();
     };
 }
@@ -57,7 +57,7 @@ void SessionFlow::wireIdle() {
 void SessionFlow::begin() {
     m_idle.start();
     m_hotKey.registerHotKey();
-    // The recovery card comes before the idle capsule.
+    // Before the idle capsule, so that the recovery card comes first.
     if (const auto marker = m_env.tracker.takeOrphanedMarker())
         m_env.scheduler.post([self = QPointer(this), marker = *marker] {
             if (self) self->m_env.surfaces.offerRecovery(marker);
@@ -147,7 +147,7 @@ void SessionFlow::end() {
     m_env.preferences.synchronize();
 }
 
-// What the tracker tells
+// Callbacks of the tracker
 
 void SessionFlow::onSessionStarted(const Skill& skill) {
     m_bundleId = bundleIdInFront();
@@ -173,7 +173,7 @@ void SessionFlow::onSessionEnded(const Session& session) {
     m_env.autoSkill.clearSessionOverrides();
     m_env.focusLink.sessionEnded();
     m_env.surfaces.showEnd(session);
-    // A practice session leaves no trace in the log.
+    // Practice leaves no record.
     if (isPractice) m_env.tracker.deleteSession(session.id);
     if (m_cause == SessionCause::DiscardPractice) {
         showIdlePrompt();

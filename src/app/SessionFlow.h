@@ -1,4 +1,4 @@
-// Starts and stops sessions, and pauses them while the user is away.
+// The flow of sessions: start, stop, split, and pauses while away.
 #pragma once
 
 #include "sensing/HotKey.h"
@@ -19,19 +19,19 @@ class PracticeSessions;
 class SessionSurfaces;
 class SkillList;
 
-/// Why the tracker is told to start or stop.
+/// The reason for a start or a stop.
 enum class SessionCause {
-    Command,         ///< the user, by a surface
-    HotKey,          ///< the user, by the shortcut
-    AutoMode,        ///< the application in front
-    Split,           ///< the skill changes: the session ends and goes on as another one
-    Practice,        ///< the welcome tries it out
-    DiscardPractice, ///< the welcome throws its session away
+    Command,         ///< the user, on a surface
+    HotKey,          ///< the user, with the shortcut
+    AutoMode,        ///< the application in front changed
+    Split,           ///< the skill changed: the session ends and continues as a new one
+    Practice,        ///< the welcome's trial session
+    DiscardPractice, ///< the welcome discards its session
 };
 
-/// The one caller of the tracker's start and stop, but for the capsule's stop button. The tracker's
-/// callbacks run inside those calls and read the cause of the call, which a scope guard holds.
-/// Failures are told in the note. Main thread.
+/// The only caller of the tracker's start and stop, except for the capsule's stop button. The
+/// tracker runs its callbacks inside those calls, and the callbacks read the cause, which a scope
+/// guard holds. Failures are shown in the note. Main thread.
 class SessionFlow final : public QObject {
     Q_OBJECT
 
@@ -45,7 +45,7 @@ public:
         IdleSource& idleSource;
         ScreenPower& screenPower;
         HotKeyPort& hotKeyPort;
-        FrontmostApp* frontmostApp = nullptr; ///< null where the desktop can't tell
+        FrontmostApp* frontmostApp = nullptr; ///< null where the desktop has no such interface
         AutoSkillMonitor& autoSkill;
         FocusLink& focusLink;
         TrackerCore& tracker;
@@ -56,8 +56,8 @@ public:
     explicit SessionFlow(const Environment& environment);
     ~SessionFlow() override;
 
-    /// Watches the user, takes the shortcut, and schedules the offer of a session that the last run
-    /// left open, then the idle capsule. Once, at launch.
+    /// Starts the idle monitor, registers the shortcut, and schedules first the offer of a session
+    /// that the last run left open, then the idle capsule. Called once, at launch.
     void begin();
 
     // Commands
@@ -68,40 +68,40 @@ public:
     void startWithBackfill(int minutes);
     /// Adds time by hand, 1 to 960 minutes. Returns true once it is in the log.
     bool quickLog(const QString& skillId, int minutes, const QString& note);
-    /// Nothing while a session is open.
+    /// Starts a practice session. Has no effect while a session is open.
     void startPractice();
-    /// Ends the practice session without a card. Leaves one that is work alone.
+    /// Ends the practice session without a card. Leaves a session that is work running.
     void discardPractice();
 
-    /// The two halves of a change of skill.
+    /// The two sessions of a change of skill.
     struct Split {
-        std::optional<Session> ended; ///< empty when it could not be saved and goes on
-        bool hasStarted = false;      ///< the second half
+        // empty when its record could not be saved; then the session continues
+        std::optional<Session> ended;
+        bool hasStarted = false; ///< whether the second session is open
     };
-    /// Ends the open session and goes on under `skill` without a lost second. Reports nothing.
+    /// Ends the open session and continues under `skill` without losing a second. Reports nothing.
     [[nodiscard]] Split split(const Skill& skill);
-    /// After a split without a second half: no session is open any more.
+    /// Cleans up after a split whose second session did not start: no session is open.
     void closeBrokenSplit();
 
-    /// The one guarded stop of every orderly exit: an open session is logged, the shortcut and the
-    /// monitor are given up, and all that is queued for the disk is written. Nothing the second
-    /// time.
+    /// The guarded stop of every orderly exit: logs an open session, releases shortcut and monitor,
+    /// and waits until all queued writes are on disk. Has no effect the second time.
     void end();
     [[nodiscard]] bool isEnding() const { return m_isEnding; }
 
     // The skill of the next start
 
     [[nodiscard]] const QString& selectedSkillId() const { return m_selectedSkillId; }
-    /// Chooses it, and remembers the choice for the next launch.
+    /// Selects the skill and saves the choice for the next launch.
     void choose(const QString& id);
-    /// Chooses it for this run only.
+    /// Selects the skill for this run only.
     void chooseUnremembered(const QString& id);
-    /// Takes the choice of the last run, or the first skill where that one is gone.
+    /// Selects the skill of the last run, or the first one when that is gone.
     void restoreChoice();
 
-    /// Puts the idle capsule up. Nothing while a session is open.
+    /// Shows the idle capsule. Has no effect while a session is open.
     void showIdlePrompt();
-    /// The same, once the welcome is done.
+    /// Shows the idle capsule once the welcome is done.
     void ensureIdlePrompt();
 
     [[nodiscard]] TrackerCore& tracker() const { return m_env.tracker; }
@@ -125,10 +125,10 @@ private:
     const Environment m_env;
     IdleMonitor m_idle;
     HotKey m_hotKey;
-    SessionCause m_cause = SessionCause::Command; ///< of the tracker's call that runs now
+    SessionCause m_cause = SessionCause::Command; ///< of the tracker call that runs now
     std::optional<QString> m_bundleId;
     QString m_selectedSkillId;
-    bool m_isEnding = false; ///< stays once set
+    bool m_isEnding = false; ///< never reset
 };
 
 } // namespace vantle

@@ -22,7 +22,7 @@ namespace vantle {
 
 namespace {
 
-/// When the capsule flashes open, after the ceremony of a start.
+/// How long after the start of a ceremony the capsule opens briefly.
 constexpr Seconds kFlashAfterQuickShow{1.3};
 constexpr Seconds kFlashAfterFullShow{3.05};
 

@@ -1,4 +1,4 @@
-// The capsule, the ceremony and the cards, told what happens to sessions.
+// The events of a session, passed on to capsule, ceremony and cards.
 #pragma once
 
 #include "app/Collaborators.h"
@@ -19,8 +19,8 @@ class ReducedMotion;
 class SkillList;
 class TopRightCardSlot;
 
-/// Decides what each surface is told; how it looks is the surface's matter. Callbacks that surfaces
-/// keep hold this object weakly. Main thread.
+/// Decides what to tell each surface. Callbacks that surfaces keep hold this object weakly. Main
+/// thread.
 class SessionSurfaces final : public QObject {
     Q_OBJECT
 
@@ -36,7 +36,7 @@ public:
         TrackerCore& tracker;
         ActionNote& note;
     };
-    /// What the user can do in the capsule. Set once by the owner, before anything is shown.
+    /// The commands that the capsule offers. Set once by the owner, before anything is shown.
     struct Commands {
         std::function<void()> toggle;
         std::function<void(const QString& skillId)> selectSkill;
@@ -51,38 +51,39 @@ public:
 
     // The session
 
-    /// The last session's note is out of reach from now on.
+    /// The last session can no longer take a note.
     void forgetLastSession() { m_collaborators.stopSummary->forgetNote(); }
     void showSession(const Skill& skill, bool byAutoMode);
-    /// The session goes on under another skill or name: no ceremony.
+    /// The session continues under another skill or name; no ceremony plays.
     void showNewSkill(const Skill& skill) { m_collaborators.notch->retag(skill, true); }
-    /// `session` has ended: capsule and ceremony say so, the card follows by showSummary().
+    /// Tells capsule and ceremony that `session` ended. The card follows by showSummary().
     void showEnd(const Session& session);
-    /// `suppressHint`: the user needs no hint at the shortcut now.
+    /// `suppressHint` leaves out the hint at the shortcut.
     void showSummary(const Session& session, bool isPractice, bool suppressHint);
-    /// Names the time that a change of skill saved under the skill before.
+    /// Shows how much time the change of skill logged under the previous skill.
     void showSavedTime(const Session& ended);
 
     // Between sessions
 
-    /// Puts the idle capsule up for a start under `next`. Nothing while a session is open.
+    /// Shows the idle capsule for a start under `next`. Has no effect while a session is open.
     void showIdlePrompt(const Skill& next);
-    /// Another skill was chosen for the next start.
+    /// The user chose another skill for the next start.
     void showChoice(const Skill& next) { m_collaborators.notch->retag(next, false); }
-    /// Plays the capsule's introduction, once in an installation's life.
+    /// Plays the capsule's introduction, once per installation.
     void flashIntroductionIfNeeded();
-    /// Offers the session that the last run left open. Nothing when it holds none.
+    /// Offers the session that the last run left open. Has no effect when there is nothing to
+    /// recover.
     void offerRecovery(const OpenSessionMarker& marker);
 
     // The end
 
-    /// Takes down what refers to data that is about to be erased.
+    /// Removes the cards that refer to data about to be erased.
     void dropOffers();
-    /// The toolkit is half gone: no surface is told of the end of the session.
+    /// The toolkit is half gone: no surface is told of the session's end.
     void abandon() { m_isAbandoned = true; }
 
 Q_SIGNALS:
-    /// The introduction of the capsule plays.
+    /// The capsule's introduction plays.
     void introduced();
 
 private:

@@ -1,4 +1,4 @@
-// The commands about skills, with the change of skill during a session.
+// The commands on skills, including a change of skill during a session.
 #pragma once
 
 #include <QString>
@@ -14,7 +14,7 @@ class SessionFlow;
 class SessionSurfaces;
 class SkillList;
 
-/// Every command clears the note and ends with what became of it there. Main thread.
+/// Each command clears the note first and shows its own failure there. Main thread.
 class SkillCommands {
 public:
     /// Who chose a skill.
@@ -30,27 +30,26 @@ public:
     };
     explicit SkillCommands(const Environment& environment) : m_env(environment) {}
 
-    /// Reads the list for the first time, and the choice of the last run.
+    /// Loads the list and the choice of the last run.
     void load();
-    /// Brings the list of a new user back, after the erase of all data, and chooses its first
-    /// skill.
+    /// Loads the list of a new user, after the erase of all data, and selects its first skill.
     void resetAfterErase();
 
-    /// Chooses the skill. During a session under another one this splits it into two records; when
-    /// the first can't be saved the choice is taken back.
+    /// Selects the skill. During a session under another skill this splits the session into two
+    /// records; when the first cannot be saved, the selection is reverted.
     void select(const QString& id, Origin origin);
     void add(const QString& name, std::uint32_t hexRGB);
-    // By value: the caller's id may stand in the list that these replace.
+    // `id` by value: the caller may pass a reference into the list that this call replaces.
     void update(QString id, const QString& name, std::uint32_t hexRGB);
     void remove(QString id);
 
-    /// The user has split the session onto that skill. Called before the saved time is shown. Set
-    /// once by the owner, which it must hold weakly.
+    /// Called when the user split the session onto the skill, before the saved time is shown. Set
+    /// once by the owner; it must hold the owner weakly.
     std::function<void(const QString& chosenSkillId)> onSplitByHand;
 
 private:
     void split(const QString& id, Origin origin, const QString& previousId);
-    /// Returns whether the file of skills could not be read, which refuses every change to them.
+    /// Shows the read error of the skills file, if any. Returns true then: every change is refused.
     bool reportUnreadable();
 
     const Environment m_env;

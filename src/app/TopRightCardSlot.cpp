@@ -6,7 +6,7 @@ namespace vantle {
 
 bool TopRightCardSlot::request(Owner owner, Kind kind, std::function<void()> evict,
                                std::function<void()> represent) {
-    // A card may renew itself, under another kind too, without being taken down.
+    // A card may renew its request, also as another kind, without leaving the corner.
     if (m_holder && m_holder->owner != owner) {
         if (kind <= m_holder->kind) {
             if (kind == Kind::Recovery) m_queued = std::move(represent);
@@ -25,7 +25,7 @@ void TopRightCardSlot::takeForSummary(Owner owner, std::function<void()> evict) 
 
 void TopRightCardSlot::evictHolder() {
     Holder evicted = std::move(*m_holder);
-    // Empty before the card goes, so that its own release finds nothing and does no harm.
+    // Cleared first, so that the evicted card's own release has no effect.
     m_holder.reset();
     if (evicted.kind == Kind::Recovery) m_queued = std::move(evicted.represent);
     if (evicted.evict) evicted.evict();

@@ -1,4 +1,4 @@
-// Only one small card may hold the corner of the screen at a time; here they ask for it.
+// The arbiter of the top right corner, which holds one card.
 #pragma once
 
 #include <functional>
@@ -6,27 +6,27 @@
 
 namespace vantle {
 
-/// The arbiter between cards. Owns no window: it only tells cards when to show and when to go.
-/// Made once by the composition root. Main thread.
+/// Owns no window: it tells cards when to show and when to leave. One object, made by the launch
+/// code. Main thread.
 class TopRightCardSlot {
 public:
     /// In order of priority: a later kind takes the corner from an earlier one.
     enum class Kind { Prompt = 0, Recovery = 1, Summary = 2 };
 
-    /// An owner is known by its address; it must call `release` before it goes.
+    /// An owner is known by its address; it must call `release` before its end.
     using Owner = const void*;
 
-    /// True when the caller may show its card now. `evict` takes that card down at once when a more
-    /// important one comes. False when the corner is held by a card that is as important; of
-    /// those refused only a recovery notice waits, and `represent` shows it again later.
+    /// Requests the corner. Returns true when the caller may show its card now. `evict` must remove
+    /// that card at once when a more important one comes. Returns false when an equally important
+    /// card holds the corner; only a refused recovery notice waits, and `represent` shows it later.
     bool request(Owner owner, Kind kind, std::function<void()> evict,
                  std::function<void()> represent);
 
-    /// Takes the corner for the summary of a session, which nothing outranks and nothing refuses.
+    /// Takes the corner for the summary of a session, which outranks every other card.
     void takeForSummary(Owner owner, std::function<void()> evict);
 
-    /// Gives the corner back, and shows the waiting notice if there is one. Nothing unless the
-    /// owner holds it.
+    /// Releases the corner and shows the waiting notice, if any. Requires that `owner` holds it,
+    /// else has no effect.
     void release(Owner owner);
 
     struct Holder {
@@ -42,7 +42,7 @@ private:
     void evictHolder();
 
     std::optional<Holder> m_holder;
-    std::function<void()> m_queued; ///< the one waiting card's way to show itself again
+    std::function<void()> m_queued; ///< shows the waiting notice
 };
 
 } // namespace vantle

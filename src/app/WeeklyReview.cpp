@@ -8,7 +8,7 @@ namespace vantle::weeklyreview {
 
 namespace {
 
-/// Fewer sessions don't make a review.
+/// A review needs this many sessions.
 constexpr std::ptrdiff_t kMinSessions = 2;
 
 } // namespace

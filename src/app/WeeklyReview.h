@@ -1,6 +1,6 @@
-// Whether the review of the past week waits for the person.
+// The rule that tells whether last week's review is due.
 //
-// Pure functions but for the preferences that remember which weeks were seen. Main thread.
+// Pure functions except for the preferences, which hold the weeks already seen. Main thread.
 #pragma once
 
 #include "base/Calendar.h"
@@ -16,21 +16,21 @@ class Preferences;
 namespace weeklyreview {
 
 struct WeekInterval {
-    Date start; ///< belongs to the week
-    Date end;   ///< does not
+    Date start; ///< inclusive
+    Date end;   ///< exclusive
 };
 
 /// The calendar's week before the one that holds `now`. Empty when the calendar can't tell.
 [[nodiscard]] std::optional<WeekInterval> lastWeekInterval(Date now, const Calendar& calendar);
 
-/// The week under which the review of the one that holds the date is kept as seen.
+/// The week number that marks the review of the week of `date` as seen.
 [[nodiscard]] Calendar::WeekOfYear weekOf(Date date, const Calendar& calendar);
 
-/// Last week, if its review was not looked at yet. Empty: then the log need not be asked.
+/// Last week, unless its review was seen; empty means that the log need not be read.
 [[nodiscard]] std::optional<WeekInterval> unseenLastWeek(Date now, const Calendar& calendar,
                                                          const Preferences& preferences);
 
-/// Whether the week holds at least two ends of sessions.
+/// Whether at least two sessions ended in the week.
 [[nodiscard]] bool holdsAReview(const std::vector<Session>& sessions, const WeekInterval& week);
 
 } // namespace weeklyreview

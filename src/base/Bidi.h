@@ -1,4 +1,4 @@
-// Names and dates of right-to-left scripts within the program's own sentences.
+// Right-to-left names and dates within left-to-right sentences.
 //
 // Pure functions, any thread.
 #pragma once
@@ -7,9 +7,9 @@
 
 namespace vantle::bidi {
 
-/// `part` for a place in a sentence: a text that reads from right to left gets invisible isolates
-/// (U+2068, U+2069) around it, without which it would turn the sentence round. Any other text is
-/// returned as it is.
+/// Returns `part` for use in a sentence. Text that reads from right to left is wrapped in invisible
+/// isolates (U+2068, U+2069), without which it would reorder the sentence; other text is returned
+/// unchanged.
 [[nodiscard]] QString isolated(const QString& part);
 
 } // namespace vantle::bidi

@@ -18,12 +18,12 @@ namespace {
 using icutext::fromIcu;
 using icutext::toIcu;
 
-/// ICU counts in milliseconds; a fraction below that must not move a date into the next second.
+/// ICU's unit is the millisecond; rounding down keeps a date within its second.
 double milliseconds(Date date) { return std::floor(epochSeconds(date) * 1000.0); }
 
 Date fromMilliseconds(double ms) { return dateFromEpoch(ms / 1000.0); }
 
-/// ICU's calendar with these rules, set to `date`; null when ICU can't make one.
+/// Returns ICU's calendar with these rules, set to `date`; null when ICU cannot make one.
 std::unique_ptr<icu::Calendar> icuCalendar(const Calendar& rules, Date date) {
     UErrorCode status = U_ZERO_ERROR;
     std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createTimeZone(toIcu(rules.timeZone)));
@@ -31,7 +31,7 @@ std::unique_ptr<icu::Calendar> icuCalendar(const Calendar& rules, Date date) {
     std::unique_ptr<icu::Calendar> calendar(icu::Calendar::createInstance(
         zone.release(), icutext::calendarLocaleNamed(rules.locale), status));
     if (U_FAILURE(status)) return nullptr;
-    // The proleptic Gregorian calendar throughout, as in files.
+    // Proleptic Gregorian throughout, as in files.
     if (auto* const gregorian = dynamic_cast<icu::GregorianCalendar*>(calendar.get()))
         gregorian->setGregorianChange(-1e18, status);
     calendar->setFirstDayOfWeek(static_cast<UCalendarDaysOfWeek>(rules.firstWeekday));
@@ -45,7 +45,8 @@ bool isKnownZone(const QString& id) {
     return *zone != icu::TimeZone::getUnknown();
 }
 
-/// The zone whose file the path leads to, as in `/usr/share/zoneinfo/Europe/Berlin`; else empty.
+/// Returns the zone whose file `path` leads to, as in `/usr/share/zoneinfo/Europe/Berlin`; empty
+/// when there is none.
 QString zoneOfFile(const QString& path) {
     const QString target = QFileInfo(path).canonicalFilePath();
     const QString folder = QStringLiteral("/zoneinfo/");
@@ -53,8 +54,8 @@ QString zoneOfFile(const QString& path) {
     return at < 0 ? QString() : target.sliced(at + folder.size());
 }
 
-/// The zone of this machine. ICU takes TZ for an id, but it may also be the path of a file, after a
-/// colon, as some desktops set it: `:/etc/localtime`.
+/// Returns the zone of this machine. ICU takes TZ for a zone id, but TZ may also be a colon and the
+/// path of a file, which some desktops set: `:/etc/localtime`.
 QString systemZone() {
     const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::detectHostTimeZone());
     icu::UnicodeString id;
@@ -65,8 +66,8 @@ QString systemZone() {
     return QStringLiteral("UTC");
 }
 
-/// The locale in which the person writes times. ICU's own default follows the language of
-/// messages, which many people set to another country than that of their calendar.
+/// Returns the locale for times (LC_TIME). ICU's default follows LC_MESSAGES, which many users set
+/// to another country.
 icu::Locale localeOfTimes() {
     for (const char* name : {"LC_ALL", "LC_TIME", "LANG"}) {
         const QByteArray value = qgetenv(name);
@@ -82,7 +83,8 @@ std::optional<Date> firstMomentOfDay(icu::Calendar& calendar) {
     calendar.set(UCAL_MINUTE, 0);
     calendar.set(UCAL_SECOND, 0);
     calendar.set(UCAL_MILLISECOND, 0);
-    // A skipped midnight resolves to the moment after the gap, a repeated one to its first pass.
+    // A midnight skipped by a clock change is the moment after the gap, a repeated midnight the
+    // first one.
     calendar.setSkippedWallTimeOption(UCAL_WALLTIME_NEXT_VALID);
     calendar.setRepeatedWallTimeOption(UCAL_WALLTIME_FIRST);
     const double ms = calendar.getTime(status);
@@ -119,7 +121,7 @@ std::optional<Date> Calendar::startOfWeek(Date date) const {
     const int weekday = calendar->get(UCAL_DAY_OF_WEEK, status);
     if (U_FAILURE(status)) return std::nullopt;
     const int daysIntoWeek = (weekday - firstWeekday + 7) % 7;
-    // Noon first: it exists on every day, so going back can't land in a gap and slip to another
+    // Starts at noon, which exists every day: stepping back cannot land in a gap and change the
     // day.
     calendar->set(UCAL_HOUR_OF_DAY, 12);
     calendar->add(UCAL_DAY_OF_MONTH, -daysIntoWeek, status);

@@ -1,7 +1,6 @@
-// Days and weeks as the person counts them.
+// Days and weeks in the user's time zone and locale.
 //
-// A Calendar is a plain value: a time zone and the rules of a locale's week. All operations are
-// pure; the calendar arithmetic is ICU's (Gregorian). Any thread.
+// A plain value. All operations are pure; ICU does the (Gregorian) arithmetic. Any thread.
 #pragma once
 
 #include "base/Date.h"
@@ -15,10 +14,10 @@ namespace vantle {
 struct Calendar {
     QString timeZone;     ///< IANA id, as in "Europe/Berlin"
     int firstWeekday = 1; ///< 1 Sunday ... 7 Saturday
-    int minimalDays = 1;  ///< days of the new year that its first week must have, 1 to 7
+    int minimalDays = 1;  ///< days that the first week must have in the new year, 1 to 7
     QString locale = QStringLiteral("en_US"); ///< ICU locale id, for names and formats
 
-    /// The calendar of this machine and person: system time zone, week rules of the locale.
+    /// Returns this machine's calendar: system time zone, week rules of the locale.
     [[nodiscard]] static Calendar current();
 
     /// A week's number within the year that the week belongs to.
@@ -28,17 +27,17 @@ struct Calendar {
         friend bool operator==(const WeekOfYear&, const WeekOfYear&) = default;
     };
 
-    /// The first moment of the day that holds `date`: midnight, or the moment after the gap where
-    /// a change of the clock skips midnight. `date` itself if the zone is unknown.
+    /// Returns the first moment of the day of `date`: midnight, or the moment after the gap where a
+    /// clock change skips midnight. Returns `date` itself when the zone is unknown.
     [[nodiscard]] Date startOfDay(Date date) const;
 
-    /// The first moment of the week that holds `date`. Empty when the calendar can't tell.
+    /// Returns the first moment of the week of `date`; empty when ICU cannot compute it.
     [[nodiscard]] std::optional<Date> startOfWeek(Date date) const;
 
-    /// `date` moved by whole weeks with the wall clock's time kept. Empty when it can't tell.
+    /// Moves `date` by whole weeks and keeps the wall-clock time. Empty when ICU cannot compute it.
     [[nodiscard]] std::optional<Date> addingWeeks(Date date, int weeks) const;
 
-    /// The week that holds `date`. Empty when the calendar can't tell.
+    /// Returns the week of `date`; empty when ICU cannot compute it.
     [[nodiscard]] std::optional<WeekOfYear> weekOfYear(Date date) const;
 };
 

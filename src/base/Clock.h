@@ -1,23 +1,25 @@
-// The time of day and the time that has passed. Nothing else in the program reads them.
+// The source of the current time.
+//
+// No other class of the program reads the system's clocks.
 #pragma once
 
 #include "base/Date.h"
 
 namespace vantle {
 
-/// Tells the present moment. Any thread; never fails.
+/// The wall clock and the uptime. Never fails. Any thread.
 class Clock {
 public:
     virtual ~Clock() = default;
 
-    /// The wall clock. It can jump in both directions: the user sets it, a server corrects it, the
-    /// machine slept.
+    /// The wall clock. It can jump in both directions: the user sets it, a time server corrects it,
+    /// the machine sleeps.
     [[nodiscard]] virtual Date now() const = 0;
 
-    /// The time since the machine was started, which no change of the wall clock moves.
+    /// The time since boot, which setting the wall clock does not change.
     struct Uptime {
-        Seconds total{}; ///< sleep of the machine included
-        Seconds awake{}; ///< stands still while the machine sleeps; timers go by it
+        Seconds total{}; ///< includes sleep of the machine
+        Seconds awake{}; ///< excludes sleep; timers run on it
     };
     [[nodiscard]] virtual Uptime uptime() const = 0;
 };

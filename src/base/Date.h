@@ -1,7 +1,7 @@
-// A point in time and a length of time, both in double seconds.
+// A point in time and a duration, both in double seconds.
 //
-// Plain values, usable on any thread. A Date counts seconds since 1970-01-01T00:00:00 UTC without
-// leap seconds; fractions are kept in memory and dropped in files (see Iso8601.h).
+// Plain values, any thread. A Date counts seconds since 1970-01-01T00:00:00 UTC without leap
+// seconds; it keeps fractions in memory, files drop them (Iso8601.h).
 #pragma once
 
 #include <chrono>

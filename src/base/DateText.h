@@ -1,4 +1,4 @@
-// Dates and times as people read them.
+// Dates and times as the user reads them.
 #pragma once
 
 #include "base/Calendar.h"
@@ -10,22 +10,22 @@
 
 namespace vantle {
 
-/// Writes moments in the time zone and the language of a calendar. Making one is dear (some
-/// 50 microseconds), a text is cheap: keep it where many are written. One thread at a time.
+/// Formats moments in the time zone and language of a calendar. Construction takes about 50
+/// microseconds, a text much less: keep the object where many are written. One thread at a time.
 class DateText {
 public:
-    /// Always in this order and form, whatever the locale; only names of days and months are in its
-    /// language. The pattern is ICU's, as in "EEE, MMM d".
+    /// A fixed order of fields in every locale; only the names of days and months are translated.
+    /// The pattern is ICU's, as in "EEE, MMM d".
     [[nodiscard]] static DateText fixed(const QString& pattern, const Calendar& calendar);
 
-    /// Hours and minutes as the locale writes them: "2:05 PM", "14:05".
+    /// Hours and minutes in the locale's form: "2:05 PM", "14:05".
     [[nodiscard]] static DateText time(const Calendar& calendar);
 
     ~DateText();
     DateText(DateText&&) noexcept;
     DateText& operator=(DateText&&) noexcept;
 
-    /// Empty where ICU can't write it.
+    /// Returns the text; empty when ICU cannot format it.
     [[nodiscard]] QString operator()(Date date) const;
 
 private:

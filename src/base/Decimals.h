@@ -5,8 +5,8 @@
 
 namespace vantle {
 
-/// printf's "%.{decimals}f" with a point in every locale, of a finite value: exact ties of the
-/// binary value go to the even digit. (Qt's own formatting rounds them up.) Any thread.
+/// Formats a finite value like printf's "%.{decimals}f", with a decimal point in every locale:
+/// exact binary ties round to the even digit, where Qt's functions round up. Any thread.
 [[nodiscard]] QString fixedDecimals(double value, int decimals);
 
 } // namespace vantle

@@ -1,12 +1,14 @@
-// An hour of the day as the person's locale writes it: "9 AM", "09 Uhr", "9時". Pure, any thread.
+// The label of an hour: "9 AM", "09 Uhr", "9時".
+//
+// Pure function, any thread.
 #pragma once
 
 #include <QString>
 
 namespace vantle {
 
-/// The hour alone, 0 to 23, in the clock of 12 or 24 hours that the locale (an ICU id) uses. The
-/// plain number where ICU can't write it.
+/// Formats an hour, 0 to 23, in the 12 or 24 hour clock of the locale (an ICU id). Returns the
+/// plain number when ICU cannot format it.
 [[nodiscard]] QString hourLabel(int hour, const QString& locale);
 
 } // namespace vantle

@@ -7,7 +7,7 @@ namespace vantle::iso8601 {
 
 namespace {
 
-/// The number that `count` digits at `at` write, or -1 when one of them is no digit.
+/// Returns the number in the `count` digits at `at`; -1 when one is not a digit.
 int digits(const char* at, int count) {
     int value = 0;
     for (int i = 0; i < count; ++i) {
@@ -18,7 +18,8 @@ int digits(const char* at, int count) {
     return value;
 }
 
-/// The start in seconds since 1970 of the day that `YYYY-MM-DD` at `in` names, if there is one.
+/// Returns the start, in seconds since 1970, of the day `YYYY-MM-DD` at `in`; empty when there is
+/// no such day.
 std::optional<double> startOfDay(const char* in) {
     using namespace std::chrono;
     if (in[4] != '-' || in[7] != '-') return std::nullopt;

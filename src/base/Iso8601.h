@@ -1,6 +1,7 @@
-// Dates as they stand in files: `YYYY-MM-DDThh:mm:ssZ`, UTC, whole seconds, exactly 20 bytes.
+// Dates in the form of the data files.
 //
-// Pure functions, any thread, no allocation.
+// `YYYY-MM-DDThh:mm:ssZ`: UTC, whole seconds, exactly 20 bytes. Pure functions, any thread, no
+// allocation.
 #pragma once
 
 #include "base/Date.h"
@@ -13,16 +14,15 @@ namespace vantle::iso8601 {
 
 inline constexpr std::size_t kLength = 20;
 
-/// The text of `date`, a fraction of a second dropped toward the past. Empty when the date has no
-/// such text: it is not finite, or its year is outside 1 to 9999.
+/// Returns the text of `date`, rounded down to a second. Empty when `date` is not finite or its
+/// year is outside 1 to 9999.
 [[nodiscard]] std::optional<std::array<char, kLength>> format(Date date);
 
-/// The date that `text` names. Empty for anything but that form: fractions, offsets, lower-case
-/// letters, dates that the calendar does not have, second 60 and year 0 are all refused.
+/// Returns the date of `text`. Empty for any other form: fractions, offsets, lower-case letters,
+/// days that do not exist, second 60 and year 0 are refused.
 [[nodiscard]] std::optional<Date> parse(std::string_view text);
 
-/// Reads as `parse` does, and quicker where dates of one day come one after the other. One reader a
-/// thread.
+/// Parses like `parse`, faster for runs of dates on one day. One parser per thread.
 class Parser {
 public:
     [[nodiscard]] std::optional<Date> parse(std::string_view text);

@@ -11,8 +11,9 @@ constexpr char16_t kOption = u'⌥';
 
 bool isSign(QChar letter) { return letter == kCommand || letter == kOption; }
 
-/// With Alt it is the combination that holds everywhere, which takes Super; alone it is a key of a
-/// window, which takes Ctrl: desktops keep most of those with Super for themselves.
+/// The other desktop's sign stands for two keys: with Alt it is a global combination, which uses
+/// Super; alone it is a key of a window, which uses Ctrl, since desktops reserve most combinations
+/// with Super.
 QString modifiers(QStringView signs) {
     const bool alt = signs.contains(kOption);
     const bool command = signs.contains(kCommand);
@@ -33,7 +34,7 @@ QString keySignsInWords(const QString& text) {
             words += text.at(i++);
         else
             words += modifiers(QStringView(text).sliced(start, i - start));
-        // Readers pass over a comma as well.
+        // Screen readers skip a comma too.
         if (i < text.size() && text.at(i) == u',' && words.endsWith(QLatin1Char('+'))) {
             words += QStringLiteral("Comma");
             ++i;

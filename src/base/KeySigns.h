@@ -1,14 +1,15 @@
-// Keys in words, for texts that are heard: a reader passes over ⌘ and ⌥, and over the comma of
-// "Ctrl+,". Pure, any thread.
+// Key combinations in words, for texts that a screen reader speaks.
+//
+// A screen reader skips ⌘ and ⌥, and the comma of "Ctrl+,". Pure, any thread.
 #pragma once
 
 #include <QString>
 
 namespace vantle {
 
-/// The text with each combination of signs as the keys that do it: "⌘D" is "Ctrl+D", "⌘," like
-/// "Ctrl+," is "Ctrl+Comma", "⌥⌘B" in either order is "Alt+Super+B". Any other text comes back as
-/// it is.
+/// Returns the text with each combination spelled as the keys to press: "⌘D" becomes "Ctrl+D", "⌘,"
+/// and "Ctrl+," become "Ctrl+Comma", "⌥⌘B" in either order becomes "Alt+Super+B". Other text is
+/// returned unchanged.
 [[nodiscard]] QString keySignsInWords(const QString& text);
 
 } // namespace vantle

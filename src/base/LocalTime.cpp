@@ -26,8 +26,8 @@ Day numberOf(std::chrono::sys_days day) { return day.time_since_epoch().count();
 
 /// How the user's calendar counts years and months.
 struct LocalTime::Years {
-    /// Null for the Gregorian calendar, which is arithmetic. It only counts days, so its zone is of
-    /// no matter.
+    /// Null for the Gregorian calendar, which is computed without ICU. Only counts days, so its
+    /// zone does not matter.
     std::unique_ptr<icu::Calendar> calendar;
 
     explicit Years(const QString& locale) {
@@ -38,7 +38,8 @@ struct LocalTime::Years {
             calendar.reset();
     }
 
-    /// A field of the day; 1 where ICU can't tell, as beyond what its calendars reach.
+    /// Returns a field of the day; 1 when ICU cannot compute it, as beyond the range of its
+    /// calendars.
     [[nodiscard]] int field(UCalendarDateFields which, Day day) const {
         UErrorCode status = U_ZERO_ERROR;
         calendar->setTime(static_cast<double>(day * localtime::kSecondsPerDay) * 1000.0, status);
@@ -68,7 +69,7 @@ LocalTime::LocalTime(const Calendar& calendar)
     std::unique_ptr<const icu::TimeZone> zone(
         icu::TimeZone::createTimeZone(icutext::toIcu(calendar.timeZone)));
     if (*zone == icu::TimeZone::getUnknown()) return;
-    // Each zone that ICU makes from an id can tell its changes.
+    // ICU's zones made from an id all have this base class.
     if (const auto* rules = dynamic_cast<const icu::BasicTimeZone*>(zone.get())) {
         static_cast<void>(zone.release());
         m_zone.reset(new Zone{std::unique_ptr<const icu::BasicTimeZone>(rules)});
@@ -79,7 +80,7 @@ LocalTime::~LocalTime() = default;
 
 Date LocalTime::startOfDay(localtime::Day day) {
     const std::int64_t midnight = day * localtime::kSecondsPerDay;
-    // No zone is a whole day away from UTC, so this lies before the day begins.
+    // No offset reaches a whole day, so this moment lies before the day begins.
     Stretch stretch = stretchAt(midnight - localtime::kSecondsPerDay);
     while (midnight - stretch.offset >= stretch.until)
         stretch = stretchAt(stretch.until);
@@ -94,7 +95,7 @@ const LocalTime::Years& LocalTime::years() {
 
 int LocalTime::yearOf(Day day) {
     if (!years().calendar) return static_cast<int>(civil(day).year());
-    // Asked for day after day: ICU is asked again only in another year.
+    // Callers walk day by day, so ICU is called once per year.
     if (day < m_yearBegin || day >= m_yearEnd) {
         m_year = years().field(UCAL_YEAR, day);
         m_yearBegin = years().firstOfYear(m_year);

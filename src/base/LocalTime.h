@@ -1,8 +1,8 @@
-// Days and hours by the wall clock, for many moments in a row.
+// Days and hours by the wall clock, for long runs of moments.
 //
-// Calendar answers one question by one call of ICU, some microseconds each. Whoever walks over
-// years of records asks here: ICU tells only when the clocks changed, and between two changes a day
-// is arithmetic. The answers are the same.
+// Calendar calls ICU for each answer, which takes microseconds. This class calls ICU only for the
+// changes of the clock and computes days between two changes, with the same results: for walks over
+// years of records.
 #pragma once
 
 #include "base/Calendar.h"
@@ -17,16 +17,15 @@ namespace vantle {
 
 namespace localtime {
 
-/// A day by its number: 0 is 1970-01-01 on the wall, whatever the zone.
+/// A day number; 0 is 1970-01-01 by the wall clock, in every zone.
 using Day = std::int64_t;
 
 inline constexpr std::int64_t kSecondsPerDay = 86400;
 
 } // namespace localtime
 
-/// The wall clock of one calendar. An unknown zone is read as UTC, and has no weeks, as in
-/// Calendar. Moments beyond some 28,000 years are taken for the last that can be told. Keeps what
-/// it asked, so an object is for one thread at a time.
+/// The wall clock of one calendar. An unknown zone reads as UTC and has no weeks, as in Calendar.
+/// Moments beyond about 28,000 years are clamped. Caches what it asked ICU: one thread at a time.
 class LocalTime {
 public:
     explicit LocalTime(const Calendar& calendar);
@@ -44,7 +43,7 @@ public:
 
     [[nodiscard]] bool knowsZone() const { return m_zone != nullptr; }
 
-    /// What the wall clock shows at `date`; fractions of a second are cut off downwards.
+    /// Returns day and second at `date`, rounded down to a second.
     [[nodiscard]] Moment at(Date date) {
         const std::int64_t seconds = wholeSeconds(date);
         if (seconds < m_stretch.from || seconds >= m_stretch.until) m_stretch = stretchAt(seconds);
@@ -54,27 +53,26 @@ public:
         return {(wall - second) / localtime::kSecondsPerDay, static_cast<int>(second)};
     }
 
-    /// The first moment of the day: midnight, the first of two, or the moment after the gap where a
-    /// change of the clock skips midnight.
+    /// Returns the first moment of the day: midnight, the first of two midnights, or the moment
+    /// after the gap where a clock change skips midnight.
     [[nodiscard]] Date startOfDay(localtime::Day day);
 
     /// The first moment of the day after the one that holds `date`.
     [[nodiscard]] Date endOfDay(Date date) { return startOfDay(at(date).day + 1); }
 
-    /// The year of the day, as the user's calendar counts years: the Gregorian, or the locale's
-    /// own, as the Persian in fa_IR.
+    /// Returns the year of the day in the user's calendar: Gregorian, or the locale's own, such as
+    /// the Persian in fa_IR.
     [[nodiscard]] int yearOf(localtime::Day day);
 
-    /// The first day of the month that holds `day`, and of a year; months and years as above.
+    /// Returns the first day of the month of `day`, or of a year, in the same calendar.
     [[nodiscard]] localtime::Day firstOfMonth(localtime::Day day);
     [[nodiscard]] localtime::Day firstOfYear(int year);
 
-    /// The first day of the week that holds `day`, by the calendar's rules. Empty in an unknown
-    /// zone.
+    /// Returns the first day of the week of `day`; empty in an unknown zone.
     [[nodiscard]] std::optional<localtime::Day> firstOfWeek(localtime::Day day) const;
 
 private:
-    /// Between two changes of the clock, in seconds since 1970 UTC; `until` is outside.
+    /// The span between two clock changes, in seconds since 1970 UTC; `until` is exclusive.
     struct Stretch {
         std::int64_t from = 0;
         std::int64_t until = 0;
@@ -85,12 +83,12 @@ private:
     struct Years;
     [[nodiscard]] const Years& years();
 
-    /// Keeps all arithmetic on whole seconds within its range, and years within std::chrono's.
+    /// Limits the arithmetic to a range where seconds are exact and years fit std::chrono.
     static constexpr double kEnd = 9e11;
 
     static std::int64_t wholeSeconds(Date date) {
         const double seconds = epochSeconds(date);
-        if (!(seconds > -kEnd)) return static_cast<std::int64_t>(-kEnd); // what is no number, too
+        if (!(seconds > -kEnd)) return static_cast<std::int64_t>(-kEnd); // NaN too
         if (seconds >= kEnd) return static_cast<std::int64_t>(kEnd);
         const auto whole = static_cast<std::int64_t>(seconds);
         return whole - (static_cast<double>(whole) > seconds ? 1 : 0);
@@ -101,11 +99,11 @@ private:
 
     const QString m_locale;
     int m_firstWeekday;
-    std::unique_ptr<const Zone> m_zone; ///< none where the zone is unknown
-    Stretch m_stretch;                  ///< of the last question
-    std::vector<Stretch> m_known;       ///< all that were asked for, in order
-    std::unique_ptr<Years> m_years;     ///< made at the first question about a year or month
-    int m_year = 0;                     ///< of the last question, with its days
+    std::unique_ptr<const Zone> m_zone; ///< null where the zone is unknown
+    Stretch m_stretch;                  ///< of the last call
+    std::vector<Stretch> m_known;       ///< all stretches asked for so far, in order
+    std::unique_ptr<Years> m_years;     ///< made on first use of a year or month
+    int m_year = 0;                     ///< of the last call, with its days
     localtime::Day m_yearBegin = 0;
     localtime::Day m_yearEnd = 0;
 };

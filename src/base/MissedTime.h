@@ -1,4 +1,4 @@
-// Stretches of time that the program slept through.
+// The detection of time that the program slept through.
 #pragma once
 
 #include "base/Clock.h"
@@ -7,35 +7,34 @@
 
 namespace vantle {
 
-/// Finds out, from one look at the clock to the next, whether the machine slept or the program was
-/// stopped in between. Plain value, one thread.
+/// Detects, from one reading of the clock to the next, that the machine slept or that the program
+/// was stopped. Plain value, one thread.
 ///
-/// Sleep shows as uptime that grows faster than the time awake. A program that was stopped
-/// (SIGSTOP, a frozen control group) shows as a look that is much later than it was due. A change
-/// of the wall clock is neither.
+/// Sleep shows as uptime that grows faster than the time awake. A stopped program (SIGSTOP, a
+/// frozen cgroup) shows as a reading much later than due. A change of the wall clock is neither.
 class MissedTime {
 public:
-    /// How late a look may be before the program counts as stopped: more than the event loop is
-    /// ever busy with one thing.
+    /// A reading later than this counts as a stopped program; the event loop never blocks that
+    /// long.
     static constexpr Seconds longestStall{20.0};
 
-    /// Sleep below this is not looked at: the two clocks are read one after the other.
+    /// Shorter sleep is ignored, since the two clocks are read one after the other.
     static constexpr Seconds shortestSleep{1.0};
 
-    /// `interval` is the time between two looks that are on time.
+    /// `interval` is the time between two readings that are on time.
     MissedTime(const Clock& clock, Seconds interval);
 
-    /// A stretch in which nothing could be observed.
+    /// A stretch without observation.
     struct Stretch {
-        Date from;        ///< the last look before it, by the wall clock
-        Seconds length{}; ///< from that look to now, whatever became of the wall clock
-        Seconds awake{};  ///< the part of it in which the machine did not sleep
+        Date from;        ///< the last reading before it, by the wall clock
+        Seconds length{}; ///< from that reading to now; changes of the wall clock do not affect it
+        Seconds awake{};  ///< the part of it in which the machine was awake
     };
 
-    /// What was missed since the last look; empty when nothing was.
+    /// Returns what was missed since the last reading; empty when nothing was.
     [[nodiscard]] std::optional<Stretch> sinceLastLook() const;
 
-    /// Begins the next stretch now.
+    /// Records a reading now.
     void look();
 
 private:

@@ -12,7 +12,7 @@ class QtScheduler::Target : public QObject {};
 
 namespace {
 
-/// What QTimer takes: whole milliseconds, none below zero, and at the most about 24 days.
+/// Converts to what QTimer accepts: whole milliseconds, at least 0, at most about 24 days.
 int timerInterval(Seconds interval) {
     constexpr std::int64_t kLongest = std::numeric_limits<int>::max();
     const std::int64_t milliseconds = roundedToInteger(interval.count() * 1000.0);
@@ -23,8 +23,8 @@ class QtTimer final : public Timer {
 public:
     QtTimer(Seconds interval, Seconds tolerance, bool repeats, std::function<void()> work)
         : m_timer(new QTimer) {
-        // A coarse timer may be 5 % early or late; where that is more than is allowed, or where
-        // the interval is too short for it to matter, the precise one is used.
+        // A coarse timer may be 5 % early or late. A precise one is used where that exceeds the
+        // tolerance.
         const bool coarse = tolerance >= interval * 0.05 && tolerance > Seconds::zero();
         m_timer->setTimerType(coarse ? Qt::CoarseTimer : Qt::PreciseTimer);
         m_timer->setSingleShot(!repeats);

@@ -1,7 +1,7 @@
-// The outcome of an operation that the outside world can make fail.
+// The result of an operation that can fail.
 //
-// A Result can't be ignored, and its error always names the operation and the file. No exception
-// leaves a folder; operations that can fail give a Result instead. Plain values, any thread.
+// A Result must be checked, and its error always names operation and file. No exception leaves a
+// folder. Plain values, any thread.
 #pragma once
 
 #include <QString>
@@ -12,12 +12,12 @@
 
 namespace vantle {
 
-/// What went wrong, where, and in the platform's own words.
+/// What failed, on which file, and the platform's message.
 struct Error {
-    int code = 0;      ///< errno, or 0 where the platform gave none
-    QString operation; ///< what was tried, as in "write"
+    int code = 0;      ///< errno, or 0 where there is none
+    QString operation; ///< as in "write"
     QString path;      ///< the file or directory concerned
-    QString text;      ///< the platform's text for the code, or our own where it has none
+    QString text;      ///< the platform's text for the code, or the program's own
 
     /// The platform's text with the operation and the file: "No space left on device (write
     /// /home/ada/.local/share/Vantle/sessions.jsonl)".
@@ -36,14 +36,14 @@ public:
     [[nodiscard]] bool ok() const { return m_outcome.index() == 0; }
     explicit operator bool() const { return ok(); }
 
-    /// The value. Only when ok().
+    /// Returns the value. Requires ok().
     [[nodiscard]] T& value() { return std::get<0>(m_outcome); }
     [[nodiscard]] const T& value() const { return std::get<0>(m_outcome); }
 
-    /// The error. Only when not ok().
+    /// Returns the error. Requires that ok() is false.
     [[nodiscard]] const Error& error() const { return std::get<1>(m_outcome); }
 
-    /// Says that the failure is deliberately of no consequence here.
+    /// Marks a failure as deliberately ignored.
     void ignore() const {}
 
 private:

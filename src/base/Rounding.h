@@ -1,4 +1,6 @@
-// The two ways in which seconds become whole numbers. Any thread.
+// The two roundings of seconds to whole numbers.
+//
+// Pure functions, any thread.
 #pragma once
 
 #include <cmath>
@@ -7,9 +9,8 @@
 
 namespace vantle {
 
-/// `value` as an integer, fractions cut off toward zero. Values outside the range of the integer
-/// give its nearest end, and what is not a number gives 0, so that a broken clock cannot cause
-/// undefined behaviour.
+/// Returns `value` truncated toward zero. Values beyond the range are clamped and NaN gives 0, so
+/// that a broken clock cannot cause undefined behaviour.
 [[nodiscard]] inline std::int64_t truncatedToInteger(double value) {
     constexpr double kLimit = 9223372036854775808.0; // 2^63, the first double that is too large
     if (std::isnan(value)) return 0;
@@ -18,7 +19,7 @@ namespace vantle {
     return static_cast<std::int64_t>(value);
 }
 
-/// `value` rounded to the nearest integer, halves away from zero; the ends as above.
+/// Returns `value` rounded to nearest, halves away from zero; clamped like truncatedToInteger.
 [[nodiscard]] inline std::int64_t roundedToInteger(double value) {
     return truncatedToInteger(std::round(value));
 }

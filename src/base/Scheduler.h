@@ -1,4 +1,6 @@
-// Work that runs later on the main thread. Nothing else in the program makes a timer.
+// Timers and delayed work on the main thread.
+//
+// No other class of the program makes a timer.
 #pragma once
 
 #include "base/Date.h"
@@ -8,8 +10,7 @@
 
 namespace vantle {
 
-/// A timer that is running. To destroy it is to invalidate it: nothing fires afterwards, also when
-/// the destruction happens inside its own callback.
+/// A running timer. Destroying it stops it, also from inside its own callback.
 class Timer {
 public:
     virtual ~Timer() = default;
@@ -17,28 +18,27 @@ public:
 
 using TimerHandle = std::unique_ptr<Timer>;
 
-/// Makes timers and runs work later on the main thread. Timers go by a clock that changes of the
-/// wall clock do not move. Callbacks must hold their objects weakly, or be owned by them through
-/// the returned handle.
+/// Makes timers and runs work later on the main thread. Timers run on a clock that setting the wall
+/// clock does not move. A callback must hold its objects weakly, or its object must own the
+/// returned handle.
 class Scheduler {
 public:
     virtual ~Scheduler() = default;
 
-    /// Calls `work` every `every` seconds until the handle is destroyed. The platform may shift a
-    /// call by up to `tolerance` to save wake-ups. Main thread.
+    /// Calls `work` every `every` until the handle is destroyed. The platform may shift a call by
+    /// up to `tolerance` to save wake-ups. Main thread.
     [[nodiscard]] virtual TimerHandle scheduleRepeatingTimer(Seconds every, Seconds tolerance,
                                                              std::function<void()> work) = 0;
 
-    /// Calls `work` once, `delay` seconds from now, unless the handle is destroyed before. A delay
-    /// below zero counts as none; one of weeks may be cut to 24 days. Main thread.
+    /// Calls `work` once after `delay`, unless the handle is destroyed before. A negative delay
+    /// counts as 0; a delay of weeks may be cut to 24 days. Main thread.
     [[nodiscard]] virtual TimerHandle scheduleOnce(Seconds delay, std::function<void()> work) = 0;
 
-    /// Runs `work` on the main thread after the work that it is doing now. In order of posting.
-    /// Any thread.
+    /// Queues `work` on the main thread, in order of posting. Any thread.
     virtual void post(std::function<void()> work) = 0;
 };
 
-/// The form over Qt's event loop. Make it on the main thread, after the application object.
+/// The scheduler on Qt's event loop. Requires the application object; construct on the main thread.
 class QtScheduler final : public Scheduler {
 public:
     QtScheduler();

@@ -1,4 +1,4 @@
-// The one door off the main thread.
+// Queues of work off the main thread.
 #pragma once
 
 #include <QString>
@@ -13,24 +13,24 @@
 
 namespace vantle {
 
-/// Runs jobs one at a time, in the order in which they came. All calls may come from any thread but
-/// the queue's own: `sync` from inside a job of the same queue would wait for itself.
+/// Runs jobs one at a time, in order. Callable from any thread except the queue's own: `sync` from
+/// a job of the same queue would deadlock.
 class SerialQueue {
 public:
     virtual ~SerialQueue() = default;
 
-    /// Queues `job` and returns at once.
+    /// Queues `job` and returns immediately.
     virtual void async(std::function<void()> job) = 0;
 
-    /// Runs `job` after everything that is queued by now, and returns when it has run.
+    /// Queues `job` and returns after it ran.
     virtual void sync(const std::function<void()>& job) = 0;
 
-    /// Returns when everything that is queued by now has run.
+    /// Returns after all jobs queued so far ran.
     void drain() {
         sync([] {});
     }
 
-    /// `sync` for a job that answers.
+    /// Like `sync`; returns the job's result.
     template <typename Job>
     [[nodiscard]] auto run(Job&& job) {
         std::optional<std::invoke_result_t<Job>> answer;
@@ -39,8 +39,8 @@ public:
     }
 };
 
-/// A queue with a thread of its own, started at the first job and kept. The label becomes the
-/// thread's name as debuggers and `ps` show it. The destructor runs what is still queued.
+/// A queue with its own thread, which starts with the first job. The label becomes the thread's
+/// name in debuggers and `ps`. The destructor runs what is still queued.
 class ThreadQueue final : public SerialQueue {
 public:
     explicit ThreadQueue(QString label);
@@ -55,7 +55,7 @@ private:
     void work();
 
     const QString m_label;
-    std::mutex m_mutex; ///< guards everything below
+    std::mutex m_mutex; ///< guards all members below
     std::condition_variable m_wake;
     std::deque<std::function<void()>> m_jobs;
     bool m_closing = false;

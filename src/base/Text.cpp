@@ -23,12 +23,13 @@ namespace {
 
 using icutext::fromIcu;
 
-/// An aliasing, read-only ICU view of `text`: no copy, valid while `text` is.
+/// Returns a read-only ICU view of `text`: no copy, valid as long as `text`.
 icu::UnicodeString viewOf(QStringView text) {
     return {false, text.utf16(), static_cast<int32_t>(text.size())};
 }
 
-/// A character iterator of this thread, made once: making one costs more than a short walk.
+/// Returns this thread's character iterator. It is kept, since construction costs more than a short
+/// walk.
 icu::BreakIterator& characterIterator() {
     thread_local const std::unique_ptr<icu::BreakIterator> iterator = [] {
         UErrorCode status = U_ZERO_ERROR;
@@ -41,7 +42,7 @@ icu::BreakIterator& characterIterator() {
 constexpr char32_t kAsciiEnd = 0x80;
 
 bool isWhiteSpace(char32_t scalar) {
-    // Most text is ASCII, so that is settled without the tables.
+    // Most text is ASCII, which needs no ICU table.
     if (scalar < kAsciiEnd) return scalar == U' ' || (scalar >= U'\t' && scalar <= U'\r');
     return u_isUWhiteSpace(static_cast<UChar32>(scalar));
 }
@@ -59,10 +60,11 @@ constexpr std::array<bool, kAsciiEnd> kIsInAsciiWord = [] {
     return isIn;
 }();
 
-/// For what is beyond ASCII.
+/// For characters beyond ASCII.
 bool isInWord(UChar32 scalar) { return (U_GET_GC_MASK(scalar) & kWordCategories) != 0; }
 
-/// The first place at or after `at` where a scalar is in a word, or is not; else the end.
+/// Returns the first position from `at` on whose scalar is in a word, or is not; the end when there
+/// is none.
 qsizetype nextPlace(QStringView text, qsizetype at, bool inWord) {
     const char16_t* const units = text.utf16();
     const qsizetype length = text.size();
@@ -86,7 +88,7 @@ UChar32 firstScalar(QStringView character) {
     return scalar;
 }
 
-/// Whether every unit is a character of its own: nothing in it joins, and no line ends with CR LF.
+/// Whether every UTF-16 unit is a character: no combining marks and no CR LF.
 bool unitsAreCharacters(QStringView text) {
     constexpr char16_t kFirstMark = 0x300;
     return std::ranges::all_of(
@@ -97,7 +99,7 @@ bool unitsAreCharacters(QStringView text) {
 bool hasSingleBlanks(QStringView text) {
     bool afterPiece = false;
     for (const QChar unit : text) {
-        const bool gap = isWhiteSpace(unit.unicode()); // no surrogate is, nor any pair of them
+        const bool gap = isWhiteSpace(unit.unicode()); // no surrogate or pair is white space
         if (gap && (unit != QLatin1Char(' ') || !afterPiece)) return false;
         afterPiece = !gap;
     }
@@ -142,7 +144,7 @@ qsizetype characterCount(QStringView text) {
 }
 
 bool hasAtMost(QStringView text, qsizetype limit) {
-    // A character has at least one unit, so few units settle it without looking.
+    // A character has at least one unit, so a short text needs no iteration.
     return text.size() <= limit || characterCount(text) <= limit;
 }
 

@@ -1,7 +1,6 @@
-// Text as people see it: user-perceived characters, white space, case and letters by Unicode.
+// Text in user-perceived characters, with Unicode's case and letters.
 //
-// Pure functions over QString, any thread. The tables are ICU's; no function depends on the
-// person's locale.
+// Pure functions, any thread. ICU has the tables; no function depends on the locale.
 #pragma once
 
 #include <QByteArrayView>
@@ -10,56 +9,57 @@
 
 namespace vantle::text {
 
-/// The text of valid UTF-8, every character of it. (Qt's own reader takes U+FEFF at the front for a
-/// byte order mark and drops it; inside a file's strings it is a character like any other.)
+/// Decodes valid UTF-8 and keeps every character. Qt's decoder drops a leading U+FEFF as a byte
+/// order mark, but inside a file's strings it is a character.
 [[nodiscard]] QString fromUtf8(QByteArrayView utf8);
 
-/// How many user-perceived characters (extended grapheme clusters) `text` holds.
+/// Returns the number of user-perceived characters (extended grapheme clusters).
 [[nodiscard]] qsizetype characterCount(QStringView text);
 
-/// Whether `text` has at most `limit` user-perceived characters. Cheap for short texts.
+/// Whether `text` has at most `limit` user-perceived characters. Constant time for short texts.
 [[nodiscard]] bool hasAtMost(QStringView text, qsizetype limit);
 
-/// The first `count` user-perceived characters of `text`; all of it when it has no more.
+/// Returns the first `count` user-perceived characters, or all when there are fewer.
 [[nodiscard]] QString firstCharacters(const QString& text, qsizetype count);
 
-/// `text` without white space and newlines (Unicode White_Space) at both ends.
+/// Returns `text` without Unicode White_Space at both ends.
 [[nodiscard]] QString trimmed(const QString& text);
 
-/// The pieces of `text` between runs of white space and newlines, without empty ones, joined by
-/// one blank. The text itself, without a copy, where that is what it is already.
+/// Returns the non-empty pieces between runs of white space, joined by single blanks. Returns
+/// `text` itself, uncopied, when it has that form already.
 [[nodiscard]] QString withSingleBlanks(const QString& text);
 
-/// The form under which texts that differ only in case and diacritics are the same.
+/// Returns a form that is equal for texts that differ only in case and diacritics.
 [[nodiscard]] QString foldedCaseAndDiacritics(const QString& text);
 
 /// Full lower-casing, independent of the locale.
 [[nodiscard]] QString lowerCased(const QString& text);
 
-/// Each word, the pieces between blanks (U+0020), with its first character in upper case and the
-/// rest in lower case.
+/// Returns each word, separated by U+0020, with the first character in upper case and the rest in
+/// lower case.
 [[nodiscard]] QString capitalizedWords(const QString& text);
 
 /// Full upper-casing, independent of the locale.
 [[nodiscard]] QString upperCased(const QString& text);
 
-/// What the first scalar of a user-perceived character says it is: by its general category.
+/// Classifies a user-perceived character by the general category of its first scalar.
 [[nodiscard]] bool isLetter(QStringView character);
 [[nodiscard]] bool isLetterOrNumber(QStringView character);
 
-/// Whether the first scalar of a user-perceived character has a numeric value: digits of every
-/// script, fractions, and the ideographs that numbers are written with.
+/// Whether the first scalar of the character has a numeric value: digits of every script,
+/// fractions, and ideographic numbers.
 [[nodiscard]] bool isNumeric(QStringView character);
 
-/// Takes the first run of letters, marks and numbers off the front of `rest`, along with what
-/// stands before it. Empty when none is left. Marks are of the run, so a letter keeps its accent.
+/// Removes the first run of letters, marks and numbers from `rest`, with what precedes it, and
+/// returns the run; empty when there is none left. Marks belong to the run, so a letter keeps its
+/// accent.
 [[nodiscard]] QStringView takeWord(QStringView& rest);
 
-/// Whether `left` comes before `right` by code points. Plain `<` goes by UTF-16 units, and sorts
-/// characters beyond the first plane before some within it.
+/// Whether `left` precedes `right` by code points. Plain `<` compares UTF-16 units and sorts
+/// characters beyond the first plane too early.
 [[nodiscard]] bool codePointLess(QStringView left, QStringView right);
 
-/// The boundaries of the user-perceived characters of `text`, from 0 to its length.
+/// Returns the boundaries of the user-perceived characters, from 0 to the length.
 [[nodiscard]] QList<qsizetype> characterBoundaries(QStringView text);
 
 /// Calls `visit(QStringView)` for each user-perceived character of `text`, in order.
