@@ -18,7 +18,7 @@ namespace vantle {
 
 namespace {
 
-/// How old the stored times of applications that come and go may become.
+/// The longest delay before a changed last-seen time reaches the file.
 constexpr Seconds kTimestampSaveInterval{60};
 
 } // namespace
@@ -55,7 +55,7 @@ void AutoRules::save() {
             if (self) self->noteSaveFailure(error);
         });
     });
-    // Not waiting for the write: a failure shows from when it is known until the next try.
+    // Cleared without waiting for the write. A failure sets it again when the write has run.
     setPersistenceError(std::nullopt);
 }
 
@@ -113,7 +113,7 @@ bool AutoRules::isAutomaticallyCategorized(const QString& bundleId) const {
 }
 
 void AutoRules::forgetApp(const QString& bundleId) {
-    // What was never read must not be written over.
+    // Loads first, so that the write cannot replace a file that was never read.
     loadIfNeeded();
     m_state.rules.remove(bundleId);
     m_state.automaticRuleBundleIds.remove(bundleId);

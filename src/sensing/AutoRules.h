@@ -1,5 +1,6 @@
-// Which application belongs to which skill: in memory, in "auto-rules.json", and the rules for
-// changing it.
+// The rules that assign applications to skills, with their file.
+//
+// The file is "auto-rules.json".
 #pragma once
 
 #include "sensing/AutoRulesState.h"
@@ -18,11 +19,11 @@ class SerialQueue;
 class SkillList;
 struct Error;
 
-/// The memory of auto mode. Read on first use; a file that is missing or can't be read is replaced
-/// by the well-known applications. From then on changed only here, and written after each change.
-/// A write that fails changes nothing in memory; the person can read of it in `persistenceError`.
+/// Auto mode's memory. Loaded on first use; a missing or unreadable file is replaced by the rules
+/// for well-known applications. Written after each change. A failed write changes nothing in memory
+/// and sets `persistenceError`.
 ///
-/// Main thread. Reading and erasing wait for the I/O queue, writing does not.
+/// Main thread. Loading and erasing wait for the I/O queue, writing does not.
 class AutoRules final : public QObject {
     Q_OBJECT
 
@@ -31,21 +32,21 @@ public:
     static constexpr std::size_t maxSeenApps = autorules::maxSeenApps;
     static constexpr const char* ioQueueLabel = "local.vantle.autoskill-io";
 
-    /// What the rules work with. All of it must outlive them.
+    /// The services that the rules use. All of them must outlive the rules.
     struct Environment {
         const Clock& clock;
         Scheduler& scheduler;
-        SerialQueue& ioQueue; ///< of its own, named `ioQueueLabel`
+        SerialQueue& ioQueue; ///< auto mode's own queue, named `ioQueueLabel`
         const AppPaths& paths;
         SkillList& skills;
     };
     explicit AutoRules(const Environment& environment) : m_env(environment) {}
 
-    /// Reads the file, unless that was done, and writes it back without what has lost its meaning.
+    /// Loads the file once, drops rules that no longer apply, and writes it back.
     void loadIfNeeded();
 
-    /// Ruling by application: a skill id or `ignoreRuling`. Those whose skill was deleted in this
-    /// run are still among them.
+    /// Ruling by application: a skill id or `ignoreRuling`. May name skills that were deleted in
+    /// this run.
     [[nodiscard]] const QMap<QString, QString>& rules() const { return m_state.rules; }
     [[nodiscard]] const std::vector<SeenApp>& seenApps() const { return m_state.seenApps; }
     [[nodiscard]] const QSet<QString>& automaticRuleBundleIds() const {
@@ -54,43 +55,44 @@ public:
     /// Newest first.
     [[nodiscard]] std::vector<SeenApp> seenAppsByRecency() const;
 
-    /// The ruling for an application; empty when there is none, or none that still has a meaning.
+    /// Returns the ruling for an application; empty when there is none or its skill is gone.
     [[nodiscard]] std::optional<QString> ruling(const QString& bundleId);
 
-    /// The person's choice; empty takes the rule away. The same ruling as before changes nothing,
-    /// so it does not count as confirmed either.
+    /// Stores the user's choice; an empty one removes the rule. An unchanged ruling stays automatic
+    /// if it was.
     void setRule(const QString& bundleId, const std::optional<QString>& ruling);
 
-    /// A rule that nobody chose.
+    /// Stores a rule that the user did not choose.
     void setAutomaticRule(const QString& bundleId, const QString& skillId);
     [[nodiscard]] bool isAutomaticallyCategorized(const QString& bundleId) const;
 
-    /// Forgets all about an application.
+    /// Removes rule and last-seen entry of an application.
     void forgetApp(const QString& bundleId);
 
-    /// Takes away the rules for a skill that was deleted.
+    /// Removes the rules for a deleted skill.
     void removeRules(const QString& forSkillId);
 
-    /// The application is in front now. The time alone is written once a minute at the most.
+    /// Records that the application is in front now. A change of time alone is written at most once
+    /// a minute.
     void recordSeen(const QString& bundleId, const QString& name);
 
-    /// What the application is probably for among the person's skills; see AutoSuggestion.h.
+    /// Returns the skill that probably fits the application; see AutoSuggestion.h.
     [[nodiscard]] std::optional<QString> suggestedSkillId(const QString& bundleId,
                                                           const QString& appName);
 
-    /// Forgets everything, file included. Nothing is read or seeded again in this run.
+    /// Erases memory and file. Nothing is loaded or seeded again in this run.
     void eraseAllData();
 
-    /// Returns when every write so far has been tried.
+    /// Returns after every queued write has been tried.
     void drainPendingIO();
 
-    /// The last failure of a save or an erase, in words for the person; empty when all is well.
+    /// The last failure to save or erase, as text for the user; empty when there is none.
     [[nodiscard]] const std::optional<QString>& persistenceError() const {
         return m_persistenceError;
     }
 
 Q_SIGNALS:
-    void rulesChanged(); ///< or the marks of which are automatic
+    void rulesChanged(); ///< also when only the automatic marks change
     void seenAppsChanged();
     void persistenceErrorChanged();
 
@@ -106,7 +108,7 @@ private:
     Environment m_env;
     AutoRulesState m_state;
     bool m_loaded = false;
-    std::optional<Date> m_lastTimestampSaveAt; ///< empty: long ago
+    std::optional<Date> m_lastTimestampSaveAt; ///< empty means long ago
     std::optional<QString> m_persistenceError;
 };
 

@@ -24,8 +24,7 @@ using writing::appendDate;
 using writing::appendKey;
 using writing::appendString;
 
-/// By the bytes of their UTF-8. Other than by UTF-16, where a pair of surrogates comes before the
-/// last characters that need none.
+/// Orders by UTF-8 bytes. UTF-16 order differs: surrogate pairs sort before U+E000 to U+FFFF.
 bool precedes(const QString& a, const QString& b) {
     const auto [x, y] = std::ranges::mismatch(a, b);
     if (x == a.end() || y == b.end()) return y != b.end();
@@ -57,7 +56,7 @@ void appendRules(QByteArray& out, const QMap<QString, QString>& rules) {
     out += '}';
 }
 
-/// False when a date has no written form.
+/// Returns false when a date cannot be written.
 bool appendSeenApps(QByteArray& out, const std::vector<SeenApp>& apps) {
     bool datesFit = true;
     out += '[';

@@ -1,8 +1,8 @@
 // The JSON form of auto mode's memory, "auto-rules.json".
 //
-// Encoding: compact, keys in byte order, the set of automatic rules likewise. Decoding: the whole
-// text is validated; one value of another type makes all of it unreadable, unknown keys are
-// ignored, of a repeated key the last counts. Pure functions, any thread.
+// Encoding: compact, keys and the set of automatic rules in byte order. Decoding validates the
+// whole text: one value of a wrong type makes all of it unreadable, unknown keys are ignored, the
+// last of repeated keys counts. Pure functions, any thread.
 #pragma once
 
 #include "base/Result.h"
@@ -14,10 +14,10 @@
 
 namespace vantle::json {
 
-/// Always at the current version. Fails only when a date has no written form.
+/// Encodes at the current version. Fails only when a date cannot be written.
 [[nodiscard]] Result<QByteArray> encode(const AutoRulesState& state);
 
-/// Empty when the text is no such state.
+/// Returns the state; empty when the text is not one.
 [[nodiscard]] std::optional<StoredAutoRules> decodeAutoRules(QByteArrayView text);
 
 } // namespace vantle::json

@@ -15,7 +15,8 @@ bool hasSkill(const std::vector<Skill>& skills, QLatin1String id) {
     return std::ranges::any_of(skills, [&](const Skill& skill) { return skill.id == id; });
 }
 
-/// Newest first, each application once, none too old and none without a name.
+/// Returns the entries newest first, without repeats, entries older than the limit and entries
+/// without a name.
 std::vector<SeenApp> cleanedSeenApps(std::vector<SeenApp> stored, Date now) {
     std::ranges::stable_sort(stored, std::ranges::greater{}, &SeenApp::lastSeenAt);
     const Date cutoff = now - kSeenAppLife;
@@ -36,8 +37,8 @@ QString nameOf(const QString& bundleId, const std::vector<SeenApp>& apps) {
     return app == apps.end() ? bundleId : app->name;
 }
 
-/// Moves automatic rules to the skill "building" where that is what they would be given today. What
-/// a person chose is never touched.
+/// Moves automatic rules to the skill "building" where today's seed names it. Leaves the user's
+/// choices alone.
 void moveToBuilding(AutoRulesState& state, const std::vector<Skill>& skills) {
     const QLatin1String building("building");
     if (!hasSkill(skills, building)) return;

@@ -1,4 +1,4 @@
-// What auto mode remembers, and how a stored state becomes one to work with.
+// Auto mode's memory as a value, and the cleaning of a stored one.
 //
 // Plain values and pure functions, any thread.
 #pragma once
@@ -16,10 +16,10 @@
 
 namespace vantle {
 
-/// An application that was in front lately.
+/// An application that was in front recently.
 struct SeenApp {
     QString bundleId;
-    QString name; ///< as people call it
+    QString name; ///< as shown to the user
     Date lastSeenAt;
     friend bool operator==(const SeenApp&, const SeenApp&) = default;
 };
@@ -28,19 +28,20 @@ struct AutoRulesState {
     /// Ruling by the application's identity: the id of a skill, or "ignore".
     QMap<QString, QString> rules;
 
-    /// At most 40, each application once.
+    /// At most 40, without repeats.
     std::vector<SeenApp> seenApps;
 
-    /// The rules that nobody has chosen or confirmed. Always keys of `rules`.
+    /// The rules that the user neither chose nor confirmed. A subset of the keys of `rules`.
     QSet<QString> automaticRuleBundleIds;
 
     friend bool operator==(const AutoRulesState&, const AutoRulesState&) = default;
 };
 
-/// The state as it stands in the file, with whatever else may have written it.
+/// The content of the file, which another program may have written.
 struct StoredAutoRules {
-    AutoRulesState state;                        ///< none of its promises hold yet
-    std::optional<std::int64_t> taxonomyVersion; ///< of the skills that automatic rules are for
+    AutoRulesState state; ///< unchecked: none of the invariants hold yet
+    // version of the skill set that the automatic rules refer to
+    std::optional<std::int64_t> taxonomyVersion;
     static constexpr int currentTaxonomyVersion = 1;
     friend bool operator==(const StoredAutoRules&, const StoredAutoRules&) = default;
 };
@@ -50,14 +51,14 @@ namespace autorules {
 inline constexpr const char* ignoreRuling = "ignore";
 inline constexpr std::size_t maxSeenApps = 40;
 
-/// Whether a ruling means anything: "ignore", or a skill that exists.
+/// Whether a ruling is "ignore" or an existing skill.
 [[nodiscard]] bool isValidRuling(const QString& ruling, const std::vector<Skill>& skills);
 
-/// The state of somebody who has none: the well-known applications whose skills exist.
+/// The state of a new user: the well-known applications whose skills exist.
 [[nodiscard]] AutoRulesState seeded(const std::vector<Skill>& skills);
 
-/// The stored state without what has no meaning any more: rules for skills that are gone,
-/// applications not seen for 90 days. Automatic rules of an older taxonomy move to the new one.
+/// Returns the stored state without rules for deleted skills and applications not seen for 90 days,
+/// with automatic rules of an older taxonomy moved to the current one.
 [[nodiscard]] AutoRulesState cleaned(const StoredAutoRules& stored, Date now,
                                      const std::vector<Skill>& skills);
 

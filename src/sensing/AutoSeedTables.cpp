@@ -71,7 +71,7 @@ constexpr const char* kLegacyBusiness[] = {"com.tinyspeck.slackmacgap",
                                            "notion.id",
                                            "com.linear"};
 
-// Design tools are built with, unless there is a skill for design: a later row wins.
+// Design tools count as building unless a design skill exists: the later row wins.
 constexpr Row kCurrentRows[] = {{"building", kCurrentBuilding},
                                 {"building", kDesignTools},
                                 {"product_design", kDesignTools},

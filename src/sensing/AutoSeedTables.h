@@ -1,21 +1,23 @@
-// Which well-known applications belong to which of the skills that people start with. Plain data.
+// The well-known applications of each seed skill.
+//
+// Plain data, any thread.
 #pragma once
 
 #include <span>
 
 namespace vantle::autoseeds {
 
-/// Applications that belong to a skill. Rows are applied in order: where two name the same
-/// application, the later one whose skill exists wins.
+/// Applications of one skill. Rows apply in order: of two rows that name an application, the later
+/// one whose skill exists wins.
 struct Row {
     const char* skillId;
     std::span<const char* const> bundleIds;
 };
 
-/// For the skills that people start with now.
+/// For the seeds of this version.
 [[nodiscard]] std::span<const Row> current();
 
-/// For the skills of earlier versions.
+/// For the seeds of earlier versions.
 [[nodiscard]] std::span<const Row> legacy();
 
 } // namespace vantle::autoseeds

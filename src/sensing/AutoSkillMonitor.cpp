@@ -17,7 +17,7 @@ AutoSkillMonitor::AutoSkillMonitor(const Environment& environment)
     : m_env(environment)
     , m_rules({environment.clock, environment.scheduler, environment.ioQueue, environment.paths,
                environment.skills}) {
-    // Later, so that whoever writes several preferences is done with all of them.
+    // Deferred, so that a caller who writes several preferences has written all of them.
     settings::autoMode.watch(m_env.preferences, this, [this] {
         m_env.scheduler.post([self = QPointer(this)] {
             if (self) self->refreshFromDefaults();
@@ -42,7 +42,7 @@ void AutoSkillMonitor::start() {
     m_rules.loadIfNeeded();
     m_activationObserver = connect(&m_env.frontmostApp, &FrontmostApp::activated, this,
                                    &AutoSkillMonitor::handleActivation);
-    // The application that is there already counts from now on.
+    // The application that is in front already counts from now on.
     handleActivation(m_env.frontmostApp.frontmost());
 }
 
@@ -122,7 +122,7 @@ void AutoSkillMonitor::arm(double seconds, Dwell dwell) {
 void AutoSkillMonitor::fire(const Dwell& dwell) {
     m_pendingWork.reset();
     if (!isEnabled() || !isInFront(dwell.bundleId)) return;
-    // A rule that changed in the meantime ends it.
+    // A rule that changed during the stay ends it.
     if (m_rules.ruling(dwell.bundleId) != dwell.skillId) return;
     if (dwell.kind == DwellKind::Retag)
         fireRetag(dwell.skillId);
@@ -147,14 +147,14 @@ void AutoSkillMonitor::fireTagPrompt(const Application& app) {
     if (!isEnabled() || !isInFront(app.bundleId)) return;
     if (m_rules.ruling(app.bundleId) || !m_prompts.mayPrompt(app.bundleId, m_env.clock.now()))
         return;
-    // Where the session began is not asked about.
+    // The application in which the session began needs no question.
     if (sessionBundleId && sessionBundleId() == app.bundleId) return;
     if (!isIdleBelow(tagPromptDwellSeconds)) return;
     m_prompts.noteOffered(app.bundleId);
     if (onTagPromptSuggested) onTagPromptSuggested(app.bundleId, app.name);
 }
 
-// What the person does
+// The user's own choices
 
 void AutoSkillMonitor::noteManualSkillChoice() {
     const auto app = m_env.frontmostApp.frontmost();
@@ -177,7 +177,7 @@ std::optional<Application> AutoSkillMonitor::frontmostAppForCorrection() {
     return app;
 }
 
-// What is known of the world
+// Queries
 
 bool AutoSkillMonitor::isEnabled() const { return settings::autoMode.read(m_env.preferences); }
 
@@ -189,7 +189,7 @@ bool AutoSkillMonitor::isInFront(const QString& bundleId) {
 }
 
 bool AutoSkillMonitor::isIdleBelow(double seconds) {
-    // A counter that can't be told is no sign of presence.
+    // An unknown idle counter does not count as presence.
     const auto idle = IdleMonitor::systemIdleSeconds(m_env.idleSource);
     return idle && *idle < seconds;
 }

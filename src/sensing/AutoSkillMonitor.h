@@ -1,4 +1,4 @@
-// Auto mode: follows the application in front, and files time by it.
+// Auto mode: assigns time to skills by the application in front.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -18,71 +18,71 @@ namespace vantle {
 class IdleSource;
 class Preferences;
 
-/// After the person has stayed in an application long enough, does one of three things: suggests
-/// that the session go on under the application's skill (a retag), that one be started (an auto
-/// start), or that the person be asked what the application is for (a tag prompt). Nothing happens
-/// at the moment of a switch: every stay is cut off by the next switch, and what it needs is
-/// checked when it begins and again when it has lasted. Nothing is polled; between switches it
-/// sleeps.
+/// After the user has stayed in an application long enough, it suggests one of three things: to
+/// continue the session under the application's skill (a retag), to start a session (an auto
+/// start), or to ask what the application is for (a tag prompt). Nothing happens at the switch
+/// itself: the next switch cancels a stay, and its conditions are checked at its start and at its
+/// end. There is no polling.
 ///
-/// It decides and remembers; what comes of a suggestion is the owner's matter. An application
-/// without identity does not exist for it, nor do the program's own windows. Nothing here reports a
-/// failure but `rules().persistenceError()`. Main thread, the hooks included.
+/// It decides and remembers; the owner carries suggestions out. Applications without an identity
+/// and the program's own windows are ignored. Failures show in `rules().persistenceError()` alone.
+/// Main thread, the hooks included.
 class AutoSkillMonitor final : public QObject {
     Q_OBJECT
 
 public:
     static constexpr double retagDwellSeconds = RetagBank::dwellSeconds;
     static constexpr double retagGraceSeconds = RetagBank::graceSeconds;
-    static constexpr double autoStartDwellSeconds = 120; ///< also the limit of idle time
-    static constexpr double tagPromptDwellSeconds = 90;  ///< also the limit of idle time
+    static constexpr double autoStartDwellSeconds = 120; ///< also the limit of idle time at its end
+    static constexpr double tagPromptDwellSeconds = 90;  ///< also the limit of idle time at its end
     static constexpr double tagPromptCooldownSeconds = PromptMemory::cooldownSeconds;
     static constexpr double tagPromptGlobalSpacingSeconds = PromptMemory::spacingSeconds;
 
-    /// What auto mode works with. All of it must outlive the monitor.
+    /// The services that auto mode uses. All of them must outlive the monitor.
     struct Environment {
         const Clock& clock;
         Scheduler& scheduler;
-        SerialQueue& ioQueue; ///< of its own, named AutoRules::ioQueueLabel
+        SerialQueue& ioQueue; ///< auto mode's own queue, named AutoRules::ioQueueLabel
         const AppPaths& paths;
         const Preferences& preferences;
         SkillList& skills;
         FrontmostApp& frontmostApp;
         IdleSource& idleSource;
-        QString ownBundleId; ///< the program's own windows
+        QString ownBundleId; ///< identity of the program's own windows
     };
 
-    /// It does nothing until `refreshFromDefaults`, or until a preference changes.
+    /// Stopped until `refreshFromDefaults`, or until the preference changes.
     explicit AutoSkillMonitor(const Environment& environment);
     ~AutoSkillMonitor() override;
 
-    /// Which application belongs to which skill.
+    /// The rules that assign applications to skills.
     [[nodiscard]] AutoRules& rules() { return m_rules; }
 
-    /// Starts or stops as `settings::autoMode` says. Follows changes of the preference by itself.
+    /// Starts or stops as `settings::autoMode` says. Later changes of the preference apply without
+    /// a call.
     void refreshFromDefaults();
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
 
-    /// The person, not auto mode, changed the skill of the session that goes on: the application in
-    /// front does not change it again before the session ends.
+    /// The user changed the skill of the open session: the application in front does not change it
+    /// again before the session ends.
     void noteManualSkillChoice();
     void clearSessionOverrides() { m_sessionOverrides.clear(); }
 
-    /// The person answered a question about the application, or let it pass.
+    /// The user answered the question about the application, or let it expire.
     void noteTagPromptResolved(const QString& bundleId);
 
-    /// The question could not be put; it may be tried again.
+    /// The question could not be shown; it may be tried again.
     void forgetPromptOffer(const QString& bundleId) { m_prompts.forgetOffer(bundleId); }
     [[nodiscard]] bool mayOfferCorrectionPrompt(const QString& bundleId) const;
 
-    /// The application in front, if the person can be asked whether it always counts as a skill:
-    /// neither a browser nor one of ours. It always has a name.
+    /// Returns the application in front if the user can be asked about a rule for it: not a
+    /// browser, not the program itself. It always has a name.
     [[nodiscard]] std::optional<Application> frontmostAppForCorrection();
 
-    /// Forgets everything that was learnt, file included, until the next launch.
+    /// Erases memory and file until the next launch.
     void eraseAllData();
 
-    // Set by the owner, which they must hold weakly. One that is not set is not asked.
+    // Hooks, set by the owner, which they must hold weakly. An unset hook is not called.
 
     std::function<TrackerCore::State()> sessionState;
     std::function<std::optional<QString>()> sessionSkillId;
@@ -127,10 +127,11 @@ private:
     AutoRules m_rules;
     bool m_isRunning = false;
     QMetaObject::Connection m_activationObserver; ///< while running
-    TimerHandle m_pendingWork;                    ///< the one stay that is waited for
+    TimerHandle m_pendingWork;                    ///< of the one stay in progress
     RetagBank m_retags;
     PromptMemory m_prompts;
-    QSet<QString> m_sessionOverrides; ///< applications whose skill the person overruled
+    // applications whose skill the user overruled in this session
+    QSet<QString> m_sessionOverrides;
 };
 
 } // namespace vantle

@@ -12,7 +12,7 @@ namespace {
 
 using suggestiontables::Group;
 
-/// A text in lower case in which words, which are ASCII and longer than one letter, are looked for.
+/// A lower-case text to be searched for words of at least two ASCII letters.
 class SearchText {
 public:
     SearchText(const QString& first, const QString& second)
@@ -22,7 +22,7 @@ public:
     }
 
     [[nodiscard]] bool holds(std::string_view word) const {
-        // Most words are ruled out by their first two letters.
+        // The first two letters rule most words out.
         return m_pairs.test(pairAt(word.data())) &&
                std::string_view(m_utf8.data(), static_cast<std::size_t>(m_utf8.size()))
                        .find(word) != std::string_view::npos;
@@ -35,18 +35,18 @@ public:
 private:
     static QByteArray lowerCased(const QString& text) {
         const QByteArray utf8 = text.toUtf8();
-        // As many bytes as UTF-16 units: nothing but ASCII, for which no tables are needed.
+        // As many bytes as UTF-16 units means pure ASCII, which needs no ICU tables.
         return utf8.size() == text.size() ? utf8.toLower() : text::lowerCased(text).toUtf8();
     }
 
-    /// A number for two letters. Other pairs may have the same.
+    /// A hash of two letters; other pairs may share it.
     static std::size_t pairAt(const char* letters) {
         const auto low = [](char letter) { return static_cast<unsigned char>(letter) & 0x1Fu; };
         return low(letters[0]) << 5 | low(letters[1]);
     }
 
     QByteArray m_utf8;
-    std::bitset<1024> m_pairs; ///< those that occur
+    std::bitset<1024> m_pairs; ///< the pairs that occur
 };
 
 QString withoutHost(const QString& bundleId) {
@@ -64,7 +64,7 @@ std::optional<QString> skillOfId(std::string_view id, const std::vector<Skill>& 
     return found == skills.end() ? std::nullopt : std::optional(found->id);
 }
 
-/// The order of the hints outranks that of the skills.
+/// An earlier hint wins over an earlier skill.
 std::optional<QString> skillByHints(std::span<const std::string_view> hints,
                                     const std::vector<Skill>& skills) {
     std::vector<SearchText> labels;

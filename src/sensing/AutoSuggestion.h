@@ -1,7 +1,8 @@
-// What an application that has no rule yet is probably for, by its identity and name alone.
+// The guess which skill an unknown application belongs to.
 //
-// Pure functions, any thread. Words are looked for anywhere in the text, with no regard to where a
-// word begins: that catches identifiers of all sorts, at the price of a wrong guess now and then.
+// Pure functions of identity and name, any thread. Words match anywhere in the text, not just at
+// the start of a word: that catches all sorts of identifiers, at the price of an occasional wrong
+// guess.
 #pragma once
 
 #include "tracking/Skill.h"
@@ -13,11 +14,11 @@
 
 namespace vantle::autosuggestion {
 
-/// Whether it is a browser. What somebody does in a browser can't be told from outside, so it is
-/// never guessed, and asked about in other words.
+/// Whether it is a browser. Its use cannot be told from outside, so it is never guessed, and the
+/// question about it has its own wording.
 [[nodiscard]] bool isBrowser(const QString& bundleId, const QString& appName);
 
-/// The id of the skill among `skills` that it is probably for. Empty when nothing fits.
+/// Returns the id of the most probable of `skills`; empty when none fits.
 [[nodiscard]] std::optional<QString>
 suggestedSkillId(const QString& bundleId, const QString& appName, const std::vector<Skill>& skills);
 

@@ -33,7 +33,7 @@ void FocusLink::run(const Preference<QString>& shortcut) {
     if (!settings::focusLinked.read(m_preferences)) return;
     const QString name = shortcut.read(m_preferences);
     if (name.isEmpty()) return;
-    (void)m_runner.startDetached({m_tool, {QStringLiteral("run"), name}}); // silent when it fails
+    (void)m_runner.startDetached({m_tool, {QStringLiteral("run"), name}}); // failure is ignored
 }
 
 } // namespace vantle

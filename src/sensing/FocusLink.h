@@ -1,5 +1,4 @@
-// The person's own commands at both ends of a session, to silence the desktop or whatever they
-// like.
+// The user's own commands at the start and end of a session.
 #pragma once
 
 #include "tracking/Settings.h"
@@ -14,16 +13,15 @@ namespace vantle {
 class Preferences;
 class ProcessRunner;
 
-/// Runs the shortcuts tool, which knows two verbs: `list` prints a name a line, `run NAME` runs
-/// one. Main thread. Nothing waits for a shortcut, and every failure is silent: no session depends
-/// on one.
+/// Runs the shortcuts tool: `list` prints one name per line, `run NAME` runs one. Main thread. No
+/// call waits for a shortcut, and failures are silent: no session depends on one.
 class FocusLink {
 public:
     /// `tool` is the absolute path of the shortcuts tool. Both references must outlive this.
     FocusLink(Preferences& preferences, ProcessRunner& runner, QString tool);
 
-    /// Hands over the names in the tool's order and spelling; none when anything fails. From the
-    /// event loop, or never when the runner goes first.
+    /// Passes the names in the tool's order; none on any failure. Calls back from the event loop,
+    /// or never when the runner is destroyed first.
     void listShortcuts(std::function<void(const QStringList&)> completion);
 
     void sessionStarted() { run(settings::startShortcut); }

@@ -12,7 +12,7 @@ namespace {
 
 using Registration = HotKeyPort::Registration;
 
-/// Empty where nothing failed.
+/// Returns the failure as text for the user; empty when there is none.
 std::optional<QString> failureText(const HotKeyPort::Outcome& outcome) {
     switch (outcome.registration) {
     case Registration::HeldByAnother:
@@ -24,7 +24,7 @@ std::optional<QString> failureText(const HotKeyPort::Outcome& outcome) {
     }
 }
 
-/// Whether the port keeps the handler, and may come to hold the key.
+/// Whether the port keeps the handler and may still get the combination.
 bool goesOn(Registration registration) {
     return registration != Registration::HeldByAnother && registration != Registration::Failed;
 }
@@ -45,22 +45,21 @@ HotKey::~HotKey() {
 
 void HotKey::registerHotKey() {
     if (m_isRegistered) return;
-    release(); // a combination that was lost
+    release(); // releases a combination that was lost
 
-    // 1. and 2. The handler first, so that no press is lost between the two.
+    // The handler before the combination, so that no press is lost in between.
     const int status = m_port.installHandler([this] { deliverPressLater(); });
     if (status != 0) {
         setRegistrationError(Words::tr("Couldn’t install the shortcut handler (%1).").arg(status));
         return;
     }
 
-    // 3. The combination itself.
     m_port.recallAllowed(settings::hotKeyAllowed.read(m_preferences));
     const HotKeyPort::Outcome outcome = m_port.registerKey();
     m_portHolds = goesOn(outcome.registration);
     adopt(outcome);
 
-    // 4. A handler without a key has no use, and the next attempt installs its own.
+    // Without a combination the handler is useless, and the next attempt installs its own.
     if (!m_portHolds) m_port.removeHandler();
 }
 

@@ -1,4 +1,4 @@
-// The one system-wide shortcut, ⌥⌘B, which starts and stops a session from any application.
+// The system-wide shortcut ⌥⌘B, which starts and stops sessions.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -13,15 +13,15 @@
 
 namespace vantle {
 
-/// Holds the combination while registered. A failure is told in `registrationError`, in the
-/// user's words, and nowhere else; that the desktop gives no keys, or none yet, is no failure. A
-/// registration that failed at once is not tried again by itself; in all other cases the port
-/// follows the desktop, and takes a lost combination again when it can. Main thread.
+/// Holds the combination while registered. A failure shows in `registrationError` alone, as text
+/// for the user; a desktop without shortcuts, or without one yet, is no failure. A registration
+/// that failed immediately is not retried; otherwise the port follows the desktop and registers a
+/// lost combination again when it can. Main thread.
 class HotKey final : public QObject {
     Q_OBJECT
-    /// The shortcut is active.
+    /// Whether the combination is registered.
     Q_PROPERTY(bool isRegistered READ isRegistered NOTIFY isRegisteredChanged FINAL)
-    /// Why it could not be taken; empty when the last attempt went well or none was made.
+    /// Why the last registration failed; empty when it did not, or none was tried.
     Q_PROPERTY(
         QString registrationError READ registrationErrorText NOTIFY registrationErrorChanged FINAL)
 
@@ -30,36 +30,36 @@ public:
     HotKey(HotKeyPort& port, Scheduler& scheduler, Preferences& preferences);
     ~HotKey() override;
 
-    /// Takes the combination. Nothing when it is held already. After a failure nothing is held, so
-    /// that a later call starts clean.
+    /// Registers the combination. Has no effect when it is registered already. After a failure
+    /// nothing is held, so that a later call starts clean.
     void registerHotKey();
 
-    /// Gives the combination back. `registrationError` stays as it is.
+    /// Releases the combination. `registrationError` is kept.
     void unregisterHotKey();
 
     [[nodiscard]] bool isRegistered() const { return m_isRegistered; }
     [[nodiscard]] const std::optional<QString>& registrationError() const {
         return m_registrationError;
     }
-    /// Whether the desktop gives the combination on the user's word alone.
+    /// Whether the desktop registers the combination only with the user's consent.
     [[nodiscard]] bool takesAllowance() const { return !m_port.wayToAllow().isEmpty(); }
-    /// The user gives that word, which is remembered for later runs, or takes it back. Nothing
-    /// where it is not taken.
+    /// Gives or withdraws that consent, and stores it for later runs. Has no effect on a desktop
+    /// that asks for none.
     void allow(bool allowed);
 
-    /// How things stand with the desktop; Failed before the first attempt.
+    /// The state of the registration; Failed before the first attempt.
     [[nodiscard]] HotKeyPort::Registration registration() const { return m_outcome.registration; }
-    /// The keys that were really taken, as the user reads them; empty where they are ⌥⌘B.
+    /// The combination that the desktop chose, as text for the user; empty when it is ⌥⌘B.
     [[nodiscard]] const QString& keys() const { return m_outcome.keys; }
 
-    /// Called at each press, after the platform's own handler has returned. Set once by the owner,
+    /// Called for each press, after the platform's handler has returned. Set once by the owner,
     /// which it must hold weakly.
     std::function<void()> onPressed;
 
 Q_SIGNALS:
     void isRegisteredChanged();
     void registrationErrorChanged();
-    void outcomeChanged(); ///< `registration` or `keys`
+    void outcomeChanged(); ///< emitted when `registration` or `keys` changed
 
 private:
     void adopt(const HotKeyPort::Outcome& outcome);
@@ -75,7 +75,8 @@ private:
     HotKeyPort& m_port;
     Scheduler& m_scheduler;
     Preferences& m_preferences;
-    bool m_portHolds = false; ///< the handler, and the key unless it was lost or is to come
+    // whether the port holds the handler, and the combination unless it was lost or is pending
+    bool m_portHolds = false;
     HotKeyPort::Outcome m_outcome;
     bool m_isRegistered = false;
     std::optional<QString> m_registrationError;

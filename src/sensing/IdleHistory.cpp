@@ -10,8 +10,8 @@ namespace {
 
 constexpr double kJitter = 0.5; // seconds
 
-/// An absence of at least `threshold` seconds ended between the two, too short for any reading to
-/// have caught it at its full length.
+/// Whether an absence of at least `threshold` seconds ended between the two samples, too short to
+/// show at its full length in either.
 bool hidesAbsence(const IdleSample& a, const IdleSample& b, double threshold) {
     return showsInput(a, b) && gapBetween(a, b) + a.idleSeconds >= threshold;
 }
@@ -28,7 +28,7 @@ bool showsInput(const IdleSample& earlier, const IdleSample& later) {
 
 void IdleHistory::forgetOld(Date now) {
     const Date oldest = now - Seconds(window);
-    // All of them, not only those at the front: a clock that was set leaves them unordered.
+    // Erases by date, not from the front: a changed clock leaves the samples unordered.
     std::erase_if(m_samples, [oldest](const IdleSample& sample) { return sample.date < oldest; });
 }
 
@@ -40,12 +40,12 @@ int IdleHistory::coverageMinutes(Date now) const {
 }
 
 bool IdleHistory::showsPresenceSince(Date cutoff, double threshold) const {
-    // 4. Something must be known of the moment of the cutoff.
+    // A sample must cover the moment of the cutoff.
     const bool reachesBack = std::ranges::any_of(
         m_samples, [cutoff](const IdleSample& sample) { return sample.date <= cutoff; });
     if (!reachesBack) return false;
 
-    // 5. and of the time after it.
+    // And samples must cover the time after it.
     std::vector<IdleSample> recent;
     std::ranges::copy_if(m_samples, std::back_inserter(recent), [&](const IdleSample& sample) {
         return sample.date >= cutoff - Seconds(margin);
@@ -53,11 +53,11 @@ bool IdleHistory::showsPresenceSince(Date cutoff, double threshold) const {
     const auto inWindow = [cutoff](const IdleSample& sample) { return sample.date >= cutoff; };
     if (std::ranges::none_of(recent, inWindow)) return false;
 
-    // 6. No reading in the window caught the person away.
+    // No sample shows an absence.
     for (const IdleSample& sample : recent)
         if (inWindow(sample) && sample.idleSeconds >= threshold) return false;
 
-    // 7. No absence hides between two readings, and the clock ran forward all the time.
+    // No absence fits between two samples, and the clock never ran backwards.
     for (std::size_t i = 1; i < recent.size(); ++i) {
         const IdleSample& a = recent[i - 1];
         const IdleSample& b = recent[i];

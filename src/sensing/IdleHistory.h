@@ -1,8 +1,8 @@
-// What a row of readings of the idle counter proves about the recent past.
+// The recent samples of the idle counter, and what they prove.
 //
-// Plain values and pure functions, any thread. The counter tells the seconds since the last input,
-// read every now and then. Between two readings it grows with time; whenever it is lower than it
-// was, somebody touched the machine, and what it had reached by then is how long nobody had.
+// Plain values and pure functions, any thread. The counter gives the seconds since the last input
+// and is sampled at intervals. It grows with time; a sample lower than the one before shows input
+// in between, and the length of the pause before that input.
 #pragma once
 
 #include "base/Date.h"
@@ -11,7 +11,7 @@
 
 namespace vantle {
 
-/// One reading.
+/// One sample of the counter.
 struct IdleSample {
     Date date;
     double idleSeconds = 0;
@@ -20,11 +20,11 @@ struct IdleSample {
 /// Seconds from `earlier` to `later`; negative when the clock was set back in between.
 [[nodiscard]] double gapBetween(const IdleSample& earlier, const IdleSample& later);
 
-/// Whether there was input between two readings: the counter fell by more than half a second. Less
-/// is jitter of the readings themselves.
+/// Whether there was input between two samples: the counter fell by more than half a second. Less
+/// is jitter.
 [[nodiscard]] bool showsInput(const IdleSample& earlier, const IdleSample& later);
 
-/// The readings of the last 45 minutes, in the order in which they were taken.
+/// The samples of the last 45 minutes, in the order in which they were taken.
 class IdleHistory {
 public:
     static constexpr double window = 2700.0; ///< seconds
@@ -32,23 +32,22 @@ public:
     [[nodiscard]] bool empty() const { return m_samples.empty(); }
     [[nodiscard]] std::size_t size() const { return m_samples.size(); }
 
-    /// The latest reading. Only when not empty.
+    /// Returns the latest sample. Requires a sample.
     [[nodiscard]] const IdleSample& last() const { return m_samples.back(); }
 
     void add(const IdleSample& sample) { m_samples.push_back(sample); }
 
-    /// Drops the readings that are older than the window.
+    /// Drops samples older than the window.
     void forgetOld(Date now);
 
-    /// Whole minutes from the first reading to `now`, cut off, never below 0; 0 when empty.
+    /// Whole minutes from the first sample to `now`, rounded down, at least 0; 0 when empty.
     [[nodiscard]] int coverageMinutes(Date now) const;
 
-    /// Whether the readings reach back to `cutoff`, and no absence of `threshold` seconds shows in
-    /// them from then on.
+    /// Whether the samples reach back to `cutoff` and show no absence of `threshold` seconds since.
     [[nodiscard]] bool showsPresenceSince(Date cutoff, double threshold) const;
 
-    /// How far before a cutoff a reading may lie and still tell about the time after it: one and a
-    /// half poll intervals, so that the pair around the cutoff is looked at too.
+    /// How far before a cutoff a sample may lie and still count: 1.5 poll intervals, so that the
+    /// pair around the cutoff is included.
     static constexpr double margin = 15.0; ///< seconds
 
 private:

@@ -11,8 +11,9 @@ namespace {
 
 constexpr Seconds kPollTolerance{2.0};
 
-// Larger than any reading and any threshold: the reading that follows shows input in any case.
-constexpr double kPoison = std::numeric_limits<double>::max();
+// The sample at which the screens slept: greater than any reading and any threshold, so that the
+// next reading always shows input.
+constexpr double kScreenSleepSample = std::numeric_limits<double>::max();
 
 } // namespace
 
@@ -37,7 +38,7 @@ void IdleMonitor::start() {
                                                      [this] { poll(); });
     m_sleepObserver = connect(&m_screens, &ScreenPower::slept, this, &IdleMonitor::noteScreenSleep);
     m_wakeObserver = connect(&m_screens, &ScreenPower::woke, this, &IdleMonitor::noteScreenWake);
-    m_missed.look(); // a time in which nobody watched was not missed
+    m_missed.look(); // time before the start was not observed and is not missed
     m_screensSleep = m_screensSleep && m_screens.asleep();
     poll();
 }
@@ -55,7 +56,6 @@ std::optional<double> IdleMonitor::systemIdleSeconds(IdleSource& source) {
 }
 
 bool IdleMonitor::poll() {
-    // 1. Read the counter and the clock.
     const std::optional<double> idle = systemIdleSeconds(m_source);
     const IdleSample sample{m_clock.now(), idle.value_or(0.0)};
     const bool missed = m_missed.sinceLastLook().has_value();
@@ -63,10 +63,10 @@ bool IdleMonitor::poll() {
     if (!idle || missed) m_lastUnknownAt = sample.date;
     if (!idle) return false;
 
-    // 2. A counter that fell shows input since the last reading. If it had grown past the
-    //    threshold by then, the person was away and came back without any reading at the peak.
-    //    Time that was missed is no such absence: the tracker cuts it out by itself, to the second,
-    //    and what was worked since must not go with it.
+    // A counter that fell shows input since the last sample. If it had passed the threshold by
+    // then, the user was away and came back between two samples.
+    // Missed time is no such absence: the tracker itself cuts it out to the second, and must not
+    // lose the work after it.
     if (!missed && !m_history.empty() && showsInput(m_history.last(), sample)) {
         const double gap = std::max(gapBetween(m_history.last(), sample), 0.0);
         const double observed = m_history.last().idleSeconds + gap;
@@ -76,13 +76,11 @@ bool IdleMonitor::poll() {
         }
     }
 
-    // 3. Keep the reading.
     m_history.add(sample);
 
-    // 4. Forget what is too old to be asked about.
     m_history.forgetOld(sample.date);
 
-    // 5. What the reading itself says.
+    // Presence or absence by this reading alone.
     if (*idle >= thresholdSeconds()) {
         if (!m_isIdle) beginIdle(*idle);
     } else if (m_isIdle) {
@@ -100,25 +98,23 @@ void IdleMonitor::doubtScreenSleep(double idle) {
 }
 
 void IdleMonitor::noteScreenSleep() {
-    // 1. Remember when.
     m_lastScreenSleepAt = m_clock.now();
 
-    // 2. Nobody is there to touch anything: the reading after the sleep ends an absence.
-    m_history.add({*m_lastScreenSleepAt, kPoison});
+    // No input counts while the screens sleep, so the next reading ends an absence.
+    m_history.add({*m_lastScreenSleepAt, kScreenSleepSample});
 
-    // 3. Away, but not by the counter: whoever listens hears of the sleep instead.
+    // Away without `onIdleBegan`: `onScreensSlept` reports it.
     m_isIdle = true;
     m_screensSleep = true;
     m_inputsInSleep = 0;
 
-    // 4. Tell it.
     if (onScreensSlept) onScreensSlept();
 }
 
 void IdleMonitor::noteScreenWake() {
     m_screensSleep = false;
     const bool known = poll();
-    // Where the counter can't be told, no later reading will end what the sleep began.
+    // With an unknown counter no later reading would end the absence.
     if (!known && m_isIdle) resumeActivity();
     if (!m_isIdle && onScreensWoke) onScreensWoke();
 }
@@ -134,23 +130,20 @@ void IdleMonitor::resumeActivity() {
 }
 
 bool IdleMonitor::wasActiveForLast(int minutes) {
-    // 1. No stretch of time, nothing to confirm.
     if (minutes < 1) return false;
 
-    // 2. The stretch begins here.
     const Date cutoff = m_clock.now() - Seconds(minutes * 60.0);
 
-    // 3. Screens that slept in it, a counter that could not be told, or time of which nothing is
-    //    known rule it out.
+    // Unconfirmed when the screens slept, the counter was unknown, or the program was not running
+    // in that time.
     if (m_lastScreenSleepAt && *m_lastScreenSleepAt >= cutoff) return false;
     if (m_lastUnknownAt && *m_lastUnknownAt >= cutoff - Seconds(IdleHistory::margin)) return false;
     if (isStarted() && m_missed.sinceLastLook()) return false;
 
-    // 4. to 7. The readings show no absence.
     const double threshold = thresholdSeconds();
     if (!m_history.showsPresenceSince(cutoff, threshold)) return false;
 
-    // 8. Nor is the person away right now, since the last reading.
+    // Nor is the user away since the last sample.
     const std::optional<double> idle = systemIdleSeconds(m_source);
     return idle && *idle < threshold;
 }

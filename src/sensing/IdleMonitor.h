@@ -1,4 +1,4 @@
-// Tells when the person goes away from keyboard and mouse, and when they are back.
+// The detection of absence from keyboard and mouse.
 #pragma once
 
 #include "base/Clock.h"
@@ -15,75 +15,74 @@
 
 namespace vantle {
 
-/// Reads the idle counter every ten seconds and keeps 45 minutes of readings. There is no hook into
-/// single events: all is derived from the counter and from the screens going to sleep.
+/// Samples the idle counter every ten seconds and keeps 45 minutes of samples. Works from the
+/// counter and the screens' sleep alone, without hooks into input events.
 ///
-/// Where the desktop does not tell the counter, nothing is known: neither absence nor presence.
-/// Such a reading takes no sample and changes nothing, so nobody is paused by it; and no stretch of
-/// time in which it happened is ever confirmed by `wasActiveForLast`, so nobody is credited by it.
-/// The same holds for a stretch in which the machine slept or the program was stopped.
+/// An unknown counter proves neither absence nor presence: it takes no sample and pauses no
+/// session, and `wasActiveForLast` confirms no period that contains one. The same holds for periods
+/// in which the machine slept or the program was stopped.
 ///
-/// Main thread, the callbacks included. Nothing here fails.
+/// Does not fail. Main thread, the callbacks included.
 class IdleMonitor final : public ActivityEvidence {
     Q_OBJECT
 
 public:
     static constexpr double pollInterval = 10.0; ///< seconds
 
-    /// All must outlive the monitor. It is stopped at first.
+    /// All must outlive the monitor, which starts stopped.
     IdleMonitor(const Clock& clock, Scheduler& scheduler, IdleSource& source, ScreenPower& screens,
                 const Preferences& preferences);
     ~IdleMonitor() override;
 
-    /// From how many seconds without input on the person counts as away. Read from the preferences
-    /// at each use, so a change holds from the next reading on.
+    /// Seconds without input after which the user counts as away. Read from the preferences at each
+    /// use, so a change applies from the next sample.
     [[nodiscard]] double thresholdSeconds() const;
 
-    /// Begins to watch, with a reading at once. Nothing when started already.
+    /// Starts with a sample. Has no effect when started already.
     void start();
 
-    /// Ceases to watch. What is known so far, the away flag included, stays.
+    /// Stops sampling. Keeps samples and away flag.
     void stop();
 
     [[nodiscard]] bool isStarted() const { return m_pollTimer != nullptr; }
 
-    /// Whether the screens sleep or are locked: then nobody works, whatever the counter says.
+    /// Whether the screens sleep or are locked, which counts as absence whatever the counter says.
     [[nodiscard]] bool screensSleep() const { return m_screensSleep; }
 
-    /// Whether the person counts as away. Set before the callback that tells it.
+    /// Whether the user counts as away. Set before the callback that reports it.
     [[nodiscard]] bool isIdle() const { return m_isIdle; }
 
-    /// How many whole minutes the readings reach back from `now`: no more can be confirmed.
+    /// How many whole minutes before `now` the samples reach back: the longest period that can be
+    /// confirmed.
     [[nodiscard]] int coverageMinutes(Date now) const { return m_history.coverageMinutes(now); }
 
-    /// How many readings are kept.
     [[nodiscard]] std::size_t sampleCount() const { return m_history.size(); }
 
     [[nodiscard]] bool wasActiveForLast(int minutes) override;
 
-    /// The counter, or nothing where it can't be told or where what it tells is no number. A
-    /// negative reading, as from input stamped just after the question, counts as 0.
+    /// Returns the counter; empty when it is unknown or not a number. A negative value, from input
+    /// just after the query, counts as 0.
     [[nodiscard]] static std::optional<double> systemIdleSeconds(IdleSource& source);
 
-    // Set once by the owner, which they must hold weakly.
+    // Callbacks, set once by the owner, which they must hold weakly.
 
-    /// The person has been away for that many seconds. May be followed at once by
-    /// `onActivityResumed`, when an absence began and ended between two readings.
+    /// The user has been away for that many seconds. `onActivityResumed` may follow at once, when
+    /// an absence began and ended between two samples.
     std::function<void(double seconds)> onIdleBegan;
 
-    /// The person is back. Also after each sleep of the screens, whether or not anything was
-    /// touched; if nothing was, `onIdleBegan` follows at once.
+    /// The user is back. Also called after each sleep of the screens, with or without input;
+    /// without input `onIdleBegan` follows at once.
     std::function<void()> onActivityResumed;
 
-    /// The screens went to sleep. The person counts as away, without `onIdleBegan`.
+    /// The screens went to sleep. The user counts as away, without `onIdleBegan`.
     std::function<void()> onScreensSlept;
 
-    /// The screens are awake again and the person counts as back. Follows `onActivityResumed`,
-    /// which may have come long before, from a reading while they still slept.
+    /// The screens are awake and the user counts as back. Called after `onActivityResumed`, which
+    /// may come much earlier, from input while the screens slept.
     std::function<void()> onScreensWoke;
 
-    /// Readings in a row that show input while the screens are said to sleep, after which that is
-    /// no longer believed: a locker may end without telling. More than a password takes.
+    /// Consecutive samples with input after which the screens no longer count as asleep: a screen
+    /// locker may end without a signal. More than typing a password takes.
     static constexpr int readingsThatWakeScreens = 6;
 
 private:
@@ -103,11 +102,11 @@ private:
     bool m_isIdle = false;
     IdleHistory m_history;
     std::optional<Date> m_lastScreenSleepAt;
-    std::optional<Date> m_lastUnknownAt; ///< the end of the last time of which nothing is known
-    MissedTime m_missed;                 ///< looked at with each reading
+    std::optional<Date> m_lastUnknownAt; ///< end of the last unknown period
+    MissedTime m_missed;                 ///< updated with each sample
     bool m_screensSleep = false;
-    int m_inputsInSleep = 0; ///< readings in a row that showed input since the screens slept
-    TimerHandle m_pollTimer; ///< there exactly while started
+    int m_inputsInSleep = 0; ///< consecutive samples with input since the screens slept
+    TimerHandle m_pollTimer; ///< set while started
     QMetaObject::Connection m_sleepObserver;
     QMetaObject::Connection m_wakeObserver;
 };

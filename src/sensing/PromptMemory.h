@@ -1,6 +1,6 @@
-// Which applications the person was asked about, so that nobody is asked twice or too often.
+// The applications that the user was asked about in this run.
 //
-// A plain value for one run of the program, any thread.
+// Keeps questions from being repeated or too frequent. Plain value, any thread.
 #pragma once
 
 #include "base/Date.h"
@@ -15,19 +15,19 @@ namespace vantle {
 
 class PromptMemory {
 public:
-    static constexpr double cooldownSeconds = 1800; ///< for the application that was asked about
+    static constexpr double cooldownSeconds = 1800; ///< for the application of the question
     static constexpr double spacingSeconds = 900;   ///< for every application
 
-    /// Whether the person may be asked about the application now.
+    /// Whether the user may be asked about the application now.
     [[nodiscard]] bool mayPrompt(const QString& bundleId, Date now) const;
 
-    /// The person is about to be asked.
+    /// The question is about to be shown.
     void noteOffered(const QString& bundleId) { m_promptedThisLaunch.insert(bundleId); }
 
-    /// The question could not be put after all.
+    /// The question could not be shown.
     void forgetOffer(const QString& bundleId) { m_promptedThisLaunch.remove(bundleId); }
 
-    /// The person answered, or let it pass.
+    /// The user answered, or let the question expire.
     void noteResolved(const QString& bundleId, Date now);
 
     void clear() { *this = {}; }

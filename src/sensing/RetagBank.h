@@ -1,8 +1,7 @@
-// How much of the stay in an application is already served, so that a glance elsewhere does not
-// begin it anew.
+// The remaining time of an interrupted stay in an application.
 //
-// A plain value, any thread. Times are those of the wall clock; a clock that was set back makes a
-// rest longer or an interruption fresh, and never fails.
+// A short look elsewhere does not restart the stay. Plain value, any thread. Times are of the wall
+// clock; setting it back lengthens a remainder or renews an interruption, and does no other harm.
 #pragma once
 
 #include "base/Date.h"
@@ -13,22 +12,21 @@
 
 namespace vantle {
 
-/// The one stay that runs, and the one that was interrupted last.
+/// The stay in progress, and the one interrupted last.
 class RetagBank {
 public:
     static constexpr double dwellSeconds = 45;
     static constexpr double graceSeconds = 20;      ///< how long an interrupted stay is kept
-    static constexpr double leastBankSeconds = 0.5; ///< a rest up to this is not worth keeping
+    static constexpr double leastBankSeconds = 0.5; ///< a shorter remainder is dropped
 
-    /// A stay begins that has `seconds` to run.
+    /// Starts a stay that has `seconds` left.
     void arm(const QString& bundleId, double seconds, Date now);
 
-    /// Whatever runs is interrupted, and kept if enough of it is left. A stay that was kept before
-    /// goes then: there is one place only.
+    /// Interrupts the stay in progress and keeps its remainder, in place of an earlier one.
     void interrupt(Date now);
 
-    /// How many seconds a stay has to run that begins now. What was kept for the application is
-    /// used up by the question.
+    /// Returns how many seconds a stay that begins now has left, and drops the remainder kept for
+    /// the application.
     [[nodiscard]] double takeDwell(const QString& bundleId, Date now);
 
     void clear() { *this = {}; }
@@ -37,7 +35,7 @@ private:
     struct Stay {
         QString bundleId;
         double remaining = 0; ///< seconds
-        Date at;              ///< when it was armed, or interrupted
+        Date at;              ///< when it was started or interrupted
     };
     std::optional<Stay> m_armed;
     std::optional<Stay> m_banked;

@@ -1,4 +1,4 @@
-// One answer from several sources of whether the screens sleep.
+// The union of several sources of screen sleep.
 #pragma once
 
 #include "platform/CausedScreenPower.h"
@@ -8,14 +8,14 @@
 
 namespace vantle {
 
-/// Asleep while any of its sources is. However many sources overlap, there is one `slept` when the
-/// first goes to sleep and one `woke` when the last is back. Sources that sleep at construction
-/// count, without an edge. Main thread.
+/// Asleep while any source is. Overlapping sources give one `slept`, when the first sleeps, and one
+/// `woke`, when the last is awake. A source that sleeps at construction counts, without a signal.
+/// Main thread.
 class ScreenPowerUnion final : public CausedScreenPower {
     Q_OBJECT
 
 public:
-    /// At most 32 sources.
+    /// Requires at most 32 sources.
     explicit ScreenPowerUnion(std::vector<std::unique_ptr<ScreenPower>> sources);
 
 private:

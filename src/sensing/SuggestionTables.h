@@ -1,5 +1,6 @@
-// The words by which auto mode guesses what an unknown application is for. Plain data, all in lower
-// case and ASCII.
+// The words from which auto mode guesses an application's skill.
+//
+// Plain data, lower-case ASCII. Any thread.
 #pragma once
 
 #include <span>
@@ -7,23 +8,22 @@
 
 namespace vantle::suggestiontables {
 
-/// Any of these in an application's identity or name makes it a browser.
+/// A browser has one of these in its identity or name.
 [[nodiscard]] std::span<const std::string_view> browserWords();
 
-/// What an identity begins with where a project is named after the site that hosts it. It says
-/// nothing of what the application is for, though it may hold one of the words.
+/// Prefixes of identities that name a hosting site. They say nothing about the application, though
+/// they may contain one of the words.
 [[nodiscard]] std::span<const std::string_view> hostPrefixes();
 
-/// Applications of one sort, and the skill that they are for.
+/// Applications of one kind, and their skill.
 struct Group {
-    std::span<const std::string_view> words; ///< any one of them makes it one of the group
+    std::span<const std::string_view> words; ///< any match puts the application into the group
     std::string_view firstChoice;            ///< skill id
     std::string_view secondChoice;           ///< skill id
-    std::span<const std::string_view> hints; ///< what a person's own skill may be called
+    std::span<const std::string_view> hints; ///< words in the names of skills that the user made
 };
 
-/// In the order in which they are tried; the first with a word that fits counts, so "mailchimp" has
-/// to come before "mail".
+/// In order; the first match counts, so "mailchimp" precedes "mail".
 [[nodiscard]] std::span<const Group> groups();
 
 } // namespace vantle::suggestiontables

@@ -1,18 +1,18 @@
-// What the tracker asks before it credits time that lies before the press.
+// The evidence for time credited before the start.
 #pragma once
 
 #include <QObject>
 
 namespace vantle {
 
-/// Answers whether the person was at the machine. A QObject so that the tracker can hold it weakly.
+/// Tells whether the user was at the machine. A QObject, so that the tracker can hold it weakly.
 /// Main thread.
 class ActivityEvidence : public QObject {
     Q_OBJECT
 
 public:
-    /// True when the machine saw input all through the last `minutes` minutes, as far as can be
-    /// told. Lack of knowledge is false.
+    /// Returns true when input is proven throughout the last `minutes` minutes; false when it is
+    /// unknown.
     [[nodiscard]] virtual bool wasActiveForLast(int minutes) = 0;
 };
 

@@ -23,11 +23,11 @@ AppPaths::AppPaths(FileSystem& fileSystem, QString baseDirectory)
 QString AppPaths::supportDir() const {
     const QString primary = fileIn(m_base, QLatin1String("Vantle"));
     if (m_fileSystem.exists(primary)) return primary;
-    // Earlier versions used another name. Once the new directory is there, the old one is never
-    // looked at again, not even when moving it has failed.
+    // Earlier versions used another name. Once the new directory exists the old one is never looked
+    // at again, even when moving it failed.
     const QString old = fileIn(m_base, QLatin1String("Hourfold"));
     if (m_fileSystem.exists(old) && m_fileSystem.rename(old, primary).ok()) return primary;
-    // Synchronised, or a power loss could take the new directory away with all that is in it.
+    // Synced, since a power loss could otherwise remove the new directory with its content.
     if (m_fileSystem.makeDirectories(primary, std::nullopt))
         m_fileSystem.syncDirectory(m_base).ignore();
     return primary;

@@ -1,4 +1,4 @@
-// The support directory, the names of the data files, and the one way of replacing a file.
+// The data directory, its files, and their atomic replacement.
 #pragma once
 
 #include "base/Result.h"
@@ -10,14 +10,14 @@ namespace vantle {
 
 class FileSystem;
 
-/// Where the data lies. Holds no state but where to look: each access finds the directory afresh,
-/// takes over the one of earlier versions if only that exists, and makes what is missing. Never
-/// fails by itself; what could not be made shows at the first read or write.
+/// Stateless: each access finds the directory, takes over that of earlier versions if only that
+/// exists, and creates what is missing. Does not fail; a missing directory shows at the first read
+/// or write.
 ///
-/// Any thread; data files are only touched on their I/O queue.
+/// Any thread; only the I/O queue touches data files.
 class AppPaths {
 public:
-    /// `baseDirectory` is the person's data home, as in ~/.local/share.
+    /// `baseDirectory` is the user's data home, such as ~/.local/share.
     AppPaths(FileSystem& fileSystem, QString baseDirectory);
 
     [[nodiscard]] QString supportDir() const;
@@ -28,21 +28,22 @@ public:
     [[nodiscard]] QString corruptSessionsFile() const;
     [[nodiscard]] QString instanceLock() const;
 
-    /// Exactly the files that are kept private and that an erase removes, in this order.
+    /// The private files, which an erase removes in this order.
     [[nodiscard]] QStringList allDataFiles() const;
 
-    /// Replaces the file at `path` with `data`, or leaves it as it is: a temporary file beside it,
-    /// synchronised, renamed over it. The result has mode 0600. On failure no temporary file stays.
+    /// Replaces the file with `data` atomically: writes a temporary file beside it, syncs it,
+    /// renames it, syncs the directory. The file has mode 0600. On failure the old file stays and
+    /// no temporary file is left.
     Result<> writeProtected(const QByteArray& data, const QString& path) const;
 
-    /// Removes the file; one that is not there is no failure.
+    /// Removes the file; succeeds when there is none.
     Result<> removeIfPresent(const QString& path) const;
 
-    /// Sets mode 0600, whatever comes of it.
+    /// Sets mode 0600; failure is ignored.
     void restrictToOwner(const QString& path) const;
 
-    /// Makes the support directory 0700 and the data files 0600, and removes a retired file.
-    /// Failures are of no consequence.
+    /// Sets the data directory to 0700 and the data files to 0600, and removes a retired file.
+    /// Failures are ignored.
     void enforcePrivatePermissions() const;
 
     [[nodiscard]] FileSystem& fileSystem() const { return m_fileSystem; }

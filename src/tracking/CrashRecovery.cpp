@@ -10,7 +10,7 @@ namespace vantle::recovery {
 
 namespace {
 
-/// The shortest stretch worth an offer.
+/// A shorter stretch is not offered.
 constexpr std::int64_t kMinSeconds = 60;
 
 } // namespace

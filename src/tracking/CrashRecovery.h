@@ -1,4 +1,6 @@
-// What a marker left by a crash is worth. Pure functions, any thread.
+// The time that the marker of a crashed run is worth.
+//
+// Pure functions, any thread.
 #pragma once
 
 #include "tracking/Session.h"
@@ -7,15 +9,14 @@
 
 namespace vantle::recovery {
 
-/// Whether the marker can be believed at all. A negative count passes and is worth nothing.
+/// Whether the marker is plausible. A negative count passes and is worth nothing.
 [[nodiscard]] bool isValid(const OpenSessionMarker& marker);
 
-/// The seconds that a recovery would credit: what the marker claims, but no more than lie between
-/// its own two dates.
+/// Returns the seconds to credit: the marker's count, at most the time between its two dates.
 [[nodiscard]] std::int64_t recoverableSeconds(const OpenSessionMarker& marker);
 
-/// The record that a recovery would log; empty below a minute or when the marker is not valid.
-/// Neither the crash nor the time after the last sign of life is counted.
+/// Returns the record to log; empty below a minute or for an implausible marker. Counts no time
+/// after the last sign of life.
 [[nodiscard]] std::optional<Session> recoveryCandidate(const OpenSessionMarker& marker);
 
 } // namespace vantle::recovery

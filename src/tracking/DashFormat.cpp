@@ -19,7 +19,7 @@ constexpr std::int64_t kHour = 3600;
 QString minuteUnit() { return Words::tr("min"); }
 QString hourUnit() { return Words::tr("h"); }
 
-/// One decimal without a trailing ".0"; from 99.95 on without any decimals.
+/// Formats with one decimal and no trailing ".0"; without decimals from 99.95 on.
 QString decimalHours(double hours) {
     if (hours >= 99.95) return fixedDecimals(hours, 0);
     QString text = fixedDecimals(hours, 1);

@@ -1,9 +1,8 @@
-// Every duration that the person reads is written here.
+// The durations that the user reads.
 //
-// Totals are hours as a double, a single session's length is seconds as an integer; the two round
-// differently on purpose. Rounding is to nearest, halves away from zero, except where printf's
-// "%.1f" rounds the binary value. Pure functions; number grouping follows the locale of the
-// process. Any thread.
+// Totals are hours as a double, a single session is integer seconds; the two round differently on
+// purpose. Rounds to nearest, halves away from zero, except where printf's "%.1f" rounds the binary
+// value. Digits are grouped by the process's locale. Pure functions, any thread.
 #pragma once
 
 #include "tracking/DurationStyle.h"
@@ -14,7 +13,7 @@
 
 namespace vantle::dashformat {
 
-/// "1:05", from an hour on "1:01:01"; negative counts as 0.
+/// "1:05", from one hour on "1:01:01"; negative values count as 0.
 [[nodiscard]] QString clock(std::int64_t seconds);
 
 struct StatValue {
@@ -22,16 +21,16 @@ struct StatValue {
     QString unit; ///< may be empty
 };
 
-/// A value for a large number, and the unit for a small label beside it.
+/// The number for large type and the unit for a small label beside it.
 [[nodiscard]] StatValue statValue(double hours, DurationStyle style);
 
-/// One text for use within a line.
+/// The duration as part of a sentence.
 [[nodiscard]] QString inlineHours(double hours, DurationStyle style);
 
-/// A single session's length.
+/// The length of a single session.
 [[nodiscard]] QString sessionDuration(std::int64_t seconds, DurationStyle style);
 
-/// The first rung of the milestone ladder strictly above `hours`; its last rung from there on.
+/// Returns the first milestone above `hours`; the last one when there is none above.
 [[nodiscard]] double nextMilestone(double hours);
 
 } // namespace vantle::dashformat

@@ -1,4 +1,4 @@
-// The four ways of writing a duration, and the person's choice among them.
+// The four ways to write a duration, and the user's choice.
 #pragma once
 
 #include "platform/Preference.h"
@@ -19,17 +19,17 @@ namespace durationstyle {
 inline constexpr std::array all = {DurationStyle::Natural, DurationStyle::HoursMinutes,
                                    DurationStyle::Minutes, DurationStyle::Clock};
 
-/// The value under which the style is stored, as in "hoursMinutes".
+/// The stored value, as in "hoursMinutes".
 [[nodiscard]] QString rawValue(DurationStyle style);
 [[nodiscard]] std::optional<DurationStyle> fromRawValue(const QString& rawValue);
 
-/// As the settings name it, as in "Hours and minutes".
+/// The label in the settings, as in "Hours and minutes".
 [[nodiscard]] QString label(DurationStyle style);
 
-/// 3 h 30 min 12 s in this style, the example in the settings.
+/// The example in the settings: 3 h 30 min 12 s in this style.
 [[nodiscard]] QString sample(DurationStyle style);
 
-/// Stores the choice, and tells every history view before this returns. Main thread.
+/// Stores the choice and notifies every history view before it returns. Main thread.
 void adopt(DurationStyle style, Preferences& preferences, NotificationCenter& notifications);
 
 } // namespace durationstyle

@@ -23,7 +23,7 @@ int hexDigit(char c) {
     return -1;
 }
 
-/// Only the canonical form of 36 characters; lower case is accepted too.
+/// Accepts the canonical form of 36 characters, in either case.
 std::optional<QUuid> toId(dom::element element) {
     std::string_view text;
     if (element.get_string().get(text) != simdjson::SUCCESS || text.size() != 36)

@@ -1,9 +1,9 @@
-// The JSON form of the records: one encoder and one decoder for all files of the tracker.
+// The JSON form of the tracker's records.
 //
-// Encoding: compact, keys in byte order, `/` escaped, dates as iso8601 has them, ids in upper case,
-// and no raw line separator of any kind inside a string. Decoding: the whole text is validated;
-// every key is required, unknown keys are ignored, of a repeated key the last counts.
-// Pure functions, any thread (each thread keeps a parser of its own).
+// Encoding: compact, keys in byte order, `/` escaped, dates by Iso8601.h, ids in upper case, no raw
+// line separator inside a string. Decoding validates the whole text: every key is required, unknown
+// keys are ignored, the last of repeated keys counts. Pure functions, any thread (one parser per
+// thread).
 #pragma once
 
 #include "base/Result.h"
@@ -17,12 +17,13 @@
 
 namespace vantle::json {
 
-/// Fails only when a date has no written form.
+/// Fails only when a date cannot be written.
 [[nodiscard]] Result<QByteArray> encode(const Session& session);
 [[nodiscard]] Result<QByteArray> encode(const OpenSessionMarker& marker);
 [[nodiscard]] QByteArray encode(const std::vector<Skill>& skills);
 
-/// Empty when the text is no such record. The record rules are not applied here.
+/// Returns the record; empty when the text is not one. Does not apply the rules of
+/// firstFailingRule().
 [[nodiscard]] std::optional<Session> decodeSession(QByteArrayView text);
 [[nodiscard]] std::optional<OpenSessionMarker> decodeMarker(QByteArrayView text);
 [[nodiscard]] std::optional<std::vector<Skill>> decodeSkills(QByteArrayView text);

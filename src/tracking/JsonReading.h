@@ -1,7 +1,7 @@
-// What the decoders of all data files are made of: typed values out of a validated document.
+// Typed values from a validated JSON document, for the decoders.
 //
-// For the decoders alone. Nothing is converted from one type to another; what is of another type is
-// not there. Pure functions, any thread (each thread keeps a parser of its own).
+// A value of another type counts as missing; nothing is converted. Pure functions, any thread (one
+// parser per thread).
 #pragma once
 
 #include "base/Date.h"
@@ -20,14 +20,13 @@ namespace vantle::json::reading {
 
 namespace dom = simdjson::dom;
 
-/// The parser of this thread. It validates the whole text, and what it gives is only used until
-/// the next call.
+/// This thread's parser. It validates the whole text; its results are valid until the next call.
 inline dom::parser& parser() {
     thread_local dom::parser instance;
     return instance;
 }
 
-/// The root of the text; empty when it is no JSON. Valid until the next call on this thread.
+/// Returns the root; empty when the text is not JSON. Valid until the next call on this thread.
 [[nodiscard]] inline std::optional<dom::element> parse(QByteArrayView text) {
     dom::element root;
     const auto bytes = std::string_view(text.data(), static_cast<std::size_t>(text.size()));
@@ -37,7 +36,7 @@ inline dom::parser& parser() {
 }
 
 [[nodiscard]] inline std::optional<QString> textOf(std::string_view utf8) {
-    // Escapes of single surrogates pass the parser and are no text.
+    // The parser accepts escaped lone surrogates, which are no text.
     if (!simdjson::validate_utf8(utf8.data(), utf8.size())) return std::nullopt;
     return text::fromUtf8(QByteArrayView(utf8.data(), static_cast<qsizetype>(utf8.size())));
 }
@@ -66,8 +65,7 @@ inline dom::parser& parser() {
     return iso8601::parse(text);
 }
 
-/// A field of a record under its key. Reading goes through all keys once, so that of a repeated
-/// one the last counts.
+/// A required field of a record. The keys are read in order, so the last of repeated keys counts.
 template <typename Value>
 struct Field {
     std::string_view key;
@@ -80,7 +78,7 @@ struct Field {
     [[nodiscard]] bool isGood() const { return value.has_value(); }
 };
 
-/// A field that may be missing, or null.
+/// An optional field, which may be missing or null.
 template <typename Value>
 struct OptionalField {
     std::string_view key;
@@ -96,8 +94,8 @@ struct OptionalField {
     [[nodiscard]] bool isGood() const { return !isOfAnotherType; }
 };
 
-/// Offers every pair of the object to the fields. False when it is no object, or when a field is
-/// not good: its value is of another type, or its key is missing and must not be.
+/// Reads the fields from the object. Returns false when `element` is not an object, a value has a
+/// wrong type, or a required key is missing.
 template <typename... Fields>
 [[nodiscard]] bool readObject(dom::element element, Fields&... fields) {
     dom::object object;

@@ -14,7 +14,7 @@ void appendUnicodeEscape(QByteArray& out, unsigned unit) {
         out += kHexDigits[(unit >> shift) & 0xF];
 }
 
-/// The escape of an ASCII character, or 0 when it stands for itself or needs the long form.
+/// Returns the letter of the short escape; 0 when the character needs none or the long form.
 char shortEscape(char character) {
     switch (character) {
     case '"':

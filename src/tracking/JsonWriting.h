@@ -1,6 +1,6 @@
-// What the encoders of all data files are made of: compact JSON, piece by piece.
+// The parts of compact JSON, for the encoders.
 //
-// For the encoders alone. Pure functions, any thread.
+// Pure functions, any thread.
 #pragma once
 
 #include "base/Date.h"
@@ -11,18 +11,17 @@
 
 namespace vantle::json::writing {
 
-/// Appends `text` quoted. The separators of lines beyond ASCII are escaped as well, so that no text
-/// can split the line that it stands on.
+/// Appends `text` quoted. Escapes the line separators beyond ASCII too, so that a text cannot split
+/// its line.
 void appendString(QByteArray& out, const QString& text);
 
-/// Appends a key of ASCII letters with its colon, and a comma before it unless the object has just
-/// been opened.
+/// Appends an ASCII key with its colon, and a comma before it unless the object is empty so far.
 void appendKey(QByteArray& out, const char* key);
 
-/// Appends the quoted date. False when it has no written form.
+/// Appends the quoted date. Returns false when it cannot be written.
 [[nodiscard]] bool appendDate(QByteArray& out, Date date);
 
-/// The failure to tell when `appendDate` gave false.
+/// The error to return when `appendDate` returns false.
 [[nodiscard]] Error unwritableDate();
 
 } // namespace vantle::json::writing

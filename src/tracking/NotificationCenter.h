@@ -1,22 +1,22 @@
-// News for whoever watches: history views, and the welcome.
+// The notifications of changes for history views and the welcome.
 #pragma once
 
 #include <QObject>
 
 namespace vantle {
 
-/// One for the process, made by the composition root. Main thread.
+/// One object per process, made by the launch code. Main thread.
 class NotificationCenter : public QObject {
     Q_OBJECT
 
 Q_SIGNALS:
-    /// The log, or the way in which durations are written, has changed: reload.
+    /// The log or the duration style changed: reload.
     void HFSessionsChanged();
 
-    /// The card after a session has closed, whichever way.
+    /// The card after a session closed, for any reason.
     void HFStopSummaryResolved();
 
-    /// The person asks for the welcome again.
+    /// The user asks for the welcome again.
     void HFShowWelcome();
 };
 

@@ -49,7 +49,7 @@ std::vector<DotRun> DotTally::runs(const std::vector<Skill>& skills) const {
 }
 
 std::size_t DotTally::placeOf(const QString& skillId) {
-    // Records of a log share the texts of their skills, so the address mostly tells.
+    // Records of one log share their skill texts, so comparing addresses mostly suffices.
     const auto found = std::ranges::find_if(m_ids, [&](const QString& id) {
         return id.size() == skillId.size() &&
                (id.constData() == skillId.constData() || id == skillId);

@@ -1,7 +1,7 @@
-// Badges and the wall of hours, counted one record after the other, for whoever walks over the log
-// for more than these. The records come oldest first and have to count; nothing is checked here.
+// Badges and the wall of hours, counted record by record.
 //
-// Any thread.
+// For callers that walk over the log for more than these. Requires records that count, oldest
+// first; checks neither. Any thread.
 #pragma once
 
 #include "tracking/Session.h"
@@ -27,7 +27,7 @@ private:
     std::int64_t m_nextRung = rungSeconds(0);
     std::vector<Badge> m_earned;
 
-    /// The sum that the rung asks for; out of reach past the last.
+    /// The seconds that the rung requires; the maximum past the last rung.
     [[nodiscard]] static std::int64_t rungSeconds(std::size_t rung);
 };
 
@@ -35,11 +35,11 @@ class DotTally {
 public:
     void add(const Session& session);
 
-    /// The wall so far; `skills` gives names and colours.
+    /// Returns the wall so far; `skills` gives names and colours.
     [[nodiscard]] std::vector<DotRun> runs(const std::vector<Skill>& skills) const;
 
 private:
-    /// A run by the place of its skill in `m_ids`: a few numbers for each of very many.
+    /// A run with its skill as an index into `m_ids`, since there are very many.
     struct Run {
         std::size_t skill = 0;
         std::int64_t count = 0;
@@ -49,7 +49,7 @@ private:
 
     std::vector<QString> m_ids;
     std::vector<Run> m_runs;
-    std::int64_t m_carry = 0; ///< seconds short of an hour
+    std::int64_t m_carry = 0; ///< seconds of the hour in progress
 };
 
 } // namespace vantle::totals

@@ -19,7 +19,7 @@ int firstFailingRule(const Session& session) {
     if (session.skillId.isEmpty() || !text::hasAtMost(session.skillId, Skill::maxIdLength))
         return 1;
     if (session.activeSeconds < 0 || session.activeSeconds > kMaxSessionSeconds) return 2;
-    // Written so that a date that is not a number fails.
+    // Negated so that NaN fails.
     if (!(session.endedAt >= session.startedAt)) return 3;
     if (!(session.endedAt - session.startedAt <= Seconds(kMaxSessionSeconds))) return 4;
     if (!text::hasAtMost(session.note, kMaxNoteLengthInRecord)) return 5;

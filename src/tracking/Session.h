@@ -1,4 +1,4 @@
-// The records of worked time, and the rules that make one acceptable.
+// The records of worked time and the rules for valid ones.
 //
 // Plain values and pure functions, any thread.
 #pragma once
@@ -12,51 +12,51 @@
 
 namespace vantle {
 
-/// The longest time that one record may hold, in seconds: seven days.
+/// The longest record, in seconds: seven days.
 inline constexpr std::int64_t kMaxSessionSeconds = 604800;
 
-/// One finished stretch of work. Immutable once logged, except for its note and deletion.
+/// A finished session. Immutable once logged, except for note and deletion.
 struct Session {
-    QUuid id;        ///< the id that its marker had
+    QUuid id;        ///< same id as its marker's
     QString skillId; ///< may name a skill that no longer exists
     Date startedAt;
     Date endedAt;
-    std::int64_t activeSeconds = 0; ///< what counts; pauses and time away are cut out
+    std::int64_t activeSeconds = 0; ///< counted time, without pauses and absences
     QString note;                   ///< empty if none
     QString source;                 ///< kSourceApp or kSourceManual
 
     friend bool operator==(const Session&, const Session&) = default;
 };
 
-/// The image of the open session on the disk, from which a crash is recovered.
+/// The open session as stored on disk, for recovery after a crash.
 struct OpenSessionMarker {
-    QUuid id; ///< the id that the session will have
+    QUuid id; ///< id of the session to be
     QString skillId;
     Date startedAt;                 ///< backfill included
     std::int64_t activeSeconds = 0; ///< at the moment of writing
-    Date lastSeenAt;                ///< when the session was last known to be alive
+    Date lastSeenAt;                ///< last moment at which the session was known to run
 
     friend bool operator==(const OpenSessionMarker&, const OpenSessionMarker&) = default;
 };
 
-[[nodiscard]] const QString& sourceApp();    ///< "mac_app": tracked live, or recovered
-[[nodiscard]] const QString& sourceManual(); ///< "manual": logged by hand
+[[nodiscard]] const QString& sourceApp();    ///< "mac_app": tracked or recovered
+[[nodiscard]] const QString& sourceManual(); ///< "manual": added by hand
 
-/// The longest note that a record may hold, and the longest that is kept of a note typed here, in
-/// user-perceived characters.
+/// The longest note in a record, and the longest that the program stores, in user-perceived
+/// characters.
 inline constexpr int kMaxNoteLengthInRecord = 2000;
 inline constexpr int kMaxNoteLength = 500;
 
-/// The number of the first rule that the record breaks, 0 when it is acceptable:
-/// 1 skill id empty or over 64 characters, 2 seconds outside 0 to seven days, 3 end before start,
-/// 4 span over seven days, 5 note over 2000 characters, 6 unknown source.
+/// Returns the number of the first rule that the record breaks; 0 when it is valid. 1: skill id
+/// empty or over 64 characters; 2: seconds outside 0 to seven days; 3: end before start; 4: span
+/// over seven days; 5: note over 2000 characters; 6: unknown source.
 [[nodiscard]] int firstFailingRule(const Session& session);
 
 [[nodiscard]] inline bool isAcceptable(const Session& session) {
     return firstFailingRule(session) == 0;
 }
 
-/// A typed note as it is stored: trimmed, then its first 500 characters.
+/// Returns a note as it is stored: trimmed and cut to 500 characters.
 [[nodiscard]] QString cleanedNote(const QString& note);
 
 } // namespace vantle

@@ -6,7 +6,7 @@ namespace vantle {
 
 namespace {
 
-/// The gap, in seconds, from which on a session begins a row of its own.
+/// From this gap on a session starts a new row.
 constexpr Seconds kSeparateGap{180.0};
 
 } // namespace

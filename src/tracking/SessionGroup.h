@@ -1,4 +1,6 @@
-// Close sessions of one skill shown as one row. Pure, any thread.
+// Sessions of one skill that are shown as one row.
+//
+// Pure function, any thread.
 #pragma once
 
 #include "tracking/Session.h"
@@ -11,11 +13,11 @@ struct SessionGroup {
     QUuid id;                 ///< of its first session
     QString skillId;          ///< shared by all
     Date endedAt;             ///< of its last session
-    std::int64_t seconds = 0; ///< active seconds together
+    std::int64_t seconds = 0; ///< sum of active seconds
     bool allManual = true;    ///< whether all were logged by hand
 
-    /// Merges sessions, in the given order, that follow one of the same skill within less than
-    /// three minutes. Only the newest group can take a session.
+    /// Merges each session that begins less than three minutes after one of the same skill. Keeps
+    /// the order; only the newest group can grow.
     [[nodiscard]] static std::vector<SessionGroup> grouped(const std::vector<Session>& sessions);
 };
 

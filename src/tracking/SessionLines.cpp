@@ -11,7 +11,8 @@
 
 namespace vantle::sessionlines {
 
-/// Walks over the bytes of a line. Every step tells whether the line still is in our own form.
+/// A cursor over the bytes of a line. Each step returns whether the line still is in canonical
+/// form.
 class Reader::Cursor {
 public:
     explicit Cursor(QByteArrayView text) : m_at(text.data()), m_end(m_at + text.size()) {}
@@ -33,7 +34,7 @@ public:
         return true;
     }
 
-    /// Decimal digits as JSON has them: no sign, no leading zero, few enough to fit.
+    /// Reads decimal digits as in JSON: no sign, no leading zero, short enough to fit.
     bool digits(std::int64_t& value) {
         constexpr std::ptrdiff_t kMaxDigits = 18; // any such number fits
         const char* const begin = m_at;
@@ -59,8 +60,8 @@ public:
 
     bool id(QUuid& id);
 
-    /// The bytes up to the closing quote, if none of them needs a closer look: an escape, a control
-    /// character, or the lead byte of a newline beyond ASCII.
+    /// Reads up to the closing quote. Returns false when a byte needs the full decoder: an escape,
+    /// a control character, or the lead byte of a newline beyond ASCII.
     bool plainText(QByteArrayView& text);
 
     [[nodiscard]] bool atLineEnd() const { return m_at == m_end || *m_at == '\n'; }
@@ -113,7 +114,7 @@ bool Reader::Cursor::id(QUuid& id) {
 
 namespace {
 
-/// Eight bytes as a number, and what each byte of a mask is about.
+/// Eight copies of a byte, for tests on eight bytes at once.
 constexpr std::uint64_t eachByte(std::uint8_t byte) { return 0x0101010101010101u * byte; }
 
 /// Whether one of eight bytes is a quote, a backslash, a control character or not ASCII.

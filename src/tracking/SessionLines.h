@@ -1,4 +1,6 @@
-// Reading records out of the bytes of a log. Pure functions, any thread.
+// The reader of records from the bytes of a log.
+//
+// Pure functions, any thread.
 #pragma once
 
 #include "base/Iso8601.h"
@@ -12,8 +14,8 @@
 
 namespace vantle::sessionlines {
 
-/// The length of the newline character at the front of `rest`, 0 when there is none there.
-/// Every newline of Unicode ends a line: U+000A to U+000D, U+0085, U+2028, U+2029.
+/// Returns the length of the newline at the front of `rest`; 0 when there is none. All Unicode
+/// newlines count: U+000A to U+000D, U+0085, U+2028, U+2029.
 [[nodiscard]] inline qsizetype newlineLength(QByteArrayView rest) {
     const auto at = [&](qsizetype i) { return static_cast<unsigned char>(rest[i]); };
     if (at(0) >= 0x0A && at(0) <= 0x0D) return 1;
@@ -23,7 +25,7 @@ namespace vantle::sessionlines {
     return 0;
 }
 
-/// Calls `visit(QByteArrayView)` for each line of `text`, empty ones left out.
+/// Calls `visit(QByteArrayView)` for each non-empty line of `text`.
 template <typename Visit>
 void forEachLine(QByteArrayView text, Visit visit) {
     qsizetype begin = 0;
@@ -40,26 +42,25 @@ void forEachLine(QByteArrayView text, Visit visit) {
     if (text.size() > begin) visit(text.sliced(begin));
 }
 
-/// Reads records line by line, quickly where a line stands in our own form. Keeps the texts that
-/// repeat, so that records share them. One reader a thread.
+/// Reads records line by line, fast where a line is in canonical form (as the program writes it).
+/// Shares repeated texts among the records. One reader per thread.
 class Reader {
 public:
-    /// The record that the line holds, fully validated; the rules for records are not applied.
-    /// Answers as json::decodeSession does for every input that is UTF-8. The line holds no
-    /// newline.
+    /// Returns the line's record, fully validated except for the rules of firstFailingRule(). Same
+    /// result as json::decodeSession for all UTF-8. Requires a line without newline.
     [[nodiscard]] std::optional<Session> decode(QByteArrayView line);
 
-    /// Reads `text`, a run of whole lines, and calls `visit(QByteArrayView line,
-    /// std::optional<Session>)` for each that is not empty.
+    /// Calls `visit(QByteArrayView line, std::optional<Session>)` for each non-empty line of
+    /// `text`, a run of whole lines.
     template <typename Visit>
     void read(QByteArrayView text, Visit visit);
 
 private:
-    /// The record at the front of `text`, when it stands there in our own form, followed by a line
-    /// feed or the end; sets `length` to that of the line. Empty says nothing about the line.
+    /// Returns the canonical record at the front of `text`, ended by a line feed or the end, and
+    /// sets `length` to that of its line. Empty says nothing about the line.
     [[nodiscard]] std::optional<Session> decodeCanonical(QByteArrayView text, qsizetype& length);
 
-    /// A skill id as it stands in a line, and as the records share it.
+    /// A skill id as bytes of a line, and as the text that records share.
     struct KnownSkill {
         QByteArray utf8; ///< with the closing quote
         QString id;
@@ -69,7 +70,7 @@ private:
     class Cursor;
     [[nodiscard]] bool readSkillId(Cursor& cursor, QString& id);
 
-    std::vector<KnownSkill> m_skills; ///< the one of the last line first
+    std::vector<KnownSkill> m_skills; ///< most recent first
     std::size_t m_replacedNext = 0;
     iso8601::Parser m_dates;
 };
@@ -91,7 +92,7 @@ void Reader::read(QByteArrayView text, Visit visit) {
     }
 }
 
-/// A single line, as Reader::decode has it.
+/// Decodes a single line like Reader::decode.
 [[nodiscard]] inline std::optional<Session> decode(QByteArrayView line) {
     return Reader().decode(line);
 }

@@ -14,10 +14,10 @@ namespace vantle {
 
 namespace {
 
-/// How much of the log is in memory at once while it is read, in bytes. Longer lines make it grow.
+/// Block size for reading the log, in bytes. Longer lines enlarge it.
 constexpr qsizetype kBlockSize = 1 << 20;
 
-/// By how many bytes a rewritten log may well grow.
+/// Reserve for the growth of a rewritten log, in bytes.
 constexpr qint64 kRoomForANote = 4096;
 
 bool isUtf8(QByteArrayView bytes) {
@@ -29,15 +29,15 @@ Error recordRefused(const QString& path) {
             QStringLiteral("The record breaks the rules of the log")};
 }
 
-/// How many records a file of `fileSize` bytes will hold, after `count` in its first `bytes`; some
-/// more, since the estimate is not to fall short by a few.
+/// Estimates the records in a file of `fileSize` bytes, given `count` in its first `bytes`.
+/// Slightly high, so that the vector does not grow for a few more.
 std::size_t expectedCount(std::size_t count, qsizetype bytes, qint64 fileSize) {
     const double density = static_cast<double>(count) / static_cast<double>(bytes);
     return count + static_cast<std::size_t>(density * 1.03 * static_cast<double>(fileSize));
 }
 
-/// Calls `visit` with the file block by block, each a run of whole lines; the last may lack its
-/// line feed. False when the file can't be read, or when `visit` returns false.
+/// Calls `visit` with the file in blocks of whole lines; the last may lack its line feed. Returns
+/// false when the file cannot be read or `visit` returns false.
 template <typename Visit>
 bool forEachBlock(File& file, Visit visit) {
     QByteArray buffer(kBlockSize, Qt::Uninitialized);
@@ -60,7 +60,7 @@ bool forEachBlock(File& file, Visit visit) {
     return filled == 0 || visit(QByteArrayView(buffer.constData(), filled));
 }
 
-/// Copies lines byte for byte, each with a line feed after it; neighbours go in one piece.
+/// Copies lines byte for byte, each with a line feed; adjacent lines in one piece.
 class LineCopier {
 public:
     explicit LineCopier(QByteArray& output) : m_output(output) {}
@@ -82,7 +82,7 @@ public:
 
 private:
     QByteArray& m_output;
-    const char* m_begin = nullptr; ///< of the piece that is not copied yet
+    const char* m_begin = nullptr; ///< start of the piece not yet copied
     const char* m_end = nullptr;
 };
 
@@ -92,7 +92,7 @@ Result<> appendTo(File& file, QByteArrayView line) {
     Result<> outcome = file.write(line);
     if (outcome) outcome = file.sync();
     if (!outcome) {
-        // Half a line would swallow the next one.
+        // A torn line would swallow the next one.
         file.truncate(before.value()).ignore();
         return outcome;
     }
@@ -110,7 +110,7 @@ Result<> SessionLog::append(const Session& session) const {
     FileSystem& files = m_paths.fileSystem();
     auto file = files.open(path, FileSystem::OpenMode::Append);
     if (!file) {
-        // Only the certainty that there is no log may start a new one: it replaces what is there.
+        // Only ENOENT starts a new log, since starting one replaces the file.
         return file.error().code == ENOENT ? m_paths.writeProtected(line, path) : file.error();
     }
     if (auto appended = appendTo(*file.value(), line); !appended) return appended;
@@ -130,7 +130,7 @@ LogRead SessionLog::readAll() const {
             ++log.unreadable;
     };
     const bool complete = forEachBlock(*file.value(), [&](QByteArrayView block) {
-        // One bad byte hides the whole log: what a damaged disk left is not guessed at.
+        // One invalid byte makes the whole log unreadable: a damaged disk's content is not guessed.
         if (!isUtf8(block)) return false;
         const bool isFirst = log.sessions.empty();
         reader.read(block, take);
@@ -177,7 +177,7 @@ Result<bool> SessionLog::rewrite(const QUuid& id, const Transform& transform) co
     const bool complete = forEachBlock(*file.value(), [&](QByteArrayView block) {
         if (!isUtf8(block)) return false;
         reader.read(block, take);
-        kept.flush(); // the block's bytes are not there any more after this
+        kept.flush(); // the block is reused after this
         return true;
     });
     if (!complete) return false;

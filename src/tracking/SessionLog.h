@@ -1,4 +1,4 @@
-// The log of finished work: one JSON line a record, in order of appending.
+// The log of finished sessions: one JSON line per record.
 #pragma once
 
 #include "base/Result.h"
@@ -12,35 +12,32 @@ namespace vantle {
 
 class AppPaths;
 
-/// What a read of the log found.
+/// The result of reading the log.
 struct LogRead {
-    std::vector<Session> sessions; ///< oldest end first; equal ends in the order of the file
-    int unreadable = 0;            ///< lines that are no acceptable record
+    std::vector<Session> sessions; ///< oldest end first; equal ends in file order
+    int unreadable = 0;            ///< number of lines without a valid record
 };
 
-/// The operations on "sessions.jsonl". Lines that can't be read stay where they are, byte for byte,
-/// through every operation. No state: each call goes to the file.
-///
-/// Every call blocks and belongs on the I/O queue.
+/// The operations on "sessions.jsonl". Unreadable lines keep their bytes and their place through
+/// every operation. Stateless: each call accesses the file. Blocks; I/O queue.
 class SessionLog {
 public:
     explicit SessionLog(const AppPaths& paths) : m_paths(paths) {}
 
-    /// Adds a record, and returns when it is on the disk. Nothing is written for a record that
-    /// breaks the rules. When writing fails, the file is put back to its length before, so that the
-    /// next record can't fuse with a torn half. When only the mode can't be set, the record is in
-    /// the file all the same.
+    /// Appends a record and returns once it is on disk. Refuses an invalid record. When the write
+    /// fails, the file is cut back to its previous length, so that the next record cannot merge
+    /// with a torn one. When only setting the mode fails, the record stays in the file.
     Result<> append(const Session& session) const;
 
-    /// All acceptable records. A file that is missing, can't be read or is not UTF-8 gives none,
-    /// and no count.
+    /// Returns all valid records. A missing, unreadable or non-UTF-8 file gives none and a count of
+    /// 0.
     [[nodiscard]] LogRead readAll() const;
 
     using Transform = std::function<std::optional<Session>(const Session&)>;
 
-    /// Replaces every record with that id by what `transform` makes of it, none meaning deletion,
-    /// and keeps all else. False when there is no such record or no readable file; an error when a
-    /// result breaks the rules or the file can't be written, and then the file is as it was.
+    /// Replaces each record with that id by the result of `transform`, or removes it when that is
+    /// empty. Returns false when there is no such record or no readable file. On an error (invalid
+    /// result, failed write) the file is unchanged.
     Result<bool> rewrite(const QUuid& id, const Transform& transform) const;
 
 private:

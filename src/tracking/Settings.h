@@ -1,11 +1,11 @@
-// Every preference of the program.
+// The preferences of the program.
 #pragma once
 
 #include "platform/Preference.h"
 #include "tracking/DurationStyle.h"
 
-/// Key, what holds without it, and limits of each. No other source names a key, and
-/// docs/formats/preferences.ini.md describes the same ones: tools/tidy/preferences.py compares
+/// Key, default and limits of each; any thread. No other source names a key.
+/// docs/formats/preferences.ini.md describes the same list; tools/tidy/preferences.py compares
 /// both.
 namespace vantle::settings {
 
@@ -25,7 +25,7 @@ inline constexpr Preference<bool> rippleDisabled{"ripple.disabled", false};
 inline constexpr Preference<bool> ceremonyBlackout{"ceremony.blackout", true};
 inline constexpr Preference<bool> skipInstallPrompt{"dev.skipInstallPrompt", false};
 
-// What the program remembers.
+// State that the program keeps.
 inline constexpr Preference<QString> lastUsedSkill{"skill.lastUsed"};
 inline constexpr Preference<qint64> skillsMigrationVersion{"skills.taxonomyMigrationVersion", 0};
 inline constexpr Preference<bool> hotKeyHintShown{"hint.hotkey.shown", false};

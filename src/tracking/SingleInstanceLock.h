@@ -1,4 +1,4 @@
-// Keeps a second copy of the program away from the same data.
+// The lock against a second process on the same data.
 #pragma once
 
 #include "platform/FileSystem.h"
@@ -9,13 +9,13 @@ namespace vantle {
 
 class AppPaths;
 
-/// Holds the kernel's lock on a file of the support directory for as long as it lives. A crash
-/// gives it up as well; the file stays and means nothing by itself. Main thread.
+/// Holds a kernel lock on a file of the data directory during its lifetime. A crash releases it
+/// too; the remaining file has no effect. Main thread.
 class SingleInstanceLock {
 public:
-    /// False when another process holds the lock. A lock file that can't be opened, or one on a
-    /// file system without locks, is no reason to refuse: a broken support directory must not keep
-    /// the program from starting.
+    /// Returns false when another process holds the lock. Returns true when the file cannot be
+    /// opened or its file system has no locks: a broken data directory must not keep the program
+    /// from starting.
     [[nodiscard]] bool acquire(const AppPaths& paths);
 
 private:

@@ -22,13 +22,13 @@ const Skill* findIn(const std::vector<Skill>& skills, const QString& id) {
     return found == skills.end() ? nullptr : &*found;
 }
 
-/// The entry of a file as it may stand in the list; empty when it may not.
+/// Returns the entry of a file as a valid skill; empty when it cannot be one.
 std::optional<Skill> sanitized(const Skill& entry) {
     if (!Skill::isAcceptableId(entry.id)) return std::nullopt;
     const QString name = Skill::cleanedName(entry.name);
     const bool nameFits = Skill::isAcceptableName(name);
     const std::uint32_t color = entry.hexRGB & Skill::colorMask;
-    // A seed survives a bad name, since its own is known.
+    // A seed with an invalid name keeps its default name.
     if (const auto seed = Skill::seedDefinition(entry.id))
         return Skill{seed->id, nameFits ? name : seed->name, color, seed->builtin};
     if (!nameFits) return std::nullopt;
@@ -45,7 +45,7 @@ std::vector<Skill> sanitized(const std::vector<Skill>& entries) {
     return kept;
 }
 
-/// Gives seeds that still carry an old default name their new one. True when one changed.
+/// Renames seeds that still have an old default name. Returns true when one changed.
 bool renameOldDefaults(std::vector<Skill>& skills) {
     struct Rename {
         QLatin1String id, oldName, newName;
@@ -69,7 +69,7 @@ bool renameOldDefaults(std::vector<Skill>& skills) {
     return changed;
 }
 
-/// Adds the seed "Build" where neither it nor anything of its name is there. True when added.
+/// Adds the seed "Build" unless its id or name exists. Returns true when added.
 bool addMissingBuild(std::vector<Skill>& skills) {
     const bool present = std::ranges::any_of(skills, [](const Skill& skill) {
         return skill.id == QLatin1String("building") ||
@@ -80,7 +80,7 @@ bool addMissingBuild(std::vector<Skill>& skills) {
     return true;
 }
 
-/// The id that a name suggests: its letters and numbers, lower-cased, joined by single `_`.
+/// Derives an id from the name: letters and numbers in lower case, joined by `_`.
 QString baseIdFor(const QString& cleanedName) {
     QString id;
     bool gap = false;
@@ -139,7 +139,7 @@ bool SkillList::saveSkills(const std::vector<Skill>& skills) {
 std::vector<Skill> SkillList::loadSkills() {
     const auto bytes =
         m_ioQueue.run([this] { return m_paths.fileSystem().readAll(m_paths.skillsFile()); });
-    // Any other failure may pass, and what the file holds is worth more than the seeds.
+    // Other failures may be temporary, and the file's content is worth more than the seeds.
     if (!bytes && bytes.error().code != ENOENT) m_readError = bytes.error();
     const auto stored = bytes ? json::decodeSkills(bytes.value()) : std::nullopt;
     if (!stored) {
@@ -158,7 +158,7 @@ void SkillList::migrate(std::vector<Skill>& skills) {
     if (settings::skillsMigrationVersion.read(m_preferences) >= currentMigrationVersion) return;
     const bool renamed = renameOldDefaults(skills);
     const bool added = addMissingBuild(skills);
-    // An unsaved change is tried again at the next launch.
+    // An unsaved migration is retried at the next launch.
     if ((renamed || added) && !saveSkills(skills)) return;
     settings::skillsMigrationVersion.write(m_preferences, currentMigrationVersion);
 }

@@ -1,4 +1,6 @@
-// The person's list of skills: in memory, in "skills.json", and the rules for changing it.
+// The user's skills, with their file and the rules for changes.
+//
+// The file is "skills.json".
 #pragma once
 
 #include "base/Result.h"
@@ -15,13 +17,12 @@ class AppPaths;
 class Preferences;
 class SerialQueue;
 
-/// The process-wide list, in the order in which skills are shown; never empty. Read from the file
-/// on first use, and from then on changed only here, so that memory and file agree; a change that
-/// can't be saved is rolled back. A file that is there but can't be read is left as it is: the list
-/// is that of a new user then, and every change is refused, since saving it would replace skills
-/// that were never read. No operation has words of its own: the caller finds them.
+/// The process-wide list, in display order, never empty. Loaded on first use and changed only here;
+/// a change that cannot be saved is rolled back, so memory and file agree. With an unreadable file
+/// the list is that of a new user and every change is refused, since saving would replace skills
+/// that were never read. Errors carry no text for the user: the caller chooses it.
 ///
-/// Main thread. File work runs on the I/O queue, and the calls that need it wait for it.
+/// Main thread. File work runs on the I/O queue; calls that need it wait for it.
 class SkillList final : public QObject {
     Q_OBJECT
 
@@ -29,45 +30,44 @@ public:
     /// All three must outlive the list.
     SkillList(const AppPaths& paths, SerialQueue& ioQueue, Preferences& preferences);
 
-    /// The version that the one migration of the seed skills leaves in the preferences.
+    /// The version that the migration of the seed skills stores in the preferences.
     static constexpr int currentMigrationVersion = 1;
 
     [[nodiscard]] const std::vector<Skill>& all();
 
-    /// Why the file could not be read; empty when it could, or is missing.
+    /// Why the file could not be read; empty when it was, or is missing.
     [[nodiscard]] const std::optional<Error>& readError();
 
-    /// The skill with that id, or none.
+    /// Returns the skill with that id; empty when there is none.
     [[nodiscard]] std::optional<Skill> find(const QString& id);
     [[nodiscard]] bool contains(const QString& id) { return find(id).has_value(); }
 
-    /// A skill to work with: the one with that id, else the first.
+    /// Returns the skill with that id, else the first: a skill to work with.
     [[nodiscard]] Skill by(const QString& id);
 
-    /// A skill to show that may no longer exist: the one with that id, else its seed, else a grey
-    /// one named after the id. Never changes the list.
+    /// Returns the skill with that id, else its seed, else a grey one named after the id: a skill
+    /// to show. Does not change the list.
     [[nodiscard]] Skill display(const QString& id);
 
-    /// The same over any list; a pure function.
+    /// The same for any list; a pure function.
     [[nodiscard]] static Skill display(const QString& id, const std::vector<Skill>& skills);
 
-    /// Adds a skill. Empty when the name is not 1 to 20 characters or already taken, when there
-    /// are eight, or when it can't be saved.
+    /// Adds a skill. Empty when the name is not 1 to 20 characters or is taken, when there are
+    /// eight skills, or when saving fails.
     std::optional<Skill> addCustom(const QString& name, std::uint32_t hexRGB);
 
-    /// Renames and recolours; the id stays. Empty, and nothing changed, on a bad or taken name, an
-    /// unknown id, or when it can't be saved.
+    /// Renames and recolours; keeps the id. Empty, without a change, for an invalid or taken name,
+    /// an unknown id, or when saving fails.
     std::optional<Skill> update(const QString& id, const QString& name, std::uint32_t hexRGB);
 
-    /// Removes a skill. False for the last one, an unknown one, or when it can't be saved.
+    /// Removes a skill. Returns false for the last one, an unknown one, or when saving fails.
     bool remove(const QString& id);
 
-    /// The list of a new person, after all data was erased. Writes no file.
+    /// Resets to the list of a new user, after the erase of all data. Writes no file.
     void resetAfterErase();
 
 Q_SIGNALS:
-    /// A skill was added, changed or removed, or the list is that of a new user again. Emitted once
-    /// the change is saved.
+    /// The list changed. Emitted once the change is saved.
     void changed();
 
 private:
@@ -80,7 +80,7 @@ private:
     const AppPaths& m_paths;
     SerialQueue& m_ioQueue;
     Preferences& m_preferences;
-    std::optional<std::vector<Skill>> m_all; ///< empty until first used
+    std::optional<std::vector<Skill>> m_all; ///< empty until first use
     std::optional<Error> m_readError;
 };
 

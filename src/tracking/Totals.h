@@ -1,7 +1,7 @@
-// The numbers that the person sees from the log.
+// The totals that the user reads from the log.
 //
-// Pure functions over records as TrackerCore::allSessions gives them, oldest first. Records that do
-// not count as of `now` (TrackerCore::countsInTotals) are left out everywhere. Any thread.
+// Pure functions over records of TrackerCore::allSessions, oldest first. All of them leave out
+// records that do not count as of `now` (TrackerCore::countsInTotals). Any thread.
 #pragma once
 
 #include "base/Calendar.h"
@@ -17,12 +17,12 @@ namespace vantle::totals {
 inline constexpr std::array<int, 10> milestoneLadder = {10,  25,   50,   100,  250,
                                                         500, 1000, 2500, 5000, 10000};
 
-/// Hours that ended since the start of the day of `now`. A record belongs whole to the day on which
-/// it ended.
+/// Hours of the records that ended on the day of `now`. A record counts entirely on the day of its
+/// end.
 [[nodiscard]] double hoursToday(const std::vector<Session>& sessions, Date now,
                                 const Calendar& calendar);
 
-/// Hours that ended since the start of the calendar's week of `now`.
+/// Hours of the records that ended in the calendar week of `now`.
 [[nodiscard]] double hoursThisWeek(const std::vector<Session>& sessions, Date now,
                                    const Calendar& calendar);
 
@@ -33,7 +33,7 @@ struct SkillTotal {
     double hours = 0;
 };
 
-/// One entry for each skill of the list, in its order. Time under other skills is in no entry.
+/// One entry for each skill of the list, in order. Leaves out time under other skills.
 [[nodiscard]] std::vector<SkillTotal> perSkillTotals(const std::vector<Session>& sessions, Date now,
                                                      const std::vector<Skill>& skills);
 
@@ -45,15 +45,15 @@ struct Badge {
 
 [[nodiscard]] std::vector<Badge> badges(const std::vector<Session>& sessions, Date now);
 
-/// Stretches of the wall of one skill: `count` dots, each a full hour, in the colour of the record
-/// that completed it.
+/// A run of `count` dots of the wall, one per full hour, in the colour of the skill that completed
+/// them.
 struct DotRun {
     Skill skill;
     std::int64_t count = 0;
 };
 
-/// The wall of hours as runs of one skill, so that years of work stay small. `skills` gives the
-/// names and colours; deleted skills keep those of their seed, or go grey.
+/// The wall of hours as runs, which keeps years of work small. `skills` gives names and colours; a
+/// deleted skill has those of its seed, or grey.
 [[nodiscard]] std::vector<DotRun> hourDotRuns(const std::vector<Session>& sessions, Date now,
                                               const std::vector<Skill>& skills);
 
@@ -61,10 +61,10 @@ struct DotRun {
 [[nodiscard]] std::vector<Skill> hourDots(const std::vector<Session>& sessions, Date now,
                                           const std::vector<Skill>& skills);
 
-/// How many dots the wall has: the whole hours of all time.
+/// The number of dots: whole hours of all time.
 [[nodiscard]] std::int64_t hourDotCount(const std::vector<Session>& sessions, Date now);
 
-/// The seconds that count, all together.
+/// The sum of counted seconds.
 [[nodiscard]] std::int64_t secondsAllTime(const std::vector<Session>& sessions, Date now);
 
 } // namespace vantle::totals

@@ -35,7 +35,7 @@ TrackerCore::TrackerCore(const Environment& environment)
 TrackerCore::~TrackerCore() = default;
 
 Date TrackerCore::countedUntil() const {
-    // A night of sleep must not count either where a stop comes before the first tick after it.
+    // Sleep of the machine must not count even when a stop precedes the first tick after it.
     const auto missed = m_missed.sinceLastLook();
     return missed ? std::min(missed->from, m_env.clock.now()) : m_env.clock.now();
 }
@@ -52,7 +52,7 @@ std::int64_t TrackerCore::roundedActiveSeconds() const {
 }
 
 std::int64_t TrackerCore::displayActiveSeconds() const {
-    // A clock shows only seconds that are over, so this one cuts off where records round.
+    // A running clock shows completed seconds, so it rounds down where records round to nearest.
     return std::max<std::int64_t>(truncatedToInteger(currentActiveSeconds()), 0);
 }
 
@@ -112,8 +112,8 @@ void TrackerCore::tick() {
 void TrackerCore::pause(Date date) {
     if (m_state != State::Running) return;
     if (m_segmentStart) {
-        // Nothing before the segment counts, and nothing that has not passed yet. With the clock
-        // set back since the segment began, now is the cut and takes seconds away.
+        // Limited to the segment and to the past. When the clock was set back since the segment
+        // began, the cut is now and removes seconds.
         const Date cut = std::min(std::max(*m_segmentStart, date), countedUntil());
         m_accumulatedSeconds += (cut - *m_segmentStart).count();
         m_lastKnownGoodAt = cut;
@@ -160,7 +160,7 @@ bool TrackerCore::applyBackfill(int minutes) {
     if (m_state == State::Idle || !m_startedAt || minutes < 1 || minutes > maxBackfillMinutes)
         return false;
     const double elapsed = (m_env.clock.now() - *m_startedAt).count() / 60.0;
-    // The whole stretch from the new start up to now must have been active.
+    // The evidence must cover everything from the new start up to now.
     const auto asked =
         std::clamp<std::int64_t>(truncatedToInteger(std::ceil(elapsed) + minutes),
                                  std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
@@ -199,7 +199,7 @@ bool TrackerCore::writeMarker() {
             if (self) self->noteStorageFailure(error);
         });
     });
-    // Only queued so far; a failure of the disk arrives later and sets it again.
+    // Only queued so far; a later write failure sets it again.
     setStorageError(std::nullopt);
     return true;
 }

@@ -1,5 +1,6 @@
-// The one object that knows whether a session is open. Counts active seconds, keeps the marker on
-// the disk current, and turns a finished session into a record of the log. Knows no surface.
+// The tracker: the state of the session and its counted time.
+//
+// Keeps the marker on disk current, and turns a finished session into a record of the log.
 #pragma once
 
 #include "base/Clock.h"
@@ -26,17 +27,17 @@ class Preferences;
 class SerialQueue;
 class SkillList;
 
-/// Thread: main only. File work runs on the I/O queue; the calls marked [blocks] wait for it.
-/// Storage failures never stop the clock; they stand in `storageError`, in the person's words.
+/// Main thread. File work runs on the I/O queue; calls marked [blocks] wait for it. Storage
+/// failures never stop the clock; `storageError` has them as text for the user.
 class TrackerCore : public QObject {
     Q_OBJECT
-    /// Whether a session is open, and whether it counts. Changes after all other fields are set.
+    /// Whether a session is open and counting. Changes after all other fields are set.
     Q_PROPERTY(State state READ state NOTIFY stateChanged FINAL)
     /// Skill of the open session; empty when none is open.
     Q_PROPERTY(QString currentSkillId READ currentSkillIdText NOTIFY currentSkillIdChanged FINAL)
     /// The last storage failure; empty when the last write went well.
     Q_PROPERTY(QString storageError READ storageErrorText NOTIFY storageErrorChanged FINAL)
-    /// How many records of the log can't be read; empty when all can. As of the last read.
+    /// How many records cannot be read, as text; empty when all can. Set by each read of the log.
     Q_PROPERTY(QString dataWarning READ dataWarningText NOTIFY dataWarningChanged FINAL)
     /// The short line after a resume; empty when there is none.
     Q_PROPERTY(QString welcomeBack READ welcomeBackText NOTIFY welcomeBackChanged FINAL)
@@ -47,7 +48,7 @@ public:
 
     using MarkerEncoder = std::function<Result<QByteArray>(const OpenSessionMarker&)>;
 
-    /// What the tracker works with. All of it must outlive the tracker.
+    /// The services that the tracker uses. All of them must outlive it.
     struct Environment {
         const Clock& clock;
         Scheduler& scheduler;
@@ -68,85 +69,84 @@ public:
     // The session
 
     /// Opens a session that began `backfillMinutes` ago, if that is 1 to 30 and the evidence
-    /// confirms it, else now. The minutes really applied; empty when a session is open already or
-    /// its marker can't be made. `onSessionStarted` runs before this returns.
+    /// confirms it, else now. Returns the minutes applied; empty when a session is open already or
+    /// its marker cannot be made. Calls `onSessionStarted` before it returns.
     std::optional<int> start(const Skill& skill, int backfillMinutes);
 
-    /// Opens the session that takes over from `ended`, at the moment at which that one ended: the
-    /// time it took to write the record is lost to neither. Over a sleep of the machine in between,
-    /// it begins now. Whether it opened; else as `start`.
+    /// Opens the session that continues `ended`, from the moment of its end: writing the record
+    /// costs no counted time. If the machine slept in between, it begins now. Returns whether it
+    /// opened; otherwise like `start`.
     bool startAfter(const Session& ended, const Skill& skill);
 
-    /// Stops counting as of `date`, clamped to the running segment and now. Nothing unless running.
-    /// Time in which the machine slept or the program was stopped is never counted: it is cut out
-    /// by the next tick, as a pause that began with the last one.
+    /// Stops counting as of `date`, clamped to the running segment and now. Has no effect unless
+    /// running. Time in which the machine slept or the program was stopped never counts: the next
+    /// tick removes it, as a pause since the tick before.
     void pause(Date date);
 
-    /// Counts again from now. Nothing unless paused.
+    /// Counts again from now. Has no effect unless paused.
     void resume();
 
-    /// Ends and logs the session. Empty when none is open, or when the record could not be
-    /// written: then the session stays open and `storageError` says why. `onSessionEnded` runs
-    /// before this returns. [blocks]
+    /// Ends and logs the session. Returns the record; empty when no session is open or when writing
+    /// fails. Then the session stays open and `storageError` says why. Calls `onSessionEnded`
+    /// before it returns. [blocks]
     std::optional<Session> stop();
 
-    /// Moves the start of the open session back by 1 to 30 minutes, if the evidence confirms the
-    /// whole stretch up to now.
+    /// Moves the start of the open session back by 1 to 30 minutes. Returns false unless the
+    /// evidence confirms the whole time since.
     bool applyBackfill(int minutes);
 
-    /// Drops the open session without a record; for the erase of all data.
+    /// Drops the open session without a record, for the erase of all data.
     void discardOpenSessionForErase();
 
-    /// Adds seconds to an open session. For work on surfaces; nothing in the program calls it.
+    /// Adds seconds to an open session, for work on the views; the program does not call it.
     void debugAdvance(double seconds);
 
-    /// What a clock on the screen shows: whole seconds, cut off, never below 0.
+    /// Returns the whole seconds for a running clock, rounded down, at least 0.
     [[nodiscard]] std::int64_t displayActiveSeconds() const;
 
     // The log
 
-    /// Every acceptable record, oldest end first. Refreshes `dataWarning`. [blocks]
+    /// Returns every valid record, oldest end first. Updates `dataWarning`. [blocks]
     std::vector<Session> allSessions();
 
-    /// Stores the note, trimmed and cut to 500 characters. False when the record is not there or
-    /// can't be written. [blocks]
+    /// Stores the note, trimmed and cut to 500 characters. Returns false when there is no such
+    /// record or writing fails. [blocks]
     bool updateNote(const QUuid& sessionId, const QString& note);
 
-    /// Removes the record. False as above. [blocks]
+    /// Removes the record. Returns false like updateNote(). [blocks]
     bool deleteSession(const QUuid& id);
 
-    /// Adds `minutes` (1 or more, capped at 960) of the skill, ending now. False for an unknown
-    /// skill or too few minutes, or when the record can't be written. [blocks]
+    /// Adds a manual record of `minutes` (at least 1, capped at 960), ending now. Returns false for
+    /// an unknown skill, too few minutes, or when writing fails. [blocks]
     bool logManual(const QString& skillId, int minutes, const QString& note);
 
     void clearStorageError();
 
-    /// Tells every history view to reload, once the present work is over.
+    /// Notifies every history view once the event loop is reached again.
     void notifySessionsChanged();
 
-    /// Whether the record counts in totals: it starts at most five minutes after `asOf`. Later
-    /// ones come from a clock that was set back since.
+    /// Whether the record counts in totals: it starts at most five minutes after `asOf`. A later
+    /// start comes from a clock that has been set back since.
     [[nodiscard]] static bool countsInTotals(const Session& session, Date asOf) {
         return (session.startedAt - asOf).count() <= futureStartTolerance;
     }
 
-    /// Returns when everything queued for the disk so far has run. [blocks]
+    /// Returns after all queued writes ran. [blocks]
     void drainPendingIO();
 
     // Recovery after a crash
 
-    /// The marker that the last run left, when it tells of at least a minute of work. One that
-    /// does not, or can't be trusted, is removed. Call once, at launch. Until the marker is
-    /// recovered or discarded, every stop puts it back into the file, which the open session takes
-    /// for its own marker. [blocks]
+    /// Returns the marker of the last run when it holds at least a minute of work; removes any
+    /// other. Call once, at launch. Until the marker is recovered or discarded, each stop restores
+    /// it to the file, which the open session uses for its own marker. [blocks]
     std::optional<OpenSessionMarker> takeOrphanedMarker();
 
-    /// Writes the marker of the last run again if it is not answered and no session is open; for
-    /// the end of the program. An open session that can't be stopped keeps the file. [blocks]
+    /// Writes the unanswered marker of the last run again if no session is open, for the end of the
+    /// program. A session that could not be stopped keeps the file. [blocks]
     void putBackOrphanedMarker();
 
-    /// Logs what the marker tells, or finds it logged already, and removes the marker. Empty when
-    /// there is nothing to recover or it can't be written; then the marker stays. [blocks]
+    /// Logs the marker's session, unless the log holds it already, and removes the marker. Empty
+    /// when there is nothing to recover or writing fails; then the marker stays. [blocks]
     std::optional<Session> recoverSession(const OpenSessionMarker& marker);
 
     /// Removes the marker. [blocks]
@@ -164,15 +164,15 @@ public:
         return m_welcomeBackShownAt;
     }
 
-    // Set once by the owner, which they must hold weakly.
+    // Callbacks, set once by the owner, which they must hold weakly.
 
     std::function<void(const Skill&, Date)> onSessionStarted;
     std::function<void(const Session&)> onSessionEnded;
 
-    /// Asked before backfill is honoured; held weakly, none means nothing is confirmed.
+    /// Confirms backfill; held weakly. Without one no backfill is confirmed.
     void setIdleMonitor(ActivityEvidence* monitor) { m_idleMonitor = monitor; }
 
-    /// The inner count, for tests and the simulator.
+    /// The internal count, for tests and the simulator.
     struct Internals {
         double accumulatedSeconds = 0;
         std::optional<Date> segmentStart;
@@ -182,8 +182,8 @@ public:
     };
     [[nodiscard]] Internals internals() const;
 
-    /// Adds a record to the log. The only way in which one enters it. Public for the tests of the
-    /// log; the program's own ways in are `stop`, `logManual` and `recoverSession`. [blocks]
+    /// Appends a record; every record enters the log here. Public for tests; the program uses
+    /// `stop`, `logManual` and `recoverSession`. [blocks]
     bool appendToLog(const Session& session);
 
 Q_SIGNALS:
@@ -234,13 +234,13 @@ private:
     std::optional<QString> m_welcomeBack;
     std::optional<Date> m_welcomeBackShownAt;
 
-    std::optional<QByteArray> m_orphanedMarker; ///< of the last run, while it is not answered
+    std::optional<QByteArray> m_orphanedMarker; ///< of the last run, until answered
 
     std::optional<QUuid> m_sessionId;
     double m_accumulatedSeconds = 0;    ///< of all closed segments, backfill included
     std::optional<Date> m_segmentStart; ///< empty while paused
     std::optional<Date> m_lastKnownGoodAt;
-    MissedTime m_missed; ///< looked at with each tick while running
+    MissedTime m_missed; ///< updated with each tick while running
     int m_ticksSinceMarkerWrite = 0;
     TimerHandle m_tickTimer;
 };

@@ -97,8 +97,8 @@ std::optional<OpenSessionMarker> TrackerCore::takeOrphanedMarker() {
         [this] { return m_env.paths.fileSystem().readAll(m_env.paths.openSessionMarker()); });
     if (!bytes) return std::nullopt;
     auto marker = json::decodeMarker(bytes.value());
-    // The candidate is what an offer is made of; without one the marker is of no use. The file of
-    // a good one stays until the person has chosen, so that a second crash loses nothing.
+    // A marker without a candidate cannot be offered. The file of a good one stays until the user
+    // has answered, so that a second crash loses nothing.
     if (marker && recovery::recoveryCandidate(*marker)) {
         m_orphanedMarker = bytes.value();
         return marker;
@@ -125,7 +125,7 @@ void TrackerCore::removeOrphanedMarker() {
 std::optional<Session> TrackerCore::recoverSession(const OpenSessionMarker& marker) {
     const auto candidate = recovery::recoveryCandidate(marker);
     if (!candidate) return std::nullopt;
-    // The crash may have come between the record and the marker's removal.
+    // The crash may have come between logging the record and removing the marker.
     const std::vector<Session> sessions = allSessions();
     const auto logged = std::ranges::find(sessions, candidate->id, &Session::id);
     const bool isLogged = logged != sessions.end();

@@ -1,4 +1,4 @@
-// A person's shortcuts: the executables in one folder, by their names.
+// The user's shortcuts: the executables in one folder.
 #pragma once
 
 #include <QByteArray>
@@ -6,7 +6,7 @@
 
 namespace vantle {
 
-/// Names are bytes, as the file system keeps them. Blocks.
+/// Names are raw bytes, as in the file system. Blocks on the disk. Any thread.
 class ShortcutsFolder {
 public:
     explicit ShortcutsFolder(QByteArray path) : m_path(std::move(path)) {}
@@ -14,15 +14,15 @@ public:
     /// `Vantle/shortcuts` under $XDG_CONFIG_HOME, else under ~/.config.
     [[nodiscard]] static ShortcutsFolder standard();
 
-    /// Whether a file of that name could be a shortcut: one line of UTF-8 without a slash, and not
-    /// hidden, which ".." and "." are as well.
+    /// Whether a file of that name can be a shortcut: one line of UTF-8 without a slash, not hidden
+    /// (which excludes "." and "..").
     [[nodiscard]] static bool isName(const QByteArray& name);
 
-    /// The shortcuts, sorted by bytes. Links count as what they lead to; one that leads nowhere or
-    /// in a circle is none. Empty when there is no such folder.
+    /// Returns the shortcuts, sorted by bytes; empty when there is no such folder. Links count as
+    /// their target; broken and circular links are left out.
     [[nodiscard]] QList<QByteArray> names() const;
 
-    /// Becomes that shortcut. Returns only on failure.
+    /// Replaces this process by the shortcut. Returns only on failure.
     void become(const QByteArray& name) const;
 
 private:

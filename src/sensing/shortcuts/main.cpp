@@ -1,7 +1,7 @@
-// vantle-shortcuts list         prints the names of the person's shortcuts, one a line
-// vantle-shortcuts run NAME     becomes that shortcut
+// vantle-shortcuts list         prints the names of the user's shortcuts, one per line
+// vantle-shortcuts run NAME     replaces itself by that shortcut
 //
-// Exit status: 0, or of the shortcut; 64 wrong use; 66 no such shortcut, or one that can't be
+// Exit status: 0, or that of the shortcut; 64 wrong usage; 66 no such shortcut, or it cannot be
 // started; 74 the list could not be printed.
 #include "sensing/shortcuts/ShortcutsFolder.h"
 
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Whether all of it reached the standard output.
+/// Returns whether all of it was written to standard output.
 bool print(const QByteArray& text) {
     qsizetype at = 0;
     while (at < text.size()) {
