@@ -23,7 +23,7 @@ public:
         QString text;
         QString help; ///< what the answer does; empty where its text says so
         std::function<void()> give;
-        // whether the card needs the keyboard; the panel then returns the focus first
+        /// Whether the card needs the keyboard; the panel then returns the focus first.
         bool takesKeyboard = false;
     };
     struct Question {

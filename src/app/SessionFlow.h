@@ -75,7 +75,7 @@ public:
 
     /// The two sessions of a change of skill.
     struct Split {
-        // empty when its record could not be saved; then the session continues
+        /// Empty when its record could not be saved; then the session continues.
         std::optional<Session> ended;
         bool hasStarted = false; ///< whether the second session is open
     };

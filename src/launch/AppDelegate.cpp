@@ -23,15 +23,14 @@ namespace vantle {
 
 namespace {
 
-/// In which a tray has placed an item that has just come; where it has not, the panel opens in the
-/// corner of the screen.
+/// How long a tray may take to place a new item; after that the panel opens in the corner.
 constexpr Seconds kPlacePatience{0.5};
 
-/// The bus keeps the call that it starts the program for, and hands it over as soon as the program
-/// has its name. What comes later, after a start at login too, is the user's own call.
+/// The bus holds back the call that it starts the program for and delivers it as soon as the
+/// program owns its name. A later call is the user's own.
 constexpr Seconds kFirstCallWithin{5.0};
 
-/// The identity under which the desktop knows the program's own windows.
+/// The desktop's identity for the program's own windows.
 const QString& ownBundleId() {
     static const QString id = QStringLiteral("local.vantle.Vantle");
     return id;
@@ -55,9 +54,9 @@ AppDelegate::~AppDelegate() = default;
 
 bool AppDelegate::applicationDidFinishLaunching() {
     if (m_env.offerMoveToApplications()) return false;
-    // Before anything else looks at the data.
+    // Before anything else reads the data.
     if (!m_lock.acquire(m_env.paths)) {
-        // The panel of the copy that runs is what a start by hand is for.
+        // A start by hand asks for the panel of the running copy.
         if (m_env.startedUnasked || !m_platform.runningCopy.show()) m_env.alertAlreadyRunning();
         return false;
     }
@@ -82,7 +81,7 @@ bool AppDelegate::applicationDidFinishLaunching() {
 }
 
 void AppDelegate::showFirstPanel() {
-    // It drops from the tray item, which a tray takes a moment to put in its place.
+    // The panel drops from the tray item, which the tray takes a moment to place.
     if (!m_platform.trayItem.isPlacePending()) return m_model->showCommandCenter();
     const auto show = [this] {
         const TimerHandle spent = std::move(m_trayPatience);
@@ -215,8 +214,8 @@ void AppDelegate::showCommandCenter() {
 
 void AppDelegate::applicationShouldHandleReopen() {
     if (!m_model) return;
-    // Started by the bus in silence, it is called next for what it was started for. For a new
-    // person that is the welcome, without the panel over it.
+    // A start by the bus is followed by the call that it is for. A new user gets the welcome,
+    // without the panel over it.
     const TimerHandle firstCall = std::exchange(m_firstCall, nullptr);
     if (firstCall && m_model->needsWelcome()) {
         m_router->show(WindowId::Welcome);

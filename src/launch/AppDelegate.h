@@ -1,4 +1,4 @@
-// What happens when the program starts, is started again, and ends.
+// The program's lifecycle: start, second start, end.
 #pragma once
 
 #include "app/AppModel.h"
@@ -26,7 +26,7 @@ class RecoveryNoticeController;
 class SharedEngine;
 class StopSummaryController;
 
-/// Owns the top-level objects for the life of the process. Main thread.
+/// Owns the top-level objects. Main thread.
 class AppDelegate {
 public:
     /// All of it must outlive the delegate.
@@ -35,42 +35,43 @@ public:
         const Clock& clock;
         Scheduler& scheduler;
         SerialQueue& ioQueue;
-        SerialQueue& autoSkillQueue; ///< of auto mode's own file
+        SerialQueue& autoSkillQueue; ///< for auto mode's file
         const AppPaths& paths;
         PosterSharing& posterSharing;
         CardStage& cardStage;
-        SharedEngine& viewEngine; ///< of the panel and the windows
+        SharedEngine& viewEngine; ///< for the panel and the windows
         QString shortcutsTool;    ///< absolute path of the program that runs shortcuts
-        /// Makes the capsule; there is none without.
+        /// Makes the capsule. Without it there is none.
         std::function<std::unique_ptr<collaborators::Notch>()> makeNotch = {};
-        /// Makes what plays at both ends of a session; nothing plays without.
+        /// Makes the ceremony. Without it none plays.
         std::function<std::unique_ptr<collaborators::Ripple>()> makeRipple = {};
         std::function<Calendar()> calendar;
-        /// Offers to move a downloaded program; true when a copy elsewhere takes over.
+        /// Offers to move a downloaded program. Returns true when a copy elsewhere takes over.
         std::function<bool()> offerMoveToApplications;
-        std::function<void()> terminate;           ///< ends the process
-        std::function<void()> alertAlreadyRunning; ///< tells the user, and returns when they know
-        /// At login, or by the bus for a call that is about to come: nothing may pop up.
+        std::function<void()> terminate; ///< ends the process
+        /// Tells the user; returns once the alert is closed.
+        std::function<void()> alertAlreadyRunning;
+        /// Started at login, or by the bus for a call to come: no window may open.
         bool startedUnasked = false;
     };
 
     explicit AppDelegate(const Environment& environment);
     ~AppDelegate();
 
-    /// Brings the program up. False when another copy takes over or holds the data: that one
-    /// shows itself, or the person knows, nothing was touched, and the process is to end.
+    /// Starts the program. Returns false when another copy takes over or holds the data; no data
+    /// was touched then, and the process is to end.
     [[nodiscard]] bool applicationDidFinishLaunching();
 
-    /// The person started the program again while it runs.
+    /// The user started the program again while it runs.
     void applicationShouldHandleReopen();
 
-    /// The process is about to end, for whatever reason. Does nothing the second time.
+    /// The process is about to end. Has no effect the second time.
     void applicationWillTerminate();
-    /// The same where nothing that is drawn may be touched any more.
+    /// Like applicationWillTerminate(), without touching windows or views.
     void applicationWillTerminateUnseen();
 
-    /// One of the actions that the desktop may call by name: "toggle", "keep", "discard", "note",
-    /// "quit", and those of the windows (`WindowSpec::action`). Unknown names do nothing.
+    /// Runs an action that the desktop calls by name: "toggle", "keep", "discard", "note", "quit",
+    /// or a window's (`WindowSpec::action`). Ignores unknown names.
     void performAction(const QString& name);
 
     /// Null before the launch, and in a second copy.
@@ -90,7 +91,7 @@ private:
 
     const Environment m_env;
     const Platform& m_platform;
-    /// While the call may come for which the bus started the program.
+    /// Runs while the bus call may come that the program was started for.
     TimerHandle m_firstCall;
     SingleInstanceLock m_lock;
     NotificationCenter m_notifications;
@@ -107,7 +108,7 @@ private:
     std::unique_ptr<CommandCenterController> m_commandCenter;
     std::unique_ptr<StatusItemController> m_statusItem;
     MissingTray m_missingTray;
-    TimerHandle m_trayPatience; ///< there while the first panel waits for the tray
+    TimerHandle m_trayPatience; ///< set while the first panel waits for the tray
     QMetaObject::Connection m_trayPlaced;
 };
 

@@ -16,8 +16,7 @@ constexpr int kProgramMode = 0755;
 
 QString folderOf(const QString& path) { return path.section(QLatin1Char('/'), 0, -2); }
 
-/// Puts a copy of the file at `to` in one step, over what may stand there; on failure that stays
-/// and nothing else does.
+/// Copies the file to `to` atomically and replaces what is there; on failure that stays.
 Result<> copyFile(FileSystem& files, const QString& from, const QString& to, int mode) {
     if (auto made = files.makeDirectories(folderOf(to), std::nullopt); !made) return made;
     const auto content = files.readAll(from);
@@ -66,7 +65,7 @@ bool AppInstaller::offerMoveToApplicationsIfNeeded() {
     const QString target = installlocation::target(m_place.home);
     if (!wantsMove() || !mayReplace(target)) return false;
     if (!copyAll(target)) return fail();
-    // The copy is started before the source goes: one that can't be started leaves all as it was.
+    // Starts the copy before it deletes the source: when starting fails, everything stays.
     if (!m_operations.start(target)) return fail();
     giveUpSources();
     m_operations.terminate();
@@ -80,14 +79,15 @@ bool AppInstaller::mayReplace(const QString& target) const {
 }
 
 Result<> AppInstaller::copyAll(const QString& target) {
-    // The program last: where it stands, what it needs stands too.
+    // The program last: a copied program has all of its companions.
     for (const auto& [source, to, isProgram] : m_place.companions.files) {
         const int mode = isProgram ? kProgramMode : m_files.usualMode();
         if (auto copied = copyFile(m_files, source, to, mode); !copied) return copied;
     }
     if (auto copied = copyFile(m_files, m_place.program, target, kProgramMode); !copied)
         return copied;
-    m_files.syncDirectory(folderOf(target)).ignore(); // there, if not yet proof against a power cut
+    // copied, though perhaps not yet safe from a power loss
+    m_files.syncDirectory(folderOf(target)).ignore();
     return {};
 }
 

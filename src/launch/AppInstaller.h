@@ -1,4 +1,4 @@
-// Offers to move a program that runs from a download folder to its proper place.
+// The offer to move a downloaded program to its proper place.
 #pragma once
 
 #include "base/Result.h"
@@ -16,31 +16,31 @@ namespace vantle {
 class FileSystem;
 class Preferences;
 
-/// Main thread, once a launch, before anything else of the program is there. Nothing here keeps the
-/// program from running: what fails ends in words and a folder shown.
+/// Called once per launch, before the rest of the program is constructed. Failures end in an alert
+/// and an opened folder; the program starts anyway. Main thread.
 class AppInstaller {
 public:
     struct Place {
-        QString program; ///< this program's own file, absolute and free of links
-        QString home;    ///< the person's home, likewise
-        installlocation::Companions companions; ///< what moves along
-        bool isReadOnly = false; ///< a mount that can't give the file up, as of a disk image
+        QString program; ///< the program's own file, absolute, links resolved
+        QString home;    ///< the user's home, absolute, links resolved
+        installlocation::Companions companions; ///< files to move along
+        bool isReadOnly = false; ///< on a mount that cannot delete the file, such as a disk image
     };
     struct Operations {
-        std::function<int(const Alert&)> runAlert; ///< the index of the chosen button
+        std::function<int(const Alert&)> runAlert; ///< returns the index of the chosen button
         std::function<Result<>(const QString& path)> moveToTrash;
         std::function<void(const QString& path)> reveal; ///< in the file manager
         std::function<bool(const QString& program)> start;
-        std::function<void()> terminate; ///< this process, soon
+        std::function<void()> terminate; ///< ends this process soon
     };
 
-    /// The references must outlive this.
+    /// All references must outlive this object.
     AppInstaller(const Preferences& preferences, FileSystem& files, Place place,
                  Operations operations);
 
-    /// True when a copy in the proper place was started: this process ends, and must not go on with
-    /// its launch. The answer is remembered nowhere. Reads and writes whole programs, and blocks
-    /// while an alert stands.
+    /// Returns true when a copy in the proper place was started: this process must end without
+    /// launching. The answer is not stored. Copies whole programs, and blocks while an alert is
+    /// open.
     [[nodiscard]] bool offerMoveToApplicationsIfNeeded();
 
 private:

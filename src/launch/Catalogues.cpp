@@ -16,7 +16,7 @@ Catalogues::Catalogues(const QStringList& languages) {
 
 bool Catalogues::install(const QString& name) {
     auto translator = std::make_unique<QTranslator>();
-    // An empty result is no failure of the program: a language without a catalogue.
+    // A missing file is a language without a catalogue.
     if (!translator->load(QStringLiteral(":/vantle/translations/vantle_%1.qm").arg(name)))
         return false;
     QCoreApplication::installTranslator(translator.get());

@@ -1,4 +1,4 @@
-// The catalogues of texts that belong to the user's languages.
+// The translation catalogues for the user's languages.
 #pragma once
 
 #include <QString>
@@ -10,14 +10,15 @@
 
 namespace vantle {
 
-/// Installs them in the application object while it lives, which must be after that. Main thread.
+/// Installs the catalogues in the application object for its lifetime. Requires the application
+/// object. Main thread.
 ///
-/// `vantle_en` is always among them: the sources are written for another desktop, and it has the
-/// words that are true on this one. A catalogue of another language goes before it.
+/// `vantle_en` is always loaded: the source texts name another desktop, and it has the wording for
+/// this one. The catalogue of another language takes precedence over it.
 class Catalogues {
 public:
-    /// `languages` are names of locales, the preferred first: "de-AT", "en". The first that the
-    /// program knows counts; without one it speaks English.
+    /// `languages` are locale names in order of preference: "de-AT", "en". The first known one
+    /// counts; without one the texts are English.
     explicit Catalogues(const QStringList& languages);
 
 private:

@@ -17,8 +17,8 @@ namespace vantle {
 
 namespace {
 
-/// Lies beside the program where both were built, and among what is its own where they were
-/// installed. There is none where the system has no web engine to build it with.
+/// Beside the program in a build tree, among the program's modules in an installation. Missing
+/// where the build had no web engine.
 QString webModulePath() {
     const QString name = QStringLiteral("/vantle-webceremony.so");
     const QString built = resourcefolders::ofProgram() + name;
@@ -30,7 +30,7 @@ QString webModulePath() {
 QString findPage() { return resourcefolders::find(QStringLiteral("ceremony.html")); }
 
 RippleOverlayController::Prepare preparation() {
-    // Of its own, since it is used on the queue; shared, since functions get copied.
+    // One generator per queue, since it is not thread-safe; shared, since std::function copies.
     return [random = std::make_shared<SystemRandom>()](CeremonyVariant variant, QSizeF size,
                                                        const std::optional<QString>& skillName) {
         return std::make_unique<CeremonyFrameRenderer>(
@@ -42,7 +42,8 @@ RippleOverlayController::Prepare preparation() {
 } // namespace
 
 void Ceremony::prepareProcess() {
-    // One heap for all threads: what a show took can only be given back from the first one.
+    // A single heap: malloc can trim only the main thread's arena, and a show's memory goes back to
+    // the system after it.
     mallopt(M_ARENA_MAX, 1);
     if (QFileInfo::exists(webModulePath()) && !findPage().isEmpty())
         QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);

@@ -1,4 +1,4 @@
-// The ceremony put together: its controller, the module that shows pages.
+// The assembly of the ceremony: its controller, and the module for pages.
 #pragma once
 
 #include "base/RandomSource.h"
@@ -17,23 +17,22 @@ namespace collaborators {
 class Ripple;
 }
 
-/// What the controller works with. Must outlive it. Main thread.
+/// Everything that the controller uses. Must outlive it. Main thread.
 class Ceremony {
 public:
-    /// To be called before there are threads and an application object: sees that shows can give
-    /// their memory back, and that a page's engine can share what it draws with the program. The
-    /// latter loads the graphics driver, so it is done only where there is a page; one that is put
-    /// in its place later plays from the next run on.
+    /// Call before there are threads and an application object. Prepares the heap for trimming, and
+    /// lets a page's engine share graphics with the program. The latter loads the graphics driver,
+    /// so it is done only when a page exists; a page added later plays from the next run on.
     static void prepareProcess();
 
-    /// Makes the ceremony's typeface known, if there is one. `prepQueue` is what shows are made
-    /// ready on. The references must outlive this object.
+    /// Loads the ceremony's font, if there is one. Shows are prepared on `prepQueue`. The
+    /// references must outlive this object.
     Ceremony(const Platform& platform, const Clock& clock, Scheduler& scheduler,
              std::unique_ptr<SerialQueue> prepQueue);
 
     [[nodiscard]] std::unique_ptr<collaborators::Ripple> makeRipple();
 
-    /// Returns when no show is being made ready beside the main thread.
+    /// Waits until no show is being prepared.
     void settle() { m_prepQueue->drain(); }
 
 private:

@@ -18,7 +18,7 @@ FloatingSurfaces::FloatingSurfaces(const Platform& platform, Scheduler& schedule
                    platform.screens}) {}
 
 FloatingSurfaces::~FloatingSurfaces() {
-    // Windows go in the next turn of the event loop, of which there is none any more.
+    // deleteLater() needs an event loop, and it has ended.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 

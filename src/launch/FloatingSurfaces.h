@@ -1,4 +1,4 @@
-// The surfaces that float above the desktop, put together.
+// The assembly of the surfaces that float above the desktop.
 #pragma once
 
 #include "app/Collaborators.h"
@@ -28,7 +28,7 @@ private:
     const Platform& m_platform;
     Scheduler& m_scheduler;
     SharedEngine& m_engines;
-    const std::shared_ptr<QQmlEngine> m_engine; ///< the capsule is hardly ever away
+    const std::shared_ptr<QQmlEngine> m_engine; ///< kept, since the capsule nearly always exists
     QuickCardStage m_cardStage;
 };
 

@@ -24,16 +24,16 @@ namespace {
 
 constexpr int kNoDesktop = 69; // EX_UNAVAILABLE
 
-/// Whether the desktop started the program unasked: at login, or for a call over the bus. The mark
-/// is taken away, so that no child process inherits it.
+/// Returns whether the desktop started the program for no window: at login, or for a bus call.
+/// Removes the marker, so that no child process inherits it.
 bool takeUnaskedMark() {
     const bool marked = qEnvironmentVariableIsSet("VANTLE_AUTOSTART");
     qunsetenv("VANTLE_AUTOSTART");
     return marked;
 }
 
-/// What programs that this one starts find: what the session gave it, before it sets anything for
-/// itself. Without the two marks of its own start, which belong to its first window.
+/// Returns the environment for child processes: the session's, before the program sets variables,
+/// without the two markers of its own start.
 QProcessEnvironment userEnvironment() {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(QStringLiteral("DESKTOP_STARTUP_ID"));
@@ -42,20 +42,20 @@ QProcessEnvironment userEnvironment() {
 }
 
 void describeApplication() {
-    // No display name besides: it would be appended to the title of every window.
+    // No display name: Qt would append it to every window title.
     QApplication::setApplicationName(QStringLiteral("vantle"));
     QApplication::setDesktopFileName(QStringLiteral("local.vantle.Vantle"));
     QApplication::setQuitOnLastWindowClosed(false);
     QDir::setSearchPaths(personaartwork::searchPrefix(), resourcefolders::all());
 }
 
-/// The running program, for the one exit that unwinds nothing: when the display server goes away,
-/// the toolkit calls exit() from inside the event loop.
+/// The running program, for the exit without unwinding: when the display server goes away, the
+/// toolkit calls exit() from inside the event loop.
 Program* running = nullptr;
 
-/// Of the main thread. exit() destroys what belongs to its thread before it runs the handlers of
-/// atexit() and destroys what is static, the toolkit's fonts included, which the ceremony's queue
-/// may be using. So this is the one place where the queues can still come to their end.
+/// A thread_local of the main thread. exit() destroys thread_local objects before it runs atexit()
+/// handlers and destroys statics, such as the toolkit's fonts, which the ceremony's queue may still
+/// use. Only here can the queues still finish.
 struct StopAtExit {
     ~StopAtExit() {
         if (running) running->stopUnseen();
@@ -65,7 +65,7 @@ struct StopAtExit {
 int run(bool startedUnasked, const QProcessEnvironment& environment) {
     QtScheduler scheduler;
     const SystemClock clock{};
-    Program* program = nullptr; // while it is up
+    Program* program = nullptr; // set while it runs
     bool isEnding = false;
     const auto end = [&isEnding] {
         isEnding = true;
@@ -75,24 +75,24 @@ int run(bool startedUnasked, const QProcessEnvironment& environment) {
     const auto stop = [&program] {
         if (program) program->stop();
     };
-    const PlatformOwner platform = platformfactory::makePlatform(
-        scheduler,
-        {.activated =
-             [&program] {
-                 if (program) program->reopen();
-             },
-         .actionActivated =
-             [&program](const QString& action) {
-                 if (program) program->performAction(action);
-             },
-         .endRequested = end,
-         // The toolkit has a connection of its own and may not notice.
-         .displayLost =
-             [stop, end] {
-                 stop();
-                 end();
-             }},
-        environment);
+    const PlatformOwner platform =
+        platformfactory::makePlatform(scheduler,
+                                      {.activated =
+                                           [&program] {
+                                               if (program) program->reopen();
+                                           },
+                                       .actionActivated =
+                                           [&program](const QString& action) {
+                                               if (program) program->performAction(action);
+                                           },
+                                       .endRequested = end,
+                                       // The toolkit has its own connection and may not notice.
+                                       .displayLost =
+                                           [stop, end] {
+                                               stop();
+                                               end();
+                                           }},
+                                      environment);
     Program made(
         platform.ports(),
         {.clock = clock,
@@ -115,18 +115,17 @@ int run(bool startedUnasked, const QProcessEnvironment& environment) {
 } // namespace
 
 int HourfoldMain(int argc, char** argv) {
-    // Nothing is ever printed, by the libraries either.
+    // Silences messages of the libraries too.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     const bool startedUnasked = takeUnaskedMark();
     const QProcessEnvironment environment = userEnvironment();
     if (!platformfactory::desktopIsReachable()) return kNoDesktop;
     platformfactory::leaveMuteSessionBus();
     platformfactory::chooseWindows();
-    // A bold that the face does not have would be drawn by smearing the regular one.
+    // Without a bold face Qt would draw one by smearing the regular face.
     qputenv("QT_NO_SYNTHESIZED_BOLD", "1");
     platformfactory::settleScaleFactor();
-    // Views are drawn in software: no graphics driver is mapped, and a third of the memory
-    // suffices.
+    // The software renderer maps no graphics driver and uses a third of the memory.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     Ceremony::prepareProcess();
     describeApplication();

@@ -1,9 +1,10 @@
-// The program: everything real put together, from the first line of main to the last.
+// The program on the real desktop, from main to exit.
 #pragma once
 
 namespace vantle {
 
-/// Runs the program until it is told to end. Its exit status: 0, or 69 where there is no desktop.
+/// Runs the program until it is told to end. Returns the exit status: 0, or 69 without a desktop.
+/// Main thread.
 [[nodiscard]] int HourfoldMain(int argc, char** argv);
 
 } // namespace vantle

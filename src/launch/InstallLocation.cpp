@@ -12,11 +12,11 @@ namespace vantle::installlocation {
 
 namespace {
 
-/// Folders of which the system or a package manager takes care.
+/// Folders managed by the system or a package manager.
 constexpr const char* kSystemFolders[] = {"/usr/", "/opt/",       "/app/",      "/snap/",
                                           "/bin/", "/nix/store/", "/gnu/store/"};
 
-/// Folders of a home into which people put programs.
+/// Folders of a home that users install programs into.
 constexpr const char* kOwnFolders[] = {"/Applications/", "/bin/"};
 
 QString local(const QString& home) { return home + QStringLiteral("/.local/"); }
@@ -55,7 +55,7 @@ Companions companions(const QString& folder, const QString& home) {
     const QString prefix = QFileInfo(folder).path();
     takeWhole(folder + QStringLiteral("/vantle-shortcuts"), QStringLiteral("bin/vantle-shortcuts"),
               true);
-    // As the program looks for it: beside itself first.
+    // The program searches its own folder first.
     const QString name = QStringLiteral("/vantle-webceremony.so");
     const QString modules = QStringLiteral("lib/vantle/plugins");
     const QString beside = folder + name;

@@ -11,7 +11,7 @@ namespace vantle {
 
 namespace {
 
-/// In which a tray shows an item that has just come.
+/// How long a tray may take to show a new item.
 constexpr Seconds kTrayPatience{2};
 
 } // namespace

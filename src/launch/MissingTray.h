@@ -1,4 +1,4 @@
-// Tells a person whose desktop has no tray how to get the panel back.
+// The hint for desktops without a tray: how to reopen the panel.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -13,8 +13,7 @@ namespace vantle {
 class Preferences;
 class TrayItem;
 
-/// They look for the icon while the panel is open in front of them, so it is told there, once in an
-/// installation's life. Main thread.
+/// Shown in the open panel, where the user misses the icon, once per installation. Main thread.
 class MissingTray {
 public:
     /// All of it must outlive this.
@@ -22,13 +21,13 @@ public:
         Scheduler& scheduler;
         Preferences& preferences;
         const TrayItem& tray;
-        std::function<bool()> canBeTold; ///< the panel is open, and says nothing else
+        std::function<bool()> canBeTold; ///< whether the panel is open and shows no other note
         std::function<void(const QString& text)> tell;
     };
 
     explicit MissingTray(Environment environment);
 
-    /// The panel has just opened. Tells a little later, since a tray takes a moment.
+    /// The panel has opened. Shows the hint a little later, since a tray takes a moment.
     void panelOpened();
 
 private:

@@ -34,7 +34,7 @@ Platform PlatformOwner::ports() const {
 
 namespace platformfactory {
 
-// X11 in a Wayland session too: its windows can be placed and stay on top.
+// X11 in a Wayland session too: only X11 windows can be placed and stay on top.
 
 bool desktopIsReachable() { return platformparts::x11IsReachable(); }
 
@@ -55,7 +55,7 @@ void settleScaleFactor() {
     for (const char* told : {kDpi, "QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS",
                              "QT_SCALE_FACTOR_ROUNDING_POLICY", "QT_USE_PHYSICAL_DPI"})
         if (qEnvironmentVariableIsSet(told)) return;
-    // No rounding policy of Qt's leaves 1.25 and 1.5 as they are.
+    // None of Qt's rounding policies keeps 1.25 and 1.5.
     if (const auto dpi = platformparts::x11SettledDpi()) qputenv(kDpi, QByteArray::number(*dpi));
 }
 

@@ -1,40 +1,42 @@
-// The one place that chooses the desktop the program runs on.
+// The choice of the backend that implements the ports.
 #pragma once
 
 #include "launch/PlatformParts.h"
 
 namespace vantle {
 
-/// Everything that answers the ports. Main thread.
+/// All implementations of the ports. Main thread.
 struct PlatformOwner {
     platformparts::Posix posix;
     platformparts::Display display;
     platformparts::Session session;
-    std::shared_ptr<void> signalWatch; ///< ends first: a hanging end can be cut short by a signal
+    /// Destroyed first, which restores the default action: a signal can end a hanging shutdown.
+    std::shared_ptr<void> signalWatch;
 
-    /// This must outlive all that hold the ports.
+    /// The ports; this object must outlive their users.
     [[nodiscard]] Platform ports() const;
 };
 
 namespace platformfactory {
 
-/// Whether there is a desktop at all. Before the application object, which can't live without one.
+/// Whether there is a desktop. Call before constructing the application object, which aborts
+/// without one.
 [[nodiscard]] bool desktopIsReachable();
 
-/// Tells the toolkit by which kind of windows to show itself, unless the session's environment
-/// does. Before the application object.
+/// Selects the toolkit's window system plugin, unless the environment does. Call before the
+/// application object.
 void chooseWindows();
 
-/// Goes on without the session bus where it takes calls and never answers: the toolkit connects to
-/// it at its start and would wait for a minute. A second at the most, and only there. Before the
-/// application object.
+/// Disables the session bus when it accepts connections but never answers: the toolkit connects to
+/// it at its start and would block for a minute. Takes up to a second in that case only. Call
+/// before the application object.
 void leaveMuteSessionBus();
 
-/// Takes a scale factor next to a whole number for that number, unless the session's environment
-/// tells the toolkit a size. Before the application object.
+/// Rounds a scale factor close to a whole number, unless the environment sets one. Call before the
+/// application object.
 void settleScaleFactor();
 
-/// After the application object. `environment` is what programs that are started find.
+/// Makes the backend. Requires the application object. Child processes get `environment`.
 [[nodiscard]] PlatformOwner makePlatform(Scheduler& scheduler, const PlatformEvents& events,
                                          const QProcessEnvironment& environment);
 

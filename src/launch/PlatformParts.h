@@ -1,5 +1,6 @@
-// What answers the ports, in the parts that it is made of. Only the sources of the parts know a
-// backend.
+// The parts that implement the ports, one source file each.
+//
+// Only these sources know a backend. Main thread.
 #pragma once
 
 #include "base/Clock.h"
@@ -37,19 +38,20 @@
 
 namespace vantle {
 
-/// What the desktop asks of the program. All on the main thread.
+/// The desktop's requests to the program. Main thread.
 struct PlatformEvents {
-    std::function<void()> activated = [] {};                                   ///< started again
-    std::function<void(const QString& action)> actionActivated = [](auto&) {}; ///< by name
+    std::function<void()> activated = [] {}; ///< started again
+    /// An action by name.
+    std::function<void(const QString& action)> actionActivated = [](auto&) {};
     std::function<void()> endRequested = [] {}; ///< logout, shutdown, Ctrl-C
-    std::function<void()> displayLost = [] {};  ///< nothing can be shown any more
+    std::function<void()> displayLost = [] {};  ///< no window can be shown any more
 };
 
 namespace platformparts {
 
-// Members go in reverse order: what others of the part stand on comes first.
+// Members are destroyed in reverse order: those that others depend on come first.
 
-/// Files, programs and the desktop entries that belong to them.
+/// Files, processes and desktop entries.
 struct Posix {
     UserFolders folders;
     std::unique_ptr<FileSystem> fileSystem;
@@ -57,27 +59,29 @@ struct Posix {
     std::unique_ptr<ProcessRunner> processRunner;
     std::unique_ptr<LanguageModel> languageModel;
     std::unique_ptr<Autostart> autostart;
-    std::function<Application(const WindowHints&)> identify; ///< whose a window is
+    /// Returns the application that owns a window.
+    std::function<Application(const WindowHints&)> identify;
 };
 
-/// What only the server of the display can answer.
+/// What the display server implements.
 struct Display {
-    std::shared_ptr<void> connection; ///< what all of the part share
-    std::shared_ptr<void> compositor; ///< the same of what the server stands beside
-    /// Then a Wayland compositor has the input, the windows and the pointer over them.
+    std::shared_ptr<void> connection; ///< the X11 connection, shared by the part
+    std::shared_ptr<void> compositor; ///< the same for the Wayland compositor
+    /// A Wayland compositor owns input, windows and pointer then.
     bool isXwayland = false;
     std::unique_ptr<IdleSource> idleSource;
     std::unique_ptr<FrontmostApp> frontmostApp;
     std::unique_ptr<HotKeyPort> hotKeyPort;
-    std::unique_ptr<ScreenPower> screenPower; ///< goes into that of the session
+    std::unique_ptr<ScreenPower> screenPower; ///< moved into the session part
     std::unique_ptr<ReservedStrips> reservedStrips;
-    std::unique_ptr<OverlayStage> overlayStage; ///< one better than windows; null where none is
+    /// Preferred over toolkit windows; null where there is none.
+    std::unique_ptr<OverlayStage> overlayStage;
     std::unique_ptr<PanelHost> panelHost;
     std::unique_ptr<WindowManager> windowManager;
     std::unique_ptr<PointerPresses> pointerPresses;
 };
 
-/// What the session's bus and the toolkit answer on every kind of display.
+/// What the session bus and the toolkit implement on every display.
 struct Session {
     std::unique_ptr<ScreenPower> screenPower;
     std::unique_ptr<Screens> screens;
@@ -93,31 +97,32 @@ struct Session {
     std::unique_ptr<RunningCopy> runningCopy;
 };
 
-/// `environment` is what programs that are started find.
+/// Child processes get `environment`.
 [[nodiscard]] Posix makePosix(Scheduler& scheduler, const QProcessEnvironment& environment);
 
-/// The signals that ask a process to end call `endRequested` until the watch is destroyed.
+/// Calls `endRequested` for each termination signal until the watch is destroyed.
 [[nodiscard]] std::shared_ptr<void> watchSignals(const PlatformEvents& events);
 
-/// Whether there is an X server. Before the application object, as the next.
+/// Whether there is an X server. Call before the application object, like x11SettledDpi().
 [[nodiscard]] bool x11IsReachable();
 
-/// The desktop's dots per inch, where a scale factor next to a whole number is meant for that.
+/// Returns the desktop's dots per inch if a scale factor close to a whole number stands for that
+/// number; empty otherwise.
 [[nodiscard]] std::optional<int> x11SettledDpi();
 
-/// The toolkit's name for such windows.
+/// The toolkit's plugin for X11 windows.
 inline constexpr const char* kX11Windows = "xcb";
 
-/// An X server, Xwayland included. `posix` must outlive the part.
+/// Makes the part for an X server or Xwayland. `posix` must outlive it.
 [[nodiscard]] Display makeX11(Scheduler& scheduler, const PlatformEvents& events,
                               const Posix& posix);
 
-/// Beside an Xwayland server, lets the compositor and the desktop's shell tell what that server
-/// can't, or nobody. They answer some milliseconds later.
+/// Beside Xwayland: replaces ports that Xwayland cannot implement by those of the compositor and
+/// the desktop's shell. Their first answers come some milliseconds later.
 void addCompositor(Scheduler& scheduler, const Posix& posix, Display& display);
 
-/// `posix` and `display` must outlive the part, which takes the latter's screen power and overlay
-/// stage over.
+/// Makes the session part and moves screen power and overlay stage out of `display`. `posix` and
+/// `display` must outlive it.
 [[nodiscard]] Session makeSession(Scheduler& scheduler, const PlatformEvents& events,
                                   const Posix& posix, Display& display);
 

@@ -14,7 +14,8 @@ namespace vantle::platformparts {
 
 namespace {
 
-/// A directory of the XDG kind: the variable if it holds an absolute path, else the one under home.
+/// Returns an XDG directory: the variable if it holds an absolute path, else the default under
+/// home.
 QString xdgDirectory(const char* variable, const QString& underHome) {
     const QString path = qEnvironmentVariable(variable);
     return path.startsWith(QLatin1Char('/')) ? path : QDir::homePath() + underHome;

@@ -32,13 +32,13 @@ void alertAlreadyRunning(const Platform& platform) {
         platform.panelHost, platform.windowManager, platform.screens);
 }
 
-/// The small program that runs the user's shortcuts lies beside this one.
+/// The program that runs the user's shortcuts is installed beside this one.
 QString shortcutsTool() {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/vantle-shortcuts");
 }
 
-/// Where this program lies, as the installer wants to know it. Where the user put it on purpose
-/// counts as its proper place.
+/// Describes this program's place to the installer. A place that the user chose on purpose is
+/// proper.
 AppInstaller::Place thisProgram(FileSystem& files) {
     const QString folder = QCoreApplication::applicationDirPath();
     const bool isOnPurpose = installlocation::isOnPurpose(files, folder);
@@ -116,7 +116,8 @@ AppDelegate::Environment Program::environment() {
             .makeNotch = [this] { return m_surfaces.makeNotch(); },
             .makeRipple = [this] { return m_ceremony.makeRipple(); },
             .calendar = m_process.calendar,
-            // Told to end while the offer stands, it must not take that for "not now" and go on.
+            // A request to end the program closes the alert; the answer must not count as "not
+            // now".
             .offerMoveToApplications =
                 [this] {
                     return m_installer.offerMoveToApplicationsIfNeeded() || m_process.isEnding();

@@ -1,4 +1,4 @@
-// The program on a desktop: everything above the platform, put together.
+// The program above the platform, on any backend.
 #pragma once
 
 #include "launch/AppDelegate.h"
@@ -17,20 +17,20 @@
 
 namespace vantle {
 
-/// Main thread, after the application object. Any desktop that fills in a Platform will do.
+/// Runs on any complete Platform. Requires the application object. Main thread.
 class Program {
 public:
-    /// What the process runs on beside the desktop. The references must outlive the program.
+    /// The services of the process. The references must outlive the program.
     struct Process {
         const Clock& clock;
         Scheduler& scheduler;
-        /// A queue of that label; see SerialQueue.
+        /// Makes a queue with that label; see SerialQueue.
         std::function<std::unique_ptr<SerialQueue>(const QString& label)> makeQueue;
         std::function<Calendar()> calendar;
         std::function<void()> terminate; ///< ends the main loop
-        /// Whether the process was told to end; what the user is asked meanwhile counts no more.
+        /// Whether the process was told to end; answers to open alerts are void then.
         std::function<bool()> isEnding = [] { return false; };
-        /// At login, or by the bus for a call that is about to come: nothing may pop up.
+        /// Started at login, or by the bus for a call to come: no window may open.
         bool startedUnasked = false;
     };
 
@@ -38,14 +38,15 @@ public:
     Program(const Platform& platform, const Process& process);
     ~Program();
 
-    /// Brings the program up. False when it is to end; see AppDelegate.
+    /// Starts the program. Returns false when it is to end; see AppDelegate.
     [[nodiscard]] bool start();
 
-    void reopen();                           ///< the user started it again; nothing before start()
-    void performAction(const QString& name); ///< see AppDelegate; nothing before start()
+    /// The user started it again; no effect before start().
+    void reopen();
+    void performAction(const QString& name); ///< see AppDelegate; no effect before start()
     void stop();                             ///< the process is about to end; once
 
-    /// stop() and settle where nothing that is drawn may be touched any more.
+    /// stop() and settle() without touching windows or views.
     void stopUnseen();
 
     [[nodiscard]] AppDelegate& delegate() { return m_delegate; }
@@ -56,7 +57,7 @@ private:
     const Platform m_platform;
     const Process m_process;
     bool m_isUp = false;
-    // Before the queues, which run what is left in them, on these paths, as they go.
+    // Declared before the queues, whose destructors run queued work on these paths.
     const AppPaths m_paths;
     const std::unique_ptr<SerialQueue> m_ioQueue;
     const std::unique_ptr<SerialQueue> m_autoSkillQueue;
@@ -68,7 +69,7 @@ private:
     SharedEngine m_viewEngine;
     FloatingSurfaces m_surfaces;
     AppDelegate m_delegate;
-    QObject m_context; ///< of connections; they end first
+    QObject m_context; ///< destroyed first, which disconnects its connections
 };
 
 } // namespace vantle

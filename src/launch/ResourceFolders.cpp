@@ -22,7 +22,7 @@ QString find(const QString& name) {
 }
 
 QString ofProgram() {
-    // Asked once: an upgrade may replace the file while the program runs, and then nothing tells.
+    // Evaluated once: an upgrade may replace the file while the program runs.
     static const QString folder = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath();
     return folder;
 }

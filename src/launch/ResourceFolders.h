@@ -1,19 +1,19 @@
-// Where the files that the program only may have are looked for: pictures, a font, a page.
+// The folders of optional files: pictures, a font, a page.
 #pragma once
 
 #include <QStringList>
 
 namespace vantle::resourcefolders {
 
-/// The folders, the first of them first: `share/vantle` of the place that the program is installed
-/// in, then the resources of the tree that it was built from, unless it was built for a package.
-/// They need not exist. May be asked before there is an application object.
+/// Returns the folders, in order: `share/vantle` of the installation prefix, then the resources of
+/// the build tree, except in package builds. They need not exist. Works without an application
+/// object. Any thread.
 [[nodiscard]] QStringList all();
 
-/// The path of that file in the first folder that holds it; empty where none does.
+/// Returns the path in the first folder that has the file; empty when none has.
 [[nodiscard]] QString find(const QString& name);
 
-/// The folder that the running program lies in.
+/// Returns the folder of the running program.
 [[nodiscard]] QString ofProgram();
 
 } // namespace vantle::resourcefolders

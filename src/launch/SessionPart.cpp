@@ -24,7 +24,7 @@ namespace vantle::platformparts {
 
 namespace {
 
-/// Copies of the program reach each other over the session bus.
+/// Finds the running copy over the session bus.
 class BusRunningCopy final : public RunningCopy {
 public:
     BusRunningCopy(const QDBusConnection& session, Scheduler& scheduler,
@@ -39,7 +39,7 @@ public:
     }
 
     void listen() override {
-        // Without the name nobody can reach this copy over the bus; all else works.
+        // Without the bus name other copies cannot reach this one; everything else works.
         m_service.start();
     }
     [[nodiscard]] bool show() override {

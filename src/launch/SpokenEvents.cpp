@@ -12,9 +12,9 @@ namespace vantle {
 
 namespace {
 
-/// In which the toolkit connects to the accessibility service and learns what readers listen to.
-/// A message before that is lost.
-constexpr Seconds kDeafStart{3.0};
+/// How long the toolkit may take to connect to the accessibility service and to learn which events
+/// readers want. It drops earlier messages.
+constexpr Seconds kMuteStart{3.0};
 
 } // namespace
 
@@ -22,7 +22,7 @@ SpokenEvents::SpokenEvents(const Environment& environment)
     : m_env(environment)
     , m_told(environment.model.tracker().state())
     , m_toldSkill(currentSkill()) {
-    m_start = m_env.scheduler.scheduleOnce(kDeafStart, [this] {
+    m_start = m_env.scheduler.scheduleOnce(kMuteStart, [this] {
         const TimerHandle spent = std::move(m_start);
         if (!m_held.isEmpty()) m_announcer.say(std::exchange(m_held, {}));
     });
@@ -47,7 +47,7 @@ void SpokenEvents::say(const QString& text) {
 }
 
 void SpokenEvents::followState() {
-    // A change of skill ends one session and starts the next one: what comes of it is what counts.
+    // A change of skill ends one session and starts another; only the result is announced.
     if (std::exchange(m_isPosted, true)) return;
     m_env.scheduler.post([self = QPointer(this)] {
         if (!self) return;
@@ -63,7 +63,7 @@ void SpokenEvents::tellState() {
     const QString skill = currentSkill();
     const bool isSwitched = std::exchange(m_toldSkill, skill) != skill;
     if (now == before) {
-        // Auto mode switches by itself; what the user switched from is told by the toast.
+        // Auto mode switches by itself; the toast names the previous skill.
         if (isSwitched && now != State::Idle)
             say(Words::tr("Switched to %1").arg(bidi::isolated(skill)));
         return;
@@ -73,7 +73,7 @@ void SpokenEvents::tellState() {
     else if (now == State::Running)
         say((before == State::Paused ? Words::tr("Resumed, %1") : Words::tr("Session started, %1"))
                 .arg(bidi::isolated(skill)));
-    // What it came to is said by the card after the session.
+    // The card after the session says what it came to.
 }
 
 QString SpokenEvents::currentSkill() const {

@@ -1,4 +1,4 @@
-// What becomes of the session and of commands, spoken by a screen reader.
+// Screen reader announcements of sessions and commands.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -13,8 +13,8 @@ class AppModel;
 class OpenQuestions;
 class SkillList;
 
-/// A session is mostly started and stopped by the shortcut, while another application has the
-/// keyboard and nothing of the program is in front. The running clock is never spoken. Main thread.
+/// The user mostly starts and stops sessions by the shortcut, with another application in front.
+/// The running clock is never announced. Main thread.
 class SpokenEvents final : public QObject {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ public:
 
     explicit SpokenEvents(const Environment& environment);
 
-    /// What was said last, for tests.
+    /// The last announcement, for tests.
     [[nodiscard]] const Announcer& announcer() const { return m_announcer; }
 
 private:
@@ -40,8 +40,8 @@ private:
 
     const Environment m_env;
     Announcer m_announcer;
-    TimerHandle m_start; ///< there while nobody would hear a message
-    QString m_held;      ///< the last message until then
+    TimerHandle m_start; ///< set while messages would be lost
+    QString m_held;      ///< the last message during that time
     TrackerCore::State m_told;
     QString m_toldSkill; ///< of the session
     bool m_isPosted = false;

@@ -1,23 +1,22 @@
-// Keeps text at the weight of its outlines.
+// Override of FreeType's stem darkening, which makes text too bold.
 //
-// The graphics library asks FreeType to darken the stems of CFF faces, of which Debian's
-// fonts-inter is one, and then blends such text with a gamma as well. White text of 12 pixels gets
-// half as much ink again as its outlines hold: regular reads as medium, and captions are as loud as
-// titles. The environment variable that FreeType offers against it is overridden, and a setting by
-// hand would reach one thread only, since each has a FreeType of its own.
+// Qt asks FreeType to darken the stems of CFF fonts, such as Debian's fonts-inter, and then applies
+// a gamma to such text. White text of 12 px gets 50 % more ink than its outlines hold: regular
+// looks medium, captions look like titles. Qt overrides the environment variable that FreeType
+// offers, and a setting by hand would reach one thread only, since each has its own FreeType
+// library.
 //
-// So the program defines the function that sets the property. The dynamic linker finds this
-// definition before FreeType's; the library is told that the darkening can't be set, finds it off,
-// and leaves out the gamma too. Links into the executable itself: an object of a static library
-// that nothing refers to would be left out.
+// The program therefore defines the function that sets the property. The dynamic linker finds this
+// definition first; Qt is told that darkening cannot be set, finds it off, and skips the gamma.
+// Linked into the executable itself, because the linker drops an unreferenced object of a static
+// library.
 #include <cstring>
 #include <dlfcn.h>
 
 extern "C" {
 
-/// FreeType's function, with its types written out: FT_Library, then a null-ended name each of a
-/// module and of a property, and a value whose type goes with the property. Any thread. Returns 0
-/// or FreeType's error code.
+/// FreeType's function, with its types spelled out: FT_Library, the names of module and property,
+/// and a value whose type depends on the property. Any thread. Returns 0 or FreeType's error code.
 __attribute__((visibility("default"))) int
 FT_Property_Set(void* library, const char* module, const char* property, const void* value) {
     constexpr int kUnimplementedFeature = 7;

@@ -32,7 +32,7 @@ namespace {
 
 struct Compositor {
     WaylandConnection connection;
-    WaylandConnection shows; ///< a mistake in a show ends only this one
+    WaylandConnection shows; ///< separate: a protocol error in a show ends this connection alone
     SystemClock clock;
 };
 
@@ -70,7 +70,7 @@ void addCompositor(Scheduler& scheduler, const Posix& posix, Display& display) {
     frontmost.push_back(std::make_unique<KWinFrontmostApp>(bus, reading));
     frontmost.push_back(std::make_unique<ShellFrontmostApp>(
         bus, QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation), reading));
-    frontmost.push_back(std::move(display.frontmostApp)); // of X11 windows alone
+    frontmost.push_back(std::move(display.frontmostApp)); // last: it tells of X11 windows alone
     display.frontmostApp = std::make_unique<FirstFrontmostApp>(std::move(frontmost));
 
     std::vector<std::unique_ptr<ScreenPower>> power;

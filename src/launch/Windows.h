@@ -5,8 +5,8 @@ namespace vantle {
 
 struct WindowParts;
 
-/// Adds every window to the router of the parts. The command center has its rows in this order.
-/// Main thread, once.
+/// Adds every window to the router. The command center lists its rows in this order. Main thread,
+/// once.
 void addWindows(const WindowParts& parts);
 
 } // namespace vantle

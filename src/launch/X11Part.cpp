@@ -48,9 +48,9 @@ Display makeX11(Scheduler& scheduler, const PlatformEvents& events, const Posix&
     endSilentlyWithServer();
     QObject::connect(&x11, &X11Connection::broken, &x11, [lost = events.displayLost] { lost(); });
     const XwaylandTraits xwayland = xwaylandTraits(x11);
-    // Xwayland sees only the input that goes to X11 windows: a counter of that is worse than none.
+    // Xwayland sees only input to X11 windows: such a counter would report absence wrongly.
     std::unique_ptr<IdleSource> idleSource = std::make_unique<NoIdleSource>();
-    // A grab would hear the keys over X11 windows alone.
+    // A grab would get the keys over X11 windows only.
     std::unique_ptr<HotKeyPort> hotKeyPort =
         std::make_unique<FirstHotKey>(std::vector<std::unique_ptr<OfferedHotKey>>());
     if (!xwayland.isXwayland) {

@@ -1,4 +1,6 @@
-// What the texts of the pages of a review are made of. Plain values and pure functions, any thread.
+// The elements of a review page's text and colour.
+//
+// Plain values and pure functions, any thread.
 #pragma once
 
 #include "review/stats/WrappedStats.h"
@@ -14,7 +16,7 @@
 
 namespace vantle {
 
-/// A large figure and the small unit beside it, which may be empty.
+/// A large figure and its small unit, which may be empty.
 struct ReviewFigure {
     Q_GADGET
     QML_VALUE_TYPE(reviewFigure)
@@ -30,26 +32,26 @@ public:
 
 namespace cardwords {
 
-/// What is coloured when no skill lends its colour, 0xRRGGBB.
+/// The colour without a skill, 0xRRGGBB.
 inline constexpr std::uint32_t accent = 0x7A78FF;
 
-/// The colour of the skill with the most time, else the accent.
+/// Returns the colour of the skill with the most time, or the accent.
 [[nodiscard]] std::uint32_t leadingColor(const WrappedStats& stats);
 
-/// The colour 0xRRGGBB at an opacity, 0 to 1.
+/// The colour 0xRRGGBB with an opacity of 0 to 1.
 [[nodiscard]] QColor withOpacity(std::uint32_t hexRGB, double opacity);
 
 [[nodiscard]] QString sessions(int count); ///< "1 session", "2 sessions"
 [[nodiscard]] ReviewFigure figure(double hours, DurationStyle style);
 
-/// A part of all hours of the period: "45%".
+/// Formats a share of the period's hours: "45%".
 [[nodiscard]] QString share(double hours, const WrappedStats& stats);
 
-/// One colour for each finished hour of the period, oldest first; the last `limit` of them.
+/// One colour per finished hour of the period, oldest first; the last `limit` of them.
 [[nodiscard]] QList<QColor> dotColors(const WrappedStats& stats, std::int64_t limit);
 [[nodiscard]] std::int64_t dotCount(const WrappedStats& stats);
 
-/// The first values, as many as there is room for.
+/// Returns at most the first `limit` values.
 template <typename Value>
 [[nodiscard]] std::span<const Value> firstOf(const std::vector<Value>& values, std::size_t room) {
     return std::span(values).first(std::min(room, values.size()));

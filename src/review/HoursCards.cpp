@@ -42,11 +42,11 @@ QString noted(int count) {
                       : Words::tr("%n sessions have notes", nullptr, count);
 }
 
-/// The colours of the first `hours` hours of the log, as many as a ring has dots.
+/// The colours of the log's first `hours` hours, scaled to the dots of a ring.
 QList<QColor> ringOf(int hours, const std::vector<totals::DotRun>& log) {
     QList<QColor> ring;
     auto run = log.begin();
-    std::int64_t before = 0; // hours in the runs before this one
+    std::int64_t before = 0; // hours in earlier runs
     for (int dot = 0; dot < ringDots; ++dot) {
         const std::int64_t hour = static_cast<std::int64_t>(dot) * hours / ringDots;
         while (run != log.end() && hour >= before + run->count)

@@ -1,6 +1,6 @@
-// The pages about the hours: how many, in what, and what was passed on the way.
+// The pages about hours: totals, skills, milestones.
 //
-// Plain values and pure functions, any thread. A text that a page does without is empty.
+// Plain values and pure functions, any thread. An unused text is empty.
 #pragma once
 
 #include "review/CardWords.h"
@@ -26,7 +26,7 @@ public:
     QString lead;
     double hours = 0;
     QString hoursText;   ///< the hours as one text
-    ReviewFigure figure; ///< the hours when they are counted up
+    ReviewFigure figure; ///< the same while it counts up
     QString inSentence;
     QString sessions;
     QStringList quiet; ///< at most three lines
@@ -46,10 +46,10 @@ public:
     QString name;
     QColor color;
     QString hours;
-    QString share;       ///< of all hours
-    double fraction = 0; ///< of the skill with the most
+    QString share;       ///< share of all hours
+    double fraction = 0; ///< relative to the top skill
 
-    /// The line in words, for assistive tools.
+    /// The line for screen readers.
     [[nodiscard]] QString spoken() const;
 };
 
@@ -68,8 +68,8 @@ public:
     SkillLine top;
     ReviewFigure topFigure;
     QString breakdownKicker;       ///< empty with a single skill
-    std::vector<SkillLine> others; ///< after the top one
-    QString more;                  ///< how many stand nowhere
+    std::vector<SkillLine> others; ///< all but the top one
+    QString more;                  ///< the number of skills left out
 
     [[nodiscard]] QVariantList otherLines() const { return cardwords::asList(others); }
 };
@@ -84,7 +84,7 @@ struct MilestoneBadge {
 public:
     int hours = 0;
     QString date;       ///< "Mar 9"
-    QList<QColor> ring; ///< of the hours that made the milestone, from the first one on
+    QList<QColor> ring; ///< colours of the hours up to the milestone, oldest first
 };
 
 struct MilestonesCard {
@@ -106,22 +106,22 @@ namespace reviewcards {
 
 [[nodiscard]] HeroCard hero(const WrappedStats& stats, const WrappedSettings& settings);
 
-/// How many dots the ring of a milestone has.
+/// Dots in a milestone's ring.
 inline constexpr int ringDots = 20;
 
-/// The page of a period with sessions that have no time: it says so.
+/// The page of a period whose sessions have no time.
 [[nodiscard]] SkillsCard skillsWithoutTime(const WrappedStats& stats,
                                            const WrappedSettings& settings);
 
-/// None without hours. `shown` skills have room, the top one among them.
+/// Empty without hours. `shown` skills fit, including the top one.
 [[nodiscard]] std::optional<SkillsCard> skills(const WrappedStats& stats,
                                                const WrappedSettings& settings, std::size_t shown);
 
-/// The first skills as lines.
+/// Returns the first skills as lines.
 [[nodiscard]] std::vector<SkillLine> skillLines(const WrappedStats& stats,
                                                 const WrappedSettings& settings, std::size_t shown);
 
-/// None where no milestone was passed.
+/// Empty when no milestone was reached.
 [[nodiscard]] std::optional<MilestonesCard> milestones(const WrappedStats& stats,
                                                        const WrappedSettings& settings);
 

@@ -27,7 +27,7 @@ QString moreNotes(qsizetype left) {
                      : Words::tr("%n more notes are in your log", nullptr, static_cast<int>(left));
 }
 
-/// The length of the first sentence, with the space after it.
+/// Returns the length of the first sentence with the space after it.
 qsizetype firstSentence(const QString& text) {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Sentence, text);
     return std::max<qsizetype>(finder.toNextBoundary(), 0);

@@ -1,6 +1,6 @@
-// The pages made of notes, and the last page.
+// The pages about notes, and the last page.
 //
-// Plain values and pure functions, any thread. A text that a page does without is empty.
+// Plain values and pure functions, any thread. An unused text is empty.
 #pragma once
 
 #include "review/CardWords.h"
@@ -41,7 +41,7 @@ public:
     QColor skillColor;
     QString date; ///< "Mar 9"
 
-    /// The note in words, for assistive tools.
+    /// The note for screen readers.
     [[nodiscard]] QString spoken() const;
 };
 
@@ -60,8 +60,8 @@ public:
     QString story;
     QStringList themes; ///< for chips
     std::vector<NoteHighlight> highlights;
-    QString more; ///< how many notes are not shown
-    QString foot; ///< with a lock
+    QString more; ///< the number of notes left out
+    QString foot; ///< shown with a lock
 
     [[nodiscard]] QVariantList highlightList() const { return cardwords::asList(highlights); }
 };
@@ -78,15 +78,15 @@ public:
     QString title;
     QString closing;
     QString foot;
-    QString fileName; ///< under which the poster is offered to be saved
+    QString fileName; ///< suggested name for the saved poster
 };
 
 namespace reviewcards {
 
-/// `text` is the sentence that was written; empty before there is one.
+/// `text` is the model's sentence; empty before it arrives.
 [[nodiscard]] NarrativeCard narrative(WrappedPeriod period, const QString& text);
 
-/// None without a note. `shown` notes have room.
+/// Empty without a note. `shown` notes fit.
 [[nodiscard]] std::optional<NotesCard> notes(const WrappedStats& stats,
                                              const WrappedSettings& settings, std::size_t shown);
 

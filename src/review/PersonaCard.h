@@ -1,4 +1,4 @@
-// The page about the kind of builder somebody is.
+// The page about the user's persona.
 //
 // Plain values and pure functions, any thread.
 #pragma once
@@ -30,17 +30,17 @@ struct PersonaCard {
 public:
     QString kicker;
     QString lead;
-    QString name; ///< empty while the type is taking shape
+    QString name; ///< empty while there are too few sessions
     QString line;
-    QStringList facts; ///< three of a type, two before there is one
+    QStringList facts; ///< three with a persona, else two
     QString quiet;
     QColor startColor; ///< of its gradient
     QColor endColor;
     QString symbol;                  ///< "moon.fill"
     QString artwork;                 ///< "persona-night-owl"
     QList<QColor> celebrationColors; ///< at most five
-    qint64 dotCount = 0;             ///< finished hours, for the glyph's rim
-    int sessionCount = 0;            ///< for the unfinished glyph
+    qint64 dotCount = 0;             ///< finished hours, for the rim of the glyph
+    int sessionCount = 0;            ///< for the glyph without a persona
     int activeDays = 0;
 };
 

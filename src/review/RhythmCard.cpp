@@ -21,7 +21,7 @@ QVariantList tilesOf(const std::vector<RhythmPicture::Week>& weeks) {
     return list;
 }
 
-/// Makes tiles of days.
+/// Makes the tiles of days.
 class TileMaker {
 public:
     TileMaker(const WrappedStats& stats, const WrappedSettings& settings)
@@ -134,7 +134,7 @@ RhythmCard rhythm(const WrappedStats& stats, const WrappedSettings& settings,
     if (card.picture.isYear())
         for (const int choice : rhythmmap::yearChoices(stats.activeYears))
             card.years.push_back({choice, rhythmmap::yearChoiceLabel(choice)});
-    // A month or more has no room for its wall.
+    // Only a week leaves room for the wall.
     if (card.picture.isWeek() && !stats.hourDots.empty()) {
         card.wallKicker = Words::tr("EVERY HOUR, ON THE WALL");
         card.wallCaption = wallCaption(cardwords::dotCount(stats) - wallCapacity);

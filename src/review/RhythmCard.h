@@ -1,4 +1,4 @@
-// The page with the calendar and the wall of hours of a period.
+// The page with a period's calendar and its wall of hours.
 //
 // Plain values and pure functions, any thread.
 #pragma once
@@ -8,7 +8,7 @@
 
 namespace vantle {
 
-/// A day in the calendar, or the blank where there is none. Colours come with their opacity.
+/// A day of the calendar, or a blank. Colours include their opacity.
 struct DayTile {
     Q_GADGET
     QML_VALUE_TYPE(dayTile)
@@ -25,7 +25,7 @@ public:
     bool isDay = false;
     bool isFuture = false;
     bool isToday = false;
-    bool hasFill = false; ///< false for a day without work, which is drawn as an empty tile
+    bool hasFill = false; ///< false without work: drawn as an empty tile
     QColor fill = Qt::transparent;
     QColor outline = Qt::transparent;
     double outlineWidth = 0; ///< px
@@ -40,11 +40,11 @@ struct YearChoice {
 
 public:
     int year = 0;
-    QString label; ///< for assistive tools
+    QString label; ///< for screen readers
 };
 
-/// The calendar as one picture. Its tiles stand in `weeks` of seven: a week has one, a month one
-/// a row, a year one a column. A year comes month by month as well.
+/// The calendar of one page. `weeks` has seven tiles each: one for a week, a row each for a month,
+/// a column each for a year. A year has `months` too.
 struct RhythmPicture {
     Q_GADGET
     QML_VALUE_TYPE(rhythmPicture)
@@ -61,8 +61,8 @@ public:
 
     rhythmmap::Picture kind = rhythmmap::Picture::Week;
     int year = 0;                          ///< of a year map
-    QStringList letters;                   ///< of the weekdays, in the order of the tiles
-    std::vector<Week> weeks;               ///< empty where the calendar can't tell
+    QStringList letters;                   ///< initials of the weekdays, in tile order
+    std::vector<Week> weeks;               ///< empty when ICU cannot compute the calendar
     std::vector<std::vector<Week>> months; ///< of a year map
     QStringList monthNames;                ///< of a year map, short: "Jan"
 
@@ -70,9 +70,9 @@ public:
     [[nodiscard]] bool isMonth() const { return kind == rhythmmap::Picture::Month; }
     [[nodiscard]] bool isYear() const { return kind == rhythmmap::Picture::Year; }
 
-    /// The tiles week after week, blanks included.
+    /// The tiles week by week, with blanks.
     [[nodiscard]] QVariantList tileList() const;
-    /// The same for each month, a list each.
+    /// The same, one list per month.
     [[nodiscard]] QVariantList monthList() const;
 };
 
@@ -92,9 +92,9 @@ public:
     QString kicker;
     RhythmPicture picture;
     QString caption;
-    QString label;                 ///< the picture for assistive tools; may be empty
-    std::vector<YearChoice> years; ///< to choose from; empty without a choice
-    QString wallKicker;            ///< empty where there is no wall
+    QString label;                 ///< for screen readers; may be empty
+    std::vector<YearChoice> years; ///< empty when there is only one
+    QString wallKicker;            ///< empty without a wall
     QString wallCaption;
     QList<QColor> wallColors; ///< oldest first
 
@@ -103,11 +103,11 @@ public:
 
 namespace reviewcards {
 
-/// The calendar of the period; of all time, that of `year`.
+/// Returns the calendar of the period; for all time, the calendar of `year`.
 [[nodiscard]] RhythmPicture rhythmPicture(const WrappedStats& stats,
                                           const WrappedSettings& settings, int year);
 
-/// The wall has room for `wallCapacity` dots.
+/// `wallCapacity` dots fit the wall.
 [[nodiscard]] RhythmCard rhythm(const WrappedStats& stats, const WrappedSettings& settings,
                                 std::optional<int> chosenYear, std::int64_t wallCapacity);
 

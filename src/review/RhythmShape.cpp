@@ -20,11 +20,11 @@ namespace {
 
 using localtime::Day;
 
-/// The first day of the next month, for the first day of a month. No month has more than 31 days,
-/// and none is so short that this would pass a whole one over.
+/// Returns the first day of the next month. 31 days later is always in the next month: none is
+/// longer than 31 days or that short.
 Day nextMonth(LocalTime& local, Day first) { return local.firstOfMonth(first + 31); }
 
-/// The days from `first` to before `end`; none where the calendar knows no weeks.
+/// Returns the days from `first` up to, excluding, `end`; empty when the calendar has no weeks.
 std::vector<GridDay> stretch(Day first, Day end, const RhythmDays& days) {
     LocalTime local(days.calendar);
     if (!local.knowsZone()) return {};

@@ -1,6 +1,6 @@
-// The calendar of a review as grids of days: a week, a month, a year.
+// The grids of days in a review's calendar: week, month, year.
 //
-// Plain values and pure functions, any thread. A calendar that knows no weeks gives empty grids.
+// Plain values and pure functions, any thread. A calendar without weeks gives empty grids.
 #pragma once
 
 #include "base/Calendar.h"
@@ -17,12 +17,12 @@ struct GridDay {
     Date date; ///< its first moment
     double hours = 0;
     bool isFuture = false;              ///< after today
-    std::optional<std::uint32_t> color; ///< 0xRRGGBB of what the day was spent on most
+    std::optional<std::uint32_t> color; ///< 0xRRGGBB of the skill with the most time
     bool isToday = false;
     friend bool operator==(const GridDay&, const GridDay&) = default;
 };
 
-/// What the days of a log held, and from where they are looked at.
+/// The hours of each day, the calendar and today.
 struct RhythmDays {
     struct Worked {
         Date day; ///< its first moment
@@ -32,33 +32,33 @@ struct RhythmDays {
 
     Date now;
     Calendar calendar;
-    std::vector<Worked> worked; ///< oldest first; other days have no hours
+    std::vector<Worked> worked; ///< oldest first; days that are missing have no hours
 
     [[nodiscard]] static RhythmDays of(const WrappedStats& stats, const WrappedSettings& settings);
 };
 
 namespace rhythmshape {
 
-/// Seven days from the calendar's first weekday on; a blank is a day of another month or year.
+/// Seven days from the calendar's first weekday; blanks are days of another month or year.
 using Week = std::array<std::optional<GridDay>, 7>;
 
-/// Seven days from the start of the period; for today, those of this week. Empty for all time.
+/// The seven days of the period's week, or of this week for today. Empty for all time.
 [[nodiscard]] std::vector<GridDay> weekDays(WrappedPeriod period, const RhythmDays& days);
 
-/// This month.
+/// The weeks of this month.
 [[nodiscard]] std::vector<Week> monthWeeks(const RhythmDays& days);
 
-/// A whole year: 53 weeks as a rule, 54 in a leap year that begins on a week's last day. Days go by
-/// their date, also where their week counts for the year before or after.
+/// The weeks of a year: 53, or 54 in a leap year that starts on the last weekday. Days belong to
+/// the year of their date, even when their week is numbered in another.
 [[nodiscard]] std::vector<Week> yearWeeks(int year, const RhythmDays& days);
 
-/// The days of the year's months, without blanks.
+/// The days of each month, without blanks.
 [[nodiscard]] std::vector<std::vector<GridDay>> yearMonths(int year, const RhythmDays& days);
 
-/// A stretch of days, in order and without gaps, as weeks.
+/// Splits consecutive days into weeks.
 [[nodiscard]] std::vector<Week> inWeeks(const std::vector<GridDay>& days, const Calendar& calendar);
 
-/// The year on the wall clock, as the user's calendar counts it.
+/// The year by the wall clock, in the user's calendar.
 [[nodiscard]] int yearOf(Date date, const Calendar& calendar);
 
 } // namespace rhythmshape

@@ -8,7 +8,7 @@ namespace vantle::reviewcards {
 
 namespace {
 
-/// A dot for each finished hour, the newest first. A short period lends the colours of its skills.
+/// One dot per finished hour, newest first. A short period repeats the colours of its skills.
 QList<QColor> posterColors(const WrappedStats& stats) {
     QList<QColor> colors = cardwords::dotColors(stats, posterDots);
     std::ranges::reverse(colors);

@@ -1,4 +1,4 @@
-// What stands on the poster of a review. How it is drawn is its painter's business.
+// The content of a review's poster, without its drawing.
 //
 // Plain values and pure functions, any thread.
 #pragma once
@@ -8,7 +8,7 @@
 
 namespace vantle {
 
-/// A column in the poster's last row.
+/// A column of the poster's last row.
 struct PosterFigure {
     Q_GADGET
     QML_VALUE_TYPE(posterFigure)
@@ -41,7 +41,7 @@ struct SharePoster {
 public:
     QString wordmark;
     QString title;
-    QList<QColor> dotColors; ///< for the field of dots, to be repeated as needed; never empty
+    QList<QColor> dotColors; ///< colours of the dots, to be repeated; never empty
     QString personaName;     ///< stands large in its gradient; empty without a type, and then the
                              ///< hours stand there
     QColor startColor;
@@ -61,7 +61,7 @@ public:
 
 namespace reviewcards {
 
-/// More dots than this don't show on the poster.
+/// More dots do not fit the poster.
 inline constexpr std::int64_t posterDots = 240;
 inline constexpr std::size_t posterSkills = 3;
 

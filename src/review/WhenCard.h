@@ -1,4 +1,4 @@
-// The pages about when somebody builds, and about what is worth saying out loud.
+// The pages about start times and high points.
 //
 // Plain values and pure functions, any thread.
 #pragma once
@@ -9,7 +9,7 @@
 
 namespace vantle {
 
-/// A fact in a box of its own.
+/// A fact in its own box.
 struct FactBox {
     Q_GADGET
     QML_VALUE_TYPE(factBox)
@@ -20,7 +20,7 @@ struct FactBox {
 public:
     QString title;
     QString value;
-    QString detail; ///< stands before the value; may be empty
+    QString detail; ///< shown before the value; may be empty
 };
 
 struct WhenCard {
@@ -42,12 +42,12 @@ public:
     QString kicker;
     QString headline;
     QString detail;        ///< may be empty
-    QList<double> bars;    ///< one for two hours, parts of the highest
-    int peakBar = 0;       ///< the bar that holds the hour of the peak
-    QStringList hourMarks; ///< every six hours, from one midnight to the next
+    QList<double> bars;    ///< one per two hours, relative to the highest
+    int peakBar = 0;       ///< index of the bar with the peak hour
+    QStringList hourMarks; ///< every six hours, midnight to midnight
     QColor accent;
     QString chartCaption;
-    QString chartLabel; ///< for assistive tools
+    QString chartLabel; ///< for screen readers
     QString peak;
     std::vector<FactBox> facts;
 
@@ -84,7 +84,7 @@ public:
 
 namespace reviewcards {
 
-/// None of a period with too few starts to tell.
+/// Empty for a period with too few starts.
 [[nodiscard]] std::optional<WhenCard> when(const WrappedStats& stats,
                                            const WrappedSettings& settings);
 

@@ -32,7 +32,7 @@ std::vector<WrappedCard> cards(const Facts& facts) {
     const auto addIf = [&list](bool isThere, WrappedCard card) {
         if (isThere) list.push_back(card);
     };
-    // A single day shows neither a type nor a rhythm.
+    // One day gives neither persona nor rhythm.
     addIf(facts.period != WrappedPeriod::Today, WrappedCard::Persona);
     addIf(facts.period != WrappedPeriod::Today, WrappedCard::Rhythm);
     addIf(facts.hasStartRhythm, WrappedCard::When);

@@ -1,4 +1,4 @@
-// Which pages a review has, how its picker reads, and what stands there when there is nothing.
+// The pages of a review, its picker, and its empty state.
 //
 // Plain values and pure functions, any thread.
 #pragma once
@@ -12,7 +12,7 @@
 
 namespace vantle {
 
-/// The pages, in the order in which they are turned.
+/// The pages in order.
 enum class WrappedCard {
     Hero,
     Skills,
@@ -30,7 +30,7 @@ namespace wrappedcards {
 
 [[nodiscard]] QString id(WrappedCard card); ///< "superlatives"
 
-/// All that the list of pages hangs on.
+/// Everything that decides which pages there are.
 struct Facts {
     WrappedPeriod period = WrappedPeriod::Today;
     int sessionCount = 0;
@@ -38,16 +38,16 @@ struct Facts {
     std::size_t superlativeCount = 0;
     int goalHitDays = 0;
     std::size_t milestoneCount = 0;
-    bool hasNarrative = false; ///< of this very period
+    bool hasNarrative = false; ///< for this period
     bool hasNoteDigest = false;
 };
 [[nodiscard]] Facts facts(const WrappedStats& stats, bool hasNarrative);
 
-/// Empty without a session: then the review shows one card without pages.
+/// Empty without a session: the review then shows a single card.
 [[nodiscard]] std::vector<WrappedCard> cards(const Facts& facts);
 
-/// The periods to choose from. Last week stands first while it is the one that is shown, and is not
-/// offered otherwise.
+/// The periods to choose from. Last week comes first while it is shown; otherwise it is not
+/// offered.
 [[nodiscard]] std::vector<WrappedPeriod> segments(WrappedPeriod shown);
 
 struct EmptyCard {

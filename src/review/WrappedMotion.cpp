@@ -10,7 +10,7 @@ namespace {
 
 double fraction(double value) { return value - std::floor(value); }
 
-/// Fast at first, slow at the end.
+/// Ease-out: fast at first, slow at the end.
 double easedOut(double t) { return 1 - std::pow(1 - t, 3); }
 
 } // namespace

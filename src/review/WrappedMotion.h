@@ -1,7 +1,6 @@
-// How the pages of a review move: the figures behind everything that is animated there.
+// The timing of a review page's animations.
 //
-// Lengths are in px, times in seconds. Pure functions, any thread. The springs themselves are the
-// kit's.
+// Lengths in px, times in seconds. Pure functions, any thread. The kit has the springs.
 #pragma once
 
 #include <cstdint>
@@ -9,19 +8,19 @@
 
 namespace vantle::wrappedmotion {
 
-/// When the child `order` of a page begins to rise.
+/// When child `order` of a page starts to rise.
 [[nodiscard]] double cascadeDelay(int order);
-/// When the dot or disc `order` of a group pops up.
+/// When dot or disc `order` of a group pops up.
 [[nodiscard]] double popDelay(int order, double baseDelay);
-/// When the bar `order` of a group begins to grow.
+/// When bar `order` of a group starts to grow.
 [[nodiscard]] double growDelay(int order, double baseDelay);
 
 inline constexpr double countUpSeconds = 0.8;
 
-/// What the big figure shows `seconds` after it came; no hours, or less, stand there at once.
+/// The value of the large figure `seconds` after it appeared. Constant for 0 hours or less.
 [[nodiscard]] double countUp(double hours, double seconds);
 
-/// One particle of a burst, from its centre, y downwards.
+/// One particle of a burst, relative to its centre, y downwards.
 struct BurstDot {
     double x = 0;
     double y = 0;
@@ -29,14 +28,14 @@ struct BurstDot {
     double alpha = 0;
 };
 inline constexpr int burstDots = 30;
-/// `t` goes from 0 to 1 over the burst.
+/// `t` runs from 0 to 1 during the burst.
 [[nodiscard]] BurstDot burstDot(int index, double t);
 
-/// What one of the dots behind the pages is, for good.
+/// The constants of one background dot.
 struct AmbientDot {
     enum class Group { White = 0, Accent = 1, Rose = 2 };
-    double baseX = 0; ///< part of the width
-    double baseY = 0; ///< part of the height
+    double baseX = 0; ///< relative to the width
+    double baseY = 0; ///< relative to the height
     double ampX = 0;
     double ampY = 0;
     double speed = 0;
@@ -49,7 +48,7 @@ inline constexpr double ambientFramesPerSecond = 30;
 inline constexpr std::uint32_t ambientRose = 0xFF6482;
 [[nodiscard]] AmbientDot ambientDot(int index);
 
-/// Where it is at a moment, and how bright: 0 to 1.
+/// Position and brightness (0 to 1) at a moment.
 struct AmbientPlace {
     double x = 0;
     double y = 0;
@@ -58,8 +57,8 @@ struct AmbientPlace {
 [[nodiscard]] AmbientPlace place(const AmbientDot& dot, double width, double height, double t);
 
 inline constexpr double shootingStarSeconds = 1.1;
-/// Seconds into the crossing of the star that is in sight at `t`; none where there is none. One may
-/// come every eight seconds.
+/// Returns the seconds since the star visible at `t` appeared; empty when there is none. One can
+/// appear every eight seconds.
 [[nodiscard]] std::optional<double> shootingStar(double t);
 
 } // namespace vantle::wrappedmotion

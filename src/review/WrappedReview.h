@@ -1,4 +1,4 @@
-// Where somebody is in a review: the period, the page, and what was said about sharing it.
+// The state of an open review: period, page, sharing.
 #pragma once
 
 #include "review/WrappedCards.h"
@@ -7,27 +7,28 @@ namespace vantle {
 
 class Preferences;
 
-/// The state of an open review over a copy of the log. Knows no time of its own: whoever calls
-/// brings the settings of the moment. A plain value; one thread at a time.
+/// Works on a copy of the log. Has no clock: the caller passes the current settings. Plain value,
+/// one thread at a time.
 class WrappedReview {
 public:
     using Sessions = std::vector<Session>;
 
-    /// The window has come up. The first time this also settles the period: `initial`, or else this
-    /// week, or last week where this one is still empty and that one is not.
+    /// The window opened. The first call also sets the period: `initial`, else this week, or last
+    /// week when only that has sessions.
     void open(Sessions log, const WrappedSettings& settings, std::optional<WrappedPeriod> initial);
 
-    /// The log has changed. The page stays, as far as there are as many.
+    /// The log changed. Keeps the page index where possible.
     void reload(Sessions log, const WrappedSettings& settings);
 
-    /// The picker. The page stays, as far as there are as many. False for the period that is shown.
+    /// Selects a period and keeps the page index where possible. Returns false when it is shown
+    /// already.
     bool pick(WrappedPeriod period, const WrappedSettings& settings);
 
-    /// One page back (-1) or on (+1). False at the end, where nothing changes.
+    /// Turns one page back (-1) or on (+1). Returns false at either end.
     bool turn(int by);
 
-    /// What became of a question about the notes of `asked`. Dropped when another period is shown.
-    /// The page comes and goes around the one that is shown, which stays.
+    /// The narrative for `asked` arrived. Ignored when another period is shown. The shown page
+    /// stays; the narrative's page appears before or after it.
     void narrativeArrived(WrappedPeriod asked, std::optional<QString> text);
     void clearNarrative();
 
@@ -39,19 +40,19 @@ public:
     [[nodiscard]] bool isLogEmpty() const { return m_log.empty(); }
     [[nodiscard]] WrappedPeriod period() const { return m_period; }
     [[nodiscard]] int page() const { return m_page; }
-    /// The sign of the last turn: +1.0 or -1.0.
+    /// The direction of the last turn: +1.0 or -1.0.
     [[nodiscard]] double pageDirection() const { return m_direction; }
-    /// Tells pages apart: a page of another period is another page.
+    /// Identifies a page together with its period.
     [[nodiscard]] QString pageKey() const;
     [[nodiscard]] std::vector<WrappedCard> cards() const;
     [[nodiscard]] bool isOpeningSettled() const { return m_isSettled; }
 
-    /// The last text, and the period that it is about; a text is shown under that one alone.
+    /// The last text and its period; it is shown for that period only.
     [[nodiscard]] const std::optional<QString>& narrative() const { return m_narrative; }
     [[nodiscard]] std::optional<WrappedPeriod> narrativePeriod() const { return m_narrated; }
 
     [[nodiscard]] bool isCopied() const { return m_isCopied; }
-    /// Why the poster could not be shared; none when nothing went wrong.
+    /// Why sharing the poster failed; empty when it did not.
     [[nodiscard]] const std::optional<QString>& shareFeedback() const { return m_feedback; }
 
 private:
@@ -59,7 +60,7 @@ private:
     void settle(std::optional<WrappedPeriod> initial);
     void clampPage();
     void keepCard(std::optional<WrappedCard> card);
-    [[nodiscard]] std::optional<WrappedCard> card() const; ///< none without pages
+    [[nodiscard]] std::optional<WrappedCard> card() const; ///< empty without pages
 
     Sessions m_log;
     WrappedSettings m_settings;
@@ -76,7 +77,7 @@ private:
 
 namespace wrappedreview {
 
-/// What a narrative is asked of.
+/// The input for a narrative.
 struct NarrativeQuestion {
     QString hoursSummary;
     std::optional<QString> topSkill;
@@ -84,12 +85,12 @@ struct NarrativeQuestion {
     friend bool operator==(const NarrativeQuestion&, const NarrativeQuestion&) = default;
 };
 
-/// None of a period without notes.
+/// Empty for a period without notes.
 [[nodiscard]] std::optional<NarrativeQuestion> narrativeQuestion(const WrappedStats& stats,
                                                                  DurationStyle style);
 
-/// Notes that the review of last week was opened, so that nobody is reminded of it again. Nothing
-/// where the calendar knows no last week. Main thread.
+/// Records that last week's review was opened, so that no reminder comes. Has no effect when the
+/// calendar has no last week. Main thread.
 void markLastWeekSeen(Date now, const Calendar& calendar, Preferences& preferences);
 
 } // namespace wrappedreview

@@ -40,7 +40,7 @@ struct AutoRulesState {
 /// The content of the file, which another program may have written.
 struct StoredAutoRules {
     AutoRulesState state; ///< unchecked: none of the invariants hold yet
-    // version of the skill set that the automatic rules refer to
+    /// Version of the skill set that the automatic rules refer to.
     std::optional<std::int64_t> taxonomyVersion;
     static constexpr int currentTaxonomyVersion = 1;
     friend bool operator==(const StoredAutoRules&, const StoredAutoRules&) = default;

@@ -130,7 +130,7 @@ private:
     TimerHandle m_pendingWork;                    ///< of the one stay in progress
     RetagBank m_retags;
     PromptMemory m_prompts;
-    // applications whose skill the user overruled in this session
+    /// Applications whose skill the user overruled in this session.
     QSet<QString> m_sessionOverrides;
 };
 

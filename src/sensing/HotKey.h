@@ -75,7 +75,7 @@ private:
     HotKeyPort& m_port;
     Scheduler& m_scheduler;
     Preferences& m_preferences;
-    // whether the port holds the handler, and the combination unless it was lost or is pending
+    /// Whether the port holds the handler, and the combination unless it was lost or is pending.
     bool m_portHolds = false;
     HotKeyPort::Outcome m_outcome;
     bool m_isRegistered = false;

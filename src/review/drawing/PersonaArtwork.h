@@ -1,4 +1,4 @@
-// The pictures of kinds of builders, where the program has any among its files.
+// The pictures of personas, where the resources have any.
 #pragma once
 
 #include <QImage>
@@ -6,12 +6,12 @@
 
 namespace vantle::personaartwork {
 
-/// Where pictures are looked for: a file "personas/<name>.png" below the search paths that Qt knows
-/// by this prefix. They have to be set before the first question.
+/// The prefix of Qt's search paths in which "personas/<name>.png" is looked up. Set the paths
+/// before the first lookup.
 [[nodiscard]] QString searchPrefix();
 
-/// The picture "persona-night-owl"; null for none. What was looked for once is kept, found or not,
-/// for as long as the program runs. Main thread.
+/// Returns the picture "persona-night-owl"; null when there is none. Caches both results until the
+/// program ends. Main thread.
 [[nodiscard]] QImage image(const QString& name);
 
 } // namespace vantle::personaartwork

@@ -26,7 +26,7 @@ namespace {
 
 using cardwords::withOpacity;
 
-// All lengths are on a grid of 94, around its middle: the disc fills it.
+// Lengths on a grid of 94 with the origin in its middle; the disc fills it.
 constexpr double kGrid = 94;
 constexpr double kDisc = 47; // radius
 constexpr double kRim = 1;
@@ -35,7 +35,7 @@ constexpr double kSymbolSide = 58.88;
 constexpr double kDot = 1.54; // radius
 struct Ring {
     double radius;
-    int room; // so that dots are as far apart in each
+    int room; // gives all rings the same dot spacing
     double opacity;
 };
 constexpr std::array kRings = {Ring{41.8, 46, 0.52}, Ring{37.4, 41, 0.38}, Ring{33.0, 36, 0.24}};
@@ -83,7 +83,7 @@ void drawSymbol(QPainter& painter, const QString& symbol) {
     if (QFile::exists(file)) QSvgRenderer(file).render(&painter, around({}, kSymbolSide / 2));
 }
 
-/// Hours go clockwise from the top, and on in the next ring when one is full.
+/// Draws hours clockwise from the top, ring by ring.
 void drawHours(QPainter& painter, std::int64_t count) {
     painter.setPen(Qt::NoPen);
     for (const Ring& ring : kRings) {
@@ -98,7 +98,7 @@ void drawHours(QPainter& painter, std::int64_t count) {
     }
 }
 
-/// One arc for each session, clockwise from the top.
+/// Draws an arc per session, clockwise from the top.
 void drawSessions(QPainter& painter, int count) {
     using reviewcards::personaSessionsNeeded;
     constexpr double kStep = 360.0 / personaSessionsNeeded;
@@ -115,7 +115,7 @@ void drawSessions(QPainter& painter, int count) {
     }
 }
 
-/// One brick for each day, side by side.
+/// Draws a brick per day, side by side.
 void drawDays(QPainter& painter, int count) {
     using reviewcards::personaDaysNeeded;
     const double step = kBrick.width() + kBrickGap;

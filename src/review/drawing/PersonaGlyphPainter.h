@@ -1,7 +1,6 @@
-// The picture of a kind of builder: a disc in its two colours with its symbol, and a dot for each
-// finished hour along the rim. Until there is a kind, what has come together for one so far.
+// The picture of a persona: gradient disc, symbol, dots for hours.
 //
-// Pure drawing, any thread, at any scale.
+// Before there is a persona it shows the progress towards one. Pure drawing, any thread, any scale.
 #pragma once
 
 #include <QColor>
@@ -18,13 +17,13 @@ namespace vantle {
 struct PersonaCard;
 
 struct PersonaGlyph {
-    QString symbol;    ///< "moon.fill"; empty while the kind is taking shape
-    QColor startColor; ///< of the disc, at its upper left
+    QString symbol;    ///< "moon.fill"; empty before there is a persona
+    QColor startColor; ///< of the disc, upper left
     QColor endColor;
-    QImage artwork;            ///< stands in the disc's place; null for none
+    QImage artwork;            ///< replaces the disc; null for none
     std::int64_t dotCount = 0; ///< finished hours
-    int sessionCount = 0;      ///< of the sessions that a kind needs
-    int activeDays = 0;        ///< of the days that a kind needs
+    int sessionCount = 0;      ///< of those a persona needs
+    int activeDays = 0;        ///< of those a persona needs
 
     [[nodiscard]] static PersonaGlyph of(const PersonaCard& card, const QImage& artwork = {});
     friend bool operator==(const PersonaGlyph&, const PersonaGlyph&) = default;
@@ -32,10 +31,10 @@ struct PersonaGlyph {
 
 namespace personaglyph {
 
-/// As many dots have room along the rim; more are not drawn.
+/// The dots that fit the rim; further hours are not drawn.
 inline constexpr int mostDots = 46 + 41 + 36;
 
-/// Fits the picture into the middle of `area`. An unknown symbol leaves the disc without one.
+/// Centres the picture in `area`. An unknown symbol is left out.
 void draw(QPainter& painter, const QRectF& area, const PersonaGlyph& glyph);
 
 } // namespace personaglyph

@@ -10,8 +10,8 @@ constexpr TileShape kDayTile{{44, 44}, 11};
 constexpr double kDayGap = 10; // below
 constexpr double kBelowLetters = 10;
 
-// A year: months in three columns, each with room for six weeks. All of this is whole at 100 and at
-// 200 %, so that the small gaps are alike.
+// A year: months in three columns, six weeks each. All lengths are whole pixels at 100 and 200 %,
+// so that the small gaps are equal.
 constexpr TileShape kYearTile{{10.5, 10.5}, 2.8, true};
 constexpr QSizeF kYearPitch(15, 13);
 constexpr double kBelowName = 8;
@@ -22,9 +22,9 @@ constexpr double kMonthWidth = 6 * kYearPitch.width() + 10.5;
 constexpr double kMonthHeight =
     RhythmLayout::labelLine + kBelowName + (kMostWeeks - 1) * kYearPitch.height() + 10.5;
 
-constexpr double kSlack = 1; // around a tile: the pointer need not be exact
+constexpr double kSlack = 1; // tolerance around a tile for the pointer
 
-/// Adds the days of weeks, row below row.
+/// Adds the days of weeks, one row each.
 void addRows(RhythmLayout& layout, const std::vector<RhythmPicture::Week>& weeks, QPointF topLeft,
              QSizeF pitch) {
     for (std::size_t row = 0; row < weeks.size(); ++row)
@@ -36,7 +36,7 @@ void addRows(RhythmLayout& layout, const std::vector<RhythmPicture::Week>& weeks
         }
 }
 
-/// A week, or the weeks of a month: letters over columns of tiles.
+/// A week or the weeks of a month: letters above columns of tiles.
 RhythmLayout underLetters(const RhythmPicture& picture, double width) {
     RhythmLayout layout;
     layout.shape = kDayTile;

@@ -1,8 +1,7 @@
-// Where the tiles of a review's calendar stand in its window, and the letters and names beside
-// them.
+// The layout of a review's calendar in its window.
 //
-// Plain values and pure functions, any thread. Lengths in px. Time runs from left to right, and
-// from the top down, in every locale, as it does on the poster.
+// Plain values and pure functions, any thread. Lengths in px. Time runs left to right and top to
+// bottom in every locale, as on the poster.
 #pragma once
 
 #include "review/drawing/RhythmTilePainter.h"
@@ -21,21 +20,22 @@ struct RhythmLayout {
     };
     struct Label {
         QString text;
-        QPointF top; ///< of its line: the middle of a weekday's letter, the start of a month's name
+        /// Top of its line: at the centre of a weekday letter, at the start of a month name.
+        QPointF top;
         bool isCentered = false;
         bool isFuture = false;
     };
     static constexpr double labelLine = 15; ///< its height
 
     TileShape shape;
-    std::vector<Spot> spots; ///< days only, in their order
+    std::vector<Spot> spots; ///< days only, in order
     std::vector<Label> labels;
     QSizeF size;
 
-    /// The picture in a column of that width. Empty where the calendar can't tell its days.
+    /// Lays the picture out in a column of that width. Empty when the calendar has no days.
     [[nodiscard]] static RhythmLayout of(const RhythmPicture& picture, double width);
 
-    /// The index of the day under a point, or beside it by less than half a gap; -1 for none.
+    /// Returns the index of the day at a point, or within half a gap of it; -1 for none.
     [[nodiscard]] int spotAt(QPointF point) const;
     [[nodiscard]] QRectF area(int spot) const;
 };

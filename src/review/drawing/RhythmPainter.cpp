@@ -18,14 +18,14 @@ constexpr double kGrowsFrom = 0.4; // scale
 void drawLabel(QPainter& painter, const RhythmLayout::Label& label, const Lettering& lettering) {
     const QFontMetricsF letters(lettering.font);
     const double left = label.isCentered ? letters.horizontalAdvance(label.text) / 2 : 0;
-    // The capitals stand in the middle of their line; on whole pixels they are sharp.
+    // Centres the capitals in their line, on whole pixels for sharpness.
     const double baseline =
         std::round(label.top.y() + (RhythmLayout::labelLine + letters.capHeight()) / 2);
     painter.setPen(label.isFuture ? lettering.futureColor : lettering.color);
     painter.drawText(QPointF(label.top.x() - left, baseline), label.text);
 }
 
-/// A tile that is on its way grows out of its middle.
+/// A growing tile scales from its centre.
 void drawGrowing(QPainter& painter, const QRectF& area, const TileShape& shape, const DayTile& tile,
                  double way) {
     if (way <= 0) return;

@@ -1,4 +1,4 @@
-// A review's calendar in its window: letters, names of months, tiles.
+// The painter of a review's calendar: letters, month names, tiles.
 //
 // Pure drawing, any thread; letters need an application object. Lengths in px.
 #pragma once
@@ -12,21 +12,21 @@
 
 namespace vantle::rhythmpainter {
 
-/// How letters and names of months are written.
+/// The font and colours of letters and month names.
 struct Lettering {
     QFont font;
     QColor color;
-    QColor futureColor; ///< of days to come
+    QColor futureColor; ///< for days to come
 };
 
-/// The seconds after which all tiles of a week have grown, one after the other.
+/// Seconds until all tiles of a week have grown.
 [[nodiscard]] double growSeconds();
 
-/// How much of the tile `index` of a week is there `seconds` after the page has come: 0 to 1.
+/// The growth of tile `index` of a week after `seconds`: 0 to 1.
 [[nodiscard]] double grown(int index, double seconds);
 
-/// The whole picture. With `growing`, that many seconds after its page has come; without, all tiles
-/// are there.
+/// Draws the whole picture. `growing` is the time since the page appeared; without it all tiles are
+/// full size.
 void draw(QPainter& painter, const RhythmLayout& layout, const Lettering& lettering,
           std::optional<double> growing = std::nullopt);
 

@@ -16,15 +16,15 @@ constexpr double kEdge = 1;
 constexpr double kEdgeOpacity = 0.16;
 constexpr double kEmptyOpacity = 0.05;
 
-/// Where the painter's pixels are, if they are straight. In a picture that is made smaller nothing
-/// is moved onto them: gaps would differ by half of their width.
+/// The painter's pixel grid, unless it is rotated. A scaled-down picture is not snapped: gaps would
+/// differ by half their width.
 class Pixels {
 public:
     explicit Pixels(const QPainter& painter)
         : m_device(painter.deviceTransform())
         , m_snaps(m_device.type() <= QTransform::TxScale && m_device.m11() >= 1) {}
 
-    /// Every tile of a size keeps the same one; only the gaps may differ by a pixel.
+    /// Tiles of one size keep one size; only gaps may differ, by a pixel.
     [[nodiscard]] QRectF snapped(const QRectF& area) const {
         if (!m_snaps) return area;
         const QRectF there = m_device.mapRect(area);
@@ -33,7 +33,7 @@ public:
         return m_device.inverted().mapRect(whole);
     }
 
-    /// A fine line is as many whole pixels wide.
+    /// Rounds a fine line to whole pixels.
     [[nodiscard]] double snapped(double width) const {
         if (!m_snaps) return width;
         const double scale = m_device.m11();
@@ -51,7 +51,7 @@ void fill(QPainter& painter, const QRectF& area, double radius, const QColor& co
     painter.drawRoundedRect(area, radius, radius);
 }
 
-/// A line along the inside of the area.
+/// Draws a line along the inside of the area.
 void edge(QPainter& painter, const QRectF& area, double radius, const QColor& color, double width) {
     const double half = width / 2;
     painter.setPen(QPen(color, width));
@@ -75,7 +75,7 @@ void draw(QPainter& painter, QPointF topLeft, const TileShape& shape, const DayT
         edge(painter, area, shape.radius, cardwords::withOpacity(kWhite, kEdgeOpacity),
              pixels.snapped(kEdge));
     if (tile.isToday) {
-        // A ring around the tile, as far away as it is wide where there is room for that.
+        // The ring is as far from the tile as it is wide, where that fits.
         const double away = shape.isSmall ? tile.outlineWidth : 2 * tile.outlineWidth;
         edge(painter, area.adjusted(-away, -away, away, away), shape.radius + away, tile.outline,
              tile.outlineWidth);

@@ -1,7 +1,7 @@
-// One day of a calendar, as a tile: the brighter, the more time.
+// The painter of one calendar day: brighter means more time.
 //
-// Pure drawing, any thread. Lengths in px. At 100 % and more tiles lie on whole device pixels,
-// unless the painter is turned or sheared.
+// Pure drawing, any thread. Lengths in px. At 100 % and more, tiles lie on whole device pixels
+// unless the painter is rotated or sheared.
 #pragma once
 
 #include "review/RhythmCard.h"
@@ -16,15 +16,15 @@ namespace vantle {
 struct TileShape {
     QSizeF size;
     double radius = 0;    ///< of the corners
-    bool isSmall = false; ///< too small for a light edge, and for space inside of today's ring
+    bool isSmall = false; ///< too small for a light edge or a gap inside today's ring
 };
 
 namespace rhythmtile {
 
-/// As far beyond its own edges a tile may reach: today's does.
+/// The largest distance that a tile reaches beyond its edges: today's ring.
 inline constexpr double reach = 4;
 
-/// A blank is not drawn.
+/// Draws a tile; a blank draws nothing.
 void draw(QPainter& painter, QPointF topLeft, const TileShape& shape, const DayTile& tile);
 
 } // namespace rhythmtile

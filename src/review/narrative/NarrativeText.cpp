@@ -29,7 +29,7 @@ QStringList lines(const QString& text) {
     return found;
 }
 
-/// Whether the line is none of the sentence: a heading, an item of a list, a preamble.
+/// Whether the line is a heading, a list item or a preamble.
 bool isDecoration(const QString& line) {
     constexpr std::array<QStringView, 3> kMarks = {u"-", u"*", u"#"};
     constexpr std::array<QStringView, 5> kPreambles = {u"here are", u"notes:", u"sentence:",
@@ -77,7 +77,7 @@ std::optional<QString> tidy(const QString& answer) {
         if (!bare.isEmpty() && !isDecoration(bare)) kept += bare;
     }
     QString sentence = kept.join(QLatin1Char(' '));
-    // Blanks alone: a no-break space stands where somebody wants it.
+    // U+0020 only: no-break spaces are intended.
     while (sentence.contains(QLatin1String("  ")))
         sentence.replace(QLatin1String("  "), QLatin1String(" "));
     sentence = text::trimmed(sentence);

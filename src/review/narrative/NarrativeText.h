@@ -1,4 +1,4 @@
-// What a language model is told about a person's notes, and what of its answer is fit to be shown.
+// The prompts for a narrative, and the check of its answer.
 //
 // Pure functions, any thread.
 #pragma once
@@ -13,17 +13,17 @@ namespace vantle::narrativetext {
 /// The instructions of the conversation.
 [[nodiscard]] const QString& instructions();
 
-/// The question about these notes, of which the model gets the first 40: a line for each.
+/// The prompt for these notes; the model gets the first 40, one per line.
 [[nodiscard]] QString question(const QStringList& notes);
 
-/// What is asked when the answer was too long.
+/// The prompt after a too long answer.
 [[nodiscard]] const QString& shorterPlease();
 
-/// The sentence that an answer holds, without preambles and lists. Nothing unless it starts with
+/// Returns the sentence in an answer, without preambles and lists. Empty unless it starts with
 /// "You" and has 20 to 260 characters.
 [[nodiscard]] std::optional<QString> tidy(const QString& answer);
 
-/// The pieces between white space.
+/// Returns the number of pieces between white space.
 [[nodiscard]] qsizetype wordCount(const QString& text);
 
 } // namespace vantle::narrativetext

@@ -11,9 +11,9 @@ namespace vantle {
 namespace {
 
 constexpr qsizetype kFewestNotes = 2;
-constexpr qsizetype kFewestCharacters = 40; ///< of all notes, with a blank between them
-constexpr qsizetype kMostWordsAtOnce = 32;  ///< a longer answer is to be written again
-constexpr qsizetype kMostWords = 40;        ///< a longer sentence is not shown
+constexpr qsizetype kFewestCharacters = 40; ///< of all notes, joined by blanks
+constexpr qsizetype kMostWordsAtOnce = 32;  ///< a longer answer is rewritten
+constexpr qsizetype kMostWords = 40;        ///< a longer sentence is dropped
 
 QStringList withText(const QStringList& notes) {
     QStringList kept;
@@ -24,7 +24,7 @@ QStringList withText(const QStringList& notes) {
     return kept;
 }
 
-/// Whether there is enough to make a sentence of. Looks at no more notes than that takes.
+/// Whether the notes suffice for a sentence. Reads no more notes than needed.
 bool isWorthAsking(const QStringList& notes) {
     if (notes.size() < kFewestNotes) return false;
     QString joined;
@@ -42,7 +42,7 @@ QString opening(const QString& hoursSummary, const std::optional<QString>& topSk
     return text + QLatin1String(". ");
 }
 
-/// One conversation with the model. It owns the session, so no answer comes once it is gone.
+/// One conversation with the model. Owns the session, so destroying it drops a late answer.
 class Conversation final : public NoteNarrative::Request {
 public:
     using Done = std::function<void(std::optional<QString>)>;
@@ -87,7 +87,7 @@ private:
 
     void finish(std::optional<QString> narrative) {
         const Done done = std::move(m_done);
-        done(std::move(narrative)); // may end this
+        done(std::move(narrative)); // may destroy this
     }
 
     const QString m_opening;

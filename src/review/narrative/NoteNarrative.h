@@ -1,4 +1,4 @@
-// The notes of a period in one sentence of a language model, after a line of hours.
+// A sentence by a language model about a period's notes.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -14,10 +14,10 @@ namespace vantle {
 
 class LanguageModel;
 
-/// Asks the model, and passes on what is fit to be shown. Every failure is silence: a model that is
-/// not there, fails, refuses or answers in another form gives nothing, and nobody is told why.
+/// Asks the model and checks the answer. Failures are silent: a model that is missing, fails,
+/// refuses, or answers in another form gives no narrative.
 ///
-/// Main thread; waits for nothing.
+/// Main thread; does not block.
 class NoteNarrative {
 public:
     /// Both must outlive it and its requests.
@@ -27,18 +27,16 @@ public:
 
     [[nodiscard]] bool isAvailable() const;
 
-    /// A narrative on its way. Destroy it and `done` is never called; a model that is still at it
-    /// is told to stop.
+    /// A running request. Destroying it cancels the model's work; `done` is not called then.
     class Request {
     public:
         virtual ~Request() = default;
     };
     using RequestHandle = std::unique_ptr<Request>;
 
-    /// "12 hours this week, mostly Build. You ..." for notes that stand newest first, of which the
-    /// first 40 are told. The words "this week" stand there for every period. Nothing when there
-    /// are fewer than two notes, or under 40 characters of them. `done` is called once, from the
-    /// event loop.
+    /// Requests "12 hours this week, mostly Build. You ..." for notes, newest first; the model gets
+    /// the first 40. The words "this week" are used for every period. Calls `done` once, from
+    /// the event loop; empty for fewer than two notes, less than 40 characters, or any failure.
     [[nodiscard]] RequestHandle weekly(const QString& hoursSummary,
                                        const std::optional<QString>& topSkill,
                                        const QStringList& notes,

@@ -12,7 +12,7 @@ namespace vantle::builderpersona {
 
 namespace {
 
-/// Below this share of the time no part of the day stands for the whole.
+/// A part of the day with a smaller share of the time does not stand for the whole.
 constexpr double kLeastShareOfDayPart = 0.45;
 constexpr double kMarathonSeconds = 4500.0;
 constexpr double kSprintSeconds = 1500.0;
@@ -27,12 +27,12 @@ DayPart partOfHour(int hour) {
     return DayPart::Night;
 }
 
-/// Active seconds, but nobody's session counts for nothing.
+/// Active seconds, at least 1 per session.
 std::int64_t weight(const Session& session) {
     return std::max<std::int64_t>(session.activeSeconds, 1);
 }
 
-/// Halfway between start and end by the clock on the wall, pauses included.
+/// Halfway between start and end by the wall clock, pauses included.
 Date midpoint(const Session& session) {
     return session.startedAt + (session.endedAt - session.startedAt) / 2;
 }

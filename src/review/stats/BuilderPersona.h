@@ -1,8 +1,8 @@
-// How somebody works, as one of eleven named patterns.
+// The user's work pattern, as one of eleven named personas.
 //
-// Three axes (when in the day, how long at a stretch, how concentrated on skills) are read from a
-// window of sessions, and a fixed table makes a name of them. Whether a window holds enough to
-// judge by is its owner's decision. Plain values and pure functions, any thread.
+// A fixed table maps three axes of a window of sessions (time of day, length, concentration on
+// skills) to a name. The caller decides whether a window is large enough. Plain values and pure
+// functions, any thread.
 #pragma once
 
 #include "base/Calendar.h"
@@ -22,7 +22,7 @@ struct BuilderPersona {
     QString line;               ///< a sentence under the name
     QString whenFact;           ///< "Late night"
     QString paceFact;           ///< "1 h 20 min average"
-    std::uint32_t startHex = 0; ///< its gradient, 0xRRGGBB
+    std::uint32_t startHex = 0; ///< of its gradient, 0xRRGGBB
     std::uint32_t endHex = 0;
     friend bool operator==(const BuilderPersona&, const BuilderPersona&) = default;
 };
@@ -42,19 +42,19 @@ struct Axes {
     DayPart when = DayPart::Anytime;
     Style style = Style::Steady;
     Focus focus = Focus::Balanced;
-    double averageSeconds = 0; ///< of a session; one of 0 seconds is taken for 1
+    double averageSeconds = 0; ///< of a session; 0 seconds count as 1
 };
 
-/// The persona of these sessions; none of no sessions.
+/// Returns the persona; empty without sessions.
 [[nodiscard]] std::optional<BuilderPersona> compute(SessionRefs sessions, const Calendar& calendar,
                                                     DurationStyle durationStyle);
 
-/// What the sessions say on each axis; none of no sessions.
+/// Returns the value on each axis; empty without sessions.
 [[nodiscard]] std::optional<Axes> axes(SessionRefs sessions, const Calendar& calendar);
 
 [[nodiscard]] QString name(DayPart when, Style style, Focus focus);
 
-/// The sentence under a name; empty for an unknown one.
+/// Returns the sentence under a name; empty for an unknown one.
 [[nodiscard]] QString line(const QString& name, DayPart when);
 
 [[nodiscard]] QString whenFact(DayPart when);
@@ -64,14 +64,13 @@ struct Gradient {
     std::uint32_t end = 0;
 };
 
-/// The colours of a name; those of "All Rounder" for an unknown one.
+/// Returns the colours of a name; those of "All Rounder" for an unknown one.
 [[nodiscard]] Gradient gradient(const QString& name);
 
-/// The drawn symbol of a name, "moon.fill"; "hammer.fill" for an unknown one.
+/// Returns the symbol of a name, such as "moon.fill"; "hammer.fill" for an unknown one.
 [[nodiscard]] QString symbol(const QString& name);
 
-/// The picture of a name without its extension: "persona-night-owl".
-/// The name as it is shown.
+/// Returns the picture's base name, "persona-night-owl"; and the translated name.
 [[nodiscard]] QString shownName(const QString& name);
 [[nodiscard]] QString artworkName(const QString& name);
 

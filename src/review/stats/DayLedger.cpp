@@ -11,7 +11,7 @@ void DayLedger::reserve(std::size_t records) {
 
 void DayLedger::close() {
     writeDown();
-    // Strictly: a day that was left and came back has two entries.
+    // Strict comparison: a day that was left and revisited has two entries.
     const auto isNoStep = [](const Entry& left, const Entry& right) {
         return left.day >= right.day;
     };

@@ -1,4 +1,6 @@
-// Seconds per day, and per skill within each day. A plain value; one thread at a time.
+// Seconds per day, and per skill within each day.
+//
+// Plain value, one thread at a time.
 #pragma once
 
 #include "base/LocalTime.h"
@@ -10,15 +12,15 @@
 
 namespace vantle {
 
-/// Filled record by record, then closed and read. Cheapest where the days come in order, as a log
-/// has them; any order gives the same ledger.
+/// Filled record by record, then closed and read. Fastest when the days come in order, as in a log;
+/// any order gives the same ledger.
 class DayLedger {
 public:
-    /// Makes room for so many records, which saves copying what is written as it grows. Room that
-    /// is never written costs nothing.
+    /// Reserves room for that many records, to avoid copies while it grows. Unused room is never
+    /// touched and costs no memory.
     void reserve(std::size_t records);
 
-    /// Skills are numbers from 0 (SkillNumbers). A day of 0 seconds is a day, too.
+    /// Skills are numbers from 0 (SkillNumbers). A record of 0 seconds still makes a day.
     void add(localtime::Day day, std::size_t skill, std::int64_t seconds) {
         if (day != m_openDay || m_openShares.empty())
             open(day, skill);
@@ -42,10 +44,10 @@ public:
     /// Call once, after the last record and before reading.
     void close();
 
-    /// One for each day, oldest first.
+    /// One entry per day, oldest first.
     [[nodiscard]] const std::vector<Entry>& entries() const { return m_entries; }
 
-    /// The skills of a day; each stands there once, in no order.
+    /// The skills of a day, once each, unordered.
     [[nodiscard]] std::span<const Share> shares(const Entry& entry) const {
         return std::span(m_shares).subspan(entry.firstShare, entry.shareCount);
     }
@@ -60,8 +62,8 @@ private:
     [[nodiscard]] std::size_t shareOf(std::size_t skill);
 
     localtime::Day m_openDay = 0;
-    std::vector<Share> m_openShares; ///< of the day that is being filled; empty when none is
-    std::size_t m_lastShare = 0;     ///< the one that took the last record
+    std::vector<Share> m_openShares; ///< of the day being filled; empty when there is none
+    std::size_t m_lastShare = 0;     ///< the share of the last record
     std::vector<Entry> m_entries;
     std::vector<Share> m_shares;
 };

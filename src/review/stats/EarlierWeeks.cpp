@@ -15,11 +15,11 @@ constexpr std::ptrdiff_t kLastRank = 3;
 
 double asHours(std::int64_t seconds) { return static_cast<double>(seconds) / 3600.0; }
 
-/// Sums per week, by the day that the week begins with.
+/// Sums per week, keyed by the week's first day.
 class WeekSums {
 public:
     void add(localtime::Day firstDay, std::int64_t seconds) {
-        // Records of a week mostly stand together.
+        // Records of one week are mostly adjacent.
         if (m_last == m_sums.end() || m_last->first != firstDay)
             m_last = m_sums.try_emplace(firstDay, 0).first;
         m_last->second += seconds;

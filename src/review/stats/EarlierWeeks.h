@@ -1,4 +1,6 @@
-// A week beside the weeks before it. Pure functions, any thread.
+// The comparison of a week with the weeks before it.
+//
+// Pure functions, any thread.
 #pragma once
 
 #include "base/Calendar.h"
@@ -9,19 +11,19 @@
 
 namespace vantle {
 
-/// What is said of a week that begins at `weekStart`, from the records that count.
+/// The hours before a week that begins at `weekStart`, from records that count.
 struct EarlierWeeks {
-    /// Hours of the week before; none when there were none.
+    /// Hours of the previous week; empty when there were none.
     std::optional<double> lastWeekHours;
 
-    /// The hours of each week before that had a second of work, in no order.
+    /// The hours of each earlier week with work, unordered.
     std::vector<double> hours;
 
     EarlierWeeks(const std::vector<Session>& sessions, Date now, Date weekStart,
                  const Calendar& calendar);
 
-    /// 1 when no week before had more hours, 2 or 3 when one or two had. None beyond that, for a
-    /// week without work, or with less than two weeks to compare it with.
+    /// Returns the week's rank by hours if it is 1, 2 or 3. Empty for a lower rank, a week without
+    /// work, or fewer than two weeks to compare with.
     [[nodiscard]] std::optional<int> rankOf(double totalHours) const;
 };
 

@@ -9,7 +9,7 @@ namespace vantle {
 
 LogWalk::LogWalk(const std::vector<Session>& sessions, const Plan& plan, LocalTime& local) {
     totals::BadgeTally badgeTally;
-    // Most reviews are about the end of the log; one comparison tells that a record lies before.
+    // Most reviews cover the end of the log; one comparison skips an earlier record.
     const Date first = std::min({plan.period.start, plan.thisWeek.start, plan.earlierWeek.start});
     days.reserve(sessions.size());
     period.reserve(sessions.size());

@@ -1,8 +1,8 @@
-// The one walk over the whole log that a review makes.
+// The single walk over the log for a review.
 //
-// A review of a single day still shows the calendar of all days, and the badges are counted from
-// the beginning. All of that is gathered here in one go, since reading a million records from
-// memory is most of what it costs. Pure, any thread.
+// Reading a million records from memory is most of a review's cost, so one pass gathers everything:
+// a single day's review also needs the calendar of all days, and badges count from the beginning.
+// Pure, any thread.
 #pragma once
 
 #include "review/stats/DayLedger.h"
@@ -15,7 +15,7 @@
 
 namespace vantle {
 
-/// Moments from `start` on and before `end`.
+/// From `start`, inclusive, to `end`, exclusive.
 struct Interval {
     Date start = dateFromEpoch(-std::numeric_limits<double>::infinity());
     Date end = dateFromEpoch(std::numeric_limits<double>::infinity());
@@ -27,13 +27,13 @@ struct Interval {
 
 struct LogWalk {
     std::vector<const Session*> period;      ///< records that count and ended in the period
-    std::vector<const Session*> thisWeek;    ///< ended in that week, whether they count or not
+    std::vector<const Session*> thisWeek;    ///< ended in that week, counting or not
     std::vector<const Session*> earlierWeek; ///< the same
-    std::vector<totals::Badge> badges;       ///< of all that count
-    SkillNumbers skills;                     ///< those in `days`
-    DayLedger days;                          ///< of all that count
+    std::vector<totals::Badge> badges;       ///< of all records that count
+    SkillNumbers skills;                     ///< the skills in `days`
+    DayLedger days;                          ///< of all records that count
 
-    /// What the walk looks for.
+    /// The input of the walk.
     struct Plan {
         Date now;
         Interval period;

@@ -20,7 +20,7 @@ struct Note {
     QString text; ///< with single blanks, not empty
 };
 
-/// The order of the ids' texts, without making them. (`<` of QUuid puts the variant first.)
+/// Orders by the ids' text without making it. QUuid's `<` compares the variant first.
 bool textComesBefore(const QUuid& left, const QUuid& right) {
     const auto head = [](const QUuid& id) { return std::tie(id.data1, id.data2, id.data3); };
     if (head(left) != head(right)) return head(left) < head(right);
@@ -36,7 +36,7 @@ bool isNewer(const Note& left, const Note& right) {
 std::vector<Note> notesNewestFirst(SessionRefs sessions) {
     std::vector<Note> notes;
     notes.reserve(sessions.size());
-    // A log has the oldest first, so from its back hardly anything is left to sort.
+    // The log is oldest first, so a walk from its end leaves little to sort.
     for (auto at = sessions.rbegin(); at != sessions.rend(); ++at) {
         QString text = text::withSingleBlanks((*at)->note);
         if (!text.isEmpty()) notes.push_back({*at, std::move(text)});
@@ -45,7 +45,7 @@ std::vector<Note> notesNewestFirst(SessionRefs sessions) {
     return notes;
 }
 
-/// The latest notes that differ in more than case.
+/// Returns the latest notes that differ in more than case.
 std::vector<WrappedNoteDigest::Highlight> highlightsOf(const std::vector<Note>& notes,
                                                        const std::vector<Skill>& skills) {
     std::vector<WrappedNoteDigest::Highlight> highlights;

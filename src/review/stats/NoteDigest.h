@@ -1,7 +1,7 @@
-// What the notes of a period say, without a language model: how many there are, which words keep
-// returning, a few of the latest, and a sentence that sums that up.
+// The digest of a period's notes, made without a language model.
 //
-// Plain values and pure functions, any thread.
+// Number of notes, recurring words, a few of the latest notes, and a summary sentence. Plain values
+// and pure functions, any thread.
 #pragma once
 
 #include "base/Date.h"
@@ -18,11 +18,11 @@
 namespace vantle {
 
 struct WrappedNoteDigest {
-    /// A note worth showing.
+    /// A note to show.
     struct Highlight {
         QUuid sessionId;
         QString text; ///< as in `allNotes`
-        Skill skill;  ///< as it is shown, also when it was deleted since
+        Skill skill;  ///< as shown; exists for a deleted skill too
         Date endedAt;
         friend bool operator==(const Highlight&, const Highlight&) = default;
     };
@@ -34,11 +34,11 @@ struct WrappedNoteDigest {
                                        ///< as it was written
     friend bool operator==(const WrappedNoteDigest&, const WrappedNoteDigest&) = default;
 
-    /// The digest of these sessions, in whatever order they come. None when no note has text.
+    /// Returns the digest of the sessions, in any order; empty when no note has text.
     [[nodiscard]] static std::optional<WrappedNoteDigest> compute(SessionRefs sessions,
                                                                   const std::vector<Skill>& skills);
 
-    /// "Your notes kept returning to API and launch.", or how many there were.
+    /// Returns "Your notes kept returning to API and launch.", or the number of notes.
     [[nodiscard]] QString storyLine() const;
 };
 

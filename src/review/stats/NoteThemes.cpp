@@ -14,7 +14,7 @@ namespace {
 constexpr qsizetype kFewestCharacters = 3;
 constexpr qsizetype kLongestAcronym = 6;
 
-/// Words that say nothing of the work, since every note has some of them.
+/// Words that are in most notes and say nothing about the work.
 bool isStopWord(QStringView key) {
     static const QSet<QStringView> words = {
         u"about",    u"after", u"again", u"also",  u"been",   u"before",  u"being",   u"build",
@@ -36,7 +36,7 @@ char16_t asciiLower(char16_t unit) {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit | 0x20) : unit;
 }
 
-/// FNV-1a over units.
+/// FNV-1a over UTF-16 units.
 class Hash {
 public:
     void add(char16_t unit) { m_value = (m_value ^ unit) * 0x100000001B3u; }
@@ -72,7 +72,7 @@ void NoteThemes::addNote(QStringView note) {
 }
 
 void NoteThemes::addWord(QStringView piece) {
-    // A character has at least one unit, so this settles the shortest without a look.
+    // A character has at least one unit, which rules short pieces out at once.
     if (piece.size() < kFewestCharacters) return;
     Word& word = entryFor(keyOf(piece), piece);
     if (word.lastNote == m_note) return;

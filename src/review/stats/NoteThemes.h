@@ -1,6 +1,6 @@
-// Which words keep returning in a run of notes.
+// The recurring words of a period's notes.
 //
-// Pure, any thread. The time is linear in the length of the notes.
+// Any thread. Time is linear in the length of the notes.
 #pragma once
 
 #include <QHash>
@@ -13,35 +13,34 @@
 
 namespace vantle {
 
-/// Counts words over notes given newest first. A word is a run of letters, marks and numbers in
-/// lower case. It counts when it has three characters or more that are not all numbers and is none
-/// of the words that every note has ("the", "today", "working", ...).
+/// Counts words over notes, newest first. A word is a run of letters, marks and numbers in lower
+/// case. It counts when it has at least three characters, not all of them numbers, and is no stop
+/// word ("the", "today", "working", ...).
 class NoteThemes {
 public:
     NoteThemes() = default;
-    NoteThemes(const NoteThemes&) = delete; // its index points into it
+    NoteThemes(const NoteThemes&) = delete; // m_index points into the object
     NoteThemes& operator=(const NoteThemes&) = delete;
 
-    /// Counts each word of the note once, however often it stands there.
+    /// Counts each word of the note once.
     void addNote(QStringView note);
 
-    /// The words that stand in two notes or more, at most `limit` of them, as they are shown: the
-    /// most frequent first, of those the one that is in the newer note, of those the smaller by
-    /// code points. A word is shown in lower case, unless it was met first as an acronym, at most
-    /// six characters all in upper case.
+    /// Returns at most `limit` words that occur in two or more notes, by frequency, then by the
+    /// newest note, then by code points. They are in lower case, except acronyms: words first met
+    /// in upper case, at most six characters long.
     [[nodiscard]] QStringList mostFrequent(std::size_t limit) const;
 
 private:
     struct Word {
         QString key;       ///< in lower case
-        QString display;   ///< empty for a word that doesn't count
-        int noteCount = 0; ///< notes that hold it
+        QString display;   ///< empty for a word that does not count
+        int noteCount = 0; ///< notes that contain it
         int firstNote = 0; ///< the newest of them
         int lastNote = -1; ///< the note that counted it last
     };
 
-    /// A key with its hash, which comes out of the walk that puts it in lower case. (This and the
-    /// plain comparison halve the time of a lookup, which is most of the time of a digest.)
+    /// A key with its hash, which is computed while the key is put in lower case. This and the
+    /// plain comparison halve the lookup time, which dominates a digest.
     struct Key {
         std::u16string_view text;
         std::size_t hash;
@@ -56,10 +55,10 @@ private:
     [[nodiscard]] Word& entryFor(const Key& key, QStringView piece);
     [[nodiscard]] static bool comesBefore(const Word& left, const Word& right);
 
-    int m_note = 0;           ///< the position of the note being counted
-    std::deque<Word> m_words; ///< stays in place, since the index points into it
+    int m_note = 0;           ///< index of the current note
+    std::deque<Word> m_words; ///< a deque, since m_index points to its elements
     QHash<Key, Word*> m_index;
-    std::u16string m_key; ///< the word at hand; kept, since to make it anew takes time
+    std::u16string m_key; ///< the current word; kept to avoid an allocation for each
 };
 
 } // namespace vantle

@@ -1,4 +1,4 @@
-// The eleven names, and what belongs to each.
+// The eleven names and their texts.
 #include "base/Text.h"
 #include "base/Words.h"
 #include "review/stats/BuilderPersona.h"
@@ -13,7 +13,7 @@ struct Entry {
     QString name;
     Gradient gradient;
     QString symbol;
-    const char* line; ///< the source of its text; of "Quick Hitter": see below
+    const char* line; ///< source text; for "Quick Hitter" see quickHitterLine()
 };
 
 const QString& quickHitter() {
@@ -84,7 +84,7 @@ const std::array<Entry, 11>& table() {
     return entries;
 }
 
-// The names as sources of texts; in the table they are what a persona is known by.
+// The names as source texts for translation; the table uses them as identities.
 [[maybe_unused]] constexpr const char* kShownNames[] = {
     QT_TRANSLATE_NOOP("Words", "Early Bird"),    QT_TRANSLATE_NOOP("Words", "Night Owl"),
     QT_TRANSLATE_NOOP("Words", "Night Shift"),   QT_TRANSLATE_NOOP("Words", "Deep Diver"),
@@ -98,7 +98,7 @@ const Entry* entryOf(const QString& name) {
     return found != table().end() ? &*found : nullptr;
 }
 
-/// Total, although no table of names leads to its first and fourth row.
+/// Complete, although no table of names leads to its first and fourth row.
 QString quickHitterLine(DayPart when) {
     switch (when) {
     case DayPart::Morning:
@@ -118,7 +118,7 @@ QString quickHitterLine(DayPart when) {
 } // namespace
 
 QString name(DayPart when, Style style, Focus focus) {
-    // The first that fits: early and late hours say more than the other two axes.
+    // The first match counts: early and late hours say more than the other two axes.
     if (when == DayPart::Morning) return QStringLiteral("Early Bird");
     if (when == DayPart::Night && style == Style::Marathon) return QStringLiteral("Night Owl");
     if (when == DayPart::Night) return QStringLiteral("Night Shift");

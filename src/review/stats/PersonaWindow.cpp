@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t kEnoughSessions = 5;
 
-/// The calendar's week that holds `date`; nothing where the calendar can't tell.
+/// Returns the calendar week of `date`; empty when ICU cannot compute it.
 Interval weekOf(Date date, LocalTime& local) {
     const auto first = local.firstOfWeek(local.at(date).day);
     if (!first) return Interval::none();

@@ -1,4 +1,6 @@
-// Which sessions a persona is judged by. Pure functions, any thread.
+// The sessions that a persona is judged by.
+//
+// Pure functions, any thread.
 #pragma once
 
 #include "base/LocalTime.h"
@@ -9,20 +11,20 @@
 
 namespace vantle {
 
-/// A week is judged by itself. Other periods are judged by this week where it holds enough
-/// sessions, else by the week before, else by themselves: a pattern of the present says more than
-/// one of years, and a single day has none.
+/// A week is judged by itself. Other periods are judged by this week if it has enough sessions,
+/// else by last week, else by themselves: a current pattern says more than one of years, and one
+/// day has none.
 struct PersonaWindow {
     SessionRefs sessions;
-    QString scope; ///< its words: "this week"
+    QString scope; ///< as text: "this week"
 
-    /// Tells the walk which weeks to gather for the window of `period`.
+    /// Adds the weeks that the window of `period` needs to the plan.
     static void addWeeks(LogWalk::Plan& plan, WrappedPeriod period, const Calendar& calendar);
 
-    /// The window of `period`, in the lists of the walk.
+    /// Chooses the window of `period` from the lists of the walk.
     [[nodiscard]] static PersonaWindow choose(WrappedPeriod period, const LogWalk& walk);
 
-    /// Whether a pattern can be trusted: at least five sessions that ended on at least two days.
+    /// Whether a pattern is reliable: at least five sessions that ended on at least two days.
     [[nodiscard]] bool isEnough(LocalTime& local) const;
 };
 

@@ -1,7 +1,7 @@
-// A selection of the log without copies of its records.
+// A selection of log records by pointer.
 //
-// A log of years has a million records, of which most figures want a part. The list that they stand
-// in must outlive the selection and stay as it is. Any thread.
+// A log of years has a million records, of which most figures need a part. The list must outlive
+// the selection unchanged. Any thread.
 #pragma once
 
 #include "tracking/Session.h"
@@ -13,7 +13,7 @@ namespace vantle {
 
 using SessionRefs = std::span<const Session* const>;
 
-/// All records of the list, in its order.
+/// All records of the list, in order.
 [[nodiscard]] inline std::vector<const Session*> refsTo(const std::vector<Session>& sessions) {
     std::vector<const Session*> refs;
     refs.reserve(sessions.size());
@@ -22,7 +22,7 @@ using SessionRefs = std::span<const Session* const>;
     return refs;
 }
 
-/// A list that is about to go.
+/// A temporary would leave dangling pointers.
 std::vector<const Session*> refsTo(std::vector<Session>&&) = delete;
 
 } // namespace vantle

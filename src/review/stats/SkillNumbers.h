@@ -1,4 +1,6 @@
-// Numbers for the skills of a walk over records, so that sums per skill stand in plain lists.
+// The numbering of skills during a walk over records.
+//
+// Sums per skill then fit in plain vectors.
 #pragma once
 
 #include <QHash>
@@ -10,9 +12,9 @@
 
 namespace vantle {
 
-/// Gives each skill id the next number at its first sight, from 0. The records must outlive it,
-/// unchanged: those of a log share their texts, and a text that stands where one stood before is
-/// the same text. One thread at a time.
+/// Numbers skill ids from 0 in order of appearance. The records must outlive it unchanged. Compares
+/// data pointers first: equal pointers mean equal ids, since records of a log share their texts.
+/// One thread at a time.
 class SkillNumbers {
 public:
     [[nodiscard]] std::size_t of(const QString& skillId) {
@@ -32,7 +34,7 @@ private:
     };
     static constexpr std::size_t kSlots = 64;
 
-    /// Texts lie 16 bytes apart or more.
+    /// Allocated texts are at least 16 bytes apart.
     [[nodiscard]] static std::size_t slotOf(const QString& skillId) {
         return (reinterpret_cast<std::size_t>(skillId.constData()) / 16) % kSlots;
     }

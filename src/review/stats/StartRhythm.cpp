@@ -16,7 +16,7 @@ constexpr double kLeastShareOfBand = 0.45;
 
 using Hours = std::array<int, 24>;
 
-/// The starts in the hours `first` to `last`, both included.
+/// The starts in the hours `first` to `last`, inclusive.
 int startsIn(const Hours& perHour, int first, int last) {
     return std::accumulate(perHour.begin() + first, perHour.begin() + last + 1, 0);
 }
@@ -51,7 +51,7 @@ void putIntoWords(StartRhythm& rhythm, const Hours& perHour, int total) {
             withCounts(Words::tr("%1 of %2 sessions started after 6 PM."), *most, total);
         return;
     default:
-        // The night begins at 23, but "after 10 PM" has to be true of what it counts.
+        // The night band starts at 23, but the text "after 10 PM" must hold for all it counts.
         rhythm.headline = Words::tr("Most sessions started late at night.");
         rhythm.detail = withCounts(Words::tr("%1 of %2 sessions started after 10 PM."),
                                    startsIn(perHour, 22, 23) + early, total);

@@ -1,4 +1,6 @@
-// When sessions begin. Plain values and pure functions, any thread.
+// The distribution of session starts over the day.
+//
+// Plain values and pure functions, any thread.
 #pragma once
 
 #include "base/Calendar.h"
@@ -11,18 +13,18 @@
 
 namespace vantle {
 
-/// The starts of some sessions by the minute of the day, from which the rest is told.
+/// The starts by minute of the day.
 class StartTimes {
 public:
     StartTimes(SessionRefs sessions, const Calendar& calendar);
 
     [[nodiscard]] int total() const { return m_total; }
 
-    /// The middle start, in minutes since midnight; of an even count the later of the middle two.
-    /// None of less than three.
+    /// Returns the median start in minutes since midnight, the later of the two middle ones for an
+    /// even count. Empty for fewer than three.
     [[nodiscard]] std::optional<int> medianMinutes() const;
 
-    /// The hour of the middle start as the locale (an ICU id) writes it; its minutes are left out.
+    /// Returns the hour of the median start in the form of the locale (an ICU id), without minutes.
     [[nodiscard]] std::optional<QString> typicalStart(const QString& locale) const;
 
     [[nodiscard]] std::array<int, 24> perHour() const;
@@ -34,15 +36,15 @@ private:
     int m_total = 0;
 };
 
-/// The distribution of starts, in numbers and words.
+/// The distribution in numbers and words.
 struct StartRhythm {
     std::array<int, 12> counts{};  ///< starts in hours 2i and 2i + 1
     int peakHour = 0;              ///< the first hour with the most
     QString headline;              ///< one sentence
-    std::optional<QString> detail; ///< a count for it
+    std::optional<QString> detail; ///< a count that supports it
     friend bool operator==(const StartRhythm&, const StartRhythm&) = default;
 
-    /// None of less than three starts.
+    /// Empty for fewer than three starts.
     [[nodiscard]] static std::optional<StartRhythm> compute(const StartTimes& starts);
 };
 

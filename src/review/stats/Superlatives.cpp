@@ -74,7 +74,7 @@ Candidate longestSession(const SuperlativeFacts& facts, const std::vector<Skill>
                          DurationStyle durationStyle) {
     if (!facts.longest || facts.longest->activeSeconds < 5400) return std::nullopt;
     const std::int64_t seconds = facts.longest->activeSeconds;
-    // Both at once: a skill may be named "%2".
+    // One call for both arguments: a skill may be named "%2".
     const QString text =
         Words::tr("Longest session: %1 of %2.")
             .arg(dashformat::sessionDuration(seconds, durationStyle),

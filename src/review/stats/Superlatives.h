@@ -1,4 +1,4 @@
-// The high points of a period: each possible one is scored, and the strongest are told.
+// The high points of a period, scored and ranked.
 //
 // Plain values and pure functions, any thread.
 #pragma once
@@ -19,24 +19,24 @@ namespace vantle {
 struct SuperlativeLine {
     QString icon;              ///< name of its symbol
     std::uint32_t tintHex = 0; ///< 0xRRGGBB
-    QString text;              ///< one sentence, by which it is also known
-    double score = 0;          ///< the higher, the earlier it is told
+    QString text;              ///< one sentence, which also identifies it
+    double score = 0;          ///< higher comes first
     friend bool operator==(const SuperlativeLine&, const SuperlativeLine&) = default;
 };
 
-/// What the high points are drawn from.
+/// The data for the high points.
 struct SuperlativeFacts {
     WrappedPeriod period = WrappedPeriod::Today;
     double totalHours = 0;
     int activeDays = 0;             ///< days with work
-    std::optional<int> daysElapsed; ///< none for all time
+    std::optional<int> daysElapsed; ///< empty for all time
     int goalHitDays = 0;
     double biggestDayHours = 0; ///< 0 when there is none
     std::optional<Session> longest;
     std::optional<int> weekRank; ///< 1 for the best week so far
 };
 
-/// The three highest scores at most, highest first; of equal ones the more important kind first.
+/// Returns up to three, by score; equal scores in order of importance.
 [[nodiscard]] std::vector<SuperlativeLine> pickSuperlatives(const SuperlativeFacts& facts,
                                                             const std::vector<Skill>& skills,
                                                             DurationStyle durationStyle);

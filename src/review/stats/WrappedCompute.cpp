@@ -1,4 +1,4 @@
-// How a WrappedStats comes about.
+// The computation of a WrappedStats from the log.
 #include "base/Rounding.h"
 #include "base/Text.h"
 #include "review/stats/EarlierWeeks.h"
@@ -33,7 +33,7 @@ std::vector<Skill> shownSkills(const SkillNumbers& numbers, const std::vector<Sk
     return shown;
 }
 
-/// For each skill by number, how many ids come before its own.
+/// For each skill number, its position in the order of ids.
 std::vector<std::size_t> placesById(const SkillNumbers& numbers) {
     std::vector<std::size_t> inOrder(numbers.count());
     std::iota(inOrder.begin(), inOrder.end(), std::size_t{0});
@@ -136,7 +136,7 @@ void addStarts(WrappedStats& stats, SessionRefs sessions, const Calendar& calend
     stats.startRhythm = StartRhythm::compute(starts);
 }
 
-/// What the period's ledger tells, in which skills have these numbers.
+/// Adds the figures of the period's ledger; `numbers` maps its skills.
 void addLedger(WrappedStats& stats, const DayLedger& days, const SkillNumbers& numbers,
                const WrappedSettings& settings, LocalTime& local) {
     addSkillHours(stats, days, numbers, settings.skills);

@@ -12,7 +12,7 @@ namespace {
 struct Names {
     QString id;
     QString fileSuffix;
-    const char* label; ///< sources of texts, like those below
+    const char* label; ///< source texts, like those below
     const char* pickerLabel;
     const char* inSentence;
     const char* summaryTitle;

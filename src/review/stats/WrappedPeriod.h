@@ -1,4 +1,4 @@
-// The stretches of time that a review can look back over, and how they are named.
+// The periods of a review and their names.
 //
 // Plain values and pure functions, any thread.
 #pragma once
@@ -19,7 +19,7 @@ namespace wrappedperiod {
 inline constexpr std::array all = {WrappedPeriod::Today, WrappedPeriod::Week, WrappedPeriod::Month,
                                    WrappedPeriod::AllTime, WrappedPeriod::LastWeek};
 
-/// What the picker offers. Last week is reached by opening the review on it only.
+/// The periods of the picker. Last week is shown only when the review is opened on it.
 inline constexpr std::array pickerCases = {WrappedPeriod::Today, WrappedPeriod::Week,
                                            WrappedPeriod::Month, WrappedPeriod::AllTime};
 
@@ -30,21 +30,21 @@ inline constexpr std::array pickerCases = {WrappedPeriod::Today, WrappedPeriod::
 [[nodiscard]] QString fileSuffix(WrappedPeriod period);   ///< "last-week"
 [[nodiscard]] QString summaryTitle(WrappedPeriod period); ///< "YOUR WEEK, IN FULL"
 
-/// The period with that id.
+/// Returns the period with that id; empty for an unknown one.
 [[nodiscard]] std::optional<WrappedPeriod> fromId(const QString& id);
 
-/// Whether the period is a week of the calendar.
+/// Whether the period is a calendar week.
 [[nodiscard]] constexpr bool isAWeek(WrappedPeriod period) {
     return period == WrappedPeriod::Week || period == WrappedPeriod::LastWeek;
 }
 
-/// The first moment of the period; none for all time.
+/// The first moment; empty for all time.
 [[nodiscard]] std::optional<Date> start(WrappedPeriod period, Date now, const Calendar& calendar);
 
-/// The moment at which the period is over; none for those that run to the present.
+/// The end; empty for a period that runs to the present.
 [[nodiscard]] std::optional<Date> end(WrappedPeriod period, Date now, const Calendar& calendar);
 
-/// The calendar days of the period that have begun, today included; none for all time.
+/// The days of the period so far, today included; empty for all time.
 [[nodiscard]] std::optional<int> daysElapsed(WrappedPeriod period, Date now,
                                              const Calendar& calendar);
 

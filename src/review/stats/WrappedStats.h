@@ -1,8 +1,7 @@
-// Everything that a review of one period shows, as one value.
+// The content of one period's review, as a value.
 //
-// Computed from the log whenever a review is opened or its period changes; nothing of it is stored.
-// Hours are seconds / 3600.0 without rounding. Pure: the same records, moment and settings give the
-// same value. Any thread.
+// Computed from the log when a review opens or its period changes; never stored. Hours are seconds
+// / 3600.0, unrounded. Pure: equal records, moment and settings give equal values. Any thread.
 #pragma once
 
 #include "base/Calendar.h"
@@ -24,18 +23,18 @@
 
 namespace vantle {
 
-/// What a review depends on beside the log.
+/// The parameters of a review beside the log.
 struct WrappedSettings {
     Date now;
     Calendar calendar;
-    std::vector<Skill> skills; ///< the person's list, for names and colours
+    std::vector<Skill> skills; ///< the user's list, for names and colours
     DurationStyle durationStyle = DurationStyle::Natural;
     double dailyGoalHours = 2.0;
 };
 
 struct WrappedStats {
     struct SkillHours {
-        Skill skill; ///< as it is shown, also when it was deleted since
+        Skill skill; ///< as shown; exists for a deleted skill too
         double hours = 0;
     };
     struct BiggestDay {
@@ -53,48 +52,48 @@ struct WrappedStats {
     // Of the records that ended in the period
     int sessionCount = 0;
     double totalHours = 0;
-    std::vector<SkillHours> skillHours;   ///< those with time, the most first
-    std::optional<Session> longest;       ///< the first with the most active seconds
-    std::optional<BiggestDay> biggestDay; ///< the last with the most hours
-    std::optional<QString> typicalStart;  ///< the middle start, the hour alone: "9 AM"
+    std::vector<SkillHours> skillHours;   ///< with time only, most first
+    std::optional<Session> longest;       ///< the first of equal ones
+    std::optional<BiggestDay> biggestDay; ///< the last of equal ones
+    std::optional<QString> typicalStart;  ///< hour of the median start: "9 AM"
     std::optional<StartRhythm> startRhythm;
 
     // Of the whole log
-    std::vector<WorkedDay> workedDays; ///< every day with a record, oldest first
-    std::vector<int> activeYears;      ///< with at least a second of work, latest first
+    std::vector<WorkedDay> workedDays; ///< each day with a record, oldest first
+    std::vector<int> activeYears;      ///< with work, latest first
 
-    std::vector<totals::Badge> milestones;     ///< earned in the period, by the whole log
-    std::vector<totals::DotRun> milestoneDots; ///< the whole log's hours; none without a milestone
+    std::vector<totals::Badge> milestones;     ///< earned in the period
+    std::vector<totals::DotRun> milestoneDots; ///< dots of the whole log; empty without a milestone
     double verifiedHours = 0;                  ///< tracked in the period
-    double manualHours = 0;                    ///< logged by hand
-    int notedSessionCount = 0;                 ///< with a note, be it blank
-    int activeDays = 0;                        ///< days with at least a second
+    double manualHours = 0;                    ///< added by hand
+    int notedSessionCount = 0;                 ///< with a note, even a blank one
+    int activeDays = 0;                        ///< days with work
     std::optional<WrappedNoteDigest> noteDigest;
     std::vector<totals::DotRun> hourDots; ///< the period's own wall of hours
 
-    std::optional<BuilderPersona> persona; ///< none where its window holds too little to judge
+    std::optional<BuilderPersona> persona; ///< empty when its window is too small
     int personaSessionCount = 0;           ///< in that window
-    QString personaScope;                  ///< what the window is: "this week"
+    QString personaScope;                  ///< the window as text: "this week"
 
     std::vector<SuperlativeLine> superlatives; ///< at most three
     int goalHitDays = 0;                       ///< days that reached the daily goal
-    std::optional<double> lastWeekHours;       ///< for a week: those of the week before
+    std::optional<double> lastWeekHours;       ///< hours of the previous week; for weeks only
 
-    /// The review of `period` over a log as TrackerCore::allSessions gives it, oldest first.
+    /// Computes the review of `period` from TrackerCore::allSessions, oldest first.
     [[nodiscard]] static WrappedStats compute(const std::vector<Session>& allSessions,
                                               WrappedPeriod period,
                                               const WrappedSettings& settings);
 
-    /// The skill with the most time in the period.
+    /// Returns the skill with the most time in the period.
     [[nodiscard]] std::optional<Skill> topSkill() const;
 
     /// "12.5 h across 9 sessions, led by Build."
     [[nodiscard]] QString closingLine(DurationStyle durationStyle) const;
 
-    /// Hours of the day that begins at `day`; 0 for one without records.
+    /// Returns the hours of the day that begins at `day`; 0 without records.
     [[nodiscard]] double dayHours(Date day) const;
 
-    /// The colour of the day that begins at `day`, 0xRRGGBB; none for one without records.
+    /// Returns the colour of the day that begins at `day`, 0xRRGGBB; empty without records.
     [[nodiscard]] std::optional<std::uint32_t> dayColor(Date day) const;
 };
 
