@@ -29,17 +29,17 @@ QImage scaled(const QImage& image, QSizeF size, double ratio) {
         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-/// The same memory with a pixel a point.
+/// Views the same memory with one pixel per point.
 QImage pixelsOf(QImage& frame) {
     return {frame.bits(), frame.width(), frame.height(), frame.bytesPerLine(), frame.format()};
 }
 
-/// On whole pixels, where the painter copies instead of stretching.
+/// Snaps to whole pixels, where QPainter copies instead of scaling.
 void drawAround(QPainter& painter, QPointF centre, const QImage& image) {
     painter.drawImage((centre - QRectF(image.rect()).center()).toPoint(), image);
 }
 
-/// The moment whose title shows at `t` where the title is all there is.
+/// Returns the time of the title to show when the title is all that plays.
 Seconds solidTime(Seconds t) { return std::max(t, Seconds(ceremonytimeline::titleStands)); }
 
 } // namespace

@@ -1,4 +1,4 @@
-// The native show on one screen: the field of dots, the title pill and the caption over it.
+// The native show on one screen: dots, title pill, caption.
 #pragma once
 
 #include "ceremony/show/FieldStretch.h"
@@ -14,7 +14,7 @@ namespace vantle {
 
 class CeremonyFrameRenderer;
 
-/// The shake of the burst moves all three.
+/// The shake of the burst moves all three. Main thread.
 class CeremonyLayerView final : public OverlayView {
 public:
     CeremonyLayerView(Date start, std::unique_ptr<CeremonyFrameRenderer> renderer);
@@ -24,23 +24,23 @@ public:
 
     [[nodiscard]] Seconds endTime() const override;
     void paint(QImage& frame, Seconds t) override;
-    /// The title alone, as it will stand: the show has no other part there, and its title would
-    /// come 1.7 s after the press.
+    /// Paints only the title, in its final form: no other part of the show can be opaque, and the
+    /// title would otherwise appear 1.7 s after the press.
     void paintSolid(QImage& frame, Seconds t) override;
-    /// The title pill, which has a ground of its own. Dots with nothing between them would make
-    /// every window below draw itself anew, thousands of times.
+    /// Returns the title pill, which has an opaque background. The dots are left out: a window
+    /// shaped like thousands of dots makes every window below redraw constantly.
     [[nodiscard]] QRegion solidPart(QSize size, Seconds t) const override;
 
 private:
-    /// The title and the caption in pixels of the frame, so that each is scaled but once.
+    /// Title and caption in pixels of the frame, so that each is scaled only once.
     struct Words {
-        double ratio = 0; ///< pixels a point
+        double ratio = 0; ///< pixels per point
         QImage title;
         QImage caption;
     };
 
     void scaleWords(double ratio);
-    /// The painter counts pixels, the size and the shake are points.
+    /// Size and shake in points; the painter uses pixels.
     void paintTitle(QPainter& painter, QSizeF size, QPointF shake, Seconds t) const;
 
     const std::unique_ptr<CeremonyFrameRenderer> m_renderer;

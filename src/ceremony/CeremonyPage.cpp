@@ -13,7 +13,7 @@ namespace vantle::ceremonypage {
 
 namespace {
 
-/// A session's end never plays on a page; it would be a full show there.
+/// The end of a session never plays a page; it would be a full show there.
 QString modeName(CeremonyShow show) {
     if (show.kind == CeremonyShow::Milestone) return QStringLiteral("milestone");
     return show.kind == CeremonyShow::Quick ? QStringLiteral("quick") : QStringLiteral("full");
@@ -23,8 +23,8 @@ QString hexText(std::uint32_t rgb) {
     return QStringLiteral("#%1").arg(rgb & 0xFFFFFFu, 6, 16, QLatin1Char('0')).toUpper();
 }
 
-/// JSON may hold characters that end a line or a script element where it stands in a script. Inside
-/// of texts, the only place for them, they can be written as escapes.
+/// Escapes characters that JSON allows but that end a line or a script element inside a script.
+/// They occur only in strings, where an escape is valid.
 QByteArray fitForScripts(const QByteArray& json) {
     QByteArray ascii;
     ascii.reserve(json.size());
@@ -49,7 +49,7 @@ QByteArray configuration(CeremonyShow show, CeremonyVariant variant, std::uint32
     const QJsonObject object{
         {QStringLiteral("variant"), QString(ceremonyvariant::name(variant))},
         {QStringLiteral("accent"), hexText(hexRGB)},
-        // Whoever wants less movement gets the fade, never a page.
+        // With reduced motion the fade plays, never a page.
         {QStringLiteral("reduced"), false},
         {QStringLiteral("mode"), modeName(show)},
         {QStringLiteral("milestone"),
@@ -76,14 +76,14 @@ bool mayLoad(const QString& page, const QUrl& address) {
     const QString scheme = address.scheme();
     if (scheme == QLatin1String("data") || scheme == QLatin1String("blob")) return true;
     if (scheme != QLatin1String("file") || !address.host().isEmpty()) return false;
-    // An escaped separator means one path to this code and another one to the engine.
+    // An escaped separator reads as another path here than in the engine.
     const QString escaped = address.path(QUrl::FullyEncoded);
     for (const char* separator : {"%2F", "%5C", "%00"})
         if (escaped.contains(QLatin1String(separator), Qt::CaseInsensitive)) return false;
     const QString path = address.toLocalFile();
     if (path == page) return true;
     const QFileInfo file(path);
-    // The canonical path of a file that is not there is empty, and below no folder.
+    // canonicalFilePath() is empty for a missing file, and thus outside every folder.
     return file.isFile() && file.canonicalFilePath().startsWith(
                                 QFileInfo(page).dir().canonicalPath() + QLatin1Char('/'));
 }

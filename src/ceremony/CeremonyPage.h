@@ -1,6 +1,6 @@
-// The contract with a ceremony page: what it is told before it begins, and what it says.
+// The protocol between the program and a ceremony page.
 //
-// Plain functions, usable on any thread.
+// Pure functions, any thread, except mayLoad().
 #pragma once
 
 #include "app/Collaborators.h"
@@ -13,25 +13,26 @@
 
 namespace vantle::ceremonypage {
 
-/// The page's configuration as a JSON object in ASCII, fit to stand in a script. `blackout` is how
-/// dark the page may make the screen. A title that is no Unicode text gives the plain one.
+/// Returns the page's configuration as an ASCII JSON object, safe inside a script. `blackout` is
+/// the maximum darkness of the screen, 0 to 1. A title that is not valid Unicode is replaced by the
+/// plain one.
 [[nodiscard]] QByteArray configuration(CeremonyShow show, CeremonyVariant variant,
                                        std::uint32_t hexRGB,
                                        const std::optional<QString>& skillName, bool blackout);
 
-/// The statement that gives the page its configuration.
+/// Returns the script statement that passes the configuration to the page.
 [[nodiscard]] QString script(const QByteArray& configuration);
 
 enum class Message {
-    None,    ///< anything else, to be ignored
+    None,    ///< unknown; ignored
     Started, ///< the page has begun its animation
     Done,    ///< the page has finished
 };
-/// What the body of a message says.
+/// Returns the meaning of a message's body.
 [[nodiscard]] Message messageOf(const QJsonValue& body);
 
-/// Whether the page in the file `page` may load `address`: itself, a file in its own folder or
-/// below it, or data that it carries along. A link counts as what it leads to. Reads the disk.
+/// Whether the page in the file `page` may load `address`: itself, a file in or below its own
+/// folder, or a data URL. Links are resolved. Reads the disk.
 [[nodiscard]] bool mayLoad(const QString& page, const QUrl& address);
 
 } // namespace vantle::ceremonypage

@@ -1,4 +1,4 @@
-// The end of a session: one ring that closes on the centre of the screen.
+// The end of a session: a ring that closes on the screen's centre.
 #pragma once
 
 #include "platform/OverlayView.h"
@@ -11,18 +11,18 @@
 
 namespace vantle {
 
-/// Slow at first, and more visible the smaller it gets.
+/// Accelerates, and gets more opaque as it shrinks. Main thread.
 class CollapseRippleView final : public OverlayView {
 public:
     static constexpr Seconds duration{0.6};
 
     struct Ring {
-        double radius = 0;    ///< points; at 1 and below nothing is drawn
+        double radius = 0;    ///< points; not drawn at 1 and below
         double lineWidth = 0; ///< points
         double opacity = 0;   ///< 0 to 1
         [[nodiscard]] bool isDrawn() const { return radius > 1; }
     };
-    /// The ring at that time on a screen of that size; none outside of the show.
+    /// Returns the ring at `t` on a screen of that size; empty outside of the show.
     [[nodiscard]] static std::optional<Ring> ringAt(QSizeF size, Seconds t);
 
     CollapseRippleView(Date start, std::uint32_t accent) : OverlayView(start), m_accent(accent) {}

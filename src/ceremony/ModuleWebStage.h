@@ -1,4 +1,4 @@
-// Pages shown by the module with the web engine, as far as both are there.
+// The loader of the module that shows ceremony pages.
 #pragma once
 
 #include "ceremony/WebStage.h"
@@ -11,15 +11,15 @@ class PanelHost;
 class Screens;
 class WebCeremonyModule;
 
-/// The module is loaded when there is a page to show, and not before: the engine takes a hundred
-/// megabytes, and gives nothing back. One that can't be loaded counts as missing for this run; so
-/// does any, unless AA_ShareOpenGLContexts was set before the application object was made: the
-/// engine would crash. Its windows take the presses over them where the desktop has no input
-/// regions: there it has no page either.
+/// Loads the module only for an existing page: the web engine takes a hundred megabytes and never
+/// releases them. A module that fails to load counts as missing for this run. So does every module
+/// unless AA_ShareOpenGLContexts was set before the application object was constructed: the engine
+/// would crash. Where the desktop has no input regions the windows would take presses, so there is
+/// no page either. Main thread.
 class ModuleWebStage final : public WebStage {
 public:
-    /// `modulePath` is the module's file; `findPage` gives the page's, empty where there is none.
-    /// `screens` and `host` must outlive this.
+    /// `modulePath` is the module's file; `findPage` returns the page's, empty when there is none.
+    /// `screens` and `host` must outlive this object.
     ModuleWebStage(QString modulePath, std::function<QString()> findPage, const Screens& screens,
                    PanelHost& host);
 

@@ -1,4 +1,4 @@
-// What people see who asked for less movement: the screen dims softly, and lights up again.
+// The ceremony with reduced motion: the screen dims and lights up again.
 #pragma once
 
 #include "platform/OverlayView.h"
@@ -10,17 +10,17 @@
 
 namespace vantle {
 
-/// A breath of dark with a glow of the skill's colour in the centre.
+/// A short dimming with a glow of the skill's colour in the centre. Main thread.
 class ReducedMotionFadeView final : public OverlayView {
 public:
     static constexpr Seconds duration{0.9};
 
     struct Frame {
-        double black = 0;  ///< opacity of the dark over the whole screen
-        double centre = 0; ///< opacity of the glow at its centre, falling to 0 at the radius
+        double black = 0;  ///< opacity of the black over the whole screen
+        double centre = 0; ///< opacity of the glow at its centre; 0 at the radius
         double radius = 0; ///< points
     };
-    /// The frame at that time; none outside of the show.
+    /// Returns the frame at `t`; empty outside of the show.
     [[nodiscard]] static std::optional<Frame> frameAt(Seconds t);
 
     ReducedMotionFadeView(Date start, std::uint32_t accent)
@@ -29,7 +29,7 @@ public:
 
     [[nodiscard]] Seconds endTime() const override { return duration; }
     void paint(QImage& picture, Seconds t) override;
-    /// Nothing: a fade is all transparency.
+    /// Empty: all of a fade is translucent.
     [[nodiscard]] QRegion solidPart(QSize, Seconds) const override { return {}; }
 
 private:

@@ -22,14 +22,14 @@ namespace vantle {
 
 namespace {
 
-/// How long after the end of a view its windows go.
+/// How long the windows outlive the last frame.
 constexpr Seconds kAfterView{0.25};
 
 constexpr int kVariantCount = static_cast<int>(ceremonyvariant::all.size());
 
 } // namespace
 
-/// What `prepQueue` hands back for one screen.
+/// The result of `prepQueue` for one screen.
 struct RippleOverlayController::Prepared {
     QRect frame;
     std::unique_ptr<CeremonyFrameRenderer> renderer;
@@ -37,7 +37,7 @@ struct RippleOverlayController::Prepared {
 
 RippleOverlayController::RippleOverlayController(Environment environment)
     : m_env(std::move(environment)) {
-    // A show that plays when the user asks for less movement is over; the next one is the fade.
+    // Reduced motion ends a running show; the next one is the fade.
     connect(&m_env.reducedMotion, &ReducedMotion::changed, this, [this] {
         if (m_env.reducedMotion.enabled()) dismiss();
     });
@@ -103,9 +103,9 @@ void RippleOverlayController::play(CeremonyShow show, std::uint32_t hexRGB,
 }
 
 void RippleOverlayController::dismiss() {
-    // Empty before any of them goes: a window may report something while it is destroyed.
+    // Emptied first: a window may report something during its destruction.
     const auto windows = std::exchange(m_windows, {});
-    // What windows and views took lies between other blocks of the heap, which would keep it.
+    // malloc keeps what windows and views freed between other blocks, until trimmed.
     if (!windows.empty()) m_env.scheduler.post([] { malloc_trim(0); });
 }
 
@@ -121,7 +121,7 @@ void RippleOverlayController::playNative(CeremonyVariant variant,
     m_env.prepQueue.async([prepare = m_env.prepare, &scheduler = m_env.scheduler,
                            frames = m_env.stage.frames(), variant, skillName, start,
                            generation = m_generation, self = QPointer(this)] {
-        // Shared, since posted work has to be copyable.
+        // shared_ptr, since posted work must be copyable.
         const auto prepared = std::make_shared<std::vector<Prepared>>();
         for (const QRect& frame : frames)
             prepared->push_back({frame, prepare(variant, frame.size(), skillName)});
@@ -134,7 +134,7 @@ void RippleOverlayController::playNative(CeremonyVariant variant,
 void RippleOverlayController::showPrepared(std::vector<Prepared>& prepared, Date start) {
     const std::vector<QRect> frames = m_env.stage.frames();
     for (Prepared& screen : prepared) {
-        // A screen that was unplugged meanwhile.
+        // The screen was unplugged in the meantime.
         if (std::ranges::find(frames, screen.frame) == frames.end()) continue;
         m_windows.push_back(m_env.stage.putUp(
             screen.frame, std::make_unique<CeremonyLayerView>(start, std::move(screen.renderer))));
@@ -163,7 +163,7 @@ void RippleOverlayController::receive(int generation, const QJsonValue& body) {
     if (generation != m_generation) return;
     switch (ceremonypage::messageOf(body)) {
     case ceremonypage::Message::Started:
-        // One page can move the stop once, and none can keep it away.
+        // A page can extend the hard stop only once.
         if (std::exchange(m_didRearmHardStop, true)) return;
         return armHardStop(generation);
     case ceremonypage::Message::Done:

@@ -1,4 +1,4 @@
-// Decides what is played over the screens when a session starts or ends, and sees that it goes.
+// The choice and the control of the ceremony over the screens.
 #pragma once
 
 #include "app/Collaborators.h"
@@ -21,20 +21,20 @@ class RandomSource;
 class ReducedMotion;
 class SerialQueue;
 
-/// Nobody ever has to look at a stuck show: whatever a page, a screen or a slow machine does, a
-/// hard stop takes all windows down, and every show has a number without which late callbacks do
-/// nothing. Main thread only; what is heavy is made ready on `prepQueue`.
+/// A show cannot get stuck: a hard stop removes all windows whatever a page, a screen or a slow
+/// machine does, and callbacks with the number of an earlier show are ignored. Main thread;
+/// expensive work runs on `prepQueue`.
 class RippleOverlayController final : public QObject, public collaborators::Ripple {
     Q_OBJECT
 
 public:
     static constexpr const char* prepQueueLabel = "local.vantle.ceremony-prep";
 
-    /// Makes the native show of one screen ready. Called on `prepQueue`.
+    /// Prepares the native show of one screen, on `prepQueue`.
     using Prepare = std::function<std::unique_ptr<CeremonyFrameRenderer>(
         CeremonyVariant, QSizeF, const std::optional<QString>& skillName)>;
 
-    /// All of it must outlive the controller, and `scheduler` the queue.
+    /// All of it must outlive the controller; `scheduler` must outlive the queue.
     struct Environment {
         const Clock& clock;
         Scheduler& scheduler;
@@ -43,34 +43,32 @@ public:
         const ReducedMotion& reducedMotion;
         OverlayStage& stage;
         WebStage& web;
-        RandomSource& random; ///< chooses the variants; main thread
+        RandomSource& random; ///< chooses the variants, on the main thread
         Prepare prepare;
     };
 
     explicit RippleOverlayController(Environment environment);
 
-    /// Cuts off what plays and plays this, over every screen. Nothing at all happens while the
-    /// user has the ceremony switched off, nor where a window over the screen would swallow
-    /// presses.
+    /// Stops the running show and plays this one on every screen. Has no effect when the user has
+    /// switched ceremonies off, or where a window over the screen would take presses.
     void play(CeremonyShow show, std::uint32_t hexRGB,
               const std::optional<QString>& skillName) override;
 
-    /// Takes all windows down. The hard stop stays armed, and finds nothing.
+    /// Removes all windows. The hard stop stays armed and finds none.
     void dismiss();
 
-    /// A page of the show with that number posted a message. Garbage, and what comes from an
-    /// earlier show, is ignored.
+    /// A page of show `generation` posted a message. Ignores invalid messages and earlier shows.
     void receive(int generation, const QJsonValue& body);
 
-    /// How long after `play`, or after a page has begun, all windows go in any case.
+    /// Returns the time after `play`, or after a page has begun, at which all windows are removed.
     [[nodiscard]] static Seconds hardStopSeconds(CeremonyShow show);
 
-    /// The ways of playing a show. The first that applies, from the top, but for the last.
+    /// The ways to play a show. The first applicable one is taken; Nothing is the exception.
     enum class Path { Fade, Collapse, Web, Native, Nothing };
     [[nodiscard]] static Path pathOf(CeremonyShow show, bool reducedMotion, bool pageExists);
 
-    /// One of the variants but the last one played, all of them equally likely; `uniform` chooses.
-    /// -1 stands for none played.
+    /// Returns the index of a variant other than the last one (-1 for none), with equal
+    /// probability, chosen by `uniform`.
     [[nodiscard]] static int pickIndex(int lastVariantIndex, double uniform);
 
     // State, for tests
@@ -105,11 +103,11 @@ private:
     std::vector<std::unique_ptr<OverlayWindow>> m_windows;
     int m_generation = 0;
     TimerHandle m_hardStopWorkItem;
-    bool m_didRearmHardStop = false; ///< the page's "started" has been honoured
+    bool m_didRearmHardStop = false; ///< the page's "started" was accepted
     int m_webViewCount = 0;
     int m_webDoneCount = 0;
     int m_lastVariantIndex = -1;
-    std::list<TimerHandle> m_dismissals; ///< of views, one for each show that is not past its end
+    std::list<TimerHandle> m_dismissals; ///< one for each view that has not ended
 };
 
 } // namespace vantle

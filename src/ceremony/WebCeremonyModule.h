@@ -1,4 +1,4 @@
-// What the module with the web engine offers the program, which is built without one.
+// The interface of the web engine module, which the program does not link.
 #pragma once
 
 #include "ceremony/WebStage.h"
@@ -10,13 +10,13 @@ namespace vantle {
 class PanelHost;
 class Screens;
 
-/// Loaded at the first show that has a page, and kept. Main thread.
+/// Loaded at the first show with a page, then kept. Main thread.
 class WebCeremonyModule {
 public:
     virtual ~WebCeremonyModule() = default;
 
-    /// Loads the file `page` over the screen with that frame, as WebStage says; `screens` and
-    /// `host` must outlive the window. Null when that can't be done here.
+    /// Shows the file `page` on the screen with that frame, as WebStage describes; `screens` and
+    /// `host` must outlive the window. Returns null when that is impossible.
     [[nodiscard]] virtual std::unique_ptr<OverlayWindow>
     putUp(const QRect& frame, const Screens& screens, PanelHost& host, const QString& page,
           const QString& script, WebStage::MessageHandler message) = 0;
@@ -24,5 +24,5 @@ public:
 
 } // namespace vantle
 
-// Another number whenever the class changes, so that a module of another build is left alone.
+// Increment with each change of the class, so that a module of another build is refused.
 Q_DECLARE_INTERFACE(vantle::WebCeremonyModule, "local.vantle.WebCeremonyModule/3")

@@ -1,4 +1,4 @@
-// How the ceremony's pages come over the screens.
+// The display of ceremony pages over screens.
 #pragma once
 
 #include "platform/OverlayStage.h"
@@ -13,23 +13,22 @@
 
 namespace vantle {
 
-/// Puts web pages over screens, where there is a page and something that can show it. The bodies
-/// here are those of a desktop without. Main thread.
+/// The bodies here are those of a desktop that cannot show pages. Main thread.
 class WebStage {
 public:
     virtual ~WebStage() = default;
 
-    /// Whether there is a page and all that it takes. Asked at each show.
+    /// Whether a page and everything it needs exist. Checked for each show.
     [[nodiscard]] virtual bool hasPage() { return false; }
 
-    /// As OverlayStage has them.
+    /// The screens, as in OverlayStage.
     [[nodiscard]] virtual std::vector<QRect> frames() const { return {}; }
 
-    /// Called with the body of each message that the page posts, whatever it is.
+    /// Called with the body of each message that the page posts, valid or not.
     using MessageHandler = std::function<void(const QJsonValue& body)>;
 
-    /// Loads the page over the screen with that frame; `script` runs in it before any script of its
-    /// own. A page that fails to load, or crashes, just sends nothing. Never null.
+    /// Shows the page on the screen with that frame; `script` runs in it before the page's own
+    /// scripts. A page that fails to load, or crashes, sends no messages. Never null.
     [[nodiscard]] virtual std::unique_ptr<OverlayWindow>
     putUp(const QRect& /*frame*/, const QString& /*script*/, MessageHandler) {
         return std::make_unique<OverlayWindow>();

@@ -8,7 +8,7 @@ namespace vantle {
 
 namespace {
 
-/// Modifiers in the order in which they are read.
+/// In the order of the accelerator text.
 const QStringList kModifiers{QStringLiteral("Ctrl"), QStringLiteral("Alt"), QStringLiteral("Shift"),
                              QStringLiteral("Super")};
 

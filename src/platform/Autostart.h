@@ -1,11 +1,11 @@
-// Whether the program starts when the person logs in.
+// The port of starting the program at login.
 #pragma once
 
 #include "base/Result.h"
 
 namespace vantle {
 
-/// The login item. Main thread; small file work.
+/// Main thread; reads or writes small files.
 class Autostart {
 public:
     virtual ~Autostart() = default;

@@ -1,4 +1,6 @@
-// The sources of a desktop that tells nothing of its user.
+// The ports of a desktop that reports nothing about its user.
+//
+// Main thread.
 #pragma once
 
 #include "platform/FrontmostApp.h"
@@ -6,7 +8,7 @@
 
 namespace vantle {
 
-/// No application is in front, as far as can be told.
+/// Reports no application in front.
 class NoFrontmostApp final : public FrontmostApp {
 public:
     [[nodiscard]] std::optional<Application> frontmost() override { return std::nullopt; }

@@ -7,8 +7,8 @@
 
 namespace vantle {
 
-/// Asleep while any cause holds. Tells `slept` when the first begins and `woke` when the last has
-/// ended, however they overlap. For sources of it to derive from; main thread.
+/// Asleep while any cause holds: emits `slept` when the first begins and `woke` when the last ends.
+/// A base class for sources. Main thread.
 class CausedScreenPower : public ScreenPower {
     Q_OBJECT
 
@@ -16,12 +16,12 @@ public:
     [[nodiscard]] bool asleep() const override { return m_causes != 0; }
 
 protected:
-    /// Whether that cause (0 to 31) holds now. Emits within the call; telling the same twice is of
-    /// no effect.
+    /// Sets whether that cause (0 to 31) holds. Emits within the call; repeated values have no
+    /// effect.
     void setCause(unsigned cause, bool holds);
 
 private:
-    std::uint32_t m_causes = 0; ///< one bit a cause
+    std::uint32_t m_causes = 0; ///< one bit per cause
 };
 
 } // namespace vantle

@@ -7,18 +7,18 @@
 
 namespace vantle {
 
-/// Main thread. Opening returns at once; a desktop without a file manager shows nothing.
+/// Main thread. Opening returns immediately; without a file manager nothing is shown.
 class FileManager {
 public:
     virtual ~FileManager() = default;
 
-    /// Shows the file's folder, with the file selected where the file manager can.
+    /// Shows the file's folder, with the file selected where supported.
     virtual void reveal(const QString& path) = 0;
 
     /// Shows the content of the folder.
     virtual void openFolder(const QString& path) = 0;
 
-    /// Puts a file or folder into the trash. Blocks.
+    /// Moves a file or folder to the trash. Blocks.
     [[nodiscard]] virtual Result<> moveToTrash(const QString& path) = 0;
 };
 

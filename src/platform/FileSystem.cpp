@@ -8,8 +8,8 @@ Result<QByteArray> FileSystem::readAll(const QString& path) {
     const auto size = file.value()->size();
     if (!size) return size.error();
 
-    // One byte more than expected, so that the usual file ends in the first round; a file that
-    // grows meanwhile, or that does not tell its size, is still read to its end.
+    // One byte more than expected, so that a usual file needs one round; a file that grows, or
+    // reports no size, is still read to its end.
     QByteArray content;
     qint64 filled = 0;
     for (qint64 room = size.value() + 1;; room = content.size()) {

@@ -1,8 +1,8 @@
-// The one door to data files.
+// The port of data files.
 //
-// Small operations of the operating system, each with a Result that names operation and file. Real
-// in posix/; in tests one in memory that can crash and forget what was not synced, and a faulty one
-// that fails at a chosen call. All calls block; those on data files run on their I/O queue.
+// Small file operations; each Result names operation and file. Real in posix/; tests use one in
+// memory that can crash and lose unsynced data, and one that fails at a chosen call. All calls
+// block; those on data files run on their I/O queue.
 #pragma once
 
 #include "base/Result.h"
@@ -15,7 +15,7 @@
 
 namespace vantle {
 
-/// An open file. The destructor closes it and drops a failure of that.
+/// An open file. The destructor closes it and ignores failures.
 class File {
 public:
     virtual ~File() = default;
@@ -23,8 +23,8 @@ public:
     /// Reads up to `capacity` bytes at the read position into `buffer`; 0 at the end of the file.
     virtual Result<qint64> read(char* buffer, qint64 capacity) = 0;
 
-    /// Writes all of `bytes`: at the end for a file opened to append, else at the write position.
-    /// On failure part of them may have been written.
+    /// Writes all of `bytes`: at the end of a file opened to append, else at the write position. On
+    /// failure a part may be written.
     virtual Result<> write(QByteArrayView bytes) = 0;
 
     /// The length in bytes.
@@ -33,14 +33,14 @@ public:
     /// Cuts the file to `size` bytes.
     virtual Result<> truncate(qint64 size) = 0;
 
-    /// Returns when the content is on the disk.
+    /// Returns once the content is on disk.
     virtual Result<> sync() = 0;
 
-    /// Closes the file and tells whether that worked. Nothing else may be called afterwards.
+    /// Closes the file and returns whether that succeeded. No call may follow.
     virtual Result<> close() = 0;
 };
 
-/// An exclusive lock, held until destroyed or until the process ends, however it ends.
+/// An exclusive lock, held until destruction or the end of the process.
 class FileLock {
 public:
     virtual ~FileLock() = default;
@@ -53,49 +53,50 @@ public:
     enum class OpenMode {
         Read,
         Append,    ///< existing file, writes go to its end
-        CreateNew, ///< fails when something is there; born with mode 0600, for writing
+        CreateNew, ///< fails when the path exists; mode 0600, for writing
     };
 
     virtual Result<std::unique_ptr<File>> open(const QString& path, OpenMode mode) = 0;
 
-    /// Whether something stands at the path, of whatever kind; symbolic links are followed.
+    /// Whether anything exists at the path; follows symbolic links.
     [[nodiscard]] virtual bool exists(const QString& path) = 0;
 
-    /// Makes the directory and the missing ones above it. `mode` is what the new ones get, less
-    /// nothing; without it the platform's usual mode. A directory that is there is no failure.
+    /// Creates the directory and missing parents. New directories get exactly `mode`; the umask is
+    /// not applied. Without it they get the platform's default. An existing directory is no
+    /// failure.
     virtual Result<> makeDirectories(const QString& path, std::optional<int> mode) = 0;
 
-    /// Renames over whatever stands at `to`, in one step.
+    /// Renames atomically; replaces `to`.
     virtual Result<> rename(const QString& from, const QString& to) = 0;
 
-    /// Removes a file. One that is not there is a failure. Never removes a directory.
+    /// Removes a file. Fails when it is missing, and for a directory.
     virtual Result<> remove(const QString& path) = 0;
 
     virtual Result<> setMode(const QString& path, int mode) = 0;
     virtual Result<int> mode(const QString& path) = 0;
 
-    /// The mode that this person's programs give to new files.
+    /// The mode of the user's new files (0666 less the umask).
     [[nodiscard]] virtual int usualMode() { return kUsualMode; }
     static constexpr int kUsualMode = 0644;
 
-    /// Returns when creations, renames and removals in the directory are on the disk.
+    /// Returns once creations, renames and removals in the directory are on disk.
     virtual Result<> syncDirectory(const QString& path) = 0;
 
-    /// The outcome of `lock`.
+    /// The result of `lock`.
     enum class LockOutcome {
-        Held,         ///< ours until the lock is destroyed
-        TakenByOther, ///< another process or another open of it holds it
-        Unavailable,  ///< the file can't be opened, or its file system has no locks
+        Held,         ///< held until the lock is destroyed
+        TakenByOther, ///< another process, or another open file, holds it
+        Unavailable,  ///< the file cannot be opened, or its file system has no locks
     };
     struct LockAttempt {
         LockOutcome outcome = LockOutcome::Unavailable;
-        std::unique_ptr<FileLock> lock; ///< set exactly when Held
+        std::unique_ptr<FileLock> lock; ///< set if and only if Held
     };
 
-    /// Opens or creates the file (mode 0600) and takes its exclusive lock without waiting.
+    /// Opens or creates the file (mode 0600) and tries its exclusive lock without waiting.
     [[nodiscard]] virtual LockAttempt lock(const QString& path) = 0;
 
-    /// The whole file.
+    /// Reads the whole file.
     Result<QByteArray> readAll(const QString& path);
 };
 

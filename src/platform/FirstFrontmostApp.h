@@ -1,4 +1,4 @@
-// Several sources of the application in front, of which the first that can tell is asked.
+// The first of several sources of the frontmost application that works.
 #pragma once
 
 #include "platform/FrontmostApp.h"
@@ -9,9 +9,8 @@
 
 namespace vantle {
 
-/// Which one that is may change while the program runs: services of a desktop come and go. The
-/// order is that of the vector. What is told is a change of application or of coverage, whichever
-/// source brings it. Main thread.
+/// The working source can change, as services of a desktop come and go. Precedence is the vector's
+/// order. Reports a change of application or of coverage whichever source causes it. Main thread.
 class FirstFrontmostApp final : public FrontmostApp {
     Q_OBJECT
 
@@ -20,7 +19,7 @@ public:
 
     [[nodiscard]] std::optional<Application> frontmost() override;
     [[nodiscard]] AppCoverage coverage() const override;
-    /// That of the first source that has any, while not all applications are told.
+    /// Returns the first source's help offer, unless all applications are covered.
     [[nodiscard]] FrontmostHelp help() const override;
     void acceptHelp() override;
 

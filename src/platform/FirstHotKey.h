@@ -1,4 +1,4 @@
-// Several ways to the shortcut, of which the first that is offered is used.
+// The first of several ways to the shortcut that is offered.
 #pragma once
 
 #include "platform/OfferedHotKey.h"
@@ -9,10 +9,10 @@
 
 namespace vantle {
 
-/// Which one that is may change while the program runs; one way is given up before the next is
-/// taken. As long as an earlier one is unknown, no later one is used. The order is that of the
-/// vector, but what takes the user's word comes last unless the user has given it. Without any the
-/// shortcut is never offered. Main thread.
+/// The way can change at run time; the old one is released before the new one is taken. While an
+/// earlier way is unknown, no later one is used. Precedence is the vector's order, but ways that
+/// need the user's consent come last until given. Without any way the shortcut is NotOffered. Main
+/// thread.
 class FirstHotKey final : public HotKeyPort {
 public:
     explicit FirstHotKey(std::vector<std::unique_ptr<OfferedHotKey>> ways);
@@ -36,10 +36,10 @@ private:
 
     std::vector<std::unique_ptr<OfferedHotKey>> m_ways;
     std::function<void()> m_pressed;
-    QString m_allowed;                ///< way that the user has allowed
+    QString m_allowed;                ///< the way that the user has allowed
     bool m_isWanted = false;          ///< from `registerKey` to `unregisterKey`
-    OfferedHotKey* m_taken = nullptr; ///< the way that is used
-    Outcome m_outcome;                ///< as told last
+    OfferedHotKey* m_taken = nullptr; ///< the way in use
+    Outcome m_outcome;                ///< as reported last
 };
 
 } // namespace vantle

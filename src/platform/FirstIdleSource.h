@@ -1,4 +1,4 @@
-// Several idle sources, of which the first that can tell is asked.
+// The first of several idle sources that works.
 #pragma once
 
 #include "platform/IdleSource.h"
@@ -8,8 +8,8 @@
 
 namespace vantle {
 
-/// Which one that is may change while the program runs: services of a desktop come and go. The
-/// order is that of the vector. Main thread.
+/// The working source can change, as services of a desktop come and go. Precedence is the vector's
+/// order. Main thread.
 class FirstIdleSource final : public IdleSource {
 public:
     explicit FirstIdleSource(std::vector<std::unique_ptr<IdleSource>> sources);

@@ -1,4 +1,4 @@
-// The overlays of the first stage that is available, of several.
+// The overlays of the first available stage.
 #pragma once
 
 #include "platform/OverlayStage.h"
@@ -9,8 +9,8 @@
 
 namespace vantle {
 
-/// Which one it is may change between two calls: a frame of one stage is then no screen of the
-/// other, or the same one.
+/// The stage can change between two calls; a frame of one stage need not be a screen of the other.
+/// Main thread.
 class FirstOverlayStage final : public OverlayStage {
 public:
     /// The best first.

@@ -1,4 +1,4 @@
-// Which application is in front.
+// The port of the application in front.
 #pragma once
 
 #include <QObject>
@@ -8,61 +8,60 @@
 
 namespace vantle {
 
-/// An application as the desktop knows it. What the desktop can't tell of it is an empty text.
+/// An application as the desktop knows it. Unknown parts are empty.
 struct Application {
-    QString bundleId; ///< stable identity, as in a desktop entry's id without its suffix
-    QString name;     ///< as people call it, in their language
+    QString bundleId; ///< stable identity: a desktop entry's id without suffix
+    QString name;     ///< display name in the user's language
     friend bool operator==(const Application&, const Application&) = default;
 };
 
-/// This program, when one of its windows is in front.
+/// The identity reported when one of the program's own windows is in front.
 [[nodiscard]] inline Application ourselves() {
     return {QStringLiteral("local.vantle.Vantle"), QStringLiteral("Vantle")};
 }
 
-/// Two that the tables know as one are one: a switch between them is none.
+/// Whether both are one application to auto mode's tables; a switch between them does not count.
 [[nodiscard]] inline bool sameApplication(const std::optional<Application>& a,
                                           const std::optional<Application>& b) {
     if (!a || !b) return a.has_value() == b.has_value();
     return a->bundleId == b->bundleId;
 }
 
-/// The applications that a desktop tells about when they come to the front.
+/// The applications whose activation the desktop reports.
 enum class AppCoverage {
     All,
-    Some, ///< the others have the keyboard without a word, and nothing is in front then
-    None, ///< the desktop can't tell at all
+    Some, ///< others get the keyboard unreported; nothing is in front then
+    None, ///< the desktop reports none
 };
 
-/// A part of the desktop that would tell more, once the user switches it on.
+/// A part of the desktop that would report more once the user enables it.
 enum class FrontmostHelp {
     None,
     Offered,
-    Asked,   ///< accepted; the desktop has not done it yet
-    Refused, ///< accepted, and the desktop did not do it
-    AtLogin, ///< installed since the user logged in: the desktop sees it at the next login
+    Asked,   ///< accepted, not done yet
+    Refused, ///< accepted, but the desktop did not do it
+    AtLogin, ///< installed since login: the desktop loads it at the next login
 };
 
-/// Tells which application has the keyboard, now and whenever that changes. Main thread, the
-/// signals included.
+/// Reports which application has the keyboard, now and on each change. Main thread, the signals
+/// included.
 class FrontmostApp : public QObject {
     Q_OBJECT
 
 public:
-    /// The application that has the keyboard now. Empty when none has, or when the desktop can't
-    /// tell.
+    /// Returns the application with the keyboard; empty when there is none or it is unknown.
     [[nodiscard]] virtual std::optional<Application> frontmost() = 0;
 
-    /// What this desktop can tell at all. `frontmost` alone does not say it: with `All` it is empty
-    /// while no application is in front.
+    /// What this desktop can report. Tells an empty `frontmost` apart: with `All` no application is
+    /// in front.
     [[nodiscard]] virtual AppCoverage coverage() const = 0;
 
     [[nodiscard]] virtual FrontmostHelp help() const { return FrontmostHelp::None; }
-    /// Switches the help on, where it is offered or was refused. The user has pressed for it.
+    /// Enables the help that is offered or was refused. Call only when the user asked for it.
     virtual void acceptHelp() {}
 
 Q_SIGNALS:
-    /// Another application came to the front, or the same one again. Empty when none is in front.
+    /// An application came to the front, possibly the same again; empty for none.
     void activated(const std::optional<vantle::Application>& app);
     void coverageChanged();
     void helpChanged();

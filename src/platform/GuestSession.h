@@ -1,4 +1,6 @@
-// The session in which a part of the desktop can't be seen, in the user's words.
+// The user's term for a session of another display server.
+//
+// Any thread.
 #pragma once
 
 #include "base/Words.h"
@@ -7,9 +9,8 @@
 
 namespace vantle {
 
-/// What users know a session by in which the program's windows are guests of another display
-/// server: there a shortcut is not heard over every application, and windows without an input
-/// region swallow clicks.
+/// For texts about sessions in which the program's windows run under another display server:
+/// shortcuts work over some windows only, and windows without an input region take clicks.
 [[nodiscard]] inline QString guestSession() { return Words::tr("Wayland session"); }
 
 } // namespace vantle

@@ -1,4 +1,4 @@
-// Tells the press of a shortcut from those that follow while it is held down.
+// The filter of key repeats from a shortcut service.
 #pragma once
 
 #include "base/Clock.h"
@@ -7,15 +7,15 @@
 
 namespace vantle {
 
-/// Services of shortcuts repeat a press about 25 times a second while the key is held, and tell the
-/// release once. Of a service that has told no release so far, a press counts a second after the
-/// last one. Main thread.
+/// Services repeat a press about 25 times a second while the key is held, and report the release
+/// once. Until a service has reported a release, a press counts one second after the last. Main
+/// thread.
 class HeldKey {
 public:
     /// `clock` must outlive this.
     explicit HeldKey(const Clock& clock) : m_clock(clock) {}
 
-    /// Whether this press is a new one.
+    /// Returns whether this press is a new one.
     [[nodiscard]] bool pressed() {
         const Seconds now = m_clock.uptime().awake;
         const bool isLate = !m_tellsReleases && now - m_lastPress > kLongestPause;
@@ -26,11 +26,11 @@ public:
         m_isDown = false;
         m_tellsReleases = true;
     }
-    /// Nothing of what was told before counts.
+    /// Forgets all earlier events.
     void forget() { m_isDown = m_tellsReleases = false; }
 
 private:
-    /// Longer than the usual pause before a held key repeats.
+    /// Longer than the usual delay of key repeat.
     static constexpr Seconds kLongestPause{1.0};
 
     const Clock& m_clock;

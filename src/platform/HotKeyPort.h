@@ -1,4 +1,4 @@
-// The system-wide shortcut, as the desktop offers it.
+// The port of the system-wide shortcut.
 #pragma once
 
 #include <QString>
@@ -7,13 +7,13 @@
 
 namespace vantle {
 
-/// Takes the one fixed combination, Alt+Super+B. Main thread throughout, the handler included.
+/// Registers one fixed combination, Alt+Super+B. Main thread, the handler included.
 class HotKeyPort {
 public:
     virtual ~HotKeyPort() = default;
 
-    /// Makes presses reach `pressed`. 0 on success, else the platform's status; then there is no
-    /// way of hearing keys at all. A press that is held down reaches `pressed` once.
+    /// Sends presses to `pressed`. Returns 0, or the platform's status when keys cannot be received
+    /// at all. A held key calls `pressed` once.
     [[nodiscard]] virtual int installHandler(std::function<void()> pressed) = 0;
     virtual void removeHandler() = 0;
 
@@ -21,44 +21,43 @@ public:
         Registered,
         HeldByAnother,
         Failed,
-        Waiting,     ///< the desktop has been asked and has not answered yet
-        NotAllowed,  ///< it can be had, once the user has allowed it: `allow`
-        KeysRemoved, ///< the user left the shortcut without keys in the desktop's own settings
-        NotOffered,  ///< this desktop gives no keys to programs, at least for now
+        Waiting,     ///< asked; no answer yet
+        NotAllowed,  ///< available once the user allows it: `allow`
+        KeysRemoved, ///< the user removed the keys in the desktop's settings
+        NotOffered,  ///< this desktop offers no shortcuts, at least for now
     };
     struct Outcome {
         Registration registration = Registration::Failed;
         int status = 0; ///< the platform's status when Failed
-        /// As the user reads them, where the desktop's settings have other keys than the fixed
-        /// combination; empty otherwise.
+        /// The keys as text for the user, where the desktop's settings have other ones; empty
+        /// otherwise.
         QString keys = {};
         friend bool operator==(const Outcome&, const Outcome&) = default;
     };
 
-    /// Takes the combination, in every state of the lock keys or not at all. HeldByAnother and
-    /// Failed are the end of the attempt; after any other answer the port follows the desktop until
-    /// `unregisterKey`. The user's own choice of keys in the desktop's settings is kept.
+    /// Registers the combination for every state of the lock keys, or not at all. HeldByAnother and
+    /// Failed end the attempt; otherwise the port follows the desktop until `unregisterKey`. Keeps
+    /// keys that the user chose in the desktop's settings.
     [[nodiscard]] virtual Outcome registerKey() = 0;
     virtual void unregisterKey() = 0;
 
-    /// The way to the combination that is in use, where it takes the user's word, since the desktop
-    /// asks the user or is written to; empty elsewhere. May change whenever the outcome does.
+    /// The way in use, if it needs the user's consent because the desktop asks the user or its
+    /// settings are written; empty otherwise. May change together with the outcome.
     [[nodiscard]] virtual QString wayToAllow() const { return {}; }
-    /// Which way the user allowed in a former run; empty for none. Before `registerKey`, which then
-    /// takes that way without a word.
+    /// Restores the way that the user allowed in an earlier run; empty for none. Call before
+    /// `registerKey`, which then needs no new consent.
     virtual void recallAllowed(const QString& way) { (void)way; }
-    /// The user allows `wayToAllow`, or switches it off, which leaves nothing of it. Requires that
-    /// it is not empty, and that the key is registered, whatever came of that. Answers as
-    /// `registerKey`. An outcome of NotAllowed is the end of an allowance.
+    /// The user allows `wayToAllow`, or withdraws it and everything it left. Requires a non-empty
+    /// way and a call of `registerKey` before. Returns like `registerKey`; the outcome NotAllowed
+    /// ends an allowance.
     [[nodiscard]] virtual Outcome allow(bool allowed) {
         (void)allowed;
         return {};
     }
 
-    /// Called with the answer that `registerKey` left open, when a combination is lost, as by a
-    /// change of the keyboard map, and when it is held again; never from within a call of this
-    /// port. After a loss the port tries again by itself, until `unregisterKey`. Set by the owner;
-    /// may be empty.
+    /// Called with the pending answer to `registerKey`, when a combination is lost (such as by a
+    /// change of the keyboard map), and when it is held again; never from inside a call of this
+    /// port. After a loss the port retries until `unregisterKey`. Set by the owner; may be empty.
     std::function<void(const Outcome&)> onOutcomeChanged;
 };
 

@@ -14,8 +14,8 @@ IdleEvents::IdleEvents(const Clock& clock)
 void IdleEvents::idled() {
     const Clock::Uptime now = m_clock.uptime();
     const Seconds inputAt = now.awake - shortWhile;
-    // An input before the last moment known came before any sleep since. Of a later one and a
-    // sleep, which came first can't be told: the user counts as back.
+    // Input before the last known moment precedes any sleep since. For later input the order is
+    // unknown: the user counts as back.
     if (inputAt > m_input.awake)
         m_input = {now.total - shortWhile, inputAt};
     else
@@ -37,7 +37,7 @@ double IdleEvents::secondsSinceLastInput() {
     if (m_isIdle) return (now.total - m_input.total).count();
     const Seconds awake = now.awake - m_input.awake;
     const Seconds slept = now.total - m_input.total - awake;
-    // There was an input within the last short while; before a sleep, where that lies within it.
+    // There was input within `shortWhile`; before a sleep, if that lies within it.
     if (slept >= MissedTime::shortestSleep && awake < shortWhile)
         return (now.total - m_input.total).count();
     m_input = now;

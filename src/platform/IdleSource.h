@@ -1,4 +1,4 @@
-// How long the person has not touched keyboard or mouse.
+// The port of the idle time.
 #pragma once
 
 #include <QObject>
@@ -12,13 +12,13 @@ class IdleSource : public QObject {
     Q_OBJECT
 
 public:
-    /// Seconds since the last input of this desktop session: keys, modifiers, buttons, motion and
-    /// wheel. Sleep of the machine is part of them, although most counters stand still in it. Empty
-    /// where the desktop can't tell, or can't tell now; that is neither presence nor absence, and
-    /// is never taken for either. One round trip to the display server at the most.
+    /// Seconds since the last input in this desktop session: keys, buttons, motion and wheel.
+    /// Includes sleep of the machine, although most counters stop during it. Empty when unknown,
+    /// which callers must treat as neither presence nor absence. At most one round trip to the
+    /// display server.
     [[nodiscard]] virtual std::optional<double> secondsSinceLastInput() = 0;
 
-    /// Whether this desktop can tell at all. True also where a single reading is empty.
+    /// Whether this desktop can report the idle time. True even where one reading is empty.
     [[nodiscard]] virtual bool canTell() const = 0;
 
 Q_SIGNALS:

@@ -1,17 +1,17 @@
-// Handing a picture to other programs by the clipboard.
+// The port of copying a picture to the clipboard.
 #pragma once
 
 #include <QByteArray>
 
 namespace vantle {
 
-/// The clipboard, for one picture at a time. Main thread.
+/// Main thread.
 class ImageClipboard {
 public:
     virtual ~ImageClipboard() = default;
 
-    /// Puts the PNG into the clipboard, in place of what was there. Programs that ask for a PNG get
-    /// these very bytes, others the picture in a form that they know.
+    /// Replaces the clipboard's content by the PNG. Programs that ask for a PNG get these bytes,
+    /// others a converted picture.
     virtual void copyPng(const QByteArray& png) = 0;
 };
 

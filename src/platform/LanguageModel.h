@@ -1,6 +1,6 @@
-// A language model that runs on this machine, if the person has one.
+// The port of a language model on this machine.
 //
-// Main thread throughout. Nothing that a model is asked leaves the machine.
+// Main thread. Prompts never leave the machine.
 #pragma once
 
 #include <QString>
@@ -11,18 +11,17 @@
 
 namespace vantle {
 
-/// A conversation: every answer is given with all that was said before in view. Destroy it and no
-/// question is answered any more, also inside an answer.
+/// A conversation: each answer takes everything before into account. Destroying it, also inside an
+/// answer, drops pending answers.
 class LanguageModelSession {
 public:
     virtual ~LanguageModelSession() = default;
 
-    /// Called once for each prompt from the event loop: with the text, or with nothing when the
-    /// model failed, refused or took too long.
+    /// Called once per prompt from the event loop, with the text; empty when the model failed,
+    /// refused or timed out.
     using Answer = std::function<void(std::optional<QString>)>;
 
-    /// Asks. One question at a time: the next may be put once the last is answered, also from
-    /// within its answer.
+    /// Asks. One prompt at a time: the next may follow the answer, also from inside it.
     virtual void respond(const QString& prompt, Answer answered) = 0;
 };
 
@@ -30,11 +29,11 @@ class LanguageModel {
 public:
     virtual ~LanguageModel() = default;
 
-    /// Whether there is a model to ask. Cheap, and asked anew each time, since models come and go.
+    /// Whether there is a model. Cheap, and checked each time, since models come and go.
     [[nodiscard]] virtual bool isAvailable() const = 0;
 
-    /// A new conversation under these instructions; never null. Whether the model is there shows in
-    /// the answers. The model must outlive it.
+    /// Starts a conversation with these instructions; never null. A missing model shows in its
+    /// answers. The model must outlive it.
     [[nodiscard]] virtual std::unique_ptr<LanguageModelSession>
     openSession(const QString& instructions) = 0;
 };

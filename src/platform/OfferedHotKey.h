@@ -1,4 +1,4 @@
-// A way to the system-wide shortcut that a service of the desktop offers.
+// A way to the shortcut through a service of the desktop.
 #pragma once
 
 #include "platform/HotKeyPort.h"
@@ -8,15 +8,14 @@
 
 namespace vantle {
 
-/// Takes keys through a service that may be missing, and may come and go while the program runs.
-/// `registerKey` requires that it is offered. Main thread.
+/// The service may be missing, come and go. `registerKey` requires that it is offered. Main thread.
 class OfferedHotKey : public HotKeyPort {
 public:
-    /// Empty until the desktop has told.
+    /// Empty while unknown.
     [[nodiscard]] virtual std::optional<bool> isOffered() const = 0;
 
-    /// Called after each change of `isOffered`, never from within a call of this port. What was
-    /// registered by then is lost. Set by the owner; may be empty.
+    /// Called after each change of `isOffered`, never from inside a call of this port. Any
+    /// registration is lost by then. Set by the owner; may be empty.
     std::function<void()> onOfferedChanged;
 };
 

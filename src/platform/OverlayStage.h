@@ -1,4 +1,4 @@
-// How pictures come over whole screens.
+// The port of pictures over whole screens.
 #pragma once
 
 #include "platform/OverlayView.h"
@@ -10,10 +10,9 @@
 
 namespace vantle {
 
-/// Something that is over a screen until it is destroyed: without borders, see-through, without
-/// pointer and keyboard, above all other windows on every workspace, in no task bar. It vanishes by
-/// itself when its screen goes away or its show is over. Main thread. It may be destroyed at any
-/// time, also while it reports something.
+/// An overlay that covers a screen until destroyed: borderless, translucent, no input, above all
+/// other windows on every workspace, in no task bar. Disappears when its screen goes away or its
+/// show ends. May be destroyed at any time, also from its own callback. Main thread.
 class OverlayWindow {
 public:
     virtual ~OverlayWindow() = default;
@@ -24,16 +23,16 @@ class OverlayStage {
 public:
     virtual ~OverlayStage() = default;
 
-    /// Whether it can show anything that lets presses and keys through to what lies below. Where it
-    /// can't, nothing may be put up. May change while the program runs.
+    /// Whether it can show overlays that let input through. Otherwise nothing may be shown. May
+    /// change at run time.
     [[nodiscard]] virtual bool isAvailable() const = 0;
 
-    /// The screens as they are now, each by its frame; screens that mirror each other are one. In
-    /// px of the stage's own, which need not be those of Screens.
+    /// The screens' frames; mirrored screens count once. In the stage's own pixels, which may
+    /// differ from those of Screens.
     [[nodiscard]] virtual std::vector<QRect> frames() const = 0;
 
-    /// Shows the view over the screen with that frame, and drives it. Never null: where the screen
-    /// is gone, or the desktop can't show such a window, there is just nothing to see.
+    /// Shows the view on the screen with that frame, and drives it. Never null: when the screen is
+    /// gone or the window cannot be shown, nothing is visible.
     [[nodiscard]] virtual std::unique_ptr<OverlayWindow>
     putUp(const QRect& frame, std::unique_ptr<OverlayView> view) = 0;
 };

@@ -1,4 +1,4 @@
-// What an overlay shows, frame by frame.
+// The content of an overlay, frame by frame.
 #pragma once
 
 #include "base/Date.h"
@@ -9,8 +9,8 @@
 
 namespace vantle {
 
-/// A frame depends on its time alone, so frames may be dropped. Times are seconds from the start of
-/// the show, by the wall clock; lengths are points from the top left of the screen. Main thread.
+/// A frame depends only on its time, so frames may be skipped. Times are seconds from the start by
+/// the wall clock; lengths are points from the screen's top left. Main thread.
 class OverlayView {
 public:
     explicit OverlayView(Date start) : m_start(start) {}
@@ -18,21 +18,22 @@ public:
     OverlayView(const OverlayView&) = delete;
     OverlayView& operator=(const OverlayView&) = delete;
 
-    /// The moment of `play`: the zero of the times below.
+    /// The time of `play`: zero of the times below.
     [[nodiscard]] Date start() const { return m_start; }
 
-    /// From this time on nothing shows any more.
+    /// Nothing is visible from this time on.
     [[nodiscard]] virtual Seconds endTime() const = 0;
 
-    /// Writes the moment over all of `frame`, whatever that holds: Format_ARGB32_Premultiplied,
-    /// with as many pixels a point as its devicePixelRatio. All clear outside of 0 up to the end.
+    /// Overwrites all of `frame` (Format_ARGB32_Premultiplied, devicePixelRatio pixels per point)
+    /// with the picture at `t`; transparent before 0 and after the end.
     virtual void paint(QImage& frame, Seconds t) = 0;
 
-    /// Writes the moment where no window can be see-through; only solidPart() of it can be seen.
+    /// Paints the picture at `t` for a desktop without translucent windows; only solidPart() is
+    /// visible.
     virtual void paintSolid(QImage& frame, Seconds t) { paint(frame, t); }
 
-    /// The part of the screen that can be shown where no window can be see-through. Outside of it
-    /// the window must not be; empty means that there is nothing to show.
+    /// The part of the screen to show on a desktop without translucent windows. The window is cut
+    /// to it; empty means that nothing is shown.
     [[nodiscard]] virtual QRegion solidPart(QSize size, Seconds t) const = 0;
 
 private:

@@ -30,7 +30,7 @@ QRect PanelHost::place(QWindow& window, const Placement& placement) {
     const bool isNew = window.handle() == nullptr;
     if (isNew) {
         window.setFlags(flagsFor(placement));
-        // A window over a whole screen is scaled as that one is.
+        // A window takes the scale of the screen that it covers.
         const QList<QScreen*> screens = QGuiApplication::screens();
         for (QScreen* screen : screens)
             if (placement.spot == Placement::Spot::WholeScreen && screen->geometry() == frame) {

@@ -7,7 +7,7 @@ namespace vantle {
 
 namespace {
 
-/// The lower bound wins where both can't hold.
+/// The lower bound wins when both cannot hold.
 double within(double value, double low, double high) {
     return std::max(low, std::min(value, high));
 }
@@ -19,7 +19,7 @@ QPointF topLeftBeside(const Placement& placement) {
     const double height = placement.size.height();
     const double x = within(anchor.center().x() - width / 2.0, area.left() + placement.inset.x(),
                             area.right() - width - placement.inset.x());
-    // A bar may lie at either end of the screen.
+    // A bar may be at either end of the screen.
     const bool below = anchor.center().y() < placement.screen.frame.center().y();
     const double y =
         below ? anchor.bottom() + placement.gap : anchor.top() - placement.gap - height;

@@ -1,4 +1,4 @@
-// Where a floating surface stands on its screen, and what of it feels the pointer.
+// The place and the input area of a floating surface.
 #pragma once
 
 #include "platform/Screens.h"
@@ -14,34 +14,33 @@
 
 namespace vantle {
 
-/// A plain value that a PanelHost makes a window of. A surface says which edge it keeps to, not
-/// only where that is: a display server that places windows by edges and margins needs no more.
-/// Pixels are those of Screens.
+/// A plain value for PanelHost. It names the edge that the surface keeps to, which is all that a
+/// display server with edges and margins needs. In pixels of Screens. Any thread.
 struct Placement {
     enum class Spot {
-        TopCenter,   ///< at the middle of the screen's top edge, bars or not
-        TopRight,    ///< in that corner of the area free of bars
-        Beside,      ///< under `anchor`, over it in the lower half of the screen
-        WholeScreen, ///< over all of it, bars too; for the eye alone
+        TopCenter,   ///< centred at the screen's top edge, ignoring bars
+        TopRight,    ///< in that corner of the area without bars
+        Beside,      ///< below `anchor`, or above it in the lower half of the screen
+        WholeScreen, ///< all of it, bars included; takes no input
     };
 
     Spot spot = Spot::TopRight;
     ScreenShape screen = {};
-    QSize size = {};    ///< of what the user sees; ignored for WholeScreen
-    QPoint inset = {};  ///< from the edges; for TopCenter, x is to the right of the middle
-    QRectF anchor = {}; ///< for Beside: the tray item, or the place of the click
-    int gap = 0;        ///< for Beside: between the anchor and the surface
-    QMargins room = {}; ///< of the window around what the user sees, for its shadow
+    QSize size = {};    ///< of the visible part; ignored for WholeScreen
+    QPoint inset = {};  ///< from the edges; for TopCenter, x from the middle to the right
+    QRectF anchor = {}; ///< for Beside: the tray item, or the click position
+    int gap = 0;        ///< for Beside: distance from the anchor
+    QMargins room = {}; ///< margins around the visible part, for its shadow
 
-    /// What feels the pointer, in px from the window's top left; empty: all of it.
+    /// The input area in px from the window's top left; empty means all of it.
     std::optional<QRegion> felt = {};
-    /// What is drawn where nothing can be see-through; an empty region: all of it.
+    /// What is drawn without a compositor; an empty region means all of it.
     QRegion opaque = {};
     bool takesKeyboard = false; ///< once it is shown
 
-    /// What the user sees of it, without its shadow. In px of the desktop.
+    /// The visible part without its shadow, in px of the desktop.
     [[nodiscard]] QRect ground() const;
-    /// The same with its shadow.
+    /// The visible part with its shadow.
     [[nodiscard]] QRect frame() const { return ground().marginsAdded(room); }
 };
 

@@ -1,4 +1,4 @@
-// The desktop and the machine, as everything above the ports knows them.
+// The ports of one desktop.
 #pragma once
 
 #include <QString>
@@ -27,13 +27,13 @@ class Screens;
 class TrayItem;
 class WindowManager;
 
-/// The user's own directories, absolute.
+/// The user's directories, absolute.
 struct UserFolders {
-    QString config; ///< preferences and what the user writes for the program
-    QString data;   ///< the directory under which the support directory lies
+    QString config; ///< for preferences and user files
+    QString data;   ///< for the data directory
 };
 
-/// One of each port. What it refers to outlives all who get it.
+/// One object per port; all of them outlive their users. Main thread.
 struct Platform {
     FileSystem& fileSystem;
     UserFolders folders;

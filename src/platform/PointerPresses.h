@@ -1,4 +1,4 @@
-// Presses of the pointer wherever they happen, for what closes on a click elsewhere.
+// The port of pointer presses anywhere, for surfaces that close on them.
 #pragma once
 
 #include <QObject>
@@ -6,20 +6,19 @@
 
 namespace vantle {
 
-/// Tells of presses of the left and the right button in the windows of any application; the press
-/// itself goes where it would have gone anyway. A desktop that does not let that be seen tells only
-/// of some, or of none. Main thread.
+/// Reports presses of the left and right button in all applications' windows, and delivers them as
+/// usual. A desktop may report only some, or none. Main thread.
 class PointerPresses : public QObject {
     Q_OBJECT
 
 public:
-    /// Tells from now on.
+    /// Starts reporting.
     virtual void watch() {}
-    /// Tells nothing any more. Costs nothing while nobody watches.
+    /// Stops reporting; costs nothing then.
     virtual void ignore() {}
 
 Q_SIGNALS:
-    /// With the place of the pointer, in px of the desktop.
+    /// The position is in px of the desktop.
     void pressed(QPoint place);
 };
 

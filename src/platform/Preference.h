@@ -1,4 +1,6 @@
-// A named preference: its key, its type, what holds without it, and its limits.
+// A typed preference: key, default and limits.
+//
+// Main thread, as the store.
 #pragma once
 
 #include "base/Calendar.h"
@@ -16,7 +18,7 @@
 
 namespace vantle {
 
-/// How a value of type T is stored. An enumeration brings its own form, beside its declaration.
+/// How a type T is stored. An enumeration specialises it beside its declaration.
 template <typename T>
 struct PreferenceForm;
 
@@ -60,16 +62,16 @@ struct PreferenceForm<QString> {
     }
 };
 
-/// Which stored values count: of most types all.
+/// Which stored values are valid: all, for most types.
 template <typename T>
 struct PreferenceLimits {
     [[nodiscard]] std::optional<T> within(T value) const { return value; }
 };
 
-/// A stored number below `least` counts as absent, one above `most` as `most`.
+/// A stored number below `least` counts as missing, one above `most` as `most`.
 template <>
 struct PreferenceLimits<double> {
-    /// As `least`: every positive number counts.
+    /// For `least`: every positive number is valid.
     static constexpr double aboveZero = std::numeric_limits<double>::denorm_min();
 
     double least = std::numeric_limits<double>::lowest();
@@ -80,12 +82,12 @@ struct PreferenceLimits<double> {
     }
 };
 
-/// Reads and writes one key of a store. Limits hold for reading alone: what is written is stored as
-/// it is. Main thread, as the store.
+/// Reads and writes one key. Limits apply to reading only; writes are stored unchanged. Main
+/// thread.
 template <typename T>
 class Preference {
 public:
-    /// A text is empty without a value of its own.
+    /// The default of a text is empty unless given.
     using Default = std::conditional_t<std::is_same_v<T, QString>, QLatin1String, T>;
 
     constexpr explicit Preference(const char* key, Default fallback = {},
@@ -97,7 +99,7 @@ public:
     [[nodiscard]] constexpr QLatin1String key() const { return m_key; }
     [[nodiscard]] T defaultValue() const { return T(m_default); }
 
-    /// Returns what is stored; empty when that is nothing, no T, or outside of the limits.
+    /// Returns the stored value; empty when it is missing, of another type, or outside the limits.
     [[nodiscard]] std::optional<T> stored(const Preferences& store) const {
         const std::optional<T> value = PreferenceForm<T>::read(store, m_key);
         return value ? m_limits.within(*value) : std::nullopt;
@@ -114,7 +116,7 @@ public:
 
     void remove(Preferences& store) const { store.remove(m_key); }
 
-    /// Calls `told` within each write and removal of the key, as long as `context` lives.
+    /// Calls `told` inside each write and removal of the key, while `context` lives.
     template <typename Told>
     QMetaObject::Connection watch(const Preferences& store, const QObject* context,
                                   Told told) const {
@@ -130,7 +132,7 @@ private:
     PreferenceLimits<T> m_limits;
 };
 
-/// A flag for each week of a calendar, false without it, under keys as "reviewed.2026-9".
+/// One flag per calendar week, default false, under keys such as "reviewed.2026-9".
 class WeekFlag {
 public:
     constexpr explicit WeekFlag(const char* prefix) : m_prefix(prefix) {}

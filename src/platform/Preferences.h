@@ -1,7 +1,7 @@
-// The preference store: small typed values under dotted keys, kept between runs.
+// The port of the preference store: typed values under dotted keys.
 //
-// Main thread. A value that is absent, or that can't be read as the asked type, counts as absent.
-// Writing never fails towards the caller: the value holds for this run in any case.
+// Main thread. A missing value, or one of another type, counts as missing. Writing never fails for
+// the caller: the value holds for this run at least.
 #pragma once
 
 #include <QObject>
@@ -27,14 +27,14 @@ public:
 
     virtual void remove(const QString& key) = 0;
 
-    /// Removes every key of every part of the program, and the file.
+    /// Removes all keys and the file.
     virtual void removeAll() = 0;
 
-    /// Returns when all changes so far are in the file, as far as that is possible.
+    /// Returns once all changes are in the file, if that is possible.
     virtual void synchronize() = 0;
 
 Q_SIGNALS:
-    /// After any write or removal through this object, within the call.
+    /// Emitted inside each write or removal through this object.
     void changed(const QString& key);
 };
 

@@ -1,4 +1,4 @@
-// Running other programs.
+// The port of running other programs.
 #pragma once
 
 #include <QByteArray>
@@ -10,16 +10,15 @@
 
 namespace vantle {
 
-/// A program by its absolute path, and what it is to be told. No shell takes part: each argument
-/// reaches it as it stands.
+/// An absolute path and its arguments. No shell: arguments are passed unchanged.
 struct Command {
     QString program;
     QStringList arguments;
     friend bool operator==(const Command&, const Command&) = default;
 };
 
-/// Main thread. Nothing here waits for a program that was started, none becomes a zombie, and none
-/// reads from or writes to this program's own standard streams.
+/// Main thread. No call waits for the program, none leaves a zombie, and none shares this program's
+/// standard streams.
 class ProcessRunner {
 public:
     virtual ~ProcessRunner() = default;
@@ -28,18 +27,17 @@ public:
         int exitStatus = 0;
         QByteArray standardOutput;
     };
-    /// Runs the command and hands over what it printed when it has ended. Empty when it could not
-    /// be started, when a signal ended it, or when it printed more than kMaxOutput, for which it is
-    /// ended. `done` is called from the event loop, or never when this object goes first; the
-    /// command is ended then.
+    /// Runs the command and passes on its output at its end. Empty when it could not start, was
+    /// ended by a signal, or printed more than kMaxOutput, for which it is killed. Calls `done`
+    /// from the event loop. Destroying this object kills the command without a call.
     virtual void collect(const Command& command,
                          std::function<void(std::optional<Output>)> done) = 0;
 
-    /// Most bytes that a collected command may print.
+    /// The largest output of a collected command, in bytes.
     static constexpr qint64 kMaxOutput = 1 << 20;
 
-    /// Starts the command and walks away: it outlives this program, and what it prints is lost.
-    /// Whether it could be started.
+    /// Starts the command detached: it outlives this program, its output is discarded. Returns
+    /// whether it started.
     virtual bool startDetached(const Command& command) = 0;
 };
 

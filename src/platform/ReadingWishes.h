@@ -1,4 +1,4 @@
-// The user's wishes about how the program is read, wherever the desktop keeps them.
+// The port of the user's text settings: contrast and size.
 #pragma once
 
 #include <QObject>
@@ -16,8 +16,8 @@ public:
     /// The user asked for more contrast.
     [[nodiscard]] virtual bool moreContrast() const = 0;
 
-    /// The factor on the size of text, `kSmallestText` to `kLargestText`; 1 where nothing is asked
-    /// for. Some desktops have it in the dots per inch of the screen as well.
+    /// The factor for text, `kSmallestText` to `kLargestText`; 1 is the default. Some desktops
+    /// include it in the screen's dots per inch too.
     [[nodiscard]] virtual double textScale() const = 0;
 
 Q_SIGNALS:

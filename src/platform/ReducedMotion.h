@@ -1,4 +1,4 @@
-// Whether the user asked the desktop for less movement.
+// The port of the reduced motion setting.
 #pragma once
 
 #include <QObject>
@@ -10,7 +10,7 @@ class ReducedMotion : public QObject {
     Q_OBJECT
 
 public:
-    /// The setting as last heard; false where the desktop has none. Never blocks.
+    /// The last known setting; false where the desktop has none. Does not block.
     [[nodiscard]] virtual bool enabled() const = 0;
 
 Q_SIGNALS:

@@ -1,4 +1,4 @@
-// The application in front, where the desktop reports each switch.
+// The application in front, from a desktop that reports each switch.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -10,11 +10,11 @@
 
 namespace vantle {
 
-/// What the sources share that get reports, in whatever way they get them.
+/// The base of sources that receive reports.
 ///
-/// "None" is reported at some switches for a moment, and while a panel of ours has the keyboard,
-/// which the desktop counts as no window: it is believed once it has lasted `noneIsBelievedAfter`
-/// without a panel. Only a change of application is told, not one of windows. Main thread.
+/// Desktops briefly report "none" at some switches, and while a panel of the program has the
+/// keyboard. It counts once it has lasted `noneIsBelievedAfter` without a panel. Reports changes of
+/// application, not of windows. Main thread.
 class ReportedFrontmostApp : public FrontmostApp {
     Q_OBJECT
 
@@ -28,17 +28,17 @@ public:
     };
 
     [[nodiscard]] std::optional<Application> frontmost() final { return m_application; }
-    /// All while the desktop reports, else none.
+    /// All while the desktop reports, else None.
     [[nodiscard]] AppCoverage coverage() const final { return m_coverage; }
 
 protected:
     explicit ReportedFrontmostApp(Reading reading);
 
-    /// The desktop reports from now on.
+    /// Reports begin.
     void begin();
-    /// It reports no more: nothing is in front.
+    /// Reports end: no application is in front.
     void end();
-    /// A window of that kind has the keyboard.
+    /// A window with these hints has the keyboard.
     void report(const WindowHints& hints);
     void reportNone();
 
@@ -48,7 +48,7 @@ private:
     const Reading m_reading;
     AppCoverage m_coverage = AppCoverage::None;
     std::optional<Application> m_application;
-    TimerHandle m_none; ///< while "none" is not believed yet
+    TimerHandle m_none; ///< runs while "none" does not count yet
 };
 
 } // namespace vantle

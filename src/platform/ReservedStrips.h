@@ -1,4 +1,4 @@
-// The strips along the edges of the desktop that bars keep for themselves.
+// The port of the screen edges reserved by bars.
 #pragma once
 
 #include <QObject>
@@ -8,7 +8,7 @@
 
 namespace vantle {
 
-/// From that edge of the desktop inwards. In pixels of the device.
+/// A strip from that edge inwards, in device pixels.
 struct ReservedStrip {
     Qt::Edge edge = Qt::TopEdge;
     QRect area;

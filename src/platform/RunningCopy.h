@@ -1,4 +1,4 @@
-// How the copies of the program that the user starts reach each other.
+// The port between copies of the program.
 #pragma once
 
 namespace vantle {
@@ -8,11 +8,11 @@ class RunningCopy {
 public:
     virtual ~RunningCopy() = default;
 
-    /// Answers other copies and the desktop from now on. Only the copy that holds the data does.
+    /// Answers other copies and the desktop from now on. For the copy that holds the data.
     virtual void listen() = 0;
 
-    /// For a copy that does not hold the data: asks the one that does to show itself. Waits for
-    /// its answer, two seconds at most. Returns whether there was one.
+    /// For a copy without the data: asks the other one to show itself. Blocks for at most two
+    /// seconds. Returns whether it answered.
     [[nodiscard]] virtual bool show() = 0;
 };
 

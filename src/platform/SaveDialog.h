@@ -1,4 +1,4 @@
-// Asking the person for a place to save a file.
+// The port of the dialog that saves a file.
 #pragma once
 
 #include <QString>
@@ -11,34 +11,32 @@ class QWindow;
 
 namespace vantle {
 
-/// What is to be saved.
+/// The dialog's content.
 struct SaveQuestion {
     QString title;         ///< of the dialog
-    QString suggestedName; ///< with its ending: "poster.png"
-    QString folder;        ///< where to begin, absolute; empty for the desktop's choice
-    QString kind;          ///< what such files are called: "PNG image"
+    QString suggestedName; ///< with its suffix: "poster.png"
+    QString folder;        ///< initial folder, absolute; empty for the desktop's choice
+    QString kind;          ///< the file type: "PNG image"
     QString ending;        ///< "png"
 };
 
-/// A dialog that is open. To destroy it is to take it away: no answer comes afterwards. It may be
-/// destroyed inside of its answer.
+/// An open dialog. Destroying it closes it without an answer; also allowed inside the answer.
 class OpenSaveDialog {
 public:
     virtual ~OpenSaveDialog() = default;
 };
 
-/// The desktop's own way of asking. Main thread, which goes on with its work while the person
-/// chooses.
+/// The desktop's own dialog. Does not block. Main thread.
 class SaveDialog {
 public:
     virtual ~SaveDialog() = default;
 
-    /// The absolute path of a file, which may be there already: the person was asked whether it may
-    /// be replaced. Nothing when the person turned away.
+    /// The absolute path, which may exist: the user confirmed to replace it. Empty when the user
+    /// cancelled.
     using Answer = std::function<void(std::optional<QString> path)>;
 
-    /// Opens a dialog that belongs to the window `above`; without one it stands for itself. Answers
-    /// from the event loop, once, unless the dialog is taken away or the window goes.
+    /// Opens a dialog for the window `above`, or a free-standing one. Answers once, from the event
+    /// loop, unless the dialog or the window is destroyed.
     [[nodiscard]] virtual std::unique_ptr<OpenSaveDialog> ask(const SaveQuestion& question,
                                                               QWindow* above, Answer answer) = 0;
 };

@@ -1,17 +1,17 @@
-// Whether the person can see the screens at all.
+// The port of the screens' sleep.
 #pragma once
 
 #include <QObject>
 
 namespace vantle {
 
-/// Tells when the displays go to sleep and when they come back. What counts as sleep is the
-/// backend's: the display power state, the screen saver or lock, a suspended machine. Main thread.
+/// Reports when the displays sleep and wake. The backend defines sleep: display power state, screen
+/// saver or lock, suspension. Main thread.
 class ScreenPower : public QObject {
     Q_OBJECT
 
 public:
-    /// True between `slept` and `woke`. Starts false where the desktop can't tell.
+    /// True between `slept` and `woke`. Starts as false where unknown.
     [[nodiscard]] virtual bool asleep() const = 0;
 
 Q_SIGNALS:

@@ -1,4 +1,4 @@
-// The screens, as far as surfaces are placed by them.
+// The port of the screens' geometry.
 #pragma once
 
 #include <QObject>
@@ -10,18 +10,18 @@
 
 namespace vantle {
 
-/// One screen. In px of the desktop, y downwards.
+/// One screen, in px of the desktop, y downwards.
 struct ScreenShape {
     QRectF frame;     ///< all of it
-    QRectF available; ///< without bars and docks
-    /// Height of the strip at the top that a camera housing takes; 0 where there is none.
+    QRectF available; ///< without bars
+    /// Height of the top strip beside a camera housing; 0 without one.
     double safeAreaTop = 0;
-    /// What is left of that strip on both sides of the housing.
+    /// The parts of that strip on both sides of the housing.
     std::optional<QRectF> auxiliaryTopLeft = {};
     std::optional<QRectF> auxiliaryTopRight = {};
 };
 
-/// The screens, that of the frame first, the others as they were. As they were without such a one.
+/// Returns the screens with the one of that frame first; unchanged when there is none.
 [[nodiscard]] inline std::vector<ScreenShape> startingWith(const QRectF& frame,
                                                            std::vector<ScreenShape> screens) {
     const auto found = std::ranges::find(screens, frame, &ScreenShape::frame);
@@ -34,16 +34,15 @@ class Screens : public QObject {
     Q_OBJECT
 
 public:
-    /// The main screen first. Empty while nothing is connected.
+    /// The main screen first. Empty while none is connected.
     [[nodiscard]] virtual std::vector<ScreenShape> all() const = 0;
 
-    /// The same, but the screen that the user is at first: the one with the pointer, where that is
-    /// known.
+    /// The same with the screen in use first: that of the pointer, where known.
     [[nodiscard]] virtual std::vector<ScreenShape> inUseFirst() const = 0;
 
 Q_SIGNALS:
-    /// A screen came, went, moved or changed its size, or a bar its strip. Several in a row for one
-    /// act of the person, with states between them that never were.
+    /// A screen was added, removed, moved or resized, or a bar changed. One act of the user may
+    /// emit it several times, with transient states in between.
     void changed();
 };
 

@@ -1,11 +1,13 @@
-// The command that starts and stops sessions, for keys that the user binds.
+// The command for a key binding that starts and stops sessions.
+//
+// Any thread.
 #pragma once
 
 #include <QString>
 
 namespace vantle {
 
-/// Reaches the program over the session bus, which starts it where it does not run.
+/// Calls the program over the session bus, which starts it if needed.
 [[nodiscard]] inline QString toggleCommand() {
     return QStringLiteral("gdbus call --session --dest local.vantle.Vantle "
                           "--object-path /local/vantle/Vantle "

@@ -1,4 +1,4 @@
-// The program's place in the desktop's tray.
+// The port of the tray item.
 #pragma once
 
 #include <QIcon>
@@ -12,39 +12,38 @@
 
 namespace vantle {
 
-/// A line of the item's menu.
+/// An entry of the item's menu.
 struct TrayMenuEntry {
     QString text;
-    std::function<void()> choose; ///< called when the user chooses the line
+    std::function<void()> choose; ///< called when the user chooses it
 };
 
-/// One tray item. Shows itself as soon as the desktop has a tray, also when that comes later, and
-/// again when the tray comes back. Main thread.
+/// One tray item. Appears whenever the desktop has a tray, now or later. Main thread.
 class TrayItem : public QObject {
     Q_OBJECT
 
 public:
-    /// An image with the sizes that trays ask for. `isTemplate` says that only its shape counts
-    /// and that it takes the colour of the bar's text where the desktop can tell that.
+    /// Sets an image with the sizes that trays need. `isTemplate` marks a shape that takes the
+    /// bar's text colour where that is known.
     virtual void setImage(const QIcon& image, bool isTemplate) = 0;
     virtual void setToolTip(const QString& text) = 0;
 
-    /// The menu of trays that show one at a right click. Such a click comes as clicked() from the
-    /// others. To be set before the first image; a new text is followed at once.
+    /// Sets the menu for trays that open one on a right click; others emit clicked(). Set it before
+    /// the first image; text changes apply immediately.
     virtual void setMenu(const QList<TrayMenuEntry>& entries) = 0;
 
     /// Whether a tray shows the item.
     [[nodiscard]] virtual bool isShown() const = 0;
 
-    /// Where the item is on the screen; empty where the desktop does not tell.
+    /// The item's place on the screen; empty where unknown.
     [[nodiscard]] virtual QRect geometry() const = 0;
 
-    /// Whether geometry() is empty only for now: the desktop has yet to say whether and where it
-    /// shows the item. May stay true where there is no tray.
+    /// Whether geometry() may still come: the desktop has not yet reported whether and where it
+    /// shows the item. May stay true without a tray.
     [[nodiscard]] virtual bool isPlacePending() const { return false; }
 
 Q_SIGNALS:
-    /// A left or right click, with its place on the screen as far as known, else (0, 0).
+    /// A left or right click at that position; (0, 0) where unknown.
     void clicked(QPoint place);
     void shownChanged();
     /// geometry() or isPlacePending() changed.

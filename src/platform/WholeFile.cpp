@@ -38,8 +38,8 @@ Result<> replaceFile(FileSystem& files, const QString& path, QByteArrayView cont
         files.remove(temporary).ignore();
         return renamed;
     }
-    // Without this a power loss could bring the old file back. Not every file system can do it, and
-    // the new content is in place already.
+    // Without the sync a power loss could restore the old file. Ignored, since not every file
+    // system supports it and the new content is in place.
     files.syncDirectory(directory).ignore();
     return {};
 }
@@ -47,7 +47,7 @@ Result<> replaceFile(FileSystem& files, const QString& path, QByteArrayView cont
 Result<> exportFile(FileSystem& files, const QString& path, QByteArrayView content) {
     const auto mode = files.exists(path) ? files.mode(path) : Result<int>(files.usualMode());
     if (auto replaced = replaceFile(files, path, content); !replaced) return replaced;
-    // Some disks know no modes.
+    // Some file systems have no modes.
     if (mode) files.setMode(path, mode.value()).ignore();
     return {};
 }

@@ -1,24 +1,24 @@
-// Writing a file in one piece: all of it, or as if nothing had been tried.
+// Atomic writes of whole files.
 //
-// On top of FileSystem; blocks until the content is on the disk. Files get mode 0600 but
-// where it is said otherwise.
+// Built on FileSystem; returns once the content is on disk. Files get mode 0600 unless stated.
+// Blocks; any thread.
 #pragma once
 
 #include "platform/FileSystem.h"
 
 namespace vantle {
 
-/// Creates the file with that content. Fails when something stands at the path. A file that could
-/// not be filled is removed again.
+/// Creates the file with that content. Fails when the path exists. Removes a file that it could not
+/// fill.
 Result<> createFile(FileSystem& files, const QString& path, QByteArrayView content);
 
-/// Puts the content at the path in one step, over what may stand there: a temporary file beside it,
-/// `.{name}.{uuid}.tmp`, is filled and renamed. Missing directories above are made with mode 0700.
-/// On failure the path holds what it held before, and no temporary file stays.
+/// Replaces the file atomically: fills a temporary file `.{name}.{uuid}.tmp` beside it and renames
+/// it. Creates missing directories with mode 0700. On failure the old content stays and no
+/// temporary file is left.
 Result<> replaceFile(FileSystem& files, const QString& path, QByteArrayView content);
 
-/// As replaceFile, for a file that the person takes away: it has the mode of what stood there, else
-/// that of the person's other new files.
+/// Like replaceFile for a file that the user exports: keeps the mode of an existing file, else uses
+/// that of the user's new files.
 Result<> exportFile(FileSystem& files, const QString& path, QByteArrayView content);
 
 } // namespace vantle

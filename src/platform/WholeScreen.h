@@ -1,4 +1,4 @@
-// What every window over a whole screen has in common, whatever it shows.
+// The common properties of windows that cover a screen.
 #pragma once
 
 #include <QRect>
@@ -14,14 +14,14 @@ class Screens;
 
 namespace wholescreen {
 
-/// The frames of the screens; those that mirror each other are one to look at. Main thread.
+/// Returns the screens' frames; mirrored screens count once. Main thread.
 [[nodiscard]] std::vector<QRect> frames(const Screens& screens);
 
 /// Whether a screen has that frame. Main thread.
 [[nodiscard]] bool exists(const Screens& screens, const QRect& frame);
 
-/// Makes a window, before it is shown, one that covers the screen with that frame and is in
-/// nobody's way: above everything, see-through, without pointer and keyboard. Main thread.
+/// Prepares a window, before it is shown, to cover the screen with that frame: above everything,
+/// translucent, without input. Main thread.
 void cover(QWindow& window, const QRect& frame, PanelHost& host);
 
 } // namespace wholescreen

@@ -1,4 +1,4 @@
-// What a window tells about the application that it belongs to.
+// A window's hints about its application.
 #pragma once
 
 #include "platform/FrontmostApp.h"
@@ -11,24 +11,24 @@
 
 namespace vantle {
 
-/// Any part may be missing: programs set what they like.
+/// Any part may be missing: programs set them as they like. Plain values; any thread.
 struct WindowHints {
-    QString applicationId;           ///< its own word for its desktop entry, as toolkits set it
+    QString applicationId;           ///< the desktop entry that the toolkit names
     QString windowClass;             ///< WM_CLASS: the class
     QString instance;                ///< WM_CLASS: the instance
     std::optional<qint64> processId; ///< only of a process on this machine
     friend bool operator==(const WindowHints&, const WindowHints&) = default;
 };
 
-/// Whether it is a window of this program. The number of our process is another one for the server
-/// when we run in a sandbox, so the class tells it as well.
+/// Whether it is the program's own window. In a sandbox the server knows the process by another
+/// number, so the class counts too.
 [[nodiscard]] inline bool isOurs(const WindowHints& hints) {
     return hints.processId == QCoreApplication::applicationPid() ||
            hints.windowClass.compare(QLatin1String("vantle"), Qt::CaseInsensitive) == 0;
 }
 
-/// Turns hints into an application; its texts are empty where the hints say too little. Main
-/// thread; called at each switch of windows, so it must answer from memory.
+/// Resolves hints to an application; its texts are empty when the hints do not suffice. Called at
+/// each switch of windows, so it must answer from memory. Main thread.
 using IdentityResolver = std::function<Application(const WindowHints&)>;
 
 } // namespace vantle

@@ -1,4 +1,4 @@
-// What the desktop's window manager does with the program's windows.
+// The port of the window manager.
 #pragma once
 
 #include <QObject>
@@ -7,20 +7,20 @@
 
 namespace vantle {
 
-/// The bodies here are those of a desktop of which nothing more is known. Main thread.
+/// The bodies here are those of an unknown window manager. Main thread.
 class WindowManager : public QObject {
     Q_OBJECT
 
 public:
-    /// Whether a minimised window leaves the screen and the user can fetch it back.
+    /// Whether a minimised window disappears and the user can restore it.
     [[nodiscard]] virtual bool canMinimise() const { return true; }
 
-    /// Asks for that frame of a window, shown or not, in px of the desktop. The desktop may give it
-    /// another one; where it places windows itself, no more than the size is asked for.
+    /// Requests that frame for a window, shown or not, in px of the desktop. The desktop may choose
+    /// another one; where it places windows itself, only the size is requested.
     virtual void place(QWindow& window, const QRect& frame) { window.setGeometry(frame); }
 
-    /// Shows the window where the user is: on the workspace in use, no longer minimised, above the
-    /// other windows and with the keyboard. The desktop follows a moment later.
+    /// Shows the window to the user: on the current workspace, not minimised, raised, with the
+    /// keyboard. The desktop follows a moment later.
     virtual void bringToUser(QWindow& window) {
         window.setWindowStates(window.windowStates() & ~Qt::WindowMinimized);
         window.show();
@@ -29,7 +29,7 @@ public:
     }
 
 Q_SIGNALS:
-    /// canMinimise() changed: another window manager has taken over, or the last one has ended.
+    /// canMinimise() changed with the window manager.
     void changed();
 };
 

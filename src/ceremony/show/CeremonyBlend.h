@@ -1,12 +1,10 @@
-// The one operation by which anything gets into a frame, for a pixel and for many at once.
+// The blend function of the ceremony's frames, for single pixels and spans.
 //
-// A channel of the source at a strength a of 0 to 255 goes into that of the picture as
-//     ((256 - a) * picture >> 8) + ((a + 1) * source >> 8),
-// which is never more than 255. The alpha of the picture follows the same formula, since it gives
-// a + ((256 - a) * picture >> 8) for a source of 255. A strength of 0 changes nothing, so loops
-// need no branch for what isn't painted.
-//
-// Pixels are 32 bits with a channel a byte, and alpha in the highest.
+// A source channel with strength a (0 to 255) is blended into the picture as
+//     ((256 - a) * picture >> 8) + ((a + 1) * source >> 8), which never exceeds 255. The picture's
+//     alpha follows the same formula with a source of 255. Strength 0 changes nothing, so loops
+//     need no branch for empty pixels. Pixels have 32 bits, one byte per channel, alpha in the
+//     highest. Any thread.
 #pragma once
 
 #include <array>
@@ -19,16 +17,16 @@ namespace vantle::ceremonyblend {
 
 static_assert(std::endian::native == std::endian::little, "the bytes of a pixel are counted so");
 
-/// What is too weak to be painted.
+/// Weaker strengths are not painted.
 inline constexpr int kLeastStrength = 2;
 
-/// An opacity of 0 to 1 as a strength.
+/// Converts an opacity of 0 to 1 to a strength.
 [[nodiscard]] inline int strengthOf(double alpha) {
     const int strength = static_cast<int>(alpha * 255);
     return strength > 254 ? 255 : strength;
 }
 
-/// Products of 16 bits, so that eight of them go into a vector register.
+/// 16-bit products, so that eight fit into a vector register.
 [[nodiscard]] inline std::uint8_t blended(std::uint8_t picture, std::uint8_t source,
                                           std::uint16_t strength) {
     const auto kept = static_cast<std::uint16_t>((256 - strength) * picture);
@@ -36,7 +34,7 @@ inline constexpr int kLeastStrength = 2;
     return static_cast<std::uint8_t>((kept >> 8) + (added >> 8));
 }
 
-/// Blends one pixel, two channels at a time.
+/// Blends one pixel, two channels per multiplication.
 inline void blend(std::uint32_t& pixel, std::uint32_t color, unsigned strength) {
     constexpr std::uint32_t kPair = 0x00FF00FF;
     const std::uint32_t keep = 256 - strength;
@@ -48,7 +46,7 @@ inline void blend(std::uint32_t& pixel, std::uint32_t color, unsigned strength) 
     pixel = even | odd << 8;
 }
 
-/// The bytes of a colour for as many pixels as a vector register holds.
+/// A colour repeated to fill a vector register.
 using Pattern = std::array<std::uint8_t, 16>;
 inline constexpr std::size_t kPatternPixels = 4;
 
@@ -74,8 +72,8 @@ inline void blendSpan(std::uint32_t* pixels, std::size_t count, std::uint32_t co
         blend(pixels[done], color, strength);
 }
 
-/// Blends `count` pixels, each at its own strength. A strength stands there four times, once for
-/// each channel.
+/// Blends `count` pixels with their own strengths. Each strength is repeated four times, once per
+/// channel.
 inline void blendSpan(std::uint32_t* __restrict pixels, const std::uint32_t* __restrict strengths,
                       std::size_t count, std::uint32_t color) {
     const Pattern pattern = patternOf(color);

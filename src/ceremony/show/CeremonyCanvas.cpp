@@ -13,10 +13,10 @@ using ceremonyblend::kLeastStrength;
 using ceremonyblend::strengthOf;
 
 constexpr double kMostPixels = 270000;
-constexpr double kLeastScale = 3; // points a pixel
+constexpr double kLeastScale = 3; // points per pixel
 constexpr int kLeastSide = 8;     // pixels
 
-/// What no eye would find.
+/// Fainter opacities are invisible.
 constexpr double kFaint = 0.004;
 
 int sideInPixels(double points, double scale) {

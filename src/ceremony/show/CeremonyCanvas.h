@@ -1,8 +1,7 @@
-// The small picture that a frame is painted into, and the few ways of painting into it.
+// The low-resolution canvas of a ceremony frame.
 //
-// Everything comes down to one integer blend, so a frame is the same on every processor. Whatever
-// lies outside the picture is left out. Nothing here allocates after construction. One thread at a
-// time.
+// All painting is integer blending, so a frame is identical on every processor. Clips to the
+// canvas. Does not allocate after construction. One thread at a time.
 #pragma once
 
 #include <cstddef>
@@ -12,7 +11,7 @@
 
 namespace vantle {
 
-/// The order in which the bytes of a pixel lie in memory.
+/// The order of a pixel's bytes in memory.
 enum class PixelOrder { Rgba, Bgra };
 
 class CeremonyCanvas {
@@ -22,8 +21,7 @@ public:
 
     [[nodiscard]] int width() const { return m_width; }
     [[nodiscard]] int height() const { return m_height; }
-    /// Points a pixel, at least 3: the picture has about 270,000 pixels at most, however large the
-    /// screen is.
+    /// Points per pixel, at least 3. The canvas has at most about 270,000 pixels for any screen.
     [[nodiscard]] double scale() const { return m_scale; }
     /// The centre of the screen in pixels, and the pixel that holds it.
     [[nodiscard]] double centerX() const { return m_centerX; }
@@ -34,34 +32,33 @@ public:
     [[nodiscard]] std::span<const std::uint32_t> pixels() const { return m_pixels; }
     [[nodiscard]] std::span<std::uint32_t> pixels() { return m_pixels; }
 
-    /// A colour 0xRRGGBB as an opaque pixel of this canvas; what the painting functions take.
+    /// Returns 0xRRGGBB as an opaque pixel for the painting functions.
     [[nodiscard]] std::uint32_t packed(std::uint32_t rgb) const;
 
-    /// Distance in pixels from the centre of a pixel to the centre of the screen.
+    /// Distances in pixels from the pixel centres of a row to the centre of the screen.
     [[nodiscard]] std::span<const float> distances(int row) const;
 
-    /// Every pixel black, with that alpha (0 to 255).
+    /// Sets every pixel to black with that alpha (0 to 255).
     void clear(int alpha);
 
-    /// Every pixel; a strength (0 to 255) below 1 does nothing.
+    /// Blends every pixel; has no effect for a strength (0 to 255) below 1.
     void blendAll(std::uint32_t color, int strength);
 
-    /// One pixel, which may lie outside.
+    /// Blends one pixel, clipped.
     void blendAt(int column, int row, std::uint32_t color, double alpha);
-    /// A whole row or column, which may lie outside.
+    /// Blends a whole row or column, clipped.
     void blendRow(int row, std::uint32_t color, double alpha);
     void blendColumn(int column, std::uint32_t color, double alpha);
 
-    /// A point between pixels: spread over the four around it. Pixel centres are at halves.
+    /// Blends a point at subpixel position, spread over four pixels. Pixel centres are at halves.
     void plot(double x, double y, std::uint32_t color, double alpha);
 
-    /// A soft ring around the centre; lengths in points.
+    /// Draws a soft ring around the centre; lengths in points.
     void stampRing(double radius, double lineWidth, std::uint32_t color, double alpha);
-    /// A glow around the centre that fades out towards `radius` points.
+    /// Draws a glow around the centre that fades to 0 at `radius` points.
     void drawCenteredGlow(double radius, std::uint32_t color, double centerAlpha);
 
-    /// The box of pixels around the centre that a disc of `radius` pixels needs; inside the
-    /// picture, ends included.
+    /// The pixels around the centre that a disc of `radius` pixels may cover; clipped, inclusive.
     struct Box {
         int left, top, right, bottom;
     };
@@ -80,7 +77,7 @@ private:
     PixelOrder m_order;
     std::vector<std::uint32_t> m_pixels;
     std::vector<float> m_distances;
-    std::vector<std::uint32_t> m_strengths; ///< of a row, four times each
+    std::vector<std::uint32_t> m_strengths; ///< of a row, each repeated four times
 };
 
 } // namespace vantle

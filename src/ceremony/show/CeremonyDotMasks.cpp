@@ -10,8 +10,8 @@ namespace vantle {
 
 namespace {
 
-constexpr int kSamples = 4;       // a pixel, each way
-constexpr int kLeastCoverage = 3; // what is fainter isn't painted
+constexpr int kSamples = 4;       // per pixel, in each direction
+constexpr int kLeastCoverage = 3; // fainter coverage is not painted
 constexpr int kRowPixels = 8;
 constexpr std::size_t kRowBytes = std::size_t{kRowPixels} * 4;
 
@@ -31,8 +31,8 @@ std::uint8_t coverageOf(int x, int y, double center, double radius, double halo)
     return static_cast<std::uint8_t>(std::min(byte, 255));
 }
 
-/// How strongly a covered pixel is painted when the whole dot is at `strength`. Weak ones are
-/// masked out with bits: a choice would take vectors twice as long.
+/// Returns the strength of a covered pixel of a dot with `strength`. Masks weak ones by bits, since
+/// a branch takes twice as long in vector code.
 std::uint16_t strengthAt(std::uint16_t weight, std::uint8_t strength) {
     const auto scaled =
         static_cast<std::uint16_t>(static_cast<std::uint16_t>(strength * weight) >> 8);
@@ -69,7 +69,7 @@ void CeremonyDotMask::prepareRows() {
             bottom = y;
         }
     }
-    // All eight have to lie within the sprite, which lies within the canvas.
+    // Eight pixels must fit into the sprite, which lies within the canvas.
     m_left = std::min(left, m_side - kRowPixels);
     if (m_left < 0 || right >= m_left + kRowPixels) return;
     m_top = top;

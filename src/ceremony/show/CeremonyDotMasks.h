@@ -1,4 +1,6 @@
-// How much of each pixel a dot covers, for the six sizes of dots. Plain values, any thread.
+// The pixel coverage of dots, in six sizes.
+//
+// Plain values, any thread.
 #pragma once
 
 #include <cstddef>
@@ -9,22 +11,21 @@ namespace vantle {
 
 class CeremonyCanvas;
 
-/// The coverage of one sort of dot.
+/// The coverage of one kind of dot.
 class CeremonyDotMask {
 public:
-    /// A disc of `radius` pixels in the middle of a square of `side`, with a soft edge and a halo
-    /// of at most `halo` (0 to 1) around it.
+    /// A disc of `radius` pixels centred in a square of `side`, with a soft edge and a halo of at
+    /// most `halo` (0 to 1).
     CeremonyDotMask(int side, double radius, double halo);
 
     /// side x side bytes, row by row.
     [[nodiscard]] const std::vector<std::uint8_t>& coverage() const { return m_coverage; }
 
-    /// Blends the dot with its upper left corner at (x, y), at a strength of 0 to 255. What lies
-    /// outside the canvas is left out.
+    /// Blends the dot with its upper left corner at (x, y) and a strength of 0 to 255; clipped.
     void stamp(CeremonyCanvas& canvas, int x, int y, std::uint32_t color, int strength) const;
 
 private:
-    /// Where the byte of a pixel stands in the coverage.
+    /// Returns the index of a pixel in the coverage.
     [[nodiscard]] std::size_t place(int x, int y) const {
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(m_side) +
                static_cast<std::size_t>(x);
@@ -38,8 +39,8 @@ private:
     int m_side;
     std::vector<std::uint8_t> m_coverage;
 
-    // The covered rows again, ready for vectors: eight pixels from m_left on, a weight (coverage
-    // + 1, or 0) for each of their channels. Empty where eight pixels are too few.
+    // The covered rows for vector code: eight pixels from m_left on, with a weight (coverage + 1,
+    // or 0) for each channel. Empty when the dot is wider than eight pixels.
     std::vector<std::uint16_t> m_weights;
     int m_left = 0;
     int m_top = 0;
@@ -47,10 +48,10 @@ private:
 };
 
 struct CeremonyDotMasks {
-    /// For a grid with that pitch in pixels.
+    /// For a grid with `pitch` pixels.
     explicit CeremonyDotMasks(double pitch);
 
-    /// How wide and high the sprite of a dot is: about two pitches, odd, 5 to 9 pixels.
+    /// Returns the side of a dot's sprite: about two pitches, odd, 5 to 9 pixels.
     [[nodiscard]] static int sideFor(double pitch);
 
     int side;
@@ -59,7 +60,7 @@ struct CeremonyDotMasks {
     CeremonyDotMask smallOver; ///< while the dot is young
     CeremonyDotMask big;
     CeremonyDotMask bigOver;
-    CeremonyDotMask flash; ///< while it is just born
+    CeremonyDotMask flash; ///< just after birth
 };
 
 } // namespace vantle

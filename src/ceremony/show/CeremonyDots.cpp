@@ -16,19 +16,19 @@ constexpr double kFlash = 0.13;
 constexpr double kYoung = 0.3;
 constexpr double kSettled = 0.32;
 constexpr double kDying = 0.22;
-constexpr double kFading = 0.3; // of one behind
+constexpr double kFading = 0.3; // of a dot in the back layer
 
-constexpr double kStrobe = 25; // half-cycles a second
-constexpr double kSmall = 0.8; // how bright a small dot is beside a large one
+constexpr double kStrobe = 25; // half-cycles per second
+constexpr double kSmall = 0.8; // brightness of a small dot relative to a large one
 
-/// Opacities here stay below 1: nothing to clamp.
+/// Opacities here stay below 1, so no clamping is needed.
 int stampStrength(double alpha) { return static_cast<int>(alpha * 255); }
 
 std::vector<CeremonyDots::Place> placesOf(const std::vector<std::int32_t>& indices,
                                           const CeremonyGridModel& model,
                                           const CeremonyCanvas& canvas, int side) {
     const double pitch = model.cell / canvas.scale();
-    // Where the sprite is larger than the canvas it starts at its edge.
+    // A sprite larger than the canvas starts at its edge.
     const auto start = [&](int cell, int size) {
         const auto wanted = static_cast<int>(std::round(pitch * (cell + 0.5) - side / 2.0));
         return std::clamp(wanted, 0, std::max(size - side, 0));
@@ -49,7 +49,7 @@ std::vector<CeremonyDots::Wave> wavesOf(const std::vector<float>& phases) {
     return waves;
 }
 
-/// The sine of x + phase for an x that many dots share.
+/// sin(x + phase) for an x that many dots share.
 class SharedSine {
 public:
     explicit SharedSine(double x) : m_sine(std::sin(x)), m_cosine(std::cos(x)) {}

@@ -1,5 +1,6 @@
-// The dots of the grid, in front and behind: where each stands in the picture and how it looks at
-// a given moment. Any thread; drawing is the business of whoever owns the canvas.
+// The dots of the grid: places, colours and drawing of both layers.
+//
+// Any thread; drawing is for the thread of the canvas.
 #pragma once
 
 #include "ceremony/show/CeremonyDotMasks.h"
@@ -15,7 +16,7 @@ class CeremonyCanvas;
 
 class CeremonyDots {
 public:
-    /// The places and the colours of the model's dots on that canvas.
+    /// Computes places and colours of the model's dots on that canvas.
     CeremonyDots(const CeremonyGridModel& model, const CeremonyCanvas& canvas);
 
     /// The upper left corner of a dot's sprite, in pixels.
@@ -24,15 +25,15 @@ public:
         std::int32_t y = 0;
     };
 
-    /// The phase of a dot's twinkle. sin(x + phase) is a product and a sum then, so that a frame
-    /// needs no sine for each dot.
+    /// The phase of a dot's twinkle as sine and cosine: sin(x + phase) is then two products and a
+    /// sum, and a frame needs no sine per dot.
     struct Wave {
         double sine = 0;
         double cosine = 0;
     };
 
-    /// Paint what is alive at `t` seconds, in the order of the arrays. Model and canvas are those
-    /// of the construction.
+    /// Draw the dots alive at `t` seconds, in array order. Require the model and canvas of the
+    /// construction.
     void drawBack(CeremonyCanvas& canvas, const CeremonyGridModel& model, double t) const;
     void drawFront(CeremonyCanvas& canvas, const CeremonyGridModel& model, double t) const;
 
@@ -40,7 +41,7 @@ public:
     [[nodiscard]] const std::vector<Place>& frontPlaces() const { return m_frontPlaces; }
     [[nodiscard]] const std::vector<Place>& backPlaces() const { return m_backPlaces; }
 
-    /// The colour of a dot that is just born: each channel raised by 0.45 of what is missing.
+    /// Returns the colour of a newborn dot: each channel raised by 0.45 of the distance to white.
     [[nodiscard]] static std::uint32_t flashColor(std::uint32_t rgb);
 
 private:

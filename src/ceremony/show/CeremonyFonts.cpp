@@ -8,7 +8,7 @@ namespace vantle::ceremonyfonts {
 
 namespace {
 
-/// The program's own typeface, as in its windows, in the size of the screen's points.
+/// The program's font, as in its windows, in points of the screen.
 QFont systemFont(double size, QFont::Weight weight) {
     QFont font;
     font.setFamilies({QStringLiteral("Inter Display"), QStringLiteral("Inter"),

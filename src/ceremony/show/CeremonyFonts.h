@@ -1,5 +1,7 @@
-// The typefaces of the ceremony's two texts; the card after a session shares that of the title.
-// Needs a QGuiApplication; any thread after registering.
+// The fonts of the ceremony's title and caption.
+//
+// The card after a session uses the title's font too. Requires a QGuiApplication; any thread after
+// registration.
 #pragma once
 
 #include <QFont>
@@ -11,18 +13,18 @@ inline constexpr auto titleResourceName = "Jersey25-Regular";
 inline constexpr auto titlePostScriptName = "Jersey25-Regular";
 inline constexpr auto titleFamilyName = "Jersey 25";
 
-/// Makes Jersey25-Regular.ttf known to the process, from the first of the folders that holds it.
-/// Without the file the title is set in the system's typeface. Once, at launch, main thread.
+/// Loads Jersey25-Regular.ttf from the first of the folders that has it. Without it the title uses
+/// the system font. Once, at launch, main thread.
 void registerBundledFonts(const QStringList& resourceFolders);
 
-/// The family of the bundled typeface, which goes by either of its names; empty without it.
+/// Returns the family of the bundled font, under either of its names; empty when it is not loaded.
 [[nodiscard]] QString titleFamily();
 
-/// For the title, `size` in points of the screen (pixels at scale 1): the bundled typeface, else
-/// the system's in a heavy weight.
+/// The title's font, `size` in points of the screen (pixels at scale 1): bundled, or a heavy system
+/// font.
 [[nodiscard]] QFont titleFont(double size);
 
-/// For the caption: the system's typeface, semibold.
+/// The caption's font: system, semibold.
 [[nodiscard]] QFont captionFont(double size);
 
 } // namespace vantle::ceremonyfonts

@@ -1,7 +1,8 @@
-// Paints the frames of a show into a small buffer, which the screen then stretches smoothly.
+// The renderer of a show's low-resolution frames.
 //
-// Made off the main thread, since that takes milliseconds; after that one thread at a time. A frame
-// depends on its time alone, so frames may be left out; only the shake remembers something.
+// The screen scales the frames up smoothly. Construct off the main thread, since it takes
+// milliseconds; afterwards one thread at a time. A frame depends only on its time, so frames may be
+// skipped; only the shake has state.
 #pragma once
 
 #include "ceremony/show/CeremonyCanvas.h"
@@ -16,34 +17,33 @@ namespace vantle {
 
 class CeremonyFrameRenderer {
 public:
-    /// `order` says in which order the bytes of a pixel lie: `Rgba` is QImage's
-    /// Format_RGBA8888_Premultiplied; `Bgra` is its Format_ARGB32_Premultiplied on processors with
-    /// the low byte first, which a painter scales the fastest.
+    /// `order` is the byte order: `Rgba` is QImage's Format_RGBA8888_Premultiplied; `Bgra` is
+    /// Format_ARGB32_Premultiplied on little-endian processors, which QPainter scales fastest.
     explicit CeremonyFrameRenderer(CeremonyGridModel model, PixelOrder order = PixelOrder::Rgba);
 
     [[nodiscard]] const CeremonyGridModel& model() const { return m_model; }
     [[nodiscard]] bool hasTitle() const { return !m_model.titleImage.isNull(); }
 
-    /// Paints the frame at `t` seconds into the buffer, from nothing. Allocates nothing.
+    /// Renders the frame at `t` seconds from scratch. Does not allocate.
     void fillField(double t);
 
-    /// The frame: bufferWidth() x bufferHeight() pixels with premultiplied alpha, rows from the
-    /// top, no gaps between them. Valid as long as this object, and overwritten by fillField().
+    /// The frame: bufferWidth() x bufferHeight() premultiplied pixels, top row first, no padding.
+    /// Valid as long as this object; fillField() overwrites it.
     [[nodiscard]] std::span<const std::uint32_t> fieldBuffer() const { return m_canvas.pixels(); }
     [[nodiscard]] int bufferWidth() const { return m_canvas.width(); }
     [[nodiscard]] int bufferHeight() const { return m_canvas.height(); }
-    /// Points a pixel. The buffer may reach beyond the right and the lower edge of the screen.
+    /// Points per pixel. The buffer may extend beyond the screen's right and lower edge.
     [[nodiscard]] double bufferScale() const { return m_canvas.scale(); }
 
-    /// Of the title pill, which stands in the centre of the screen; 0 without a title.
+    /// The opacity of the title pill in the screen's centre; 0 without a title.
     [[nodiscard]] double titleOpacity(double t) const;
-    /// How far the title pill stands above the centre, in points; negative is below.
+    /// The title pill's height above the centre in points; negative is below.
     [[nodiscard]] double titleRise(double t) const;
-    /// Of the caption, whose centre stands 46 points above the lower edge of the screen.
+    /// The caption's opacity; its centre is 46 points above the screen's lower edge.
     [[nodiscard]] double captionOpacity(double t) const;
 
-    /// How far field, title and caption are all moved, in points: dx to the right, dy downwards.
-    /// To be asked once a frame.
+    /// The offset of field, title and caption, in points: dx to the right, dy down. Call once per
+    /// frame.
     [[nodiscard]] CeremonyShake::Offset shakeOffset(double t);
     [[nodiscard]] std::uint64_t shakeState() const { return m_shake.state(); }
 

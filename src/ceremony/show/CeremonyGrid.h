@@ -1,4 +1,6 @@
-// How a screen is divided into cells, each of which may hold a dot. Plain values, any thread.
+// The division of a screen into cells for dots.
+//
+// Plain values, any thread.
 #pragma once
 
 #include <QSizeF>
@@ -14,11 +16,11 @@ struct CeremonyGrid {
 
     static constexpr double leastSide = 24;
     static constexpr double leastCell = 12;
-    /// The most cells that a screen should have. A pitch that the rounding leaves just short of it
-    /// grows once; what that gives is taken.
+    /// The target for the number of cells. When rounding leaves the pitch just too small, it grows
+    /// once, whatever results.
     static constexpr int maxFieldPixels = 13000;
 
-    /// The grid of a screen of that size in points. A size that is no number counts as the least.
+    /// Returns the grid of a screen of that size in points. NaN counts as the minimum.
     [[nodiscard]] static CeremonyGrid forScreen(QSizeF size);
 
     friend bool operator==(const CeremonyGrid&, const CeremonyGrid&) = default;

@@ -12,13 +12,13 @@ namespace vantle {
 
 namespace {
 
-// A full turn as it is meant everywhere in the ceremony: not quite 2π.
+// A full turn throughout the ceremony: slightly less than 2π.
 constexpr double kTurn = 6.283;
 
-constexpr double kEmptyShare = 0.45;  // of the cells have no front dot
-constexpr double kBackShare = 0.3;    // of those have one behind
-constexpr double kBrightShare = 0.28; // of the front dots are large
-constexpr double kBackLinger = 0.15;  // seconds that a dot behind outlives those in front
+constexpr double kEmptyShare = 0.45;  // share of cells without a front dot
+constexpr double kBackShare = 0.3;    // share of those with a back dot
+constexpr double kBrightShare = 0.28; // share of large front dots
+constexpr double kBackLinger = 0.15;  // seconds that a back dot outlives the front dots
 constexpr double kColumnJitter = 0.55;
 constexpr double kRowJitter = 0.1;
 constexpr int kColors = 5;
@@ -33,7 +33,7 @@ std::vector<double> jitters(int count, double bound, RandomSource& random) {
     return table;
 }
 
-/// When the dot of a cell lives, by the script.
+/// The lifetime of a cell's dot in each script.
 class Schedule {
 public:
     Schedule(CeremonyVariant variant, const CeremonyGrid& grid, RandomSource& random)

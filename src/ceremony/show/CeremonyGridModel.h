@@ -1,8 +1,8 @@
-// The choreography of one show on one screen, as data: when each dot is born and when it vanishes.
+// The choreography of one show on one screen, as data.
 //
-// A structure of arrays, so that a renderer walks flat memory. Lengths are in points with y
-// downwards, times in seconds from the start of the show. Plain values: any thread, but a build
-// takes milliseconds and is kept off the main one.
+// Structure of arrays, so that a renderer reads memory sequentially. Lengths in points, y
+// downwards; times in seconds from the start. Plain values: any thread, but a build takes
+// milliseconds, so it stays off the main thread.
 #pragma once
 
 #include "ceremony/show/CeremonyGrid.h"
@@ -27,34 +27,34 @@ struct CeremonyGridModel {
     int rows = 0;
     double cell = 0; ///< pitch of the grid
 
-    /// The front dots; all of one length.
+    /// The front dots; arrays of equal length.
     std::vector<std::int32_t> fieldIndex; ///< row * cols + column
     std::vector<float> fieldBorn;
     std::vector<float> fieldVanish;
     std::vector<std::uint8_t> fieldColor;   ///< index into ceremonypalette::field
     std::vector<std::uint8_t> fieldBright;  ///< 1 for a large dot
     std::vector<float> fieldPhase;          ///< of the twinkle, 0 up to 6.283
-    std::vector<std::uint8_t> fieldFlicker; ///< parity of the strobe of a dying dot
+    std::vector<std::uint8_t> fieldFlicker; ///< parity of a dying dot's strobe
 
-    /// The dimmer dots behind; all of one length.
+    /// The dimmer back dots; arrays of equal length.
     std::vector<std::int32_t> backIndex;
     std::vector<float> backBorn;
     std::vector<float> backVanish;
     std::vector<std::uint8_t> backColor;
     std::vector<float> backPhase;
 
-    /// What flies into the centre before the burst of `Nova`; empty for the others. They may start
-    /// outside the screen.
+    /// The chargers that fly to the centre before the burst of `Nova`; empty for other scripts.
+    /// They may start outside the screen.
     std::vector<float> chargerX;
     std::vector<float> chargerY;
     std::vector<std::uint8_t> chargerColor;
 
-    /// What the burst throws out.
+    /// The sparks of the burst.
     std::vector<float> sparkAngle;  ///< radians
-    std::vector<float> sparkSpeed;  ///< points a second
+    std::vector<float> sparkSpeed;  ///< points per second
     std::vector<float> sparkLength; ///< of the trail
 
-    /// The title pill and the caption, at two pixels a point; null where there is none.
+    /// Title pill and caption at two pixels per point; null where there is none.
     QImage titleImage;
     QSizeF titleSize{0, 0}; ///< points; 0 x 0 where there is none
     QImage captionImage;
@@ -64,14 +64,14 @@ struct CeremonyGridModel {
     static constexpr double endTime = 3.1;
     static constexpr int maxFieldPixels = CeremonyGrid::maxFieldPixels;
 
-    /// The show of `variant` on a screen of `size` points, with its texts for the skill (empty for
-    /// none). Never fails; a size below 24 x 24 counts as that. Needs a QGuiApplication for the
-    /// fonts, on whatever thread it runs.
+    /// Builds the show of `variant` for a screen of `size` points, with texts for the skill (empty
+    /// for none). Never fails; sizes below 24 x 24 count as that. Requires a QGuiApplication for
+    /// the fonts, on any thread.
     [[nodiscard]] static CeremonyGridModel build(CeremonyVariant variant, QSizeF size,
                                                  const QString& skillName, RandomSource& random);
 
-    /// The same without title and caption; needs no fonts. The order in which it draws its numbers
-    /// is fixed, so a sequence gives the same show everywhere.
+    /// Builds it without title and caption, and without fonts. Draws random numbers in a fixed
+    /// order, so a sequence gives the same show everywhere.
     [[nodiscard]] static CeremonyGridModel choreograph(CeremonyVariant variant, QSizeF size,
                                                        RandomSource& random);
 };

@@ -1,6 +1,7 @@
-// The script with a burst: chargers gather in the centre, and half a second in they burst.
+// The burst of the `Nova` script.
 //
-// Pure but for the canvas; t in seconds from the start of the show.
+// Chargers gather in the centre and burst after half a second. Pure except for the canvas; t in
+// seconds from the start of the show. Any thread.
 #pragma once
 
 namespace vantle {
@@ -10,13 +11,13 @@ struct CeremonyGridModel;
 
 namespace ceremonynova {
 
-/// How far a ring may grow, in points: a little beyond the corners.
+/// The largest radius of a ring in points: slightly beyond the corners.
 [[nodiscard]] double largestRadius(const CeremonyGridModel& model);
 
-/// Until the detonation. Nothing else is painted then but the plate.
+/// Draws the time before the detonation, on the plate alone.
 void drawCharge(CeremonyCanvas& canvas, const CeremonyGridModel& model, double t);
 
-/// From the detonation on: rings, sparks, glow and flash, over the dots.
+/// Draws rings, sparks, glow and flash over the dots, from the detonation on.
 void drawBurst(CeremonyCanvas& canvas, const CeremonyGridModel& model, double t);
 
 } // namespace ceremonynova

@@ -16,7 +16,7 @@ namespace {
 
 namespace palette = ceremonypalette;
 
-/// How strong a line between four pixels is in each of them, the outer two being its halo.
+/// The strengths of a line over four pixels; the outer two are its halo.
 std::array<double, 4> lineWeights(double fraction) { return {0.16, 1 - fraction, fraction, 0.16}; }
 
 void drawRain(CeremonyCanvas& canvas, const CeremonyGridModel& model, double t) {
@@ -24,7 +24,7 @@ void drawRain(CeremonyCanvas& canvas, const CeremonyGridModel& model, double t) 
     constexpr double kLength = 70; // points
     const std::uint32_t color = canvas.packed(palette::field[4]);
     for (std::uint32_t k = 0; k < kStreaks; ++k) {
-        // Scattered, but the same in every show.
+        // A pseudo-random scatter, equal in every show.
         const std::uint32_t scattered = k * 0x9E3779B1U % 1000;
         const double x = model.width * scattered / 1000 / canvas.scale() - 0.5;
         const double turns = 0.13 * k + t * (0.55 + 0.12 * (k % 4));
@@ -43,7 +43,7 @@ void drawRain(CeremonyCanvas& canvas, const CeremonyGridModel& model, double t) 
     }
 }
 
-/// How far the line of `Scan` has swept across the screen, if it does.
+/// Returns how far the line of `Scan` has swept the screen; empty when it is not sweeping.
 std::optional<double> sweep(double t) {
     if (t >= 0.15 && t <= 1.55) return (t - 0.15) / 1.4;
     if (t >= 1.85 && t <= 2.62) return (t - 1.85) / 0.77;

@@ -1,6 +1,6 @@
-// What each script paints over its dots: rings, streaks, a line or arms.
+// The overlays of the scripts: rings, streaks, line, arms.
 //
-// Pure but for the canvas; t in seconds from the start of the show.
+// Pure except for the canvas; t in seconds from the start of the show. Any thread.
 #pragma once
 
 namespace vantle {
@@ -10,7 +10,7 @@ struct CeremonyGridModel;
 
 namespace ceremonyoverlays {
 
-/// The overlay of the model's script.
+/// Draws the overlay of the model's script.
 void draw(CeremonyCanvas& canvas, const CeremonyGridModel& model, double t);
 
 } // namespace ceremonyoverlays

@@ -1,4 +1,6 @@
-// The shake of the screen after the burst. A plain value, any thread.
+// The shake of the screen after the burst.
+//
+// A plain value, any thread.
 #pragma once
 
 #include <cstdint>
@@ -12,8 +14,8 @@ public:
         double dy = 0; ///< points
     };
 
-    /// Where the show stands at `t` seconds. Each call during the shake takes two numbers from a
-    /// sequence that starts alike in every show, so a call too many moves all later ones.
+    /// Returns the offset at `t` seconds. Each call during the shake takes two numbers of a
+    /// sequence that is the same for every show, so an extra call shifts all later ones.
     [[nodiscard]] Offset at(double t);
 
     [[nodiscard]] std::uint64_t state() const { return m_state; }

@@ -18,7 +18,7 @@ constexpr double kTail = 90;     // points
 
 double progress(double t) { return std::clamp((t - kStart) / kFlight, 0.0, 1.0); }
 
-/// From white at the head to the colour of building at the tail.
+/// From white at the head to the skill colour "building" at the tail.
 std::uint32_t tailColor(double u) {
     const auto red = static_cast<std::uint32_t>(122 + 133 * u);
     const auto green = static_cast<std::uint32_t>(120 + 135 * u);
@@ -56,7 +56,7 @@ void drawEchoes(CeremonyCanvas& canvas, double centerY, double t) {
     }
 }
 
-/// The point itself, drawn out a little along its way.
+/// Draws the point, slightly elongated along its path.
 void drawHead(CeremonyCanvas& canvas, double y) {
     const double x = canvas.centerX();
     const std::uint32_t white = canvas.packed(ceremonypalette::white);

@@ -1,7 +1,7 @@
-// The bright point that ends every show: it shoots from the centre of the screen upwards and comes
-// to rest where the capsule shows.
+// The bright point that ends every show.
 //
-// Pure but for the canvas; t in seconds from the start of the show, heights in points from the top.
+// It shoots from the screen's centre up to the place of the capsule. Pure except for the canvas; t
+// in seconds from the start of the show, heights in points from the top. Any thread.
 #pragma once
 
 namespace vantle {
@@ -12,10 +12,10 @@ namespace ceremonyshootingpoint {
 
 inline constexpr double restHeight = 26;
 
-/// Where the point is; at the centre until it starts.
+/// Returns the point's height; the centre until it starts.
 [[nodiscard]] double headHeight(double centerY, double t);
 
-/// Paints it from 2.8 on.
+/// Draws the point from 2.8 s on.
 void draw(CeremonyCanvas& canvas, double centerY, double t);
 
 } // namespace ceremonyshootingpoint

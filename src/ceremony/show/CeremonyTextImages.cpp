@@ -22,7 +22,7 @@ LineMetrics measured(const QString& text, const QFont& font) {
     return {metrics.horizontalAdvance(text), metrics.ascent(), metrics.descent()};
 }
 
-/// Positions between pixels are kept, so that the letters stand as the typeface has them.
+/// Keeps subpixel positions, so that letters are spaced as the font has them.
 QFont unhinted(QFont font) {
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setStyleStrategy(QFont::PreferAntialias);

@@ -1,4 +1,6 @@
-// The title pill and the caption as pictures. Need a QGuiApplication; any thread.
+// The images of the title pill and the caption.
+//
+// Require a QGuiApplication; any thread.
 #pragma once
 
 #include <QImage>
@@ -8,14 +10,14 @@
 namespace vantle::ceremonytext {
 
 struct TextImage {
-    QImage image;      ///< two pixels a point, premultiplied; null when there is nothing to show
-    QSizeF size{0, 0}; ///< points; 0 x 0 when there is nothing to show
+    QImage image;      ///< two pixels per point, premultiplied; null when empty
+    QSizeF size{0, 0}; ///< points; 0 x 0 when empty
 };
 
-/// White text on a dark pill with a fine edge, as large as suits a screen of that width in points.
+/// Draws white text on a dark pill with a fine edge, sized for a screen of that width in points.
 [[nodiscard]] TextImage titleImage(const QString& title, double screenWidth);
 
-/// A small white line on nothing.
+/// Draws a small white line without background.
 [[nodiscard]] TextImage captionImage(const QString& caption);
 
 } // namespace vantle::ceremonytext

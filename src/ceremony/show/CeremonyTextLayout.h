@@ -1,20 +1,20 @@
-// Where the ceremony's two texts stand in their pictures. Pure functions, any thread.
+// The layout of the ceremony's texts in their images.
 //
-// Lengths in points of the screen; heights are counted upwards from the lower edge.
+// Lengths in points of the screen; heights from the lower edge upwards. Pure functions, any thread.
 #pragma once
 
 #include <optional>
 
 namespace vantle::ceremonytext {
 
-/// What a line of text measures.
+/// The measures of a line of text.
 struct LineMetrics {
     double width = 0;
     double ascent = 0;
     double descent = 0;
 };
 
-/// A picture and the place of the text's baseline in it.
+/// An image size and the baseline within it.
 struct Layout {
     double width = 0;
     double height = 0;
@@ -24,10 +24,10 @@ struct Layout {
     friend bool operator==(const Layout&, const Layout&) = default;
 };
 
-/// The size of the title on a screen of that width, 34 to 74.
+/// Returns the title's font size for a screen of that width, 34 to 74.
 [[nodiscard]] double titleFontSize(double screenWidth);
 
-/// The title's pill; none when there is nothing to show.
+/// Returns the title pill's layout; empty without a title.
 [[nodiscard]] std::optional<Layout> titleLayout(double fontSize, const LineMetrics& line);
 
 [[nodiscard]] std::optional<Layout> captionLayout(const LineMetrics& line);

@@ -1,30 +1,31 @@
-// What depends on nothing but the time within the show. Pure functions, any thread.
+// The values of a show that depend on time alone.
 //
-// t is in seconds from the start of the show; opacities are 0 to 1, lengths in points.
+// t in seconds from the start of the show; opacities 0 to 1, lengths in points. Pure functions, any
+// thread.
 #pragma once
 
 #include "ceremony/show/CeremonyVariant.h"
 
 namespace vantle::ceremonytimeline {
 
-/// Whether the show is over: nothing is painted from here on.
+/// Whether the show has ended: nothing is painted from here on.
 [[nodiscard]] bool hasEnded(double t);
 
-/// Of the black plate behind everything, at most 0.52.
+/// The opacity of the black plate behind everything, at most 0.52.
 [[nodiscard]] double plateAlpha(CeremonyVariant variant, double t);
-/// The same as the alpha of a pixel, 0 to 255.
+/// The same as a pixel's alpha, 0 to 255.
 [[nodiscard]] int plateByte(CeremonyVariant variant, double t);
 
-/// The first moment at which the title pill has come in.
+/// The time at which the title pill has arrived.
 inline constexpr double titleStands = 2.0;
 
-/// Of the title pill.
+/// The opacity of the title pill.
 [[nodiscard]] double titleOpacity(double t);
 
-/// How far the title pill stands above its place, upwards; negative is below.
+/// The title pill's height above its final place; negative is below.
 [[nodiscard]] double titleRise(double t);
 
-/// How bright the glow behind the title is, 0 to 1.
+/// The brightness of the glow behind the title, 0 to 1.
 [[nodiscard]] double titleGlow(double t);
 
 [[nodiscard]] double captionOpacity(double t);

@@ -1,4 +1,6 @@
-// The five scripts of the ceremony. Plain values, any thread.
+// The five scripts of the ceremony.
+//
+// Plain values, any thread.
 #pragma once
 
 #include <QString>
@@ -17,12 +19,12 @@ enum class CeremonyVariant : int {
 
 namespace ceremonyvariant {
 
-/// All of them, by raw value.
+/// All variants, by raw value.
 inline constexpr std::array<CeremonyVariant, 5> all = {
     CeremonyVariant::Nova, CeremonyVariant::Rain, CeremonyVariant::Scan, CeremonyVariant::Spiral,
     CeremonyVariant::Wall};
 
-/// What is shown below the show, "SEQ 01 · SUPERNOVA".
+/// Returns the caption, "SEQ 01 · SUPERNOVA".
 [[nodiscard]] QString caption(CeremonyVariant variant);
 
 /// "nova", "rain", "scan", "spiral", "wall".

@@ -13,14 +13,13 @@ namespace vantle {
 
 namespace {
 
-/// What the two weights of a column add up to. The vector instructions take signed bytes, so a
-/// weight is at most 127, and the other one at least 1.
+/// The sum of a column's two weights. The vector instructions take signed bytes, so a weight is at
+/// most 127 and the other at least 1.
 constexpr int kColumnWeights = 128;
-/// The same of two rows, of which one may weigh nothing.
+/// The sum of two rows' weights, one of which may be 0.
 constexpr int kRowWeights = 256;
 
-/// Where a pixel of the target lies in the source: between `before`, and the next one, at a part of
-/// 0 to 1.
+/// A target pixel's position in the source: between `before` and the next pixel, 0 to 1.
 struct Position {
     int before = 0;
     double part = 0;
@@ -32,7 +31,7 @@ Position positionOf(int pixel, double factor, double shift, int length) {
     return {static_cast<int>(before), at - before};
 }
 
-/// The pixels of the target, of `count`, whose centres a source of that length covers.
+/// The range of target pixels, of `count`, whose centres lie within the source.
 struct Reach {
     int first = 0;
     int end = 0;
@@ -63,7 +62,7 @@ void widenPlain(const std::uint32_t* row, const std::uint32_t* left, const std::
         wide[x] = mixedPixel(row[left[x]], row[left[x] + 1], weights[x]);
 }
 
-/// Bytes one by one, which the compiler makes vector instructions of.
+/// Byte-wise, which the compiler vectorises.
 [[gnu::always_inline]] inline void mixBytes(const std::uint8_t* __restrict upper,
                                             const std::uint8_t* __restrict lower,
                                             std::uint16_t lowerWeight, std::size_t count,
@@ -89,16 +88,16 @@ void mixPlain(const std::uint8_t* upper, const std::uint8_t* lower, std::uint16_
     mixBytes(upper, lower, lowerWeight, count, mixed);
 }
 
-/// Two neighbouring pixels of the source, for one of the target.
+/// Loads the two source pixels of one target pixel.
 [[gnu::target("ssse3")]] inline __m128i pairAt(const std::uint32_t* row, std::uint32_t left) {
     return _mm_loadl_epi64(reinterpret_cast<const __m128i*>(row + left));
 }
 
-/// Four pixels of the target at once.
+/// Computes four target pixels at once.
 [[gnu::target("ssse3")]] void widenSsse3(const std::uint32_t* row, const std::uint32_t* left,
                                          const std::uint16_t* weights, int first, int end,
                                          std::uint32_t* wide) {
-    // The same channel of the left and the right pixel side by side, as the weights are.
+    // Interleaves the channels of left and right pixel, in the order of the weights.
     const __m128i sideBySide = _mm_setr_epi8(0, 4, 1, 5, 2, 6, 3, 7, 8, 12, 9, 13, 10, 14, 11, 15);
     const __m128i firstTwo = _mm_setr_epi8(0, 1, 0, 1, 0, 1, 0, 1, 2, 3, 2, 3, 2, 3, 2, 3);
     const __m128i lastTwo = _mm_setr_epi8(4, 5, 4, 5, 4, 5, 4, 5, 6, 7, 6, 7, 6, 7, 6, 7);
@@ -158,14 +157,14 @@ void FieldStretch::layOut(int width, int count, double factor, double shift) {
             static_cast<std::uint16_t>(right << 8 | (kColumnWeights - right));
     }
     m_row.resize(static_cast<std::size_t>(width) + 1);
-    // Clear where the source does not reach.
+    // Transparent where the source does not reach.
     m_upper.assign(static_cast<std::size_t>(count), 0);
     m_lower.assign(static_cast<std::size_t>(count), 0);
 }
 
 void FieldStretch::widen(std::span<const std::uint32_t> row, std::vector<std::uint32_t>& wide) {
     std::ranges::copy(row, m_row.begin());
-    m_row.back() = row.back(); // the last column reads one further
+    m_row.back() = row.back(); // the last column reads one pixel further
 #ifdef __x86_64__
     const auto widened = m_hasSsse3 ? widenSsse3 : widenPlain;
 #else
@@ -190,7 +189,7 @@ void FieldStretch::stretch(std::span<const std::uint32_t> source, QSize size, do
     };
     const Reach reach = reachOf(size.height(), target.height(), factor, shift.y());
     uchar* const pixels = target.bits();
-    int upper = -1; // the source row that m_upper holds; m_lower holds the next
+    int upper = -1; // index of the source row in m_upper; m_lower holds the next
     for (int y = 0; y < target.height(); ++y) {
         uchar* const line = pixels + y * target.bytesPerLine();
         if (y < reach.first || y >= reach.end) {

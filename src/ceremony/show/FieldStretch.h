@@ -1,8 +1,7 @@
-// Stretches the small picture of a frame smoothly over a screen.
+// The smooth scaler for frames.
 //
-// What QPainter does with SmoothPixmapTransform, to within 5 levels of 255, at a quarter of its
-// time: each row of the source is widened once, and each row of the target is a mix of two of
-// those.
+// Matches QPainter's SmoothPixmapTransform within 5 levels of 255 in a quarter of the time: each
+// source row is widened once, and each target row mixes two of those.
 #pragma once
 
 #include <QImage>
@@ -16,31 +15,31 @@
 
 namespace vantle {
 
-/// Keeps two rows as wide as the target between calls. One thread at a time.
+/// Keeps two rows of the target's width between calls. One thread at a time.
 class FieldStretch {
 public:
-    /// `Plain` is the same arithmetic without the processor's vector instructions.
+    /// `Plain` computes the same without vector instructions.
     enum class Instructions : std::uint8_t { Best, Plain };
     explicit FieldStretch(Instructions instructions = Instructions::Best);
 
-    /// Writes every pixel of `target`, 32 bits each. `source` is rows without gaps of that size, at
-    /// least 1 x 1, premultiplied as the target is. A pixel of the source takes `factor` of the
-    /// target each way, at least 1; its first corner lies at `shift`, in pixels of the target.
-    /// What the source does not reach becomes clear.
+    /// Writes every 32-bit pixel of `target`. `source` has `size` (at least 1 x 1), no padding, and
+    /// the target's premultiplied format. A source pixel covers `factor` (at least 1) target pixels
+    /// in each direction; its origin is at `shift` in target pixels. Pixels beyond the source
+    /// become transparent.
     void stretch(std::span<const std::uint32_t> source, QSize size, double factor, QPointF shift,
                  QImage& target);
 
 private:
-    /// The source pixels that the columns of the target stand between.
+    /// The source pixels and weights of the target's columns.
     struct Columns {
         int width = 0; ///< of the source
         int count = 0; ///< of the target
         double factor = 0;
         double shift = 0;
-        int first = 0; ///< the first column that the source reaches
-        int end = 0;   ///< the one behind the last
+        int first = 0; ///< the first column within the source
+        int end = 0;   ///< one past the last
         std::vector<std::uint32_t> left;
-        /// Weights of the left and the right pixel, a byte each; 128 together.
+        /// Weights of left and right pixel, a byte each; their sum is 128.
         std::vector<std::uint16_t> weights;
     };
 
@@ -50,7 +49,7 @@ private:
     const bool m_hasSsse3;
     const bool m_hasAvx2;
     Columns m_columns;
-    std::vector<std::uint32_t> m_row; ///< of the source, its last pixel twice
+    std::vector<std::uint32_t> m_row; ///< of the source, last pixel repeated
     std::vector<std::uint32_t> m_upper;
     std::vector<std::uint32_t> m_lower;
 };

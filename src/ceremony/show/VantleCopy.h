@@ -1,14 +1,14 @@
-// How a mode is named in what the user reads. Pure functions, any thread.
+// The name of a mode in texts for the user.
 //
-// No skill at all is an empty name.
+// An empty name stands for no skill. Pure functions, any thread.
 #pragma once
 
 #include <QString>
 
 namespace vantle::vantlecopy {
 
-/// "Writing" gives "Writing mode", "Dark Mode" stays as it is; no name, or that of the plain
-/// building skill, gives "Vantle".
+/// "Writing" gives "Writing mode", "Dark Mode" stays as it is; an empty name or "Building" gives
+/// "Vantle".
 [[nodiscard]] QString modeName(const QString& skillName);
 
 /// Whether `modeName` adds the word: for "Writing", not for "Dark Mode".

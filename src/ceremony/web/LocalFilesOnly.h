@@ -1,12 +1,12 @@
-// Keeps a page within its own folder and off the network.
+// The filter that keeps a page in its folder and off the network.
 #pragma once
 
 #include <QWebEngineUrlRequestInterceptor>
 
 namespace vantle {
 
-/// Blocks every request that ceremonypage::mayLoad refuses; web sockets too, which the engine's own
-/// settings let through. The engine may ask on a thread of its own.
+/// Blocks every request that ceremonypage::mayLoad refuses, including web sockets, which the
+/// engine's settings allow. The engine may call it on its own thread.
 class LocalFilesOnly final : public QWebEngineUrlRequestInterceptor {
     Q_OBJECT
 

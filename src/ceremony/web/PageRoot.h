@@ -8,20 +8,20 @@
 
 namespace vantle {
 
-/// What the page and its window tell each other. Main thread.
+/// The interface between page and window. Main thread.
 class PageRoot : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
-    // From the window, before the page is complete.
-    /// The file that may be shown.
+    // Set by the window before the page is complete.
+    /// The page's file.
     Q_PROPERTY(QUrl page MEMBER page CONSTANT)
-    /// Runs in the page before any script of its own, and not in frames within it.
+    /// Runs before the page's own scripts, in the main frame only.
     Q_PROPERTY(QString script MEMBER script CONSTANT)
-    /// Messages of the page come over its console, told from other lines by this word.
+    /// Prefix of console lines that carry a message.
     Q_PROPERTY(QString messagePrefix MEMBER messagePrefix CONSTANT)
-    /// From the window: the page may load, since nothing lets it onto the network any more.
+    /// Set by the window: the page may load, since the network filter is installed.
     Q_PROPERTY(bool guarded READ isGuarded NOTIFY guardedChanged)
-    /// From the page: what decides on its requests.
+    /// Set by the page: the profile that takes the network filter.
     Q_PROPERTY(QQuickWebEngineProfile* profile MEMBER m_profile NOTIFY profileChanged)
 
 public:
@@ -41,9 +41,9 @@ public:
 Q_SIGNALS:
     void guardedChanged();
     void profileChanged();
-    /// The page has posted a message; its body as JSON.
+    /// The page posted a message; `body` is JSON.
     void messagePosted(const QString& body);
-    /// Nothing more comes from the page, nor is anything of it seen.
+    /// The page crashed: it is invisible and sends nothing more.
     void crashed();
 
 private:

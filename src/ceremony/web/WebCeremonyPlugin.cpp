@@ -11,7 +11,7 @@ namespace vantle {
 
 namespace {
 
-/// Ends the page, also from inside one of its own messages.
+/// Ends the page, also from inside one of its messages.
 class Place final : public OverlayWindow {
 public:
     explicit Place(WebOverlayWindow* window) : m_window(window) {}
@@ -29,7 +29,7 @@ private:
 
 } // namespace
 
-// Before the engine starts. These are ways onto the network that no interceptor is asked about.
+// Before the engine starts. These features reach the network without asking an interceptor.
 WebCeremonyPlugin::WebCeremonyPlugin() {
     constexpr const char* variable = "QTWEBENGINE_CHROMIUM_FLAGS";
     qputenv(variable, qgetenv(variable) +

@@ -1,4 +1,6 @@
-// The door of the module.
+// The entry point of the module.
+//
+// Main thread.
 #pragma once
 
 #include "ceremony/WebCeremonyModule.h"

@@ -17,8 +17,8 @@ namespace vantle {
 
 namespace {
 
-/// What the page finds when it begins: its configuration, and somebody to post messages to. A
-/// message goes out as a line of the console that begins with `prefix`.
+/// Returns the script that runs first: the configuration, and an object for posting messages. A
+/// message is a console line that begins with `prefix`.
 QString firstScript(const QString& configuration, const QString& prefix) {
     return QStringLiteral("(function(){"
                           "const log=console.log.bind(console),text=JSON.stringify;"
@@ -42,7 +42,7 @@ WebOverlayWindow::WebOverlayWindow(const QRect& frame, const Screens& screens, P
     const QUrl source(QStringLiteral("qrc:/qt/qml/Vantle/CeremonyWeb/CeremonyPage.qml"));
     auto* const component = new QQmlComponent(engine(), source, this);
     auto* const root = qobject_cast<PageRoot*>(component->beginCreate(engine()->rootContext()));
-    if (!root) return; // the engine's own QML files are missing: the hard stop ends it
+    if (!root) return; // the engine's QML files are missing: the hard stop ends the show
     root->page = QUrl::fromLocalFile(page);
     root->script = firstScript(script, prefix);
     root->messagePrefix = prefix;
@@ -59,7 +59,7 @@ WebOverlayWindow::WebOverlayWindow(const QRect& frame, const Screens& screens, P
 }
 
 void WebOverlayWindow::receive(const QString& body) {
-    // In an array, since a body may be a plain text or number.
+    // Wrapped in an array, since a body may be a plain text or number.
     const QJsonArray wrapped = QJsonDocument::fromJson(body.toUtf8()).array();
     m_message(wrapped.isEmpty() ? QJsonValue() : wrapped.first());
 }

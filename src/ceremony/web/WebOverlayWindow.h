@@ -1,4 +1,4 @@
-// One page over one screen.
+// The window of one page on one screen.
 #pragma once
 
 #include "ceremony/WebStage.h"
@@ -10,13 +10,12 @@ namespace vantle {
 class PanelHost;
 class Screens;
 
-/// Main thread. It stays up until it is destroyed, unless its screen goes away or the page crashes:
-/// then it is hidden.
+/// Visible until destroyed, but hidden when its screen goes away or the page crashes. Main thread.
 class WebOverlayWindow final : public QQuickView {
     Q_OBJECT
 
 public:
-    /// Over the screen with that frame. `screens` and `host` must outlive this.
+    /// Covers the screen with that frame. `screens` and `host` must outlive it.
     WebOverlayWindow(const QRect& frame, const Screens& screens, PanelHost& host,
                      const QString& page, const QString& script, WebStage::MessageHandler message);
 

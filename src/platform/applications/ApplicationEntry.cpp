@@ -7,10 +7,10 @@ namespace vantle {
 
 namespace {
 
-/// Longest name kept, in UTF-16 units; no application has a longer one.
+/// Longest name kept, in UTF-16 units.
 constexpr qsizetype kMaxName = 200;
 
-/// What is written before the program itself in some entries: shells, sandboxes, interpreters.
+/// Commands that precede the program in some entries: shells, sandboxes, interpreters.
 bool isLauncher(const QString& program) {
     if (interpreters::isOne(program)) return true;
     return program == QLatin1String("env") || program == QLatin1String("sh") ||
@@ -23,7 +23,7 @@ QString programOf(const QStringList& command) {
         if (word.startsWith(QLatin1Char('%'))) break;
         const QString base = word.section(QLatin1Char('/'), -1);
         if (base == QLatin1String("env") || word.contains(QLatin1Char('='))) continue;
-        // What runs inside one of them can't be told from here.
+        // What runs inside a launcher is unknown.
         return isLauncher(base) ? QString() : base;
     }
     return {};

@@ -1,4 +1,4 @@
-// What a desktop entry says about an application.
+// The facts of an application's desktop entry.
 #pragma once
 
 #include <QByteArray>
@@ -9,17 +9,17 @@
 namespace vantle {
 
 struct ApplicationEntry {
-    QString id;              ///< the file's name without suffix, subfolders joined by "-"
-    QString name;            ///< in the user's language where the entry has it
-    QString windowClass;     ///< StartupWMClass
-    QString program;         ///< base name of the program that Exec starts; empty when it is broken
-    bool isShown = true;     ///< in menus
-    bool isTerminal = false; ///< in which people start programs of any kind
-    bool isInTerminal = false; ///< its program runs in a terminal, which has the window
+    QString id;                ///< file name without suffix, subfolders joined by "-"
+    QString name;              ///< in the user's language where the entry has it
+    QString windowClass;       ///< StartupWMClass
+    QString program;           ///< base name of the Exec program; empty when invalid
+    bool isShown = true;       ///< whether menus show it
+    bool isTerminal = false;   ///< a terminal emulator
+    bool isInTerminal = false; ///< runs in a terminal, which owns the window
 
-    /// Reads the file's content. Empty for what is no application or is marked as deleted; such a
-    /// file still keeps its id from entries further down. The name is in the language that the
-    /// environment asks for. Any thread; bytes that are not UTF-8 are replaced, never refused.
+    /// Parses the file's content. Empty for an entry that is no application or is marked as
+    /// deleted; its id still hides entries of later folders. The name is in the environment's
+    /// language. Replaces bytes that are not UTF-8. Any thread.
     [[nodiscard]] static std::optional<ApplicationEntry> read(const QString& id,
                                                               const QByteArray& content);
 };

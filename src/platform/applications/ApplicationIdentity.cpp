@@ -7,7 +7,7 @@ namespace vantle {
 
 namespace {
 
-/// Longest text of a window that is taken as an identity or a name, in UTF-16 units.
+/// Longest window text accepted as identity or name, in UTF-16 units.
 constexpr qsizetype kMaxText = 200;
 
 class Search {
@@ -37,9 +37,8 @@ private:
         const auto* entry = id.isEmpty() ? nullptr : m_index.byId(id);
         return entry != nullptr && !isInterpreter(*entry) ? entry : nullptr;
     }
-    /// A suite has an entry for each of its parts, which are in one sandbox and tell themselves
-    /// apart by the window class. Ids of Flatpak entries are "{app}.{part}", of Snap
-    /// "{snap}_{part}".
+    /// A suite has an entry per part in one sandbox; the window class tells them apart. Flatpak ids
+    /// are "{app}.{part}", Snap ids "{snap}_{part}".
     [[nodiscard]] const ApplicationEntry* ofSandbox(const WindowHints& hints) const {
         if (m_scope.sandboxId.isEmpty()) return nullptr;
         const qsizetype snap = m_scope.sandboxId.indexOf(QLatin1Char('_'));
@@ -50,8 +49,8 @@ private:
                 if (match->id.startsWith(parts, Qt::CaseInsensitive)) return match;
         return withId(m_scope.sandboxId);
     }
-    /// An entry of an interpreter, as distributions have one for each version, stands for a session
-    /// with it in a terminal. Programs that it runs are not it.
+    /// Distributions have an entry per interpreter version for a session in a terminal; programs
+    /// that it runs do not belong to it.
     [[nodiscard]] static bool isInterpreter(const ApplicationEntry& entry) {
         if (entry.isInTerminal && !entry.isShown) return true;
         return (entry.isInTerminal || !entry.isShown) && interpreters::isOne(entry.id);
@@ -65,8 +64,8 @@ private:
             if (isUnit(*match)) return match;
         return matches.isEmpty() ? nullptr : matches.first();
     }
-    /// A program that several entries start, as a suite, tells none of them. Nor does one whose
-    /// entry menus don't show or that has no window of its own, as an interpreter.
+    /// A program of several entries, such as a suite, identifies none of them. Nor does an entry
+    /// that menus hide or that has no window of its own, such as an interpreter.
     [[nodiscard]] const ApplicationEntry* soleOf(DesktopEntryIndex::Matches matches) const {
         matches.removeIf([](const auto* match) { return !match->isShown || match->isInTerminal; });
         for (const auto* match : matches)
@@ -78,8 +77,8 @@ private:
     const DesktopEntryIndex& m_index;
 };
 
-/// Whether a window has its class from what runs it, so that all such programs have the same: the
-/// interpreter's own name, or that of the toolkit that comes with it.
+/// Whether the window's class comes from the interpreter or its toolkit, and is thus the same for
+/// all its programs.
 bool isOfInterpreter(const QString& mark, const ProcessScope& scope) {
     return interpreters::isOne(mark) ||
            (interpreters::isOne(scope.program) &&

@@ -1,4 +1,4 @@
-// Finds the application that a window belongs to.
+// The resolution of a window to its application.
 #pragma once
 
 #include "platform/WindowHints.h"
@@ -7,20 +7,19 @@
 
 namespace vantle {
 
-/// The first of these that names an entry: the window's own application id; the sandbox of its
-/// process, and in it the entry whose StartupWMClass the window has; the window class, then the
-/// instance, as StartupWMClass, as an id, as the last part of one, as the program of Exec; the
-/// program of the process, the script that it runs; the unit that its process was started as,
-/// unless that is a terminal's. Entries of interpreters, hidden and run in a terminal, are no
-/// application's; by its program alone none that is hidden or run in a terminal is found. Where
-/// several entries share a mark, the one that the process's unit names is meant, else the first.
+/// The first match counts: the window's application id; the process's sandbox, and in it the entry
+/// with the window's class as StartupWMClass; the window class, then the instance, as
+/// StartupWMClass, as id, as last part of an id, as Exec program; the process's program, or its
+/// script; the process's systemd unit, unless a terminal's. Entries of interpreters that are hidden
+/// and run in a terminal never match; a program alone matches no entry that is hidden or runs in a
+/// terminal. Among several matches the one that the unit names wins, else the first.
 ///
-/// Without an entry, the id that a sandbox gives, else the class (or the instance, the window's
-/// application id, the script of an interpreter) is identity and name. What names the interpreter
-/// alone ("python3", "Tk") is neither. All empty when nothing is told.
+/// Without an entry the sandbox's id, else the class (or instance, application id, script) is both
+/// identity and name. Names of the interpreter itself ("python3", "Tk") are not used. All empty
+/// when nothing is known.
 ///
-/// The identity is the entry's id, or, for the tools that many people use, the one by which the
-/// tables of auto mode know them. Pure.
+/// The identity is the entry's id, or for popular tools their id in auto mode's tables. Pure
+/// function, any thread.
 [[nodiscard]] Application resolveIdentity(const WindowHints& hints, const ProcessScope& scope,
                                           const DesktopEntryIndex& index);
 

@@ -12,10 +12,10 @@ namespace vantle {
 
 namespace {
 
-/// Most folders watched; each costs a kernel watch.
+/// Limit of watched folders; each costs a kernel watch.
 constexpr qsizetype kMaxWatched = 64;
 
-/// A folder that is not there yet is seen by the nearest one above that is.
+/// The nearest existing parent reports when a missing folder appears.
 QString nearestExisting(QString path) {
     while (!path.isEmpty() && !QFileInfo::exists(path))
         path = path.section(QLatin1Char('/'), 0, -2);
@@ -54,7 +54,7 @@ QStringList DesktopApplications::standardFolders() {
 
     QStringList roots{home};
     roots += shared.split(QLatin1Char(':'), Qt::SkipEmptyParts);
-    // A session that was not started by a login shell often lacks these in its list.
+    // Sessions not started by a login shell often lack these.
     roots += {home + QStringLiteral("/flatpak/exports/share"),
               QStringLiteral("/var/lib/flatpak/exports/share"),
               QStringLiteral("/var/lib/snapd/desktop")};
@@ -80,13 +80,13 @@ void DesktopApplications::handleChange(const QString& path) {
         m_index.reset();
         return;
     }
-    // Something beside a folder that is to come; one on the way to it may have come.
+    // A folder beside a missing one appeared; it may be one of its parents.
     m_watcher.addPaths(watchedFor(m_missing));
 }
 
 void DesktopApplications::readAll() {
     ++m_timesRead;
-    // Watched before it is read, so that no change falls between.
+    // Watches before reading, so that no change is missed.
     if (const QStringList former = m_watcher.directories(); !former.isEmpty())
         m_watcher.removePaths(former);
     m_watcher.addPaths(watchedFor(m_folders));

@@ -1,4 +1,4 @@
-// The applications of this desktop as they are installed now.
+// The installed applications of this desktop.
 #pragma once
 
 #include "platform/WindowHints.h"
@@ -11,23 +11,23 @@
 
 namespace vantle {
 
-/// Keeps the index of desktop entries: read at the first question, and anew at the first one after
-/// a folder of entries has changed. An entry that is written over in place is not noticed; packages
-/// and editors replace the file. Main thread.
+/// An index of the desktop entries: read at the first query, and again at the first one after an
+/// entry folder changed. Misses entries rewritten in place; packages and editors replace files.
+/// Main thread.
 class DesktopApplications final : public QObject {
     Q_OBJECT
 
 public:
-    /// `folders` hold entries; of two with one id, that in the earlier folder counts.
+    /// `folders` hold the entries; of two with one id the earlier folder wins.
     explicit DesktopApplications(QStringList folders);
 
-    /// The folders of the freedesktop.org kind: `applications` under $XDG_DATA_HOME and each of
-    /// $XDG_DATA_DIRS, and those of sandboxed applications. Absolute, in order.
+    /// Returns the freedesktop.org folders, absolute and in order: `applications` under
+    /// $XDG_DATA_HOME and each of $XDG_DATA_DIRS, and those of sandboxes.
     [[nodiscard]] static QStringList standardFolders();
 
     [[nodiscard]] Application identify(const WindowHints& hints);
 
-    /// How often the entries were read, for tests and measurements.
+    /// How often the entries were read, for tests and benchmarks.
     [[nodiscard]] int timesRead() const { return m_timesRead; }
 
 private:
@@ -35,8 +35,8 @@ private:
     void readAll();
 
     const QStringList m_folders;
-    std::optional<DesktopEntryIndex> m_index; ///< empty when it must be read
-    QStringList m_missing;                    ///< of the folders, when they were read
+    std::optional<DesktopEntryIndex> m_index; ///< empty when it must be read again
+    QStringList m_missing;                    ///< folders that were missing at that time
     QFileSystemWatcher m_watcher;
     int m_timesRead = 0;
 };

@@ -14,7 +14,7 @@ QByteArray entryFor(const QString& programPath) {
     entry.setText("Name", QStringLiteral("Vantle"));
     entry.setText("Comment", QStringLiteral("Counts the time you actually work"));
     entry.setText("Icon", QStringLiteral("local.vantle.Vantle"));
-    // Makes desktops pass over the entry in silence once the program is gone.
+    // Makes desktops ignore the entry once the program is uninstalled.
     entry.setText("TryExec", programPath);
     entry.setText("Exec", QStringLiteral("env VANTLE_AUTOSTART=1 ") +
                               DesktopEntry::quotedArgument(programPath));

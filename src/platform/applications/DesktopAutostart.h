@@ -1,4 +1,4 @@
-// The login item of desktops with autostart entries as freedesktop.org describes them.
+// The login item as a freedesktop.org autostart entry.
 #pragma once
 
 #include "platform/Autostart.h"
@@ -6,10 +6,10 @@
 
 namespace vantle {
 
-/// An entry in the person's autostart directory. The desktop and its settings read it too: an entry
-/// that they marked `Hidden=true` or `X-GNOME-Autostart-enabled=false` counts as switched off, and
-/// registering again replaces it. The program is started with VANTLE_AUTOSTART=1 in its
-/// environment. Main thread; reads or writes one small file a call.
+/// The desktop and its settings use the entry too: `Hidden=true` or
+/// `X-GNOME-Autostart-enabled=false` in it count as switched off, and registering again replaces
+/// it. The entry starts the program with VANTLE_AUTOSTART=1. Reads or writes one small file per
+/// call. Main thread.
 class DesktopAutostart final : public Autostart {
 public:
     /// `entryPath` is the entry, usually `$XDG_CONFIG_HOME/autostart/local.vantle.Vantle.desktop`;
@@ -19,7 +19,7 @@ public:
     [[nodiscard]] bool isRegistered() const override;
     Result<> registerItem() override;
 
-    /// One that is not registered is no failure.
+    /// Succeeds when nothing is registered.
     Result<> unregisterItem() override;
 
 private:

@@ -71,7 +71,7 @@ QString DesktopEntry::quotedArgument(const QString& argument) {
     for (const QChar character : argument) {
         needsQuotes = needsQuotes || kReserved.contains(character);
         if (kEscapedInQuotes.contains(character)) text += QLatin1Char('\\');
-        if (character == QLatin1Char('%')) text += character; // else the start of a field code
+        if (character == QLatin1Char('%')) text += character; // else a field code begins
         text += character;
     }
     return needsQuotes ? QLatin1Char('"') + text + QLatin1Char('"') : text;

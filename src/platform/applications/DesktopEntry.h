@@ -1,4 +1,4 @@
-// The text form of desktop entry files, by GLib's reader and writer of key files.
+// The text form of desktop entries, parsed by GLib.
 #pragma once
 
 #include <QByteArray>
@@ -11,37 +11,35 @@
 
 namespace vantle {
 
-/// The group "Desktop Entry" of one file. Reading and writing are pure; any thread, an object on
-/// one at a time.
+/// The group "Desktop Entry" of one file. Pure; any thread, one at a time per object.
 class DesktopEntry {
 public:
-    /// An entry without keys.
+    /// An empty entry.
     DesktopEntry();
 
-    /// Empty for content that is no key file: desktops pass over such a file, too. Bytes that are
-    /// not UTF-8 are replaced, never refused.
+    /// Empty when the content is no key file, which desktops ignore too. Replaces bytes that are
+    /// not UTF-8.
     [[nodiscard]] static std::optional<DesktopEntry> read(const QByteArray& content);
 
-    /// The value of a key, unescaped; empty when it has none.
+    /// Returns a key's unescaped value; empty when missing.
     [[nodiscard]] QString text(const char* key) const;
 
-    /// The same in the best of the languages that the environment asks for, where the entry has it.
+    /// Returns the value in the best of the environment's languages.
     [[nodiscard]] QString localText(const char* key) const;
 
-    /// Whether the value of a key is that word, in capitals or not.
+    /// Whether a key has that value, ignoring case.
     [[nodiscard]] bool is(const char* key, const char* word) const;
 
-    /// The words of a command line in a key, quotes and backslashes taken away; empty when a quote
-    /// is not closed.
+    /// Returns the words of a command line, unquoted; empty when a quote is not closed.
     [[nodiscard]] QStringList command(const char* key) const;
 
     void setText(const char* key, const QString& text);
 
-    /// The content of a file that holds the entry.
+    /// Returns the file content for the entry.
     [[nodiscard]] QByteArray content() const;
 
-    /// One argument of a command, quoted where the rules of the key Exec ask for it, with percent
-    /// signs doubled. Not a shell's quoting: single quotes mean nothing there.
+    /// Quotes one argument by the rules of the Exec key and doubles percent signs. Not shell
+    /// quoting: single quotes have no meaning.
     [[nodiscard]] static QString quotedArgument(const QString& argument);
 
 private:

@@ -12,7 +12,7 @@ namespace vantle {
 namespace {
 
 constexpr QLatin1String kSuffix(".desktop");
-/// Largest file read, in bytes; the entries with the most languages have some 50 KB.
+/// Largest file read, in bytes; entries with the most languages have about 50 KB.
 constexpr qint64 kMaxEntrySize = 1 << 20;
 constexpr int kMaxDepth = 8;
 
@@ -21,8 +21,8 @@ QString key(const QString& text) { return text.toCaseFolded(); }
 /// Collects the entries of one folder tree.
 struct Collector {
     std::vector<ApplicationEntry> entries;
-    QSet<QString> ids;     ///< taken, by deleted entries too
-    QSet<QString> folders; ///< visited, by their real paths
+    QSet<QString> ids;     ///< taken, also by deleted entries
+    QSet<QString> folders; ///< visited, by real path
 
     void readFile(const QString& path, const QString& id) {
         QFile file(path);

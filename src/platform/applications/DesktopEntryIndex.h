@@ -1,4 +1,4 @@
-// The applications of this desktop, found by what their windows call themselves.
+// The index of desktop entries by what windows call themselves.
 #pragma once
 
 #include "platform/applications/ApplicationEntry.h"
@@ -10,28 +10,27 @@
 
 namespace vantle {
 
-/// A plain value that finds entries by each of their marks. Letters of either case are the same.
+/// A plain value; ignores case. Any thread.
 class DesktopEntryIndex {
 public:
     DesktopEntryIndex() = default;
-    /// Of two entries with one id the first counts.
+    /// Of two entries with one id the first wins.
     explicit DesktopEntryIndex(std::vector<ApplicationEntry> entries);
 
-    /// Reads all entries below `folders`, in this order. A file that can't be read, one that is
-    /// larger than any entry, and a folder that a link leads back into are passed over. Blocks for
-    /// the time of reading some hundred small files.
+    /// Reads all entries below `folders`, in order. Skips unreadable files, files larger than any
+    /// entry, and link cycles. Blocks while it reads some hundred small files.
     [[nodiscard]] static DesktopEntryIndex read(const QStringList& folders);
 
     using Matches = QList<const ApplicationEntry*>;
 
-    /// The entry of that id, with or without ".desktop". Null when there is none.
+    /// Returns the entry with that id, with or without ".desktop"; null when there is none.
     [[nodiscard]] const ApplicationEntry* byId(const QString& id) const;
-    /// Those whose StartupWMClass it is; shown ones first, else in the order of the folders. So for
-    /// all below.
+    /// Returns the entries with that StartupWMClass; shown ones first, then in folder order. Same
+    /// order below.
     [[nodiscard]] Matches byWindowClass(const QString& windowClass) const;
-    /// Those whose id ends in ".{component}".
+    /// Returns the entries whose id ends in ".{component}".
     [[nodiscard]] Matches byLastComponent(const QString& component) const;
-    /// Those whose Exec starts a program of that base name.
+    /// Returns the entries whose Exec starts that program.
     [[nodiscard]] Matches byProgram(const QString& program) const;
 
     [[nodiscard]] qsizetype size() const { return static_cast<qsizetype>(m_entries.size()); }

@@ -7,7 +7,7 @@ namespace vantle::interpreters {
 
 namespace {
 
-/// A script's path as its name: "ledger.py", or "ledger/main.py".
+/// Names a script by its path: "ledger.py", or "ledger/main.py".
 QString nameOf(const QString& path) {
     static const QRegularExpression kCommon(
         QStringLiteral("^(__main__|main|app|run|start|index|gui)(\\.[a-z]+)?$"));
@@ -26,7 +26,7 @@ bool isOne(const QString& program) {
 }
 
 QString scriptOf(const QList<QByteArray>& arguments) {
-    // The text of a program, and options whose value is the next argument.
+    // Options followed by program text, and options that take the next argument.
     static const QList<QByteArray> kTexts{"-c", "-e", "--eval"};
     static const QList<QByteArray> kNames{"-m", "-jar"};
     static const QList<QByteArray> kValues{"-W", "-X", "-I", "-r", "-cp", "-classpath"};

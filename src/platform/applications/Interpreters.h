@@ -1,4 +1,6 @@
-// Programs that run the programs of others.
+// Programs that run other programs' scripts.
+//
+// Pure functions, any thread.
 #pragma once
 
 #include <QByteArray>
@@ -7,12 +9,11 @@
 
 namespace vantle::interpreters {
 
-/// Whether that is the base name of an interpreter, of whatever version.
+/// Whether that is the base name of an interpreter, of any version.
 [[nodiscard]] bool isOne(const QString& program);
 
-/// What an interpreter runs, by the arguments of its process, its own name first: the base name of
-/// a script or the name of a module. A script of a name that many have ("main.py") goes by its
-/// folder as well. Empty for one that runs no file.
+/// Returns the script or module that an interpreter's process runs; `arguments` begins with its own
+/// name. A common name ("main.py") includes its folder. Empty when it runs no file.
 [[nodiscard]] QString scriptOf(const QList<QByteArray>& arguments);
 
 } // namespace vantle::interpreters

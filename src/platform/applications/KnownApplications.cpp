@@ -1,8 +1,7 @@
-// A row: the desktop entry's id, the identity in auto mode's tables, and whose entry it is.
-// "Debian" rows are as Debian 12's packages hold them; "vendor" is the maker's own package or
-// archive, whose id other distributions mostly keep. Ids of Snap entries are "{snap}_{app}". A tool
-// that the tables don't name has the identity of the nearest of its kind, so all terminals are one
-// there.
+// Columns: desktop entry id, identity in auto mode's tables; the comment names the entry's origin.
+// "Debian" is Debian 12; "vendor" is the maker's package or archive, whose id other distributions
+// mostly keep. Ids of Snap entries are "{snap}_{app}". A tool that the tables lack gets the
+// identity of the nearest one of its kind; all terminals share one.
 #include "platform/applications/KnownApplications.h"
 
 #include <QHash>
@@ -337,7 +336,7 @@ constexpr Row kRows[] = {
     {L("org.zotero.Zotero"), L("com.apple.iBooksX")}, // Flatpak
     {L("anki"), L("net.ankiweb.dtop")}, // vendor
     {L("net.ankiweb.Anki"), L("net.ankiweb.dtop")}, // Flatpak
-    // Browsers that their ids and names don't show to be such
+    // Browsers whose ids and names do not show it
     {L("google-chrome"), L("com.google.Chrome")}, // vendor
     {L("microsoft-edge"), L("com.microsoft.edgemac")}, // vendor
     {L("com.microsoft.Edge"), L("com.microsoft.edgemac")}, // Flatpak
@@ -368,7 +367,7 @@ QHash<QString, L> makeTable() {
     return table;
 }
 
-/// An id without the UUID that some installers of tools in several versions append.
+/// Returns the id without the UUID that some installers append.
 QString withoutUuid(const QString& id) {
     static const QRegularExpression kUuid(
         QStringLiteral("-[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}$"));

@@ -1,4 +1,4 @@
-// The well-known tools of Linux desktops, as the tables of auto mode name them.
+// The well-known tools of Linux desktops and their identities.
 #pragma once
 
 #include <QLatin1String>
@@ -9,12 +9,12 @@
 namespace vantle::knownapplications {
 
 struct Row {
-    QLatin1String entryId;  ///< of the desktop entry, without suffix, or a window class
-    QLatin1String identity; ///< by which auto mode's tables know that tool or its like
+    QLatin1String entryId;  ///< desktop entry id without suffix, or window class
+    QLatin1String identity; ///< the tool, or one like it, in auto mode's tables
 };
 
-/// The identity of an application: that of its row, letters of either case being the same, else the
-/// id itself. Pure, any thread.
+/// Returns the identity of an application: that of its row, ignoring case, else the id itself.
+/// Pure, any thread.
 [[nodiscard]] QString identityOf(const QString& entryId);
 
 /// The table, for tests.

@@ -18,7 +18,7 @@ QByteArray contentOf(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.read(kMaxBytes) : QByteArray();
 }
 
-/// The "\x2d" and the like by which names of units spell what may not stand in them.
+/// Decodes "\x2d" and other escapes in unit names.
 QString unescaped(const QByteArray& name) {
     QByteArray text;
     for (qsizetype i = 0; i < name.size(); ++i) {
@@ -35,8 +35,8 @@ QString unescaped(const QByteArray& name) {
     return QString::fromUtf8(text);
 }
 
-/// "app-{launcher}-{id}-{n}.scope", "app-{id}-{n}.scope", "app-{launcher}-{id}@{n}.service" and the
-/// same without launcher. The id's own dashes are escaped, so plain ones divide.
+/// "app-{launcher}-{id}-{n}.scope", "app-{id}-{n}.scope", "app-{launcher}-{id}@{n}.service" or
+/// without launcher. Dashes of the id are escaped, so plain ones separate.
 QString idOfUnit(QByteArray unit) {
     if (!unit.startsWith("app-")) return {};
     QList<QByteArray> parts;
@@ -52,7 +52,7 @@ QString idOfUnit(QByteArray unit) {
     return parts.size() < 2 ? QString() : unescaped(parts.last());
 }
 
-/// "snap.{name}.{app}" with more after it: a dash or a dot.
+/// "snap.{name}.{app}" followed by a dash or a dot.
 QString idOfSnap(const QByteArray& unit) {
     static const QRegularExpression kForm(
         QStringLiteral("^snap\\.([a-z0-9-]+)\\.([A-Za-z0-9-]+?)"
@@ -77,7 +77,7 @@ ProcessScope ProcessScope::parse(const QByteArray& cgroup, const QByteArray& fla
     ProcessScope scope;
     scope.sandboxId = idOfFlatpak(flatpakInfo);
     for (const QByteArray& line : cgroup.split('\n')) {
-        // "0::/user.slice/.../app.slice/app-....scope"; the innermost unit that says something.
+        // "0::/user.slice/.../app.slice/app-....scope"; the innermost unit with an id.
         const QList<QByteArray> units = line.mid(line.lastIndexOf(':') + 1).split('/');
         for (qsizetype i = units.size() - 1; i >= 0 && scope.unitId.isEmpty(); --i) {
             const QByteArray& unit = units[i];

@@ -1,4 +1,4 @@
-// Which application a process belongs to, as the system keeps account of it.
+// A process's application, from cgroups and sandboxes.
 #pragma once
 
 #include <QByteArray>
@@ -6,20 +6,20 @@
 
 namespace vantle {
 
-/// Ids are of desktop entries, without suffix; empty where the process tells none.
+/// Ids of desktop entries without suffix; empty where unknown. Any thread.
 struct ProcessScope {
-    /// The application whose sandbox holds the process. What runs in there is nothing else.
+    /// The application whose sandbox holds the process.
     QString sandboxId;
-    /// The application that was started as the unit which holds the process. Programs that were
-    /// started from within that one, as from a terminal, stay in its unit.
+    /// The application started as the process's systemd unit. Programs started by it, such as from
+    /// a terminal, stay in its unit.
     QString unitId;
     QString program; ///< base name of its executable
-    QString script;  ///< what that runs where it is an interpreter, as `interpreters::scriptOf`
+    QString script;  ///< for an interpreter: what it runs, as `interpreters::scriptOf`
     friend bool operator==(const ProcessScope&, const ProcessScope&) = default;
 
-    /// Reads what /proc tells; a process that is gone or not ours tells nothing. Takes some 20 µs.
+    /// Reads /proc; empty for a process that is gone or another user's. Takes about 20 µs.
     [[nodiscard]] static ProcessScope read(qint64 processId);
-    /// From the contents of a process's `cgroup` file and of its sandbox's `.flatpak-info`. Pure.
+    /// Parses a process's `cgroup` file and its sandbox's `.flatpak-info`. Pure.
     [[nodiscard]] static ProcessScope parse(const QByteArray& cgroup,
                                             const QByteArray& flatpakInfo);
 };

@@ -1,4 +1,4 @@
-// An object of this program that others call over a message bus.
+// An object of this program on a message bus.
 #pragma once
 
 #include <QDBusConnection>
@@ -10,8 +10,8 @@
 
 namespace vantle {
 
-/// Takes each call of any method. It is not told whose calls they are: `take` has to look at the
-/// sender. Gone from the bus with this object. Main thread.
+/// Receives each call of any method, from any sender: `take` must check the sender. Leaves the bus
+/// with this object. Main thread.
 class CalledObject final : public QDBusVirtualObject {
 public:
     CalledObject(const QDBusConnection& bus, const QString& path,

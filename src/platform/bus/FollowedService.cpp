@@ -37,7 +37,7 @@ void FollowedService::askForOwner() {
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         answer->deleteLater();
         const QDBusPendingReply<QString> owner = *answer;
-        // A change that was told before is not older than this.
+        // A change reported earlier is at least as recent.
         if (m_ownersSoFar == 0) setOwner(owner.isValid() ? owner.value() : QString());
     });
 }
@@ -66,7 +66,8 @@ void FollowedService::hear(const QString& path, const QString& interface, const 
             if (isThere() && signal.service() == m_owner) take(signal);
         },
         this);
-    // From any sender: for the name of one the library waits until the bus has told its owner.
+    // Without a sender filter: for a well-known name the library would block until the bus reports
+    // its owner.
     const QStringList arguments =
         firstArgument.isEmpty() ? QStringList() : QStringList{firstArgument};
     m_bus.connect(QString(), path, interface, member, arguments, QString(), heard,

@@ -1,4 +1,4 @@
-// A service of a message bus that may come, go and come back.
+// A service on a message bus that may come and go.
 #pragma once
 
 #include <QDBusConnection>
@@ -14,39 +14,39 @@
 
 namespace vantle {
 
-/// Follows who owns a name on the bus, asks the owner and hears its signals. Signals of others and
-/// answers of an owner that has gone since are dropped. Main thread; nothing blocks, and no call
-/// starts the service. Without a connection nothing is ever told or answered.
+/// Follows the owner of a bus name, calls it and receives its signals. Drops signals of others and
+/// replies of former owners. Does not block or start the service. Without a connection nothing is
+/// ever reported. Main thread.
 class FollowedService final : public QObject {
     Q_OBJECT
 
 public:
-    /// Tells by `came` or `gone`, from the event loop, how it finds the service.
+    /// Reports the initial state by `came` or `gone`, from the event loop.
     FollowedService(const QDBusConnection& bus, QString name, QObject* parent = nullptr);
 
     [[nodiscard]] bool isThere() const { return !m_owner.isEmpty(); }
-    /// Whether the connection of that unique name has the service now.
+    /// Whether the connection with that unique name owns the service now.
     [[nodiscard]] bool isOwnedBy(const QString& connection) const {
         return isThere() && connection == m_owner;
     }
 
-    /// Asks the bus to start the service, where it knows how to.
+    /// Asks the bus to activate the service.
     void start();
 
-    /// Calls `take` with each signal of that member. An empty path stands for all; `firstArgument`
-    /// is compared only if it is not empty.
+    /// Calls `take` for each such signal. An empty path matches all; `firstArgument` is compared
+    /// unless empty.
     void hear(const QString& path, const QString& interface, const QString& member,
               std::function<void(const QDBusMessage& signal)> take,
               const QString& firstArgument = {});
 
-    /// A call of the service, and one that gets a property.
+    /// Make a method call, and one that reads a property.
     [[nodiscard]] QDBusMessage call(const QString& path, const QString& interface,
                                     const QString& method) const;
     [[nodiscard]] QDBusMessage get(const QString& path, const QString& interface,
                                    const QString& property) const;
 
-    /// Sends the call. Calls `take` with an answer of that type, or `void` for none; `fail` after
-    /// an error or any other answer; neither when the service goes first.
+    /// Sends the call. Calls `take` with a reply of that type (`void` for none), `fail` on an error
+    /// or another reply, and neither when the service goes away first.
     template <typename Answer, typename Take>
     void ask(
         const QDBusMessage& call, Take take, std::function<void()> fail = [] {}) {
@@ -63,9 +63,9 @@ public:
     }
 
 Q_SIGNALS:
-    /// The service is there, under a new owner of its name: it knows nothing of former questions.
+    /// The service has a new owner, which knows of no earlier calls.
     void came();
-    /// The service is not there. What it said has ended with it.
+    /// The service has no owner. Its earlier reports are void.
     void gone();
 
 private:
@@ -75,11 +75,11 @@ private:
 
     QDBusConnection m_bus;
     const QString m_name;
-    QString m_owner;       ///< unique name; empty while there is none or it is not known yet
-    int m_ownersSoFar = 0; ///< counts the absence of one, too
+    QString m_owner;       ///< unique name; empty while there is none or it is unknown
+    int m_ownersSoFar = 0; ///< counts the absence of an owner too
 };
 
-/// Passes one signal on. For FollowedService.
+/// Forwards one signal, for FollowedService.
 class HeardSignal final : public QObject {
     Q_OBJECT
 

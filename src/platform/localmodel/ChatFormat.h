@@ -1,6 +1,6 @@
-// A conversation in the form that local model servers agree on: chat completions as JSON in a POST.
+// The chat completions protocol of local model servers.
 //
-// Pure functions, any thread.
+// JSON over HTTP POST. Pure functions, any thread.
 #pragma once
 
 #include <QByteArray>
@@ -18,11 +18,11 @@ struct Message {
     QString text;
 };
 
-/// The whole HTTP request that asks for the next message. Without a `model` the server takes the
-/// one that it has. How it chooses its words is left to the server's own settings.
+/// Returns the whole HTTP request for the next message. Without `model` the server uses its
+/// default. Sampling is left to the server's settings.
 [[nodiscard]] QByteArray request(const QString& model, const std::vector<Message>& conversation);
 
-/// The message in the body of a response; none when there is none in it.
+/// Returns the message in a response body; empty when there is none.
 [[nodiscard]] std::optional<QString> answer(const QByteArray& body);
 
 } // namespace vantle::chatformat

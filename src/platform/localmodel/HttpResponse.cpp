@@ -6,7 +6,7 @@ namespace {
 
 constexpr qsizetype kLongestLine = 8192;
 
-/// A number without sign or blanks in front; none when it is no such number or above the bound.
+/// Parses digits without sign or blanks; empty when invalid or above the bound.
 std::optional<qsizetype> parsedNumber(QByteArrayView digits, int base) {
     if (digits.isEmpty() || digits.front() == '+' || digits.front() == '-') return std::nullopt;
     bool ok = false;
@@ -58,7 +58,7 @@ void HttpResponse::readHead() {
         } else if (!line->isEmpty()) {
             if (!takeHeader(*line)) m_state = State::Broken;
         } else if (m_status < 200) {
-            m_status = 0; // the server is at it; the real head follows
+            m_status = 0; // interim response; the final head follows
         } else {
             m_inBody = true;
             return;
@@ -87,7 +87,7 @@ bool HttpResponse::takeHeader(QByteArrayView line) {
     const QByteArrayView value = line.sliced(colon + 1).trimmed();
     if (isSame(name, "Transfer-Encoding")) {
         m_isChunked = isSame(value, "chunked");
-        return m_isChunked; // nothing else was asked for
+        return m_isChunked; // no other coding was requested
     }
     if (isSame(name, "Content-Length")) {
         const auto length = parsedNumber(value, 10);
@@ -110,7 +110,7 @@ void HttpResponse::readChunks() {
         const auto line = nextLine();
         if (!line) return;
         if (m_sawLastChunk) {
-            if (line->isEmpty()) m_state = State::Complete; // headers before it say nothing to us
+            if (line->isEmpty()) m_state = State::Complete; // trailer headers are ignored
             continue;
         }
         const qsizetype extension = line->indexOf(';');

@@ -20,7 +20,7 @@ namespace {
 
 constexpr mode_t kPrivateFile = 0600;
 constexpr mode_t kAllModeBits = 07777;
-constexpr int kAnybodysFile = 0666;
+constexpr int kUnmaskedFileMode = 0666;
 constexpr qsizetype kStatusStart = 512; // bytes
 
 Error failure(int code, const QString& operation, const QString& path) {
@@ -145,7 +145,7 @@ int PosixFileSystem::usualMode() {
     const qsizetype begin = at + qsizetype(sizeof "Umask:") - 1;
     const int umask =
         text.mid(begin, text.indexOf('\n', begin) - begin).trimmed().toInt(nullptr, 8);
-    return kAnybodysFile & ~umask;
+    return kUnmaskedFileMode & ~umask;
 }
 
 Result<int> PosixFileSystem::mode(const QString& path) {
