@@ -1182,7 +1182,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Runs a Shortcut of yours when a session starts, and another when it stops. Make them in the Shortcuts app with the Set Focus action; macOS does the silencing, and Vantle never sees your notifications. Nothing is blocked.</source>
-        <translation>Führt einen Befehl von dir aus, wenn eine Sitzung startet, und einen anderen, wenn sie stoppt. Leg ausführbare Dateien in den Ordner der Kurzbefehle; still macht es dein Desktop, und Vantle sieht deine Benachrichtigungen nie. Nichts wird blockiert.</translation>
+        <translation>Führt einen Befehl von dir aus, wenn eine Sitzung startet, und einen anderen, wenn sie stoppt. Leg ausführbare Dateien in den Ordner der Kurzbefehle oder nimm die, die mit Vantle kommen; still macht es dein Desktop, und Vantle sieht deine Benachrichtigungen nie. Nichts wird blockiert.</translation>
     </message>
     <message>
         <source>Registers with macOS as a login item (you&apos;ll see the standard &quot;background item added&quot; notice once).</source>

@@ -175,7 +175,7 @@
     </message>
     <message>
         <source>Runs a Shortcut of yours when a session starts, and another when it stops. Make them in the Shortcuts app with the Set Focus action; macOS does the silencing, and Vantle never sees your notifications. Nothing is blocked.</source>
-        <translation>Runs a command of yours when a session starts, and another when it stops. Put executables into the Shortcuts folder; your desktop does the silencing, and Vantle never sees your notifications. Nothing is blocked.</translation>
+        <translation>Runs a command of yours when a session starts, and another when it stops. Put executables into the Shortcuts folder, or use those that come with Vantle; your desktop does the silencing, and Vantle never sees your notifications. Nothing is blocked.</translation>
     </message>
     <message>
         <source>Registers with macOS as a login item (you&apos;ll see the standard &quot;background item added&quot; notice once).</source>

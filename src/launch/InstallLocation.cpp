@@ -67,7 +67,8 @@ Companions companions(const QString& folder, const QString& home) {
     bool hasResources = false;
     while (files.hasNext()) {
         const QString source = files.next();
-        hasResources |= take(source, source.sliced(prefix.size() + 1), false);
+        hasResources |=
+            take(source, source.sliced(prefix.size() + 1), QFileInfo(source).isExecutable());
     }
     if (hasResources) found.sources += resources;
     return found;

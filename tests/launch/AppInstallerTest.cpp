@@ -235,6 +235,15 @@ TEST_F(CompanionsTest, ToolModuleAndAllResourcesBelongToIt) {
                            at("lib/vantle/plugins/vantle-webceremony.so"), at("share/vantle")}));
 }
 
+TEST_F(CompanionsTest, ShortcutsThatComeAlongStayExecutable) {
+    put("share/vantle/shortcuts/Quiet");
+    ASSERT_TRUE(QFile::setPermissions(at("share/vantle/shortcuts/Quiet"),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    EXPECT_EQ(found().files, (std::vector<installlocation::Companion>{
+                                 {at("share/vantle/shortcuts/Quiet"),
+                                  q("/home/ada/.local/share/vantle/shortcuts/Quiet"), true}}));
+}
+
 TEST_F(CompanionsTest, ModuleBesideTheProgramGoesToItsInstalledPlace) {
     put("bin/vantle-webceremony.so");
     EXPECT_EQ(found().files,

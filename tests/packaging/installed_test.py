@@ -60,6 +60,8 @@ class Installed(unittest.TestCase):
             f"{icons}/scalable/apps/{ID}.svg", f"{icons}/symbolic/apps/{ID}-symbolic.svg",
             "share/man/man1/vantle.1.gz", "share/man/man1/vantle-shortcuts.1.gz",
             f"share/metainfo/{ID}.metainfo.xml",
+            "share/vantle/shortcuts/Do Not Disturb on",
+            "share/vantle/shortcuts/Do Not Disturb off",
         } | {f"{icons}/{size}x{size}/apps/{ID}.png" for size in SIZES})
 
     def test_icons_have_the_size_of_their_folder(self):
@@ -87,6 +89,18 @@ class Installed(unittest.TestCase):
         for action in ACTIONS:
             self.assertEqual(groups[f"Desktop Action {action}"]["Exec"],
                              f"{CALL}ActivateAction {action} [] {{}}")
+
+    def test_shortcuts_that_come_along_are_listed_and_run_by_the_tool_that_was_installed(self):
+        with tempfile.TemporaryDirectory() as config:
+            tool = [self.prefix / "bin/vantle-shortcuts"]
+            env = {**os.environ, "XDG_CONFIG_HOME": config, "DBUS_SESSION_BUS_ADDRESS": "disabled:"}
+            listed = subprocess.run([*tool, "list"], env=env, capture_output=True, text=True,
+                                    check=True).stdout
+            self.assertEqual(listed, "Do Not Disturb off\nDo Not Disturb on\n")
+            for name in listed.splitlines():
+                ran = subprocess.run([*tool, "run", name], env=env, capture_output=True, text=True,
+                                     check=False)
+                self.assertEqual((ran.returncode, ran.stdout, ran.stderr), (0, "", ""))
 
     def test_software_centres_find_the_parts_in_agreement(self):
         asked = subprocess.run(["appstreamcli", "validate-tree", "--no-net", self.prefix.parent],

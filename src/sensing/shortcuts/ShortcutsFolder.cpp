@@ -1,5 +1,7 @@
 #include "sensing/shortcuts/ShortcutsFolder.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QUtf8StringView>
 
 #include <algorithm>
@@ -11,10 +13,17 @@
 
 namespace vantle {
 
-ShortcutsFolder ShortcutsFolder::standard() {
+std::vector<ShortcutsFolder> ShortcutsFolder::all() {
     QByteArray config = qgetenv("XDG_CONFIG_HOME");
     if (!config.startsWith('/')) config = qgetenv("HOME") + "/.config";
-    return ShortcutsFolder(config + "/Vantle/shortcuts");
+    const QString bin = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath();
+    std::vector<ShortcutsFolder> folders{
+        ShortcutsFolder(config + "/Vantle/shortcuts"),
+        ShortcutsFolder(QFile::encodeName(bin) + "/../share/vantle/shortcuts")};
+#ifdef VANTLE_SOURCE_RESOURCES
+    folders.emplace_back(VANTLE_SOURCE_RESOURCES "/shortcuts");
+#endif
+    return folders;
 }
 
 bool ShortcutsFolder::isName(const QByteArray& name) {

@@ -1,10 +1,11 @@
-// vantle-shortcuts list         prints the names of the user's shortcuts, one per line
+// vantle-shortcuts list         prints the names of the shortcuts, one per line, the user's first
 // vantle-shortcuts run NAME     replaces itself by that shortcut
 //
 // Exit status: 0, or that of the shortcut; 64 wrong usage; 66 no such shortcut, or it cannot be
 // started; 74 the list could not be printed.
 #include "sensing/shortcuts/ShortcutsFolder.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <string_view>
 #include <sysexits.h>
@@ -28,16 +29,19 @@ bool print(const QByteArray& text) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const auto folder = vantle::ShortcutsFolder::standard();
+    const auto folders = vantle::ShortcutsFolder::all();
     const std::string_view verb = argc > 1 ? argv[1] : "";
     if (verb == "list" && argc == 2) {
-        QByteArray text;
-        for (const QByteArray& name : folder.names())
-            text += name + '\n';
-        return print(text) ? EX_OK : EX_IOERR;
+        QList<QByteArray> names;
+        for (const auto& folder : folders)
+            for (const QByteArray& name : folder.names())
+                if (!names.contains(name)) names.append(name);
+        return print(names.isEmpty() ? QByteArray() : names.join('\n') + '\n') ? EX_OK : EX_IOERR;
     }
     if (verb == "run" && argc == 3) {
-        folder.become(argv[2]);
+        const auto first = std::ranges::find_if(
+            folders, [&](const auto& folder) { return folder.isShortcut(argv[2]); });
+        if (first != folders.end()) first->become(argv[2]);
         return EX_NOINPUT;
     }
     return EX_USAGE;

@@ -57,11 +57,12 @@ SettingsSection {
             Item {
                 width: parent.width
                 height: open.height + section.aboveChoices
-                visible: section.model.focusLinked && section.model.hasNoShortcuts
+                visible: section.model.focusLinked
 
                 SettingsCaption {
                     id: none
                     anchors.verticalCenter: open.verticalCenter
+                    visible: section.model.hasNoShortcuts
                     width: parent.width - open.width - DarkUI.space20
                     text: qsTr("No Shortcuts found yet. Make one, then flip this off and on.")
                     color: DarkUI.textSecondary
@@ -73,7 +74,7 @@ SettingsSection {
                     y: section.aboveChoices
                     text: section.model.action(SettingsView.FocusLinkRow)
                     role: DarkUI.captionMedium
-                    Accessible.description: none.text
+                    Accessible.description: section.model.hasNoShortcuts ? none.text : ""
                     onClicked: section.model.openShortcuts()
                 }
             }

@@ -56,12 +56,15 @@ protected:
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
         return process.exitCode();
     }
+    /// The user's own: those that come along are printed after them.
     [[nodiscard]] QByteArray list() {
         EXPECT_EQ(tool({QStringLiteral("list")}), 0);
-        return m_printed;
+        EXPECT_TRUE(m_printed.endsWith(m_comeAlong)) << m_printed.constData();
+        return m_printed.chopped(m_comeAlong.size());
     }
     int runShortcut(const QString& name) { return tool({QStringLiteral("run"), name}); }
 
+    const QByteArray m_comeAlong = "Do Not Disturb off\nDo Not Disturb on\n";
     QTemporaryDir m_config;
     const tests::EnvironmentVariable m_variable{"XDG_CONFIG_HOME",
                                                 QFile::encodeName(m_config.path())};
@@ -116,6 +119,30 @@ TEST_F(ShortcutsToolTest, NamesThatLeadOutOfTheFolderAreRefused) {
     for (const char* name : {"../outside", "./inside", "..", ".", "", "/bin/true", "inside/"})
         EXPECT_EQ(runShortcut(QString::fromUtf8(name)), 66) << name;
     EXPECT_EQ(ran(), "");
+}
+
+TEST_F(ShortcutsToolTest, OneOfTheUserGoesBeforeOneThatComesAlong) {
+    add("Do Not Disturb on");
+    EXPECT_EQ(tool({QStringLiteral("list")}), 0);
+    EXPECT_EQ(m_printed, "Do Not Disturb on\nDo Not Disturb off\n");
+    EXPECT_EQ(runShortcut(QStringLiteral("Do Not Disturb on")), 0);
+    EXPECT_EQ(ran(), pathOf("Do Not Disturb on"));
+}
+
+TEST_F(ShortcutsToolTest, BrokenOneOfTheUserIsNotReplacedByOneThatComesAlong) {
+    add("Do Not Disturb on");
+    std::FILE* const file = std::fopen(pathOf("Do Not Disturb on").constData(), "w");
+    std::fputs("no first line that names an interpreter\n", file);
+    std::fclose(file);
+    EXPECT_EQ(runShortcut(QStringLiteral("Do Not Disturb on")), 66);
+}
+
+TEST_F(ShortcutsToolTest, OnesThatComeAlongEndWellAndPrintNothingWithoutADesktop) {
+    const tests::EnvironmentVariable bus("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    for (const char* name : {"Do Not Disturb on", "Do Not Disturb off"}) {
+        EXPECT_EQ(runShortcut(QString::fromUtf8(name)), 0);
+        EXPECT_EQ(m_printed, "");
+    }
 }
 
 TEST_F(ShortcutsToolTest, ExitStatusIsTheShortcuts) {

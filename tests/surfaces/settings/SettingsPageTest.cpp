@@ -266,6 +266,16 @@ TEST_F(SettingsPageTest, ShortcutRowsComeWithTheSwitch) {
     EXPECT_EQ(foldersOpened, 1);
 }
 
+TEST_F(SettingsPageTest, FolderOfShortcutsOpensBesideAFullListToo) {
+    show();
+    click("Focus with sessions");
+    answer("Do Not Disturb off\nDo Not Disturb on\n");
+    m_shown->settle();
+    EXPECT_FALSE(shows("No Shortcuts found yet. Make one, then flip this off and on."));
+    click("Open Shortcuts");
+    EXPECT_EQ(foldersOpened, 1);
+}
+
 TEST_F(SettingsPageTest, ChosenShortcutThatIsGoneCanBeTakenBackFromAnEmptyList) {
     preferences.setBoolean(text("focus.linked"), true);
     preferences.setString(text("focus.shortcut.start"), text("Long gone"));
