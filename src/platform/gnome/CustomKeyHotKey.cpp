@@ -18,10 +18,10 @@ const QString kList = QStringLiteral("custom-keybindings");
 const QString kPath =
     QStringLiteral("/org/gnome/settings-daemon/plugins/media-keys/custom-keybindings/vantle/");
 
-/// The schema of one key, at its path.
+/// The schema with the path of one key.
 const QString kKeySchema = kSchema + QStringLiteral(".custom-keybinding:") + kPath;
 
-/// The strings of an array as gsettings prints it; none holds a quote.
+/// Parses an array of strings printed by gsettings; none contains a quote.
 QStringList stringsOf(const QString& printed) {
     static const QRegularExpression quoted(QStringLiteral("'([^']*)'"));
     QStringList strings;
@@ -35,7 +35,7 @@ QString arrayOf(const QStringList& strings) {
     return QStringLiteral("['%1']").arg(strings.join(QStringLiteral("', '")));
 }
 
-/// As gsettings reads a string; without a quote or a backslash in it.
+/// Quotes a text for gsettings; requires one without quotes and backslashes.
 QString quoted(const QString& text) { return QStringLiteral("\"%1\"").arg(text); }
 
 } // namespace
@@ -90,7 +90,7 @@ void CustomKeyHotKey::find() {
         if (stringsOf(printed).contains(kPath))
             readKeys();
         else
-            tell({Registration::NotAllowed}); // the user has removed it
+            tell({Registration::NotAllowed}); // the user removed it
     });
 }
 
@@ -104,7 +104,7 @@ void CustomKeyHotKey::add() {
 
 void CustomKeyHotKey::addTo(QStringList keys) {
     const auto set = QStringLiteral("set");
-    // The list last: with it the daemon reads the rest.
+    // The list last: it makes the daemon read the other values.
     run({set, kKeySchema, QStringLiteral("name"), quoted(QStringLiteral("Vantle"))}, [=,
                                                                                       this](auto&) {
         run({set, kKeySchema, QStringLiteral("command"), quoted(toggleCommand())},

@@ -1,4 +1,4 @@
-// The shortcut as one of the user's own keys in GNOME's settings.
+// The shortcut as a custom key in GNOME's settings.
 #pragma once
 
 #include "platform/OfferedHotKey.h"
@@ -15,18 +15,17 @@
 
 namespace vantle {
 
-/// A custom key of GNOME's daemon for media keys, which runs a command. It is written into the
-/// user's settings only by `allow(true)`, and stays there, also while the program does not run,
-/// until `allow(false)`. So no press reaches the handler: it comes as the action of that command.
-/// Keys that the user has chosen for it in GNOME's settings are kept; where the user has removed it
-/// there, it is no longer allowed. Read at the start and after each change of its own alone.
+/// A custom key of GNOME's media keys daemon runs a command. Only `allow(true)` writes it, and it
+/// stays until `allow(false)`, also while the program does not run. Presses arrive as that
+/// command's action, not at the handler. Keys chosen by the user in GNOME's settings are kept;
+/// removing it there withdraws the allowance. Read at the start and after its own changes only.
 ///
-/// By the tool `gsettings`, which nothing waits for. Main thread.
+/// Uses the tool `gsettings` without blocking. Main thread.
 class CustomKeyHotKey final : public OfferedHotKey {
 public:
     static constexpr int kToolFailed = -1; ///< status
 
-    /// `tool` is the path of gsettings, empty where there is none. `processes` must outlive this.
+    /// `tool` is the path of gsettings; empty when missing. `processes` must outlive this object.
     CustomKeyHotKey(const QDBusConnection& session, ProcessRunner& processes, QString tool);
 
     [[nodiscard]] std::optional<bool> isOffered() const override { return m_isOffered; }
@@ -60,10 +59,11 @@ private:
     const QString m_tool;
     std::optional<bool> m_isOffered;
     bool m_isAllowed = false;
-    std::shared_ptr<int> m_attempt = std::make_shared<int>(); ///< ends the former ones
-    bool m_toolRuns = false;                                  ///< once at a time
-    Job m_next = nullptr;                                     ///< when the tool has ended
-    Outcome m_outcome;                                        ///< as told last
+    /// Identifies the current attempt; callbacks of earlier ones expire.
+    std::shared_ptr<int> m_attempt = std::make_shared<int>();
+    bool m_toolRuns = false; ///< one run at a time
+    Job m_next = nullptr;    ///< runs when the tool has ended
+    Outcome m_outcome;       ///< as reported last
 };
 
 } // namespace vantle

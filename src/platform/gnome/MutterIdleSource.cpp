@@ -70,7 +70,7 @@ void MutterIdleSource::watchForInput() {
 }
 
 void MutterIdleSource::askWhetherStillIdle() {
-    // An input between the first second and the watch for the next input was told by nothing.
+    // Input between the first second and the watch for the next input was not reported.
     m_monitor.ask<qulonglong>(
         callTo(QStringLiteral("GetIdletime")), [this](qulonglong milliseconds) {
             if (!m_events || !m_events->isIdle() || milliseconds >= kShortWhile) return;

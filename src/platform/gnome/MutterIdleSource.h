@@ -1,4 +1,4 @@
-// The time without input, from GNOME's shell.
+// The idle time from GNOME's shell.
 #pragma once
 
 #include "platform/IdleEvents.h"
@@ -12,15 +12,15 @@
 
 namespace vantle {
 
-/// `org.gnome.Mutter.IdleMonitor` on the session bus. It has a counter, but a reading may wait for
-/// nobody, and one from the last reading would call a user away who has come back since. So it is
-/// asked to tell the first second without input, and the first input after it. What inhibits the
-/// session's idleness changes nothing here. The shell may come, go and come back. Main thread.
+/// `org.gnome.Mutter.IdleMonitor` on the session bus. Its counter would need a blocking call, and a
+/// cached value would report a user away who is back. Therefore the shell reports the first second
+/// without input and the first input after it. Inhibitors have no influence. The shell may come and
+/// go. Main thread.
 class MutterIdleSource final : public IdleSource {
     Q_OBJECT
 
 public:
-    /// `clock` must outlive this.
+    /// `clock` must outlive this object.
     MutterIdleSource(const QDBusConnection& session, const Clock& clock);
 
     [[nodiscard]] std::optional<double> secondsSinceLastInput() override;
@@ -36,9 +36,9 @@ private:
 
     FollowedService m_monitor;
     const Clock& m_clock;
-    std::optional<IdleEvents> m_events; ///< while the shell tells
+    std::optional<IdleEvents> m_events; ///< set while the shell reports
     uint m_idleWatch = 0;
-    uint m_inputWatch = 0; ///< of the next input alone; 0 while none is waited for
+    uint m_inputWatch = 0; ///< for the next input; 0 when there is none
 };
 
 } // namespace vantle

@@ -42,7 +42,7 @@ void MutterScreenPower::takeProperties(const QVariantList& arguments) {
 }
 
 void MutterScreenPower::take(const QVariant& mode) {
-    // 0 is on and -1 unknown; 1 to 3 are the ways to save power.
+    // 0 is on, -1 unknown; 1 to 3 are power saving modes.
     setCause(kSavesPower, mode.toInt() > 0);
 }
 

@@ -1,4 +1,4 @@
-// Screens that GNOME's shell has switched off.
+// The sleep of screens that GNOME's shell switched off.
 #pragma once
 
 #include "platform/CausedScreenPower.h"
@@ -9,8 +9,8 @@
 
 namespace vantle {
 
-/// `PowerSaveMode` of `org.gnome.Mutter.DisplayConfig` on the session bus: asleep while it is any
-/// of the modes that save power. Nothing blocks; a shell that is not there never sleeps.
+/// `PowerSaveMode` of `org.gnome.Mutter.DisplayConfig` on the session bus: asleep in any power
+/// saving mode. Does not block; never asleep without a shell. Main thread.
 class MutterScreenPower final : public CausedScreenPower {
     Q_OBJECT
 

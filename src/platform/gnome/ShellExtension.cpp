@@ -14,9 +14,9 @@ const QString kShell = QStringLiteral("org.gnome.Shell");
 const QString kShellPath = QStringLiteral("/org/gnome/Shell");
 const QString kExtensions = QStringLiteral("org.gnome.Shell.Extensions");
 
-constexpr int kFirstOfModules = 45; ///< version of the shell that loads modules of JavaScript
+constexpr int kFirstOfModules = 45; ///< first shell version that loads JavaScript modules
 
-/// What the shell says of an extension; all other states are of one that is off.
+/// The shell's states of an extension; all others mean off.
 enum State { On = 1, Failed = 3, ForAnotherVersion = 4 };
 
 } // namespace
@@ -38,7 +38,7 @@ ShellExtension::ShellExtension(FollowedService& shell, Scheduler& scheduler,
 }
 
 QDBusMessage ShellExtension::extensions(const QString& method) const {
-    // The shell itself, not the service of that name, which would have to be started.
+    // The shell's own interface: org.gnome.Shell.Extensions would have to be started.
     return m_shell.call(kShellPath, kExtensions, method) << m_uuid;
 }
 
@@ -75,7 +75,8 @@ void ShellExtension::enable() {
     if (m_help != FrontmostHelp::Offered && m_help != FrontmostHelp::Refused) return;
     setHelp(FrontmostHelp::Asked);
     const auto refuse = [this] { setHelp(FrontmostHelp::Refused); };
-    // It says yes before it has done so, and does nothing where extensions are off altogether.
+    // The call succeeds before it takes effect, and has none where extensions are disabled
+    // altogether.
     m_limit = m_scheduler.scheduleOnce(patience, refuse);
     m_shell.ask<bool>(
         extensions(QStringLiteral("EnableExtension")),

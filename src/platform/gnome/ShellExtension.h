@@ -1,4 +1,4 @@
-// The extension of GNOME's shell that belongs to this program.
+// The program's extension for GNOME's shell.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -13,21 +13,21 @@
 
 namespace vantle {
 
-/// Finds out whether the shell has the extension switched on, and switches it on. The shell looks
-/// for extensions when it starts, and has a form of them up to version 44 and another one from 45
-/// on; there is one extension for each. Nothing blocks. Main thread.
+/// Finds whether it is enabled, and enables it. The shell loads extensions at its start, in one
+/// form up to version 44 and another from 45 on; there is an extension for each. Does not block.
+/// Main thread.
 class ShellExtension final : public QObject {
     Q_OBJECT
 
 public:
-    /// A shell has that long to switch it on.
+    /// How long the shell may take to enable it.
     static constexpr Seconds patience{10};
 
-    /// `shell` is `org.gnome.Shell`. `dataFolders` are where extensions are installed. What the
-    /// references name must outlive this.
+    /// `shell` is `org.gnome.Shell`; `dataFolders` are the places of extensions. All references
+    /// must outlive this object.
     ShellExtension(FollowedService& shell, Scheduler& scheduler, QStringList dataFolders);
 
-    /// None also while the extension is on, and where it can't be had.
+    /// None also while the extension is on, or cannot be installed.
     [[nodiscard]] FrontmostHelp help() const { return m_help; }
     void enable();
 
@@ -45,9 +45,9 @@ private:
     FollowedService& m_shell;
     Scheduler& m_scheduler;
     const QStringList m_dataFolders;
-    QString m_uuid; ///< of the form that this shell loads; empty until its version is known
+    QString m_uuid; ///< of the form for this shell; empty until its version is known
     FrontmostHelp m_help = FrontmostHelp::None;
-    TimerHandle m_limit; ///< while it was asked for and is not on
+    TimerHandle m_limit; ///< runs between the request and the extension's start
 };
 
 } // namespace vantle

@@ -34,7 +34,7 @@ void ShellFrontmostApp::take(const QDBusMessage& call) {
     if (id.endsWith(kSuffix)) id.chop(kSuffix.size());
     begin();
     if (id.isEmpty()) return reportNone();
-    // Of an application without a desktop entry it is the class of its window.
+    // Without a desktop entry the id is the window's class.
     report({.applicationId = id, .windowClass = id, .instance = {}, .processId = {}});
 }
 

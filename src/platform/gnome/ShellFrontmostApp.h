@@ -14,16 +14,16 @@
 
 namespace vantle {
 
-/// The shell tells programs nothing of other windows. The extension that is installed with this one
-/// calls an object of this program, by the name that `ApplicationService` takes, with the id of the
-/// application in front; only calls of the shell's own connection count. Until the user has
-/// switched it on, help is offered and nothing can be told. The shell may come, go and come back.
-/// Main thread.
+/// The shell itself tells programs nothing about other windows. The installed extension calls an
+/// object of this program, under the name that `ApplicationService` owns, with the id of the
+/// application in front; only calls from the shell's connection count. Until the user enables it,
+/// help is offered and coverage is None. The shell may come and go. Main thread.
 class ShellFrontmostApp final : public ReportedFrontmostApp {
     Q_OBJECT
 
 public:
-    /// Before the program takes its name on the bus: then the extension calls.
+    /// Construct before the program requests its bus name: the extension calls as soon as it
+    /// exists.
     ShellFrontmostApp(const QDBusConnection& session, QStringList dataFolders, Reading reading);
 
     [[nodiscard]] FrontmostHelp help() const override { return m_extension.help(); }
@@ -34,7 +34,8 @@ private:
 
     FollowedService m_shell;
     ShellExtension m_extension;
-    std::optional<QDBusMessage> m_early; ///< a call from before it was known who the shell is
+    /// A call that came before the shell's connection was known.
+    std::optional<QDBusMessage> m_early;
     CalledObject m_reports;
 };
 

@@ -1,4 +1,6 @@
-// A key sequence in the form that goes over the bus: (ai), of exactly four numbers.
+// A key sequence in D-Bus form: (ai) of four numbers.
+//
+// Any thread.
 #pragma once
 
 #include <QDBusArgument>
@@ -9,7 +11,7 @@
 namespace vantle {
 
 struct BusKeySequence {
-    QList<int> chords; ///< key and modifiers each; 0 where there is none
+    QList<int> chords; ///< key plus modifiers; 0 for none
 
     [[nodiscard]] bool isEmpty() const { return chords.value(0) == 0; }
     [[nodiscard]] QKeySequence sequence() const {

@@ -20,13 +20,13 @@ const QString kComponentInterface = QStringLiteral("org.kde.kglobalaccel.Compone
 const QString kComponent = QStringLiteral("local.vantle.Vantle");
 const QString kAction = QStringLiteral("toggle");
 
-/// How the service knows the action, and how its settings show it.
+/// The action's id in the service, and its label in the settings.
 const QStringList kId{kComponent, kAction, QStringLiteral("Vantle"),
                       QStringLiteral("Start or stop a session")};
 
 /// Flags of `setShortcutKeys`.
-constexpr uint kSetPresent = 2; ///< takes the keys that the service remembers, else those given
-constexpr uint kIsDefault = 8;  ///< what the settings offer to go back to
+constexpr uint kSetPresent = 2; ///< use remembered keys, else the given ones
+constexpr uint kIsDefault = 8;  ///< the default that the settings offer
 
 constexpr int kAltSuperB = static_cast<int>(Qt::ALT) | static_cast<int>(Qt::META) | Qt::Key_B;
 
@@ -34,7 +34,7 @@ BusKeySequence combination() { return {{kAltSuperB, 0, 0, 0}}; }
 
 QVariant asArgument(const BusKeySequence& keys) { return QVariant::fromValue(keys); }
 
-/// The keys in use, as the user reads them; empty where there are none.
+/// Returns the keys as text for the user; empty without keys.
 QString textOf(const QList<BusKeySequence>& keys) {
     QStringList texts;
     for (const BusKeySequence& each : keys)
@@ -80,7 +80,7 @@ void KGlobalAccelHotKey::hear() {
                        const auto id = signal.arguments().value(0).toStringList();
                        if (!m_isWanted || id.mid(0, 2) != kId.mid(0, 2)) return;
                        ++m_attempt;
-                       activate(true); // with keys again, it is not active by itself
+                       activate(true); // keys alone do not activate it
                    });
 }
 

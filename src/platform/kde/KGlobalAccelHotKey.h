@@ -1,4 +1,4 @@
-// The shortcut, by KDE's service of global shortcuts.
+// The shortcut through KDE's global shortcut service.
 #pragma once
 
 #include "platform/HeldKey.h"
@@ -13,18 +13,18 @@
 
 namespace vantle {
 
-/// `org.kde.kglobalaccel` on the session bus, which KWin 5 and 6 answer in a Wayland session. The
-/// service remembers the keys of each action, and the user can change them in the desktop's
-/// settings: what it says was taken counts, and a change there is followed. At the end the action
-/// is made inactive, which frees the keys and leaves them with the action.
+/// `org.kde.kglobalaccel` on the session bus, implemented by KWin 5 and 6 in a Wayland session. The
+/// service remembers the keys of each action and the user can change them in the desktop's
+/// settings, so its reply counts, and later changes are followed. At the end the action is
+/// deactivated, which frees the keys but keeps them assigned.
 ///
-/// A combination of another program is not asked for, since the service would remember the refusal
-/// as the user's wish to have no keys. Nothing blocks. Main thread.
+/// A combination of another program is not requested: the service would remember the refusal as the
+/// user's choice of no keys. Does not block. Main thread.
 class KGlobalAccelHotKey final : public OfferedHotKey {
 public:
-    static constexpr int kNoAnswer = -1; ///< status: the service refused, or answered nonsense
+    static constexpr int kNoAnswer = -1; ///< status: the service refused, or replied nonsense
 
-    /// `clock` must outlive this.
+    /// `clock` must outlive this object.
     KGlobalAccelHotKey(const QDBusConnection& session, const Clock& clock);
     ~KGlobalAccelHotKey() override;
 
@@ -53,8 +53,8 @@ private:
     std::function<void()> m_pressed;
     std::optional<bool> m_isOffered;
     bool m_isWanted = false; ///< from `registerKey` to `unregisterKey`
-    int m_attempt = 0;       ///< answers to former attempts are dropped
-    Outcome m_outcome;       ///< as told last
+    int m_attempt = 0;       ///< replies to earlier attempts are dropped
+    Outcome m_outcome;       ///< as reported last
 };
 
 } // namespace vantle

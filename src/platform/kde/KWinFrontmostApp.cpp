@@ -14,11 +14,11 @@ namespace vantle {
 namespace {
 
 const QString kKWin = QStringLiteral("org.kde.KWin");
-const QString kScript = QStringLiteral("local.vantle.Frontmost"); // KWin's name for it
+const QString kScript = QStringLiteral("local.vantle.Frontmost"); // the script's name in KWin
 const QString kReports = QStringLiteral("/local/vantle/Vantle/KWinFrontmost");
 
-// The texts of KWin 5 are byte arrays, hence String(). A window names its application before it is
-// activated or, some of X11, later. The desktop and the panels are windows, too.
+// KWin 5's texts are byte arrays, hence String(). A window may set its application after it is
+// activated (some of X11). The desktop and panels are windows too.
 constexpr const char* kSource = R"(
 (function () {
     const isSix = typeof workspace.windowActivated !== "undefined";
@@ -44,7 +44,8 @@ constexpr const char* kSource = R"(
 })();
 )";
 
-/// The script with whom it reports to: the connection, not its name, which another may have later.
+/// The script with its destination: the unique connection name, since another program could own the
+/// other name later.
 QByteArray sourceFor(const QString& service) {
     return QStringLiteral("const service = \"%1\", path = \"%2\";")
                .arg(service, kReports)
@@ -92,8 +93,8 @@ void KWinFrontmostApp::load() {
 }
 
 void KWinFrontmostApp::run(int script) {
-    // The object of a script: one of these is KWin 6's, the other KWin 5's, and the wrong one is
-    // nobody's. What the script reports is the answer.
+    // The script's object has one path in KWin 6 and another in KWin 5; the call to the wrong one
+    // fails. The script's first report is the reply.
     for (const auto* path : {"/Scripting/Script%1", "/%1"})
         m_session.send(m_kwin.call(QString::fromLatin1(path).arg(script),
                                    QStringLiteral("org.kde.kwin.Script"), QStringLiteral("run")));

@@ -15,11 +15,11 @@ class QTemporaryFile;
 
 namespace vantle {
 
-/// KWin 5 and 6 on the session bus. Its protocol for task bars is for Plasma alone, but it runs
-/// scripts of any program: one is loaded that reports each activated window to an object of this
-/// program, by what tells its application and nothing else. Only calls of KWin itself count. The
-/// script is unloaded with this object; one that a killed program left behind, before the next is
-/// loaded. KWin may come, go and come back. Nothing blocks. Main thread.
+/// KWin 5 and 6 on the session bus. Its task bar protocol is reserved for Plasma, but it runs
+/// scripts of any program: this one reports the application of each activated window to an object
+/// of this program, and nothing else. Only calls from KWin's connection count. The destructor
+/// unloads the script; a killed program's script is unloaded before the next is loaded. KWin may
+/// come and go. Does not block. Main thread.
 class KWinFrontmostApp final : public ReportedFrontmostApp {
     Q_OBJECT
 

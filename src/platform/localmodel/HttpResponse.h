@@ -1,7 +1,7 @@
-// Reads the response of an HTTP/1.1 server as it comes in, within bounds.
+// An incremental reader of a bounded HTTP/1.1 response.
 //
-// A plain value, any thread. Knows what a local server sends back to one POST: a status, headers,
-// and a body that ends by its length, by chunks, or with the connection.
+// Reads what a local server returns for one POST: a status, headers, and a body that ends by
+// length, by chunks, or with the connection. A plain value, any thread.
 #pragma once
 
 #include <QByteArray>
@@ -13,7 +13,7 @@ namespace vantle {
 
 class HttpResponse {
 public:
-    /// The most bytes that a response may have, headers and the frames of chunks included.
+    /// The largest response in bytes, headers and chunk framing included.
     static constexpr qsizetype maxSize = 1 << 20;
 
     enum class State {
@@ -22,26 +22,26 @@ public:
         Broken, ///< not HTTP, too long, or cut off
     };
 
-    /// Takes what came in. After the end nothing changes any more.
+    /// Takes received bytes. Has no effect after the end.
     State take(QByteArrayView bytes);
 
-    /// The connection has ended.
+    /// The connection was closed.
     State finish();
 
-    /// As the server gave it, 100 to 599. Only when complete.
+    /// The server's status, 100 to 599. Requires Complete.
     [[nodiscard]] int status() const { return m_status; }
-    /// Without chunk frames. Only when complete.
+    /// The body without chunk framing. Requires Complete.
     [[nodiscard]] const QByteArray& body() const { return m_body; }
 
 private:
     void readHead();
     void readBody();
     void readChunks();
-    /// Whether the chunk of that size is there with its end; then it is dealt with.
+    /// Consumes the chunk of that size. Returns false while it is incomplete.
     [[nodiscard]] bool takeChunk(qsizetype size);
     [[nodiscard]] bool takeStatusLine(QByteArrayView line);
     [[nodiscard]] bool takeHeader(QByteArrayView line);
-    /// The next line of what is left to read, without its end; none while it is incomplete.
+    /// Returns the next unread line without its end; empty while it is incomplete.
     [[nodiscard]] std::optional<QByteArrayView> nextLine();
 
     State m_state = State::Incomplete;

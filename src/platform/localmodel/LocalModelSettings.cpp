@@ -10,7 +10,7 @@ namespace vantle {
 
 namespace {
 
-/// The longest path that a socket's address holds, with the zero at its end.
+/// The longest socket path, including the terminating zero.
 constexpr qsizetype kAddressSize = sizeof(sockaddr_un::sun_path);
 
 bool canBeASocket(const QString& path) {

@@ -1,4 +1,4 @@
-// Which model server of this machine the person wants to be used, if any.
+// The user's choice of a local model server.
 //
 // A plain value and pure functions, any thread.
 #pragma once
@@ -10,17 +10,17 @@
 
 namespace vantle {
 
-/// What stands in the file "language-model.conf".
+/// The content of "language-model.conf".
 struct LocalModelSettings {
     QString socket; ///< absolute path of the server's socket
     QString model;  ///< which of its models; empty where the server has but one
 
     friend bool operator==(const LocalModelSettings&, const LocalModelSettings&) = default;
 
-    /// The longest file that is read, in bytes.
+    /// A longer file is ignored; in bytes.
     static constexpr qint64 maxFileSize = 4096;
 
-    /// The settings in such a file's content. None when it names no socket, or anything is wrong.
+    /// Parses the content; empty when it names no socket or anything is invalid.
     [[nodiscard]] static std::optional<LocalModelSettings> parse(QByteArrayView content);
 };
 

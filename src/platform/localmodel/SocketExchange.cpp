@@ -10,8 +10,8 @@ namespace vantle {
 
 namespace {
 
-/// For whom the server listens, as the kernel remembers it: no file that was put in the socket's
-/// place since it was looked at can change that.
+/// Compares the listening user as the kernel recorded it, which no file put in the socket's place
+/// later can change.
 bool serverRunsFor(uid_t person, const QLocalSocket& socket) {
     ucred peer{};
     socklen_t size = sizeof peer;
@@ -33,7 +33,7 @@ SocketExchange::SocketExchange(Request request, Scheduler& scheduler, QObject& o
     , m_request(std::move(request))
     , m_done(std::move(done)) {
     m_deadline = scheduler.scheduleOnce(m_request.patience, [this] { tell(std::nullopt); });
-    // From the event loop, since both may happen within the call that connects.
+    // Queued, since both may happen inside the call that connects.
     QObject::connect(
         m_socket, &QLocalSocket::connected, &m_context, [this] { send(); }, Qt::QueuedConnection);
     QObject::connect(

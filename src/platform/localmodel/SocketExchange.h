@@ -1,4 +1,4 @@
-// One request to a server behind a UNIX socket, and its response.
+// A request to a server on a UNIX socket, with its response.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -15,16 +15,16 @@
 
 namespace vantle {
 
-/// Whether a socket of this person stands at the path; what is told to the server of another would
-/// be theirs to read. Symbolic links are followed.
+/// Whether the user's own socket is at the path: the owner of any other server could read the
+/// request. Follows symbolic links. Any thread.
 [[nodiscard]] bool isSocketOf(uid_t person, const QString& path);
 
-/// Connects, sends, and collects the response. Main thread; waits for nothing. Destroy it to hang
-/// up, also within `done`.
+/// Connects, sends and collects the response, without blocking. Destroying it, also inside `done`,
+/// closes the connection. Main thread.
 class SocketExchange {
 public:
-    /// Nothing when the server can't be reached, runs for another person, speaks no HTTP, sends too
-    /// much or takes longer than `patience`.
+    /// Empty when the server cannot be reached, runs for another user, does not speak HTTP, sends
+    /// too much, or takes longer than `patience`.
     using Done = std::function<void(std::optional<HttpResponse>)>;
 
     struct Request {
@@ -34,8 +34,8 @@ public:
         Seconds patience;
     };
 
-    /// Begins at once. `done` is called once, from the event loop. `owner` gets the socket as a
-    /// child, which goes with a later turn of the event loop, or with the owner.
+    /// Starts immediately. Calls `done` once, from the event loop. `owner` gets the socket as a
+    /// child, which is deleted in a later turn of the event loop, or with the owner.
     SocketExchange(Request request, Scheduler& scheduler, QObject& owner, Done done);
     ~SocketExchange();
     SocketExchange(const SocketExchange&) = delete;

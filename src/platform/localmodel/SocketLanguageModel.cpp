@@ -60,7 +60,7 @@ private:
     TimerHandle m_later;
 };
 
-/// What stands in the file, up to a byte more than it may have; nothing where none can be read.
+/// Returns the file's content, at most one byte more than allowed; empty when unreadable.
 QByteArray contentOf(FileSystem& files, const QString& path) {
     const auto file = files.open(path, FileSystem::OpenMode::Read);
     if (!file) return {};

@@ -1,8 +1,8 @@
-// The model of a server that the person runs on this machine, behind a UNIX socket.
+// The language model of a server that the user runs.
 //
-// The socket is named by a file in the configuration directory; without that file there is no
-// model, and nothing is done but the look for it whenever somebody asks. No other machine can be
-// named, and no internet socket is ever opened. Main thread; files of at most 4 KB are read there.
+// A file in the configuration directory names the server's UNIX socket; without it there is no
+// model, and each query only looks for the file. Other machines and internet sockets are
+// impossible. Main thread; reads files of at most 4 KB there.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -22,8 +22,8 @@ class FileSystem;
 
 class SocketLanguageModel final : public LanguageModel {
 public:
-    /// `settingsFile` is the path of "language-model.conf", `person` for whom a server has to run
-    /// to be told anything. The others must outlive the model.
+    /// `settingsFile` is the path of "language-model.conf"; `person` is the user that a server must
+    /// run for. The others must outlive the model.
     SocketLanguageModel(FileSystem& files, QString settingsFile, Scheduler& scheduler,
                         uid_t person = ::geteuid())
         : m_files(files)
@@ -31,11 +31,10 @@ public:
         , m_scheduler(scheduler)
         , m_person(person) {}
 
-    /// How long an answer may take: a model on a slow processor reads for a while before it writes.
+    /// The time limit of an answer: on a slow processor a model reads for a while before it writes.
     static constexpr Seconds patience{180};
 
-    /// Whether the file names a socket of this person. Whether anybody answers there only an
-    /// answer tells.
+    /// Whether the file names the user's own socket. Only an answer shows whether a server listens.
     [[nodiscard]] bool isAvailable() const override { return settings().has_value(); }
 
     [[nodiscard]] std::unique_ptr<LanguageModelSession>

@@ -1,4 +1,6 @@
-// A file descriptor that closes itself, and the retry that every interruptible call needs.
+// A file descriptor that closes itself.
+//
+// Also the retry for interruptible calls.
 #pragma once
 
 #include <cerrno>
@@ -7,7 +9,7 @@
 
 namespace vantle::posix {
 
-/// Owns a descriptor, or nothing (-1). Any thread, one at a time.
+/// Owns a descriptor, or none (-1). Any thread, one at a time.
 class Descriptor {
 public:
     Descriptor() = default;
@@ -24,14 +26,14 @@ public:
     [[nodiscard]] int get() const { return m_fd; }
     explicit operator bool() const { return m_fd >= 0; }
 
-    /// Gives the descriptor away, open.
+    /// Returns the open descriptor and gives up ownership.
     [[nodiscard]] int release() { return std::exchange(m_fd, -1); }
 
 private:
     int m_fd = -1;
 };
 
-/// Calls until a signal no longer gets in the way; the result and errno of the last call.
+/// Repeats the call while a signal interrupts it. Returns its result and leaves errno.
 template <typename Call>
 auto retried(Call call) {
     auto result = call();

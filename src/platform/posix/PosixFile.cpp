@@ -51,8 +51,8 @@ Result<> PosixFile::sync() {
 }
 
 Result<> PosixFile::close() {
-    // Never retried: Linux frees the descriptor also when a signal interrupts the call, and by then
-    // another thread may have got the same number.
+    // Not retried: Linux frees the descriptor even when a signal interrupts the call, and another
+    // thread may already have got its number.
     if (::close(m_descriptor.release()) != 0 && errno != EINTR)
         return failure(QStringLiteral("close"));
     return {};

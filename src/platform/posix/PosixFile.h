@@ -6,8 +6,8 @@
 
 namespace vantle {
 
-/// Reads and writes through a descriptor, which it owns. Errors carry errno and the path under
-/// which the file was opened. Any thread, one at a time; all calls block.
+/// Owns its descriptor. Errors carry errno and the path of the open call. All calls block. Any
+/// thread, one at a time.
 class PosixFile final : public File {
 public:
     PosixFile(posix::Descriptor descriptor, QString path);

@@ -33,14 +33,14 @@ Descriptor openedAt(const QString& path, int flags) {
         retried([&] { return ::open(name.constData(), flags | O_CLOEXEC, kPrivateFile); }));
 }
 
-/// What stands at the path, symbolic links followed; empty with errno set when nothing can be told.
+/// Returns the status of the path, following links; empty with errno set on failure.
 std::optional<struct stat> statusOf(const QString& path) {
     struct stat status {};
     if (::stat(QFile::encodeName(path).constData(), &status) != 0) return std::nullopt;
     return status;
 }
 
-/// Gives a file the mode that its owner's umask may have cut down. -1 with errno on failure.
+/// Restores a mode that the umask reduced. Returns -1 with errno on failure.
 int makePrivate(const Descriptor& file) {
     struct stat status {};
     if (::fstat(file.get(), &status) != 0) return -1;
@@ -64,11 +64,11 @@ QString directoryAbove(const QString& path) {
     return path.left(std::max<qsizetype>(path.lastIndexOf(QLatin1Char('/')), 0));
 }
 
-/// Makes one directory; 0 or an errno code. One that is there is no failure.
+/// Creates one directory. Returns 0 or errno; an existing one is no failure.
 int makeDirectory(const QString& path, std::optional<int> mode) {
     const QByteArray name = QFile::encodeName(path);
     if (::mkdir(name.constData(), static_cast<mode_t>(mode.value_or(0777))) == 0) {
-        // The umask has had its say; what was asked for exactly is put right.
+        // mkdir() applied the umask; chmod() sets the exact mode.
         const bool exact = !mode || ::chmod(name.constData(), static_cast<mode_t>(*mode)) == 0;
         return exact ? 0 : errno;
     }
@@ -94,7 +94,7 @@ Result<std::unique_ptr<File>> PosixFileSystem::open(const QString& path, OpenMod
     const int access = mode == OpenMode::Read ? O_RDONLY : O_WRONLY | O_APPEND;
     Descriptor file = openedAt(path, access | O_NONBLOCK | O_NOCTTY);
     if (!file) return failure(errno, operation, path);
-    // The kernel opens a directory for reading and fails at the first read only.
+    // open() succeeds on a directory for reading; only read() would fail.
     struct stat status {};
     if (::fstat(file.get(), &status) != 0) return failure(errno, operation, path);
     if (S_ISDIR(status.st_mode)) return failure(EISDIR, operation, path);
@@ -133,8 +133,8 @@ Result<> PosixFileSystem::setMode(const QString& path, int mode) {
 }
 
 int PosixFileSystem::usualMode() {
-    // To ask the C library for the umask is to change it, for all threads. The kernel tells it in
-    // the first lines of this file.
+    // Reading the umask through the C library changes it for all threads. The kernel reports it in
+    // this file's first lines.
     const Descriptor status = openedAt(QStringLiteral("/proc/self/status"), O_RDONLY);
     QByteArray text(kStatusStart, '\0');
     const auto length =
@@ -158,7 +158,7 @@ Result<> PosixFileSystem::syncDirectory(const QString& path) {
     const QString operation = QStringLiteral("sync directory");
     const Descriptor directory = openedAt(path, O_RDONLY | O_DIRECTORY);
     if (!directory) return failure(errno, operation, path);
-    // Some network file systems answer EINVAL: they have nothing of the kind to wait for.
+    // Some network file systems return EINVAL: they cannot sync a directory.
     if (retried([&] { return ::fsync(directory.get()); }) != 0 && errno != EINVAL)
         return failure(errno, operation, path);
     return {};
@@ -169,7 +169,7 @@ FileSystem::LockAttempt PosixFileSystem::lock(const QString& path) {
     if (!file) return {};
     makePrivate(file); // the lock counts, not the mode
     if (retried([&] { return ::flock(file.get(), LOCK_EX | LOCK_NB); }) != 0) {
-        // Network and FUSE file systems without locks answer ENOLCK, ENOSYS or EOPNOTSUPP.
+        // Network and FUSE file systems without locks return ENOLCK, ENOSYS or EOPNOTSUPP.
         const bool isTaken = errno == EWOULDBLOCK;
         return {isTaken ? LockOutcome::TakenByOther : LockOutcome::Unavailable, nullptr};
     }

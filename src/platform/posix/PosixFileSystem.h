@@ -1,13 +1,12 @@
-// The data files of this machine.
+// The data files on plain POSIX calls.
 #pragma once
 
 #include "platform/FileSystem.h"
 
 namespace vantle {
 
-/// The file system through plain POSIX calls. Holds no state: any thread. Interrupted calls are
-/// taken up again, descriptors do not leak into child processes, and a pipe or device in the place
-/// of a data file can't make an open wait.
+/// Stateless: any thread. Retries interrupted calls, leaks no descriptors to child processes, and
+/// does not block on a pipe or device in place of a data file.
 class PosixFileSystem final : public FileSystem {
 public:
     Result<std::unique_ptr<File>> open(const QString& path, OpenMode mode) override;

@@ -8,7 +8,7 @@ namespace vantle {
 
 namespace {
 
-/// One collected command. Deletes itself when it has told its end.
+/// One collected command. Deletes itself after it has reported its end.
 class Collection final : public QProcess {
 public:
     using Done = std::function<void(std::optional<ProcessRunner::Output>)>;
@@ -24,7 +24,7 @@ public:
             else
                 tell(std::nullopt);
         });
-        // From the event loop, since it may fail within the call that starts it.
+        // Queued, since it may fail inside the call that starts it.
         connect(
             this, &QProcess::errorOccurred, this,
             [this](ProcessError error) {

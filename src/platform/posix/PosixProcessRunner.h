@@ -8,9 +8,9 @@
 
 namespace vantle {
 
-/// Detached ones are started by a child that ends at once, so that the system looks after them.
-/// Programs get the environment that the user's session gave this program, without the variables
-/// that this program has set for itself since.
+/// A child process that exits immediately starts detached programs, so that init reaps them.
+/// Programs get the session's environment without the variables that this program set for itself.
+/// Main thread.
 class PosixProcessRunner final : public ProcessRunner {
 public:
     explicit PosixProcessRunner(const QProcessEnvironment& environment)

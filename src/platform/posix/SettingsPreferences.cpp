@@ -25,7 +25,7 @@ SettingsPreferences::~SettingsPreferences() { passOnChanges(); }
 
 void SettingsPreferences::load() {
     for (const QString& key : m_settings.childKeys()) {
-        // Whatever is more than a text, such as a list, was not written by this class.
+        // This class writes texts only; a list or another type is foreign.
         const QVariant value = m_settings.value(key);
         if (value.typeId() == QMetaType::QString) m_values[key] = value.toString();
     }
@@ -70,7 +70,7 @@ void SettingsPreferences::setString(const QString& key, const QString& value) {
 }
 
 void SettingsPreferences::remove(const QString& key) {
-    // A value in the file that is no text is absent here, but goes as well.
+    // A value that is not a text counts as missing, but is removed too.
     const bool wasThere = m_values.remove(key) > 0;
     if (wasThere || m_settings.contains(key)) changeInFile(key);
     if (wasThere) Q_EMIT changed(key);
@@ -80,7 +80,7 @@ void SettingsPreferences::removeAll() {
     const QStringList removed = m_values.keys();
     m_values.clear();
     m_unsaved.clear();
-    // Written out before the file goes, or a later write of the same would bring it back.
+    // Written before the file is removed, or a later write of the same values would restore it.
     m_settings.clear();
     m_settings.sync();
     m_files.remove(m_path).ignore();
@@ -112,8 +112,8 @@ void SettingsPreferences::passOnChanges() {
     m_unsaved.clear();
 }
 
-/// Sees to it that the file may be replaced, and that whatever replaces it is private from its
-/// first byte: QSettings gives the new file the mode of the old one.
+/// Prepares the file for replacement and ensures that its successor is private from its first byte:
+/// QSettings copies the old file's mode.
 bool SettingsPreferences::makeFileReady() {
     const QString directory = m_path.left(m_path.lastIndexOf(QLatin1Char('/')));
     if (!m_files.makeDirectories(directory, kPrivateDirectory)) return false;
@@ -129,7 +129,7 @@ bool SettingsPreferences::keepDamagedOriginal() {
         ++number;
     if (m_original == Original::Unreadable) {
         if (!m_files.rename(m_path, nameOfCopy(number))) return false;
-        // What was read before it became unreadable goes into the new file.
+        // Values read before the file became unreadable go into the new one.
         const QStringList known = m_values.keys();
         m_unsaved.unite(QSet(known.begin(), known.end()));
     } else {

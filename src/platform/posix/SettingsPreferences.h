@@ -1,4 +1,4 @@
-// The preference store in an INI file that people can read and edit.
+// The preference store in an INI file.
 #pragma once
 
 #include "platform/FileSystem.h"
@@ -11,15 +11,13 @@
 
 namespace vantle {
 
-/// Preferences in the group `General` of an INI file, the keys as they are named:
-/// `skill.lastUsed=building`. Read once, at construction; written from the event loop soon after a
-/// change, whole and in one step. Other groups, and keys that an editor adds meanwhile, are kept.
-/// The file has mode 0600, its directory 0700 when it is made here.
+/// Preferences in the group `General`, keys as named: `skill.lastUsed=building`. Read once, at
+/// construction; written atomically from the event loop soon after a change. Keeps other groups and
+/// keys that an editor adds. The file has mode 0600; a directory created here has 0700.
 ///
-/// A file that can't be parsed is copied beside it, as `{name}.damaged` or the next free
-/// `{name}.damaged.2`, before it is first written over, and what could be read of it stays in use;
-/// one that can't be read at all is moved there. Where even that fails the file is left alone, and
-/// changes hold for this run only. Main thread.
+/// A file that cannot be parsed is copied to `{name}.damaged`, or the next free `{name}.damaged.2`,
+/// before it is first replaced, and readable values stay in use; an unreadable file is moved there.
+/// When that fails too, the file is left alone and changes apply to this run only. Main thread.
 class SettingsPreferences final : public Preferences {
     Q_OBJECT
 
@@ -38,12 +36,12 @@ public:
     void setString(const QString& key, const QString& value) override;
     void remove(const QString& key) override;
 
-    /// Removes the copies of damaged files as well: they hold the same private values.
+    /// Removes the copies of damaged files too, since they hold the same private values.
     void removeAll() override;
     void synchronize() override;
 
 private:
-    /// What stands in the file, as far as it is still to be kept before it may be replaced.
+    /// What must be preserved of the file before it may be replaced.
     enum class Original { Sound, Unparsed, Unreadable };
 
     void load();
@@ -56,8 +54,8 @@ private:
     FileSystem& m_files;
     const QString m_path;
     Original m_original = Original::Sound;
-    QMap<QString, QString> m_values; ///< what holds in this run
-    QSet<QString> m_unsaved;         ///< keys whose change m_settings does not know yet
+    QMap<QString, QString> m_values; ///< the values of this run
+    QSet<QString> m_unsaved;         ///< keys changed since m_settings was last written
     QSettings m_settings;            ///< reads, merges and writes the file
 };
 

@@ -8,9 +8,9 @@ namespace vantle {
 
 namespace {
 
-/// The pipe between the handler, which may do next to nothing, and the event loop. One for the
-/// process and never closed: a handler that is just running in another thread could otherwise write
-/// into a file that got the same number.
+/// The pipe from the handler, which may call almost nothing, to the event loop. One per process and
+/// never closed: a handler running in another thread could otherwise write into a file that got the
+/// same number.
 struct Pipe {
     int readEnd = -1;
     int writeEnd = -1;
@@ -25,18 +25,19 @@ const Pipe& signalPipe() {
     return pipe;
 }
 
-/// Where the handler writes to; a copy of its own, since it must not run the code that makes one.
+/// The descriptor that the handler writes to. A copy, since the handler must not run the pipe's
+/// initialisation.
 volatile std::sig_atomic_t handlerEnd = -1;
 
 extern "C" void noteSignal(int signal) {
     const int formerErrno = errno;
     const auto byte = static_cast<unsigned char>(signal);
-    // A full pipe holds thousands of requests to end already.
+    // A full pipe already holds thousands of termination requests.
     [[maybe_unused]] const ssize_t written = ::write(handlerEnd, &byte, 1);
     errno = formerErrno;
 }
 
-/// The next signal that was noted, 0 when none is left.
+/// Returns the next recorded signal; 0 when there is none.
 int nextSignal() {
     unsigned char byte = 0;
     const ssize_t count = posix::retried([&] { return ::read(signalPipe().readEnd, &byte, 1); });
@@ -47,9 +48,9 @@ int nextSignal() {
 
 TerminationSignals::TerminationSignals(std::function<void(int)> terminated)
     : m_terminated(std::move(terminated)) {
-    if (signalPipe().readEnd < 0) return; // no descriptors left: signals end the process as ever
+    if (signalPipe().readEnd < 0) return; // out of descriptors: signals keep their default action
     while (nextSignal() != 0) {
-    } // what was meant for an earlier object
+    } // drops signals for an earlier object
     m_notifier = new QSocketNotifier(signalPipe().readEnd, QSocketNotifier::Read);
     QObject::connect(m_notifier, &QSocketNotifier::activated, m_notifier, [this] { takeNext(); });
 
@@ -67,14 +68,14 @@ TerminationSignals::~TerminationSignals() {
     if (!m_notifier) return;
     for (std::size_t i = 0; i < kSignals.size(); ++i)
         ::sigaction(kSignals[i], &m_former[i], nullptr);
-    // Not deleted at once: this may run inside the notifier's own signal.
+    // Deferred, since this may run inside the notifier's own signal.
     m_notifier->setEnabled(false);
     m_notifier->disconnect();
     m_notifier->deleteLater();
 }
 
 void TerminationSignals::takeNext() {
-    // One at a time, and nothing after the call: it may end this object.
+    // One signal per turn, and nothing after the call: it may destroy this object.
     const std::function<void(int)> terminated = m_terminated;
     if (const int signal = nextSignal(); signal != 0) terminated(signal);
 }

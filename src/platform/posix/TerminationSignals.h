@@ -1,4 +1,4 @@
-// The system's requests to end: logout, shutdown, Ctrl-C, a closed terminal.
+// The termination signals: logout, shutdown, Ctrl-C, closed terminal.
 #pragma once
 
 #include <QSocketNotifier>
@@ -10,14 +10,13 @@
 
 namespace vantle {
 
-/// Makes SIGTERM, SIGINT and SIGHUP reach a callback on the main thread instead of ending the
-/// process on the spot, from construction until destruction, which puts the former handlers back.
-/// A signal that was ignored before, as `nohup` arranges it, stays ignored. Child processes start
-/// with the usual handlers. One object at a time; make it on the main thread, which must run an
-/// event loop. The callback may destroy the object.
+/// Delivers SIGTERM, SIGINT and SIGHUP to a callback on the main thread, from construction until
+/// destruction, which restores the former handlers. A signal that was ignored before, as under
+/// `nohup`, stays ignored. Child processes start with default handlers. One object at a time;
+/// construct on the main thread, which must run an event loop. The callback may destroy the object.
 class TerminationSignals {
 public:
-    /// `terminated` gets the signal's number, once for each that arrives.
+    /// Calls `terminated` with the number of each signal.
     explicit TerminationSignals(std::function<void(int signal)> terminated);
     ~TerminationSignals();
     TerminationSignals(const TerminationSignals&) = delete;
@@ -29,7 +28,7 @@ private:
     static constexpr std::array kSignals{SIGTERM, SIGINT, SIGHUP};
 
     const std::function<void(int)> m_terminated;
-    QSocketNotifier* m_notifier = nullptr; ///< null when there is nothing to hear with
+    QSocketNotifier* m_notifier = nullptr; ///< null when signals cannot be received
     std::array<struct sigaction, kSignals.size()> m_former{};
 };
 

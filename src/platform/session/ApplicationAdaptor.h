@@ -8,8 +8,8 @@
 
 namespace vantle {
 
-/// The interface as freedesktop.org describes it for desktop entries. What the caller tells of its
-/// platform is not used, nor are files: there are none that the program opens.
+/// The interface org.freedesktop.Application. Ignores platform data and files: the program opens
+/// none. Main thread.
 class ApplicationAdaptor final : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")

@@ -17,11 +17,11 @@ const QString kObjectPath = QStringLiteral("/local/vantle/Vantle");
 const QString kBus = QStringLiteral("org.freedesktop.DBus");
 const QString kBusPath = QStringLiteral("/org/freedesktop/DBus");
 
-constexpr int kAnswerLimitMs = 2000; // of a running copy
+constexpr int kAnswerLimitMs = 2000; // for a running copy
 
-constexpr uint kDoNotQueue = 4;   // RequestName: a name that is taken is not waited for
-constexpr uint kPrimaryOwner = 1; // its answer: the name is ours now
-constexpr uint kAlreadyOwner = 4; // or has been
+constexpr uint kDoNotQueue = 4;   // RequestName flag: do not wait for a taken name
+constexpr uint kPrimaryOwner = 1; // reply: the name is now owned
+constexpr uint kAlreadyOwner = 4; // reply: it was owned before
 
 } // namespace
 
@@ -40,7 +40,7 @@ ApplicationService::~ApplicationService() {
 
 void ApplicationService::start() {
     if (m_state == State::Serving || m_state == State::Asking) return;
-    // The object first: who finds the name may call at once.
+    // The object before the name: clients may call as soon as the name exists.
     if (!m_session.isConnected() ||
         !m_session.registerObject(kObjectPath, this, QDBusConnection::ExportAdaptors)) {
         m_state = State::NoBus;
@@ -82,7 +82,7 @@ bool ApplicationService::showRunningCopy(const QDBusConnection& session, Schedul
         auto* const answer =
             new QDBusPendingCallWatcher(session.asyncCall(activate, kAnswerLimitMs), &loop);
         connect(answer, &QDBusPendingCallWatcher::finished, &loop, [&, answer] {
-            if (answer->isError()) return; // or nobody yet
+            if (answer->isError()) return; // or the name has no owner yet
             answered = true;
             loop.quit();
         });
@@ -96,7 +96,7 @@ bool ApplicationService::showRunningCopy(const QDBusConnection& session, Schedul
     return answered;
 }
 
-// Emitted after the answer has gone out, since what follows may take long or ask the person.
+// Deferred until the reply has been sent, since the listener may take long or ask the user.
 
 void ApplicationAdaptor::Activate(const QVariantMap&) {
     QMetaObject::invokeMethod(&m_service, &ApplicationService::activated, Qt::QueuedConnection);

@@ -1,4 +1,4 @@
-// The program's name on the session bus, and what others may ask of it there.
+// The program's bus name and its actions.
 #pragma once
 
 #include <QDBusConnection>
@@ -9,42 +9,41 @@ namespace vantle {
 
 class Scheduler;
 
-/// Serves org.freedesktop.Application, so that the desktop, a second start of the program and keys
-/// that the person binds to a command can reach the one that runs:
+/// Implements org.freedesktop.Application for the desktop, for a second start of the program, and
+/// for key bindings of the user:
 ///
 ///     gdbus call --session --dest local.vantle.Vantle --object-path /local/vantle/Vantle
 ///         --method org.freedesktop.Application.ActivateAction toggle '[]' '{}'
 ///
-/// Main thread. Callers have their answer before the signals below are emitted.
+/// Callers get their reply before the signals below are emitted. Main thread.
 class ApplicationService final : public QObject {
     Q_OBJECT
 
 public:
     enum class State {
         Stopped,
-        Asking, ///< the bus has not answered yet
+        Asking, ///< no reply yet
         Serving,
         NameTaken, ///< another copy runs
-        NoBus,     ///< no session bus: nobody can reach the program
+        NoBus,     ///< no session bus
     };
 
     explicit ApplicationService(const QDBusConnection& session);
-    /// Gives the name back.
+    /// Releases the name.
     ~ApplicationService() override;
 
-    /// Asks the bus for the name, and waits neither for its answer nor for another owner. Does
-    /// nothing while it is asked for or held.
+    /// Requests the name without waiting. Has no effect while it is requested or owned.
     void start();
 
-    /// For a copy that finds the data taken: asks the one that runs to show itself, and waits for
-    /// its answer, two seconds at the most, also for one that has no name yet because it has
-    /// just been started. Starts none. Returns whether it answered. Runs an event loop.
+    /// For a copy that finds the data locked: asks the running copy to show itself and waits for
+    /// its reply for at most two seconds, also while that copy has no name yet because it is
+    /// starting. Does not start one. Returns whether it replied. Runs an event loop.
     [[nodiscard]] static bool showRunningCopy(const QDBusConnection& session, Scheduler& scheduler);
 
     [[nodiscard]] State state() const { return m_state; }
 
 Q_SIGNALS:
-    /// Somebody wants to see the program, with files or without.
+    /// A request to show the program, with or without files.
     void activated();
     void actionActivated(const QString& name);
 

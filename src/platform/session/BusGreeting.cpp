@@ -20,7 +20,7 @@ struct SocketName {
     socklen_t length = 0;
 };
 
-/// The local socket that one alternative of an address names. Empty for any other transport.
+/// Returns the local socket of one alternative of an address; empty for another transport.
 std::optional<SocketName> socketName(const QByteArray& alternative) {
     static constexpr char kTransport[] = "unix:";
     if (!alternative.startsWith(kTransport)) return std::nullopt;
@@ -29,7 +29,8 @@ std::optional<SocketName> socketName(const QByteArray& alternative) {
         const QByteArray key = pair.left(equals);
         const bool isAbstract = key == "abstract";
         if (equals < 0 || (key != "path" && !isAbstract)) continue;
-        // An abstract name begins with a null byte and ends with its length, a path with a null.
+        // An abstract name starts with a zero byte and ends with its length; a path ends with a
+        // zero byte.
         const QByteArray value = QByteArray::fromPercentEncoding(pair.mid(equals + 1));
         const QByteArray name = isAbstract ? '\0' + value : value + '\0';
         SocketName socket;
@@ -61,7 +62,7 @@ void BusGreeting::greet(const QByteArray& address) {
     m_descriptor = socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
     if (m_descriptor < 0) return;
     const auto* name = reinterpret_cast<const sockaddr*>(&socketToTry->address);
-    // The kernel connects at once, or not at all: EAGAIN means that nobody takes calls any more.
+    // A local connect() succeeds at once or fails: EAGAIN means that the backlog is full.
     if (connect(m_descriptor, name, socketToTry->length) != 0) {
         conclude(errno == EAGAIN ? Answer::Waiting : Answer::Absent);
         return;

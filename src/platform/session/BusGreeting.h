@@ -1,38 +1,38 @@
-// The first words to a message bus, said without waiting for the answer.
+// A non-blocking check that a message bus responds.
 #pragma once
 
 #include <QByteArray>
 
 namespace vantle {
 
-/// Finds out whether a bus answers at all. The bus library can't: it connects, authenticates and
-/// asks for a name in one call that blocks, for more than a minute where a daemon is stopped, and
-/// it does so for all buses on one thread.
+/// The bus library cannot check this: connecting, authenticating and the first call are one
+/// blocking call, which takes over a minute when the daemon is stopped, for all buses on one
+/// thread.
 ///
-/// Knows the addresses of local sockets. Any thread.
+/// Supports local sockets only. Any thread.
 class BusGreeting {
 public:
-    /// Connects to the first local socket in `address`, which has the form of
-    /// $DBUS_SESSION_BUS_ADDRESS, and begins to authenticate.
+    /// Connects to the first local socket in `address` (form of $DBUS_SESSION_BUS_ADDRESS) and
+    /// starts to authenticate.
     explicit BusGreeting(const QByteArray& address);
     ~BusGreeting();
     BusGreeting(const BusGreeting&) = delete;
     BusGreeting& operator=(const BusGreeting&) = delete;
 
     enum class Answer {
-        Waiting, ///< nothing said yet
-        Answers, ///< whatever it said, somebody is there
-        Absent,  ///< no such socket, or it was closed on us
-        Unknown, ///< an address of another kind: only connecting will tell
+        Waiting, ///< no response yet
+        Answers, ///< responded, with anything
+        Absent,  ///< no such socket, or it was closed
+        Unknown, ///< another transport, which only connecting can check
     };
 
-    /// What is known by now. Blocks for nothing.
+    /// Returns the state so far. Does not block.
     [[nodiscard]] Answer answer();
 
-    /// The socket, which becomes readable with the answer; -1 unless waiting.
+    /// The socket, which becomes readable with the response; -1 unless Waiting.
     [[nodiscard]] int descriptor() const { return m_descriptor; }
 
-    /// Waits for the answer, `limitMs` at the most.
+    /// Blocks until the response, for at most `limitMs` milliseconds.
     [[nodiscard]] Answer waitForAnswer(int limitMs);
 
 private:

@@ -16,14 +16,14 @@ namespace vantle {
 
 namespace {
 
-/// The bus never gives up on an answer. Any error then says that nothing was or will be opened:
-/// there is no file manager, it could not be started, it refused, or it ended over the question.
+/// No timeout: any error then means that nothing was or will be opened, because the file manager is
+/// missing, failed to start, refused, or exited.
 constexpr int kNoLimit = std::numeric_limits<int>::max();
 
 } // namespace
 
 Result<> DesktopFileManager::moveToTrash(const QString& path) {
-    // Qt makes the trash but not the folder above it; without that one the file would land in the
+    // Qt creates the trash but not its parent folder; without that the file would land in the
     // working directory.
     QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     QFile file(path);
@@ -40,7 +40,7 @@ void DesktopFileManager::openFolder(const QString& path) {
 }
 
 void DesktopFileManager::ask(const QString& method, const QString& path, const QString& folder) {
-    // A call without a connection is one that never ends.
+    // A call without a connection never returns.
     if (!m_session.isConnected()) return startOpener(folder);
     auto call =
         QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.FileManager1"),

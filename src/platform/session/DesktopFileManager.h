@@ -1,4 +1,4 @@
-// The file manager over the session bus, and the trash of the freedesktop.org kind.
+// The file manager on the session bus, and the freedesktop.org trash.
 #pragma once
 
 #include "platform/FileManager.h"
@@ -11,9 +11,8 @@ namespace vantle {
 
 class ProcessRunner;
 
-/// Main thread. Opening returns at once and happens once: a file manager that takes long is waited
-/// for without limit. Where the bus has none, the desktop's opener for folders is started. What
-/// goes wrong shows nothing.
+/// Opening does not block and happens once; the reply has no timeout. Without a file manager on the
+/// bus it starts the desktop's opener. Failures are silent. Main thread.
 class DesktopFileManager final : public FileManager {
 public:
     /// The runner must outlive this object. A missing bus is no failure.
@@ -21,13 +20,12 @@ public:
         : m_session(std::move(session))
         , m_runner(runner) {}
 
-    /// Shows the file's folder with the file selected; an opener for folders selects nothing.
+    /// The runner must outlive this object. Works without a bus.
     void reveal(const QString& path) override;
 
-    /// Shows the content of the folder.
+    /// Shows the file selected in its folder; the opener selects nothing.
     void openFolder(const QString& path) override;
 
-    /// The trash of its disk if it is not that of the home.
     [[nodiscard]] Result<> moveToTrash(const QString& path) override;
 
 private:
@@ -36,7 +34,7 @@ private:
 
     QDBusConnection m_session;
     ProcessRunner& m_runner;
-    QObject m_answers; ///< owns those that are waited for
+    QObject m_answers; ///< owns the pending replies
 };
 
 } // namespace vantle

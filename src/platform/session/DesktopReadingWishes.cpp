@@ -7,7 +7,7 @@ namespace vantle {
 
 namespace {
 
-/// 0 no wish, 1 higher
+/// 0 normal, 1 high
 const PortalSettings::Key kContrast{QStringLiteral("org.freedesktop.appearance"),
                                     QStringLiteral("contrast")};
 /// a bool

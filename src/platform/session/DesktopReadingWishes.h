@@ -1,4 +1,4 @@
-// The desktop's wishes for more contrast and for larger text.
+// The desktop's contrast and text size settings.
 #pragma once
 
 #include "platform/ReadingWishes.h"
@@ -6,12 +6,12 @@
 
 namespace vantle {
 
-/// Told by the settings portal; without one nothing is wished for. Reading is free.
+/// Read from the settings portal; defaults without one. Reading is free. Main thread.
 class DesktopReadingWishes final : public ReadingWishes {
     Q_OBJECT
 
 public:
-    /// A missing bus is no failure.
+    /// Works without a bus.
     explicit DesktopReadingWishes(const QDBusConnection& session);
 
     [[nodiscard]] bool moreContrast() const override { return m_appearance || m_highContrast; }
@@ -21,8 +21,8 @@ private:
     void take(const PortalSettings::Key& key, const QVariant& value);
 
     PortalSettings m_portal;
-    bool m_appearance = false;   ///< by the key that all desktops share
-    bool m_highContrast = false; ///< by the switch of a desktop that has not got it
+    bool m_appearance = false;   ///< by the key shared by all desktops
+    bool m_highContrast = false; ///< by the switch of GNOME, which lacks that key
     double m_textScale = 1.0;
 };
 

@@ -1,4 +1,4 @@
-// The desktop's wish for less movement, wherever the desktop keeps it.
+// The desktop's reduced motion setting, from any of its places.
 #pragma once
 
 #include "platform/ReducedMotion.h"
@@ -9,13 +9,13 @@
 
 namespace vantle {
 
-/// The settings portal where it answers, else the settings files, else no. The value is kept up to
-/// date behind the scenes; reading it is free.
+/// The settings portal first, then the settings files, else false. Kept current; reading is free.
+/// Main thread.
 class DesktopReducedMotion final : public ReducedMotion {
     Q_OBJECT
 
 public:
-    /// The person's configuration directory, as $XDG_CONFIG_HOME. A missing bus is no failure.
+    /// `configDirectory` is the user's $XDG_CONFIG_HOME. Works without a bus.
     DesktopReducedMotion(const QDBusConnection& session, const QString& configDirectory)
         : m_portal(session)
         , m_files(configDirectory)
@@ -29,7 +29,7 @@ public:
     }
 
 private:
-    /// A change of one place may change nothing where another goes before it.
+    /// A change in one place may be overridden by another.
     void tell() {
         if (std::exchange(m_told, enabled()) != m_told) Q_EMIT changed();
     }

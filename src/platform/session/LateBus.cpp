@@ -14,8 +14,8 @@ LateBus::LateBus(const QByteArray& address)
             std::make_unique<QSocketNotifier>(m_greeting->descriptor(), QSocketNotifier::Read);
         connect(m_notifier.get(), &QSocketNotifier::activated, this, &LateBus::takeAnswer);
     }
-    // An address that can't be tried out leads over another machine or program. It is not followed:
-    // to connect would block.
+    // Other transports lead to another machine or program. They are not used: connecting would
+    // block.
 }
 
 LateBus::~LateBus() { QDBusConnection::disconnectFromBus(m_name); }
@@ -34,7 +34,7 @@ void LateBus::takeAnswer() {
     const BusGreeting::Answer answer = m_greeting->answer();
     if (answer == BusGreeting::Answer::Waiting) return;
     m_notifier->setEnabled(false);
-    // Not deleted here, within its own signal.
+    // Deferred, since this runs inside the notifier's own signal.
     QMetaObject::invokeMethod(
         this, [this] { m_notifier.reset(); }, Qt::QueuedConnection);
     if (answer == BusGreeting::Answer::Answers) open();

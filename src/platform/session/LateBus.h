@@ -1,4 +1,4 @@
-// A connection to a message bus that nobody waits for.
+// A bus connection that is made without blocking.
 #pragma once
 
 #include "platform/session/BusGreeting.h"
@@ -12,23 +12,23 @@ class QSocketNotifier;
 
 namespace vantle {
 
-/// Connects once the bus has shown that it answers, however long that takes. A bus that is not
-/// there when this is made is never connected to. Main thread.
+/// Connects once the bus responds, however long that takes. A bus that is missing at construction
+/// is never connected. Main thread.
 class LateBus final : public QObject {
     Q_OBJECT
 
 public:
-    /// An address as in $DBUS_SYSTEM_BUS_ADDRESS.
+    /// `address` has the form of $DBUS_SYSTEM_BUS_ADDRESS.
     explicit LateBus(const QByteArray& address);
     /// Closes the connection.
     ~LateBus() override;
 
-    /// Where the session's bus is, and the system's.
+    /// The addresses of the session bus and the system bus.
     [[nodiscard]] static QByteArray sessionAddress();
     [[nodiscard]] static QByteArray systemAddress();
 
 Q_SIGNALS:
-    /// The bus can be used. Emitted once, from the event loop, and never without a connection.
+    /// The bus is connected. Emitted once, from the event loop.
     void connected(const QDBusConnection& bus);
 
 private:
@@ -36,7 +36,7 @@ private:
     void open();
 
     const QByteArray m_address;
-    const QString m_name; ///< of the connection within this program
+    const QString m_name; ///< of the connection, within this process
     std::unique_ptr<BusGreeting> m_greeting;
     std::unique_ptr<QSocketNotifier> m_notifier;
 };

@@ -38,7 +38,7 @@ void LoginScreenPower::follow(const QDBusConnection& bus) {
                       const QVariantList values = signal.arguments();
                       if (!values.isEmpty()) takeSuspension(values.constFirst().toBool());
                   });
-    // From every session: which one is the user's is not known yet.
+    // From every session, since the user's session is not known yet.
     for (const auto& name : {QStringLiteral("Lock"), QStringLiteral("Unlock")})
         m_login->hear(QString(), kLoginSession, name,
                       [this](const QDBusMessage& signal) { takeLock(signal); });
@@ -66,7 +66,7 @@ void LoginScreenPower::inhibit() {
                       << QStringLiteral("Notes down the pause of the session")
                       << QStringLiteral("delay");
     m_login->ask<QDBusUnixFileDescriptor>(call, [this](const QDBusUnixFileDescriptor& lock) {
-        // One that comes while the machine is about to sleep would only hold it up.
+        // A lock that arrives during the suspension would only delay it.
         if (!m_suspending) m_inhibitor = lock;
     });
 }
@@ -136,7 +136,7 @@ void LoginScreenPower::takeProperties(const QDBusMessage& signal) {
 
 void LoginScreenPower::setLockedHint(bool locked) {
     setCause(LockHintCause, locked);
-    // A locker that keeps the hint tells the end of what the signal began.
+    // A locker that maintains the hint also ends what the signal began.
     if (!locked) setCause(LockSignalCause, false);
 }
 

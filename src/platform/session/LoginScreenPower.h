@@ -1,4 +1,4 @@
-// Suspension of the machine and lock of the session as the login manager tells them.
+// Suspension and session lock, from the login manager.
 #pragma once
 
 #include "platform/CausedScreenPower.h"
@@ -12,19 +12,19 @@
 
 namespace vantle {
 
-/// Asleep while the machine is suspended, or the user's session is locked (org.freedesktop.login1).
+/// Asleep while the machine is suspended or the user's session is locked (org.freedesktop.login1).
 ///
-/// Holds a delay inhibitor: the machine sleeps only when every listener of `slept` has returned, or
-/// after the manager's limit of some seconds. The lock is the session's LockedHint and its signals
-/// Lock and Unlock; where no locker keeps the hint, a Lock may never be followed by an end.
+/// Holds a delay inhibitor: the machine sleeps only after every listener of `slept` has returned,
+/// or after the manager's limit of some seconds. Lock state is the session's LockedHint and the
+/// signals Lock and Unlock; without a locker that sets the hint, a Lock may have no end.
 ///
-/// A bus or a manager that is missing, or never answers, never sleeps. Nothing blocks.
+/// Never asleep without a bus or a manager that responds. Does not block. Main thread.
 class LoginScreenPower final : public CausedScreenPower {
     Q_OBJECT
 
 public:
-    /// The address of the system's bus, and the user's session as in $XDG_SESSION_ID. Without a
-    /// session id it is the one that the manager shows for the user.
+    /// The system bus address, and $XDG_SESSION_ID. Without a session id it uses the session that
+    /// the manager displays for the user.
     LoginScreenPower(const QByteArray& systemBusAddress, QString sessionId);
 
 private:
@@ -43,9 +43,9 @@ private:
 
     const QString m_sessionId;
     LateBus m_late;
-    std::unique_ptr<FollowedService> m_login; ///< once the bus answers
-    QString m_sessionPath;                    ///< empty until the manager has named it
-    QDBusUnixFileDescriptor m_inhibitor;      ///< the machine waits while this is open
+    std::unique_ptr<FollowedService> m_login; ///< null until the bus responds
+    QString m_sessionPath;                    ///< empty until the manager reports it
+    QDBusUnixFileDescriptor m_inhibitor;      ///< delays suspension while open
     bool m_suspending = false;
 };
 

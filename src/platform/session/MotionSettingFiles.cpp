@@ -9,8 +9,8 @@ namespace vantle {
 
 namespace {
 
-/// The value of a key in a group of an INI file; empty when it has none. Not by QSettings, which
-/// goes by size and time stamp to tell whether a file has changed, and so misses quick changes.
+/// Returns the value of a key in a group of an INI file; empty when missing. QSettings is
+/// unsuitable: it compares size and time stamp and misses quick changes.
 QString iniValue(const QString& path, const char* group, const char* key) {
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) return {};
@@ -32,7 +32,7 @@ struct Place {
     std::optional<bool> (*reduces)(const QString& value);
 };
 
-/// A factor on all durations of the desktop; 0 is "instant".
+/// Parses a factor on the desktop's durations; 0 is "instant".
 std::optional<bool> factorIsZero(const QString& value) {
     bool isNumber = false;
     const double factor = value.toDouble(&isNumber);
@@ -40,7 +40,7 @@ std::optional<bool> factorIsZero(const QString& value) {
     return factor == 0.0;
 }
 
-/// A switch for animations.
+/// Parses a switch for animations.
 std::optional<bool> isOff(const QString& value) {
     if (value == QLatin1String("0") || value == QLatin1String("false")) return true;
     if (value == QLatin1String("1") || value == QLatin1String("true")) return false;
@@ -66,7 +66,7 @@ MotionSettingFiles::MotionSettingFiles(QString directory) : m_directory(std::mov
 }
 
 void MotionSettingFiles::readAll() {
-    watchWhatIsThere(); // before reading, so that no change falls between
+    watchWhatIsThere(); // before reading, so that no change is missed
     m_reduced.reset();
     for (const Place& place : kPlaces) {
         const QString path = m_directory + QLatin1Char('/') + QLatin1String(place.file);
@@ -76,8 +76,8 @@ void MotionSettingFiles::readAll() {
 }
 
 void MotionSettingFiles::watchWhatIsThere() {
-    // Directories for files that appear or are replaced, files for those written in place. A
-    // replaced file is dropped by the watcher, so this is done at every change.
+    // Directories, for files that appear or are replaced; files, for those rewritten in place. The
+    // watcher drops a replaced file, so this runs at every change.
     const auto watch = [this](const QString& path) {
         if (!m_watcher.directories().contains(path) && !m_watcher.files().contains(path) &&
             QFileInfo::exists(path))

@@ -1,4 +1,4 @@
-// What the settings files of desktops say about movement.
+// The reduced motion settings in the desktops' files.
 #pragma once
 
 #include <QFileSystemWatcher>
@@ -9,21 +9,20 @@
 
 namespace vantle {
 
-/// Reads the desktop's and the toolkits' files in a configuration directory, now and whenever one
-/// of them appears, changes or goes. Main thread; the files are small.
+/// Reads the small files of desktops and toolkits in a configuration directory, now and at each
+/// change. Main thread.
 class MotionSettingFiles final : public QObject {
     Q_OBJECT
 
 public:
-    /// The directory, as $XDG_CONFIG_HOME. One that is not there by now is not watched for.
+    /// `directory` is $XDG_CONFIG_HOME. A directory missing at construction is not watched.
     explicit MotionSettingFiles(QString directory);
 
-    /// Whether movement is to be reduced: the first file that says anything counts. Empty when
-    /// none does.
+    /// The setting of the first file that has one; empty when none has.
     [[nodiscard]] std::optional<bool> reduced() const { return m_reduced; }
 
 Q_SIGNALS:
-    /// The files were read again; reduced() may have changed.
+    /// The files were reread; reduced() may have changed.
     void changed();
 
 private:

@@ -1,4 +1,6 @@
-// Which files a portal's dialog offers, in the form that goes over the bus: a(sa(us)).
+// The file filter of a portal's dialog.
+//
+// D-Bus type a(sa(us)). Any thread.
 #pragma once
 
 #include <QDBusArgument>

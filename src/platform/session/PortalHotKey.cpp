@@ -34,7 +34,7 @@ PortalShortcuts shortcutsOf(const QVariant& value) { return qdbus_cast<PortalSho
 
 } // namespace
 
-/// One session of the portal, and the connection that it is bound to: with that it ends.
+/// One portal session with its connection, which ends it.
 class PortalHotKey::Link {
 public:
     explicit Link(PortalHotKey& owner) : m_owner(owner), m_bus(owner.m_address) {
@@ -46,7 +46,7 @@ private:
     using Take = std::function<void(const QVariantMap& results)>;
 
     void open(const QDBusConnection& bus) {
-        m_sender = bus.baseService().mid(1); // without its colon
+        m_sender = bus.baseService().mid(1); // without the colon
         m_sender.replace(QLatin1Char('.'), QLatin1Char('_'));
         m_portal = std::make_unique<FollowedService>(bus, kService);
         QObject::connect(m_portal.get(), &FollowedService::came, m_portal.get(),
@@ -68,8 +68,8 @@ private:
                        });
     }
 
-    /// Portals since 1.20 want to know whose desktop entry the program is. Older ones know no such
-    /// call, and the answer is empty: there is nothing to tell them apart by.
+    /// Portals from 1.20 on need the program's desktop entry id. Older ones lack the call and
+    /// return an error, which is ignored.
     void introduce() {
         const auto next = [this] { createSession(); };
         auto call = m_portal->call(kPath, kRegistry, QStringLiteral("Register"));
@@ -99,18 +99,18 @@ private:
                 {QVariant::fromValue(QDBusObjectPath(m_session)), QVariant::fromValue(wanted),
                  QString()},
                 {}, [this](const QVariantMap& results) {
-                    // The code of the response tells nothing: 2 was seen with all granted.
+                    // The response code is unreliable: 2 was seen with everything granted.
                     m_owner.takeShortcuts(shortcutsOf(results.value(QStringLiteral("shortcuts"))),
                                           Registration::NotAllowed);
                 });
     }
 
-    /// `take` gets what the portal comes to, maybe after a talk with the user.
+    /// Calls `take` with the portal's result, which may follow a dialog with the user.
     void request(const QString& method, const QVariantList& arguments, QVariantMap options,
                  Take take) {
         const QString token = newToken();
         options.insert(QStringLiteral("handle_token"), token);
-        // Listened for before the call, so that no response is missed.
+        // Subscribes before the call, so that no response is missed.
         m_portal->hear(QStringLiteral("%1/request/%2/%3").arg(kPath, m_sender, token), kRequest,
                        QStringLiteral("Response"),
                        [take = std::move(take)](const QDBusMessage& signal) {
@@ -136,8 +136,8 @@ private:
     PortalHotKey& m_owner;
     LateBus m_bus;
     std::unique_ptr<FollowedService> m_portal; ///< on the connection
-    QString m_sender;                          ///< the connection, as paths name it
-    QString m_session;                         ///< its path, once there is one
+    QString m_sender;                          ///< the connection's name in object paths
+    QString m_session;                         ///< object path, once created
 };
 
 PortalHotKey::PortalHotKey(const QDBusConnection& session, QByteArray address, const Clock& clock)

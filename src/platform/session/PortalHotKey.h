@@ -1,4 +1,4 @@
-// The shortcut, by the portal for shortcuts.
+// The shortcut through the desktop portal.
 #pragma once
 
 #include "platform/HeldKey.h"
@@ -17,18 +17,18 @@
 
 namespace vantle {
 
-/// `org.freedesktop.portal.GlobalShortcuts`. The desktop asks the user in a dialog of its own, at
-/// the first time or always, so nothing is asked before `allow(true)`; an allowance of a former run
-/// is bound at once. Which keys were taken, the desktop says; the user may change them there. What
-/// the user declines there is not allowed.
+/// `org.freedesktop.portal.GlobalShortcuts`. The desktop asks the user in its own dialog, once or
+/// each time, so nothing is requested before `allow(true)`; an allowance of an earlier run is bound
+/// at once. The desktop reports the keys, and the user may change them there. Declining there
+/// withdraws the allowance.
 ///
-/// On a connection of its own to the bus, made with the first question: the portal wants to know
-/// whose it is before anything else is asked on it. Nothing blocks. Main thread.
+/// Uses its own bus connection, made on first use: the portal must learn the program's id before
+/// any other call on it. Does not block. Main thread.
 class PortalHotKey final : public OfferedHotKey {
 public:
-    static constexpr int kNoAnswer = -1; ///< status: the portal refused, or answered nonsense
+    static constexpr int kNoAnswer = -1; ///< status: the portal refused, or replied nonsense
 
-    /// `address` of the session's bus; `clock` must outlive this.
+    /// `address` is that of the session bus; `clock` must outlive this object.
     PortalHotKey(const QDBusConnection& session, QByteArray address, const Clock& clock);
     ~PortalHotKey() override;
 
@@ -58,8 +58,8 @@ private:
     std::function<void()> m_pressed;
     std::optional<bool> m_isOffered;
     bool m_isAllowed = false;
-    std::unique_ptr<Link> m_link; ///< from the first question to `unregisterKey`
-    Outcome m_outcome;            ///< as told last
+    std::unique_ptr<Link> m_link; ///< from first use to `unregisterKey`
+    Outcome m_outcome;            ///< as reported last
 };
 
 } // namespace vantle

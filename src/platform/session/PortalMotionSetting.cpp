@@ -4,7 +4,7 @@ namespace vantle {
 
 namespace {
 
-/// 0 no wish, 1 reduce
+/// 0 default, 1 reduce
 const PortalSettings::Key kReducedMotion{QStringLiteral("org.freedesktop.appearance"),
                                          QStringLiteral("reduced-motion")};
 /// a bool

@@ -1,4 +1,4 @@
-// What the desktop's settings portal says about movement.
+// a bool
 #pragma once
 
 #include "platform/session/PortalSettings.h"
@@ -7,14 +7,14 @@
 
 namespace vantle {
 
-/// Main thread; nothing blocks, the answer comes a moment after the construction.
+/// Does not block; the reply comes shortly after construction. Main thread.
 class PortalMotionSetting final : public QObject {
     Q_OBJECT
 
 public:
     explicit PortalMotionSetting(const QDBusConnection& session);
 
-    /// Whether movement is to be reduced, as last heard. Empty while the portal has said nothing.
+    /// The last known setting; empty while the portal has reported none.
     [[nodiscard]] std::optional<bool> reduced() const {
         return m_reducedMotion ? m_reducedMotion : m_animationsOff;
     }
@@ -27,7 +27,7 @@ private:
     void take(const PortalSettings::Key& key, const QVariant& value);
 
     PortalSettings m_portal;
-    std::optional<bool> m_reducedMotion; ///< set to true at most: false there means "no wish"
+    std::optional<bool> m_reducedMotion; ///< only ever true: false there means "default"
     std::optional<bool> m_animationsOff;
 };
 

@@ -18,7 +18,7 @@ public:
     OpenRequest& operator=(const OpenRequest&) = delete;
 
 private:
-    const QPointer<PortalSaveRequest> m_request; ///< empty once it has answered
+    const QPointer<PortalSaveRequest> m_request; ///< null once it has answered
 };
 
 } // namespace

@@ -1,4 +1,4 @@
-// The save dialog of the desktop portal, which looks as the desktop's own programs do.
+// The save dialog of the desktop portal.
 #pragma once
 
 #include "platform/SaveDialog.h"
@@ -7,8 +7,8 @@
 
 namespace vantle {
 
-/// Asks the portal, and `otherwise` where there is none or it has no such dialog. The connection
-/// and `otherwise` must outlive this and the dialogs.
+/// Uses `otherwise` where the portal or its dialog is missing. The connection and `otherwise` must
+/// outlive this object and the dialogs. Main thread.
 class PortalSaveDialog final : public SaveDialog {
 public:
     PortalSaveDialog(const QDBusConnection& session, SaveDialog& otherwise);

@@ -24,32 +24,31 @@ const QString kChooserPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kChooserInterface = QStringLiteral("org.freedesktop.portal.FileChooser");
 const QString kRequestInterface = QStringLiteral("org.freedesktop.portal.Request");
 
-// The call may start the portal, and that the desktop's part of it.
+// The call may start the portal and its backend.
 constexpr int kChooserLimitMs = 5000;
 
-constexpr uint kChosen = 0; // of the responses; all others are ways of turning away
+constexpr uint kChosen = 0; // response code; all others mean that the user cancelled
 
-/// Where the portal tells of the person's choice. Known before the call, so that no answer is
-/// missed.
+/// The object that will report the choice. Known before the call, so that no response is missed.
 QString requestPath(const QDBusConnection& session, const QString& token) {
-    QString sender = session.baseService().mid(1); // without its colon
+    QString sender = session.baseService().mid(1); // without the colon
     sender.replace(QLatin1Char('.'), QLatin1Char('_'));
     return QStringLiteral("%1/request/%2/%3").arg(kChooserPath, sender, token);
 }
 
-/// The window as portals know those of the X server.
+/// The portal's identifier of an X11 window.
 QString nameOf(const QWindow* window) {
     return window ? QStringLiteral("x11:%1").arg(window->winId(), 0, 16) : QString();
 }
 
-/// The file that was chosen. Portals don't add an ending to a name that was typed without one.
+/// Returns the chosen file. Portals do not append a suffix to a name typed without one.
 std::optional<QString> chosenPath(const QVariantMap& results, const QString& ending) {
     const QStringList uris = results.value(QStringLiteral("uris")).toStringList();
     if (uris.isEmpty()) return std::nullopt;
     const QString path = QUrl(uris.first()).toLocalFile();
     if (path.isEmpty()) return std::nullopt;
     const QString whole = path + QLatin1Char('.') + ending;
-    // Nobody has agreed to lose a file of that name.
+    // The user was not asked about replacing a file of the completed name.
     return QFileInfo(path).suffix().isEmpty() && !QFileInfo::exists(whole) ? whole : path;
 }
 
@@ -101,7 +100,7 @@ void PortalSaveRequest::ask(const QString& token) {
         const QDBusPendingReply<QDBusObjectPath> reply = *answer;
         if (reply.isError())
             askOtherwise();
-        else if (reply.value().path() != m_path) // portals of long ago choose their own
+        else if (reply.value().path() != m_path) // very old portals choose their own path
             listenAt(reply.value().path());
     });
 }
@@ -124,7 +123,7 @@ void PortalSaveRequest::askOtherwise() {
 void PortalSaveRequest::finish(const std::optional<QString>& path) {
     if (!m_answer) return;
     deleteLater();
-    m_other.reset(); // which may be what is answering
+    m_other.reset(); // which may be calling this
     std::exchange(m_answer, nullptr)(path);
 }
 

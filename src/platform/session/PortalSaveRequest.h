@@ -1,4 +1,4 @@
-// One question to the portal's file chooser.
+// One request to the portal's file chooser.
 #pragma once
 
 #include "platform/SaveDialog.h"
@@ -11,7 +11,7 @@
 
 namespace vantle {
 
-/// Asks when it is made, and deletes itself once it has answered or is abandoned. Main thread.
+/// Sent on construction; deletes itself after answering or when abandoned. Main thread.
 class PortalSaveRequest final : public QObject {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ public:
     PortalSaveRequest(const QDBusConnection& session, SaveDialog& otherwise, SaveQuestion question,
                       QWindow* above, SaveDialog::Answer answer);
 
-    /// Takes the dialog away; no answer comes.
+    /// Closes the dialog without an answer.
     void abandon();
 
 private Q_SLOTS:
@@ -36,10 +36,10 @@ private:
     SaveDialog& m_otherwise;
     const SaveQuestion m_question;
     const QPointer<QWindow> m_above;
-    SaveDialog::Answer m_answer; ///< empty once nothing is waited for
-    QString m_path;              ///< of the question on the bus
+    SaveDialog::Answer m_answer; ///< empty when no answer is due
+    QString m_path;              ///< of the request object
     QDBusServiceWatcher m_portal;
-    std::unique_ptr<OpenSaveDialog> m_other; ///< where there is no portal
+    std::unique_ptr<OpenSaveDialog> m_other; ///< set where there is no portal
 };
 
 } // namespace vantle

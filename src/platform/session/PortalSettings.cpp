@@ -13,7 +13,7 @@ const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString kPortalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
 
-/// The value inside of however many variants: Read wraps it twice, a signal once.
+/// Unwraps nested variants: Read wraps the value twice, a signal once.
 QVariant unwrapped(QVariant value) {
     while (value.userType() == qMetaTypeId<QDBusVariant>())
         value = qvariant_cast<QDBusVariant>(value).variant();

@@ -1,4 +1,4 @@
-// What the desktop's settings portal says of a few keys.
+// A few keys of the desktop's settings portal.
 #pragma once
 
 #include "platform/bus/FollowedService.h"
@@ -11,9 +11,9 @@
 
 namespace vantle {
 
-/// Asks org.freedesktop.portal.Settings for its keys, follows their changes, and asks again when
-/// the portal comes or comes back. Main thread; nothing blocks, the answers come a moment after the
-/// construction. A missing bus or portal is no failure: then nothing is told.
+/// Reads keys of org.freedesktop.portal.Settings, follows changes, and reads again when the portal
+/// appears. Does not block; the first values come shortly after construction. Without a bus or
+/// portal there are no values. Main thread.
 class PortalSettings final : public QObject {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ public:
     PortalSettings(const QDBusConnection& session, QList<Key> keys);
 
 Q_SIGNALS:
-    /// One of the keys has that value, which need not be another one than before.
+    /// A key has that value, possibly unchanged.
     void told(const vantle::PortalSettings::Key& key, const QVariant& value);
 
 private:

@@ -1,4 +1,6 @@
-// A shortcut of the portal, in the form that goes over the bus: (sa{sv}).
+// A shortcut in the portal's D-Bus form, (sa{sv}).
+//
+// Any thread.
 #pragma once
 
 #include <QDBusArgument>

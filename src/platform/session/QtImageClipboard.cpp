@@ -14,7 +14,7 @@ const QString& pngFormat() {
     return format;
 }
 
-/// Under this name Qt asks for a picture that it turns into the other image formats.
+/// The format under which Qt takes an image to convert to others.
 const QString& qtImageFormat() {
     static const QString format = QStringLiteral("application/x-qt-image");
     return format;

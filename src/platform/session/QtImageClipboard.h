@@ -1,13 +1,13 @@
-// The clipboard as Qt has it.
+// The clipboard of the toolkit.
 #pragma once
 
 #include "platform/ImageClipboard.h"
 
 namespace vantle {
 
-/// Serves the picture for as long as the program runs and nobody else takes the clipboard; at the
-/// end of the program the desktop's clipboard manager, if there is one, takes it over. Keeps the
-/// bytes of the PNG and decodes them only for a program that asks for something else.
+/// Offers the picture until another program takes the clipboard; at the program's end a clipboard
+/// manager may take it over. Keeps the PNG's bytes and decodes them only for programs that ask for
+/// another format. Main thread.
 class QtImageClipboard final : public ImageClipboard {
 public:
     void copyPng(const QByteArray& png) override;

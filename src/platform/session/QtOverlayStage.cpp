@@ -14,12 +14,14 @@ namespace vantle {
 namespace {
 
 constexpr Seconds kFrame{1.0 / 60};
-/// Where a frame takes too long: every second one, on purpose, instead of one now and one then.
+/// The frame time when frames take too long: every second frame, evenly, instead of irregular
+/// drops.
 constexpr Seconds kSlowFrame{1.0 / 30};
-/// Of a frame on all screens. What is left is for the display server, which has as much to do.
+/// The processor time for a frame on all screens. The rest is for the display server, which has as
+/// much work.
 constexpr Seconds kBudget{0.014};
 
-/// Of this thread: what else the machine does would make every show a slow one.
+/// Of this thread, so that other programs' load does not slow the show.
 Seconds processorTime() {
     timespec time{};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
@@ -28,7 +30,7 @@ Seconds processorTime() {
 
 } // namespace
 
-/// The windows that are up at one time, driven by one timer.
+/// The windows of one show, driven by one timer.
 class QtOverlayStage::Show {
 public:
     explicit Show(Scheduler& scheduler) : m_scheduler(scheduler) {}
@@ -56,7 +58,7 @@ private:
     Scheduler& m_scheduler;
     std::vector<QtOverlayWindow*> m_windows;
     TimerHandle m_frames;
-    int m_late = 0; ///< frames in a row that took more than the budget
+    int m_late = 0; ///< consecutive frames over the budget
 };
 
 class QtOverlayStage::Place final : public OverlayWindow {

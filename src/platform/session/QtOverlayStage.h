@@ -1,4 +1,4 @@
-// Overlays that are windows of the toolkit, painted by the processor.
+// The overlay stage of toolkit windows, painted by the processor.
 #pragma once
 
 #include "platform/OverlayStage.h"
@@ -12,12 +12,12 @@ class PanelHost;
 class Scheduler;
 class Screens;
 
-/// Up to 60 frames a second while a show runs, 30 from the moment that two in a row take too long,
-/// and none otherwise. Without a compositor a translucent window is opaque black: there it is cut
-/// down to the solid part of its view, and to nothing where that is empty.
+/// Up to 60 frames a second during a show, 30 once two frames in a row take too long, none
+/// otherwise. Without a compositor a translucent window is opaque black, so it is masked to the
+/// solid part of its view, or hidden when that is empty. Main thread.
 class QtOverlayStage final : public OverlayStage {
 public:
-    /// All must outlive this.
+    /// All must outlive this object.
     QtOverlayStage(const Clock& clock, Scheduler& scheduler, const Screens& screens,
                    PanelHost& host);
     ~QtOverlayStage() override;
@@ -35,7 +35,7 @@ private:
     Scheduler& m_scheduler;
     const Screens& m_screens;
     PanelHost& m_host;
-    std::weak_ptr<Show> m_show; ///< what the windows have in common; ends with the last of them
+    std::weak_ptr<Show> m_show; ///< shared by the windows; ends with the last of them
 };
 
 } // namespace vantle

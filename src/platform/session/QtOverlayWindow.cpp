@@ -16,7 +16,7 @@ QtOverlayWindow::QtOverlayWindow(const QRect& frame, std::unique_ptr<OverlayView
     , m_clock(clock)
     , m_host(host) {
     wholescreen::cover(*this, frame, m_host);
-    // Left alone, the window would move to another screen when its own goes.
+    // Otherwise the window would move to another screen when its own is removed.
     connect(&screens, &Screens::changed, this, [this, &screens, frame] {
         if (!wholescreen::exists(screens, frame)) end();
     });
@@ -34,9 +34,9 @@ void QtOverlayWindow::refresh() {
     draw();
 }
 
-/// Limits the window to what can be shown. False when that is nothing.
+/// Masks the window to what can be shown. Returns false when that is nothing.
 bool QtOverlayWindow::takeShape() {
-    QRegion shape; // empty: no limits
+    QRegion shape; // empty means unmasked
     m_isSolid = !m_host.isComposited();
     if (m_isSolid) {
         shape = m_view->solidPart(size(), elapsed());
@@ -52,7 +52,7 @@ void QtOverlayWindow::draw() {
     if (isOver() || !isExposed()) return;
     if (!m_store) m_store = std::make_unique<QBackingStore>(this);
     if (m_store->size() != size()) m_store->resize(size());
-    // What is named here is blanked before; all of it is written anyway.
+    // beginPaint() clears the region it gets; the whole store is painted anyway.
     m_store->beginPaint(QRect(0, 0, 1, 1));
     QPaintDevice& device = *m_store->paintDevice();
     auto* const picture =
@@ -80,7 +80,7 @@ void QtOverlayWindow::write(QImage& frame) {
 
 void QtOverlayWindow::end() {
     m_view.reset();
-    m_store.reset(); // the memory of a whole screen
+    m_store.reset(); // frees a whole screen's memory
     destroy();
 }
 

@@ -1,4 +1,4 @@
-// One window over one screen.
+// The toolkit window of one overlay.
 #pragma once
 
 #include "platform/OverlayView.h"
@@ -14,22 +14,22 @@ class Clock;
 class PanelHost;
 class Screens;
 
-/// Shows the present moment of a view whenever refresh() is called. Its backing store is written
-/// but once a frame: a QRasterWindow would blank all of it before. Main thread.
+/// refresh() shows the view's current frame. Writes its backing store once per frame, where a
+/// QRasterWindow would clear all of it first. Main thread.
 class QtOverlayWindow final : public QWindow {
     Q_OBJECT
 
 public:
-    /// Not visible yet, over the screen with that frame. `clock`, `screens` and `host` must outlive
-    /// this.
+    /// Covers the screen with that frame, hidden at first. `clock`, `screens` and `host` must
+    /// outlive it.
     QtOverlayWindow(const QRect& frame, std::unique_ptr<OverlayView> view, const Clock& clock,
                     const Screens& screens, PanelHost& host);
     ~QtOverlayWindow() override;
 
-    /// Shows the next frame, or hides the window when its view is over.
+    /// Shows the next frame, or hides the window when its view has ended.
     void refresh();
 
-    /// The view is over, or the screen is gone: nothing shows any more.
+    /// Whether the view has ended or the screen is gone.
     [[nodiscard]] bool isOver() const { return m_view == nullptr; }
 
 protected:
@@ -42,11 +42,11 @@ private:
     [[nodiscard]] bool takeShape();
     void end();
 
-    std::unique_ptr<OverlayView> m_view; ///< null from its end on, so that its memory is free
+    std::unique_ptr<OverlayView> m_view; ///< null after its end, to free memory
     const Clock& m_clock;
     PanelHost& m_host;
     std::unique_ptr<QBackingStore> m_store;
-    bool m_isSolid = false; ///< the window has the shape of what the view calls solid
+    bool m_isSolid = false; ///< masked to the view's solid part
 };
 
 } // namespace vantle

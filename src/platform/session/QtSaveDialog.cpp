@@ -10,7 +10,7 @@ namespace vantle {
 
 namespace {
 
-/// The colours of the program's windows, so that Qt's own dialog doesn't shine among them.
+/// The colours of the program's windows, for Qt's own dialog.
 QPalette darkPalette() {
     const QColor ground(0x17, 0x17, 0x1D);
     const QColor well(0x0A, 0x0A, 0x0F);
@@ -32,7 +32,7 @@ QPalette darkPalette() {
     return palette;
 }
 
-/// The typeface of the program's windows; the desktop's own where it isn't there.
+/// The font of the program's windows, or the desktop's where it is missing.
 QFont windowFont(QFont desktops) {
     desktops.setFamilies({QStringLiteral("Inter"), desktops.family()});
     return desktops;
@@ -50,14 +50,14 @@ public:
         : m_dialog(dialog)
         , m_answered(std::move(answered)) {}
     ~OpenDialog() override {
-        // One that has answered is about to go by itself.
+        // An answered dialog deletes itself.
         if (!*m_answered) delete m_dialog;
     }
     OpenDialog(const OpenDialog&) = delete;
     OpenDialog& operator=(const OpenDialog&) = delete;
 
 private:
-    const QPointer<QFileDialog> m_dialog; ///< empty once it has gone
+    const QPointer<QFileDialog> m_dialog; ///< null once deleted
     const std::shared_ptr<const bool> m_answered;
 };
 
@@ -65,7 +65,7 @@ void placeAbove(QFileDialog& dialog, QWindow* window) {
     if (!window) return;
     dialog.setWindowModality(Qt::WindowModal);
     dialog.setWindowIcon(window->icon());
-    dialog.winId(); // gives it a window that can have another one below
+    dialog.winId(); // creates a window, which can have a transient parent
     dialog.windowHandle()->setTransientParent(window);
     QObject::connect(window, &QObject::destroyed, &dialog, [&dialog] {
         dialog.disconnect();
@@ -87,8 +87,8 @@ std::unique_ptr<OpenSaveDialog> QtSaveDialog::ask(const SaveQuestion& question, 
     dialog->setNameFilter(QStringLiteral("%1 (*.%2)").arg(question.kind, question.ending));
     dialog->setDefaultSuffix(question.ending);
     dialog->selectFile(question.suggestedName);
-    // Its completions come from the disk a moment late, and then take the Return of a quick hand
-    // for a choice among them. The desktop's own dialog has no such field.
+    // The completer's results come late from the disk and would then take a quick Return as a
+    // choice. The desktop's own dialog has no such field.
     for (QLineEdit* const field : dialog->findChildren<QLineEdit*>())
         field->setCompleter(nullptr);
     placeAbove(*dialog, above);

@@ -1,11 +1,13 @@
-// The save dialog as Qt has it: the desktop's own where the desktop offers one to Qt.
+// The toolkit's save dialog.
+//
+// Qt shows the desktop's own where the desktop provides it to Qt.
 #pragma once
 
 #include "platform/SaveDialog.h"
 
 namespace vantle {
 
-/// Where the desktop offers none, Qt's own dialog in dark colours. Needs a QApplication.
+/// Otherwise it is Qt's dialog in dark colours. Requires a QApplication. Main thread.
 class QtSaveDialog final : public SaveDialog {
 public:
     [[nodiscard]] std::unique_ptr<OpenSaveDialog> ask(const SaveQuestion& question, QWindow* above,

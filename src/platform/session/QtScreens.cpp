@@ -13,8 +13,8 @@ namespace vantle {
 
 namespace {
 
-/// What is left of the area when the strip, in the same px, is taken off. A strip may reach across
-/// a screen that lies between its bar and the edge of the desktop; that screen stays whole.
+/// Returns the area without the strip, in the same px. A strip may extend across a screen between
+/// its bar and the edge of the desktop; that screen stays whole.
 QRectF without(const QRectF& area, Qt::Edge edge, const QRectF& strip) {
     QRectF left = area;
     if (!strip.intersects(area)) return area;
@@ -28,7 +28,7 @@ QRectF without(const QRectF& area, Qt::Edge edge, const QRectF& strip) {
 
 QRectF available(const QScreen& screen, const std::vector<ReservedStrip>& strips) {
     QRectF area(screen.availableGeometry());
-    // The top left of a screen is the same number in both kinds of px.
+    // A screen's origin is equal in device and logical px.
     const QPointF origin = screen.geometry().topLeft();
     const double ratio = screen.devicePixelRatio();
     for (const ReservedStrip& strip : strips) {
@@ -58,7 +58,7 @@ QtScreens::QtScreens(ReservedStrips& strips, bool tellsPointer)
 std::vector<ScreenShape> QtScreens::all() const {
     const auto strips = m_strips.all();
     std::vector<ScreenShape> shapes;
-    for (const QScreen* screen : QGuiApplication::screens()) // the primary one comes first
+    for (const QScreen* screen : QGuiApplication::screens()) // primary screen first
         shapes.push_back(
             {.frame = QRectF(screen->geometry()), .available = available(*screen, strips)});
     return shapes;

@@ -1,4 +1,4 @@
-// The screens as Qt knows them.
+// The screens of the toolkit.
 #pragma once
 
 #include "platform/Screens.h"
@@ -9,16 +9,17 @@ namespace vantle {
 
 class ReservedStrips;
 
-/// Qt tells of no camera housing, so every screen is a plain one. After the application object.
+/// Qt reports no camera housing, so every screen is plain. Requires the application object. Main
+/// thread.
 ///
-/// What is free of a screen Qt knows from the window manager's sum, which some don't make and which
-/// says nothing where there is more than one screen. So the bars' own strips are taken off as well.
+/// Qt takes the available area from the window manager's work area, which some do not set and which
+/// is meaningless with several screens. Therefore the bars' own strips are subtracted too.
 class QtScreens final : public Screens {
     Q_OBJECT
 
 public:
-    /// `strips` must outlive this. `tellsPointer` says whether the place of the pointer is known
-    /// everywhere; else the screen in use is that of the program's active window.
+    /// `strips` must outlive this object. `tellsPointer` says whether the pointer's position is
+    /// known everywhere; otherwise the screen in use is that of the program's active window.
     explicit QtScreens(ReservedStrips& strips, bool tellsPointer = true);
 
     [[nodiscard]] std::vector<ScreenShape> all() const override;

@@ -10,13 +10,13 @@ namespace vantle {
 
 namespace {
 
-/// Names of service and interface alike; the index of each is its cause.
+/// Service and interface names; the index is the cause.
 const QStringList kScreenSavers{
     QStringLiteral("org.freedesktop.ScreenSaver"), QStringLiteral("org.gnome.ScreenSaver"),
     QStringLiteral("org.mate.ScreenSaver"), QStringLiteral("org.cinnamon.ScreenSaver"),
     QStringLiteral("org.xfce.ScreenSaver")};
 
-/// The object that answers; signals may come from others.
+/// The object to call; signals may come from others.
 QString pathOf(const QString& name) { return u'/' + QString(name).replace(u'.', u'/'); }
 
 } // namespace
@@ -34,7 +34,7 @@ void SessionScreenPower::follow(const QDBusConnection& session, unsigned cause,
         saver->ask<bool>(saver->call(pathOf(name), name, QStringLiteral("GetActive")),
                          [this, cause](bool active) { setCause(cause, active); });
     });
-    // From any path: some services signal on an older one.
+    // Any path: some services signal from an older one.
     saver->hear(QString(), name, QStringLiteral("ActiveChanged"),
                 [this, cause](const QDBusMessage& signal) {
                     const QVariantList values = signal.arguments();

@@ -1,4 +1,4 @@
-// The screen savers and lockers of desktop sessions.
+// The sleep causes of the desktop's screen savers.
 #pragma once
 
 #include "platform/CausedScreenPower.h"
@@ -8,12 +8,11 @@
 
 namespace vantle {
 
-/// Asleep while a screen saver of the session is active or locks: org.freedesktop.ScreenSaver and
-/// those of GNOME, MATE, Cinnamon and Xfce, which share its interface under names of their own.
+/// Asleep while a screen saver or locker of the session is active: org.freedesktop.ScreenSaver and
+/// those of GNOME, MATE, Cinnamon and Xfce, which share its interface under other names.
 ///
-/// A service that is not there, and a bus that is not there, never sleep. Services may come, go and
-/// come back. Nothing blocks: a screen saver that is active at the start is told by `slept` as soon
-/// as it has answered. No service is started by this.
+/// Services may be missing, come and go; a missing one is never asleep. Does not block or start
+/// services: a screen saver already active emits `slept` after its reply. Main thread.
 class SessionScreenPower final : public CausedScreenPower {
     Q_OBJECT
 

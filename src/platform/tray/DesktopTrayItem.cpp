@@ -10,8 +10,8 @@ namespace vantle {
 
 namespace {
 
-/// Some hosts give the same place for every click, some that of the item, some that of the pointer.
-/// What is farther from the pointer than an item is wide, in px, is none of the latter two.
+/// Hosts report different click positions: a constant, the item's, or the pointer's. A position
+/// farther from the pointer than an item's width, in px, is neither of the latter two.
 constexpr int kFarFromPointer = 200;
 
 } // namespace
@@ -23,7 +23,7 @@ DesktopTrayItem::DesktopTrayItem(const QDBusConnection& session, bool tellsPoint
             [this](QPoint told) { Q_EMIT clicked(placeOfClick(told)); });
     connect(&m_notifier, &StatusNotifierItem::shownChanged, this, &DesktopTrayItem::updateShown);
     connect(&m_notifier, &StatusNotifierItem::watcherChanged, this, &DesktopTrayItem::choose);
-    QCoreApplication::instance()->installEventFilter(this); // for changes of the palette
+    QCoreApplication::instance()->installEventFilter(this); // for palette changes
 }
 
 QPoint DesktopTrayItem::placeOfClick(QPoint told) const {
@@ -37,8 +37,8 @@ void DesktopTrayItem::choose() {
                         qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
     if (wanted == (m_window != nullptr)) return;
     if (wanted) {
-        // The toolkit would take a watcher that is there now, and never a window again. Where one
-        // has just come, the notifier is about to tell so.
+        // The toolkit would use a watcher that is there now, and never a window again. If one has
+        // just appeared, the notifier reports it next.
         if (!m_notifier.isSurelyWithoutWatcher()) return;
         m_window = std::make_unique<XEmbedTrayItem>(drawnImage(), m_toolTip);
         connect(m_window.get(), &XEmbedTrayItem::clicked, this, &TrayItem::clicked);
@@ -47,7 +47,7 @@ void DesktopTrayItem::choose() {
         connect(m_window.get(), &XEmbedTrayItem::placeChanged, this, &TrayItem::placeChanged);
     } else {
         m_window.reset();
-        showImage(); // in the colour for a bar that is not known
+        showImage(); // in the colour for an unknown bar
     }
     updateShown();
     Q_EMIT placeChanged();
@@ -64,7 +64,7 @@ void DesktopTrayItem::setImage(const QIcon& image, bool isTemplate) {
     m_image = image;
     m_isTemplate = isTemplate;
     showImage();
-    choose(); // the first image is what a window waits for
+    choose(); // the XEmbed window needs an image first
 }
 
 void DesktopTrayItem::showImage() {
@@ -75,7 +75,7 @@ void DesktopTrayItem::showImage() {
 
 const QIcon& DesktopTrayItem::drawnImage() {
     if (!m_isTemplate) return m_image;
-    // Hosts do not tell what colour their panel has.
+    // Hosts do not report their panel's colour.
     const std::optional<QColor> ground = m_window ? m_window->ground() : std::nullopt;
     const QColor colour = barTextColour(ground);
     const bool edged = !ground;
@@ -96,7 +96,7 @@ void DesktopTrayItem::setToolTip(const QString& text) {
 QRect DesktopTrayItem::geometry() const { return m_window ? m_window->geometry() : QRect(); }
 
 bool DesktopTrayItem::isPlacePending() const {
-    // A host of the other protocol never tells the place.
+    // A StatusNotifierItem host never reports the position.
     return m_window ? m_window->geometry().isEmpty() : m_notifier.hasWatcher() != true;
 }
 

@@ -1,4 +1,4 @@
-// The tray item, in whichever kind of tray the desktop has.
+// The tray item, in either kind of tray.
 #pragma once
 
 #include "platform/TrayItem.h"
@@ -9,20 +9,20 @@
 
 namespace vantle {
 
-/// By the StatusNotifierItem protocol while the session bus has a watcher for it, else in a tray
-/// that takes windows in. Changes over whenever the watcher comes or goes. The latter kind needs a
-/// QApplication and is left out without one.
+/// Uses StatusNotifierItem while the session bus has a watcher, else an XEmbed tray. Switches
+/// whenever the watcher comes or goes. XEmbed needs a QApplication and is left out without one.
+/// Main thread.
 class DesktopTrayItem final : public TrayItem {
     Q_OBJECT
 
 public:
-    /// `tellsPointer`: the place of the pointer is known wherever it is, so that it can be held
-    /// against what a host says.
+    /// `tellsPointer`: the pointer's position is known everywhere, to check a host's report
+    /// against.
     explicit DesktopTrayItem(const QDBusConnection& session, bool tellsPointer = true);
 
     void setImage(const QIcon& image, bool isTemplate) override;
     void setToolTip(const QString& text) override;
-    /// For hosts of the protocol; a tray of windows passes every click on.
+    /// For StatusNotifierItem hosts; an XEmbed tray passes on every click.
     void setMenu(const QList<TrayMenuEntry>& entries) override { m_notifier.setMenu(entries); }
     [[nodiscard]] bool isShown() const override { return m_shown; }
     [[nodiscard]] QRect geometry() const override;

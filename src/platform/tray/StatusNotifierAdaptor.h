@@ -1,4 +1,4 @@
-// What hosts see of a StatusNotifierItem.
+// The D-Bus interface of a StatusNotifierItem.
 #pragma once
 
 #include "platform/tray/StatusNotifierItem.h"
@@ -8,7 +8,7 @@
 
 namespace vantle {
 
-/// The interface org.kde.StatusNotifierItem. Names and types are the protocol's.
+/// org.kde.StatusNotifierItem; names and types are the protocol's. Main thread.
 class StatusNotifierAdaptor final : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierItem")
@@ -21,8 +21,8 @@ class StatusNotifierAdaptor final : public QDBusAbstractAdaptor {
     Q_PROPERTY(vantle::TrayToolTip ToolTip READ toolTip)
     Q_PROPERTY(bool ItemIsMenu READ itemIsMenu CONSTANT)
     Q_PROPERTY(QDBusObjectPath Menu READ menu)
-    // What an item of this kind never has. Hosts ask all the same, some for one after the other,
-    // and take an error for a fault.
+    // Properties that this item never has. Some hosts read them one by one and treat an error as a
+    // fault.
     Q_PROPERTY(int WindowId READ windowId CONSTANT)
     Q_PROPERTY(QString IconThemePath READ none CONSTANT)
     Q_PROPERTY(QString OverlayIconName READ none CONSTANT)
@@ -43,7 +43,7 @@ public:
     [[nodiscard]] TrayPixmaps iconPixmap() const { return m_item.m_pixmaps; }
     [[nodiscard]] TrayToolTip toolTip() const { return m_item.m_toolTip; }
     [[nodiscard]] bool itemIsMenu() const { return false; }
-    /// Without a menu the name by which hosts know that they are to call ContextMenu.
+    /// Without a menu this name tells hosts to call ContextMenu.
     [[nodiscard]] QDBusObjectPath menu() const {
         return QDBusObjectPath(m_item.m_menu.isEmpty() ? QStringLiteral("/NO_DBUSMENU")
                                                        : TrayMenu::path());
@@ -54,7 +54,7 @@ public:
 
 public Q_SLOTS:
     void Activate(int x, int y) { click(x, y); }
-    /// Of hosts that show no menu of their own.
+    /// Called by hosts that show no menu themselves.
     void ContextMenu(int x, int y) { click(x, y); }
     void SecondaryActivate(int, int) {}
     void Scroll(int, const QString&) {}
@@ -64,7 +64,7 @@ Q_SIGNALS:
     void NewToolTip();
 
 private:
-    // Told after the host has its answer, since what follows may take long.
+    // Deferred until the reply has been sent, since the listener may take long.
     void click(int x, int y) {
         QMetaObject::invokeMethod(
             &m_item, [item = &m_item, place = QPoint(x, y)] { Q_EMIT item->clicked(place); },

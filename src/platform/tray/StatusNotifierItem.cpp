@@ -17,8 +17,8 @@ const QString kItemPath = QStringLiteral("/StatusNotifierItem");
 const QString kWatcher = QStringLiteral("org.kde.StatusNotifierWatcher");
 const QString kWatcherPath = QStringLiteral("/StatusNotifierWatcher");
 
-// A breath of the dot is eight images; with the others that come and go between, all of a session
-// stay serialised, at some 25 kB each.
+// The dot's breath has eight images; with the transitions, all images of a session stay serialised,
+// 25 kB each.
 constexpr std::size_t kKeptImages = 16;
 
 constexpr int kBusLimitMs = 1000;
@@ -82,7 +82,7 @@ void StatusNotifierItem::askForHost() {
     m_watcher.ask<QDBusVariant>(
         m_watcher.get(kWatcherPath, kWatcher, QStringLiteral("IsStatusNotifierHostRegistered")),
         [this](const QDBusVariant& isThere) { setState(true, isThere.variant().toBool()); },
-        // A watcher that can't tell has taken the item; that must be enough.
+        // The watcher accepted the item but cannot report hosts; assumes one.
         [this] { setState(true, true); });
 }
 

@@ -1,4 +1,4 @@
-// A tray item by the StatusNotifierItem protocol, over D-Bus.
+// A tray item by the StatusNotifierItem protocol.
 #pragma once
 
 #include "platform/bus/FollowedService.h"
@@ -16,11 +16,10 @@ namespace vantle {
 
 class StatusNotifierAdaptor;
 
-/// The item stands at /StatusNotifierItem of the connection, so there is one a connection. It
-/// announces itself to org.kde.StatusNotifierWatcher with its first image, and whenever the watcher
-/// comes or comes back; hosts, the programs that draw trays, learn of it there and read what they
-/// need. Main thread; nothing
-/// blocks but what says so.
+/// The item is at /StatusNotifierItem of the connection, so there is one per connection. It
+/// registers with org.kde.StatusNotifierWatcher at its first image and whenever the watcher comes;
+/// hosts, the programs that draw trays, find it there and read its properties. Does not block
+/// unless stated. Main thread.
 class StatusNotifierItem final : public QObject {
     Q_OBJECT
 
@@ -28,31 +27,31 @@ public:
     explicit StatusNotifierItem(const QDBusConnection& session);
     ~StatusNotifierItem() override;
 
-    /// Cheap for images shown lately: each is turned into bytes once. Hosts get the pixels and no
-    /// name: one that does not know the name, as after an installation during its life, draws an
-    /// image of its own for it and leaves the pixels alone.
+    /// Cheap for recent images, whose bytes are cached. Hosts get pixels and no icon name: a host
+    /// that does not know the name, as after an installation while it runs, draws a fallback and
+    /// ignores the pixels.
     void setImage(const QIcon& image);
 
-    /// The first line is the title, the others are below it.
+    /// The first line is the title, the rest the text.
     void setToolTip(const QString& text);
 
-    /// What hosts show at a right click; to be set before the first image.
+    /// Sets the right-click menu; call before the first image.
     void setMenu(const QList<TrayMenuEntry>& entries) { m_menu.setEntries(entries); }
 
-    /// Whether there is a watcher. Empty until the bus has answered; false without a bus.
+    /// Whether there is a watcher. Empty until the bus replied; false without a bus.
     [[nodiscard]] std::optional<bool> hasWatcher() const { return m_hasWatcher; }
 
-    /// Asks the bus anew whether there is no watcher: one that came this moment may not have been
-    /// heard of. Waits for the bus, a second at the most; one that is silent by then has none.
+    /// Asks the bus again whether there is no watcher, since one that has just appeared may not be
+    /// known yet. Blocks for at most a second; no reply counts as none.
     [[nodiscard]] bool isSurelyWithoutWatcher() const;
 
-    /// Whether the watcher knows the item and there is a host that draws it.
+    /// Whether the watcher knows the item and a host draws it.
     [[nodiscard]] bool isShown() const { return m_announced && m_hosted; }
 
 Q_SIGNALS:
     void watcherChanged();
     void shownChanged();
-    /// A click of whichever kind opens things, where the host says that it was, or at (0, 0).
+    /// Any click; at the position that the host reports, or (0, 0).
     void clicked(QPoint place);
 
 private:
@@ -77,8 +76,8 @@ private:
     bool m_announced = false;
     bool m_hosted = false;
 
-    std::list<Serialised> m_serialised; ///< the images shown lately, the last one first
-    qint64 m_imageKey = 0;              ///< 0 until the first image
+    std::list<Serialised> m_serialised; ///< recent images, latest first
+    qint64 m_imageKey = 0;              ///< 0 before the first image
     TrayPixmaps m_pixmaps;
     TrayToolTip m_toolTip;
 };

@@ -17,16 +17,16 @@ namespace vantle {
 namespace {
 
 constexpr int kMiddleGray = 128;
-constexpr int kSeenDifference = 64; ///< of the grays of two colours that can be told apart well
+constexpr int kSeenDifference = 64; ///< gray levels by which two colours are clearly distinct
 
-/// The edge's reach in px up to images of kEdgeGrowsFrom px; wider ones have a wider one. One pixel
-/// is too little: where the shape is smoothed the edge only mixes with it.
+/// The outline's width in px for images up to kEdgeGrowsFrom px; larger images have a wider one.
+/// One pixel is too little: it only mixes with the smoothed edge.
 constexpr double kEdgeReach = 1.5;
 constexpr double kEdgeGrowsFrom = 24;
 constexpr double kEdgeOpacity = 0.9;
 
-/// Alpha from which a pixel gets an edge, and from which it gets a full one. A plate that is laid
-/// below the shape, at 0.4, gets none.
+/// The alpha from which a pixel gets an outline, and a full one. The plate below the shape, at 0.4,
+/// gets none.
 constexpr double kEdgedFrom = 0.42;
 constexpr double kFullyEdgedFrom = 0.52;
 
@@ -39,7 +39,7 @@ double edgeWeight(QRgb pixel) {
                       1.0);
 }
 
-/// How much of an edge there is at a pixel, from 0 to 1.
+/// Returns the strength of the outline at a pixel, 0 to 1.
 double edgeAt(const QImage& image, const QPoint& place, double reach) {
     const int around = static_cast<int>(std::ceil(reach));
     double most = 0;
@@ -70,7 +70,7 @@ QImage withEdge(const QImage& image, const QColor& edgeColour) {
 
 QList<QSize> sizesOf(const QIcon& image) {
     QList<QSize> sizes = image.availableSizes();
-    if (sizes.isEmpty()) // drawn on demand
+    if (sizes.isEmpty()) // an icon that draws any size
         for (const int size : kTraySizes)
             sizes.append(QSize(size, size));
     return sizes;

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kMenuId = 0;
 
-/// A single underscore would mark the next letter as a key.
+/// A single underscore would mark a mnemonic.
 QString escaped(QString text) { return text.replace(QLatin1Char('_'), QLatin1String("__")); }
 
 } // namespace
@@ -58,7 +58,7 @@ QVariantMap TrayMenu::propertiesOf(int id, const QStringList& names) const {
         properties.insert(QStringLiteral("children-display"), QStringLiteral("submenu"));
     } else {
         properties.insert(QStringLiteral("label"), escaped(m_entries[id - 1].text));
-        // The defaults, for hosts that ask for them by name.
+        // Defaults, for hosts that ask for them by name.
         properties.insert(QStringLiteral("enabled"), true);
         properties.insert(QStringLiteral("visible"), true);
     }
@@ -110,7 +110,7 @@ QList<int> TrayMenu::EventGroup(const QList<TrayMenuEvent>& events) {
 
 bool TrayMenu::AboutToShow(int id) {
     (void)answersFor(id);
-    return false; // nothing has changed that was not told
+    return false; // changes are signalled, so none are pending
 }
 
 QList<int> TrayMenu::AboutToShowGroup(const QList<int>& ids, QList<int>& unknownIds) {
@@ -121,7 +121,7 @@ QList<int> TrayMenu::AboutToShowGroup(const QList<int>& ids, QList<int>& unknown
 
 void TrayMenu::choose(int id, const QString& event) {
     if (id == kMenuId || event != QLatin1String("clicked")) return;
-    // Called after the host has its answer, since what follows may take long, or end the program.
+    // Deferred until the reply has been sent, since the action may take long or end the program.
     if (const auto& run = m_entries[id - 1].choose)
         QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
 }

@@ -1,4 +1,4 @@
-// The tray item's menu, as hosts read and work it over D-Bus.
+// The tray item's menu over D-Bus.
 #pragma once
 
 #include "platform/TrayItem.h"
@@ -11,11 +11,11 @@
 
 namespace vantle {
 
-/// The interface com.canonical.dbusmenu, as far as a menu of plain lines needs it: id 0 is the
-/// menu, the lines count from 1. Names and types of what is scriptable are the protocol's.
+/// com.canonical.dbusmenu, as far as a flat menu needs it: id 0 is the menu, entries count from 1.
+/// Names and types of scriptable members are the protocol's.
 ///
-/// Of its own, since the toolkit keeps its version to itself, and the library of the protocol can
-/// only speak on a connection of its own, where no host would look for it. Main thread.
+/// Own code, since Qt keeps its implementation private, and the protocol's library works only on
+/// its own connection, where no host would find it. Main thread.
 class TrayMenu final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.canonical.dbusmenu")
@@ -41,7 +41,7 @@ public:
 public Q_SLOTS:
     Q_SCRIPTABLE uint GetLayout(int parentId, int recursionDepth, const QStringList& propertyNames,
                                 vantle::TrayMenuNode& layout);
-    /// Of all lines where `ids` is empty.
+    /// All entries when `ids` is empty.
     Q_SCRIPTABLE QList<vantle::TrayMenuLine> GetGroupProperties(const QList<int>& ids,
                                                                 const QStringList& propertyNames);
     Q_SCRIPTABLE QDBusVariant GetProperty(int id, const QString& name);

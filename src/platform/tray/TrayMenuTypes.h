@@ -1,4 +1,6 @@
-// A menu as it goes over D-Bus to the programs that draw trays.
+// The D-Bus types of the tray menu.
+//
+// Any thread.
 #pragma once
 
 #include <QDBusVariant>
@@ -12,26 +14,26 @@ class QDBusArgument;
 
 namespace vantle {
 
-/// A line of a menu and the lines below it: (ia{sv}av). The menu itself has the id 0.
+/// An entry with its children: (ia{sv}av). The menu itself has id 0.
 struct TrayMenuNode {
     int id = 0;
     QVariantMap properties;
     QList<TrayMenuNode> children;
 };
 
-/// What a line looks like: (ia{sv}).
+/// The properties of an entry: (ia{sv}).
 struct TrayMenuLine {
     int id = 0;
     QVariantMap properties;
 };
 
-/// Properties of a line that went back to their defaults: (ias).
+/// Properties that returned to their defaults: (ias).
 struct TrayMenuDefaults {
     int id = 0;
     QStringList names;
 };
 
-/// What happened to a line: (isvu).
+/// An event on an entry: (isvu).
 struct TrayMenuEvent {
     int id = 0;
     QString type;
@@ -39,7 +41,7 @@ struct TrayMenuEvent {
     uint timestamp = 0;
 };
 
-/// Makes the types above known to D-Bus. May be called again.
+/// Registers the types above with D-Bus. Repeatable.
 void registerTrayMenuTypes();
 
 QDBusArgument& operator<<(QDBusArgument& argument, const TrayMenuNode& node);

@@ -28,7 +28,7 @@ TrayPixmap inNetworkOrder(const QImage& image) {
 TrayPixmaps trayPixmaps(const QIcon& image) {
     TrayPixmaps pixmaps;
     for (const int size : kTraySizes) {
-        // Of a size that it does not have an image gives a smaller one, which is there already.
+        // For a missing size Qt returns a smaller image, which is listed already.
         const QPixmap drawn = image.pixmap(QSize(size, size), 1.0);
         const bool known = std::ranges::any_of(pixmaps, [&](const TrayPixmap& other) {
             return other.width == drawn.width() && other.height == drawn.height();

@@ -1,4 +1,6 @@
-// An image as it goes over D-Bus to the programs that draw trays.
+// The D-Bus types of tray images.
+//
+// GUI thread.
 #pragma once
 
 #include <QByteArray>
@@ -13,10 +15,10 @@ class QDBusArgument;
 
 namespace vantle {
 
-/// The sizes that trays ask for, in pixels.
+/// The sizes that trays use, in pixels.
 inline constexpr std::array kTraySizes{16, 18, 22, 24, 32, 36, 48};
 
-/// One size of an image: rows from the top, four bytes a pixel, alpha first, not premultiplied.
+/// An image in one size: rows from the top, ARGB bytes, not premultiplied.
 struct TrayPixmap {
     int width = 0;
     int height = 0;
@@ -25,7 +27,7 @@ struct TrayPixmap {
 };
 using TrayPixmaps = QList<TrayPixmap>;
 
-/// The tool tip as it goes over D-Bus. The text may have markup, so plain text must be escaped.
+/// The tool tip. Its text may contain markup, so plain text must be escaped.
 struct TrayToolTip {
     QString iconName;
     TrayPixmaps icon;
@@ -33,10 +35,10 @@ struct TrayToolTip {
     QString text;
 };
 
-/// The image in each of the sizes that trays ask for and that it has, smallest first.
+/// Returns the image in each tray size that it has, smallest first.
 [[nodiscard]] TrayPixmaps trayPixmaps(const QIcon& image);
 
-/// Makes the types above known to D-Bus. May be called again.
+/// Registers the types above with D-Bus. Repeatable.
 void registerTrayTypes();
 
 QDBusArgument& operator<<(QDBusArgument& argument, const TrayPixmap& pixmap);

@@ -12,19 +12,19 @@ XEmbedTrayItem::XEmbedTrayItem(const QIcon& image, const QString& toolTip) {
     m_icon.setIcon(image);
     m_icon.setToolTip(toolTip);
     connect(&m_icon, &QSystemTrayIcon::activated, this, [this](auto reason) {
-        // The second click of a double click is none: it would undo what the first one did.
+        // The second click of a double click is ignored, since it would undo the first.
         if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::Context)
             Q_EMIT clicked(QCursor::pos());
     });
-    // The toolkit does not tell when a tray comes or goes; it makes, shows and hides a window for
-    // the icon, which is what can be seen of it. What the server does to that window, such as
-    // unmapping it for a moment while a tray takes it in, does not count.
+    // Qt does not report that a tray comes or goes; the window that it creates, shows and hides for
+    // the icon is the only sign. Unmapping by the server, such as while a tray embeds it, does not
+    // count.
     QCoreApplication::instance()->installEventFilter(this);
     m_icon.show();
 }
 
 XEmbedTrayItem::~XEmbedTrayItem() {
-    // The icon's window hides while this is half gone.
+    // The icon's window hides during this destructor.
     QCoreApplication::instance()->removeEventFilter(this);
 }
 
@@ -59,16 +59,17 @@ void XEmbedTrayItem::followWindow(const QEvent& event) {
     if (event.spontaneous()) return;
     m_shown = event.type() == QEvent::Show;
     m_placed = false;
-    // Later, since a window may be hidden only to be made anew for the same tray.
+    // Deferred, since Qt may hide the window only to recreate it for the same tray.
     QMetaObject::invokeMethod(this, &XEmbedTrayItem::tellIfChanged, Qt::QueuedConnection);
 }
 
 void XEmbedTrayItem::lookAtGround() {
-    // No tray says what colour it has, so the screen is asked: the image leaves the corner free.
+    // XEmbed trays do not report their colour, so it is read from the screen: the image leaves the
+    // corner free.
     const QPoint corner = geometry().topLeft();
     QScreen* screen = QGuiApplication::screenAt(corner);
     if (!m_placed || screen == nullptr) {
-        m_groundIsStale = true; // docked, and not yet at its place
+        m_groundIsStale = true; // embedded, but not yet at its place
         return;
     }
     const QPoint place = corner - screen->geometry().topLeft();

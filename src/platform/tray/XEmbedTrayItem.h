@@ -1,4 +1,4 @@
-// A tray item in the older trays, which take a window in (XEmbed).
+// A tray item as a window in an XEmbed tray.
 #pragma once
 
 #include <QColor>
@@ -11,29 +11,29 @@
 
 namespace vantle {
 
-/// Shows itself as soon as there is such a tray. Needs a QApplication. Main thread.
+/// Appears as soon as there is such a tray. Requires a QApplication. Main thread.
 ///
-/// To be made only while there is no StatusNotifierWatcher: the toolkit would take that one, once
-/// and for the life of the process, and knows no way back to a window.
+/// Construct only while there is no StatusNotifierWatcher: Qt would use that one for the life of
+/// the process.
 class XEmbedTrayItem final : public QObject {
     Q_OBJECT
 
 public:
-    /// Shown from the start, so it needs an image.
+    /// Visible from the start, so it needs an image.
     XEmbedTrayItem(const QIcon& image, const QString& toolTip);
     ~XEmbedTrayItem() override;
 
     void setImage(const QIcon& image) { m_icon.setIcon(image); }
     void setToolTip(const QString& text) { m_icon.setToolTip(text); }
 
-    /// What shownChanged() told last: a tray that dies while the item is made shows it for an
-    /// instant that nobody hears of.
+    /// The state as of the last shownChanged(); skips the instant in which a tray dies during
+    /// construction.
     [[nodiscard]] bool isShown() const { return m_toldShown; }
-    /// Where the tray has put it; empty while no tray has. A tray takes the window in first and
-    /// moves it to its place later; until then the toolkit reports the corner of the screen.
+    /// The place in the tray; empty while there is none. A tray embeds the window first and moves
+    /// it later; until then Qt reports the screen's corner.
     [[nodiscard]] QRect geometry() const { return m_placed ? m_icon.geometry() : QRect(); }
 
-    /// The colour of the tray around the image, as far as it has been seen.
+    /// The tray's colour around the image, as far as known.
     [[nodiscard]] const std::optional<QColor>& ground() const { return m_ground; }
 
 Q_SIGNALS:
@@ -41,7 +41,7 @@ Q_SIGNALS:
     /// geometry() changed.
     void placeChanged();
     void groundChanged();
-    /// A left or right click, where the pointer is.
+    /// A left or right click at the pointer's position.
     void clicked(QPoint place);
 
 protected:

@@ -14,7 +14,7 @@ namespace {
 constexpr std::uint32_t kNewestSurfaces = 4;
 constexpr std::uint32_t kNewestShell = 4;
 
-/// Older shells can't be told that they are no longer used.
+/// Older versions have no destroy request.
 void destroy(zwlr_layer_shell_v1* shell) {
     if (zwlr_layer_shell_v1_get_version(shell) >= ZWLR_LAYER_SHELL_V1_DESTROY_SINCE_VERSION)
         zwlr_layer_shell_v1_destroy(shell);

@@ -1,4 +1,4 @@
-// Overlays that are surfaces of the compositor's own, by its layer shell.
+// The overlay stage of layer shell surfaces.
 #pragma once
 
 #include "platform/OverlayStage.h"
@@ -15,21 +15,21 @@
 
 namespace vantle {
 
-/// They lie above full-screen windows of both kinds, let everything through, and have the pixels of
-/// their output at every scale. A compositor that goes away, or takes the protocol back, ends what
-/// is up. Main thread.
+/// They are above full-screen windows, native or X11, let all input through, and have their
+/// output's pixels at every scale. Losing the compositor or the protocol ends running shows. Main
+/// thread.
 class LayerOverlayStage final : public QObject, public OverlayStage {
     Q_OBJECT
 
 public:
-    /// All must outlive this. `connection` is best one for this alone: a compositor that finds
-    /// fault with a request ends it.
+    /// All must outlive this object. `connection` should be used by nothing else: the compositor
+    /// ends it after a protocol error.
     LayerOverlayStage(WaylandConnection& connection, const Clock& clock, Scheduler& scheduler);
     ~LayerOverlayStage() override;
 
     [[nodiscard]] bool isAvailable() const override;
     [[nodiscard]] std::vector<QRect> frames() const override;
-    /// What it returns must not outlive this.
+    /// The result must not outlive this object.
     [[nodiscard]] std::unique_ptr<OverlayWindow> putUp(const QRect& frame,
                                                        std::unique_ptr<OverlayView> view) override;
 
@@ -38,7 +38,7 @@ private:
 
     template <typename Proxy>
     struct Bound {
-        Proxy* proxy = nullptr; ///< null where it is not offered
+        Proxy* proxy = nullptr; ///< null where not offered
         std::uint32_t name = 0;
     };
     template <typename Proxy>
@@ -56,7 +56,7 @@ private:
     Bound<wl_shm> m_memory;
     Bound<zwlr_layer_shell_v1> m_shell;
     Bound<wp_viewporter> m_viewporter;
-    std::list<LayerOverlayWindow> m_windows; ///< until their places go
+    std::list<LayerOverlayWindow> m_windows; ///< kept until their owners are destroyed
 };
 
 } // namespace vantle

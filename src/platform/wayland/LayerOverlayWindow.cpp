@@ -12,13 +12,13 @@ namespace vantle {
 namespace {
 
 constexpr Seconds kFrame{1.0 / 60};
-/// An output of a little more than 60 Hz is not to lose every second frame.
+/// Allows for outputs slightly faster than 60 Hz, which would otherwise lose every second frame.
 constexpr Seconds kShortestFrame{1.0 / 75};
 
 constexpr std::uint32_t kAllEdges =
     ZWLR_LAYER_SURFACE_V1_ANCHOR_TOP | ZWLR_LAYER_SURFACE_V1_ANCHOR_BOTTOM |
     ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT | ZWLR_LAYER_SURFACE_V1_ANCHOR_RIGHT;
-/// Over bars too, without moving them or anything else.
+/// Covers bars without moving them.
 constexpr std::int32_t kOverBars = -1;
 constexpr std::uint32_t kNoKeyboard = 0;
 
@@ -62,7 +62,7 @@ void LayerOverlayWindow::ask() {
     wl_region_destroy(nothing);
     if (m_env.viewporter != nullptr)
         m_viewport = wp_viewporter_get_viewport(m_env.viewporter, m_surface);
-    // Without a picture, which it may have only once it is configured.
+    // Without a buffer, which is allowed only once configured.
     wl_surface_commit(m_surface);
     m_env.connection.flush();
 }
@@ -93,13 +93,13 @@ void LayerOverlayWindow::configure(std::uint32_t serial, std::uint32_t width,
         if (std::exchange(m_waitsForPicture, false)) drawWhenDue();
     });
     if (m_pictures->isEmpty()) return end();
-    // One that has been asked for comes with the old size.
+    // A pending frame callback belongs to the old size.
     if (m_frame != nullptr) wl_callback_destroy(std::exchange(m_frame, nullptr));
     m_due.reset();
     draw();
 }
 
-/// As many as the output shows of it, so that nothing is stretched after it was painted.
+/// The output's pixels for the surface, so that nothing is scaled after painting.
 QSize LayerOverlayWindow::pixelsFor(QSize size) const {
     if (m_viewport == nullptr) return size * m_output.scale;
     const double ratio = static_cast<double>(m_output.pixels.width()) / m_output.frame.width();

@@ -1,4 +1,4 @@
-// One surface over one output.
+// One layer surface on one output.
 #pragma once
 
 #include "base/Clock.h"
@@ -24,12 +24,11 @@ namespace vantle {
 
 class SharedPictures;
 
-/// Shows a view from the compositor's first word on, a frame each time that it asks for one, up to
-/// 60 a second. It ends by itself with its view, also where the compositor has fallen silent. Main
-/// thread.
+/// Shows a view from the first configure event on, one frame per frame callback, at most 60 a
+/// second. Ends with its view, also when the compositor does not respond. Main thread.
 class LayerOverlayWindow {
 public:
-    /// All of it must outlive this.
+    /// All of it must outlive the window.
     struct Environment {
         WaylandConnection& connection;
         const Clock& clock;
@@ -37,7 +36,7 @@ public:
         wl_compositor* compositor = nullptr;
         wl_shm* memory = nullptr;
         zwlr_layer_shell_v1* shell = nullptr;
-        wp_viewporter* viewporter = nullptr; ///< null where it is not offered
+        wp_viewporter* viewporter = nullptr; ///< null where not offered
     };
 
     LayerOverlayWindow(const Environment& environment, const WaylandOutputs::Shape& output,
@@ -48,7 +47,7 @@ public:
 
     [[nodiscard]] std::uint32_t output() const { return m_output.name; }
 
-    /// Takes it away, and frees its memory. Once is enough.
+    /// Removes the surface and frees its memory. Repeatable.
     void end();
 
 private:
@@ -62,16 +61,16 @@ private:
 
     const Environment m_env;
     const WaylandOutputs::Shape m_output;
-    std::unique_ptr<OverlayView> m_view; ///< null from its end on, so that its memory is free
-    wl_surface* m_surface = nullptr;     ///< null from its end on
+    std::unique_ptr<OverlayView> m_view; ///< null after its end, to free memory
+    wl_surface* m_surface = nullptr;     ///< null after its end
     zwlr_layer_surface_v1* m_layer = nullptr;
     wp_viewport* m_viewport = nullptr;
-    wl_callback* m_frame = nullptr; ///< the compositor has not asked for the next frame yet
-    QSize m_size;                   ///< as configured, in px of the output's frame
+    wl_callback* m_frame = nullptr;             ///< pending frame callback
+    QSize m_size;                               ///< as configured, in px of the output's frame
     std::unique_ptr<SharedPictures> m_pictures; ///< null until configured
-    bool m_waitsForPicture = false;             ///< it has asked, but has not given one back
+    bool m_waitsForPicture = false;             ///< a frame is due, but both buffers are in use
     Seconds m_drawnAt{};                        ///< uptime of the last frame
-    TimerHandle m_due; ///< of the next frame where the output is faster than the show
+    TimerHandle m_due; ///< delays the next frame on an output faster than the show
     TimerHandle m_end;
 };
 

@@ -15,8 +15,8 @@ namespace {
 
 constexpr qint64 kPixelBytes = 4;
 
-/// A file in memory of that length which can't get shorter: the compositor would crash reading it.
-/// -1 when there is none.
+/// Returns a memory file of that size, sealed against shrinking, which would crash the compositor;
+/// -1 on failure.
 int sealedFile(qint64 bytes) {
     const int file = memfd_create("vantle-overlay", MFD_CLOEXEC | MFD_ALLOW_SEALING);
     if (file < 0) return -1;
@@ -35,7 +35,7 @@ SharedPictures::SharedPictures(wl_shm* memory, QSize pixels, std::function<void(
     , m_released(std::move(released)) {
     const qint64 one = qint64{pixels.width()} * pixels.height() * kPixelBytes;
     const qint64 all = one * static_cast<qint64>(m_pictures.size());
-    // The protocol counts in 32 bits.
+    // The protocol's sizes have 32 bits.
     if (pixels.isEmpty() || all > std::numeric_limits<std::int32_t>::max()) return;
     const int file = sealedFile(all);
     if (file < 0) return;
@@ -48,7 +48,7 @@ SharedPictures::SharedPictures(wl_shm* memory, QSize pixels, std::function<void(
         static constexpr wl_buffer_listener kListener{.release = [](void* data, wl_buffer*) {
             auto& picture = *static_cast<Picture*>(data);
             picture.isShown = false;
-            const auto tell = picture.owner->m_released; // the owner may go meanwhile
+            const auto tell = picture.owner->m_released; // the owner may be destroyed meanwhile
             tell();
         }};
         qint64 offset = 0;

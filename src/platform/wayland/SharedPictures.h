@@ -1,4 +1,4 @@
-// Two pictures in memory that the compositor sees too.
+// Two buffers in memory shared with the compositor.
 #pragma once
 
 #include <QImage>
@@ -12,12 +12,12 @@ struct wl_shm;
 
 namespace vantle {
 
-/// One is shown while the next is painted. The compositor says when it has done with one, which may
-/// be never. Main thread; the memory is given back at the end.
+/// One is shown while the other is painted. The compositor releases a buffer when it is done with
+/// it, possibly never. The destructor frees the memory. Main thread.
 class SharedPictures {
 public:
-    /// Both of `pixels`. Empty when there is no such memory, or too large a size. `released` is
-    /// called when one is free again.
+    /// Two buffers of `pixels`; none when memory or size do not allow it. Calls `released` when one
+    /// is free again.
     SharedPictures(wl_shm* memory, QSize pixels, std::function<void()> released);
     ~SharedPictures();
     SharedPictures(const SharedPictures&) = delete;
@@ -29,12 +29,12 @@ public:
     struct Picture {
         wl_buffer* buffer = nullptr;
         uchar* bits = nullptr;
-        bool isShown = false; ///< or may be: to be set when it goes to the compositor
+        bool isShown = false; ///< set when attached; cleared on release
         SharedPictures* owner = nullptr;
     };
-    /// One to paint; null while the compositor has both.
+    /// Returns a buffer to paint; null while the compositor has both.
     [[nodiscard]] Picture* free();
-    /// Lets a painter draw into it, as long as this lives. What it held before is still there.
+    /// Returns an image on the buffer's memory and old content, valid as long as this object.
     [[nodiscard]] QImage image(const Picture& picture) const;
 
 private:

@@ -8,7 +8,7 @@ namespace vantle {
 
 namespace {
 
-/// The library reports by standard error, where the program prints nothing.
+/// libwayland logs to standard error, but the program prints nothing.
 void discard(const char* /*format*/, va_list /*arguments*/) {}
 
 } // namespace
@@ -62,7 +62,7 @@ void WaylandConnection::begin() {
     m_registry = wl_display_get_registry(m_display.get());
     wl_registry_add_listener(m_registry, &kRegistry, this);
 
-    // Its answer comes after all globals of the beginning.
+    // Its reply follows all initial globals.
     static constexpr wl_callback_listener kSync{
         .done = [](void* data, wl_callback* callback, std::uint32_t) {
             wl_callback_destroy(callback);
@@ -87,7 +87,7 @@ void WaylandConnection::read() {
 void WaylandConnection::flush() {
     if (!isAlive()) return;
     const bool isFull = wl_display_flush(m_display.get()) < 0;
-    // A compositor that has gone is read to its end first: it may have said why.
+    // Reads a lost connection to its end first: it may hold the compositor's error.
     m_writable->setEnabled(isFull && errno == EAGAIN);
 }
 

@@ -1,4 +1,4 @@
-// The program's own connection to the Wayland compositor, beside its X11 windows.
+// The program's own connection to the Wayland compositor.
 #pragma once
 
 #include <QByteArray>
@@ -16,52 +16,52 @@ struct wl_registry;
 
 namespace vantle {
 
-/// Something that the compositor offers.
+/// An interface that the compositor offers.
 struct WaylandGlobal {
-    std::uint32_t name = 0; ///< number by which it is bound
+    std::uint32_t name = 0; ///< the number for binding
     QByteArray interface;
     std::uint32_t version = 0;
 };
 
-/// Reads from the socket as the event loop finds it readable and never waits: what is offered is
-/// known some milliseconds after the start. Without a compositor there is nothing, and no failure.
-/// Main thread. Whatever is bound must be destroyed before this.
+/// Reads from the event loop and never blocks: the globals are known some milliseconds after the
+/// start. Without a compositor it is not alive, which is no failure. Bound objects must be
+/// destroyed before it. Main thread.
 class WaylandConnection final : public QObject {
     Q_OBJECT
 
 public:
-    /// To the compositor that the environment names.
+    /// Connects to the compositor that the environment names.
     WaylandConnection();
-    /// Over a socket that is connected already, and belongs to this from now on.
+    /// Uses a connected socket and takes ownership.
     explicit WaylandConnection(int socket);
     ~WaylandConnection() override;
 
-    /// False without a compositor, and once it is gone.
+    /// False without a compositor and after it is lost.
     [[nodiscard]] bool isAlive() const;
 
-    /// Whether all that it offers at first is known.
+    /// Whether the initial globals are known.
     [[nodiscard]] bool isReady() const { return m_isReady && isAlive(); }
 
     [[nodiscard]] const std::vector<WaylandGlobal>& globals() const { return m_globals; }
-    /// The first of that interface.
+    /// Returns the first global of that interface; empty when there is none.
     [[nodiscard]] std::optional<WaylandGlobal> global(const char* interface) const;
 
-    /// The proxy of a global, in the version that both sides know. To be called while alive; the
-    /// caller destroys it.
+    /// Binds a global in the highest common version. Requires isAlive(); the caller destroys the
+    /// proxy.
     template <typename Proxy>
     [[nodiscard]] Proxy* bind(const WaylandGlobal& global, const wl_interface& interface,
                               std::uint32_t newest) {
         return static_cast<Proxy*>(bindProxy(global, interface, newest));
     }
 
-    /// Sends what was asked for since. What the socket does not take now follows later.
+    /// Sends queued requests; what the socket does not take follows later.
     void flush();
 
 Q_SIGNALS:
     void ready();
-    void added(const vantle::WaylandGlobal& global); ///< from `ready` on
+    void added(const vantle::WaylandGlobal& global); ///< after `ready` only
     void removed(std::uint32_t name);
-    /// The compositor went away, or found a mistake in a request. Once.
+    /// The connection was lost, or ended by a protocol error. Emitted once.
     void broken();
 
 private:
@@ -79,7 +79,7 @@ private:
     wl_registry* m_registry = nullptr;
     std::vector<WaylandGlobal> m_globals;
     std::unique_ptr<QSocketNotifier> m_readable;
-    std::unique_ptr<QSocketNotifier> m_writable; ///< on while the socket is full
+    std::unique_ptr<QSocketNotifier> m_writable; ///< enabled while the socket is full
     bool m_isReady = false;
     bool m_isBroken = false;
 };

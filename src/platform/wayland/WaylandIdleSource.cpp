@@ -11,11 +11,11 @@ namespace {
 
 constexpr std::uint32_t kTimeoutMs =
     static_cast<std::uint32_t>(IdleEvents::shortWhile.count() * 1000);
-constexpr std::uint32_t kInputVersion = 2; ///< of the notifier, from which input is told
+constexpr std::uint32_t kInputVersion = 2; ///< the notifier version that reports input
 
 } // namespace
 
-/// One wish to be told, in either protocol.
+/// One idle notification, in either protocol.
 class WaylandIdleSource::Notification {
 public:
     Notification(const Clock& clock, ext_idle_notification_v1* proxy)
@@ -147,14 +147,14 @@ std::optional<double> WaylandIdleSource::secondsSinceLastInput() {
         return events.secondsSinceLastInput();
     }
     if (m_clock.uptime().awake - m_probeMadeAt < probeCounts) {
-        // Idle by its first word, or by the probe before this one.
+        // Idle by its first event, or by the probe before this one.
         return events.secondsSinceLastInput();
     }
     if (m_probe->events.isIdle()) {
         probe();
         return events.secondsSinceLastInput();
     }
-    // The old base would claim, once the inhibitor ends, that there was no input since before it.
+    // After the inhibitor the old base would report no input since before it.
     m_base = std::move(m_probe);
     follow(*m_base);
     m_isInhibited = true;

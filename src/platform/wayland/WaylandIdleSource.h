@@ -1,4 +1,4 @@
-// The time without input, from a Wayland compositor.
+// The idle time from a Wayland compositor.
 #pragma once
 
 #include "platform/IdleEvents.h"
@@ -14,25 +14,25 @@ struct wl_seat;
 
 namespace vantle {
 
-/// By `ext_idle_notifier_v1`, or the older `org_kde_kwin_idle`. Neither has a counter: the
-/// compositor tells when there was no input for a second, and the first input after it.
+/// `ext_idle_notifier_v1`, or the older `org_kde_kwin_idle`. Neither has a counter: the compositor
+/// reports a second without input, and the first input after it.
 ///
-/// A film, a call or a presentation holds the session awake (an idle inhibitor). From version 2 of
-/// the notifier on, input is told all the same. Before, compositors differ: some tell nothing more
-/// until the inhibitor ends, and in others a notification that was idle when it began stays idle
-/// while the user types. So a second notification, the probe, is made at each reading: one
-/// that does not become idle beside an idle one shows an inhibitor. Then readings are empty, until
-/// there was a second without input after its end.
+/// A video, a call or a presentation may hold an idle inhibitor. From version 2 of the notifier on,
+/// input is reported regardless. In older ones some compositors report nothing until the inhibitor
+/// ends, and in others a notification that was idle at its start stays idle while the user types.
+/// Therefore each reading creates a second notification, the probe: a probe that does not become
+/// idle beside an idle base reveals an inhibitor. Readings are then empty until a second without
+/// input after its end. Main thread.
 class WaylandIdleSource final : public IdleSource {
     Q_OBJECT
 
 public:
-    /// Without one second's pause in this long, an inhibitor is taken to hold. Users pause.
+    /// The longest time without a pause of one second; after it an inhibitor is assumed.
     static constexpr Seconds longestActivity{60.0};
-    /// How old a probe must be to count: it becomes idle after a second.
+    /// The age from which a probe counts: it becomes idle after one second.
     static constexpr Seconds probeCounts{1.5};
 
-    /// Both must outlive this.
+    /// Both must outlive this object.
     WaylandIdleSource(WaylandConnection& connection, const Clock& clock);
     ~WaylandIdleSource() override;
 
@@ -57,10 +57,10 @@ private:
     org_kde_kwin_idle* m_kde = nullptr;
     wl_seat* m_seat = nullptr;
     std::uint32_t m_seatName = 0, m_notifierName = 0;
-    bool m_tellsInput = false; ///< whatever inhibits
+    bool m_tellsInput = false; ///< despite inhibitors
     NotificationHandle m_base, m_probe;
     Seconds m_probeMadeAt{};
-    bool m_isInhibited = false; ///< until the base is idle next
+    bool m_isInhibited = false; ///< until the base is next idle
 };
 
 } // namespace vantle

@@ -25,7 +25,7 @@ public:
                 [](void* data, zwlr_output_power_v1*, std::uint32_t mode) {
                     of(data).take(mode == ZWLR_OUTPUT_POWER_V1_MODE_OFF);
                 },
-            // Another program controls it, or it has no such mode.
+            // Another program controls the output, or it has no power modes.
             .failed = [](void* data, zwlr_output_power_v1*) { of(data).take(std::nullopt); }};
         zwlr_output_power_v1_add_listener(m_power, &kListener, this);
     }

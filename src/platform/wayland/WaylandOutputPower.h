@@ -1,4 +1,4 @@
-// Screens that a Wayland compositor has switched off.
+// The sleep of screens that a Wayland compositor switched off.
 #pragma once
 
 #include "platform/CausedScreenPower.h"
@@ -11,12 +11,12 @@ struct zwlr_output_power_manager_v1;
 
 namespace vantle {
 
-/// By `zwlr_output_power_manager_v1`: asleep while every output that tells is off.
+/// `zwlr_output_power_manager_v1`: asleep while every reporting output is off. Main thread.
 class WaylandOutputPower final : public CausedScreenPower {
     Q_OBJECT
 
 public:
-    /// `connection` must outlive this.
+    /// `connection` must outlive this object.
     explicit WaylandOutputPower(WaylandConnection& connection);
     ~WaylandOutputPower() override;
 
@@ -33,7 +33,7 @@ private:
     WaylandConnection& m_connection;
     zwlr_output_power_manager_v1* m_manager = nullptr;
     std::uint32_t m_managerName = 0;
-    std::map<std::uint32_t, std::unique_ptr<Output>> m_outputs; ///< by the names of their globals
+    std::map<std::uint32_t, std::unique_ptr<Output>> m_outputs; ///< by global name
 };
 
 } // namespace vantle

@@ -9,7 +9,7 @@ namespace vantle {
 
 namespace {
 
-/// A quarter turn, in both kinds of transforms, the mirrored ones included.
+/// Whether the transform includes a quarter turn, mirrored or not.
 bool isTurned(std::int32_t transform) { return transform % 2 != 0; }
 
 } // namespace
@@ -63,7 +63,7 @@ public:
 
     [[nodiscard]] Shape shape() const {
         const QSize pixels = m_isTurned ? m_mode.transposed() : m_mode;
-        // Right for whole scales, the only ones that there are without the other protocol.
+        // Exact for whole scales, which are the only ones without xdg-output.
         const QRect frame =
             m_logicalFrame.isEmpty() ? QRect(m_place, pixels / m_scale) : m_logicalFrame;
         return {
@@ -117,7 +117,7 @@ void WaylandOutputs::choose() {
 }
 
 void WaylandOutputs::follow(const WaylandGlobal& global) {
-    // From version 2 on the scale is told.
+    // Version 2 adds the scale.
     auto* const proxy = m_connection.bind<wl_output>(global, wl_output_interface, 2);
     auto output = std::make_unique<Output>(global.name, proxy);
     if (m_manager != nullptr) output->askForLogicalFrame(m_manager);

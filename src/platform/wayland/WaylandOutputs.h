@@ -1,4 +1,4 @@
-// The compositor's outputs: where each stands and of how many pixels it is.
+// The compositor's outputs: frames and pixel sizes.
 #pragma once
 
 #include "platform/wayland/WaylandConnection.h"
@@ -17,8 +17,8 @@ struct zxdg_output_manager_v1;
 
 namespace vantle {
 
-/// Frames are in the compositor's own px, by which it places windows; at a scale of 1.5, an output
-/// of 1920x1200 pixels is 1280x800 of them. Main thread.
+/// Frames are in the compositor's logical px; at scale 1.5, an output of 1920x1200 pixels has a
+/// frame of 1280x800. Main thread.
 class WaylandOutputs final : public QObject {
     Q_OBJECT
 
@@ -30,14 +30,14 @@ public:
         std::uint32_t name = 0;      ///< of its global
         wl_output* output = nullptr; ///< until removed()
         QRect frame;
-        QSize pixels;  ///< as the output is turned
-        int scale = 1; ///< the next whole number, where the true one is none
+        QSize pixels;  ///< after rotation
+        int scale = 1; ///< rounded up
     };
-    /// Those whose frame is known.
+    /// Returns the outputs whose frame is known.
     [[nodiscard]] std::vector<Shape> all() const;
 
 Q_SIGNALS:
-    /// The output of that name goes, and its proxy after this.
+    /// The output is removed; its proxy is destroyed after this signal.
     void removed(std::uint32_t name);
 
 private:
@@ -50,8 +50,8 @@ private:
     void release();
 
     WaylandConnection& m_connection;
-    zxdg_output_manager_v1* m_manager = nullptr;                ///< null where it is not offered
-    std::map<std::uint32_t, std::unique_ptr<Output>> m_outputs; ///< by the numbers of their globals
+    zxdg_output_manager_v1* m_manager = nullptr;                ///< null where not offered
+    std::map<std::uint32_t, std::unique_ptr<Output>> m_outputs; ///< by global name
 };
 
 } // namespace vantle

@@ -22,7 +22,7 @@ bool isActivated(const wl_array* states) {
 
 } // namespace
 
-/// A window. What is told of it counts from `done` on.
+/// A window. Its properties count from the next `done` on.
 class WaylandToplevels::Toplevel {
 public:
     Toplevel(WaylandToplevels& owner, zwlr_foreign_toplevel_handle_v1* handle)
@@ -59,7 +59,7 @@ private:
     void takeOver() {
         const bool comesToTheFront = m_next.isActivated && !m_state.isActivated;
         m_state = m_next;
-        // The one before is told as deactivated only after this one.
+        // The previous window is reported as deactivated only after this.
         if (comesToTheFront) {
             auto& all = m_owner.m_toplevels;
             const auto self = std::ranges::find_if(
@@ -136,7 +136,7 @@ void WaylandToplevels::refresh() {
         m_toplevels, [](const auto& toplevel) { return toplevel->state().isActivated; });
     if (active == m_toplevels.end()) return reportNone();
     const QString& id = (*active)->state().id;
-    // Of a window of X11 it is the class.
+    // For an X11 window this is the class.
     report({.applicationId = id, .windowClass = id, .instance = {}, .processId = {}});
 }
 

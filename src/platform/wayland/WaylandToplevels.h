@@ -1,4 +1,4 @@
-// The application in front, from a Wayland compositor that tells its windows.
+// The application in front, from a Wayland compositor.
 #pragma once
 
 #include "platform/ReportedFrontmostApp.h"
@@ -12,13 +12,13 @@ struct zwlr_foreign_toplevel_handle_v1;
 
 namespace vantle {
 
-/// By `zwlr_foreign_toplevel_manager_v1`: native windows and those of X11 alike. No panel of ours
-/// is in that list.
+/// `zwlr_foreign_toplevel_manager_v1`: native and X11 windows, but not the program's panels. Main
+/// thread.
 class WaylandToplevels final : public ReportedFrontmostApp {
     Q_OBJECT
 
 public:
-    /// `connection` must outlive this.
+    /// `connection` must outlive this object.
     WaylandToplevels(WaylandConnection& connection, Reading reading);
     ~WaylandToplevels() override;
 
@@ -35,7 +35,7 @@ private:
     WaylandConnection& m_connection;
     zwlr_foreign_toplevel_manager_v1* m_manager = nullptr;
     std::uint32_t m_managerName = 0;
-    std::list<std::unique_ptr<Toplevel>> m_toplevels; ///< the one activated last in front
+    std::list<std::unique_ptr<Toplevel>> m_toplevels; ///< most recently activated first
 };
 
 } // namespace vantle

@@ -1,16 +1,16 @@
-// Tells the press of a key from the repetitions that a held key makes.
+// The filter of key repeats from an X server.
 #pragma once
 
 #include <cstdint>
 
 namespace vantle {
 
-/// An X server tells a held key as releases each followed at once by a press, about 25 times a
-/// second. Fed with the presses and releases of one combination in their order; times in the
-/// server's milliseconds, which wrap around.
+/// An X server reports a held key as releases that are each followed at once by a press, about 25
+/// times a second. Requires the events of one combination in order; times in the server's
+/// milliseconds, which wrap around. Any thread, one at a time.
 class KeyRepeatFilter {
 public:
-    /// Whether this press is a new one.
+    /// Returns whether this press is a new one.
     [[nodiscard]] bool pressed(std::uint8_t code, std::uint32_t time) {
         const bool repeats = m_down || (m_everReleased && code == m_code &&
                                         time - m_releaseTime <= kPairMilliseconds);
@@ -26,12 +26,12 @@ public:
     }
 
 private:
-    /// Release and press of a repetition carry the same time, or differ by the tick between them.
+    /// Release and press of a repetition differ by at most one tick.
     static constexpr std::uint32_t kPairMilliseconds = 1;
 
     bool m_down = false;
     bool m_everReleased = false;
-    std::uint8_t m_code = 0; ///< released last
+    std::uint8_t m_code = 0; ///< of the last release
     std::uint32_t m_releaseTime = 0;
 };
 

@@ -1,12 +1,11 @@
-// What Xlib does when the X server goes away.
+// The silent end of the program when the X server is lost.
 #pragma once
 
 namespace vantle {
 
-/// Qt draws cursors and opens its connection by Xlib, which answers a lost server by a line on the
-/// standard error output and exit(1). From here on it ends without the line: the program prints
-/// nothing. Call it after the application object is made, which sets a handler of its own. Main
-/// thread.
+/// Qt uses Xlib for cursors and for its connection, and Xlib answers a lost server with a line on
+/// standard error and exit(1). This suppresses the line. Call after constructing the application
+/// object, which sets its own handler. Main thread.
 void endSilentlyWithServer();
 
 } // namespace vantle

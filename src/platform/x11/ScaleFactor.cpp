@@ -16,7 +16,7 @@ namespace {
 constexpr double kTenth = 0.1;
 constexpr double kMmPerInch = 25.4;
 
-/// Longest list of resources read, in units of four bytes.
+/// Longest resource property read, in 32-bit units.
 constexpr std::uint32_t kMostResources = 65536;
 
 std::optional<double> dpiAmong(const QByteArray& resources) {
@@ -32,7 +32,7 @@ std::optional<double> dpiAmong(const QByteArray& resources) {
 
 double dpiOf(const xcb_screen_t& screen) {
     if (screen.width_in_millimeters == 0) return kUnscaled;
-    // No less than unscaled: televisions are large and looked at from afar.
+    // At least unscaled: televisions are large and watched from afar.
     return std::max(kUnscaled, screen.width_in_pixels * kMmPerInch / screen.width_in_millimeters);
 }
 
@@ -53,7 +53,7 @@ double desktopDpi() {
         auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
         for (; screens.rem > 1 && number > 0; --number)
             xcb_screen_next(&screens);
-        // Resources are the first screen's, whichever is used.
+        // Resources belong to the first screen, whichever is used.
         const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
         const XcbOwned<xcb_get_property_reply_t> answer(
             xcb_get_property_reply(connection,

@@ -1,22 +1,24 @@
-// How large the desktop wants everything drawn.
+// The desktop's scale factor, rounded where it is nearly whole.
+//
+// Any thread.
 #pragma once
 
 #include <optional>
 
 namespace vantle::scalefactor {
 
-/// The dots per inch that stand for a factor of 1.
+/// Dots per inch at a factor of 1.
 inline constexpr double kUnscaled = 96.0;
 
-/// The dots per inch of the next whole factor, where that of `dpi` is within a tenth of it; empty
-/// for all others, which are as they are meant. Pure.
+/// Returns the dots per inch of the next whole factor if that of `dpi` is within a tenth of it;
+/// empty otherwise. Pure.
 ///
-/// Desktops that take the size of the monitor for the size of text come out at 99 or 100. Drawn by
-/// 1.03 every edge would lie between two pixels, for a text that is half a pixel higher.
+/// Desktops that compute it from the monitor's size arrive at 99 or 100. A factor of 1.03 would put
+/// every edge between two pixels, for text half a pixel taller.
 [[nodiscard]] std::optional<int> settledDpi(double dpi);
 
-/// The dots per inch that Qt finds on $DISPLAY: `Xft.dpi` of the server's resources, else by the
-/// size of the screen. Unscaled where there is no server. Needs no application object.
+/// Returns the dots per inch that Qt finds on $DISPLAY: `Xft.dpi` from the server's resources, else
+/// from the screen's size; kUnscaled without a server. Works without an application object.
 [[nodiscard]] double desktopDpi();
 
 } // namespace vantle::scalefactor

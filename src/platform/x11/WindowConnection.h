@@ -1,12 +1,12 @@
-// The connection to the X server over which Qt makes its windows.
+// Qt's own connection to the X server.
 #pragma once
 
 #include <xcb/xcb.h>
 
 namespace vantle {
 
-/// For requests about Qt's windows, which stay in order with Qt's own there. Null where those are
-/// not X11 windows, and once the server is gone. Main thread.
+/// For requests about Qt's windows, which stay in order with Qt's requests. Null when Qt does not
+/// use X11, and once the server is lost. Main thread.
 [[nodiscard]] xcb_connection_t* windowConnection();
 
 } // namespace vantle

@@ -9,7 +9,7 @@ namespace vantle {
 
 namespace {
 
-/// The bit that the server sets in the type of events that another client sent.
+/// Set in the type of events that another client sent.
 constexpr std::uint8_t kSentEvent = 0x80;
 
 xcb_window_t rootOfScreen(const xcb_setup_t* setup, int number) {
@@ -42,7 +42,7 @@ X11Connection::X11Connection(const QByteArray& display)
 }
 
 X11Connection::~X11Connection() {
-    m_notifier.reset(); // before its descriptor closes
+    m_notifier.reset(); // before its descriptor is closed
     xcb_disconnect(m_xcb);
 }
 
@@ -50,13 +50,13 @@ int X11Connection::failure() const { return xcb_connection_has_error(m_xcb); }
 
 const xcb_query_extension_reply_t* X11Connection::extension(xcb_extension_t& id) {
     if (!m_alive) return nullptr;
-    const auto* data = xcb_get_extension_data(m_xcb, &id); // waits the first time
+    const auto* data = xcb_get_extension_data(m_xcb, &id); // blocks the first time
     drain();
     return data != nullptr && data->present != 0 ? data : nullptr;
 }
 
 void X11Connection::followRootProperties() {
-    // Others select events of that window as well, and each request replaces all before it.
+    // Others select events on the root window too, and each request replaces the mask.
     const auto root =
         reply<xcb_get_window_attributes_reply>(xcb_get_window_attributes(m_xcb, m_root));
     const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE | (root ? root->your_event_mask : 0U);
@@ -91,11 +91,11 @@ void X11Connection::collect() {
         m_events.emplace_back(event);
     if (xcb_connection_has_error(m_xcb) == 0) return;
     m_alive = false;
-    m_notifier->setEnabled(false); // else it reports the closed socket over and over
+    m_notifier->setEnabled(false); // otherwise it reports the closed socket repeatedly
 }
 
 void X11Connection::dispatchAll() {
-    if (m_dispatching) return; // a handler runs an event loop; the loop below goes on after it
+    if (m_dispatching) return; // nested event loop in a handler; the loop below continues after it
     m_dispatching = true;
     while (!m_events.empty()) {
         const auto event = std::move(m_events.front());
@@ -115,8 +115,9 @@ void X11Connection::dispatch(const xcb_generic_event_t& event) {
         if (subscriber.type == type) ids.push_back(id);
     for (const std::uint64_t id : ids) {
         const auto found = m_subscribers->find(id);
-        if (found == m_subscribers->end()) continue; // ended by a handler before it
-        const Handler call = found->second.handler;  // a copy, since it may end itself
+        if (found == m_subscribers->end()) continue; // ended by an earlier handler
+        // A copy, since the handler may end its own subscription.
+        const Handler call = found->second.handler;
         call(event);
     }
 }

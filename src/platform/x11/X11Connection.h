@@ -1,7 +1,7 @@
-// A connection to the X server for what is not drawing: idle time, hot key, display power.
+// The program's own connection to the X server.
 //
-// It is the program's own, beside the one of the windows, so that event masks and grabs meet no
-// others and that all of it runs without a window. Main thread throughout.
+// For idle time, hot key, display power and so on. Separate from the toolkit's, so that event masks
+// and grabs do not collide and no window is needed. Main thread.
 #pragma once
 
 #include <QByteArray>
@@ -28,39 +28,39 @@ namespace vantle {
 struct FreeXcb {
     void operator()(void* memory) const { std::free(memory); }
 };
-/// Memory that xcb handed over.
+/// Memory allocated by xcb.
 template <typename T>
 using XcbOwned = std::unique_ptr<T, FreeXcb>;
 
-/// The numbers of a property of numbers; none for one of another kind, or that is not there. They
-/// live as long as the answer.
+/// Returns the values of a 32-bit property, valid as long as the reply; empty for another format or
+/// a missing property.
 [[nodiscard]] std::span<const std::uint32_t> numbersOf(const xcb_get_property_reply_t* property);
 
-/// No server, or one that goes away, is an answer: isAlive() is false then, and every request is
-/// answered with nothing. Requests block for one round trip where they have an answer.
+/// A missing or lost server is no failure: isAlive() is false then, and replies are empty. Requests
+/// with a reply block for one round trip.
 class X11Connection final : public QObject {
     Q_OBJECT
 
 public:
-    /// Connects to the server of that name, as in ":1"; empty stands for $DISPLAY.
+    /// Connects to the server of that name, such as ":1"; empty means $DISPLAY.
     explicit X11Connection(const QByteArray& display = {});
     ~X11Connection() override;
 
     [[nodiscard]] bool isAlive() const { return m_alive; }
-    /// xcb's number for why the connection does not work; 0 while it does.
+    /// Returns xcb's connection error; 0 while connected.
     [[nodiscard]] int failure() const;
 
-    /// For making requests. Never null; requests on a dead connection do nothing.
+    /// For requests. Never null; requests on a lost connection have no effect.
     [[nodiscard]] xcb_connection_t* xcb() const { return m_xcb; }
-    /// The root window of the screen that the display name chose; 0 without a server.
+    /// The root window of the display name's screen; 0 without a server.
     [[nodiscard]] xcb_window_t root() const { return m_root; }
     /// The number of that screen.
     [[nodiscard]] int screen() const { return m_screen; }
-    /// What the server says about an extension. Null when it lacks the extension.
+    /// Returns the extension's data; null when the server lacks it.
     [[nodiscard]] const xcb_query_extension_reply_t* extension(xcb_extension_t& id);
 
-    /// The atoms of the names, in their order and in one round trip; XCB_ATOM_NONE for those that
-    /// the server does not answer.
+    /// Returns the atoms of the names in one round trip; XCB_ATOM_NONE where the server does not
+    /// reply.
     template <std::size_t Count>
     [[nodiscard]] std::array<xcb_atom_t, Count> atoms(const std::array<const char*, Count>& names) {
         std::array<xcb_intern_atom_cookie_t, Count> cookies{};
@@ -74,12 +74,12 @@ public:
         return atoms;
     }
 
-    /// Has the server tell of changes of the root window's properties, as XCB_PROPERTY_NOTIFY,
-    /// beside what is selected of that window already.
+    /// Selects property changes of the root window (XCB_PROPERTY_NOTIFY), in addition to what is
+    /// selected already.
     void followRootProperties();
 
-    /// Waits for the answer to a request: `reply<xcb_dpms_info_reply>(xcb_dpms_info(xcb()))`. Null
-    /// when the server refused or is gone.
+    /// Waits for the reply to a request: `reply<xcb_dpms_info_reply>(xcb_dpms_info(xcb()))`. Null
+    /// on an error or a lost connection.
     template <auto Wait, typename Cookie>
     [[nodiscard]] auto reply(Cookie cookie) {
         auto* answer = Wait(m_xcb, cookie, nullptr);
@@ -87,28 +87,27 @@ public:
         return XcbOwned<std::remove_pointer_t<decltype(answer)>>(answer);
     }
 
-    /// What `check` gives when the connection broke meanwhile. X error codes are positive.
+    /// Result of `check` on a lost connection. X error codes are positive.
     static constexpr int kBroken = -1;
-    /// Waits until the server has taken a checked request: 0, or the code of the X error.
+    /// Waits for a checked request. Returns 0 or the X error code.
     [[nodiscard]] int check(xcb_void_cookie_t cookie);
 
-    /// Sends what is buffered. Needed after requests without an answer.
+    /// Sends buffered requests. Needed after requests without a reply.
     void flush() { xcb_flush(m_xcb); }
 
-    /// Sees that events are dispatched that xcb read from the socket while it waited for
-    /// something else; the socket does not become readable again for those. They are dispatched
-    /// from the event loop, never within this call. To be called after every call of xcb's that
-    /// waits; reply() and check() do it themselves.
+    /// Schedules the dispatch of events that xcb read while it waited for a reply; the socket does
+    /// not become readable again for them. Dispatches from the event loop, never inside this call.
+    /// Call it after every blocking xcb call; reply() and check() do.
     void drain();
 
-    /// Ends with its destruction, which may happen inside the handler.
+    /// Ends when destroyed, also inside the handler.
     class Subscription;
     using Handler = std::function<void(const xcb_generic_event_t&)>;
-    /// Calls `handler` for each event of the type (without the bit that marks sent events).
+    /// Calls `handler` for each event of the type (without the bit of sent events).
     [[nodiscard]] Subscription subscribe(std::uint8_t type, Handler handler);
 
 Q_SIGNALS:
-    /// The server went away. Emitted once, from the event loop.
+    /// The server was lost. Emitted once, from the event loop.
     void broken();
 
 private:
@@ -129,8 +128,8 @@ private:
     bool m_dispatchPosted = false;
     bool m_dispatching = false;
     std::unique_ptr<QSocketNotifier> m_notifier;
-    std::deque<XcbOwned<xcb_generic_event_t>> m_events; ///< read and not yet dispatched
-    std::shared_ptr<Subscribers> m_subscribers;         ///< held weakly by the subscriptions
+    std::deque<XcbOwned<xcb_generic_event_t>> m_events; ///< read but not yet dispatched
+    std::shared_ptr<Subscribers> m_subscribers;         ///< subscriptions hold it weakly
     std::uint64_t m_nextId = 0;
 };
 

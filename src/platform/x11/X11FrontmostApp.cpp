@@ -11,7 +11,7 @@ X11FrontmostApp::X11FrontmostApp(X11Connection& connection, Scheduler& scheduler
     , m_most(most) {
     follow();
     refreshCoverage();
-    refresh(); // nobody listens yet
+    refresh(); // no listener yet
     connect(&m_connection, &X11Connection::broken, this, [this] {
         m_none.reset();
         setCoverage(AppCoverage::None);
@@ -28,19 +28,19 @@ void X11FrontmostApp::follow() {
         const auto& end = reinterpret_cast<const xcb_destroy_notify_event_t&>(event);
         if (end.window != m_window) return;
         m_window = XCB_NONE;
-        waitForNone(); // the window manager may have another one in a moment
+        waitForNone(); // the window manager may set another one shortly
     });
     m_connection.followRootProperties();
 }
 
 void X11FrontmostApp::followWindow(xcb_window_t window) {
-    // The server answers for a window that is gone with an error, which is not waited for.
+    // An error for a destroyed window is ignored, so nothing waits for it.
     const auto select = [this](xcb_window_t of, std::uint32_t mask) {
         if (of == XCB_NONE || of == m_connection.root()) return;
         xcb_change_window_attributes(m_connection.xcb(), of, XCB_CW_EVENT_MASK, &mask);
     };
     if (window != m_window) select(m_window, XCB_EVENT_MASK_NO_EVENT);
-    // Also when it has the number of the one before: that may be gone, and this a new one.
+    // Even with the same number as before: that window may be gone and this one new.
     select(window, XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
     m_window = window;
 }
@@ -61,7 +61,7 @@ void X11FrontmostApp::refresh() {
         return;
     }
     m_none.reset();
-    followWindow(window); // before it is read, so that no change falls between
+    followWindow(window); // before reading, so that no change is missed
     adopt(applicationOf(window));
 }
 

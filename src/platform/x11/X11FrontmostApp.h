@@ -1,4 +1,4 @@
-// The application whose window the window manager calls active.
+// The application of the window manager's active window.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -9,31 +9,30 @@
 
 namespace vantle {
 
-/// Follows _NET_ACTIVE_WINDOW on the root window, and on the active window its end and the
-/// properties that tell whose it is; nothing is polled.
+/// Follows _NET_ACTIVE_WINDOW on the root window, and on the active window its destruction and
+/// identifying properties; there is no polling.
 ///
-/// A window manager says "none" for a moment at each switch, so it is believed once it has lasted
-/// `noneIsBelievedAfter`. It says so, too, while a card or panel of ours has the keyboard; what was
-/// in front stays in front then. A dock, the desktop and a window that vanished while it was read
-/// are no application: nothing is in front. Only a change of application is told, not one of
-/// windows. Our own windows count as the application `local.vantle.Vantle`. Without a window
-/// manager that keeps the property, and without a server, nothing is in front. Beside a Wayland
-/// compositor that is the property of its X11 windows, and "none" stands for each other one.
+/// A window manager reports "none" briefly at each switch, so it counts once it has lasted
+/// `noneIsBelievedAfter`. It reports it too while a card or panel of the program has the keyboard;
+/// the previous application stays in front then. For docks, the desktop and windows that vanish
+/// during the read, nothing is in front. Reports changes of application, not of windows. The
+/// program's own windows count as `local.vantle.Vantle`. Without a server or a window manager that
+/// sets the property nothing is in front. Beside a Wayland compositor the property covers X11
+/// windows, and "none" stands for all others. Main thread.
 class X11FrontmostApp final : public FrontmostApp {
     Q_OBJECT
 
 public:
     static constexpr Seconds noneIsBelievedAfter{0.1};
 
-    /// Both must outlive this. `most` is what a window manager can tell here that keeps the
+    /// Both must outlive this object. `most` is the coverage with a window manager that sets the
     /// property.
     X11FrontmostApp(X11Connection& connection, Scheduler& scheduler, IdentityResolver resolve,
                     AppCoverage most = AppCoverage::All);
 
-    /// Asks the server, which may know better than what it has told up to now. One round trip, a
-    /// few where it does.
+    /// Asks the server, which may be ahead of its events. One round trip, or a few after a change.
     [[nodiscard]] std::optional<Application> frontmost() override;
-    /// None without a window manager that keeps the property.
+    /// None without a window manager that sets the property.
     [[nodiscard]] AppCoverage coverage() const override { return m_coverage; }
 
 private:
@@ -55,8 +54,8 @@ private:
     const AppCoverage m_most;
     std::optional<Application> m_application;
     AppCoverage m_coverage = AppCoverage::None;
-    xcb_window_t m_window = XCB_NONE; ///< the active one while it is followed
-    TimerHandle m_none;               ///< while "none" is not believed yet
+    xcb_window_t m_window = XCB_NONE; ///< the active one, while followed
+    TimerHandle m_none;               ///< runs while "none" does not count yet
     X11Connection::Subscription m_properties, m_ends;
 };
 

@@ -4,7 +4,7 @@ namespace vantle {
 
 namespace {
 
-constexpr int kBadAccess = 10; ///< X error: another client has the grab
+constexpr int kBadAccess = 10; ///< X error: another client holds the grab
 constexpr Seconds kRetryInterval{10.0};
 constexpr Seconds kRetryTolerance{2.0};
 
@@ -66,7 +66,7 @@ HotKeyPort::Outcome X11HotKey::grabAtItsPlace() {
 }
 
 HotKeyPort::Outcome X11HotKey::grab(const X11KeyCombination& combination) {
-    m_grabbed = combination; // so that a failure half-way gives back what was taken
+    m_grabbed = combination; // set first, so that a failure half-way releases what was grabbed
     for (const auto code : combination.codes) {
         for (const auto locks : combination.lockStates) {
             const int status = m_connection.check(xcb_grab_key_checked(
@@ -109,7 +109,7 @@ void X11HotKey::regrab() {
 }
 
 void X11HotKey::handlePress(const xcb_key_press_event_t& event) {
-    // While our key is held the whole keyboard comes to us; other keys are none of ours.
+    // While the combination is held, all keys arrive here; others are ignored.
     if (!m_grabbed || !m_grabbed->matches(event.detail, event.state)) return;
     if (!m_repeats.pressed(event.detail, event.time)) return;
     m_scheduler.post([handler = std::weak_ptr(m_pressed)] {
@@ -118,7 +118,7 @@ void X11HotKey::handlePress(const xcb_key_press_event_t& event) {
 }
 
 void X11HotKey::handleRelease(const xcb_key_release_event_t& event) {
-    // In whatever state of the modifiers: they may be let go before the letter.
+    // Regardless of modifiers, which may be released before the letter.
     if (m_grabbed && m_grabbed->hasCode(event.detail)) m_repeats.released(event.detail, event.time);
 }
 

@@ -1,4 +1,4 @@
-// Alt+Super+B, heard from any application.
+// The shortcut as a key grab on an X server.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -12,20 +12,19 @@
 
 namespace vantle {
 
-/// Grabs the combination on the root window. A change of the keyboard map grabs it anew at its new
-/// place. Where that fails it is tried again at the next change and every ten seconds, since no
-/// server tells when another program gives a key back.
+/// Grabs Alt+Super+B on the root window, and again after a change of the keyboard map. A failed
+/// grab is retried at the next change and every ten seconds, since no event reports that another
+/// program released a key.
 ///
-/// While another program holds the whole keyboard, an open menu or a screen locker, presses don't
-/// reach us. Not for a server beside a Wayland compositor, where only X11 windows have their keys
-/// heard.
+/// While another program grabs the whole keyboard (an open menu, a screen locker), presses do not
+/// arrive. Not for Xwayland, where only keys over X11 windows arrive. Main thread.
 class X11HotKey final : public HotKeyPort {
 public:
-    /// Statuses beside the codes of X errors.
+    /// Statuses beside X error codes.
     static constexpr int kNoConnection = X11Connection::kBroken;
-    static constexpr int kNoSuchKey = -2; ///< the keyboard map has no Alt or no Super
+    static constexpr int kNoSuchKey = -2; ///< the keyboard map lacks Alt or Super
 
-    /// Both must outlive this.
+    /// Both must outlive this object.
     X11HotKey(X11Connection& connection, Scheduler& scheduler);
     ~X11HotKey() override;
 
@@ -46,10 +45,11 @@ private:
     X11Connection& m_connection;
     Scheduler& m_scheduler;
     std::shared_ptr<std::function<void()>> m_pressed; ///< posted calls hold it weakly
-    bool m_registered = false;                        ///< wanted, if not held since the map changed
-    std::optional<X11KeyCombination> m_grabbed;       ///< while held
-    Outcome m_outcome;                                ///< as told last
-    TimerHandle m_retry;                              ///< while registered and not held
+    /// Wanted, even while a map change prevents it.
+    bool m_registered = false;
+    std::optional<X11KeyCombination> m_grabbed; ///< set while held
+    Outcome m_outcome;                          ///< as reported last
+    TimerHandle m_retry;                        ///< runs while wanted and not held
     KeyRepeatFilter m_repeats;
     X11Connection::Subscription m_presses, m_releases, m_mappings;
 };

@@ -9,7 +9,7 @@ namespace vantle {
 
 namespace {
 
-constexpr double kJitter = 0.5; // seconds, between the server's clock and ours
+constexpr double kJitter = 0.5; // seconds between the server's clock and ours
 
 } // namespace
 

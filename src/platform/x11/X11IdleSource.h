@@ -1,4 +1,4 @@
-// The X server's counter of the time without input.
+// The idle time from the X server's counter.
 #pragma once
 
 #include "base/Clock.h"
@@ -8,18 +8,18 @@ namespace vantle {
 
 class X11Connection;
 
-/// Asks the MIT-SCREEN-SAVER extension. Empty where the server lacks it or is gone.
+/// The MIT-SCREEN-SAVER extension. Empty when the server lacks it or is lost. Main thread.
 ///
-/// The server's counter stands still while the machine sleeps. The time slept is added until the
-/// next input; where the input and the sleep lie between the same two questions, which came first
-/// can't be told, and the user counts as back.
+/// The counter stops while the machine sleeps, so slept time is added until the next input; when
+/// input and sleep fall between the same two readings, their order is unknown and the user counts
+/// as back.
 ///
-/// The counter falls at presses, motion and wheel of any client's input, and, which can't be told
-/// apart, at releases and when a program resets the screen saver, as video players do. It must not
-/// be asked in a Wayland session: Xwayland sees only the input that goes to X11 windows.
+/// The counter resets at presses, motion and wheel of any client's input, and, indistinguishably,
+/// at releases and when a program resets the screen saver, as video players do. Do not use under
+/// Xwayland, which sees only input to X11 windows.
 class X11IdleSource final : public IdleSource {
 public:
-    /// Both must outlive this.
+    /// Both must outlive this object.
     X11IdleSource(X11Connection& connection, const Clock& clock);
 
     [[nodiscard]] std::optional<double> secondsSinceLastInput() override;
@@ -29,9 +29,9 @@ private:
     X11Connection& m_connection;
     const Clock& m_clock;
     const bool m_available;
-    double m_counter = 0;    ///< seconds at the last question
-    Seconds m_askedAt;       ///< uptime without sleep at the last question
-    Seconds m_asleepAtInput; ///< how long the machine had slept in all by the last input
+    double m_counter = 0;    ///< seconds, at the last reading
+    Seconds m_askedAt;       ///< uptime without sleep, at the last reading
+    Seconds m_asleepAtInput; ///< total sleep of the machine at the last input
 };
 
 } // namespace vantle

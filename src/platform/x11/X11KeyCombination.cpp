@@ -11,7 +11,7 @@ namespace vantle {
 
 namespace {
 
-// Key symbols, from the X protocol's list.
+// Keysyms of the X protocol.
 constexpr xcb_keysym_t kLatinB = 0x0062;
 constexpr xcb_keysym_t kScrollLock = 0xff14;
 constexpr xcb_keysym_t kNumLock = 0xff7f;
@@ -20,16 +20,16 @@ constexpr xcb_keysym_t kAltR = 0xffea;
 constexpr xcb_keysym_t kSuperL = 0xffeb;
 constexpr xcb_keysym_t kSuperR = 0xffec;
 
-/// The key engraved B, as all servers over the kernel's input devices number it.
+/// The physical B key, numbered alike by all servers on the kernel's input devices.
 constexpr xcb_keycode_t kEngravedB = 56;
 
-constexpr std::uint16_t kAllModifiers = 0xff; ///< the low byte; buttons are above
+constexpr std::uint16_t kAllModifiers = 0xff; ///< low byte; buttons are above
 
 struct FreeSymbols {
     void operator()(xcb_key_symbols_t* symbols) const { xcb_key_symbols_free(symbols); }
 };
 
-/// The keyboard map and the modifier map, read once.
+/// A snapshot of the keyboard and modifier maps.
 class Keyboard {
 public:
     explicit Keyboard(X11Connection& connection)
@@ -47,7 +47,7 @@ public:
         return codes;
     }
 
-    /// The modifiers that keys with one of the symbols set; the first symbol that sets any counts.
+    /// Returns the modifiers of the first of these symbols that sets any.
     [[nodiscard]] std::uint16_t mask(std::initializer_list<xcb_keysym_t> symbols) const {
         for (const auto symbol : symbols) {
             std::uint16_t mask = 0;
@@ -60,7 +60,7 @@ public:
 
 private:
     [[nodiscard]] std::uint16_t maskOf(xcb_keycode_t code) const {
-        // Eight rows of equal length, one a modifier.
+        // Eight rows of equal length, one per modifier.
         const auto* table = xcb_get_modifier_mapping_keycodes(m_modifiers.get());
         const int perRow = m_modifiers->keycodes_per_modifier;
         std::uint16_t mask = 0;
@@ -75,7 +75,7 @@ private:
     XcbOwned<xcb_get_modifier_mapping_reply_t> m_modifiers;
 };
 
-/// Every union of some of the masks, the empty one first.
+/// Returns all unions of the masks, starting with the empty one.
 std::vector<std::uint16_t> unions(std::initializer_list<std::uint16_t> masks) {
     std::vector<std::uint16_t> all{0};
     for (const auto mask : masks) {
@@ -114,13 +114,13 @@ std::optional<X11KeyCombination> X11KeyCombination::altSuperB(X11Connection& con
     found.modifiers = alt | super;
     found.codes = keyboard.codes(kLatinB);
     if (found.codes.empty()) found.codes.push_back(kEngravedB);
-    // A lock key on a modifier that is part of the combination can't vary.
+    // A lock key that shares a modifier with the combination cannot vary.
     const auto lock = [&](std::uint16_t mask) {
         return static_cast<std::uint16_t>(mask & ~found.modifiers);
     };
     found.lockStates = unions(
         {XCB_MOD_MASK_LOCK, lock(keyboard.mask({kNumLock})), lock(keyboard.mask({kScrollLock}))});
-    connection.drain(); // the keyboard map was waited for outside of its sight
+    connection.drain(); // xcb waited for the keyboard map without reply()
     return found;
 }
 

@@ -21,7 +21,7 @@ xcb_window_t focus(xcb_connection_t* connection) {
     return answer ? answer->focus : XCB_NONE;
 }
 
-/// Whether the window could take it.
+/// Returns whether the window could take the focus.
 bool setFocus(xcb_connection_t* connection, xcb_window_t window) {
     const XcbOwned<xcb_generic_error_t> error(xcb_request_check(
         connection,
@@ -29,14 +29,14 @@ bool setFocus(xcb_connection_t* connection, xcb_window_t window) {
     return !error;
 }
 
-/// A Wayland compositor decides on the keyboard when a window is mapped.
+/// A Wayland compositor assigns the keyboard when a window is mapped.
 void remap(xcb_connection_t* connection, xcb_window_t window) {
     xcb_unmap_window(connection, window);
     xcb_map_window(connection, window);
     xcb_flush(connection);
 }
 
-/// The edges in pixels of the device, of which one of ours may be several.
+/// Rounds outward to device pixels.
 QRect toDevice(const QRect& rect, double ratio) {
     const int left = qRound(rect.x() * ratio);
     const int top = qRound(rect.y() * ratio);
@@ -67,7 +67,7 @@ X11PanelHost::X11PanelHost(X11Connection& x11, Scheduler& scheduler, X11RawPress
 void X11PanelHost::followCompositor() {
     const xcb_atom_t selection = atom("_NET_WM_CM_S" + QByteArray::number(m_x11.screen()));
     if (const auto* const fixes = m_x11.extension(xcb_xfixes_id)) {
-        // The server sends nothing to who has not asked for a version.
+        // The extension must be negotiated before the server sends events.
         (void)m_x11.reply<xcb_xfixes_query_version_reply>(
             xcb_xfixes_query_version(m_x11.xcb(), 1, 0));
         const auto type =
@@ -77,7 +77,7 @@ void X11PanelHost::followCompositor() {
                 reinterpret_cast<const xcb_xfixes_selection_notify_event_t&>(event);
             if (change.selection == selection) setComposited(change.owner != XCB_NONE);
         });
-        // A compositor that crashes or is killed gives nothing up: its window or its connection go.
+        // A compositor that crashes does not release the selection; its window or connection goes.
         xcb_xfixes_select_selection_input(
             m_x11.xcb(), m_x11.root(), selection,
             XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
@@ -93,8 +93,8 @@ void X11PanelHost::setComposited(bool composited) {
     if (std::exchange(m_composited, composited) != composited) Q_EMIT compositedChanged();
 }
 
-/// Unmanaged: a window manager would give it a frame, a place in its lists, a workspace, and the
-/// keyboard at each click. Only such a window lies above full-screen ones.
+/// Override-redirect: a window manager would frame it, list it, put it on a workspace and focus it
+/// at each click, and not raise it above full-screen windows.
 Qt::WindowFlags X11PanelHost::flagsFor(const Placement& placement) const {
     return PanelHost::flagsFor(placement) | Qt::X11BypassWindowManagerHint;
 }
@@ -102,8 +102,8 @@ Qt::WindowFlags X11PanelHost::flagsFor(const Placement& placement) const {
 QRect X11PanelHost::place(QWindow& window, const Placement& placement) {
     const bool isNew = window.handle() == nullptr;
     const QRect part = PanelHost::place(window, placement);
-    // An X11 window manager has no part in these windows. Some Wayland compositors give the
-    // keyboard to every such window that is not of a type that never wants it.
+    // X11 window managers ignore these windows. Some Wayland compositors focus each of them unless
+    // its type never takes the keyboard.
     if (isNew && m_xwayland.isXwayland) setType(window, "_NET_WM_WINDOW_TYPE_NOTIFICATION");
     return part;
 }
@@ -134,8 +134,7 @@ void X11PanelHost::setInputRegion(QWindow& window, const QRegion& region) {
 
 std::unique_ptr<PointerSensor> X11PanelHost::senseAt(const Placement& panel, const QRect& part,
                                                      std::function<void()> rested) {
-    // Xwayland places the pointer only while it is over an X11 window, and an input-only one is
-    // none to the compositor.
+    // Xwayland knows the pointer only over X11 windows, and ignores input-only windows.
     if (!m_x11.isAlive() || m_xwayland.isXwayland) return nullptr;
     const QRect place =
         toDevice(part.translated(panel.ground().topLeft()), qGuiApp->devicePixelRatio());
@@ -175,11 +174,12 @@ void X11PanelHost::returnKeyboard(QWindow& window) {
 void X11PanelHost::takeKeyboardFromCompositor(QWindow& window) {
     xcb_connection_t* const connection = windowConnection();
     const auto id = static_cast<xcb_window_t>(window.winId());
-    if (!m_before.try_emplace(window.winId(), XCB_NONE).second) return; // it has it
+    // It has the keyboard already.
+    if (!m_before.try_emplace(window.winId(), XCB_NONE).second) return;
     setType(window, "_NET_WM_WINDOW_TYPE_NORMAL");
     remap(connection, id);
-    // The grab tells the window that it has the focus. The focus of the X server itself would be
-    // taken back at once by compositors that leave it to managed windows alone.
+    // The grab tells Qt's window that it has the focus. Compositors that focus only managed windows
+    // would take the X focus back at once.
     const XcbOwned<xcb_grab_keyboard_reply_t> grabbed(
         xcb_grab_keyboard_reply(connection,
                                 xcb_grab_keyboard(connection, 1, id, XCB_CURRENT_TIME,

@@ -1,4 +1,4 @@
-// Floating panels on an X server.
+// The host of floating panels on an X server.
 #pragma once
 
 #include "platform/PanelHost.h"
@@ -13,18 +13,18 @@
 
 namespace vantle {
 
-/// Requests about a window go over Qt's own connection, so that they reach the server in order with
-/// Qt's; without one (another platform, a lost display) they do nothing. Input regions need the
-/// shape extension: without it a panel feels the pointer everywhere.
+/// Requests about windows use Qt's connection, to stay in order with Qt's; without one (another
+/// platform, a lost display) they have no effect. Input regions need the shape extension; without
+/// it a panel takes input everywhere.
 ///
-/// A compositor owns a selection, whose owner the server tells of. Beside a Wayland compositor
-/// windows are always see-through; a panel gets the keyboard by the type of its window and a grab,
-/// and is mapped again for both ways of it. Tried with sway 1.7.
+/// A compositor owns a selection, and the server reports its owner. Beside a Wayland compositor
+/// windows are always translucent; a panel gets the keyboard by its window type and a grab, and is
+/// mapped again to change either way. Tried with sway 1.7. Main thread.
 class X11PanelHost final : public PanelHost {
     Q_OBJECT
 
 public:
-    /// `x11` answers what is not about a window. All must outlive this.
+    /// `x11` serves requests that are not about windows. All must outlive this object.
     X11PanelHost(X11Connection& x11, Scheduler& scheduler, X11RawPresses& presses,
                  const XwaylandTraits& xwayland = {});
 
@@ -55,10 +55,10 @@ private:
     X11RawPresses& m_presses;
     const XwaylandTraits m_xwayland;
     bool m_composited = false;
-    bool m_pointerIdleIsKnown = false; ///< the server was asked for it
+    bool m_pointerIdleIsKnown = false; ///< whether the server was asked
     std::optional<X11PointerIdle> m_pointerIdle;
     X11Connection::Subscription m_compositorChanges;
-    std::map<WId, xcb_window_t> m_before; ///< who had the keyboard before a window took it
+    std::map<WId, xcb_window_t> m_before; ///< the focus owner before each window took the keyboard
 };
 
 } // namespace vantle

@@ -1,4 +1,4 @@
-// Presses of the pointer over the windows of any application of an X server.
+// The pointer presses on an X server, over any window.
 #pragma once
 
 #include "platform/PointerPresses.h"
@@ -6,12 +6,12 @@
 
 namespace vantle {
 
-/// Without the input extension nothing is told. Under Xwayland only presses over X11 windows are.
+/// None without the input extension; under Xwayland only those over X11 windows. Main thread.
 class X11PointerPresses final : public PointerPresses {
     Q_OBJECT
 
 public:
-    /// `presses` must outlive this.
+    /// `presses` must outlive this object.
     explicit X11PointerPresses(X11RawPresses& presses) : m_presses(presses) {}
 
     void watch() override;

@@ -16,16 +16,16 @@ namespace {
 constexpr double kMsInSecond = 1000;
 constexpr std::uint16_t kAnyButton = XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3 |
                                      XCB_BUTTON_MASK_4 | XCB_BUTTON_MASK_5;
-constexpr std::uint32_t kLastButton = 3; // what follows is the wheel
+constexpr std::uint32_t kLastButton = 3; // higher buttons are the wheel
 
-/// The name as the server wrote it: xcb's own function leaves out two letters.
+/// The counter's name from the raw reply: xcb's accessor misses two letters.
 std::string_view nameOf(const xcb_sync_systemcounter_t& counter) {
     const auto* const start = reinterpret_cast<const char*>(&counter);
     return {start + offsetof(xcb_sync_systemcounter_t, name_len) + sizeof counter.name_len,
             counter.name_len};
 }
 
-/// The id of the first pointer that the server moves over the screen; 0 when there is none.
+/// Returns the id of the first master pointer; 0 when there is none.
 std::uint16_t firstPointer(const xcb_input_xi_query_device_reply_t& devices) {
     auto each = xcb_input_xi_query_device_infos_iterator(&devices);
     for (; each.rem > 0; xcb_input_xi_device_info_next(&each))
@@ -39,7 +39,7 @@ std::optional<X11PointerIdle> X11PointerIdle::of(X11Connection& x11, X11RawPress
     if (!presses.isAvailable()) return std::nullopt;
     const auto* const sync = x11.extension(xcb_sync_id);
     if (sync == nullptr) return std::nullopt;
-    // The server takes no other request before this one.
+    // The extension's required first request.
     (void)x11.reply<xcb_sync_initialize_reply>(xcb_sync_initialize(x11.xcb(), 3, 1));
     const auto counters =
         x11.reply<xcb_sync_list_system_counters_reply>(xcb_sync_list_system_counters(x11.xcb()));
@@ -83,7 +83,7 @@ X11RestSensor::~X11RestSensor() {
     m_x11.flush();
 }
 
-/// One that goes off each time the pointer is used after a rest.
+/// An alarm for the first use of the pointer after a rest.
 void X11RestSensor::makeAlarm() {
     xcb_sync_create_alarm_value_list_t values{};
     values.counter = m_idle.counter;
@@ -120,11 +120,11 @@ void X11RestSensor::look(bool isPressed) {
     }
     if (!m_isInside || m_isDone || isGrabbed()) return;
     m_isDone = true;
-    const auto tell = m_rested; // the sensor may go meanwhile
+    const auto tell = m_rested; // the sensor may be destroyed meanwhile
     tell();
 }
 
-/// Whether another client has the pointer. The server tells it only to a client that wants it too.
+/// Whether another client has grabbed the pointer, which only an attempt to grab it shows.
 bool X11RestSensor::isGrabbed() {
     const auto grab = xcb_grab_pointer(m_x11.xcb(), 1, m_x11.root(), 0, XCB_GRAB_MODE_ASYNC,
                                        XCB_GRAB_MODE_ASYNC, XCB_NONE, XCB_NONE, XCB_CURRENT_TIME);

@@ -1,4 +1,4 @@
-// Parts of the screen that are watched for the pointer, on an X server.
+// The pointer sensors on an X server.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -12,29 +12,29 @@
 
 namespace vantle {
 
-/// The server's counter of the time without input from the pointer, keys not included.
+/// The server's idle counter of the pointer, without keys.
 struct X11PointerIdle {
     xcb_sync_counter_t counter = XCB_NONE;
-    std::uint8_t alarmEvent = 0; ///< type of the event that an alarm on it sends
+    std::uint8_t alarmEvent = 0; ///< event type of its alarms
 
-    /// Empty when the server has none, or none by device. A few round trips.
+    /// Returns the counter; empty when the server has none per device. A few round trips.
     [[nodiscard]] static std::optional<X11PointerIdle> of(X11Connection& x11,
                                                           X11RawPresses& presses);
 };
 
-/// Calls when the pointer has been still for `rest` in that part, without a window there: presses
-/// and drags go to what lies there. While the pointer rests elsewhere nothing runs. An alarm tells
-/// of the first input after a rest; from then on the server is asked once every `rest`, until the
-/// pointer rests again. Unlike events of motion that costs the same at any rate of a mouse, and
-/// sees a pointer that another program has moved, too.
+/// Calls back when the pointer has rested for `rest` in that part, without a window: presses and
+/// drags reach what lies below. Costs nothing while the pointer rests elsewhere. An alarm reports
+/// the first movement after a rest; from then on the server is queried every `rest`, until the
+/// pointer rests again. Unlike motion events that costs the same for any mouse, and sees a pointer
+/// moved by a program.
 ///
-/// A visit in which a button is down calls nothing. Nor does one while another application has
-/// grabbed the pointer, as menus and screen lockers do.
+/// A visit with a button down is skipped, and so is one while another client grabs the pointer, as
+/// menus and screen lockers do. Main thread.
 class X11RestSensor final : public PointerSensor {
 public:
     static constexpr Seconds rest{0.3};
 
-    /// `part` in px of the device. All must outlive the sensor.
+    /// `part` in device px. All must outlive the sensor.
     X11RestSensor(X11Connection& x11, Scheduler& scheduler, X11RawPresses& presses,
                   const X11PointerIdle& idle, const QRect& part, std::function<void()> rested);
     ~X11RestSensor() override;
@@ -52,18 +52,18 @@ private:
     const QRect m_part;
     const std::function<void()> m_rested;
     const xcb_sync_alarm_t m_alarm;
-    bool m_isInside = false; ///< at the last look
-    bool m_isDone = false;   ///< this visit of the pointer has called, or was for what lies there
-    TimerHandle m_next;      ///< while the pointer does not rest
+    bool m_isInside = false; ///< at the last query
+    bool m_isDone = false;   ///< this visit called back, or was skipped
+    TimerHandle m_next;      ///< runs while the pointer moves
     X11Connection::Subscription m_alarms;
     std::unique_ptr<X11RawPresses::Watch> m_presses;
 };
 
-/// An unmanaged window without a picture, for servers that don't count. It calls at each arrival,
-/// and takes the presses.
+/// An invisible override-redirect window, for servers without the counter. Calls back on each
+/// arrival, and takes presses. Main thread.
 class X11WindowSensor final : public PointerSensor {
 public:
-    /// `part` in px of the device. `x11` must outlive the sensor.
+    /// `part` in device px. `x11` must outlive the sensor.
     X11WindowSensor(X11Connection& x11, const QRect& part, std::function<void()> entered);
     ~X11WindowSensor() override;
     X11WindowSensor(const X11WindowSensor&) = delete;

@@ -10,7 +10,7 @@ bool X11RawPresses::isAvailable() {
     if (std::exchange(m_wasAsked, true)) return m_opcode != 0;
     const auto* const extension = m_connection.extension(xcb_input_id);
     if (extension == nullptr) return false;
-    // The server sends events of the second version only to clients that asked for it.
+    // The server sends version 2 events only to clients that negotiated it.
     const auto version = m_connection.reply<xcb_input_xi_query_version_reply>(
         xcb_input_xi_query_version(m_connection.xcb(), 2, 2));
     if (version && version->major_version >= 2) m_opcode = extension->major_opcode;

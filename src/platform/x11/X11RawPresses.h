@@ -1,4 +1,4 @@
-// Presses of pointer buttons as the X server tells them, whatever window they go to.
+// The raw button presses from the X server.
 #pragma once
 
 #include "platform/x11/X11Connection.h"
@@ -9,21 +9,20 @@
 
 namespace vantle {
 
-/// Raw events of the input extension: they come beside those of the windows, grabs or not. The
-/// server is asked for them while there is a watch. Under Xwayland only presses over X11 windows
-/// are told. Main thread.
+/// Raw events of the input extension, sent in addition to normal ones and regardless of grabs.
+/// Selected while there is a watch. Under Xwayland only presses over X11 windows. Main thread.
 class X11RawPresses {
 public:
-    /// `connection` must outlive this.
+    /// `connection` must outlive this object.
     explicit X11RawPresses(X11Connection& connection) : m_connection(connection) {}
 
-    /// Whether the server has version 2 of the extension. Round trips the first time.
+    /// Whether the server has version 2 of the extension. Round trips on the first call.
     [[nodiscard]] bool isAvailable();
 
     class Watch;
-    /// Calls `pressed` with the number of each button that is pressed, the wheel's included, until
-    /// the watch is destroyed, which may happen inside the call. Null when not available. The
-    /// watch must not outlive this.
+    /// Calls `pressed` with the number of each pressed button, wheel included, until the watch is
+    /// destroyed, also inside the call. Null when unavailable. The watch must not outlive this
+    /// object.
     [[nodiscard]] std::unique_ptr<Watch> watch(std::function<void(std::uint32_t button)> pressed);
 
 private:
@@ -31,7 +30,7 @@ private:
 
     X11Connection& m_connection;
     bool m_wasAsked = false;
-    std::uint8_t m_opcode = 0; ///< of the extension; 0 while it is not known to be there
+    std::uint8_t m_opcode = 0; ///< of the extension; 0 until known
     int m_watches = 0;
 };
 

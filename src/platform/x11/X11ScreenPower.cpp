@@ -11,7 +11,7 @@ namespace {
 
 enum Cause : unsigned { DisplaysOffCause, ScreenSaverCause, StatusCause };
 
-// Often enough that a pause starts about when the screen went dark; one round trip each.
+// Short enough that a pause starts about when the screen turned off; one round trip each.
 constexpr Seconds kPollInterval{3.0};
 constexpr Seconds kPollTolerance{1.0};
 
@@ -54,11 +54,11 @@ void X11ScreenPower::followScreenSaver() {
     m_screenSaver = m_connection.subscribe(
         extension->first_event + XCB_SCREENSAVER_NOTIFY, [this](auto& event) {
             const auto& notify = reinterpret_cast<const xcb_screensaver_notify_event_t&>(event);
-            // A saver that cycles is on and stays on; that state is not asked for, yet told.
+            // The event may also be Cycle, which is a form of On.
             if (notify.state == XCB_SCREENSAVER_STATE_ON) setCause(ScreenSaverCause, true);
             if (notify.state == XCB_SCREENSAVER_STATE_OFF) setCause(ScreenSaverCause, false);
         });
-    // Selected first, so that a change between the two requests is not missed.
+    // Selects events before the query, so that no change is missed.
     xcb_screensaver_select_input(m_connection.xcb(), m_connection.root(),
                                  XCB_SCREENSAVER_EVENT_NOTIFY_MASK);
     const auto info = m_connection.reply<xcb_screensaver_query_info_reply>(
@@ -79,7 +79,7 @@ void X11ScreenPower::followStatus() {
 }
 
 void X11ScreenPower::readStatus() {
-    // The first of its numbers is an atom, BLANK or LOCK; 0 while the screen shows the desktop.
+    // Its first value is the atom BLANK or LOCK; 0 while the screen shows the desktop.
     const auto status = m_connection.reply<xcb_get_property_reply>(xcb_get_property(
         m_connection.xcb(), 0, m_connection.root(), m_statusAtom, XCB_GET_PROPERTY_TYPE_ANY, 0, 1));
     const auto state = numbersOf(status.get());

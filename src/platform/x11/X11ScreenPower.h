@@ -1,4 +1,4 @@
-// Display sleep as the X server knows it.
+// The sleep of the displays on an X server.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -9,22 +9,21 @@
 
 namespace vantle {
 
-/// Asleep while the power management holds the displays below "on", the server's screen saver
-/// shows, or xscreensaver says on the root window that it has blanked or locked the screen. What
-/// the server holds at the start counts at once. Where it lacks an extension, that cause never
-/// holds; a server that goes away wakes the screens.
+/// Asleep while DPMS holds the displays below "on", the server's screen saver is active, or
+/// xscreensaver's root window property says blanked or locked. The state at construction counts. A
+/// missing extension never holds; a lost server wakes the screens. Main thread.
 class X11ScreenPower final : public CausedScreenPower {
     Q_OBJECT
 
 public:
-    /// Whether the displays are in any other power level than "on". None where it can't be told.
+    /// Whether the displays are in a power level other than "on". An empty function means unknown.
     using DisplaysOff = std::function<bool()>;
 
-    /// The power management extension of that server; empty where it is missing.
+    /// Returns the server's DPMS extension; empty when missing.
     [[nodiscard]] static DisplaysOff powerManagement(X11Connection& connection);
 
-    /// The power level is polled, since this version of the extension has no events for it. Both
-    /// references must outlive this.
+    /// Polls the power level, since this version of DPMS has no events. Both references must
+    /// outlive this object.
     X11ScreenPower(X11Connection& connection, Scheduler& scheduler, DisplaysOff displaysOff);
 
 private:

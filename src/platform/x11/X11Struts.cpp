@@ -10,7 +10,7 @@ namespace {
 constexpr std::array<const char*, 3> kStrutAtoms{"_NET_WM_STRUT_PARTIAL", "_NET_WM_STRUT",
                                                  "_NET_CLIENT_LIST"};
 
-/// Most windows looked at, of the list and of the root each.
+/// Limit of windows examined, for the client list and for the root's children each.
 constexpr std::uint32_t kMostWindows = 1024;
 
 } // namespace
@@ -96,7 +96,7 @@ std::vector<xcb_window_t> X11Struts::windows() {
 }
 
 std::vector<X11Struts::Bar> X11Struts::barsAmong(const std::vector<xcb_window_t>& windows) {
-    // All questions first, then the answers: one trip to the server for all of them.
+    // Sends all requests before it reads replies: one round trip.
     std::vector<std::pair<xcb_get_property_cookie_t, xcb_get_property_cookie_t>> cookies;
     const auto ask = [this](xcb_window_t window, Atom name) {
         return xcb_get_property(m_x11.xcb(), 0, window, m_atoms[name], XCB_ATOM_CARDINAL, 0, 12);
@@ -122,7 +122,7 @@ std::vector<ReservedStrip> X11Struts::stripsOf(std::span<const std::uint32_t> nu
     for (std::size_t i = 0; i < kEdges.size(); ++i) {
         const int depth = static_cast<int>(numbers[i]);
         if (depth <= 0) continue;
-        // The end is the last pixel. Without both the strip is as long as the desktop.
+        // The end is inclusive. Without partial struts the strip is as long as the desktop.
         const bool isPart = numbers.size() == 12;
         const bool isUpright = i < 2;
         const int begin = isPart ? static_cast<int>(numbers[4 + 2 * i]) : 0;
@@ -144,7 +144,7 @@ void X11Struts::follow(const std::vector<Bar>& bars) {
     for (const Bar& bar : bars)
         now.push_back(bar.window);
     if (now == m_bars) return;
-    // Others on this connection follow the active window, which a bar is not.
+    // Others on this connection select events of the active window, which is never a bar.
     const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
     for (const xcb_window_t window : now)
         xcb_change_window_attributes(m_x11.xcb(), window, XCB_CW_EVENT_MASK, &mask);

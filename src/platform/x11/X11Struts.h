@@ -1,4 +1,4 @@
-// The strips that bars on an X server reserve, by EWMH.
+// The screen edges reserved by bars, by EWMH struts.
 #pragma once
 
 #include "platform/ReservedStrips.h"
@@ -12,17 +12,17 @@
 
 namespace vantle {
 
-/// Looks at the windows themselves, so it needs no window manager that adds the strips up: at the
-/// managed ones, and at the children of the root window, among which are the bars of window
-/// managers that draw their own. A bar that is not on the screen reserves nothing.
+/// Examines the windows themselves, so it needs no window manager that sums struts up: managed
+/// windows, and children of the root window, among them the bars of window managers that draw their
+/// own. An unmapped bar reserves nothing.
 ///
-/// A question takes three round trips. A bar that comes is noticed when the list of the managed
-/// windows changes; one outside that list at the next question.
+/// A query takes three round trips. A new bar is noticed when the client list changes; one outside
+/// that list at the next query. Main thread.
 class X11Struts final : public ReservedStrips {
     Q_OBJECT
 
 public:
-    /// `x11` must outlive this.
+    /// `x11` must outlive this object.
     explicit X11Struts(X11Connection& x11);
 
     [[nodiscard]] std::vector<ReservedStrip> all() override;
@@ -45,8 +45,8 @@ private:
     X11Connection& m_x11;
     std::array<xcb_atom_t, AtomCount> m_atoms{};
     QSize m_desktop;                   ///< of the root window
-    std::vector<xcb_window_t> m_bars;  ///< those that had strips last, on the screen or not
-    std::vector<ReservedStrip> m_last; ///< what was told last
+    std::vector<xcb_window_t> m_bars;  ///< windows that had struts last, mapped or not
+    std::vector<ReservedStrip> m_last; ///< as reported last
     std::vector<X11Connection::Subscription> m_events;
 };
 

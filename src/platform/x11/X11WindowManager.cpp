@@ -11,13 +11,13 @@ namespace vantle {
 
 namespace {
 
-/// Longest property read, in units of four bytes. Lists of what is supported have some hundred.
+/// Longest property read, in 32-bit units. Lists of supported features have some hundred.
 constexpr std::uint32_t kLongestList = 1024;
 
-/// The number that stands for all desktops in _NET_WM_DESKTOP.
+/// "All desktops" in _NET_WM_DESKTOP.
 constexpr std::uint32_t kAllDesktops = 0xFFFFFFFF;
 
-/// What a message says of its sender: an application, not a pager.
+/// Source indication: an application, not a pager.
 constexpr std::uint32_t kFromApplication = 1;
 
 constexpr std::array<const char*, 8> kManagerAtoms{
@@ -26,8 +26,8 @@ constexpr std::array<const char*, 8> kManagerAtoms{
     "_NET_CURRENT_DESKTOP", "_NET_WM_DESKTOP",
 };
 
-/// Window managers that minimise without listing the action. Others that list the hidden state
-/// alone, as i3 and bspwm, hide windows for reasons of their own and refuse the request.
+/// Window managers that minimise without listing the action. Others, such as i3 and bspwm, list
+/// only the hidden state and refuse the request.
 constexpr std::array<QByteArrayView, 2> kMinimiseSilently{"awesome", "qtile"};
 
 } // namespace
@@ -39,7 +39,7 @@ X11WindowManager::X11WindowManager(X11Connection& x11) : m_x11(x11) {
     m_properties = m_x11.subscribe(XCB_PROPERTY_NOTIFY, [this](const auto& event) {
         handleProperty(reinterpret_cast<const xcb_property_notify_event_t&>(event));
     });
-    // One that crashes leaves its properties on the root window.
+    // A crashed window manager leaves its properties on the root window.
     m_ends = m_x11.subscribe(XCB_DESTROY_NOTIFY, [this](const auto& event) {
         if (reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == m_check) refresh();
     });
@@ -67,7 +67,7 @@ bool X11WindowManager::isThere() {
     if (m_check == XCB_NONE) return false;
     const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_change_window_attributes(m_x11.xcb(), m_check, XCB_CW_EVENT_MASK, &mask);
-    return numbers(m_check, SupportingCheck) == named; // else it is left over from an earlier one
+    return numbers(m_check, SupportingCheck) == named; // otherwise it is a leftover
 }
 
 bool X11WindowManager::servesMinimise() {
@@ -100,8 +100,8 @@ void X11WindowManager::bringToUser(QWindow& window) {
         moveToCurrentDesktop(static_cast<xcb_window_t>(window.winId()));
     WindowManager::bringToUser(window);
     if (!serves) return;
-    // Qt's own request bears the time of the last event that it saw. Where the user has typed into
-    // another application since, window managers take that for a theft of the focus.
+    // Qt's request has the time of the last event that it received. If the user has typed into
+    // another application since, window managers treat it as focus stealing.
     m_activated = &window;
     askForTime();
 }
@@ -121,7 +121,7 @@ void X11WindowManager::askForTime() {
                           XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT,
                           XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values.data());
     }
-    // A change that changes nothing is told of with the server's time as well.
+    // An empty append is reported with the server's time too.
     xcb_change_property(m_x11.xcb(), XCB_PROP_MODE_APPEND, m_clock, XCB_ATOM_WM_NAME,
                         XCB_ATOM_STRING, 8, 0, nullptr);
     m_x11.flush();

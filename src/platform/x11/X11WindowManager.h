@@ -14,16 +14,16 @@
 
 namespace vantle {
 
-/// Messages about a window go over Qt's own connection, so that they reach the window manager after
-/// the window itself; without one (another platform, a lost display) none are sent.
+/// Messages about a window use Qt's connection, so that they follow the window's creation; without
+/// one (another platform, a lost display) none are sent. Main thread.
 ///
-/// A window manager that comes, goes or is replaced is followed by the properties that it puts on
-/// the root window and by the end of its own window.
+/// Follows a window manager that comes, goes or is replaced by its properties on the root window
+/// and by its own window.
 class X11WindowManager final : public WindowManager {
     Q_OBJECT
 
 public:
-    /// `x11` answers what is not about a window. It must outlive this.
+    /// `x11` serves requests that are not about windows. It must outlive this object.
     explicit X11WindowManager(X11Connection& x11);
 
     [[nodiscard]] bool canMinimise() const override { return m_canMinimise; }
@@ -55,7 +55,7 @@ private:
     X11Connection& m_x11;
     std::array<xcb_atom_t, AtomCount> m_atoms{};
     xcb_window_t m_check = XCB_NONE; ///< the window manager's own window
-    xcb_window_t m_clock = XCB_NONE; ///< a window of ours whose changes tell the server's time
+    xcb_window_t m_clock = XCB_NONE; ///< a window whose property changes return the server's time
     std::vector<std::uint32_t> m_supported;
     bool m_canMinimise = false;
     QPointer<QWindow> m_activated; ///< waits for the server's time

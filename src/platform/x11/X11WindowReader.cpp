@@ -12,9 +12,9 @@ namespace vantle {
 
 namespace {
 
-/// How many windows a chain of dialogs may have; a chain may run in a circle.
+/// Limit of a chain of transient windows, which may be circular.
 constexpr int kMaxTransients = 8;
-/// Longest property read, in units of four bytes. Identities are far shorter.
+/// Longest property read, in 32-bit units. Identities are far shorter.
 constexpr std::uint32_t kMaxWords = 256;
 
 using Property = XcbOwned<xcb_get_property_reply_t>;
@@ -25,7 +25,7 @@ constexpr std::array<const char*, 9> kNames{
     "_GTK_APPLICATION_ID", "_KDE_NET_WM_DESKTOP_FILE", "UTF8_STRING",
 };
 
-/// The first number of a property of numbers.
+/// Returns the first value of a property.
 std::optional<std::uint32_t> number(const xcb_get_property_reply_t* property) {
     const auto numbers = numbersOf(property);
     return numbers.empty() ? std::nullopt : std::optional(numbers.front());
@@ -37,7 +37,7 @@ QByteArray bytes(const xcb_get_property_reply_t* property) {
             xcb_get_property_value_length(property)};
 }
 
-/// A text that may be closed by a zero byte.
+/// Returns a text, without a terminating zero.
 QString text(const xcb_get_property_reply_t* property) {
     const QByteArray all = bytes(property);
     const qsizetype end = all.indexOf('\0');
@@ -49,7 +49,7 @@ xcb_res_query_client_ids_cookie_t askForProcess(xcb_connection_t* xcb, xcb_windo
     return xcb_res_query_client_ids(xcb, 1, &spec);
 }
 
-/// The process behind the connection that made the window. Empty where that came over a network.
+/// Returns the process behind the window's connection; empty for a network connection.
 std::optional<std::uint32_t> processOf(const xcb_res_query_client_ids_reply_t* answer) {
     if (answer == nullptr) return std::nullopt;
     auto ids = xcb_res_query_client_ids_ids_iterator(answer);
@@ -89,10 +89,10 @@ std::optional<WindowHints> X11WindowReader::read(xcb_window_t window) {
     std::optional<WindowHints> topmost;
     for (int depth = 0; depth < kMaxTransients && window != XCB_NONE; ++depth) {
         const auto read = readOne(window);
-        if (!read) return topmost; // a parent may be gone; the dialog still has its own word
+        if (!read) return topmost; // a parent may be gone; the dialog's own hints still count
         if (!read->isApplication) return std::nullopt;
         topmost = read->hints;
-        // A dialog of a whole group names the root window.
+        // A group's dialog names the root window.
         if (read->transientFor == m_connection.root() || read->transientFor == window) break;
         window = read->transientFor;
     }
@@ -114,7 +114,7 @@ bool X11WindowReader::isIdentity(xcb_atom_t property) const {
 }
 
 bool X11WindowReader::isApplicationType(const xcb_get_property_reply_t* types) const {
-    const auto type = number(types); // the first is the one that the program likes best
+    const auto type = number(types); // the first type is preferred
     return !type || (*type != m_atoms[TypeDock] && *type != m_atoms[TypeDesktop]);
 }
 
@@ -123,7 +123,7 @@ std::optional<X11WindowReader::Window> X11WindowReader::readOne(xcb_window_t win
     const auto ask = [&](xcb_atom_t name, xcb_atom_t type) {
         return xcb_get_property(xcb, 0, window, name, type, 0, kMaxWords);
     };
-    // All questions first, then the answers: one trip to the server for all of them.
+    // Sends all requests before it reads replies: one round trip.
     const auto attributesCookie = xcb_get_window_attributes(xcb, window);
     const auto classCookie = ask(XCB_ATOM_WM_CLASS, XCB_ATOM_STRING);
     const auto transientCookie = ask(XCB_ATOM_WM_TRANSIENT_FOR, XCB_ATOM_WINDOW);
@@ -159,8 +159,8 @@ std::optional<X11WindowReader::Window> X11WindowReader::readOne(xcb_window_t win
     read.hints.windowClass = QString::fromUtf8(classParts.value(1)).trimmed();
     read.hints.applicationId = text(gtk.get());
     if (read.hints.applicationId.isEmpty()) read.hints.applicationId = text(kde.get());
-    // A process number from another machine would name a stranger here, and the server knows only
-    // the program that forwards such a window.
+    // A process id from another machine would name the wrong process here, and the server knows
+    // only the forwarding program.
     if (id && *id > 0 && text(machine.get()) == QString::fromLocal8Bit(m_host))
         read.hints.processId = *id;
     return read;

@@ -1,4 +1,4 @@
-// Reads what a top-level window says about its application.
+// The reader of a top-level window's application hints.
 #pragma once
 
 #include "platform/WindowHints.h"
@@ -14,38 +14,37 @@ namespace vantle {
 
 class X11Connection;
 
-/// Main thread. All properties of a window are asked for at once, so a window costs one round trip,
-/// and each dialog on top of another window one more.
+/// Requests all properties of a window at once: one round trip per window, and one more for each
+/// dialog above another. Main thread.
 class X11WindowReader {
 public:
-    /// Asks the server for the atoms. `connection` must outlive this.
+    /// Asks the server for atoms. `connection` must outlive this object.
     explicit X11WindowReader(X11Connection& connection);
 
-    /// The property of the root window that names the active window.
+    /// The root window's property that names the active window.
     [[nodiscard]] xcb_atom_t activeWindowAtom() const { return m_atoms[ActiveWindow]; }
 
-    /// The active window; XCB_NONE when there is none, or no window manager that says so.
+    /// Returns the active window; XCB_NONE without one, or without a window manager that reports
+    /// it.
     [[nodiscard]] xcb_window_t activeWindow();
 
-    /// The property of the root window that lists what the window manager supports.
+    /// The root window's property that lists supported features.
     [[nodiscard]] xcb_atom_t supportedAtom() const { return m_atoms[Supported]; }
 
-    /// Whether the window manager says which window is active.
+    /// Whether the window manager reports the active window.
     [[nodiscard]] bool tellsActiveWindow();
 
-    /// The hints of the application that the window belongs to: a dialog answers with those of the
-    /// window that it stands over. Empty for docks, desktops and windows outside the window
-    /// manager's care, and when the window is gone.
+    /// Returns the hints of the window's application; a dialog has those of its parent. Empty for
+    /// docks, desktops, unmanaged and destroyed windows.
     ///
-    /// The process is the one that the server knows: inside a sandbox a program can only tell its
-    /// number in there. Without the server's extension it is what the program tells.
+    /// The process id is the server's, since inside a sandbox a program knows another one. Without
+    /// the server's extension it is the program's.
     [[nodiscard]] std::optional<WindowHints> read(xcb_window_t window);
 
-    /// What the window with the keyboard tells of itself, whatever kind of window it is. Empty when
-    /// no window has the keyboard.
+    /// Returns the hints of the focused window of any kind; empty when no window has the focus.
     [[nodiscard]] std::optional<WindowHints> readFocus();
 
-    /// Whether a change of that property may change what `read` tells.
+    /// Whether a change of that property may change the result of `read`.
     [[nodiscard]] bool isIdentity(xcb_atom_t property) const;
 
 private:

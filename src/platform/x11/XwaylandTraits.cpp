@@ -10,8 +10,8 @@ namespace vantle {
 
 namespace {
 
-/// Name of the extension, which servers have from version 23.1 on, and beginning of the names that
-/// all versions give to their outputs.
+/// The name of an extension of servers from version 23.1 on, and the prefix of output names in all
+/// versions.
 constexpr std::string_view kXwayland = "XWAYLAND";
 
 bool hasExtension(X11Connection& x11) {
@@ -42,7 +42,7 @@ bool hasOutput(X11Connection& x11) {
 
 XwaylandTraits xwaylandTraits(X11Connection& x11) {
     if (!x11.isAlive()) return {};
-    // Older servers keep the regions to themselves.
+    // Older servers do not pass input regions on.
     if (hasExtension(x11)) return {.isXwayland = true, .passesInputRegions = true};
     if (hasOutput(x11)) return {.isXwayland = true, .passesInputRegions = false};
     return {};

@@ -1,4 +1,4 @@
-// Whether the X server is one beside a Wayland compositor, and what it can do then.
+// The differences of an Xwayland server.
 #pragma once
 
 namespace vantle {
@@ -6,16 +6,16 @@ namespace vantle {
 class X11Connection;
 
 struct XwaylandTraits {
-    /// Then the server sees only the input that goes to X11 windows, knows only them, and places
-    /// the pointer only while it is over one.
+    /// Xwayland sees only input to X11 windows, knows only those windows, and knows the pointer
+    /// only over them.
     bool isXwayland = false;
-    /// Whether the compositor is told which part of a window feels the pointer.
+    /// Whether the server passes input regions on to the compositor.
     bool passesInputRegions = true;
 };
 
-/// Asks the server, not the environment: a program that the session bus started may have no
-/// variable of its session, and one of a Wayland session may be pointed at another X server. A few
-/// round trips. A server that is gone is a plain one.
+/// Asks the server instead of the environment: a program started by the session bus may lack the
+/// variables, and one in a Wayland session may use another X server. A few round trips. A lost
+/// server counts as a plain one. Main thread.
 [[nodiscard]] XwaylandTraits xwaylandTraits(X11Connection& x11);
 
 } // namespace vantle
