@@ -1,4 +1,4 @@
-// a bool
+// The reduced motion setting in the settings portal.
 #pragma once
 
 #include "platform/session/PortalSettings.h"

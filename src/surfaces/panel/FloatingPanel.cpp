@@ -7,7 +7,7 @@ namespace vantle {
 
 namespace {
 
-/// The item that has the focus as soon as the window has the keyboard.
+/// Returns the item that is focused once the window has the keyboard.
 QQuickItem* focusItem(QQuickItem* scope) {
     QQuickItem* item = scope;
     while (item->isFocusScope() && item->scopedFocusItem() != nullptr)
@@ -108,7 +108,7 @@ void FloatingPanel::returnKeyboard() {
 
 bool FloatingPanel::event(QEvent* event) {
     const bool isPress = event->type() == QEvent::MouseButtonPress;
-    // Delivering the press to an item turns its place into the item's own.
+    // Delivering a press converts its position to the item's coordinates, so it is read first.
     const QPointF place = isPress ? static_cast<const QMouseEvent*>(event)->position() : QPointF();
     const bool handled = QQuickView::event(event);
     if (isPress) takeKeyboardForField(place);
@@ -124,20 +124,20 @@ bool FloatingPanel::event(QEvent* event) {
 }
 
 void FloatingPanel::takeKeyboardForField(QPointF place) {
-    // A field that is pressed has asked for the focus by now.
+    // A pressed field has requested the focus by now.
     const QQuickItem* const field = focusItem(contentItem());
     if (takesText(field) && field->contains(field->mapFromScene(place))) takeKeyboard();
 }
 
 void FloatingPanel::resizeEvent(QResizeEvent* event) {
-    QQuickView::resizeEvent(event); // gives the view the size of the window
+    QQuickView::resizeEvent(event); // resizes the view
     placeView();
     applyRegions();
 }
 
 void FloatingPanel::exposeEvent(QExposeEvent* event) {
     QQuickView::exposeEvent(event);
-    // Qt writes the whole window as the input region when it maps it.
+    // Qt resets the input region to the whole window when it maps it.
     if (isExposed() && !m_wasExposed) applyRegions();
     m_wasExposed = isExposed();
 }
@@ -150,7 +150,7 @@ void FloatingPanel::hideEvent(QHideEvent* event) {
 void FloatingPanel::applyRegions() {
     if (handle() == nullptr) return;
     const QRegion shape = m_composited ? QRegion() : m_placement.opaque.translated(-m_offset);
-    if (shape != mask()) setMask(shape); // an empty one sets no limits
+    if (shape != mask()) setMask(shape); // an empty mask sets no limits
     if (m_placement.felt && m_host.hasInputRegions())
         m_host.setInputRegion(*this, *m_placement.felt);
 }

@@ -1,5 +1,5 @@
-// The ground of a card, a toast or a panel in its window: its place, its shadow, and how it comes
-// and goes. The window is larger than the ground by the room that the shadow takes.
+// The background of a card, toast or panel in its window, with shadow and transitions. The window
+// is larger by the room for the shadow.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -10,7 +10,7 @@ PanelRoot {
 
     property int inTime: DarkUI.cardInTime
     property int outTime: DarkUI.cardOutTime
-    property int drop: DarkUI.cardRise // px that it comes down by
+    property int drop: DarkUI.cardRise // px that it moves down on entry
     property real radius: DarkUI.radiusFloating
     property ShadowToken shadow: DarkUI.shadowFloating
     property real groundWidth: DarkUI.cardWidth
@@ -18,7 +18,7 @@ PanelRoot {
     readonly property real aside: composited ? shadow.blur : 0
     readonly property real above: composited ? Math.max(0, shadow.blur - shadow.offset) : 0
     readonly property real below: composited ? shadow.blur + shadow.offset : 0
-    readonly property real shown: ground.shown // 0 to 1, while it comes and goes
+    readonly property real shown: ground.shown // 0 to 1, during transitions
     default property alias content: inside.data
 
     moveTime: DarkUI.toastMoveTime
@@ -27,7 +27,7 @@ PanelRoot {
     implicitHeight: groundHeight + above + below
     enabled: up
     focus: true
-    // It may have to go before anything of it was seen.
+    // It may be dismissed before it was visible.
     onUpChanged: if (!up && shown === 0) surface.gone()
 
     GlassBackground {
@@ -48,7 +48,7 @@ PanelRoot {
 
         Behavior on shown {
             NumberAnimation {
-                // Without a compositor there is nothing to fade into.
+                // Without a compositor it cannot fade.
                 duration: !surface.composited ? 0 : surface.up ? surface.inTime : surface.outTime
                 easing.type: Easing.OutCubic
             }

@@ -1,4 +1,4 @@
-// The root item of everything that stands in a FloatingPanel.
+// The root item of a view in a FloatingPanel.
 #pragma once
 
 #include <QQmlEngine>
@@ -6,21 +6,21 @@
 
 namespace vantle {
 
-/// What a view and its window tell each other. A focus scope, like the root of any view that takes
-/// keys. Main thread.
+/// The interface between view and window. A focus scope, like the root of every view with keys.
+/// Main thread.
 class PanelRoot : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
-    /// From the window: whether what is transparent shows what lies below. If not, the view draws
-    /// its ground alone, with square corners.
+    /// Set by the window: whether transparent parts show what is below. Otherwise the view draws
+    /// only its background, with square corners.
     Q_PROPERTY(bool composited MEMBER m_composited NOTIFY compositedChanged)
-    /// From the window: set once it is shown, and cleared when the view is to go.
+    /// Set by the window once it is shown; cleared to dismiss the view.
     Q_PROPERTY(bool up MEMBER m_up NOTIFY upChanged)
-    /// From the window, in px: what the screen leaves for the ground's height.
+    /// Set by the window, in px: the height available on the screen.
     Q_PROPERTY(int maximumHeight MEMBER m_maximumHeight NOTIFY maximumHeightChanged)
-    /// From the view, in px of its own: what the user sees of it, without its shadow.
+    /// Set by the view, in its px: the visible part without the shadow.
     Q_PROPERTY(QRectF groundRect MEMBER m_groundRect NOTIFY groundRectChanged)
-    /// From the view, in ms: how long its window takes to glide out of the way of another.
+    /// Set by the view, in ms: how long the window takes to slide out of another one's way.
     Q_PROPERTY(int moveTime MEMBER m_moveTime NOTIFY moveTimeChanged)
 
 public:
@@ -34,7 +34,7 @@ public:
     [[nodiscard]] bool isUp() const { return m_up; }
     void setMaximumHeight(int height);
     [[nodiscard]] QRect ground() const { return m_groundRect.toRect(); }
-    /// The room for the shadow, around the ground.
+    /// The room for the shadow.
     [[nodiscard]] QMargins room() const;
     [[nodiscard]] int moveTime() const { return m_moveTime; }
 
@@ -44,8 +44,8 @@ Q_SIGNALS:
     void maximumHeightChanged();
     void groundRectChanged();
     void moveTimeChanged();
-    void dismissed(); ///< the user wants it gone
-    void gone();      ///< it was to go, and can't be seen any more
+    void dismissed(); ///< the user wants it closed
+    void gone();      ///< dismissed, and no longer visible
 
 private:
     bool m_composited = true;

@@ -10,7 +10,7 @@ namespace vantle {
 
 namespace {
 
-/// Skill::paletteNames as sources of texts.
+/// Skill::paletteNames as source texts for translation.
 [[maybe_unused]] constexpr const char* kColorNames[] = {
     QT_TRANSLATE_NOOP("Words", "Red"),    QT_TRANSLATE_NOOP("Words", "Orange"),
     QT_TRANSLATE_NOOP("Words", "Violet"), QT_TRANSLATE_NOOP("Words", "Green"),
@@ -55,7 +55,7 @@ void SkillEditor::commit() {
 void SkillEditor::close() {
     if (!std::exchange(m_shown, false)) return;
     m_editingSkillId.reset();
-    // Gone before its name is: a screen reader would tell of a field that was emptied.
+    // Emitted before the name is cleared: a screen reader would otherwise report an emptied field.
     Q_EMIT shownChanged();
     m_name.clear();
     Q_EMIT nameChanged();

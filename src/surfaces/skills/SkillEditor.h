@@ -1,4 +1,4 @@
-// The editor of one skill: its name, its colour, or both.
+// The editor of a skill's name and colour.
 #pragma once
 
 #include "tracking/Skill.h"
@@ -15,15 +15,14 @@
 
 namespace vantle {
 
-/// Holds what the user has typed and chosen until they commit or close it, also while its surface
-/// is hidden. Whether a name is taken is not known here, only whether it is long enough; one that
-/// is too long is cut. Main thread.
+/// Keeps the user's input until commit or close, also while its surface is hidden. Knows the
+/// minimum length of a name, not whether it is taken; cuts a name that is too long. Main thread.
 class SkillEditor final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the models of the surfaces.")
     Q_PROPERTY(bool shown READ isShown NOTIFY shownChanged)
-    /// It adds a skill; else it changes one.
+    /// Whether it adds a skill; otherwise it changes one.
     Q_PROPERTY(bool adding READ isAdding NOTIFY shownChanged)
     Q_PROPERTY(bool hasName READ hasName NOTIFY shownChanged)
     Q_PROPERTY(bool hasColors READ hasColors NOTIFY shownChanged)
@@ -34,33 +33,33 @@ class SkillEditor final : public QObject {
     Q_PROPERTY(bool canCommit READ canCommit NOTIFY nameChanged)
     Q_PROPERTY(QColor color READ color NOTIFY colorChanged)
     Q_PROPERTY(QList<QColor> palette READ palette CONSTANT)
-    /// Read out for the colours, in the order of the palette.
+    /// For screen readers, in palette order.
     Q_PROPERTY(QList<QString> colorNames READ colorNames CONSTANT)
-    /// Which colour of the palette is chosen; -1 for one that is not in it.
+    /// The index of the chosen palette colour; -1 for another colour.
     Q_PROPERTY(int colorIndex READ colorIndex NOTIFY colorChanged)
 
 public:
-    /// What of a skill is edited.
+    /// Which properties are edited.
     enum class Fields { Both, Name, Color };
 
-    /// What is done with a finished edit: the id is empty when a skill is added.
+    /// Takes a finished edit; the id is empty for a new skill.
     using Commit =
         std::function<void(const std::optional<QString>& id, const QString& name, std::uint32_t)>;
 
-    /// A name with fewer characters than `shortestName` can't be committed.
+    /// A name shorter than `shortestName` cannot be committed.
     explicit SkillEditor(Commit commit, int shortestName = 1)
         : m_commit(std::move(commit))
         , m_shortestName(shortestName) {}
 
-    /// Opens with what the skill has. What is not edited stays as it is.
+    /// Opens with the skill's values.
     void openFor(const Skill& skill, Fields fields = Fields::Both);
-    /// Opens empty, with the first colour of the palette that none of the skills has.
+    /// Opens empty, with the first palette colour that no skill uses.
     void openNew(const std::vector<Skill>& skills = {});
 
-    /// Hands the edit over and closes; nothing while the name is too short. The name is trimmed.
+    /// Commits the trimmed name and closes; has no effect while the name is too short.
     Q_INVOKABLE void commit();
     Q_INVOKABLE void close();
-    /// Chooses a colour of the palette.
+    /// Chooses a palette colour.
     Q_INVOKABLE void chooseColor(int index);
 
     [[nodiscard]] bool isShown() const { return m_shown; }
@@ -82,9 +81,9 @@ Q_SIGNALS:
     void shownChanged();
     void nameChanged();
     void colorChanged();
-    /// The editor is shown: the keyboard belongs to the name.
+    /// The editor was shown: the name gets the keyboard.
     void opened();
-    /// The editor is gone from its surface.
+    /// The editor was removed from its surface.
     void closed();
 
 private:

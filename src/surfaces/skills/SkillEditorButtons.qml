@@ -1,4 +1,4 @@
-// What ends an edit: taking it back, or handing it over in the skill's colour.
+// The buttons of an edit: cancel, or commit in the skill's colour.
 import QtQuick
 import Vantle.Kit
 import Vantle.Skills

@@ -21,7 +21,7 @@ QVariant SkillListModel::data(const QModelIndex& index, int role) const {
     case Selected:
         return skill.id == m_selectedId;
     case Deletable:
-        return m_skills.size() > 1; // one has to stay
+        return m_skills.size() > 1; // one must remain
     default:
         return {};
     }

@@ -1,4 +1,4 @@
-// The modes to choose from, as chips.
+// The list of skills, as chips.
 #pragma once
 
 #include "tracking/Skill.h"
@@ -10,7 +10,7 @@
 
 namespace vantle {
 
-/// One row a skill, in the stored order. Main thread.
+/// One row per skill, in stored order. Main thread.
 class SkillListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -23,7 +23,7 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    /// Rows that stay are kept, so that a chip does not lose the keyboard by being chosen.
+    /// Updates in place, so that a chosen chip keeps the keyboard focus.
     void show(const std::vector<Skill>& skills, const QString& selectedId);
 
 private:

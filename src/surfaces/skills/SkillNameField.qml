@@ -1,5 +1,4 @@
-// The field of a skill's name, cut where it is too long. It takes the keyboard when the editor
-// opens.
+// The field of a skill's name with its length limit. Focused when the editor opens.
 import QtQuick
 import Vantle.Kit
 import Vantle.Skills
@@ -19,7 +18,7 @@ DarkTextField {
         function onOpened(): void {
             if (!field.visible)
                 return;
-            field.text = field.editor.name; // cutting has ended the binding
+            field.text = field.editor.name; // the length limit has replaced the binding
             field.input.forceActiveFocus(Qt.OtherFocusReason);
             field.selectAll();
         }

@@ -1,4 +1,4 @@
-// The colours that a skill may have.
+// The colours for a skill.
 import QtQuick
 import Vantle.Kit
 import Vantle.Skills

@@ -1,4 +1,4 @@
-// The root item of the frame of a window.
+// The root item of a window's frame.
 #pragma once
 
 #include "surfaces/window/WindowShell.h"
@@ -11,25 +11,25 @@
 
 namespace vantle {
 
-/// What the frame and its window tell each other. Main thread.
+/// The interface between frame and window. Main thread.
 class FrameRoot : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
-    // From the window, before the frame is complete.
+    // Set by the window before the frame is complete.
     Q_PROPERTY(vantle::WindowShell* shell MEMBER shell CONSTANT)
-    /// In the strip; empty where the view opens with a title itself.
+    /// For the strip; empty where the view has its own title.
     Q_PROPERTY(QString title MEMBER title CONSTANT)
     Q_PROPERTY(bool resizable MEMBER resizable CONSTANT)
-    /// Of the view, in px; 0 means what it asks for.
+    /// Of the view, in px; 0 means its implicit height.
     Q_PROPERTY(int minimumHeight MEMBER minimumHeight CONSTANT)
     Q_PROPERTY(QUrl view MEMBER view CONSTANT)
     Q_PROPERTY(QObject* model MEMBER model CONSTANT)
-    // From the window, at any time.
+    // Set by the window at any time.
     /// Whether the corners may be transparent.
     Q_PROPERTY(bool rounded READ isRounded NOTIFY roundedChanged)
     /// Whether the window manager minimises windows.
     Q_PROPERTY(bool minimisable READ isMinimisable NOTIFY minimisableChanged)
-    /// From the frame: whether it shows the view.
+    /// Set by the frame: whether it shows the view.
     Q_PROPERTY(bool ready MEMBER m_ready NOTIFY readyChanged)
 
 public:

@@ -23,11 +23,11 @@ namespace {
 constexpr int kStripHeight = look::kLengths.stripHeight;
 constexpr int kMinContentHeight = 320; // of a resizable window
 
-/// How long a window has to rest before its frame is kept: a crash or a power cut loses no more.
+/// How long a window must rest before its frame is saved, which is what a crash can lose.
 constexpr Seconds kFrameRest{1.0};
 
-/// Hands what the allocator holds free back to the system; the allocator by itself keeps most of
-/// it. Takes about a millisecond.
+/// Returns the allocator's free memory to the system, which it mostly keeps otherwise. Takes about
+/// a millisecond.
 void trimHeap() {
 #ifdef __GLIBC__
     malloc_trim(0);
@@ -58,7 +58,7 @@ bool ManagedWindow::show() {
 
 bool ManagedWindow::open() {
     auto shell = std::make_unique<WindowShell>(m_env.engine.acquire(), m_env.windowManager);
-    // Queued: the view that asks for it is destroyed by it.
+    // Queued, since it destroys the view that requests it.
     const auto closeLater = [window = QPointer(this)] {
         if (window) QMetaObject::invokeMethod(window, &ManagedWindow::close, Qt::QueuedConnection);
     };
@@ -117,7 +117,7 @@ void ManagedWindow::refit() {
     const auto screens = m_env.screens.all();
     const QRect wanted(m_shell->position(), m_shell->fittingSize());
     const QRect frame = windowplacement::onScreen(wanted, screens).value_or(wanted);
-    // In an order that never asks for a size outside the bounds of the moment.
+    // In an order that keeps the size within the bounds at each step.
     m_shell->setMinimumSize(frame.size().boundedTo(m_shell->size()));
     m_shell->setMaximumSize(frame.size().expandedTo(m_shell->size()));
     m_env.windowManager.place(*m_shell, frame);
@@ -132,9 +132,9 @@ void ManagedWindow::keepFrameSoon() {
 
 void ManagedWindow::keepFrame() {
     m_frameTimer.reset();
-    // A window that was not moved keeps nothing: after all data was erased none comes back.
+    // A window that was not moved saves nothing: erased data must not come back.
     if (!m_rules.frame || m_shell->geometry() == m_placedFrame) return;
-    // A maximised window comes back as large as it was.
+    // A maximised window is maximised again.
     if (m_shell->windowStates() & (Qt::WindowMinimized | Qt::WindowFullScreen)) return;
     m_placedFrame = m_shell->geometry();
     m_rules.frame->write(m_env.preferences, windowplacement::encode(m_placedFrame));

@@ -1,4 +1,4 @@
-// One of the program's windows: opened, brought to the front, closed.
+// One of the program's windows, open or closed.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -18,7 +18,7 @@ class SharedEngine;
 class WindowManager;
 class WindowShell;
 
-/// What windows work with. All of it must outlive them.
+/// The services of windows. All of them must outlive them.
 struct WindowEnvironment {
     SharedEngine& engine;
     Preferences& preferences;
@@ -26,11 +26,11 @@ struct WindowEnvironment {
     PanelHost& host;
     WindowManager& windowManager;
     Scheduler& scheduler;
-    std::function<void()> quit = {}; ///< what the program's own key for its end does
+    std::function<void()> quit = {}; ///< runs on the Quit key
 };
 
-/// Closed there is nothing but this record; open there is a window, a view tree and a view model,
-/// all made anew at each opening. Main thread.
+/// Only a record while closed; window, view tree and view model are created at each opening. Main
+/// thread.
 class ManagedWindow : public QObject {
     Q_OBJECT
 
@@ -40,14 +40,14 @@ public:
                   WindowContent content);
     ~ManagedWindow() override;
 
-    /// Opens the window, or brings it to the front. False when its view is no good.
+    /// Opens the window, or raises it. Returns false for an invalid view.
     bool show();
 
-    /// Closes the window and gives its memory back. Nothing while it is closed.
+    /// Closes the window and frees its memory. Has no effect while closed.
     void close();
 
     [[nodiscard]] bool isOpen() const { return m_shell != nullptr; }
-    /// Null while it is closed.
+    /// Null while closed.
     [[nodiscard]] QWindow* window() const;
 
 Q_SIGNALS:
@@ -65,7 +65,7 @@ private:
     const WindowRules& m_rules;
     WindowContent m_content;
     WindowShell* m_shell = nullptr; ///< deletes itself after closing
-    QRect m_placedFrame;            ///< where it was put when it opened, or kept last
+    QRect m_placedFrame;            ///< the frame as opened, or as last saved
     TimerHandle m_frameTimer;
 };
 

@@ -1,4 +1,4 @@
-// The edges and corners by which a window is made larger or smaller.
+// The edges and corners that resize a window.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

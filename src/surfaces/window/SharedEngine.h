@@ -1,4 +1,4 @@
-// The one QML engine of the program's views.
+// The shared QML engine of all views.
 #pragma once
 
 #include <functional>
@@ -8,19 +8,19 @@ class QQmlEngine;
 
 namespace vantle {
 
-/// Made for the first view and gone with the last: at rest the program holds no engine. Whoever
-/// shows a view keeps what acquire() gave until the view is destroyed. Main thread.
+/// Created for the first view and destroyed with the last, so the idle program has no engine. The
+/// owner of a view keeps acquire()'s result until the view is destroyed. Main thread.
 class SharedEngine {
 public:
-    /// `prepare` runs at each acquire(), before the view is made: for what views have to know.
+    /// `prepare` runs in each acquire(), before the view is created.
     explicit SharedEngine(std::function<void(QQmlEngine&)> prepare = {});
 
     [[nodiscard]] std::shared_ptr<QQmlEngine> acquire();
 
-    /// Runs `prepare` on the engine that there is, for what has changed under views that stand.
+    /// Runs `prepare` on the existing engine, to update open views.
     void refresh();
 
-    /// Whether somebody holds an engine.
+    /// Whether an engine exists.
     [[nodiscard]] bool isAlive() const { return !m_engine.expired(); }
 
 private:

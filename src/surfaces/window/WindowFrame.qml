@@ -1,4 +1,4 @@
-// The frame of every window: ground, title strip, edges, and the view below the strip.
+// The frame of every window: background, title strip, edges, view.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -21,8 +21,8 @@ FrameRoot {
         composited: frame.rounded
     }
 
-    // Any empty place moves the window. The window manager is asked once: asked again after the
-    // release, it would hold on to the pointer.
+    // Any empty area moves the window. The request is sent once: a second one after the release
+    // would keep the pointer grabbed.
     MouseArea {
         property point pressedAt
         property bool asked: false
@@ -41,7 +41,7 @@ FrameRoot {
         }
     }
 
-    // Where the screen is too low for the view, it scrolls under the strip.
+    // The view scrolls under the strip when the screen is too low.
     Flickable {
         id: area
         y: DarkUI.stripHeight

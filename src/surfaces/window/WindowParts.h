@@ -1,4 +1,4 @@
-// What the view models of windows are made from.
+// The objects from which window view models are made.
 #pragma once
 
 #include "base/Calendar.h"
@@ -22,7 +22,7 @@ class SkillList;
 class WindowRouter;
 struct Platform;
 
-/// All of it must outlive the windows.
+/// All of them must outlive the windows. Main thread.
 struct WindowParts {
     const Platform& platform;
     AppModel& model;
@@ -32,12 +32,12 @@ struct WindowParts {
     Scheduler& scheduler;
     std::function<Calendar()> calendar;
     WindowRouter& router;
-    AutoRules& autoRules; ///< of auto mode
+    AutoRules& autoRules; ///< auto mode's
     FocusLink& focusLink;
     const AppPaths& paths;
     SerialQueue& ioQueue;
     PosterSharing& posterSharing;
-    std::function<void(const QString& text)> copy; ///< puts it into the clipboard
+    std::function<void(const QString& text)> copy; ///< copies to the clipboard
 };
 
 } // namespace vantle

@@ -33,7 +33,7 @@ void WindowRouter::showWrapped(std::optional<WrappedPeriod> startingOn) {
 }
 
 void WindowRouter::showByAction(const QString& action) {
-    if (action.isEmpty()) return; // as that of a window without one
+    if (action.isEmpty()) return; // windows without an action have an empty one
     const auto found = std::ranges::find_if(
         m_windows, [&](const auto& entry) { return entry->spec.action == action; });
     if (found != m_windows.end()) show((*found)->spec.id);

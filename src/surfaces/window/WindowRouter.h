@@ -1,4 +1,4 @@
-// Owns the program's windows and opens them.
+// The windows of the program, by id.
 #pragma once
 
 #include "review/stats/WrappedPeriod.h"
@@ -13,7 +13,7 @@ namespace vantle {
 
 class NotificationCenter;
 
-/// A window that was not added does not open, and nothing else happens. Main thread.
+/// Owns the windows and opens them. Has no effect for an unknown window. Main thread.
 class WindowRouter : public QObject {
     Q_OBJECT
 
@@ -26,26 +26,26 @@ public:
 
     void show(WindowId id);
     void showWrapped(std::optional<WrappedPeriod> startingOn);
-    /// Opens the window of that action on the bus; nothing happens when there is none.
+    /// Opens the window with that bus action, if any.
     void showByAction(const QString& action);
 
-    /// The windows that have a row in the command center, in the order in which they were added.
+    /// Returns the windows with a row in the command center, in the order of add().
     [[nodiscard]] std::vector<const WindowSpec*> doors() const;
 
-    /// The period on which the review was asked to open; its view model reads it when it is made.
+    /// The period requested for the review; its view model reads it on construction.
     [[nodiscard]] std::optional<WrappedPeriod> wrappedInitialPeriod() const {
         return m_wrappedInitialPeriod;
     }
 
-    /// Takes an open window from the screen with all that it holds; to show it brings it back.
+    /// Hides an open window with its content; showing it restores it.
     void orderOut(WindowId id);
     void close(WindowId id);
     [[nodiscard]] bool isOpen(WindowId id) const;
-    /// Null while it is closed.
+    /// Null while closed.
     [[nodiscard]] QWindow* window(WindowId id) const;
 
 Q_SIGNALS:
-    /// A window has opened, or came to the front.
+    /// A window opened or was raised.
     void shown(WindowId id);
 
 private:
@@ -55,7 +55,7 @@ private:
             , window(environment, spec.rules, spec.content) {}
 
         const WindowSpec spec;
-        ManagedWindow window; ///< works by the rules of the spec
+        ManagedWindow window; ///< refers to the rules of the spec
     };
 
     void open(WindowId id);

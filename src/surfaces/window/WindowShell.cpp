@@ -66,7 +66,7 @@ QSize WindowShell::fittingSize() const {
 
 bool WindowShell::event(QEvent* event) {
     if (event->type() == QEvent::Close) {
-        // The owner decides; by then the window is hidden and on its way out.
+        // The owner decides; it hides and deletes the window later.
         event->ignore();
         Q_EMIT closeRequested();
         return true;
@@ -96,7 +96,7 @@ void WindowShell::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void WindowShell::mouseReleaseEvent(QMouseEvent* event) {
-    // Of a quick movement the first event told, which began this, may be the last one as well.
+    // The event that started a quick movement may also be its last.
     if (m_held) dragTo(event->globalPosition().toPoint());
     m_held.reset();
     QQuickWindow::mouseReleaseEvent(event);

@@ -1,4 +1,4 @@
-// The desktop's side of a managed window, with its view tree.
+// The toplevel of a managed window, with its view tree.
 #pragma once
 
 #include <QQuickWindow>
@@ -15,9 +15,8 @@ class FrameRoot;
 class WindowManager;
 struct WindowRules;
 
-/// A window without the desktop's frame, which has a place in the task bar and takes the keyboard
-/// as any other. It owns the view tree, then the view model, then its share of the engine, and
-/// gives them up in this order. Main thread.
+/// A window without the desktop's frame, with a task bar entry and normal keyboard focus. Owns view
+/// tree, view model and a share of the engine, destroyed in this order. Main thread.
 class WindowShell : public QQuickWindow {
     Q_OBJECT
     QML_ELEMENT
@@ -28,37 +27,37 @@ public:
     WindowShell(std::shared_ptr<QQmlEngine> engine, WindowManager& windowManager);
     ~WindowShell() override;
 
-    /// Makes the frame with the view in it. False when the view is no good. `rounded` says that the
-    /// corners may be transparent.
+    /// Creates the frame with the view. Returns false for an invalid view. `rounded` allows
+    /// transparent corners.
     [[nodiscard]] bool load(const WindowRules& rules, const QUrl& view,
                             std::unique_ptr<QObject> model, bool rounded);
 
-    /// Whether the corners may be transparent from now on. After load().
+    /// Allows or forbids transparent corners. Requires load().
     void setRounded(bool rounded);
 
-    /// Whether the strip has a button that minimises. After load().
+    /// Shows or hides the minimise button. Requires load().
     void setMinimisable(bool minimisable);
 
-    /// What the frame asks for: the view's own size and the strip. After load().
+    /// The size that the frame requests: the view's own plus the strip. Requires load().
     [[nodiscard]] QSize fittingSize() const;
-    /// The view model. After load().
+    /// The view model. Requires load().
     [[nodiscard]] QObject& model() const { return *m_model; }
 
-    // What the frame's strip and edges do, with a button of the pointer down. Where the window
-    // manager does neither, the window follows the pointer by itself until the release.
+    // Called by the frame's strip and edges with a button down. Where the window manager does
+    // neither, the window follows the pointer itself until the release.
     Q_INVOKABLE void beginMove();
     Q_INVOKABLE void beginResize(int edges);
     Q_INVOKABLE void minimise() { showMinimized(); }
-    /// Asks the owner; the window goes after the present handler.
+    /// Asks the owner, which closes the window after the current handler.
     Q_INVOKABLE void requestClose() { Q_EMIT closeRequested(); }
     Q_INVOKABLE void requestQuit() { Q_EMIT quitRequested(); }
 
 Q_SIGNALS:
-    /// The person or the desktop wants the window closed.
+    /// The user or the desktop wants the window closed.
     void closeRequested();
-    /// The person pressed the program's own key for its end.
+    /// The user pressed the Quit key.
     void quitRequested();
-    /// The view asks for another size.
+    /// The view requests another size.
     void fittingSizeChanged();
 
 protected:
@@ -71,7 +70,7 @@ protected:
 private:
     void dragTo(QPoint pointer);
 
-    /// Where the pointer and the window were at the last press.
+    /// Pointer and window positions at the last press.
     struct Press {
         QPoint pointer;
         QRect frame;
@@ -82,7 +81,7 @@ private:
     WindowManager& m_windowManager;
     std::unique_ptr<FrameRoot> m_frame;
     Press m_press;
-    std::optional<Qt::Edges> m_held; ///< what follows the pointer by hand; no edges move all of it
+    std::optional<Qt::Edges> m_held; ///< edges being dragged; none of them moves the window
 };
 
 } // namespace vantle

@@ -52,7 +52,7 @@ void addLines(QAccessibleInterface& told, QStringList& lines) {
     const auto role = told.role();
     if (!name.isEmpty() && (role == QAccessible::Heading || role == QAccessible::StaticText ||
                             role == QAccessible::Graphic || role == QAccessible::ListItem)) {
-        // Parts of a sentence are often items of their own beside it.
+        // Parts of a sentence are often separate items beside it.
         const bool isSaid = std::ranges::any_of(
             lines, [&name](const QString& line) { return line.contains(name); });
         if (!isSaid) lines << name;

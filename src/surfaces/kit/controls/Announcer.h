@@ -1,4 +1,4 @@
-// A message that screen readers speak as it comes, whatever has the focus.
+// Announcements for screen readers, independent of the focus.
 #pragma once
 
 #include <QObject>
@@ -8,26 +8,25 @@
 
 namespace vantle {
 
-/// A notification in the accessibility tree, shown again with each message: the one event that
-/// this toolkit can send and that readers speak for an application in the background. (A role of
-/// AlertMessage alone does nothing.) It has no window and nothing to be seen, so that a message
-/// comes through while the program shows nothing at all. Must outlive its message by the moment in
-/// which a reader asks for it. Main thread.
+/// A notification in the accessibility tree, shown again for each message: the only event that this
+/// Qt can send and that readers speak for a background application. (The role AlertMessage alone
+/// has no effect.) It needs no window, so it works while the program shows nothing. Must live until
+/// a reader has fetched the message, a moment later. Main thread.
 class Announcer : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    /// For views: each text that differs from the one before is announced, unless it is empty.
+    /// For views: announces each new text unless it is empty.
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
 
 public:
     explicit Announcer(QObject* parent = nullptr) : QObject(parent) {}
     ~Announcer() override;
 
-    /// Announces the text, also when it is the one before.
+    /// Announces the text, even if it is unchanged.
     Q_INVOKABLE void say(const QString& text);
 
-    /// What a view says, in the order in which it is read: its headings, lines and pictures. Empty
-    /// while no reader is there.
+    /// Returns a view's texts in reading order: headings, lines, pictures. Empty when no reader
+    /// runs.
     Q_INVOKABLE [[nodiscard]] static QString linesOf(QQuickItem* view);
 
     [[nodiscard]] const QString& text() const { return m_text; }

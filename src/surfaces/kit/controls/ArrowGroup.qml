@@ -1,5 +1,5 @@
-// Makes controls that stand together one stop of the Tab key; the arrow keys lead from one to the
-// next, Home and End to the first and the last. Its children, or those of `list`, are the stops.
+// Makes a group of controls a single stop of the Tab key. Arrow keys move between them, Home and
+// End go to the first and the last. The stops are its children, or those of `list`.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,7 +8,7 @@ FocusScope {
     id: group
 
     property Item list: group
-    property int current: 0 // the stop that Tab leads to
+    property int current: 0 // the stop that Tab reaches
     property bool wraps: false
     signal moved(int index) // by an arrow key
 
@@ -21,12 +21,12 @@ FocusScope {
         }
         return found;
     }
-    // Only one of them is in the order of the Tab key. It comes first: the one that has the focus
-    // can't leave that order.
+    // Keeps exactly one stop in the Tab order. Adds the new one first: the focused item cannot
+    // leave the order.
     function refresh(): void {
         const all = stops();
         if (all.length === 0)
-            return; // they are still to come
+            return; // not created yet
         current = Math.max(0, Math.min(current, all.length - 1));
         all[current].activeFocusOnTab = true;
         all[current].focus = true;
@@ -70,7 +70,7 @@ FocusScope {
             event.accepted = false;
         }
     }
-    // Hidden stops are none: a group that is made hidden finds its own when it is shown.
+    // Hidden items are no stops: a hidden group finds its stops when it is shown.
     onVisibleChanged: refresh()
     Component.onCompleted: refresh()
 }

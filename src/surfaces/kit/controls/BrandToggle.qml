@@ -1,4 +1,4 @@
-// A switch. It shows `checked` and asks for a change by toggled(); whoever owns the state changes
+// A switch. Shows `checked` and requests a change with toggled(); the owner of the state changes
 // it.
 pragma ComponentBehavior: Bound
 import QtQuick

@@ -1,4 +1,4 @@
-// A card on the ground. No card stands in a card.
+// A card on the background. Cards are not nested.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// The caret of a text field. It blinks as the desktop says, and stands still with reduced motion.
+// The caret of a text field. Blinks at the desktop's rate; steady with reduced motion.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -12,7 +12,7 @@ Rectangle {
     width: DarkUI.caretWidth
     color: DarkUI.caret
     visible: shown && lit
-    // Moving it lights it up.
+    // Moving it restarts the blink.
     onXChanged: {
         lit = true;
         blink.restart();

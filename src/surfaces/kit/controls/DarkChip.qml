@@ -1,5 +1,4 @@
-// A chip: a name with a dot or a sign in front. In a group of chips the arrow keys lead from one
-// to the next.
+// A chip: a name with a dot or a symbol. Arrow keys move between the chips of a group.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,14 +7,14 @@ KitPressable {
     id: chip
 
     required property string text
-    property color dotColor: DarkUI.clear // clear for no dot
-    property color selectedTint: DarkUI.clear // a colour when chosen
+    property color dotColor: DarkUI.clear // transparent for no dot
+    property color selectedTint: DarkUI.clear // the fill when chosen
     property bool large: false
-    property bool checked: false // shows the check of a large chip
-    property bool playOnHover: false // the dot turns into a play sign
-    property bool choosable: false // one of several, of which one is chosen
+    property bool checked: false // whether a large chip shows its check mark
+    property bool playOnHover: false // turns the dot into a play symbol
+    property bool choosable: false // one of several alternatives
     property TypeRole role: large ? DarkUI.captionMedium : DarkUI.smallMedium
-    property int key: -1 // whatever the group's owner knows it by
+    property int key: -1 // the owner's key for it
     readonly property bool hasDot: dotColor.a > 0
     readonly property bool showsPlay: playOnHover && (hovered || ringed)
     readonly property real leading: large ? DarkUI.space10 : DarkUI.space8
@@ -29,8 +28,7 @@ KitPressable {
     opacity: enabled ? 1 : DarkUI.disabledOpacity
     name: text
 
-    // The toolkit's bridge to AT-SPI leaves "checkable" out: only the role says that there is
-    // something to choose.
+    // Qt's AT-SPI bridge omits "checkable": only the role shows that it can be chosen.
     Accessible.role: choosable ? Accessible.RadioButton : Accessible.Button
     Accessible.checkable: choosable
     Accessible.checked: selectedTint.a > 0 || checked

@@ -1,4 +1,4 @@
-// An action that destroys.
+// A button for a destructive action.
 import QtQuick
 import Vantle.Kit
 

@@ -1,4 +1,4 @@
-// The well around a text field; its edge shows the focus, and what is wrong.
+// The frame around a text field; its edge shows focus and errors.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,5 +1,5 @@
-// What a control does, in a line below it, once the pointer has rested on it. It stands over
-// everything else in its window, and above the control where there is no room below.
+// A tooltip below a control that the pointer rests on, or above it where there is no room below.
+// Covers everything else in its window.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -9,7 +9,8 @@ Item {
 
     property Item control
     property string text
-    property Item area: null // that of the window, taken once: a live binding outlasts the window
+    // The window's content item; not bound, since a binding would outlive the window.
+    property Item area: null
     readonly property point below: area ? control.mapToItem(area, control.width / 2, control.height)
                                         : Qt.point(0, 0)
     readonly property bool fitsBelow: area && below.y + DarkUI.space6 + height <= area.height
@@ -39,6 +40,6 @@ Item {
         text: help.text
         role: DarkUI.small
         color: DarkUI.textSecondary
-        Accessible.ignored: true // the control says it
+        Accessible.ignored: true // the control has it as its description
     }
 }

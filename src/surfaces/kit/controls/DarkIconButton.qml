@@ -1,4 +1,4 @@
-// A small button that shows an icon alone. It has a name all the same.
+// A small button with an icon, and a name for screen readers.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

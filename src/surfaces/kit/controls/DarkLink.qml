@@ -1,4 +1,4 @@
-// A text that leads somewhere else.
+// A text that links to another place.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -7,11 +7,11 @@ KitPressable {
     id: link
 
     required property string text
-    property bool onTint: false // stands on a tint of the accent
+    property bool onTint: false // whether it stands on an accent tint
     property TypeRole role: DarkUI.captionMedium
 
     implicitWidth: label.implicitWidth
-    implicitHeight: DarkUI.stripButtonSize // more than the text, to be hit
+    implicitHeight: DarkUI.stripButtonSize // higher than the text, as a click target
     name: text
     cursorShape: Qt.PointingHandCursor
     Accessible.role: Accessible.Link

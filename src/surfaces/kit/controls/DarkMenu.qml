@@ -1,5 +1,5 @@
-// A menu over everything else in its window: below what it belongs to, or above it where there is
-// more room, and never over it. Rows that have no room scroll. A press beside it closes it.
+// A popup menu on top of its window: below its owner, or above it where there is more room, never
+// over it. Scrolls when it is too high. A press outside closes it.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -17,7 +17,7 @@ Item {
 
     function openAt(item: Item, row: int): void {
         anchorItem = item;
-        // Not bound: a window that is being destroyed must not be reached into.
+        // Not bound: a binding would access the window during its destruction.
         overlay.parent = Window.contentItem;
         focusBefore = Window.activeFocusItem;
         place();
@@ -57,7 +57,7 @@ Item {
 
         parent: null
         anchors.fill: parent
-        z: 1000 // above all that a window has
+        z: 1000 // on top of the window
         visible: menu.opened
         onWidthChanged: follow()
         onHeightChanged: follow()

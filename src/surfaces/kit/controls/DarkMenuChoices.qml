@@ -1,4 +1,4 @@
-// The menu of a picker. A file of its own, so that the picker can make it when it is opened.
+// The menu of a picker, in its own file so that the picker loads it on first use.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,6 +1,6 @@
-// The panel of a menu: rows (DarkMenuRow) and separators, one below the other. The arrow keys lead
-// through the rows. A panel that is given less height than its rows need scrolls by wheel, pointer
-// and keys. Whoever shows it closes it on dismissed() and after a row was triggered.
+// The panel of a menu: rows (DarkMenuRow) and separators. Arrow keys move between rows. Scrolls by
+// wheel, pointer and keys when it is higher than its room. The owner closes it on dismissed() and
+// after a row was triggered.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -10,7 +10,7 @@ FocusScope {
 
     property string name
     property real padding: DarkUI.space4
-    property bool composited: true // else nothing can be see-through, and corners are square
+    property bool composited: true // otherwise opaque with square corners
     default property alias rows: column.data
     signal dismissed
 
@@ -31,19 +31,19 @@ FocusScope {
         row.focusByKeyboard();
         bringIntoSight(row);
     }
-    // For the keys alone: a row that moved under the pointer would hand the mark to the next one.
+    // For keys only: under the pointer a scrolled row would pass the highlight to the next one.
     function bringIntoSight(row: Item): void {
         if (row.y < area.contentY)
             area.contentY = row.y;
         else if (row.y + row.height > area.contentY + area.height)
             area.contentY = row.y + row.height - area.height;
     }
-    // The row that has the mark, among those that can be chosen; -1 for none.
+    // Returns the index of the highlighted row among the enabled ones; -1 for none.
     function focusedRow(): int {
         return stops().findIndex(row => row.activeFocus);
     }
 
-    implicitWidth: Math.ceil(column.widest) + 2 * padding // the window is whole px
+    implicitWidth: Math.ceil(column.widest) + 2 * padding // windows have whole px
     implicitHeight: column.height + 2 * padding
 
     Accessible.role: Accessible.PopupMenu
@@ -80,7 +80,7 @@ FocusScope {
 
         Column {
             id: column
-            // As wide as the widest row; all rows are as wide as that.
+            // The width of the widest row, which all rows get.
             readonly property real widest: {
                 let most = 0;
                 for (let i = 0; i < children.length; ++i)
@@ -94,7 +94,7 @@ FocusScope {
             function spread(): void {
                 for (let i = 0; i < children.length; ++i)
                     children[i].width = width;
-                forceLayout(); // not with the next frame: a key may lead to a row before that
+                forceLayout(); // now: a key may move to a row before the next frame
             }
         }
     }

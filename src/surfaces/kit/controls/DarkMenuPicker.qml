@@ -1,5 +1,5 @@
-// One of several, chosen from a menu. It shows `currentIndex` and asks for another by activated().
-// The menu is made when it is opened for the first time: a window may have dozens of pickers.
+// A choice from a menu. Shows `currentIndex` and requests another with activated(). Loads the menu
+// on first use, since a window may have dozens of pickers.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -7,15 +7,15 @@ import Vantle.Kit
 KitPressable {
     id: picker
 
-    required property string title // what is chosen; read out
+    required property string title // what is chosen; for screen readers
     required property list<string> options
     property int currentIndex: -1
-    property string placeholder // shown while nothing is chosen
-    property bool quiet: false // what is chosen stands for nothing
+    property string placeholder // shown without a choice
+    property bool quiet: false // whether the choice means "none"
     property TypeRole role: DarkUI.captionMedium
-    property real textLeft: DarkUI.space10 // a larger one leaves room for a sign
+    property real textLeft: DarkUI.space10 // increase it to make room for a symbol
     readonly property bool opened: made !== null && made.opened
-    readonly property DarkMenu made: menu.item as DarkMenu // null before the first opening
+    readonly property DarkMenu made: menu.item as DarkMenu // null before it is first opened
     readonly property string currentText: options[currentIndex] ?? placeholder
     signal activated(int index)
 
@@ -29,7 +29,7 @@ KitPressable {
             made.close();
     }
 
-    // Whole pixels, so that its right edge is as sharp as its left one.
+    // Whole pixels, for an equally sharp right edge.
     implicitWidth: Math.ceil(textLeft + label.implicitWidth + DarkUI.space8 + chevron.width
                              + DarkUI.space8)
     implicitHeight: DarkUI.menuHeight

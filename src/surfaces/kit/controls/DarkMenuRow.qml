@@ -1,4 +1,4 @@
-// A row of a menu. It takes the focus from the pointer, so that only one row is ever marked.
+// A menu row. Hovering focuses it, so that only one row is ever highlighted.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// Parts the rows of a menu into groups.
+// A separator between groups of menu rows.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

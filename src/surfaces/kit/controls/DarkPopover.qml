@@ -1,5 +1,4 @@
-// A small panel that belongs to something above it, at which its arrow points. Whoever shows it
-// closes it on dismissed().
+// A small panel whose arrow points at the item above it. The owner closes it on dismissed().
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -7,9 +6,9 @@ import Vantle.Kit
 FocusScope {
     id: popover
 
-    property real arrowX: width / 2 // the arrow's tip
+    property real arrowX: width / 2 // tip of the arrow
     property bool arrowed: true
-    property bool composited: true // else nothing can be see-through, and corners are square
+    property bool composited: true // otherwise opaque with square corners
     property string name
     readonly property real arrowSide: DarkUI.space12
     readonly property real arrowHeight: Math.round(arrowSide * Math.SQRT1_2)
@@ -36,7 +35,7 @@ FocusScope {
         y: -popover.arrowHeight
         visible: popover.arrowed
         width: 2 * popover.arrowHeight + DarkUI.space2
-        height: popover.arrowHeight + DarkUI.hairlineWidth // over the panel's edge
+        height: popover.arrowHeight + DarkUI.hairlineWidth // overlaps the panel's edge
         side: popover.arrowSide
         radius: DarkUI.radiusTiny
         color: DarkUI.windowGround

@@ -1,5 +1,5 @@
-// Scrolls what is higher than it, by wheel, pointer and keys, and stops at its ends. What gets the
-// keyboard's focus comes into sight.
+// A vertical scroll view for wheel, pointer and keys, without overshoot. Scrolls to the item that
+// gets the focus.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -11,9 +11,9 @@ FocusScope {
     property alias flickable: flickable
     property alias contentHeight: flickable.contentHeight
     property alias contentY: flickable.contentY
-    property bool faded: true // fades at the edges
+    property bool faded: true // whether its edges fade out
     property color ground: DarkUI.windowGround
-    property bool atWindowBottom: false // its fade leaves the window's edge and corners alone
+    property bool atWindowBottom: false // keeps the fade off the window's edge and corners
     property bool scrollbarShown: false
 
     function scrollTo(y: real): void {
@@ -50,7 +50,7 @@ FocusScope {
         edge: Qt.BottomEdge
         ground: view.ground
 
-        Rectangle { // the window's own, which the fade covers
+        Rectangle { // the window's edge, which the fade covers
             anchors.bottom: parent.bottom
             width: parent.width
             height: DarkUI.hairlineWidth

@@ -1,4 +1,4 @@
-// The bar at the side of what scrolls. It is there while scrolling, or while the pointer is on it.
+// The scrollbar beside a view. Visible while scrolling, or under the pointer.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -7,7 +7,7 @@ Item {
     id: bar
 
     required property Flickable view
-    property bool shown: false // keeps it there
+    property bool shown: false // keeps it visible
     readonly property real part: view.contentHeight > 0 ? view.height / view.contentHeight : 1
     readonly property real way: view.contentHeight - view.height
     readonly property real handleHeight: Math.max(DarkUI.space24, height * part)
@@ -16,7 +16,7 @@ Item {
     visible: part < 1
     opacity: shown || hold.running || hover.hovered || drag.active ? 1 : 0
     Accessible.role: Accessible.ScrollBar
-    Accessible.ignored: true // the keys scroll; there is nothing to find out here
+    Accessible.ignored: true // keys scroll; it has nothing to read
 
     Behavior on opacity {
         NumberAnimation {

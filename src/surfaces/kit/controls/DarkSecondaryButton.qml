@@ -1,4 +1,4 @@
-// An action beside the main one.
+// A secondary action.
 import QtQuick
 import Vantle.Kit
 

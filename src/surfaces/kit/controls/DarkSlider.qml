@@ -1,4 +1,4 @@
-// Chooses a number by dragging. It shows `value` and asks for another by moved().
+// A slider. Shows `value` and requests another with moved().
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -9,15 +9,15 @@ KitControl {
     property string name
     property real minimumValue: 0
     property real maximumValue: 1
-    property real stepSize: 0 // 0 for any number; then an arrow key goes a twentieth
+    property real stepSize: 0 // 0 means continuous; arrow keys then step a twentieth
     property real value: 0
-    property string valueText // read out after the name and the number
+    property string valueText // for screen readers, after name and number
     property bool ringed: keyboardFocus
-    // A value beyond the ends stands at an end.
+    // Clamped to the ends.
     readonly property real position: Math.max(0, Math.min((value - minimumValue)
                                      / Math.max(maximumValue - minimumValue, 1e-9), 1))
     readonly property real keyStep: stepSize > 0 ? stepSize : (maximumValue - minimumValue) / 20
-    readonly property real pageSteps: 5 // that Page Up and Page Down go at once
+    readonly property real pageSteps: 5 // steps of Page Up and Page Down
     signal moved(real value)
 
     function ask(wanted: real): void {

@@ -1,4 +1,4 @@
-// One line of text in a well.
+// A one-line text field.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -7,11 +7,11 @@ FocusScope {
     id: field
 
     property alias text: input.text
-    property string name // what is read out
+    property string name // for screen readers
     property string placeholder
-    property string help: placeholder // read out after the name
-    property int limit: 0 // user-perceived characters; 0 for any number
-    property bool clearable: false // a button empties it
+    property string help: placeholder // for screen readers, after the name
+    property int limit: 0 // in user-perceived characters; 0 for none
+    property bool clearable: false // shows a button that clears it
     property string clearName: qsTr("Clear")
     property string icon // at the left; empty for none
     property bool wrong: false
@@ -19,11 +19,11 @@ FocusScope {
     property real padding: DarkUI.fieldPadding
     property color accent: DarkUI.accent
     property TypeRole role: DarkUI.body
-    property bool focused: input.activeFocus // shows the edge of a field with the focus
+    property bool focused: input.activeFocus // shows the focused edge
     property alias input: input
     signal accepted
-    signal edited // by the person
-    signal keyboardWanted // pressed: a window that takes no focus by itself must ask for it now
+    signal edited // by the user
+    signal keyboardWanted // pressed: a window that does not accept focus must request it now
 
     function selectAll(): void {
         input.selectAll();
@@ -33,7 +33,7 @@ FocusScope {
         field.edited();
         input.forceActiveFocus(Qt.OtherFocusReason);
     }
-    // Cuts what is too long as soon as it is there. The caret stays, or goes to the end.
+    // Cuts text that is too long immediately. Keeps the caret, or moves it to the end.
     function keepLimit(): void {
         if (limit <= 0)
             return;
@@ -117,7 +117,7 @@ FocusScope {
                 onCaretRectWanted: offset => caretRect = input.positionToRectangle(offset)
             }
 
-            // The text takes the press: the handler of the well does not hear of it.
+            // The text item takes the press, so the frame's handler does not get it.
             TapHandler {
                 gesturePolicy: TapHandler.DragThreshold
                 grabPermissions: PointerHandler.TakeOverForbidden
@@ -156,7 +156,7 @@ FocusScope {
     }
 
     TapHandler {
-        // The well as a whole, without taking the press from the text.
+        // Observes the whole field without taking the press from the text.
         gesturePolicy: TapHandler.DragThreshold
         grabPermissions: PointerHandler.TakeOverForbidden
         onPressedChanged: if (pressed) {

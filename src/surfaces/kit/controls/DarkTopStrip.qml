@@ -1,6 +1,6 @@
-// The strip at the top of a window that draws its own frame. What lies behind it moves the window:
-// asked from two places, a window manager would hold on to the pointer after the release.
-// What is put into it stands at the left of the two round buttons.
+// The title strip of a window without the desktop's frame. Only the area behind it moves the
+// window: with two requests a window manager would keep the pointer after the release. Children are
+// placed left of the two round buttons.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,7 +8,7 @@ import Vantle.Kit
 Item {
     id: strip
 
-    property string title // empty where the content opens with one
+    property string title // empty where the content starts with a title
     property bool minimisable: true
     default property alias content: inside.data
     signal closeRequested

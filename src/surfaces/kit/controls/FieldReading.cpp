@@ -14,7 +14,7 @@ namespace vantle {
 
 namespace {
 
-/// Where the parts of that kind begin, 0 first.
+/// Returns where the parts of that kind begin, starting with 0.
 QList<int> starts(const QString& text, QAccessible::TextBoundaryType kind) {
     QList<int> found{0};
     if (kind != QAccessible::CharBoundary && kind != QAccessible::WordBoundary &&
@@ -157,7 +157,7 @@ public:
     }
     QString attributes(int offset, int* start, int* end) const override {
         const bool isInside = offset >= 0 && offset <= characterCount();
-        *start = isInside ? 0 : -1; // one run: all of the text looks alike
+        *start = isInside ? 0 : -1; // one run: all of the text has the same attributes
         *end = isInside ? characterCount() : -1;
         return {};
     }
@@ -209,7 +209,7 @@ private:
     QString part(int offset, QAccessible::TextBoundaryType kind, int step, int* start,
                  int* end) const {
         const QString all = content();
-        // The toolkit's two names for places: the end and the caret.
+        // Qt's special offsets: -1 is the end, -2 the caret.
         if (offset == -1) offset = characterCount();
         if (offset == -2) offset = cursorPosition();
         const TextPart found = textPart(all, offset, kind, step);
@@ -225,20 +225,20 @@ private:
         const QWindow* const around = window();
         return around ? scene.translated(around->mapToGlobal(QPoint())) : scene;
     }
-    /// Null while the field is being made: readers are told of it before it has its children.
+    /// Null during the field's construction, when readers are notified of it already.
     [[nodiscard]] FieldReading* reading() const {
         return item().findChild<FieldReading*>(QString(), Qt::FindDirectChildrenOnly);
     }
 };
 
-/// Asked for each class of an object, the most derived one first; null where the toolkit answers.
+/// Called for each class of an object, most derived first; null leaves it to Qt.
 QAccessibleInterface* fieldInterface(const QString& type, QObject* object) {
     if (type != QLatin1String("QQuickTextInput")) return nullptr;
     auto* const item = qobject_cast<QQuickItem*>(object);
     return item ? new FieldInterface(*item) : nullptr;
 }
 
-// Before the first field, which readers are told of while it is being made.
+// Call before the first field is constructed, which notifies readers.
 void installFieldInterface() { QAccessible::installFactory(&fieldInterface); }
 Q_COREAPP_STARTUP_FUNCTION(installFieldInterface)
 

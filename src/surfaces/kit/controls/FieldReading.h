@@ -1,4 +1,4 @@
-// What a screen reader is told of a text field, and what it may do there.
+// The accessible interface of a text field.
 #pragma once
 
 #include <QAccessible>
@@ -9,21 +9,21 @@
 
 namespace vantle {
 
-/// A child of a TextInput, whose accessible interface it replaces. The toolkit's own one never
-/// returns when it is asked for the word at the end of the text (its textAtOffset() looks for a
-/// boundary beyond it), has no attribute runs, without which readers are silent about the text, and
-/// can't be edited. The class of a TextInput is private to the toolkit, so the field binds what is
-/// asked of it and carries out what is wanted of it. One per field, made with it; main thread.
+/// A child of a TextInput whose accessible interface it replaces. Qt's own one never returns when
+/// asked for the word at the end of the text (its textAtOffset() searches for a boundary beyond
+/// it), has no attribute runs, without which readers do not read the text, and cannot be edited.
+/// TextInput's class is private to Qt, so the field binds the properties and carries out the
+/// requests. One per field, constructed with it. Main thread.
 class FieldReading : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
     Q_PROPERTY(QString description READ description WRITE setDescription NOTIFY descriptionChanged)
-    // As the input has them, in characters of its text.
+    // As in the input, in characters.
     Q_PROPERTY(int cursorPosition MEMBER m_cursorPosition NOTIFY cursorPositionChanged)
     Q_PROPERTY(int selectionStart MEMBER m_selectionStart NOTIFY selectionStartChanged)
     Q_PROPERTY(int selectionEnd MEMBER m_selectionEnd NOTIFY selectionEndChanged)
-    /// The field's answer to caretRectWanted(), in px of the input.
+    /// The field's reply to caretRectWanted(), in px of the input.
     Q_PROPERTY(QRectF caretRect MEMBER m_caretRect NOTIFY caretRectChanged)
 
 public:
@@ -38,22 +38,22 @@ public:
     [[nodiscard]] int cursorPosition() const { return m_cursorPosition; }
     [[nodiscard]] int selectionStart() const { return m_selectionStart; }
     [[nodiscard]] int selectionEnd() const { return m_selectionEnd; }
-    /// Where the caret would stand before that character.
+    /// Returns the caret's rectangle before that character.
     [[nodiscard]] QRectF caretRectAt(int offset) {
         Q_EMIT caretRectWanted(offset);
         return m_caretRect;
     }
 
-    /// Reports how the text differs from the one reported last. To be called after each change.
+    /// Reports the difference from the last text. Call after each change.
     Q_INVOKABLE void follow(const QString& text);
 
 Q_SIGNALS:
     void nameChanged();
     void descriptionChanged();
-    /// A reader put the focus into the field. A window without the keyboard has to ask for it.
+    /// A reader focused the field. A window without keyboard focus must request it.
     void focusWanted();
-    // What a reader does to the text. All places are within it.
-    void selectionWanted(int start, int end); ///< an empty one selects nothing
+    // Edits by a reader; all positions are valid.
+    void selectionWanted(int start, int end); ///< an empty range clears the selection
     void caretWanted(int offset);
     void removalWanted(int start, int end);
     void insertionWanted(int offset, const QString& text);
@@ -75,11 +75,10 @@ private:
     QRectF m_caretRect;
 };
 
-/// The part of `text` of that kind that holds the character at `offset`, `step` parts further on
-/// (-1 before, 0 at, 1 after). Parts leave no gap: a word has the white space behind it, and the
-/// whole of a field is one line and one paragraph. At the end of the text the last part is meant,
-/// but no character. Empty at -1, -1 when `offset` is outside of the text, at the end it would
-/// leave when there is no such part.
+/// Returns the part of `text` around `offset`, shifted by `step` parts (-1 before, 0 at, 1 after).
+/// Parts are adjacent: a word includes the following white space, and a field is one line and one
+/// paragraph. At the end of the text it returns the last part, but no character. Empty at -1, -1
+/// when `offset` is outside; empty at the end when there is no such part.
 struct TextPart {
     int start = -1;
     int end = -1;

@@ -1,5 +1,4 @@
-// Keeps what gets the keyboard's focus in sight of a view that scrolls up and down. Stands in it or
-// beside it.
+// Scrolls a view to the item that gets the focus. Placed in the view or beside it.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// Shows that the keyboard's focus is on a control; stands as a child of it.
+// The focus ring around its parent control.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// Brings up a DarkHelp once the pointer has rested on a control.
+// Shows a DarkHelp once the pointer has rested on a control.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,7 +8,7 @@ Item {
 
     property Item control
     property string text
-    property bool pointed // the pointer rests on the control
+    property bool pointed // whether the pointer rests on the control
 
     onPointedChanged: shown.active = false
 

@@ -1,4 +1,4 @@
-// A key, or keys, as they are written on the keyboard.
+// A keycap with the text of a key or combination.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

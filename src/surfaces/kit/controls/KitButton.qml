@@ -1,4 +1,4 @@
-// A push button. A surface has one primary button at most: its main action.
+// A push button. A surface has at most one primary button.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -15,7 +15,7 @@ KitPressable {
 
     required property string text
     property int kind: KitButton.Secondary
-    property string icon // in front of the text; empty for none
+    property string icon // before the text; empty for none
     property color accent: DarkUI.accent // the fill of the primary button
     property TypeRole role: kind === KitButton.Primary || kind === KitButton.Danger
                             ? DarkUI.bodyStrong : DarkUI.bodyMedium
@@ -79,7 +79,7 @@ KitPressable {
         }
     }
 
-    implicitWidth: Math.ceil(content.implicitWidth + 2 * padding) // sharp at both edges
+    implicitWidth: Math.ceil(content.implicitWidth + 2 * padding) // whole px, for sharp edges
     implicitHeight: DarkUI.buttonHeight
     name: text
 

@@ -22,7 +22,7 @@ void KitControl::focusInEvent(QFocusEvent* event) {
     case Qt::ActiveWindowFocusReason:
     case Qt::PopupFocusReason:
     case Qt::MenuBarFocusReason:
-        break; // back from elsewhere: as it was
+        break; // focus returned from another window: unchanged
     default:
         m_byKeyboard = false;
     }

@@ -1,16 +1,16 @@
-// The root of a control that takes part in keyboard work.
+// The base of controls that take keyboard focus.
 #pragma once
 
 #include <QQuickItem>
 
 namespace vantle {
 
-/// Knows whether the keyboard brought the focus to it: only then is a focus ring shown. A control
-/// that has the focus from the start, by a click or by code shows none. Main thread.
+/// Tracks whether the keyboard moved the focus to it, since only then a focus ring is shown; not
+/// for initial focus, clicks or code. Main thread.
 class KitControl : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
-    /// The focus is here, and the person is working by keyboard.
+    /// Focused, and the user works by keyboard.
     Q_PROPERTY(bool keyboardFocus READ keyboardFocus NOTIFY keyboardFocusChanged)
 
 public:
@@ -18,9 +18,9 @@ public:
 
     [[nodiscard]] bool keyboardFocus() const { return hasActiveFocus() && m_byKeyboard; }
 
-    /// The person has turned to the pointer.
+    /// The user switched to the pointer.
     Q_INVOKABLE void forgetKeyboard();
-    /// Takes the focus as the keyboard does: for arrow keys within a group.
+    /// Takes the focus as by keyboard, for arrow keys within a group.
     Q_INVOKABLE void focusByKeyboard() { forceActiveFocus(Qt::TabFocusReason); }
 
 Q_SIGNALS:

@@ -1,5 +1,5 @@
-// What all controls that are pressed have in common: pointer, keys, focus and name. They draw
-// themselves by `hovered`, `pressed`, `ringed` and `enabled`.
+// The base of controls that are pressed: pointer, keys, focus and name. They draw themselves from
+// `hovered`, `pressed`, `ringed` and `enabled`.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -7,8 +7,8 @@ import Vantle.Kit
 KitControl {
     id: pressable
 
-    property string name // what is read out
-    property string help // what it does, shown to a pointer that rests on it; empty for nothing
+    property string name // for screen readers
+    property string help // the tooltip; empty for none
     property bool hovered: hover.hovered && enabled
     property bool pressed: tap.pressed || spaceHeld
     property bool ringed: keyboardFocus

@@ -1,4 +1,4 @@
-// Where one is among a few pages.
+// The position among a few pages.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// What is read and not pressed, as a stop of the keyboard: with others in an ArrowGroup.
+// A keyboard stop for text that is read, not pressed; used in an ArrowGroup.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -6,7 +6,7 @@ import Vantle.Kit
 KitControl {
     id: stop
 
-    required property string name // what is read out
+    required property string name // for screen readers
     property real radius: DarkUI.radiusMenuRow
 
     Accessible.role: Accessible.ListItem

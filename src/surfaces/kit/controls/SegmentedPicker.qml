@@ -1,4 +1,4 @@
-// One of a few, side by side. It shows `currentIndex` and asks for another by activated().
+// A segmented control. Shows `currentIndex` and requests another with activated().
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -15,7 +15,7 @@ ArrowGroup {
     readonly property real segmentWidth: (width - 2 * inset) / Math.max(options.length, 1)
     signal activated(int index)
 
-    // Other options are other segments: the keyboard stays with the chosen one.
+    // New options create new segments: keeps the focus on the chosen one.
     function takeUp(): void {
         current = currentIndex;
         refresh();
@@ -29,7 +29,7 @@ ArrowGroup {
     list: segments
     current: currentIndex
 
-    // The arrow keys choose as they go.
+    // Arrow keys choose immediately.
     onMoved: index => activated(index)
 
     Accessible.role: Accessible.PageTabList

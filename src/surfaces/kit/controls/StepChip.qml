@@ -1,4 +1,4 @@
-// A small plus or minus for stepping a value. The larger form stands in forms.
+// A small plus or minus button. The large form is for forms.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,7 +8,7 @@ KitPressable {
 
     required property string label // "+" or "−"
     property bool large: false
-    property bool exhausted: false // nothing more this way; it keeps the focus all the same
+    property bool exhausted: false // at the limit; it keeps the focus
     readonly property bool plus: label === "+"
     signal action
 

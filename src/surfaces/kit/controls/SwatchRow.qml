@@ -1,4 +1,4 @@
-// A row of colours to choose one of, spread over the row's width.
+// A row of colours, one of which is chosen.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -7,7 +7,7 @@ ArrowGroup {
     id: row
 
     required property list<color> colors
-    property list<string> names // read out, in the order of the colours
+    property list<string> names // for screen readers, in the order of the colours
     property int currentIndex: -1
     readonly property real pitch: colors.length > 1
                                   ? (width - DarkUI.swatchCellSize) / (colors.length - 1) : 0
@@ -18,7 +18,7 @@ ArrowGroup {
     list: cells
     current: Math.max(currentIndex, 0)
     Accessible.name: qsTr("Color")
-    onMoved: index => activated(index) // the arrow keys choose as they go
+    onMoved: index => activated(index) // arrow keys choose immediately
 
     Item {
         id: cells

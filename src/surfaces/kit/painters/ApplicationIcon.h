@@ -1,13 +1,13 @@
-// The program's icon, as window managers show it in task bars and switchers.
+// The program's icon for task bars and switchers.
 #pragma once
 
 #include <QIcon>
 
 namespace vantle {
 
-/// The icon in the sizes that task bars and switchers ask for, 16 to 128 px. It goes with each
-/// window, so it needs no installed file. For managed windows only, before they are shown: Qt draws
-/// all sizes for each window that has it, which takes 6 to 10 ms. Nothing of it is kept.
+/// Returns the icon in 16 to 128 px. Set on each managed window before it is shown, so it needs no
+/// installed file. Not for panels: Qt draws all sizes for each window, which takes 6 to 10 ms. Main
+/// thread.
 [[nodiscard]] QIcon applicationIcon();
 
 } // namespace vantle

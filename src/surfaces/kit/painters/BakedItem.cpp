@@ -33,7 +33,7 @@ QSGNode* BakedItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/)
         node->setOwnsTexture(true);
     }
     node->setTexture(window()->createTextureFromImage(image));
-    // Whole device pixels, so that one pixel of the image is one of the screen.
+    // Whole device pixels, so that image and screen pixels coincide.
     node->setRect(QRectF(area.topLeft(), QSizeF(pixels) / scale));
     return node;
 }

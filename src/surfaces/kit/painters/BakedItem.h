@@ -1,4 +1,4 @@
-// An item that paints itself once and is then drawn from that image.
+// The base of items that paint themselves into an image once.
 #pragma once
 
 #include "surfaces/kit/painters/ScaledItem.h"
@@ -9,8 +9,8 @@ class QPainter;
 
 namespace vantle {
 
-/// Paints in its own coordinates at the scale of its window. What it paints may reach beyond its
-/// bounds, by bleed(). Main thread, with the software renderer.
+/// Paints in its own coordinates at its window's scale. May paint beyond its bounds, by bleed().
+/// For the software renderer. Main thread.
 class BakedItem : public vantle::ScaledItem {
     Q_OBJECT
 
@@ -18,15 +18,15 @@ public:
     using ScaledItem::ScaledItem;
 
 protected:
-    /// `scale` is the number of device pixels in a pixel, which the painter accounts for already.
+    /// `scale` is in device pixels per pixel; the painter already applies it.
     virtual void paint(QPainter& painter, double scale) = 0;
     [[nodiscard]] virtual QMarginsF bleed() const { return {}; }
 
     QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
 };
 
-/// Tells the views' checker of the base class. Said in the class itself, its heirs would be
-/// nameless as well.
+/// Declares the base class to qmllint. Declared in the class itself, its subclasses would be
+/// anonymous too.
 struct BakedItemForViews {
     Q_GADGET
     QML_FOREIGN(vantle::BakedItem)

@@ -1,4 +1,4 @@
-// The shadow around a surface: give it the surface's place, a level and a radius.
+// The shadow of a surface, from its rectangle, a level and a radius.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,5 +1,6 @@
-// The ground of a window that draws its own frame. Where nothing composes windows the corners
-// can't be clear and are square; then `composited` is false. The shadow needs clear space around.
+// The background of a window without the desktop's frame. Without a compositor (`composited` is
+// false) its corners are square, since they cannot be transparent. The shadow needs transparent
+// space around it.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

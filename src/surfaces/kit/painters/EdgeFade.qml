@@ -1,4 +1,4 @@
-// Fades what scrolls into the ground at an edge, while there is more beyond it.
+// Fades scrolled content into the background at an edge with more content beyond.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

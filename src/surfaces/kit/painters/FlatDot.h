@@ -1,4 +1,4 @@
-// A round spot of one colour: what labels and chips mark a skill with.
+// A round spot in one colour, the mark of a skill.
 #pragma once
 
 #include "surfaces/kit/painters/BakedItem.h"
@@ -7,8 +7,7 @@
 
 namespace vantle {
 
-/// A rectangle with a radius can't be this round: the software renderer knows whole px only. Main
-/// thread.
+/// Rounder than a Rectangle, whose corners the software renderer draws in whole px. Main thread.
 class FlatDot : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT

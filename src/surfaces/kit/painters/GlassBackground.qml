@@ -1,5 +1,4 @@
-// The ground of what floats over other windows, with its edge and its shadow. It is dense enough
-// to read on without anything that blurs what is behind.
+// The background of floating surfaces, with edge and shadow. Opaque enough to read on without blur.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -11,7 +10,7 @@ Plate {
         Floating, // cards and panels
         Popover,
         Menu,
-        OverBlur // where the desktop blurs what is behind
+        OverBlur // where the desktop blurs the background
     }
 
     property int material: GlassBackground.Floating

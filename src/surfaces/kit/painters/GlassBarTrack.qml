@@ -1,4 +1,4 @@
-// The trough of a bar.
+// The track of a bar.
 import QtQuick
 import Vantle.Kit
 

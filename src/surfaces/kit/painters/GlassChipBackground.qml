@@ -1,4 +1,4 @@
-// The ground of a chip: quiet, or in a colour when it is the chosen one.
+// The background of a chip: quiet, or tinted when chosen.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -6,7 +6,7 @@ import Vantle.Kit
 Plate {
     id: ground
 
-    property color selectedTint: DarkUI.clear // a colour when the chip is chosen
+    property color selectedTint: DarkUI.clear // the fill when chosen
     property bool hovering: false
     property bool pressed: false
     readonly property bool selected: selectedTint.a > 0

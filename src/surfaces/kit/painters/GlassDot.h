@@ -1,4 +1,4 @@
-// One dot of the hour wall, for a place of its own.
+// A single dot of the hour wall.
 #pragma once
 
 #include "surfaces/kit/painters/BakedItem.h"
@@ -7,14 +7,14 @@
 
 namespace vantle {
 
-/// A lit sphere as wide as the item, whose glow reaches beyond it; a socket when it is not filled;
-/// a slice when `fraction` is given. Main thread.
+/// A lit sphere of the item's width, with a glow beyond it; a socket when not filled; a slice when
+/// `fraction` is set. Main thread.
 class GlassDot : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
     Q_PROPERTY(bool filled MEMBER m_filled NOTIFY changed)
-    /// How much of the hour is done, 0 to 1; negative for a whole dot.
+    /// The done part of the hour, 0 to 1; negative for a whole dot.
     Q_PROPERTY(double fraction MEMBER m_fraction NOTIFY changed)
 
 public:

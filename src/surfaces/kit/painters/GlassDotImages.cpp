@@ -9,8 +9,8 @@
 namespace vantle {
 namespace {
 
-// Scales and radii change with windows; colours are few. More than this is a window being dragged
-// wider, whose old sizes are not wanted again.
+// Scales and radii change with windows, colours are few. More images come from resizing a window,
+// whose former sizes are not needed again.
 constexpr qsizetype kMostImages = 256;
 // For the rim, which straddles the radius, and its soft edge.
 constexpr double kSocketReach = 1.1;
@@ -18,7 +18,7 @@ constexpr double kSocketReach = 1.1;
 QImage bake(const QColor& color, double radius, double scale) {
     const double reach =
         color.isValid() ? radius * glassdotpainter::kGlowReach : radius * kSocketReach;
-    // An odd side, so that the centre is the middle of a device pixel.
+    // An odd side puts the centre on a pixel's middle.
     const int side = 2 * (static_cast<int>(std::ceil(reach * scale)) + 1) + 1;
     QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);

@@ -1,4 +1,4 @@
-// Glass dots that were drawn once, to be drawn again a thousand times.
+// The cache of glass dot images.
 #pragma once
 
 #include <QColor>
@@ -9,14 +9,14 @@ class QPainter;
 
 namespace vantle {
 
-/// Bakes each colour and radius once per scale. Used by one thread at a time.
+/// One image per colour, radius and scale. One thread at a time.
 class GlassDotImages {
 public:
-    /// A filled dot, or with an invalid colour a socket. The dot's centre is the image's; the image
-    /// carries its scale as its device pixel ratio.
+    /// Returns a filled dot, or a socket for an invalid colour. The dot is centred; the image has
+    /// its scale as device pixel ratio.
     [[nodiscard]] const QImage& image(const QColor& color, double radius, double scale);
 
-    /// Draws a dot at `center`, moved by less than a device pixel to where the image stays sharp.
+    /// Draws a dot at `center`, snapped to device pixels for sharpness.
     void draw(QPainter& painter, QPointF center, const QColor& color, double radius, double scale);
 
     [[nodiscard]] qsizetype size() const { return m_images.size(); }

@@ -15,7 +15,7 @@ namespace {
 using colormath::glassLightened;
 using colormath::withAlpha;
 
-// Of a dot smaller than this nobody sees the inner shading; it would only make the colour dirty.
+// Inner shading is invisible on smaller dots and would only dull the colour.
 constexpr double kShadedFrom = 5.0;
 constexpr double kRimWidth = 0.6;
 
@@ -47,7 +47,7 @@ void drawBody(QPainter& painter, QPointF center, double radius, const QColor& co
     fillDisc(painter, center, radius, body);
 }
 
-/// The edge turns away into the dark; light that went through comes back from below.
+/// Darkens the edge and adds transmitted light from below.
 void drawVolume(QPainter& painter, QPointF center, double radius, const QColor& color) {
     QRadialGradient volume(center - QPointF(0, 0.06 * radius), 1.08 * radius,
                            center - QPointF(0, 0.22 * radius), 0.62 * radius);

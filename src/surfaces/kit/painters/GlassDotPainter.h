@@ -1,7 +1,7 @@
-// The dots of the hour wall: a finished hour is a lit sphere of glass, the current hour a slice, a
-// future hour a socket.
+// The painter of the hour wall's dots.
 //
-// Pure drawing, any thread. Lengths are in the painter's units; its antialiasing must be on.
+// A finished hour is a lit glass sphere, the current hour a slice, a future hour a socket. Pure
+// drawing, any thread. Lengths in the painter's units; requires antialiasing.
 #pragma once
 
 #include <QColor>
@@ -11,16 +11,16 @@ class QPainter;
 
 namespace vantle::glassdotpainter {
 
-/// The glow around a filled dot ends at this many radii.
+/// The reach of a filled dot's glow, in radii.
 inline constexpr double kGlowReach = 1.55;
 
-/// A lit sphere. Its glow reaches beyond the radius.
+/// Draws a lit sphere. Its glow extends beyond the radius.
 void drawFilled(QPainter& painter, QPointF center, double radius, const QColor& color);
 
-/// A faint socket.
+/// Draws a faint socket.
 void drawEmpty(QPainter& painter, QPointF center, double radius);
 
-/// A disc of which `fraction`, 0 to 1, is filled clockwise from the top. More counts as 1.
+/// Draws a disc filled clockwise from the top by `fraction`, 0 to 1. Larger values count as 1.
 void drawSlice(QPainter& painter, QPointF center, double radius, const QColor& color,
                double fraction);
 

@@ -10,24 +10,23 @@
 
 namespace vantle {
 
-/// Fills its size with `columns` by `rows` cells: a lit dot for each of `colors`, then a slice if
-/// there is one, then sockets if they are wanted. Colours beyond the last cell are not drawn. The
-/// glow of the outer dots reaches beyond the item. Main thread.
+/// Fills itself with `columns` x `rows` cells: a lit dot per colour, then an optional slice, then
+/// optional sockets. Further colours are not drawn. The glow extends beyond the item. Main thread.
 class GlassDotWall : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
-    /// One colour for each finished hour, oldest first.
+    /// One colour per finished hour, oldest first.
     Q_PROPERTY(QList<QColor> colors MEMBER m_colors NOTIFY changed)
     Q_PROPERTY(int columns MEMBER m_columns NOTIFY changed)
     Q_PROPERTY(int rows MEMBER m_rows NOTIFY changed)
-    /// How many of the colours are lit; -1 for all of them. The others are sockets still.
+    /// How many colours are lit; -1 for all. The rest are sockets.
     Q_PROPERTY(int filledCount MEMBER m_filledCount NOTIFY changed)
-    /// The current hour: how much of it is done, 0 for none, and its colour.
+    /// The done part of the current hour (0 for none) and its colour.
     Q_PROPERTY(double sliceFraction MEMBER m_sliceFraction NOTIFY changed)
     Q_PROPERTY(QColor sliceColor MEMBER m_sliceColor NOTIFY changed)
-    /// Whether the hours to come have their sockets.
+    /// Whether future hours show sockets.
     Q_PROPERTY(bool sockets MEMBER m_hasSockets NOTIFY changed)
-    /// The radius of a dot, px.
+    /// The dot radius in px.
     Q_PROPERTY(double dotRadius READ dotRadius NOTIFY changed)
 
 public:
@@ -35,9 +34,9 @@ public:
 
     [[nodiscard]] double dotRadius() const { return grid().radius(); }
 
-    /// The cell under a point of the item; -1 for none. Finished hours come first.
+    /// Returns the cell at a point of the item; -1 for none. Finished hours come first.
     Q_INVOKABLE [[nodiscard]] int cellAt(double x, double y) const { return grid().cellAt({x, y}); }
-    /// The centre of a cell in the item.
+    /// Returns a cell's centre in the item.
     Q_INVOKABLE [[nodiscard]] QPointF cellCenter(int index) const { return grid().center(index); }
 
 protected:

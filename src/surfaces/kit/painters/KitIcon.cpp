@@ -17,7 +17,7 @@ void KitIcon::paint(QPainter& painter, double /*scale*/) {
     QSvgRenderer svg(QStringLiteral(":/qt/qml/Vantle/Kit/icons/%1.svg").arg(m_name));
     svg.setAspectRatioMode(Qt::KeepAspectRatio);
     svg.render(&painter, boundingRect());
-    // The shape is there in white; all of it takes the colour, overlaps included.
+    // Replaces the white shape's colour, overlaps included.
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(boundingRect(), m_color);
 }

@@ -7,8 +7,8 @@
 
 namespace vantle {
 
-/// Draws icons/<name>.svg, fitted into the item, in one colour with its opacity. The icons are
-/// drawn on a grid of 16. An unknown name draws nothing. Main thread.
+/// Draws icons/<name>.svg (a grid of 16) scaled into the item, in one colour with its alpha. Draws
+/// nothing for an unknown name. Main thread.
 class KitIcon : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT

@@ -10,7 +10,7 @@ namespace vantle {
 
 namespace {
 
-/// A part of an axis: where it lies in the image, and where it goes, in device pixels.
+/// A section of an axis: its range in the image and on the screen, in device pixels.
 struct Stretch {
     int from = 0;
     int fromLength = 0;

@@ -1,4 +1,4 @@
-// Draws an image over an area of whole device pixels: its corners as they are, the rest stretched.
+// The scene graph node of nine-patch images.
 #pragma once
 
 #include <QImage>
@@ -12,13 +12,13 @@ class QSGTexture;
 
 namespace vantle {
 
-/// Where each part of such an image goes. Qt's own nine patches round the whole to px, so that at
-/// 1.25 lines of the ground show between them; parts that all begin a whole number of device pixels
-/// from one point are all rounded the same way. Render thread; with the software renderer that is
-/// the main thread.
+/// Draws an image's corners unscaled and stretches the rest, on whole device pixels. Qt's
+/// nine-patch rounds the whole to px, so that gaps appear between patches at 1.25; here all patches
+/// start a whole number of device pixels from one point and are rounded alike. Render thread, which
+/// is the main thread with the software renderer.
 ///
-/// A transform that changes nothing: below a plain node the software renderer forgets where parts
-/// belong that are added later, and draws them in the corner of the window.
+/// An identity transform, since the software renderer misplaces parts that are added later to a
+/// plain node: it draws them in the window's corner.
 class PatchesNode final : public QSGTransformNode {
 public:
     explicit PatchesNode(QQuickWindow& window) : m_window(window) {}
@@ -26,12 +26,11 @@ public:
     PatchesNode(const PatchesNode&) = delete;
     PatchesNode& operator=(const PatchesNode&) = delete;
 
-    /// What is drawn from now on.
+    /// Sets the image to draw.
     void setImage(const QImage& image);
 
-    /// Draws it over `size` device pixels from `origin`, which is in px, at so many device pixels
-    /// a px. `still` is what does not stretch, in pixels of the image, from each of its edges; an
-    /// axis on which image and area are the same does not stretch at all.
+    /// Draws over `size` device pixels from `origin` (in px), at `scale` device pixels per px.
+    /// `still` is the unstretched margin in image pixels; an axis of equal length is not stretched.
     void layOut(QPointF origin, QSize size, QMargins still, double scale);
 
 private:

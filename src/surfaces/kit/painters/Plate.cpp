@@ -14,9 +14,9 @@ namespace vantle {
 
 namespace {
 
-/// What lies between two rounded rectangles.
+/// The area between two rounded rectangles.
 QPainterPath rimOf(const QRectF& rect, double radius, int width) {
-    QPainterPath path; // fills by the odd-even rule
+    QPainterPath path; // odd-even fill
     path.addRoundedRect(rect, radius, radius);
     const double inner = std::max(0.0, radius - width);
     path.addRoundedRect(rect.adjusted(width, width, -width, -width), inner, inner);
@@ -36,7 +36,7 @@ QSGNode* Plate::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/) {
     const int edge = hasEdge ? std::max(1, qRound(m_edgeWidth * scale)) : 0;
     const double radius =
         std::min(m_radius * scale, std::min(pixels.width(), pixels.height()) / 2.0);
-    // The smallest plate that can be stretched to this one: a pixel between its corners.
+    // The smallest plate that stretches to this one: one pixel between its corners.
     const int corner = std::max(static_cast<int>(std::ceil(radius)), edge);
     const QSize smallest = pixels.boundedTo(QSize(2 * corner + 1, 2 * corner + 1));
     QImage image(smallest, QImage::Format_ARGB32_Premultiplied);

@@ -1,4 +1,4 @@
-// A rounded ground with an edge drawn over its rim.
+// A rounded background with an edge over its rim.
 #pragma once
 
 #include "surfaces/kit/painters/ScaledItem.h"
@@ -7,18 +7,18 @@
 
 namespace vantle {
 
-/// Lies on whole device pixels at every scale, which the Rectangle of the software renderer does
-/// not: at 1.25 it is torn, at 1.5 a round one is broken. Its corners and rims are painted once,
-/// and what is between them is stretched. Main thread, with the software renderer.
+/// Aligned to device pixels at every scale, unlike the software renderer's Rectangle, which is torn
+/// at 1.25 and broken at 1.5. Corners and rims are painted once, the rest is stretched. For the
+/// software renderer. Main thread.
 class Plate : public vantle::ScaledItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
-    /// In px; half of the shorter side at most.
+    /// In px, at most half of the shorter side.
     Q_PROPERTY(double radius MEMBER m_radius NOTIFY changed)
-    /// Clear: none.
+    /// Transparent for none.
     Q_PROPERTY(QColor edge MEMBER m_edge NOTIFY changed)
-    /// In px, drawn as whole device pixels, one at least.
+    /// In px, drawn as at least one whole device pixel.
     Q_PROPERTY(double edgeWidth MEMBER m_edgeWidth NOTIFY changed)
 
 public:

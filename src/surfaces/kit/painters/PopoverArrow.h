@@ -1,4 +1,4 @@
-// The arrow of a popover, which points at what it belongs to: the upper corner of a square.
+// The arrow of a popover: the upper corner of a square.
 #pragma once
 
 #include "surfaces/kit/painters/BakedItem.h"
@@ -7,7 +7,7 @@
 
 namespace vantle {
 
-/// Its lowest px covers the popover's own edge. Main thread.
+/// Its lowest px covers the popover's edge. Main thread.
 class PopoverArrow : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT

@@ -11,8 +11,8 @@ namespace {
 
 constexpr int kSteps = 8;
 
-/// How much of a blurred disc's light is left at that part of its reach beyond the rim: a half at
-/// the rim itself, nothing at the end.
+/// Returns the light left at that part of a blurred disc's reach beyond the rim: 0.5 at the rim, 0
+/// at the end.
 double lightAt(double part) {
     const double rest = 1 - part;
     return 0.5 * rest * rest;

@@ -1,4 +1,4 @@
-// The soft light around a round control.
+// The soft glow around a round control.
 #pragma once
 
 #include "surfaces/kit/painters/BakedItem.h"
@@ -7,13 +7,13 @@
 
 namespace vantle {
 
-/// Takes the place of the control and glows around it, not below it. Main thread.
+/// Has the control's geometry and glows around it, not below it. Main thread.
 class RoundGlow : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
     /// With the opacity that the glow would have below the control.
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
-    /// How far beyond the control it can be seen, in px.
+    /// Its reach beyond the control, in px.
     Q_PROPERTY(double reach MEMBER m_reach NOTIFY changed)
 
 public:

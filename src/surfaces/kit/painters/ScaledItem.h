@@ -1,12 +1,12 @@
-// An item that is drawn for the size and the scale that it has.
+// The base of items drawn for their exact size and scale.
 #pragma once
 
 #include <QQuickItem>
 
 namespace vantle {
 
-/// Draws again when its size, the scale of its window or a property that shows is another. Such a
-/// property is `Q_PROPERTY(... MEMBER ... NOTIFY changed)`. Main thread.
+/// Redraws when its size, its window's scale or a visible property changes. Declare such a property
+/// as `Q_PROPERTY(... MEMBER ... NOTIFY changed)`. Main thread.
 class ScaledItem : public QQuickItem {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ public:
     explicit ScaledItem(QQuickItem* parent = nullptr);
 
 Q_SIGNALS:
-    /// One of the properties is another.
+    /// A visible property changed.
     void changed();
 
 protected:
@@ -22,8 +22,8 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData& data) override;
 };
 
-/// Tells the views' checker of the base class. Said in the class itself, its heirs would be
-/// nameless as well.
+/// Declares the base class to qmllint. Declared in the class itself, its subclasses would be
+/// anonymous too.
 struct ScaledItemForViews {
     Q_GADGET
     QML_FOREIGN(vantle::ScaledItem)

@@ -9,14 +9,13 @@
 namespace vantle {
 namespace {
 
-// Beyond this many blurs the shadow is fainter than one step of a colour channel.
+// Beyond this multiple of the blur the shadow is below one colour step.
 constexpr double kReachOfBlur = 1.25;
-// Three boxes of this many blurs in a row come close to the bell curve whose deviation is half a
-// blur.
+// Three box blurs of this multiple approximate a Gaussian with a deviation of half the blur.
 constexpr double kBoxOfBlur = 0.94;
 constexpr int kBoxes = 3;
 
-/// The running mean along one line of `count` values, `stride` apart. `scratch` holds `count`.
+/// Running mean over `count` values, `stride` apart. `scratch` holds `count`.
 void boxBlur(uchar* line, int count, qsizetype stride, int reach, std::vector<uchar>& scratch) {
     for (int i = 0; i < count; ++i)
         scratch[i] = line[i * stride];

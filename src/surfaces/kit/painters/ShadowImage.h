@@ -1,4 +1,4 @@
-// The soft shadow of a rounded rectangle, as one image whose edges stretch.
+// The shadow of a rounded rectangle as a nine-patch image.
 //
 // Pure functions, any thread.
 #pragma once
@@ -9,30 +9,30 @@
 
 namespace vantle {
 
-/// Lengths in px or in device pixels, as the caller has them; the offset points down.
+/// Lengths in px or in device pixels, as the caller chooses; the offset points down.
 struct ShadowShape {
-    QSizeF size; ///< of the surface that throws it
+    QSizeF size; ///< of the surface
     double radius = 0.0;
     double offset = 0.0;
     double blur = 0.0;
     double strength = 0.0; ///< opacity of black
 
-    /// The shape in device pixels, of which a px has so many. Its surface begins and ends on whole
-    /// ones, as the surface itself does.
+    /// Returns the shape in device pixels. Its surface is rounded to whole ones, like the surface
+    /// itself.
     [[nodiscard]] ShadowShape atScale(double scale) const;
 
-    /// How far the shadow reaches beyond the surface.
+    /// The shadow's reach beyond the surface.
     [[nodiscard]] QMargins reach() const;
-    /// The parts of the image that don't stretch, from each of its edges.
+    /// The unstretched margins of the image.
     [[nodiscard]] QMargins patches() const;
-    /// The shape with the smallest size that can be stretched to this one.
+    /// Returns the smallest shape that stretches to this one.
     [[nodiscard]] ShadowShape smallest() const;
 
     friend bool operator==(const ShadowShape&, const ShadowShape&) = default;
 };
 
-/// The shadow around a surface, without what is below the surface itself: surfaces are not quite
-/// opaque. A pixel for a unit of the shape.
+/// Renders the shadow around a surface, one pixel per unit, and leaves out the part below it, since
+/// surfaces are slightly translucent.
 [[nodiscard]] QImage shadowImage(const ShadowShape& shape);
 
 } // namespace vantle

@@ -1,4 +1,4 @@
-// One layer of a surface's shadow. Views use DarkShadow, which knows the levels.
+// One layer of a shadow; views use DarkShadow.
 #pragma once
 
 #include "surfaces/kit/painters/ScaledItem.h"
@@ -6,8 +6,8 @@
 
 namespace vantle {
 
-/// Takes the place of the surface and draws around it. Its image is as small as can be and is
-/// stretched, so that a surface that grows costs nothing here. Main thread.
+/// Has the surface's geometry and draws around it. Its minimal image is stretched, so a growing
+/// surface costs nothing. Main thread.
 class ShadowLayer : public vantle::ScaledItem {
     Q_OBJECT
     QML_ELEMENT

@@ -1,4 +1,4 @@
-// Where the dots of an hour wall stand: rows of equal cells, filled from the upper left.
+// The layout of an hour wall: rows of equal cells.
 //
 // Plain values, any thread.
 #pragma once
@@ -13,15 +13,15 @@ struct WallGrid {
     int rows = 1;
     QSizeF size; ///< of the whole wall, px
 
-    /// The part of a cell's smaller side that is a dot's radius.
+    /// A dot's radius relative to the shorter side of its cell.
     static constexpr double kDotRatio = 0.36;
 
     [[nodiscard]] int cells() const { return columns * rows; }
     [[nodiscard]] QSizeF cellSize() const { return {size.width() / columns, size.height() / rows}; }
     [[nodiscard]] double radius() const;
-    /// The centre of the cell `index`, which counts from 0 along the rows.
+    /// Returns the centre of cell `index`, counted along the rows from 0.
     [[nodiscard]] QPointF center(int index) const;
-    /// The cell under a point; -1 outside the wall.
+    /// Returns the cell at a point; -1 outside the wall.
     [[nodiscard]] int cellAt(QPointF point) const;
 };
 

@@ -1,4 +1,4 @@
-// A small wide heading, as it is written.
+// A small wide heading.
 import QtQuick
 import Vantle.Kit
 

@@ -1,4 +1,4 @@
-// A text in a role of the type scale, read out as it stands.
+// A text in a role of the type scale; screen readers read it as shown.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -12,14 +12,15 @@ Text {
     font: role.font
     lineHeightMode: Text.FixedHeight
     lineHeight: role.line
-    // A fixed line would leave all of the space below the letters.
+    // A fixed line height would put all leading below the letters.
     topPadding: role.leading
     bottomPadding: -role.leading
-    // The program's own texts, and names among them, stand at the left in every script; what
-    // follows its own, such as a note, resets this.
+    // Left-aligned in every script for the program's texts and names in them; a text of the user,
+    // such as a note, overrides it.
     horizontalAlignment: Text.AlignLeft
     textFormat: Text.PlainText
-    // Crisp stems for small text on plain screens; elsewhere whole-pixel glyphs would jump.
+    // Native rendering is crisp for small text on standard screens; elsewhere whole-pixel glyphs
+    // would jump.
     renderType: role.size <= 15 && Screen.devicePixelRatio === 1 ? Text.NativeRendering
                                                                  : Text.QtRendering
 

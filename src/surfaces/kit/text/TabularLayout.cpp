@@ -11,8 +11,8 @@
 namespace vantle::tabular {
 namespace {
 
-/// Cells in em of the families of the type scale. Their widest digit would stand tighter than their
-/// own tabular figures do, which can't be asked for here.
+/// Digit cells of the type scale's families, in em. The widest digit would be narrower than their
+/// own tabular figures, which this Qt cannot select.
 struct FamilyCell {
     const char* family;
     int weight;

@@ -1,7 +1,7 @@
-// Figures in columns: each digit in the middle of a cell of its own, so that a running clock does
-// not tremble.
+// The layout of text with tabular figures.
 //
-// Pure functions on the thread of the application's fonts. Lengths in px.
+// Each digit is centred in a cell, so that a running clock does not jitter. Pure functions, on the
+// thread of the application's fonts. Lengths in px.
 #pragma once
 
 #include <QFont>
@@ -11,7 +11,7 @@
 
 namespace vantle::tabular {
 
-/// A line of text, shaped. Positions count from the line's left end and its baseline.
+/// A shaped line. Positions are relative to its left end and baseline.
 struct Line {
     QList<QGlyphRun> runs;
     double width = 0.0;
@@ -19,11 +19,11 @@ struct Line {
     double descent = 0.0;
 };
 
-/// The width of a digit's cell in a font, without tracking.
+/// Returns the width of a digit's cell, without tracking.
 [[nodiscard]] double cellWidth(const QFont& font);
 
-/// Shapes the text: digits in cells, everything else at its own width, tracking as the font says.
-/// Text whose letters join into fewer or more glyphs is set as it comes, without cells.
+/// Shapes the text: digits in cells, the rest at its own width, with the font's tracking. Text with
+/// ligatures or combining glyphs is set without cells.
 [[nodiscard]] Line layOut(const QString& text, const QFont& font);
 
 } // namespace vantle::tabular

@@ -13,14 +13,14 @@ void TabularLine::layOut() {
 }
 
 QMarginsF TabularLine::bleed() const {
-    // Letters may lean out of their line, whose height is a matter of the layout.
+    // Letters may extend beyond the line, whose height is the layout's.
     const double above = std::ceil(std::max(0.0, (m_line.ascent + m_line.descent - height()) / 2));
     return {1.0, above, 1.0, above};
 }
 
 void TabularLine::paint(QPainter& painter, double scale) {
-    // Qt draws text on an opaque ground heavier than on a clear one. So it is drawn in white on
-    // black, and the light is taken for its shape: it then looks like the text beside it.
+    // Qt draws text heavier on an opaque background. Drawing white on black and using the
+    // brightness as a mask matches the text beside it.
     const QRectF area = boundingRect().marginsAdded(bleed());
     QImage light((area.size() * scale).toSize() + QSize(1, 1), QImage::Format_RGB32);
     light.fill(Qt::black);

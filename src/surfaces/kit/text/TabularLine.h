@@ -1,4 +1,4 @@
-// One line of text whose digits stand in cells. Views use TabularText, which knows the type scale.
+// One line of text with tabular figures; views use TabularText.
 #pragma once
 
 #include "surfaces/kit/painters/BakedItem.h"

@@ -1,4 +1,4 @@
-// A text whose digits all take the same room, for clocks and columns of figures.
+// A text with digits of equal width, for clocks and columns.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

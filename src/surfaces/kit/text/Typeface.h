@@ -1,6 +1,6 @@
-// The two families of the type scale, or what stands in for them on this machine.
+// The two font families of the type scale, or their substitutes.
 //
-// Main thread, after the application object. The fonts of the machine are asked once.
+// Main thread; requires the application object. Queries the machine's fonts once.
 #pragma once
 
 #include "surfaces/kit/tokens/Look.h"
@@ -12,17 +12,17 @@ namespace vantle {
 
 struct Typeface {
     QString family;
-    /// What it needs beside the tracking of a role, in em: a text family is drawn wider than a
-    /// display family, and is set closer where it has to stand in for one.
+    /// Extra tracking in em: a text family is wider than a display family and is set tighter in its
+    /// place.
     double tracking = 0.0;
 
     /// For text up to 15 px.
     [[nodiscard]] static const Typeface& text();
-    /// For titles and figures from 15 px upwards.
+    /// For titles and figures from 15 px on.
     [[nodiscard]] static const Typeface& display();
 };
 
-/// The font of a step of the type scale.
+/// Returns the font of a type scale step.
 [[nodiscard]] QFont fontOf(const look::TypeStep& step);
 
 } // namespace vantle

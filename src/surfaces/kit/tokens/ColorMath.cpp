@@ -8,7 +8,7 @@
 namespace vantle::colormath {
 namespace {
 
-/// Light that a channel gives, 0 to 1: what sRGB's curve was made from.
+/// Converts an sRGB channel to linear light, 0 to 1.
 double linear(double channel) {
     return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
 }

@@ -1,4 +1,4 @@
-// What the look does with colours. All in sRGB.
+// Colour functions in sRGB.
 //
 // Pure functions, any thread.
 #pragma once
@@ -12,16 +12,16 @@ namespace vantle::colormath {
 /// The opaque colour 0xRRGGBB.
 [[nodiscard]] QColor fromHex(std::uint32_t hexRGB);
 
-/// The colour moved towards white by `amount`, 0 to 1; its opacity stays.
+/// Blends the colour with white by `amount`, 0 to 1; keeps its alpha.
 [[nodiscard]] QColor glassLightened(const QColor& color, double amount);
 
-/// The colour at an opacity, 0 to 1, whatever it had before.
+/// Returns the colour with that alpha, 0 to 1.
 [[nodiscard]] QColor withAlpha(QColor color, double alpha);
 
-/// The contrast between two opaque colours, from 1 to 21.
+/// Returns the contrast ratio of two opaque colours, 1 to 21.
 [[nodiscard]] double contrast(const QColor& one, const QColor& other);
 
-/// The colour of text on a fill: dark ink or white, whichever contrasts more.
+/// Returns the text colour for a fill: dark ink or white, whichever contrasts more.
 [[nodiscard]] QColor inkOn(const QColor& fill);
 
 } // namespace vantle::colormath

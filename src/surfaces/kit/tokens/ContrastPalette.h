@@ -1,11 +1,13 @@
-// The colours of the look for users who wish for more contrast.
+// The palette for users who ask for more contrast.
+//
+// Constants; any thread.
 #pragma once
 
 #include "surfaces/kit/tokens/Look.h"
 
 namespace vantle::look {
 
-/// All text has 7 to 1 on its ground, edges have 3 to 1, and nothing shines through. The ground
+/// Text has at least 7:1 on its background, edges 3:1, and nothing is translucent. The background
 /// stays dark.
 constexpr Palette contrasted() {
     Palette look;

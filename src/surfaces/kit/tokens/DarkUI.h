@@ -1,4 +1,4 @@
-// The tokens of the look, for views. Their values stand in Look.h.
+// The design tokens for views; Look.h has their values.
 #pragma once
 
 #include "surfaces/kit/tokens/Look.h"
@@ -18,7 +18,7 @@ namespace vantle {
 
 class Motion;
 
-/// A spring of unit mass, for views.
+/// A spring of unit mass.
 class SpringToken : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -35,7 +35,7 @@ private:
     Spring m_spring;
 };
 
-/// The shadow of a level, for views.
+/// The shadow of a level.
 class ShadowToken : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -60,7 +60,7 @@ private:
     look::Shadow m_shadow;
 };
 
-// A property of DarkUI for each token, by kind.
+// One property of DarkUI per token, by kind.
 #define LOOK_COLOR(name)                                                                           \
     Q_PROPERTY(QColor name READ name NOTIFY paletteChanged)                                        \
 public:                                                                                            \
@@ -76,7 +76,7 @@ public:                                                                         
                                                                                                    \
 private:                                                                                           \
     TypeRole* m_##name = nullptr;
-// A role whose place is measured beforehand: it keeps its size.
+// A role with measured places: its size is fixed.
 #define LOOK_FIXED_ROLE(name)                                                                      \
     Q_PROPERTY(vantle::TypeRole* name READ name CONSTANT)                                          \
 public:                                                                                            \
@@ -102,7 +102,7 @@ private:                                                                        
     Q_PROPERTY(int name READ name CONSTANT)                                                        \
 public:                                                                                            \
     [[nodiscard]] static int name() { return look::kLengths.name; }
-// What holds a line of text grows with it.
+// A length that holds a line of text and scales with it.
 #define LOOK_TEXT_LENGTH(name)                                                                     \
     Q_PROPERTY(int name READ name NOTIFY textScaleChanged)                                         \
 public:                                                                                            \
@@ -111,12 +111,12 @@ public:                                                                         
     Q_PROPERTY(double name READ name CONSTANT)                                                     \
 public:                                                                                            \
     [[nodiscard]] static double name() { return look::kLengths.name; }
-// The time of a movement, 0 with reduced motion.
+// The duration of a movement, 0 with reduced motion.
 #define LOOK_TIME(name)                                                                            \
     Q_PROPERTY(int name READ name NOTIFY reducedChanged)                                           \
 public:                                                                                            \
     [[nodiscard]] int name() const { return inMotion(look::kMovement.name, 0); }
-// The time of what fades instead with reduced motion.
+// The duration of a fade, which also plays with reduced motion.
 #define LOOK_FADE(name)                                                                            \
     Q_PROPERTY(int name READ name NOTIFY reducedChanged)                                           \
 public:                                                                                            \
@@ -132,7 +132,7 @@ public:                                                                         
 public:                                                                                            \
     [[nodiscard]] static double name() { return look::kMovement.name; }
 
-/// One for each QML engine. Main thread.
+/// One per QML engine. Main thread.
 class DarkUI : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -236,20 +236,19 @@ class DarkUI : public QObject {
             Q_PROPERTY(double textScale READ textScale NOTIFY textScaleChanged)
 
                 public :
-        /// The one of an engine, which it belongs to.
+        /// Returns the engine's instance, which the engine owns.
         [[nodiscard]] static DarkUI* of(QQmlEngine& engine);
-    /// For the engine itself.
+    /// For the QML engine.
     static DarkUI* create(QQmlEngine* engine, QJSEngine* scripts);
 
     [[nodiscard]] const look::Palette& palette() const { return m_palette; }
-    /// Every view takes the colours at once.
+    /// Applies the colours to all views at once.
     void setPalette(const look::Palette& palette);
 
-    /// The factor on the sizes of text, beyond the scale factor of the screen. Every view takes it
-    /// at once.
+    /// Sets the text scale beyond the screen's scale factor, for all views at once.
     void setTextScale(double factor);
 
-    /// For what a view makes room for text with: never below 1, since room for less is no gain.
+    /// The scale for lengths that hold text: at least 1.
     [[nodiscard]] double textScale() const { return std::max(m_textScale, 1.0); }
 
     [[nodiscard]] static double heroUnitScale() { return look::kType.heroUnitScale; }
@@ -262,7 +261,7 @@ Q_SIGNALS:
 private:
     explicit DarkUI(QQmlEngine& engine);
 
-    /// Made when a view asks for it first.
+    /// Created on first use by a view.
     template <typename Made, typename Value>
     Made* made(Made*& kept, const Value& value) {
         if (!kept) kept = new Made(value, this);
@@ -274,7 +273,7 @@ private:
 
     look::Palette m_palette;
     double m_textScale = 1.0;
-    QList<TypeRole*> m_growing; ///< roles that follow the factor
+    QList<TypeRole*> m_growing; ///< roles that follow the text scale
     Motion* m_motion;
 };
 

@@ -1,10 +1,11 @@
-// The tokens of the look: colours, type, space, shape, depth and motion.
+// The design tokens: colours, type, space, shape, depth, motion.
 //
-// The one place for them: views read them as `DarkUI`, painters, posters, placement and the rules
-// of windows from here. Lengths are device-independent pixels, times milliseconds, tracking em.
+// Views read them as `DarkUI`; painters, posters, placement and window rules read them here.
+// Constants; any thread. Lengths in device-independent pixels, times in milliseconds, tracking in
+// em.
 //
-// Chrome is white at low opacity. Only worked time gives light: dots, tiles, bars, a skill's
-// colour. The accent marks the one main action and the keyboard focus, nothing else.
+// Chrome is translucent white. Only worked time emits light: dots, tiles, bars, skill colours. The
+// accent marks the main action and keyboard focus alone.
 #pragma once
 
 #include "surfaces/kit/tokens/ColorMath.h"
@@ -31,11 +32,11 @@ struct Color {
 /// A step of the type scale.
 struct TypeStep {
     int size = 13; ///< px
-    int line = 20; ///< px from baseline to baseline
+    int line = 20; ///< px between baselines
     QFont::Weight weight = QFont::Normal;
     double tracking = 0;   ///< em
-    bool display = false;  ///< titles and figures from 15 px upwards
-    bool capitals = false; ///< small letters are set as capitals
+    bool display = false;  ///< for titles and figures from 15 px on
+    bool capitals = false; ///< set in capitals
 };
 
 constexpr TypeStep plain(int size, int line, QFont::Weight weight = QFont::Normal,
@@ -48,8 +49,7 @@ constexpr TypeStep display(int size, int line, double tracking,
     return {size, line, weight, tracking, true, false};
 }
 
-/// The shadow of a level: a wide layer, and below the higher levels a tight one. Offsets point
-/// down.
+/// The shadow of a level: a wide layer, and a tight one at higher levels. Offsets point down.
 struct Shadow {
     double offset;
     double blur;
@@ -62,16 +62,16 @@ struct Shadow {
 inline constexpr std::uint32_t kInk = 0x0A0A0F;
 inline constexpr std::uint32_t kWhite = 0xFFFFFF;
 
-/// What a theme exchanges. The members' own values are those of the dark look.
+/// The colours of a theme. The defaults are the dark theme.
 struct Palette {
-    // Grounds
+    // Backgrounds
     Color windowGround{kInk};
     Color ink{kInk}; ///< text on the accent and on full skill colours
     Color cardFill{kWhite, 0.06};
     Color hairline{kWhite, 0.08};
-    Color windowEdge{kWhite, 0.09}; ///< outside the window's ground
+    Color windowEdge{kWhite, 0.09}; ///< outside the window's background
     Color capsuleGround{0x000000};
-    Color capsuleEdge{kWhite, 0.06}; ///< along the inside of its bottom
+    Color capsuleEdge{kWhite, 0.06}; ///< inside its lower edge
     Color menuGround{0x17171D};
     Color floatingGround{kInk, 0.96};
     Color popoverGround{kInk, 0.97};
@@ -84,8 +84,8 @@ struct Palette {
     Color fillDisabled{kWhite, 0.08};
     Color clear{kWhite, 0};
     Color quietHover{kWhite, 0.08}; ///< icon buttons, menu rows
-    Color navHover{kWhite, 0.06};   ///< rows that lead somewhere
-    Color rowHover{kWhite, 0.05};   ///< rows of a list
+    Color navHover{kWhite, 0.06};   ///< navigation rows
+    Color rowHover{kWhite, 0.05};   ///< list rows
     Color stripHover{kWhite, 0.10}; ///< the window's two round buttons
     Color stepperFill{kWhite, 0.08};
     Color segmentFill{kWhite, 0.14};
@@ -98,19 +98,19 @@ struct Palette {
     Color switchTrack{kWhite, 0.14};
     Color switchEdge{kWhite, 0.40};
     Color switchKnob{kWhite, 0.92};
-    Color knobFill{kWhite}; ///< of a switch that is on, of a slider
+    Color knobFill{kWhite}; ///< of a switch that is on, and of a slider
     Color pageDot{kWhite, 0.22};
     Color pageDotCurrent{kWhite, 0.92};
     Color chosenRing{kWhite, 0.95}; ///< around the chosen swatch
 
     // Text and icons
-    Color textPrimary{kWhite, 0.95};       ///< what is read
-    Color textSecondary{kWhite, 0.68};     ///< what goes with it
-    Color textTertiary{kWhite, 0.54};      ///< what may be passed over
+    Color textPrimary{kWhite, 0.95};       ///< main text
+    Color textSecondary{kWhite, 0.68};     ///< supporting text
+    Color textTertiary{kWhite, 0.54};      ///< optional text
     Color textDisabled{kWhite, 0.32};      ///< disabled and separators only
     Color textCaption{kWhite, 0.62};       ///< captions of settings
-    Color textWeekday{kWhite, 0.55};       ///< letters and months of a calendar
-    Color textWeekdayFuture{kWhite, 0.30}; ///< of days to come
+    Color textWeekday{kWhite, 0.55};       ///< weekday letters and month names
+    Color textWeekdayFuture{kWhite, 0.30}; ///< for days to come
     Color textCapsuleName{kWhite, 0.62};
     Color textChip{kWhite, 0.90};
     Color iconQuiet{kWhite, 0.54};
@@ -127,7 +127,7 @@ struct Palette {
     Color focusRing{0xA3A1FF};
     Color caret{0xA3A1FF};
     Color danger{0xFF6482};
-    Color dangerText{0xFF8BA2}; ///< on base
+    Color dangerText{0xFF8BA2}; ///< on the background
     Color dangerTextOnFill{0xFF9BAE};
     Color warning{0xFF9F0A};
     Color good{0x30D158};
@@ -135,7 +135,7 @@ struct Palette {
     Color barWeek{0x7A78FF};
     Color barAllTime{0x64D2FF};
 
-    // Opacities of a colour: give them to Tint.alpha()
+    // Opacities of a colour, for Tint.alpha()
     double dangerFillOpacity = 0.16;
     double dangerFillHoverOpacity = 0.24;
     double dangerFillPressedOpacity = 0.32;
@@ -148,12 +148,12 @@ struct Palette {
     double popoverCommitDisabledOpacity = 0.24;
     double bannerFillOpacity = 0.10;
     double bannerEdgeOpacity = 0.30;
-    double wrappedFillOpacity = 0.14; ///< of the row of a review that waits
+    double wrappedFillOpacity = 0.14; ///< of a row for a waiting review
     double wrappedEdgeOpacity = 0.34;
-    double pointTintOpacity = 0.14;  ///< of the disc of a high point
-    double columnRestOpacity = 0.62; ///< of the columns of a chart beside its highest
-    double pausedOpacity = 0.78;     ///< of the wide button while time is paused
-    double disabledOpacity = 0.45;   ///< of a whole chip, switch or slider
+    double pointTintOpacity = 0.14;  ///< of a high point's disc
+    double columnRestOpacity = 0.62; ///< of a chart's columns except the highest
+    double pausedOpacity = 0.78;     ///< of the wide button while paused
+    double disabledOpacity = 0.45;   ///< of a disabled chip, switch or slider
 
     friend bool operator==(const Palette&, const Palette&) = default;
 };
@@ -171,9 +171,9 @@ struct TypeScale {
     TypeStep titleL = display(24, 30, -0.014);
     TypeStep capsuleClock = display(23, 28, -0.010);
     TypeStep titleM = display(20, 28, -0.012);
-    /// a sentence of its own as a title
+    /// a sentence as a title
     TypeStep titleMWide = display(22, 28, -0.012);
-    /// what leads up to a hero figure, and what follows it
+    /// text before and after a hero figure
     TypeStep titleMQuiet = display(20, 28, -0.012, QFont::Medium);
     TypeStep cardTitle = display(17, 22, -0.010);
     TypeStep cardTitleQuiet = display(17, 22, -0.010, QFont::Medium);
@@ -201,15 +201,15 @@ struct TypeScale {
     TypeStep capsuleChip = plain(11, 15, QFont::Medium);
     TypeStep kickerPoster = plain(10, 13, QFont::DemiBold, 0.080);
     TypeStep heroUnitPoster = display(30, 36, -0.020);
-    double heroUnitScale = 0.36; ///< of a hero figure's size
+    double heroUnitScale = 0.36; ///< relative to the hero figure
 };
 
 struct Lengths {
-    // Space: the steps of a scale, which their numbers name best
+    // Space: a scale, named by its steps
     int space2 = 2;
     int space4 = 4;
     int space6 = 6;
-    int space8 = 8; ///< between a label and its control
+    int space8 = 8; ///< between label and control
     int space10 = 10;
     int space12 = 12; ///< within a group
     int space14 = 14;
@@ -218,14 +218,14 @@ struct Lengths {
     int space20 = 20; ///< between groups
     int space24 = 24;
     int space28 = 28;
-    int space32 = 32; ///< beside the picker of the review
+    int space32 = 32; ///< beside the review's picker
     int space36 = 36;
     int space44 = 44;
     int space64 = 64;
 
     // Shape
     double radiusYearTile = 2.8;
-    int radiusTiny = 2; ///< the tip of an arrow, the sign of a stop
+    int radiusTiny = 2; ///< arrow tips, the stop symbol
     int radiusBar = 3;
     int radiusTag = 4;
     int radiusKeycap = 6;
@@ -233,17 +233,17 @@ struct Lengths {
     int radiusColumn = 6; ///< of a chart
     int radiusSegment = 7;
     int radiusSmall = 8;   ///< icon buttons, steppers, menus
-    int radiusButton = 9;  ///< and fields
-    int radiusBanner = 10; ///< and hovered rows
+    int radiusButton = 9;  ///< also fields
+    int radiusBanner = 10; ///< also hovered rows
     int radiusTile = 11;
     int radiusCard = 12;
-    int radiusWindow = 14;   ///< and popovers, and the wide primary button
-    int radiusFloating = 18; ///< capsule, floating cards and panels
+    int radiusWindow = 14;   ///< also popovers and the wide primary button
+    int radiusFloating = 18; ///< capsule, floating cards, panels
     int hairlineWidth = 1;
     int focusWidth = 2;
-    int focusGap = 2;            ///< clear space between a control and its ring
-    int focusRadiusGain = 3;     ///< more than the control's own
-    double fieldEdgeWidth = 1.5; ///< of a focused field, or of one that is wrong
+    int focusGap = 2;            ///< between a control and its focus ring
+    int focusRadiusGain = 3;     ///< added to the control's radius
+    double fieldEdgeWidth = 1.5; ///< of a field with focus or error
     double caretWidth = 1.5;
 
     // Sizes of controls
@@ -254,7 +254,7 @@ struct Lengths {
     int wideButtonHeight = 52;
     int popoverButtonHeight = 26;
     int iconButtonSize = 26;
-    int closeButtonSize = 22; ///< the round one of corner cards
+    int closeButtonSize = 22; ///< the round button of corner cards
     int iconSize = 16;
     int iconMedium = 14;
     int iconSmall = 12;
@@ -262,7 +262,7 @@ struct Lengths {
     int keycapHeight = 20;
     int chipHeight = 24;
     int largeChipHeight = 28;
-    int summaryDotSize = 11; ///< of a part of an hour
+    int summaryDotSize = 11; ///< for a part of an hour
     int chipGap = 6;
     int chipDotSize = 7; ///< also the flat dot of labels
     int switchWidth = 38;
@@ -297,22 +297,22 @@ struct Lengths {
     int navRowHeight = 38;
     int pageDotSize = 6;
     int pagerButtonSize = 32;
-    int pointDiscSize = 44; ///< behind the icon of a high point
+    int pointDiscSize = 44; ///< behind a high point's icon
     int personaDiscSize = 132;
-    int posterWidth = 264; ///< of the poster in the last card of the review
+    int posterWidth = 264; ///< of the poster on the review's last card
     int popoverWidth = 284;
     int commandCenterWidth = 360;
     int backfillChipWidth = 40;
-    int capsuleInset = 18;     ///< of all that stands in it, from the left and the right
-    int capsuleRowHeight = 58; ///< dot, skill line, clock and round chip
+    int capsuleInset = 18;     ///< from the left and the right
+    int capsuleRowHeight = 58; ///< dot, skill line, clock, round chip
     int capsuleChipSize = 26;  ///< the round one
     int capsuleAddRowHeight = 44;
     int cardWidth = 380; ///< corner cards and alerts
-    int cardRight = 12;  ///< from the right edge of the screen's free area
+    int cardRight = 12;  ///< from the right edge of the available area
     int cardTop = 10;
-    int panelEdge = 8;    ///< between the command center and the edges of the free area
+    int panelEdge = 8;    ///< between the command center and the available area's edges
     int panelItemGap = 4; ///< between it and the tray item
-    int panelCorner = 12; ///< to the right edge, where no item is known
+    int panelCorner = 12; ///< from the right edge, where the item's place is unknown
 };
 
 struct Depth {
@@ -323,7 +323,7 @@ struct Depth {
     Shadow shadowCapsule{10, 30, 0.45};
 };
 
-/// Springs and times. With reduced motion all times are 0 but those of plain fades, which say so.
+/// Springs and durations. With reduced motion durations are 0 except those of fades.
 struct Movement {
     Spring springCapsule{195, 22.3};
     Spring springPage{273.4, 27.1};
@@ -340,21 +340,21 @@ struct Movement {
     int popStep = 70;
     int growStep = 60;
     int hoverTime = 120;
-    int helpDelay = 600; ///< until a resting pointer is told what a control does
+    int helpDelay = 600; ///< until a tooltip appears
     int pressTime = 80;
     int switchTime = 160;
     int segmentTime = 180;
     int cardInTime = 180;
     int cardOutTime = 140;
     int cardRise = 6;      ///< px, downwards
-    int toastInTime = 220; ///< fades in any case
+    int toastInTime = 220; ///< plays with reduced motion too
     int toastOutTime = 350;
     int toastMoveTime = 180;
     int capsuleCloseTime = 220;
     int capsuleRowTime = 300;
     int capsuleRowDelay = 100;
     int capsuleRowOutTime = 140;
-    int clockDotTime = 1100; ///< each way; runs only while Motion.reduced is false
+    int clockDotTime = 1100; ///< each way; only while Motion.reduced is false
     double clockDotOpacity = 0.45;
     double clockDotScale = 0.7;
     int invitationTime = 1100; ///< each way; a steady halo with reduced motion
@@ -371,14 +371,14 @@ struct Movement {
     int tileDelay = 200;
     int tileStep = 50;
     int countUpTime = 800;
-    int typingStep = 50;   ///< between two letters of a name that is revealed
-    int burstTime = 900;   ///< of the dots that fly from a centre
-    int burstHold = 1000;  ///< until nothing is kept of them
-    int ambientStep = 100; ///< the dots behind the review's pages change that slowly
+    int typingStep = 50;   ///< between letters of a revealed name
+    int burstTime = 900;   ///< of the dots flying from a centre
+    int burstHold = 1000;  ///< until they are freed
+    int ambientStep = 100; ///< between changes of the background dots
     int stageFadeTime = 200;
-    int crossFadeTime = 120; ///< what pages and cards do instead of moving
+    int crossFadeTime = 120; ///< replaces movement of pages and cards
     int scrollbarHold = 800;
-    int scrollbarFadeTime = 200; ///< fades in any case
+    int scrollbarFadeTime = 200; ///< plays with reduced motion too
 };
 
 inline constexpr Palette kDark;

@@ -10,7 +10,7 @@ namespace vantle {
 namespace {
 
 constexpr double kMillisecond = 0.001;
-// A thousandth of a way of some hundred pixels can't be seen.
+// A thousandth of some hundred pixels is invisible.
 constexpr double kAtRest = 0.001;
 
 } // namespace

@@ -6,7 +6,7 @@
 namespace vantle {
 namespace {
 
-// Closer to critical damping than this, the formula of the swinging spring divides by nearly zero.
+// Closer to critical damping the underdamped formula divides by nearly zero.
 constexpr double kCritical = 1e-6;
 
 } // namespace
@@ -23,7 +23,7 @@ double Spring::progressAt(double seconds) const {
                std::exp(-zeta * omega * seconds) *
                    (std::cos(swing * seconds) + zeta * omega / swing * std::sin(swing * seconds));
     }
-    // Creeping: the sum of a slow and a fast decay.
+    // Overdamped: the sum of a slow and a fast decay.
     const double root = std::sqrt(zeta * zeta - 1.0);
     const double slow = omega * (zeta - root);
     const double fast = omega * (zeta + root);
@@ -35,7 +35,7 @@ double Spring::settlingTime(double tolerance) const {
     const double omega = std::sqrt(stiffness);
     const double zeta = damping / (2.0 * omega);
     if (std::abs(zeta - 1.0) < kCritical) {
-        // e^-x (1 + x) stays below the tolerance from here on; a few steps of iteration find it.
+        // e^-x (1 + x) is below the tolerance from here on, found by a few iterations.
         double x = -std::log(tolerance);
         for (int i = 0; i < 40; ++i)
             x = std::log((1.0 + x) / tolerance);

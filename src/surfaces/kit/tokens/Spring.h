@@ -1,6 +1,6 @@
-// The spring behind every movement: a unit mass that is let go at rest, in closed form.
+// The spring of all movements, in closed form.
 //
-// Pure functions, any thread.
+// A unit mass released at rest. Pure functions, any thread.
 #pragma once
 
 namespace vantle {
@@ -9,12 +9,12 @@ struct Spring {
     double stiffness; ///< k, per second squared
     double damping;   ///< c, per second
 
-    /// How far the way is gone after `seconds`: 0 at the start, towards 1, and beyond it for a
-    /// while where the spring swings over. Times before the start give 0.
+    /// Returns the progress after `seconds`: 0 at the start, towards 1, with overshoot if
+    /// underdamped. 0 before the start.
     [[nodiscard]] double progressAt(double seconds) const;
 
-    /// The time after which the way never again differs from 1 by more than `tolerance`, in
-    /// seconds, or a little more than that.
+    /// Returns an upper bound, in seconds, of the time after which the progress stays within
+    /// `tolerance` of 1.
     [[nodiscard]] double settlingTime(double tolerance) const;
 };
 

@@ -1,4 +1,4 @@
-// A number that follows its target by a spring. With reduced motion it is there at once.
+// A number that follows its target by a spring; immediately with reduced motion.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -9,14 +9,14 @@ QtObject {
     required property SpringToken spring
     property real target: 0
     property real value: 0
-    property int delay: 0 // ms before it sets out
+    property int delay: 0 // ms before it starts
     property bool ready: false
     readonly property bool running: run.running
 
     property real start: 0
     property real elapsed: 0 // ms
 
-    // Comes from another value to its target.
+    // Animates from that value to the target.
     function startFrom(from: real): void {
         run.stop();
         value = Motion.reduced ? target : from;

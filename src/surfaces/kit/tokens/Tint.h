@@ -1,4 +1,4 @@
-// Colours for the views: what ColorMath does.
+// The colour functions for views; see ColorMath.h.
 #pragma once
 
 #include "surfaces/kit/tokens/ColorMath.h"
@@ -8,7 +8,7 @@
 
 namespace vantle {
 
-/// One for each QML engine. Main thread.
+/// One per QML engine. Main thread.
 class Tint : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -21,15 +21,15 @@ public:
     Q_INVOKABLE [[nodiscard]] static QColor fromHex(uint hexRGB) {
         return colormath::fromHex(hexRGB);
     }
-    /// The colour at that opacity.
+    /// Returns the colour with that alpha.
     Q_INVOKABLE [[nodiscard]] static QColor alpha(const QColor& color, double opacity) {
         return colormath::withAlpha(color, opacity);
     }
-    /// The colour moved towards white, by 0 to 1.
+    /// Blends the colour with white by 0 to 1.
     Q_INVOKABLE [[nodiscard]] static QColor lightened(const QColor& color, double amount) {
         return colormath::glassLightened(color, amount);
     }
-    /// Ink or white, whichever reads better on the colour.
+    /// Returns ink or white, whichever is more legible on the colour.
     Q_INVOKABLE [[nodiscard]] static QColor inkOn(const QColor& fill) {
         return colormath::inkOn(fill);
     }

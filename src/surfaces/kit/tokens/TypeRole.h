@@ -1,4 +1,4 @@
-// One step of the type scale, for views. The steps themselves stand in Look.h.
+// A step of the type scale, for views.
 #pragma once
 
 #include "surfaces/kit/tokens/Look.h"
@@ -9,24 +9,24 @@
 
 namespace vantle {
 
-/// Text up to 15 px. Main thread.
+/// The text family, up to 15 px; Look.h has the steps. Main thread.
 class TypeRole : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    /// A family in place of the scale's own, in its normal weight and tracking; empty for none.
+    /// Replaces the family, with normal weight and tracking; empty for none.
     Q_PROPERTY(QString family MEMBER m_family NOTIFY changed)
-    /// px; reads multiplied
+    /// px; reads scaled
     Q_PROPERTY(int size READ size WRITE setSize NOTIFY changed)
-    /// px from baseline to baseline; reads multiplied
+    /// px between baselines; reads scaled
     Q_PROPERTY(int line READ line WRITE setLine NOTIFY changed)
     Q_PROPERTY(int weight MEMBER m_weight NOTIFY changed)
     /// em
     Q_PROPERTY(double tracking MEMBER m_tracking NOTIFY changed)
-    /// Small letters are set as capitals.
+    /// Sets the text in capitals.
     Q_PROPERTY(bool capitals MEMBER m_capitals NOTIFY changed)
     Q_PROPERTY(QFont font READ font NOTIFY changed)
-    /// Half of what a line has beyond the font's own height, px: what stands above the letters and
-    /// below them. Negative for lines that are set close.
+    /// Half of the line height beyond the font's own, in px: the space above and below the letters.
+    /// Negative for tight lines.
     Q_PROPERTY(double leading READ leading NOTIFY changed)
 
 public:
@@ -37,7 +37,7 @@ public:
     void setSize(int size);
     [[nodiscard]] int line() const { return scaled(m_line); }
     void setLine(int line);
-    /// What size and line are multiplied with, for users who wish for larger text.
+    /// Scales size and line, for users who ask for larger text.
     void setScale(double scale);
     [[nodiscard]] QFont font() const;
     [[nodiscard]] double leading() const;
@@ -64,8 +64,8 @@ private:
     bool m_capitals = false;
 };
 
-/// Titles and figures from 15 px upwards, in semibold. (The checker of the views finds a base class
-/// by its full name only.)
+/// The display family in semibold, for titles and figures from 15 px on. (qmllint finds a base
+/// class by its full name only.)
 class DisplayRole : public vantle::TypeRole {
     Q_OBJECT
     QML_ELEMENT
