@@ -1014,7 +1014,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Notes save privately with each session, after this one.</source>
-        <translation>Nach dieser Sitzung wird zu jeder Sitzung eine Notiz privat gesichert.</translation>
+        <translation>Ab der nächsten Sitzung wird deine Notiz privat mitgesichert.</translation>
     </message>
     <message>
         <source>Saved privately with this session.</source>
@@ -1050,7 +1050,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Counting time in %1</source>
-        <translation>Zeit in %1 zählt</translation>
+        <translation>Zeit läuft in %1</translation>
     </message>
     <message>
         <source>Count %1 toward a skill?</source>
@@ -1110,7 +1110,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>The dashboard&apos;s Today card measures against this goal, and This week against seven of it. Default is 2 hours.</source>
-        <translation>An diesem Ziel misst die Übersicht den heutigen Tag, und diese Woche an sieben davon. Voreingestellt sind 2 Stunden.</translation>
+        <translation>Daran misst die Übersicht den heutigen Tag, und die Woche an sieben davon. Voreingestellt sind 2 Stunden.</translation>
     </message>
     <message>
         <source>Ripple ceremony</source>
@@ -1118,7 +1118,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Presenter mode: turn this off before a screen share and the ceremony never crashes your call. It&apos;s a manual switch on purpose: macOS can only detect screen sharing through an API that itself triggers the Screen Recording permission prompt, the exact pop-up this app promises never to show.</source>
-        <translation>Vortragsmodus: Schalte sie vor einer Bildschirmfreigabe aus, und die Zeremonie platzt nie in deinen Anruf. Der Schalter ist mit Absicht einer von Hand: Um eine Bildschirmfreigabe zu bemerken, müsste eine App beobachten, was andere Apps mit deinem Bildschirm tun, und das verspricht diese App nie zu tun.</translation>
+        <translation>Vortragsmodus: Schalte sie vor einer Bildschirmfreigabe aus, dann platzt die Zeremonie nie in deinen Anruf. Das ist mit Absicht ein Schalter von Hand: Um eine Bildschirmfreigabe zu bemerken, müsste eine App beobachten, was andere Apps mit deinem Bildschirm tun, und diese App verspricht, das nie zu tun.</translation>
     </message>
     <message>
         <source>Black out the screen</source>
@@ -1182,7 +1182,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Runs a Shortcut of yours when a session starts, and another when it stops. Make them in the Shortcuts app with the Set Focus action; macOS does the silencing, and Vantle never sees your notifications. Nothing is blocked.</source>
-        <translation>Führt einen Befehl von dir aus, wenn eine Sitzung startet, und einen anderen, wenn sie stoppt. Leg ausführbare Dateien in den Ordner der Kurzbefehle oder nimm die, die mit Vantle kommen; still macht es dein Desktop, und Vantle sieht deine Benachrichtigungen nie. Nichts wird blockiert.</translation>
+        <translation>Führt einen Befehl von dir aus, wenn eine Sitzung startet, und einen anderen, wenn sie stoppt. Leg ausführbare Dateien in den Ordner der Kurzbefehle oder nimm die, die mit Vantle kommen; für die Ruhe sorgt dein Desktop, und Vantle sieht deine Benachrichtigungen nie. Nichts wird blockiert.</translation>
     </message>
     <message>
         <source>Registers with macOS as a login item (you&apos;ll see the standard &quot;background item added&quot; notice once).</source>
@@ -1194,7 +1194,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Every duration in Vantle reads this way: the dashboard, the notch, Wrapped, and the card after each session. Clock is the only one that counts seconds while you work.</source>
-        <translation>Jede Dauer in Vantle wird so geschrieben: in der Übersicht, am oberen Bildschirmrand, in Wrapped und auf der Karte nach jeder Sitzung. Nur die Uhr zählt Sekunden, während du arbeitest.</translation>
+        <translation>Jede Dauer in Vantle wird so geschrieben: in der Übersicht, am oberen Bildschirmrand, in Wrapped und auf der Karte nach jeder Sitzung. Nur „Uhr“ zählt Sekunden, während du arbeitest.</translation>
     </message>
     <message>
         <source>Your whole log, one JSON line per session.</source>
@@ -1202,7 +1202,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Deletes all local sessions, skills, app categories, and preferences. Everything this app knows lives on this Mac, so this removes all of it.</source>
-        <translation>Löscht alle Sitzungen, Skills, Zuordnungen von Apps und Einstellungen auf diesem Rechner. Alles, was diese App weiß, liegt hier, also entfernt das alles davon.</translation>
+        <translation>Löscht alle Sitzungen, Skills, Zuordnungen von Apps und Einstellungen auf diesem Rechner. Was diese App weiß, liegt nur hier; danach ist alles weg.</translation>
     </message>
     <message>
         <source>Open Shortcuts</source>
@@ -1278,7 +1278,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>That&apos;s the whole app: one press and the clock starts on {project}. The same press stops it.</source>
-        <translation>Das ist die ganze App: einmal drücken, und die Uhr läuft für {project}. Derselbe Druck hält sie an.</translation>
+        <translation>Das ist die ganze App: einmal drücken, und die Uhr läuft für {project}. Noch einmal drücken hält sie an.</translation>
     </message>
     <message>
         <source>You&apos;re building</source>
@@ -1330,7 +1330,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Your work, wrapped</source>
-        <translation>Deine Arbeit, verpackt</translation>
+        <translation>Deine Arbeit im Rückblick</translation>
     </message>
     <message>
         <source>Your hours, your rhythm and your builder type, in one image worth posting.</source>
@@ -1342,7 +1342,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>One press starts it, the same press ends it, and the brick in your menu bar holds the rest. Your hours stay on this Mac.</source>
-        <translation>Ein Druck startet, derselbe Druck beendet, und der Baustein in deinem Systemabschnitt hat den Rest. Deine Stunden bleiben auf diesem Rechner.</translation>
+        <translation>Ein Druck startet, derselbe Druck beendet, und alles andere hat der Baustein in deinem Systemabschnitt. Deine Stunden bleiben auf diesem Rechner.</translation>
     </message>
     <message>
         <source>your work</source>
@@ -1500,11 +1500,11 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>You are in %1</source>
-        <translation>Du bist in: %1</translation>
+        <translation>Jetzt läuft: %1</translation>
     </message>
     <message>
         <source>In %1</source>
-        <translation>In: %1</translation>
+        <translation>Aktiv: %1</translation>
     </message>
     <message>
         <source>No tray here: open Vantle again to get this panel back</source>
@@ -1597,7 +1597,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Nothing %1 yet</source>
-        <translation>%1 noch nichts</translation>
+        <translation>Noch nichts %1</translation>
     </message>
     <message>
         <source>THE BREAKDOWN</source>
@@ -1629,11 +1629,11 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Your builder personality is</source>
-        <translation>Du bist als Bauender</translation>
+        <translation>Deine Art zu bauen</translation>
     </message>
     <message>
         <source>From %1</source>
-        <translation>Aus %1</translation>
+        <translation>Gilt für: %1</translation>
     </message>
     <message>
         <source>Taking shape</source>
@@ -1747,7 +1747,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Your clearest pattern is showing up and moving the work forward before noon.</source>
-        <translation>Dein klarstes Muster: Du bist da und bringst die Arbeit vor dem Mittag voran.</translation>
+        <translation>Dein klarstes Muster: Du bist da und bringst die Arbeit am Vormittag voran.</translation>
     </message>
     <message>
         <source>Your deepest stretches of focused work tend to happen late at night.</source>
@@ -1851,7 +1851,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Before noon</source>
-        <translation>Vor dem Mittag</translation>
+        <translation>Vormittags</translation>
     </message>
     <message>
         <source>Noon to 6 PM</source>
@@ -1871,15 +1871,15 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Your starts are spread across the whole day.</source>
-        <translation>Deine Anfänge verteilen sich über den ganzen Tag.</translation>
+        <translation>Du beginnst über den ganzen Tag verteilt.</translation>
     </message>
     <message>
         <source>Most sessions started before noon.</source>
-        <translation>Die meisten Sitzungen begannen vor dem Mittag.</translation>
+        <translation>Die meisten Sitzungen begannen am Vormittag.</translation>
     </message>
     <message>
         <source>%1 of %2 sessions started before noon.</source>
-        <translation>%1 von %2 Sitzungen begannen vor dem Mittag.</translation>
+        <translation>%1 von %2 Sitzungen begannen am Vormittag.</translation>
     </message>
     <message>
         <source>Most sessions started in the afternoon.</source>
@@ -1891,7 +1891,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Most sessions started after dark.</source>
-        <translation>Die meisten Sitzungen begannen nach Einbruch der Dunkelheit.</translation>
+        <translation>Die meisten Sitzungen begannen am Abend.</translation>
     </message>
     <message>
         <source>%1 of %2 sessions started after 6 PM.</source>
@@ -1924,8 +1924,8 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     <message numerus="yes">
         <source>You hit your daily goal %n times.</source>
         <translation>
-            <numerusform>Du hast dein Tagesziel %n Mal erreicht.</numerusform>
-            <numerusform>Du hast dein Tagesziel %n Mal erreicht.</numerusform>
+            <numerusform>Du hast dein Tagesziel %n-mal erreicht.</numerusform>
+                <numerusform>Du hast dein Tagesziel %n-mal erreicht.</numerusform>
         </translation>
     </message>
     <message>
@@ -2071,7 +2071,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>The numbers worth saying out loud %1</source>
-        <translation>Die Zahlen, die man laut sagen darf: %1</translation>
+        <translation>Zahlen, die man laut sagen darf: %1</translation>
     </message>
     <message>
         <source>Ready when you are</source>
@@ -2127,7 +2127,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Vantle Saved Time</source>
-        <translation>Vantle-Gutschrift</translation>
+        <translation>Vantle: gesicherte Zeit</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -2210,7 +2210,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>%1 goal · a session starts the bar</source>
-        <translation>Ziel %1 · eine Sitzung beginnt den Balken</translation>
+        <translation>Ziel: %1 · mit der ersten Sitzung beginnt der Balken</translation>
     </message>
     <message>
         <source>next milestone %1</source>
@@ -2222,7 +2222,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>of %1 goal</source>
-        <translation>von %1 Ziel</translation>
+        <translation>von %1 Tagesziel</translation>
     </message>
     <message>
         <source>of %1</source>
@@ -2587,7 +2587,7 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
     </message>
     <message>
         <source>Couldn&apos;t save there. Try a different folder.</source>
-        <translation>Dort konnte nicht gesichert werden. Versuch einen anderen Ordner.</translation>
+        <translation>Hier ging das Sichern nicht. Versuch einen anderen Ordner.</translation>
     </message>
     <message>
         <source>Copied</source>
