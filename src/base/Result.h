@@ -1,4 +1,4 @@
-// The result of an operation that can fail.
+// The result of an operation with a possible failure.
 //
 // A Result must be checked, and its error always names operation and file. No exception leaves a
 // folder. Plain values, any thread.

@@ -1,4 +1,4 @@
-// The interface of the web engine module, which the program does not link.
+// The interface of the web engine module.
 #pragma once
 
 #include "ceremony/WebStage.h"

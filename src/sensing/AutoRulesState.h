@@ -1,4 +1,4 @@
-// Auto mode's memory as a value, and the cleaning of a stored one.
+// Auto mode's memory as a value.
 //
 // Plain values and pure functions, any thread.
 #pragma once

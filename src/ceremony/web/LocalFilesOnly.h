@@ -1,4 +1,4 @@
-// The filter that keeps a page in its folder and off the network.
+// The filter that confines a page to its folder.
 #pragma once
 
 #include <QWebEngineUrlRequestInterceptor>

@@ -1,4 +1,4 @@
-// A bus connection that is made without blocking.
+// A bus connection made without blocking.
 #pragma once
 
 #include "platform/session/BusGreeting.h"

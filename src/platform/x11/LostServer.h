@@ -1,4 +1,4 @@
-// The silent end of the program when the X server is lost.
+// The silent end of the program after the loss of the X server.
 #pragma once
 
 namespace vantle {

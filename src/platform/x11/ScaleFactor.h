@@ -1,4 +1,4 @@
-// The desktop's scale factor, rounded where it is nearly whole.
+// The desktop's scale factor, rounded if nearly whole.
 //
 // Any thread.
 #pragma once

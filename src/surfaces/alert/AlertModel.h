@@ -1,4 +1,4 @@
-// What an alert says, and which button was chosen, as its view sees it.
+// The content of an alert and its answer, for its view.
 #pragma once
 
 #include <QObject>
@@ -16,7 +16,7 @@ class AlertModel : public QObject {
     Q_PROPERTY(QString message MEMBER message CONSTANT)
     /// What it means.
     Q_PROPERTY(QString informativeText MEMBER informativeText CONSTANT)
-    /// The main one first; it stands at the right end and answers the return key.
+    /// The default button first; it is at the right end and reacts to Return.
     Q_PROPERTY(QStringList buttons MEMBER buttons CONSTANT)
 
 public:
@@ -24,9 +24,9 @@ public:
     QString informativeText;
     QStringList buttons;
 
-    /// The button was pressed.
+    /// The user pressed the button.
     Q_INVOKABLE void choose(int index) { Q_EMIT chosen(index); }
-    /// The person turned away without pressing one: the last button counts.
+    /// The user closed the alert without a button: the last one counts.
     Q_INVOKABLE void dismiss() { Q_EMIT chosen(static_cast<int>(buttons.size()) - 1); }
 
 Q_SIGNALS:

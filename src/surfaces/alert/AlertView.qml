@@ -1,4 +1,4 @@
-// An alert: what happened, what it means, and the buttons.
+// An alert: what happened, what it means, and its buttons.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Alert

@@ -1,4 +1,4 @@
-// The one way in which the program asks something that can't wait.
+// The presentation of modal alerts.
 #pragma once
 
 #include <QString>
@@ -10,20 +10,19 @@ class PanelHost;
 class Screens;
 class WindowManager;
 
-/// What an alert says.
+/// The content of an alert.
 struct Alert {
     QString message;
     QString informativeText;
-    QStringList buttons; ///< at least one; the main one first
+    QStringList buttons; ///< at least one; the default one first
 };
 
 namespace modalpresenter {
 
-/// Shows the alert in front of everything, in a window with a place in the task bar and the frame
-/// of all windows, on the screen in use, and returns the index of the chosen button. Escape and
-/// closing the window choose the last one. Runs the event loop until then; the program's other
-/// windows wait. Any thread, after the application object: off the main thread it waits for the
-/// answer there.
+/// Shows the alert above all windows, in a framed window with a task bar entry on the screen in
+/// use. Returns the index of the chosen button; Escape and closing the window choose the last one.
+/// Runs a nested event loop; the program's other windows are blocked. Requires the application
+/// object. Any thread: off the main thread it blocks that thread until the answer.
 [[nodiscard]] int runAlert(const Alert& alert, PanelHost& host, WindowManager& windowManager,
                            const Screens& screens);
 

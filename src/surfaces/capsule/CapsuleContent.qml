@@ -1,4 +1,4 @@
-// What the open capsule shows: the row, the chips of the skills, the row that adds one.
+// The content of the open capsule: the row, the skill chips, the row that adds one.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Capsule
@@ -12,7 +12,7 @@ Item {
     visible: opacity > 0
     opacity: 0
 
-    // Whether a click there means the capsule itself, and none of its chips or the add row.
+    // Whether a click there is for the capsule itself, not for a chip or the add row.
     function isGround(place: point): bool {
         const amongChips = chips.mapFromItem(content, place);
         if (chips.childAt(amongChips.x, amongChips.y))

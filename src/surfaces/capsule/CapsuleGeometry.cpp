@@ -11,7 +11,7 @@ constexpr double kMinWidth = 340;
 constexpr double kMaxBeyondNotch = 260;
 constexpr double kPanelSides = 48;
 constexpr double kPanelBelow = 24;
-constexpr double kLineSlack = 4; // measured and drawn widths differ by a little
+constexpr double kLineSlack = 4; // measured and drawn widths differ slightly
 constexpr double kStripBelowNotch = 6;
 constexpr double kStripOnPlainScreen = 10;
 
@@ -58,7 +58,7 @@ QRectF panelFrame(const NotchMetrics& metrics, const ScreenShape& screen) {
 Placement placement(const NotchMetrics& metrics, const ScreenShape& screen) {
     const QRect frame = panelFrame(metrics, screen).toAlignedRect();
     Placement placement{.spot = Placement::Spot::TopCenter, .screen = screen, .size = frame.size()};
-    // A camera housing need not be in the middle.
+    // A camera housing may be off-centre.
     placement.inset = frame.topLeft() - placement.ground().topLeft();
     return placement;
 }

@@ -1,7 +1,7 @@
-// Where the capsule and its parts lie: widths, frames and the part that feels the pointer.
+// The geometry of the capsule: widths, frames, input area.
 //
-// Pure functions, any thread. Lengths in px; places from the top left of the capsule's panel, whose
-// top edge is that of the screen.
+// Pure functions, any thread. Lengths in px, relative to the top left of the capsule's panel, whose
+// top edge is the screen's.
 #pragma once
 
 #include "platform/Placement.h"
@@ -22,21 +22,21 @@ inline constexpr double kStopChipSize = look::kLengths.capsuleChipSize;
 inline constexpr double kStopGap = 16;
 inline constexpr double kMaxChipRowWidth = 420;
 
-/// Heights of what lies below the row.
+/// The content below the row.
 struct Content {
-    std::optional<QSizeF> chips; ///< size of the chips; empty when there are none
-    bool showAddRow = false;     ///< below chips only
+    std::optional<QSizeF> chips; ///< empty without chips
+    bool showAddRow = false;     ///< only together with chips
 
-    /// What it adds to the capsule's height.
+    /// The height that it adds to the capsule.
     [[nodiscard]] double extraHeight() const;
-    /// Height of the view inside the capsule that holds row and content.
+    /// The height of the view with row and content.
     [[nodiscard]] double rowViewHeight() const;
 };
 
-/// The width that a line of text takes, from its measured width.
+/// The width of a line of text, from its measured width.
 [[nodiscard]] double lineWidth(double measured);
 
-/// The width at which everything has room, from the widths of the skill line and the clock.
+/// The width that fits everything, from the widths of skill line and clock.
 [[nodiscard]] double requiredCapsuleWidth(const NotchMetrics& metrics, double skillLineWidth,
                                           double clockWidth, const Content& content);
 
@@ -44,19 +44,19 @@ struct Content {
 [[nodiscard]] QSizeF panelSize(const NotchMetrics& metrics);
 /// Frame of the panel on the desktop.
 [[nodiscard]] QRectF panelFrame(const NotchMetrics& metrics, const ScreenShape& screen);
-/// The same as a placement, at the top of its screen.
+/// The panel's placement at the top of its screen.
 [[nodiscard]] Placement placement(const NotchMetrics& metrics, const ScreenShape& screen);
 
-/// The open capsule, which is never wider than the panel leaves room for, and of an even width. It
-/// stands below the desktop's bar, if there is one.
+/// The open capsule: of even width, at most as wide as the panel allows, below the desktop's bar if
+/// there is one.
 [[nodiscard]] QRectF openFrame(const NotchMetrics& metrics, double requiredWidth);
-/// The capsule at rest, flush with the top or the bar there.
+/// The resting capsule, at the top or at the bar there.
 [[nodiscard]] QRectF restingFrame(const NotchMetrics& metrics);
 
-/// The strip at the screen's edge, over a bar too, that feels the pointer while the capsule rests.
+/// The strip at the screen's edge, over a bar too, that reacts to the pointer while the capsule
+/// rests.
 [[nodiscard]] QRectF hoverStrip(const NotchMetrics& metrics);
-/// The part that feels the pointer: the strip, and the capsule when it is open, with what is
-/// between them.
+/// The input area: the strip, and while open the capsule and the area between them.
 [[nodiscard]] QRectF hoverRect(const NotchMetrics& metrics, const std::optional<QRectF>& open);
 
 } // namespace vantle::capsule

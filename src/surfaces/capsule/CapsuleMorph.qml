@@ -1,5 +1,5 @@
-// A frame on its way to another: by the capsule's spring when it opens, straight when it closes. An
-// interrupted way turns round from where it is.
+// The animation of the capsule's frame: by a spring when it opens, linear when it closes. An
+// interrupted animation reverses from its current state.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -9,7 +9,7 @@ QtObject {
 
     required property rect target
     required property bool opening
-    property bool still: false // jumps
+    property bool still: false // jumps without animation
 
     readonly property real x: mix(from.x, to.x)
     readonly property real y: mix(from.y, to.y)
@@ -57,7 +57,7 @@ QtObject {
     readonly property bool reduced: Motion.reduced
     onReducedChanged: if (reduced && running) {
         run.stop();
-        time = 0; // it is there
+        time = 0; // arrived
     }
     Component.onCompleted: {
         from = target;

@@ -45,7 +45,7 @@ void CapsuleOpening::pointerRested() {
 
 void CapsuleOpening::beginSessionFlash(Seconds hold) {
     expand();
-    // A flash ends at its time, suspended or not.
+    // A flash ends on time even while collapsing is suspended.
     m_flashWork = m_env.scheduler.scheduleOnce(hold, [this] { collapseUnlessPointerInside(); });
 }
 
@@ -83,8 +83,8 @@ void CapsuleOpening::collapseUnlessPointerInside() {
         collapse();
 }
 
-/// Part of what feels the pointer may lie beside the window, over the desktop's bar, where the end
-/// of a hover is not told.
+/// A part of the input area may be outside the window, over the desktop's bar, where the window
+/// gets no leave event.
 void CapsuleOpening::watchPointer() {
     if (!m_isExpanded || m_isHovered || m_watch) return;
     m_watch = m_env.scheduler.scheduleRepeatingTimer(kWatch, kWatch * 0.5, [this] {

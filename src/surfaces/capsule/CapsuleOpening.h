@@ -1,4 +1,6 @@
-// When the capsule opens and when it closes: the pointer, flashes, and what holds it open.
+// The rules for opening and closing the capsule.
+//
+// Inputs are the pointer, flashes and suspensions.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -7,13 +9,12 @@
 
 namespace vantle {
 
-/// Main thread. Nothing here knows how an opening looks; it is over at once, and who draws it may
-/// take time for it.
+/// Switches state immediately; the view animates it. Main thread.
 class CapsuleOpening {
 public:
     struct Environment {
         Scheduler& scheduler;
-        /// Whether the pointer is in the part that feels it, now. False where there is no window.
+        /// Whether the pointer is in the input area now. False without a window.
         std::function<bool()> pointerInside;
         /// Called after each change of isExpanded().
         std::function<void()> changed;
@@ -27,22 +28,21 @@ public:
     void expand();
     void collapse();
 
-    /// The window was told that the pointer came into the part that feels it, or left it.
+    /// The window reported that the pointer entered or left the input area.
     void pointerEntered();
     void pointerLeft();
-    /// The pointer rests in that part where the window is not told of it.
+    /// The pointer rests in the input area, outside the window.
     void pointerRested();
 
-    /// Opens, and closes again in `hold` unless the pointer holds it open by then.
+    /// Opens, and closes after `hold` unless the pointer keeps it open.
     void beginSessionFlash(Seconds hold);
 
-    /// Keeps the capsule open under the person's hand while something else has their attention.
-    /// Calls nest.
+    /// Keeps the capsule open while the user works in a menu or editor. Calls nest.
     void pushCollapseSuspend();
-    /// Ends one of them; one too many does nothing. The last one lets the capsule close soon.
+    /// Ends one suspension; extra calls have no effect. The last one lets the capsule close soon.
     void popCollapseSuspend();
 
-    /// Gives up all that is planned. What is open stays open.
+    /// Cancels everything scheduled. An open capsule stays open.
     void cancel();
 
 private:
@@ -53,10 +53,10 @@ private:
     Environment m_env;
     bool m_isExpanded = false;
     int m_collapseSuspendCount = 0;
-    bool m_isHovered = false; ///< as the window was told
+    bool m_isHovered = false; ///< as last reported by the window
     TimerHandle m_collapseWork;
     TimerHandle m_flashWork;
-    TimerHandle m_watch; ///< while the pointer holds it open and the window is not told of it
+    TimerHandle m_watch; ///< runs while the pointer keeps it open outside the window
 };
 
 } // namespace vantle

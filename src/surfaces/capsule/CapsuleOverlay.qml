@@ -1,4 +1,4 @@
-// What hangs below a chip or the add row: the chip's menu, or the editor. A press beside it closes
+// The overlay below a chip or the add row: the chip's menu, or the editor. A press outside closes
 // it.
 pragma ComponentBehavior: Bound
 import QtQuick
@@ -39,7 +39,7 @@ FocusScope {
         onPressed: overlay.capsule.dismissOverlay()
     }
 
-    // Repeaters of one: a Loader can't make bound components with Qt 6.4.
+    // A Repeater of one: in Qt 6.4 a Loader cannot create bound components.
     Repeater {
         model: overlay.hasMenu ? 1 : 0
         onItemAdded: (index, item) => overlay.present(item)

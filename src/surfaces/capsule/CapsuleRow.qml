@@ -1,5 +1,4 @@
-// The row at the top of the capsule: dot, skill line and clock, and the round chip that starts or
-// stops.
+// The top row of the capsule: dot, skill line, clock, and the round start or stop chip.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Capsule
@@ -21,7 +20,7 @@ Item {
         color: row.tint
         opacity: row.capsule.paused ? CapsuleTokens.pausedDot : 1
 
-        // Only a clock that runs, and can be seen, moves anything by itself.
+        // Animated only while the clock runs and is visible.
         SequentialAnimation {
             running: row.capsule.expanded && !row.capsule.idlePrompt && !row.capsule.paused
                      && !Motion.reduced

@@ -1,19 +1,19 @@
-// What a capsule asks of the window that it lies in.
+// The interface from a capsule to its window.
 #pragma once
 
 #include <QRectF>
 
 namespace vantle {
 
-/// Main thread. Places are px from the top left of the capsule's panel.
+/// Positions in px from the top left of the capsule's panel. Main thread.
 class CapsuleStage {
 public:
     virtual ~CapsuleStage() = default;
 
-    /// Whether the pointer is in that part of the panel. False while there is no window.
+    /// Whether the pointer is in that part of the panel. False without a window.
     [[nodiscard]] virtual bool pointerInside(const QRectF& part) const = 0;
 
-    /// Follows what the capsule says of itself: the part that feels the pointer, and its overlay.
+    /// Updates input area and overlay from the capsule's state.
     virtual void follow() = 0;
 
     virtual void takeKeyboard() = 0;

@@ -1,4 +1,4 @@
-// The words of the capsule and the widths that they take.
+// The texts of the capsule and their widths.
 #pragma once
 
 #include <QFontMetricsF>
@@ -6,20 +6,20 @@
 
 namespace vantle {
 
-/// Measures with the fonts that the views draw with. After the application object, main thread.
+/// Measures with the fonts of the views. Requires the application object. Main thread.
 class CapsuleText {
 public:
     CapsuleText();
 
-    /// A skill's name in upper case; the word for a pause follows it.
+    /// Returns the skill's name in upper case, followed by the word for a pause.
     [[nodiscard]] static QString skillLine(const QString& skillName, bool paused);
-    /// What stands in the clock's place while no session is open.
+    /// Shown in place of the clock while no session is open.
     [[nodiscard]] static QString startPrompt();
     [[nodiscard]] static QString toolTip(bool idlePrompt, bool hasSkills);
 
     [[nodiscard]] double chipNameWidth(const QString& name) const;
     [[nodiscard]] double skillLineWidth(const QString& line) const;
-    /// With all digits of one width, so that the capsule doesn't breathe with the seconds.
+    /// With digits of equal width, so that the capsule keeps its width.
     [[nodiscard]] double clockWidth(const QString& clock) const;
 
 private:

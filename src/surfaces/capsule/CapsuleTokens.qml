@@ -1,10 +1,10 @@
-// Lengths that are the capsule's own, in px, beside the tokens of the kit.
+// Lengths of the capsule alone, in px, in addition to the kit's tokens.
 pragma Singleton
 import QtQuick
 import Vantle.Kit
 
 QtObject {
-    readonly property real inset: DarkUI.capsuleInset // of everything, from the left and the right
+    readonly property real inset: DarkUI.capsuleInset // of all content, from the left and the right
     readonly property real rowHeight: DarkUI.capsuleRowHeight
     readonly property real dotTop: 15
     readonly property real skillLineLeft: 33
@@ -13,8 +13,8 @@ QtObject {
     readonly property real roundChip: DarkUI.capsuleChipSize
     readonly property real roundChipTop: 16
     readonly property real stopGlyph: 9
-    readonly property real playGlyph: 13 // on the icons' grid; the triangle itself is 8 wide
-    readonly property real glow: 10 // how far the ring's glow reaches
+    readonly property real playGlyph: 13 // on the icon grid; the triangle itself is 8 wide
+    readonly property real glow: 10 // reach of the ring's glow
     readonly property real glowOpacity: 0.55
     readonly property real ringOpacity: 0.6
     readonly property color roundChipFill: DarkUI.fillHover
@@ -30,11 +30,11 @@ QtObject {
 
     readonly property real tipHeight: 22
     readonly property real tipTop: 8 // below the capsule
-    readonly property int tipDelay: 1500 // ms that the pointer has to rest
+    readonly property int tipDelay: 1500 // ms
 
-    readonly property int dotDelay: 400 // ms before the dot begins to breathe
-    readonly property int fadeTime: 280 // ms, of a capsule that goes
+    readonly property int dotDelay: 400 // ms before the dot starts to breathe
+    readonly property int fadeTime: 280 // ms, when the capsule disappears
 
-    readonly property real overlayMargin: 44 // from the sides of the window, for the shadow
-    readonly property real popoverGap: 2 // between what it belongs to and its arrow
+    readonly property real overlayMargin: 44 // from the window's sides, for the shadow
+    readonly property real popoverGap: 2 // between the popover's arrow and its owner
 }

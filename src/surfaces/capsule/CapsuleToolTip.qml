@@ -1,4 +1,4 @@
-// What a click would do, told below the capsule to a pointer that has rested on it for a while.
+// The tooltip below the capsule: what a click does.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Capsule

@@ -11,7 +11,7 @@ namespace vantle {
 namespace {
 
 constexpr double kShadowRoom = 24;  // px below the panel, for the capsule's shadow
-constexpr double kOverlayRoom = 56; // below the menu or the editor, for theirs
+constexpr double kOverlayRoom = 56; // below the menu or the editor, for their shadow
 
 } // namespace
 
@@ -55,7 +55,7 @@ bool CapsuleWindow::pointerInside(const QRectF& part) const {
 }
 
 void CapsuleWindow::follow() {
-    if (m_panel->rootObject() == nullptr) return; // the view is being made
+    if (m_panel->rootObject() == nullptr) return; // the view is still loading
     sensePointer();
     if (mustHide())
         m_panel->hide();
@@ -63,8 +63,8 @@ void CapsuleWindow::follow() {
         m_panel->showAt(placement());
 }
 
-/// A window that can't be seen through is there only while the capsule is open; one that can't let
-/// presses through does not stay for the fade.
+/// Without a compositor the window exists only while the capsule is open; without input regions it
+/// does not stay for the fade.
 bool CapsuleWindow::mustHide() const {
     if (m_capsule->isLeaving() && !m_host.hasInputRegions()) return true;
     return !m_panel->isComposited() && !m_capsule->isExpanded();
@@ -78,7 +78,7 @@ void CapsuleWindow::sensePointer() {
         m_sensor = m_host.senseAt(m_placement, strip, [this] { m_capsule->pointerRested(); });
 }
 
-/// A window feels the strip only where nothing else can: it would take the presses there.
+/// The window covers the strip only without a pointer sensor: it takes the presses there.
 QRegion CapsuleWindow::inputRegion() const {
     const QRegion shown = m_capsule->inputRegion();
     return m_sensor ? shown : shown + m_capsule->freeStrip();

@@ -8,14 +8,13 @@
 
 namespace vantle {
 
-/// A floating panel with the capsule's view. It is a little higher than the capsule's panel, for
-/// the shadow, and grows for as long as the menu or the editor hang below. While there is no
-/// compositor there is a window only while the capsule is open: one at rest could be seen. Main
-/// thread.
+/// A floating panel with the capsule's view, slightly higher than the capsule's panel for the
+/// shadow, and enlarged while the menu or the editor is open. Without a compositor the window
+/// exists only while the capsule is open, since it would be visible at rest. Main thread.
 class CapsuleWindow final : public CapsulePanel, private CapsuleStage {
 public:
-    /// Shows the capsule there. Null when its view can't be made. Engine and host must outlive the
-    /// window; the engine finds the program's modules.
+    /// Shows the capsule. Returns null when its view is invalid. Engine and host must outlive the
+    /// window; the engine must find the program's modules.
     [[nodiscard]] static std::unique_ptr<CapsuleWindow> raise(std::unique_ptr<NotchCapsule> capsule,
                                                               const Placement& placement,
                                                               QQmlEngine& engine, PanelHost& host);
@@ -39,14 +38,13 @@ private:
     [[nodiscard]] bool mustHide() const;
     [[nodiscard]] Placement placement() const;
 
-    /// Both may be in the middle of an event when they have to go.
+    /// Both may be handling an event when they are to be deleted.
     struct DeleteLater {
         void operator()(QObject* object) const { object->deleteLater(); }
     };
     PanelHost& m_host;
-    const Placement m_placement; ///< of the capsule's panel alone
-    std::unique_ptr<PointerSensor>
-        m_sensor; ///< of the free strip; null where there is no such thing
+    const Placement m_placement;             ///< of the capsule's panel alone
+    std::unique_ptr<PointerSensor> m_sensor; ///< for the free strip; null where unsupported
     std::unique_ptr<NotchCapsule, DeleteLater> m_capsule;
     std::unique_ptr<FloatingPanel, DeleteLater> m_panel;
 };

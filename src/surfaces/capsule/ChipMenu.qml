@@ -1,4 +1,4 @@
-// The menu of a chip.
+// The context menu of a chip.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -17,9 +17,9 @@ constexpr Seconds kTick{1.0};
 constexpr Seconds kTickTolerance{0.2};
 constexpr Seconds kRetagHold{1.6};
 constexpr Seconds kFade{0.28};
-constexpr double kChipsBelowRow = 2; // px between the row and the chips
+constexpr double kChipsBelowRow = 2; // px between row and chips
 constexpr double kAddRowHeight = look::kLengths.capsuleAddRowHeight;
-constexpr double kAddRowTarget = 28; // of the square and its words
+constexpr double kAddRowTarget = 28; // the square and its label
 
 bool showsAddRow(const NotchCapsule::Form& form) {
     return form.idlePrompt && form.edit && form.skills.size() < Skill::maxCount;
@@ -57,7 +57,7 @@ NotchCapsule::NotchCapsule(const Environment& environment, Form form, const Scre
     if (m_form.idlePrompt) {
         m_clock = CapsuleText::startPrompt();
     } else if (m_form.tracker) {
-        // State and skill change one after the other; only what they end up as is shown.
+        // State and skill change one after the other; only the final pair is shown.
         const auto later = [this] {
             m_env.scheduler.post([self = QPointer(this)] {
                 if (self) self->refreshLabel();
@@ -223,7 +223,8 @@ void NotchCapsule::chipRequestsDelete() {
     const QString id = m_menuSkillId;
     closeMenu();
     if (id.isEmpty() || !m_form.edit) return;
-    // The model builds another capsule; this one must not be in the middle of a click then.
+    // The callback makes the model build another capsule, which must not happen inside this one's
+    // click handler.
     m_env.scheduler.post([onDelete = m_form.edit->onDelete, id] { onDelete(id); });
 }
 
@@ -271,7 +272,8 @@ void NotchCapsule::closeMenu() {
 void NotchCapsule::commitEdit(const std::optional<QString>& id, const QString& name,
                               std::uint32_t hexRGB) {
     if (!m_form.edit) return;
-    // Another capsule may come of it, which must not happen inside the editor's own event.
+    // The callback may build another capsule, which must not happen inside the editor's event
+    // handler.
     m_env.scheduler.post([edit = *m_form.edit, id, name, hexRGB] {
         if (id)
             edit.onUpdate(*id, name, hexRGB);

@@ -1,4 +1,4 @@
-// One capsule as it is on show: its rules and what its view shows of them.
+// One capsule: its rules and the properties for its view.
 #pragma once
 
 #include "app/Collaborators.h"
@@ -23,9 +23,8 @@ namespace vantle {
 class Preferences;
 class ReducedMotion;
 
-/// Built anew for each form and each screen; never changes from one form into the other. The
-/// editing of skills is offered in the idle form alone, since there the capsule has callbacks for
-/// it. Main thread.
+/// Rebuilt for each form and each screen; never switches form. Only the idle form offers to edit
+/// skills, since only it has the callbacks. Main thread.
 class NotchCapsule final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -40,12 +39,12 @@ class NotchCapsule final : public QObject {
     Q_PROPERTY(bool showAddRow READ showAddRow CONSTANT)
     Q_PROPERTY(QSizeF chipsSize READ chipsSize CONSTANT)
     Q_PROPERTY(QString toolTip READ toolTip CONSTANT)
-    /// The skills; the session's is selected, or the one that a start would take.
+    /// The skills. The session's is selected, or the one for the next start.
     Q_PROPERTY(vantle::SkillListModel* chips READ chips CONSTANT)
     Q_PROPERTY(QList<QRectF> chipFrames READ chipFrames CONSTANT)
 
     Q_PROPERTY(bool expanded READ isExpanded NOTIFY expandedChanged)
-    /// Where the capsule is or is moving to.
+    /// The capsule's frame, or the target of its animation.
     Q_PROPERTY(QRectF frame READ frame NOTIFY frameChanged)
     Q_PROPERTY(QRectF openFrame READ openFrame NOTIFY frameChanged)
     Q_PROPERTY(QRectF hoverRect READ hoverRect NOTIFY frameChanged)
@@ -53,16 +52,16 @@ class NotchCapsule final : public QObject {
     Q_PROPERTY(QString clock READ clock NOTIFY labelChanged)
     Q_PROPERTY(QColor tint READ tint NOTIFY labelChanged)
     Q_PROPERTY(bool paused READ showsPaused NOTIFY labelChanged)
-    /// The capsule is fading away, and deaf.
+    /// The capsule is fading out and ignores input.
     Q_PROPERTY(bool leaving READ isLeaving NOTIFY leavingChanged)
 
     /// The chip whose menu is open; empty when none is.
     Q_PROPERTY(QString menuSkillId READ menuSkillId NOTIFY overlayChanged)
     Q_PROPERTY(QString menuSkillName READ menuSkillName NOTIFY overlayChanged)
     Q_PROPERTY(vantle::SkillEditor* editor READ editor CONSTANT)
-    /// What menu or editor hang below: a chip, or the add row.
+    /// The owner of the open menu or editor: a chip or the add row.
     Q_PROPERTY(QRectF overlayAnchor READ overlayAnchor NOTIFY overlayChanged)
-    /// Where the view has put the menu or the editor; empty when none is open.
+    /// Where the view has placed the menu or the editor; empty when none is open.
     Q_PROPERTY(QRectF overlayRect READ overlayRect WRITE setOverlayRect NOTIFY overlayRectChanged)
 
 public:
@@ -72,7 +71,7 @@ public:
         const ReducedMotion& reducedMotion;
         const CapsuleText& text;
     };
-    /// What is on show.
+    /// The form and content of a capsule.
     struct Form {
         QPointer<TrackerCore> tracker;
         Skill skill;
@@ -81,35 +80,35 @@ public:
         std::function<void()> onTap;
         std::function<void(const QString& skillId)> onPick;
         std::optional<collaborators::SkillEditCallbacks> edit;
-        QString clock = {}; ///< what it reads without a tracker: for pictures of a capsule
+        QString clock = {}; ///< the clock's text without a tracker, for pictures of a capsule
     };
 
     NotchCapsule(const Environment& environment, Form form, const ScreenShape& screen);
     ~NotchCapsule() override;
 
-    /// The window, once there is one. It must outlive the capsule or be taken away with null.
+    /// Sets the window, which must outlive the capsule or be reset to null.
     void setStage(CapsuleStage* stage) { m_stage = stage; }
 
-    // Commands of the controller
+    // Called by the controller
 
     void expand() { m_opening.expand(); }
     void collapse() { m_opening.collapse(); }
     void beginSessionFlash(Seconds hold) { m_opening.beginSessionFlash(hold); }
     void retag(const Skill& skill, bool flash);
-    /// Closes and fades; `completion` is called once it is gone from sight.
+    /// Closes and fades out; calls `completion` once invisible.
     void animateOut(std::function<void()> completion);
-    /// Gives up all that is planned, and closes the editor without a result.
+    /// Cancels everything scheduled and closes the editor without a result.
     void retire();
 
-    // What the window reports
+    // Called by the window
 
-    /// The pointer rests in the strip, where no window of ours feels it.
+    /// The pointer rests in the strip, outside the window.
     void pointerRested();
 
-    // What the view reports
+    // Called by the view
 
     Q_INVOKABLE void setHovered(bool hovered);
-    /// A click on the capsule beside its chips.
+    /// A click on the capsule outside its chips.
     Q_INVOKABLE void click();
     Q_INVOKABLE void pickSkill(const QString& skillId);
     Q_INVOKABLE void openMenu(const QString& skillId);
@@ -117,7 +116,7 @@ public:
     Q_INVOKABLE void chipRequestsRecolor();
     Q_INVOKABLE void chipRequestsDelete();
     Q_INVOKABLE void chipRequestsAdd();
-    /// The person turned away from the menu or the editor.
+    /// The user dismissed the menu or the editor.
     Q_INVOKABLE void dismissOverlay();
     void setOverlayRect(const QRectF& rect);
 
@@ -158,9 +157,9 @@ public:
 
     /// What feels the pointer beside the strip: nothing at rest.
     [[nodiscard]] QRegion inputRegion() const;
-    /// The strip at the screen's edge, where the open capsule does not cover it; else empty.
+    /// The part of the strip that the open capsule does not cover.
     [[nodiscard]] QRect freeStrip() const;
-    /// What is there at all, while it is open, where the desktop mixes no transparency.
+    /// The visible part while open on a desktop without compositor.
     [[nodiscard]] QRegion opaqueRegion() const;
 
 Q_SIGNALS:
@@ -180,7 +179,7 @@ private:
 
     /// Opens the editor for the skill whose menu is open.
     void presentEditor(SkillEditor::Fields fields);
-    /// To be called before the editor opens below `anchor`.
+    /// Makes room for the editor below `anchor`; call before it opens.
     void makeWay(const QRectF& anchor);
     void closeMenu();
     void commitEdit(const std::optional<QString>& id, const QString& name, std::uint32_t hexRGB);
@@ -206,7 +205,7 @@ private:
     QRectF m_overlayRect;
 
     CapsuleOpening m_opening;
-    TimerHandle m_tickTimer; ///< there exactly while a running clock can be seen
+    TimerHandle m_tickTimer; ///< set while a visible clock runs
     TimerHandle m_fade;
 };
 

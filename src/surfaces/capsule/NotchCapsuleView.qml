@@ -1,4 +1,4 @@
-// The capsule: the black shape that grows out of the top edge, and what hangs below it for editing.
+// The capsule: the black shape at the top edge, and the overlay below it.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Capsule
@@ -28,7 +28,7 @@ PanelRoot {
         still: !view.composited
     }
 
-    // The part that feels the pointer. Menu and editor are not in it.
+    // The input area, without menu and editor.
     Item {
         id: sensitive
         x: view.capsule.hoverRect.x
@@ -49,11 +49,12 @@ PanelRoot {
         width: view.capsule.openFrame.width
         height: view.capsule.openFrame.height
 
-        // Here and not in the content, which is small and clear at first: from the moment the
-        // capsule opens a click is the capsule's, and none is lost between it and what is below.
+        // Here, not in the content, which is small and transparent at first: from the moment the
+        // capsule opens, every click is for the capsule.
         TapHandler {
             gesturePolicy: TapHandler.ReleaseWithinBounds
-            // A press on the empty row may end on a chip, which means something else.
+            // A press on the empty row may be released over a chip, which is no click on the
+            // capsule.
             onTapped: eventPoint => {
                 const place = ground.mapToItem(content, eventPoint.position);
                 if (content.isGround(place))
@@ -62,7 +63,7 @@ PanelRoot {
         }
     }
 
-    // No shadow falls on a bar above.
+    // Keeps the shadow off a bar above.
     Item {
         id: below
         y: view.capsule.openFrame.y
@@ -90,7 +91,7 @@ PanelRoot {
         visible: view.capsule.hasNotch || view.capsule.expanded || morph.running
         clip: true
 
-        // A line of light along the inside of the bottom.
+        // A highlight inside the lower edge.
         Plate {
             y: -view.radius
             width: parent.width
@@ -116,7 +117,7 @@ PanelRoot {
         }
     }
 
-    // Below the capsule is nothing but shadow, which there is only with a compositor.
+    // Below the capsule there is only its shadow, which needs a compositor.
     CapsuleToolTip {
         x: Math.round((view.width - width) / 2)
         y: view.capsule.openFrame.y + view.capsule.openFrame.height + CapsuleTokens.tipTop

@@ -8,7 +8,7 @@ namespace {
 
 constexpr Seconds kSessionFlash{2.0};
 constexpr Seconds kIdleFlash{1.6};
-/// Screens that come and go do so several times for one act of the person.
+/// Plugging a screen in or out changes the screens several times in a row.
 constexpr Seconds kRepositionDelay{0.7};
 
 } // namespace

@@ -1,4 +1,4 @@
-// Keeps the capsule at the top of the screen: which form it has, and on which screen it is.
+// The controller of the capsule: its form and its screen.
 #pragma once
 
 #include "app/Collaborators.h"
@@ -12,15 +12,15 @@
 
 namespace vantle {
 
-/// A capsule with its window. To destroy it is to take it off the screen at once. Main thread.
+/// A capsule with its window. Destroying it removes it from the screen immediately. Main thread.
 class CapsulePanel {
 public:
     virtual ~CapsulePanel() = default;
     [[nodiscard]] virtual NotchCapsule& capsule() = 0;
 };
 
-/// Builds a new panel and capsule for every change of form; nothing is updated in place. Without a
-/// screen it shows nothing and says nothing. Main thread.
+/// Builds a new panel and capsule for each change of form, without updating in place. Shows nothing
+/// without a screen. Main thread.
 class NotchStatusController final : public QObject, public collaborators::Notch {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ public:
         const Preferences& preferences;
         const ReducedMotion& reducedMotion;
         const Screens& screens;
-        /// Raises the panel of a capsule, resting, in front of everything; it keeps the capsule.
+        /// Shows a capsule's panel, resting, above other windows; the panel owns the capsule.
         std::function<std::unique_ptr<CapsulePanel>(std::unique_ptr<NotchCapsule>,
                                                     const Placement& placement)>
             raise;
@@ -52,7 +52,7 @@ public:
     void flashSessionStart() override;
     void flashIdleCard() override;
 
-    /// What is on show; null when nothing is.
+    /// The visible capsule; null when there is none.
     [[nodiscard]] NotchCapsule* capsule() const;
 
 private:
@@ -64,9 +64,10 @@ private:
     Environment m_env;
     CapsuleText m_text;
     std::unique_ptr<CapsulePanel> m_panel;
-    std::optional<NotchCapsule::Form> m_lastForm; ///< what is on show, to show it again elsewhere
+    /// What is shown, to rebuild it on another screen.
+    std::optional<NotchCapsule::Form> m_lastForm;
     TimerHandle m_repositionWork;
-    std::list<std::unique_ptr<CapsulePanel>> m_leaving; ///< fading away
+    std::list<std::unique_ptr<CapsulePanel>> m_leaving; ///< fading out
 };
 
 } // namespace vantle

@@ -7,11 +7,11 @@ namespace vantle {
 
 namespace {
 
-constexpr double kNameSlack = 3; // measured and drawn widths differ by a little
+constexpr double kNameSlack = 3; // measured and drawn widths differ slightly
 constexpr double kNameLeft = 23;
 constexpr double kNameRight = 10;
 
-/// Lays chips one beside the other, and begins a new row where one has no room.
+/// Places chips in rows, with a new row when one does not fit.
 class Rows {
 public:
     explicit Rows(double maxWidth) : m_maxWidth(maxWidth) {}

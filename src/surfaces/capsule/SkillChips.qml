@@ -1,4 +1,4 @@
-// The chips of the skills, where the layout puts them.
+// The skill chips at their layout positions.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Capsule

@@ -1,4 +1,4 @@
-// The editor of one skill: its name, its colour, or both for a new one.
+// The editor of a skill: name, colour, or both.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -9,7 +9,7 @@ DarkPopover {
 
     required property SkillEditor editor
 
-    // Recolouring alone is set tighter.
+    // Tighter layout for the colour alone.
     readonly property bool tight: !editor.hasName
     readonly property real heightOfName: 158
     readonly property real heightOfColor: 112
@@ -34,7 +34,7 @@ DarkPopover {
     Keys.onReturnPressed: editor.commit()
     Keys.onEnterPressed: editor.commit()
 
-    // The names of the chips below would show through.
+    // An opaque background hides the chip names below.
     Plate {
         anchors.fill: parent
         z: -1

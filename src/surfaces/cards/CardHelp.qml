@@ -1,12 +1,12 @@
-// What a control of a card does, in the card's own free room, while the pointer or the keyboard is
-// on it.
+// The description of a card's control under the pointer or with the focus, in the free space of the
+// card.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
 
 DarkText {
-    property string help // of the control that is pointed at; empty for none
-    property string kept // the last one, while it fades away
+    property string help // empty for none
+    property string kept // the last text, while it fades out
 
     onHelpChanged: if (help !== "") kept = help
     text: kept
@@ -16,7 +16,7 @@ DarkText {
     maximumLineCount: 2
     elide: Text.ElideRight
     opacity: help === "" ? 0 : 1
-    Accessible.ignored: true // each control describes itself
+    Accessible.ignored: true // each control has its own description
 
     Behavior on opacity {
         NumberAnimation {

@@ -1,4 +1,4 @@
-// What the cards need of a screen: windows to stand in, and where there is room.
+// The interface from the cards' controllers to a screen.
 #pragma once
 
 #include "platform/Placement.h"
@@ -13,25 +13,25 @@
 
 namespace vantle {
 
-/// The views that a stage can raise, each over the model of the same name.
+/// The views that a stage can show, each with the model of the same name.
 enum class CardView { StopSummary, RecoveryNotice, TagPrompt, CorrectionPrompt, RetagToast };
 
-/// A card or toast in a window of its own. To destroy it is to take it off the screen at once.
-/// Main thread.
+/// A card or toast in its own window. Destroying it removes it from the screen immediately. Main
+/// thread.
 class CardPanel {
 public:
     virtual ~CardPanel() = default;
 
-    /// Of what the person sees, without its shadow, in px.
+    /// The visible size without the shadow, in px.
     [[nodiscard]] virtual QSize size() const = 0;
 
-    /// Puts it on the screen, in front of everything, without taking the keyboard.
+    /// Shows it above other windows, without keyboard focus.
     virtual void showAt(const Placement& ground) = 0;
 
-    /// Glides there from where it is.
+    /// Slides it to that place.
     virtual void moveTo(const Placement& ground) = 0;
 
-    /// Where it stands, or where it is gliding to, without its shadow.
+    /// Its place, or the target of its slide, without the shadow.
     [[nodiscard]] virtual QRect frame() const = 0;
 
     virtual void takeKeyboard() = 0;
@@ -43,23 +43,22 @@ class CardStage : public QObject {
     Q_OBJECT
 
 public:
-    /// The screen of the cards: the one in use, or the one where a card is up; empty when there is
-    /// no screen at all.
+    /// The screen for cards: that of an open card, else the one in use; empty without a screen.
     [[nodiscard]] virtual std::optional<ScreenShape> cardScreen() const = 0;
 
-    /// Makes the view over its model, which it keeps alive, and measures it; it is not shown yet.
-    /// Cards are as wide as the screen allows. Null when the view can't be made.
+    /// Creates and measures the view, hidden; it keeps its model alive. Cards are as wide as the
+    /// screen allows. Returns null when the view is invalid.
     [[nodiscard]] virtual std::unique_ptr<CardPanel> raise(CardView view,
                                                            std::shared_ptr<QObject> model) = 0;
 
-    /// Lets it fade away, deaf to the pointer from now on. The keyboard goes back at once.
+    /// Fades it out, without pointer input. Returns the keyboard at once.
     virtual void dismiss(std::unique_ptr<CardPanel> panel) = 0;
 
-    /// Where the other cards and floating panels of the program stand, fading ones left out.
+    /// The places of the program's other cards and floating panels, without those fading out.
     [[nodiscard]] virtual std::vector<QRect> panelFrames() const = 0;
 
 Q_SIGNALS:
-    /// cardScreen() may have changed. Several in a row when the user plugs a screen in or out.
+    /// cardScreen() may have changed. Plugging a screen in or out emits it several times.
     void cardScreenChanged();
 };
 

@@ -26,7 +26,7 @@ bool CornerCard::present(CardView view, const std::shared_ptr<QObject>& model) {
 
 void CornerCard::followScreen() {
     const auto screen = m_stage.cardScreen();
-    // Without any screen the card keeps its place until one is plugged in.
+    // Without a screen the card keeps its slot until one is plugged in.
     if (!m_panel || !screen) return;
     const Placement place = cardplacement::card(*screen, m_panel->size());
     if (m_panel->frame() != place.ground()) m_panel->showAt(place);
@@ -40,7 +40,7 @@ bool CornerCard::takeDown() {
     m_autoDismissTimer.reset();
     if (!m_panel) return false;
     m_stage.dismiss(std::move(m_panel));
-    // It may be one of the model's own signals that brought us here.
+    // Deferred, since a signal of the model may have led here.
     m_scheduler.post([spent = std::move(m_model)] {});
     return true;
 }

@@ -1,4 +1,4 @@
-// The part that the controllers of cards share: one card in the corner, and its time-out.
+// The common part of card controllers: one card with a timeout.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -15,7 +15,7 @@ class Preferences;
 class SkillList;
 class TopRightCardSlot;
 
-/// What the controllers of cards work with. All of it must outlive them.
+/// The services of card controllers. All of them must outlive them.
 struct CardEnvironment {
     Scheduler& scheduler;
     const Preferences& preferences;
@@ -26,22 +26,22 @@ struct CardEnvironment {
     OpenQuestions& questions;
 };
 
-/// Up from present() until takeDown(). Main thread.
+/// A card is up from present() until takeDown(). Main thread.
 class CornerCard {
 public:
     explicit CornerCard(const CardEnvironment& environment);
 
-    /// Puts the view in the corner of the screen in use, and follows that when screens come and go.
-    /// False where there is no screen.
+    /// Shows the view in the corner of the screen in use, and moves it when screens change. Returns
+    /// false without a screen.
     [[nodiscard]] bool present(CardView view, const std::shared_ptr<QObject>& model);
 
-    /// Calls `work` unless the card is touched or gone before.
+    /// Calls `work` after `delay`, unless the card is touched or removed before.
     void dismissAfter(Seconds delay, std::function<void()> work);
 
-    /// The person has taken an interest: the card stays until it is closed.
+    /// The user touched the card: it stays until closed.
     void stay() { m_autoDismissTimer.reset(); }
 
-    /// Takes the card off the screen. Whether it was up.
+    /// Removes the card. Returns whether it was up.
     bool takeDown();
 
     /// Null while the card is not up.

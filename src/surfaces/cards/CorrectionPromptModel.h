@@ -1,4 +1,4 @@
-// The offer to make a skill chosen by hand the rule for an application, as its view sees it.
+// The offer of a rule for an application, for its view.
 #pragma once
 
 #include "base/Bidi.h"

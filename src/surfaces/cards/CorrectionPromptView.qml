@@ -1,4 +1,4 @@
-// The card that offers to make a choice of skill the rule for an application.
+// The card that offers to turn a chosen skill into a rule for an application.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Cards
@@ -72,7 +72,7 @@ FloatingSurface {
         DarkPrimaryButton {
             id: always
             anchors.right: parent.right
-            width: Math.ceil(implicitWidth) // so that both of its edges are sharp
+            width: Math.ceil(implicitWidth) // whole px, for sharp edges
             text: qsTr("Always")
             Accessible.description: view.model.alwaysHelp
             Accessible.defaultButton: true

@@ -1,5 +1,4 @@
-// The light around a field that asks to be filled in. It breathes; with reduced motion it is a
-// steady halo.
+// The glow around a field that invites input. Pulses; a steady halo with reduced motion.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -37,7 +36,7 @@ Item {
         edge: Tint.alpha(DarkUI.accent, DarkUI.invitationHaloOpacity * light.phase)
     }
 
-    // The glow is made of rings, so that none of it lies under the field, which is not opaque.
+    // Made of rings, so that nothing lies under the translucent field.
     Repeater {
         model: Motion.reduced ? 0 : DarkUI.invitationGlow / light.ringWidth
 

@@ -35,7 +35,7 @@ QUrl sourceOf(CardView view) {
     Q_UNREACHABLE();
 }
 
-/// What window managers, assistive tools and tests know the window by.
+/// The title by which window managers, assistive tools and tests find the window.
 QString titleOf(CardView view) {
     switch (view) {
     case CardView::StopSummary:
@@ -51,8 +51,7 @@ QString titleOf(CardView view) {
     Q_UNREACHABLE();
 }
 
-/// Rows and columns arrange their items only before a frame is drawn, which is too late to measure
-/// them.
+/// Rows and columns lay out only before a frame is drawn, which is too late for measuring.
 void arrange(QQuickItem& item) {
     const QList<QQuickItem*> children = item.childItems();
     for (QQuickItem* child : children)
@@ -60,10 +59,10 @@ void arrange(QQuickItem& item) {
     item.ensurePolished();
 }
 
-/// A card in its window, which is larger than the card by the room for its shadow.
+/// A card in its window, which is larger by the room for the shadow.
 class QuickCardPanel final : public CardPanel {
 public:
-    /// The view of the panel is loaded. The panel is owned by this from now on.
+    /// Requires a loaded view; takes ownership of the panel.
     QuickCardPanel(FloatingPanel& panel, bool feelsPointer)
         : m_panel(&panel)
         , m_feelsPointer(feelsPointer)
@@ -75,7 +74,7 @@ public:
         QObject::disconnect(m_compositing);
         if (!m_panel) return;
         m_panel->hide();
-        // It may be in the middle of an event of the person's.
+        // Deferred, since it may be handling an event of the user.
         m_panel->deleteLater();
     }
 
@@ -108,7 +107,7 @@ public:
     void takeKeyboard() override { m_panel->takeKeyboard(); }
     void returnKeyboard() override { m_panel->returnKeyboard(); }
 
-    /// Leaves the window to itself: it goes once nothing of it can be seen.
+    /// Lets the window delete itself once it is invisible.
     void fade() {
         m_panel->returnKeyboard();
         if (!m_panel->isVisible()) return;
@@ -120,7 +119,7 @@ public:
     }
 
 private:
-    /// Puts the window around the card. The room for the shadow is there only with a compositor.
+    /// Places the window around the card, with room for the shadow only with a compositor.
     void place() {
         if (m_isUp) m_panel->showAt(inWindow());
     }
@@ -172,7 +171,7 @@ std::unique_ptr<CardPanel> QuickCardStage::raise(CardView view, std::shared_ptr<
     panel->setTitle(titleOf(view));
     std::erase_if(m_windows, [](const auto& window) { return window.isNull(); });
     m_windows.emplace_back(panel.get());
-    // It has to outlive the view, which may fade for a while.
+    // Keeps the model until the view has faded out.
     QObject::connect(panel.get(), &QObject::destroyed, [model = std::move(model)] {});
     return std::make_unique<QuickCardPanel>(*panel.release(), !isToast);
 }
@@ -186,7 +185,7 @@ std::vector<QRect> QuickCardStage::panelFrames() const {
     for (const QWindow* window : QGuiApplication::allWindows()) {
         const auto* const panel = qobject_cast<const FloatingPanel*>(window);
         if (!panel || !panel->isVisible()) continue;
-        // What the pointer goes through, toasts and fading cards, is in nobody's way.
+        // Toasts and fading cards let input through, so others need not avoid them.
         const QRect felt = panel->inputRegion().boundingRect();
         if (!felt.isEmpty()) frames.push_back(felt.translated(panel->frame().topLeft()));
     }

@@ -1,4 +1,4 @@
-// The screen as cards know it: each in a floating panel of its own.
+// The card stage of floating panels.
 #pragma once
 
 #include "platform/Screens.h"
@@ -21,14 +21,14 @@ class PanelHost;
 class QuickCardStage final : public CardStage {
 public:
     struct Environment {
-        /// The engine to make one more view from; it finds the program's modules.
+        /// Returns the engine for another view; it must find the program's modules.
         std::function<QQmlEngine&()> engine;
         PanelHost& panelHost;
         const Screens& screens;
     };
 
-    /// All of that must outlive the stage, whose windows go with it; the stage must outlive the
-    /// panels that it gave.
+    /// All of it must outlive the stage, whose windows are destroyed with it; the stage must
+    /// outlive its panels.
     explicit QuickCardStage(Environment environment);
     ~QuickCardStage() override;
 
@@ -40,8 +40,8 @@ public:
 
 private:
     const Environment m_env;
-    QRectF m_screenFrame;                           ///< of the screen that the last card came to
-    std::vector<QPointer<FloatingPanel>> m_windows; ///< all that there are, fading ones too
+    QRectF m_screenFrame;                           ///< of the last card's screen
+    std::vector<QPointer<FloatingPanel>> m_windows; ///< all, including those fading out
 };
 
 } // namespace vantle

@@ -1,4 +1,4 @@
-// The notice that offers to keep a session which a crash interrupted.
+// The controller of the recovery notice after a crash.
 #pragma once
 
 #include "app/Collaborators.h"
@@ -12,8 +12,8 @@ namespace vantle {
 
 class RecoveryNoticeModel;
 
-/// Waits as long as it takes: it has no time-out, and comes back by itself when a stop summary that
-/// pushed it out of the corner closes. Without a screen it waits for showWaiting(). Main thread.
+/// Has no timeout, and returns when a stop summary that took its corner closes. Without a screen it
+/// waits for showWaiting(). Main thread.
 class RecoveryNoticeController final : public QObject, public collaborators::Recovery {
     Q_OBJECT
 
@@ -21,20 +21,18 @@ public:
     explicit RecoveryNoticeController(const CardEnvironment& environment);
     ~RecoveryNoticeController() override;
 
-    /// Offers the session. An earlier offer without an answer is forgotten.
+    /// Offers the session. Drops an earlier unanswered offer.
     void show(const Session& session, std::function<void()> onDiscard,
               std::function<void()> onKeep) override;
 
-    /// Takes the notice down and forgets the offer, so that none that waits comes back. Leaves the
-    /// corner alone.
+    /// Removes the notice and drops the offer. Does not touch the corner's slot.
     void hideForEviction() override;
 
-    /// Shows the offer if it has not been answered and is not on the screen; for when a screen
-    /// comes.
+    /// Shows an unanswered offer that is not visible, for when a screen appears.
     void showWaiting();
 
-    /// The person's choice, by a button of the card, in the panel or by an action of the desktop,
-    /// which are heard while the notice waits as well. Both do nothing when there is no offer.
+    /// The user's choice, from the card, the panel or a desktop action; also valid while the notice
+    /// waits. No effect without an offer.
     void keep();
     void discard();
 
@@ -48,12 +46,12 @@ private:
     void present();
     [[nodiscard]] std::shared_ptr<RecoveryNoticeModel> makeModel() const;
     [[nodiscard]] std::optional<Offer> takeOffer();
-    /// Known in the corner as the model knows it.
+    /// The identity under which it holds the corner.
     [[nodiscard]] const void* owner() const { return static_cast<const Recovery*>(this); }
 
     CardEnvironment m_env;
     CornerCard m_card;
-    std::optional<Offer> m_offer; ///< shown or waiting
+    std::optional<Offer> m_offer; ///< visible or waiting
 };
 
 } // namespace vantle

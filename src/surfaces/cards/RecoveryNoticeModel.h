@@ -1,4 +1,4 @@
-// What the notice about a session that a crash interrupted says, as its view sees it.
+// The text of the recovery notice, for its view.
 #pragma once
 
 #include "base/Words.h"

@@ -1,4 +1,4 @@
-// The card that offers to keep a session which a crash interrupted.
+// The card that offers to keep a session interrupted by a crash.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Cards
@@ -70,7 +70,7 @@ FloatingSurface {
         DarkPrimaryButton {
             id: keep
             anchors.right: parent.right
-            width: Math.ceil(implicitWidth) // so that both of its edges are sharp
+            width: Math.ceil(implicitWidth) // whole px, for sharp edges
             text: qsTr("Keep")
             Accessible.description: view.model.keepHelp
             Accessible.defaultButton: true

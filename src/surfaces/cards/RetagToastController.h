@@ -1,4 +1,4 @@
-// The short word after a change of skill: how much time was just put away, and where.
+// The controller of the toast after a change of skill.
 #pragma once
 
 #include "app/Collaborators.h"
@@ -9,12 +9,12 @@
 
 namespace vantle {
 
-/// "12 min" for 750 seconds that were just put away; less than a second counts as one. Pure, any
-/// thread.
+/// Formats the time just logged: "12 min" for 750 seconds; less than a second counts as one. Pure,
+/// any thread.
 [[nodiscard]] QString savedTime(std::int64_t seconds, DurationStyle style);
 
-/// Floats for two seconds, takes no clicks, and does not compete for the corner: it keeps below
-/// whatever stands there, also when that comes or goes meanwhile. Main thread.
+/// Visible for two seconds, without pointer input or a slot in the corner: it stays below whatever
+/// is there, also when that changes. Main thread.
 class RetagToastController final : public collaborators::RetagToast {
 public:
     static constexpr double visibleSeconds = 2;
@@ -22,7 +22,7 @@ public:
 
     explicit RetagToastController(const CardEnvironment& environment) : m_env(environment) {}
 
-    /// A toast before it is gone at once.
+    /// Replaces an earlier toast immediately.
     void show(const QString& name, std::uint32_t color, std::int64_t seconds) override;
 
 private:

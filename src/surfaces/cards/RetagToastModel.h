@@ -1,4 +1,4 @@
-// What the short word after a change of skill says, as its view sees it.
+// The content of the toast after a change of skill.
 #pragma once
 
 #include "base/Words.h"
@@ -15,9 +15,9 @@ class RetagToastModel final : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Made by the controller.")
     Q_PROPERTY(QString text READ text CONSTANT)
-    /// The toast in words, for assistive tools.
+    /// The text for screen readers.
     Q_PROPERTY(QString spoken READ spoken CONSTANT)
-    /// The skill that the time went to.
+    /// The skill under which the time was logged.
     Q_PROPERTY(QString skillName READ skillName CONSTANT)
     Q_PROPERTY(QColor skillColor READ skillColor CONSTANT)
 

@@ -1,4 +1,4 @@
-// The short word after a change of skill.
+// The toast after a change of skill.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Cards

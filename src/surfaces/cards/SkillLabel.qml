@@ -1,4 +1,4 @@
-// A skill by its dot and its name.
+// A skill: its dot and its name.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// The card after a session: what joined the wall, and one line for a note.
+// The controller of the card after a session.
 #pragma once
 
 #include "app/Collaborators.h"
@@ -13,10 +13,9 @@ namespace vantle {
 
 class StopSummaryModel;
 
-/// The only place where a note is asked for while the memory is fresh, so it is easy to ignore: it
-/// takes the keyboard only when it is clicked or asks for the first note, and goes by itself unless
-/// the person touches it. Until the next session begins it can be called back for the note. Nothing
-/// outranks it in the corner. Main thread.
+/// Asks for a note while the work is fresh, and is easy to ignore: it takes the keyboard only when
+/// clicked or for the first note, and closes itself unless touched. Until the next session starts
+/// it can be reopened for the note. Nothing outranks it in the corner. Main thread.
 class StopSummaryController final : public QObject, public collaborators::StopSummary {
     Q_OBJECT
 
@@ -27,16 +26,16 @@ public:
     explicit StopSummaryController(const CardEnvironment& environment);
     ~StopSummaryController() override;
 
-    /// A card still up closes as if untouched. `onClose` gets the note, or none, exactly once; at
-    /// once where there is no screen.
+    /// Closes an earlier card as if untouched. Calls `onClose` exactly once with the note or none;
+    /// immediately without a screen.
     void show(const Content& content,
               std::function<void(const std::optional<QString>& note)> onClose) override;
 
-    /// From then on only a card that is still up takes the note of the last session.
+    /// From now on only an open card takes the note of the last session.
     void forgetNote() override;
 
-    /// Gives the keyboard to the note, on the card that is up or, if that went without a note, on
-    /// one more. `onClose` is called again for that. Nothing where there is no such session.
+    /// Focuses the note on the open card, or reopens the card if it closed without a note;
+    /// `onClose` is called again then. No effect without such a session.
     void openNote();
 
 private:
@@ -52,7 +51,7 @@ private:
 
     CardEnvironment m_env;
     CornerCard m_card;
-    QPointer<StopSummaryModel> m_model; ///< of the card that is up
+    QPointer<StopSummaryModel> m_model; ///< of the open card
     std::function<void(const std::optional<QString>&)> m_completion;
     std::optional<Last> m_last; ///< the session that can still get a note
 };

@@ -1,4 +1,4 @@
-// What the card after a session says, and the note that is typed into it, as its view sees them.
+// The content of the card after a session, and its note.
 #pragma once
 
 #include "app/Collaborators.h"
@@ -16,40 +16,40 @@ class StopSummaryModel final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the controller.")
-    /// The duration in words: figures and units take turns, figures first.
+    /// Figures and units in turn, figures first.
     Q_PROPERTY(QStringList durationWords READ durationWords CONSTANT)
-    /// The typeface of the duration, which it shares with the ceremony's title; empty for that of
-    /// the type scale.
+    /// The duration's font family, shared with the ceremony's title; empty for that of the type
+    /// scale.
     Q_PROPERTY(QString durationFamily READ durationFamily CONSTANT)
-    /// The same as one sentence with the skill, for assistive tools.
+    /// The duration and the skill as a sentence, for screen readers.
     Q_PROPERTY(QString durationLabel READ durationLabel CONSTANT)
     Q_PROPERTY(QString skillName READ skillName CONSTANT)
     Q_PROPERTY(QColor skillColor READ skillColor CONSTANT)
-    /// Empty unless it was the first session ever.
+    /// Empty except after the first session ever.
     Q_PROPERTY(QString firstSessionText READ firstSessionText CONSTANT)
-    /// How many finished hours stand before the result; 0 to 12.
+    /// The number of finished hours drawn before the result; 0 to 12.
     Q_PROPERTY(int dotCount READ dotCount CONSTANT)
-    /// How much of the next dot is done, 0 to 1; 0 when no slice is shown.
+    /// The done part of the next dot, 0 to 1; 0 when no slice is shown.
     Q_PROPERTY(double sliceFraction READ sliceFraction CONSTANT)
     /// What the session added to the wall.
     Q_PROPERTY(QString resultText READ resultText CONSTANT)
-    /// Whether the card asks for the note; only after the first session.
+    /// Whether the card asks for the note, which it does after the first session only.
     Q_PROPERTY(bool spotlightNote READ spotlightNote CONSTANT)
     /// Empty unless the card asks for the note.
     Q_PROPERTY(QString invitationText READ invitationText CONSTANT)
     Q_PROPERTY(QString lockText READ lockText CONSTANT)
     Q_PROPERTY(QString hintText READ hintText CONSTANT)
 
-    /// The most user-perceived characters that a note may have.
+    /// In user-perceived characters.
     Q_PROPERTY(int noteLimit READ noteLimit CONSTANT)
     Q_PROPERTY(bool hasNote READ hasNote NOTIFY noteChanged)
-    /// Empty until the note comes near its limit.
+    /// Empty until the note nears its limit.
     Q_PROPERTY(QString counterText READ counterText NOTIFY noteChanged)
     Q_PROPERTY(QString doneText READ doneText NOTIFY noteChanged)
     Q_PROPERTY(QString closeLabel READ closeLabel NOTIFY noteChanged)
 
 public:
-    /// From so many characters on the person sees how many there are.
+    /// The counter shows from this number of characters on.
     static constexpr int counterThreshold = 400;
     static constexpr int maxDots = 12;
 
@@ -77,18 +77,18 @@ public:
     [[nodiscard]] QString doneText() const;
     [[nodiscard]] QString closeLabel() const;
 
-    /// Takes what stands in the field, and returns what may stay there: no more than its limit.
+    /// Takes the field's text and returns it, cut to the limit.
     Q_INVOKABLE QString takeNote(const QString& text);
-    /// The user pressed the field. Its focus alone does not count: the desktop gives the keyboard
-    /// to a card that asks for the note when it comes to it, which nobody did by hand.
+    /// The user pressed the field. Focus alone does not count: the desktop focuses a card that asks
+    /// for the note without the user.
     Q_INVOKABLE void notePressed();
-    /// Return, or one of the two buttons.
+    /// Return, or either button.
     Q_INVOKABLE void submit();
-    /// Escape: closes a card without a note; with one, only the keyboard goes back, so that nothing
-    /// typed is lost.
+    /// Escape: closes a card without a note; with one, it only returns the keyboard, so that
+    /// nothing is lost.
     Q_INVOKABLE void turnAway();
 
-    /// Puts the cursor into the field, which does not count as the person's doing.
+    /// Focuses the field, which does not count as an act of the user.
     void inviteNote();
 
 Q_SIGNALS:

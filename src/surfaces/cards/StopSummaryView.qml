@@ -1,4 +1,4 @@
-// The card after a session: what was added to the wall, and one line for a note.
+// The card after a session: what it added to the wall, and a line for a note.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Cards
@@ -118,7 +118,7 @@ FloatingSurface {
                 width: DarkUI.summaryDotSize
                 height: result.height
 
-                // The hour that is being worked on: clockwise from the top the part that is done.
+                // The current hour, filled clockwise from the top.
                 GlassDot {
                     anchors.verticalCenter: parent.verticalCenter
                     width: parent.width
@@ -226,7 +226,7 @@ FloatingSurface {
         DarkPrimaryButton {
             id: done
             anchors.right: parent.right
-            width: Math.ceil(implicitWidth) // so that both of its edges are sharp
+            width: Math.ceil(implicitWidth) // whole px, for sharp edges
             text: view.model.doneText
             onClicked: view.model.submit()
         }

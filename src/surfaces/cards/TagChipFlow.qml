@@ -1,4 +1,4 @@
-// The skills to choose from, as chips that wrap: one stop of the Tab key, arrow keys inside.
+// The skills to choose from, as wrapping chips: one stop of the Tab key, arrow keys inside.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Cards

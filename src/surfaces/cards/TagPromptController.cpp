@@ -12,7 +12,7 @@ namespace vantle {
 
 namespace {
 
-/// The answers hold the model weakly: it goes with the card.
+/// The answers hold the model weakly, since it is destroyed with the card.
 OpenQuestions::Question questionOf(TagPromptModel& model) {
     OpenQuestions::Question question;
     question.text = model.headline() + QLatin1Char('\n') + model.subtitle();

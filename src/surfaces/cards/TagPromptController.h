@@ -1,4 +1,4 @@
-// The two questions about an application: what it is for, and whether a choice becomes its rule.
+// The controller of the two questions about an application.
 #pragma once
 
 #include "app/Collaborators.h"
@@ -10,9 +10,9 @@
 
 namespace vantle {
 
-/// Asks one question at a time; a new one dismisses the one before. A question that gets no answer
-/// goes by itself. Every callback is called exactly once, unless the question was not taken. Main
-/// thread.
+/// What it is for, and whether a choice becomes its rule. Shows one question at a time; a new one
+/// dismisses the previous. An unanswered question closes itself. Calls each callback exactly once,
+/// unless the question was refused. Main thread.
 class TagPromptController final : public QObject, public collaborators::TagPrompt {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ public:
                             bool isCounting, bool isBrowser,
                             std::function<void(const Outcome&)> onResolve) override;
 
-    /// The callback gets true only for the button that says so.
+    /// Passes true only for the button that confirms.
     [[nodiscard]] bool showCorrection(const QString& appName, const Skill& skill,
                                       std::function<void(bool)> onResolve) override;
 
@@ -39,7 +39,7 @@ private:
 
     CardEnvironment m_env;
     CornerCard m_card;
-    QPointer<QObject> m_model; ///< of the card that is up
+    QPointer<QObject> m_model; ///< of the open card
     std::function<void(const Outcome&)> m_completion;
 };
 

@@ -1,4 +1,4 @@
-// The question what an unknown application is for, as its view sees it.
+// The question about an unknown application, for its view.
 #pragma once
 
 #include "app/Collaborators.h"
@@ -12,7 +12,7 @@
 
 namespace vantle {
 
-/// The skills that a question offers, fixed from the beginning. Main thread.
+/// The skills that a question offers; constant. Main thread.
 class SkillChoices final : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -58,13 +58,13 @@ public:
     [[nodiscard]] QString ignoreText() const;
     [[nodiscard]] QString ignoreHelp() const;
 
-    /// The chip at that place among the choices.
+    /// The user pressed the chip at that index.
     Q_INVOKABLE void pick(int index);
     Q_INVOKABLE void ignore();
     Q_INVOKABLE void dismiss();
 
 Q_SIGNALS:
-    /// The person touched the card. Before each answer.
+    /// The user touched the card. Emitted before each answer.
     void interacted();
     void resolved(const vantle::collaborators::TagPrompt::Outcome& outcome);
 

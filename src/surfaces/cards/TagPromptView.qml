@@ -1,4 +1,4 @@
-// The card that asks what an unknown application is for.
+// The card that asks which skill an unknown application belongs to.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Cards
@@ -44,7 +44,7 @@ FloatingSurface {
         id: chips
         x: asked.x
         y: asked.y + asked.height + DarkUI.space16
-        width: asked.width + DarkUI.space8 // a row that just fails to fit may reach into the margin
+        width: asked.width + DarkUI.space8 // a row slightly too wide may extend into the margin
         focus: true
         choices: view.model.choices
         onPicked: index => view.model.pick(index)

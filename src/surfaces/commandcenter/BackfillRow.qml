@@ -1,4 +1,4 @@
-// Credits time before the present, as far as it is confirmed.
+// Buttons that credit confirmed time before now.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

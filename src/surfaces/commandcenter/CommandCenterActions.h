@@ -1,4 +1,4 @@
-// What the command center can set in motion. All else that it does is to show.
+// The commands of the command center.
 #pragma once
 
 #include "review/stats/WrappedPeriod.h"
@@ -11,7 +11,7 @@
 
 namespace vantle {
 
-/// Wired by the controller to the application model and the windows. None is empty. Main thread.
+/// Set by the controller; none is empty. Main thread.
 struct CommandCenterActions {
     std::function<void()> toggleVantle;
     std::function<void(const QString& id)> selectSkill;
@@ -23,7 +23,7 @@ struct CommandCenterActions {
     std::function<void(WrappedPeriod period)> openWrapped;
     std::function<void()> quit;
     std::function<void()> hide;
-    std::function<void()> relayout; ///< the content has another height
+    std::function<void()> relayout; ///< the content's height changed
 };
 
 } // namespace vantle

@@ -1,5 +1,4 @@
-// What the command center holds, from top to bottom: the state and the way in, the modes, the doors
-// to the windows, the way out.
+// The content of the command center: state and main button, modes, rows of windows, quit.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.CommandCenter
@@ -12,7 +11,7 @@ FocusScope {
     readonly property int margin: DarkUI.space20
     readonly property int inner: width - 2 * margin
 
-    // Lays out at once what would wait for the next frame, for whoever needs the height now.
+    // Lays out now instead of before the next frame, for callers that need the height.
     function settle(): void {
         modes.settle();
         column.forceLayout();
@@ -55,7 +54,7 @@ FocusScope {
                 Accessible.role: Accessible.Heading
                 Accessible.name: content.model.title
             }
-            // A long name is cut, and not the time behind it.
+            // Elides a long name, never the time after it.
             DarkText {
                 id: time
                 anchors.left: headline.right
@@ -96,7 +95,7 @@ FocusScope {
             visible: content.model.questions.length > 0
             model: content.model
             onAnswered: (question, answer) => {
-                // The row goes with its question, and must not take the keyboard along.
+                // The row disappears with its question and must not take the focus along.
                 enter.focusByKeyboard();
                 content.model.answer(question, answer);
             }
@@ -189,7 +188,7 @@ FocusScope {
 
         ModeEditorView {
             id: editor
-            property string origin // the mode whose chip opened it; empty for the way to a new one
+            property string origin // the mode whose chip opened it; empty for a new mode
             x: content.margin
             width: content.inner
             visible: content.model.editor.shown
@@ -283,7 +282,7 @@ FocusScope {
 
     Connections {
         target: content.model.editor
-        // What had the keyboard has gone.
+        // The focused item is gone.
         function onShownChanged(): void {
             if (!content.model.editor.shown)
                 modes.takeKeyboard(editor.origin);

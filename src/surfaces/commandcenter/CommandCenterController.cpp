@@ -26,7 +26,7 @@ CommandCenterController::CommandCenterController(const Environment& environment)
 CommandCenterController::~CommandCenterController() {
     hide();
     m_env.presses.ignore();
-    // Views of panels that were hidden look at what goes with this.
+    // Deletes hidden views now, while what they refer to still exists.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
@@ -83,7 +83,7 @@ void CommandCenterController::show() {
     if (screens.empty() || (!m_panel && !makePanel())) return;
     m_screenFrame = screens.front().frame;
     reposition();
-    m_panel->takeKeyboard(); // also when it was shown already
+    m_panel->takeKeyboard(); // also when already visible
     if (m_env.model.highlightStatusItem) m_env.model.highlightStatusItem(true);
     m_env.presses.watch();
 }
@@ -106,7 +106,7 @@ bool CommandCenterController::makePanel() {
             &CommandCenterController::onKeyboardLost);
     connect(panel.get(), &FloatingPanel::compositedChanged, this,
             &CommandCenterController::repositionSoon);
-    // The engine has to outlive the view.
+    // Keeps the engine until the view is destroyed.
     connect(panel.get(), &QObject::destroyed, [engine] {});
     m_panel = panel.release();
     return true;
@@ -130,7 +130,7 @@ void CommandCenterController::reposition() {
 }
 
 void CommandCenterController::repositionSoon() {
-    // A change of the content comes as several changes of its height.
+    // One change of the content changes its height several times.
     if (m_repositionPosted || !isShown()) return;
     m_repositionPosted = true;
     m_env.scheduler.post([self = QPointer(this)] {
@@ -146,7 +146,7 @@ void CommandCenterController::onPress(QPoint place) {
         m_env.presses.ignore();
         return;
     }
-    // A press on the tray item is answered by toggle().
+    // toggle() handles a press on the tray item.
     if (m_frame.contains(place) || itemGeometry().contains(place)) return;
     hide();
     m_outside.closedPanel(place, m_env.clock.now());
@@ -154,7 +154,7 @@ void CommandCenterController::onPress(QPoint place) {
 }
 
 void CommandCenterController::onKeyboardLost() {
-    // Later, since the press that took it may be on the tray item.
+    // Deferred, since the press that took the keyboard may be on the tray item.
     m_env.scheduler.post([self = QPointer(this)] {
         if (self) self->hide();
     });
@@ -166,10 +166,10 @@ void CommandCenterController::hide() {
     if (m_env.model.highlightStatusItem) m_env.model.highlightStatusItem(false);
     FloatingPanel* const panel = std::exchange(m_panel, nullptr);
     panel->disconnect(this);
-    // Before it is unmapped, so that a card that takes the keyboard next knows whose it is.
+    // Before unmapping, so that a card that takes the keyboard next knows its owner.
     panel->returnKeyboard();
     panel->hide();
-    panel->deleteLater(); // it may be in the middle of an event of the person's
+    panel->deleteLater(); // it may be handling an event of the user
     m_content.setShown(false);
 }
 

@@ -1,4 +1,4 @@
-// The panel that drops from the tray item: when it is there, and where.
+// The controller of the command center: when and where it opens.
 #pragma once
 
 #include "surfaces/commandcenter/CommandCenterModel.h"
@@ -17,14 +17,14 @@ class PointerPresses;
 class SharedEngine;
 class WindowRouter;
 
-/// Shown it has the keyboard, which it gives back when it goes: on Escape, on a press elsewhere,
-/// when the keyboard is taken from it, and before any window opens. Hidden there is no window and
-/// no view; what was typed into the editor stays. Main thread.
+/// Has the keyboard while open and returns it when it closes: on Escape, on a press elsewhere, when
+/// the focus moves, and before a window opens. While closed there is no window or view; text in the
+/// editor is kept. Main thread.
 class CommandCenterController final : public QObject {
     Q_OBJECT
 
 public:
-    /// What the controller works with. All of it must outlive the controller.
+    /// The services of the controller. All of them must outlive it.
     struct Environment {
         AppModel& model;
         SkillList& skills;
@@ -42,16 +42,16 @@ public:
     explicit CommandCenterController(const Environment& environment);
     ~CommandCenterController() override;
 
-    /// Where the tray item is; empty where the desktop does not tell. Set once by the owner.
+    /// Returns the tray item's place; empty where unknown. Set once by the owner.
     std::function<QRect()> statusItemGeometry;
 
-    /// A click on the tray item, at that place as far as known, else (0, 0).
+    /// A click on the tray item at that position; (0, 0) where unknown.
     void toggle(QPoint click);
-    void show(); ///< nothing where there is no screen
+    void show(); ///< no effect without a screen
     void hide();
     [[nodiscard]] bool isShown() const { return m_panel != nullptr; }
 
-    /// What the panel shows.
+    /// The content's model.
     [[nodiscard]] CommandCenterModel& content() { return m_content; }
     /// Null while it is hidden.
     [[nodiscard]] FloatingPanel* panel() const { return m_panel; }
@@ -69,9 +69,9 @@ private:
     Environment m_env;
     CommandCenterModel m_content;
     FloatingPanel* m_panel = nullptr; ///< deletes itself after hiding
-    QRectF m_screenFrame;             ///< of the screen that was in use as it was shown
-    QRect m_frame;                    ///< of what the person sees, without its shadow
-    QPoint m_click;                   ///< at which it was opened; (0, 0) when unknown
+    QRectF m_screenFrame;             ///< of the screen in use when it opened
+    QRect m_frame;                    ///< the visible part, without the shadow
+    QPoint m_click;                   ///< where it was opened; (0, 0) when unknown
     OutsidePress m_outside;
     bool m_repositionPosted = false;
 };

@@ -144,7 +144,7 @@ QString CommandCenterModel::answerHelp(int question, int answer) const {
 }
 
 void CommandCenterModel::answer(int question, int answer) {
-    // A copy: giving the answer closes the question.
+    // A copy, since answering closes the question.
     const OpenQuestions::Answer chosen = answerAt(question, answer);
     if (chosen.takesKeyboard) m_actions.hide();
     if (chosen.give) chosen.give();

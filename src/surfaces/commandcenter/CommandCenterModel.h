@@ -1,4 +1,4 @@
-// What the command center shows, and what its controls do.
+// The model of the command center: its content and commands.
 #pragma once
 
 #include "app/OpenQuestions.h"
@@ -21,14 +21,14 @@ class Preferences;
 class SessionFlow;
 class SkillList;
 
-/// Follows the application model and the tracker as long as it lives; it keeps the texts of the
-/// running clock current only while the panel is shown. Main thread.
+/// Follows application model and tracker; updates the running clock only while the panel is open.
+/// Main thread.
 class CommandCenterModel final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by its controller.")
     Q_PROPERTY(QString title READ title NOTIFY statusChanged)
-    /// The title in two parts: what may be cut, and the time, which may not; it may be empty.
+    /// The title in two parts: one that may be elided, and the time, which may be empty.
     Q_PROPERTY(QString titleState READ titleState NOTIFY statusChanged)
     Q_PROPERTY(QString titleTime READ titleTime NOTIFY statusChanged)
     Q_PROPERTY(QString subtitle READ subtitle NOTIFY statusChanged)
@@ -38,25 +38,25 @@ class CommandCenterModel final : public QObject {
     Q_PROPERTY(QColor primaryColor READ primaryColor NOTIFY statusChanged)
     Q_PROPERTY(bool paused READ isPaused NOTIFY statusChanged)
     Q_PROPERTY(bool wrappedReady READ isWrappedReady NOTIFY wrappedReadyChanged)
-    /// Minutes; empty when nothing can be credited.
+    /// In minutes; empty when nothing can be credited.
     Q_PROPERTY(QList<int> backfillChoices READ backfillChoices NOTIFY backfillChoicesChanged)
-    /// What became of the last command; empty when there is nothing to say.
+    /// The result of the last command; empty when there is none.
     Q_PROPERTY(QString note READ note NOTIFY noteChanged)
-    /// What the cards ask; the answers are asked for by its place.
+    /// The cards' open questions; their index selects one.
     Q_PROPERTY(QStringList questions READ questions NOTIFY questionsChanged)
     Q_PROPERTY(vantle::SkillListModel* modes READ modes CONSTANT)
     Q_PROPERTY(vantle::SkillEditor* editor READ editor CONSTANT)
 
-    /// The windows that the panel leads to, as their rows call them; asked for by their place.
+    /// The labels of the window rows; their index selects one.
     Q_PROPERTY(QStringList doors READ doors CONSTANT)
 
 public:
-    /// A row that leads to a window.
+    /// A row that opens a window.
     struct Door {
         WindowId window{};
         WindowDoor row;
     };
-    /// What the model works with. All of it must outlive the model.
+    /// The services of the model. All of them must outlive it.
     struct Environment {
         SessionFlow& flow;
         ActionNote& note;
@@ -65,12 +65,12 @@ public:
         const Preferences& preferences;
         Scheduler& scheduler;
         OpenQuestions& questions;
-        std::function<QList<Door>()> doors; ///< looked at when a panel is made
+        std::function<QList<Door>()> doors; ///< read when a panel is created
     };
 
     CommandCenterModel(const Environment& environment, CommandCenterActions actions);
 
-    /// The panel has come up, or gone away.
+    /// The panel opened or closed.
     void setShown(bool shown);
 
     [[nodiscard]] QString title() const { return commandcentertext::title(m_status).whole(); }
@@ -89,7 +89,7 @@ public:
     [[nodiscard]] SkillListModel* modes() { return &m_modes; }
     [[nodiscard]] SkillEditor* editor() { return &m_editor; }
 
-    // What the controls do.
+    // Called by the controls
     Q_INVOKABLE void pressPrimary() { m_actions.toggleVantle(); }
     Q_INVOKABLE void backfill(int minutes) { m_actions.backfill(minutes); }
     Q_INVOKABLE void selectMode(const QString& id) { m_actions.selectSkill(id); }
@@ -103,7 +103,7 @@ public:
     Q_INVOKABLE [[nodiscard]] QString answerHelp(int question, int answer) const;
     Q_INVOKABLE void answer(int question, int answer);
     Q_INVOKABLE void quit() { m_actions.quit(); }
-    /// The view has drawn the attention that was asked for, or is about to: whether it was.
+    /// Returns whether a pulse of the primary button was requested, and resets the request.
     Q_INVOKABLE bool takePrimaryPulse();
 
 Q_SIGNALS:
@@ -112,7 +112,7 @@ Q_SIGNALS:
     void backfillChoicesChanged();
     void noteChanged();
     void questionsChanged();
-    /// The primary button is to draw attention to itself, once.
+    /// The primary button should pulse once.
     void primaryPulseWanted();
 
 private:
@@ -122,7 +122,7 @@ private:
     void refreshClock();
     void commitEdit(const std::optional<QString>& id, const QString& name, std::uint32_t hexRGB);
     [[nodiscard]] Skill chosenSkill() const;
-    /// Without anything in it where there is no such answer any more.
+    /// Returns an empty answer when it no longer exists.
     [[nodiscard]] OpenQuestions::Answer answerAt(int question, int answer) const;
 
     Environment m_env;
@@ -130,7 +130,7 @@ private:
     commandcentertext::Status m_status;
     SkillListModel m_modes;
     SkillEditor m_editor;
-    TimerHandle m_clock; ///< there exactly while a running session is looked at
+    TimerHandle m_clock; ///< set while a running session is visible
     bool m_shown = false;
 };
 

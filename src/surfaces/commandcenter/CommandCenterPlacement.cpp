@@ -9,12 +9,13 @@ namespace vantle::commandcenterplacement {
 
 namespace {
 
-constexpr int kEdge = look::kLengths.panelEdge;        // clear space to the edges of the free area
-constexpr int kItemGap = look::kLengths.panelItemGap;  // between the tray item and the panel
-constexpr int kCornerGap = look::kLengths.panelCorner; // to the right edge, if nothing is known
+constexpr int kEdge = look::kLengths.panelEdge;       // to the available area's edges
+constexpr int kItemGap = look::kLengths.panelItemGap; // between tray item and panel
+// To the right edge, when the item's place is unknown.
+constexpr int kCornerGap = look::kLengths.panelCorner;
 
 struct Target {
-    QRectF item; ///< the place of the click where no more is known
+    QRectF item; ///< or the click, when only that is known
     ScreenShape screen;
 };
 

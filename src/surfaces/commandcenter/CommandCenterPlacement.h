@@ -1,4 +1,6 @@
-// Where the command center stands. Pure functions, any thread; px of the desktop, y downwards.
+// The placement of the command center.
+//
+// Pure functions, any thread; px of the desktop, y downwards.
 #pragma once
 
 #include "platform/Placement.h"
@@ -9,19 +11,19 @@
 
 namespace vantle::commandcenterplacement {
 
-/// What is known of the tray item.
+/// What is known about the tray item.
 struct Anchor {
-    QRect item;   ///< empty where the desktop does not tell
-    QPoint click; ///< where it was clicked; (0, 0) where that is not known either
+    QRect item;   ///< empty where unknown
+    QPoint click; ///< (0, 0) where unknown
 };
 
-/// The panel of that size: under or over the tray item, else by the place of the click, else in the
-/// top right corner of the first screen; never over the edge of a screen's free area, and no higher
-/// than it. An item that no screen shows counts as unknown. Requires a screen.
+/// Returns the placement of a panel of that size: below or above the tray item, else at the click,
+/// else in the first screen's top right corner. Always inside a screen's available area and at most
+/// as high. An item outside all screens counts as unknown. Requires a screen.
 [[nodiscard]] Placement place(const QSize& size, const Anchor& anchor,
                               const std::vector<ScreenShape>& screens);
 
-/// The height that the panel may have at most, there.
+/// Returns the largest height of the panel there.
 [[nodiscard]] int maximumHeight(const Anchor& anchor, const std::vector<ScreenShape>& screens);
 
 } // namespace vantle::commandcenterplacement

@@ -53,7 +53,7 @@ QString primary(const Status& status, const QString& modeName) {
 }
 
 QString enter(const QString& skillName) {
-    // On a button the word is part of a title; where the user wrote it, it stands as they did.
+    // On a button the word is part of a title; in the user's own name it keeps its case.
     if (vantlecopy::addsMode(skillName))
         return Words::tr("Enter %1 Mode").arg(bidi::isolated(Skill::cleanedName(skillName)));
     return Words::tr("Enter %1").arg(bidi::isolated(vantlecopy::modeName(skillName)));

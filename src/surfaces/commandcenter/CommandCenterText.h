@@ -1,4 +1,6 @@
-// What the command center says. Pure functions, any thread.
+// The texts of the command center.
+//
+// Pure functions, any thread.
 #pragma once
 
 #include "tracking/TrackerCore.h"
@@ -8,16 +10,16 @@
 
 namespace vantle::commandcentertext {
 
-/// The session as the panel sees it.
+/// The session's state for the panel.
 struct Status {
     TrackerCore::State state = TrackerCore::State::Idle;
     QString skillName;   ///< of the session
-    QString welcomeBack; ///< empty unless the session has just gone on
-    QString time;        ///< the active time, as the person wants durations written
+    QString welcomeBack; ///< empty unless the session has just resumed
+    QString time;        ///< the active time in the user's format
 };
 
-/// The state and the skill, and after them the time, which a narrow panel never cuts; the time is
-/// empty while no session is open. With the dot between the two they are the whole title.
+/// State and skill, and separately the time, which a narrow panel never elides; empty without a
+/// session. Joined by a dot they are the whole title.
 struct Title {
     QString state;
     QString time;
@@ -26,13 +28,13 @@ struct Title {
 [[nodiscard]] Title title(const Status& status);
 [[nodiscard]] QString subtitle(TrackerCore::State state);
 
-/// What the primary button says; `modeName` is the name of the chosen skill.
+/// The primary button's text; `modeName` is that of the chosen skill.
 [[nodiscard]] QString primary(const Status& status, const QString& modeName);
 
-/// "Enter Writing Mode"; a name that ends in the word mode does not get it twice.
+/// "Enter Writing Mode"; does not repeat a final word "mode".
 [[nodiscard]] QString enter(const QString& skillName);
 
-/// The minutes that may be credited, for a presence that is confirmed that far back.
+/// Returns the minutes to offer when presence is confirmed that far back.
 [[nodiscard]] QList<int> backfillChoices(int coverageMinutes);
 
 } // namespace vantle::commandcentertext

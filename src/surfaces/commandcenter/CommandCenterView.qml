@@ -1,5 +1,4 @@
-// The command center in its window: the ground and the content, which scrolls where the screen is
-// too low for it.
+// The command center's view: background and content, which scrolls on a low screen.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.CommandCenter

@@ -1,4 +1,4 @@
-// The wide button that starts and stops, in the colour of the chosen mode.
+// The wide start and stop button in the chosen mode's colour.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

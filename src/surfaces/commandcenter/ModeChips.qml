@@ -1,4 +1,4 @@
-// The modes to choose from, and the way to another one.
+// The mode chips, and the chip that adds one.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,7 +8,7 @@ Item {
     id: chips
 
     required property SkillListModel modes
-    required property bool adding // the editor is open for a new mode
+    required property bool adding // whether the editor is open for a new mode
     signal chosen(string id)
     signal editWanted(string id)
     signal deleteWanted(string id)
@@ -16,7 +16,7 @@ Item {
 
     implicitHeight: flow.implicitHeight
 
-    // Back from the editor to the chip that it was opened for, or to the way to another mode.
+    // Focuses the chip for which the editor was opened, or the one that adds a mode.
     function takeKeyboard(id: string): void {
         const all = group.stops();
         let place = all.length - 1;

@@ -1,4 +1,4 @@
-// The card in which a mode gets its name and its colour.
+// The card that edits a mode's name and colour.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// A row that leads to a window.
+// A row that opens a window.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -7,8 +7,8 @@ KitPressable {
     id: row
 
     required property string title
-    property string shortcut // as it is written; empty for none
-    property string key // which does the same with ⌘ or Ctrl; empty for none
+    property string shortcut // as displayed; empty for none
+    property string key // with ⌘ or Ctrl; empty for none
 
     implicitHeight: DarkUI.navRowHeight
     name: title

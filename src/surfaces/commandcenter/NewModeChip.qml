@@ -1,4 +1,4 @@
-// The chip behind the modes that opens the editor for another one.
+// The chip after the modes that opens the editor for a new one.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -6,7 +6,7 @@ import Vantle.Kit
 KitPressable {
     id: chip
 
-    required property bool active // the editor is open for a new mode
+    required property bool active // whether the editor is open for a new mode
 
     implicitWidth: sign.x + sign.width + DarkUI.space8 + label.implicitWidth + DarkUI.space12
     implicitHeight: DarkUI.largeChipHeight

@@ -7,7 +7,7 @@ namespace vantle {
 namespace {
 
 constexpr int kSamePlace = 8;       // px that a pointer moves between press and release
-constexpr Seconds kSameMoment{0.6}; // where only the time can tell
+constexpr Seconds kSameMoment{0.6}; // used when positions are unknown
 
 } // namespace
 

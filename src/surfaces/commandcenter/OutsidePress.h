@@ -1,4 +1,4 @@
-// Tells the click that closed the panel from the click that is to open it.
+// The distinction between clicks that closed and clicks that open.
 #pragma once
 
 #include "base/Clock.h"
@@ -9,18 +9,18 @@
 
 namespace vantle {
 
-/// A click on the tray item while the panel is shown comes twice: first as a press somewhere, which
-/// closes the panel, then as a click on the item, which must not open it again. Main thread.
+/// A click on the tray item while the panel is open arrives twice: as a press somewhere, which
+/// closes the panel, and as a click on the item, which must not reopen it. Main thread.
 class OutsidePress {
 public:
-    /// A press elsewhere has closed the panel.
+    /// A press outside closed the panel.
     void closedPanel(QPoint place, Date now) { m_press = Press{place, now}; }
 
-    /// Another press: the click of the first one has come by now, or never will.
+    /// Another press: the click of the first has arrived, or never will.
     void nextPress() { m_press.reset(); }
 
-    /// Whether a click on the tray item, (0, 0) when its place is not known, is the end of the
-    /// press that closed the panel. True once at most.
+    /// Whether a click on the tray item (at (0, 0) when unknown) belongs to the press that closed
+    /// the panel. Returns true at most once per press.
     [[nodiscard]] bool takeClick(QPoint click, Date now);
 
 private:

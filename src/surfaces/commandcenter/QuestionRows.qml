@@ -1,4 +1,4 @@
-// What the cards in the corner ask, with their answers, for users who can't press those cards.
+// The cards' questions with their answers, for users who cannot press the cards.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.CommandCenter

@@ -1,4 +1,4 @@
-// Leads to the review of last week, while it waits.
+// The row that opens last week's review while it is due.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// A card with a heading, and a quiet text at the other end of that line.
+// A card with a heading and a secondary text at its right.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -32,7 +32,7 @@ DarkCard {
         text: card.detail
         role: DarkUI.caption
         color: DarkUI.textTertiary
-        // Years of work make a long line; only then is it set smaller.
+        // Shrinks only very long texts, after years of work.
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: DarkUI.small.size
         elide: Text.ElideRight

@@ -40,7 +40,7 @@ constexpr std::uint32_t kPink = look::kDark.barToday.rgb;
 constexpr std::uint32_t kViolet = look::kDark.barWeek.rgb;
 constexpr std::uint32_t kSky = look::kDark.barAllTime.rgb;
 
-/// A slice below this is not to be seen.
+/// A smaller slice is invisible.
 constexpr double kTrace = 0.02;
 
 StatBlock block(const QString& title, double hours, double goal, std::uint32_t accent,

@@ -1,4 +1,4 @@
-// What the hours window says about the log.
+// The content of the hours window.
 //
 // Plain values and pure functions, any thread.
 #pragma once
@@ -18,7 +18,7 @@
 
 namespace vantle {
 
-/// One of the three progress figures. Without hours there is no value, only the invitation.
+/// One of the three progress figures. Without hours there is an invitation in place of the value.
 struct StatBlock {
     Q_GADGET
     QML_VALUE_TYPE(statBlock)
@@ -33,20 +33,20 @@ struct StatBlock {
 
 public:
     QString title;
-    QString value; ///< empty when there are no hours
+    QString value; ///< empty without hours
     QString unit;
     QString context;
     QString invitation;
-    double fraction = 0; ///< of the goal; may be above 1
+    double fraction = 0; ///< of the goal; may exceed 1
     QColor accent;
 
-    /// The block in words, for assistive tools.
+    /// The block for screen readers.
     [[nodiscard]] QString spoken() const;
 
     friend bool operator==(const StatBlock&, const StatBlock&) = default;
 };
 
-/// One skill in the card of hours by skill.
+/// A skill in the card of hours by skill.
 struct SkillTotalLine {
     Q_GADGET
     QML_VALUE_TYPE(skillTotalLine)
@@ -60,17 +60,17 @@ struct SkillTotalLine {
 public:
     QString name;
     QColor color;
-    double fraction = 0; ///< of the skill with most hours
+    double fraction = 0; ///< relative to the top skill
     QString hours;
     QString share; ///< "46%"
 
-    /// The row in words, for assistive tools.
+    /// The row for screen readers.
     [[nodiscard]] QString spoken() const;
 
     friend bool operator==(const SkillTotalLine&, const SkillTotalLine&) = default;
 };
 
-/// One row of recent work: sessions that follow each other closely are one.
+/// A row of recent work: close sessions are merged.
 struct RecentLine {
     Q_GADGET
     QML_VALUE_TYPE(recentLine)
@@ -88,19 +88,19 @@ public:
     QString duration;
     bool isManual = false;
 
-    /// The row in words, for assistive tools.
+    /// The row for screen readers.
     [[nodiscard]] QString spoken() const;
 
     friend bool operator==(const RecentLine&, const RecentLine&) = default;
 };
 
-/// All that the figures depend on, beside the log.
+/// The parameters beside the log.
 struct DashboardSetting {
     Date now;
     Calendar calendar;
-    std::vector<Skill> skills; ///< the person's
+    std::vector<Skill> skills; ///< the user's
     DurationStyle style = DurationStyle::Natural;
-    double goalHours = 2; ///< a day, above 0
+    double goalHours = 2; ///< per day, above 0
 };
 
 namespace dashboard {
@@ -116,33 +116,33 @@ using Sessions = std::vector<Session>;
 [[nodiscard]] std::vector<StatBlock> stats(const Sessions& sessions,
                                            const DashboardSetting& setting);
 
-/// The colours of the last finished hours that the wall has room for, oldest first.
+/// The colours of the last finished hours that fit the wall, oldest first.
 [[nodiscard]] QList<QColor> wallColors(const Sessions& sessions, const DashboardSetting& setting);
 
-/// What stands at the right of the wall's heading.
+/// The text beside the wall's heading.
 [[nodiscard]] QString wallText(std::int64_t dots);
 
-/// How much of the current hour is done, 0 to 0.999. `activeSeconds` are those of the open session.
+/// The done part of the current hour, 0 to 0.999. `activeSeconds` are those of the open session.
 [[nodiscard]] double partialFraction(std::int64_t loggedSeconds, std::int64_t activeSeconds);
 
-/// The part of `partialFraction` that the wall draws: nothing on a full wall or of a mere trace.
+/// The slice that the wall draws; 0 on a full wall or when too small to see.
 [[nodiscard]] double sliceFraction(double partialFraction, std::int64_t dots);
 
-/// The wall in words, for assistive tools.
+/// The wall for screen readers.
 [[nodiscard]] QString wallLabel(std::int64_t dots, double partialFraction);
 
 /// Skills with hours, most hours first.
 [[nodiscard]] std::vector<SkillTotalLine> skillTotals(const Sessions& sessions,
                                                       const DashboardSetting& setting);
 
-/// A part of a whole in percent; what is more than nothing never reads as nothing.
+/// A percentage; more than nothing is never 0.
 [[nodiscard]] QString shareText(double part, double whole);
 
 /// The newest groups of sessions, newest first.
 [[nodiscard]] std::vector<RecentLine> recent(const Sessions& sessions,
                                              const DashboardSetting& setting);
 
-/// How many sessions the log has and how long those that count are together; empty without any.
+/// The number of sessions and their total time; empty without any.
 [[nodiscard]] QString recentText(std::size_t count, std::int64_t seconds, DurationStyle style);
 
 } // namespace dashboard

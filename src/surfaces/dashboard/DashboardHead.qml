@@ -1,4 +1,4 @@
-// The title, the ways to other windows, and the control that starts or stops a session.
+// The head: title, buttons for other windows, start and stop.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,13 +8,13 @@ FocusScope {
     id: head
 
     required property DashboardView model
-    required property bool stacked // the title stands above the controls
+    required property bool stacked // whether the title is above the controls
     readonly property real actionsWidth: logging.width + wrapped.width + 2 * actions.spacing
                                          + (open ? chip.width : start.width)
-    property bool open: false // follows the model by way of follow()
+    property bool open: false // follows the model through follow()
     readonly property real leastHeight: 34
 
-    // What takes the place of a control that has the keyboard gets it, with its ring.
+    // A control that replaces the focused one takes the focus with its ring.
     function follow(): void {
         if (open === model.isOpen)
             return;

@@ -1,4 +1,4 @@
-// The hours window: head, progress, the hour wall, hours by skill and recent sessions.
+// The hours window: head, progress, hour wall, hours by skill, recent sessions.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -11,7 +11,7 @@ FocusScope {
     readonly property real margin: DarkUI.space24
     readonly property real inner: width - 2 * margin
     readonly property bool stacked: width < leastBeside * DarkUI.textScale
-    readonly property real leastBeside: 560 // px of width, for two cards beside each other
+    readonly property real leastBeside: 560 // px of width for two cards side by side
     readonly property real skillsWidth: 246
     readonly property real cardHeight: Math.round(208 * DarkUI.textScale)
 
@@ -55,7 +55,7 @@ FocusScope {
 
                 Row {
                     id: figures
-                    // All as high as the one whose words need most lines.
+                    // All blocks have the height of the tallest.
                     readonly property real highest: {
                         let most = 0;
                         for (let i = 0; i < children.length; ++i)

@@ -19,10 +19,10 @@ namespace vantle {
 
 namespace {
 
-/// The current hour's colour before there is a session.
+/// The current hour's colour before there is any session.
 constexpr std::uint32_t kNoColor = look::kDark.accent.rgb;
 
-/// Without a session: records whose clock was ahead come to count as time passes.
+/// Without a session: records with a start in the future begin to count.
 constexpr Seconds kIdleReload{3600.0};
 
 template <typename Line>

@@ -1,4 +1,4 @@
-// The hours window: progress, the hour wall, hours by skill and recent sessions.
+// The model of the hours window.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -19,17 +19,16 @@ class SessionFlow;
 class SkillList;
 class TrackerCore;
 
-/// What the window shows and does. Holds a copy of the log and computes everything from it; reads
-/// it again when the window opens, when a session begins, pauses or ends, on every change of the
-/// log, of the skills or of the daily goal, at midnight, and once an hour without a session. Ticks
-/// once a second while a session is open. Main thread.
+/// Keeps a copy of the log and computes everything from it. Reads it again when the window opens,
+/// when a session starts, pauses or ends, when log, skills or daily goal change, at midnight, and
+/// hourly without a session. Ticks each second during a session. Main thread.
 class DashboardView final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the window router.")
     /// A StatBlock each.
     Q_PROPERTY(QVariantList stats READ stats NOTIFY figuresChanged FINAL)
-    /// The three of them in words.
+    /// The three blocks as text.
     Q_PROPERTY(QString figuresSpoken READ figuresSpoken NOTIFY figuresChanged FINAL)
     Q_PROPERTY(QList<QColor> wallColors READ wallColors NOTIFY figuresChanged FINAL)
     Q_PROPERTY(QString wallText READ wallText NOTIFY figuresChanged FINAL)
@@ -44,10 +43,10 @@ class DashboardView final : public QObject {
     Q_PROPERTY(QColor sliceColor READ sliceColor NOTIFY ticked FINAL)
     Q_PROPERTY(QString wallLabel READ wallLabel NOTIFY ticked FINAL)
 
-    /// Whether a session is open, and what the chip in the head says of it.
+    /// Whether a session is open, and the texts of its chip.
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY ticked FINAL)
     Q_PROPERTY(QString chipText READ chipText NOTIFY ticked FINAL)
-    /// The chip's text in two parts: what may be cut, and the time, which may not.
+    /// The chip's text in two parts: one that may be elided, and the time.
     Q_PROPERTY(QString chipState READ chipState NOTIFY ticked FINAL)
     Q_PROPERTY(QString elapsed READ elapsed NOTIFY ticked FINAL)
     Q_PROPERTY(QString chipHoverText READ chipHoverText NOTIFY ticked FINAL)
@@ -55,14 +54,14 @@ class DashboardView final : public QObject {
     Q_PROPERTY(QColor chipColor READ chipColor NOTIFY ticked FINAL)
     Q_PROPERTY(bool isPaused READ isPaused NOTIFY ticked FINAL)
 
-    /// The shortcut is held, and works over every application.
+    /// Whether the shortcut is registered for every application.
     Q_PROPERTY(bool hasShortcut READ hasShortcut NOTIFY shortcutChanged FINAL)
 
-    /// What is wrong with the log; empty when nothing is.
+    /// The problem with the log; empty when there is none.
     Q_PROPERTY(QString warning READ warning NOTIFY warningChanged FINAL)
 
 public:
-    /// What the window works with. All of it must outlive the view.
+    /// The services of the window. All of them must outlive the model.
     struct Environment {
         SessionFlow& flow;
         SkillList& skills;

@@ -23,7 +23,7 @@ std::unique_ptr<QObject> makeModel(const WindowParts& parts) {
         .scheduler = parts.scheduler,
         .calendar = parts.calendar,
         .openQuickLog = [&router] { router.show(WindowId::QuickLog); },
-        // The review closes the window that asks for it.
+        // The review closes the window that opens it.
         .openWrapped =
             [&router] {
                 QMetaObject::invokeMethod(

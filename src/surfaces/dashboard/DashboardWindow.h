@@ -1,4 +1,6 @@
-// The hours as a window.
+// The specification of the hours window.
+//
+// Main thread.
 #pragma once
 
 #include "surfaces/window/WindowSpec.h"

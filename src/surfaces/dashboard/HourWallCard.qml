@@ -1,4 +1,4 @@
-// One dot for each finished hour; the current hour fills as a slice.
+// The wall: one dot per finished hour; the current hour fills as a slice.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// Says that time was logged by hand.
+// The mark of manually logged time.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

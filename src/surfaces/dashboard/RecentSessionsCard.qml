@@ -1,4 +1,4 @@
-// The newest sessions; before there is one, the way to it.
+// The newest sessions, or an invitation to start the first one.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -19,7 +19,7 @@ DashboardCard {
 
         DarkPrimaryButton {
             anchors.horizontalCenter: parent.horizontalCenter
-            // It stays in the place of the keyboard's focus, and says what a press does now.
+            // Kept under the focus; its text says what a press does now.
             text: card.model.isOpen ? qsTr("Stop Vantle") : qsTr("Start your first session")
             onClicked: card.model.toggle()
         }

@@ -1,4 +1,4 @@
-// A stretch of work: when it ended, its skill, how long.
+// A group of sessions: end time, skill, duration.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

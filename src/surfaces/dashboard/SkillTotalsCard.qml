@@ -8,7 +8,7 @@ DashboardCard {
     id: card
 
     required property DashboardView model
-    // All of them fit, however many the person has.
+    // Shrinks the rows until all fit.
     readonly property real pitch: Math.min(26 * DarkUI.textScale, room
                                                / Math.max(model.skillTotals.length, 1))
     readonly property real room: height - 38 * DarkUI.textScale - DarkUI.space12

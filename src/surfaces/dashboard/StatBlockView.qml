@@ -1,4 +1,4 @@
-// A progress figure; before there are hours, how to get some.
+// A progress figure, or before there are hours an invitation.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -11,7 +11,7 @@ DarkCard {
     readonly property bool hasValue: stat.value !== ""
     readonly property real inner: width - 2 * DarkUI.space16
     readonly property real bottomGap: 13
-    // The figure's own height has room to spare, which larger text takes.
+    // The value's height has room to spare, which larger text uses.
     readonly property real belowValue: value.y + (DarkUI.textScale > 1 ? value.height : 37)
     readonly property real needed: hasValue
         ? context.y + context.height + DarkUI.space8 + bar.height + bottomGap

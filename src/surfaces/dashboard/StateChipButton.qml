@@ -1,4 +1,4 @@
-// What goes on, in the skill's colour; a press stops it.
+// The session's state in the skill's colour; a press stops it.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -10,10 +10,10 @@ KitPressable {
     required property DashboardView model
     readonly property bool offersStop: hovered || ringed
 
-    property real room: 10000 // px that it may take; a long name is cut
+    property real room: 10000 // available px; a long name is elided
     readonly property real aside: status.x + DarkUI.buttonPadding
 
-    // As wide as the wider of its two texts: a chip that shrank under the pointer would leave it.
+    // The width of the wider text: a chip that shrank under the pointer would leave it.
     implicitWidth: aside + Math.ceil(Math.max(status.implicitWidth + time.implicitWidth,
                                               stop.implicitWidth))
     width: Math.min(implicitWidth, room)

@@ -1,4 +1,4 @@
-// What is wrong with the log.
+// The problem with the log.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -13,7 +13,7 @@ constexpr double kSide = 18.0;
 constexpr double kBrickHeight = 3.2;
 constexpr QPointF kCentre{9.0, 9.0};
 
-/// A brick that lies: its left edge, its upper edge counted down from the top, its width.
+/// A brick of the wall: left edge, upper edge from the top, width.
 struct Brick {
     double x;
     double y;
@@ -27,12 +27,12 @@ constexpr Brick kWall[] = {
     {1.5, 4.5, 6.4, 1.0},                                                // top row
 };
 
-/// The brick in the hand: where its centre is, and how far it is turned, its right end up.
+/// The brick being laid: centre and rotation, right end up.
 constexpr QPointF kLaidCentre{12.6, 4.4};
 constexpr double kLaidWidth = 5.8;
 constexpr double kLaidDegrees = -26.0;
 
-/// What a dot looks like. Radii in units, alphas from 0 to 1.
+/// The look of a dot. Radii in units, alpha 0 to 1.
 struct Dot {
     double coreRadius;
     double coreAlpha;
@@ -47,7 +47,7 @@ constexpr QSizeF kPauseBar{1.2, 4.4};
 constexpr double kPauseGap = 0.8;
 constexpr double kPauseBarAlpha = 0.9;
 
-/// What lies behind the image while the panel is open: seen on bars of either brightness.
+/// The plate behind the image while the panel is open, visible on light and dark bars.
 constexpr QColor kPlateColor(0x80, 0x80, 0x80);
 constexpr double kPlateAlpha = 0.4;
 constexpr double kPlateRadius = 4.0;
@@ -69,8 +69,8 @@ void fillCircle(QPainter& painter, double radius, const QColor& color) {
     painter.drawEllipse(kCentre, radius, radius);
 }
 
-/// The gap between the bars. Where it is under a pixel, smoothing would close it and leave a block,
-/// so there it is as many whole pixels as can lie in the middle: two, or one in an odd size.
+/// The gap between the pause bars. Antialiasing would close a gap below one pixel, so there it is
+/// two whole pixels, or one in an odd size.
 double pauseGap(int pixels) {
     const double unit = pixels / kSide;
     if (kPauseGap * unit >= 1.0) return kPauseGap;

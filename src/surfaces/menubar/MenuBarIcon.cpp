@@ -7,7 +7,7 @@
 namespace vantle {
 namespace {
 
-// Pixels: the design's 18 at one to three pixels a point, and the other sizes of common trays.
+// In pixels: the design's 18 at scale 1 to 3, and other common tray sizes.
 constexpr int kSizes[] = {16, 18, 22, 24, 32, 36, 48, 54};
 
 template <typename Draw>

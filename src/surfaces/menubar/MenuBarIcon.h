@@ -1,4 +1,4 @@
-// The tray images, each drawn once and kept.
+// The cache of tray images.
 #pragma once
 
 #include <QHash>
@@ -8,22 +8,22 @@
 
 namespace vantle {
 
-/// Draws in code, without image files, at all the sizes that trays ask for on screens of one, two
-/// and three pixels a point, so that none has to scale. Main thread, with a QGuiApplication.
+/// Draws all sizes that trays use at scale 1 to 3, so that none is scaled. Requires a
+/// QGuiApplication. Main thread.
 class MenuBarIcon {
 public:
     MenuBarIcon();
 
-    /// The image of no session: a wall. Only its shape counts (QIcon::isMask), and it takes the
-    /// colour of the bar's text. `open` puts it on a plate, as while the panel is open.
+    /// The image without a session: the wall, a template image (QIcon::isMask) in the bar's text
+    /// colour. `open` adds the plate.
     [[nodiscard]] const QIcon& brick(bool open = false) const { return open ? m_open : m_brick; }
 
-    /// The image of an open session in the skill's colour, `phase` 0 to 7; paused, all phases are
-    /// one. The second time it is a look-up.
+    /// The image of an open session in the skill's colour, `phase` 0 to 7, which has no effect
+    /// while paused. Repeated calls are lookups.
     [[nodiscard]] QIcon statusDot(std::uint32_t hexRGB, int phase, bool paused, bool open = false);
 
-    /// How many dots are kept: for each colour at most eight that breathe and a paused one, with
-    /// and without the plate.
+    /// The number of cached dots: per colour at most eight that breathe and a paused one, with and
+    /// without the plate.
     [[nodiscard]] qsizetype dotCount() const { return m_dotCache.size(); }
 
 private:

@@ -12,7 +12,7 @@ namespace {
 
 constexpr Seconds kPulseTolerance{0.02};
 
-// The fullest step of the breath: what a dot that can't breathe looks like.
+// The fullest step, shown when the dot does not breathe.
 constexpr int kStillPhase = 2;
 
 } // namespace
@@ -47,7 +47,7 @@ void StatusItemController::setPanelOpen(bool open) {
 }
 
 void StatusItemController::applyLater() {
-    // State and skill change one after the other; only the pair that they end up as is shown.
+    // State and skill change one after the other; only the final pair is shown.
     if (m_applyPosted) return;
     m_applyPosted = true;
     m_env.scheduler.post([self = QPointer<StatusItemController>(this)] {

@@ -1,4 +1,4 @@
-// Keeps the tray item in step with the session.
+// The controller of the tray item's image and menu.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -18,15 +18,14 @@
 
 namespace vantle {
 
-/// A wall when no session is open, a breathing dot in the skill's colour while one counts, the dot
-/// with two bars while it is paused. The breath is the only animation that runs all through a
-/// session, so it stops whenever nobody can see it: while the screens sleep, while no tray shows
-/// the item, and under reduced motion. Main thread.
+/// A wall without a session, a breathing dot in the skill's colour while one counts, the dot with
+/// two bars while paused. The breath is the only animation during a whole session, so it stops
+/// while invisible (screens asleep, no tray) and with reduced motion. Main thread.
 class StatusItemController final : public QObject {
     Q_OBJECT
 
 public:
-    /// What the controller works with. All of it must outlive the controller.
+    /// The services of the controller. All of them must outlive it.
     struct Environment {
         TrackerCore& tracker;
         SkillList& skills;
@@ -38,22 +37,22 @@ public:
 
     explicit StatusItemController(const Environment& environment);
 
-    static constexpr double pulseInterval = 0.12; ///< seconds; eight of them make a breath
+    static constexpr double pulseInterval = 0.12; ///< seconds; eight per breath
 
-    /// A line under the name in the tool tip; an empty text removes it.
+    /// Sets the second line of the tooltip; empty removes it.
     void setStatusText(const QString& text);
 
-    /// Whether the panel that belongs to the item is open, which the image shows at once.
+    /// Whether the command center is open, which the image shows immediately.
     void setPanelOpen(bool open);
 
-    /// Where the item is, to place a panel by; empty where the desktop does not tell.
+    /// The item's place, for the panel; empty where unknown.
     [[nodiscard]] QRect geometry() const { return m_env.item.geometry(); }
 
-    /// A left or right click, with its place on the screen as far as known, else (0, 0). Set once
-    /// by the owner, which it must hold weakly.
+    /// Called for a left or right click with its position; (0, 0) where unknown. Set once by the
+    /// owner, which it must hold weakly.
     std::function<void(QPoint place)> onClick;
 
-    /// What the lines of the item's menu do, on desktops that show one at a right click. Set like
+    /// The commands of the item's menu, on desktops that show one on a right click. Set like
     /// onClick.
     std::function<void()> onOpen;
     std::function<void()> onToggle; ///< starts or stops
@@ -71,7 +70,7 @@ private:
 
     Environment m_env;
     MenuBarIcon m_icons;
-    TimerHandle m_pulseTimer; ///< there exactly while the dot breathes
+    TimerHandle m_pulseTimer; ///< set while the dot breathes
     int m_pulsePhase = 0;
     bool m_applyPosted = false;
     bool m_panelOpen = false;

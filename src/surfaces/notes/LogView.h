@@ -1,4 +1,4 @@
-// The notes window: every session with a note, to be searched, copied and corrected.
+// The model of the notes window.
 #pragma once
 
 #include "base/Calendar.h"
@@ -20,9 +20,9 @@ class Preferences;
 class SkillList;
 class TrackerCore;
 
-/// What the window shows and does. Reads the log when it is made, after every change of it or
-/// of the skills, and after an edit; searching is done in memory. A failed write is told in
-/// `failure`, and the note stays as it was. Main thread.
+/// All sessions with a note, with search, copy and edit. Reads the log on construction, after every
+/// change of log or skills, and after an edit; searches in memory. A failed write sets `failure`
+/// and leaves the note unchanged. Main thread.
 class LogView final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -30,19 +30,19 @@ class LogView final : public QObject {
     Q_PROPERTY(vantle::NoteRows* rows READ rows CONSTANT FINAL)
     Q_PROPERTY(vantle::NoteFilters* filters READ filters CONSTANT FINAL)
     Q_PROPERTY(State state READ state NOTIFY shownChanged FINAL)
-    /// How many notes are shown, and the word after it.
+    /// The number of notes shown, and the word after it.
     Q_PROPERTY(QString countText READ countText NOTIFY shownChanged FINAL)
     Q_PROPERTY(QString subtitleText READ subtitleText NOTIFY shownChanged FINAL)
     Q_PROPERTY(QString footerText READ footerText NOTIFY shownChanged FINAL)
-    /// As wide as a time of day can be, for the column of times.
+    /// The widest time of day, for the column of times.
     Q_PROPERTY(QString widestTimeText READ widestTimeText NOTIFY shownChanged FINAL)
     Q_PROPERTY(bool showsFilters READ showsFilters NOTIFY shownChanged FINAL)
     Q_PROPERTY(bool showsAll READ showsAll NOTIFY filterChanged FINAL)
     Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY filterChanged FINAL)
-    /// The one row that is being edited, and what is typed there; empty when there is none.
+    /// The row being edited and its draft; empty when there is none.
     Q_PROPERTY(QString editingId READ editingId NOTIFY editingChanged FINAL)
     Q_PROPERTY(QString draft READ draft WRITE setDraft NOTIFY draftChanged FINAL)
-    /// The row whose note was copied a moment ago.
+    /// The row whose note was just copied.
     Q_PROPERTY(QString copiedId READ copiedId NOTIFY copiedIdChanged FINAL)
     /// Why the last edit could not be saved; empty otherwise.
     Q_PROPERTY(QString failure READ failure NOTIFY failureChanged FINAL)
@@ -53,7 +53,7 @@ public:
 
     static constexpr double copiedSeconds = 1.4;
 
-    /// What the window works with. All of it must outlive the view.
+    /// The services of the window. All of them must outlive the model.
     struct Environment {
         TrackerCore& tracker;
         SkillList& skills;
@@ -62,7 +62,7 @@ public:
         const Clock& clock;
         Scheduler& scheduler;
         std::function<Calendar()> calendar;
-        std::function<void(const QString&)> copy; ///< puts a text on the clipboard
+        std::function<void(const QString&)> copy; ///< copies to the clipboard
     };
 
     explicit LogView(Environment environment);
@@ -92,7 +92,7 @@ public:
 
     Q_INVOKABLE void beginEdit(const QString& id);
     void setDraft(const QString& draft);
-    /// Saves the draft, if it says something else than the note, and ends the edit.
+    /// Saves a changed draft and ends the edit.
     Q_INVOKABLE void commitEdit();
     Q_INVOKABLE void cancelEdit();
 
@@ -102,7 +102,7 @@ Q_SIGNALS:
     void editingChanged();
     void draftChanged();
     void copiedIdChanged();
-    void copied(); ///< a note, or the one before once more
+    void copied(); ///< a note, possibly the same again
     void failureChanged();
 
 private:
@@ -122,7 +122,7 @@ private:
     QString m_copiedId;
     QString m_failure;
     TimerHandle m_copiedEnds;
-    TimerHandle m_dayEnds; ///< then "Today" is another day
+    TimerHandle m_dayEnds; ///< fires when "Today" becomes another day
 };
 
 } // namespace vantle

@@ -1,4 +1,4 @@
-// What a note offers to who is at it.
+// The buttons of a note, for pointer and keyboard.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -6,7 +6,7 @@ import Vantle.Kit
 Row {
     id: buttons
 
-    required property KitControl row // that they stand in
+    required property KitControl row // the row that contains them
     signal copyWanted
     signal editWanted
 
@@ -15,7 +15,7 @@ Row {
     component RowButton: DarkIconButton {
         help: name
         iconSize: DarkUI.space14
-        // What has the focus can't leave the order of the Tab key.
+        // The focused item must stay in the Tab order.
         activeFocusOnTab: buttons.row.activeFocusOnTab || activeFocus
     }
 
@@ -24,7 +24,7 @@ Row {
         icon: "copy"
         onClicked: {
             if (keyboardFocus)
-                buttons.row.focusByKeyboard(); // the word that comes in its place takes none
+                buttons.row.focusByKeyboard(); // the text that replaces it takes no focus
             buttons.copyWanted();
         }
     }

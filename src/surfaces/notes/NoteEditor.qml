@@ -1,4 +1,4 @@
-// The field in place of a note that is being edited.
+// The editor that replaces a note.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -12,8 +12,7 @@ Column {
     spacing: DarkUI.space6
     bottomPadding: DarkUI.space2
 
-    // Not by being made: a row that scrolls or is searched into sight with its draft must not take
-    // the keyboard from where it is.
+    // Not on creation: a row with a draft that scrolls into view must not take the focus.
     function takeKeyboard(): void {
         field.forceActiveFocus(Qt.OtherFocusReason);
     }

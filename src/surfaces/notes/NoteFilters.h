@@ -1,4 +1,4 @@
-// The chips that narrow the notes to one skill.
+// The chips that filter the notes by skill.
 #pragma once
 
 #include "tracking/Skill.h"
@@ -11,7 +11,7 @@
 
 namespace vantle {
 
-/// One for each skill that has a note. The chip for all of them is not among these. Main thread.
+/// One per skill with a note, without the chip for all. Main thread.
 class NoteFilters : public QAbstractListModel {
     Q_OBJECT
     QML_ANONYMOUS

@@ -1,4 +1,4 @@
-// What a note belongs to: the skill, how long, and whether it was logged by hand.
+// The facts of a note: skill, duration, and whether it was logged by hand.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -28,7 +28,7 @@ Row {
     }
 
     Word {
-        // What the words that are never cut leave.
+        // The width left beside texts that are never elided.
         readonly property real others: dot.width + divider.width + duration.width
                                        + 3 * meta.spacing
                                        + (meta.isManual ? end.width + meta.spacing : 0)

@@ -1,4 +1,4 @@
-// One note with its time, skill and duration; under the pointer it can be copied and edited.
+// A note with time, skill and duration; buttons to copy and edit appear under the pointer.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,10 +8,10 @@ KitControl {
     id: row
 
     required property LogView log
-    required property real timeWidth // of the column, the same for all rows
+    required property real timeWidth // of the column, equal in all rows
     readonly property real lineGap: 3
-    signal leftBehind(int step) // an arrow key leads to a row before or after
-    signal editorEntered // the keyboard is in the editor
+    signal leftBehind(int step) // an arrow key moves to a row before or after
+    signal editorEntered // the editor has the focus
 
     required property string sessionId
     required property string note
@@ -47,7 +47,7 @@ KitControl {
         const hadFocus = editor.activeFocus;
         editor.source = "";
         if (hadFocus)
-            row.focusByKeyboard(); // a key has ended the edit
+            row.focusByKeyboard(); // a key ended the edit
     }
 
     implicitHeight: content.height + 2 * DarkUI.space8
@@ -63,9 +63,8 @@ KitControl {
     }
     Component.onCompleted: showEditor()
 
-    // An item that waits to be used again keeps the focus of what is in it: without this the keys
-    // would go to a field that nobody sees, and then to another note. The list only stops drawing
-    // it; a screen reader would still read out a note that a search has left out.
+    // A pooled item keeps its focus, so keys would go to an invisible field and then to another
+    // note. The list merely stops drawing it; a screen reader would still read a filtered note.
     ListView.onPooled: {
         editor.source = "";
         visible = false;
@@ -120,10 +119,10 @@ KitControl {
 
         DarkText {
             visible: !row.editing
-            // The room of the two buttons stays free, so that no line moves under the pointer.
+            // Reserves the buttons' room, so that no line moves under the pointer.
             width: parent.width - 2 * DarkUI.iconButtonSize - DarkUI.space12
             text: row.note
-            horizontalAlignment: undefined // that of its script
+            horizontalAlignment: undefined // by script
             role: DarkUI.note
             wrapMode: Text.Wrap
             Accessible.ignored: true
@@ -146,8 +145,8 @@ KitControl {
         }
     }
 
-    // Made for who comes to the row first. From then on transparent while nobody is at it: hidden,
-    // they would lose the focus on its way to them.
+    // Created on first hover or focus, then kept and made transparent: hiding a button would move
+    // keyboard focus away from it.
     Loader {
         id: buttons
         anchors.right: parent.right

@@ -12,7 +12,7 @@ namespace vantle {
 
 namespace {
 
-/// Ten in the evening: two digits in clocks of 12 and of 24 hours.
+/// 10 PM: two digits in 12 and 24 hour clocks.
 constexpr Seconds kWidestTime(22 * 3600.0);
 
 } // namespace
@@ -67,7 +67,7 @@ void NoteRows::narrow(const LogFilter& filter, const QUuid& kept) {
     const std::ptrdiff_t count = std::ssize(lines.rows);
     const std::ptrdiff_t place = placeOf(kept, lines);
     const std::ptrdiff_t before = placeOf(kept, m_lines);
-    // No reset: of rows that go and come a view uses its items again, which is much less work.
+    // No reset: the view reuses its items for removed and inserted rows, which is much less work.
     if (place == count || before == std::ssize(m_lines.rows)) {
         removeRange(0, std::ssize(m_lines.rows));
         insertRange(0, count, lines, count);
@@ -78,7 +78,7 @@ void NoteRows::narrow(const LogFilter& filter, const QUuid& kept) {
     insertRange(0, place, lines, place + 1);
     insertRange(place + 1, count - place - 1, lines, count);
     const QModelIndex stayed = index(static_cast<int>(place));
-    Q_EMIT dataChanged(stayed, stayed, {SpokenRole}); // it may have become the first of its day
+    Q_EMIT dataChanged(stayed, stayed, {SpokenRole}); // it may now be the first of its day
 }
 
 void NoteRows::update(Content content) {
@@ -97,7 +97,7 @@ void NoteRows::update(Content content) {
     const int removed = static_cast<int>(tail.first.base() - head.first);
     const int inserted = static_cast<int>(tail.second.base() - head.second);
 
-    // Between the two steps the model holds the old list without the rows that go.
+    // Between the two steps the model has the old list without the removed rows.
     if (removed > 0) {
         beginRemoveRows({}, first, first + removed - 1);
         m_lines.rows.erase(head.first, tail.first.base());
@@ -110,7 +110,7 @@ void NoteRows::update(Content content) {
     } else {
         adopt(std::move(content), std::move(lines));
     }
-    // Rows that stay may still say something else: a note that was edited, a day that has passed.
+    // Rows that stay may have changed: an edited note, a new day.
     if (!m_lines.rows.empty()) Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }
 

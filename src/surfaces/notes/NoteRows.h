@@ -1,4 +1,4 @@
-// The rows of the notes window, for a list view with a heading for each day.
+// The list model of the notes window, grouped by day.
 #pragma once
 
 #include "base/DateText.h"
@@ -12,7 +12,7 @@
 
 namespace vantle {
 
-/// What is shown now. Texts are made when a row comes into sight. Main thread.
+/// The shown rows. Texts are made on demand. Main thread.
 class NoteRows : public QAbstractListModel {
     Q_OBJECT
     QML_ANONYMOUS
@@ -26,11 +26,11 @@ public:
         SkillColorRole,
         DurationRole,
         IsManualRole,
-        DayRole,    ///< the heading that the row stands under
-        SpokenRole, ///< all of the row in words, for assistive tools; the first of a day names it
+        DayRole,    ///< the heading of the row's day
+        SpokenRole, ///< the row for screen readers; the first of a day names it
     };
 
-    /// All that the rows are made of.
+    /// The input of the rows.
     struct Content {
         NotesLog log;
         noteslog::Places visible;
@@ -42,14 +42,14 @@ public:
     NoteRows();
 
     [[nodiscard]] const Content& content() const { return m_content; }
-    /// As wide as a time of day can be.
+    /// The widest time of day.
     [[nodiscard]] const QString& widestTimeText() const { return m_widestTime; }
 
-    /// Shows what passes the filter. The row of the session `kept` keeps its view where it passes
-    /// before and after: a view holds the caret of its editor. All others are removed and inserted.
+    /// Applies the filter. Keeps the view of session `kept` if it passes before and after, since
+    /// the view holds its editor's caret. Other rows are removed and inserted.
     void narrow(const LogFilter& filter, const QUuid& kept = {});
 
-    /// Shows what has become of the same list: rows that stay keep their place and their view.
+    /// Updates the list: rows that stay keep their view.
     void update(Content content);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
@@ -57,22 +57,22 @@ public:
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
 private:
-    /// A row in the order of the days.
+    /// A row in display order.
     struct Row {
-        std::size_t place = 0; ///< in the log
+        std::size_t place = 0; ///< index in the log
         std::size_t day = 0;   ///< in m_days
     };
-    /// All that follows from a content.
+    /// The rows of a content.
     struct Lines {
         std::vector<noteslog::LogDay> days;
         std::vector<Row> rows;
     };
     [[nodiscard]] static Lines linesOf(const Content& content);
     void adopt(Content content, Lines lines);
-    /// Where the session stands among the rows; their number when it does not.
+    /// Returns the session's row index; their number when it is not shown.
     [[nodiscard]] std::ptrdiff_t placeOf(const QUuid& session, const Lines& lines) const;
     void removeRange(std::ptrdiff_t first, std::ptrdiff_t count);
-    /// Shows the first `upTo` rows of the lines, of which `count` from `first` on are new.
+    /// Shows the first `upTo` rows, of which `count` from `first` on are new.
     void insertRange(std::ptrdiff_t first, std::ptrdiff_t count, const Lines& lines,
                      std::ptrdiff_t upTo);
     [[nodiscard]] QString spoken(std::size_t number) const;
@@ -83,7 +83,7 @@ private:
     Content m_content;
     Lines m_lines;
     DateText m_time;
-    std::unique_ptr<DayLabels> m_dayLabels; ///< none before there is a content
+    std::unique_ptr<DayLabels> m_dayLabels; ///< null before there is content
     QString m_widestTime;
 };
 

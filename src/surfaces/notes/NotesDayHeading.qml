@@ -18,8 +18,8 @@ Item {
         text: heading.section
         role: DarkUI.captionStrong
         color: DarkUI.textSecondary
-        // The list makes it after the row below it and would have it read out in that order. The
-        // row names the day instead.
+        // The list creates it after the row below it and screen readers would read it in that
+        // order. The row names the day instead.
         Accessible.ignored: true
     }
 }

@@ -1,4 +1,4 @@
-// What the window says before there is a note.
+// The empty state of the notes window.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -6,7 +6,7 @@ import Vantle.Kit
 Item {
     Column {
         anchors.centerIn: parent
-        // The title strip above belongs to the window as well.
+        // Centred in the window, including its title strip.
         anchors.verticalCenterOffset: -DarkUI.stripHeight / 2
         spacing: DarkUI.space8
 

@@ -1,4 +1,4 @@
-// One chip for all notes and one for each skill, on one line that scrolls sideways.
+// A chip for all notes and one per skill, in one line that scrolls sideways.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -14,7 +14,7 @@ Item {
 
     implicitHeight: DarkUI.chipHeight
 
-    // The chip with the focus comes into sight.
+    // Scrolls to the focused chip.
     function bringIntoSight(chip: Item): void {
         const left = chip.mapToItem(chips, 0, 0).x;
         const room = area.width - DarkUI.edgeFadeLength;
@@ -27,7 +27,7 @@ Item {
     Flickable {
         id: area
         anchors.fill: parent
-        // Room for the focus ring, which would be cut.
+        // Room for the focus ring, which would be clipped.
         anchors.margins: -row.ringRoom
         contentWidth: chips.width + 2 * chips.x
         contentHeight: height

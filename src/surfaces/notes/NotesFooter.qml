@@ -1,4 +1,4 @@
-// A line about the notes that are shown; above it, why an edit could not be saved.
+// The footer: a summary of the shown notes, and above it a failed edit.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// How many notes there are, the search, and the filters.
+// The header: number of notes, search, filters.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,16 +8,16 @@ FocusScope {
     id: header
 
     required property LogView model
-    readonly property bool stacked: width < leastBeside // the line below the count has its own row
+    readonly property bool stacked: width < leastBeside // whether the subtitle has its own row
     readonly property real leastBeside: 500 // px of width
-    readonly property real wideFrom: 560 // px of width, for the long search field
+    readonly property real wideFrom: 560 // px of width for the long search field
     readonly property real searchWidth: 190
     readonly property real searchWidthNarrow: 160
     readonly property real leastFiltersTop: 69
 
     implicitHeight: line.y + line.height
 
-    // What a search or a filter found.
+    // Announces the result of a search or filter.
     Announcer {
         text: header.model.query === "" && header.model.showsAll ? "" : header.model.countText
     }

@@ -1,4 +1,4 @@
-// The notes under the headings of their days.
+// The list of notes under day headings.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -16,7 +16,7 @@ FocusScope {
             row.focusByKeyboard();
     }
 
-    // Another search starts at the top. The row with the editor stays the current one.
+    // A new search scrolls to the top. The row being edited stays current.
     Connections {
         target: area.model
         function onFilterChanged(): void {
@@ -39,17 +39,17 @@ FocusScope {
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         focus: true
-        keyNavigationEnabled: false // the rows pass the focus on, as the keyboard does
+        keyNavigationEnabled: false // the rows pass the focus on
         highlightMoveDuration: 0
         model: area.model.rows
         reuseItems: true
         bottomMargin: DarkUI.space14
-        // Notes are of many heights; some more of them keep the scroll bar steady.
+        // Notes vary in height; a larger cache steadies the scrollbar.
         cacheBuffer: Math.max(0, height)
 
         section.property: "dayText"
-        // From its file: a list can't make a component that is bound to this one. The list holds
-        // it, or the collector would take it while headings are still made of it.
+        // By URL, since a list cannot create a component bound to this file. The list keeps a
+        // reference, or the garbage collector would take it.
         section.delegate: Qt.createComponent("NotesDayHeading.qml", Component.PreferSynchronous,
                                              list)
 
@@ -58,16 +58,16 @@ FocusScope {
             required property int index
             width: ListView.view.width
             log: area.model
-            // What has the focus can't leave the order of the Tab key.
+            // The focused item must stay in the Tab order.
             activeFocusOnTab: ListView.isCurrentItem || activeFocus
             timeWidth: Math.max(54, widestTime.width + DarkUI.space10)
             onLeftBehind: step => area.goBy(step)
-            // Of rows that leave the window, the list keeps the view of the current one alone.
+            // Of rows scrolled out of the window, the list keeps only the current one.
             onEditorEntered: {
                 if (list.currentIndex === index)
                     return;
                 list.currentIndex = index;
-                note.takeKeyboard(); // a row that becomes the current one gets the focus itself
+                note.takeKeyboard(); // a row that becomes current gets the focus itself
             }
         }
 

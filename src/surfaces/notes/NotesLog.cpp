@@ -22,7 +22,7 @@ namespace noteslog {
 
 namespace {
 
-/// Newest first, as the log lists them, whatever the order of the sessions.
+/// Orders by start, newest first, whatever the input order.
 std::vector<const Session*> newestFirst(const std::vector<Session>& sessions) {
     std::vector<const Session*> ordered;
     for (const Session& session : sessions)
@@ -32,7 +32,7 @@ std::vector<const Session*> newestFirst(const std::vector<Session>& sessions) {
     return ordered;
 }
 
-/// How many of the shown entries each skill has.
+/// Returns the number of shown entries per skill.
 std::vector<std::size_t> notesPerSkill(const NotesLog& log, const Places& visible) {
     std::vector<std::size_t> counts(log.skills.size());
     for (const std::size_t place : visible)
@@ -69,7 +69,7 @@ NotesLog read(const std::vector<Session>& sessions, const SkillLookup& skillOf) 
 
 Places visible(const NotesLog& log, const LogFilter& filter) {
     const QString sought = text::lowerCased(text::trimmed(filter.query));
-    // What a skill has to say is asked once a skill, not once a note.
+    // Evaluated once per skill instead of once per note.
     std::vector<bool> isShown;
     std::vector<bool> isFound;
     for (const Skill& skill : log.skills) {
@@ -91,7 +91,7 @@ std::vector<LogDay> days(const NotesLog& log, const Places& visible, const Calen
     std::vector<localtime::Day> numbers;
     for (const std::size_t place : visible) {
         const localtime::Day number = wall.at(log.entries[place].startedAt).day;
-        // Nearly always the last one. A clock that is set back over midnight returns to a day.
+        // Nearly always the last one. A clock set back over midnight returns to an earlier day.
         if (numbers.empty() || numbers.back() != number) {
             const auto at = std::ranges::lower_bound(numbers, number, std::ranges::greater());
             const auto index = at - numbers.begin();
@@ -126,7 +126,7 @@ QString footerText(const NotesLog& log, const Places& visible, DurationStyle sty
     const auto secondsOf = [&](std::size_t place) { return log.entries[place].activeSeconds; };
     const std::size_t longest = *std::ranges::max_element(visible, {}, secondsOf);
 
-    // Skills of one name count together, and the smaller name comes first.
+    // Skills of equal name count together; of equal counts the smaller name comes first.
     std::map<QString, std::size_t, CodePointLess> notes;
     const std::vector<std::size_t> counts = notesPerSkill(log, visible);
     for (std::size_t skill = 0; skill < counts.size(); ++skill)

@@ -1,7 +1,6 @@
-// The notes of all sessions as the notes window lists them: which are shown, in what order, under
-// which heading.
+// The notes of all sessions, as the notes window lists them.
 //
-// Plain values and pure functions, any thread.
+// Which are shown, in what order, under which heading. Plain values and pure functions, any thread.
 #pragma once
 
 #include "base/Calendar.h"
@@ -15,11 +14,11 @@
 
 namespace vantle {
 
-/// One session that has a note.
+/// A session with a note.
 struct LogEntry {
     QUuid id;              ///< the session's
-    std::size_t skill = 0; ///< its place in the log's skills
-    QString note;          ///< without blanks at the ends, never empty
+    std::size_t skill = 0; ///< index into the log's skills
+    QString note;          ///< trimmed, never empty
     Date startedAt;
     std::int64_t activeSeconds = 0;
     bool isManual = false; ///< logged by hand
@@ -28,36 +27,35 @@ struct LogEntry {
     friend bool operator==(const LogEntry&, const LogEntry&) = default;
 };
 
-/// What is being looked for. An entry has to fit both.
+/// A filter; an entry must match both parts.
 struct LogFilter {
     QString query; ///< as typed
     std::optional<QString> skillId;
 
-    /// Whether it leaves anything out. Blanks alone are no search.
+    /// Whether it filters at all. Blanks alone are no query.
     [[nodiscard]] bool isFiltering() const;
 };
 
 /// All notes.
 struct NotesLog {
     std::vector<LogEntry> entries; ///< newest start first
-    std::vector<Skill> skills;     ///< those that have a note, that of the newest first
+    std::vector<Skill> skills;     ///< those with a note, most recent first
 
     [[nodiscard]] const Skill& skillOf(const LogEntry& entry) const { return skills[entry.skill]; }
 };
 
 namespace noteslog {
 
-/// A skill to show for an id from the log, which may no longer exist.
+/// Returns a skill to show for an id from the log, which may be deleted.
 using SkillLookup = std::function<Skill(const QString& id)>;
 
-/// The notes of the sessions. Those that don't count in totals are here too.
+/// Returns the notes of the sessions, including those that do not count in totals.
 [[nodiscard]] NotesLog read(const std::vector<Session>& sessions, const SkillLookup& skillOf);
 
-/// Places in a log's entries, in their order.
+/// Indices into a log's entries, ascending.
 using Places = std::vector<std::size_t>;
 
-/// Those that pass the filter. Upper and lower case are the same, letters with and without marks
-/// are not.
+/// Returns the entries that match. Ignores case, but not diacritics.
 [[nodiscard]] Places visible(const NotesLog& log, const LogFilter& filter);
 
 /// The entries of one day.
@@ -66,18 +64,19 @@ struct LogDay {
     Places entries;
 };
 
-/// The entries under the days on which their sessions started, newest day first.
+/// Groups the entries by the day of their start, newest day first.
 [[nodiscard]] std::vector<LogDay> days(const NotesLog& log, const Places& visible,
                                        const Calendar& calendar);
 
 /// "note" or "notes", to stand after the count.
 [[nodiscard]] QString countWord(std::size_t count);
 
-/// What the shown sessions add up to.
+/// Describes the total of the shown sessions.
 [[nodiscard]] QString subtitleText(const NotesLog& log, const Places& visible, bool isFiltering,
                                    DurationStyle style);
 
-/// The longest of the shown sessions and the skill with most of them; empty when none is shown.
+/// Names the longest of the shown sessions and the skill with most of them; empty when none is
+/// shown.
 [[nodiscard]] QString footerText(const NotesLog& log, const Places& visible, DurationStyle style);
 
 } // namespace noteslog

@@ -1,4 +1,4 @@
-// The notes window: a head with the search and the filters, the notes by days, a foot.
+// The notes window: header with search and filters, notes by day, footer.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// What the window says when nothing passes the filters.
+// The state without a match.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

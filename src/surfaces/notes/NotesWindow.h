@@ -1,4 +1,6 @@
-// The notes as a window.
+// The specification of the notes window.
+//
+// Main thread.
 #pragma once
 
 #include "surfaces/window/WindowSpec.h"

@@ -1,4 +1,4 @@
-// Keeps the items of a list in the order in which a screen reader should read them.
+// The reading order of a list's items, for screen readers.
 #pragma once
 
 #include <QPointer>
@@ -6,13 +6,13 @@
 
 namespace vantle {
 
-/// A list view uses its items again wherever it needs one, so after a search they stand among
-/// their siblings in any order, which is the order of the accessibility tree and of the Tab key.
-/// This sorts them from the top down, in the event loop's next turn. Main thread.
+/// A list view reuses items, so after a search its children are in arbitrary order, which is the
+/// order of the accessibility tree and the Tab key. This sorts them top to bottom in the next turn
+/// of the event loop. Main thread.
 class ReadingOrder : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    /// The item whose children are sorted: the list's content.
+    /// The item whose children are sorted: the list's contentItem.
     Q_PROPERTY(QQuickItem* parentItem READ parentItem WRITE setParentItem NOTIFY parentItemChanged)
 
 public:

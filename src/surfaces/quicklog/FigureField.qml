@@ -1,4 +1,4 @@
-// A field for a whole number, with its unit behind it.
+// A field for a whole number with its unit.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -14,7 +14,7 @@ DarkTextField {
     minHeight: DarkUI.figureFieldHeight
     role: DarkUI.titleM
     input.inputMethodHints: Qt.ImhDigitsOnly
-    input.maximumLength: 6 // more than any time that can be logged
+    input.maximumLength: 6 // more digits than any time that can be logged
     input.onActiveFocusChanged: {
         if (input.activeFocus)
             input.selectAll();

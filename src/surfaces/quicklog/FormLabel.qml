@@ -1,4 +1,4 @@
-// The label over a field of the form.
+// The label above a form field.
 import QtQuick
 import Vantle.Kit
 

@@ -10,7 +10,7 @@ namespace vantle {
 
 namespace {
 
-/// More than can be logged, and far from where the sum of both fields would overflow.
+/// More than can be logged, and small enough that sums do not overflow.
 constexpr std::int64_t kMany = 1'000'000'000;
 
 std::optional<std::int64_t> parse(const QString& field) {

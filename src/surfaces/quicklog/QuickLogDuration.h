@@ -1,4 +1,4 @@
-// The length of time that is typed into two fields, hours and minutes.
+// The duration typed into two fields, hours and minutes.
 //
 // Plain values and pure functions, any thread.
 #pragma once
@@ -10,7 +10,7 @@
 
 namespace vantle {
 
-/// The two fields as they stand.
+/// The texts of the two fields.
 struct QuickLogDuration {
     QString hours;
     QString minutes;
@@ -21,24 +21,24 @@ struct QuickLogDuration {
 
     friend bool operator==(const QuickLogDuration&, const QuickLogDuration&) = default;
 
-    /// Both fields as minutes; an empty field counts as 0. Empty when one holds no whole number, or
-    /// one below 0.
+    /// Returns both fields in minutes; an empty field counts as 0. Empty when a field is not a
+    /// whole number of at least 0.
     [[nodiscard]] std::optional<std::int64_t> total() const;
 
-    /// The total when it may be logged, 1 to 960.
+    /// Returns the total if it can be logged, 1 to 960 minutes.
     [[nodiscard]] std::optional<int> validMinutes() const;
 
-    /// The fields for a total, cut to 1 to 960.
+    /// Returns the fields for a total, clamped to 1 to 960 minutes.
     [[nodiscard]] static QuickLogDuration of(std::int64_t total);
 
-    /// The same time with less than 60 minutes in the second field, and no more than can be logged.
-    /// What is no time, and no time at all, stay as they are: the person finds them, and is told.
+    /// Returns the same time with less than 60 in the minutes field, capped at the maximum. Leaves
+    /// invalid text and a zero time alone, so that the user sees the error.
     [[nodiscard]] QuickLogDuration normalized() const;
 
-    /// "1 hour 30 minutes"; empty while a field holds no number.
+    /// "1 hour 30 minutes"; empty while a field is invalid.
     [[nodiscard]] QString spoken() const;
 
-    /// One step more or less. A field that holds no number counts as 0.
+    /// Returns the time moved by `steps`. An invalid field counts as 0.
     [[nodiscard]] QuickLogDuration stepped(int steps) const;
 };
 

@@ -1,4 +1,4 @@
-// The form that adds time by hand.
+// The form that logs time by hand.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

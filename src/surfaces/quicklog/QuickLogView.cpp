@@ -13,7 +13,7 @@ namespace vantle {
 
 namespace {
 
-/// What the form opens with.
+/// The initial duration.
 constexpr int kFirstMinutes = 30;
 
 } // namespace

@@ -1,4 +1,4 @@
-// The form that adds time by hand, for work that the clock did not see.
+// The model of the quick log form.
 #pragma once
 
 #include "surfaces/quicklog/QuickLogDuration.h"
@@ -19,8 +19,8 @@ class Preferences;
 class SessionFlow;
 class SkillList;
 
-/// What the form holds and does. An entry that can't be logged leaves everything as it was typed,
-/// with the reason in `errorMessage`. Main thread.
+/// Logs time by hand, for work that the clock did not track. An entry that cannot be logged stays
+/// as typed, with the reason in `errorMessage`. Main thread.
 class QuickLogView final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -31,11 +31,11 @@ class QuickLogView final : public QObject {
     Q_PROPERTY(QString hoursText READ hoursText WRITE setHoursText NOTIFY durationChanged FINAL)
     Q_PROPERTY(
         QString minutesText READ minutesText WRITE setMinutesText NOTIFY durationChanged FINAL)
-    /// Both fields as one time, read out with the buttons that step it.
+    /// Both fields as one duration, for screen readers.
     Q_PROPERTY(QString durationSpoken READ durationSpoken NOTIFY durationChanged FINAL)
     Q_PROPERTY(QString note MEMBER m_note NOTIFY noteChanged FINAL)
     Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged FINAL)
-    /// The error is about the time, not about the log.
+    /// Whether the error is about the time rather than the log.
     Q_PROPERTY(bool isTimeWrong READ isTimeWrong NOTIFY errorMessageChanged FINAL)
 
 public:
@@ -58,11 +58,11 @@ public:
     [[nodiscard]] const QString& errorMessage() const { return m_errorMessage; }
     [[nodiscard]] bool isTimeWrong() const { return m_isTimeWrong; }
 
-    /// When a field loses the focus.
+    /// Called when a field loses the focus.
     Q_INVOKABLE void normalizeDuration() { setDuration(m_duration.normalized()); }
     Q_INVOKABLE void stepDuration(int steps) { setDuration(m_duration.stepped(steps)); }
 
-    /// Adds the entry and closes the form.
+    /// Logs the entry and closes the form.
     Q_INVOKABLE void logEntry();
     Q_INVOKABLE void cancel() { m_onClose(); }
 
@@ -72,11 +72,11 @@ Q_SIGNALS:
     void durationChanged();
     void noteChanged();
     void errorMessageChanged();
-    /// The field for hours is to take the focus.
+    /// The hours field should take the focus.
     void hoursWanted();
 
 private:
-    /// Where that skill stands in the list; the first place when it is not in it.
+    /// Returns the skill's index in the list; 0 when it is missing.
     [[nodiscard]] int placeOf(const std::optional<QString>& id) const;
     [[nodiscard]] const Skill& chosenSkill() const;
     void setDuration(const QuickLogDuration& duration);

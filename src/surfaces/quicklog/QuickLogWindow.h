@@ -1,4 +1,6 @@
-// The form that adds time by hand as a window.
+// The specification of the quick log window.
+//
+// Main thread.
 #pragma once
 
 #include "surfaces/window/WindowSpec.h"

@@ -1,4 +1,4 @@
-// The skill that the time goes to: as high as a field, with the skill's colour in front.
+// The skill picker, as high as a field, with the skill's colour.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// One application, what its time counts as, and a button that forgets it.
+// An application, the skill that its time counts for, and a button to forget it.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -62,7 +62,7 @@ Item {
         anchors.right: forget.left
         anchors.rightMargin: DarkUI.space10
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, row.width / 2) // the application's name comes first
+        width: Math.min(implicitWidth, row.width / 2) // the application's name has precedence
         title: row.menuLabel
         options: row.settings.appChoices
         currentIndex: row.choice
@@ -75,7 +75,7 @@ Item {
     DarkIconButton {
         id: forget
         anchors.right: parent.right
-        anchors.rightMargin: -DarkUI.space6 // the sign ends with the text above
+        anchors.rightMargin: -DarkUI.space6 // aligns the icon with the text above
         anchors.verticalCenter: parent.verticalCenter
         name: row.forgetLabel
         help: row.forgetLabel

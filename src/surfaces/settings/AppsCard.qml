@@ -1,4 +1,4 @@
-// The applications that were in front lately, and what time in each of them counts as.
+// The recently used applications and their rules.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

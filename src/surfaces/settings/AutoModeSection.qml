@@ -1,4 +1,4 @@
-// What the application in front may do to the clock.
+// The settings of auto mode.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Settings

@@ -1,4 +1,4 @@
-// What plays at both ends of a session.
+// The settings of the ceremony.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Settings

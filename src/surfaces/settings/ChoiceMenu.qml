@@ -1,4 +1,4 @@
-// A menu of a row. A choice that stands for none is shown quietly.
+// The menu of a row. A choice that means "none" is dimmed.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// The person's data: to be looked at, and to be erased.
+// The user's data: export and erase.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// What this desktop does not offer, and how to get by without it.
+// The gaps of this desktop, with advice.
 #pragma once
 
 #include <QObject>
@@ -14,38 +14,37 @@ class IdleSource;
 class OverlayStage;
 class TrayItem;
 
-/// Advice for the rows of the settings where the person looks for what is missing; empty where
-/// nothing is. Main thread.
+/// Advice for the settings rows whose feature is missing; empty where nothing is. Main thread.
 class DesktopGaps final : public QObject {
     Q_OBJECT
     QML_ANONYMOUS
-    /// How to have a shortcut although ⌥⌘B can't be had.
+    /// How to have a shortcut when ⌥⌘B is unavailable.
     Q_PROPERTY(QString hotKeyAdvice READ hotKeyAdvice NOTIFY hotKeyChanged FINAL)
-    /// What a press does about ⌥⌘B, where the desktop gives it on the user's word; empty elsewhere.
+    /// The button that enables ⌥⌘B where the desktop needs the user's consent; empty elsewhere.
     Q_PROPERTY(QString hotKeyAction READ hotKeyAction NOTIFY hotKeyChanged FINAL)
-    /// The command that the advice speaks of.
+    /// The command that the advice names.
     Q_PROPERTY(QString command READ command CONSTANT FINAL)
     Q_PROPERTY(bool commandCopied READ commandCopied NOTIFY commandCopiedChanged FINAL)
-    /// How to reach the panel although there is no tray.
+    /// How to reach the panel without a tray.
     Q_PROPERTY(QString trayAdvice READ trayAdvice NOTIFY trayChanged FINAL)
-    /// What auto mode does not do, since the desktop tells of no application or only of some.
+    /// What auto mode misses, because the desktop reports no application or only some.
     Q_PROPERTY(QString autoModeAdvice READ autoModeAdvice NOTIFY autoModeChanged FINAL)
-    /// What a press does about it; empty where nothing can be done.
+    /// The button against it; empty where nothing can be done.
     Q_PROPERTY(QString autoModeRemedy READ autoModeRemedy NOTIFY autoModeChanged FINAL)
-    /// Why no session starts by itself.
+    /// Why auto mode starts no session.
     Q_PROPERTY(QString autoStartAdvice READ autoStartAdvice NOTIFY autoModeChanged FINAL)
     /// Why no ceremony plays.
     Q_PROPERTY(QString ceremonyAdvice READ ceremonyAdvice CONSTANT FINAL)
 
 public:
-    /// What may be missing. All of it must outlive this.
+    /// The services that may be missing. All of them must outlive this object.
     struct Environment {
         HotKey& hotKey;
         const TrayItem& tray;
         const IdleSource& idleSource;
         FrontmostApp& frontmostApp;
         const OverlayStage& overlayStage;
-        std::function<void(const QString& text)> copy; ///< puts it into the clipboard
+        std::function<void(const QString& text)> copy; ///< copies to the clipboard
     };
     explicit DesktopGaps(Environment environment);
 
@@ -56,7 +55,7 @@ public:
     [[nodiscard]] bool commandCopied() const { return m_commandCopied; }
     Q_INVOKABLE void copyCommand();
     [[nodiscard]] QString trayAdvice() const;
-    /// What stands in for the pause that an absence would bring.
+    /// What replaces the pause by absence.
     [[nodiscard]] QString idleAdvice() const;
     [[nodiscard]] QString autoModeAdvice() const;
     [[nodiscard]] QString autoModeRemedy() const;
@@ -72,7 +71,7 @@ Q_SIGNALS:
     void autoModeChanged();
 
 private:
-    /// What the help that the desktop has for auto mode would do, or why it does not.
+    /// What enabling the desktop's help would do for auto mode, or why it did not work.
     [[nodiscard]] QString frontmostHelp() const;
 
     const Environment m_env;

@@ -1,4 +1,4 @@
-// Erases everything, once the person has said so twice.
+// The erase button with its confirmation.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -14,7 +14,7 @@ FocusScope {
 
     implicitHeight: column.y + column.height + DarkUI.space14
 
-    // The focus goes on to what takes the place of the button that had it, with its ring.
+    // Moves the focus with its ring to the button that replaces the focused one.
     function give(button: KitControl, byKeyboard: bool): void {
         if (byKeyboard)
             button.focusByKeyboard();

@@ -1,4 +1,4 @@
-// When a session pauses, what a day shall hold, and what runs at both ends of a session.
+// The settings of pause, daily goal and shortcut programs.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -28,7 +28,7 @@ SettingsSection {
             checked: section.model.focusLinked
             onToggled: checked => section.model.focusLinked = checked
 
-            // Without a shortcut in the list the chosen ones can still be taken back.
+            // Without a shortcut in the list the chosen ones can still be cleared.
             Column {
                 width: parent.width
                 visible: section.model.focusLinked

@@ -1,4 +1,4 @@
-// The program on this desktop, how it tells time, and the person's data.
+// The settings of the desktop integration, duration style and data.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// How to start and stop sessions by a key of one's own.
+// Advice on binding an own key to start and stop sessions.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

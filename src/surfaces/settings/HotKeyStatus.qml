@@ -1,4 +1,4 @@
-// Whether the shortcut works.
+// The state of the shortcut.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// A row of the settings that shows one preference and changes it.
+// The model of a settings row for one preference.
 #pragma once
 
 #include "platform/Preference.h"
@@ -15,36 +15,36 @@ namespace vantle {
 
 class DesktopGaps;
 
-/// Reads and writes the preference itself, so it shows what other windows store, too. Main thread.
+/// Reads and writes the preference, and follows changes by other windows. Main thread.
 class PreferenceRowModel final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by the settings.")
     Q_PROPERTY(Kind kind READ kind CONSTANT FINAL)
     Q_PROPERTY(QString title READ title NOTIFY changed FINAL)
-    /// What the preference does, or why it does nothing on this desktop.
+    /// What the preference does, or why it has no effect on this desktop.
     Q_PROPERTY(QString caption READ caption NOTIFY changed FINAL)
     /// A second paragraph of the caption; empty for none.
     Q_PROPERTY(QString note READ note CONSTANT FINAL)
     /// What this desktop lacks for it; empty for nothing.
     Q_PROPERTY(QString gap READ gap NOTIFY changed FINAL)
-    /// What a press does about the gap; empty where nothing can be done.
+    /// The button against the gap; empty where nothing can be done.
     Q_PROPERTY(QString remedy READ remedy NOTIFY changed FINAL)
 
-    /// Of a switch.
+    /// For a switch.
     Q_PROPERTY(bool on READ isOn WRITE setOn NOTIFY changed FINAL)
 
-    /// Of a slider and a stepper, in the unit of the row. A value that was stored by other means
-    /// may lie outside of the range.
+    /// For a slider and a stepper, in the row's unit. A value stored by other means may be out of
+    /// range.
     Q_PROPERTY(double value READ value WRITE setValue NOTIFY changed FINAL)
     Q_PROPERTY(double least READ least CONSTANT FINAL)
     Q_PROPERTY(double most READ most CONSTANT FINAL)
     Q_PROPERTY(double stepSize READ stepSize CONSTANT FINAL)
     Q_PROPERTY(bool isLowest READ isLowest NOTIFY changed FINAL)
     Q_PROPERTY(bool isHighest READ isHighest NOTIFY changed FINAL)
-    /// The value in words, beside a stepper.
+    /// The value as text, beside a stepper.
     Q_PROPERTY(QString valueText READ valueText NOTIFY changed FINAL)
-    /// The names of a stepper's two chips.
+    /// The names of a stepper's two buttons.
     Q_PROPERTY(QString lessName READ lessName CONSTANT FINAL)
     Q_PROPERTY(QString moreName READ moreName CONSTANT FINAL)
 
@@ -54,31 +54,31 @@ public:
     enum Section { Focus, Ceremony, AutoMode };
     Q_ENUM(Section)
 
-    /// A switch for a preference.
+    /// A switch.
     struct OnOff {
         Preference<bool> preference;
-        bool isStoredInverted = false; ///< on is stored as false
+        bool isStoredInverted = false; ///< stores false for on
     };
-    /// What can be chosen of a number.
+    /// The range of a number.
     struct Range {
         Preference<double> preference;
-        double storedPerUnit; ///< what is stored for 1 in the row
+        double storedPerUnit; ///< the stored value per row unit
         double least;
         double most;
         double step;
         QString (*text)(double value, DurationStyle style) = nullptr;
-        const char* lessName = ""; ///< source texts, like those of an entry
+        const char* lessName = ""; ///< source texts, as in Entry
         const char* moreName = "";
     };
-    /// A row of the table, with the sources of its texts. In title and caption "%n" is the value as
-    /// a whole number of at least 1.
+    /// A row of the table, with source texts. "%n" in title and caption is the value as a whole
+    /// number of at least 1.
     struct Entry {
         Section section;
         Kind kind;
         std::variant<OnOff, Range> setting;
         const char* title;
         const char* caption;
-        const char* captionOfOne = nullptr; ///< the caption where the value is 1, if that differs
+        const char* captionOfOne = nullptr; ///< the caption for the value 1, if it differs
         const char* note = "";
         QString (DesktopGaps::*gap)() const = nullptr;
         bool gapReplacesCaption = false;
@@ -103,9 +103,9 @@ public:
     void setOn(bool on);
 
     [[nodiscard]] double value() const;
-    /// Stores the nearest value that can be chosen.
+    /// Stores the nearest value in range.
     void setValue(double value);
-    /// So many steps more. A value outside of the range comes back into it.
+    /// Moves by `steps`, and returns an out-of-range value into the range.
     Q_INVOKABLE void step(int steps);
     [[nodiscard]] double least() const { return range() ? range()->least : 0; }
     [[nodiscard]] double most() const { return range() ? range()->most : 0; }
@@ -131,7 +131,7 @@ private:
     DesktopGaps& m_gaps;
 };
 
-/// The rows of the settings that show one preference each, from the top.
+/// The settings rows of single preferences, top to bottom.
 [[nodiscard]] const QList<PreferenceRowModel::Entry>& settingsTable();
 
 } // namespace vantle

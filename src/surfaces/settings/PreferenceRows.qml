@@ -1,4 +1,4 @@
-// Rows that show one preference each, with a view for each kind of preference.
+// The rows of single preferences, with a view per kind.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Settings

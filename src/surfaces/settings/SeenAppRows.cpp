@@ -34,7 +34,7 @@ void SeenAppRows::removeAllBut(const std::vector<Row>& rows) {
     }
 }
 
-/// Everything above the place is as it shall be.
+/// The rows above `place` are already final.
 void SeenAppRows::bringTo(int place, const Row& row) {
     const auto goal = m_rows.begin() + place;
     const auto found = std::ranges::find(goal, m_rows.end(), row.bundleId, &Row::bundleId);

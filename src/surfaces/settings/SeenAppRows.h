@@ -1,4 +1,4 @@
-// The applications that auto mode has seen, as the settings list them.
+// The list model of applications that auto mode has seen.
 #pragma once
 
 #include "sensing/AutoRulesState.h"
@@ -11,7 +11,7 @@
 
 namespace vantle {
 
-/// Rows that stay keep their view when others come, go or change places. Main thread.
+/// Rows keep their view when others change. Main thread.
 class SeenAppRows : public QAbstractListModel {
     Q_OBJECT
     QML_ANONYMOUS
@@ -20,20 +20,20 @@ public:
     enum Role {
         BundleIdRole = Qt::UserRole,
         NameRole,
-        IsAutomaticRole, ///< nobody chose the skill; it was guessed
-        ChoiceRole,      ///< its place among the choices that the menu offers
+        IsAutomaticRole, ///< guessed rather than chosen by the user
+        ChoiceRole,      ///< index among the menu's choices
         IsSkillRole,     ///< the choice is a skill
         ColorRole,       ///< of the skill
-        MenuLabelRole,   ///< read out for the menu
-        ForgetLabelRole, ///< read out for the button that forgets the application
+        MenuLabelRole,   ///< for screen readers, on the menu
+        ForgetLabelRole, ///< for screen readers, on the forget button
     };
 
-    /// One application with what is known about it.
+    /// An application and its rule.
     struct Row {
         QString bundleId;
         QString name;
         int choice = 0;
-        std::optional<std::uint32_t> hexRGB; ///< of the skill; none when it has no skill
+        std::optional<std::uint32_t> hexRGB; ///< of the skill; empty without one
         bool isAutomatic = false;
         bool hasChoice = false;
 

@@ -1,4 +1,4 @@
-// The applications of auto mode in the settings.
+// The applications part of the settings model.
 #include "app/AppModel.h"
 #include "base/Words.h"
 #include "sensing/AutoRules.h"
@@ -10,7 +10,7 @@ namespace vantle {
 
 namespace {
 
-/// What stands after the skills in the menu of an application.
+/// The menu entries after the skills.
 enum AfterSkills { Ignore, NotSet };
 
 } // namespace
@@ -38,7 +38,7 @@ void SettingsView::refreshApps() {
     std::vector<SeenAppRows::Row> rows;
     for (const SeenApp& app : m_env.rules.seenAppsByRecency())
         rows.push_back(rowOf(app));
-    // The choices before the rows, whose places among them they state.
+    // Before the rows, which refer to the choices by index.
     Q_EMIT appsChanged();
     m_apps.setRows(rows);
     Q_EMIT appsChanged();
@@ -75,7 +75,7 @@ void SettingsView::chooseSkill(const QString& bundleId, int choice) {
         m_env.rules.setRule(bundleId, skills[static_cast<std::size_t>(choice)].id);
 }
 
-// By value: the id may stand in the row that this takes away.
+// By value: the id may be in the row that this removes.
 void SettingsView::forgetApp(QString bundleId) { m_env.rules.forgetApp(bundleId); }
 
 } // namespace vantle

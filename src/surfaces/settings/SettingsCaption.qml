@@ -1,5 +1,5 @@
-// The small explanatory text under a row. Screen readers are told it as the description of the
-// row's title and control: as a text of its own it would be read out whenever the window opens.
+// The caption below a row. Screen readers get it as the description of title and control: as a text
+// it would be read whenever the window opens.
 import QtQuick
 import Vantle.Kit
 

@@ -1,4 +1,4 @@
-// A group of rows with a hairline between each two.
+// A group of rows separated by hairlines.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// Export and erase in the settings.
+// The export and erase part of the settings model.
 #include "app/AppModel.h"
 #include "base/SerialQueue.h"
 #include "base/Words.h"
@@ -36,7 +36,7 @@ void SettingsView::confirmErase() {
     const auto failure = m_env.eraseAllData();
     m_eraseSucceeded = !failure;
     m_eraseStatus = failure.value_or(Words::tr("Erased all local Vantle data."));
-    // What was exported is gone with the rest.
+    // The exported data is erased too.
     m_exportFailed = false;
     m_exportFeedback.reset();
     readState();

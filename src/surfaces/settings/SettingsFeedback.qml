@@ -1,4 +1,4 @@
-// What came of an action, where it was asked for.
+// The result of an action, below its button.
 import QtQuick
 import Vantle.Kit
 

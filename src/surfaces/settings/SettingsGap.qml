@@ -1,4 +1,4 @@
-// What this desktop lacks, below what a row promises.
+// What this desktop lacks for the row above.
 import QtQuick
 import Vantle.Kit
 
@@ -6,5 +6,5 @@ SettingsCaption {
     visible: text !== ""
     topPadding: role.leading + DarkUI.space6
     color: DarkUI.textSecondary
-    Accessible.ignored: text === "" // it is rare, and news
+    Accessible.ignored: text === "" // visible to readers, since it is rare and important
 }

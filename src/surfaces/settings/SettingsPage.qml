@@ -1,4 +1,4 @@
-// The settings window: every preference, in sections below each other.
+// The settings window: all preferences in sections.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -26,15 +26,15 @@ FocusScope {
         id: scroll
         anchors.fill: parent
         focus: true
-        faded: false // the rows go under the title strip
-        // The question before an erase is seen as a whole.
+        faded: false // rows scroll under the title strip
+        // Scrolls the whole erase confirmation into view.
         onContentHeightChanged: if (page.model.confirmingErase) scrollTo(contentHeight)
 
         Column {
             id: content
             x: page.margin
             width: page.width - 2 * page.margin
-            topPadding: -DarkUI.space16 // the first heading has less above it
+            topPadding: -DarkUI.space16 // less space above the first heading
             bottomPadding: DarkUI.space28 + DarkUI.space4
 
             FocusSection {

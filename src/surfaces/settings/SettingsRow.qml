@@ -1,4 +1,4 @@
-// A row of a card: its title with its control on one line, and below what it does.
+// A settings row: title and control on one line, caption below.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,10 +8,10 @@ Item {
 
     property string title
     property string caption
-    property bool first: false // no hairline above
+    property bool first: false // without a hairline above
     readonly property real inner: width - 2 * DarkUI.space16
     readonly property real captionGap: 5
-    property alias control: controls.data // at the right end of the title's line
+    property alias control: controls.data // at the right end of the title line
     default property alias more: extra.data // below the caption
 
     implicitHeight: content.y + content.height + DarkUI.space14

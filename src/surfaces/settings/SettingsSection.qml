@@ -15,7 +15,7 @@ Column {
         role: DarkUI.sectionLabel
         x: DarkUI.space4
         topPadding: role.leading + section.aboveTitle
-        bottomPadding: -role.leading - DarkUI.space2 // 10 with the spacing
+        bottomPadding: -role.leading - DarkUI.space2 // 10 px with the spacing
         text: section.title
     }
 }

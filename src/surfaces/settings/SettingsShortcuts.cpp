@@ -1,4 +1,4 @@
-// The person's own shortcuts in the settings.
+// The shortcuts part of the settings model.
 #include "base/Words.h"
 #include "sensing/FocusLink.h"
 #include "surfaces/settings/SettingsView.h"
@@ -18,7 +18,7 @@ void SettingsView::setFocusLinked(bool linked) {
 void SettingsView::listShortcuts() {
     const int listing = ++m_listings;
     m_env.focusLink.listShortcuts([view = QPointer(this), listing](const QStringList& names) {
-        if (!view || listing != view->m_listings) return; // a later list is under way
+        if (!view || listing != view->m_listings) return; // a later request is pending
         view->m_focusShortcutNames = names;
         Q_EMIT view->shortcutsChanged();
     });
@@ -28,8 +28,8 @@ bool SettingsView::hasNoShortcuts() const {
     return m_focusShortcutNames && m_focusShortcutNames->isEmpty();
 }
 
-/// A shortcut that is no longer there is offered as long as it is the chosen one: it would still be
-/// asked for at the next session.
+/// A deleted shortcut stays in the menu while it is chosen, since the next session would still try
+/// it.
 QList<QString> SettingsView::choices(const QString& chosen) const {
     QList<QString> all{Words::tr("Choose a Shortcut")};
     all += m_focusShortcutNames.value_or(QStringList());

@@ -1,4 +1,4 @@
-// The table of the settings: what is on the page, in which words, and what it stores.
+// The settings table: rows, texts, preferences.
 #include "base/Words.h"
 #include "surfaces/settings/DesktopGaps.h"
 #include "surfaces/settings/PreferenceRowModel.h"

@@ -1,4 +1,4 @@
-// The words of the settings, apart from those of the table.
+// The texts of the settings outside the table.
 #include "app/AppModel.h"
 #include "base/Words.h"
 #include "sensing/HotKey.h"
@@ -54,8 +54,8 @@ QString SettingsView::caption(Row row) {
                          "Everything this app knows lives on this Mac, so this removes all of it.");
     case StartShortcutRow:
     case StopShortcutRow:
-    case TrayRow:    // says what is missing
-    case WelcomeRow: // has one for each state
+    case TrayRow:    // has a text for what is missing
+    case WelcomeRow: // has a text per state
         return {};
     }
     return {};

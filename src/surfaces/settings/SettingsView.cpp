@@ -65,7 +65,7 @@ QList<QObject*> SettingsView::rows(PreferenceRowModel::Section section) const {
 
 void SettingsView::setLaunchAtLogin(bool on) {
     (on ? m_env.autostart.registerItem() : m_env.autostart.unregisterItem()).ignore();
-    // Whether it worked shows by where the switch stands.
+    // The switch shows the actual state, and thus whether it worked.
     m_launchAtLogin = m_env.autostart.isRegistered();
     Q_EMIT switched();
 }

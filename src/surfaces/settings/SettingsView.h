@@ -1,4 +1,4 @@
-// The settings window: every preference, each with what it does and what went wrong with it.
+// The model of the settings window.
 #pragma once
 
 #include "base/Result.h"
@@ -30,9 +30,8 @@ class Preferences;
 class SerialQueue;
 class TrayItem;
 
-/// What the window shows and does. All state is read when it is made, and again after an erase;
-/// each change is stored at once. A failure is told in the row where it happened, and nowhere else.
-/// Main thread.
+/// Reads all state on construction and after an erase; stores each change immediately. A failure is
+/// shown in its own row only. Main thread.
 class SettingsView final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -40,9 +39,9 @@ class SettingsView final : public QObject {
     Q_PROPERTY(bool focusLinked READ focusLinked WRITE setFocusLinked NOTIFY switched FINAL)
     Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY switched FINAL)
 
-    /// The tool has answered that there are none.
+    /// The tool reported no shortcuts.
     Q_PROPERTY(bool hasNoShortcuts READ hasNoShortcuts NOTIFY shortcutsChanged FINAL)
-    /// What the two menus offer, the empty choice first, and what is chosen.
+    /// The entries of the two menus, the empty choice first, and the current choice.
     Q_PROPERTY(QList<QString> startChoices READ startChoices NOTIFY shortcutsChanged FINAL)
     Q_PROPERTY(int startChoice READ startChoice NOTIFY shortcutsChanged FINAL)
     Q_PROPERTY(QList<QString> stopChoices READ stopChoices NOTIFY shortcutsChanged FINAL)
@@ -52,17 +51,17 @@ class SettingsView final : public QObject {
 
     Q_PROPERTY(vantle::SeenAppRows* apps READ apps CONSTANT FINAL)
     Q_PROPERTY(QString appsNote READ appsNote NOTIFY appsChanged FINAL)
-    /// What the menu of each application offers: the skills, "Ignore" and "Not set".
+    /// The menu of each application: the skills, "Ignore", "Not set".
     Q_PROPERTY(QList<QString> appChoices READ appChoices NOTIFY appsChanged FINAL)
-    /// Why the choices could not be saved; empty otherwise.
+    /// Why the rules could not be saved; empty otherwise.
     Q_PROPERTY(QString appsFailure READ appsFailure NOTIFY appsFailureChanged FINAL)
 
     /// What this desktop lacks.
     Q_PROPERTY(vantle::DesktopGaps* gaps READ gaps CONSTANT FINAL)
-    /// It works, and over every application.
+    /// Whether the shortcut works in every application.
     Q_PROPERTY(bool isHotKeyActive READ isHotKeyActive NOTIFY hotKeyChanged FINAL)
     Q_PROPERTY(QString hotKeyText READ hotKeyText NOTIFY hotKeyChanged FINAL)
-    /// Why the shortcut could not be taken; empty otherwise.
+    /// Why the shortcut could not be registered; empty otherwise.
     Q_PROPERTY(QString hotKeyFailure READ hotKeyFailure NOTIFY hotKeyChanged FINAL)
 
     Q_PROPERTY(QList<QString> durationChoices READ durationChoices CONSTANT FINAL)
@@ -70,18 +69,18 @@ class SettingsView final : public QObject {
         int durationChoice READ durationChoice WRITE chooseDuration NOTIFY durationChanged FINAL)
     Q_PROPERTY(QString welcomeCaption READ welcomeCaption NOTIFY welcomeReplayArmedChanged FINAL)
 
-    /// What came of the export; empty before one.
+    /// The result of the export; empty before one.
     Q_PROPERTY(QString exportFeedback READ exportFeedback NOTIFY exportChanged FINAL)
     Q_PROPERTY(bool exportFailed READ exportFailed NOTIFY exportChanged FINAL)
     Q_PROPERTY(bool confirmingErase READ confirmingErase NOTIFY eraseChanged FINAL)
     Q_PROPERTY(QString eraseQuestion READ eraseQuestion CONSTANT FINAL)
-    /// What came of the erase; empty before one.
+    /// The result of the erase; empty before one.
     Q_PROPERTY(QString eraseStatus READ eraseStatus NOTIFY eraseChanged FINAL)
     Q_PROPERTY(bool eraseSucceeded READ eraseSucceeded NOTIFY eraseChanged FINAL)
     Q_PROPERTY(QString versionLine READ versionLine CONSTANT FINAL)
 
 public:
-    /// The rows that are not in the table, as far as their words never change.
+    /// The rows outside the table with constant texts.
     enum Row {
         FocusLinkRow,
         StartShortcutRow,
@@ -96,10 +95,10 @@ public:
     };
     Q_ENUM(Row)
 
-    /// What the window works with. All of it must outlive the view.
+    /// The services of the window. All of them must outlive the model.
     struct Environment {
         AppModel& model;
-        AutoRules& rules; ///< of auto mode
+        AutoRules& rules; ///< auto mode's
         FocusLink& focusLink;
         Autostart& autostart;
         Preferences& preferences;
@@ -107,13 +106,13 @@ public:
         const AppPaths& paths;
         SerialQueue& ioQueue;
         std::function<void(const QString& path)> reveal; ///< shows a file in the file manager
-        std::function<Result<>()> openShortcuts;         ///< opens the folder of shortcuts
+        std::function<Result<>()> openShortcuts;         ///< opens the shortcuts folder
         const TrayItem& tray;
         const IdleSource& idleSource;
         FrontmostApp& frontmostApp;
         const OverlayStage& overlayStage;
-        std::function<void(const QString& text)> copy; ///< puts it into the clipboard
-        /// Erases everything; empty on full success, else what the person is told.
+        std::function<void(const QString& text)> copy; ///< copies to the clipboard
+        /// Erases everything. Returns the text for the user on a failure; empty on full success.
         std::function<std::optional<QString>()> eraseAllData;
     };
 
@@ -123,14 +122,14 @@ public:
     /// "Vantle 1.0 (1)".
     [[nodiscard]] static QString versionLine();
 
-    // The words of a row: in front of its control, below it, and on its button. Empty for none.
+    // The texts of a row: before its control, below it, on its button. Empty for none.
     Q_INVOKABLE static QString title(Row row);
     Q_INVOKABLE static QString caption(Row row);
     Q_INVOKABLE static QString action(Row row);
-    /// What the control of a row does, for a pointer that rests on it.
+    /// The tooltip of a row's control.
     Q_INVOKABLE static QString help(Row row);
 
-    /// The rows of the table in a section, from the top.
+    /// The table's rows in a section, top to bottom.
     Q_INVOKABLE [[nodiscard]] QList<QObject*> rows(PreferenceRowModel::Section section) const;
 
     [[nodiscard]] bool focusLinked() const { return m_focusLinked; }
@@ -160,7 +159,7 @@ public:
     [[nodiscard]] QString hotKeyText() const;
     [[nodiscard]] QString hotKeyFailure() const;
 
-    /// Each style with an example of it.
+    /// Each style with an example.
     [[nodiscard]] QList<QString> durationChoices() const;
     [[nodiscard]] int durationChoice() const;
     void chooseDuration(int choice);
@@ -171,7 +170,7 @@ public:
 
     [[nodiscard]] QString exportFeedback() const { return m_exportFeedback.value_or(QString()); }
     [[nodiscard]] bool exportFailed() const { return m_exportFailed; }
-    /// Shows the log in the file manager; there is one afterwards, if an empty one.
+    /// Shows the log in the file manager; creates an empty one if needed.
     Q_INVOKABLE void exportData();
 
     [[nodiscard]] bool confirmingErase() const { return m_confirmingErase; }
@@ -180,7 +179,7 @@ public:
     [[nodiscard]] bool eraseSucceeded() const { return m_eraseSucceeded; }
     Q_INVOKABLE void askToErase() { setConfirmingErase(true); }
     Q_INVOKABLE void cancelErase() { setConfirmingErase(false); }
-    /// Erases everything, once it was asked for.
+    /// Erases everything after the confirmation.
     Q_INVOKABLE void confirmErase();
 
 Q_SIGNALS:
@@ -213,8 +212,8 @@ private:
     QList<PreferenceRowModel*> m_rows; ///< children of this
     bool m_welcomeReplayArmed = false;
     bool m_focusLinked = false;
-    std::optional<QStringList> m_focusShortcutNames; ///< empty until the tool has answered
-    int m_listings = 0;                              ///< how often it was asked
+    std::optional<QStringList> m_focusShortcutNames; ///< empty until the tool replied
+    int m_listings = 0;                              ///< number of requests so far
     QString m_focusStartShortcut;
     QString m_focusStopShortcut;
     QString m_shortcutsFailure;

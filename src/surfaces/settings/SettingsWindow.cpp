@@ -13,8 +13,8 @@ namespace vantle {
 
 namespace {
 
-/// What is left is the program of a new user, whose sessions are practice until the welcome is
-/// done. So it comes up again, once the settings have said what became of the erase.
+/// After an erase the user is new: sessions are practice until the welcome is done. The welcome
+/// reopens once the settings have shown the result of the erase.
 std::optional<QString> eraseAndStartOver(AppModel& model, WindowRouter& router) {
     auto failure = model.eraseEverything();
     if (model.needsWelcome())
@@ -23,7 +23,7 @@ std::optional<QString> eraseAndStartOver(AppModel& model, WindowRouter& router) 
     return failure;
 }
 
-/// Opens the folder of the user's shortcuts; makes it, private, if it is missing.
+/// Opens the shortcuts folder; creates it with private permissions if missing.
 Result<> openShortcuts(const Platform& platform) {
     constexpr int kPrivateDirectory = 0700;
     const QString folder = platform.folders.config + QStringLiteral("/Vantle/shortcuts");
@@ -58,7 +58,7 @@ std::unique_ptr<QObject> makeModel(const WindowParts& parts) {
 } // namespace
 
 WindowRules settingsWindowRules() {
-    // Its rows scroll under their own title, so less height is no loss.
+    // Its rows scroll under the title strip, so a lower window loses nothing.
     return {.title = Words::tr("Settings"),
             .showsTitle = true,
             .contentSize = {480, 620},

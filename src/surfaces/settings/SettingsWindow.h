@@ -1,4 +1,6 @@
-// The settings as a window.
+// The specification of the settings window.
+//
+// Main thread.
 #pragma once
 
 #include "surfaces/window/WindowSpec.h"

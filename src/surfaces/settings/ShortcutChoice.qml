@@ -1,4 +1,4 @@
-// Which shortcut runs at one end of a session.
+// The choice of the shortcut for one end of a session.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -19,7 +19,7 @@ Item {
         text: line.title
         role: DarkUI.body
         color: DarkUI.textSecondary
-        Accessible.ignored: true // the menu says it
+        Accessible.ignored: true // the menu has the label
     }
 
     ChoiceMenu {

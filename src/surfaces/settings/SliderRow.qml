@@ -1,4 +1,4 @@
-// A preference that is a number, with a slider over its range. The title tells the number.
+// A number with a slider; the title includes the value.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,7 +8,7 @@ Item {
     id: row
 
     required property PreferenceRowModel preference
-    property bool first: false // no hairline above
+    property bool first: false // without a hairline above
 
     implicitHeight: content.y + content.height + DarkUI.space14
 
@@ -47,7 +47,7 @@ Item {
                 stepSize: row.preference.stepSize
                 value: row.preference.value
                 valueText: row.preference.caption
-                // Of its value a reader knows the bare number alone.
+                // Screen readers know only the bare number of its value.
                 onMoved: value => {
                     row.preference.value = value;
                     announcer.say(row.preference.title);

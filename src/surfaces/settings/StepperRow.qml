@@ -1,4 +1,4 @@
-// A preference that is a number, with a step down and one up.
+// A number with buttons for a step down and up.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -27,7 +27,7 @@ ToggleRow {
     }
 
     Column {
-        // Until the focus has moved on the button stays, and says what the press did.
+        // Stays visible until the focus has moved on, and shows what the press did.
         visible: row.preference.remedy !== "" || remedy.activeFocus
         topPadding: DarkUI.space8
 

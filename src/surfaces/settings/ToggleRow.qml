@@ -1,4 +1,4 @@
-// A row with a switch.
+// for screen readers, after the title
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// The way to a mode of one's own.
+// The button that adds a mode.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// Applications, and what their time counts as.
+// Sample applications with their modes.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

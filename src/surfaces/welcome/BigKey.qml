@@ -1,4 +1,4 @@
-// A key as it stands on a keyboard.
+// A large keycap.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -7,7 +7,7 @@ import Vantle.Welcome
 Item {
     id: key
 
-    required property string sign // or its name: "B", "Super"
+    required property string sign // sign or name: "B", "Super"
     property bool lit: false
 
     implicitWidth: WelcomeTokens.key

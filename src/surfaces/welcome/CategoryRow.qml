@@ -1,4 +1,4 @@
-// A mode's name and colour, for a new one or one that is renamed.
+// The editor of a mode's name and colour, for a new or a renamed one.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -31,7 +31,7 @@ FocusScope {
                 text: qsTr("Category")
                 role: DarkUI.captionMedium
                 color: DarkUI.textSecondary
-                Accessible.ignored: true // the field has it for its name
+                Accessible.ignored: true // the field has it as its name
             }
 
             SkillNameField {

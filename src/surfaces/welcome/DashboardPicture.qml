@@ -1,4 +1,4 @@
-// The brick in the bar, and the hours that are a click away.
+// The brick in the bar and the hours window behind it.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -13,7 +13,7 @@ SampleFrame {
     implicitHeight: WelcomeTokens.stageHeight
     label: model.sampleLabel
 
-    // It calls a few times, and then stays lit.
+    // Pulses a few times, then stays lit.
     SequentialAnimation on brickGlow {
         running: !Motion.reduced
 

@@ -1,4 +1,4 @@
-// The program's own sign.
+// The program's icon.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Welcome

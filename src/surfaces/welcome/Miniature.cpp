@@ -22,7 +22,7 @@ QMarginsF Miniature::bleed() const {
 }
 
 void Miniature::updatePolish() {
-    // Here, before anything is drawn: the view's own drawing must not happen within that.
+    // Before drawing starts: the view's own drawing must not nest in it.
     m_picture = draw(window()->effectiveDevicePixelRatio());
     update();
 }
@@ -42,8 +42,8 @@ QImage Miniature::draw(double scale) {
     room.resize(size.toSize());
     setImplicitSize(view->width() * m_zoom, view->height() * m_zoom);
 
-    // Edges are drawn well at whole scales only. So it is drawn larger and made small. The scale is
-    // told by what is drawn on.
+    // Edges are sharp at whole scales only, so it is drawn larger and scaled down. The scale
+    // follows from the target.
     QImage ground(1, 1, QImage::Format_ARGB32_Premultiplied);
     auto target = QQuickRenderTarget::fromPaintDevice(&ground);
     target.setDevicePixelRatio(std::max(2.0, std::ceil(2 * m_zoom * scale)));

@@ -1,4 +1,4 @@
-// A view as a picture, larger or smaller than the real thing.
+// A static picture of a view, scaled.
 #pragma once
 
 #include "surfaces/kit/painters/BakedItem.h"
@@ -9,18 +9,18 @@
 
 namespace vantle {
 
-/// Draws the view once, out of sight, at the size that it is to have, and keeps the picture alone:
-/// letters and edges are as sharp as in the real thing, and nothing in it can be pressed or read
-/// out. Empty when the view is no good. Main thread, with the software renderer.
+/// Renders the view once, off screen, at the final size, and keeps only the picture: as sharp as
+/// the real view, without input or accessibility. Empty when the view is invalid. For the software
+/// renderer. Main thread.
 class Miniature : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
-    /// A view with `required property WelcomeSamples samples`, as large as it asks to be.
+    /// A view with `required property WelcomeSamples samples`, at its implicit size.
     Q_PROPERTY(QUrl source MEMBER m_source NOTIFY changed)
     Q_PROPERTY(vantle::WelcomeSamples* samples MEMBER m_samples NOTIFY changed)
-    /// Size of the picture against that of the view.
+    /// The scale of the picture relative to the view.
     Q_PROPERTY(double zoom MEMBER m_zoom NOTIFY changed)
-    /// Room for the view's shadow, px of the view.
+    /// Room for the view's shadow, in px of the view.
     Q_PROPERTY(double margin MEMBER m_margin NOTIFY changed)
 
 public:

@@ -1,4 +1,4 @@
-// One mode with what can be done to it.
+// A mode with buttons to rename and remove it.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -13,7 +13,7 @@ Plate {
     signal renameWanted
     signal removeWanted
 
-    // Back from the field in which it was renamed.
+    // Takes the focus back from the rename field.
     function takeBack(): void {
         rename.focusByKeyboard();
     }

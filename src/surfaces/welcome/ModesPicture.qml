@@ -1,4 +1,4 @@
-// The modes, each with a way to rename it and to remove it, and the way to another one.
+// The modes, with buttons to rename, remove and add.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -12,9 +12,9 @@ FocusScope {
     readonly property bool low: editing || tags.count > 6
     readonly property real pitch: low ? WelcomeTokens.tagLowPitch : WelcomeTokens.tagPitch
 
-    property int renamed: -1 // the tag whose pencil opened the field; -1 for a new mode
+    property int renamed: -1 // the tag being renamed; -1 for a new mode
 
-    // What had the keyboard has gone: the nearest to it takes it.
+    // The focused item is gone: the nearest one takes the focus.
     function takeKeyboard(index: int): void {
         const tag = tags.itemAt(Math.min(index, tags.count - 1)) as ModeTag;
         if (tag)
@@ -65,7 +65,7 @@ FocusScope {
                         picture.model.beginRename(skillId);
                     }
                     onRemoveWanted: {
-                        const place = index; // it goes with the tag
+                        const place = index; // a copy, since it is destroyed with the tag
                         picture.model.removeCategory(skillId);
                         picture.takeKeyboard(place);
                     }

@@ -22,7 +22,7 @@ SampleFrame {
             height: implicitHeight
             source: "qrc:/qt/qml/Vantle/Welcome/SampleCapsule.qml"
             samples: picture.model.samples
-            // Many long names make it wide.
+            // Long names widen it.
             zoom: Math.min(WelcomeTokens.notchZoom, (parent.width - 2 * DarkUI.space16)
                                                     / picture.model.samples.capsule.openFrame.width)
             margin: DarkUI.shadowCapsule.blur + DarkUI.shadowCapsule.offset

@@ -1,4 +1,4 @@
-// What a click on the brick opens.
+// The panel that a click on the brick opens.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// What the hours go into, in the person's own words.
+// The field for the user's project.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -17,7 +17,7 @@ FocusScope {
         text: qsTr("Project")
         role: DarkUI.captionMedium
         color: DarkUI.textSecondary
-        Accessible.ignored: true // the field has it for its name
+        Accessible.ignored: true // the field has it as its name
     }
 
     DarkTextField {

@@ -1,4 +1,4 @@
-// A wall that waits for its first brick to be followed by others.
+// The empty wall with its first brick.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,17 +8,17 @@ Item {
     id: picture
 
     required property WelcomeView model
-    // The courses from the bottom up: where the first brick begins, then the lengths.
+    // Courses from the bottom up: offset of the first brick, then lengths.
     readonly property list<string> courses: [
         "-28 96 96 80 74 96 82", "-64 96 88 96 80 88 96 88", "-22 96 88 74 96 88 80",
         "-70 96 96 88 74 96 88 80", "-28 96 96 80 74 96 82", "-64 96 88 96 80 88 96 88",
         "-22 96 88 74 96 88 80"
     ]
-    readonly property real lowest: 172 // of the lowest course's upper edge
+    readonly property real lowest: 172 // upper edge of the lowest course
 
     implicitHeight: WelcomeTokens.pickStageHeight
 
-    // What the next brick begins at: after `count` bricks of a course.
+    // Returns where the next brick starts, after `count` bricks of a course.
     function begin(course: string, count: int): real {
         const numbers = course.split(" ").map(Number);
         return numbers.slice(1, count + 1).reduce((x, w) => x + w + WelcomeTokens.brickGap,

@@ -1,4 +1,4 @@
-// One application with the chip of its mode.
+// A sample application with the chip of its mode.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,7 +8,7 @@ Item {
     id: row
 
     required property sampleApp app
-    required property bool ruled // a line above it
+    required property bool ruled // with a line above
 
     implicitHeight: WelcomeTokens.appRow
 

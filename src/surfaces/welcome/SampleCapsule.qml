@@ -1,4 +1,4 @@
-// The capsule, open over a running session, with the pointer on another mode.
+// The open capsule in a running session, with the pointer on another mode.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Capsule

@@ -1,4 +1,4 @@
-// The upper part of the hours window, with made-up hours.
+// The upper part of the hours window, with sample hours.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Dashboard
@@ -14,7 +14,7 @@ DarkWindowGlass {
     readonly property real skillsWidth: 246
     readonly property real wallHeight: 90
     readonly property real cardHeight: 208
-    readonly property real slice: 0.3 // of the hour that is worked on
+    readonly property real slice: 0.3 // of the current hour
 
     shadowed: true
     width: WelcomeTokens.windowWidth

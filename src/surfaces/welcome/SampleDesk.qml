@@ -1,4 +1,4 @@
-// A desktop in a picture: its ground and the bar at its top.
+// A sample desktop: background and top bar.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,5 +1,4 @@
-// A picture made of real controls: it can be looked at, and that is all. For assistive tools it is
-// one picture.
+// A picture made of real controls, without input. For screen readers it is one picture.
 pragma ComponentBehavior: Bound
 import QtQuick
 
@@ -9,7 +8,7 @@ Item {
     default property alias content: inside.data
     property string label
 
-    // Controls in a picture are no controls. (Disabled they would look it.)
+    // Hides the controls from assistive tools. (Disabling them would change their look.)
     function quieten(item: Item): void {
         item.Accessible.ignored = true;
         item.activeFocusOnTab = false;

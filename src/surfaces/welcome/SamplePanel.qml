@@ -1,4 +1,4 @@
-// The panel at rest, with the modes of a new person.
+// The idle panel with the modes of a new user.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.CommandCenter

@@ -1,4 +1,4 @@
-// The light around something lit: rings, so that none of it lies under what need not be opaque.
+// The glow around a lit item, made of rings so that nothing lies under a translucent item.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// The steps: those behind, the present one, those to come.
+// The progress through the steps.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

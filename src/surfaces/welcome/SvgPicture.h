@@ -1,4 +1,4 @@
-// A picture in its own colours.
+// An SVG picture in its own colours.
 #pragma once
 
 #include "surfaces/kit/painters/BakedItem.h"
@@ -7,8 +7,8 @@
 
 namespace vantle {
 
-/// Draws an SVG file of the program's resources, fitted into the item. Nothing when there is no
-/// such file. Main thread.
+/// Draws an SVG file of the resources, scaled into the item; nothing when it is missing. Main
+/// thread.
 class SvgPicture : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT

@@ -1,4 +1,4 @@
-// Where one is in the welcome, and the way on.
+// The footer: progress and buttons.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

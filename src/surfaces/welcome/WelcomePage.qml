@@ -1,4 +1,4 @@
-// The welcome: a picture or something to do, what it is about, and the way on.
+// The welcome: picture or task, text, buttons.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -10,7 +10,7 @@ FocusScope {
     required property WelcomeView model
     readonly property real inner: width - 2 * WelcomeTokens.margin
 
-    // Where the keyboard belongs on a step.
+    // Focuses the main control of a step.
     function takeKeyboard(): void {
         if (page.model.step === 0)
             pick.input.forceActiveFocus(Qt.OtherFocusReason);

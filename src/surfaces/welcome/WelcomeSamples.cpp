@@ -17,7 +17,7 @@ namespace vantle {
 
 namespace {
 
-/// A figure, or a name, as it is shown.
+/// Converts a sample text.
 QString words(const char* utf8) { return QString::fromUtf8(utf8); }
 
 QString inHours(double hours) { return dashformat::inlineHours(hours, DurationStyle::Natural); }
@@ -25,7 +25,7 @@ QString inMinutes(std::int64_t minutes) {
     return dashformat::sessionDuration(minutes * 60, DurationStyle::Natural);
 }
 
-/// The skill that every first start has under the id; the first of them for an id that none has.
+/// Returns the seed with that id, or the first one.
 Skill seed(const char* id) {
     return Skill::seedDefinition(QLatin1String(id)).value_or(Skill::defaults().front());
 }
@@ -57,7 +57,7 @@ RecentLine line(const QString& date, const char* skill, int minutes) {
     return {date, colorOf(skill), seed(skill).name, inMinutes(minutes), false};
 }
 
-/// A letter an hour: the first of the mode's name.
+/// One letter per hour: the first of the mode's name.
 constexpr const char* kWall = "BFBBBBDDFMMCCCCCDDDDBBBBSSBMMBDBDSSSSSBBBSDDBD";
 
 const char* idOf(char letter) {
@@ -77,7 +77,7 @@ const char* idOf(char letter) {
     }
 }
 
-/// The screen that the capsule of the picture hangs from: one without a housing.
+/// The screen of the sample capsule, without a housing.
 ScreenShape sampleScreen() {
     return {.frame = QRectF(0, 0, 1440, 900), .available = QRectF(0, 28, 1440, 872)};
 }
@@ -126,7 +126,7 @@ RhythmPicture week() {
     return picture;
 }
 
-/// As the hours of a busy person follow each other.
+/// A plausible sequence of hours.
 QList<QColor> dots() {
     QList<QColor> colors;
     for (const char* id :
@@ -145,7 +145,7 @@ void WelcomeSamples::showModes(const std::vector<Skill>& skills) {
     if (skills == m_skills) return;
     m_skills = skills;
     if (!m_capsule) return;
-    m_capsule.release()->deleteLater(); // its view lets go of it after the signal
+    m_capsule.release()->deleteLater(); // its view drops the reference after the signal
     Q_EMIT capsuleChanged();
 }
 

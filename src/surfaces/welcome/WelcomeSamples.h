@@ -1,4 +1,4 @@
-// The made-up figures in the pictures of the welcome.
+// The sample data in the welcome's pictures.
 #pragma once
 
 #include "review/SharePoster.h"
@@ -20,7 +20,7 @@ class Preferences;
 class ReducedMotion;
 class Scheduler;
 
-/// One application and the mode that its time goes to.
+/// A sample application and its mode.
 struct SampleApp {
     Q_GADGET
     QML_VALUE_TYPE(sampleApp)
@@ -37,8 +37,8 @@ public:
     QColor color;
 };
 
-/// Nothing here comes from the person's log. The capsule alone shows their own modes, since the
-/// picture of it comes right after they chose them. Main thread.
+/// Nothing here is from the user's log. Only the capsule shows the user's modes, since its picture
+/// follows their choice. Main thread.
 class WelcomeSamples final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -51,7 +51,7 @@ class WelcomeSamples final : public QObject {
     Q_PROPERTY(QVariantList modes READ modes CONSTANT FINAL)   ///< a SampleApp without a name each
     Q_PROPERTY(vantle::SharePoster poster READ poster CONSTANT FINAL)
     Q_PROPERTY(vantle::NotchCapsule* capsule READ capsule NOTIFY capsuleChanged FINAL)
-    /// The chip that the pointer in the picture rests on; -1 for none.
+    /// The chip under the pointer in the picture; -1 for none.
     Q_PROPERTY(int hoveredChip READ hoveredChip NOTIFY capsuleChanged FINAL)
 
 public:
@@ -73,9 +73,9 @@ public:
     [[nodiscard]] static QVariantList totals();
     [[nodiscard]] static QVariantList recent();
     [[nodiscard]] static QVariantList modes();
-    /// A week that nobody worked.
+    /// A sample week.
     [[nodiscard]] static SharePoster poster();
-    /// Made when it is asked for: it measures its texts, which takes the fonts.
+    /// Created on first use, since it measures texts and needs the fonts.
     [[nodiscard]] NotchCapsule* capsule();
     [[nodiscard]] int hoveredChip() const;
 

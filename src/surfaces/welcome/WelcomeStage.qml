@@ -1,4 +1,4 @@
-// The upper part of the welcome: one picture fades into the next.
+// The upper part of the welcome, cross-fading between pictures.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,7 +8,7 @@ Plate {
     id: stage
 
     required property WelcomeView model
-    property int front: 0 // which of the two loaders has the present picture
+    property int front: 0 // index of the loader with the current picture
     readonly property list<string> pictures: [
         "PickPicture", "ModesPicture", "PressPicture", "StopPicture", "AppsPicture",
         "NotchPicture", "DashboardPicture", "PanelPicture", "WrappedPicture", "DonePicture"

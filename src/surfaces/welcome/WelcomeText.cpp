@@ -12,7 +12,7 @@ namespace {
 struct StepText {
     const char* title;
     const char* body;
-    const char* ofPractice = nullptr; ///< a sentence after the body where the session is practice
+    const char* ofPractice = nullptr; ///< a sentence added for a practice session
 };
 
 constexpr std::array<StepText, stepCount> kTexts = {{

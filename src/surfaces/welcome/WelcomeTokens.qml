@@ -1,4 +1,4 @@
-// Lengths and colours that are the welcome's own, in px, beside the tokens of the kit.
+// Lengths and colours of the welcome alone, in px, in addition to the kit's tokens.
 pragma Singleton
 import QtQuick
 import Vantle.Kit
@@ -6,7 +6,7 @@ import Vantle.Kit
 QtObject {
     readonly property real width: 560
     readonly property real height: 572
-    readonly property real margin: 44 // of the words
+    readonly property real margin: 44 // of the text
     readonly property real footBottom: 28
     readonly property real wordsTop: 30 // below the stage
 
@@ -18,7 +18,7 @@ QtObject {
     readonly property real panelStageHeight: 376
     readonly property real posterStageHeight: 352
 
-    readonly property real dot: 6 // of the row that shows the step
+    readonly property real dot: 6 // of the progress row
     readonly property real dotPitch: 13
     readonly property color dotPast: Qt.rgba(1, 1, 1, 0.38)
     readonly property color dotCurrent: DarkUI.textPrimary
@@ -27,7 +27,7 @@ QtObject {
     readonly property real brickHeight: 26
     readonly property real brickPitch: 32 // of the courses
     readonly property real brickGap: 6
-    readonly property real brickFaintest: 0.015 // opacity of white, at the top
+    readonly property real brickFaintest: 0.015 // opacity of white at the top
     readonly property real brickPlainest: 0.06 // at the bottom
     readonly property color brickShine: Qt.rgba(1, 1, 1, 0.20)
     readonly property real shineInset: 3
@@ -39,7 +39,7 @@ QtObject {
 
     readonly property real tagHeight: 46
     readonly property real tagPitch: 56
-    readonly property real tagLowHeight: 34 // where many tags, or the row below them, need room
+    readonly property real tagLowHeight: 34 // with many tags, or a row below them
     readonly property real tagLowPitch: 40
     readonly property real tagWidth: 211
     readonly property real tagColumn: 221
@@ -48,7 +48,7 @@ QtObject {
 
     readonly property real key: 92
     readonly property real keyGap: 16
-    readonly property real keyFront: 4 // the side of the key that one sees
+    readonly property real keyFront: 4 // height of the key's visible side
     readonly property color keySide: Qt.rgba(1, 1, 1, 0.03)
     readonly property color keyTop: Qt.rgba(1, 1, 1, 0.04)
     readonly property real litSide: 0.08 // opacities of the accent
@@ -61,7 +61,7 @@ QtObject {
     readonly property real clockDot: 13
     readonly property real wordSpace: 0.24 // em
 
-    readonly property color desk: "#3D4454" // a desktop in the pictures
+    readonly property color desk: "#3D4454" // the sample desktop
     readonly property color bar: "#14161C"
     readonly property real windowBar: 34
     readonly property real panelBar: 28
@@ -75,7 +75,7 @@ QtObject {
     readonly property real appRow: 41
     readonly property real appTile: 26
 
-    readonly property real notchZoom: 1.28 // of the pictures, against the real thing
+    readonly property real notchZoom: 1.28 // scale of the pictures
     readonly property real windowZoom: 0.66
     readonly property real panelZoom: 0.6
     readonly property real windowTop: 62

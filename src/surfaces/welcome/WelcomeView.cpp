@@ -23,9 +23,9 @@ using namespace welcometext;
 constexpr Seconds kOutOfTheWay{3.6};
 constexpr Seconds kTick{1.0};
 constexpr Seconds kTickTolerance{0.2};
-/// Fewer characters are a slip of the hand, not a name.
+/// A shorter name is probably a mistake.
 constexpr int kShortestName = 2;
-/// What the practice runs under, when it is there.
+/// The practice session's skill, if it exists.
 constexpr QLatin1String kPracticeSkill("building");
 
 bool isName(const QString& trimmed) { return text::characterCount(trimmed) >= kShortestName; }
@@ -45,7 +45,7 @@ WelcomeView::WelcomeView(Environment environment)
     , m_sessionOpen(tracker().state() != TrackerCore::State::Idle)
     , m_samples(std::make_unique<WelcomeSamples>(
           WelcomeSamples::Environment{m_env.scheduler, m_env.preferences, m_env.reducedMotion})) {
-    // A change of mode ends a session and starts another: what counts is how the turn ends.
+    // A change of mode ends one session and starts another: only the state after both counts.
     connect(&tracker(), &TrackerCore::stateChanged, this, [this] {
         m_env.scheduler.post([self = QPointer(this)] {
             if (self) self->followState();
@@ -106,7 +106,7 @@ void WelcomeView::pressPrimary() {
     case Press:
         if (isAtWork()) {
             m_isPractice = false;
-            goTo(Success); // there is no practice to be had
+            goTo(Success); // practice is impossible
         } else {
             m_env.model.startPractice();
         }
@@ -127,7 +127,7 @@ void WelcomeView::pressPrimary() {
         break;
     }
     goTo(m_step + 1);
-    // Before the welcome is done every session is practice, so one that runs already will do.
+    // Before the welcome is done every session is practice, so a running one counts.
     if (m_step == Press && m_sessionOpen && m_env.model.needsWelcome()) followSession();
 }
 
@@ -142,14 +142,14 @@ void WelcomeView::commitPick() {
     const auto& skills = m_env.model.skills();
     const bool isThere =
         std::ranges::any_of(skills, [](const Skill& skill) { return skill.id == kPracticeSkill; });
-    // An open session is real work, and stays under the mode that it has.
+    // An open session is real work and keeps its mode.
     if (isThere && !m_sessionOpen)
         m_env.model.selectSkill(kPracticeSkill, AppModel::SkillSelectionOrigin::Human);
 }
 
 void WelcomeView::finish() {
     if (std::exchange(m_finished, true)) return;
-    m_return.reset(); // a window that is closed stays closed
+    m_return.reset(); // a closed window stays closed
     m_env.model.markWelcomeDone();
     if (m_practiceRunning) m_env.model.discardPracticeSession();
     m_env.model.ensureIdleNotch();
@@ -161,7 +161,7 @@ void WelcomeView::finish() {
 void WelcomeView::followState() {
     const bool open = tracker().state() != TrackerCore::State::Idle;
     if (m_finished || std::exchange(m_sessionOpen, open) == open) return;
-    // A replay that was left open behind other windows does not come forward with every session.
+    // A replay left open behind other windows is not raised by each session.
     const bool concernsUs =
         m_env.model.needsWelcome() || m_env.model.isPractice() || m_env.isInFront();
     if (open && (m_step == Press || m_step == Stop) && concernsUs) {
@@ -194,7 +194,7 @@ void WelcomeView::stopCardClosed() {
     if (m_finished || !std::exchange(m_waitingForStopCard, false)) return;
     goTo(Success);
     Q_EMIT practiceChanged();
-    // Hours may lie between work and its card: the user is elsewhere by then.
+    // Hours may pass between work and its card, so only practice raises the window.
     if (m_isPractice) bringForward();
 }
 
@@ -214,7 +214,7 @@ void WelcomeView::refreshClock() {
         m_practiceSkillId = *id;
         Q_EMIT practiceChanged();
     }
-    if (tracker().state() == TrackerCore::State::Idle) return; // what it came to stays
+    if (tracker().state() == TrackerCore::State::Idle) return; // keeps showing the result
     const auto seconds = std::max<std::int64_t>(tracker().displayActiveSeconds(), 0);
     m_practiceWords =
         dashformat::sessionDuration(seconds, settings::durationStyle.read(m_env.preferences))

@@ -1,4 +1,4 @@
-// The welcome: ten steps through the program, and one practice session in the middle.
+// The model of the welcome: ten steps and a practice session.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -22,9 +22,8 @@ class NotificationCenter;
 class Preferences;
 class ReducedMotion;
 
-/// Where somebody is in the welcome, and what each step does. The step is nowhere stored: each
-/// opening starts with the first. What ends the flow for good is the preference that the
-/// application model sets in finish(). Main thread.
+/// The step is not stored: each opening starts with the first. finish() ends the welcome for good
+/// by a preference. Main thread.
 class WelcomeView final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -33,11 +32,11 @@ class WelcomeView final : public QObject {
     Q_PROPERTY(int stepCount READ stepCount CONSTANT FINAL)
     Q_PROPERTY(QString title READ title NOTIFY stepChanged FINAL)
     Q_PROPERTY(QString body READ body NOTIFY wordsChanged FINAL)
-    /// Title and words as one, for the button that leads on and for screen readers.
+    /// Title and body together, for the main button and screen readers.
     Q_PROPERTY(QString spoken READ spoken NOTIFY wordsChanged FINAL)
     Q_PROPERTY(QString sampleLine READ sampleLine NOTIFY stepChanged FINAL)
     Q_PROPERTY(QString sampleLabel READ sampleLabel NOTIFY stepChanged FINAL)
-    /// Why the shortcut does not work, on the step that asks for it; empty when it does.
+    /// Why the shortcut does not work, on the step that needs it; empty when it does.
     Q_PROPERTY(QString shortcutProblem READ shortcutProblem NOTIFY shortcutProblemChanged FINAL)
     Q_PROPERTY(QString primaryText READ primaryText NOTIFY wordsChanged FINAL)
     Q_PROPERTY(bool canPressPrimary READ canPressPrimary NOTIFY practiceChanged FINAL)
@@ -46,14 +45,14 @@ class WelcomeView final : public QObject {
     Q_PROPERTY(QString productName MEMBER m_productName NOTIFY productNameChanged FINAL)
 
     Q_PROPERTY(vantle::SkillListModel* modes READ modes CONSTANT FINAL)
-    /// The row that adds a mode or renames one.
+    /// The editor that adds or renames a mode.
     Q_PROPERTY(vantle::SkillEditor* category READ category CONSTANT FINAL)
     Q_PROPERTY(bool canAddCategory READ canAddCategory NOTIFY modesChanged FINAL)
-    /// What became of the last change to a mode; empty before the first.
+    /// The result of the last change to a mode; empty before the first.
     Q_PROPERTY(QString modesNote READ modesNote NOTIFY modesChanged FINAL)
 
-    /// The session of the steps Press and Stop: its skill, and its time in words, figures and units
-    /// in turn. It is practice, or in a replay work that began by another way than the button.
+    /// The session of the steps Press and Stop: its skill, and its time as figures and units in
+    /// turn. Practice, or during a replay work that was started without the button.
     Q_PROPERTY(QString practiceSkill READ practiceSkill NOTIFY practiceChanged FINAL)
     Q_PROPERTY(QColor practiceColor READ practiceColor NOTIFY practiceChanged FINAL)
     Q_PROPERTY(QStringList practiceWords READ practiceWords NOTIFY practiceTicked FINAL)
@@ -64,34 +63,35 @@ class WelcomeView final : public QObject {
     Q_PROPERTY(vantle::WelcomeSamples* samples READ samples CONSTANT FINAL)
 
 public:
-    /// What the welcome works with. All of it must outlive the view.
+    /// The services of the welcome. All of them must outlive the model.
     struct Environment {
         AppModel& model;
         NotificationCenter& notifications;
         const Preferences& preferences;
         const ReducedMotion& reducedMotion;
         Scheduler& scheduler;
-        std::function<void()> orderOut;     ///< takes the window from the screen, for a while
-        std::function<void()> bringForward; ///< shows it, in front and with the keyboard
+        std::function<void()> orderOut;     ///< hides the window for a while
+        std::function<void()> bringForward; ///< raises it with keyboard focus
         std::function<void()> openWrapped;
         std::function<void()> onClose;
-        std::function<bool()> isInFront = [] { return true; }; ///< the window has the keyboard
+        /// Whether the window has the keyboard.
+        std::function<bool()> isInFront = [] { return true; };
     };
 
     explicit WelcomeView(Environment environment);
     ~WelcomeView() override;
 
-    /// The main button of the step.
+    /// The step's main button.
     Q_INVOKABLE void pressPrimary();
-    /// The quiet one.
+    /// The secondary button.
     Q_INVOKABLE void pressQuiet();
-    /// Ends the flow for good and closes the window. Closing the window comes to the same.
+    /// Ends the welcome for good and closes the window, like closing the window does.
     Q_INVOKABLE void finish();
 
     Q_INVOKABLE void addCategory();
     Q_INVOKABLE void beginRename(const QString& skillId);
     Q_INVOKABLE void removeCategory(const QString& skillId);
-    /// Adds or renames, where the name is long enough; closes the row in any case.
+    /// Adds or renames if the name is long enough; closes the editor in any case.
     Q_INVOKABLE void commitCategory();
 
     [[nodiscard]] int step() const { return m_step; }
@@ -142,7 +142,7 @@ private:
     void refreshClock();
     [[nodiscard]] TrackerCore& tracker() const;
     [[nodiscard]] Skill practisedSkill() const;
-    /// Work is running that the button of the step Press must leave alone.
+    /// Whether work is running that the button of the step Press must not touch.
     [[nodiscard]] bool isAtWork() const;
 
     const Environment m_env;
@@ -152,14 +152,14 @@ private:
     SkillListModel m_modes;
     SkillEditor m_category;
     QString m_modesNote;
-    bool m_sessionOpen = false; ///< as the view last saw it
+    bool m_sessionOpen = false; ///< as last seen
     bool m_practiceRunning = false;
-    bool m_isPractice = true; ///< the session that was followed last
+    bool m_isPractice = true; ///< of the last session followed
     bool m_waitingForStopCard = false;
     QString m_practiceSkillId;
     QStringList m_practiceWords;
     std::unique_ptr<WelcomeSamples> m_samples;
-    TimerHandle m_return; ///< while the window is out of the ceremony's way
+    TimerHandle m_return; ///< runs while the window is hidden for the ceremony
     TimerHandle m_clock;
 };
 

@@ -1,4 +1,6 @@
-// The welcome as a window.
+// The specification of the welcome window.
+//
+// Main thread.
 #pragma once
 
 #include "surfaces/window/WindowSpec.h"

@@ -1,4 +1,4 @@
-// What a step says. The lines come in one after the other.
+// The texts of a step, which appear line by line.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// The poster of a made-up week.
+// The poster of a sample week.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,5 +1,5 @@
-// The dots that drift behind all pages. Nothing is computed or drawn while the window is not the
-// active one; with reduced motion they stand still.
+// The drifting dots behind all pages. Paused while the window is inactive; still with reduced
+// motion.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,7 +8,7 @@ import Vantle.Wrapped
 AmbientDots {
     id: field
 
-    readonly property int starStep: Math.ceil(second / 30) // ms; no more moments a second than that
+    readonly property int starStep: Math.ceil(second / 30) // ms; the frame rate limit
     readonly property real second: 1000 // ms
 
     Timer {

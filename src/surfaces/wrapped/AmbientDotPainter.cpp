@@ -76,7 +76,7 @@ std::optional<Star> star(double seconds, QSizeF field) {
     const auto since = wrappedmotion::shootingStar(seconds);
     if (!since) return std::nullopt;
     const double part = *since / wrappedmotion::shootingStarSeconds;
-    // Each comes from another place, in the upper half.
+    // Each star starts elsewhere in the upper half.
     const double slot = std::floor(seconds / kStarEvery);
     const QPointF start(field.width() * 0.55 * fraction(slot * 0.754877666),
                         field.height() * (0.08 + 0.34 * fraction(slot * 0.569840296)));

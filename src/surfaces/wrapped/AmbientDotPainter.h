@@ -1,6 +1,6 @@
-// What a dot behind the pages of a review looks like, and the star that crosses them.
+// The painter of the background dots and the shooting star.
 //
-// Pure drawing, any thread. Lengths are in px.
+// Pure drawing, any thread. Lengths in px.
 #pragma once
 
 #include "review/WrappedMotion.h"
@@ -13,21 +13,21 @@
 
 namespace vantle::ambientdot {
 
-/// From the dot's centre to where its halo ends.
+/// Returns the distance from the dot's centre to the edge of its halo.
 [[nodiscard]] double reach(const wrappedmotion::AmbientDot& dot);
 
-/// The dot at its brightest, with its centre in the image's; the image carries its scale.
+/// Returns the dot at its brightest, centred; the image has its scale as device pixel ratio.
 [[nodiscard]] QImage image(const wrappedmotion::AmbientDot& dot, double scale);
 
-/// A shooting star on its way: its head, and its light from 0 to 1.
+/// A shooting star: its head, and its brightness from 0 to 1.
 struct Star {
     QPointF head;
     double light = 0;
 };
-/// None while none crosses. `seconds` is the age of the field.
+/// Returns the visible star; empty when there is none. `seconds` is the age of the field.
 [[nodiscard]] std::optional<Star> star(double seconds, QSizeF field);
 
-/// The star with its tail; its head is in the lower right corner.
+/// Returns the star with its tail; the head is in the lower right corner.
 [[nodiscard]] QImage starImage(double scale);
 
 } // namespace vantle::ambientdot

@@ -25,9 +25,9 @@ const std::array<AmbientDot, wrappedmotion::ambientDots>& dots() {
     return made;
 }
 
-constexpr double kDarkest = 0.4; // of the brightest light
+constexpr double kDarkest = 0.4; // relative to the brightest
 
-/// An image of its own with an opacity of its own.
+/// An image with its own opacity.
 class LitImage : public QSGOpacityNode {
 public:
     LitImage(QQuickWindow& window, const QImage& image)
@@ -45,7 +45,7 @@ public:
     [[nodiscard]] QSizeF size() const { return m_size; }
 
 private:
-    QSGImageNode* m_image; // a child, which goes with this
+    QSGImageNode* m_image; // a child, deleted with this node
     QSizeF m_size;
 };
 

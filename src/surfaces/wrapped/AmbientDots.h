@@ -1,4 +1,4 @@
-// The dots that drift behind the pages of a review, and now and then a shooting star.
+// The drifting dots behind a review's pages.
 #pragma once
 
 #include "review/WrappedMotion.h"
@@ -9,16 +9,15 @@
 
 namespace vantle {
 
-/// Shows the field as it is at `seconds`, which somebody else moves on. A dot is drawn once; from
-/// one moment to the next only those change whose place or light does, by whole device pixels and
-/// in steps that eyes can't tell apart. So a field that hardly moves costs hardly anything, also
-/// where the processor draws. Main thread.
+/// Shows the field at `seconds`, which the owner advances. Each dot is painted once; an update
+/// touches only dots that move by a whole device pixel or change visibly in brightness, so a slow
+/// field costs little with the software renderer too. Main thread.
 class AmbientDots : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
     /// The age of the field.
     Q_PROPERTY(double seconds READ seconds WRITE setSeconds NOTIFY secondsChanged)
-    /// A star is crossing, which wants more moments a second than the dots.
+    /// Whether a star is visible, which needs more frames a second than the dots.
     Q_PROPERTY(bool hasStar READ hasStar NOTIFY secondsChanged)
 
 public:
@@ -28,7 +27,7 @@ public:
     void setSeconds(double seconds);
     [[nodiscard]] bool hasStar() const;
 
-    /// A dot on the screen: where the corner of its image stands, and its light.
+    /// A dot's position and brightness on the screen.
     struct Look {
         QPointF corner; ///< px, on a whole device pixel
         int light = 0;  ///< 0 to `lightSteps`

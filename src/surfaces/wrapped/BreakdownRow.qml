@@ -1,4 +1,4 @@
-// A skill beside the top one: its name, hours and share over a bar.
+// A skill below the top one: name, hours and share above a bar.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -11,7 +11,7 @@ namespace vantle {
 
 namespace {
 
-// The farthest dot, the way that it falls, and its own size, px.
+// Largest distance, fall and radius of a dot, px.
 constexpr double kReach = 68 + 54 + 12 + 4;
 
 } // namespace

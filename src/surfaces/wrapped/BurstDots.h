@@ -1,4 +1,4 @@
-// Dots that fly from a centre, once.
+// Dots that fly from a centre once.
 #pragma once
 
 #include "surfaces/kit/painters/BakedItem.h"
@@ -8,13 +8,13 @@
 
 namespace vantle {
 
-/// Shows them at `progress` around the item's centre, in its colours by turns. They fly beyond the
-/// item. Before they set out and once they are gone there is no image. Main thread.
+/// Draws them at `progress` around the item's centre, cycling through its colours. They fly beyond
+/// the item. No image before the start and after the end. Main thread.
 class BurstDots : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QList<QColor> colors MEMBER m_colors NOTIFY changed)
-    /// From 0 to 1 over the burst.
+    /// 0 to 1 during the burst.
     Q_PROPERTY(double progress MEMBER m_progress NOTIFY changed)
 
 public:

@@ -1,5 +1,5 @@
-// A part of a page that rises into its place and fades in, one part after the other. The one big
-// part comes down onto the page instead.
+// The entrance of a page's part: rises and fades in, in sequence. The one large part drops onto the
+// page instead.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

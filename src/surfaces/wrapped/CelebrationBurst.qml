@@ -1,4 +1,4 @@
-// A burst over a page, some time after the page has come. A second after its end nothing is left.
+// A burst over a page, after a delay. Freed a second after its end.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// The hours of the period, counted up once in the room of the final figure.
+// The hours of the period, counted up once within the final figure's room.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -11,13 +11,13 @@ Item {
     required property WrappedView model
     required property heroCard content
     property bool animated: false
-    property bool stopped: false // stays as far as it came
+    property bool stopped: false // keeps the current value
     readonly property bool counts: animated && !Motion.reduced && content.hours > 0
     property bool counted: false
     property real seconds: 0
     readonly property reviewFigure shown: counts && !counted ? model.countedUp(seconds)
                                                              : content.figure
-    // A figure that is too wide for the page is set smaller, with its unit.
+    // Shrinks a figure that is too wide, with its unit.
     readonly property real fit: width > 0 ? Math.min(1, width / full.implicitWidth) : 1
     readonly property real countingSeconds: DarkUI.countUpTime / 1000
     readonly property int unitSize: Math.round(DarkUI.heroReview.size * DarkUI.heroUnitScale)
@@ -30,7 +30,7 @@ Item {
         Accessible.ignored: true
     }
     component Unit: DarkText {
-        readonly property real gap: 0.25 // of its size
+        readonly property real gap: 0.25 // relative to its size
         leftPadding: Math.round(role.size * gap)
         color: DarkUI.textTertiary
         Accessible.ignored: true
@@ -68,7 +68,7 @@ Item {
         }
     }
 
-    // The first digit stands on the page's margin as the letters above and below it do.
+    // Aligns the first digit optically with the page's margin.
     TextMetrics {
         id: edge
         font: value.font
@@ -82,8 +82,7 @@ Item {
         role: valueRole
     }
 
-    // It stands where it will stand in the end, but for figures on the way that are wider: "6.8"
-    // before "7".
+    // The unit's final position, unless an intermediate figure is wider: "6.8" before "7".
     Unit {
         x: value.x + Math.max(fullValue.implicitWidth * number.fit, value.implicitWidth)
         anchors.baseline: value.baseline

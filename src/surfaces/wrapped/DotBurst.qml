@@ -1,4 +1,4 @@
-// Dots that fly from a centre when play() is called, and fade. Not with reduced motion.
+// Dots that fly from a centre on play(), and fade. Not with reduced motion.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

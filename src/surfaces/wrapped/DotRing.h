@@ -1,4 +1,4 @@
-// A ring of small glass dots around a figure.
+// A ring of small glass dots.
 #pragma once
 
 #include "surfaces/kit/painters/BakedItem.h"
@@ -9,8 +9,8 @@
 
 namespace vantle {
 
-/// `count` dots on a circle that fits into the item, the first at the top, clockwise in its colours
-/// by turns. Main thread.
+/// `count` dots on the largest circle in the item, from the top clockwise, cycling through its
+/// colours. Main thread.
 class DotRing : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT

@@ -1,4 +1,4 @@
-// What stands there in place of pages: nothing was tracked in the period.
+// The state without sessions in the period.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,7 +8,7 @@ ReviewPage {
 
     Column {
         anchors.verticalCenter: parent.verticalCenter
-        anchors.verticalCenterOffset: DarkUI.pagerButtonSize // no pager stands below
+        anchors.verticalCenterOffset: DarkUI.pagerButtonSize // no pager below
         width: page.width
 
         CascadeIn {

@@ -1,5 +1,4 @@
-// How far something that comes in by a spring has come: 0 before it sets out, 1 at its place.
-// Beyond 1 for a while where the spring swings over.
+// The progress of an entrance by a spring: 0 before the start, 1 at rest, above 1 during overshoot.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,7 +7,7 @@ QtObject {
     id: entrance
 
     required property SpringToken spring
-    required property bool animated // else it is in place from the start
+    required property bool animated // otherwise at rest from the start
     property int delay: 0 // ms
     property bool arrived: false
     property real elapsed: 0 // ms

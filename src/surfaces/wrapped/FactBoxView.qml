@@ -1,4 +1,4 @@
-// A fact: its title at the left, its value at the right.
+// A fact: title at the left, value at the right.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// A name in the colours of its gradient.
+// A text filled with a gradient.
 #pragma once
 
 #include "surfaces/kit/painters/BakedItem.h"
@@ -8,14 +8,13 @@
 
 namespace vantle {
 
-/// One line, as wide as its text, as high as its line; set smaller where the item is too narrow.
-/// The gradient goes over the whole text, also while only its first characters are shown. Main
-/// thread.
+/// One line with the text's width and the line's height; shrinks to fit the item. The gradient
+/// spans the whole text, also while only its first characters are shown. Main thread.
 class GradientText : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QString text MEMBER m_text NOTIFY changed)
-    /// How many characters of it are shown; -1 for all.
+    /// The number of characters shown; -1 for all.
     Q_PROPERTY(int shownCharacters MEMBER m_shown NOTIFY changed)
     Q_PROPERTY(QColor startColor MEMBER m_start NOTIFY changed)
     Q_PROPERTY(QColor endColor MEMBER m_end NOTIFY changed)

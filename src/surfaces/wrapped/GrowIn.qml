@@ -1,5 +1,4 @@
-// How much of its final length a bar has, one bar after the other: the bar multiplies its length
-// along its axis with `way`.
+// The growth of bars, in sequence: a bar multiplies its length by `way`.
 import QtQuick
 import Vantle.Kit
 

@@ -1,4 +1,4 @@
-// How many hours it were.
+// The page with the hours of the period.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// A high point: its icon in a disc of its colour, and the sentence.
+// A high point: icon in a coloured disc, and a sentence.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -12,7 +12,7 @@ Item {
     property bool last: false
     property bool animated: false
 
-    // The icons have names of their own; the kit's stand in for them.
+    // Maps the symbol names to the kit's icons.
     function iconOf(symbol: string): string {
         switch (symbol) {
         case "trophy.fill":

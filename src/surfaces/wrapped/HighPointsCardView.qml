@@ -1,4 +1,4 @@
-// What is worth saying out loud.
+// The page of high points.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

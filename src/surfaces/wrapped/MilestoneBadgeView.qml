@@ -1,4 +1,4 @@
-// A milestone in a ring of dots, and the day on which it was passed.
+// A milestone in a ring of dots, with its date.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -10,10 +10,10 @@ Plate {
 
     required property milestoneBadge badge
     required property list<color> colors
-    property bool small: false // several in a row
+    property bool small: false // one of several in a row
     readonly property real ringWidth: small ? 60 : 78
     readonly property real ringDot: small ? 3 : 3.75
-    readonly property real ringDots: 6 // that lie beside the figure, by their halves
+    readonly property real ringDots: 6 // dots beside the figure, in radii
     readonly property real smallestFigure: 10
     readonly property real badgeHeight: small ? 128 : 168
 

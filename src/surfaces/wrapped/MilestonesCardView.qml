@@ -1,4 +1,4 @@
-// The milestones that were passed.
+// The page of milestones.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -13,7 +13,7 @@ ReviewPage {
     readonly property real gap: DarkUI.space12
     readonly property real cellWidth: (width - (columns - 1) * gap) / columns
     readonly property real sentenceWidth: 300
-    readonly property real gridPlace: 0.4 // of the room that it leaves, a little above the middle
+    readonly property real gridPlace: 0.4 // relative to the free height, slightly above the middle
 
     kicker: content.kicker
 

@@ -1,4 +1,4 @@
-// The period in words.
+// The page with the period's narrative.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -9,9 +9,9 @@ ReviewPage {
 
     readonly property narrativeCard content: texts.narrative
     readonly property real room: foot.y - kickerHeight - DarkUI.space44
-    // A sentence that is long for its page is set smaller.
+    // Smaller type for a sentence that does not fit.
     readonly property TypeRole role: measure.height <= room ? DarkUI.quotation : DarkUI.titleMQuiet
-    readonly property real sentencePlace: 0.45 // of the room that it leaves
+    readonly property real sentencePlace: 0.45 // relative to the free height
 
     function escaped(words: string): string {
         return words.replace(/&/g, "&amp;").replace(/</g, "&lt;").replace(/>/g, "&gt;");
@@ -42,7 +42,7 @@ ReviewPage {
                   + page.escaped(page.content.rest) + "</font>"
             textFormat: Text.StyledText
             role: page.role
-            horizontalAlignment: undefined // that of the script it is written in
+            horizontalAlignment: undefined // by script
             wrapMode: Text.Wrap
             Accessible.name: page.content.text
         }

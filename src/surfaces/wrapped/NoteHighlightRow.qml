@@ -1,4 +1,4 @@
-// A note, what it was about and of which day.
+// A note with its skill and day.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -22,7 +22,7 @@ Item {
         id: words
         width: row.width
         text: row.note.text
-        horizontalAlignment: undefined // that of its script
+        horizontalAlignment: undefined // by script
         role: DarkUI.note
         wrapMode: Text.Wrap
         maximumLineCount: row.mostLines

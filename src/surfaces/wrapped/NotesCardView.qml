@@ -1,4 +1,4 @@
-// What the notes tell: what they return to, and a few of them.
+// The page about notes: recurring words and a few notes.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,9 +8,9 @@ ReviewPage {
     id: page
 
     readonly property notesCard content: texts.notes
-    readonly property real gap: DarkUI.space12 // on both sides of the line between two notes
+    readonly property real gap: DarkUI.space12 // on both sides of the separator between notes
     readonly property real room: foot.y - notes.y - gap
-    // Lines that are left when each note has one; the first long notes get them.
+    // Lines left when each note has one; the first long notes get them.
     readonly property int spareLines: Math.floor((room - oneLineEach()) / DarkUI.note.line)
 
     function oneLineEach(): real {

@@ -1,4 +1,4 @@
-// The quiet lines at the bottom of a page, over a hairline where one is wanted.
+// The secondary lines at a page's bottom, optionally below a hairline.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -10,7 +10,7 @@ Item {
     property bool ruled: false
     property bool animated: false
     property int order: 0
-    default property alias content: above.data // stands between the hairline and the lines
+    default property alias content: above.data // between hairline and lines
 
     anchors.left: parent ? parent.left : undefined
     anchors.right: parent ? parent.right : undefined

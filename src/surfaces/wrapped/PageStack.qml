@@ -1,5 +1,5 @@
-// Shows the page that the review is at. At a turn the page before slides out and fades while the
-// new one comes in from the other side.
+// The current page. On a turn the previous page slides out and fades while the new one enters from
+// the other side.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -11,19 +11,19 @@ FocusScope {
     required property WrappedView model
     readonly property bool turning: turn.running
     property ReviewPage current: null
-    property ReviewPage before: null // on its way out
+    property ReviewPage before: null // the page leaving
     property string shownKey
-    property list<string> seen // keys of pages whose parts have come in
-    property bool passing: false // the pages on the way are not shown
-    property bool outdated: false // another log, so that the page shows what was
+    property list<string> seen // keys of pages that have made their entrance
+    property bool passing: false // hides pages in between
+    property bool outdated: false // shows the previous log until updated
 
-    // Of the turn: 1 for a page on, -1 for a page back; 0 with nothing but fading.
+    // 1 for a turn on, -1 for a turn back, 0 for a fade alone.
     property real direction: 0
     property real elapsed: 0 // ms
-    property real outFrom: 0 // where the page before stood, px
+    property real outFrom: 0 // the leaving page's start, px
     property real outPresence: 1
 
-    // Goes on to where `turns` leads, by one turn for the eye.
+    // Runs several `turns` as one visible turn.
     function pass(turns): void {
         passing = true;
         turns();
@@ -59,7 +59,7 @@ FocusScope {
     function keyOf(card: string): string {
         return card + " " + model.period;
     }
-    // The review is at a page, which may be the one that is shown, with other values.
+    // Shows the model's page, possibly the same one with other values.
     function follow(): void {
         const card = model.isEmpty ? "" : model.card;
         if (keyOf(card) !== shownKey)
@@ -90,7 +90,7 @@ FocusScope {
         current.lines = announcer.linesOf(current);
         if (!before)
             return;
-        // A page that the keyboard is on is read out as it gets the focus.
+        // A page with the focus is read by the screen reader itself.
         announcer.say(KitText.turnedTo(model.page, model.cards.length,
                                        activeFocus ? "" : current.lines));
         before.leaving = true;
@@ -121,7 +121,7 @@ FocusScope {
         place()
     Component.onCompleted: follow()
 
-    // A page is made when the review turns to it.
+    // Pages are created on demand.
     Component {
         id: hero
         HeroCardView {}
@@ -188,12 +188,12 @@ FocusScope {
         function onReviewChanged(): void {
             stack.outdated = true;
         }
-        // Told last of all that has changed.
+        // Emitted last of all changes.
         function onPageChanged(): void {
             if (!stack.passing)
                 stack.follow();
         }
-        // Another year. All else that changes the calendar is told of once more above.
+        // Another year. Other changes of the calendar also arrive above.
         function onRhythmChanged(): void {
             if (stack.shownKey === stack.keyOf("rhythm"))
                 stack.refresh();

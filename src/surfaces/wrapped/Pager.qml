@@ -1,4 +1,4 @@
-// Back and on, and which of the pages it is.
+// The pager: back, on, and the position.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -9,9 +9,9 @@ Item {
 
     required property WrappedView model
     readonly property string place: dots.Accessible.name
-    signal dropped // the button with the focus leads nowhere any more
+    signal dropped // the focused button became disabled
 
-    // A button that is disabled gives the focus to nobody.
+    // A disabled button drops the focus without passing it on.
     function keepFocus(button: Item): void {
         if (!button.enabled)
             pager.dropped();

@@ -1,4 +1,4 @@
-// A dot for each finished hour of the period, as many as there is room for.
+// The wall of the period: a dot per finished hour, as many as fit.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

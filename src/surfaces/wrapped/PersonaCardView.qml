@@ -1,4 +1,4 @@
-// Which kind of builder somebody is; while that is taking shape, what is needed for it.
+// The page of the persona, or of the progress towards one.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

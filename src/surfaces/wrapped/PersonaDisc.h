@@ -1,4 +1,4 @@
-// The picture of a kind of builder on its page.
+// The picture of a persona on its page.
 #pragma once
 
 #include "review/PersonaCard.h"
@@ -6,7 +6,7 @@
 
 namespace vantle {
 
-/// As large as the item; of a kind that is taking shape, how far it is. Main thread.
+/// Fills the item; without a persona it shows the progress. Main thread.
 class PersonaDisc : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT

@@ -1,4 +1,4 @@
-// Three short facts on one line, the same room between them.
+// Three short facts in a line, evenly spaced.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

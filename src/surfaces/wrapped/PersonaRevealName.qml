@@ -1,5 +1,5 @@
-// The name of a type, written letter by letter; then dots fly from it. Once `torn` it stays as far
-// as it came: its page is on its way out.
+// The name of a persona, revealed letter by letter, with a burst at the end. Stops once `torn`,
+// when its page leaves.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

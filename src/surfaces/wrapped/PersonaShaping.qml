@@ -1,4 +1,4 @@
-// How far somebody is from having a type.
+// The progress towards a persona.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -33,7 +33,7 @@ Column {
             Repeater {
                 model: words.content.facts
 
-                // "3 / 5 sessions": the figures lead.
+                // "3 / 5 sessions": emphasises the figures.
                 Row {
                     id: fact
                     required property string modelData

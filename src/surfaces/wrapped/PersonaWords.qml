@@ -1,4 +1,4 @@
-// The name of somebody's type and what it stands for.
+// The name of the persona and its meaning.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -10,7 +10,7 @@ Column {
     required property personaCard content
     property bool animated: false
     property bool torn: false
-    readonly property real lineWidth: 330 // two lines of about the same length
+    readonly property real lineWidth: 330 // wraps into two lines of similar length
 
     CascadeIn {
         animated: words.animated

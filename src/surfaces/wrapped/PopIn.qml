@@ -1,4 +1,4 @@
-// A dot or a disc that pops up, one after the other.
+// The entrance of dots and discs, in sequence.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -14,7 +14,7 @@ void PosterSharing::save(const QByteArray& png, const QString& name, QWindow* ab
                          std::function<void(Saved)> done) {
     const SaveQuestion question{Words::tr("Save image"), name, *m_folder, Words::tr("PNG image"),
                                 QStringLiteral("png")};
-    m_open.reset(); // before the next one opens
+    m_open.reset(); // before the next dialog opens
     m_open =
         m_env.dialog.ask(question, above, [this, png, done](const std::optional<QString>& path) {
             if (path)
@@ -26,7 +26,7 @@ void PosterSharing::save(const QByteArray& png, const QString& name, QWindow* ab
 
 void PosterSharing::write(const QByteArray& png, const QString& path,
                           std::function<void(Saved)> done) {
-    // A write that is under way at the end of the program outlives this object.
+    // A write still running at the end of the program outlives this object.
     m_env.queue.async([&files = m_env.files, &scheduler = m_env.scheduler, folder = m_folder, png,
                        path, done = std::move(done)] {
         const bool written = exportFile(files, path, png).ok();

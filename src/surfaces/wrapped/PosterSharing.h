@@ -1,4 +1,4 @@
-// Where the review's poster goes: into the clipboard, or into a file of the person's choice.
+// The export of a review's poster: clipboard or file.
 #pragma once
 
 #include "base/SerialQueue.h"
@@ -10,12 +10,11 @@ namespace vantle {
 class FileSystem;
 class ImageClipboard;
 
-/// One save dialog at a time: asking again takes the one before away. The file is written on a
-/// queue of its own, since the chosen folder may be on a disk that takes its time; the session log
-/// doesn't wait for that, and neither does the clock. Main thread.
+/// One save dialog at a time: a new one closes the previous. Writes the file on its own queue,
+/// since the folder may be on a slow disk; clock and log do not wait for it. Main thread.
 class PosterSharing {
 public:
-    /// All of it must outlive this.
+    /// All of it must outlive this object.
     struct Environment {
         ImageClipboard& clipboard;
         SaveDialog& dialog;
@@ -28,8 +27,8 @@ public:
 
     void copy(const QByteArray& png);
 
-    /// Asks for a place in a dialog above the window, and writes there. `done` is called from the
-    /// event loop, or never when the dialog is taken away.
+    /// Opens a save dialog above the window and writes the file. Calls `done` from the event loop,
+    /// or never when the dialog is closed by another.
     void save(const QByteArray& png, const QString& name, QWindow* above,
               std::function<void(WrappedView::Saved)> done);
 
@@ -39,7 +38,7 @@ private:
 
     const Environment m_env;
     std::unique_ptr<OpenSaveDialog> m_open;
-    /// Of the last file in this run; the next dialog begins there.
+    /// The folder of the last file in this run, where the next dialog starts.
     std::shared_ptr<QString> m_folder = std::make_shared<QString>();
 };
 

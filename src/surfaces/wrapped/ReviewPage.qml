@@ -1,4 +1,4 @@
-// What all pages of a review have in common: a heading at the top, and room below it.
+// The base of all review pages: a heading at the top, content below.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,12 +8,12 @@ FocusScope {
     id: page
 
     required property WrappedView model
-    // As they were when the page was shown: it must not change while it is on its way out.
+    // A copy: a leaving page must not change.
     required property reviewTexts texts
     property string kicker
-    property bool animated: false // its parts come in one after the other
+    property bool animated: false // whether its parts enter in sequence
     property bool leaving: false
-    property string lines // what stands on it, as it is read out
+    property string lines // the page's texts, for screen readers
     readonly property real kickerHeight: DarkUI.kicker.line
     readonly property alias kickerWidth: heading.width
 

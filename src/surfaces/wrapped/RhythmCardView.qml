@@ -1,4 +1,4 @@
-// The calendar of the period, and the wall with each of its hours.
+// The page with the calendar and the wall of the period.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

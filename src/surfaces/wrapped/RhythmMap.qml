@@ -1,5 +1,5 @@
-// The calendar of a period: the brighter a day, the more time, in the colour of what it went to
-// most. Colours never stand alone: each day has its date and its hours in words.
+// The calendar of a period: brighter means more time, in the colour of the top skill. Colour is
+// never the only cue: each day has its date and hours as text.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -21,7 +21,7 @@ Item {
     Accessible.description: rhythm.caption
     Accessible.ignored: rhythm.label === ""
 
-    // One help for all days: the pointer has to rest on each.
+    // One tooltip for all days; restarts its delay on each.
     onPointedDayChanged: {
         help.pointed = false;
         help.pointed = pointedDay >= 0;
@@ -51,7 +51,7 @@ Item {
         onFinished: map.arrived = true
     }
 
-    // A year is told as a whole.
+    // Screen readers get a year as one picture.
     Repeater {
         model: map.rhythm.picture.isYear ? 0 : tiles.dayCount
 

@@ -1,4 +1,4 @@
-// The calendar of a review as one item, however many days it has.
+// The calendar of a review, in one item.
 #pragma once
 
 #include "review/RhythmCard.h"
@@ -9,21 +9,21 @@
 
 namespace vantle {
 
-/// As wide as it is given, and as high as the picture is then. Days are counted from the first one
-/// on, without the blanks. Today's ring reaches beyond the item. Main thread.
+/// Its height follows from its width. Days are indexed from the first, without blanks. Today's ring
+/// extends beyond the item. Main thread.
 class RhythmTiles : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(vantle::RhythmPicture picture READ picture WRITE setPicture NOTIFY pictureChanged)
     Q_PROPERTY(int dayCount READ dayCount NOTIFY pictureChanged)
-    /// Of letters and names of months.
+    /// For letters and month names.
     Q_PROPERTY(QFont font MEMBER m_font NOTIFY changed)
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY changed)
     Q_PROPERTY(QColor futureColor MEMBER m_futureColor NOTIFY changed)
-    /// How many milliseconds after its page came the tiles of a week are shown, growing; a negative
-    /// number when all are there.
+    /// The age of the page in milliseconds while a week's tiles grow; negative when all are full
+    /// size.
     Q_PROPERTY(double growing MEMBER m_growing NOTIFY changed)
-    /// How long all of that takes, in milliseconds.
+    /// The duration of that growth, in milliseconds.
     Q_PROPERTY(int growTime READ growTime CONSTANT)
 
 public:
@@ -34,11 +34,11 @@ public:
     [[nodiscard]] int dayCount() const { return static_cast<int>(m_layout.spots.size()); }
     [[nodiscard]] static int growTime();
 
-    /// The day at a point of the item; -1 for none.
+    /// Returns the index of the day at a point; -1 for none.
     Q_INVOKABLE [[nodiscard]] int dayAt(double x, double y) const;
-    /// Where its tile is; nowhere for no day.
+    /// Returns the tile's rectangle; empty for no day.
     Q_INVOKABLE [[nodiscard]] QRectF dayArea(int day) const;
-    /// Its date, and its hours if it has any; empty for no day.
+    /// Returns date and hours; empty for no day.
     Q_INVOKABLE [[nodiscard]] QString dayHelp(int day) const;
 
 Q_SIGNALS:

@@ -44,7 +44,7 @@ void SharePosterPicture::drawEdge(QPainter& painter) {
     painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
     painter.fillPath(all.subtracted(inside), Qt::black);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    constexpr double kHalf = 0.5; // of the hairline, which lies inside
+    constexpr double kHalf = 0.5; // half of the hairline is inside
     painter.setPen(QPen(look::kDark.hairline.color(), 2 * kHalf));
     painter.drawRoundedRect(boundingRect().adjusted(kHalf, kHalf, -kHalf, -kHalf), m_radius - kHalf,
                             m_radius - kHalf);

@@ -1,4 +1,4 @@
-// The poster on the page that shares it.
+// The poster, as an item on the page that shares it.
 #pragma once
 
 #include "review/SharePoster.h"
@@ -6,13 +6,12 @@
 
 namespace vantle {
 
-/// As wide as it is given, and as high as the poster is then; sharp at the scale of its window.
-/// Main thread.
+/// Its height follows from its width; sharp at its window's scale. Main thread.
 class SharePosterPicture : public vantle::BakedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(vantle::SharePoster poster READ poster WRITE setPoster NOTIFY changed)
-    /// Of the corners, px; with one there is a fine edge as well.
+    /// Of the corners, px; above 0 there is also a hairline.
     Q_PROPERTY(double radius MEMBER m_radius NOTIFY changed)
 
 public:

@@ -1,4 +1,4 @@
-// What the hours went into.
+// The page with hours by skill.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -11,7 +11,7 @@ ReviewPage {
 
     kicker: content.kicker
 
-    // Sessions of no time lead no skill: the line says so, and has no dot in front.
+    // Sessions without time have no top skill: the line says so, without a dot.
     readonly property bool hasTop: content.top.share !== ""
 
     PopIn {

@@ -1,4 +1,4 @@
-// When sessions begin: a column for each two hours of the day, as high as its part of the highest.
+// The chart of session starts: a column per two hours, relative to the highest.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -55,7 +55,7 @@ Item {
         }
     }
 
-    // Each hour stands at the place in the day that it names.
+    // Labels stand at the hour that they name.
     Repeater {
         model: chart.card.hourMarks
 

@@ -1,4 +1,4 @@
-// The period in full: the poster, and the ways to share it.
+// The last page: the poster and the buttons to share it.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -51,7 +51,7 @@ ReviewPage {
             id: poster
             readonly property real room: picture.room
 
-            // The poster of a year is too high for the page at the width of the others.
+            // A year's poster is too high for the page at the usual width.
             function fit(): void {
                 width = DarkUI.posterWidth;
                 if (room > 0 && implicitHeight > room)

@@ -1,4 +1,4 @@
-// A word that the notes return to. Nothing to press.
+// A recurring word of the notes; not interactive.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit

@@ -1,4 +1,4 @@
-// When sessions begin, and the longest stretches.
+// The page of start times and longest stretches.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -68,7 +68,7 @@ ReviewPage {
         }
     }
 
-    // As near to the boxes as they have need of: fewer of them leave it in the middle.
+    // Centred when few boxes leave more room.
     StartRhythmChart {
         id: chart
         anchors.bottom: boxes.top

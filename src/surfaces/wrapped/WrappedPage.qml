@@ -1,5 +1,5 @@
-// The review window: a picker of periods above cards that are paged through one at a time, with the
-// arrow keys, Home and End as well.
+// The review window: a picker of periods above pages, which also turn with arrow keys, Home and
+// End.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -10,7 +10,7 @@ FocusScope {
 
     required property WrappedView model
     readonly property alias turning: stack.turning
-    readonly property real stackHeight: 514 // leaves room for the pager and for what sharing tells
+    readonly property real stackHeight: 514 // leaves room for the pager and the sharing result
 
     function turnToFirst(): void {
         stack.pass(() => {
@@ -54,7 +54,7 @@ FocusScope {
 
     AmbientDotField {
         anchors.fill: parent
-        clip: true // halos at the edges would lie over that of the window
+        clip: true // keeps halos off the window's edge
     }
 
     SegmentedPicker {

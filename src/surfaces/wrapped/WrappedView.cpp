@@ -87,7 +87,7 @@ void WrappedView::showSegments() {
     QStringList labels;
     for (const WrappedPeriod period : wrappedcards::segments(m_review.period()))
         labels << wrappedperiod::pickerLabel(period);
-    // A picker makes its segments anew for every list that it is told of, also for the same one.
+    // A picker recreates its segments for each list, even an equal one.
     if (labels == m_segments) return;
     m_segments = labels;
     Q_EMIT segmentsChanged();
@@ -155,7 +155,7 @@ void WrappedView::synthesizeNarrative() {
     const Asked asked{m_review.period(), *question};
     if (m_asked == asked) return;
     m_asked = asked;
-    // To ask is to hang up on the question before: its answer can't come late.
+    // Replacing the request cancels the previous one, so no late answer arrives.
     m_request = m_narrator.weekly(question->hoursSummary, question->topSkill, question->notes,
                                   [this, period = asked.period](std::optional<QString> text) {
                                       m_review.narrativeArrived(period, std::move(text));

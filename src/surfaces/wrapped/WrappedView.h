@@ -1,4 +1,4 @@
-// The review window: a picker of periods above cards that are paged through one at a time.
+// The model of the review window.
 #pragma once
 
 #include "base/Scheduler.h"
@@ -20,7 +20,7 @@ namespace vantle {
 class Clock;
 class NotificationCenter;
 
-/// What stands on the pages of a review.
+/// The texts of a review's pages.
 struct ReviewTexts {
     Q_GADGET
     QML_VALUE_TYPE(reviewTexts)
@@ -50,13 +50,12 @@ public:
     NotesCard notes;
     SummaryCard summary;
     SharePoster poster;
-    QString emptyTitle; ///< stands there without pages
+    QString emptyTitle; ///< shown without pages
     QString emptyText;
 };
 
-/// What the window shows and does. Holds a copy of the log, which it reads when the window opens
-/// and on every change; everything else is computed from it. The sentence about the notes comes
-/// later, if there is a model to write it, and its card with it. Main thread.
+/// Keeps a copy of the log, read when the window opens and on each change, and computes everything
+/// from it. The narrative arrives later, if there is a model, and adds its page. Main thread.
 class WrappedView final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -65,30 +64,30 @@ class WrappedView final : public QObject {
     Q_PROPERTY(QStringList segmentLabels READ segmentLabels NOTIFY segmentsChanged FINAL)
     Q_PROPERTY(int segmentIndex READ segmentIndex NOTIFY reviewChanged FINAL)
 
-    /// The pager. `cards` are the ids of the pages in order, as in "hero".
+    /// The pager. `cards` are the pages' ids in order, as in "hero".
     Q_PROPERTY(QStringList cards READ cards NOTIFY cardsChanged FINAL)
     Q_PROPERTY(bool hasPager READ hasPager NOTIFY cardsChanged FINAL)
     Q_PROPERTY(int page READ page NOTIFY pageChanged FINAL)
     Q_PROPERTY(QString card READ card NOTIFY pageChanged FINAL)
     Q_PROPERTY(QString pageKey READ pageKey NOTIFY pageChanged FINAL)
-    /// With the card it tells which page is shown, wherever that stands among the others.
+    /// Identifies the page together with its card id.
     Q_PROPERTY(QString period READ period NOTIFY pageChanged FINAL)
     Q_PROPERTY(double pageDirection READ pageDirection NOTIFY pageChanged FINAL)
     Q_PROPERTY(bool canTurnBack READ canTurnBack NOTIFY pageChanged FINAL)
     Q_PROPERTY(bool canTurnOn READ canTurnOn NOTIFY pageChanged FINAL)
 
-    /// There are no pages.
+    /// Whether there are no pages.
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY cardsChanged FINAL)
     Q_PROPERTY(bool canEnter READ canEnter CONSTANT FINAL)
     Q_PROPERTY(QString enterText READ enterText NOTIFY trackingChanged FINAL)
 
-    /// A copy, as it is now. Views show it until they ask for another.
+    /// A snapshot; views keep theirs until they read it again.
     Q_PROPERTY(vantle::ReviewTexts texts READ texts NOTIFY reviewChanged FINAL)
 
-    /// How many dots the wall on the rhythm page has room for.
+    /// The dots that fit the wall on the rhythm page.
     Q_PROPERTY(int wallCapacity READ wallCapacity WRITE setWallCapacity NOTIFY rhythmChanged FINAL)
 
-    /// Sharing. A failure stands under the buttons; empty when there is none.
+    /// Sharing. `shareFailure` is shown below the buttons; empty when there is none.
     Q_PROPERTY(bool copied READ copied NOTIFY shareChanged FINAL)
     Q_PROPERTY(QString copyText READ copyText NOTIFY shareChanged FINAL)
     Q_PROPERTY(QString shareFeedback READ shareFeedback NOTIFY shareChanged FINAL)
@@ -97,10 +96,10 @@ public:
     enum class Saved { Written, Failed, Cancelled };
 
     static constexpr double copiedSeconds = 1.6;
-    static constexpr std::size_t skillsShown = 6; ///< the top one and five below
+    static constexpr std::size_t skillsShown = 6; ///< the top one and five more
     static constexpr std::size_t highlightsShown = 4;
 
-    /// What the window works with. All of it must outlive the view.
+    /// The services of the window. All of them must outlive the model.
     struct Environment {
         NotificationCenter& notifications;
         Preferences& preferences;
@@ -110,23 +109,23 @@ public:
         std::function<Calendar()> calendar;
         std::function<std::vector<Session>()> allSessions;
         std::function<std::vector<Skill>()> skills;
-        std::optional<WrappedPeriod> initialPeriod; ///< none: the view finds one
-        /// Starts a session, or stops the open one; may be empty: then nothing offers it.
+        std::optional<WrappedPeriod> initialPeriod; ///< empty: chosen from the log
+        /// Starts or stops a session; empty hides the button.
         std::function<void()> enterVantle;
 
-        /// The poster as PNG; nothing when it can't be drawn.
+        /// Renders the poster as PNG; empty when out of memory.
         std::function<std::optional<QByteArray>(const SharePoster&)> renderPng;
         std::function<void(const QByteArray& png)> copyPng;
-        /// Asks for a place, suggesting the name, and writes there. Answers at once or later.
+        /// Opens a save dialog with that name and writes the file. Answers now or later.
         std::function<void(const QByteArray& png, const QString& name, std::function<void(Saved)>)>
             savePng;
     };
 
-    /// Reads the log and settles the period.
+    /// Reads the log and chooses the period.
     explicit WrappedView(Environment environment);
     ~WrappedView() override;
 
-    /// The window has come up once more; the period that it had stays.
+    /// The window was opened again; keeps the period.
     Q_INVOKABLE void open();
 
     Q_INVOKABLE void pickSegment(int index);
@@ -134,12 +133,12 @@ public:
     Q_INVOKABLE void turnOn() { turn(+1); }
     Q_INVOKABLE void showYear(int year);
     Q_INVOKABLE void enterVantle();
-    /// Whether a session is open, which the view does not see by itself.
+    /// Whether a session is open, as told by the owner.
     void setTracking(bool tracking);
     Q_INVOKABLE void copyImage();
     Q_INVOKABLE void saveImage();
 
-    /// The big figure `seconds` after its page came, on its way up.
+    /// The hours counted up to `seconds` after the page appeared.
     Q_INVOKABLE [[nodiscard]] vantle::ReviewFigure countedUp(double seconds) const;
 
     [[nodiscard]] const WrappedReview& review() const { return m_review; }
@@ -167,7 +166,7 @@ public:
 
 Q_SIGNALS:
     void segmentsChanged(); ///< other periods to choose from
-    void reviewChanged();   ///< another period or another log
+    void reviewChanged();   ///< another period or log
     void cardsChanged();
     void pageChanged();
     void rhythmChanged();
@@ -201,8 +200,8 @@ private:
     QStringList m_cards;
     int m_wallCapacity = 48;
     bool m_tracking = false;
-    std::optional<int> m_chosenYear; ///< for as long as the page stays
-    std::optional<Asked> m_asked;    ///< what the last question was
+    std::optional<int> m_chosenYear; ///< until the page is left
+    std::optional<Asked> m_asked;    ///< the last question
     NoteNarrative::RequestHandle m_request;
     TimerHandle m_copiedEnds;
 };

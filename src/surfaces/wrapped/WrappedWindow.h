@@ -1,4 +1,6 @@
-// The review as a window.
+// The specification of the review window.
+//
+// Main thread.
 #pragma once
 
 #include "surfaces/window/WindowSpec.h"

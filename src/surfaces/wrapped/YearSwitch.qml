@@ -1,5 +1,5 @@
-// The years that have work in them, to choose the one that is shown. Where there is no room for all
-// of them they scroll sideways, by wheel, pointer and keys; the shown one comes into sight.
+// The years with work, one of which is shown. Scrolls sideways by wheel, pointer and keys when they
+// do not fit, and keeps the shown year visible.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -9,8 +9,8 @@ ArrowGroup {
     id: picker
 
     required property rhythmCard content
-    property Item shown: null // of the segments
-    readonly property real wheelUnits: 8 // of a degree
+    property Item shown: null // the segment of the shown year
+    readonly property real wheelUnits: 8 // per degree of the wheel
     readonly property real pixelsPerDegree: 3
     signal chosen(int year)
 
@@ -49,7 +49,7 @@ ArrowGroup {
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentWidth > width
         clip: interactive
-        // The shown year is set wider than the others: it moves those behind it.
+        // The shown year is wider and shifts those after it.
         onContentWidthChanged: picker.bringIntoSight(picker.shown)
         onWidthChanged: picker.bringIntoSight(picker.shown)
 
@@ -70,8 +70,7 @@ ArrowGroup {
             id: segments
             y: area.ringRoom
 
-            // Counted, not listed: another year is another list, which would make all of them again
-            // and leave the keyboard without a place.
+            // By count, not by list: a new list would recreate all segments and lose the focus.
             Repeater {
                 model: picker.content.years.length
 

@@ -8,15 +8,15 @@ namespace vantle::posterdots {
 
 namespace {
 
-// The first dot of a row is cut by the edge, so that the field seems to go on beyond it.
+// The edge cuts the first dot of a row, so that the field seems to continue.
 constexpr double kFromRight = 2;
 constexpr double kFromTop = 11.5;
-constexpr double kReachDown = 118; // from the first row to where light ends, px
+constexpr double kReachDown = 118; // from the first row to the last visible one, px
 constexpr double kReachLeft = 312;
 constexpr double kBrightest = 0.92;
-constexpr double kFaintest = 0.03; // less is a smudge
+constexpr double kFaintest = 0.03; // fainter dots look like smudges
 
-/// `light` falls evenly from 1 to 0; what is seen holds on longer at the bright end.
+/// `light` falls linearly from 1 to 0; the opacity falls more slowly at the bright end.
 double opacityOf(double light) { return kBrightest * light * (1.35 - 0.35 * light); }
 
 } // namespace

@@ -1,6 +1,6 @@
 // The field of dots in the poster's upper right corner.
 //
-// Pure drawing; needs nothing but the painter, with antialiasing on. Lengths in px of the poster.
+// Pure drawing, any thread; requires antialiasing. Lengths in px of the poster.
 #pragma once
 
 #include <QColor>
@@ -22,12 +22,12 @@ struct Dot {
     double opacity = 0; ///< above 0, at most 1
 };
 
-/// The dots of a field over `area`, brightest in its upper right corner and fading to the lower
-/// left: rows from the top, each from the right.
+/// Returns the dots over `area`, brightest in the upper right corner and fading to the lower left:
+/// row by row, right to left.
 [[nodiscard]] std::vector<Dot> field(const QRectF& area);
 
-/// Draws the field in these colours, which begin anew as often as needed. `scale` is the number of
-/// device pixels in a px. Nothing without a colour.
+/// Draws the field, cycling through the colours. `scale` is in device pixels per px. Draws nothing
+/// without a colour.
 void draw(QPainter& painter, const QRectF& area, const QList<QColor>& colors, double scale);
 
 } // namespace vantle::posterdots

@@ -1,7 +1,7 @@
-// Where everything stands on the poster: one column, and its height follows from what there is.
+// The layout of the poster: one column of variable height.
 //
-// Plain values; needs an application object for the widths of the closing line. Lengths in px of
-// the poster, texts by their baselines.
+// Plain values, any thread; needs an application object for text widths. Lengths in px of the
+// poster, texts by their baselines.
 #pragma once
 
 #include "review/SharePoster.h"
@@ -28,23 +28,23 @@ struct PosterLayout {
     static constexpr double kBarHeight = 6;
     static constexpr double kRow = 28;
 
-    static constexpr double kMonthPitch = 34; ///< from row to row
-    static constexpr double kYearPitch = 13;  ///< from tile to tile, both ways
+    static constexpr double kMonthPitch = 34; ///< between rows
+    static constexpr double kYearPitch = 13;  ///< between tiles, both ways
     static constexpr double kYearHalfGap = 14;
 
     [[nodiscard]] static PosterLayout of(const SharePoster& poster);
 
-    /// The middle of a row of the breakdown.
+    /// The centre line of a breakdown row.
     [[nodiscard]] double row(std::size_t index) const { return firstRow + kRow * double(index); }
     [[nodiscard]] QSizeF size() const { return {kWidth, height}; }
 
     double heroLine = 0;
-    QStringList closing; ///< in lines
+    QStringList closing; ///< one entry per line
     double closingLine = 0;
     double rhythmKickerLine = 0;
     double rhythmTop = 0;
     double breakdownKickerLine = 0;
-    double firstRow = 0; ///< its middle
+    double firstRow = 0; ///< its centre line
     double divider = 0;  ///< its upper edge
     double figureLine = 0;
     double figureTitleLine = 0;

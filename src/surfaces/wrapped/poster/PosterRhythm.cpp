@@ -45,7 +45,7 @@ void drawMonth(QPainter& painter, QPointF topLeft, const RhythmPicture& picture)
                 shape, picture.weeks[week][day]);
 }
 
-/// Weeks stand as columns, in two halves one below the other.
+/// A year as week columns, in two halves.
 void drawYear(QPainter& painter, QPointF topLeft, const RhythmPicture& picture) {
     const double pitch = PosterLayout::kYearPitch;
     const double half = 7 * pitch + PosterLayout::kYearHalfGap;

@@ -1,6 +1,7 @@
-// The calendar on the poster: a week, a month or a year of tiles in one picture.
+// The calendar on the poster: tiles of a week, month or year.
 //
-// Pure drawing; needs an application object for the letters. Lengths in px of the poster.
+// Pure drawing, any thread; needs an application object for the letters. Lengths in px of the
+// poster.
 #pragma once
 
 #include "review/RhythmCard.h"
@@ -11,8 +12,7 @@ class QPainter;
 
 namespace vantle::posterrhythm {
 
-/// Draws the picture with its upper left corner there, as wide as the poster's column. Without
-/// weeks nothing is drawn.
+/// Draws the calendar at `topLeft`, as wide as the poster's column; nothing without weeks.
 void draw(QPainter& painter, QPointF topLeft, const RhythmPicture& picture);
 
 } // namespace vantle::posterrhythm

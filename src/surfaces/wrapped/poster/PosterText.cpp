@@ -14,16 +14,15 @@ namespace vantle::postertext {
 
 namespace {
 
-/// Whether the letters of the typeface are outlines. Those of emoji are pictures, and there are old
-/// typefaces of single pixels.
+/// Whether the font's glyphs are outlines; emoji fonts and bitmap fonts have none.
 bool hasOutlines(const QRawFont& face) {
     const auto hasTable = [&face](const char* table) { return !face.fontTable(table).isEmpty(); };
     const bool hasPictures = hasTable("CBDT") || hasTable("sbix") || hasTable("COLR");
     return !hasPictures && (hasTable("glyf") || hasTable("CFF ") || hasTable("CFF2"));
 }
 
-/// The letters of a line about its baseline. Outlines are filled as they are: a desktop's taste in
-/// rendering text, stronger here and finer there, does not get into the picture.
+/// The glyphs of a line around its baseline. Outlines are filled directly, so that the desktop's
+/// font rendering settings do not affect the poster.
 struct Shaped {
     Shaped(const QString& text, const QFont& font) {
         QTextLayout layout(text, font);
@@ -113,7 +112,7 @@ void draw(QPainter& painter, QPointF baseline, const QString& text, const QFont&
     painter.setPen(Qt::NoPen);
     painter.translate(baseline);
     painter.fillPath(shaped.outlines, brush);
-    painter.setPen(QPen(brush, 0)); // of which coloured pictures take the opacity alone
+    painter.setPen(QPen(brush, 0)); // colour glyphs use its opacity alone
     for (const QGlyphRun& picture : shaped.pictures)
         painter.drawGlyphRun({}, picture);
     painter.translate(-baseline);

@@ -1,8 +1,7 @@
-// Text on the poster: single lines that stand at a baseline.
+// Single lines of text on the poster.
 //
-// Letters keep the widths that their typeface gives them, so that lines break and end at the same
-// place whatever the scale. Needs an application object; one thread at a time. Lengths in px of the
-// poster.
+// Keeps the font's unhinted widths, so that lines break and end alike at every scale. Requires an
+// application object; one thread at a time. Lengths in px of the poster.
 #pragma once
 
 #include "surfaces/kit/tokens/Look.h"
@@ -21,30 +20,30 @@ namespace vantle::postertext {
 
 [[nodiscard]] double width(const QString& text, const QFont& font);
 
-/// The typeface in the largest size up to its own in which the text is not wider than `room`; half
-/// of that size where none is.
+/// Returns the font in the largest size, up to its own, at which the text fits `room`; at least
+/// half its size.
 [[nodiscard]] QFont fitted(QFont font, const QString& text, double room);
 
-/// The text, or as much of its beginning as has room, and an ellipsis.
+/// Returns the text, elided to fit.
 [[nodiscard]] QString elided(const QString& text, const QFont& font, double room);
 
-/// The text in lines of at most `room`, broken between words where there are any; the last of
-/// `most` lines ends with an ellipsis if something is left.
+/// Breaks the text into at most `most` lines of width `room`, between words where possible; elides
+/// the last.
 [[nodiscard]] QStringList broken(const QString& text, const QFont& font, double room, int most);
 
-/// Letters in one colour, or in the colours of a gradient.
+/// Draws in one colour or with a gradient.
 void draw(QPainter& painter, QPointF baseline, const QString& text, const QFont& font,
           const QBrush& brush);
 
-/// The same, ending at the point.
+/// Draws the text so that it ends at the point.
 void drawBefore(QPainter& painter, QPointF baseline, const QString& text, const QFont& font,
                 const QBrush& brush);
 
-/// The same, with its middle at the point.
+/// Draws the text centred on the point.
 void drawAround(QPainter& painter, QPointF baseline, const QString& text, const QFont& font,
                 const QBrush& brush);
 
-/// How far right of its place the first letter shows, which large letters make visible.
+/// Returns the left bearing of the first glyph, which is visible in large type.
 [[nodiscard]] double inkLeft(const QString& text, const QFont& font);
 
 } // namespace vantle::postertext

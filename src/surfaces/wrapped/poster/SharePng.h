@@ -1,4 +1,6 @@
-// The poster as a picture to give away.
+// The poster as a PNG file.
+//
+// Requires an application object; one thread at a time.
 #pragma once
 
 #include "review/SharePoster.h"
@@ -9,11 +11,11 @@
 
 namespace vantle {
 
-/// Pixels in a px of the poster.
+/// Image pixels per px of the poster.
 inline constexpr double kShareScale = 2.0;
 
-/// The poster as a PNG at twice its size, in sRGB and told so; nothing when there is no memory for
-/// it. The same poster gives the same bytes. Needs an application object and no window.
+/// Renders the poster at twice its size, tagged as sRGB; empty when out of memory. Equal posters
+/// give equal bytes. Needs no window.
 [[nodiscard]] std::optional<QByteArray> renderSharePNG(const SharePoster& poster);
 
 } // namespace vantle

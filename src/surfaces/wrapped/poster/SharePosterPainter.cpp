@@ -25,11 +25,11 @@ constexpr double kNameRoom = 88; // of the breakdown
 constexpr double kMostNameRoom = 132;
 constexpr double kHoursRoom = 68;
 constexpr double kBesideBar = 12;
-constexpr double kRowLine = 4; // from the middle of a row to its baseline
+constexpr double kRowLine = 4; // from a row's centre to its baseline
 constexpr double kFigureGap = 18;
-constexpr double kSmallInk = 0.5; // where small letters show beside the margin
+constexpr double kSmallInk = 0.5; // left bearing of small text at the margin
 
-/// Where large text has to stand for its letters to begin with those of the small texts.
+/// Returns the x at which large text aligns optically with small text.
 double optical(const QString& text, const QFont& font) {
     return Layout::kMargin + kSmallInk - postertext::inkLeft(text, font);
 }
@@ -47,7 +47,7 @@ void drawName(QPainter& painter, const SharePoster& poster, double line) {
     const QFont font =
         postertext::fitted(postertext::font(kType.namePoster), poster.personaName, Layout::kColumn);
     const QString name = postertext::elided(poster.personaName, font, Layout::kColumn);
-    QLinearGradient gradient(0, 0, postertext::width(name, font), 0); // from where the text stands
+    QLinearGradient gradient(0, 0, postertext::width(name, font), 0); // from the text's start
     gradient.setColorAt(0, poster.startColor);
     gradient.setColorAt(1, poster.endColor);
     postertext::draw(painter, {optical(name, font), line}, name, font, gradient);
@@ -74,8 +74,8 @@ void drawClosing(QPainter& painter, const Layout& at) {
                          at.closing[i], font, look::kDark.textSecondary.color());
 }
 
-/// The breakdown's columns: names and hours get what they need, up to a point, and the bars what is
-/// left.
+/// The breakdown's columns: names and hours take what they need, up to a limit; the bar gets the
+/// rest.
 struct Columns {
     explicit Columns(const std::vector<SkillLine>& skills) {
         double widestName = 0;
@@ -93,7 +93,7 @@ struct Columns {
     const QFont nameFont = postertext::font(kType.bodyMedium);
     const QFont hoursFont = postertext::font(kType.bodyMedium);
     double nameRoom = 0;
-    QRectF bar; ///< full, at the top of the poster
+    QRectF bar; ///< full length, at the poster's top
 };
 
 void drawBar(QPainter& painter, QRectF bar, const SkillLine& skill) {
@@ -101,7 +101,7 @@ void drawBar(QPainter& painter, QRectF bar, const SkillLine& skill) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(look::kDark.barTrough.color());
     painter.drawRoundedRect(bar, radius, radius);
-    // Never less than a whole dot.
+    // At least a whole dot.
     bar.setWidth(std::max(bar.width() * skill.fraction, bar.height()));
     painter.setBrush(skill.color);
     painter.drawRoundedRect(bar, radius, radius);
@@ -131,7 +131,7 @@ void drawFigures(QPainter& painter, const SharePoster& poster, const Layout& at)
     const QFont titleFont = postertext::font(kType.kickerPoster);
     const QString space(QLatin1Char(' '));
     const double pitch = Layout::kColumn / double(std::max<std::size_t>(poster.figures.size(), 1));
-    QFont font = postertext::font(kType.titleL); // one for all, in which the longest fits
+    QFont font = postertext::font(kType.titleL); // one size for all, in which the longest fits
     for (const auto& [figure, title] : poster.figures)
         font = postertext::fitted(font, figure.value + space + figure.unit, pitch - kFigureGap);
     double x = Layout::kMargin;

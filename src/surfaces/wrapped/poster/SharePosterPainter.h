@@ -1,6 +1,6 @@
-// The poster of a review, drawn.
+// The painter of a review's poster.
 //
-// Needs an application object and no window; one thread at a time. Lengths in px of the poster.
+// Requires an application object; one thread at a time. Lengths in px of the poster.
 #pragma once
 
 #include "review/SharePoster.h"
@@ -11,11 +11,11 @@ class QPainter;
 
 namespace vantle::shareposter {
 
-/// How large the poster is: 422 wide, and as high as what stands on it.
+/// Returns the poster's size: 422 wide, as high as its content.
 [[nodiscard]] QSizeF size(const SharePoster& poster);
 
-/// Draws the whole poster, its ground included, with its upper left corner at the origin. `scale`
-/// is the number of device pixels in a px, which the painter accounts for already.
+/// Draws the poster with its background at the origin. `scale` is in device pixels per px; the
+/// painter already applies it.
 void draw(QPainter& painter, const SharePoster& poster, double scale);
 
 } // namespace vantle::shareposter
