@@ -1,5 +1,5 @@
 // What auto mode does at each switch of applications. The bound of a switch is the same signal to
-// somebody who does nothing with it; that of a suggestion, a walk over the letters of the name.
+// a listener that does nothing; that of a suggestion, a walk over the letters of the name.
 #include "Comparison.h"
 #include "base/Clock.h"
 #include "base/Scheduler.h"
@@ -36,14 +36,14 @@ private:
     std::optional<Application> m_front;
 };
 
-/// Somebody who never lets go of the keyboard.
+/// A user who is always at the keyboard.
 class Present final : public IdleSource {
 public:
     [[nodiscard]] std::optional<double> secondsSinceLastInput() override { return 0; }
     [[nodiscard]] bool canTell() const override { return true; }
 };
 
-/// Two known applications, a browser, and one that nobody has heard of.
+/// Two known applications, a browser, and an unknown one.
 const std::array<Application, 4>& applications() {
     static const std::array<Application, 4> all = {
         Application{QStringLiteral("com.apple.dt.Xcode"), QStringLiteral("Xcode")},
@@ -80,8 +80,8 @@ void activation(benchmark::State& state) {
     monitor.refreshFromDefaults();
 
     Desktop unwatched;
-    QObject nobody;
-    QObject::connect(&unwatched, &FrontmostApp::activated, &nobody, [] {});
+    QObject listener;
+    QObject::connect(&unwatched, &FrontmostApp::activated, &listener, [] {});
     switchThrough(desktop);
     compare(
         state, {Goal::Kind::NanosecondsEach, 50'000, kSwitches}, [&] { switchThrough(desktop); },

@@ -1,4 +1,4 @@
-// The layout of the capsule's chips, which is done anew each time a capsule is built. The bound is
+// The layout of the capsule's chips, which is done again each time a capsule is built. The bound is
 // the measuring of the names alone.
 #include "Comparison.h"
 #include "surfaces/capsule/CapsuleText.h"

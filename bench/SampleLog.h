@@ -1,4 +1,4 @@
-// The log that is measured: always the same records, as years of somebody's work would leave them.
+// The log that is measured: always the same records, like those of years of work.
 #pragma once
 
 #include "tracking/Session.h"

@@ -2,7 +2,7 @@
 // it saw, in a line: how soon after a turn the first frame of it came and the longest wait for a
 // frame in it, both in ms (medians of all turns, since other programs have their turns as well; the
 // first turn to a page, which makes it, and its later ones alike), the processor time of a frame in
-// ms, and the per cent of a core that the open window takes while nobody does anything.
+// ms, and the per cent of a core that the open window takes without input.
 #include "FrameClock.h"
 #include "SampleLog.h"
 #include "base/Clock.h"
@@ -43,7 +43,7 @@ double medianOf(std::vector<double> values) {
     return *middle;
 }
 
-/// What somebody saw of all turns.
+/// What a user saw of all turns.
 struct Seen {
     std::vector<double> first;   ///< ms
     std::vector<double> longest; ///< ms

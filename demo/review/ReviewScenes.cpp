@@ -96,7 +96,7 @@ Scene page(const char* name, Sample sample, WrappedPeriod period, const char* ca
     return made;
 }
 
-/// The same weeks of somebody who writes a lot.
+/// The same weeks of a user who writes a lot.
 std::vector<Session> wordyWeeks() {
     const std::array<QString, 4> parts = {QStringLiteral("webhook"), QStringLiteral("importer"),
                                           QStringLiteral("landing page"),

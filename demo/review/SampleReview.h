@@ -7,11 +7,11 @@
 
 namespace vantle {
 
-/// Two years of somebody who builds late at night. The week before that of sampleNow() has twelve
+/// Two years of a user who builds late at night. The week before that of sampleNow() has twelve
 /// sessions, the one that holds it nine, with notes.
 [[nodiscard]] std::vector<Session> nightOwlYears();
 
-/// Some weeks only: the first hours of somebody, which pass two milestones this month.
+/// Some weeks only: the first hours of a user, which pass two milestones this month.
 [[nodiscard]] std::vector<Session> firstWeeks();
 
 /// Three sessions on the day of sampleNow().

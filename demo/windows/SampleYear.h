@@ -1,4 +1,4 @@
-// A made-up log: some weeks of somebody who builds, designs and talks to people.
+// A made-up log: some weeks of a user who builds, designs and talks to people.
 #pragma once
 
 #include "tracking/Session.h"

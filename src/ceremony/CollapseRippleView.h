@@ -1,4 +1,4 @@
-// The end of a session: a ring around the screen's centre that closes.
+// The end of a session: a ring that closes on the centre.
 #pragma once
 
 #include "platform/OverlayView.h"

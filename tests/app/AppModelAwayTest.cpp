@@ -1,4 +1,4 @@
-// What becomes of a session while nobody can work: locked screens, suspended machines, a program
+// Sessions while the user cannot work: locked screens, suspended machines, a program
 // that is stopped.
 #include "app/ModelWorld.h"
 #include "support/Text.h"

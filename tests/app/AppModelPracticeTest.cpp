@@ -30,7 +30,7 @@ TEST_F(AppModelPracticeTest, APracticeSessionIsShownButLeavesNoTraceInTheLog) {
     EXPECT_EQ(world.note(), QString());
 }
 
-TEST_F(AppModelPracticeTest, PracticeOfSomebodyWhoHasBeenThroughTheWelcomeLeavesNoTraceEither) {
+TEST_F(AppModelPracticeTest, PracticeAfterTheWelcomeLeavesNoRecordEither) {
     AppModel& model = launched();
     model.startPractice();
     EXPECT_TRUE(model.isPractice());

@@ -50,7 +50,7 @@ TEST(ThreadQueue, RunsASynchronousJobAfterAllThatWasQueued) {
     EXPECT_EQ(order, (std::vector{1, 2}));
 }
 
-TEST(ThreadQueue, RunsOneJobAtATimeWhoeverSentIt) {
+TEST(ThreadQueue, RunsOneJobAtATimeFromAnyThread) {
     ThreadQueue queue(kLabel);
     std::atomic<int> running = 0;
     std::atomic<int> most = 0;

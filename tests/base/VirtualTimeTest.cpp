@@ -173,7 +173,7 @@ TEST_F(VirtualTimeTest, RunsQueuesBeforePostedWorkAfterEachTimer) {
     EXPECT_EQ(m_order, (std::vector{1, 2, 3, 1, 2, 3}));
 }
 
-TEST(ManualQueue, WaitsUntilSomebodyRunsIt) {
+TEST(ManualQueue, RunsJobsOnlyOnRequest) {
     ManualQueue queue;
     std::vector<int> order;
     queue.async([&] { order.push_back(1); });

@@ -26,7 +26,7 @@ struct ShownWindow {
     Date start{};                           ///< of a view
 };
 
-/// Windows in the order in which they were put up, as long as somebody keeps them.
+/// Windows in the order in which they were put up, as long as they have an owner.
 class ShownWindows {
 public:
     std::unique_ptr<OverlayWindow> add(ShownWindow window) {

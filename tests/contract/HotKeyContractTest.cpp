@@ -25,7 +25,8 @@ public:
     [[nodiscard]] virtual HotKeyPort& port() = 0;
     /// Presses the combination, and sees that the press arrives.
     virtual void press() = 0;
-    /// Another program takes the combination, or gives it back. Nothing where nobody tells of that.
+    /// Another program takes the combination, or gives it back. Has no effect where the port is not
+    /// told.
     virtual void setHeldByAnother(bool /*held*/) {}
     /// The keyboard has the combination no more, or again.
     virtual void setOnKeyboard(bool present) = 0;

@@ -22,7 +22,7 @@ namespace {
 class PowerWorld {
 public:
     virtual ~PowerWorld() = default;
-    /// Makes the port; before that nobody listens.
+    /// Makes the port, which starts to listen.
     [[nodiscard]] virtual ScreenPower& begin() = 0;
     /// Sends the screens to sleep, or says once more that they do. Wakes them likewise.
     virtual void sleep() = 0;
@@ -268,7 +268,7 @@ TEST_P(ScreenPowerContract, WhatHoldsAlreadyIsNotToldAgain) {
     EXPECT_EQ(m_told, (QStringList{QStringLiteral("slept"), QStringLiteral("woke")}));
 }
 
-TEST_P(ScreenPowerContract, ScreensThatSleptBeforeAnybodyListenedAreAsleep) {
+TEST_P(ScreenPowerContract, ScreensThatSleptBeforeConstructionAreAsleep) {
     sleep();
     const ScreenPower& power = begin();
     EXPECT_TRUE(power.asleep());

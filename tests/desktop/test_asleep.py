@@ -1,4 +1,4 @@
-"""Time in which nobody can work: the screen is locked, or the program stands still."""
+"""Time that must not count: the screen is locked, or the program is stopped."""
 
 import signal
 import socket

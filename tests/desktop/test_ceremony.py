@@ -118,7 +118,7 @@ class Show(CeremonyCase):
         self.await_overlays()  # what was up at first may have been the ring of the end
         self.assert_all_gone(pressed)
 
-    def test_whoever_switched_it_off_sees_nothing(self):
+    def test_switched_off_it_shows_nothing(self):
         self.vantle.write_preferences(ripple__disabled="true")
         self.launch()
         self.begin_session()

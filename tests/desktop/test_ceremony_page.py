@@ -140,7 +140,7 @@ class Page(CeremonyCase):
         self.desktop.press(SHORTCUT)
         self.await_square()
 
-    def test_a_page_reaches_nobody_over_the_network(self):
+    def test_a_page_has_no_network(self):
         with socket.create_server(("127.0.0.1", 0)) as server:
             server.settimeout(2.5)
             self.launch_with("reachOut", f"127.0.0.1:{server.getsockname()[1]}")

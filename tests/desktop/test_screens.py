@@ -72,7 +72,7 @@ class TwoScreens(TwoScreensCase):
 
     def test_the_alert_opens_on_the_screen_with_the_pointer(self):
         self.go_to(self.RIGHT)
-        self.desktop.env["VANTLE_AUTOSTART"] = "1"  # a start that nobody asked for
+        self.desktop.env["VANTLE_AUTOSTART"] = "1"  # a start at login
         self.new_program().start()
         x, _, width, _ = self.frame("Vantle")
         self.assertAlmostEqual(x + width / 2, 1080, delta=20)

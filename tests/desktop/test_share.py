@@ -68,7 +68,7 @@ class Share(ReaderCase):
         self.assertEqual(self.vantle.stop(), 0)
         self.assertEqual(manager.taken, copied)
 
-    def test_the_poster_is_saved_where_the_person_says_and_the_clock_waits_for_nobody(self):
+    def test_the_poster_is_saved_where_the_user_says_while_the_clock_runs_on(self):
         self.press("Save image…")
         self.await_dialog()
         self.desktop.screenshot("dialog")

@@ -1,4 +1,4 @@
-"""What plays over the windows of a Wayland session, and that it is in nobody's way."""
+"""The ceremony over the windows of a Wayland session, which still get all input."""
 
 import time
 

@@ -32,7 +32,7 @@ class WindowIcons(IconCase):
 
     def test_the_alert_brings_its_icon_along(self):
         self.launch()
-        self.desktop.env["VANTLE_AUTOSTART"] = "1"  # a start that nobody asked for
+        self.desktop.env["VANTLE_AUTOSTART"] = "1"  # a start at login
         self.new_program().start()
         alert, = wait_until("the alert", lambda: self.desktop.windows_named("Vantle"))
         self.assert_icon(alert)

@@ -31,7 +31,7 @@ public:
     }
     int accepted = 0; ///< how often the user took the help
 
-    /// In front now. A change by this way is told to nobody.
+    /// In front now. Emits no signal.
     std::optional<Application> application;
 
 private:

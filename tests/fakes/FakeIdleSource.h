@@ -18,7 +18,7 @@ public:
     /// Reads `seconds` plus what has passed since this call, sleep of the machine included.
     void growFrom(double seconds) { set(seconds, true); }
 
-    /// Somebody touches the machine now, and not again.
+    /// The user touches the machine now, and not again.
     void touch() { growFrom(0); }
 
     /// The desktop does not tell now.

@@ -28,7 +28,7 @@ public:
         Q_EMIT woke();
     }
 
-    /// Sleeps without a notification, as screens do that slept before anybody listened.
+    /// Sleeps without a signal, like screens that slept before the construction.
     void beAsleep() { m_asleep = true; }
 
 private:

@@ -25,7 +25,7 @@ public:
     void removeAll() override;
     void synchronize() override {}
 
-    /// Puts a text there as an editor outside the program would, without a word to anybody.
+    /// Stores a text without a signal, like an editor outside the program.
     void setRaw(const QString& key, const QString& text) { m_texts[key] = text; }
 
     /// Takes a key away, likewise.

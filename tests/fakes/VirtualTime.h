@@ -19,7 +19,7 @@
 
 namespace vantle::fakes {
 
-/// A queue whose asynchronous jobs wait until somebody runs them: a synchronous job, a drain, or
+/// A queue whose asynchronous jobs wait until they are run: a synchronous job, a drain, or
 /// the virtual time settling.
 class ManualQueue final : public SerialQueue {
 public:

@@ -36,7 +36,8 @@ private:
     QString& m_shown;
 };
 
-/// A machine on which copies of the program are started, by somebody who knows it already.
+/// A machine on which copies of the program are started, by a user who has been through the
+/// welcome.
 class AppDelegateWorld : protected fakes::FakeDesktop {
 protected:
     AppDelegateWorld() {

@@ -93,7 +93,7 @@ class Channels(dbus.service.Object):
         self.values.append((str(channel), str(name), type(value), bool(value)))
 
 
-class Deaf(dbus.service.Object):
+class Unresponsive(dbus.service.Object):
     """Takes calls and never answers."""
 
     @dbus.service.method(NOTIFICATIONS, async_callbacks=("answer", "fail"))
@@ -222,7 +222,7 @@ class DoNotDisturb(unittest.TestCase):
 
     def test_service_that_never_answers_holds_it_up_for_seconds_only(self):
         self.bus.request_name(NOTIFICATIONS)
-        Deaf(self.bus, "/org/freedesktop/Notifications")
+        Unresponsive(self.bus, "/org/freedesktop/Notifications")
         self.press("on")
 
 

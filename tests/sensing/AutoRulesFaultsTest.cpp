@@ -101,7 +101,7 @@ TEST_F(AutoRulesFaultsTest, AReadOnlyDiskIsToldToo) {
     EXPECT_TRUE(areSeeds());
 }
 
-TEST_F(AutoRulesFaultsTest, AFailureThatComesAfterTheEndReachesNobody) {
+TEST_F(AutoRulesFaultsTest, AFailureAfterTheEndIsDropped) {
     files.fail(Operation::Create, temporaryFile, EROFS);
     {
         AutoRules gone(rulesEnvironment());

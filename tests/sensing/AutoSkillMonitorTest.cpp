@@ -151,7 +151,7 @@ TEST_F(AutoSkillMonitorTest, KeepsTheServedTimeForTwentySecondsThatLastIncluded)
     EXPECT_THAT(takeCalls(), ElementsAre("retag building"));
 }
 
-TEST_F(AutoSkillMonitorTest, BeginsAnewAfterMoreThanTwentySecondsElsewhere) {
+TEST_F(AutoSkillMonitorTest, RestartsAfterMoreThanTwentySecondsElsewhere) {
     beRunning("marketing");
     start();
     activate(xcode);
@@ -306,7 +306,7 @@ TEST_F(AutoSkillMonitorTest, StartsASessionAfterTwoMinutesIfThePersonWantsThat) 
     EXPECT_THAT(takeCalls(), ElementsAre("start building"));
 }
 
-TEST_F(AutoSkillMonitorTest, BeginsTheTwoMinutesAnewAtEverySwitch) {
+TEST_F(AutoSkillMonitorTest, RestartsTheTwoMinutesAtEverySwitch) {
     turnOnAutoStart();
     start();
     activate(xcode);
@@ -318,7 +318,7 @@ TEST_F(AutoSkillMonitorTest, BeginsTheTwoMinutesAnewAtEverySwitch) {
     EXPECT_THAT(takeCalls(), ElementsAre("start building"));
 }
 
-TEST_F(AutoSkillMonitorTest, StartsNothingForSomebodyWhoWentAway) {
+TEST_F(AutoSkillMonitorTest, StartsNothingForAnAbsentUser) {
     turnOnAutoStart();
     start();
     source.touch();
@@ -333,7 +333,7 @@ TEST_F(AutoSkillMonitorTest, StartsNothingForSomebodyWhoWentAway) {
     EXPECT_THAT(takeCalls(), ElementsAre("start building"));
 }
 
-TEST_F(AutoSkillMonitorTest, TakesACounterThatCantBeToldForNobody) {
+TEST_F(AutoSkillMonitorTest, StartsNothingWithAnUnknownCounter) {
     turnOnAutoStart();
     start();
     source.becomeUnknown();
@@ -364,7 +364,7 @@ TEST_F(AutoSkillMonitorTest, StartsNothingWhenThePersonChangedTheirMind) {
     EXPECT_THAT(takeCalls(), IsEmpty());
 }
 
-TEST_F(AutoSkillMonitorTest, DoesNothingWithoutAnybodyToTell) {
+TEST_F(AutoSkillMonitorTest, DoesNothingWithoutHooks) {
     monitor->onRetagSuggested = {};
     monitor->onAutoStart = {};
     monitor->sessionState = {};

@@ -77,7 +77,7 @@ TEST_F(HotKeyTest, DeliversEveryPress) {
     EXPECT_EQ(presses, 2);
 }
 
-TEST_F(HotKeyTest, TakesAPressThatNobodyWaitsFor) {
+TEST_F(HotKeyTest, AcceptsAPressWithoutAListener) {
     hotKey->onPressed = nullptr;
     hotKey->registerHotKey();
     EXPECT_TRUE(port.press());
@@ -238,7 +238,7 @@ TEST_F(HotKeyTest, WhereNoWordIsTakenNoneIsGiven) {
     EXPECT_EQ(settings::hotKeyAllowed.read(preferences), QString());
 }
 
-TEST_F(HotKeyTest, ALostCombinationIsGivenBackAndCanBeRegisteredAnew) {
+TEST_F(HotKeyTest, ALostCombinationIsReleasedAndCanBeRegisteredAgain) {
     hotKey->registerHotKey();
     port.become({Registration::Failed, -2});
     hotKey->registerHotKey();

@@ -124,7 +124,7 @@ struct Person {
     }
 };
 
-Person somebody(int longestAbsence) {
+Person randomPerson(int longestAbsence) {
     Person person{{0.0}, 600.0};
     const auto eighths =
         *rc::gen::container<std::vector<int>>(20, rc::gen::inRange(1, longestAbsence * 8));
@@ -137,9 +137,9 @@ Person somebody(int longestAbsence) {
 }
 
 RC_GTEST_PROP(IdleHistory, NeverShowsPresenceOverAnAbsence, ()) {
-    const Person person = somebody(300);
+    const Person person = randomPerson(300);
     const double cutoff = *rc::gen::inRange(0, 4800) / 8.0;
-    // The open end is left to whoever reads the counter now.
+    // The open end is for the current reading.
     const double last = person.now - person.touches.back();
     RC_PRE(last < kThreshold);
     const bool wasAway = person.longestAbsenceSince(cutoff) >= kThreshold;
@@ -150,7 +150,7 @@ RC_GTEST_PROP(IdleHistory, NeverShowsPresenceOverAnAbsence, ()) {
 
 RC_GTEST_PROP(IdleHistory, ShowsPresenceOfAPersonWhoNeverPausesForLong, ()) {
     // Shorter than the threshold by one poll: an absence can't be told any finer.
-    const Person person = somebody(static_cast<int>(kThreshold) - 10);
+    const Person person = randomPerson(static_cast<int>(kThreshold) - 10);
     const double cutoff = *rc::gen::inRange(0, 4800) / 8.0;
     RC_ASSERT(person.polledEveryTenSeconds().showsPresenceSince(at(cutoff), kThreshold));
 }

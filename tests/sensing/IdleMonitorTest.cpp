@@ -130,7 +130,7 @@ TEST_F(IdleMonitorTest, LeavesNoTimerAndNoListenerBehind) {
     EXPECT_THAT(takeCalls(), IsEmpty());
 }
 
-TEST_F(IdleMonitorTest, NeedsNobodyToListen) {
+TEST_F(IdleMonitorTest, WorksWithoutCallbacks) {
     monitor->onIdleBegan = nullptr;
     monitor->onActivityResumed = nullptr;
     monitor->onScreensSlept = nullptr;
@@ -257,7 +257,7 @@ TEST_F(IdleMonitorTest, TellsOfAReturnAndANewAbsenceWhenTheScreensWakeByThemselv
     EXPECT_THAT(takeCalls(), IsEmpty());
 }
 
-TEST_F(IdleMonitorTest, TreatsThePollAfterASleepAsAReturnWhoeverWokeTheScreens) {
+TEST_F(IdleMonitorTest, TreatsThePollAfterASleepAsAReturnWithOrWithoutInput) {
     source.fix(5);
     monitor->start();
     screens.sleep();
@@ -290,7 +290,7 @@ TEST_F(IdleMonitorTest, TellsOfTheWakeOnceThePersonIsBack) {
     EXPECT_THAT(takeCalls(), ElementsAre("screens woke"));
 }
 
-TEST_F(IdleMonitorTest, DoubtsASleepInWhichSomebodyTypesForAMinute) {
+TEST_F(IdleMonitorTest, AMinuteOfInputEndsTheSleepOfTheScreens) {
     source.fix(0.25);
     monitor->start();
     screens.sleep();

@@ -72,7 +72,7 @@ TEST_F(TagPromptTest, AsksNothingAboutWhereTheSessionBegan) {
     EXPECT_THAT(takeCalls(), ElementsAre("ask org.files Files"));
 }
 
-TEST_F(TagPromptTest, ShowsNoCardToSomebodyWhoWentAway) {
+TEST_F(TagPromptTest, ShowsNoCardToAnAbsentUser) {
     source.touch();
     stayIn(finder);
     EXPECT_THAT(takeCalls(), IsEmpty());
@@ -121,7 +121,7 @@ TEST_F(TagPromptTest, WaitsHalfAnHourForOneThatWasForgottenMeanwhile) {
     EXPECT_TRUE(monitor->mayOfferCorrectionPrompt(finder.bundleId));
 }
 
-TEST_F(TagPromptTest, WaitsForNothingWhenNobodyCouldAsk) {
+TEST_F(TagPromptTest, StartsNoTimerWithoutACardToAsk) {
     monitor->onTagPromptSuggested = {};
     activate(finder);
     EXPECT_EQ(time.timerCount(), 0u);

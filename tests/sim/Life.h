@@ -1,4 +1,4 @@
-// Months of somebody's days with the program, chosen by a seed.
+// Months of a user's days with the program, chosen by a seed.
 #pragma once
 
 #include "app/ModelWorld.h"

@@ -31,16 +31,16 @@ TEST(Life, KeepsItsPromises) {
     int splits = 0;
     for (std::uint32_t life = 0; life < (one ? 1 : kLives); ++life) {
         const std::uint32_t seed = first + life;
-        Life somebody(seed);
+        Life user(seed);
         for (int day = 1; day <= kDays; ++day) {
-            const QStringList broken = somebody.day();
+            const QStringList broken = user.day();
             ASSERT_TRUE(broken.isEmpty()) << "VANTLE_SIM_SEED=" << seed << " day " << day << ": "
                                           << broken.join(QStringLiteral("; ")).toStdString()
-                                          << "\nafter " << somebody.story().toStdString();
+                                          << "\nafter " << user.story().toStdString();
         }
-        kills += somebody.promises.killsChecked;
-        started += somebody.sessionsByItself;
-        splits += somebody.splits;
+        kills += user.promises.killsChecked;
+        started += user.sessionsByItself;
+        splits += user.splits;
     }
     std::cout << kills << " kills checked, " << started << " auto starts, " << splits << " splits"
               << std::endl;
@@ -116,7 +116,7 @@ TEST_F(PromisesTest, FindAMarkerWithoutASession) {
     expectBroken("without a session there is no marker");
 }
 
-TEST_F(PromisesTest, FindTimeThatNobodyWorked) {
+TEST_F(PromisesTest, FindTimeWithoutWork) {
     life.world.press();
     advance(60);
     life.world.model->tracker().debugAdvance(3600);

@@ -24,7 +24,7 @@ public:
     void noteGarbage(const QByteArray& line) { m_garbage.append(line); }
     void noteClockSet();
     void noteDiskBroken(bool broken);
-    /// Time in which nobody could work passes from now on, or no longer: the screens sleep, or the
+    /// Whether the user cannot work from now on: the screens sleep, or the
     /// program is stopped.
     void noteUnable(bool unable);
 

@@ -43,7 +43,7 @@ Story twoSessions() {
 
 class CrashSimulation : public testing::Test {
 protected:
-    /// Puts on the disk what was there before the story; called anew for each death.
+    /// Puts on the disk what was there before the story; called again for each crash.
     std::function<void(fakes::MemoryFileSystem&)> prepare = [](fakes::MemoryFileSystem& disk) {
         disk.setContent(QStringLiteral("/data/Vantle/sessions.jsonl"), kOldLog);
     };

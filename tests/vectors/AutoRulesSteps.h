@@ -23,7 +23,7 @@ public:
 private:
     DataFolder& m_folder;
     SerialQueue& m_queue;
-    fakes::MemoryPreferences m_preferences; ///< of its own, so that nobody hears of it
+    fakes::MemoryPreferences m_preferences; ///< separate, so that no other object sees it
     std::optional<SkillList> m_skills;      ///< replaced in place
 };
 

@@ -1,4 +1,4 @@
-// How somebody works: the persona of some sessions, and the tables behind it.
+// The persona of some sessions, and the tables behind it.
 #include "vectors/NeutralRecords.h"
 #include "vectors/StatsJson.h"
 #include "vectors/forms.h"

@@ -1,4 +1,4 @@
-// One ceremony page over one screen. It can speak to the program, and to nobody else.
+// One ceremony page over one screen. It can send messages to the program alone.
 pragma ComponentBehavior: Bound
 
 import QtQuick

@@ -44,7 +44,7 @@ SocketExchange::SocketExchange(Request request, Scheduler& scheduler, QObject& o
 }
 
 SocketExchange::~SocketExchange() {
-    m_socket->disconnect(); // nobody is told any more
+    m_socket->disconnect(); // no more callbacks
     m_socket->abort();
     m_socket->deleteLater(); // it may be what is calling
 }

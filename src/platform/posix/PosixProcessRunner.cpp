@@ -60,7 +60,7 @@ private:
 PosixProcessRunner::~PosixProcessRunner() {
     for (QObject* child : m_processes.children()) {
         auto* const process = static_cast<QProcess*>(child);
-        process->disconnect(); // nobody is told any more
+        process->disconnect(); // no more callbacks
         process->kill();
         process->waitForFinished();
     }

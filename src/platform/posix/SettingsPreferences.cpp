@@ -29,7 +29,7 @@ void SettingsPreferences::load() {
         const QVariant value = m_settings.value(key);
         if (value.typeId() == QMetaType::QString) m_values[key] = value.toString();
     }
-    m_settings.allKeys(); // parses the groups that nobody has asked for yet, too
+    m_settings.allKeys(); // parses the groups that were not read yet too
     if (m_settings.status() == QSettings::FormatError) m_original = Original::Unparsed;
     if (m_files.exists(m_path) && !m_files.readAll(m_path)) m_original = Original::Unreadable;
 }

@@ -1,4 +1,4 @@
-// The silent end of the program after the loss of the X server.
+// The silent end of the program when the X server goes.
 #pragma once
 
 namespace vantle {

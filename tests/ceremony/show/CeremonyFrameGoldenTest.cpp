@@ -1,4 +1,4 @@
-// Frames as they were when somebody last looked at them and found them right. After a change of
+// Frames as last reviewed by eye. After a change of
 // looks, look at them again (ceremony_frames writes pictures) and take over the new fingerprints.
 //
 // Every build has to come to the same bytes: optimised, with sanitizers, by either compiler.

@@ -22,7 +22,7 @@ def connected(desktop):
 
 
 def owner_of(desktop, name):
-    """The connection that owns the name; none if nobody does."""
+    """The connection that owns the name; None without an owner."""
     with connected(desktop) as connection:
         return connection.get_name_owner(name) if connection.name_has_owner(name) else None
 

@@ -218,7 +218,7 @@ class Desktop:
 
 
 def _process_behind(path):
-    """Who listens at the socket, as the kernel tells whoever is connected to it."""
+    """The process that listens at the socket, as the kernel tells its clients."""
     with socket.socket(socket.AF_UNIX) as connection:
         connection.connect(path)
         process_user_group = "3i"

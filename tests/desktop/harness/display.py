@@ -121,7 +121,7 @@ class Display:
 
     def keyboard(self):
         """The windows that get what is typed: the one with the focus and those above it, except
-        the root. Empty when nobody has it."""
+        the root. Empty when no window has it."""
         focus, revert = ctypes.c_ulong(), ctypes.c_int()
         self._x11.XGetInputFocus(self._display, focus, revert)
         found, here = [], focus.value

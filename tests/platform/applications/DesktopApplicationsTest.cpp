@@ -87,7 +87,7 @@ TEST_F(DesktopApplicationsTest, FolderThatComesLaterIsSeen) {
     EXPECT_TRUE(tests::await([&] { return identify("Window").bundleId == text("tool"); }));
 }
 
-TEST_F(DesktopApplicationsTest, ChangesBesideAFolderThatIsToComeReadNothingAnew) {
+TEST_F(DesktopApplicationsTest, ChangesBesideAMissingFolderCauseNoSecondRead) {
     write("system/tool.desktop", "Name=Tool\n");
     EXPECT_EQ(identify("tool").name, text("Tool"));
     write("beside.txt", "");

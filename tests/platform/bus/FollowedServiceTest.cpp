@@ -155,7 +155,7 @@ TEST_F(FollowedServiceTest, AnAnswerOfAFormerOwnerIsDropped) {
     EXPECT_EQ(m_failed, 0);
 }
 
-TEST_F(FollowedServiceTest, HearsTheServiceAndNobodyElse) {
+TEST_F(FollowedServiceTest, HearsTheServiceAlone) {
     QStringList heard, forAda;
     const auto into = [](QStringList& list) {
         return [&list](const QDBusMessage& signal) {

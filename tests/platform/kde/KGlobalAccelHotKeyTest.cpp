@@ -133,7 +133,7 @@ TEST_F(KGlobalAccelHotKeyTest, ErrorIsAFailure) {
     EXPECT_EQ(m_outcome.status, KGlobalAccelHotKey::kNoAnswer);
 }
 
-TEST_F(KGlobalAccelHotKeyTest, ServiceThatHangsIsWaitedForByNobody) {
+TEST_F(KGlobalAccelHotKeyTest, HangingServiceBlocksNothing) {
     appear();
     m_desktop.hesitates = true;
     EXPECT_EQ(m_key->registerKey().registration, Registration::Waiting);

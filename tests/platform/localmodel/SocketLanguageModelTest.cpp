@@ -232,7 +232,7 @@ TEST_F(SocketLanguageModelTest, ServerThatNeverAnswersIsLeftAfterThreeMinutes) {
 TEST_F(SocketLanguageModelTest, ServerThatNeverAcceptsIsLeftAfterThreeMinutes) {
     startServer();
     const auto session = m_model.openSession(q("Be short."));
-    ask(*session); // the kernel connects; nobody runs the server's event loop
+    ask(*session); // the kernel connects; the server's event loop does not run
     m_time.advance(180);
     EXPECT_EQ(m_told, 1);
     EXPECT_EQ(m_answer, std::nullopt);
@@ -253,7 +253,7 @@ TEST_F(SocketLanguageModelTest, SocketWhoseServerIsGoneGivesNothing) {
     EXPECT_EQ(answerOf(), std::nullopt);
 }
 
-TEST_F(SocketLanguageModelTest, SessionThatIsDroppedHangsUpAndTellsNobody) {
+TEST_F(SocketLanguageModelTest, DroppedSessionHangsUpWithoutAnAnswer) {
     startServer();
     auto session = m_model.openSession(q("Be short."));
     ask(*session);

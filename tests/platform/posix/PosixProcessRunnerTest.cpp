@@ -30,7 +30,7 @@ QByteArray contentOf(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// The children of this process, ended ones that nobody asked about included.
+/// The children of this process, unreaped ones included.
 QList<QByteArray> children() {
     const QByteArray self = QByteArray::number(::getpid());
     const QByteArray all =
@@ -105,8 +105,8 @@ TEST_F(PosixProcessRunnerTest, DetachedCommandsLeaveNoChildAndNothingWaits) {
     ::kill(sleeper, SIGKILL);
 }
 
-TEST_F(PosixProcessRunnerTest, WhatADetachedCommandPrintsHoldsUpNobody) {
-    // Ten times what a pipe holds; one that nobody reads would stop it.
+TEST_F(PosixProcessRunnerTest, OutputOfADetachedCommandBlocksNothing) {
+    // Ten times what a pipe holds; an unread pipe would block it.
     ASSERT_TRUE(m_runner->startDetached(shell(
         "head -c 700000 /dev/zero; head -c 700000 /dev/zero >&2; : >\"$0\"", {path("done")})));
     EXPECT_TRUE(tests::await([&] { return QFile::exists(path("done")); }));

@@ -62,7 +62,7 @@ TEST_F(TerminationSignalsTest, EachReachesTheCallbackInOrder) {
     EXPECT_THAT(m_heard, testing::ElementsAre(SIGHUP, SIGTERM, SIGTERM, SIGINT));
 }
 
-TEST_F(TerminationSignalsTest, CallOnTheMainThreadWhoeverGotTheSignal) {
+TEST_F(TerminationSignalsTest, CallOnTheMainThreadForASignalOnAnyThread) {
     std::optional<bool> onMainThread;
     const TerminationSignals signals([&](int) {
         onMainThread = QThread::currentThread() == QCoreApplication::instance()->thread();

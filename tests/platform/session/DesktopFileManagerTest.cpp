@@ -107,7 +107,7 @@ TEST_F(DesktopFileManagerTest, SlowFileManagerIsWaitedForAndTheFolderOpensOnce) 
     m_files.reveal(QStringLiteral("/srv/data/log"));
     EXPECT_LT(timer.elapsed(), 500) << "the program goes on";
     ASSERT_TRUE(await([&] { return !manager.shown.isEmpty(); }));
-    tests::runFor(2300); // longer than anyone's patience
+    tests::runFor(2300); // longer than any time limit elsewhere
     EXPECT_EQ(manager.shown.size(), 1);
     EXPECT_TRUE(m_runner.detached.empty());
 }

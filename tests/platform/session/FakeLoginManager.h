@@ -115,7 +115,7 @@ public:
     [[nodiscard]] bool isInhibited() const {
         if (m_readEnd < 0) return false;
         char byte = 0;
-        return ::read(m_readEnd, &byte, 1) != 0; // 0 is the end: nobody has the other side
+        return ::read(m_readEnd, &byte, 1) != 0; // 0 is end of file: the other side is closed
     }
 
     Q_INVOKABLE QDBusUnixFileDescriptor Inhibit(const QString& what, const QString& who,

@@ -55,7 +55,7 @@ TEST_F(LoginScreenPowerTest, SuspendedMachineSleepsUntilItIsBack) {
     EXPECT_EQ(m_woke, 1);
 }
 
-TEST_F(LoginScreenPowerTest, MachineWaitsForTheListenersBeforeItSleepsAndEachTimeAnew) {
+TEST_F(LoginScreenPowerTest, MachineWaitsForTheListenersBeforeEachSleep) {
     m_manager.appear();
     const auto power = met();
     for (int night = 1; night <= 2; ++night) {

@@ -29,7 +29,7 @@ public:
 
     [[nodiscard]] QByteArray address() const { return "unix:path=" + path(); }
 
-    /// Whether somebody has called.
+    /// Whether a client has called.
     [[nodiscard]] bool hasCaller() const {
         pollfd waiting{m_socket, POLLIN, 0};
         return ::poll(&waiting, 1, 0) == 1;

@@ -58,7 +58,7 @@ TEST_F(SessionScreenPowerTest, SignalFromAnOlderPathCounts) {
     EXPECT_TRUE(await([&] { return power.asleep(); }));
 }
 
-TEST_F(SessionScreenPowerTest, SignalOfSomebodyElseDoesntCount) {
+TEST_F(SessionScreenPowerTest, SignalOfAnotherSenderDoesNotCount) {
     m_freedesktop.appear();
     SessionScreenPower power(m_session.bus());
     auto signal = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/ScreenSaver"),

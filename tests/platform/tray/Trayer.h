@@ -13,7 +13,7 @@ namespace vantle::tests {
 class Trayer {
 public:
     /// Returns when it shows. An item that docks while trayer starts, as one that waits for a tray
-    /// does, may leave it without a visible panel for good; then it is started anew.
+    /// does, may leave it without a visible panel for good; then it is started again.
     explicit Trayer(const QString& options = {}) {
         for (int attempt = 0; attempt < 5; ++attempt) {
             start(options);
@@ -46,7 +46,7 @@ private:
         return !outputOf(QStringLiteral("xdotool search --onlyvisible --class trayer")).isEmpty();
     }
 
-    /// Whether the server has anybody as its tray.
+    /// Whether the server has a tray.
     bool isThere() {
         auto* xcb = m_connection.xcb();
         const QByteArray name("_NET_SYSTEM_TRAY_S0");

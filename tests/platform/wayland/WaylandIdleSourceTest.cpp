@@ -104,7 +104,7 @@ TEST_P(WaylandIdleSourceTest, WhoTypesThroughAFilmIsNeverAway) {
     EXPECT_LT(*reading(), 60.0) << "the film is not part of the absence";
 }
 
-TEST_P(HeldBackTest, AFilmNobodyLooksAtIsNeitherPresenceNorAbsence) {
+TEST_P(HeldBackTest, AnInhibitorWithoutInputIsNeitherPresenceNorAbsence) {
     type(2);
     pass(3);
     m_compositor.inhibit(true);

@@ -52,7 +52,7 @@ TEST_F(X11PointerPressesTest, TheWheelAndTheMiddleButtonAreNoPresses) {
     EXPECT_EQ(places, std::vector<QPoint>{QPoint(701, 501)});
 }
 
-TEST_F(X11PointerPressesTest, NothingIsToldWhileNobodyWatches) {
+TEST_F(X11PointerPressesTest, ReportsNothingWhileUnwatched) {
     click({700, 500}, 1);
     presses.watch();
     presses.ignore();

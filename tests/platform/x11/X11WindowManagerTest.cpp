@@ -68,7 +68,7 @@ protected:
     QList<bool> m_told;
 };
 
-TEST_F(X11WindowManagerTest, NobodyMinimisesWithoutAWindowManager) {
+TEST_F(X11WindowManagerTest, WindowsDoNotMinimiseWithoutAWindowManager) {
     EXPECT_FALSE(m_manager.canMinimise());
 }
 

@@ -84,7 +84,7 @@ TEST_F(NoteNarrativeTest, NotesAreTrimmedAndEmptyOnesLeftOut) {
     EXPECT_THAT(prompts(), ElementsAre(narrativetext::question(m_notes)));
 }
 
-TEST_F(NoteNarrativeTest, FewerThanTwoNotesOrFortyCharactersGiveNothingAndAskNobody) {
+TEST_F(NoteNarrativeTest, FewerThanTwoNotesOrFortyCharactersGiveNothingWithoutAsking) {
     const QString nineteen = q("a").repeated(19);
     for (const QStringList& notes :
          {QStringList(), QStringList{q("one long note ").repeated(10)},
@@ -213,7 +213,7 @@ TEST_F(NoteNarrativeTest, PeriodCanChangeWhileTheAnswerIsAskedAgain) {
     EXPECT_EQ(m_told, 0);
 }
 
-TEST_F(NoteNarrativeTest, RequestThatIsDroppedBeforeItsNothingTellsNobody) {
+TEST_F(NoteNarrativeTest, DroppedRequestIsNotAnswered) {
     auto request = ask({});
     request.reset();
     m_time.advance(1);

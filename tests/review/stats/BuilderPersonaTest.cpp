@@ -27,7 +27,7 @@ std::vector<Session> ofSkills(const std::vector<std::int64_t>& lengths) {
     return sessions;
 }
 
-TEST(BuilderPersona, NoSessionsAreNobody) {
+TEST(BuilderPersona, NoSessionsHaveNoPersona) {
     EXPECT_EQ(compute({}, kUtc, DurationStyle::Natural), std::nullopt);
 }
 
@@ -146,11 +146,11 @@ TEST(BuilderPersona, TheLinesOfQuickHitterCoverEveryPartOfTheDay) {
 }
 
 TEST(BuilderPersona, AnUnknownNameHasTheColoursOfAllRounder) {
-    const QString nobody = QStringLiteral("Nobody");
-    EXPECT_EQ(gradient(nobody).start, 0xACF35Cu);
-    EXPECT_EQ(gradient(nobody).end, 0x30D158u);
-    EXPECT_EQ(symbol(nobody), QStringLiteral("hammer.fill"));
-    EXPECT_EQ(line(nobody, DayPart::Night), QString());
+    const QString unknown = QStringLiteral("Nobody");
+    EXPECT_EQ(gradient(unknown).start, 0xACF35Cu);
+    EXPECT_EQ(gradient(unknown).end, 0x30D158u);
+    EXPECT_EQ(symbol(unknown), QStringLiteral("hammer.fill"));
+    EXPECT_EQ(line(unknown, DayPart::Night), QString());
     EXPECT_EQ(artworkName(QStringLiteral("Early Bird")), QStringLiteral("persona-early-bird"));
 }
 

@@ -1,4 +1,4 @@
-// Reviews of logs as people leave them, one row each: what somebody did, and what they are told.
+// Reviews of realistic logs: what a user did, and what the review says.
 #include "review/stats/ReviewSamples.h"
 
 #include <gtest/gtest.h>
@@ -158,7 +158,7 @@ TEST_P(RealisticLogs, AreToldWhatTheyDid) {
 
 INSTANTIATE_TEST_SUITE_P(All, RealisticLogs, testing::ValuesIn(rows()));
 
-TEST(Traveller, WorkIsSortedAnewByTheClockOfWhereTheyAre) {
+TEST(Traveller, WorkIsGroupedByTheCurrentTimeZone) {
     // In the evening in New York, which is after midnight in Berlin.
     const auto sessions = daily("2026-03-09T23:30:00Z", 5, 60);
     const auto in = [&](const char* zone) {

@@ -70,7 +70,7 @@ TEST_F(CapsuleOpeningTest, APointerThatIsBackUnnoticedKeepsItOpen) {
     EXPECT_TRUE(opening.isExpanded());
 }
 
-TEST_F(CapsuleOpeningTest, LeavingAgainStartsTheHalfSecondAnew) {
+TEST_F(CapsuleOpeningTest, LeavingAgainRestartsTheHalfSecond) {
     enter();
     leave();
     time.advance(0.4);

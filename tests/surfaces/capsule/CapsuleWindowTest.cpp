@@ -334,7 +334,7 @@ TEST_F(CapsuleWindowTest, ANewSkillTakesTheColourThatWasClicked) {
     EXPECT_EQ(world.calls, QStringList(text("add Writing ffd60a")));
 }
 
-TEST_F(CapsuleWindowTest, WhoeverClicksAnotherWindowHasTurnedAwayFromTheEditor) {
+TEST_F(CapsuleWindowTest, AClickOnAnotherWindowDismissesTheEditor) {
     raiseIdle();
     click(middleOf(text("New skill")));
     Q_EMIT window->panel().keyboardLost();

@@ -235,7 +235,7 @@ TEST_F(NotchCapsuleTest, AChangeOfSkillWithAFlashOpensItForAMoment) {
     EXPECT_FALSE(capsule->isExpanded());
 }
 
-TEST_F(NotchCapsuleTest, FadingAwayItClosesGoesDeafAndIsGoneIn028Seconds) {
+TEST_F(NotchCapsuleTest, FadingOutItClosesIgnoresInputAndIsGoneIn028Seconds) {
     make(world.idleForm());
     enter();
     bool gone = false;

@@ -126,7 +126,7 @@ TEST_F(StopSummaryTest, ATypedNoteIsHandedOverTrimmedAndOnce) {
     EXPECT_EQ(resolved.count(), 1);
 }
 
-TEST_F(StopSummaryTest, TheNoteIsDeliveredBeforeAnybodyHearsThatTheCardHasGone) {
+TEST_F(StopSummaryTest, TheNoteIsDeliveredBeforeTheSignalThatTheCardHasClosed) {
     show();
     model().submit();
     EXPECT_EQ(resolvedBeforeClose, 0);

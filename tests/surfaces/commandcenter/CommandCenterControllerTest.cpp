@@ -167,7 +167,7 @@ TEST_F(CommandCenterControllerTest, OnALowScreenItIsNoHigherThanTheFreeArea) {
 TEST_F(CommandCenterControllerTest, WhatIsDueIsKnownWhenItOpens) {
     world.idleSource.fix(0);
     for (int i = 0; i < 75; ++i)
-        world.time.advance(Seconds(10)); // samples of somebody at work
+        world.time.advance(Seconds(10)); // samples of a present user
     controller->show();
     EXPECT_EQ(controller->content().backfillChoices(), QList<int>({5, 10}));
 }

@@ -33,7 +33,7 @@ TEST_F(CommandCenterModelTest, TheRunningTimeGoesOnWhileItIsLookedAt) {
     EXPECT_EQ(content->title(), QStringLiteral("Ready to focus"));
 }
 
-TEST_F(CommandCenterModelTest, NobodyWhoLooksNeedsNoClock) {
+TEST_F(CommandCenterModelTest, AHiddenPanelRunsNoClock) {
     content->pressPrimary();
     world.settle();
     int changes = 0;

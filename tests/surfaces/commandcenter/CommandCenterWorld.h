@@ -13,7 +13,7 @@ namespace vantle::tests {
 class CommandCenterWorld {
 protected:
     CommandCenterWorld() {
-        world.idleSource.fix(0); // somebody is at work all the time
+        world.idleSource.fix(0); // the user is always present
         world.launch();
         world.settle();
         content = std::make_unique<CommandCenterModel>(

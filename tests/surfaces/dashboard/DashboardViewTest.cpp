@@ -128,7 +128,7 @@ TEST_F(DashboardViewTest, FailureToStoreGoesBeforeTheWarning) {
     EXPECT_EQ(view->warning(), QStringLiteral("Data warning: ") + *model->tracker().storageError());
 }
 
-TEST_F(DashboardViewTest, AtMidnightTodayBeginsAnew) {
+TEST_F(DashboardViewTest, AtMidnightTodayStartsAtZero) {
     open();
     press();
     time.advance(3600);

@@ -103,7 +103,7 @@ TEST_F(DesktopGapsTest, HelpForAutoModeSaysWhatItDoesOrWhyItDoesNot) {
     EXPECT_EQ(row("Start sessions").remedy(), QString());
 }
 
-TEST_F(DesktopGapsTest, AShortcutOfSomebodyElseLeavesTheCommand) {
+TEST_F(DesktopGapsTest, AShortcutOfAnotherProgramLeavesTheCommand) {
     hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};
     open();
     EXPECT_EQ(view->gaps()->hotKeyAdvice(),

@@ -101,7 +101,7 @@ TEST_F(SettingsShortcutsTest, FailedListIsAnEmptyOne) {
 TEST_F(SettingsShortcutsTest, ListThatComesAfterTheWindowClosedIsDropped) {
     openLinked();
     view.reset();
-    answer("On\n"); // to nobody
+    answer("On\n"); // after the window has closed
     EXPECT_EQ(open().startChoices().size(), 1);
 }
 

@@ -15,7 +15,7 @@ using State = TrackerCore::State;
 
 class WelcomePracticeTest : public testing::Test, protected tests::WelcomeWorld {
 protected:
-    /// The welcome again, for somebody who has been through it, with a session in the log.
+    /// The welcome again, for a user who has been through it, with a session in the log.
     void replay() {
         view.reset();
         kill();

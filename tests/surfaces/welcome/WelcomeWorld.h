@@ -13,7 +13,7 @@ class WelcomeWorld : public ModelWorld {
 public:
     WelcomeWorld() {
         settings::welcomeDone.remove(preferences);
-        idleSource.fix(0); // somebody is there all the time
+        idleSource.fix(0); // the user is always present
     }
 
     [[nodiscard]] static QString text(const char* utf8) { return QString::fromUtf8(utf8); }

@@ -26,7 +26,7 @@ TEST_F(WrappedSharingTest, CopiedIsSaidForAMoment) {
     EXPECT_FALSE(view->copied());
 }
 
-TEST_F(WrappedSharingTest, CopyingAgainBeginsTheMomentAnew) {
+TEST_F(WrappedSharingTest, CopyingAgainRestartsTheConfirmation) {
     logNotes();
     open();
     view->copyImage();

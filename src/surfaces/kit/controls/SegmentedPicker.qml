@@ -36,7 +36,7 @@ ArrowGroup {
     Accessible.name: name
 
     Timer {
-        id: madeAnew
+        id: recreated
         interval: 0
         onTriggered: picker.takeUp()
     }
@@ -107,7 +107,7 @@ ArrowGroup {
         }
     }
 
-    onOptionsChanged: madeAnew.restart()
+    onOptionsChanged: recreated.restart()
     onCurrentIndexChanged: {
         current = currentIndex;
         refresh();

@@ -1,4 +1,4 @@
-// The design tokens for views; Look.h has their values.
+// The design tokens for views, with the values of Look.h.
 #pragma once
 
 #include "surfaces/kit/tokens/Look.h"

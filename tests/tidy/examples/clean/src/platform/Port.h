@@ -1,4 +1,4 @@
-// What the program needs of a desktop.
+// The operations that the program needs from a desktop.
 #pragma once
 
 #include "base/Clock.h"

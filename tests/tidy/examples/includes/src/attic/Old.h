@@ -1,2 +1,2 @@
-// What nobody placed.
+// A header in a folder without a layer.
 #pragma once

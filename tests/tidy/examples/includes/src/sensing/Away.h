@@ -1,4 +1,4 @@
-// Whether the person is away.
+// The absence of the user.
 #pragma once
 
 #include "review/stats/Totals.h"

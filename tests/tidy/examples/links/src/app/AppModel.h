@@ -1,4 +1,4 @@
-// What the person can ask for.
+// The commands of the user.
 #pragma once
 
 #include "base/Clock.h"

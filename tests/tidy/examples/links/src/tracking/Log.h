@@ -1,4 +1,4 @@
-// The log of what was done.
+// The log of sessions.
 #pragma once
 
 #include "base/Clock.h"

@@ -1,0 +1,2 @@
+// What tells the time of day.
+#pragma once

@@ -1,0 +1,2 @@
+// The time of day
+#pragma once

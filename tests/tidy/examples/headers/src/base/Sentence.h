@@ -1,0 +1,2 @@
+// The clock is read here alone.
+#pragma once

@@ -1,0 +1,4 @@
+Item {
+    // Deaf while it is hidden.
+    property string words: qsTr("Nobody is here")
+}
