@@ -60,7 +60,7 @@ TRAYER = Start(("trayer", "--edge", "top", "--align", "right", "--widthtype", "r
 PICOM = Start(("picom", "--config", "/dev/null", "--backend", "xrender", "--no-vsync"))
 MATE_LOCK = Lock(("mate-screensaver", "--no-daemon"), "mate-screensaver-command --lock",
                  "mate-screensaver-command --exit")
-I3LOCK = "i3lock tells nobody; xss-lock needs logind, which a private bus does not have"
+I3LOCK = "i3lock sends no signal; xss-lock needs logind, which a private bus does not have"
 
 # It refuses to lock for root, as whom such checks often run.
 AS_USER = """as=; if [ "$(id -u)" = 0 ]; then

@@ -18,13 +18,14 @@ import layers  # noqa: E402
 import lengths  # noqa: E402
 import listed  # noqa: E402
 import literals  # noqa: E402
+import plain  # noqa: E402
 import preferences  # noqa: E402
 import programs  # noqa: E402
 import words  # noqa: E402
 from tree import Tree  # noqa: E402
 
 CHECKS = (layers, banned, listed, lengths, literals, docs, house, headers, preferences, programs,
-          words, commits)
+          words, plain, commits)
 
 
 def findings(root):

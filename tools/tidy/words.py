@@ -1,7 +1,7 @@
 """Every text that a user reads has words that are true on this desktop, in each catalogue.
 
 The sources are written for another desktop. resources/translations/vantle_en.ts has an entry for
-each one that this makes untrue, and none besides; a catalogue of another language has them all.
+each one that this makes untrue, and no others; a catalogue of another language has them all.
 lupdate tells which texts there are.
 """
 
