@@ -65,6 +65,7 @@ X11RestSensor::X11RestSensor(X11Connection& x11, Scheduler& scheduler, X11RawPre
     , m_part(part)
     , m_rested(std::move(rested))
     , m_alarm(xcb_generate_id(x11.xcb()))
+    , m_unmapped(xcb_generate_id(x11.xcb()))
     , m_next(scheduler.scheduleOnce(Seconds(0), [this] { look(false); }))
     , m_alarms(x11.subscribe(idle.alarmEvent,
                              [this](const xcb_generic_event_t& event) {
@@ -76,10 +77,14 @@ X11RestSensor::X11RestSensor(X11Connection& x11, Scheduler& scheduler, X11RawPre
         if (button <= kLastButton || m_isInside) look(true);
     })) {
     makeAlarm();
+    xcb_create_window(m_x11.xcb(), XCB_COPY_FROM_PARENT, m_unmapped, m_x11.root(), 0, 0, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+    m_x11.flush();
 }
 
 X11RestSensor::~X11RestSensor() {
     xcb_sync_destroy_alarm(m_x11.xcb(), m_alarm);
+    xcb_destroy_window(m_x11.xcb(), m_unmapped);
     m_x11.flush();
 }
 
@@ -124,13 +129,14 @@ void X11RestSensor::look(bool isPressed) {
     tell();
 }
 
-/// Whether another client has grabbed the pointer, which only an attempt to grab it shows.
+/// Whether another client has grabbed the pointer, which only an attempt to grab it shows. The
+/// window is not mapped, so the attempt fails either way: a grab that succeeded would swallow a
+/// press in that moment.
 bool X11RestSensor::isGrabbed() {
-    const auto grab = xcb_grab_pointer(m_x11.xcb(), 1, m_x11.root(), 0, XCB_GRAB_MODE_ASYNC,
-                                       XCB_GRAB_MODE_ASYNC, XCB_NONE, XCB_NONE, XCB_CURRENT_TIME);
-    xcb_ungrab_pointer(m_x11.xcb(), XCB_CURRENT_TIME);
-    const auto answer = m_x11.reply<xcb_grab_pointer_reply>(grab);
-    return !answer || answer->status != XCB_GRAB_STATUS_SUCCESS;
+    const auto answer = m_x11.reply<xcb_grab_pointer_reply>(
+        xcb_grab_pointer(m_x11.xcb(), 1, m_unmapped, 0, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
+                         XCB_NONE, XCB_NONE, XCB_CURRENT_TIME));
+    return !answer || answer->status != XCB_GRAB_STATUS_NOT_VIEWABLE;
 }
 
 X11WindowSensor::X11WindowSensor(X11Connection& x11, const QRect& part,

@@ -52,9 +52,10 @@ private:
     const QRect m_part;
     const std::function<void()> m_rested;
     const xcb_sync_alarm_t m_alarm;
-    bool m_isInside = false; ///< at the last query
-    bool m_isDone = false;   ///< this visit called back, or was skipped
-    TimerHandle m_next;      ///< runs while the pointer moves
+    const xcb_window_t m_unmapped; ///< to try a grab on
+    bool m_isInside = false;       ///< at the last query
+    bool m_isDone = false;         ///< this visit called back, or was skipped
+    TimerHandle m_next;            ///< runs while the pointer moves
     X11Connection::Subscription m_alarms;
     std::unique_ptr<X11RawPresses::Watch> m_presses;
 };

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdint>
 #include <utility>
 
 namespace vantle::tests {
@@ -120,6 +122,28 @@ TEST_F(X11PointerSensorTest, ThePointerOfAMenuOrALockedScreenDoesNotRest) {
     other.flush();
     moveTo({701, 5});
     EXPECT_TRUE(await([&] { return rested == 1; }));
+}
+
+TEST_F(X11PointerSensorTest, ThePointerIsNeverTakenFromTheWindowBelow) {
+    X11Connection other;
+    const xcb_window_t below = xcb_generate_id(other.xcb());
+    int taken = 0;
+    const auto leaving =
+        other.subscribe(XCB_LEAVE_NOTIFY, [&taken](const xcb_generic_event_t& event) {
+            const auto& leave = reinterpret_cast<const xcb_leave_notify_event_t&>(event);
+            if (leave.mode == XCB_NOTIFY_MODE_GRAB) ++taken;
+        });
+    const std::array<std::uint32_t, 2> values = {1, XCB_EVENT_MASK_LEAVE_WINDOW};
+    xcb_create_window(other.xcb(), XCB_COPY_FROM_PARENT, below, other.root(), 400, 0, 600, 300, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT,
+                      XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values.data());
+    xcb_map_window(other.xcb(), below);
+    other.flush();
+    const auto sensor = sense();
+    moveTo({700, 5});
+    EXPECT_TRUE(await([&] { return rested == 1; }));
+    runFor(kLongerThanARest);
+    EXPECT_EQ(taken, 0) << "a press in that moment would be lost";
 }
 
 TEST_F(X11PointerSensorTest, APointerThatMovesElsewhereIsLookedAtAFewTimesASecond) {
