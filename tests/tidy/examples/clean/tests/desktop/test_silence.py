@@ -1,1 +1,1 @@
-time.sleep(3)  # the user touches anything
+time.sleep(3)  # no input
