@@ -76,7 +76,7 @@ TEST_F(AppModelAwayTest, PauseIsOnTheDiskBeforeTheMachineMaySleep) {
     EXPECT_TRUE(world.told.has(text("recovery 130")));
 }
 
-TEST_F(AppModelAwayTest, NightOfSuspensionIsNoWorkWhetherOrNotInputComesFirst) {
+TEST_F(AppModelAwayTest, NightOfSuspensionDoesNotCountInEitherOrderOfEvents) {
     AppModel& model = launched();
     for (const bool inputFirst : {true, false}) {
         world.press();

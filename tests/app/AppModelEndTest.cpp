@@ -196,7 +196,7 @@ TEST_F(AppModelEndTest, OfferWhoseKeepFailsStaysUnanswered) {
     EXPECT_TRUE(isOfferedNext());
 }
 
-TEST_F(AppModelEndTest, MarkerThatCanNotBePutBackAfterAStopIsPutBackAtTheEnd) {
+TEST_F(AppModelEndTest, MarkerThatCannotBePutBackAfterAStopIsPutBackAtTheEnd) {
     leaveKilledSession();
     AppModel& model = world.launch();
     world.press();
@@ -235,7 +235,7 @@ TEST_F(AppModelEndTest, ErasedOfferDoesNotComeBack) {
     EXPECT_FALSE(isOfferedNext());
 }
 
-TEST_F(AppModelEndTest, SessionThatCanNotBeLoggedAtTheEndKeepsItsMarkerBeforeAnOldOffer) {
+TEST_F(AppModelEndTest, SessionThatCannotBeLoggedAtTheEndKeepsItsMarkerBeforeAnOldOffer) {
     leaveKilledSession();
     world.idleSource.fix(0);
     AppModel& model = world.launch();
@@ -334,7 +334,7 @@ TEST_F(AppModelEndTest, AnUndeletableFileIsReportedWithItsReasonAndAsStillThere)
     EXPECT_EQ(world.note(), *message);
 }
 
-TEST_F(AppModelEndTest, ThePersonCanGoOnAfterAnErase) {
+TEST_F(AppModelEndTest, TheUserCanGoOnAfterAnErase) {
     AppModel& model = world.launch();
     model.eraseEverything();
     model.markWelcomeDone();

@@ -48,7 +48,7 @@ TEST_F(AppModelFailedStartTest, BackdatedStartThatFailsSaysWhyAndCountsNothing) 
     EXPECT_EQ(world.told.calls, QStringList());
 }
 
-TEST_F(AppModelFailedStartTest, SplitWhoseSecondHalfCanNotStartKeepsTheFirstAndEndsTheSession) {
+TEST_F(AppModelFailedStartTest, SplitWhoseSecondHalfCannotStartKeepsTheFirstAndEndsTheSession) {
     AppModel& model = launched();
     world.linkShortcuts();
     world.press();

@@ -78,7 +78,7 @@ TEST(Calendar, GivesTheDateBackInAnUnknownZone) {
     EXPECT_EQ(calendarIn("Middle/Earth").weekOfYear(date), std::nullopt);
 }
 
-TEST(Calendar, SurvivesDatesThatAreNone) {
+TEST(Calendar, SurvivesDatesThatAreNotNumbers) {
     const Calendar berlin = calendarIn("Europe/Berlin");
     for (const double epoch : {std::numeric_limits<double>::infinity(),
                                -std::numeric_limits<double>::infinity(), 1e300, -1e300}) {

@@ -22,7 +22,7 @@ TEST(Iso8601, DropsAFractionTowardThePast) {
     EXPECT_EQ(formatted(-0.25), "1969-12-31T23:59:59Z");
 }
 
-TEST(Iso8601, HasNoTextForWhatIsNoDate) {
+TEST(Iso8601, HasNoTextForInvalidDates) {
     EXPECT_EQ(formatted(std::numeric_limits<double>::quiet_NaN()), "none");
     EXPECT_EQ(formatted(std::numeric_limits<double>::infinity()), "none");
     EXPECT_EQ(formatted(253402300800.0), "none");

@@ -69,7 +69,7 @@ TEST(LocalTime, CountsYearsAndMonthsByTheCalendarOfTheLocale) {
     }
 }
 
-TEST(LocalTime, ADayThatNeverWasStartsWithTheNext) {
+TEST(LocalTime, ASkippedDayStartsWithTheNextOne) {
     // Samoa went over the date line, and had no 30 December.
     LocalTime apia(weeksFrom("Pacific/Apia"));
     const auto last = apia.at(moment("2011-12-30T09:59:59Z")).day;
@@ -85,7 +85,7 @@ TEST(LocalTime, AnUnknownZoneIsUtcWithoutWeeks) {
     EXPECT_EQ(nowhere.firstOfWeek(0), std::nullopt);
 }
 
-TEST(LocalTime, SurvivesDatesThatAreNone) {
+TEST(LocalTime, SurvivesDatesThatAreNotNumbers) {
     LocalTime berlin(weeksFrom("Europe/Berlin"));
     for (const double epoch :
          {std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(), 1e300,

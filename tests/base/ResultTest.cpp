@@ -30,7 +30,7 @@ TEST(Result, HandsOutValuesThatCanOnlyBeMoved) {
     EXPECT_EQ(*value, 7);
 }
 
-TEST(Result, OfNothingIsFineUnlessTold) {
+TEST(Result, WithoutAValueIsOkUnlessItHoldsAnError) {
     EXPECT_TRUE(Result<>());
     const Result<> failed = Error{1, {}, {}, QStringLiteral("no")};
     EXPECT_FALSE(failed);

@@ -31,7 +31,7 @@ TEST(Rounding, StopsAtTheEndsOfTheInteger) {
     EXPECT_EQ(roundedToInteger(-std::numeric_limits<double>::infinity()), kLeast);
 }
 
-TEST(Rounding, TakesWhatIsNoNumberAsZero) {
+TEST(Rounding, TreatsNaNAsZero) {
     EXPECT_EQ(truncatedToInteger(std::numeric_limits<double>::quiet_NaN()), 0);
     EXPECT_EQ(roundedToInteger(std::numeric_limits<double>::quiet_NaN()), 0);
 }

@@ -121,7 +121,7 @@ TEST(ThreadQueue, AJobMayQueueAnotherOne) {
     EXPECT_EQ(order, (std::vector{1, 2}));
 }
 
-TEST(ThreadQueue, ThatNeverHadAJobGoesQuietly) {
+TEST(ThreadQueue, WithoutAJobEndsWithoutBlocking) {
     { const ThreadQueue queue(kLabel); }
     ThreadQueue other(kLabel);
     other.drain();

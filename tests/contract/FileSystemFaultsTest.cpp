@@ -101,7 +101,7 @@ TEST_P(FileSystemFaults, ALockLeavesTheFileInPlaceAndTakesAnOldOne) {
     EXPECT_EQ(contentOf(at(".lock")), "left over");
 }
 
-TEST_P(FileSystemFaults, ALockThatCanNotBeOpenedIsUnavailable) {
+TEST_P(FileSystemFaults, ALockThatCannotBeOpenedIsUnavailable) {
     put(at("file"), "");
     ASSERT_TRUE(files().makeDirectories(at("directory"), 0700));
     for (const char* name : {"file/.lock", "none/.lock", "directory"}) {

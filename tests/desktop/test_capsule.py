@@ -46,7 +46,7 @@ class CapsuleTest(DesktopTest):
         if self.compositor:  # else there is none while it rests
             wait_until("the capsule's window", lambda: self.desktop.windows_named(TITLE))
 
-    # -- what the person does
+    # -- what the user does
 
     def point_at(self, place):
         self.desktop.tool("xdotool", "mousemove", str(MIDDLE + place[0]), str(place[1]),

@@ -8,7 +8,7 @@ from harness.waiting import wait_until
 
 
 class Panel(DesktopTest):
-    """The panel as the person sees it, on a tray whose place is known."""
+    """The panel as the user sees it, on a tray whose place is known."""
 
     def setUp(self):
         super().setUp()

@@ -1,4 +1,4 @@
-"""The program that follows the work by itself: auto mode and the person's shortcuts."""
+"""The program that follows the work by itself: auto mode and the user's shortcuts."""
 
 import time
 from pathlib import Path

@@ -50,7 +50,7 @@ public:
         if (onOutcomeChanged) onOutcomeChanged(now);
     }
 
-    /// The person presses the combination. Returns whether a handler was installed.
+    /// The user presses the combination. Returns whether a handler was installed.
     bool press() {
         if (keys == 0 || m_isLost || !m_pressed) return false;
         m_pressed();

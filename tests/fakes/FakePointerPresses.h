@@ -10,7 +10,7 @@ public:
     void watch() override { watched = true; }
     void ignore() override { watched = false; }
 
-    /// The person presses there; reported only while watched.
+    /// The user presses there; reported only while watched.
     void press(QPoint place) {
         if (watched) Q_EMIT pressed(place);
     }

@@ -33,7 +33,7 @@ TEST_F(AppDelegateTest, ASecondCopyShowsOnlyTheAlertAndLeavesTheSessionOfTheFirs
     EXPECT_TRUE(log().empty());
 }
 
-TEST_F(AppDelegateTest, SecondCopyEndsWithoutAWordWhenTheFirstShowsItself) {
+TEST_F(AppDelegateTest, SecondCopyEndsSilentlyWhenTheFirstShowsItself) {
     const auto first = makeCopy();
     ASSERT_TRUE(first->applicationDidFinishLaunching());
     runningCopy.answers = true;
@@ -53,7 +53,7 @@ TEST_F(AppDelegateTest, TheLockIsFreeAgainAfterTheFirstCopyHasGone) {
     EXPECT_TRUE(exists(".instance.lock"));
 }
 
-TEST_F(AppDelegateTest, ABrokenSupportDirectoryIsNoReasonNotToStart) {
+TEST_F(AppDelegateTest, ABrokenDataDirectoryDoesNotPreventTheStart) {
     disk.setContent(text("/data"), "a file where a directory should be");
     const auto app = makeCopy();
     EXPECT_TRUE(app->applicationDidFinishLaunching());
@@ -68,7 +68,7 @@ TEST_F(AppDelegateTest, ABrokenSupportDirectoryIsNoReasonNotToStart) {
 TEST_F(AppDelegateTest, TheProgramRegistersItselfAtLoginOnce) {
     EXPECT_TRUE(makeCopy()->applicationDidFinishLaunching());
     EXPECT_TRUE(autostart.registered);
-    autostart.registered = false; // the person turns it off
+    autostart.registered = false; // the user turns it off
     EXPECT_TRUE(makeCopy()->applicationDidFinishLaunching());
     EXPECT_FALSE(autostart.registered);
     EXPECT_EQ(autostart.attempts, 1);
@@ -359,7 +359,7 @@ TEST_F(AppDelegateTest, HoweverAutoModeSplitsASessionNoSecondIsLost) {
     EXPECT_GT(splits, 40u); // or nothing was tried
 }
 
-TEST_F(AppDelegateTest, ThePersonsShortcutsRunAtBothEndsOfASession) {
+TEST_F(AppDelegateTest, TheUsersShortcutsRunAtBothEndsOfASession) {
     preferences.setBoolean(text("focus.linked"), true);
     preferences.setString(text("focus.shortcut.start"), text("quiet please"));
     preferences.setString(text("focus.shortcut.stop"), text("all clear"));

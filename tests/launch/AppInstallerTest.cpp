@@ -28,7 +28,7 @@ QString q(const char* text) { return QString::fromUtf8(text); }
 
 bool isProper(const char* program) { return installlocation::isProper(q(program), q("/home/ada")); }
 
-TEST(InstallLocation, SystemsFoldersAndThePersonsOwnAreProper) {
+TEST(InstallLocation, SystemsFoldersAndTheUsersOwnAreProper) {
     for (const char* program :
          {"/usr/bin/vantle", "/usr/local/bin/vantle", "/opt/vantle/bin/vantle",
           "/home/ada/.local/bin/vantle", "/home/ada/.local/lib/vantle/vantle", "/app/bin/vantle",
@@ -252,7 +252,7 @@ TEST_F(CompanionsTest, ModuleBesideTheProgramGoesToItsInstalledPlace) {
                    q("/home/ada/.local/lib/vantle/plugins/vantle-webceremony.so"), false}}));
 }
 
-TEST_F(AppInstallerTest, CopyThatIsThereIsReplacedOnlyWhenThePersonSaysSo) {
+TEST_F(AppInstallerTest, CopyThatIsThereIsReplacedOnlyWhenTheUserSaysSo) {
     put(m_target, "old program");
     EXPECT_FALSE(launch({0, 1}));
     ASSERT_EQ(m_alerts.size(), 2U);

@@ -76,7 +76,7 @@ TEST_F(FirstLaunchTest, CallHoursAfterAStartAtLoginBringsThePanel) {
     EXPECT_EQ(openWindows(*app), QStringList()) << "the welcome is left where it was";
 }
 
-TEST_F(FirstLaunchTest, WhoHasBeenThroughItSeesThePanelFromThenOn) {
+TEST_F(FirstLaunchTest, AfterTheWelcomeAStartShowsThePanel) {
     auto app = launch();
     welcome(*app).finish();
     turn();

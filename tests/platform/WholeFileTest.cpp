@@ -51,7 +51,7 @@ TEST_F(WholeFile, MakesTheDirectoryForItsOwnerOnly) {
     EXPECT_EQ(m_disk.mode(QStringLiteral("/home/ada/config")).value(), 0700);
 }
 
-TEST_F(WholeFile, TakenAwayHasTheModeOfThePersonsOtherFiles) {
+TEST_F(WholeFile, TakenAwayHasTheModeOfTheUsersOtherFiles) {
     EXPECT_TRUE(exportFile(m_files, kPath, "new"));
     EXPECT_EQ(m_disk.content(kPath), "new");
     EXPECT_EQ(m_disk.mode(kPath).value(), 0644);

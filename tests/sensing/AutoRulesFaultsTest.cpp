@@ -29,7 +29,7 @@ struct Replacement {
 class DamagedAutoRulesTest : public AutoRulesFaultsTest,
                              public testing::WithParamInterface<Replacement> {};
 
-TEST_P(DamagedAutoRulesTest, GiveWayToTheSeedsWithoutAWord) {
+TEST_P(DamagedAutoRulesTest, AreReplacedByTheSeedsSilently) {
     QByteArray content = kGood;
     ASSERT_TRUE(content.contains(GetParam().part));
     put(content.replace(GetParam().part, GetParam().other));
@@ -66,7 +66,7 @@ TEST_F(AutoRulesFaultsTest, OfARepeatedKeyTheLastCounts) {
     EXPECT_EQ(rules.ruling(text("a")), text("ignore"));
 }
 
-TEST_F(AutoRulesFaultsTest, AFileThatCantBeReadCountsAsNone) {
+TEST_F(AutoRulesFaultsTest, AFileThatCannotBeReadCountsAsNone) {
     put(kGood);
     files.fail(Operation::Read, QStringLiteral("auto-rules.json"), EIO);
     rules.loadIfNeeded();

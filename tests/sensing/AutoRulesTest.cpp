@@ -50,7 +50,7 @@ TEST_F(AutoRulesTest, FileDesignToolsUnderBuildingWhereThereIsNoSkillForDesign) 
     EXPECT_EQ(rules->ruling(figma), building);
 }
 
-TEST_F(AutoRulesTest, SeedNothingForASkillThatThePersonDeleted) {
+TEST_F(AutoRulesTest, SeedNothingForASkillThatTheUserDeleted) {
     setSkills({namedSkill("building", "Build"), namedSkill("business2", "Sales")});
     EXPECT_EQ(rules->ruling(slack), std::nullopt);
     EXPECT_EQ(rules->suggestedSkillId(slack, text("Slack")), text("business2"));

@@ -14,7 +14,7 @@ class AutoSkillMonitorTest : public testing::Test, protected AutoSkillWorld {};
 
 // Running
 
-TEST_F(AutoSkillMonitorTest, RunsUnlessThePersonSwitchedItOff) {
+TEST_F(AutoSkillMonitorTest, RunsUnlessTheUserSwitchedItOff) {
     start();
     EXPECT_TRUE(monitor->isRunning());
     set(settings::autoMode, false);
@@ -65,7 +65,7 @@ TEST_F(AutoSkillMonitorTest, WaitsForNothingBetweenSwitches) {
     EXPECT_EQ(time.timerCount(), 0u);
 }
 
-TEST_F(AutoSkillMonitorTest, IsBlindToItsOwnWindowsAndToApplicationsWithoutIdentity) {
+TEST_F(AutoSkillMonitorTest, IgnoresItsOwnWindowsAndApplicationsWithoutIdentity) {
     start();
     activate(own);
     activate({QString(), text("Nameless")});
@@ -260,7 +260,7 @@ TEST_F(AutoSkillMonitorTest, RetagsOnAMachineLeftAlone) {
     EXPECT_THAT(takeCalls(), ElementsAre("retag building"));
 }
 
-TEST_F(AutoSkillMonitorTest, LeavesAnApplicationAloneWhoseSkillThePersonOverruled) {
+TEST_F(AutoSkillMonitorTest, LeavesAnApplicationAloneWhoseSkillTheUserOverruled) {
     beRunning("marketing");
     start();
     activate(xcode);
@@ -293,7 +293,7 @@ TEST_F(AutoSkillMonitorTest, SurvivesAClockThatIsSetBackDuringAStay) {
 
 // Starting a session
 
-TEST_F(AutoSkillMonitorTest, StartsASessionAfterTwoMinutesIfThePersonWantsThat) {
+TEST_F(AutoSkillMonitorTest, StartsASessionAfterTwoMinutesIfTheUserWantsThat) {
     start();
     activate(xcode);
     time.advance(500);
@@ -354,7 +354,7 @@ TEST_F(AutoSkillMonitorTest, StartsNothingWhenASessionWasStartedByHand) {
     EXPECT_THAT(takeCalls(), IsEmpty());
 }
 
-TEST_F(AutoSkillMonitorTest, StartsNothingWhenThePersonChangedTheirMind) {
+TEST_F(AutoSkillMonitorTest, StartsNothingWhenTheUserChangedTheirMind) {
     turnOnAutoStart();
     start();
     activate(xcode);

@@ -36,7 +36,7 @@ struct AutoWorld {
         skills.emplace(paths, queue, skillPreferences);
     }
 
-    /// The person has exactly these skills from now on.
+    /// The user has exactly these skills from now on.
     void setSkills(const std::vector<Skill>& list) {
         disk.setContent(QStringLiteral("/data/Vantle/skills.json"), json::encode(list));
         settings::skillsMigrationVersion.write(skillPreferences, 1);

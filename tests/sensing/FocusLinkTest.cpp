@@ -69,7 +69,7 @@ TEST_F(FocusLinkTest, NameReachesTheToolAsOneUnchangedArgument) {
     EXPECT_EQ(m_runner.detached[0].arguments, (QStringList{q("run"), name}));
 }
 
-TEST_F(FocusLinkTest, ToolThatCannotBeStartedIsNoFailureOfTheSession) {
+TEST_F(FocusLinkTest, SessionStartsWithoutAWorkingTool) {
     m_runner.canStart = false;
     choose(settings::startShortcut, q("Quiet"));
     m_link.sessionStarted();

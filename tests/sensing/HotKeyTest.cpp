@@ -168,7 +168,7 @@ TEST_F(HotKeyTest, WaitsForADesktopThatAnswersLater) {
     expectHeld(false);
 }
 
-TEST_F(HotKeyTest, NoKeysToBeHadIsNoFailure) {
+TEST_F(HotKeyTest, DesktopWithoutShortcutsIsNoFailure) {
     for (const auto registration : {Registration::NotOffered, Registration::KeysRemoved}) {
         port.outcome = {registration};
         hotKey->registerHotKey();
@@ -190,7 +190,7 @@ TEST_F(HotKeyTest, NamesTheKeysThatWereReallyTaken) {
     EXPECT_EQ(changes, 2);
 }
 
-TEST_F(HotKeyTest, TheUsersWordIsRememberedForLaterRuns) {
+TEST_F(HotKeyTest, ConsentIsStoredForLaterRuns) {
     port.way = QStringLiteral("portal");
     port.outcome = {Registration::NotAllowed};
     hotKey->registerHotKey();
@@ -223,7 +223,7 @@ TEST_F(HotKeyTest, WhatTheUserDeclinesInTheDesktopsDialogIsForgotten) {
     EXPECT_EQ(settings::hotKeyAllowed.read(preferences), QString());
 }
 
-TEST_F(HotKeyTest, AnAllowanceOutlastsADesktopThatHasAnotherWay) {
+TEST_F(HotKeyTest, ConsentSurvivesADesktopWithAnotherWay) {
     settings::hotKeyAllowed.write(preferences, QStringLiteral("gnome"));
     port.way = QStringLiteral("portal");
     port.outcome = {Registration::NotAllowed};
@@ -231,7 +231,7 @@ TEST_F(HotKeyTest, AnAllowanceOutlastsADesktopThatHasAnotherWay) {
     EXPECT_EQ(settings::hotKeyAllowed.read(preferences), QStringLiteral("gnome"));
 }
 
-TEST_F(HotKeyTest, WhereNoWordIsTakenNoneIsGiven) {
+TEST_F(HotKeyTest, ConsentIsIgnoredWhereNoneIsNeeded) {
     hotKey->registerHotKey();
     hotKey->allow(true);
     EXPECT_EQ(port.isAllowed, std::nullopt);

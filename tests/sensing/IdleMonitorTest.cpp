@@ -15,7 +15,7 @@ constexpr double kPoll = IdleMonitor::pollInterval;
 
 // The threshold
 
-TEST_F(IdleMonitorTest, CountsThreeMinutesAsAwayUnlessThePersonChoseOtherwise) {
+TEST_F(IdleMonitorTest, CountsThreeMinutesAsAwayUnlessTheUserChoseOtherwise) {
     EXPECT_EQ(monitor->thresholdSeconds(), 180.0);
     setThreshold(300);
     EXPECT_EQ(monitor->thresholdSeconds(), 300.0);
@@ -82,7 +82,7 @@ TEST_F(IdleMonitorTest, StartedTwiceWatchesOnce) {
     EXPECT_THAT(takeCalls(), ElementsAre("screens slept"));
 }
 
-TEST_F(IdleMonitorTest, HearsNothingWhileStopped) {
+TEST_F(IdleMonitorTest, ReceivesNothingWhileStopped) {
     screens.sleep();
     screens.wake();
     monitor->start();
@@ -154,7 +154,7 @@ TEST_F(IdleMonitorTest, MayBeStoppedFromItsOwnCallback) {
 
 // Away and back
 
-TEST_F(IdleMonitorTest, TellsOnceThatThePersonIsAwayAndOnceThatTheyAreBack) {
+TEST_F(IdleMonitorTest, TellsOnceThatTheUserIsAwayAndOnceThatTheyAreBack) {
     source.growFrom(0);
     monitor->start();
     time.advance(179);
@@ -226,7 +226,7 @@ TEST_F(IdleMonitorTest, CountsNoNegativeTimeWhenTheClockWasSetBack) {
 
 // The screens
 
-TEST_F(IdleMonitorTest, CountsThePersonAsAwayWhenTheScreensSleep) {
+TEST_F(IdleMonitorTest, CountsTheUserAsAwayWhenTheScreensSleep) {
     monitor->start();
     screens.sleep();
     EXPECT_THAT(takeCalls(), ElementsAre("screens slept"));
@@ -279,7 +279,7 @@ TEST_F(IdleMonitorTest, RefusesAStretchInWhichTheScreensSlept) {
     EXPECT_TRUE(monitor->wasActiveForLast(15));
 }
 
-TEST_F(IdleMonitorTest, TellsOfTheWakeOnceThePersonIsBack) {
+TEST_F(IdleMonitorTest, TellsOfTheWakeOnceTheUserIsBack) {
     source.growFrom(0);
     monitor->start();
     screens.sleep();
@@ -348,7 +348,7 @@ TEST_F(IdleMonitorTest, RefusesAStretchWithAnAbsenceAnywhereInIt) {
     EXPECT_FALSE(monitor->wasActiveForLast(20));
 }
 
-TEST_F(IdleMonitorTest, RefusesWhenThePersonHasLeftSinceTheLastReading) {
+TEST_F(IdleMonitorTest, RefusesWhenTheUserHasLeftSinceTheLastReading) {
     setThreshold(10);
     source.fix(1);
     monitor->start();
@@ -382,7 +382,7 @@ TEST_F(IdleMonitorTest, TakesAnUnknownCounterForNeitherAbsenceNorPresence) {
     EXPECT_FALSE(monitor->wasActiveForLast(1));
 }
 
-TEST_F(IdleMonitorTest, LeavesAPersonWhoIsAwayAwayWhileTheCounterIsUnknown) {
+TEST_F(IdleMonitorTest, LeavesAUserWhoIsAwayAwayWhileTheCounterIsUnknown) {
     source.fix(500);
     monitor->start();
     takeCalls();

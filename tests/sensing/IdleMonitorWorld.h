@@ -46,7 +46,7 @@ protected:
         settings::idleThresholdSeconds.write(preferences, seconds);
     }
 
-    /// The person works for that long, with a keystroke just before each poll.
+    /// The user works for that long, with a keystroke just before each poll.
     void workFor(double seconds) {
         source.fix(0.25);
         time.advance(seconds);

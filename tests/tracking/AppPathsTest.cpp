@@ -58,7 +58,7 @@ TEST_F(AppPathsTest, AfterAFailedTakeOverTheOldDirectoryIsNeverLookedAtAgain) {
     EXPECT_FALSE(files.exists(paths.sessionsFile()));
 }
 
-TEST_F(AppPathsTest, ADirectoryThatCanNotBeMadeIsNamedAllTheSame) {
+TEST_F(AppPathsTest, ADirectoryThatCannotBeMadeIsNamedAllTheSame) {
     files.fail(Operation::MakeDirectories, primary, EACCES);
     EXPECT_EQ(paths.supportDir(), primary);
     EXPECT_FALSE(disk.exists(primary));

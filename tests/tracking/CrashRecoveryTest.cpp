@@ -42,7 +42,7 @@ TEST(RecoveryCandidate, EndsWhenTheSessionWasLastSeenAlive) {
     EXPECT_TRUE(isAcceptable(*session));
 }
 
-TEST(RecoveryCandidate, IsNotMadeOfAMarkerThatCanNotBeTrue) {
+TEST(RecoveryCandidate, IsNotMadeOfAMarkerThatCannotBeTrue) {
     EXPECT_FALSE(recovery::isValid(spanning(-1, 100)));
     EXPECT_TRUE(recovery::isValid(spanning(604800, 100)));
     EXPECT_FALSE(recovery::isValid(spanning(604800.125, 100)));
@@ -74,7 +74,7 @@ TEST_F(RecoveryTest, WithoutAMarkerThereIsNothingToOffer) {
     EXPECT_EQ(content(marker), std::nullopt);
 }
 
-TEST_F(RecoveryTest, AGoodMarkerIsOfferedAndStaysUntilThePersonHasChosen) {
+TEST_F(RecoveryTest, AGoodMarkerIsOfferedAndStaysUntilTheUserHasChosen) {
     leave(samples::marker());
     EXPECT_EQ(tracker.takeOrphanedMarker(), samples::marker());
     EXPECT_TRUE(content(marker).has_value());
@@ -122,7 +122,7 @@ TEST_F(RecoveryTest, ADamagedMarkerIsRemoved) {
     }
 }
 
-TEST_F(RecoveryTest, AMarkerThatCanNotBeReadStays) {
+TEST_F(RecoveryTest, AMarkerThatCannotBeReadStays) {
     leave(samples::marker());
     files.fail(Operation::Read, QStringLiteral("open-session.json"), EIO);
     EXPECT_EQ(tracker.takeOrphanedMarker(), std::nullopt);
@@ -165,7 +165,7 @@ TEST_F(RecoveryTest, AFailedKeepKeepsMarkerAndOffer) {
     EXPECT_TRUE(tracker.recoverSession(samples::marker()).has_value());
 }
 
-TEST_F(RecoveryTest, AMarkerThatCanNotBeRemovedIsOfferedAgainButNeverDoubled) {
+TEST_F(RecoveryTest, AMarkerThatCannotBeRemovedIsOfferedAgainButNeverDoubled) {
     leave(samples::marker());
     files.fail(Operation::Remove, QStringLiteral("open-session.json"), EPERM);
     const auto first = tracker.recoverSession(samples::marker());
@@ -175,7 +175,7 @@ TEST_F(RecoveryTest, AMarkerThatCanNotBeRemovedIsOfferedAgainButNeverDoubled) {
     EXPECT_EQ(tracker.allSessions().size(), 1u);
 }
 
-TEST_F(RecoveryTest, AMarkerThatIsWorthNothingCanNotBeKept) {
+TEST_F(RecoveryTest, AMarkerThatIsWorthNothingCannotBeKept) {
     leave(spanning(1800, 59));
     EXPECT_EQ(tracker.recoverSession(spanning(1800, 59)), std::nullopt);
     EXPECT_THAT(tracker.allSessions(), IsEmpty());

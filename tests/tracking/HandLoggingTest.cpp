@@ -48,7 +48,7 @@ TEST_F(HandLoggingTest, NoMinutesAndUnknownSkillsWriteNothingAndLeaveTheErrorAlo
     EXPECT_EQ(content(log), samples::line(samples::session()));
 }
 
-TEST_F(HandLoggingTest, ADeletedSkillCanNotBeLoggedAndItsOldRecordsStayReadable) {
+TEST_F(HandLoggingTest, ADeletedSkillCannotBeLoggedAndItsOldRecordsStayReadable) {
     EXPECT_TRUE(logMinutes(5, QStringLiteral("marketing")));
     ASSERT_TRUE(skills.remove(QStringLiteral("marketing")));
     EXPECT_FALSE(logMinutes(5, QStringLiteral("marketing")));

@@ -100,7 +100,7 @@ TEST(JsonForm, DropsFractionsOfASecond) {
     EXPECT_EQ(json::encode(session).value(), kGood);
 }
 
-TEST(JsonForm, ADateWithoutAWrittenFormCanNotBeEncoded) {
+TEST(JsonForm, ADateWithoutAWrittenFormCannotBeEncoded) {
     Session session = goodSession();
     session.startedAt = dateFromEpoch(std::numeric_limits<double>::infinity());
     EXPECT_FALSE(json::encode(session).ok());

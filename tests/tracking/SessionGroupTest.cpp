@@ -19,7 +19,7 @@ Session after(const Session& previous, double gap, int number) {
 
 const Session kFirst = samples::session(1);
 
-TEST(SessionGroup, OfNothingThereIsNone) { EXPECT_TRUE(SessionGroup::grouped({}).empty()); }
+TEST(SessionGroup, NoSessionsGiveNoGroups) { EXPECT_TRUE(SessionGroup::grouped({}).empty()); }
 
 TEST(SessionGroup, SessionsWithinThreeMinutesAreOneRow) {
     const Session second = after(kFirst, 179, 2);

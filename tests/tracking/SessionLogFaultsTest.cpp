@@ -1,4 +1,4 @@
-// A disk that fails while the log is written: nothing that was there is lost, and the person is
+// A disk that fails while the log is written: nothing that was there is lost, and the user is
 // told.
 #include "tracking/TrackingWorld.h"
 
@@ -67,7 +67,7 @@ TEST_F(SessionLogFaultsTest, AFailingSyncOfAnAppendTakesTheRecordBack) {
     EXPECT_EQ(content(log), before + line(session(3)));
 }
 
-TEST_F(SessionLogFaultsTest, ALogThatCanNotBeOpenedRefusesTheRecord) {
+TEST_F(SessionLogFaultsTest, ALogThatCannotBeOpenedRefusesTheRecord) {
     fail(Operation::Open, name, EACCES);
     expectRefused(tracker.appendToLog(session(3)));
     EXPECT_TRUE(tracker.storageError()->contains(QLatin1String("Permission denied")));
@@ -78,7 +78,7 @@ TEST_F(SessionLogFaultsTest, ALogWhoseLengthIsUnknownIsNotWrittenTo) {
     expectRefused(tracker.appendToLog(session(3)));
 }
 
-TEST_F(SessionLogFaultsTest, WhenOnlyTheModeCanNotBeSetTheRecordIsInTheFile) {
+TEST_F(SessionLogFaultsTest, WhenOnlyTheModeCannotBeSetTheRecordIsInTheFile) {
     fail(Operation::SetMode, name, EPERM);
     EXPECT_FALSE(tracker.appendToLog(session(3)));
     EXPECT_TRUE(tracker.storageError().has_value());
@@ -102,7 +102,7 @@ TEST_F(SessionLogFaultsTest, AFailingSyncOfARewriteLeavesTheLogWhole) {
     expectRefused(tracker.updateNote(id(1), QStringLiteral("new")));
 }
 
-TEST_F(SessionLogFaultsTest, ALogThatCanNotBeReadReadsAsEmptyAndStopsChangesWithoutAMessage) {
+TEST_F(SessionLogFaultsTest, ALogThatCannotBeReadReadsAsEmptyAndStopsChangesWithoutAMessage) {
     fail(Operation::Read, name);
     EXPECT_TRUE(tracker.allSessions().empty());
     EXPECT_EQ(tracker.dataWarning(), std::nullopt);

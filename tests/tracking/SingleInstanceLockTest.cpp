@@ -111,7 +111,7 @@ TEST_F(SingleInstanceLockTest, AnOrderlyExitLeavesTheFileAndIsNoObstacle) {
     EXPECT_TRUE(lock.acquire(paths));
 }
 
-TEST_F(SingleInstanceLockTest, WhatStandsInAStaleFileMeansNothing) {
+TEST_F(SingleInstanceLockTest, ContentOfAStaleFileIsIgnored) {
     QFile stale(paths.instanceLock());
     ASSERT_TRUE(stale.open(QIODevice::WriteOnly));
     stale.write("4711");
@@ -145,7 +145,7 @@ TEST_F(SingleInstanceLockTest, CopiesOnOtherDataDoNotMeet) {
     EXPECT_EQ(other.answer(), "held");
 }
 
-TEST_F(SingleInstanceLockTest, ALockFileThatCanNotBeOpenedIsNoReasonToRefuse) {
+TEST_F(SingleInstanceLockTest, ALockFileThatCannotBeOpenedDoesNotPreventTheStart) {
     fakes::FaultyFileSystem faulty(files);
     faulty.fail(fakes::FaultyFileSystem::Operation::Lock, QStringLiteral(".instance.lock"), EACCES);
     SingleInstanceLock lock;
@@ -154,7 +154,7 @@ TEST_F(SingleInstanceLockTest, ALockFileThatCanNotBeOpenedIsNoReasonToRefuse) {
     EXPECT_TRUE(lock.acquire(paths));
 }
 
-TEST_F(SingleInstanceLockTest, FileSystemWithoutLocksIsNoReasonToRefuse) {
+TEST_F(SingleInstanceLockTest, FileSystemWithoutLocksDoesNotPreventTheStart) {
     for (const int code : {ENOLCK, ENOSYS, EOPNOTSUPP, EINVAL}) {
         SingleInstanceLock lock;
         flockFailsWith = code;

@@ -71,14 +71,14 @@ TEST_F(SkillListTest, ADamagedFileIsReplacedByTheSeeds) {
     }
 }
 
-TEST_F(SkillListTest, SeedsThatCanNotBeSavedAreUsedAndTheMigrationStaysOpen) {
+TEST_F(SkillListTest, SeedsThatCannotBeSavedAreUsedAndTheMigrationStaysOpen) {
     failWrites();
     EXPECT_EQ(skills.all(), seeds);
     EXPECT_EQ(content(skillsFile), std::nullopt);
     EXPECT_EQ(version(), std::nullopt);
 }
 
-TEST_F(SkillListTest, FileThatCanNotBeReadIsNeverReplaced) {
+TEST_F(SkillListTest, FileThatCannotBeReadIsNeverReplaced) {
     using Fault = std::pair<Operation, int>;
     for (const auto& [operation, code] :
          {Fault{Operation::Open, EACCES}, Fault{Operation::Open, EMFILE},
@@ -189,7 +189,7 @@ TEST_F(SkillListTest, TheMigrationRenamesOldDefaultsAndNothingElse) {
     EXPECT_EQ(version(), 1);
 }
 
-TEST_F(SkillListTest, TheMigrationLeavesThePersonsOwnNamesAndColours) {
+TEST_F(SkillListTest, TheMigrationLeavesTheUsersOwnNamesAndColours) {
     const std::vector<Skill> own = {{text("founder_ops"), text("Ops"), 2, true},
                                     {text("building"), text("Building"), 0x111111, true}};
     store(own, 0);
@@ -222,7 +222,7 @@ TEST_F(SkillListTest, TheMigrationAddsBuildUnlessItsNameIsTakenOrTheListIsFull) 
     EXPECT_EQ(version(), 1);
 }
 
-TEST_F(SkillListTest, AMigrationThatCanNotBeSavedRunsAgainAtTheNextLaunch) {
+TEST_F(SkillListTest, AMigrationThatCannotBeSavedRunsAgainAtTheNextLaunch) {
     store({custom("mine", "Mine")}, 0);
     failWrites();
     EXPECT_EQ(skills.all().size(), 2u);
@@ -292,7 +292,7 @@ TEST_F(SkillListTest, AnUpdateBeforeAnyOtherUseLoadsTheList) {
     EXPECT_TRUE(skills.update(text("building"), text("Make"), 0).has_value());
 }
 
-TEST_F(SkillListTest, TheLastSkillCanNotBeDeletedAndAnUnknownOneIsNot) {
+TEST_F(SkillListTest, TheLastSkillCannotBeDeletedAndAnUnknownOneIsNot) {
     store({custom("a", "A"), custom("b", "B")});
     EXPECT_FALSE(skills.remove(text("nope")));
     EXPECT_TRUE(skills.remove(text("a")));
@@ -301,7 +301,7 @@ TEST_F(SkillListTest, TheLastSkillCanNotBeDeletedAndAnUnknownOneIsNot) {
     EXPECT_EQ(stored(), skills.all());
 }
 
-TEST_F(SkillListTest, ChangesThatCanNotBeSavedAreTakenBack) {
+TEST_F(SkillListTest, ChangesThatCannotBeSavedAreTakenBack) {
     ASSERT_EQ(skills.all(), seeds);
     failWrites();
     EXPECT_EQ(skills.addCustom(text("Mine"), 0), std::nullopt);

@@ -58,7 +58,7 @@ TEST_F(TotalsTest, ASessionAcrossMidnightCountsEntirelyForTheDayOfItsEnd) {
               0.0);
 }
 
-TEST_F(TotalsTest, TheWeekBeginsOnTheFirstWeekdayOfThePerson) {
+TEST_F(TotalsTest, TheWeekBeginsOnTheFirstWeekdayOfTheUser) {
     const std::vector<Session> friday = {sessionEnding(at("2026-02-27T12:00:00Z"), 3600)};
     EXPECT_EQ(totals::hoursThisWeek(friday, now, calendar), 1.0);
     const Calendar american{QStringLiteral("Europe/Berlin"), 1, 1};

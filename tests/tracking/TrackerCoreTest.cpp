@@ -371,7 +371,7 @@ TEST_F(TrackerCoreTest, DebugSecondsCountOnlyInAnOpenSession) {
     EXPECT_EQ(tracker.displayActiveSeconds(), 101);
 }
 
-TEST_F(TrackerCoreTest, ASessionOfExactlySevenDaysCanBeStoppedAndOneOfASecondMoreCanNot) {
+TEST_F(TrackerCoreTest, ASessionOfExactlySevenDaysCanBeStoppedAndOneOfASecondMoreCannot) {
     start();
     time.advance(604800);
     ASSERT_TRUE(tracker.stop().has_value());
@@ -384,7 +384,7 @@ TEST_F(TrackerCoreTest, ASessionOfExactlySevenDaysCanBeStoppedAndOneOfASecondMor
     EXPECT_EQ(ended.size(), 1u);
 }
 
-TEST_F(TrackerCoreTest, APauseOfMoreThanSevenDaysCanNotBeStoppedEither) {
+TEST_F(TrackerCoreTest, APauseOfMoreThanSevenDaysCannotBeStoppedEither) {
     start();
     time.advance(60);
     tracker.pause(time.now());

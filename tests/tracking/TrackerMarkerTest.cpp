@@ -89,7 +89,7 @@ TEST_F(TrackerMarkerTest, IsWrittenOffTheMainThread) {
     EXPECT_TRUE(content(marker).has_value());
 }
 
-TEST_F(TrackerMarkerTest, AQueuedWriteCanNotLandAfterTheRemoval) {
+TEST_F(TrackerMarkerTest, AQueuedWriteCannotLandAfterTheRemoval) {
     start();
     time.advance(10);
     tracker.pause(time.now());
@@ -116,7 +116,7 @@ TEST_F(TrackerMarkerTest, TheRecordIsOnTheDiskBeforeTheMarkerGoes) {
     EXPECT_LT(logged, removed);
 }
 
-TEST_F(TrackerMarkerTest, AMarkerThatCanNotBeMadeKeepsASessionFromOpening) {
+TEST_F(TrackerMarkerTest, AMarkerThatCannotBeMadeKeepsASessionFromOpening) {
     fakes::ManualQueue queue;
     TrackerCore other({time, time, queue, paths, preferences, skills, process.notifications,
                        [](const OpenSessionMarker&) -> Result<QByteArray> {
@@ -169,7 +169,7 @@ TEST_F(TrackerMarkerTest, AnUnremovableMarkerDoesNotKeepTheSessionOpen) {
     EXPECT_EQ(tracker.storageError(), std::nullopt);
 }
 
-TEST_F(TrackerMarkerTest, AStopThatCanNotBeWrittenKeepsSessionMarkerAndClock) {
+TEST_F(TrackerMarkerTest, AStopThatCannotBeWrittenKeepsSessionMarkerAndClock) {
     put(log, samples::line(samples::session()));
     start();
     time.advance(30);

@@ -202,7 +202,7 @@ TEST(VectorRunner, AcceptsAnotherReadingButNotAThirdAnswer) {
     EXPECT_EQ(run(formAnswering("3"), {item}).tally.mismatches, 1);
 }
 
-TEST(VectorRunner, SkipsACaseWhoseFaultCanNotBeInjected) {
+TEST(VectorRunner, SkipsACaseWhoseFaultCannotBeInjected) {
     Case item = caseExpecting("1");
     item.needs = {QStringLiteral("write:a")};
     Form form = formAnswering("2");

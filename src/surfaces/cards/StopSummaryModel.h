@@ -94,11 +94,11 @@ public:
 Q_SIGNALS:
     void noteChanged();
     void noteFocusRequested();
-    /// The person touched the card.
+    /// The user touched the card.
     void interacted();
-    /// The person closed the card.
+    /// The user closed the card.
     void done(const QString& note);
-    /// The person wants the keyboard back.
+    /// The user wants the keyboard back.
     void keyboardReleased();
 
 private:

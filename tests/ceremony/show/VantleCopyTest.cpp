@@ -19,7 +19,7 @@ TEST(VantleCopy, ASkillGetsTheWordModeOnceAndAsTyped) {
     EXPECT_EQ(vantlecopy::modeName(QStringLiteral("Commode")), QLatin1String("Commode mode"));
 }
 
-TEST(VantleCopy, SaysWhereThePersonIs) {
+TEST(VantleCopy, SaysWhereTheUserIs) {
     EXPECT_EQ(vantlecopy::ceremonyTitle(QStringLiteral("Writing")),
               QLatin1String("You are in Writing mode"));
     EXPECT_EQ(vantlecopy::activeStatus(QStringLiteral("Writing")),

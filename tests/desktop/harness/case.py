@@ -36,7 +36,7 @@ class DesktopTest(unittest.TestCase):
     tray_kind = XEMBED
     compositor = False
     window_manager = True
-    newcomer = False  # the person has not been through the welcome
+    newcomer = False  # the user has not been through the welcome
 
     def setUp(self):
         name = re.sub(r"^test_", "", self._testMethodName)
@@ -68,10 +68,10 @@ class DesktopTest(unittest.TestCase):
     def _expect_silence(self, program):
         self.assertEqual(program.printed(), "", "the program prints nothing")
 
-    # -- what the person does, each time until it has come about
+    # -- what the user does, each time until it has come about
 
     def launch(self, program=None, **how):
-        """Starts the program, waits until the person can see that it runs, and turns away from
+        """Starts the program, waits until the user can see that it runs, and turns away from
         the panel that a start by hand shows."""
         program = program or self.vantle
         keyboard = self.desktop.keyboard()

@@ -94,7 +94,7 @@ class Desktop:
                                 stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def press(self, keys):
-        """Presses and releases keys as the person would, such as "alt+super+b"."""
+        """Presses and releases keys as the user would, such as "alt+super+b"."""
         self.tool("xdotool", "key", keys)
 
     def type(self, text):

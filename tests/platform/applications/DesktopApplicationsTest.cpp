@@ -52,7 +52,7 @@ TEST_F(DesktopApplicationsTest, PersonsEntryGoesBeforeTheSystems) {
     EXPECT_EQ(identify("tool").name, text("Mine"));
 }
 
-TEST_F(DesktopApplicationsTest, EntryThatThePersonDeletedHidesTheSystems) {
+TEST_F(DesktopApplicationsTest, EntryThatTheUserDeletedHidesTheSystems) {
     write("mine/tool.desktop", "Name=Tool\nHidden=true\n");
     write("system/tool.desktop", "Name=System's\nStartupWMClass=Window\n");
     EXPECT_EQ(identify("Window").bundleId, text("Window"));
@@ -97,7 +97,7 @@ TEST_F(DesktopApplicationsTest, ChangesBesideAMissingFolderCauseNoSecondRead) {
     EXPECT_EQ(m_applications.timesRead(), 1);
 }
 
-TEST(DesktopApplications, StandardFoldersAreThePersonsThenTheSystems) {
+TEST(DesktopApplications, StandardFoldersAreTheUsersThenTheSystems) {
     const EnvironmentVariable home("XDG_DATA_HOME", "/home/ada/data");
     const EnvironmentVariable dirs("XDG_DATA_DIRS", "/one::relative:/two/:/one");
     const QStringList folders = DesktopApplications::standardFolders();

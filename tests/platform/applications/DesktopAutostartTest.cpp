@@ -47,7 +47,7 @@ TEST_F(DesktopAutostartTest, UnregistersByRemovingTheEntry) {
     EXPECT_EQ(m_disk.paths(), QStringList());
 }
 
-TEST_F(DesktopAutostartTest, RespectsThatThePersonSwitchedItOffInTheDesktop) {
+TEST_F(DesktopAutostartTest, RespectsThatTheUserSwitchedItOffInTheDesktop) {
     for (const char* line : {"Hidden=true", "Hidden = True", "X-GNOME-Autostart-enabled=false",
                              "X-GNOME-Autostart-enabled=false\r"}) {
         EXPECT_TRUE(m_autostart.registerItem());
@@ -68,7 +68,7 @@ TEST_F(DesktopAutostartTest, IsNotConfusedByOtherValuesKeysAndGroups) {
     }
 }
 
-TEST_F(DesktopAutostartTest, TellsWhenTheEntryCanNotBeWritten) {
+TEST_F(DesktopAutostartTest, TellsWhenTheEntryCannotBeWritten) {
     m_files.fail(FaultyFileSystem::Operation::Write, QStringLiteral(".local.vantle.Vantle.*"),
                  ENOSPC);
     EXPECT_EQ(m_autostart.registerItem().error().code, ENOSPC);
@@ -76,7 +76,7 @@ TEST_F(DesktopAutostartTest, TellsWhenTheEntryCanNotBeWritten) {
     EXPECT_EQ(m_disk.paths(), QStringList());
 }
 
-TEST_F(DesktopAutostartTest, TellsWhenTheEntryCanNotBeRemoved) {
+TEST_F(DesktopAutostartTest, TellsWhenTheEntryCannotBeRemoved) {
     EXPECT_TRUE(m_autostart.registerItem());
     m_files.fail(FaultyFileSystem::Operation::Remove, kEntry, EACCES);
     EXPECT_EQ(m_autostart.unregisterItem().error().code, EACCES);

@@ -85,7 +85,7 @@ TEST_F(SocketLanguageModelTest, WithoutTheFileThereIsNoneAndNothingIsDone) {
     EXPECT_EQ(m_server->connections, 0);
 }
 
-TEST_F(SocketLanguageModelTest, FileThatNamesASocketOfThePersonMakesItAvailable) {
+TEST_F(SocketLanguageModelTest, FileThatNamesASocketOfTheUserMakesItAvailable) {
     EXPECT_FALSE(m_model.isAvailable()) << "no socket yet";
     startServer();
     EXPECT_TRUE(m_model.isAvailable());

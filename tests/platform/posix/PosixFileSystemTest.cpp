@@ -86,7 +86,7 @@ TEST_F(PosixFileSystemTest, AFullDeviceIsToldOnWriting) {
               QStringLiteral("No space left on device (write /dev/full)"));
 }
 
-TEST_F(PosixFileSystemTest, ASyncThatTheDeviceCanNotDoIsToldToo) {
+TEST_F(PosixFileSystemTest, ASyncThatTheDeviceCannotDoIsToldToo) {
     auto file = m_files.open(QStringLiteral("/dev/full"), OpenMode::Append);
     ASSERT_TRUE(file);
     EXPECT_EQ(file.value()->sync().error().operation, QStringLiteral("sync"));

@@ -147,7 +147,7 @@ TEST_F(SettingsPreferencesTest, AnOlderKeptCopyIsNeverOverwritten) {
     EXPECT_EQ(contentOf("preferences.ini.damaged.3"), kDamaged);
 }
 
-TEST_F(SettingsPreferencesTest, ADamagedFileThatCanNotBeKeptIsLeftAlone) {
+TEST_F(SettingsPreferencesTest, ADamagedFileThatCannotBeKeptIsLeftAlone) {
     put(kDamaged);
     m_files.fail(Operation::Write, QStringLiteral("preferences.ini.damaged"), ENOSPC);
     const auto preferences = opened();
@@ -182,7 +182,7 @@ TEST_F(SettingsPreferencesTest, ADamagedFileIsNeverLostWhereverItsKeepingFails) 
     EXPECT_EQ(names().size(), 2) << "the last round met no fault any more";
 }
 
-TEST_F(SettingsPreferencesTest, WhatCanNotBeReadIsMovedAside) {
+TEST_F(SettingsPreferencesTest, WhatCannotBeReadIsMovedAside) {
     ASSERT_TRUE(m_disk.makeDirectories(at("preferences.ini/inside"), 0700));
     writeAValue();
     EXPECT_TRUE(m_disk.exists(at("preferences.ini.damaged/inside")));
@@ -190,7 +190,7 @@ TEST_F(SettingsPreferencesTest, WhatCanNotBeReadIsMovedAside) {
     EXPECT_EQ(m_disk.mode(m_path).value(), 0600);
 }
 
-TEST_F(SettingsPreferencesTest, WhatCanNotBeReadNorMovedIsLeftAlone) {
+TEST_F(SettingsPreferencesTest, WhatCannotBeReadNorMovedIsLeftAlone) {
     ASSERT_TRUE(m_disk.makeDirectories(at("preferences.ini/inside"), 0700));
     m_files.fail(Operation::Rename, QStringLiteral("preferences.ini"), EACCES);
     writeAValue();
@@ -198,7 +198,7 @@ TEST_F(SettingsPreferencesTest, WhatCanNotBeReadNorMovedIsLeftAlone) {
     EXPECT_EQ(names().size(), 1);
 }
 
-TEST_F(SettingsPreferencesTest, HoldForThisRunWhereTheDirectoryCanNotBeMade) {
+TEST_F(SettingsPreferencesTest, HoldForThisRunWhereTheDirectoryCannotBeMade) {
     ASSERT_TRUE(m_disk.open(m_directory.path() + QStringLiteral("/Vantle"),
                             FileSystem::OpenMode::CreateNew));
     writeAValue();

@@ -39,7 +39,7 @@ public:
 
     [[nodiscard]] bool isShown() const { return m_isShown; }
 
-    /// What the person does: 0 for choosing the file.
+    /// What the user does: 0 for choosing the file.
     void respond(uint response, const QString& uri) {
         m_isShown = false;
         auto signal = QDBusMessage::createSignal(m_request.path(),

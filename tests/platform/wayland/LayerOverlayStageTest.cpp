@@ -254,7 +254,7 @@ TEST_F(LayerOverlayStageTest, AnotherSizeInTheMiddleOfAShowIsPaintedAtOnce) {
     EXPECT_EQ(surface().pictures.size(), 4u);
 }
 
-TEST_F(LayerOverlayStageTest, ASizeThatCantBePaintedIsNoShow) {
+TEST_F(LayerOverlayStageTest, ASizeThatCannotBePaintedIsNoShow) {
     for (const auto& [width, height] : {std::pair{0u, 0u}, {0x80000000u, 2u}, {32767u, 32767u}}) {
         seen = {};
         if (!stage) beginWithOneScreen();

@@ -68,7 +68,7 @@ TEST_F(X11FrontmostAppTest, OwnWindowsAreThisProgramWhateverTheirClass) {
     EXPECT_EQ(m_frontmost.frontmost(), (Application{q("local.vantle.Vantle"), q("Vantle")}));
 }
 
-TEST_F(X11FrontmostAppTest, OwnWindowsAreKnownByTheirClassWhereTheProcessCantBeTold) {
+TEST_F(X11FrontmostAppTest, OwnWindowsAreKnownByTheirClassWhereTheProcessCannotBeTold) {
     callActive(makeWindow("vantle"));
     EXPECT_EQ(m_frontmost.frontmost(), (Application{q("local.vantle.Vantle"), q("Vantle")}));
     EXPECT_TRUE(m_resolved.empty());

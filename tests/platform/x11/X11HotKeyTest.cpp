@@ -12,7 +12,7 @@ namespace {
 using Registration = HotKeyPort::Registration;
 using tests::catchUp;
 
-/// One program with a hot key, and the person at the keyboard.
+/// One program with a hot key, and the user at the keyboard.
 class X11HotKeyTest : public testing::Test {
 protected:
     X11HotKeyTest() {
@@ -119,7 +119,7 @@ TEST_F(X11HotKeyTest, OtherKeysWhileItIsHeldAreNotOurs) {
     EXPECT_EQ(m_pressed, 1);
 }
 
-TEST_F(X11HotKeyTest, WindowWithTheKeyboardDoesntKeepThePressFromUs) {
+TEST_F(X11HotKeyTest, WindowWithTheKeyboardDoesNotKeepThePressFromUs) {
     QProcess terminal;
     terminal.start(QStringLiteral("xterm"), {});
     ASSERT_TRUE(tests::await([] {

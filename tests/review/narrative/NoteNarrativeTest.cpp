@@ -199,7 +199,7 @@ TEST_F(NoteNarrativeTest, ModelThatNeverAnswersLeavesNothingBehindWhenThePeriodC
     auto request = ask(m_notes);
     m_time.advance(86400);
     EXPECT_EQ(m_model.waiting(), 1u);
-    request.reset(); // the person turned to another period
+    request.reset(); // the user turned to another period
     EXPECT_EQ(m_model.openSessions(), 0);
     EXPECT_FALSE(m_model.answer(m_sentence)) << "nobody is there to hear it";
     EXPECT_EQ(m_told, 0);

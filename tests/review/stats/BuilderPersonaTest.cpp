@@ -97,7 +97,7 @@ TEST(BuilderPersona, ASessionOfNoSecondsWeighsOne) {
     EXPECT_EQ(axesOf(ofSkills({0, 99})).averageSeconds, 50.0);
 }
 
-TEST(BuilderPersona, ThePaceIsWrittenInThePersonsStyle) {
+TEST(BuilderPersona, ThePaceIsWrittenInTheUsersStyle) {
     const auto sessions = ofSkills({5400, 5401}); // 5400.5 on average
     const auto pace = [&](DurationStyle style) {
         return compute(refsTo(sessions), kUtc, style)->paceFact;

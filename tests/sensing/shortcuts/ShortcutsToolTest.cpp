@@ -121,7 +121,7 @@ TEST_F(ShortcutsToolTest, NamesThatLeadOutOfTheFolderAreRefused) {
     EXPECT_EQ(ran(), "");
 }
 
-TEST_F(ShortcutsToolTest, OneOfTheUserGoesBeforeOneThatComesAlong) {
+TEST_F(ShortcutsToolTest, TheUsersShortcutReplacesABundledOne) {
     add("Do Not Disturb on");
     EXPECT_EQ(tool({QStringLiteral("list")}), 0);
     EXPECT_EQ(m_printed, "Do Not Disturb on\nDo Not Disturb off\n");
@@ -129,7 +129,7 @@ TEST_F(ShortcutsToolTest, OneOfTheUserGoesBeforeOneThatComesAlong) {
     EXPECT_EQ(ran(), pathOf("Do Not Disturb on"));
 }
 
-TEST_F(ShortcutsToolTest, BrokenOneOfTheUserIsNotReplacedByOneThatComesAlong) {
+TEST_F(ShortcutsToolTest, ABrokenShortcutOfTheUserIsNotReplacedByABundledOne) {
     add("Do Not Disturb on");
     std::FILE* const file = std::fopen(pathOf("Do Not Disturb on").constData(), "w");
     std::fputs("no first line that names an interpreter\n", file);
@@ -137,7 +137,7 @@ TEST_F(ShortcutsToolTest, BrokenOneOfTheUserIsNotReplacedByOneThatComesAlong) {
     EXPECT_EQ(runShortcut(QStringLiteral("Do Not Disturb on")), 66);
 }
 
-TEST_F(ShortcutsToolTest, OnesThatComeAlongEndWellAndPrintNothingWithoutADesktop) {
+TEST_F(ShortcutsToolTest, BundledOnesSucceedSilentlyWithoutADesktop) {
     const tests::EnvironmentVariable bus("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     for (const char* name : {"Do Not Disturb on", "Do Not Disturb off"}) {
         EXPECT_EQ(runShortcut(QString::fromUtf8(name)), 0);

@@ -129,7 +129,7 @@ TEST_F(NotchCapsuleTest, TheClockRunsWhileItCanBeSeen) {
     EXPECT_EQ(capsule->clock(), text("3 min"));
 }
 
-TEST_F(NotchCapsuleTest, TheClockFollowsThePersonsWayOfWritingDurations) {
+TEST_F(NotchCapsuleTest, TheClockFollowsTheUsersWayOfWritingDurations) {
     world.tracking.preferences.setString(settings::durationStyle.key(), text("clock"));
     startSession();
     make(world.runningForm());

@@ -1,4 +1,4 @@
-// The recovery notice, the two questions and the toast under the person's hands.
+// The recovery notice, the two questions and the toast under the user's hands.
 #include "support/Text.h"
 #include "surfaces/cards/CardViewWorld.h"
 #include "surfaces/cards/RecoveryNoticeController.h"

@@ -32,7 +32,7 @@ TEST_F(RetagToastTest, ItSaysHowMuchWasSavedAndWhere) {
     EXPECT_EQ(toast()->frame(), QRect(1440 - 12 - 206, 38, 206, 40));
 }
 
-TEST_F(RetagToastTest, ItWritesDurationsAsThePersonLikesThem) {
+TEST_F(RetagToastTest, ItWritesDurationsAsTheUserLikesThem) {
     setStyle(DurationStyle::Clock);
     show(65);
     EXPECT_EQ(model()->text(), text("1:05 saved"));

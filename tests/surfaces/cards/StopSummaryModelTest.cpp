@@ -94,7 +94,7 @@ TEST(StopSummaryNote, OfSixHundredPastedCharactersFiveHundredStayAndTheCounterSa
     EXPECT_EQ(model.counterText(), text("500/500"));
 }
 
-TEST(StopSummaryNote, ACharacterIsWhatThePersonSeesAsOne) {
+TEST(StopSummaryNote, ACharacterIsWhatTheUserSeesAsOne) {
     const QString family = text("👨‍👩‍👧"); // eight UTF-16 units
     StopSummaryModel model = modelOf(afterMinutes(5));
     EXPECT_EQ(model.takeNote(family.repeated(501)), family.repeated(500));

@@ -1,4 +1,4 @@
-// The card after a session under the person's hands.
+// The card after a session under the user's hands.
 #include "ceremony/show/CeremonyFonts.h"
 #include "support/ShownItems.h"
 #include "support/Text.h"

@@ -33,7 +33,7 @@ protected:
         controller->statusItemGeometry = [this] { return item; };
     }
 
-    /// Of what the person sees.
+    /// Of what the user sees.
     [[nodiscard]] QRect frame() const {
         const FloatingPanel* const panel = controller->panel();
         return panel->inputRegion().boundingRect().translated(panel->position());

@@ -81,7 +81,7 @@ TEST_F(CommandCenterModelTest, AnUnknownModeIsNotEdited) {
     EXPECT_FALSE(content->editor()->isShown());
 }
 
-TEST_F(CommandCenterModelTest, TheLastModeCanNotBeDeleted) {
+TEST_F(CommandCenterModelTest, TheLastModeCannotBeDeleted) {
     while (content->modes()->rowCount() > 1) {
         EXPECT_TRUE(mode(0, SkillListModel::Deletable).toBool());
         content->deleteMode(mode(0, SkillListModel::SkillId).toString());
@@ -119,7 +119,7 @@ TEST_F(CommandCenterModelTest, TheButtonDrawsAttentionOnce) {
     EXPECT_EQ(wanted, 1);
 }
 
-TEST_F(CommandCenterModelTest, ACreditThatCanNotBeConfirmedIsExplained) {
+TEST_F(CommandCenterModelTest, ACreditThatCannotBeConfirmedIsExplained) {
     content->backfill(10);
     EXPECT_EQ(content->note(), QStringLiteral("Started now · couldn't confirm 10 min of activity"));
 }

@@ -54,7 +54,7 @@ TEST_F(SettingsAppsTest, MenuHoldsTheSkillsThenIgnoreThenNotSet) {
                               text("Ignore"), text("Not set")}));
 }
 
-TEST_F(SettingsAppsTest, GuessedSkillIsMarkedUntilThePersonChooses) {
+TEST_F(SettingsAppsTest, GuessedSkillIsMarkedUntilTheUserChooses) {
     see("com.figma.Desktop", "Figma"); // one of those that everybody starts with
     open();
     EXPECT_EQ(chosen(0), text("Design"));

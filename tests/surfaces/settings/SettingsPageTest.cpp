@@ -128,7 +128,7 @@ TEST_F(SettingsPageTest, WhatAutoModeAndTheIdleCounterCantSeeStandsInTheirRows) 
                        "or click so away time is never counted. Default is 3."));
 }
 
-TEST_F(SettingsPageTest, ACommandStandsInForAShortcutThatCantBeHad) {
+TEST_F(SettingsPageTest, ACommandStandsInForAShortcutThatCannotBeHad) {
     hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};
     tray.setShown(false);
     show();

@@ -101,7 +101,7 @@ TEST_F(SkillEditorTest, AColourOutsideThePaletteIsNoneOfIt) {
     EXPECT_EQ(editor.color(), QColor::fromRgb(0x123456));
 }
 
-TEST_F(SkillEditorTest, AnEmptyNameCanNotBeCommitted) {
+TEST_F(SkillEditorTest, AnEmptyNameCannotBeCommitted) {
     editor.openNew(skills);
     for (const char* name : {"", "   ", "  \t\n "}) {
         editor.setName(QString::fromLatin1(name));
@@ -112,7 +112,7 @@ TEST_F(SkillEditorTest, AnEmptyNameCanNotBeCommitted) {
     EXPECT_TRUE(done.empty());
 }
 
-TEST_F(SkillEditorTest, ANameShorterThanTheShortestCanNotBeCommitted) {
+TEST_F(SkillEditorTest, ANameShorterThanTheShortestCannotBeCommitted) {
     SkillEditor strict(
         [this](const auto& id, const QString& name, std::uint32_t hexRGB) {
             done.push_back({id, name, hexRGB});

@@ -53,7 +53,7 @@ TEST_F(PosterSharingTest, AsksUnderTheSuggestedNameForAPng) {
     EXPECT_TRUE(saved.empty());
 }
 
-TEST_F(PosterSharingTest, WritesWhereThePersonChose) {
+TEST_F(PosterSharingTest, WritesWhereTheUserChose) {
     save();
     choose(kChosen);
     EXPECT_EQ(saved, std::vector{Saved::Written});
@@ -76,7 +76,7 @@ TEST_F(PosterSharingTest, WritesNothingForWhoTurnsAway) {
     EXPECT_TRUE(disk.paths().isEmpty());
 }
 
-TEST_F(PosterSharingTest, TellsWhenItCanNotBeWrittenAndLeavesWhatStoodThere) {
+TEST_F(PosterSharingTest, TellsWhenItCannotBeWrittenAndLeavesWhatStoodThere) {
     disk.setContent(kChosen, "last week", 0640);
     files.failNthCall(3, EACCES); // the making of the file
     save();

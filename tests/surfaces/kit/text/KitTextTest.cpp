@@ -27,7 +27,7 @@ TEST(KitText, ColorsDigitsAreReadOutAfterItsName) {
     EXPECT_EQ(KitText::swatch(green, false), QStringLiteral("Color 30D158, not selected"));
 }
 
-TEST(KitText, ALimitCountsWhatThePersonSees) {
+TEST(KitText, ALimitCountsWhatTheUserSees) {
     const QString text = kFamily + kFlag + kAccented + QStringLiteral("x");
     EXPECT_EQ(KitText::count(text), 4);
     EXPECT_EQ(KitText::first(text, 4), text);
