@@ -1,4 +1,4 @@
-// The frame of a contract suite: the same tests over a world for each form of a port.
+// The frame of a contract suite: the same tests over each implementation of a port.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 
 namespace vantle::contract {
 
-/// Makes one world. `name` tells the form of the port in the name of each test.
+/// Makes one world, the environment of an implementation. `name` becomes part of the test names.
 template <typename World>
 struct Maker {
     const char* name;
@@ -21,7 +21,7 @@ template <typename World, typename Form>
     return {name, []() -> std::unique_ptr<World> { return std::make_unique<Form>(); }};
 }
 
-/// A test of the suite, with a world of its own.
+/// A test of the suite with its own world.
 template <typename World>
 class Contract : public testing::TestWithParam<Maker<World>> {
 protected:

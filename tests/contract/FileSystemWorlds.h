@@ -1,4 +1,4 @@
-// The file systems that the contract is held against, each with a fresh directory to work in.
+// The file systems under the contract, each with an empty directory.
 #pragma once
 
 #include "platform/FileSystem.h"
@@ -23,7 +23,7 @@ struct FileSystemMaker {
     std::function<std::unique_ptr<FileSystemWorld>()> make;
 };
 
-/// The real one in a temporary directory, and the one in memory.
+/// The real file system in a temporary directory, and the one in memory.
 [[nodiscard]] std::vector<FileSystemMaker> fileSystemMakers();
 
 class FileSystemContract : public testing::TestWithParam<FileSystemMaker> {
@@ -33,10 +33,10 @@ protected:
         return m_world->root() + QLatin1Char('/') + QLatin1String(name);
     }
 
-    /// Makes a file of that content, which must work.
+    /// Creates a file with that content; fails the test otherwise.
     void put(const QString& path, QByteArrayView content) const;
 
-    /// The content at the path, which must be readable.
+    /// Returns the content at the path; fails the test when unreadable.
     [[nodiscard]] QByteArray contentOf(const QString& path) const;
 
 private:

@@ -1,4 +1,4 @@
-// A desktop's login items, as far as this program is concerned.
+// The login item of a desktop.
 #pragma once
 
 #include "platform/Autostart.h"

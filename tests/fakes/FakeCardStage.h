@@ -1,4 +1,4 @@
-// A screen that only writes down which cards stand on it.
+// A card stage that records its cards.
 #pragma once
 
 #include "surfaces/cards/CardStage.h"
@@ -62,13 +62,13 @@ public:
         return frames;
     }
 
-    /// Another main screen, or none.
+    /// Changes the screen, or removes it.
     void moveTo(const std::optional<QRect>& other) {
         screen = other;
         Q_EMIT cardScreenChanged();
     }
 
-    /// The panel that is up with that view; null when there is none.
+    /// Returns the panel with that view; null when there is none.
     [[nodiscard]] FakeCardPanel* up(CardView view) const {
         const auto found = std::find_if(panels.begin(), panels.end(), [view](const auto* panel) {
             return panel->isShown && panel->view == view;
@@ -80,11 +80,11 @@ public:
         return up(view) ? qobject_cast<Model*>(up(view)->model.get()) : nullptr;
     }
 
-    /// The screen of the cards without the desktop's bars.
+    /// The screen of the cards, without bars.
     std::optional<QRect> screen = QRect(0, 28, 1440, 872);
     QSize cardSize{380, 263};
     QSize toastSize{206, 40};
-    std::vector<QRect> others; ///< panels that are none of ours
+    std::vector<QRect> others; ///< panels of other owners
     std::vector<FakeCardPanel*> panels;
     int raised = 0;
     int dismissed = 0;

@@ -1,4 +1,4 @@
-// A whole desktop that is made up: one fake for each port.
+// A whole desktop: one fake per port.
 #pragma once
 
 #include "fakes/FakeAutostart.h"

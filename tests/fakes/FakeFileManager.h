@@ -1,4 +1,4 @@
-// A file manager that writes down what it was asked for.
+// A file manager that records requests.
 #pragma once
 
 #include "platform/FileManager.h"

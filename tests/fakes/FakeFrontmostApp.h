@@ -1,4 +1,4 @@
-// An application in front, as the test says.
+// The application in front, set by the test.
 #pragma once
 
 #include "platform/FrontmostApp.h"
@@ -12,13 +12,13 @@ public:
     [[nodiscard]] std::optional<Application> frontmost() override { return application; }
     [[nodiscard]] AppCoverage coverage() const override { return m_coverage; }
 
-    /// Brings `app` to the front and tells it, also when it is in front already.
+    /// Brings `app` to the front and emits the signal, also when it is there already.
     void activate(const std::optional<Application>& app) {
         application = app;
         Q_EMIT activated(app);
     }
 
-    /// The desktop tells about these applications from now on. Of none, nothing is in front.
+    /// Sets the coverage. With None nothing is in front.
     void setCoverage(AppCoverage coverage) {
         if (std::exchange(m_coverage, coverage) != coverage) Q_EMIT coverageChanged();
         if (coverage == AppCoverage::None && application) activate(std::nullopt);
@@ -29,9 +29,9 @@ public:
     void setHelp(FrontmostHelp help) {
         if (std::exchange(m_help, help) != help) Q_EMIT helpChanged();
     }
-    int accepted = 0; ///< how often the user took the help
+    int accepted = 0; ///< how often the user accepted the help
 
-    /// In front now. Emits no signal.
+    /// In front now; setting it emits no signal.
     std::optional<Application> application;
 
 private:

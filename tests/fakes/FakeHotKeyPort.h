@@ -1,4 +1,4 @@
-// A desktop's keyboard, as far as the one combination is concerned.
+// The keyboard of a desktop, for the one combination.
 #pragma once
 
 #include "platform/HotKeyPort.h"
@@ -42,8 +42,7 @@ public:
         return answer;
     }
 
-    /// The desktop answers, takes the combination away, or gives it back; nothing when the attempt
-    /// failed at once.
+    /// Reports another outcome, unless the attempt failed at once.
     void become(const Outcome& now) {
         if (keys == 0) return;
         m_isLost = now.registration != Registration::Registered;
@@ -57,16 +56,16 @@ public:
         return true;
     }
 
-    // What the next attempt comes to.
+    // The result of the next attempt.
     int installStatus = 0;
     Outcome outcome{Registration::Registered, 0};
-    QString way; ///< that takes the user's word
+    QString way; ///< needs the user's consent
 
-    // What the user has said: in former runs, and in this one.
+    // The user's consent, from earlier runs and from this one.
     QString recalled;
     std::optional<bool> isAllowed;
 
-    // What is held now; more than one, or fewer than none, is a fault of the code under test.
+    // What is held now; another value than 0 or 1 is a fault of the code under test.
     int handlers = 0;
     int keys = 0;
 

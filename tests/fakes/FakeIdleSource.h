@@ -1,4 +1,4 @@
-// An idle counter that reads what the test says.
+// An idle counter set by the test.
 #pragma once
 
 #include "fakes/VirtualTime.h"
@@ -12,19 +12,19 @@ class FakeIdleSource final : public IdleSource {
 public:
     explicit FakeIdleSource(const VirtualTime& time) : m_time(time) {}
 
-    /// Reads `seconds` until changed.
+    /// Returns `seconds` until changed.
     void fix(double seconds) { set(seconds, false); }
 
-    /// Reads `seconds` plus what has passed since this call, sleep of the machine included.
+    /// Returns `seconds` plus the time since this call, sleep included.
     void growFrom(double seconds) { set(seconds, true); }
 
     /// The user touches the machine now, and not again.
     void touch() { growFrom(0); }
 
-    /// The desktop does not tell now.
+    /// Makes the counter unknown.
     void becomeUnknown() { m_base.reset(); }
 
-    /// The desktop can't tell at all, or it can.
+    /// Sets whether the desktop can tell at all.
     void setCanTell(bool canTell) {
         if (std::exchange(m_canTell, canTell) != canTell) Q_EMIT canTellChanged();
     }

@@ -1,4 +1,4 @@
-// A model that says what the test tells it to, when the test tells it to.
+// A language model whose answers the test gives.
 #pragma once
 
 #include "platform/LanguageModel.h"
@@ -12,7 +12,7 @@ namespace vantle::fakes {
 class FakeLanguageModel final : public LanguageModel {
 public:
     struct Call {
-        bool opens = false; ///< a session with these instructions, else a prompt
+        bool opens = false; ///< instructions of a new session, else a prompt
         QString text;
     };
 
@@ -23,13 +23,13 @@ public:
         return std::make_unique<Session>(*this);
     }
 
-    /// Answers the question that waits longest; nothing for a failure, and whatever is said while
-    /// the model is not available. False when no question waits.
+    /// Answers the oldest prompt; empty for a failure, and for any answer while the model is
+    /// unavailable. Returns false without a prompt.
     bool answer(const std::optional<QString>& text) {
         if (m_waiting.empty()) return false;
         const auto answered = std::exchange(m_waiting.front()->answered, {});
         m_waiting.erase(m_waiting.begin());
-        answered(available ? text : std::nullopt); // may end the session
+        answered(available ? text : std::nullopt); // may destroy the session
         return true;
     }
     [[nodiscard]] std::size_t waiting() const { return m_waiting.size(); }

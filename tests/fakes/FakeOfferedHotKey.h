@@ -1,4 +1,4 @@
-// A way to the shortcut that the desktop offers or not.
+// A way to the shortcut whose offer the test sets.
 #pragma once
 
 #include "fakes/FakeHotKeyPort.h"
@@ -9,7 +9,7 @@
 
 namespace vantle::fakes {
 
-/// Everything but the offer is that of `port`.
+/// Everything except the offer is `port`'s.
 class FakeOfferedHotKey final : public OfferedHotKey {
 public:
     explicit FakeOfferedHotKey(std::optional<bool> isOffered) : m_isOffered(isOffered) {
@@ -30,7 +30,7 @@ public:
     void recallAllowed(const QString& way) override { port.recallAllowed(way); }
     [[nodiscard]] Outcome allow(bool allowed) override { return port.allow(allowed); }
 
-    /// The service comes or goes.
+    /// The service appears or disappears.
     void offer(bool isOffered) {
         m_isOffered = isOffered;
         if (onOfferedChanged) onOfferedChanged();

@@ -1,4 +1,4 @@
-// A stage over screens of the test, where nothing is painted.
+// An overlay stage that paints nothing.
 #pragma once
 
 #include "platform/OverlayStage.h"
@@ -28,13 +28,13 @@ public:
         for (Window* window : m_windows)
             if (window->frame == frame) window->view.reset();
     }
-    /// The views come to their ends.
+    /// Ends all views.
     void finish() {
         for (Window* window : m_windows)
             window->view.reset();
     }
 
-    /// What shows, in the order in which it was put up.
+    /// The visible overlays, in the order of putUp().
     [[nodiscard]] QList<QRect> shown() const {
         QList<QRect> frames;
         for (const Window* window : m_windows)

@@ -1,4 +1,4 @@
-// A desktop that remembers what panels asked of it.
+// A panel host that records requests.
 #pragma once
 
 #include "platform/PanelHost.h"
@@ -28,7 +28,7 @@ public:
         if (!senses) return nullptr;
         const QRect part = rect.translated(panel.ground().topLeft());
         sensor = Sensor{part, std::move(rested)};
-        // As a server tells it: later.
+        // Deferred, as from a server.
         if (part.contains(pointer))
             QMetaObject::invokeMethod(
                 this, [this] { tellSensor(); }, Qt::QueuedConnection);
@@ -43,27 +43,27 @@ public:
     void setComposited(bool isThere) {
         if (std::exchange(composited, isThere) != isThere) Q_EMIT compositedChanged();
     }
-    /// The user moves the pointer there, and rests.
+    /// The user moves the pointer there and rests.
     void movePointer(QPoint place) {
         const QPoint before = std::exchange(pointer, place);
         if (sensor && !sensor->part.contains(before)) tellSensor();
     }
-    /// Holds a button, or lets it go, where the pointer is.
+    /// Presses or releases a button at the pointer.
     void setButtonDown(bool isDown) { buttonIsDown = isDown; }
 
     struct Sensor {
         QRect part;
         std::function<void()> rested;
     };
-    std::optional<Sensor> sensor; ///< the one that there is
+    std::optional<Sensor> sensor; ///< the current one
     bool composited = true;
     bool inputRegions = true;
     bool pointerIsTold = true;
-    bool senses = true; ///< parts of the screen can be watched for the pointer
+    bool senses = true; ///< whether pointer sensors are supported
     std::set<const QWindow*> placedBeforeShow;
-    std::map<const QWindow*, Placement> placements; ///< the last of each window
+    std::map<const QWindow*, Placement> placements; ///< the last one of each window
     QRegion inputRegion;                            ///< of the window that set one last
-    QWindow* keyboardOwner = nullptr; ///< null while the keyboard is with the application below
+    QWindow* keyboardOwner = nullptr; ///< null while another application has the keyboard
 
 private:
     struct Sensing final : PointerSensor {
@@ -74,7 +74,7 @@ private:
 
     void tellSensor() {
         if (!sensor || buttonIsDown || !sensor->part.contains(pointer)) return;
-        const auto rested = sensor->rested; // the sensor may go meanwhile
+        const auto rested = sensor->rested; // the sensor may be destroyed meanwhile
         rested();
     }
 

@@ -1,4 +1,4 @@
-// A pointer in the hand of the test.
+// The pointer presses of the test.
 #pragma once
 
 #include "platform/PointerPresses.h"

@@ -1,4 +1,4 @@
-// Other programs that never run; the test says what they print and when they end.
+// A process runner without processes: the test sets output and end.
 #pragma once
 
 #include "platform/ProcessRunner.h"
@@ -22,7 +22,7 @@ public:
         return canStart;
     }
 
-    /// The longest-running collected command ends.
+    /// Ends the oldest collected command.
     void end(std::optional<Output> output) {
         const auto done = std::move(m_waiting.front());
         m_waiting.pop_front();

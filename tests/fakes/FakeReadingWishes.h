@@ -1,4 +1,4 @@
-// The user's wishes for contrast and larger text, as the test sets them.
+// The user's text settings, set by the test.
 #pragma once
 
 #include "platform/ReadingWishes.h"
@@ -10,7 +10,7 @@ public:
     [[nodiscard]] bool moreContrast() const override { return m_moreContrast; }
     [[nodiscard]] double textScale() const override { return m_textScale; }
 
-    /// The user changes a setting while the program runs.
+    /// The user changes a setting at run time.
     void setMoreContrast(bool more) {
         m_moreContrast = more;
         Q_EMIT changed();

@@ -1,4 +1,4 @@
-// The user's wish for less movement, as the test sets it.
+// The reduced motion setting, set by the test.
 #pragma once
 
 #include "platform/ReducedMotion.h"
@@ -9,13 +9,13 @@ class FakeReducedMotion final : public ReducedMotion {
 public:
     [[nodiscard]] bool enabled() const override { return isOn; }
 
-    /// The user changes the setting while the program runs.
+    /// The user changes the setting at run time.
     void set(bool on) {
         isOn = on;
         Q_EMIT changed();
     }
 
-    bool isOn = false; ///< a change by this way is told to no one
+    bool isOn = false; ///< setting it directly emits no signal
 };
 
 } // namespace vantle::fakes

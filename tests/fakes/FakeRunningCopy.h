@@ -1,4 +1,4 @@
-// The other copies of the program, as the test says.
+// The running copy of the program, set by the test.
 #pragma once
 
 #include "platform/RunningCopy.h"

@@ -1,4 +1,4 @@
-// A save dialog that a test answers.
+// A save dialog that the test answers.
 #pragma once
 
 #include "platform/SaveDialog.h"
@@ -21,24 +21,23 @@ public:
         return std::make_unique<Open>(std::move(shown));
     }
 
-    /// Whether the last dialog is on the screen: neither answered, nor taken away, nor gone with
-    /// its window.
+    /// Whether the last dialog is open: not answered, closed or destroyed with its window.
     [[nodiscard]] bool isOpen() const {
         const auto shown = m_shown.lock();
         return shown && shown->answer && !(shown->hadWindow && !shown->window);
     }
 
-    /// The user chooses a file, or turns away. Nothing happens where no dialog is open.
+    /// The user chooses a file or cancels. Has no effect without an open dialog.
     void choose(const std::optional<QString>& path) {
         if (!isOpen()) return;
-        std::exchange(m_shown.lock()->answer, nullptr)(path); // may take the dialog away
+        std::exchange(m_shown.lock()->answer, nullptr)(path); // may destroy the dialog
     }
 
     std::vector<SaveQuestion> asked;
 
 private:
     struct Shown {
-        Answer answer; ///< empty once it was given
+        Answer answer; ///< empty once given
         QPointer<QWindow> window;
         bool hadWindow = false;
     };
@@ -47,7 +46,7 @@ private:
         const std::shared_ptr<Shown> shown;
     };
 
-    std::weak_ptr<Shown> m_shown; ///< the last dialog, until it is taken away
+    std::weak_ptr<Shown> m_shown; ///< the last dialog, until closed
 };
 
 } // namespace vantle::fakes

@@ -1,4 +1,4 @@
-// Screens that sleep and wake when the test says so.
+// Screens whose sleep the test sets.
 #pragma once
 
 #include "platform/ScreenPower.h"
@@ -18,7 +18,7 @@ public:
         if (std::exchange(m_asleep, false)) Q_EMIT woke();
     }
 
-    /// Notifies each time, also of what holds already, as no source of the program does.
+    /// Emits each time, also repeatedly, unlike the program's sources.
     void tellSleep() {
         m_asleep = true;
         Q_EMIT slept();

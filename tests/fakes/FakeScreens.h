@@ -1,4 +1,4 @@
-// Screens as the test arranges them.
+// The screens that the test arranges.
 #pragma once
 
 #include "platform/Screens.h"
@@ -14,15 +14,15 @@ public:
         return inUse < shapes.size() ? startingWith(shapes[inUse].frame, shapes) : shapes;
     }
 
-    /// Another arrangement, told of at once.
+    /// Changes the arrangement and emits the signal.
     void arrange(std::vector<ScreenShape> other) {
         shapes = std::move(other);
         Q_EMIT changed();
     }
 
-    std::size_t inUse = 0; ///< the screen that the user is at
+    std::size_t inUse = 0; ///< index of the screen in use
 
-    /// One plain screen, with a bar of 28 px at its top.
+    /// One plain screen with a bar of 28 px at its top.
     std::vector<ScreenShape> shapes{
         {.frame = QRectF(0, 0, 1440, 900), .available = QRectF(0, 28, 1440, 872)}};
 };

@@ -1,4 +1,4 @@
-// A tray that remembers what it was given to show.
+// A tray that records what it shows.
 #pragma once
 
 #include "platform/TrayItem.h"
@@ -22,23 +22,23 @@ public:
     [[nodiscard]] QRect geometry() const override { return place; }
     [[nodiscard]] bool isPlacePending() const override { return placePending; }
 
-    /// The tray puts the item there.
+    /// The tray moves the item there.
     void moveTo(const QRect& frame) {
         place = frame;
         placePending = false;
         Q_EMIT placeChanged();
     }
 
-    /// The tray comes or goes.
+    /// The tray appears or disappears.
     void setShown(bool shown) {
         const bool shownBefore = isShown();
         m_shown = shown;
         if (isShown() != shownBefore) Q_EMIT shownChanged();
     }
-    /// As it is before the program has given it an image; otherwise it has shown one already.
+    /// Resets to the state before the first image.
     void forgetImage() { m_hasImage = false; }
     void click(QPoint where) { Q_EMIT clicked(where); }
-    /// The user chooses the line of the menu that says so.
+    /// The user chooses the menu entry with that text.
     bool choose(const QString& line) {
         for (const TrayMenuEntry& entry : menu)
             if (entry.text == line) {
@@ -61,7 +61,7 @@ public:
     QString toolTip;
     QList<TrayMenuEntry> menu;
     QRect place;
-    bool placePending = false; ///< the tray takes its time
+    bool placePending = false; ///< the tray has not placed the item yet
 
 private:
     bool m_shown = true;

@@ -1,4 +1,4 @@
-// A window manager that remembers what it was asked for.
+// A window manager that records requests.
 #pragma once
 
 #include "platform/WindowManager.h"
@@ -28,9 +28,9 @@ public:
         if (std::exchange(minimises, can) != can) Q_EMIT changed();
     }
 
-    bool places = true; ///< where windows ask for; else they get no more than their size
+    bool places = true; ///< as requested; otherwise only the size is granted
     bool minimises = true;
-    QPointer<QWindow> brought; ///< the last one that was to come to the user
+    QPointer<QWindow> brought; ///< the last window brought to the user
 };
 
 } // namespace vantle::fakes

@@ -1,9 +1,8 @@
-// A file system that fails where a test says so, over another one.
+// A file system that injects faults into another one.
 //
-// Three kinds of fault: one chosen call fails, every call of an operation on a file fails until it
-// is healed, or the process dies at a chosen call and nothing after it reaches the disk. A failing
-// call leaves the other file system as it is, except for a write, which puts down the first half of
-// its bytes before it fails, as a full disk does. One thread at a time.
+// One chosen call fails, every call of an operation on a file fails until healed, or the process
+// dies at a chosen call and nothing later reaches the disk. A failing call has no effect, except
+// that a failing write writes half of its bytes, as on a full disk. One thread at a time.
 #pragma once
 
 #include "platform/FileSystem.h"
@@ -19,7 +18,7 @@ namespace vantle::fakes {
 class FaultyFileSystem final : public FileSystem {
 public:
     enum class Operation {
-        Open, ///< of any mode but CreateNew
+        Open, ///< any mode but CreateNew
         Create,
         Read,
         Write,
@@ -29,7 +28,7 @@ public:
         Close,
         Exists, ///< a fault makes it false
         MakeDirectories,
-        Rename, ///< both names count
+        Rename, ///< matches both names
         Remove,
         SetMode,
         Mode,
@@ -44,31 +43,31 @@ public:
         friend bool operator==(const Call&, const Call&) = default;
     };
 
-    /// `inner` must outlive this object and every file it opened.
+    /// `inner` must outlive this object and all files it opened.
     explicit FaultyFileSystem(FileSystem& inner) : m_inner(inner) {}
 
     /// Makes the n-th call from now on fail once; 1 is the next one.
     void failNthCall(int n, int errnoCode);
 
-    /// Makes the n-th call from now on and all after it fail with EIO: the process has died. What
-    /// follows for the disk is the other file system's matter, see MemoryFileSystem::crash.
+    /// Makes the n-th call from now on and all later ones fail with EIO: the process has died.
+    /// MemoryFileSystem::crash decides what the disk keeps.
     void dieAtNthCall(int n);
 
-    /// Makes every call of `operation` on `fileName` fail until healed. The name is the last part
-    /// of a path or the whole of it, and may hold wildcards, as in ".skills.json.*.tmp". Files that
-    /// are open already are meant too.
+    /// Makes every call of `operation` on `fileName` fail until healed, also on open files. The
+    /// name is the last part of a path or the whole path, with optional wildcards, as in
+    /// ".skills.json.*.tmp".
     void fail(Operation operation, const QString& fileName, int errnoCode);
 
-    /// Undoes `fail` for that operation and name.
+    /// Reverts `fail` for that operation and name.
     void heal(Operation operation, const QString& fileName);
 
-    /// Undoes all faults.
+    /// Reverts all faults.
     void healAll();
 
-    /// Runs before each call takes effect: a disk that takes its time, say.
+    /// Runs before each call takes effect, for example to simulate a slow disk.
     std::function<void(Operation)> onCall;
 
-    /// Every call so far in order, the failed ones included.
+    /// All calls so far in order, failed ones included.
     [[nodiscard]] const std::vector<Call>& calls() const { return m_calls; }
     void forgetCalls() { m_calls.clear(); }
 
@@ -86,16 +85,17 @@ public:
 private:
     class FaultyFile;
 
-    /// Records a call and tells with which error it is to fail, if it is.
+    /// Records a call and returns the error with which it must fail, if any.
     [[nodiscard]] std::optional<Error> fault(Operation operation, const QString& path,
                                              const QString& target = {});
 
     FileSystem& m_inner;
     std::vector<Call> m_calls;
     std::map<std::pair<Operation, QString>, int> m_standing; ///< errno codes
-    int m_untilFailure = 0;                                  ///< calls to go; 0 when none is set
+    /// Remaining calls; 0 when none is set.
+    int m_untilFailure = 0;
     int m_failureCode = 0;
-    int m_untilDeath = 0; ///< calls to go; 0 when none is set
+    int m_untilDeath = 0; ///< remaining calls; 0 when none is set
     bool m_dead = false;
 };
 

@@ -1,4 +1,4 @@
-// What MemoryFileSystem and its open files share: the nodes, and the state of the disk as a whole.
+// The nodes and the state of a disk in memory.
 #pragma once
 
 #include <QByteArray>
@@ -10,7 +10,7 @@
 
 namespace vantle::fakes {
 
-/// A file or a directory, apart from its name. The `disk` members are what a crash leaves.
+/// A file or directory without its name. The `disk` members are what a crash leaves.
 struct MemoryNode {
     using Pointer = std::shared_ptr<MemoryNode>;
     using Entries = std::map<QString, Pointer>;
@@ -26,19 +26,19 @@ struct MemoryNode {
     [[nodiscard]] static Pointer file(int mode);
     [[nodiscard]] static Pointer directory(int mode);
 
-    /// The bytes of all files at and below this node.
+    /// Returns the bytes of all files at and below this node.
     [[nodiscard]] qint64 bytes() const;
 
-    /// Makes this node and all that is left below it what the disk holds.
+    /// Resets this node and everything below it to the state on disk.
     void crash(qsizetype tornTailBytes);
 };
 
 struct MemoryDisk {
     MemoryNode::Pointer root = MemoryNode::directory(0755);
     qint64 capacity = std::numeric_limits<qint64>::max();
-    int starts = 0; ///< counts crashes: what was opened before the last one is dead
+    int starts = 0; ///< number of crashes: files opened before the last one are dead
 
-    /// How many bytes can still be written.
+    /// Returns how many bytes can still be written.
     [[nodiscard]] qint64 room() const;
 };
 

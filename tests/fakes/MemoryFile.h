@@ -6,8 +6,8 @@
 
 namespace vantle::fakes {
 
-/// Keeps its node alive after the name is gone, as an open descriptor does. After a crash of the
-/// disk every operation fails with EBADF.
+/// Keeps its node alive after the name is removed, like a descriptor. Every operation fails with
+/// EBADF after a crash.
 class MemoryFile final : public File {
 public:
     MemoryFile(std::shared_ptr<MemoryDisk> disk, MemoryNode::Pointer node,

@@ -1,10 +1,10 @@
-// A disk in memory that forgets, at a crash, what was not synced.
+// A disk in memory that loses unsynced data in a crash.
 //
-// Files and directories with their modes, locks, and a capacity. It keeps two states: what the
-// running system sees, and what would be there after the power failed. A file's content enters the
-// second by File::sync, a name by syncDirectory of the directory that holds it. A directory whose
-// own name was not synced is lost with all that is in it. One thread at a time. Paths are absolute;
-// there are no symbolic links and no permissions.
+// Files and directories with modes, locks, and a capacity, in two states: what the running system
+// sees, and what a power failure would leave. A file's content enters the second by File::sync, a
+// name by syncDirectory of its directory. A directory with an unsynced name is lost with its
+// content. One thread at a time. Paths are absolute; there are no symbolic links and no permission
+// checks.
 #pragma once
 
 #include "fakes/MemoryDisk.h"
@@ -16,7 +16,7 @@ namespace vantle::fakes {
 
 class MemoryFileSystem final : public FileSystem {
 public:
-    /// The mode of a directory that is made without one, as under the umask 022.
+    /// The default mode of new directories, as under umask 022.
     static constexpr int kUsualDirectoryMode = 0755;
 
     // FileSystem
@@ -30,32 +30,32 @@ public:
     Result<> syncDirectory(const QString& path) override;
     [[nodiscard]] LockAttempt lock(const QString& path) override;
 
-    /// Puts a file there as if it had always been there: it and the directories above it are on
-    /// the disk. Replaces the content of one that stands there. The path must not be a directory.
+    /// Adds a file that is already on disk, with its parent directories. Replaces the content of an
+    /// existing one. The path must not be a directory.
     void setContent(const QString& path, const QByteArray& bytes, int mode = 0600);
 
-    /// Puts a directory there, likewise on the disk.
+    /// Adds a directory that is already on disk.
     void setDirectory(const QString& path, int mode = kUsualDirectoryMode);
 
-    /// The content that the running system sees; empty when no file stands at the path.
+    /// The content that the running system sees; empty when there is no file.
     [[nodiscard]] std::optional<QByteArray> content(const QString& path) const;
 
-    /// The content that a crash without a torn tail would leave at the path.
+    /// The content that a crash without a torn tail would leave.
     [[nodiscard]] std::optional<QByteArray> contentOnDisk(const QString& path) const;
 
-    /// The paths of all files, sorted; directories do not count.
+    /// The paths of all files, sorted; without directories.
     [[nodiscard]] QStringList paths() const;
 
-    /// The power fails and comes back. Contents and names are what was synced; of what was appended
-    /// to a file after its last sync, the first `tornTailBytes` bytes made it as well. Locks are
-    /// free, and files that are still held open answer EBADF.
+    /// The power fails and returns. Content and names are what was synced; of the bytes appended
+    /// after a file's last sync, the first `tornTailBytes` survive too. Locks are free, and open
+    /// files return EBADF.
     void crash(qsizetype tornTailBytes = 0);
 
-    /// The bytes that all files together may hold. A write that does not fit puts down what does
-    /// and then fails with ENOSPC.
+    /// Sets the capacity in bytes. A write that does not fit writes what fits and fails with
+    /// ENOSPC.
     void setCapacity(qint64 bytes) { m_disk->capacity = bytes; }
 
-    /// The bytes that all files hold now.
+    /// The bytes of all files now.
     [[nodiscard]] qint64 used() const { return m_disk->root->bytes(); }
 
 private:

@@ -1,4 +1,4 @@
-// Preferences in memory, with the text behind each value open to the test. Main thread.
+// Preferences in memory, with access to the stored texts. Main thread.
 #pragma once
 
 #include "platform/Preferences.h"
@@ -28,10 +28,10 @@ public:
     /// Stores a text without a signal, like an editor outside the program.
     void setRaw(const QString& key, const QString& text) { m_texts[key] = text; }
 
-    /// Takes a key away, likewise.
+    /// Removes a key without a signal.
     void removeRaw(const QString& key) { m_texts.remove(key); }
 
-    /// The text behind a key; empty when the key is absent.
+    /// Returns the stored text; empty when missing.
     [[nodiscard]] std::optional<QString> raw(const QString& key) const { return string(key); }
 
     /// All keys, sorted.

@@ -1,4 +1,4 @@
-// The machine's clock, with sleep added on top.
+// The machine's clock plus a sleep set by the test.
 #pragma once
 
 #include "base/Clock.h"
@@ -14,7 +14,7 @@ public:
         return uptime;
     }
 
-    Seconds slept{}; ///< in all, since the machine started
+    Seconds slept{}; ///< since boot
 
 private:
     SystemClock m_clock;

@@ -1,4 +1,4 @@
-// A sequence of random numbers that is the same everywhere.
+// A reproducible sequence of random numbers.
 #pragma once
 
 #include "base/RandomSource.h"
@@ -19,7 +19,7 @@ public:
         return static_cast<double>((z ^ z >> 31) >> 11) * 0x1p-53;
     }
 
-    /// How many numbers were taken.
+    /// The number of draws so far.
     [[nodiscard]] int draws() const { return m_draws; }
 
 private:

@@ -1,9 +1,8 @@
-// Time that passes only when a test says so: an hour in a microsecond.
+// Virtual time, which passes only in a test's calls: an hour in a microsecond.
 //
-// Three clocks: the wall clock, which can be shifted, the timer clock, which drives timers and
-// delayed work and stands still while the machine sleeps, and the uptime, which does neither.
-// `advance` moves all. After each fired timer the I/O queues are run dry and then the posted
-// main-thread work, until nothing is left.
+// Three clocks: the wall clock, which can be shifted; the timer clock, which drives timers and
+// delayed work and stops while the machine sleeps; and the uptime. `advance` moves all of them.
+// After each timer the I/O queues run, then posted main-thread work, until nothing is left.
 #pragma once
 
 #include "base/Clock.h"
@@ -19,8 +18,7 @@
 
 namespace vantle::fakes {
 
-/// A queue whose asynchronous jobs wait until they are run: a synchronous job, a drain, or
-/// the virtual time settling.
+/// A queue whose asynchronous jobs wait for a synchronous job, a drain, or settle().
 class ManualQueue final : public SerialQueue {
 public:
     void async(std::function<void()> job) override { m_jobs.push_back(std::move(job)); }
@@ -35,7 +33,7 @@ public:
             job();
         }
     }
-    /// Forgets what is queued, as a kill does.
+    /// Drops queued jobs, as a kill does.
     void dropAll() { m_jobs.clear(); }
     [[nodiscard]] bool empty() const { return m_jobs.empty(); }
 
@@ -59,31 +57,31 @@ public:
     [[nodiscard]] TimerHandle scheduleOnce(Seconds delay, std::function<void()> work) override;
     void post(std::function<void()> work) override { m_posted.push_back(std::move(work)); }
 
-    /// Makes `queue` run dry whenever time settles. It must outlive this object.
+    /// Lets `queue` run whenever time settles. It must outlive this object.
     void attach(ManualQueue& queue) { m_queues.push_back(&queue); }
 
-    /// Moves both clocks on, firing each timer that is due on the way, in order of due time.
+    /// Moves all clocks, and fires due timers in order of due time.
     void advance(Seconds by);
     void advance(double seconds) { advance(Seconds(seconds)); }
 
-    /// Moves the wall clock alone: the user set it, or a server did.
+    /// Moves the wall clock alone, as the user or a time server does.
     void shiftWall(double seconds) { m_wall += Seconds(seconds); }
 
-    /// The machine sleeps: wall clock and uptime go on, timers do not.
+    /// The machine sleeps: wall clock and uptime continue, timers stop.
     void suspend(double seconds);
 
-    /// The program is stopped while the machine runs on: no timer fires, all clocks go on. Timers
-    /// that came due meanwhile fire at the next `advance`, each once.
+    /// The program is stopped while the machine runs: all clocks continue, no timer fires. Timers
+    /// that came due fire once at the next `advance`.
     void freeze(double seconds);
 
-    /// Runs the queues and the posted work until nothing is left.
+    /// Runs queues and posted work until nothing is left.
     void settle();
 
-    /// Seconds on the timer clock since the beginning.
+    /// Seconds on the timer clock since the start.
     [[nodiscard]] double timerClock() const { return m_timerClock; }
-    /// How many timers and delayed works there are.
+    /// The number of timers and delayed works.
     [[nodiscard]] std::size_t timerCount() const { return m_timers.size(); }
-    /// How many repeating timers of that interval there are.
+    /// The number of repeating timers with that interval.
     [[nodiscard]] std::size_t repeatingTimers(double every) const;
 
 private:
@@ -99,7 +97,7 @@ private:
 
     Date m_wall;
     double m_timerClock = 0;
-    double m_slept = 0; ///< seconds that the machine slept since the beginning
+    double m_slept = 0; ///< seconds of sleep since the start
     std::uint64_t m_nextId = 0;
     std::map<std::uint64_t, Entry> m_timers;
     std::deque<std::function<void()>> m_posted;

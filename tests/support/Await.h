@@ -1,4 +1,4 @@
-// Waiting for what other programs do, in the few tests that talk to real ones.
+// Waiting for other programs, in the few tests with real ones.
 #pragma once
 
 #include <QCoreApplication>
@@ -10,12 +10,12 @@
 
 namespace vantle::tests {
 
-/// Runs the event loop until the condition holds; false when it does not within the limit, which
-/// is generous since it is only ever reached by a test that fails.
+/// Runs the event loop until the condition holds. Returns false after a limit, which only a failing
+/// test reaches.
 template <typename Condition>
 [[nodiscard]] bool await(Condition condition, int limitMs = 10000) {
     const QDeadlineTimer deadline(limitMs);
-    // Woken regularly, for conditions that no event of this program tells of.
+    // Wakes the loop regularly, for conditions without an event.
     QTimer wake;
     wake.start(10);
     while (!condition()) {
@@ -25,20 +25,20 @@ template <typename Condition>
     return true;
 }
 
-/// Runs the event loop for that long, for what must not happen or only the world's clock brings.
+/// Runs the event loop for that time, for events that must not come or that need real time.
 inline void runFor(int ms) {
     const QDeadlineTimer deadline(ms);
     (void)await([&] { return deadline.hasExpired(); }, ms + 1000);
 }
 
-/// Runs a command to its end; whether it went well. Nothing of ours runs meanwhile.
+/// Runs a command to its end without the event loop. Returns whether it succeeded.
 [[nodiscard]] inline bool run(const QString& commandLine) {
     QStringList words = QProcess::splitCommand(commandLine);
     const QString program = words.takeFirst();
     return QProcess::execute(program, words) == 0;
 }
 
-/// What a command prints.
+/// Returns a command's output.
 [[nodiscard]] inline QString outputOf(const QString& commandLine) {
     QStringList words = QProcess::splitCommand(commandLine);
     const QString program = words.takeFirst();

@@ -1,5 +1,6 @@
-// Connections to the private bus of a test: one for the code under test, one for each stand-in of
-// another program.
+// Connections to the private bus of a test.
+//
+// One for the code under test, and one for each stand-in of another program.
 #pragma once
 
 #include <QCoreApplication>
@@ -10,8 +11,8 @@
 
 namespace vantle::tests {
 
-/// A connection of its own to the bus, closed with this object: then the names that it had are
-/// free, as when a program ends.
+/// A bus connection that closes with this object, which frees its names as the end of a program
+/// does.
 class BusClient {
 public:
     BusClient()
@@ -28,7 +29,7 @@ public:
                QDBusConnectionInterface::ServiceRegistered;
     }
 
-    /// Ends the connection.
+    /// Closes the connection.
     void leave() {
         m_bus = QDBusConnection(QString());
         QDBusConnection::disconnectFromBus(m_name);
@@ -39,7 +40,7 @@ private:
     QDBusConnection m_bus;
 };
 
-/// A connection that never was one, as on a desktop without a bus.
+/// Returns an invalid connection, as on a desktop without a bus.
 inline QDBusConnection noBus() { return QDBusConnection(QStringLiteral("there is none")); }
 
 } // namespace vantle::tests

@@ -1,11 +1,11 @@
-// A variable of this process's environment, for one test.
+// An environment variable of this process, for one test.
 #pragma once
 
 #include <QByteArray>
 
 namespace vantle::tests {
 
-/// Has the value while the object lives, then what it had before. A null value is none: not set.
+/// Sets the value during its lifetime, then restores the former one. A null value means unset.
 class EnvironmentVariable {
 public:
     EnvironmentVariable(const char* name, const QByteArray& value)

@@ -1,4 +1,4 @@
-// Lets a failed expectation show Qt's texts as text.
+// Shows Qt's texts as text in failed expectations.
 #pragma once
 
 #include <QString>

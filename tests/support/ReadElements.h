@@ -1,4 +1,4 @@
-// What a screen reader is told of a window, asked for where the toolkit's bridge asks.
+// The accessibility tree of a window, read where Qt's bridge reads it.
 #pragma once
 
 #include <QAccessible>
@@ -18,7 +18,7 @@ struct ReadElement {
     QAccessible::State state;
 };
 
-/// All that the tree has below it, in the order of reading; what is hidden is left out.
+/// Collects the visible elements below one, in reading order.
 inline void collectElements(QAccessibleInterface* one, QList<ReadElement>& all) {
     if (one == nullptr || one->state().invisible) return;
     all.append({one->role(), one->text(QAccessible::Name), one->text(QAccessible::Description),
@@ -33,7 +33,7 @@ inline void collectElements(QAccessibleInterface* one, QList<ReadElement>& all) 
     return all;
 }
 
-/// The first of that name; its role is NoRole where there is none.
+/// Returns the first element of that name, with the role NoRole when there is none.
 [[nodiscard]] inline ReadElement readElement(QQuickWindow& window, const QString& name) {
     const QList<ReadElement> all = readElements(window);
     const auto found = std::ranges::find(all, name, &ReadElement::name);

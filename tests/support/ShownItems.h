@@ -1,4 +1,4 @@
-// What of a view can be seen, found by what is read on it.
+// The visible items of a view, found by their accessible names.
 #pragma once
 
 #include <QCoreApplication>
@@ -10,7 +10,7 @@
 
 namespace vantle::tests {
 
-/// The first visible item that fits, an item before what is in it; null when there is none.
+/// Returns the first visible item that matches, parents before children; null when there is none.
 template <typename Fits>
 [[nodiscard]] QQuickItem* shownItem(QQuickItem* root, const Fits& fits) {
     if (!root->isVisible()) return nullptr;
@@ -26,7 +26,7 @@ template <typename Fits>
            }) != nullptr;
 }
 
-/// The control that is read out so.
+/// Returns the control with that accessible name.
 [[nodiscard]] inline QQuickItem* shownControl(const QQuickWindow& window, const QString& name) {
     return shownItem(window.contentItem(), [&](const QQuickItem& item) {
         return item.property("name").toString() == name &&
@@ -34,7 +34,7 @@ template <typename Fits>
     });
 }
 
-/// A key, down and up again. `typed` is what it writes into a field.
+/// Presses and releases a key. `typed` is its text.
 inline void sendKey(QQuickWindow& window, int code, const QString& typed = {}) {
     for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QKeyEvent event(type, code, Qt::NoModifier, typed);
@@ -42,7 +42,7 @@ inline void sendKey(QQuickWindow& window, int code, const QString& typed = {}) {
     }
 }
 
-/// What the pointer does at a place of the window, px of it.
+/// Sends a pointer event at a position in px of the window.
 inline void sendMouse(QQuickWindow& window, QEvent::Type type, QPointF place,
                       Qt::MouseButton button, Qt::MouseButtons held) {
     QMouseEvent event(type, place, window.mapToGlobal(place), button, held, Qt::NoModifier,

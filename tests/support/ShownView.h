@@ -1,4 +1,4 @@
-// A view in a window of its own, worked with a pointer and keys.
+// A view in its own window, driven by pointer and keys.
 #pragma once
 
 #include "support/ShownItems.h"
@@ -17,8 +17,8 @@
 
 namespace vantle::tests {
 
-/// Motion is reduced unless a test is about it, so that nothing waits for an animation. What the
-/// view's code complains about is a failure of the test. The models of the view must outlive this.
+/// Motion is reduced unless set otherwise, so that nothing waits for an animation. Warnings of the
+/// view's code fail the test. The view's models must outlive this object.
 class ShownView {
 public:
     explicit ShownView(bool reduced = true) {
@@ -31,8 +31,8 @@ public:
         });
     }
 
-    /// Opens the window in the view's own size, or in the given one. `file` is a name below the
-    /// program's views, such as "Notes/NotesLogView".
+    /// Opens the window in the view's own or the given size. `file` is a view's name, such as
+    /// "Notes/NotesLogView".
     QQuickItem& show(const char* file, const QVariantMap& properties, QSize size = {}) {
         m_window.setInitialProperties(properties);
         m_window.setSource(
@@ -45,7 +45,7 @@ public:
         return *m_window.rootObject();
     }
 
-    /// Delivers what is posted and lays the view out as its next frame would.
+    /// Delivers posted events and lays out the view as its next frame would.
     void settle() {
         for (int i = 0; i < 3; ++i)
             QCoreApplication::processEvents();
@@ -58,7 +58,7 @@ public:
     [[nodiscard]] QQuickItem* control(const QString& name) const {
         return shownControl(m_window, name);
     }
-    /// The field of that name; text goes into it.
+    /// Returns the text field of that name.
     [[nodiscard]] QQuickItem* field(const QString& name) const {
         return shownItem(m_window.contentItem(), [&](const QQuickItem& item) {
             return item.property("name").toString() == name && item.property("input").isValid();
@@ -68,7 +68,7 @@ public:
         return item.mapRectToScene({0, 0, item.width(), item.height()});
     }
 
-    /// The texts that can be seen in part alone: cut, or standing out of the window at a side.
+    /// Returns the texts that are partly invisible: cut, or beyond the window's edge.
     [[nodiscard]] QStringList cutTexts() const {
         QStringList cut;
         (void)shownItem(m_window.contentItem(), [&](const QQuickItem& item) {
@@ -82,9 +82,9 @@ public:
         return cut;
     }
 
-    /// The texts that stand in others, two by two: "one / other".
+    /// Returns pairs of overlapping texts: "one / other".
     [[nodiscard]] QStringList overlappingTexts() const {
-        constexpr double kTouch = 2; // lines stand as close as their glyphs let them
+        constexpr double kTouch = 2; // lines are as close as their glyphs allow
         QList<std::pair<QString, QRectF>> texts;
         (void)shownItem(m_window.contentItem(), [&](const QQuickItem& item) {
             const QString words = item.property("text").toString();
@@ -106,7 +106,7 @@ public:
         QTest::mouseMove(&m_window, place.toPoint());
         settle();
     }
-    /// Fails the test where the place is not in the window.
+    /// Fails the test when the position is outside the window.
     void clickAt(QPointF place, Qt::MouseButton button = Qt::LeftButton) {
         ASSERT_TRUE(QRectF(QPointF(), m_window.size()).contains(place))
             << place.x() << ", " << place.y();
@@ -114,7 +114,7 @@ public:
         QTest::mouseClick(&m_window, button, {}, place.toPoint());
         settle();
     }
-    /// Scrolls the item into sight and clicks its middle.
+    /// Scrolls to the item and clicks its centre.
     void click(QQuickItem* item, Qt::MouseButton button = Qt::LeftButton) {
         ASSERT_NE(item, nullptr);
         bringIntoSight(*item);
@@ -126,8 +126,7 @@ public:
         click(item, button);
     }
 
-    /// Leaves what scrolls around the item where a wheel would: `way` px further down its content,
-    /// as far as there is any.
+    /// Scrolls the view around the item by `way` px, clamped to its content.
     void scroll(const QQuickItem& inside, double way) {
         QQuickItem* above = inside.parentItem();
         while (above != nullptr && !above->inherits("QQuickFlickable"))
@@ -140,7 +139,7 @@ public:
         settle();
     }
     void bringIntoSight(const QQuickItem& item) {
-        constexpr double kMargin = 24; // what fades at the edges is not in sight
+        constexpr double kMargin = 24; // faded edges do not count as visible
         for (QQuickItem* above = item.parentItem(); above; above = above->parentItem()) {
             if (!above->inherits("QQuickFlickable")) continue;
             const QRectF place = item.mapRectToItem(above, {0, 0, item.width(), item.height()});
@@ -160,11 +159,11 @@ public:
             QTest::keyClick(&m_window, letter.toLatin1());
         settle();
     }
-    /// What each announcer of the view said last.
+    /// Returns the last message of each announcer in the view.
     [[nodiscard]] QStringList announced() const {
         QStringList said;
         QList<QQuickItem*> items{m_window.contentItem()};
-        while (!items.isEmpty()) { // what a Repeater or a Loader made is a child as an item alone
+        while (!items.isEmpty()) { // items of a Repeater or Loader are no QObject children
             const QQuickItem* const item = items.takeLast();
             for (const Announcer* one :
                  item->findChildren<Announcer*>(QString(), Qt::FindDirectChildrenOnly))
@@ -173,7 +172,7 @@ public:
         }
         return said;
     }
-    /// What has the keyboard; null for nothing.
+    /// Returns the focused item; null when there is none.
     [[nodiscard]] QQuickItem* keyboardOwner() const { return m_window.activeFocusItem(); }
 
 private:

@@ -1,4 +1,4 @@
-// Animations that move only as far as a test says.
+// Animations that advance only on request.
 #pragma once
 
 #include <QAnimationDriver>
@@ -9,7 +9,7 @@
 
 namespace vantle::tests {
 
-/// Drives all animations of the thread from its construction to its end. Times are milliseconds.
+/// Drives all animations of the thread during its lifetime. Times in milliseconds.
 class SteppedAnimations final : public QAnimationDriver {
 public:
     SteppedAnimations() {
@@ -23,10 +23,10 @@ public:
         uninstall();
     }
 
-    /// Lets that much time pass for the animations, a frame after the other.
+    /// Advances the animations by that time, frame by frame.
     void pass(int milliseconds) {
         constexpr int kFrame = 10;
-        QCoreApplication::processEvents(); // animations begin in the next turn of the event loop
+        QCoreApplication::processEvents(); // animations start in the next turn of the event loop
         for (int left = milliseconds; left > 0; left -= kFrame) {
             m_elapsed += std::min(left, kFrame);
             if (isRunning()) advanceAnimation();
@@ -43,7 +43,7 @@ protected:
     }
 
 private:
-    /// While no animation runs, the toolkit falls back to the clock on the wall.
+    /// Without a running animation Qt would use the real clock.
     QVariantAnimation m_pacemaker;
     qint64 m_elapsed = 0;
     qint64 m_startedAt = 0;

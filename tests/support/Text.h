@@ -5,7 +5,7 @@
 
 namespace vantle::tests {
 
-/// A literal as the program's string: in tests the letters matter more than the cost.
+/// Converts a literal to QString; its cost does not matter in tests.
 [[nodiscard]] inline QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
 } // namespace vantle::tests

@@ -1,11 +1,11 @@
-// What a source of sleeping screens has told.
+// The signals of a source of screen sleep.
 #pragma once
 
 #include "platform/ScreenPower.h"
 
 namespace vantle::tests {
 
-/// Counts; the source must outlive it.
+/// Counts them; the source must outlive it.
 struct ToldPower {
     explicit ToldPower(ScreenPower& power) {
         QObject::connect(&power, &ScreenPower::slept, [this] { ++slept; });

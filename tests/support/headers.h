@@ -1,4 +1,4 @@
-// What every test includes, precompiled. A test names its headers all the same.
+// The precompiled headers of all tests, which tests still include themselves.
 #pragma once
 
 #include <QObject>
