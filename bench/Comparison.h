@@ -1,4 +1,4 @@
-// A measure of ours beside a bound that is measured in the same minute.
+// A benchmark beside a bound measured in the same minute.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -11,16 +11,15 @@
 
 namespace vantle::bench {
 
-/// What a measure has to keep: a ratio to its bound, or so many nanoseconds an item.
+/// The goal of a benchmark: a ratio to its bound, or nanoseconds per item.
 struct Goal {
     enum class Kind { Ratio, NanosecondsEach, BytesEach };
     Kind kind = Kind::Ratio;
     double limit = 1;
-    double items = 1; ///< how many a run goes through
+    double items = 1; ///< items per run
 };
 
-/// Leaves the outcome where the reporter finds it; `ours` and `bound` in seconds, or in bytes, for
-/// one item.
+/// Reports the result; `ours` and `bound` in seconds or bytes per item.
 inline void report(benchmark::State& state, double ours, double bound, const Goal& goal) {
     state.counters["ours"] = ours;
     state.counters["bound"] = bound;
@@ -41,7 +40,7 @@ double secondsFor(Work& work) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
 }
 
-/// Time of this thread's on a processor: for work that waits for nothing, whatever else runs.
+/// Returns this thread's processor time, independent of other load.
 template <typename Work>
 double processorSecondsFor(Work& work) {
     const auto now = [] {
@@ -54,8 +53,7 @@ double processorSecondsFor(Work& work) {
     return now() - begin;
 }
 
-/// As `compare`, for computations on one thread: processor time, which other programs' turns take
-/// no part in.
+/// Like `compare`, with processor time, for computations on one thread.
 template <typename Ours, typename Bound>
 void compareComputing(benchmark::State& state, const Goal& goal, Ours ours, Bound bound) {
     std::vector<double> oursTook;
@@ -68,8 +66,8 @@ void compareComputing(benchmark::State& state, const Goal& goal, Ours ours, Boun
     report(state, medianOf(oursTook) / goal.items, medianOf(boundTook) / goal.items, goal);
 }
 
-/// Runs ours and the bound in turn, so that a slow moment of the machine meets both, and reports
-/// the median of each. `cleanUp` runs after ours and takes no part in the time.
+/// Alternates between the two, so that load affects both, and reports the medians. `cleanUp` runs
+/// after `ours`, untimed.
 template <typename Ours, typename Bound, typename CleanUp>
 void compare(benchmark::State& state, const Goal& goal, Ours ours, Bound bound, CleanUp cleanUp) {
     std::vector<double> oursTook;

@@ -1,4 +1,4 @@
-// Prints every measure as it comes, and all of them as one table at the end.
+// Prints each result as it comes, and a table at the end.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -17,7 +17,7 @@ public:
     /// The table in Markdown: | measure | ours | bound | ratio | goal | met |
     [[nodiscard]] std::string table() const;
 
-    /// Whether every measure kept its goal.
+    /// Whether every goal was met.
     [[nodiscard]] bool allMet() const { return m_allMet; }
 
 private:

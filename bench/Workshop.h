@@ -1,4 +1,4 @@
-// A directory of its own on a real disk, and the real tracker over it.
+// The real tracker over a directory on a real disk.
 #pragma once
 
 #include "app/AppModel.h"
@@ -24,8 +24,8 @@
 
 namespace vantle::bench {
 
-/// Everything that the program itself would use, with a log of `count` sample records. The
-/// directory lies below the present one, and goes with this object.
+/// All services of the program, with a log of `count` sample records. The directory is below the
+/// current one and is removed with this object.
 class Workshop {
 public:
     explicit Workshop(int count);
@@ -37,7 +37,7 @@ public:
     [[nodiscard]] const Clock& clock() const { return m_clock; }
     [[nodiscard]] Scheduler& scheduler() { return m_scheduler; }
     [[nodiscard]] QString log() const { return m_paths.sessionsFile(); }
-    /// A model over them, on a desktop of fakes and without surfaces.
+    /// Makes a model over them, on fake ports and without surfaces.
     [[nodiscard]] std::unique_ptr<AppModel> makeModel(std::function<Calendar()> calendar);
     /// A file beside the log, for the bound.
     [[nodiscard]] QString file(const QString& name) const {

@@ -1,4 +1,4 @@
-// What every fuzz target needs: the bytes, and a way to say that a promise is broken.
+// The input and the assertion of all fuzz targets.
 #pragma once
 
 #include <QByteArrayView>
@@ -9,12 +9,12 @@
 
 namespace vantle::fuzz {
 
-/// The bytes where they lie, so that the sanitizer sees a read past their end.
+/// Views the bytes in place, so that the sanitizer detects reads past the end.
 [[nodiscard]] inline QByteArrayView viewOf(const std::uint8_t* data, std::size_t size) {
     return {data, static_cast<qsizetype>(size)};
 }
 
-/// Ends the run when `kept` is false; libFuzzer then keeps the input.
+/// Aborts when `kept` is false; libFuzzer then keeps the input.
 inline void promise(bool kept, const char* what) {
     if (kept) return;
     std::fprintf(stderr, "broken promise: %s\n", what);

@@ -1,12 +1,12 @@
-// A language for tests: every letter of a text accented, a third more of it, and brackets around.
+// The pseudo-locale: accented letters, a third more text, brackets.
 #pragma once
 
 #include <QTranslator>
 
 namespace vantle {
 
-/// What it has not made, no translator reaches; what it makes fills the room that other languages
-/// need. Any thread, once it is installed.
+/// Text that it does not change is not translatable; text that it changes needs the room of other
+/// languages. Any thread, once installed.
 class PseudoLocale final : public QTranslator {
 public:
     using QTranslator::QTranslator;

@@ -1,4 +1,4 @@
-// A picture of the gallery: a view in one of its states, with made-up data.
+// A scene of the gallery: a view in one of its states, with sample data.
 #pragma once
 
 #include <QColor>
@@ -19,23 +19,23 @@ struct Scene {
     QString name;
     /// The view, such as qrc:/qt/qml/Vantle/Cards/StopSummaryView.qml.
     QUrl view;
-    /// What the view is made with. Models belong to `owner`, which outlives the view. May be empty.
+    /// The view's initial properties. `owner` owns the models and outlives the view. May be empty.
     std::function<QVariantMap(QObject* owner)> properties;
-    /// px; empty for the size that the view wants.
+    /// px; empty for the view's own size.
     QSize size;
-    /// What is around the view, and how much of it, px.
+    /// The background around the view, and its width in px.
     QColor ground = QColor(0x0A, 0x0A, 0x0F);
     int margin = 0;
-    /// Drawn at 200 % as well. These pictures are large: for a few.
+    /// Also drawn at 200 %. Such pictures are large, so few have it.
     bool twice = false;
-    /// Brings the view into its state once it is shown. May be empty.
+    /// Brings the shown view into its state. May be empty.
     std::function<void(QQuickItem& view)> arrange;
 };
 
-/// A desktop behind floating surfaces.
+/// The desktop behind floating surfaces.
 inline const QColor kDesk{0x22, 0x26, 0x30};
 
-/// A view in the program's frame on that desktop. It stands in the property "view".
+/// A view in the program's window frame, in the property "view".
 inline Scene framedScene(const char* name) {
     Scene made;
     made.name = QLatin1String(name);

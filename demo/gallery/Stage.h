@@ -1,4 +1,4 @@
-// Puts a scene into a window of its own, for a picture or to be played with.
+// The window of a scene, for a picture or for use.
 #pragma once
 
 #include "gallery/Scene.h"
@@ -12,19 +12,19 @@ namespace vantle {
 
 class Stage {
 public:
-    /// With `still` nothing moves that need not, so that pictures come out alike.
+    /// With `still` animations are off, so that pictures are reproducible.
     Stage(const Scene& scene, bool still);
 
-    /// What is wrong with the view; empty when it is up.
+    /// The view's errors; empty when it was created.
     [[nodiscard]] QString error() const { return m_error; }
     [[nodiscard]] QQuickWindow& window() { return m_window; }
-    /// The window as it looks once everything has settled, without transparency.
+    /// Returns the settled window without transparency.
     [[nodiscard]] QImage picture();
 
 private:
     void show(QQuickItem& view, const Scene& scene);
 
-    // The window goes first: its items are the engine's.
+    // Destroyed after the window, whose items belong to the engine.
     QObject m_owner;
     QQmlEngine m_engine;
     QQuickWindow m_window;

@@ -1,4 +1,4 @@
-// What of the texts of a scene can't be read in the pseudo-locale.
+// The faults of a scene's texts in the pseudo-locale.
 #pragma once
 
 #include <QQuickWindow>
@@ -6,9 +6,9 @@
 
 namespace vantle {
 
-/// One line a fault: "untranslated: …" for a text with words that no translator made, "cut: …" for
-/// one that is shown in part, "overlapping: … / …" for two that stand in each other. Names and
-/// other data are untranslated, too. Main thread; the window is shown.
+/// One line per fault: "untranslated: …" for a text without translation (names and data too), "cut:
+/// …" for a partly visible one, "overlapping: … / …" for two. Main thread; the window must be
+/// shown.
 [[nodiscard]] QStringList textFaults(const QQuickWindow& window);
 
 } // namespace vantle

@@ -1,4 +1,4 @@
-// All kinds of builders, and how one takes shape.
+// All personas, and the progress towards one.
 #pragma once
 
 #include "review/PersonaCard.h"

@@ -1,4 +1,4 @@
-// Made-up logs for the pictures of the review.
+// Sample logs for the pictures of the review.
 #pragma once
 
 #include "tracking/Session.h"

@@ -1,4 +1,4 @@
-// The whole application model on a disk, a clock and a desktop of its own.
+// The whole application model on a virtual disk, clock and desktop.
 #pragma once
 
 #include "app/AppModel.h"
@@ -26,7 +26,7 @@
 
 namespace vantle::tests {
 
-/// What the model told its surfaces, a line a call, with the last callbacks at hand.
+/// What the model told its surfaces, one line per call, with the last callbacks.
 struct Told {
     QStringList calls;
     std::function<void()> notchStop;
@@ -40,7 +40,7 @@ struct Told {
     std::function<void()> recoveryKeep;
     std::function<void(const collaborators::TagPrompt::Outcome&)> resolveTag;
     std::function<void(bool)> resolveCorrection;
-    bool promptsTaken = true; ///< whether the corner is free for prompts
+    bool promptsTaken = true; ///< whether cards may show prompts
 
     [[nodiscard]] int count(const QString& call) const {
         return static_cast<int>(calls.count(call));
@@ -48,7 +48,7 @@ struct Told {
     [[nodiscard]] bool has(const QString& call) const { return calls.contains(call); }
 };
 
-/// Surfaces that only write down what they are told.
+/// Surfaces that record calls.
 [[nodiscard]] Collaborators recordingCollaborators(Told& told);
 
 class ModelWorld {
@@ -56,22 +56,22 @@ public:
     ModelWorld();
     ~ModelWorld();
 
-    /// Starts the program: a model and all below it, on the disk as it is now.
+    /// Starts the program on the disk as it is now.
     AppModel& launch();
-    /// The program dies: what is queued is lost, the model is gone.
+    /// Kills the program: queued work is lost.
     void kill();
-    /// Runs what the model has put off to the next turn of the main loop.
+    /// Runs work posted to the main loop.
     void settle() { time.settle(); }
 
     void press() {
         hotKeyPort.press();
         settle();
     }
-    /// The user works in the application, which comes to the front, for that many seconds.
+    /// The user brings the application to the front and works in it for that time.
     void workIn(const Application& application, double seconds);
     /// Links a shortcut to each end of a session; `told` has "focus started" and "focus ended".
     void linkShortcuts();
-    /// Fails or heals every write of the file, new files beside it included.
+    /// Makes every write of the file fail or work again, temporary files included.
     void breakWrites(const QString& fileName, bool broken);
 
     [[nodiscard]] std::vector<Session> log();
@@ -81,7 +81,7 @@ public:
 
     fakes::VirtualTime time;
     fakes::ManualQueue ioQueue;
-    fakes::ManualQueue autoQueue; ///< of auto mode's own file
+    fakes::ManualQueue autoQueue; ///< for auto mode's file
     fakes::MemoryFileSystem disk;
     fakes::FaultyFileSystem files{disk};
     fakes::MemoryPreferences preferences;

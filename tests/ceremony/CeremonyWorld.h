@@ -12,7 +12,7 @@
 
 namespace vantle::tests {
 
-/// Numbers that the test names; 0.5 when it has named no more.
+/// The random numbers of the test; 0.5 when they are used up.
 class GivenNumbers final : public RandomSource {
 public:
     [[nodiscard]] double uniform() override {
@@ -24,7 +24,7 @@ public:
     std::deque<double> numbers;
 };
 
-/// A native show on the smallest screen there is, made ready at once.
+/// A native show on the smallest screen, prepared immediately.
 inline std::unique_ptr<CeremonyFrameRenderer> prepareTiny(CeremonyVariant variant) {
     GivenNumbers random;
     return std::make_unique<CeremonyFrameRenderer>(

@@ -1,4 +1,4 @@
-// Overlay windows and pages that exist in the test alone.
+// Overlay windows and pages without a display.
 #pragma once
 
 #include "ceremony/CeremonyLayerView.h"
@@ -16,7 +16,7 @@
 
 namespace vantle::tests {
 
-/// What a window that is up shows, and where.
+/// The content and place of an open window.
 struct ShownWindow {
     enum class Kind { Fade, Collapse, Native, Web };
     Kind kind = Kind::Web;
@@ -26,7 +26,7 @@ struct ShownWindow {
     Date start{};                           ///< of a view
 };
 
-/// Windows in the order in which they were put up, as long as they have an owner.
+/// Windows in the order of creation, while they have an owner.
 class ShownWindows {
 public:
     std::unique_ptr<OverlayWindow> add(ShownWindow window) {
@@ -86,7 +86,7 @@ private:
     const Screens& m_screens;
 };
 
-/// Keeps the handlers of pages that are gone: their messages may still be on the way.
+/// Keeps the handlers of destroyed pages, whose messages may still be pending.
 class FakeWebStage final : public WebStage {
 public:
     FakeWebStage(ShownWindows& windows, const Screens& screens)

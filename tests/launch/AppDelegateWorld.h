@@ -1,4 +1,4 @@
-// A machine on which the program is launched, with everything on it made up.
+// A fake machine on which the program is launched.
 #pragma once
 
 #include "fakes/FakeCardStage.h"
@@ -17,7 +17,7 @@
 
 namespace vantle::tests {
 
-/// Writes down what the capsule shows.
+/// Records what the capsule shows.
 class Capsule final : public collaborators::Notch {
 public:
     explicit Capsule(QString& shown) : m_shown(shown) {}
@@ -44,7 +44,7 @@ protected:
         time.attach(ioQueue);
         time.attach(autoSkillQueue);
         settings::welcomeDone.write(preferences, true);
-        screens.shapes.clear(); // nothing to show the panel on, which takes its time
+        screens.shapes.clear(); // no screen, hence no panel, which is slow
     }
 
     std::unique_ptr<AppDelegate> makeCopy(bool atLogin = false) {
@@ -70,10 +70,10 @@ protected:
             .startedUnasked = atLogin});
     }
 
-    /// The desktop gets its first screen.
+    /// Connects the first screen.
     void connectScreen() { screens.arrange(fakes::FakeScreens().shapes); }
 
-    /// The titles of the windows that can be seen.
+    /// The titles of the visible windows.
     [[nodiscard]] static QStringList openWindows(AppDelegate& app) {
         QStringList titles;
         for (const WindowId id : {WindowId::Dashboard, WindowId::Wrapped, WindowId::Log,
@@ -84,7 +84,7 @@ protected:
         return titles;
     }
 
-    /// A copy that dies 130 s into a session.
+    /// A copy that was killed 130 s into a session.
     void leaveKilledSession() {
         const auto app = makeCopy(true);
         EXPECT_TRUE(app->applicationDidFinishLaunching());

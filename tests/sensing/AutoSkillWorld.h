@@ -1,4 +1,4 @@
-// Auto mode with a session and a desktop that the test moves.
+// Auto mode with a session and desktop under the test's control.
 #pragma once
 
 #include "sensing/AutoSkillMonitor.h"
@@ -30,7 +30,7 @@ struct AutoSkillWorld : AutoWorld {
         };
     }
 
-    /// What was suggested since the last question.
+    /// Returns and clears the suggestions.
     std::vector<std::string> takeCalls() { return std::exchange(calls, {}); }
 
     void beRunning(const char* skill) {

@@ -1,4 +1,4 @@
-// Auto mode on a disk, a clock and a desktop of its own.
+// Auto mode on a virtual disk, clock and desktop.
 #pragma once
 
 #include "fakes/FakeFrontmostApp.h"
@@ -36,7 +36,7 @@ struct AutoWorld {
         skills.emplace(paths, queue, skillPreferences);
     }
 
-    /// The user has exactly these skills from now on.
+    /// Replaces the user's skills.
     void setSkills(const std::vector<Skill>& list) {
         disk.setContent(QStringLiteral("/data/Vantle/skills.json"), json::encode(list));
         settings::skillsMigrationVersion.write(skillPreferences, 1);
@@ -47,7 +47,7 @@ struct AutoWorld {
     void put(const AutoRulesState& state) { put(json::encode(state).value()); }
     [[nodiscard]] bool hasFile() const { return disk.content(file).has_value(); }
 
-    /// What another run of the program would find, once everything is written.
+    /// Returns what the next run would read, after all writes.
     [[nodiscard]] AutoRulesState stored() {
         time.settle();
         const auto content = disk.content(file);
@@ -55,7 +55,7 @@ struct AutoWorld {
         return json::decodeAutoRules(*content).value_or(StoredAutoRules()).state;
     }
 
-    /// How many times the file was written since the last question.
+    /// Returns the writes of the file since the last call.
     [[nodiscard]] int takeWrites() {
         time.settle();
         int writes = 0;

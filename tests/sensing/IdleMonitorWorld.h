@@ -1,4 +1,4 @@
-// An idle monitor over a counter and screens that the test moves.
+// An idle monitor with a counter and screens under the test's control.
 #pragma once
 
 #include "fakes/FakeIdleSource.h"
@@ -39,7 +39,7 @@ protected:
         };
     }
 
-    /// What was called since the last question.
+    /// Returns and clears the recorded calls.
     std::vector<std::string> takeCalls() { return std::exchange(calls, {}); }
 
     void setThreshold(double seconds) {

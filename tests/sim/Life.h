@@ -10,8 +10,8 @@
 
 namespace vantle::tests {
 
-/// A machine, a user and the whole model with the real auto mode, over a disk in memory. Days have
-/// mornings and nights: the machine sleeps, is switched off, loses its power or is left on.
+/// A machine, a user and the whole model with the real auto mode, on a disk in memory. Overnight
+/// the machine sleeps, is switched off, loses power, or stays on.
 class Life {
 public:
     explicit Life(std::uint32_t seed);
@@ -19,24 +19,24 @@ public:
     Life(const Life&) = delete;
     Life& operator=(const Life&) = delete;
 
-    /// Lives one day and the night after it. Returns the promises that were broken, at the first
-    /// step at which one was; empty when none was.
+    /// Simulates a day and a night. Returns the promises broken at the first failing step; empty
+    /// when none was.
     [[nodiscard]] QStringList day();
 
-    /// What was done last, the latest at the end.
+    /// The recent actions, latest last.
     [[nodiscard]] QString story() const { return m_story.join(QStringLiteral(", ")); }
 
     ModelWorld world;
     Promises promises{world};
-    int sessionsByItself = 0; ///< that auto mode started
-    int splits = 0;           ///< that auto mode made
+    int sessionsByItself = 0; ///< started by auto mode
+    int splits = 0;           ///< made by auto mode
 
-    // Deeds that tests of the promises call by themselves.
+    // Actions that tests of the promises use directly.
     void press();
     void work();
     void launch();
-    /// Kills the program and starts it again; `meanwhile` does something to the disk in between.
-    /// Returns what the kill broke.
+    /// Kills and restarts the program; `meanwhile` may change the disk. Returns the promises that
+    /// this broke.
     [[nodiscard]] QStringList killAndReturn(const std::function<void()>& meanwhile = {});
 
 private:
@@ -78,7 +78,7 @@ private:
 
     std::mt19937 m_random;
     QStringList m_story;
-    QStringList m_brokenByDeed; ///< promises about what a deed itself did
+    QStringList m_brokenByDeed; ///< promises about the action itself
     int m_garbageCount = 0;
 };
 

@@ -1,4 +1,4 @@
-// What must hold for every life with the program, after each thing that happens in it.
+// The invariants of the program, checked after each step of a life.
 #pragma once
 
 #include "app/ModelWorld.h"
@@ -11,16 +11,16 @@
 
 namespace vantle::tests {
 
-/// Watches one world: knows what it was promised, looks at the files and at the tracker, and tells
-/// each promise that does not hold. It is told what the life does to the world from outside.
+/// Knows what the test did to the world, reads files and tracker, and reports each broken
+/// invariant.
 class Promises {
 public:
     explicit Promises(ModelWorld& world) : m_world(world) {}
 
-    /// The program was launched: follows its sessions.
+    /// The program was launched.
     void noteLaunch();
     void noteDelete(const QUuid& id) { m_known.erase(id); }
-    /// Another program wrote this line into the log.
+    /// Another program appended this line to the log.
     void noteGarbage(const QByteArray& line) { m_garbage.append(line); }
     void noteClockSet();
     void noteDiskBroken(bool broken);
@@ -28,25 +28,25 @@ public:
     /// program is stopped.
     void noteUnable(bool unable);
 
-    /// The seconds in which the user could have worked, since the beginning.
+    /// The seconds in which the user could work, since the start.
     [[nodiscard]] double ableSeconds() const;
 
-    /// The promises that do not hold now; empty when all do.
+    /// The invariants that do not hold now; empty when all do.
     [[nodiscard]] QStringList broken();
 
-    /// What a kill at this moment may cost: the fewest seconds that the next launch has to offer.
-    /// Empty where it need not offer any.
+    /// The fewest seconds that the next launch must offer after a kill now; empty when it need not
+    /// offer any.
     [[nodiscard]] std::optional<double> leastOffer() const;
 
-    /// How often a promise about a kill was put to the test.
+    /// The number of kills checked.
     int killsChecked = 0;
 
 private:
-    /// What happened to one session from outside.
+    /// The external influences on a session.
     struct Circumstances {
         double ableAtStart = 0;
         bool clockSet = false;
-        bool diskBroken = false; ///< at any time of it
+        bool diskBroken = false; ///< at any time during it
     };
 
     [[nodiscard]] TrackerCore& tracker() const { return m_world.model->tracker(); }
@@ -61,9 +61,9 @@ private:
 
     ModelWorld& m_world;
     QStringList m_broken;
-    std::map<QUuid, Session> m_known;        ///< what must be in the log
-    QByteArrayList m_garbage;                ///< lines that are not ours, in their order
-    QByteArray m_log;                        ///< as it was looked at last
+    std::map<QUuid, Session> m_known;        ///< records that must be in the log
+    QByteArrayList m_garbage;                ///< foreign lines, in order
+    QByteArray m_log;                        ///< as last read
     QHash<qint64, Circumstances> m_sessions; ///< by the whole second of their start
     Circumstances m_open;
     bool m_diskIsBroken = false;

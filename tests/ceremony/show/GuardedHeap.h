@@ -1,5 +1,6 @@
-// Watches the heap of this test program: every block stands between guard bytes, which are looked
-// at when it is given back, and every request is counted.
+// A heap checker for this test program.
+//
+// Puts guard bytes around every block, checks them when it is freed, and counts allocations.
 #pragma once
 
 #include <cstddef>
@@ -7,13 +8,13 @@
 
 namespace vantle::tests::guardedheap {
 
-/// Requests since the start of the program.
+/// Allocations since the start.
 [[nodiscard]] std::int64_t allocations();
 
-/// Blocks next to which something was written, since the start of the program.
+/// Blocks with damaged guard bytes since the start.
 [[nodiscard]] std::int64_t damagedBlocks();
 
-/// Writes a byte behind a block of that size, which is a fault that no compiler can see from here.
+/// Writes past a block, invisibly to the compiler.
 void writeBehind(void* block, std::size_t size);
 
 } // namespace vantle::tests::guardedheap

@@ -1,4 +1,4 @@
-// Shows that are the same at every run, and how to look at their frames.
+// Reproducible shows and their frames.
 #pragma once
 
 #include "ceremony/show/CeremonyFrameRenderer.h"
@@ -24,7 +24,7 @@ inline Rgba pixel(const CeremonyFrameRenderer& renderer, int x, int y) {
     return {byte(0), byte(1), byte(2), byte(3)};
 }
 
-/// Whether every pixel of the frame is the same.
+/// Whether all pixels of the frame are equal.
 inline bool isUniform(const CeremonyFrameRenderer& renderer) {
     for (const std::uint32_t value : renderer.fieldBuffer())
         if (value != renderer.fieldBuffer().front()) return false;
@@ -42,7 +42,7 @@ inline CeremonyFrameRenderer sampleShow(CeremonyVariant variant, QSizeF size) {
     return CeremonyFrameRenderer(std::move(model));
 }
 
-/// A screen of that size without a dot.
+/// A show without dots on a screen of that size.
 inline CeremonyGridModel emptyModel(CeremonyVariant variant, QSizeF size = {300, 240}) {
     const CeremonyGrid grid = CeremonyGrid::forScreen(size);
     CeremonyGridModel model;

@@ -1,4 +1,4 @@
-// A Wayland compositor in this process, with what a test lets it offer.
+// A Wayland compositor in this process, with the protocols of the test.
 #pragma once
 
 #include <QByteArray>
@@ -18,8 +18,7 @@ struct wl_resource;
 
 namespace vantle::tests {
 
-/// Speaks to one client over a pair of sockets, on the thread of the test: nothing happens on
-/// either side but in `settle`.
+/// Serves one client over a socket pair, on the test's thread: both sides run only in `settle`.
 class FakeCompositor {
 public:
     FakeCompositor();
@@ -30,22 +29,22 @@ public:
     /// The client's end, to be given to its connection.
     [[nodiscard]] int takeSocket();
 
-    /// Lets requests and events take their way until nothing is left.
+    /// Delivers requests and events until none is left.
     void settle();
-    /// Ends the connection as a compositor that crashes does.
+    /// Closes the connection, like a crashed compositor.
     void vanish();
-    /// Writes bytes that are no message.
+    /// Sends bytes that are no valid message.
     void talkNonsense();
 
     struct Idle {
         wl_resource* resource = nullptr;
         bool isKde = false;
-        bool ofInput = false; ///< whatever inhibits
+        bool ofInput = false; ///< despite inhibitors
         std::uint32_t timeout = 0;
         bool idle = false;
     };
 
-    /// What it offers; each returns a number for `withdraw`.
+    /// The offered globals; each returns a number for `withdraw`.
     int offerSeat();
     int offerIdleNotifier(std::uint32_t version);
     int offerKdeIdle();
@@ -59,13 +58,12 @@ public:
     int offer(const wl_interface& interface, int version, Bind bind, void* data);
     [[nodiscard]] wl_display* display() const { return m_display; }
 
-    /// The user: `touch` is an input, `second` a second without any has passed.
+    /// The user: `touch` is input, `second` a second without any.
     void touch();
     void second();
-    /// Something holds the session awake, in the way of compositors of the older kind: what is idle
-    /// stays so, nothing becomes idle.
+    /// An idle inhibitor in older compositors: idle notifications stay idle, and none becomes idle.
     void inhibit(bool inhibits) { m_inhibits = inhibits; }
-    /// The same where an inhibitor's begin ends what is idle.
+    /// An idle inhibitor in compositors where its start ends idleness.
     void inhibitAndResume();
     [[nodiscard]] std::size_t notifications() const { return m_idles.size(); }
 

@@ -17,17 +17,17 @@
 
 namespace vantle::tests {
 
-/// Shows nothing, configures nothing and asks for no frame but when a test says so.
+/// Configures and requests frames only in the test's calls.
 class FakeLayerShell {
 public:
     explicit FakeLayerShell(FakeCompositor& compositor) : m_compositor(compositor) {}
-    /// Ends the client, whose surfaces these are.
+    /// Disconnects the client that owns the surfaces.
     ~FakeLayerShell() { m_compositor.vanish(); }
     FakeLayerShell(const FakeLayerShell&) = delete;
     FakeLayerShell& operator=(const FakeLayerShell&) = delete;
 
     /// Each returns a number for `FakeCompositor::withdraw`.
-    int offerSurfaces(); ///< and memory for their pictures, which is never taken back
+    int offerSurfaces(); ///< with shared memory, which is never withdrawn
     int offerShell(int version = 4);
     int offerViewporter();
     int offerLogicalOutputs();
@@ -37,18 +37,18 @@ public:
         QSize mode;
         int scale = 1;
         int transform = 0;
-        QRect logical = {}; ///< told by who offers logical outputs
+        QRect logical = {}; ///< sent by xdg-output
     };
     int offerScreen(const Screen& screen);
 
     struct Surface;
-    /// A buffer that the client has not been given back.
+    /// A buffer not yet released.
     struct Held;
 
     struct Surface {
         FakeLayerShell* shell = nullptr;
-        wl_resource* surface = nullptr; ///< null once it is destroyed
-        wl_resource* layer = nullptr;   ///< null once it is destroyed
+        wl_resource* surface = nullptr; ///< null once destroyed
+        wl_resource* layer = nullptr;   ///< null once destroyed
         const Screen* screen = nullptr;
         std::uint32_t level = 0, anchor = 0, acked = 0;
         std::int32_t zone = 0;
@@ -57,20 +57,20 @@ public:
         int scale = 1;
         QSize destination;
         int commits = 0;
-        std::vector<QImage> pictures; ///< all that were shown, copied
+        std::vector<QImage> pictures; ///< copies of all frames shown
         wl_resource* attached = nullptr;
-        std::vector<wl_resource*> frames; ///< callbacks that wait
+        std::vector<wl_resource*> frames; ///< pending frame callbacks
         std::list<std::shared_ptr<Held>> held;
     };
-    /// In the order in which they were made.
+    /// In order of creation.
     [[nodiscard]] Surface& surface(std::size_t number = 0) { return *m_surfaces.at(number); }
     [[nodiscard]] std::size_t surfaces() const { return m_surfaces.size(); }
 
     void configure(Surface& surface, std::uint32_t width, std::uint32_t height);
     void close(Surface& surface);
-    /// Asks for the next frame.
+    /// Requests the next frame.
     void askForFrame(Surface& surface);
-    /// Whether buffers are given back once another one is shown.
+    /// Whether a buffer is released once another one is shown.
     void setReleases(bool releases) { m_releases = releases; }
     void release(Surface& surface);
 

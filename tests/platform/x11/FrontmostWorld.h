@@ -1,4 +1,4 @@
-// A desktop with a few applications, and what tells which of them is in front.
+// A desktop with some applications, one of them in front.
 #pragma once
 
 #include "fakes/VirtualTime.h"
@@ -21,7 +21,7 @@ namespace vantle::tests {
 
 inline QString q(const char* text) { return QString::fromUtf8(text); }
 
-/// A terminal of the class.
+/// A terminal window with that class.
 class Terminal {
 public:
     explicit Terminal(const QString& windowClass) {
@@ -71,14 +71,14 @@ protected:
         const auto app = m_frontmost.frontmost();
         return app ? app->bundleId : QStringLiteral("none");
     }
-    /// The server knows it then, and all that it has told by now is dispatched.
+    /// Returns once the server has set it and all events are dispatched.
     [[nodiscard]] bool comesToFront(const char* id) {
         const bool came = await([&] { return frontmostId() == q(id); });
         catchUp(m_connection);
         return came;
     }
 
-    /// A window of this test, shown as the window manager likes it.
+    /// Creates and maps a window of this test.
     xcb_window_t makeWindow(const char* windowClass) {
         auto* const xcb = m_client.xcb();
         const xcb_window_t window = xcb_generate_id(xcb);
@@ -105,12 +105,12 @@ protected:
         xcb_change_property(m_client.xcb(), XCB_PROP_MODE_REPLACE, window, name, type, 8,
                             static_cast<std::uint32_t>(text.size()), text.constData());
     }
-    /// Returns when everything that the test's windows asked for is dispatched.
+    /// Returns once all requests of the test's windows are dispatched.
     void settleClient() {
         (void)m_client.reply<xcb_get_input_focus_reply>(xcb_get_input_focus(m_client.xcb()));
         catchUp(m_connection);
     }
-    /// Calls the window active, as a window manager does.
+    /// Marks the window as active, as a window manager does.
     void callActive(xcb_window_t window) {
         set(m_client.root(), atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, window);
         settleClient();
@@ -119,7 +119,7 @@ protected:
     QTemporaryDir m_entries;
     std::unique_ptr<DesktopApplications> m_applications;
     X11Connection m_connection;
-    X11Connection m_client; ///< of the windows that the test makes itself
+    X11Connection m_client; ///< for the windows that the test creates
     std::vector<WindowHints> m_resolved;
     fakes::VirtualTime m_time;
     X11FrontmostApp m_frontmost{m_connection, m_time, [this](const WindowHints& hints) {

@@ -1,4 +1,4 @@
-// An X server of one test, for what can't be done to the one that all tests share.
+// A separate X server, for what cannot be done to the shared one.
 #pragma once
 
 #include "platform/x11/X11Connection.h"
@@ -37,7 +37,7 @@ private:
     QByteArray m_display;
 };
 
-/// Returns when everything that the server has told by now is dispatched.
+/// Returns once all pending events are dispatched.
 inline void catchUp(X11Connection& connection) {
     (void)connection.reply<xcb_get_input_focus_reply>(xcb_get_input_focus(connection.xcb()));
     QCoreApplication::processEvents();

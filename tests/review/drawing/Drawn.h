@@ -1,4 +1,4 @@
-// What a painter paints, as an image that tests can look into.
+// The image of a painter, for tests of its pixels.
 #pragma once
 
 #include <QImage>
@@ -6,7 +6,7 @@
 
 namespace vantle::drawn {
 
-/// On the ground of the windows, at `scale` device pixels in a pixel.
+/// Paints on the windows' background, with `scale` device pixels per pixel.
 template <typename Paint>
 [[nodiscard]] QImage image(QSizeF size, double scale, const Paint& paint) {
     QImage image((size * scale).toSize(), QImage::Format_ARGB32_Premultiplied);

@@ -1,4 +1,4 @@
-// Records and settings for reviews, of which a test changes what it is about.
+// The records and settings of review tests.
 #pragma once
 
 #include "review/stats/WrappedStats.h"

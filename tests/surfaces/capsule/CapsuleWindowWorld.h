@@ -1,4 +1,4 @@
-// A capsule in its window, with a pointer and keys of the test.
+// A capsule in its window, driven by pointer and keys.
 #pragma once
 
 #include "CapsuleWorld.h"
@@ -23,9 +23,9 @@ namespace vantle::tests {
 class CapsuleWindowTest : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        engine = new QQmlEngine; // reads the views once for all tests
+        engine = new QQmlEngine; // parses the views once for all tests
         engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-        Motion::of(*engine)->setReduced(true); // all is where it belongs at once
+        Motion::of(*engine)->setReduced(true); // without animations
     }
     static void TearDownTestSuite() { delete std::exchange(engine, nullptr); }
 
@@ -54,7 +54,7 @@ protected:
     }
     void raiseIdle() { raise(world.idleForm()); }
 
-    /// Lets the views catch up, and what was put off run.
+    /// Runs posted work and updates the views.
     void settle() {
         world.tracking.time.settle();
         QCoreApplication::processEvents();
@@ -86,7 +86,7 @@ protected:
     [[nodiscard]] bool shows(const QString& words) const {
         return showsText(window->panel(), words);
     }
-    /// The visible item that is read out as that; null when there is none.
+    /// Returns the visible item with that accessible name; null when there is none.
     [[nodiscard]] QQuickItem* item(const QString& name) const {
         return find(window->panel().contentItem(), name);
     }
@@ -98,10 +98,10 @@ protected:
                    : found->mapToScene(QPointF(found->width() / 2, found->height() / 2));
     }
 
-    /// Whether what lies below shows there, in px of the panel.
+    /// Whether what is below shows at a point, in px of the panel.
     [[nodiscard]] bool seesBelow(QPoint place) {
         settle();
-        window->panel().setColor(Qt::green); // the capsule has no green
+        window->panel().setColor(Qt::green); // the capsule has no green of its own
         return window->panel().grabWindow().pixelColor(place).green() > 60;
     }
     void expectOpaqueCorners(const QRect& part) {

@@ -1,4 +1,4 @@
-// Capsules without windows: a tracker on virtual time, and a pointer that tests move.
+// Capsules without windows, on virtual time.
 #pragma once
 
 #include "fakes/FakeReducedMotion.h"
