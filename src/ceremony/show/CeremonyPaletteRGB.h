@@ -1,4 +1,6 @@
 // The colours of the ceremony, as 0xRRGGBB.
+//
+// Constants, any thread.
 #pragma once
 
 #include <array>
