@@ -12,6 +12,8 @@ DarkCard {
     readonly property real innerWidth: width - 2 * DarkUI.space16
     readonly property real headingTop: 11
     readonly property real innerTop: 38
+    // From the middle of the room below the heading to the card's own, where an empty card speaks.
+    readonly property real middleOffset: (height - area.height) / 2 - area.y
 
     padding: 0
 

@@ -40,10 +40,14 @@ FocusScope {
                 focus: true
             }
 
-            WarningBanner {
-                width: page.inner
+            Column {
                 visible: page.model.warning !== ""
-                text: page.model.warning
+                topPadding: DarkUI.space4 // below the head as much as the figures have
+
+                WarningBanner {
+                    width: page.inner
+                    text: page.model.warning
+                }
             }
 
             ArrowGroup {

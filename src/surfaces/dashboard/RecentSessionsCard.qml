@@ -14,6 +14,7 @@ DashboardCard {
 
     Column {
         anchors.centerIn: parent
+        anchors.verticalCenterOffset: card.middleOffset
         visible: card.model.recent.length === 0
         spacing: DarkUI.space10
 

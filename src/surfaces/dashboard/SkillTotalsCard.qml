@@ -13,15 +13,39 @@ DashboardCard {
                                                / Math.max(model.skillTotals.length, 1))
     readonly property real room: height - 38 * DarkUI.textScale - DarkUI.space12
 
+    readonly property int sockets: 6 // in an empty card
+
     heading: qsTr("Hours by skill")
 
-    DarkText {
-        width: card.innerWidth
+    Column {
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: card.middleOffset
+        width: card.innerWidth - 2 * DarkUI.space16
         visible: card.model.skillTotals.length === 0
-        text: qsTr("Your active skills will appear after the first session.")
-        role: DarkUI.caption
-        color: DarkUI.textTertiary
-        wrapMode: Text.Wrap
+        spacing: DarkUI.space14
+
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: DarkUI.space8
+
+            Repeater {
+                model: card.sockets
+                GlassDot {
+                    width: DarkUI.iconSmall
+                    height: DarkUI.iconSmall
+                    filled: false
+                }
+            }
+        }
+
+        DarkText {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            text: qsTr("Your active skills will appear after the first session.")
+            role: DarkUI.caption
+            color: DarkUI.textTertiary
+            wrapMode: Text.Wrap
+        }
     }
 
     ArrowGroup {

@@ -4,6 +4,7 @@
 #include "support/Text.h"
 #include "surfaces/dashboard/DashboardWorld.h"
 #include "surfaces/kit/tokens/DarkUI.h"
+#include "surfaces/kit/tokens/Look.h"
 #include "tracking/Samples.h"
 
 #include <algorithm>
@@ -79,6 +80,59 @@ TEST_F(DashboardPageTest, LargerTextStandsInNoOther) {
         EXPECT_EQ(m_shown->overlappingTexts(), QStringList()) << factor;
         m_shown.reset();
     }
+}
+
+TEST_F(DashboardPageTest, WarningStandsAsFarBelowTheHeadAsTheFigures) {
+    constexpr double kBelowHead = 16; // px
+    show();
+    const double head = m_shown->frameOf(*m_shown->control(text("Log time"))).bottom() + 1;
+    const auto topOfCardAround = [&](const QString& words) {
+        const QQuickItem* item =
+            tests::shownItem(m_shown->window().contentItem(), [&](const QQuickItem& one) {
+                return one.property("text").toString() == words;
+            });
+        while (item != nullptr && !item->property("radius").isValid())
+            item = item->parentItem();
+        return item == nullptr ? 0 : m_shown->frameOf(*item).top();
+    };
+    EXPECT_EQ(topOfCardAround(text("Today")), head + kBelowHead);
+    m_shown.reset();
+    disk.setContent(file("sessions.jsonl"), "this is no record\n");
+    show();
+    EXPECT_EQ(topOfCardAround(view->warning()), head + kBelowHead);
+}
+
+TEST_F(DashboardPageTest, EmptyCardsSayTheirWordsInTheirMiddle) {
+    show();
+    const auto frame = [&](const QString& words) {
+        const QQuickItem* const item =
+            tests::shownItem(m_shown->window().contentItem(), [&](const QQuickItem& one) {
+                return one.property("text").toString() == words;
+            });
+        return item == nullptr ? QRectF() : m_shown->frameOf(*item);
+    };
+    const QRectF heading = frame(text("Hours by skill"));
+    const QRectF words = frame(text("Your active skills will appear after the first session."));
+    const QRectF card(heading.left() - 16, heading.top() - 11, 246, 208);
+    EXPECT_NEAR(words.center().x(), card.center().x(), 1);
+    // A row of sockets stands above the words; the two of them are in the middle.
+    m_shown->window().setColor(look::kDark.windowGround.color());
+    const QImage picture = m_shown->picture();
+    const auto litAlong = [&](double y) {
+        int changes = 0;
+        for (int x = int(card.left()) + 4; x < card.right() - 4; ++x)
+            if (picture.pixel(x, int(y)) != picture.pixel(x - 1, int(y))) ++changes;
+        return changes;
+    };
+    double top = words.top();
+    for (double y = heading.bottom() + 4; y < words.top() && top == words.top(); ++y)
+        if (litAlong(y) > 0) top = y;
+    EXPECT_LT(top, words.top() - 12) << "no sockets above the words";
+    EXPECT_NEAR((top + words.bottom()) / 2, card.center().y(), 3);
+
+    const QRectF start = m_shown->frameOf(*m_shown->control(text("Start your first session")));
+    const QRectF keys = frame(text("⌥⌘B works from anywhere"));
+    EXPECT_NEAR((start.top() + keys.bottom()) / 2, card.center().y(), 2);
 }
 
 TEST_F(DashboardPageTest, ShortcutIsOfferedOnlyWhileItIsHeld) {

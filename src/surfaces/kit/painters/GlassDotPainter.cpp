@@ -18,6 +18,7 @@ using colormath::withAlpha;
 // Inner shading is invisible on smaller dots and would only dull the colour.
 constexpr double kShadedFrom = 5.0;
 constexpr double kRimWidth = 0.6;
+constexpr double kGlassRim = 0.28; // opacity
 
 const QColor kWhite(Qt::white);
 
@@ -81,7 +82,7 @@ void drawFilled(QPainter& painter, QPointF center, double radius, const QColor& 
     drawBody(painter, center, radius, color);
     if (radius >= kShadedFrom) drawVolume(painter, center, radius, color);
     drawHighlight(painter, center, radius);
-    drawRim(painter, center, radius, 0.28);
+    drawRim(painter, center, radius, kGlassRim);
 }
 
 void drawEmpty(QPainter& painter, QPointF center, double radius) {
@@ -94,12 +95,14 @@ void drawSlice(QPainter& painter, QPointF center, double radius, const QColor& c
                double fraction) {
     fillDisc(painter, center, radius, withAlpha(color, 0.12));
     const double part = std::clamp(fraction, 0.0, 1.0);
-    if (part <= 0.0) return;
-    const QRectF area(center.x() - radius, center.y() - radius, 2 * radius, 2 * radius);
-    QPainterPath pie(center);
-    pie.arcTo(area, 90.0, -360.0 * part);
-    pie.closeSubpath();
-    painter.fillPath(pie, withAlpha(color, 0.92));
+    if (part > 0.0) {
+        const QRectF area(center.x() - radius, center.y() - radius, 2 * radius, 2 * radius);
+        QPainterPath pie(center);
+        pie.arcTo(area, 90.0, -360.0 * part);
+        pie.closeSubpath();
+        painter.fillPath(pie, withAlpha(color, 0.92));
+    }
+    drawRim(painter, center, radius, kGlassRim);
 }
 
 } // namespace vantle::glassdotpainter

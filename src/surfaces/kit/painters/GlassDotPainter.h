@@ -20,7 +20,8 @@ void drawFilled(QPainter& painter, QPointF center, double radius, const QColor& 
 /// Draws a faint socket.
 void drawEmpty(QPainter& painter, QPointF center, double radius);
 
-/// Draws a disc filled clockwise from the top by `fraction`, 0 to 1. Larger values count as 1.
+/// Draws a disc with the rim of a sphere, filled clockwise from the top by `fraction`, 0 to 1.
+/// Larger values count as 1.
 void drawSlice(QPainter& painter, QPointF center, double radius, const QColor& color,
                double fraction);
 

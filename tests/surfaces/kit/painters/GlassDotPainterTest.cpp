@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 
 namespace vantle::glassdotpainter {
@@ -86,6 +87,18 @@ TEST(GlassDotPainter, ASliceOfMoreThanAnHourIsFull) {
     EXPECT_EQ(slice(1.7), slice(1.0));
     EXPECT_GT(at(slice(1.0), -0.1, -0.7).lightness(), 100);
     EXPECT_EQ(at(slice(0.0), 0.1, -0.7), at(slice(0.0), -0.1, -0.7));
+}
+
+TEST(GlassDotPainter, ASliceHasTheRimOfGlassAllAround) {
+    const QImage quarter =
+        drawn([](QPainter& painter) { drawSlice(painter, kCentre, kRadius, kViolet, 0.25); });
+    for (const QPointF edge : {QPointF(-1, 0), QPointF(0, 1), QPointF(-0.707, -0.707)}) {
+        int rim = 0; // the brightest pixel across the edge: the rim is thinner than one
+        for (const double way : {0.98, 0.99, 1.0})
+            rim = std::max(rim, at(quarter, way * edge.x(), way * edge.y()).lightness());
+        const QColor inside = at(quarter, 0.9 * edge.x(), 0.9 * edge.y());
+        EXPECT_GT(rim, inside.lightness() + 12) << edge.x() << ", " << edge.y();
+    }
 }
 
 TEST(GlassDotPainter, ASmallDotHasNoDirtyEdge) {
