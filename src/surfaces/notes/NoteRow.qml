@@ -10,6 +10,7 @@ KitControl {
     required property LogView log
     required property real timeWidth // of the column, equal in all rows
     readonly property real lineGap: 3
+    readonly property real buttonsRoom: 2 * DarkUI.iconButtonSize + DarkUI.space12
     signal leftBehind(int step) // an arrow key moves to a row before or after
     signal editorEntered // the editor has the focus
 
@@ -119,13 +120,19 @@ KitControl {
 
         DarkText {
             visible: !row.editing
-            // Reserves the buttons' room, so that no line moves under the pointer.
-            width: parent.width - 2 * DarkUI.iconButtonSize - DarkUI.space12
+            width: parent.width
             text: row.note
             horizontalAlignment: undefined // by script
             role: DarkUI.note
             wrapMode: Text.Wrap
             Accessible.ignored: true
+            // Reserves the buttons' room beside the first line, so that no line moves under the
+            // pointer.
+            onLineLaidOut: line => {
+                line.y = line.number * lineHeight;
+                if (line.number === 0)
+                    line.width = width - row.buttonsRoom;
+            }
         }
 
         Loader {

@@ -6,8 +6,8 @@ import Vantle.Kit
 Item {
     Column {
         anchors.centerIn: parent
-        // Centred in the window, including its title strip.
-        anchors.verticalCenterOffset: -DarkUI.stripHeight / 2
+        // Optically centred in the window, including its title strip.
+        anchors.verticalCenterOffset: -DarkUI.stripHeight / 2 - DarkUI.space14
         spacing: DarkUI.space8
 
         Row {
@@ -28,7 +28,7 @@ Item {
         DarkText {
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTr("No notes yet")
-            role: DarkUI.titleM
+            role: DarkUI.titleMWide
             Accessible.role: Accessible.Heading
         }
 

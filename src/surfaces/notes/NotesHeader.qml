@@ -57,6 +57,7 @@ FocusScope {
         placeholder: qsTr("Search notes")
         clearable: true
         focus: true
+        text: header.model.query
         onEdited: header.model.query = search.text
         Keys.onEscapePressed: {
             header.model.query = "";

@@ -60,7 +60,7 @@ FocusScope {
             log: area.model
             // The focused item must stay in the Tab order.
             activeFocusOnTab: ListView.isCurrentItem || activeFocus
-            timeWidth: Math.max(54, widestTime.width + DarkUI.space10)
+            timeWidth: Math.max(54, widestTime.width + DarkUI.space16)
             onLeftBehind: step => area.goBy(step)
             // Of rows scrolled out of the window, the list keeps only the current one.
             onEditorEntered: {

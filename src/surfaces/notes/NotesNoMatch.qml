@@ -10,7 +10,7 @@ Item {
 
     Column {
         anchors.centerIn: parent
-        anchors.verticalCenterOffset: -DarkUI.stripHeight / 2
+        anchors.verticalCenterOffset: -DarkUI.stripHeight / 2 - DarkUI.space36
         spacing: DarkUI.space14
 
         DarkText {
