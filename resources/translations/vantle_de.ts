@@ -511,8 +511,10 @@ Hier sammeln sich die Zeilen, die neueste zuerst.</translation>
         <translation>Zeit von Hand hinzufügen</translation>
     </message>
     <message>
-        <source>For work the clock didn’t see. It joins your totals and is marked as manual.</source>
-        <translation>Für Arbeit, die die Uhr nicht gesehen hat. Sie zählt zu deinen Summen und wird als Eintrag von Hand markiert.</translation>
+        <source>For work the clock didn’t see.
+It joins your totals and is marked as manual.</source>
+        <translation>Für Arbeit, die die Uhr nicht gesehen hat.
+Sie zählt zu deinen Summen und wird als Eintrag von Hand markiert.</translation>
     </message>
     <message>
         <source>Skill</source>

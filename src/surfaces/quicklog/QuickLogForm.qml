@@ -35,8 +35,8 @@ FocusScope {
 
         DarkText {
             width: parent.width
-            topPadding: DarkUI.space2
-            text: qsTr("For work the clock didn’t see. "
+            topPadding: role.leading + DarkUI.space6
+            text: qsTr("For work the clock didn’t see.\n"
                        + "It joins your totals and is marked as manual.")
             role: DarkUI.caption
             color: DarkUI.textSecondary
@@ -71,7 +71,7 @@ FocusScope {
 
             DarkText {
                 anchors.right: parent.right
-                y: lengthLabel.topPadding
+                anchors.baseline: lengthLabel.baseline
                 text: qsTr("1 min to 16 h")
                 role: DarkUI.caption
                 color: DarkUI.textTertiary

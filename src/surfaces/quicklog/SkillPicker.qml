@@ -10,6 +10,7 @@ DarkMenuPicker {
 
     implicitHeight: DarkUI.formFieldHeight
     textLeft: DarkUI.fieldPadding + DarkUI.chipDotSize + DarkUI.space10
+    chevronRight: DarkUI.fieldPadding
     role: DarkUI.body
 
     FlatDot {

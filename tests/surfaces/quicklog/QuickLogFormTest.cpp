@@ -23,6 +23,12 @@ protected:
         return m_shown->field(text(name))->property("text").toString();
     }
 
+    [[nodiscard]] const QQuickItem* item(const char* property, const QString& value) {
+        return tests::shownItem(m_shown->window().contentItem(), [&](const QQuickItem& one) {
+            return one.property(property).toString() == value;
+        });
+    }
+
     std::optional<QuickLogView> m_view;
     std::optional<tests::ShownView> m_shown;
 };
@@ -40,6 +46,33 @@ TEST_P(QuickLogFormTest, FullFigureRefusesADigitInItsMiddle) {
     EXPECT_EQ(shownIn(GetParam()), text("12356")) << "the caret stayed";
     m_shown->type(text("7"));
     EXPECT_EQ(shownIn(GetParam()), text("123756"));
+}
+
+using QuickLogLayoutTest = QuickLogFormTest;
+
+TEST_F(QuickLogLayoutTest, CaptionStandsClearOfTheTitleWithALineForEachSentence) {
+    show();
+    const QQuickItem* const title = item("text", text("Add time manually"));
+    const QQuickItem* const caption =
+        tests::shownItem(m_shown->window().contentItem(), [](const QQuickItem& one) {
+            return one.property("text").toString().startsWith(text("For work the clock"));
+        });
+    ASSERT_NE(title, nullptr);
+    ASSERT_NE(caption, nullptr);
+    const double above =
+        caption->property("topPadding").toDouble() + caption->property("bottomPadding").toDouble();
+    EXPECT_EQ(m_shown->frameOf(*caption).top() + above - m_shown->frameOf(*title).bottom(), 6);
+    EXPECT_EQ(caption->property("lineCount").toInt(), 2);
+    EXPECT_EQ(caption->property("text").toString().indexOf(QLatin1Char('\n')),
+              text("For work the clock didn’t see.").size());
+}
+
+TEST_F(QuickLogLayoutTest, ChevronStandsAsFarInsideAsTheTextOfAField) {
+    show();
+    const QQuickItem* const chevron = item("name", text("chevron-down"));
+    ASSERT_NE(chevron, nullptr);
+    EXPECT_EQ(m_shown->frameOf(*chevron->parentItem()).right() - m_shown->frameOf(*chevron).right(),
+              12);
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryFigure, QuickLogFormTest,

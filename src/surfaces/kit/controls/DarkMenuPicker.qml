@@ -12,6 +12,7 @@ KitPressable {
     property int currentIndex: -1
     property string placeholder // shown without a choice
     property bool quiet: false // whether the choice means "none"
+    property real chevronRight: DarkUI.space8 // to the right edge
     property TypeRole role: DarkUI.captionMedium
     property real textLeft: DarkUI.space10 // increase it to make room for a symbol
     readonly property bool opened: made !== null && made.opened
@@ -31,7 +32,7 @@ KitPressable {
 
     // Whole pixels, for an equally sharp right edge.
     implicitWidth: Math.ceil(textLeft + label.implicitWidth + DarkUI.space8 + chevron.width
-                             + DarkUI.space8)
+                             + chevronRight)
     implicitHeight: DarkUI.menuHeight
     name: title
     onClicked: open()
@@ -76,7 +77,7 @@ KitPressable {
     KitIcon {
         id: chevron
         anchors.right: parent.right
-        anchors.rightMargin: DarkUI.space8
+        anchors.rightMargin: picker.chevronRight
         anchors.verticalCenter: parent.verticalCenter
         width: DarkUI.iconSmall
         height: DarkUI.iconSmall

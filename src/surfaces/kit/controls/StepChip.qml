@@ -35,8 +35,8 @@ KitPressable {
 
     KitIcon {
         anchors.centerIn: parent
-        width: DarkUI.iconSmall
-        height: DarkUI.iconSmall
+        width: chip.large ? DarkUI.iconSize : DarkUI.iconSmall
+        height: width
         name: chip.plus ? "plus" : "minus"
         color: chip.enabled && !chip.exhausted ? DarkUI.textPrimary : DarkUI.iconDisabled
     }
