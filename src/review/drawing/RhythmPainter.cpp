@@ -55,11 +55,14 @@ void draw(QPainter& painter, const RhythmLayout& layout, const Lettering& letter
     painter.setFont(lettering.font);
     for (const auto& label : layout.labels)
         drawLabel(painter, label, lettering);
-    for (std::size_t i = 0; i < layout.spots.size(); ++i) {
-        const int index = static_cast<int>(i);
-        drawGrowing(painter, layout.area(index), layout.shape, layout.spots[i].tile,
-                    growing ? grown(index, *growing) : 1);
-    }
+    for (const bool today : {false, true})
+        for (std::size_t i = 0; i < layout.spots.size(); ++i) {
+            const DayTile& tile = layout.spots[i].tile;
+            if (tile.isToday != today) continue;
+            const int index = static_cast<int>(i);
+            drawGrowing(painter, layout.area(index), layout.shape, tile,
+                        growing ? grown(index, *growing) : 1);
+        }
     painter.restore();
 }
 

@@ -16,6 +16,11 @@ constexpr double kEdge = 1;
 constexpr double kEdgeOpacity = 0.16;
 constexpr double kEmptyOpacity = 0.05;
 
+// The ring of today among hundreds of small tiles.
+constexpr double kSmallRing = 2;
+constexpr double kSmallRingGap = 1;
+constexpr double kSmallRingOpacity = 0.7;
+
 /// The painter's pixel grid, unless it is rotated. A scaled-down picture is not snapped: gaps would
 /// differ by half their width.
 class Pixels {
@@ -75,10 +80,11 @@ void draw(QPainter& painter, QPointF topLeft, const TileShape& shape, const DayT
         edge(painter, area, shape.radius, cardwords::withOpacity(kWhite, kEdgeOpacity),
              pixels.snapped(kEdge));
     if (tile.isToday) {
-        // The ring is as far from the tile as it is wide, where that fits.
-        const double away = shape.isSmall ? tile.outlineWidth : 2 * tile.outlineWidth;
-        edge(painter, area.adjusted(-away, -away, away, away), shape.radius + away, tile.outline,
-             tile.outlineWidth);
+        const double width = shape.isSmall ? kSmallRing : tile.outlineWidth;
+        const double away = width + (shape.isSmall ? kSmallRingGap : width);
+        edge(painter, area.adjusted(-away, -away, away, away), shape.radius + away,
+             shape.isSmall ? cardwords::withOpacity(kWhite, kSmallRingOpacity) : tile.outline,
+             width);
     }
     painter.restore();
 }

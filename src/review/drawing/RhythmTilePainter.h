@@ -16,12 +16,13 @@ namespace vantle {
 struct TileShape {
     QSizeF size;
     double radius = 0;    ///< of the corners
-    bool isSmall = false; ///< too small for a light edge or a gap inside today's ring
+    bool isSmall = false; ///< too small for a light edge; today's ring is brighter and closer
 };
 
 namespace rhythmtile {
 
-/// The largest distance that a tile reaches beyond its edges: today's ring.
+/// The largest distance that a tile reaches beyond its edges: today's ring. Draw today last, its
+/// ring overlaps other tiles.
 inline constexpr double reach = 4;
 
 /// Draws a tile; a blank draws nothing.

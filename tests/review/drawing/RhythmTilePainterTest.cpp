@@ -99,11 +99,15 @@ TEST(RhythmTilePainter, TodayHasARingAroundItAtADistance) {
     EXPECT_LE(drawn::distance(across(imageOf(today(idle)), 5.2), grey), 1) << "without work, too";
 }
 
-TEST(RhythmTilePainter, OnASmallTileTheRingLiesCloseAndNoEdgeIsDrawn) {
+TEST(RhythmTilePainter, OnASmallTileTheRingIsBrightAndAPixelAwayAndNoEdgeIsDrawn) {
     const QImage image = imageOf(today(worked(Qt::red)), kSmall, 2, {20, 25});
-    EXPECT_LE(drawn::distance(across(image, 19.2), QColor(0x67, 0x67, 0x6A)), 1);
+    const QColor bright(0xB5, 0xB5, 0xB7); // white at 70 %
     EXPECT_EQ(across(image, 20.2), QColor(Qt::red));
-    EXPECT_EQ(across(image, 18.2), kGround);
+    EXPECT_EQ(across(image, 19.7), kGround);
+    EXPECT_EQ(across(image, 19.2), kGround) << "the distance";
+    EXPECT_LE(drawn::distance(across(image, 18.7), bright), 2);
+    EXPECT_LE(drawn::distance(across(image, 17.2), bright), 2) << "two px wide";
+    EXPECT_EQ(across(image, 16.7), kGround);
 }
 
 TEST(RhythmTilePainter, NothingReachesBeyondWhatIsSaid) {
