@@ -28,6 +28,11 @@ ReviewFigure figure(double hours, DurationStyle style) {
     return {text.value, text.unit};
 }
 
+QString withOpenSpaces(QString text) {
+    constexpr QChar kNarrowNoBreakSpace(0x202F);
+    return text.replace(kNarrowNoBreakSpace, QChar(QChar::Nbsp));
+}
+
 QString share(double hours, const WrappedStats& stats) {
     return fixedDecimals(hours / stats.totalHours * 100, 0) + QLatin1Char('%');
 }

@@ -44,6 +44,9 @@ inline constexpr std::uint32_t accent = 0x7A78FF;
 [[nodiscard]] QString sessions(int count); ///< "1 session", "2 sessions"
 [[nodiscard]] ReviewFigure figure(double hours, DurationStyle style);
 
+/// Replaces narrow no-break spaces, as in "10 PM", by ordinary ones: negative tracking closes them.
+[[nodiscard]] QString withOpenSpaces(QString text);
+
 /// Formats a share of the period's hours: "45%".
 [[nodiscard]] QString share(double hours, const WrappedStats& stats);
 

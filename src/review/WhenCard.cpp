@@ -10,10 +10,13 @@ namespace vantle::reviewcards {
 
 namespace {
 
+using cardwords::withOpenSpaces;
+
 std::vector<FactBox> facts(const WrappedStats& stats, const WrappedSettings& settings) {
     const DurationStyle style = settings.durationStyle;
     std::vector<FactBox> boxes;
-    if (stats.typicalStart) boxes.push_back({Words::tr("TYPICAL START"), *stats.typicalStart, {}});
+    if (stats.typicalStart)
+        boxes.push_back({Words::tr("TYPICAL START"), withOpenSpaces(*stats.typicalStart), {}});
     if (stats.longest)
         boxes.push_back({Words::tr("LONGEST SESSION"),
                          dashformat::sessionDuration(stats.longest->activeSeconds, style),
@@ -37,15 +40,16 @@ std::optional<WhenCard> when(const WrappedStats& stats, const WrappedSettings& s
     WhenCard card;
     card.kicker = Words::tr("WHEN YOU BUILD");
     card.headline = rhythm.headline;
-    card.detail = rhythm.detail.value_or(QString());
+    card.detail = withOpenSpaces(rhythm.detail.value_or(QString()));
     card.bars = QList<double>(bars.begin(), bars.end());
     card.peakBar = rhythm.peakHour / 2;
     for (const int hour : {0, 6, 12, 18, 0})
-        card.hourMarks << hourLabel(hour, settings.calendar.locale);
+        card.hourMarks << withOpenSpaces(hourLabel(hour, settings.calendar.locale));
     card.accent = QColor::fromRgb(cardwords::leadingColor(stats));
     card.chartCaption = Words::tr("when sessions begin");
     card.chartLabel = Words::tr("Session starts by hour of day");
-    card.peak = Words::tr("PEAK · %1").arg(hourLabel(rhythm.peakHour, settings.calendar.locale));
+    card.peak = Words::tr("PEAK · %1")
+                    .arg(withOpenSpaces(hourLabel(rhythm.peakHour, settings.calendar.locale)));
     card.facts = facts(stats, settings);
     return card;
 }

@@ -181,6 +181,22 @@ TEST(WhenCard, NeedsThreeStarts) {
     EXPECT_EQ(card.facts[2].detail, QStringLiteral("Tue, Mar 10"));
 }
 
+TEST(WhenCard, HoursHaveASpaceThatCloseLettersLeave) {
+    WrappedSettings there = settings();
+    there.calendar.locale = QStringLiteral("en_US");
+    std::vector<Session> log;
+    for (int i = 0; i < 4; ++i)
+        log.push_back(worked("2026-03-10T22:00:00Z", 30));
+    const auto stats = WrappedStats::compute(log, WrappedPeriod::Week, there);
+    const auto card = reviewcards::when(stats, there).value();
+    const QChar space(QChar::Nbsp);
+    EXPECT_EQ(card.hourMarks[1], QStringLiteral("6") + space + QStringLiteral("AM"));
+    EXPECT_TRUE(card.peak.endsWith(space + QStringLiteral("PM"))) << card.peak.toStdString();
+    EXPECT_TRUE(card.facts[0].value.endsWith(space + QStringLiteral("PM")))
+        << card.facts[0].value.toStdString();
+    EXPECT_FALSE(card.detail.contains(QChar(0x202F))) << card.detail.toStdString();
+}
+
 TEST(WhenCard, MarksADayFromOneMidnightToTheNextAsTheLocaleWritesHours) {
     WrappedSettings there = settings();
     there.calendar.locale = QStringLiteral("de_DE");
