@@ -106,10 +106,15 @@ function(vantle_use_views program)
 endfunction()
 
 # Qt's targets for resources and for the start of a plugin hold nothing for moc, yet each would have a
-# run of it and an empty source of its own: a hundred of them.
+# run of it and an empty source of its own: a hundred of them. Newer versions read what moc said of the
+# latter, so there those keep it.
 function(vantle_spare_generated_targets directory)
+    set(spared "_(resources_[0-9]+|init)$")
+    if(Qt6_VERSION VERSION_GREATER_EQUAL 6.5)
+        set(spared "_resources_[0-9]+$")
+    endif()
     get_property(targets DIRECTORY "${directory}" PROPERTY BUILDSYSTEM_TARGETS)
-    list(FILTER targets INCLUDE REGEX "_(resources_[0-9]+|init)$")
+    list(FILTER targets INCLUDE REGEX "${spared}")
     if(targets)
         set_target_properties(${targets} PROPERTIES AUTOMOC OFF)
     endif()

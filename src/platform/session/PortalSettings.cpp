@@ -9,9 +9,9 @@ namespace vantle {
 
 namespace {
 
-const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString kPortalName = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString kPortalPath = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
+const QString kSettingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
 
 /// Unwraps nested variants: Read wraps the value twice, a signal once.
 QVariant unwrapped(QVariant value) {
@@ -23,20 +23,21 @@ QVariant unwrapped(QVariant value) {
 } // namespace
 
 PortalSettings::PortalSettings(const QDBusConnection& session, QList<Key> keys)
-    : m_portal(session, kService)
+    : m_portal(session, kPortalName)
     , m_keys(std::move(keys)) {
     connect(&m_portal, &FollowedService::came, this, [this] {
         for (const Key& key : m_keys)
             ask(key);
     });
-    m_portal.hear(kPortalPath, kInterface, QStringLiteral("SettingChanged"),
+    m_portal.hear(kPortalPath, kSettingsInterface, QStringLiteral("SettingChanged"),
                   [this](const QDBusMessage& signal) { takeChange(signal.arguments()); });
     m_portal.start();
 }
 
 void PortalSettings::ask(const Key& key) {
     m_portal.ask<QDBusVariant>(
-        m_portal.call(kPortalPath, kInterface, QStringLiteral("Read")) << key.space << key.name,
+        m_portal.call(kPortalPath, kSettingsInterface, QStringLiteral("Read"))
+            << key.space << key.name,
         [this, key](const QDBusVariant& value) { Q_EMIT told(key, unwrapped(value.variant())); });
 }
 
