@@ -48,7 +48,8 @@ AppDelegate::AppDelegate(const Environment& environment)
     , m_focusLink(m_platform.preferences, m_platform.processRunner, m_env.shortcutsTool)
     , m_missingTray({m_env.scheduler, m_platform.preferences, m_platform.trayItem,
                      [this] { return m_commandCenter->isShown() && !m_model->lastActionNote(); },
-                     [this](const QString& text) { m_model->report(text); }}) {}
+                     [this](const QString& text) { m_model->report(text); }})
+    , m_boundKey(m_env.clock) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -237,6 +238,8 @@ void AppDelegate::performAction(const QString& name) {
     if (!m_model) return;
     if (name == QLatin1String("toggle"))
         m_model->toggleVantle();
+    else if (name == QLatin1String("toggle-by-key"))
+        toggleByBoundKey();
     else if (name == QLatin1String("keep"))
         m_recovery->keep();
     else if (name == QLatin1String("discard"))
@@ -247,6 +250,10 @@ void AppDelegate::performAction(const QString& name) {
         m_model->quit();
     else
         m_router->showByAction(name);
+}
+
+void AppDelegate::toggleByBoundKey() {
+    if (m_boundKey.pressed()) m_model->toggleVantle();
 }
 
 } // namespace vantle

@@ -5,6 +5,7 @@
 #include "app/OpenQuestions.h"
 #include "launch/MissingTray.h"
 #include "launch/SpokenEvents.h"
+#include "platform/HeldKey.h"
 #include "platform/Platform.h"
 #include "sensing/AutoSkillMonitor.h"
 #include "sensing/FocusLink.h"
@@ -70,8 +71,8 @@ public:
     /// Like applicationWillTerminate(), without touching windows or views.
     void applicationWillTerminateUnseen();
 
-    /// Runs an action that the desktop calls by name: "toggle", "keep", "discard", "note", "quit",
-    /// or a window's (`WindowSpec::action`). Ignores unknown names.
+    /// Runs an action that the desktop calls by name: "toggle", "toggle-by-key", "keep", "discard",
+    /// "note", "quit", or a window's (`WindowSpec::action`). Ignores unknown names.
     void performAction(const QString& name);
 
     /// Null before the launch, and in a second copy.
@@ -88,6 +89,7 @@ private:
     void showFirstPanel();
     void showCommandCenter();
     void showStatus();
+    void toggleByBoundKey();
 
     const Environment m_env;
     const Platform& m_platform;
@@ -108,6 +110,7 @@ private:
     std::unique_ptr<CommandCenterController> m_commandCenter;
     std::unique_ptr<StatusItemController> m_statusItem;
     MissingTray m_missingTray;
+    HeldKey m_boundKey;         ///< bound to the command, which tells no releases
     TimerHandle m_trayPatience; ///< set while the first panel waits for the tray
     QMetaObject::Connection m_trayPlaced;
 };

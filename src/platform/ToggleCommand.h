@@ -7,11 +7,13 @@
 
 namespace vantle {
 
-/// Calls the program over the session bus, which starts it if needed.
+/// Calls the program over the session bus, which starts it if needed. A desktop may run it at each
+/// repeat of a held key; its action counts those as one press.
 [[nodiscard]] inline QString toggleCommand() {
     return QStringLiteral("gdbus call --session --dest local.vantle.Vantle "
                           "--object-path /local/vantle/Vantle "
-                          "--method org.freedesktop.Application.ActivateAction toggle '[]' '{}'");
+                          "--method org.freedesktop.Application.ActivateAction toggle-by-key "
+                          "'[]' '{}'");
 }
 
 } // namespace vantle

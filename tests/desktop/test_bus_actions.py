@@ -2,12 +2,13 @@
 
 import subprocess
 import sys
+import time
 from pathlib import Path
 
 import dbus
 
 from harness.bus import activate, activate_action
-from harness.case import PANEL_TITLE, SHORTCUT, DesktopTest
+from harness.case import PANEL_TITLE, ROOT, SHORTCUT, DesktopTest
 from harness.waiting import wait_until
 
 HOLD_KEY = Path(__file__).parent / "harness" / "hold_key.py"
@@ -39,6 +40,50 @@ class BusActions(DesktopTest):
         self.assertTrue(self.vantle.is_running())
         self.assertIsNone(self.vantle.marker())
         self.assertEqual(self.vantle.sessions(), [])
+
+
+class BoundKey(DesktopTest):
+    """A key that the user bound to the command, on a desktop that runs it at each repeat."""
+
+    KEYS = "<openbox_config xmlns='http://openbox.org/3.4/rc'><keyboard>" \
+        "<keybind key='A-F9'><action name='Execute'><command>{}</command></action></keybind>" \
+        "</keyboard></openbox_config>"
+
+    def test_a_held_key_starts_one_session_and_the_next_press_ends_it(self):
+        self.launch()
+        runs = self.desktop.directory / "runs"
+        script = self.desktop.directory / "bound"
+        script.write_text(f"#!/bin/sh\necho run >>{runs}\n{self.command_of_the_readme()}\n")
+        script.chmod(0o755)
+        rules = Path(self.desktop.env["XDG_CONFIG_HOME"], "openbox", "rc.xml")
+        rules.parent.mkdir()
+        rules.write_text(self.KEYS.format(script))
+        self.desktop.tool("openbox", "--reconfigure")
+        self.desktop.tool("xset", "r", "rate", "400", "25")
+
+        def runs_so_far():
+            return len(runs.read_text().splitlines()) if runs.exists() else 0
+
+        def hold():
+            before = runs_so_far()
+            self.desktop.tool("xdotool", "keydown", "alt", "keydown", "F9")
+            wait_until("repeats of the key", lambda: runs_so_far() > before + 10)
+            self.desktop.tool("xdotool", "keyup", "F9", "keyup", "alt")
+
+        hold()
+        wait_until("a marker", self.vantle.marker)
+        session = self.vantle.marker()["id"]
+        time.sleep(1.5)  # a press within a second of the last one is a repeat
+        self.assertEqual(self.vantle.marker()["id"], session)
+        hold()
+        wait_until("a record", self.vantle.sessions)
+        time.sleep(1.5)
+        self.assert_one_record_and_no_marker()
+
+    @staticmethod
+    def command_of_the_readme():
+        return next(line for line in (ROOT / "README.md").read_text().splitlines()
+                    if line.startswith("gdbus call"))
 
 
 class WithoutTray(DesktopTest):

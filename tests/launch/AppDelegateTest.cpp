@@ -373,6 +373,20 @@ TEST_F(AppDelegateTest, TheUsersShortcutsRunAtBothEndsOfASession) {
                                     {tool, {text("run"), text("all clear")}}}));
 }
 
+TEST_F(AppDelegateTest, HeldKeyThatRunsTheCommandOverAndOverCountsOnce) {
+    const auto app = makeCopy();
+    ASSERT_TRUE(app->applicationDidFinishLaunching());
+    for (const State next : {State::Running, State::Idle}) {
+        time.advance(1.1);
+        app->performAction(text("toggle-by-key"));
+        time.advance(0.6); // as long as desktops wait before the first repeat
+        for (int repeat = 0; repeat < 60; ++repeat, time.advance(0.03))
+            app->performAction(text("toggle-by-key"));
+        EXPECT_EQ(app->model()->tracker().state(), next);
+    }
+    EXPECT_EQ(log().size(), 1u);
+}
+
 TEST_F(AppDelegateTest, UnknownActionsDoNothing) {
     const auto app = makeCopy();
     app->performAction(text("toggle")); // before the launch
