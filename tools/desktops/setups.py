@@ -43,6 +43,7 @@ class Setup:
     minimises: bool = True  # the window manager can
     locker: Lock = None
     no_locker: str = ""     # why there is none
+    suite: str = "bookworm"  # the Debian that has it
 
 
 def top(height):

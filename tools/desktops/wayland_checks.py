@@ -9,11 +9,9 @@ import time
 
 from checks import NotHere, expect
 from scene import CARD
-from wayland_scene import SETTINGS
 from wayland_sessions import HEIGHT, WIDTH
 
-from harness.bus import activate_action  # noqa: E402
-from harness.records import epoch  # noqa: E402
+from harness.records import epoch  # noqa: E402  scene has made it known
 from harness.waiting import wait_until  # noqa: E402
 
 READING = 10  # seconds between two looks at the time without input
@@ -51,9 +49,9 @@ def typing_counted(scene):
 
 def application_in_front(scene):
     """Work in a native application is filed under its skill."""
-    scene.install_application("gimp", "painter")
+    scene.install_entry("gimp", "Painter", "true", "StartupWMClass=painter")
     if hasattr(scene.session.kind, "EXTENSION"):
-        _switch_extension_on(scene)
+        scene.press_in_settings("Switch the extension on", "Done")
     scene.begin()
     painter, _ = scene.open_native_window("painter")
     before = len(scene.vantle.sessions())
@@ -65,38 +63,33 @@ def application_in_front(scene):
     finally:
         painter.terminate()
         time.sleep(1)
-
-
-def _switch_extension_on(scene):
-    """By the button in the settings, which Tab leads to."""
-    activate_action(scene.inside, "settings")
-    scene.reader.window(SETTINGS)
-    for _ in range(20):
-        scene.desktop.press("Tab")
-        time.sleep(0.5)
-        focused = [one.name for one in scene.reader.window(SETTINGS).all()
-                   if "focused" in one.states]
-        if "Switch the extension on" in focused:
-            break
-    else:
-        raise AssertionError("Tab leads to no button that switches the extension on")
-    scene.desktop.screenshot("extension-offered")
-    scene.desktop.press("space")
-    wait_until("the button to say so", lambda: "Done" in [
-        one.name for one in scene.reader.window(SETTINGS).all() if "focused" in one.states])
-    scene.desktop.screenshot("extension-on")
-    scene.desktop.press("ctrl+w")
-    wait_until("no window", lambda: not scene.frames(SETTINGS))
+    # Here, since sway lays no window over one that is full-screen still; the other has ended that.
+    scene.look_at_settings()
 
 
 def clicks_at_rest(scene):
     """Presses around the resting capsule reach the native window."""
-    wait_until("the capsule at rest",
-               lambda: all(height <= 10 for *_, height in scene.frames("Vantle Capsule")))
     for x, y in ((MIDDLE, 60), (MIDDLE - 200, 20), (MIDDLE + 200, 150)):
         before = scene.got().count("press")
         scene.click(x, y)
         expect(scene.got().count("press") > before, f"the press at {x}, {y} is swallowed")
+
+
+def shortcut(scene):
+    """Held down over a native window, it starts one session, and held once more it ends that."""
+    scene.kind.give_keys(scene)
+    before = len(scene.vantle.sessions())
+    scene.hold_shortcut(1.5)
+    wait_until("a session", scene.vantle.marker)
+    time.sleep(2)
+    expect(len(scene.vantle.sessions()) == before, "it ends while the keys are held")
+    expect(scene.vantle.marker(), "no session runs once they are released")
+    expect("key b" not in scene.got(), "the letter arrives in the native window, too")
+    scene.hold_shortcut(1.5)
+    wait_until("a record", lambda: len(scene.vantle.sessions()) > before)
+    time.sleep(2)
+    expect(len(scene.vantle.sessions()) == before + 1, "more than one session was recorded")
+    expect(scene.vantle.marker() is None, "another session runs")
 
 
 def keys_beside_card(scene):
@@ -130,6 +123,7 @@ CHECKS = {
     "away cut out": away_cut_out,
     "typing counted": typing_counted,
     "application in front": application_in_front,
+    "shortcut": shortcut,
     "clicks at rest": clicks_at_rest,
     "keys beside a card": keys_beside_card,
     "press through the ceremony": press_through_ceremony,

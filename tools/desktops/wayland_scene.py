@@ -25,24 +25,25 @@ class WaylandScene:
 
     def __init__(self, session, executable, pictures):
         self.session = session
+        self.kind = session.kind()
         self.desktop = Desktop(pictures, tray=False, window_manager=False)
         self.inside = None
         self.reader = None
         self.vantle = None
-        self._executable = executable
+        self.executable = executable
         self._processes = []
         self._got = None
 
     def start(self):
         self.desktop.start()
         self.desktop.env.update(NO_AT_BRIDGE="1", GTK_A11Y="none", VANTLE_AUTOSTART="1")
-        found = self.session.kind().start(self)
+        found = self.kind.start(self)
         self.inside = copy.copy(self.desktop)
         self.inside.env = dict(self.desktop.env, XDG_SESSION_TYPE="wayland", **found)
         self.inside.look()
         self.reader = Reader(self.inside)
         self.reader.start()
-        self.vantle = Program(self._executable, self.inside)
+        self.vantle = Program(self.executable, self.inside)
         self.vantle.write_preferences(notch__intro__flashed="true",
                                       idle__thresholdSeconds=self.THRESHOLD)
         self.vantle.start()
@@ -93,12 +94,11 @@ class WaylandScene:
     def frames(self, title):
         return [self.inside.frame_of(window) for window in self.inside.windows_named(title)]
 
-    def install_application(self, entry_id, application):
+    def install_entry(self, entry_id, name, command, *lines):
         folder = Path(self.desktop.env["XDG_DATA_HOME"], "applications")
         folder.mkdir(parents=True, exist_ok=True)
-        (folder / f"{entry_id}.desktop").write_text(
-            f"[Desktop Entry]\nType=Application\nName=Painter\nExec=true\n"
-            f"StartupWMClass={application}\n")
+        (folder / f"{entry_id}.desktop").write_text("\n".join(
+            ("[Desktop Entry]", "Type=Application", f"Name={name}", f"Exec={command}", *lines, "")))
 
     # -- what a user does
 
@@ -112,6 +112,51 @@ class WaylandScene:
     def click(self, x, y):
         self.desktop.tool("xdotool", "mousemove", str(x), str(y), "sleep", "0.3", "click", "1",
                           "sleep", "0.4")
+
+    def hold_shortcut(self, seconds):
+        """Longer than keys rest before they repeat."""
+        keys = ("alt", "super", "b")
+        down = [word for key in keys for word in ("keydown", key)]
+        up = [word for key in reversed(keys) for word in ("keyup", key)]
+        self.desktop.tool("xdotool", *down, "sleep", str(seconds), *up)
+
+    def press_in_settings(self, button, then, meanwhile=lambda scene: None):
+        """Presses a button, which Tab leads to, and waits until it reads `then`."""
+        activate_action(self.inside, "settings")
+        self.reader.window(SETTINGS)
+
+        def focused():
+            return [one.name for one in self.reader.window(SETTINGS).all()
+                    if "focused" in one.states]
+
+        for _ in range(20):
+            self.desktop.press("Tab")
+            time.sleep(0.5)
+            if button in focused():
+                break
+        else:
+            raise AssertionError(f"Tab leads to no button {button!r}")
+        name = button.replace(" ", "-").lower()
+        self.desktop.screenshot(f"{name}-offered")
+        self.desktop.press("space")
+        meanwhile(self)
+        wait_until(f"the button to read {then!r}", lambda: then in focused())
+        self.desktop.screenshot(f"{name}-done")
+        self.close_settings()
+
+    def look_at_settings(self):
+        """For pictures of all of the page."""
+        activate_action(self.inside, "settings")
+        self.reader.window(SETTINGS)
+        for part in ("top", "middle", "end"):
+            time.sleep(1)
+            self.desktop.screenshot(f"settings-{part}")
+            self.desktop.press("Next")
+        self.close_settings()
+
+    def close_settings(self):
+        self.desktop.press("ctrl+w")
+        wait_until("no window", lambda: not self.frames(SETTINGS))
 
     def toggle(self):
         activate_action(self.inside, "toggle")
