@@ -9,6 +9,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -60,6 +61,9 @@ public:
 
     /// Whether anything exists at the path; follows symbolic links.
     [[nodiscard]] virtual bool exists(const QString& path) = 0;
+
+    /// Returns the names in the directory, in no order, without `.` and `..`.
+    virtual Result<QStringList> names(const QString& directory) = 0;
 
     /// Creates the directory and missing parents. New directories get exactly `mode`; the umask is
     /// not applied. Without it they get the platform's default. An existing directory is no

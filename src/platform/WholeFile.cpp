@@ -1,5 +1,6 @@
 #include "platform/WholeFile.h"
 
+#include <QRegularExpression>
 #include <QUuid>
 
 namespace vantle {
@@ -42,6 +43,12 @@ Result<> replaceFile(FileSystem& files, const QString& path, QByteArrayView cont
     // system supports it and the new content is in place.
     files.syncDirectory(directory).ignore();
     return {};
+}
+
+QString temporaryFileTarget(const QString& name) {
+    static const QRegularExpression form(
+        QStringLiteral("^\\.(.+)\\.[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}\\.tmp$"));
+    return form.match(name).captured(1);
 }
 
 Result<> exportFile(FileSystem& files, const QString& path, QByteArrayView content) {

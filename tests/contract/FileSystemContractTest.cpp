@@ -114,6 +114,19 @@ TEST_P(FileSystemContract, SyncsAndClosesAndTellsSo) {
     EXPECT_TRUE(files().syncDirectory(at("")));
 }
 
+TEST_P(FileSystemContract, ListsTheNamesInADirectory) {
+    EXPECT_EQ(files().names(at("")).value(), QStringList());
+    put(at("a"), "");
+    put(at(".hidden"), "");
+    ASSERT_TRUE(files().makeDirectories(at("d/below"), 0700));
+    QStringList names = files().names(at("")).value();
+    names.sort();
+    EXPECT_EQ(names,
+              QStringList({QStringLiteral(".hidden"), QStringLiteral("a"), QStringLiteral("d")}));
+    EXPECT_EQ(files().names(at("none")).error().code, ENOENT);
+    EXPECT_EQ(files().names(at("a")).error().code, ENOTDIR);
+}
+
 TEST_P(FileSystemContract, ReadsAnOpenFileThatHasLostItsName) {
     put(at("a"), "abc");
     auto file = files().open(at("a"), OpenMode::Read);

@@ -116,6 +116,11 @@ bool FaultyFileSystem::exists(const QString& path) {
     return !fault(Operation::Exists, path) && m_inner.exists(path);
 }
 
+Result<QStringList> FaultyFileSystem::names(const QString& directory) {
+    if (const auto error = fault(Operation::Names, directory)) return *error;
+    return m_inner.names(directory);
+}
+
 Result<> FaultyFileSystem::makeDirectories(const QString& path, std::optional<int> mode) {
     if (const auto error = fault(Operation::MakeDirectories, path)) return *error;
     return m_inner.makeDirectories(path, mode);

@@ -27,6 +27,7 @@ public:
         Sync,
         Close,
         Exists, ///< a fault makes it false
+        Names,
         MakeDirectories,
         Rename, ///< matches both names
         Remove,
@@ -74,6 +75,7 @@ public:
     // FileSystem
     Result<std::unique_ptr<File>> open(const QString& path, OpenMode mode) override;
     [[nodiscard]] bool exists(const QString& path) override;
+    Result<QStringList> names(const QString& directory) override;
     Result<> makeDirectories(const QString& path, std::optional<int> mode) override;
     Result<> rename(const QString& from, const QString& to) override;
     Result<> remove(const QString& path) override;

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <limits>
 #include <map>
 #include <memory>
@@ -33,10 +34,31 @@ struct MemoryNode {
     void crash(qsizetype tornTailBytes);
 };
 
+/// One step towards another state of the disk, told once it is done. Locks and modes are left out:
+/// a crash loses neither a file nor a byte by them.
+struct DiskChange {
+    enum class Kind {
+        Enter,         ///< `node` got the name `name` in `directory`
+        Leave,         ///< the name `name` was taken out of `directory`
+        Move,          ///< `node` went from there to `toName` in `toDirectory`
+        Write,         ///< the file `node` holds `content` now
+        SyncFile,      ///< the content of `node` is safe
+        SyncDirectory, ///< the names in the directory `node` are safe
+    };
+    Kind kind = Kind::Enter;
+    MemoryNode::Pointer node;
+    MemoryNode::Pointer directory;
+    QString name;
+    MemoryNode::Pointer toDirectory;
+    QString toName;
+    QByteArray content;
+};
+
 struct MemoryDisk {
     MemoryNode::Pointer root = MemoryNode::directory(0755);
     qint64 capacity = std::numeric_limits<qint64>::max();
     int starts = 0; ///< number of crashes: files opened before the last one are dead
+    std::function<void(const DiskChange&)> onChange = [](const DiskChange&) {};
 
     /// Returns how many bytes can still be written.
     [[nodiscard]] qint64 room() const;

@@ -18,6 +18,14 @@ Error MemoryFile::failure(int code, const QString& operation) const {
     return Error::fromErrno(code, operation, m_path);
 }
 
+void MemoryFile::tell(DiskChange::Kind kind) const {
+    DiskChange change;
+    change.kind = kind;
+    change.node = m_node;
+    change.content = m_node->content;
+    m_disk->onChange(change);
+}
+
 Result<qint64> MemoryFile::read(char* buffer, qint64 capacity) {
     if (!isUsable() || !isForReading()) return failure(EBADF, QStringLiteral("read"));
     const qint64 left = std::max<qint64>(0, m_node->content.size() - m_position);
@@ -37,6 +45,7 @@ Result<> MemoryFile::write(QByteArrayView bytes) {
     const qint64 fitting = std::min<qint64>(bytes.size(), overwritten + m_disk->room());
     content.replace(m_position, overwritten, bytes.first(fitting));
     m_position += fitting;
+    tell(DiskChange::Kind::Write);
     if (fitting < bytes.size()) return failure(ENOSPC, QStringLiteral("write"));
     return {};
 }
@@ -51,12 +60,14 @@ Result<> MemoryFile::truncate(qint64 size) {
     if (isForReading() || size < 0) return failure(EINVAL, QStringLiteral("truncate"));
     m_node->content.resize(std::min<qint64>(size, m_node->content.size()));
     m_node->content.append(size - m_node->content.size(), '\0');
+    tell(DiskChange::Kind::Write);
     return {};
 }
 
 Result<> MemoryFile::sync() {
     if (!isUsable()) return failure(EBADF, QStringLiteral("sync"));
     m_node->diskContent = m_node->content;
+    tell(DiskChange::Kind::SyncFile);
     return {};
 }
 

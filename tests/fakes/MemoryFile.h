@@ -23,6 +23,7 @@ public:
 private:
     [[nodiscard]] bool isUsable() const { return !m_closed && m_start == m_disk->starts; }
     [[nodiscard]] bool isForReading() const { return m_mode == FileSystem::OpenMode::Read; }
+    void tell(DiskChange::Kind kind) const;
     [[nodiscard]] Error failure(int code, const QString& operation) const;
 
     const std::shared_ptr<MemoryDisk> m_disk;

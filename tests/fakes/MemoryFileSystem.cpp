@@ -97,6 +97,8 @@ Result<std::unique_ptr<File>> MemoryFileSystem::open(const QString& path, OpenMo
         if (place.node) return failure(EEXIST, operation, path);
         if (!place.parent) return failure(place.code, operation, path);
         place.node = place.parent->entries[place.name] = MemoryNode::file(0600);
+        m_disk->onChange(
+            {DiskChange::Kind::Enter, place.node, place.parent, place.name, {}, {}, {}});
     }
     if (const int code = place.codeAsFile()) return failure(code, operation, path);
     const int needed = mode == OpenMode::Read ? kOwnerReads : kOwnerWrites;
@@ -108,6 +110,16 @@ bool MemoryFileSystem::exists(const QString& path) {
     return find(m_disk->root, path).node != nullptr;
 }
 
+Result<QStringList> MemoryFileSystem::names(const QString& directory) {
+    const Place place = find(m_disk->root, directory);
+    const int code = !place.node ? place.code : place.node->isDirectory ? 0 : ENOTDIR;
+    if (code != 0) return failure(code, QStringLiteral("list"), directory);
+    QStringList names;
+    for (const auto& [name, node] : place.node->entries)
+        names.append(name);
+    return names;
+}
+
 Result<> MemoryFileSystem::makeDirectories(const QString& path, std::optional<int> mode) {
     QString level;
     for (const QString& part : partsOf(path)) {
@@ -117,8 +129,9 @@ Result<> MemoryFileSystem::makeDirectories(const QString& path, std::optional<in
             return failure(ENOTDIR, QStringLiteral("make directory"), level);
         if (place.node) continue;
         if (!place.parent) return failure(place.code, QStringLiteral("make directory"), level);
-        place.parent->entries[place.name] =
-            MemoryNode::directory(mode.value_or(kUsualDirectoryMode));
+        const auto made = MemoryNode::directory(mode.value_or(kUsualDirectoryMode));
+        place.parent->entries[place.name] = made;
+        m_disk->onChange({DiskChange::Kind::Enter, made, place.parent, place.name, {}, {}, {}});
     }
     return {};
 }
@@ -136,6 +149,13 @@ Result<> MemoryFileSystem::rename(const QString& from, const QString& to) {
     if (target.node && !target.node->entries.empty()) return failure(ENOTEMPTY, operation, to);
     target.parent->entries[target.name] = source.node;
     source.parent->entries.erase(source.name);
+    m_disk->onChange({DiskChange::Kind::Move,
+                      source.node,
+                      source.parent,
+                      source.name,
+                      target.parent,
+                      target.name,
+                      {}});
     return {};
 }
 
@@ -143,6 +163,7 @@ Result<> MemoryFileSystem::remove(const QString& path) {
     const Place place = find(m_disk->root, path);
     if (const int code = place.codeAsFile()) return failure(code, QStringLiteral("remove"), path);
     place.parent->entries.erase(place.name);
+    m_disk->onChange({DiskChange::Kind::Leave, place.node, place.parent, place.name, {}, {}, {}});
     return {};
 }
 
@@ -165,13 +186,17 @@ Result<> MemoryFileSystem::syncDirectory(const QString& path) {
     if (!place.node) return failure(place.code, operation, path);
     if (!place.node->isDirectory) return failure(ENOTDIR, operation, path);
     place.node->diskEntries = place.node->entries;
+    m_disk->onChange({DiskChange::Kind::SyncDirectory, place.node, {}, {}, {}, {}, {}});
     return {};
 }
 
 FileSystem::LockAttempt MemoryFileSystem::lock(const QString& path) {
     Place place = find(m_disk->root, path);
-    if (!place.node && place.parent)
+    if (!place.node && place.parent) {
         place.node = place.parent->entries[place.name] = MemoryNode::file(0600);
+        m_disk->onChange(
+            {DiskChange::Kind::Enter, place.node, place.parent, place.name, {}, {}, {}});
+    }
     if (place.codeAsFile() != 0) return {};
     if (place.node->lockHolder) return {LockOutcome::TakenByOther, nullptr};
     return {LockOutcome::Held, std::make_unique<MemoryLock>(place.node)};

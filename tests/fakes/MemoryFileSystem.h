@@ -22,6 +22,7 @@ public:
     // FileSystem
     Result<std::unique_ptr<File>> open(const QString& path, OpenMode mode) override;
     [[nodiscard]] bool exists(const QString& path) override;
+    Result<QStringList> names(const QString& directory) override;
     Result<> makeDirectories(const QString& path, std::optional<int> mode) override;
     Result<> rename(const QString& from, const QString& to) override;
     Result<> remove(const QString& path) override;
@@ -54,6 +55,13 @@ public:
     /// Sets the capacity in bytes. A write that does not fit writes what fits and fails with
     /// ENOSPC.
     void setCapacity(qint64 bytes) { m_disk->capacity = bytes; }
+
+    /// Calls `observer` after each change of the disk from now on.
+    void observe(std::function<void(const DiskChange&)> observer) {
+        m_disk->onChange = std::move(observer);
+    }
+    /// The directory `/`, so that an observer can read the initial state.
+    [[nodiscard]] MemoryNode::Pointer root() const { return m_disk->root; }
 
     /// The bytes of all files now.
     [[nodiscard]] qint64 used() const { return m_disk->root->bytes(); }

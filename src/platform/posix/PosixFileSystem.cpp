@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -102,6 +103,23 @@ Result<std::unique_ptr<File>> PosixFileSystem::open(const QString& path, OpenMod
 }
 
 bool PosixFileSystem::exists(const QString& path) { return statusOf(path).has_value(); }
+
+Result<QStringList> PosixFileSystem::names(const QString& directory) {
+    const QString operation = QStringLiteral("list");
+    DIR* const opened = ::opendir(QFile::encodeName(directory).constData());
+    if (!opened) return failure(errno, operation, directory);
+    QStringList names;
+    errno = 0;
+    while (const dirent* const entry = ::readdir(opened)) {
+        const QByteArrayView name(entry->d_name);
+        if (name != QByteArrayView(".") && name != QByteArrayView(".."))
+            names.append(QFile::decodeName(name.toByteArray()));
+    }
+    const int code = errno;
+    ::closedir(opened);
+    if (code != 0) return failure(code, operation, directory);
+    return names;
+}
 
 Result<> PosixFileSystem::makeDirectories(const QString& path, std::optional<int> mode) {
     int code = makeDirectory(path, mode);

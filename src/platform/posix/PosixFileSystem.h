@@ -11,6 +11,7 @@ class PosixFileSystem final : public FileSystem {
 public:
     Result<std::unique_ptr<File>> open(const QString& path, OpenMode mode) override;
     [[nodiscard]] bool exists(const QString& path) override;
+    Result<QStringList> names(const QString& directory) override;
     Result<> makeDirectories(const QString& path, std::optional<int> mode) override;
     Result<> rename(const QString& from, const QString& to) override;
     Result<> remove(const QString& path) override;
