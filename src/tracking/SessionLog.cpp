@@ -86,7 +86,7 @@ private:
     const char* m_end = nullptr;
 };
 
-Result<> appendTo(File& file, QByteArrayView line) {
+Result<> appendTo(FileSystem& files, const QString& path, File& file, QByteArrayView line) {
     const auto before = file.size();
     if (!before) return before.error();
     Result<> outcome = file.write(line);
@@ -96,7 +96,13 @@ Result<> appendTo(File& file, QByteArrayView line) {
         file.truncate(before.value()).ignore();
         return outcome;
     }
-    return file.close();
+    outcome = file.close();
+    if (!outcome) {
+        // The line is in the file, and the next try would log it once more.
+        if (const auto again = files.open(path, FileSystem::OpenMode::Append))
+            again.value()->truncate(before.value()).ignore();
+    }
+    return outcome;
 }
 
 } // namespace

@@ -67,6 +67,14 @@ TEST_F(SessionLogFaultsTest, AFailingSyncOfAnAppendTakesTheRecordBack) {
     EXPECT_EQ(content(log), before + line(session(3)));
 }
 
+TEST_F(SessionLogFaultsTest, ARecordWhoseFileDoesNotCloseIsLoggedOnceByTheNextTry) {
+    fail(Operation::Close, name);
+    expectRefused(tracker.appendToLog(session(3)));
+    files.healAll();
+    EXPECT_TRUE(tracker.appendToLog(session(3)));
+    EXPECT_EQ(content(log), before + line(session(3)));
+}
+
 TEST_F(SessionLogFaultsTest, ALogThatCannotBeOpenedRefusesTheRecord) {
     fail(Operation::Open, name, EACCES);
     expectRefused(tracker.appendToLog(session(3)));
