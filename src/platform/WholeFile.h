@@ -17,8 +17,8 @@ Result<> createFile(FileSystem& files, const QString& path, QByteArrayView conte
 /// temporary file is left.
 Result<> replaceFile(FileSystem& files, const QString& path, QByteArrayView content);
 
-/// Returns which file a temporary file of that name was to replace; empty when the name does not have
-/// the form that replaceFile gives.
+/// Returns which file a temporary file of that name was to replace; empty when the name does not
+/// have the form that replaceFile gives.
 [[nodiscard]] QString temporaryFileTarget(const QString& name);
 
 /// Like replaceFile for a file that the user exports: keeps the mode of an existing file, else uses

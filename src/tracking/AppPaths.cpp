@@ -3,6 +3,9 @@
 #include "platform/FileSystem.h"
 #include "platform/WholeFile.h"
 
+#include <algorithm>
+#include <cerrno>
+
 namespace vantle {
 
 namespace {
@@ -10,8 +13,13 @@ namespace {
 constexpr int kPrivateFile = 0600;
 constexpr int kPrivateDirectory = 0700;
 
-QString fileIn(const QString& directory, QLatin1String name) {
+template <typename Name>
+QString fileIn(const QString& directory, const Name& name) {
     return directory + QLatin1Char('/') + name;
+}
+
+QString directoryOf(const QString& path) {
+    return path.left(std::max<qsizetype>(path.lastIndexOf(QLatin1Char('/')), 1));
 }
 
 } // namespace
@@ -27,9 +35,14 @@ QString AppPaths::supportDir() const {
     // at again, even when moving it failed.
     const QString old = fileIn(m_base, QLatin1String("Hourfold"));
     if (m_fileSystem.exists(old) && m_fileSystem.rename(old, primary).ok()) return primary;
-    // Synced, since a power loss could otherwise remove the new directory with its content.
+    // The directory above each new one is synced, since a power loss could otherwise remove it with
+    // its content.
+    QStringList holders{m_base};
+    while (!m_fileSystem.exists(holders.last()) && holders.last().size() > 1)
+        holders.append(directoryOf(holders.last()));
     if (m_fileSystem.makeDirectories(primary, std::nullopt))
-        m_fileSystem.syncDirectory(m_base).ignore();
+        for (const QString& holder : holders)
+            m_fileSystem.syncDirectory(holder).ignore();
     return primary;
 }
 
@@ -65,8 +78,20 @@ Result<> AppPaths::writeProtected(const QByteArray& data, const QString& path) c
 }
 
 Result<> AppPaths::removeIfPresent(const QString& path) const {
-    if (!m_fileSystem.exists(path)) return {};
-    return m_fileSystem.remove(path);
+    // exists() is false in a directory that cannot be searched, so it is not asked first.
+    auto removed = m_fileSystem.remove(path);
+    if (removed) return removed;
+    const int code = removed.error().code;
+    // A read-only file system fails with EROFS for missing files too.
+    if (code == ENOENT || code == ENOTDIR || (code == EROFS && !m_fileSystem.exists(path)))
+        return {};
+    return removed;
+}
+
+Result<> AppPaths::removeForGood(const QString& path) const {
+    if (auto removed = removeIfPresent(path); !removed) return removed;
+    m_fileSystem.syncDirectory(directoryOf(path)).ignore();
+    return {};
 }
 
 void AppPaths::restrictToOwner(const QString& path) const {
@@ -79,6 +104,19 @@ void AppPaths::enforcePrivatePermissions() const {
     for (const QString& file : allDataFiles())
         if (m_fileSystem.exists(file)) restrictToOwner(file);
     removeIfPresent(fileIn(directory, QLatin1String("sync-queue.json"))).ignore();
+    removeHalfWrittenFiles(directory);
+}
+
+void AppPaths::removeHalfWrittenFiles(const QString& directory) const {
+    const auto names = m_fileSystem.names(directory);
+    if (!names) return;
+    for (const QString& name : names.value()) {
+        const QString target = temporaryFileTarget(name);
+        const bool isOurs = std::ranges::any_of(allDataFiles(), [&](const QString& file) {
+            return file.sliced(directory.size() + 1) == target;
+        });
+        if (isOurs) m_fileSystem.remove(fileIn(directory, name)).ignore();
+    }
 }
 
 } // namespace vantle

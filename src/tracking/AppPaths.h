@@ -39,16 +39,22 @@ public:
     /// Removes the file; succeeds when there is none.
     Result<> removeIfPresent(const QString& path) const;
 
+    /// Removes the file and syncs its directory: it does not return after a power loss.
+    Result<> removeForGood(const QString& path) const;
+
     /// Sets mode 0600; failure is ignored.
     void restrictToOwner(const QString& path) const;
 
-    /// Sets the data directory to 0700 and the data files to 0600, and removes a retired file.
-    /// Failures are ignored.
+    /// Sets the data directory to 0700 and the data files to 0600, and removes a retired file and
+    /// temporary files of a process that died. Failures are ignored. Requires the instance lock: it
+    /// would also remove the temporary file of another running copy.
     void enforcePrivatePermissions() const;
 
     [[nodiscard]] FileSystem& fileSystem() const { return m_fileSystem; }
 
 private:
+    void removeHalfWrittenFiles(const QString& directory) const;
+
     FileSystem& m_fileSystem;
     QString m_base;
 };

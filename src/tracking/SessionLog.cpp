@@ -119,7 +119,7 @@ Result<> SessionLog::append(const Session& session) const {
         // Only ENOENT starts a new log, since starting one replaces the file.
         return file.error().code == ENOENT ? m_paths.writeProtected(line, path) : file.error();
     }
-    if (auto appended = appendTo(*file.value(), line); !appended) return appended;
+    if (auto appended = appendTo(files, path, *file.value(), line); !appended) return appended;
     return files.setMode(path, 0600);
 }
 
@@ -190,7 +190,7 @@ Result<bool> SessionLog::rewrite(const QUuid& id, const Transform& transform) co
     if (failure) return *failure;
     if (!found) return false;
     const Result<> outcome =
-        output.isEmpty() ? m_paths.removeIfPresent(path) : m_paths.writeProtected(output, path);
+        output.isEmpty() ? m_paths.removeForGood(path) : m_paths.writeProtected(output, path);
     if (!outcome) return outcome.error();
     return true;
 }

@@ -119,7 +119,9 @@ void TrackerCore::putBackOrphanedMarker() {
 
 void TrackerCore::removeOrphanedMarker() {
     m_orphanedMarker.reset();
-    removeMarkerAndWait();
+    // For good: what was discarded is not offered again.
+    m_env.ioQueue.sync(
+        [this] { m_env.paths.removeForGood(m_env.paths.openSessionMarker()).ignore(); });
 }
 
 std::optional<Session> TrackerCore::recoverSession(const OpenSessionMarker& marker) {

@@ -34,8 +34,8 @@ struct MemoryNode {
     void crash(qsizetype tornTailBytes);
 };
 
-/// One step towards another state of the disk, told once it is done. Locks and modes are left out:
-/// a crash loses neither a file nor a byte by them.
+/// One completed change of the disk. Without locks and modes: a crash loses no file and no byte by
+/// them.
 struct DiskChange {
     enum class Kind {
         Enter,         ///< `node` got the name `name` in `directory`

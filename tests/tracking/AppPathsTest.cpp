@@ -160,6 +160,29 @@ TEST_F(AppPathsTest, RemovingAFileThatIsNotThereIsNoFailure) {
     EXPECT_EQ(paths.removeIfPresent(target).error().code, EPERM);
 }
 
+TEST_F(AppPathsTest, ANewDataHomeOutlivesALossOfPower) {
+    fakes::MemoryFileSystem empty;
+    const AppPaths fresh(empty, QStringLiteral("/home/ada/.local/share"));
+    ASSERT_TRUE(fresh.writeProtected("[]", fresh.skillsFile()));
+    empty.crash();
+    EXPECT_EQ(empty.content(fresh.skillsFile()), "[]");
+}
+
+TEST_F(AppPathsTest, AFileThatIsRemovedForGoodDoesNotComeBackWithThePower) {
+    disk.setContent(target, "x");
+    EXPECT_TRUE(paths.removeForGood(target));
+    disk.crash();
+    EXPECT_FALSE(disk.exists(target));
+    EXPECT_TRUE(paths.removeForGood(target)) << "one that is not there is no failure";
+}
+
+TEST_F(AppPathsTest, AFileThatCanNotBeLookedUpIsRemovedAllTheSame) {
+    disk.setContent(target, "x");
+    files.fail(Operation::Exists, QStringLiteral("target"), EACCES);
+    EXPECT_TRUE(paths.removeIfPresent(target));
+    EXPECT_FALSE(disk.exists(target));
+}
+
 TEST_F(AppPathsTest, OpenPermissionsAreTakenBackAtLaunch) {
     disk.setDirectory(primary, 0755);
     ASSERT_TRUE(disk.setMode(primary, 0755).ok());
@@ -186,6 +209,22 @@ TEST_F(AppPathsTest, TheRetiredQueueFileDisappearsUnread) {
     EXPECT_FALSE(disk.exists(retired));
     for (const auto& call : files.calls())
         EXPECT_FALSE(call.operation == Operation::Open && call.path == retired);
+}
+
+TEST_F(AppPathsTest, HalfWrittenFilesOfADeadProcessDisappearAtLaunch) {
+    const QString id = QStringLiteral("0F6B1D1E-4A52-4C1B-9A1E-7F3B2C5D8E90");
+    for (const QString& path : paths.allDataFiles()) {
+        const QString name = path.mid(path.lastIndexOf(QLatin1Char('/')) + 1);
+        disk.setContent(QStringLiteral("%1/.%2.%3.tmp").arg(primary, name, id), "half");
+    }
+    QStringList others = {primary + QStringLiteral("/.notes.txt.%1.tmp").arg(id),
+                          primary + QStringLiteral("/.sessions.jsonl.mine.tmp"),
+                          primary + QStringLiteral("/sessions.jsonl.%1.tmp").arg(id)};
+    for (const QString& other : others)
+        disk.setContent(other, "kept");
+    paths.enforcePrivatePermissions();
+    others.sort();
+    EXPECT_EQ(disk.paths(), others);
 }
 
 TEST_F(AppPathsTest, FailuresToTightenAreOfNoConsequence) {

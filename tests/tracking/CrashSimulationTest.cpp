@@ -259,6 +259,24 @@ TEST(CrashInARewrite, LeavesTheOldLogOrTheNewOne) {
                    [](TrackerCore& tracker) { return tracker.deleteSession(samples::id(1)); });
 }
 
+TEST(CrashAfterADeletion, DoesNotBringTheOnlyRecordBack) {
+    TrackingWorld world;
+    world.put(TrackingWorld::log, line(session(1)));
+    ASSERT_TRUE(world.tracker.deleteSession(samples::id(1)));
+    world.disk.crash();
+    EXPECT_EQ(world.content(TrackingWorld::log), std::nullopt);
+}
+
+TEST(CrashAfterADiscard, DoesNotOfferTheSessionAgain) {
+    TrackingWorld world;
+    world.put(TrackingWorld::marker, json::encode(samples::marker()).value());
+    const auto offered = world.tracker.takeOrphanedMarker();
+    ASSERT_TRUE(offered);
+    world.tracker.discardRecovery(*offered);
+    world.disk.crash();
+    EXPECT_EQ(world.content(TrackingWorld::marker), std::nullopt);
+}
+
 TEST(CrashInAChangeOfSkills, LeavesTheOldListOrTheNewOne) {
     const QString path = QStringLiteral("/data/Vantle/skills.json");
     const std::vector<Skill> before = samples::seeds();
