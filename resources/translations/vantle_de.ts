@@ -165,6 +165,17 @@
     </message>
 </context>
 <context>
+    <name>CommandWell</name>
+    <message>
+        <source>Copy the command</source>
+        <translation>Befehl kopieren</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Kopiert</translation>
+    </message>
+</context>
+<context>
     <name>CorrectionPromptView</name>
     <message>
         <source>No</source>
@@ -257,17 +268,6 @@
     <message>
         <source>GENERAL</source>
         <translation>ALLGEMEIN</translation>
-    </message>
-</context>
-<context>
-    <name>HotKeyAdvice</name>
-    <message>
-        <source>Copy the command</source>
-        <translation>Befehl kopieren</translation>
-    </message>
-    <message>
-        <source>Copied</source>
-        <translation>Kopiert</translation>
     </message>
 </context>
 <context>

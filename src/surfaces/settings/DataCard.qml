@@ -24,19 +24,19 @@ SettingsCard {
             width: parent.width - 2 * x
             spacing: DarkUI.space6
 
+            SettingsCaption {
+                width: parent.width
+                text: card.model.caption(SettingsView.ExportRow)
+            }
+
             Item {
                 width: parent.width
-                height: reveal.height
-
-                SettingsCaption {
-                    anchors.verticalCenter: parent.verticalCenter
-                    width: parent.width - reveal.width - DarkUI.space12
-                    text: card.model.caption(SettingsView.ExportRow)
-                }
+                height: reveal.height + DarkUI.space6
 
                 DarkSecondaryButton {
                     id: reveal
                     anchors.right: parent.right
+                    anchors.bottom: parent.bottom
                     text: card.model.action(SettingsView.ExportRow)
                     help: card.model.help(SettingsView.ExportRow)
                     role: DarkUI.captionMedium

@@ -54,24 +54,22 @@ SettingsSection {
                 }
             }
 
-            Item {
+            Column {
                 width: parent.width
-                height: open.height + section.aboveChoices
                 visible: section.model.focusLinked
+                topPadding: section.aboveChoices
+                spacing: DarkUI.space8
 
                 SettingsCaption {
                     id: none
-                    anchors.verticalCenter: open.verticalCenter
+                    width: parent.width
                     visible: section.model.hasNoShortcuts
-                    width: parent.width - open.width - DarkUI.space20
                     text: qsTr("No Shortcuts found yet. Make one, then flip this off and on.")
                     color: DarkUI.textSecondary
                 }
 
                 DarkSecondaryButton {
-                    id: open
                     anchors.right: parent.right
-                    y: section.aboveChoices
                     text: section.model.action(SettingsView.FocusLinkRow)
                     role: DarkUI.captionMedium
                     Accessible.description: section.model.hasNoShortcuts ? none.text : ""

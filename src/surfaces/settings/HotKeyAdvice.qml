@@ -22,37 +22,20 @@ Column {
         color: DarkUI.textSecondary
     }
 
-    SettingsCaption {
+    CommandWell {
         width: parent.width
         visible: advice.offersCommand
-        text: advice.model.gaps.command
-        color: DarkUI.textPrimary
-        wrapMode: Text.Wrap
+        command: advice.model.gaps.command
+        advice: advice.model.gaps.hotKeyAdvice
+        copied: advice.model.gaps.commandCopied
+        onCopyWanted: advice.model.gaps.copyCommand()
     }
 
-    Row {
-        spacing: DarkUI.space12
-
-        DarkSecondaryButton {
-            visible: text !== ""
-            text: advice.model.gaps.hotKeyAction
-            role: DarkUI.captionMedium
-            Accessible.description: advice.model.gaps.hotKeyAdvice
-            onClicked: advice.model.gaps.pressHotKeyAction()
-        }
-
-        DarkSecondaryButton {
-            id: copy
-            visible: advice.offersCommand
-            text: qsTr("Copy the command")
-            role: DarkUI.captionMedium
-            Accessible.description: advice.model.gaps.hotKeyAdvice + " " + advice.model.gaps.command
-            onClicked: advice.model.gaps.copyCommand()
-        }
-
-        SettingsFeedback {
-            anchors.verticalCenter: copy.verticalCenter
-            text: advice.model.gaps.commandCopied ? qsTr("Copied") : ""
-        }
+    DarkSecondaryButton {
+        visible: text !== ""
+        text: advice.model.gaps.hotKeyAction
+        role: DarkUI.captionMedium
+        Accessible.description: advice.model.gaps.hotKeyAdvice
+        onClicked: advice.model.gaps.pressHotKeyAction()
     }
 }

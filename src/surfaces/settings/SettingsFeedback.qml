@@ -8,7 +8,7 @@ DarkText {
     property bool failed: false
 
     visible: text !== ""
-    role: DarkUI.captionMedium
+    role: failed ? DarkUI.caption : DarkUI.captionMedium // failures are long
     color: failed ? DarkUI.dangerText : DarkUI.good
     wrapMode: Text.Wrap
     Accessible.role: Accessible.AlertMessage
