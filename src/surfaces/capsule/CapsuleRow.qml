@@ -8,6 +8,7 @@ Item {
     id: row
 
     required property NotchCapsule capsule
+    property bool still: false // a picture, whose clock doesn't move
 
     readonly property color tint: capsule.tint
 
@@ -81,9 +82,18 @@ Item {
         color: DarkUI.textCapsuleName
     }
 
+    DarkText {
+        x: CapsuleTokens.inset
+        y: CapsuleTokens.clockTop
+        visible: row.still
+        text: row.capsule.clock
+        role: DarkUI.capsuleClock
+    }
+
     TabularText {
         x: CapsuleTokens.inset
         y: CapsuleTokens.clockTop
+        visible: !row.still
         text: row.capsule.clock
         role: DarkUI.capsuleClock
         color: DarkUI.textPrimary

@@ -42,7 +42,7 @@ Plate {
         anchors.rightMargin: DarkUI.space4
         anchors.verticalCenter: parent.verticalCenter
         text: tag.name
-        role: DarkUI.bodyMedium
+        role: WelcomeTokens.name
         elide: Text.ElideRight
         Accessible.ignored: true
     }

@@ -36,7 +36,7 @@ Item {
         x: WelcomeTokens.appTile + DarkUI.space12
         anchors.verticalCenter: parent.verticalCenter
         text: row.app.name
-        role: DarkUI.bodyMedium
+        role: WelcomeTokens.name
     }
 
     DarkChip {

@@ -37,6 +37,7 @@ Item {
         width: parent.width
         height: CapsuleTokens.rowHeight
         capsule: sample.capsule
+        still: true
     }
 
     SkillChips {
@@ -59,7 +60,8 @@ Item {
         if (!chip)
             return;
         chip.hovered = true;
-        const place = chip.mapToItem(sample, chip.width * 0.4, chip.height * 0.6);
+        // Behind the name, so that both can be read.
+        const place = chip.mapToItem(sample, chip.width - DarkUI.space8, chip.height / 2);
         pointer.x = place.x;
         pointer.y = place.y;
         pointer.visible = true;

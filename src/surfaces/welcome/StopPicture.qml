@@ -13,7 +13,7 @@ Item {
 
     Column {
         anchors.centerIn: parent
-        spacing: DarkUI.space12
+        spacing: DarkUI.space8
 
         Row {
             anchors.horizontalCenter: parent.horizontalCenter

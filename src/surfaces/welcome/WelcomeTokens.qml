@@ -15,8 +15,8 @@ QtObject {
     readonly property color stage: Qt.rgba(1, 1, 1, 0.025)
     readonly property real stageHeight: 300
     readonly property real pickStageHeight: 220
-    readonly property real panelStageHeight: 376
-    readonly property real posterStageHeight: 352
+    readonly property real panelStageHeight: 364
+    readonly property real posterStageHeight: 340
 
     readonly property real dot: 6 // of the progress row
     readonly property real dotPitch: 13
@@ -24,11 +24,6 @@ QtObject {
     readonly property color dotCurrent: DarkUI.textPrimary
     readonly property color dotToCome: Qt.rgba(1, 1, 1, 0.143)
 
-    readonly property real brickHeight: 26
-    readonly property real brickPitch: 32 // of the courses
-    readonly property real brickGap: 6
-    readonly property real brickFaintest: 0.015 // opacity of white at the top
-    readonly property real brickPlainest: 0.06 // at the bottom
     readonly property color brickShine: Qt.rgba(1, 1, 1, 0.20)
     readonly property real shineInset: 3
     readonly property real shineHeight: 9
@@ -56,6 +51,7 @@ QtObject {
     readonly property TypeRole keySign: DisplayRole { size: 32; line: 36; weight: Font.Medium }
     readonly property TypeRole keyWord: DisplayRole { size: 22; line: 28; weight: Font.Medium }
 
+    readonly property TypeRole name: TypeRole { size: 15; line: 20; weight: Font.Medium }
     readonly property TypeRole clock: DisplayRole { size: 70; line: 78; tracking: -0.018 }
     readonly property TypeRole clockSkill: TypeRole { size: 12; line: 16; tracking: 0.09 }
     readonly property real clockDot: 13
@@ -77,7 +73,7 @@ QtObject {
 
     readonly property real notchZoom: 1.28 // scale of the pictures
     readonly property real windowZoom: 0.66
-    readonly property real panelZoom: 0.6
+    readonly property real panelZoom: 0.58
     readonly property real windowTop: 62
     readonly property real pointerWidth: 13
     readonly property real pointerHeight: 18

@@ -1,11 +1,13 @@
 // The view over the real model: every step draws, and its controls and keys do what they say.
 #include "support/ShownItems.h"
+#include "surfaces/kit/tokens/Look.h"
 #include "surfaces/kit/tokens/Motion.h"
 #include "surfaces/welcome/WelcomeWorld.h"
 
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QFontMetricsF>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
@@ -76,6 +78,15 @@ protected:
         return readAs(QAccessible::Graphic);
     }
 
+    [[nodiscard]] const QQuickItem* shownText(const QString& words) {
+        return tests::shownItem(m_window.contentItem(), [&](const QQuickItem& item) {
+            return item.property("text").toString() == words;
+        });
+    }
+    [[nodiscard]] static QRectF sceneFrame(const QQuickItem& item) {
+        return item.mapRectToScene({0, 0, item.width(), item.height()});
+    }
+
     /// How many colours there are where an item stands.
     [[nodiscard]] qsizetype colorsIn(const QQuickItem& item) {
         const QImage shown =
@@ -123,6 +134,106 @@ TEST_F(WelcomePageTest, PicturesOfTheSurfacesAreAsLargeAsTheirStageHasRoomFor) {
         EXPECT_LE(picture->width(), 520 - 2 * 16 + 1) << step;
         EXPECT_GT(colorsIn(*picture), 100) << step << ": not an empty plate";
     }
+}
+
+TEST_F(WelcomePageTest, SampleLineIsNotCrowdedByTheFoot) {
+    constexpr double kBetweenGroups = 20; // px
+    show();
+    int steps = 0;
+    for (int step = Success; step < stepCount; ++step) {
+        walkTo(step);
+        (void)pictures();
+        (void)m_window.grabWindow();
+        const QQuickItem* const line = shownText(view->sampleLine());
+        if (view->sampleLine().isEmpty()) continue;
+        ++steps;
+        ASSERT_NE(line, nullptr) << step;
+        const QQuickItem* const foot = control(view->primaryText().toUtf8().constData());
+        ASSERT_NE(foot, nullptr) << step;
+        EXPECT_GE(sceneFrame(*foot).top() - sceneFrame(*line).bottom(), kBetweenGroups) << step;
+    }
+    EXPECT_EQ(steps, 4);
+}
+
+TEST_F(WelcomePageTest, NamesAreAsLargeAsTheWordsBelowThePicture) {
+    constexpr int kLead = 15; // px
+    show();
+    const auto size = [this](const char* words) {
+        const QQuickItem* const name = shownText(text(words));
+        return name ? name->property("font").value<QFont>().pixelSize() : 0;
+    };
+    walkTo(Modes);
+    (void)pictures();
+    EXPECT_EQ(size("Marketing"), kLead);
+    walkTo(Success);
+    (void)pictures();
+    EXPECT_EQ(size(view->samples()->apps()[0].value<SampleApp>().name.toUtf8().constData()), kLead);
+}
+
+TEST_F(WelcomePageTest, WallKeepsWithinTheRoundCornersOfItsStage) {
+    show();
+    m_window.setColor(look::kDark.windowGround.color());
+    const QImage picture = m_window.grabWindow();
+    constexpr int kStage = 20; // px from the left
+    const QRgb beside = picture.pixel(kStage / 2, 2);
+    for (const int x : {kStage, kStage + 1, 560 - kStage - 2, 560 - kStage - 1})
+        EXPECT_EQ(picture.pixel(x, 0), beside) << x;
+    EXPECT_NE(picture.pixel(kStage + 14, 1), beside) << "a brick";
+}
+
+TEST_F(WelcomePageTest, ClockOfThePracticeStandsCloseBelowItsMode) {
+    show();
+    walkTo(Stop);
+    (void)m_window.grabWindow();
+    const QQuickItem* const mode = shownText(text("BUILD"));
+    ASSERT_NE(mode, nullptr);
+    const QQuickItem* const clock =
+        tests::shownItem(m_window.contentItem(), [](const QQuickItem& item) {
+            return item.inherits("vantle::TabularLine");
+        });
+    ASSERT_NE(clock, nullptr);
+    const double row = sceneFrame(*mode->parentItem()).bottom();
+    EXPECT_NEAR(sceneFrame(*clock).top() - row, 8, 0.1);
+}
+
+TEST_F(WelcomePageTest, PointerOfTheSampleStandsBesideTheNames) {
+    open();
+    walkTo(Notch);
+    m_window.engine()->addImportPath(text("qrc:/qt/qml"));
+    m_window.setInitialProperties({{text("samples"), QVariant::fromValue(view->samples())}});
+    m_window.setSource(QUrl(text("qrc:/qt/qml/Vantle/Welcome/SampleCapsule.qml")));
+    m_window.show();
+    (void)m_window.grabWindow();
+    const QQuickItem* const pointer =
+        tests::shownItem(m_window.contentItem(), [](const QQuickItem& item) {
+            return item.property("source").toString().contains(text("pointer.svg"));
+        });
+    ASSERT_NE(pointer, nullptr);
+    int names = 0;
+    (void)tests::shownItem(m_window.contentItem(), [&](const QQuickItem& item) {
+        if (item.property("text").toString().isEmpty() || !item.childItems().isEmpty())
+            return false;
+        ++names;
+        EXPECT_FALSE(sceneFrame(item).intersects(sceneFrame(*pointer)))
+            << item.property("text").toString().toStdString();
+        return false;
+    });
+    EXPECT_GE(names, 6);
+}
+
+TEST_F(WelcomePageTest, StillClockHasTheWidthsOfItsTypeface) {
+    open();
+    walkTo(Notch);
+    m_window.engine()->addImportPath(text("qrc:/qt/qml"));
+    m_window.setInitialProperties({{text("samples"), QVariant::fromValue(view->samples())}});
+    m_window.setSource(QUrl(text("qrc:/qt/qml/Vantle/Welcome/SampleCapsule.qml")));
+    m_window.show();
+    (void)m_window.grabWindow();
+    const QQuickItem* const clock = shownText(view->samples()->capsule()->clock());
+    ASSERT_NE(clock, nullptr);
+    const QFontMetricsF widths(clock->property("font").value<QFont>());
+    EXPECT_NEAR(clock->property("implicitWidth").toDouble(),
+                widths.horizontalAdvance(view->samples()->capsule()->clock()), 1);
 }
 
 TEST_F(WelcomePageTest, GoesByTheKeyboardAloneFromTheFirstWordToTheLastButton) {
