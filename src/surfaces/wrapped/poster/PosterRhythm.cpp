@@ -22,7 +22,7 @@ constexpr TileShape kYearTile{{10.5, 10.5}, look::kLengths.radiusYearTile, true}
 void drawWeek(QPainter& painter, QPointF topLeft, const RhythmPicture& picture) {
     const TileShape& shape = kWeekTile;
     const double pitch = (PosterLayout::kColumn - shape.size.width()) / 6;
-    const QFont font = postertext::font(look::kType.small);
+    const QFont font = postertext::font(look::kType.smallMedium);
     for (std::size_t i = 0; i < 7; ++i) {
         const DayTile& tile = picture.weeks.front()[i];
         const QPointF corner = topLeft + QPointF(pitch * double(i), 0);
@@ -49,14 +49,18 @@ void drawMonth(QPainter& painter, QPointF topLeft, const RhythmPicture& picture)
 void drawYear(QPainter& painter, QPointF topLeft, const RhythmPicture& picture) {
     const double pitch = PosterLayout::kYearPitch;
     const double half = 7 * pitch + PosterLayout::kYearHalfGap;
-    for (std::size_t week = 0; week < picture.weeks.size(); ++week) {
-        const std::size_t row = week / kWeeksInHalf;
-        const QPointF column =
-            topLeft + QPointF(pitch * double(week % kWeeksInHalf), half * double(row));
-        for (std::size_t day = 0; day < 7; ++day)
-            rhythmtile::draw(painter, column + QPointF(0, pitch * double(day)), kYearTile,
-                             picture.weeks[week][day]);
-    }
+    for (const bool today : {false, true})
+        for (std::size_t week = 0; week < picture.weeks.size(); ++week) {
+            const std::size_t row = week / kWeeksInHalf;
+            const QPointF column =
+                topLeft + QPointF(pitch * double(week % kWeeksInHalf), half * double(row));
+            for (std::size_t day = 0; day < 7; ++day) {
+                const DayTile& tile = picture.weeks[week][day];
+                if (tile.isToday == today)
+                    rhythmtile::draw(painter, column + QPointF(0, pitch * double(day)), kYearTile,
+                                     tile);
+            }
+        }
 }
 
 } // namespace

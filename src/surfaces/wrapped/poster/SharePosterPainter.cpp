@@ -22,7 +22,7 @@ using Layout = PosterLayout;
 constexpr double kDotsHeight = 150;
 constexpr double kHoursUnitGap = 8;
 constexpr double kNameRoom = 88; // of the breakdown
-constexpr double kMostNameRoom = 132;
+constexpr double kLeastBar = 72;
 constexpr double kHoursRoom = 68;
 constexpr double kBesideBar = 12;
 constexpr double kRowLine = 4; // from a row's centre to its baseline
@@ -74,8 +74,8 @@ void drawClosing(QPainter& painter, const Layout& at) {
                          at.closing[i], font, look::kDark.textSecondary.color());
 }
 
-/// The breakdown's columns: names and hours take what they need, up to a limit; the bar gets the
-/// rest.
+/// The breakdown's columns: hours and names take what they need; the bar gets the rest, at least
+/// kLeastBar.
 struct Columns {
     explicit Columns(const std::vector<SkillLine>& skills) {
         double widestName = 0;
@@ -84,9 +84,10 @@ struct Columns {
             widestName = std::max(widestName, postertext::width(skill.name, nameFont));
             widestHours = std::max(widestHours, postertext::width(skill.hours, hoursFont));
         }
-        nameRoom = std::clamp(widestName, kNameRoom, kMostNameRoom);
-        const double left = Layout::kMargin + nameRoom + kBesideBar;
         const double right = Layout::kRight - std::max(widestHours + kBesideBar, kHoursRoom);
+        const double most = right - kLeastBar - kBesideBar - Layout::kMargin;
+        nameRoom = std::clamp(widestName, kNameRoom, most);
+        const double left = Layout::kMargin + nameRoom + kBesideBar;
         bar = QRectF(left, 0, right - left, Layout::kBarHeight);
     }
 

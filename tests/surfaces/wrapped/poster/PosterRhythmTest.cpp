@@ -2,6 +2,7 @@
 
 #include "surfaces/wrapped/poster/PosterPixels.h"
 #include "surfaces/wrapped/poster/PosterSamples.h"
+#include "surfaces/wrapped/poster/PosterText.h"
 
 #include <gtest/gtest.h>
 
@@ -104,6 +105,50 @@ TEST(PosterRhythm, TodayHasARingAndTomorrowAFaintEdge) {
     EXPECT_TRUE(alike(pixels.image().pixelColor(2 * 35, 2 * middle), kGround)) << "clear of it";
     EXPECT_GT(pixels.at(346, middle).red(), pixels.at(366, middle).red());
     EXPECT_GT(pixels.at(366, middle).red(), kGround.red());
+}
+
+TEST(PosterRhythm, TodaysRingInAYearLiesOverTheDaysBesideIt) {
+    SharePoster poster = posterOf(rhythmmap::Picture::Year, 54);
+    for (auto& week : poster.rhythm.weeks)
+        for (DayTile& day : week)
+            day = lit(Qt::red);
+    DayTile& today = poster.rhythm.weeks[10][3];
+    today.isToday = true;
+    today.outline = QColor(255, 255, 255, 97);
+    today.outlineWidth = 1.5;
+    const PosterPixels pixels(poster);
+    constexpr double kTile = 10.5;
+    const QPointF corner(36 + 10 * 13, 273 + 3 * 13);
+    const auto green = [&](double x, double y) {
+        return pixels.image().pixelColor(static_cast<int>(2 * x), static_cast<int>(2 * y)).green();
+    };
+    const double middle = kTile / 2;
+    for (const double away : {1.2, 1.7, 2.2, 2.7}) {
+        EXPECT_GT(green(corner.x() - away, corner.y() + middle), 150) << "left " << away;
+        EXPECT_GT(green(corner.x() + kTile + away - 0.1, corner.y() + middle), 150)
+            << "right " << away;
+        EXPECT_GT(green(corner.x() + middle, corner.y() - away), 150) << "above " << away;
+        EXPECT_GT(green(corner.x() + middle, corner.y() + kTile + away - 0.1), 150)
+            << "below " << away;
+    }
+    EXPECT_LT(green(corner.x() - 0.7, corner.y() + middle), 40) << "clear of it";
+}
+
+TEST(PosterRhythm, LettersOfTheWeekdaysAreMedium) {
+    SharePoster poster = posterOf(rhythmmap::Picture::Week, 1);
+    const PosterPixels pixels(poster);
+    QImage expected(pixels.image().size(), QImage::Format_RGB32);
+    expected.fill(kGround);
+    {
+        QPainter painter(&expected);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+        painter.scale(2, 2);
+        postertext::drawAround(painter, {56, 281}, QStringLiteral("M"),
+                               postertext::font(look::kType.smallMedium),
+                               look::kDark.textWeekday.color());
+    }
+    const QRect letter(2 * 48, 2 * 270, 2 * 16, 2 * 14);
+    EXPECT_EQ(pixels.image().copy(letter), expected.copy(letter));
 }
 
 TEST(PosterRhythm, WithoutWeeksThereIsNothing) {

@@ -1,7 +1,9 @@
 #include "surfaces/wrapped/poster/SharePng.h"
 
+#include "surfaces/wrapped/poster/PosterLayout.h"
 #include "surfaces/wrapped/poster/PosterPixels.h"
 #include "surfaces/wrapped/poster/PosterSamples.h"
+#include "surfaces/wrapped/poster/PosterText.h"
 
 #include <QColorSpace>
 #include <QImage>
@@ -100,6 +102,23 @@ TEST(SharePng, ALongClosingLineTakesTwoLinesAndNoMore) {
     const PosterPixels oneWord(poster);
     EXPECT_EQ(oneWord.height(), 620 + 23);
     EXPECT_LE(oneWord.drawnIn(QRect(0, 190, 422, 50)).right(), 386);
+}
+
+TEST(SharePng, NamesOfSkillsGetTheRoomThatTheyNeed) {
+    SharePoster poster = samples::sharePoster(WrappedPeriod::Week, QStringLiteral("Night Owl"));
+    poster.breakdown[0].name = QStringLiteral("Qualitätsmanagement A");
+    const QFont font = postertext::font(look::kType.bodyMedium);
+    const double wide = postertext::width(poster.breakdown[0].name, font);
+    ASSERT_GT(wide, 132);
+    const PosterPixels pixels(poster);
+    const PosterLayout at = PosterLayout::of(poster);
+    const auto line = static_cast<int>(at.row(0));
+    // The colour of the bar begins after the whole name.
+    int bar = 0;
+    for (int x = 36; x < 386 && bar == 0; ++x)
+        if (pixels.at(x, line) == poster.breakdown[0].color) bar = x;
+    EXPECT_GE(bar, 36 + wide + 8);
+    EXPECT_LE(bar, 36 + wide + 20);
 }
 
 TEST(SharePng, WithoutHoursThereIsNoBreakdown) {
