@@ -23,7 +23,7 @@ bool isText(const QQuickItem& item) {
     return item.inherits("QQuickText") || item.inherits("vantle::TabularLine");
 }
 
-/// Where the glyphs are: a text item may be wider than they are.
+/// The rectangle of the glyphs; a text item may be wider.
 QRectF glyphs(const QQuickItem& item) {
     QRectF frame(0, 0, item.width(), item.height());
     const QVariant content = item.property("contentWidth");
@@ -40,7 +40,7 @@ QRectF glyphs(const QQuickItem& item) {
     return frame;
 }
 
-/// `clip` is what of the window is left for the item.
+/// `clip` is the visible part of the window for the item.
 void collect(const QQuickItem& item, const QRectF& clip, bool scrolls, QList<ShownText>& texts) {
     if (!item.isVisible() || item.opacity() == 0) return;
     const QString words = isText(item) ? item.property("text").toString() : QString();

@@ -1,8 +1,8 @@
 // The port of data files.
 //
 // Small file operations; each Result names operation and file. Real in posix/; tests use one in
-// memory that can crash and lose unsynced data, and one that fails at a chosen call. All calls
-// block; those on data files run on their I/O queue.
+// memory that can crash and lose unsynced data, and one that fails at a chosen call. Any thread;
+// all calls block. Those on data files run on their I/O queue.
 #pragma once
 
 #include "base/Result.h"

@@ -1,5 +1,5 @@
-// Starts that fail. One does only where its marker has a date that can't be written: the clock
-// stands beyond the year 9999.
+// Starts that fail, which needs a marker with a date that cannot be written: a clock beyond the
+// year 9999.
 #include "app/ModelWorld.h"
 #include "support/Text.h"
 
@@ -10,7 +10,7 @@ namespace {
 
 using State = TrackerCore::State;
 
-/// Seconds. From any date to one whose year has five figures.
+/// Seconds from any date to a year with five digits.
 constexpr double kBeyondDates = 3e11;
 
 class AppModelFailedStartTest : public testing::Test {
@@ -20,7 +20,7 @@ protected:
     ModelWorld world;
 };
 
-TEST_F(AppModelFailedStartTest, StartThatFailsSaysWhyAndCountsNothing) {
+TEST_F(AppModelFailedStartTest, FailedStartShowsTheReasonAndCountsNothing) {
     AppModel& model = launched();
     world.time.shiftWall(kBeyondDates);
     world.told.calls.clear();
@@ -36,7 +36,7 @@ TEST_F(AppModelFailedStartTest, StartThatFailsSaysWhyAndCountsNothing) {
     EXPECT_EQ(world.note(), QString());
 }
 
-TEST_F(AppModelFailedStartTest, BackdatedStartThatFailsSaysWhyAndCountsNothing) {
+TEST_F(AppModelFailedStartTest, BackdatedFailedStartShowsTheReasonAndCountsNothing) {
     AppModel& model = launched();
     world.time.shiftWall(kBeyondDates);
     world.told.calls.clear();
@@ -48,13 +48,13 @@ TEST_F(AppModelFailedStartTest, BackdatedStartThatFailsSaysWhyAndCountsNothing) 
     EXPECT_EQ(world.told.calls, QStringList());
 }
 
-TEST_F(AppModelFailedStartTest, SplitWhoseSecondHalfCannotStartKeepsTheFirstAndEndsTheSession) {
+TEST_F(AppModelFailedStartTest, SplitWithAFailedSecondHalfKeepsTheFirstAndEndsTheSession) {
     AppModel& model = launched();
     world.linkShortcuts();
     world.press();
     world.time.advance(90.0);
     world.told.calls.clear();
-    // The clock is set between the end of the one half and the start of the other.
+    // Sets the clock between the end of the first half and the start of the second.
     QObject::connect(&model.tracker(), &TrackerCore::stateChanged, &model, [&] {
         if (model.tracker().state() == State::Idle &&
             world.time.now().time_since_epoch().count() < kBeyondDates)

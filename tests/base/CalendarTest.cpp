@@ -69,7 +69,7 @@ TEST(Calendar, CountsDaysBefore1970AndBeforeTheGregorianReform) {
     EXPECT_EQ(textOf(utc.startOfDay(at("1500-02-28T12:00:00Z"))), "1500-02-28T00:00:00Z");
 }
 
-TEST(Calendar, GivesTheDateBackInAnUnknownZone) {
+TEST(Calendar, ReturnsTheDateInAnUnknownZone) {
     const Date date = at("2026-03-01T09:30:05Z");
     EXPECT_EQ(calendarIn("Middle/Earth").startOfDay(date), date);
     EXPECT_EQ(calendarIn("").startOfDay(date), date);
@@ -127,7 +127,7 @@ TEST(Calendar, NumbersWeeksByTheRules) {
     EXPECT_EQ(week(american, "2019-12-31T12:00:00Z"), (Week{2020, 1}));
 }
 
-TEST(Calendar, TakesTheZoneAndTheWeekRulesOfThisMachine) {
+TEST(Calendar, UsesTheZoneAndWeekRulesOfThisMachine) {
     const EnvironmentVariable zone("TZ", "Europe/Berlin");
     {
         const EnvironmentVariable locale("LC_ALL", "de_DE.UTF-8");
@@ -142,7 +142,7 @@ TEST(Calendar, TakesTheZoneAndTheWeekRulesOfThisMachine) {
     EXPECT_EQ(Calendar::current().minimalDays, 1);
 }
 
-TEST(Calendar, TakesTheZoneOfTheFileThatTzNames) {
+TEST(Calendar, UsesTheZoneOfTheFileInTz) {
     const QTemporaryDir directory;
     ASSERT_TRUE(QDir(directory.path()).mkpath(QStringLiteral("zoneinfo/Asia")));
     const QString file = directory.filePath(QStringLiteral("zoneinfo/Asia/Tokyo"));
@@ -153,7 +153,7 @@ TEST(Calendar, TakesTheZoneOfTheFileThatTzNames) {
     EXPECT_EQ(Calendar::current().timeZone, QStringLiteral("Asia/Tokyo"));
 }
 
-TEST(Calendar, AlwaysTakesAZoneThatItKnows) {
+TEST(Calendar, FallsBackToAKnownZone) {
     for (const char* name : {"", "Middle/Earth", ":/none", "/etc/localtime", ":/etc/localtime"}) {
         const EnvironmentVariable zone("TZ", name);
         EXPECT_NE(Calendar::current().startOfWeek(at("2026-03-01T12:00:00Z")), std::nullopt)
@@ -161,14 +161,14 @@ TEST(Calendar, AlwaysTakesAZoneThatItKnows) {
     }
 }
 
-TEST(Calendar, TakesTheLocaleOfTimesBeforeThatOfMessages) {
+TEST(Calendar, PrefersTheLocaleForTimesToThatForMessages) {
     const EnvironmentVariable all("LC_ALL", "");
     const EnvironmentVariable times("LC_TIME", "fr_FR.UTF-8");
     const EnvironmentVariable messages("LANG", "en_US.UTF-8");
     EXPECT_EQ(Calendar::current().locale, QStringLiteral("fr_FR"));
 }
 
-TEST(Calendar, WorksWhereTheMachineHasNoLocale) {
+TEST(Calendar, WorksWithoutALocale) {
     for (const char* name : {"C", "C.UTF-8", "POSIX"}) {
         const EnvironmentVariable locale("LC_ALL", name);
         const Calendar calendar = Calendar::current();

@@ -49,7 +49,7 @@ TEST(RhythmMap, HoursOnABoundaryTakeTheNextStepUp) {
     EXPECT_EQ(rhythmmap::opacity(20), 1.0);
 }
 
-TEST(RhythmMap, DayWithoutAColourTakesTheAccent) {
+TEST(RhythmMap, DayWithoutAColourUsesTheAccent) {
     GridDay day;
     day.hours = 1;
     EXPECT_EQ(rhythmmap::tile(day, kAccent).fill, kAccent);
@@ -113,7 +113,7 @@ TEST(RhythmMap, LettersBeginWithTheFirstWeekday) {
     EXPECT_EQ(letters(7), QStringLiteral("S S M T W T F"));
 }
 
-TEST(RhythmMap, BarsAreMeasuredByTheHighest) {
+TEST(RhythmMap, BarsAreRelativeToTheHighest) {
     EXPECT_EQ(rhythmmap::startBars(std::array{1, 0, 4, 2}), (std::vector<double>{0.25, 0, 1, 0.5}));
     EXPECT_EQ(rhythmmap::startBars(std::array{0, 0}), (std::vector<double>{0, 0}));
 }

@@ -1,4 +1,4 @@
-// Random records, texts and damaged lines for properties.
+// Generators of records, texts and damaged lines for property tests.
 #pragma once
 
 #include "tracking/Session.h"
@@ -13,34 +13,34 @@
 
 namespace vantle {
 
-/// How failures show what was generated.
+/// Prints generated values in failures.
 std::ostream& operator<<(std::ostream& out, const Session& session);
 std::ostream& operator<<(std::ostream& out, const OpenSessionMarker& marker);
 std::ostream& operator<<(std::ostream& out, const Skill& skill);
 
 namespace generators {
 
-/// Up to `maxLength` scalars: letters, characters that JSON escapes, every newline, white space,
-/// marks, joiners, emoji, and anything else that is not a surrogate.
+/// Up to `maxLength` scalars: letters, characters that JSON escapes, all newlines, white space,
+/// marks, joiners, emoji, and any other non-surrogate.
 [[nodiscard]] rc::Gen<QString> text(int maxLength = 40);
 
-/// A moment at a whole second within the years that files can hold.
+/// A whole second within the years of the file format.
 [[nodiscard]] rc::Gen<Date> date();
 
-/// Any record that can be written, mostly without meaning.
+/// Any encodable record, mostly invalid.
 [[nodiscard]] rc::Gen<Session> session();
 
-/// A record that keeps the rules, of one of a few skills and within some weeks.
+/// A valid record, of a few skills and within some weeks.
 [[nodiscard]] rc::Gen<Session> acceptableSession();
 
-/// Several of them, oldest end first, as a log is read.
+/// Several valid records, oldest end first.
 [[nodiscard]] rc::Gen<std::vector<Session>> history();
 
 [[nodiscard]] rc::Gen<OpenSessionMarker> marker();
 [[nodiscard]] rc::Gen<Skill> skill();
 
-/// One line of a log without its newline: a good record, a damaged one or garbage. Always UTF-8,
-/// never empty and without a newline inside.
+/// A log line without newline: a valid record, a damaged one or garbage. Always UTF-8 and not
+/// empty.
 [[nodiscard]] rc::Gen<QByteArray> line();
 
 } // namespace generators

@@ -1,4 +1,4 @@
-// Records for tests: acceptable ones, of which a test changes what it is about.
+// Valid records, to be varied by tests.
 #pragma once
 
 #include "base/Iso8601.h"
@@ -10,21 +10,21 @@
 
 namespace vantle::samples {
 
-/// The moment that the text names; the beginning of time for a text that names none.
+/// Parses a date; the epoch for an invalid text.
 [[nodiscard]] inline Date at(std::string_view text) {
     return iso8601::parse(text).value_or(dateFromEpoch(0));
 }
 
-/// The id that ends in these digits.
+/// Returns the id that ends in these digits.
 [[nodiscard]] inline QUuid id(int number) {
     return QUuid::fromString(
         QStringLiteral("0F6B1D1E-4A52-4C1B-9A1E-%1").arg(number, 12, 10, QLatin1Char('0')));
 }
 
-/// The moment at which virtual time starts: 2026-03-01T10:00:00Z, a Sunday.
+/// The start of virtual time: 2026-03-01T10:00:00Z, a Sunday.
 [[nodiscard]] inline Date morning() { return at("2026-03-01T10:00:00Z"); }
 
-/// Half an hour of building; each number has an id and an hour of its own.
+/// Half an hour of building; `number` sets id and hour.
 [[nodiscard]] inline Session session(int number = 1) {
     const Date start = at("2026-02-01T10:00:00Z") + Seconds(3600.0 * number);
     return {id(number), QStringLiteral("building"), start,      start + Seconds(1800),

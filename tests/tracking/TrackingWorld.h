@@ -1,4 +1,4 @@
-// A disk in memory and the program's tracking half running on it.
+// The program's tracking classes on a disk in memory.
 #pragma once
 
 #include "fakes/FaultyFileSystem.h"
@@ -15,7 +15,7 @@
 
 namespace vantle {
 
-/// Says yes up to so many minutes, and remembers what it was asked.
+/// Confirms up to that many minutes, and records the questions.
 class FakeEvidence final : public ActivityEvidence {
 public:
     bool wasActiveForLast(int minutes) override {
@@ -26,7 +26,7 @@ public:
     std::vector<int> asked;
 };
 
-/// One run of the program: what a crash takes away. The disk and the preferences outlive it.
+/// One run of the program, which a crash ends. Disk and preferences outlive it.
 struct TrackingProcess {
     TrackingProcess(FileSystem& fileSystem, Preferences& preferences, Date now)
         : time(now)
@@ -46,7 +46,7 @@ struct TrackingProcess {
     TrackerCore tracker;
 };
 
-/// A world with one process in it.
+/// A world with one process.
 struct TrackingWorld {
     TrackingWorld() { disk.setDirectory(QStringLiteral("/data/Vantle"), 0700); }
 
@@ -63,7 +63,7 @@ struct TrackingWorld {
     [[nodiscard]] int mode(const char* path) {
         return disk.mode(QString::fromLatin1(path)).value();
     }
-    /// Names of the files that no operation should leave behind.
+    /// The files that no operation may leave behind.
     [[nodiscard]] QStringList temporaryFiles() const {
         return disk.paths().filter(QStringLiteral(".tmp"));
     }
@@ -73,7 +73,7 @@ struct TrackingWorld {
     fakes::MemoryPreferences preferences;
     TrackingProcess process{files, preferences, samples::morning()};
 
-    // The parts of the process that tests speak of.
+    // Shortcuts to parts of the process.
     fakes::VirtualTime& time = process.time;
     AppPaths& paths = process.paths;
     TrackerCore& tracker = process.tracker;

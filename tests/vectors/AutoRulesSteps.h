@@ -1,4 +1,4 @@
-// What the scripts over auto mode's memory and those over auto mode itself have in common.
+// The common operations of the scripts on auto mode and its rules.
 #pragma once
 
 #include "fakes/MemoryPreferences.h"
@@ -13,7 +13,7 @@
 
 namespace vantle::vectors {
 
-/// A person's list of skills, as a case gives it.
+/// The user's skills as given by a case.
 class GivenSkills {
 public:
     GivenSkills(DataFolder& folder, SerialQueue& queue) : m_folder(folder), m_queue(queue) {}
@@ -27,16 +27,15 @@ private:
     std::optional<SkillList> m_skills;      ///< replaced in place
 };
 
-/// Does the event if it is one on the rules. Undefined when it gives no result; empty when it is
-/// none of those.
+/// Performs an event on the rules. Undefined when it has no result; empty for another event.
 [[nodiscard]] std::optional<QJsonValue> performOnRules(AutoRules& rules, const QJsonObject& event);
 
 [[nodiscard]] QJsonValue toJson(const std::vector<SeenApp>& apps);
 
-/// The members that the rules add to the description of a step.
+/// Returns the rules' part of a step's description.
 [[nodiscard]] QJsonObject describedRules(const AutoRules& rules);
 
-/// Puts those members of `now` into `step` that differ from what `known` holds, and into `known`.
+/// Adds the members of `now` that differ from `known` to `step`, and updates `known`.
 void addChanges(const QJsonObject& now, QJsonObject& known, QJsonObject& step);
 
 } // namespace vantle::vectors

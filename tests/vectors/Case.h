@@ -1,4 +1,4 @@
-// One recorded case: what goes in and what has to come out, as data.
+// A recorded case: input and expected output, as data.
 #pragma once
 
 #include "base/Result.h"
@@ -13,18 +13,18 @@ namespace vantle::vectors {
 
 struct Case {
     QString name;
-    QString kind; ///< which sort of case within its form; empty where the form has one sort only
+    QString kind; ///< kind within its form; empty for forms with one kind
     QJsonObject input;
     QJsonValue expect;
-    QList<QJsonValue> alternatives; ///< other answers that are as good as `expect`
-    bool doubtful = false;          ///< hangs on a reading that the rules leave open
-    QString reading;                ///< which reading, for the report
+    QList<QJsonValue> alternatives; ///< other correct answers
+    bool doubtful = false;          ///< depends on an interpretation that the rules leave open
+    QString reading;                ///< the interpretation, for the report
     QStringList needs;              ///< faults that the case injects
-    QString folder;                 ///< where its file lies, for files that it refers to
+    QString folder;                 ///< folder of its file, for references
 };
 
-/// The cases of `form` at `path`: of that file, or of the folder's `<form>.json` and of every
-/// `.json` file in its subfolder `<form>`. Fails when a file can't be read or is no list of cases.
+/// Loads the cases of `form` at `path`: from that file, or from the folder's `<form>.json` and all
+/// `.json` files in its subfolder `<form>`. Fails when a file is unreadable or no list of cases.
 Result<QList<Case>> loadCases(const QString& form, const QString& path);
 
 } // namespace vantle::vectors

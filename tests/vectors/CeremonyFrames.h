@@ -1,4 +1,4 @@
-// Frames of the ceremony as they stand in cases, and how much one may differ from another.
+// The ceremony's frames in cases, and their comparison.
 #pragma once
 
 #include "ceremony/show/CeremonyGridModel.h"
@@ -13,7 +13,7 @@ class CeremonyFrameRenderer;
 
 namespace vantle::vectors {
 
-/// A frame as bytes R, G, B, A, rows from the top.
+/// RGBA bytes, rows from the top.
 struct Frame {
     int width = 0;
     int height = 0;
@@ -22,15 +22,15 @@ struct Frame {
 
 [[nodiscard]] Frame copyOf(const CeremonyFrameRenderer& renderer);
 
-/// The model that the case names, out of renderer_models.json beside its file or above it. An
-/// empty one when it isn't there, which looks like nothing expected.
+/// Returns the model that the case names in renderer_models.json, beside its file or above. An
+/// empty model when missing, which matches no expectation.
 [[nodiscard]] CeremonyGridModel referredModel(const Case& item);
 
-/// Whether the frame is the expected one, but for rounding: an expected frame is all of its pixels,
-/// or some of them and the means of blocks.
+/// Whether the frame matches up to rounding. An expected frame has all pixels, or some pixels and
+/// the means of blocks.
 [[nodiscard]] bool looksLike(const QJsonObject& expected, const Frame& got);
 
-/// Where it differs, for the report.
+/// Returns the differences, for the report.
 [[nodiscard]] QJsonObject difference(const QJsonObject& expected, const Frame& got);
 
 } // namespace vantle::vectors

@@ -1,4 +1,4 @@
-// The choreography of a show as it stands in cases: an object with the model's fields by name.
+// The JSON form of a show's choreography in cases.
 #pragma once
 
 #include "ceremony/show/CeremonyGridModel.h"
@@ -8,12 +8,12 @@
 
 namespace vantle::vectors {
 
-/// The variant of that name; an unknown name is the first one.
+/// Returns the variant of that name; the first one for an unknown name.
 [[nodiscard]] CeremonyVariant variantFromJson(const QJsonValue& name);
 
 [[nodiscard]] QJsonObject toJson(const CeremonyGridModel& model);
 
-/// With any picture as its title where the object says `hasTitle`.
+/// With an arbitrary title picture where `hasTitle` is set.
 [[nodiscard]] CeremonyGridModel modelFromJson(const QJsonObject& object);
 
 template <typename Numbers>

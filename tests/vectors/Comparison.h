@@ -1,4 +1,4 @@
-// Whether an answer is the expected one.
+// The comparison of an answer with the expected one.
 #pragma once
 
 #include <QJsonValue>
@@ -10,23 +10,23 @@
 
 namespace vantle::vectors {
 
-/// How exact a form compares. The default is exact but for the last digits of a double: dates are
-/// seconds since 1970, of which a relative 1e-9 would already be almost two seconds.
+/// The precision of a form. The default allows only the last digits of a double to differ: dates
+/// are seconds since 1970, where a relative 1e-9 would be almost two seconds.
 struct Comparison {
     double relativeTolerance = 1e-12;
     double absoluteTolerance = 0;
 
-    /// Members of objects that are never compared, wherever they stand.
+    /// Object members that are never compared.
     QStringList ignoredKeys;
 
-    /// Members whose objects count only as far as the expected one names members.
+    /// Members whose objects are compared only in the members that are expected.
     QStringList partialObjects;
 
-    /// Applied to both sides first, where two texts of one meaning have to become one.
+    /// Applied to both sides first, to unify texts of equal meaning.
     std::function<QJsonValue(const QJsonValue&)> normalized;
 };
 
-/// One place at which an answer differs. What is not there at all is an undefined value.
+/// One difference. A missing value is undefined.
 struct Difference {
     QString path; ///< as in "steps[3].state.now"
     QJsonValue expected;
@@ -36,7 +36,7 @@ struct Difference {
 [[nodiscard]] QList<Difference> differences(const QJsonValue& expected, const QJsonValue& got,
                                             const Comparison& comparison);
 
-/// `value` as compact JSON; "(absent)" for an undefined one.
+/// Returns `value` as compact JSON; "(absent)" if undefined.
 [[nodiscard]] QString jsonText(const QJsonValue& value);
 
 } // namespace vantle::vectors

@@ -1,4 +1,4 @@
-// The program's data directory in memory, with the faults that cases name.
+// The data directory in memory, with the faults of cases.
 #pragma once
 
 #include "fakes/FaultyFileSystem.h"
@@ -10,7 +10,7 @@
 
 namespace vantle::vectors {
 
-/// An empty support directory, and what a case does to its files from outside.
+/// An empty data directory that a case changes from outside.
 class DataFolder {
 public:
     DataFolder();
@@ -18,17 +18,17 @@ public:
     [[nodiscard]] const AppPaths& paths() const { return m_paths; }
     [[nodiscard]] FileSystem& files() { return m_faulty; }
 
-    /// Makes the file what the image says, none meaning that it is not there.
+    /// Sets the file to the image; an empty one removes it.
     void put(const QString& name, const std::optional<FileImage>& image);
     [[nodiscard]] std::optional<FileImage> image(const QString& name);
 
-    /// Switches a fault: write:FILE, chmod:FILE, read:FILE, remove:FILE, or "disk full".
+    /// Sets a fault: write:FILE, chmod:FILE, read:FILE, remove:FILE, or "disk full".
     void setFault(const QString& fault, bool on);
 
     /// Whether `setFault` knows it.
     [[nodiscard]] static bool knows(const QString& fault);
 
-    /// Names of all files that the directory holds, temporary ones too.
+    /// The names of all files, temporary ones too.
     [[nodiscard]] QStringList names() const;
 
 private:

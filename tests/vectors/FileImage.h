@@ -1,4 +1,4 @@
-// A file's content and mode as they stand in a case.
+// A file's content and mode in a case.
 #pragma once
 
 #include <QByteArray>
@@ -14,11 +14,11 @@ struct FileImage {
     friend bool operator==(const FileImage&, const FileImage&) = default;
 };
 
-/// The image that `value` describes: null or absent for no file, `{"text": s}` for the UTF-8 of s,
-/// `{"base64": b}` for other bytes, each with an octal `mode`, 0600 where it is missing.
+/// Parses an image: null or absent for no file, `{"text": s}` for UTF-8, `{"base64": b}` for other
+/// bytes, each with an octal `mode`, default 0600.
 [[nodiscard]] std::optional<FileImage> imageFromJson(const QJsonValue& value);
 
-/// The description of `image`; as text exactly when the bytes are UTF-8.
+/// Describes an image; as text if its bytes are UTF-8.
 [[nodiscard]] QJsonValue imageToJson(const std::optional<FileImage>& image);
 
 } // namespace vantle::vectors

@@ -1,4 +1,4 @@
-// The frame for drivers: what a form of cases is made of.
+// The interface of drivers: a form of cases.
 #pragma once
 
 #include "vectors/Case.h"
@@ -11,25 +11,24 @@
 
 namespace vantle::vectors {
 
-/// A kind of vector file and the driver that answers its cases.
+/// A kind of vector file and its driver.
 struct Form {
     QString name; ///< as in the file name
 
-    /// What the code under test makes of the case, in the shape of its `expect`, with symbolic ids
-    /// where the case has them. A fresh world for every call.
+    /// Runs the code under test on the case. Returns the answer in the shape of `expect`, with the
+    /// case's symbolic ids. A fresh world for every call.
     std::function<QJsonValue(const Case&)> answer;
 
     Comparison comparison;
 
-    /// Whether the driver can inject that fault; a case that needs another is skipped. No function:
-    /// it can inject none.
+    /// Whether the driver can inject that fault; cases with other faults are skipped. Empty: none.
     std::function<bool(const QString& fault)> injects;
 };
 
-/// Every form that has a driver.
+/// All forms with a driver.
 [[nodiscard]] const QList<Form>& allForms();
 
-/// The answer to a case or an event that the driver doesn't know: equal to nothing expected.
+/// The answer to an unknown case or event, which matches no expectation.
 [[nodiscard]] QJsonValue unknown(const QString& what);
 
 } // namespace vantle::vectors

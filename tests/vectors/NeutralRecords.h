@@ -1,4 +1,4 @@
-// The records as they stand in cases: plain members, dates mostly as seconds since 1970.
+// The JSON form of records in cases: plain members, dates mostly as seconds since 1970.
 #pragma once
 
 #include "base/Calendar.h"
@@ -35,7 +35,7 @@ template <typename Value>
     return list;
 }
 
-/// Nothing is null.
+/// Converts an empty value to null.
 template <typename Value>
 [[nodiscard]] QJsonValue toJson(const std::optional<Value>& value) {
     return value ? toJson(*value) : QJsonValue(QJsonValue::Null);
@@ -43,10 +43,10 @@ template <typename Value>
 
 [[nodiscard]] Calendar calendarFromJson(const QJsonValue& value);
 
-/// From seconds since 1970, or from a text as the files have it: each form has one of them.
+/// From seconds since 1970, or from the text of the files, as the form has it.
 [[nodiscard]] Date dateFromJson(const QJsonValue& value);
 
-/// As the files have it: "2026-03-01T10:00:00Z".
+/// In the form of the files: "2026-03-01T10:00:00Z".
 [[nodiscard]] QJsonValue instantText(Date date);
 
 } // namespace vantle::vectors

@@ -1,4 +1,4 @@
-// A digest of notes as cases have it.
+// The JSON form of a note digest in cases.
 #pragma once
 
 #include "review/stats/NoteDigest.h"

@@ -1,4 +1,4 @@
-// How the pages of a review move, as cases have it.
+// The JSON form of a review's animations in cases.
 #pragma once
 
 #include <QJsonObject>

@@ -1,4 +1,4 @@
-// What the pages of a review say, as cases have it.
+// The JSON form of a review's texts in cases.
 #pragma once
 
 #include "review/stats/WrappedStats.h"
@@ -9,7 +9,7 @@ namespace vantle::vectors {
 
 [[nodiscard]] WrappedSettings reviewSettingsFromJson(const QJsonObject& input);
 
-/// All ten pages of one period, whether or not it has them.
+/// All ten pages of one period, existing or not.
 [[nodiscard]] QJsonValue reviewTexts(const QJsonObject& input);
 
 } // namespace vantle::vectors

@@ -1,4 +1,4 @@
-// Runs all cases of a form and tells what came of it.
+// The runner of a form's cases.
 #pragma once
 
 #include "vectors/Form.h"
@@ -10,15 +10,15 @@ namespace vantle::vectors {
 struct Tally {
     int cases = 0;
     int mismatches = 0;
-    int doubtful = 0; ///< differ from a reading that the rules leave open
+    int doubtful = 0; ///< differ only in an open interpretation
     int skipped = 0;
     [[nodiscard]] bool passed() const { return cases > skipped && mismatches == 0; }
 };
 
-/// Runs `cases` and writes each mismatch and a closing line to `out`.
+/// Runs `cases` and writes each mismatch and a summary to `out`.
 Tally runCases(const Form& form, const QList<Case>& cases, QTextStream& out);
 
-/// Loads the cases of `form` at `path` and runs them. Without a case that runs it has not passed.
+/// Loads and runs the cases of `form` at `path`. Fails when no case ran.
 Tally runForm(const Form& form, const QString& path, QTextStream& out);
 
 } // namespace vantle::vectors

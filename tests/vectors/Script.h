@@ -1,5 +1,4 @@
-// Helpers for cases that are scripts: a list of operations, and what the world looks like after
-// each.
+// Cases that are scripts: operations and the state after each.
 #pragma once
 
 #include "fakes/VirtualTime.h"
@@ -13,16 +12,16 @@
 
 namespace vantle::vectors {
 
-/// Plays `item.input.events`. `perform` does one operation and gives the step that describes what
-/// came of it; `opening`, where a form has a step before the first operation, gives that one. The
-/// ids that the code under test made are bound to the case's symbols after each step, later
-/// operations get the real ones, and the answer `{"steps": [...]}` holds the symbols.
+/// Runs `item.input.events`. `perform` runs one operation and returns the step that describes its
+/// effect; `opening` returns the step before the first operation, if the form has one. New ids of
+/// the code under test are bound to the case's symbols after each step; later operations get the
+/// real ids, and the answer `{"steps": [...]}` has the symbols.
 [[nodiscard]] QJsonValue
 playScript(const Case& item, const std::function<QJsonObject(const QJsonObject& event)>& perform,
            const std::function<QJsonObject()>& opening = {});
 
-/// Does `event` if it is `advance` or `shiftWall`, and tells whether it was. Timers fire at their
-/// exact times; after each, the attached queues and then the posted work have run dry.
+/// Runs `event` if it is `advance` or `shiftWall`, and returns whether it was. Timers fire at their
+/// exact times; after each, queues and posted work run until none is left.
 [[nodiscard]] bool passTime(fakes::VirtualTime& time, const QJsonObject& event);
 
 /// The name of the operation.

@@ -1,4 +1,4 @@
-// What a review says, as cases have it.
+// The JSON form of a review's statistics in cases.
 #pragma once
 
 #include "review/stats/WrappedStats.h"
@@ -12,8 +12,8 @@ namespace vantle::vectors {
 [[nodiscard]] QJsonValue toJson(const std::optional<StartRhythm>& rhythm);
 [[nodiscard]] QJsonValue toJson(const std::vector<SuperlativeLine>& lines);
 
-/// For texts in which releases of ICU differ by the width of a blank ("9 AM"), and locales by the
-/// sign that groups digits ("1,500 min"): a process has one locale, but cases have several.
+/// For texts in which ICU releases differ by the width of a blank ("9 AM"), and locales by the
+/// digit separator ("1,500 min"): a process has one locale, but cases have several.
 [[nodiscard]] Comparison withoutLocaleMarks();
 
 } // namespace vantle::vectors

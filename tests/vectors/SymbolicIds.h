@@ -1,4 +1,4 @@
-// Stand-ins for identities that the code under test makes up.
+// Symbols for ids that the code under test generates.
 #pragma once
 
 #include <QHash>
@@ -7,19 +7,18 @@
 
 namespace vantle::vectors {
 
-/// An id of the form 00000000-0000-4000-8000-nnnnnnnnnnnn in a case stands for some UUID. The first
-/// time it is expected, it is bound to the UUID that came at the same place, also within a longer
-/// text; from then on the two are the same.
+/// An id 00000000-0000-4000-8000-nnnnnnnnnnnn in a case is a symbol for some UUID. On first use it
+/// is bound to the UUID at the same place, also within a longer text; from then on both are equal.
 class SymbolicIds {
 public:
-    /// Binds the symbols that are met for the first time in `expected` to what stands at their
-    /// places in `got`. What is no upper-case UUID, or is bound already, binds nothing.
+    /// Binds symbols that are new in `expected` to the upper-case UUIDs at their places in `got`,
+    /// unless these are bound already.
     void bind(const QJsonValue& expected, const QJsonValue& got);
 
-    /// `value` with every bound UUID as its symbol: the form in which answers are compared.
+    /// Returns `value` with symbols for bound UUIDs, for comparison.
     [[nodiscard]] QJsonValue symbolic(const QJsonValue& value) const;
 
-    /// `value` with every bound symbol as its UUID: the form that goes into the code under test.
+    /// Returns `value` with UUIDs for bound symbols, for the code under test.
     [[nodiscard]] QJsonValue actual(const QJsonValue& value) const;
 
 private:

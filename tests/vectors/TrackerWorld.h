@@ -1,4 +1,4 @@
-// The tracker in a world of its own, as the scripts of its four forms play on it.
+// The tracker with its world, for the scripts of its four forms.
 #pragma once
 
 #include "fakes/MemoryPreferences.h"
@@ -14,13 +14,13 @@
 
 namespace vantle::vectors {
 
-/// One tracker over a disk in memory, its virtual time, and a record of what it reports.
+/// A tracker on a disk in memory and virtual time, with a record of its reports.
 class TrackerWorld {
 public:
     explicit TrackerWorld(const QJsonObject& input);
     ~TrackerWorld();
 
-    /// Does the operation, lets all work that it caused run, and describes what came of it.
+    /// Runs the operation and all work that it caused, and describes the effect.
     [[nodiscard]] QJsonObject perform(const QJsonObject& event);
 
 private:
@@ -32,7 +32,7 @@ private:
     void setPreferences(const QJsonObject& values);
     void record(const QJsonArray& call, QJsonArray& block);
 
-    /// Undefined when the operation gives no result.
+    /// Undefined when the operation has no result.
     [[nodiscard]] QJsonValue perform(const QString& operation, const QJsonObject& event);
     [[nodiscard]] std::optional<QJsonValue> performOnSession(const QString& operation,
                                                              const QJsonObject& event);
@@ -53,15 +53,15 @@ private:
     fakes::VirtualTime m_time;
     fakes::MemoryPreferences m_preferences;
     NotificationCenter m_notifications;
-    std::optional<SkillList> m_skills; ///< replaced in place when the list is
+    std::optional<SkillList> m_skills; ///< replaced together with the list
     std::unique_ptr<Monitor> m_monitor;
     bool m_encodingFails = false;
     std::optional<TrackerCore> m_tracker;
     std::optional<OpenSessionMarker> m_takenMarker;
 
-    QJsonArray m_questions; ///< what the monitor was asked since the last step
-    QJsonArray m_reports;   ///< what the tracker reported
-    QJsonArray m_news;      ///< what history views were told
+    QJsonArray m_questions; ///< questions to the monitor since the last step
+    QJsonArray m_reports;   ///< the tracker's reports
+    QJsonArray m_news;      ///< notifications to history views
     QMap<QString, QJsonValue> m_knownFiles;
 };
 

@@ -1,4 +1,4 @@
-// The drivers, one a file. A new one is declared here and named in the table in forms.cpp.
+// The drivers, one per file. Declare a new one here and list it in forms.cpp.
 #pragma once
 
 #include "vectors/Form.h"
@@ -25,7 +25,7 @@ namespace vantle::vectors {
 [[nodiscard]] Form totalsForm();
 [[nodiscard]] Form weeksForm();
 
-/// tracker, session_log, recovery and hand_logging: scripts over one world.
+/// tracker, session_log, recovery and hand_logging: scripts on one world.
 [[nodiscard]] QList<Form> trackerForms();
 
 } // namespace vantle::vectors

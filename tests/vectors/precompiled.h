@@ -1,4 +1,4 @@
-// What most drivers include, precompiled. A driver names its headers all the same.
+// The precompiled headers of most drivers, which drivers still include themselves.
 #pragma once
 
 #include <QDateTime>

@@ -81,7 +81,7 @@ private:
     WindowManager& m_windowManager;
     std::unique_ptr<FrameRoot> m_frame;
     Press m_press;
-    std::optional<Qt::Edges> m_held; ///< edges being dragged; none of them moves the window
+    std::optional<Qt::Edges> m_held; ///< edges being dragged; an empty set moves the window
 };
 
 } // namespace vantle

@@ -10,7 +10,7 @@ namespace {
 using samples::worked;
 using testing::ElementsAre;
 
-/// One start at each of these times of one day in UTC, as in "0730".
+/// One start per time of day in UTC, as in "0730".
 class Starts {
 public:
     explicit Starts(const std::vector<const char*>& times) {
@@ -33,24 +33,24 @@ private:
     std::vector<Session> m_sessions;
 };
 
-TEST(StartRhythm, TwoSessionsMakeNone) {
+TEST(StartRhythm, TwoSessionsGiveNoRhythm) {
     const Starts two({"0700", "0800"});
     EXPECT_EQ(two.typical(), std::nullopt);
     EXPECT_EQ(two.rhythm(), std::nullopt);
     EXPECT_EQ(Starts({}).rhythm(), std::nullopt);
 }
 
-TEST(StartRhythm, OfAnEvenCountTheLaterMiddleIsTypical) {
+TEST(StartRhythm, EvenCountTakesTheLaterOfTheTwoMiddleStarts) {
     EXPECT_EQ(Starts({"2000", "0900", "0800", "0700"}).times().medianMinutes(), 9 * 60);
     EXPECT_EQ(Starts({"0700", "0800", "0930"}).times().medianMinutes(), 8 * 60);
 }
 
-TEST(StartRhythm, TheTypicalStartLosesItsMinutes) {
+TEST(StartRhythm, TypicalStartIsTheHourAlone) {
     // ICU writes a narrow blank before the mark.
     EXPECT_EQ(Starts({"0859", "0859", "0859"}).typical(), QStringLiteral("8\u202FAM"));
 }
 
-TEST(StartRhythm, TheTypicalStartIsWrittenByTheLocale) {
+TEST(StartRhythm, TypicalStartIsInTheLocalesForm) {
     const Starts afternoon({"1510", "1510", "1510"});
     EXPECT_EQ(afternoon.typical("en_GB"), QStringLiteral("15"));
     EXPECT_EQ(afternoon.typical("de_DE"), QStringLiteral("15 Uhr"));
@@ -63,17 +63,17 @@ TEST(StartRhythm, CountsInPairsOfHours) {
     EXPECT_THAT(rhythm->counts, ElementsAre(2, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 2));
 }
 
-TEST(StartRhythm, OfEqualPeaksTheFirstIsThePeak) {
+TEST(StartRhythm, FirstOfEqualHoursIsThePeak) {
     EXPECT_EQ(Starts({"2100", "2130", "0700", "0710", "1200"}).rhythm()->peakHour, 7);
 }
 
-TEST(StartRhythm, OfEqualBandsTheEarlierSpeaks) {
+TEST(StartRhythm, EarlierOfEqualBandsGivesTheHeadline) {
     const auto rhythm = Starts({"1900", "2000", "2100", "0700", "0800", "0900"}).rhythm();
     EXPECT_EQ(rhythm->headline, QStringLiteral("Most sessions started before noon."));
     EXPECT_EQ(rhythm->detail, QStringLiteral("3 of 6 sessions started before noon."));
 }
 
-TEST(StartRhythm, EachBandHasItsWords) {
+TEST(StartRhythm, EachBandHasItsHeadline) {
     const auto afternoon = Starts({"1200", "1759", "1500"}).rhythm();
     EXPECT_EQ(afternoon->headline, QStringLiteral("Most sessions started in the afternoon."));
     EXPECT_EQ(afternoon->detail, QStringLiteral("3 of 3 sessions started between noon and 6 PM."));
@@ -82,13 +82,13 @@ TEST(StartRhythm, EachBandHasItsWords) {
     EXPECT_EQ(evening->detail, QStringLiteral("3 of 3 sessions started after 6 PM."));
 }
 
-TEST(StartRhythm, TheNightCountsTheHourFromTenAlthoughItWinsWithoutIt) {
+TEST(StartRhythm, NightDetailIncludesTheHourFromTen) {
     const auto rhythm = Starts({"2210", "2300", "0100", "0459", "1000"}).rhythm();
     EXPECT_EQ(rhythm->headline, QStringLiteral("Most sessions started late at night."));
     EXPECT_EQ(rhythm->detail, QStringLiteral("4 of 5 sessions started after 10 PM."));
 }
 
-TEST(StartRhythm, BelowALimitTheStartsAreSpread) {
+TEST(StartRhythm, StartsWithoutADominantBandAreSpread) {
     // 9 of 20 are just enough, 4 of 9 are not.
     std::vector<const char*> times(9, "0700");
     times.insert(times.end(), 8, "1300");
@@ -100,7 +100,7 @@ TEST(StartRhythm, BelowALimitTheStartsAreSpread) {
     EXPECT_EQ(spread->detail, std::nullopt);
 }
 
-TEST(StartRhythm, ReadsTheWallClockAcrossAChangeOfIt) {
+TEST(StartRhythm, UsesTheWallClockAcrossAClockChange) {
     // 02:30 in Berlin, twice: the night on which clocks went back.
     const std::vector sessions = {worked("2026-10-25T00:30:00Z", 10),
                                   worked("2026-10-25T01:30:00Z", 10),

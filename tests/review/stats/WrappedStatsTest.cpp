@@ -25,7 +25,7 @@ std::vector<Session> aBusyWeek() {
     return sessions;
 }
 
-TEST(WrappedStats, OfNothingIsNothing) {
+TEST(WrappedStats, EmptyLogGivesEmptyStats) {
     for (const WrappedPeriod period : wrappedperiod::all) {
         const auto stats = WrappedStats::compute({}, period, settingsAt("2026-03-11T14:00:00Z"));
         EXPECT_EQ(stats.period, period);
@@ -63,7 +63,7 @@ TEST(WrappedStats, ASessionAcrossMidnightBelongsToTheDayOfItsEndButStartsBefore)
     EXPECT_EQ(stats.dayHours(at("2026-03-09T23:00:00Z")), 0.0);
 }
 
-TEST(WrappedStats, WhatStartsInTheFutureCountsNowhereButInAPersonaWindow) {
+TEST(WrappedStats, FutureStartsCountInThePersonaWindowOnly) {
     const auto now = "2026-03-11T10:00:00Z";
     std::vector<Session> sessions;
     for (const char* start : {"2026-03-11T10:05:01Z", "2026-03-11T10:10:00Z",
@@ -84,12 +84,12 @@ TEST(WrappedStats, WhatStartsInTheFutureCountsNowhereButInAPersonaWindow) {
         EXPECT_TRUE(compute(period).persona.has_value());
     }
     EXPECT_EQ(compute(WrappedPeriod::Week).personaSessionCount, 0);
-    // Five minutes ahead is what two clocks may differ by.
+    // The tolerance for clocks that differ is five minutes.
     sessions.front().startedAt -= Seconds(1);
     EXPECT_EQ(compute(WrappedPeriod::Today).sessionCount, 1);
 }
 
-TEST(WrappedStats, AMilestoneIsEarnedByTheWholeLogWithinThePeriod) {
+TEST(WrappedStats, MilestonesOfThePeriodCountTheWholeLog) {
     const std::vector sessions = {worked("2026-03-09T00:00:00Z", 9 * 60),
                                   worked("2026-03-10T00:00:00Z", 16 * 60),
                                   worked("2026-03-11T00:00:00Z", 60)};
@@ -113,7 +113,7 @@ TEST(WrappedStats, AnEndAtMidnightOfMondayBelongsToTheNewWeek) {
     EXPECT_EQ(WrappedStats::compute(sessions, WrappedPeriod::LastWeek, settings).sessionCount, 0);
 }
 
-TEST(WrappedStats, ADayOfTwoEqualSkillsHasTheColourOfTheSmallerId) {
+TEST(WrappedStats, EqualSkillsOfADayGiveTheColourOfTheSmallerId) {
     std::vector sessions = {worked("2026-03-11T08:00:00Z", 30, kDesign),
                             worked("2026-03-11T09:00:00Z", 30)};
     const auto settings = settingsAt("2026-03-11T14:00:00Z");
@@ -140,7 +140,7 @@ TEST(WrappedStats, IdsAreComparedByCodePoints) {
     EXPECT_EQ(stats.topSkill()->id, inFirstPlane);
 }
 
-TEST(WrappedStats, OfEqualDaysTheLaterIsTheBiggestOfEqualSessionsTheFirstTheLongest) {
+TEST(WrappedStats, LaterOfEqualDaysIsBiggestAndFirstOfEqualSessionsLongest) {
     const std::vector sessions = {worked("2026-03-09T08:00:00Z", 30),
                                   worked("2026-03-10T08:00:00Z", 30)};
     const auto stats =
@@ -150,7 +150,7 @@ TEST(WrappedStats, OfEqualDaysTheLaterIsTheBiggestOfEqualSessionsTheFirstTheLong
     EXPECT_EQ(stats.longest, sessions.front());
 }
 
-TEST(WrappedStats, AGoalOfNothingStillTakesAMinute) {
+TEST(WrappedStats, GoalOfZeroHoursStillNeedsAMinute) {
     auto settings = settingsAt("2026-03-11T14:00:00Z");
     settings.dailyGoalHours = 0;
     std::vector sessions = {worked("2026-03-11T08:00:00Z", 1)};
@@ -168,7 +168,7 @@ TEST(WrappedStats, AGoalOfNothingStillTakesAMinute) {
     EXPECT_EQ(days(), 0);
 }
 
-TEST(WrappedStats, TheHoursOfTheWeekBeforeAreToldOfWeeksOnly) {
+TEST(WrappedStats, OnlyWeeksHaveTheHoursOfTheWeekBefore) {
     const std::vector sessions = {worked("2026-03-03T08:00:00Z", 90),
                                   worked("2026-03-10T08:00:00Z", 30)};
     const auto settings = settingsAt("2026-03-11T14:00:00Z");
@@ -181,7 +181,7 @@ TEST(WrappedStats, TheHoursOfTheWeekBeforeAreToldOfWeeksOnly) {
     EXPECT_EQ(before(WrappedPeriod::Today), std::nullopt);
 }
 
-TEST(WrappedStats, AWeekIsRankedAgainstTwoOthersAtLeast) {
+TEST(WrappedStats, RankNeedsTwoEarlierWeeks) {
     std::vector sessions = {worked("2026-03-03T08:00:00Z", 30), worked("2026-03-10T08:00:00Z", 60)};
     const auto bestLine = [&] {
         const auto lines =
@@ -200,7 +200,7 @@ TEST(WrappedStats, AWeekIsRankedAgainstTwoOthersAtLeast) {
     EXPECT_EQ(bestLine(), QString());
 }
 
-TEST(WrappedStats, ADayIsJudgedByItsWeek) {
+TEST(WrappedStats, PersonaOfADayUsesItsWeek) {
     const auto sessions = aBusyWeek();
     const auto stats =
         WrappedStats::compute(sessions, WrappedPeriod::Today, settingsAt("2026-03-11T14:00:00Z"));
@@ -210,7 +210,7 @@ TEST(WrappedStats, ADayIsJudgedByItsWeek) {
     EXPECT_TRUE(stats.persona.has_value());
 }
 
-TEST(WrappedStats, AYoungWeekIsJudgedByTheOneBefore) {
+TEST(WrappedStats, PersonaOfAYoungWeekUsesTheWeekBefore) {
     auto sessions = aBusyWeek();
     for (const char* start : {"2026-03-16T08:00:00Z", "2026-03-16T09:00:00Z",
                               "2026-03-16T10:00:00Z", "2026-03-16T11:00:00Z"})
@@ -227,7 +227,7 @@ TEST(WrappedStats, AYoungWeekIsJudgedByTheOneBefore) {
     EXPECT_EQ(scope(WrappedPeriod::Month, "2026-03-16T13:00:00Z"), QStringLiteral("this week"));
 }
 
-TEST(WrappedStats, APersonaTakesTwoDays) {
+TEST(WrappedStats, PersonaNeedsTwoDays) {
     auto sessions = aBusyWeek();
     sessions.resize(6); // all of Monday
     const auto persona = [&] {
@@ -257,7 +257,7 @@ TEST(WrappedStats, ADayOfNoSecondsIsListedButNotActive) {
               Skill::seedDefinition(QStringLiteral("building"))->hexRGB);
 }
 
-TEST(WrappedStats, ANoteOfBlanksIsANote) {
+TEST(WrappedStats, BlankNoteCountsAsANote) {
     std::vector sessions = {worked("2026-03-11T08:00:00Z", 10)};
     sessions.front().note = QStringLiteral("  ");
     const auto stats =

@@ -28,7 +28,7 @@ class CapsuleWorld {
 public:
     CapsuleWorld() { setTopBar(0); }
 
-    /// The desktop has a bar of that height along the top.
+    /// Gives the desktop a bar of that height at the top.
     void setTopBar(double height) {
         ScreenShape& screen = screens.shapes.front();
         screen.available = screen.frame.adjusted(0, height, 0, 0);
@@ -67,7 +67,7 @@ public:
     fakes::FakeScreens screens;
     const CapsuleText text;
     const std::vector<Skill> skills{Skill::defaults().begin(), Skill::defaults().end()};
-    QStringList calls; ///< what the capsule told the model
+    QStringList calls; ///< the capsule's calls to the model
 };
 
 } // namespace vantle::tests

@@ -1,4 +1,4 @@
-// Cards in windows of their own, and a person in front of them.
+// Cards in their windows, driven by pointer and keys.
 #pragma once
 
 #include "fakes/FakePanelHost.h"
@@ -22,10 +22,10 @@ class CardViewWorld : protected CardWorld {
 public:
     CardViewWorld() {
         engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-        Motion::of(engine)->setReduced(true); // they come and go faster
+        Motion::of(engine)->setReduced(true); // shorter transitions
     }
 
-    /// The windows that are up and feel the pointer; a fading one is neither.
+    /// The visible windows with pointer input, which a fading one lacks.
     [[nodiscard]] static QList<FloatingPanel*> windows() {
         QList<FloatingPanel*> found;
         for (QWindow* window : QGuiApplication::allWindows())
@@ -38,13 +38,13 @@ public:
         return windows().isEmpty() ? nullptr : windows().first();
     }
 
-    /// The item of the window that is read out by that name.
+    /// Returns the item of the window with that accessible name.
     [[nodiscard]] static QQuickItem* named(const QString& name) {
         return find(window()->rootObject(), [&](const QQuickItem& item) {
             return item.property("name").toString() == name && item.isVisible();
         });
     }
-    /// The field that text goes into.
+    /// The text field.
     [[nodiscard]] static QQuickItem* field() {
         return find(window()->rootObject(), [](const QQuickItem& item) {
             return item.flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
@@ -65,7 +65,7 @@ public:
     static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(window(), key, modifiers);
     }
-    /// As the desktop does when the window asks for the keyboard.
+    /// Gives the window the keyboard, as the desktop does on request.
     static void giveKeyboard() {
         window()->requestActivate();
         ASSERT_TRUE(await([] { return window()->isActive(); }));

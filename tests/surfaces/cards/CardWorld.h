@@ -1,4 +1,4 @@
-// The corner of the screen, its cards, and time that passes when a test says so.
+// The corner of the screen with its cards, on virtual time.
 #pragma once
 
 #include "app/OpenQuestions.h"
@@ -40,12 +40,12 @@ public:
         return made;
     }
 
-    /// The one question that stands open, as the panel shows it.
+    /// Returns the only open question, as the panel shows it.
     [[nodiscard]] OpenQuestions::Question openQuestion() const {
         return questions.all().size() == 1 ? questions.all().front().second
                                            : OpenQuestions::Question();
     }
-    /// Gives the answer of that text to it.
+    /// Gives the answer with that text.
     void answer(const QString& answer) {
         for (const auto& one : openQuestion().answers)
             if (one.text == answer) return one.give();

@@ -1,4 +1,4 @@
-// The command center of a program on a disk, a clock and a desktop of its own.
+// The command center of a program on a virtual disk, clock and desktop.
 #pragma once
 
 #include "app/ModelWorld.h"

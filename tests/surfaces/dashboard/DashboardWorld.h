@@ -1,4 +1,4 @@
-// The hours window of a program on a disk, a clock and a desktop of its own.
+// The hours window of a program on a virtual disk, clock and desktop.
 #pragma once
 
 #include "app/ModelWorld.h"

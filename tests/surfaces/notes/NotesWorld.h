@@ -1,4 +1,4 @@
-// The notes window over a log that a test writes.
+// The notes window over the log of a test.
 #pragma once
 
 #include "fakes/FaultyFileSystem.h"
@@ -23,9 +23,9 @@ protected:
         paths.enforcePrivatePermissions();
     }
 
-    /// What the log holds from now on.
+    /// Replaces the log.
     void put(const QByteArray& lines) { disk.setContent(paths.sessionsFile(), lines); }
-    /// A log with one noted session for each text, an hour apart, the last one newest.
+    /// Writes one session per note, an hour apart, the last one newest.
     void write(const std::vector<const char*>& notes) {
         QByteArray lines;
         int number = 0;

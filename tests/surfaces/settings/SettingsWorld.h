@@ -1,4 +1,4 @@
-// The settings of a program on a disk, a clock and a desktop of its own.
+// The settings of a program on a virtual disk, clock and desktop.
 #pragma once
 
 #include "app/ModelWorld.h"
@@ -15,18 +15,18 @@ namespace vantle::tests {
 
 class SettingsWorld : public ModelWorld {
 public:
-    /// The program, started unless it runs.
+    /// Returns the program, started if needed.
     AppModel& program() {
         if (!model) launch();
         rules = &autoSkill->rules();
         return *model;
     }
-    /// The window opens, for the first time or again.
+    /// Opens the window, also repeatedly.
     SettingsView& open() {
         program();
         return view.emplace(environment());
     }
-    /// The row of the table whose title begins so, in the open window.
+    /// Returns the table's row whose title starts so, in the open window.
     [[nodiscard]] PreferenceRowModel& row(const char* title) {
         for (const auto section : {PreferenceRowModel::Focus, PreferenceRowModel::Ceremony,
                                    PreferenceRowModel::AutoMode})
@@ -58,7 +58,7 @@ public:
                 [this](const QString& text) { copied << text; },
                 [this] { return model->eraseEverything(); }};
     }
-    /// The tool that lists shortcuts answers.
+    /// Answers the request for the shortcuts' names.
     void answer(const QByteArray& names) { runner.end(ProcessRunner::Output{0, names}); }
 
     [[nodiscard]] std::optional<QString> stored(const char* key) const {
@@ -66,7 +66,7 @@ public:
     }
 
     fakes::FakeAutostart autostart;
-    AutoRules* rules = nullptr; ///< of the program that runs
+    AutoRules* rules = nullptr; ///< of the running program
     fakes::FakeTrayItem tray;
     fakes::FakeOverlayStage overlayStage;
     QStringList revealed;

@@ -18,7 +18,7 @@ public:
 
     [[nodiscard]] static QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
-    /// A first launch with the welcome open, or the same again after a launch.
+    /// Opens the welcome of a first launch, or of the current one.
     WelcomeView& open() {
         if (!model) launch();
         view.emplace(WelcomeView::Environment{.model = *model,
@@ -37,7 +37,7 @@ public:
                                               .isInFront = [this] { return isInFront; }});
         return *view;
     }
-    /// Presses main buttons up to the step; the steps of the practice are gone through.
+    /// Presses main buttons up to the step, practice included.
     void walkTo(int step) {
         while (view->step() < step) {
             if (view->step() == welcometext::Stop) {
@@ -48,7 +48,7 @@ public:
             settle();
         }
     }
-    /// Presses the shortcut at the step that asks for it.
+    /// Presses the shortcut at its step.
     void beginPractice() {
         walkTo(welcometext::Press);
         press();
@@ -57,7 +57,7 @@ public:
         press();
         closeCard();
     }
-    /// The card after a session goes, whichever way.
+    /// The card after a session closes.
     void closeCard() {
         if (told.closeSummary) told.closeSummary(std::nullopt);
         Q_EMIT notifications.HFStopSummaryResolved();

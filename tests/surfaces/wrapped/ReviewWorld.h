@@ -1,4 +1,4 @@
-// A review over a log that a test writes, and what its window is asked for.
+// A review over the log of a test, with recorded requests.
 #pragma once
 
 #include "fakes/FakeLanguageModel.h"
@@ -43,11 +43,11 @@ protected:
         return *(view = std::make_unique<WrappedView>(environment(initial)));
     }
 
-    /// What the language model writes.
+    /// The language model's answer.
     [[nodiscard]] static QString sentence() {
         return QStringLiteral("You shipped the landing page and mended the login.");
     }
-    /// Work with a note, this week (the 9th to the 15th).
+    /// Logs work with a note this week (9 to 15 March).
     void logNotes(int count = 3) {
         for (int i = 0; i < count; ++i) {
             log.push_back(samples::worked("2026-03-10T09:00:00Z", 60));

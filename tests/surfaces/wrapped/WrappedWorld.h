@@ -1,4 +1,4 @@
-// The review in a window of its own, over a made-up log, and a person in front of it.
+// The review in its window, over a sample log, driven by pointer and keys.
 #pragma once
 
 #include "fakes/FakeLanguageModel.h"
@@ -16,10 +16,10 @@ namespace vantle::tests {
 
 class WrappedWorld {
 protected:
-    /// Wednesday, 2026-03-11 at two in the afternoon.
+    /// Wednesday, 2026-03-11, 2 PM.
     WrappedWorld() { model.available = false; }
 
-    /// A week with notes, enough for a type, and a year before it.
+    /// Logs a week with notes, enough for a persona, and a year before it.
     void workAWeek() {
         log = {samples::worked("2025-06-03T22:00:00Z", 90)};
         for (int day = 2; day <= 11; ++day)
@@ -57,7 +57,7 @@ protected:
         driver->click(QString::fromUtf8(name));
         settle();
     }
-    /// The one page that is there once no other is on its way out.
+    /// Returns the page once no other is leaving.
     [[nodiscard]] QQuickItem* page() {
         QQuickItem* const stack = shownItem(window->contentItem(), [](const QQuickItem& item) {
             return item.property("shownKey").isValid();
@@ -81,7 +81,7 @@ protected:
     std::unique_ptr<WrappedView> view;
     std::optional<ShownView> driver;
     QQuickView* window = nullptr;
-    WrappedView::Saved saved = WrappedView::Saved::Failed; ///< what comes of every poster
+    WrappedView::Saved saved = WrappedView::Saved::Failed; ///< the result of saving a poster
 
 private:
     [[nodiscard]] WrappedView::Environment environment() {

@@ -1,4 +1,4 @@
-// A picture of the review in a window of its own.
+// A picture of the review in its own window.
 #pragma once
 
 #include "surfaces/kit/tokens/Motion.h"
@@ -36,7 +36,7 @@ public:
         QCoreApplication::processEvents();
     }
 
-    /// The items below one, itself included, that fit, in their order.
+    /// Returns the matching items below one, itself included, in order.
     static QList<QQuickItem*> all(QQuickItem& item,
                                   const std::function<bool(const QQuickItem&)>& fits) {
         QList<QQuickItem*> found;
@@ -50,7 +50,7 @@ public:
             return QByteArray(child.metaObject()->className()).startsWith(name);
         });
     }
-    /// What assistive tools read.
+    /// The text for screen readers.
     static QString spoken(QQuickItem& item) {
         QAccessibleInterface* const reading = QAccessible::queryAccessibleInterface(&item);
         return reading ? reading->text(QAccessible::Name) : QString();

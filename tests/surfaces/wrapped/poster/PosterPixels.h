@@ -1,4 +1,4 @@
-// What stands on a poster as it is given away, in px of the poster.
+// The pixels of an exported poster, in px of the poster.
 #pragma once
 
 #include "surfaces/wrapped/poster/SharePosterPainter.h"
@@ -25,7 +25,7 @@ public:
     [[nodiscard]] const QImage& image() const { return m_image; }
     [[nodiscard]] int height() const { return m_image.height() / kScale; }
 
-    /// The smallest rectangle around what differs from the ground.
+    /// Returns the smallest rectangle around pixels unlike the background.
     [[nodiscard]] QRect drawnIn(const QRect& area) const {
         QRect drawn;
         forEach(area, [&](QPoint at, const QColor& color) {
@@ -34,7 +34,8 @@ public:
         return drawn;
     }
 
-    /// The mean colour of what differs clearly from the ground; invalid when nothing does.
+    /// Returns the mean colour of pixels clearly unlike the background; invalid when there are
+    /// none.
     [[nodiscard]] QColor meanOfLit(const QRect& area) const {
         std::array<int, 3> sum{};
         int count = 0;
@@ -48,14 +49,14 @@ public:
         return count == 0 ? QColor() : QColor(sum[0] / count, sum[1] / count, sum[2] / count);
     }
 
-    /// The colour at the middle of a px.
+    /// Returns the colour at the centre of a px.
     [[nodiscard]] QColor at(int x, int y) const {
         return m_image.pixelColor(kScale * x + 1, kScale * y + 1);
     }
 
 private:
     static constexpr int kScale = 2;
-    static constexpr int kLit = 24; // brighter than the ground by this much
+    static constexpr int kLit = 24; // brighter than the background by this much
 
     static bool isLit(const QColor& color) {
         return std::max({color.red(), color.green(), color.blue()}) > 15 + kLit;

@@ -1,17 +1,17 @@
-// Posters of made-up reviews: as they are drawn into the gallery, tested and measured.
+// Sample posters for gallery, tests and benchmarks.
 #pragma once
 
 #include "review/SharePoster.h"
 
 namespace vantle::samples {
 
-/// A Friday afternoon in Berlin, of which the posters speak.
+/// A Friday afternoon in Berlin, the date of the sample posters.
 [[nodiscard]] WrappedSettings posterSettings();
 
-/// A review with that much in it: 18 hours in a week, 41 in a month, 428 of all time.
+/// A sample review: 18 hours in a week, 41 in a month, 428 of all time.
 [[nodiscard]] WrappedStats posterStats(WrappedPeriod period, const QString& personaName);
 
-/// Its poster. Without a name of a type there are the hours in its place.
+/// Returns its poster. Without a persona's name it shows the hours.
 [[nodiscard]] SharePoster sharePoster(WrappedPeriod period, const QString& personaName = {});
 
 } // namespace vantle::samples
