@@ -141,6 +141,7 @@ class WaylandScene:
         self.desktop.press("space")
         meanwhile(self)
         wait_until(f"the button to read {then!r}", lambda: then in focused())
+        time.sleep(1)  # until that is drawn, too
         self.desktop.screenshot(f"{name}-done")
         self.close_settings()
 
