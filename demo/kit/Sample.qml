@@ -1,4 +1,4 @@
-// A control with a word below it.
+// A control with a caption below it.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -10,7 +10,7 @@ Column {
 
     spacing: DarkUI.space10
 
-    // The caption comes last, whatever was put in.
+    // The caption comes after all children.
     Component.onCompleted: {
         word.parent = null;
         word.parent = sample;

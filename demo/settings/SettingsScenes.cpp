@@ -13,7 +13,7 @@ namespace vantle {
 
 namespace {
 
-/// The program behind the window, for as long as the picture is made.
+/// The program behind the window, while the picture is drawn.
 class DemoSettings final : public QObject, public tests::SettingsWorld {
 public:
     explicit DemoSettings(QObject* owner) : QObject(owner) {
@@ -51,7 +51,7 @@ void useApps(DemoSettings& world) {
     }
 }
 
-/// A mode and applications of long names, and of names in another script.
+/// A mode and applications with long names, and with names in another script.
 void useLongNames(DemoSettings& world) {
     world.program();
     const Skill skill = world.skills->display(QStringLiteral("building"));
@@ -70,10 +70,10 @@ void useLongNames(DemoSettings& world) {
 }
 
 using Prepare = std::function<void(DemoSettings&)>;
-/// Where the window is scrolled to, given its sections from the top.
+/// The scroll position, from the sections of the window.
 using Place = std::function<double(const QList<QQuickItem*>& sections)>;
 
-/// For what is laid out at the next frame, and for the scroll bar, which comes in softly.
+/// Waits for the layout of the next frame and for the scroll bar to fade in.
 void settle() {
     QEventLoop loop;
     QTimer::singleShot(250, &loop, &QEventLoop::quit);
@@ -89,14 +89,14 @@ void scrollTo(QQuickItem& frame, const Place& place) {
     settle();
 }
 
-/// The heading of a section at the place where that of the first one is at first.
+/// Scrolls a section's heading to where the first one is initially.
 Place section(int number) {
     return [number](const QList<QQuickItem*>& sections) {
         return sections.value(number)->y() - sections.value(0)->y();
     };
 }
 
-/// The end of a section with some space below it.
+/// Scrolls to the end of a section with some space below.
 Place endOf(int number) {
     return [number](const QList<QQuickItem*>& sections) {
         const QQuickItem& last = *sections.value(number);

@@ -1,4 +1,4 @@
-"""The program that follows the work by itself: auto mode and the user's shortcuts."""
+"""Auto mode and the user's shortcuts."""
 
 import time
 from pathlib import Path
@@ -16,7 +16,7 @@ class FollowsWork(DesktopTest):
         wait_until(f"{title} in front", lambda: self.desktop.active_window_title() == title)
 
     def stay(self, seconds):
-        """Works where the keyboard is: the pointer moves now and then."""
+        """Works in the application in front: the pointer moves now and then."""
         until = time.monotonic() + seconds
         while time.monotonic() < until:
             self.desktop.nudge_pointer()
@@ -66,7 +66,7 @@ class FollowsWork(DesktopTest):
         record, = wait_until("the record", self.vantle.sessions)
         self.assertEqual(record["skillId"], FIRST_SKILL)
 
-    def test_two_minutes_in_a_known_application_start_a_session_where_that_is_wanted(self):
+    def test_two_minutes_in_a_known_application_start_a_session_if_enabled(self):
         self.install_application("gimp", "Painter")
         self.vantle.write_preferences(auto__autostart="true")
         self.launch()
@@ -76,7 +76,7 @@ class FollowsWork(DesktopTest):
         self.stay(15)
         self.assertEqual(wait_until("a session", self.vantle.marker)["skillId"], "product_design")
 
-    def test_the_persons_shortcuts_run_at_both_ends(self):
+    def test_the_users_shortcuts_run_at_both_ends(self):
         shortcuts = Path(self.desktop.env["XDG_CONFIG_HOME"], "Vantle", "shortcuts")
         shortcuts.mkdir(parents=True)
         told = self.desktop.directory / "told"
@@ -112,7 +112,7 @@ class FollowsWork(DesktopTest):
         self.begin_session()
         wait_until("the shortcut", told.exists)
         found = dict(entry.split("=", 1) for entry in told.read_text().split("\0") if entry)
-        # The shell has some of its own.
+        # The shell sets some itself.
         self.assertEqual({name for name in found if found[name] != session.get(name)}
                          - {"PWD", "OLDPWD", "SHLVL", "_"}, set())
         self.assertEqual(found["MARK"], "of the session")

@@ -1,4 +1,4 @@
-"""Looking at the screen quickly: what moves is gone before a tool has started."""
+"""Fast screen reads, for what moves: tools take too long to start."""
 
 import ctypes
 
@@ -7,18 +7,18 @@ from .picture import Picture
 
 
 class _Image(ctypes.Structure):
-    """The beginning of Xlib's XImage."""
+    """The first members of Xlib's XImage."""
 
     _fields_ = [("width", ctypes.c_int), ("height", ctypes.c_int), ("xoffset", ctypes.c_int),
                 ("format", ctypes.c_int), ("data", ctypes.c_void_p)]
 
 
 class NotOnTheScreen(Exception):
-    """A part of the rectangle lies outside of the screen, which has no pixels there."""
+    """A part of the rectangle lies outside of the screen, where there are no pixels."""
 
 
 class Eyes:
-    """Reads pixels of a display within milliseconds, over a connection of its own."""
+    """Reads pixels of a display within milliseconds, over its own connection."""
 
     _ALL_PLANES = 0xFFFFFFFF
     _WHOLE_PIXELS = 2
@@ -41,7 +41,7 @@ class Eyes:
         self._x11.XCloseDisplay(self._display)
 
     def raw(self, x, y, width, height):
-        """The pixels of a rectangle as they lie in memory: blue, green, red, nothing."""
+        """The pixels of a rectangle in memory order: blue, green, red, unused."""
         root = self._x11.XDefaultRootWindow(self._display)
         image = self._x11.XGetImage(self._display, root, x, y, width, height, self._ALL_PLANES,
                                     self._WHOLE_PIXELS)

@@ -10,7 +10,7 @@ using tests::text;
 
 class DesktopGapsTest : public testing::Test, protected tests::SettingsWorld {};
 
-TEST_F(DesktopGapsTest, WhereNothingIsMissingNothingIsSaid) {
+TEST_F(DesktopGapsTest, CompleteDesktopHasNoAdvice) {
     const SettingsView& settings = open();
     EXPECT_EQ(view->gaps()->hotKeyAdvice(), QString());
     EXPECT_EQ(view->gaps()->hotKeyAction(), QString());
@@ -22,7 +22,7 @@ TEST_F(DesktopGapsTest, WhereNothingIsMissingNothingIsSaid) {
     EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B · active"));
 }
 
-TEST_F(DesktopGapsTest, WhereACeremonyWouldCatchClicksItIsSaidThatNonePlays) {
+TEST_F(DesktopGapsTest, AdviceSaysThatNoCeremonyPlaysWhereItWouldTakeClicks) {
     overlayStage.available = false;
     open();
     EXPECT_TRUE(view->gaps()->ceremonyAdvice().startsWith(text("In this Wayland session")));
@@ -57,7 +57,7 @@ TEST_F(DesktopGapsTest, WithoutAnIdleCounterNoPauseIsPromised) {
     EXPECT_EQ(view->gaps()->autoStartAdvice(), QString());
 }
 
-TEST_F(DesktopGapsTest, WhereNoAppOrOnlySomeAreSeenInFrontItIsSaid) {
+TEST_F(DesktopGapsTest, AdviceSaysWhichApplicationsAutoModeMisses) {
     frontmost.setCoverage(AppCoverage::None);
     open();
     EXPECT_EQ(view->gaps()->autoModeAdvice(),
@@ -78,7 +78,7 @@ TEST_F(DesktopGapsTest, WhereNoAppOrOnlySomeAreSeenInFrontItIsSaid) {
     EXPECT_EQ(view->gaps()->autoModeAdvice(), QString());
 }
 
-TEST_F(DesktopGapsTest, HelpForAutoModeSaysWhatItDoesOrWhyItDoesNot) {
+TEST_F(DesktopGapsTest, HelpForAutoModeSaysItsEffectOrItsFailure) {
     frontmost.setCoverage(AppCoverage::Some);
     frontmost.setHelp(FrontmostHelp::AtLogin);
     open();
@@ -103,7 +103,7 @@ TEST_F(DesktopGapsTest, HelpForAutoModeSaysWhatItDoesOrWhyItDoesNot) {
     EXPECT_EQ(row("Start sessions").remedy(), QString());
 }
 
-TEST_F(DesktopGapsTest, AShortcutOfAnotherProgramLeavesTheCommand) {
+TEST_F(DesktopGapsTest, ShortcutHeldByAnotherProgramOffersTheCommand) {
     hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};
     open();
     EXPECT_EQ(view->gaps()->hotKeyAdvice(),
@@ -117,7 +117,7 @@ TEST_F(DesktopGapsTest, AShortcutOfAnotherProgramLeavesTheCommand) {
     EXPECT_EQ(view->gaps()->hotKeyAdvice(), QString());
 }
 
-TEST_F(DesktopGapsTest, AShortcutThatWasLostIsNotCalledActiveUntilItIsBack) {
+TEST_F(DesktopGapsTest, LostShortcutIsInactiveUntilItIsBack) {
     const SettingsView& settings = open();
     ASSERT_EQ(settings.hotKeyText(), text("⌥⌘B · active"));
     hotKeyPort.become({HotKeyPort::Registration::HeldByAnother, 0});
@@ -128,7 +128,7 @@ TEST_F(DesktopGapsTest, AShortcutThatWasLostIsNotCalledActiveUntilItIsBack) {
     EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B · active"));
 }
 
-TEST_F(DesktopGapsTest, WithoutKeysFromTheDesktopTheCommandIsOffered) {
+TEST_F(DesktopGapsTest, DesktopWithoutShortcutsOffersTheCommand) {
     hotKeyPort.outcome = {HotKeyPort::Registration::NotOffered};
     const SettingsView& settings = open();
     EXPECT_FALSE(settings.isHotKeyActive());
@@ -152,7 +152,7 @@ TEST_F(DesktopGapsTest, UntilTheDesktopAnswersTheShortcutIsNeitherActiveNorMissi
     EXPECT_EQ(settings.hotKeyText(), text("⌥⌘B · active"));
 }
 
-TEST_F(DesktopGapsTest, KeysOfTheUsersOwnChoiceAreNamed) {
+TEST_F(DesktopGapsTest, KeysChosenByTheUserAreNamed) {
     hotKeyPort.outcome = {HotKeyPort::Registration::Registered, 0, text("Meta+Alt+C")};
     const SettingsView& settings = open();
     EXPECT_TRUE(settings.isHotKeyActive());
@@ -164,7 +164,7 @@ TEST_F(DesktopGapsTest, KeysOfTheUsersOwnChoiceAreNamed) {
                    "a key to this command:"));
 }
 
-TEST_F(DesktopGapsTest, ShortcutOnTheUsersWordIsSetUpAndSwitchedOffByAPress) {
+TEST_F(DesktopGapsTest, ShortcutThatNeedsConsentIsSetUpAndRemovedByAPress) {
     hotKeyPort.way = text("portal");
     hotKeyPort.outcome = {HotKeyPort::Registration::NotAllowed};
     const SettingsView& settings = open();
@@ -195,7 +195,7 @@ TEST_F(DesktopGapsTest, TheCommandCanBeCopied) {
     EXPECT_EQ(copied, QStringList{DesktopGaps::command()});
 }
 
-TEST_F(DesktopGapsTest, WithoutATrayTheWayToThePanelIsSaidUntilThereIsOne) {
+TEST_F(DesktopGapsTest, WithoutATrayTheAdviceNamesTheWayToThePanel) {
     tray.setShown(false);
     open();
     EXPECT_EQ(view->gaps()->trayAdvice(),

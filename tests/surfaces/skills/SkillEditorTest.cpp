@@ -22,7 +22,7 @@ protected:
         }};
 };
 
-TEST_F(SkillEditorTest, ANewModeStartsEmptyInAColourThatIsFree) {
+TEST_F(SkillEditorTest, NewModeStartsEmptyInAFreeColour) {
     editor.openNew(skills);
     EXPECT_TRUE(editor.isShown());
     EXPECT_TRUE(editor.isAdding() && editor.hasName() && editor.hasColors());
@@ -33,7 +33,7 @@ TEST_F(SkillEditorTest, ANewModeStartsEmptyInAColourThatIsFree) {
     EXPECT_EQ(editor.counter(), QStringLiteral("0/20"));
 }
 
-TEST_F(SkillEditorTest, WhereNoColourIsFreeItIsTheFirst) {
+TEST_F(SkillEditorTest, WithoutAFreeColourTheFirstIsChosen) {
     skills.clear();
     for (const std::uint32_t hexRGB : Skill::palette)
         skills.push_back({.id = QString::number(hexRGB), .name = {}, .hexRGB = hexRGB});
@@ -41,7 +41,7 @@ TEST_F(SkillEditorTest, WhereNoColourIsFreeItIsTheFirst) {
     EXPECT_EQ(editor.colorIndex(), 0);
 }
 
-TEST_F(SkillEditorTest, ANewModeStartsWithTheFirstColourWhereNoneIsTaken) {
+TEST_F(SkillEditorTest, NewModeStartsWithTheFirstColourIfAllAreFree) {
     editor.openNew();
     EXPECT_EQ(editor.colorIndex(), 0);
     editor.setName(QStringLiteral("Writing"));
@@ -53,7 +53,7 @@ TEST_F(SkillEditorTest, ANewModeStartsWithTheFirstColourWhereNoneIsTaken) {
     EXPECT_EQ(done[0].hexRGB, 0xFFD60AU);
 }
 
-TEST_F(SkillEditorTest, AModeIsEditedFromWhatItHas) {
+TEST_F(SkillEditorTest, EditStartsWithTheModesValues) {
     editor.openFor(skills[1]);
     EXPECT_FALSE(editor.isAdding());
     EXPECT_TRUE(editor.hasName() && editor.hasColors() && editor.canCommit());
@@ -69,7 +69,7 @@ TEST_F(SkillEditorTest, AModeIsEditedFromWhatItHas) {
     EXPECT_FALSE(editor.isShown());
 }
 
-TEST_F(SkillEditorTest, WhereTheNameAloneIsEditedTheColourStays) {
+TEST_F(SkillEditorTest, EditOfTheNameKeepsTheColour) {
     editor.openFor(skills[1], SkillEditor::Fields::Name);
     EXPECT_TRUE(editor.hasName() && !editor.hasColors() && editor.canCommit());
     editor.setName(QStringLiteral("  Sketching "));
@@ -81,7 +81,7 @@ TEST_F(SkillEditorTest, WhereTheNameAloneIsEditedTheColourStays) {
     EXPECT_EQ(done[0].hexRGB, skills[1].hexRGB);
 }
 
-TEST_F(SkillEditorTest, WhereTheColourAloneIsEditedTheNameStays) {
+TEST_F(SkillEditorTest, EditOfTheColourKeepsTheName) {
     editor.openFor(skills[1], SkillEditor::Fields::Color);
     EXPECT_TRUE(!editor.hasName() && editor.hasColors() && editor.canCommit());
     editor.setName(QStringLiteral("Sketching"));
@@ -93,7 +93,7 @@ TEST_F(SkillEditorTest, WhereTheColourAloneIsEditedTheNameStays) {
     EXPECT_EQ(done[0].hexRGB, Skill::palette[0]);
 }
 
-TEST_F(SkillEditorTest, AColourOutsideThePaletteIsNoneOfIt) {
+TEST_F(SkillEditorTest, ColourOutsideThePaletteSelectsNoSwatch) {
     editor.openFor({.id = QStringLiteral("x"), .name = QStringLiteral("X"), .hexRGB = 0x123456});
     EXPECT_EQ(editor.colorIndex(), -1);
     editor.chooseColor(10);
@@ -135,7 +135,7 @@ TEST_F(SkillEditorTest, ANameOfTwentyCharactersStaysAndOneMoreIsCut) {
     EXPECT_EQ(editor.name(), twenty);
 }
 
-TEST_F(SkillEditorTest, TwentyCharactersAsPeopleCountThemFit) {
+TEST_F(SkillEditorTest, TwentyUserPerceivedCharactersFit) {
     editor.openNew(skills);
     const QString family = QStringLiteral("👩‍👩‍👧");
     editor.setName(family.repeated(21));
@@ -143,7 +143,7 @@ TEST_F(SkillEditorTest, TwentyCharactersAsPeopleCountThemFit) {
     EXPECT_EQ(editor.counter(), QStringLiteral("20/20"));
 }
 
-TEST_F(SkillEditorTest, TurningAwayLeavesNothing) {
+TEST_F(SkillEditorTest, CancelDropsTheEdit) {
     editor.openFor(skills[1], SkillEditor::Fields::Color);
     editor.close();
     editor.commit();

@@ -35,14 +35,14 @@ protected:
     SharePosterPicture m_picture;
 };
 
-TEST_F(SharePosterPictureTest, IsAsHighAsItsWidthAndItsPosterMakeIt) {
+TEST_F(SharePosterPictureTest, HeightFollowsFromWidthAndPoster) {
     EXPECT_EQ(m_picture.implicitWidth(), 422);
     EXPECT_DOUBLE_EQ(m_picture.implicitHeight(), kWidth / 422 * 620);
     m_picture.setPoster(samples::sharePoster(WrappedPeriod::Week));
     EXPECT_DOUBLE_EQ(m_picture.implicitHeight(), kWidth / 422 * 668);
 }
 
-TEST_F(SharePosterPictureTest, IsDrawnForTheScreenAndNotMadeSmaller) {
+TEST_F(SharePosterPictureTest, IsDrawnAtTheScreensScale) {
     QImage drawn(264, 388, QImage::Format_RGB32);
     drawn.fill(Qt::magenta);
     {
@@ -56,7 +56,7 @@ TEST_F(SharePosterPictureTest, IsDrawnForTheScreenAndNotMadeSmaller) {
     EXPECT_EQ(onScreen().copy(whole), drawn.copy(whole));
 }
 
-TEST_F(SharePosterPictureTest, HasRoundCornersWhereItIsAskedTo) {
+TEST_F(SharePosterPictureTest, HasRoundCornersOnRequest) {
     EXPECT_NE(onScreen().pixelColor(0, 0), QColor(Qt::magenta));
     m_picture.setProperty("radius", 14);
     const QImage round = onScreen();
