@@ -162,28 +162,25 @@ AppModel& ModelWorld::launch() {
     autoSkill = std::make_unique<AutoSkillMonitor>(
         AutoSkillMonitor::Environment{time, time, autoQueue, paths, preferences, *skills, frontmost,
                                       idleSource, QStringLiteral("local.vantle.Vantle")});
-    model = std::make_unique<AppModel>(
-        AppModel::Environment{.clock = time,
-                              .scheduler = time,
-                              .ioQueue = ioQueue,
-                              .paths = paths,
-                              .preferences = preferences,
-                              .skills = *skills,
-                              .notifications = notifications,
-                              .idleSource = idleSource,
-                              .screenPower = screens,
-                              .hotKeyPort = hotKeyPort,
-                              .reducedMotion = reducedMotion,
-                              .cardSlot = cardSlot,
-                              .autoSkill = *autoSkill,
-                              .focusLink = focusLink,
-                              .frontmostApp = &frontmost,
-                              .calendar =
-                                  [] {
-                                      return Calendar{QStringLiteral("UTC"), 2, 4};
-                                  },
-                              .terminate = [this] { ++terminations; }},
-        recordingCollaborators(told));
+    model =
+        std::make_unique<AppModel>(AppModel::Environment{.clock = time,
+                                                         .scheduler = time,
+                                                         .ioQueue = ioQueue,
+                                                         .paths = paths,
+                                                         .preferences = preferences,
+                                                         .skills = *skills,
+                                                         .notifications = notifications,
+                                                         .idleSource = idleSource,
+                                                         .screenPower = screens,
+                                                         .hotKeyPort = hotKeyPort,
+                                                         .reducedMotion = reducedMotion,
+                                                         .cardSlot = cardSlot,
+                                                         .autoSkill = *autoSkill,
+                                                         .focusLink = focusLink,
+                                                         .frontmostApp = &frontmost,
+                                                         .calendar = [this] { return calendar; },
+                                                         .terminate = [this] { ++terminations; }},
+                                   recordingCollaborators(told));
     settle();
     return *model;
 }

@@ -97,6 +97,7 @@ public:
     AppPaths paths{files, QStringLiteral("/home/ada/.local/share")};
     Told told;
     int terminations = 0;
+    Calendar calendar{QStringLiteral("UTC"), 2, 4};
 
     std::unique_ptr<SkillList> skills;
     std::unique_ptr<AutoSkillMonitor> autoSkill;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 
 namespace vantle::tests {
 
@@ -29,6 +30,8 @@ std::optional<Application> application(std::size_t which) {
 
 Life::Life(std::uint32_t seed) : m_random(seed) {
     settings::autoStart.write(world.preferences, seed % 3 != 0);
+    // Any day of a year, so that both changes of the clocks come to pass.
+    world.time.shiftWall(seconds(0, 365 * 24 * kHour));
     launch();
 }
 
@@ -69,7 +72,7 @@ void Life::end() {
 void Life::loseOffer() { world.told.recoveryKeep = nullptr; }
 
 QStringList Life::day() {
-    static constexpr std::array<Deed, 20> deeds{{{"work", &Life::work},
+    static constexpr std::array<Deed, 23> deeds{{{"work", &Life::work},
                                                  {"work", &Life::work},
                                                  {"work", &Life::work},
                                                  {"press", &Life::press},
@@ -84,6 +87,9 @@ QStringList Life::day() {
                                                  {"no counter", &Life::loseCounter},
                                                  {"clock", &Life::setClock},
                                                  {"disk", &Life::breakDisk},
+                                                 {"fault", &Life::failOneOperation},
+                                                 {"preferences", &Life::changePreferences},
+                                                 {"zone", &Life::changeTimeZone},
                                                  {"die", &Life::die},
                                                  {"log by hand", &Life::logByHand},
                                                  {"edit", &Life::editLog},
@@ -188,6 +194,40 @@ void Life::breakDisk() {
         press();
     }
     healDisk();
+}
+
+void Life::failOneOperation() {
+    // Not the mode: where that alone fails, a record is in the log before it is acknowledged.
+    using Operation = fakes::FaultyFileSystem::Operation;
+    static constexpr std::array operations{Operation::Create, Operation::Open, Operation::Read,
+                                           Operation::Write,  Operation::Sync, Operation::Size,
+                                           Operation::Rename, Operation::Names};
+    static constexpr std::array codes{ENOSPC, EDQUOT, EIO, EACCES, EROFS, EMFILE, EINTR};
+    const Operation operation = operations[pick(operations.size())];
+    promises.noteDiskBroken(true);
+    world.files.fail(operation, QStringLiteral("*"), codes[pick(codes.size())]);
+    work();
+    press();
+    world.files.heal(operation, QStringLiteral("*"));
+    // What could not be written is written with the next minute.
+    work();
+    promises.noteDiskBroken(false);
+}
+
+void Life::changePreferences() {
+    auto& preferences = world.preferences;
+    settings::autoStart.write(preferences, pick(2) == 0);
+    settings::autoMode.write(preferences, pick(4) != 0);
+    settings::idleThresholdSeconds.write(preferences, 60.0 * double(1 + pick(10)));
+    settings::dailyGoalHours.write(preferences, double(pick(12)));
+}
+
+void Life::changeTimeZone() {
+    static constexpr std::array zones{"Europe/Berlin", "America/New_York", "Asia/Kolkata",
+                                      "Australia/Lord_Howe", "Pacific/Apia"};
+    world.calendar = Calendar{QString::fromLatin1(zones[pick(zones.size())]), int(pick(7)) + 1,
+                              1 + int(pick(7))};
+    world.model->refreshPanelState();
 }
 
 void Life::healDisk() {

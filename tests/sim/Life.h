@@ -57,6 +57,9 @@ private:
     void loseCounter();
     void setClock();
     void breakDisk();
+    void failOneOperation();
+    void changePreferences();
+    void changeTimeZone();
     void die();
     void answerOffer();
     void answerPrompt();

@@ -3,12 +3,14 @@
 // log. After every step the promises that must never break are checked.
 //
 // The first seed comes from the clock and is printed, so that no two runs see the same lives.
-// VANTLE_SIM_SEED=<seed> plays that one life again.
+// VANTLE_SIM_SEED=<seed> plays that one life again; VANTLE_LAB_SECONDS=<n> plays lives for that
+// long.
 #include "sim/Life.h"
 
 #include "tracking/JsonForm.h"
 
 #include <QDateTime>
+#include <QDeadlineTimer>
 
 #include <gtest/gtest.h>
 
@@ -20,16 +22,20 @@ namespace {
 constexpr int kDays = 60;
 
 TEST(Life, KeepsItsPromises) {
-    constexpr std::uint32_t kLives = 6;
+    constexpr std::uint32_t kLives = 4;
     const bool one = qEnvironmentVariableIsSet("VANTLE_SIM_SEED");
     const auto first =
         one ? static_cast<std::uint32_t>(qgetenv("VANTLE_SIM_SEED").toUInt())
             : static_cast<std::uint32_t>(QDateTime::currentSecsSinceEpoch() * kLives);
     std::cout << "first seed: VANTLE_SIM_SEED=" << first << std::endl;
+    const int seconds = qEnvironmentVariableIntValue("VANTLE_LAB_SECONDS");
+    const QDeadlineTimer end(1000 * seconds);
     int kills = 0;
     int started = 0;
     int splits = 0;
-    for (std::uint32_t life = 0; life < (one ? 1 : kLives); ++life) {
+    int days = 0;
+    for (std::uint32_t life = 0;
+         one ? life < 1 : life < kLives || (seconds > 0 && !end.hasExpired()); ++life) {
         const std::uint32_t seed = first + life;
         Life user(seed);
         for (int day = 1; day <= kDays; ++day) {
@@ -37,13 +43,19 @@ TEST(Life, KeepsItsPromises) {
             ASSERT_TRUE(broken.isEmpty()) << "VANTLE_SIM_SEED=" << seed << " day " << day << ": "
                                           << broken.join(QStringLiteral("; ")).toStdString()
                                           << "\nafter " << user.story().toStdString();
+            ++days;
         }
         kills += user.promises.killsChecked;
         started += user.sessionsByItself;
         splits += user.splits;
     }
-    std::cout << kills << " kills checked, " << started << " auto starts, " << splits << " splits"
-              << std::endl;
+    const auto tell = [](const char* what, int count) {
+        std::cout << "lab: simulated lives: " << what << ": " << count << std::endl;
+    };
+    tell("days", days);
+    tell("kills", kills);
+    tell("auto starts", started);
+    tell("splits", splits);
     if (one) return;
     // A life in which these never happen checks nothing.
     EXPECT_GE(kills, 20);

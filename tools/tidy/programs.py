@@ -14,7 +14,7 @@ from tree import CPP, Finding
 RULE = "programs"
 TABLE = "tools/setup/programs.txt"
 FOLDERS = ("tests", "tools", "bench", "packaging", ".ci")
-COMMANDS = ("run", "test", "measure")
+COMMANDS = ("run", "test", "measure", "prove")
 
 # Essential packages, and the installer: no Debian is without them.
 ALWAYS_THERE = {"-", "apt", "base-files", "base-passwd", "bash", "bsdutils", "coreutils", "dash",
