@@ -291,10 +291,6 @@
 <context>
     <name>MilestoneBadgeView</name>
     <message>
-        <source>%1 hours, %2</source>
-        <translation>%1 Stunden, %2</translation>
-    </message>
-    <message>
         <source>hours</source>
         <translation>Stunden</translation>
     </message>
@@ -827,13 +823,6 @@ Sie zählt zu deinen Summen und wird als Eintrag von Hand markiert.</translation
     </message>
 </context>
 <context>
-    <name>StepDots</name>
-    <message>
-        <source>Step %1 of %2</source>
-        <translation>Schritt %1 von %2</translation>
-    </message>
-</context>
-<context>
     <name>StopSummaryView</name>
     <message>
         <source>Work note</source>
@@ -878,6 +867,35 @@ Sie zählt zu deinen Summen und wird als Eintrag von Hand markiert.</translation
 </context>
 <context>
     <name>Words</name>
+    <message>
+        <source>.</source>
+        <comment>decimal mark</comment>
+        <translation>,</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>&lt;1%</source>
+        <translation>&lt;1 %</translation>
+    </message>
+    <message>
+        <source>%1 hours, %2</source>
+        <translation>%1 Stunden, %2</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>Schritt %1 von %2</translation>
+    </message>
+    <message>
+        <source>Start or stop a session</source>
+        <translation>Sitzung starten oder stoppen</translation>
+    </message>
+    <message>
+        <source>Count the time you really work</source>
+        <translation>Zählt die Zeit, die du wirklich arbeitest</translation>
+    </message>
     <message>
         <source>Couldn’t save this session</source>
         <translation>Diese Sitzung konnte nicht gesichert werden</translation>

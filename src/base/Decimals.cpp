@@ -1,5 +1,7 @@
 #include "base/Decimals.h"
 
+#include "base/Words.h"
+
 #include <array>
 #include <charconv>
 
@@ -11,5 +13,11 @@ QString fixedDecimals(double value, int decimals) {
                                    std::chars_format::fixed, decimals);
     return QString::fromLatin1(buffer.data(), end.ptr - buffer.data());
 }
+
+QString shownDecimals(double value, int decimals) {
+    return fixedDecimals(value, decimals).replace(QLatin1Char('.'), Words::tr(".", "decimal mark"));
+}
+
+QString shownPercent(double percent) { return Words::tr("%1%").arg(fixedDecimals(percent, 0)); }
 
 } // namespace vantle

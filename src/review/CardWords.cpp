@@ -34,7 +34,7 @@ QString withOpenSpaces(QString text) {
 }
 
 QString share(double hours, const WrappedStats& stats) {
-    return fixedDecimals(hours / stats.totalHours * 100, 0) + QLatin1Char('%');
+    return shownPercent(hours / stats.totalHours * 100);
 }
 
 QList<QColor> dotColors(const WrappedStats& stats, std::int64_t limit) {

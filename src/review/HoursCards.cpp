@@ -1,5 +1,6 @@
 #include "review/HoursCards.h"
 
+#include "base/Bidi.h"
 #include "base/DateText.h"
 #include "base/Words.h"
 #include "tracking/DashFormat.h"
@@ -12,6 +13,10 @@ QString SkillLine::spoken() const {
     QStringList parts{name, hours, share};
     parts.removeAll(QString());
     return parts.join(QStringLiteral(", "));
+}
+
+QString MilestoneBadge::spoken() const {
+    return Words::tr("%1 hours, %2").arg(QString::number(hours), bidi::isolated(date));
 }
 
 } // namespace vantle

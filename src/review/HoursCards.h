@@ -80,11 +80,15 @@ struct MilestoneBadge {
     Q_PROPERTY(int hours MEMBER hours CONSTANT)
     Q_PROPERTY(QString date MEMBER date CONSTANT)
     Q_PROPERTY(QList<QColor> ring MEMBER ring CONSTANT)
+    Q_PROPERTY(QString spoken READ spoken CONSTANT)
 
 public:
     int hours = 0;
     QString date;       ///< "Mar 9"
     QList<QColor> ring; ///< colours of the hours up to the milestone, oldest first
+
+    /// The badge in words, for assistive tools.
+    [[nodiscard]] QString spoken() const;
 };
 
 struct MilestonesCard {

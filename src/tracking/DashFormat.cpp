@@ -22,9 +22,8 @@ QString hourUnit() { return Words::tr("h"); }
 /// Formats with one decimal and no trailing ".0"; without decimals from 99.95 on.
 QString decimalHours(double hours) {
     if (hours >= 99.95) return fixedDecimals(hours, 0);
-    QString text = fixedDecimals(hours, 1);
-    if (text.endsWith(QLatin1String(".0"))) text.chop(2);
-    return text;
+    const bool isWhole = fixedDecimals(hours, 1).endsWith(QLatin1String(".0"));
+    return isWhole ? fixedDecimals(hours, 0) : shownDecimals(hours, 1);
 }
 
 QString grouped(std::int64_t minutes) { return QLocale::system().toString(qlonglong(minutes)); }

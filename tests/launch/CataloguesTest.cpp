@@ -1,5 +1,6 @@
 #include "launch/Catalogues.h"
 
+#include "base/Decimals.h"
 #include "base/Words.h"
 #include "support/QtPrinters.h"
 #include "support/Text.h"
@@ -42,6 +43,12 @@ TEST(Catalogues, PluralHasTheFormsOfItsLanguage) {
     EXPECT_EQ(
         Words::tr("%1 across %n sessions, led by %2.", nullptr, 3).arg(text("2 h"), text("Build")),
         text("2 h in 3 Sitzungen, vor allem Build."));
+}
+
+TEST(Catalogues, NumbersHaveTheMarksOfTheirLanguage) {
+    const Catalogues catalogues({text("de")});
+    EXPECT_EQ(shownDecimals(1.42, 1), text("1,4"));
+    EXPECT_EQ(shownPercent(39.6), text("40\u00a0%"));
 }
 
 TEST(Catalogues, AreGoneAfterTheirLife) {

@@ -102,6 +102,23 @@ class Installed(unittest.TestCase):
                                      check=False)
                 self.assertEqual((ran.returncode, ran.stdout, ran.stderr), (0, "", ""))
 
+    def test_menu_and_software_centres_speak_each_language_of_the_program(self):
+        catalogues = (SOURCE / "resources/translations").glob("vantle_*.ts")
+        languages = {file.stem.removeprefix("vantle_") for file in catalogues} - {"en"}
+        groups = entry_at(self.share / f"applications/{ID}.desktop")
+        info = ElementTree.parse(self.share / f"metainfo/{ID}.metainfo.xml")
+        of_language = "{http://www.w3.org/XML/1998/namespace}lang"
+        for language in languages:
+            for name, group in groups.items():
+                for key in {"Name", "GenericName", "Comment", "Keywords"} & group.keys():
+                    if group[key] not in ("Vantle", "Wrapped"):
+                        self.assertIn(f"{key}[{language}]", group, name)
+            for place in (".", "description", "description/ul", "screenshots/screenshot"):
+                for part in info.iterfind(place):
+                    for tag in ("summary", "p", "li", "caption"):
+                        texts = [one.get(of_language) for one in part.iterfind(tag)]
+                        self.assertEqual(texts.count(language), texts.count(None), (place, tag))
+
     def test_software_centres_find_the_parts_in_agreement(self):
         asked = subprocess.run(["appstreamcli", "validate-tree", "--no-net", self.prefix.parent],
                                capture_output=True, text=True, check=False)

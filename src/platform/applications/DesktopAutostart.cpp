@@ -1,5 +1,6 @@
 #include "platform/applications/DesktopAutostart.h"
 
+#include "base/Words.h"
 #include "platform/WholeFile.h"
 #include "platform/applications/DesktopEntry.h"
 
@@ -12,7 +13,7 @@ QByteArray entryFor(const QString& programPath) {
     entry.setText("Type", QStringLiteral("Application"));
     entry.setText("Version", QStringLiteral("1.4"));
     entry.setText("Name", QStringLiteral("Vantle"));
-    entry.setText("Comment", QStringLiteral("Counts the time you actually work"));
+    entry.setText("Comment", Words::tr("Count the time you really work"));
     entry.setText("Icon", QStringLiteral("local.vantle.Vantle"));
     // Makes desktops ignore the entry once the program is uninstalled.
     entry.setText("TryExec", programPath);

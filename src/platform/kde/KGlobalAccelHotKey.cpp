@@ -1,5 +1,7 @@
 #include "platform/kde/KGlobalAccelHotKey.h"
 
+#include "base/Words.h"
+
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QKeySequence>
@@ -21,8 +23,9 @@ const QString kComponent = QStringLiteral("local.vantle.Vantle");
 const QString kAction = QStringLiteral("toggle");
 
 /// The action's id in the service, and its label in the settings.
-const QStringList kId{kComponent, kAction, QStringLiteral("Vantle"),
-                      QStringLiteral("Start or stop a session")};
+QStringList actionId() {
+    return {kComponent, kAction, QStringLiteral("Vantle"), Words::tr("Start or stop a session")};
+}
 
 /// Flags of `setShortcutKeys`.
 constexpr uint kSetPresent = 2; ///< use remembered keys, else the given ones
@@ -78,7 +81,7 @@ void KGlobalAccelHotKey::hear() {
     m_service.hear(kPath, kInterface, QStringLiteral("yourShortcutsChanged"),
                    [this](const QDBusMessage& signal) {
                        const auto id = signal.arguments().value(0).toStringList();
-                       if (!m_isWanted || id.mid(0, 2) != kId.mid(0, 2)) return;
+                       if (!m_isWanted || id.mid(0, 2) != actionId().mid(0, 2)) return;
                        ++m_attempt;
                        activate(true); // keys alone do not activate it
                    });
@@ -109,16 +112,17 @@ void KGlobalAccelHotKey::unregisterKey() {
     ++m_attempt;
     m_outcome = {};
     auto call = m_service.call(kPath, kInterface, QStringLiteral("setInactive"));
-    if (m_service.isThere()) m_session.send(call << kId);
+    if (m_service.isThere()) m_session.send(call << actionId());
 }
 
 void KGlobalAccelHotKey::begin() {
     ++m_attempt;
     auto call = m_service.call(kPath, kInterface, QStringLiteral("doRegister"));
-    m_session.send(call << kId);
+    m_session.send(call << actionId());
     ask<Keys>(QStringLiteral("setShortcutKeys"),
-              {kId, QVariant::fromValue(Keys{combination()}), kIsDefault}, [](const Keys&) {});
-    ask<Keys>(QStringLiteral("shortcutKeys"), {kId}, [this](const Keys& remembered) {
+              {actionId(), QVariant::fromValue(Keys{combination()}), kIsDefault},
+              [](const Keys&) {});
+    ask<Keys>(QStringLiteral("shortcutKeys"), {actionId()}, [this](const Keys& remembered) {
         if (textOf(remembered).isEmpty())
             askWhetherFree([this] { activate(false); });
         else
@@ -138,7 +142,7 @@ void KGlobalAccelHotKey::askWhetherFree(std::function<void()> isFree) {
 
 void KGlobalAccelHotKey::activate(bool mayBeHeldByAnother) {
     ask<Keys>(QStringLiteral("setShortcutKeys"),
-              {kId, QVariant::fromValue(Keys{combination()}), kSetPresent},
+              {actionId(), QVariant::fromValue(Keys{combination()}), kSetPresent},
               [this, mayBeHeldByAnother](const Keys& taken) {
                   const QString keys = textOf(taken);
                   const bool isFixed = keys == textOf({combination()});

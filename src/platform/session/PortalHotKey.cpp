@@ -1,5 +1,6 @@
 #include "platform/session/PortalHotKey.h"
 
+#include "base/Words.h"
 #include "platform/AcceleratorText.h"
 #include "platform/session/LateBus.h"
 
@@ -93,7 +94,7 @@ private:
     void bind() {
         const PortalShortcuts wanted{
             {kShortcut,
-             {{QStringLiteral("description"), QStringLiteral("Start or stop a session")},
+             {{QStringLiteral("description"), Words::tr("Start or stop a session")},
               {QStringLiteral("preferred_trigger"), QStringLiteral("LOGO+ALT+b")}}}};
         request(QStringLiteral("BindShortcuts"),
                 {QVariant::fromValue(QDBusObjectPath(m_session)), QVariant::fromValue(wanted),

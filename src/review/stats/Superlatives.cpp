@@ -42,7 +42,7 @@ Candidate biggestDay(const SuperlativeFacts& facts) {
     if (ratio < 1.5) return std::nullopt;
     return SuperlativeLine{
         QStringLiteral("bolt.fill"), 0xFF9F0A,
-        Words::tr("Your biggest day was %1x your average.").arg(fixedDecimals(ratio, 1)),
+        Words::tr("Your biggest day was %1x your average.").arg(shownDecimals(ratio, 1)),
         std::min(ratio, 6.0) * 8.0 + 50.0};
 }
 

@@ -23,7 +23,7 @@ DarkMenuPanel {
     }
     DarkMenuSeparator {}
     DarkMenuRow {
-        text: qsTr("Delete %1").arg(menu.skillName)
+        text: qsTr("Delete %1").arg(KitText.isolated(menu.skillName))
         danger: true
         onTriggered: menu.deleteRequested()
     }

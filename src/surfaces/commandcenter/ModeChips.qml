@@ -101,7 +101,7 @@ Item {
         }
         DarkMenuRow {
             visible: menu.chip !== null && menu.chip.deletable
-            text: menu.chip ? qsTr("Delete %1").arg(menu.chip.text) : ""
+            text: menu.chip ? qsTr("Delete %1").arg(KitText.isolated(menu.chip.text)) : ""
             danger: true
             onTriggered: {
                 menu.close();

@@ -128,8 +128,8 @@ std::vector<SkillTotalLine> skillTotals(const Sessions& sessions, const Dashboar
 
 QString shareText(double part, double whole) {
     const double percent = part / whole * 100;
-    if (percent > 0 && percent < 0.5) return QStringLiteral("<1%");
-    return fixedDecimals(percent, 0) + QLatin1Char('%');
+    if (percent > 0 && percent < 0.5) return Words::tr("<1%");
+    return shownPercent(percent);
 }
 
 std::vector<RecentLine> recent(const Sessions& sessions, const DashboardSetting& setting) {

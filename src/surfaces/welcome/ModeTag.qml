@@ -52,7 +52,7 @@ Plate {
         anchors.right: remove.left
         anchors.rightMargin: DarkUI.space2
         anchors.verticalCenter: parent.verticalCenter
-        name: qsTr("Rename %1").arg(tag.name)
+        name: qsTr("Rename %1").arg(KitText.isolated(tag.name))
         icon: "pencil"
         iconSize: DarkUI.space14
         iconColor: DarkUI.iconStrip
@@ -65,7 +65,7 @@ Plate {
         anchors.rightMargin: DarkUI.space8
         anchors.verticalCenter: parent.verticalCenter
         visible: tag.deletable
-        name: qsTr("Remove %1").arg(tag.name)
+        name: qsTr("Remove %1").arg(KitText.isolated(tag.name))
         icon: "close"
         iconSize: DarkUI.space12
         iconColor: DarkUI.iconStrip
@@ -84,7 +84,7 @@ Plate {
         name: tag.name
 
         DarkMenuRow {
-            text: qsTr("Rename %1").arg(tag.name)
+            text: qsTr("Rename %1").arg(KitText.isolated(tag.name))
             onTriggered: {
                 menu.close();
                 tag.renameWanted();
@@ -92,7 +92,7 @@ Plate {
         }
         DarkMenuRow {
             visible: tag.deletable
-            text: qsTr("Delete %1").arg(tag.name)
+            text: qsTr("Delete %1").arg(KitText.isolated(tag.name))
             danger: true
             onTriggered: {
                 menu.close();

@@ -63,7 +63,7 @@ GlassBackground {
         EnterButton {
             x: panel.margin
             width: panel.inner
-            text: qsTr("Enter %1 Mode").arg(panel.chosenMode.skillName)
+            text: qsTr("Enter %1 Mode").arg(KitText.isolated(panel.chosenMode.skillName))
             accent: panel.chosenMode.color
         }
 

@@ -13,7 +13,7 @@ Item {
     implicitWidth: (count - 1) * WelcomeTokens.dotPitch + WelcomeTokens.dot
     implicitHeight: WelcomeTokens.dot
     Accessible.role: Accessible.Indicator
-    Accessible.name: qsTr("Step %1 of %2").arg(current + 1).arg(count)
+    Accessible.name: KitText.step(current, count)
 
     Repeater {
         model: dots.count

@@ -22,7 +22,7 @@ Plate {
     color: DarkUI.cardFill
     edge: DarkUI.hairline
     Accessible.role: Accessible.StaticText
-    Accessible.name: qsTr("%1 hours, %2").arg(badge.hours).arg(badge.date)
+    Accessible.name: badge.spoken
 
     DotRing {
         id: ring

@@ -1,12 +1,16 @@
 // Text functions for views.
 #pragma once
 
+#include "base/Bidi.h"
 #include "base/KeySigns.h"
 #include "base/Text.h"
 #include "base/Words.h"
 
 #include <QColor>
+#include <QFont>
+#include <QList>
 #include <QObject>
+#include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
 namespace vantle {
@@ -28,6 +32,17 @@ public:
     Q_INVOKABLE [[nodiscard]] static QString first(const QString& text, int limit) {
         return text::hasAtMost(text, limit) ? text : text::firstCharacters(text, limit);
     }
+    /// Returns a name or a date for a sentence, isolated if it reads from right to left.
+    Q_INVOKABLE [[nodiscard]] static QString isolated(const QString& part) {
+        return bidi::isolated(part);
+    }
+    /// Returns the widths of parts that fill `room` side by side, each with a text and `padding`:
+    /// equal ones if the widest fits, else what each needs and an equal part of the rest. In px.
+    [[nodiscard]] static QList<double> partWidths(const QStringList& texts, const QFont& font,
+                                                  double padding, double room);
+    /// Returns the left edge of part `index` of these, or their right end for a higher one. In px.
+    Q_INVOKABLE [[nodiscard]] static double partLeft(const QStringList& texts, const QFont& font,
+                                                     double padding, double room, int index);
     /// Returns the text for screen readers, with keys in words.
     Q_INVOKABLE [[nodiscard]] static QString spoken(const QString& text) {
         return keySignsInWords(text);
@@ -44,6 +59,10 @@ public:
     /// Returns the position of `page` (from 0) among `count` pages.
     Q_INVOKABLE [[nodiscard]] static QString place(int page, int count) {
         return Words::tr("Page %1 of %2").arg(QString::number(page + 1), QString::number(count));
+    }
+    /// Returns "Step 3 of 9" for step 2.
+    Q_INVOKABLE [[nodiscard]] static QString step(int step, int count) {
+        return Words::tr("Step %1 of %2").arg(QString::number(step + 1), QString::number(count));
     }
     /// Returns the announcement for a page: its position if there are several, and its texts unless
     /// empty.

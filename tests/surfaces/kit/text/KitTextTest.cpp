@@ -1,5 +1,7 @@
 #include "surfaces/kit/text/KitText.h"
 
+#include <QFontMetricsF>
+
 #include <gtest/gtest.h>
 
 namespace vantle {
@@ -37,6 +39,21 @@ TEST(KitText, ALimitCountsWhatTheUserSees) {
 
 TEST(KitText, OfSixHundredCharactersFiveHundredStay) {
     EXPECT_EQ(KitText::first(QString(600, QLatin1Char('a')), 500), QString(500, QLatin1Char('a')));
+}
+
+TEST(KitText, PartsAreAlikeWhereTheWidestHasRoom) {
+    const QStringList texts = {QStringLiteral("Today"), QStringLiteral("Last week")};
+    EXPECT_EQ(KitText::partWidths(texts, QFont(), 12, 600), QList<double>({300, 300}));
+    EXPECT_EQ(KitText::partWidths({}, QFont(), 12, 600), QList<double>());
+}
+
+TEST(KitText, WidestPartTakesFromTheOthersAndAllFillTheRoom) {
+    const QStringList texts = {QStringLiteral("A week of quite a few words"), QStringLiteral("a"),
+                               QStringLiteral("b")};
+    const double needed = QFontMetricsF(QFont()).horizontalAdvance(texts[0]) + 12;
+    const QList<double> widths = KitText::partWidths(texts, QFont(), 12, needed + 60);
+    EXPECT_GE(widths[0], needed);
+    EXPECT_NEAR(widths[0] + widths[1] + widths[2], needed + 60, 1e-6);
 }
 
 } // namespace
