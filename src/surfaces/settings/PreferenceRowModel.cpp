@@ -93,7 +93,9 @@ int PreferenceRowModel::wholeValue() const {
 }
 
 QString PreferenceRowModel::worded(const char* source) const {
-    return range() ? Words::tr(source, nullptr, wholeValue()) : Words::tr(source);
+    // With a number a catalogue is asked for a plural form, which a text without one does not have.
+    const bool counts = QByteArrayView(source).contains("%n");
+    return counts ? Words::tr(source, nullptr, wholeValue()) : Words::tr(source);
 }
 
 } // namespace vantle
