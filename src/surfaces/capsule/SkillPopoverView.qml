@@ -16,8 +16,10 @@ DarkPopover {
     readonly property real heightOfBoth: 204
     readonly property real titleTop: tight ? 10 : DarkUI.space12
     readonly property real subtitleTop: 30
-    readonly property real nameTop: 54
-    readonly property real colorTop: tight ? 31 : 106
+    // px that further lines of the subtitle take
+    readonly property real moreLines: tight ? 0 : subtitle.height - DarkUI.small.line
+    readonly property real nameTop: 54 + moreLines
+    readonly property real colorTop: tight ? 31 : 106 + moreLines
     readonly property real belowKicker: tight ? DarkUI.space14 : DarkUI.space16
     readonly property real bottomMargin: tight ? 9 : DarkUI.space12
     readonly property TypeRole kickerRole: TypeRole {
@@ -28,7 +30,8 @@ DarkPopover {
     }
 
     width: DarkUI.popoverWidth
-    height: tight ? heightOfColor : editor.hasColors ? heightOfBoth : heightOfName
+    height: tight ? heightOfColor
+                  : (editor.hasColors ? heightOfBoth : heightOfName) + moreLines
     name: title.text
     onDismissed: editor.close()
     Keys.onReturnPressed: editor.commit()
@@ -53,13 +56,16 @@ DarkPopover {
     }
 
     DarkText {
+        id: subtitle
         x: DarkUI.space16
         y: popover.subtitleTop
+        width: parent.width - 2 * DarkUI.space16
         visible: popover.editor.hasName
         text: popover.editor.adding ? qsTr("What do you want to build time toward?")
                                     : qsTr("Use a short name you will recognize at a glance.")
         role: DarkUI.small
         color: DarkUI.textSecondary
+        wrapMode: Text.Wrap
     }
 
     DarkKicker {

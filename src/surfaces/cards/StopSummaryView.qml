@@ -80,8 +80,10 @@ FloatingSurface {
 
         DarkText {
             visible: text !== ""
+            width: parent.width
             text: view.model.firstSessionText
             role: DarkUI.panelTitle
+            wrapMode: Text.Wrap
         }
 
         Item {
@@ -114,6 +116,7 @@ FloatingSurface {
             }
 
             Item {
+                id: slice
                 visible: view.model.sliceFraction > 0
                 width: DarkUI.summaryDotSize
                 height: result.height
@@ -130,7 +133,10 @@ FloatingSurface {
 
             DarkText {
                 id: result
+                width: Math.min(implicitWidth, said.width - (slice.visible ? slice.width
+                                                             + DarkUI.space8 : 0))
                 text: view.model.resultText
+                wrapMode: Text.Wrap
                 role: view.model.dotCount > 0 ? DarkUI.bodyMedium : DarkUI.body
                 color: view.model.dotCount > 0 ? DarkUI.textPrimary : DarkUI.textSecondary
             }
@@ -192,12 +198,15 @@ FloatingSurface {
         DarkText {
             id: lockText
             x: lockIcon.width + DarkUI.space4
+            width: parent.width - x - (counter.text === "" ? 0 : counter.width + DarkUI.space8)
             text: view.model.lockText
             role: DarkUI.small
             color: DarkUI.textTertiary
+            wrapMode: Text.Wrap
         }
 
         TabularText {
+            id: counter
             anchors.right: parent.right
             text: view.model.counterText
             role: DarkUI.small

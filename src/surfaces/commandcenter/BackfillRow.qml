@@ -9,7 +9,7 @@ Item {
     required property list<int> choices // minutes
     signal chosen(int minutes)
 
-    implicitHeight: DarkUI.space12 + DarkUI.largeChipHeight
+    implicitHeight: DarkUI.space12 + inside.height
 
     component BackfillChip: KitPressable {
         id: chip
@@ -41,16 +41,21 @@ Item {
     }
 
     Item {
+        id: inside
         y: DarkUI.space12
         width: parent.width
-        height: DarkUI.largeChipHeight
+        height: Math.max(DarkUI.largeChipHeight, question.height)
 
         DarkText {
             id: question
+            anchors.left: parent.left
+            anchors.right: group.left
+            anchors.rightMargin: DarkUI.space8
             anchors.verticalCenter: parent.verticalCenter
             text: qsTr("Started earlier?")
             role: DarkUI.caption
             color: DarkUI.textSecondary
+            wrapMode: Text.Wrap
             Accessible.description: qsTr("Credit time back, only if this Mac was really active.")
         }
 

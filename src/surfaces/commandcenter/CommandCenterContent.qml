@@ -43,22 +43,29 @@ FocusScope {
             width: content.inner
             height: headline.height + DarkUI.space2 + explanation.height + DarkUI.space18
 
+            TextMetrics {
+                id: wholeTitle
+                font: headline.font
+                text: content.model.title
+            }
             DarkText {
                 id: headline
                 readonly property real room: parent.width - keycap.width - DarkUI.space12
+                // What does not fit beside the shortcut takes more lines, together with the time.
+                readonly property bool wrapped: wholeTitle.advanceWidth > room
                 y: DarkUI.space18
-                width: Math.min(implicitWidth, room - time.implicitWidth)
-                text: content.model.titleState
+                width: wrapped ? room : implicitWidth
+                text: wrapped ? content.model.title : content.model.titleState
                 role: DarkUI.panelTitle
-                elide: Text.ElideRight
+                wrapMode: Text.Wrap
                 Accessible.role: Accessible.Heading
                 Accessible.name: content.model.title
             }
-            // Elides a long name, never the time after it.
             DarkText {
                 id: time
                 anchors.left: headline.right
                 anchors.baseline: headline.baseline
+                visible: !headline.wrapped
                 text: content.model.titleTime === "" ? "" : " · " + content.model.titleTime
                 role: DarkUI.panelTitle
                 Accessible.ignored: true
@@ -71,7 +78,7 @@ FocusScope {
                 text: content.model.subtitle
                 role: DarkUI.caption
                 color: DarkUI.textSecondary
-                elide: Text.ElideRight
+                wrapMode: Text.Wrap
             }
             Keycap {
                 id: keycap

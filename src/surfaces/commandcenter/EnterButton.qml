@@ -73,6 +73,8 @@ KitPressable {
             width: Math.min(implicitWidth, parent.width - 2 * DarkUI.space14)
             text: button.text
             role: DarkUI.leadButton
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: DarkUI.small.size
             color: Tint.inkOn(button.accent)
             elide: Text.ElideMiddle
             Accessible.ignored: true

@@ -1,4 +1,4 @@
-// A card with a heading and a secondary text at its right.
+// A card with a heading and a secondary text, at its right if it fits, else below.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -14,6 +14,10 @@ DarkCard {
     readonly property real innerTop: 38
     // From the middle of the room below the heading to the card's own, where an empty card speaks.
     readonly property real middleOffset: (height - area.height) / 2 - area.y
+    readonly property bool split: detail !== "" && title.width + DarkUI.space12
+                                                   + smallest.advanceWidth > innerWidth
+    // px that the card is higher for it
+    readonly property real detailHeight: split ? quiet.height : 0
 
     padding: 0
 
@@ -26,11 +30,18 @@ DarkCard {
         Accessible.role: Accessible.Heading
     }
 
+    TextMetrics {
+        id: smallest
+        font: DarkUI.small.font
+        text: card.detail
+    }
+
     DarkText {
-        anchors.right: parent.right
-        anchors.rightMargin: DarkUI.space16
-        anchors.baseline: title.baseline
-        width: Math.min(implicitWidth, card.innerWidth - title.width - DarkUI.space12)
+        id: quiet
+        x: card.split ? DarkUI.space16 : card.width - DarkUI.space16 - width
+        y: card.split ? title.y + title.height : title.y + title.baselineOffset - baselineOffset
+        width: card.split ? card.innerWidth
+                          : Math.min(implicitWidth, card.innerWidth - title.width - DarkUI.space12)
         text: card.detail
         role: DarkUI.caption
         color: DarkUI.textTertiary
@@ -43,7 +54,7 @@ DarkCard {
     Item {
         id: area
         x: DarkUI.space16
-        y: Math.round(card.innerTop * DarkUI.textScale)
+        y: Math.round(card.innerTop * DarkUI.textScale) + card.detailHeight
         width: card.innerWidth
         height: card.height - y - DarkUI.space12
     }

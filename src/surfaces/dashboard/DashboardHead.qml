@@ -8,9 +8,12 @@ FocusScope {
     id: head
 
     required property DashboardView model
-    required property bool stacked // whether the title is above the controls
+    required property bool narrow
+    // Puts the title above the controls if both do not fit on one line.
+    readonly property bool stacked: narrow || title.implicitWidth + DarkUI.space12 + actionsWidth
+                                              > width
     readonly property real actionsWidth: logging.width + wrapped.width + 2 * actions.spacing
-                                         + (open ? chip.width : start.width)
+                                         + (open ? chip.implicitWidth : start.width)
     property bool open: false // follows the model through follow()
     readonly property real leastHeight: 34
 
@@ -86,9 +89,7 @@ FocusScope {
             id: chip
             visible: head.open
             model: head.model
-            room: head.stacked ? head.width
-                               : head.width - Math.ceil(title.implicitWidth) - DarkUI.space12
-                                 - logging.width - wrapped.width - 2 * actions.spacing
+            room: head.width
         }
     }
 }

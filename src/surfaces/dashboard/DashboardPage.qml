@@ -14,6 +14,7 @@ FocusScope {
     readonly property real leastBeside: 560 // px of width for two cards side by side
     readonly property real skillsWidth: 246
     readonly property real cardHeight: Math.round(208 * DarkUI.textScale)
+    readonly property real detailHeight: Math.max(totals.detailHeight, recent.detailHeight)
 
     focus: true
     Accessible.role: Accessible.Pane
@@ -36,7 +37,7 @@ FocusScope {
             DashboardHead {
                 width: page.inner
                 model: page.model
-                stacked: page.stacked
+                narrow: page.stacked
                 focus: true
             }
 
@@ -114,15 +115,17 @@ FocusScope {
                 spacing: DarkUI.space12
 
                 SkillTotalsCard {
+                    id: totals
                     width: page.stacked ? page.inner : page.skillsWidth
-                    height: page.cardHeight
+                    height: page.cardHeight + (page.stacked ? detailHeight : page.detailHeight)
                     model: page.model
                 }
 
                 RecentSessionsCard {
+                    id: recent
                     width: page.stacked ? page.inner
                                         : page.inner - page.skillsWidth - DarkUI.space12
-                    height: page.cardHeight
+                    height: page.cardHeight + (page.stacked ? detailHeight : page.detailHeight)
                     model: page.model
                 }
             }

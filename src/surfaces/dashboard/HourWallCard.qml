@@ -12,7 +12,7 @@ DashboardCard {
 
     readonly property real belowHeading: 52
 
-    implicitHeight: belowHeading + Math.round(captionRoom * DarkUI.textScale)
+    implicitHeight: belowHeading + Math.round(captionRoom * DarkUI.textScale) + detailHeight
     heading: qsTr("Hour wall")
     detail: model.wallText
 

@@ -8,10 +8,12 @@ ReadableStop {
     id: row
 
     required property skillTotalLine line
+    property real hoursWidth: implicitWidth // px, of the widest of all rows
     readonly property real nameWidth: Math.max(84, Math.round(width * 0.4))
-    readonly property real figuresWidth: 84
+    readonly property real figuresWidth: 82 // at least
     readonly property real shareWidth: 36
 
+    implicitWidth: hours.implicitWidth
     name: line.spoken
 
     DarkText {
@@ -26,7 +28,9 @@ ReadableStop {
     GlassBarTrack {
         x: row.nameWidth
         anchors.verticalCenter: parent.verticalCenter
-        width: row.width - x - row.figuresWidth * DarkUI.textScale - DarkUI.space8 + DarkUI.space10
+        width: row.width - x - Math.max(row.figuresWidth * DarkUI.textScale,
+                                        row.shareWidth * DarkUI.textScale + row.hoursWidth
+                                        + DarkUI.space8)
         implicitHeight: DarkUI.barTableHeight
 
         GlassBarFill {
@@ -36,6 +40,7 @@ ReadableStop {
     }
 
     TabularText {
+        id: hours
         anchors.right: parent.right
         anchors.rightMargin: row.shareWidth * DarkUI.textScale
         anchors.verticalCenter: parent.verticalCenter

@@ -11,7 +11,7 @@ DashboardCard {
     // Shrinks the rows until all fit.
     readonly property real pitch: Math.min(26 * DarkUI.textScale, room
                                                / Math.max(model.skillTotals.length, 1))
-    readonly property real room: height - 38 * DarkUI.textScale - DarkUI.space12
+    readonly property real room: height - 38 * DarkUI.textScale - detailHeight - DarkUI.space12
 
     readonly property int sockets: 6 // in an empty card
 
@@ -58,6 +58,13 @@ DashboardCard {
 
         Column {
             id: lines
+            // The bars end before the widest figure.
+            readonly property real widestHours: {
+                let most = 0;
+                for (let i = 0; i < children.length; ++i)
+                    most = Math.max(most, children[i].implicitWidth);
+                return most;
+            }
 
             Repeater {
                 model: card.model.skillTotals
@@ -69,6 +76,7 @@ DashboardCard {
                     width: card.innerWidth
                     height: card.pitch
                     line: modelData
+                    hoursWidth: lines.widestHours
                 }
             }
         }

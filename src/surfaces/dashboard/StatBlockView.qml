@@ -12,7 +12,7 @@ DarkCard {
     readonly property real inner: width - 2 * DarkUI.space16
     readonly property real bottomGap: 13
     // The value's height has room to spare, which larger text uses.
-    readonly property real belowValue: value.y + (DarkUI.textScale > 1 ? value.height : 37)
+    readonly property real belowValue: value.y + (DarkUI.textScale > 1 ? value.height : figureRoom)
     readonly property real needed: hasValue
         ? context.y + context.height + DarkUI.space8 + bar.height + bottomGap
         : title.y + title.height + DarkUI.space4 + invitation.height + bottomGap
@@ -20,6 +20,7 @@ DarkCard {
     readonly property real titleTop: 13
     readonly property real titleRoom: 17
     readonly property real smallestFigure: 12
+    readonly property real figureRoom: 37
 
     implicitHeight: Math.max(leastHeight, Math.ceil(needed))
     padding: 0
@@ -32,14 +33,14 @@ DarkCard {
         text: block.stat.title
         role: DarkUI.captionMedium
         color: DarkUI.textSecondary
-        elide: Text.ElideRight
+        wrapMode: Text.Wrap
         Accessible.ignored: true
     }
 
     DarkText {
         id: value
         x: DarkUI.space16
-        y: title.y + Math.round(block.titleRoom * DarkUI.textScale)
+        y: title.y + Math.max(title.height, Math.round(block.titleRoom * DarkUI.textScale))
         width: Math.min(implicitWidth, block.inner - unit.implicitWidth - DarkUI.space4)
         visible: block.hasValue
         text: block.stat.value

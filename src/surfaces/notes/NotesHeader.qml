@@ -42,7 +42,7 @@ FocusScope {
         text: header.model.subtitleText
         role: DarkUI.caption
         color: DarkUI.textSecondary
-        elide: Text.ElideRight
+        wrapMode: Text.Wrap
     }
 
     DarkTextField {
@@ -50,7 +50,9 @@ FocusScope {
         anchors.right: parent.right
         anchors.rightMargin: DarkUI.space28
         y: DarkUI.space14
-        width: header.width < header.wideFrom ? header.searchWidthNarrow : header.searchWidth
+        width: Math.max(header.width < header.wideFrom ? header.searchWidthNarrow
+                                                       : header.searchWidth,
+                        Math.min(placeholderWidth, header.width / 2))
         minHeight: DarkUI.searchFieldHeight
         icon: "search"
         name: qsTr("Search notes")

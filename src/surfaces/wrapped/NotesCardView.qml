@@ -119,8 +119,10 @@ ReviewPage {
             order: 7
 
             DarkText {
+                width: page.width
                 text: page.content.more
                 color: DarkUI.textTertiary
+                wrapMode: Text.Wrap
             }
         }
 
@@ -132,6 +134,7 @@ ReviewPage {
                 spacing: DarkUI.space6
 
                 KitIcon {
+                    id: lock
                     anchors.verticalCenter: parent.verticalCenter
                     width: DarkUI.iconSmall
                     height: DarkUI.iconSmall
@@ -140,8 +143,10 @@ ReviewPage {
                 }
 
                 DarkText {
+                    width: page.width - lock.width - DarkUI.space6
                     text: page.content.foot
                     color: DarkUI.textTertiary
+                    wrapMode: Text.Wrap
                 }
             }
         }

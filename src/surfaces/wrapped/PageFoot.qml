@@ -52,7 +52,7 @@ Item {
                     width: foot.width
                     text: modelData
                     color: DarkUI.textTertiary
-                    elide: Text.ElideRight
+                    wrapMode: Text.Wrap
                 }
             }
         }

@@ -36,6 +36,6 @@ Column {
         width: wall.width
         text: wall.content.wallCaption
         color: DarkUI.textTertiary
-        elide: Text.ElideRight
+        wrapMode: Text.Wrap
     }
 }

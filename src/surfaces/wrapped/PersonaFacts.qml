@@ -1,4 +1,4 @@
-// Three short facts in a line, evenly spaced.
+// Three short facts in a line, evenly spaced; in several lines if they do not fit.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
@@ -8,7 +8,11 @@ Item {
 
     property list<string> facts
 
-    implicitHeight: DarkUI.panelTitle.line + DarkUI.space12
+    readonly property real between: (width - first.implicitWidth - second.implicitWidth
+                                     - third.implicitWidth) / 2
+    readonly property real leastBetween: DarkUI.space12
+
+    implicitHeight: lines.height + DarkUI.space12
 
     function fact(index: int): string {
         return index < facts.length ? facts[index] : "";
@@ -18,19 +22,24 @@ Item {
         role: DarkUI.panelTitle
     }
 
-    Fact {
-        id: first
-        text: row.fact(0)
-    }
+    Flow {
+        id: lines
+        width: row.width
+        spacing: row.between < row.leastBetween ? row.leastBetween : Math.floor(row.between)
 
-    Fact {
-        x: Math.round((first.width + last.x - width) / 2)
-        text: row.fact(1)
-    }
+        Fact {
+            id: first
+            text: row.fact(0)
+        }
 
-    Fact {
-        id: last
-        anchors.right: parent.right
-        text: row.fact(2)
+        Fact {
+            id: second
+            text: row.fact(1)
+        }
+
+        Fact {
+            id: third
+            text: row.fact(2)
+        }
     }
 }

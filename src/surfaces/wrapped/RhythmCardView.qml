@@ -44,7 +44,7 @@ ReviewPage {
                 width: page.width
                 text: page.content.caption
                 color: DarkUI.textTertiary
-                elide: Text.ElideRight
+                wrapMode: Text.Wrap
             }
         }
 

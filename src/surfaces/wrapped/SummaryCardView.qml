@@ -70,13 +70,16 @@ ReviewPage {
 
     Item {
         id: share
+        // Where the buttons leave too little room beside them, the text stands above them.
+        readonly property bool stacked: page.footWidth + DarkUI.space12 + buttons.width > width
         anchors.bottom: parent.bottom
         width: page.width
-        height: DarkUI.buttonHeight
+        height: DarkUI.buttonHeight + (stacked ? foot.height + DarkUI.space6 : 0)
 
         DarkText {
-            anchors.verticalCenter: parent.verticalCenter
-            width: page.footWidth
+            id: foot
+            y: share.stacked ? 0 : (share.height - height) / 2
+            width: share.stacked ? page.width : page.footWidth
             text: page.content.foot
             role: DarkUI.caption
             color: DarkUI.textTertiary
@@ -84,7 +87,9 @@ ReviewPage {
         }
 
         Row {
+            id: buttons
             anchors.right: parent.right
+            anchors.bottom: parent.bottom
             spacing: DarkUI.space8
 
             DarkSecondaryButton {
@@ -112,6 +117,8 @@ ReviewPage {
         }
         role: DarkUI.caption
         color: DarkUI.dangerText
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: DarkUI.small.size
         elide: Text.ElideLeft
         Accessible.role: Accessible.AlertMessage
     }

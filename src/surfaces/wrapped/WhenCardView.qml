@@ -41,7 +41,7 @@ ReviewPage {
                 width: page.width
                 text: page.content.detail
                 color: DarkUI.textTertiary
-                elide: Text.ElideRight
+                wrapMode: Text.Wrap
             }
         }
     }
@@ -55,12 +55,15 @@ ReviewPage {
         order: 3
 
         DarkText {
+            width: page.width - peak.width - DarkUI.space12
             text: page.content.chartCaption
             role: DarkUI.caption
             color: DarkUI.textTertiary
+            wrapMode: Text.Wrap
         }
 
         DarkKicker {
+            id: peak
             anchors.right: parent.right
             y: (DarkUI.caption.line - height) / 2
             text: page.content.peak

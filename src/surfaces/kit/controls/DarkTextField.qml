@@ -21,6 +21,9 @@ FocusScope {
     property TypeRole role: DarkUI.body
     property bool focused: input.activeFocus // shows the focused edge
     property alias input: input
+    // px; shows all of the placeholder
+    readonly property real placeholderWidth: input.anchors.leftMargin + input.anchors.rightMargin
+                                             + Math.ceil(placeholderText.implicitWidth)
     signal accepted
     signal edited // by the user
     signal keyboardWanted // pressed: a window that does not accept focus must request it now

@@ -12,7 +12,6 @@ ArrowGroup {
     property TypeRole role: DarkUI.captionMedium
     property real radius: DarkUI.radiusBanner
     readonly property real inset: radius - DarkUI.radiusSegment
-    readonly property real segmentWidth: (width - 2 * inset) / Math.max(options.length, 1)
     signal activated(int index)
 
     // New options create new segments: keeps the focus on the chosen one.
@@ -22,6 +21,14 @@ ArrowGroup {
         const chosen = stops()[current];
         if (activeFocus && chosen)
             chosen.focusByKeyboard();
+    }
+
+    function leftOf(index: int): real {
+        return KitText.partLeft(Array.from(options), DarkUI.captionStrong.font, 2 * DarkUI.space6,
+                                width - 2 * inset, index);
+    }
+    function widthOf(index: int): real {
+        return leftOf(index + 1) - leftOf(index);
     }
 
     implicitWidth: 300
@@ -48,10 +55,10 @@ ArrowGroup {
     }
 
     Plate {
-        x: picker.inset + picker.currentIndex * picker.segmentWidth
+        x: picker.inset + picker.leftOf(picker.currentIndex)
         y: picker.inset
         visible: picker.currentIndex >= 0
-        width: picker.segmentWidth
+        width: picker.widthOf(picker.currentIndex)
         height: parent.height - 2 * picker.inset
         radius: picker.radius - picker.inset
         color: DarkUI.segmentFill
@@ -79,7 +86,7 @@ ArrowGroup {
                 required property int index
                 readonly property bool chosen: index === picker.currentIndex
 
-                width: picker.segmentWidth
+                width: picker.widthOf(index)
                 height: parent ? parent.height : 0
                 name: modelData
                 Accessible.role: Accessible.PageTab
