@@ -37,7 +37,7 @@ class Sway:
 
     def give_keys(self, scene):
         """As the settings say: the user binds a key to the command."""
-        # Sway may be another user, whom the bus turns away: that one's key only asks for the command.
+        # Sway may run as another user, whom the bus rejects: its key only requests the command.
         presses = scene.desktop.directory / "presses"
         os.mkfifo(presses)
         presses.chmod(0o666)
