@@ -107,6 +107,23 @@ std::vector<Session> firstWeeks() {
     return log.sessions;
 }
 
+std::vector<Session> oneSkill() {
+    Log log;
+    for (int day = 0; day < 4; ++day)
+        log.add(sampleMoment("2025-11-17T09:00:00Z") + Seconds(86400.0 * day), 70 + 20 * day,
+                "product_design");
+    return log.sessions;
+}
+
+std::vector<Session> workingLife() {
+    Log log;
+    const Date first = sampleMoment("2015-01-05T09:00:00Z");
+    for (int day = 0; day < 3900; ++day)
+        if (day % 7 < 5)
+            log.add(first + Seconds(86400.0 * day), 200 + day * 37 % 90, skillOf(day, day % 3));
+    return log.sessions;
+}
+
 std::vector<Session> firstDay() {
     Log log;
     log.add(sampleMoment("2025-11-21T09:05:00Z"), 40, "building");

@@ -14,6 +14,12 @@ namespace vantle {
 /// Some weeks only: the first hours of a user, which pass two milestones this month.
 [[nodiscard]] std::vector<Session> firstWeeks();
 
+/// One skill alone, this week.
+[[nodiscard]] std::vector<Session> oneSkill();
+
+/// A working life, which passes the milestone of 10,000 hours.
+[[nodiscard]] std::vector<Session> workingLife();
+
 /// Three sessions on the day of sampleNow().
 [[nodiscard]] std::vector<Session> firstDay();
 

@@ -80,6 +80,7 @@ ReviewPage {
 
     PageFoot {
         id: foot
+        leastHeight: page.quietHeight
         lines: Array.from(page.content.quiet)
         ruled: page.content.quiet.length > 0
         animated: page.animated

@@ -11,11 +11,12 @@ Plate {
     required property milestoneBadge badge
     required property list<color> colors
     property bool small: false // one of several in a row
-    readonly property real ringWidth: small ? 60 : 78
-    readonly property real ringDot: small ? 3 : 3.75
+    property bool tiny: false // one of five in a row
+    readonly property real ringWidth: tiny ? 48 : small ? 60 : 78
+    readonly property real ringDot: tiny ? 2.5 : small ? 3 : 3.75
     readonly property real ringDots: 6 // dots beside the figure, in radii
     readonly property real smallestFigure: 10
-    readonly property real badgeHeight: small ? 128 : 168
+    readonly property real badgeHeight: tiny ? 112 : small ? 128 : 168
 
     implicitHeight: badgeHeight
     radius: DarkUI.radiusCard
@@ -27,7 +28,7 @@ Plate {
     DotRing {
         id: ring
         anchors.horizontalCenter: parent.horizontalCenter
-        y: card.small ? DarkUI.space14 : DarkUI.space24
+        y: card.tiny ? DarkUI.space12 : card.small ? DarkUI.space14 : DarkUI.space24
         width: card.ringWidth
         height: width
         dotRadius: card.ringDot
@@ -39,7 +40,7 @@ Plate {
             width: ring.width - card.ringDots * ring.dotRadius
             horizontalAlignment: Text.AlignHCenter
             text: card.badge.hours
-            role: card.small ? DarkUI.titleM : DarkUI.titleXL
+            role: card.tiny ? DarkUI.cardTitle : card.small ? DarkUI.titleM : DarkUI.titleXL
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: card.smallestFigure
             Accessible.ignored: true

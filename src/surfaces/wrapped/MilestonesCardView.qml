@@ -9,9 +9,11 @@ ReviewPage {
 
     readonly property milestonesCard content: texts.milestones
     readonly property int count: content.badges.length
-    readonly property int columns: count <= 4 ? 2 : count <= 9 ? 3 : 4
-    readonly property real gap: DarkUI.space12
-    readonly property real cellWidth: (width - (columns - 1) * gap) / columns
+    readonly property int columns: count <= 4 ? 2 : count <= 9 ? 3 : 5
+    readonly property bool crowded: columns > mostRoomy
+    readonly property int mostRoomy: 3 // columns of cards of the usual size
+    readonly property real gap: crowded ? DarkUI.space8 : DarkUI.space12
+    readonly property real cellWidth: Math.floor((width - (columns - 1) * gap) / columns)
     readonly property real sentenceWidth: 300
     readonly property real gridPlace: 0.4 // relative to the free height, slightly above the middle
 
@@ -54,6 +56,7 @@ ReviewPage {
                     badge: entrance.modelData
                     colors: entrance.modelData.ring
                     small: page.columns > 2
+                    tiny: page.crowded
                 }
             }
         }

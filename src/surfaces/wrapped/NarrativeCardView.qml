@@ -11,7 +11,7 @@ ReviewPage {
     readonly property real room: foot.y - kickerHeight - DarkUI.space44
     // Smaller type for a sentence that does not fit.
     readonly property TypeRole role: measure.height <= room ? DarkUI.quotation : DarkUI.titleMQuiet
-    readonly property real sentencePlace: 0.45 // relative to the free height
+    readonly property real sentencePlace: 0.38 // relative to the free height
 
     function escaped(words: string): string {
         return words.replace(/&/g, "&amp;").replace(/</g, "&lt;").replace(/>/g, "&gt;");

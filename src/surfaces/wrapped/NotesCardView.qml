@@ -10,22 +10,20 @@ ReviewPage {
     readonly property notesCard content: texts.notes
     readonly property real gap: DarkUI.space12 // on both sides of the separator between notes
     readonly property real room: foot.y - notes.y - gap
-    // Lines left when each note has one; the first long notes get them.
+    // Lines left when each note has one. Long notes get two if all of them fit.
     readonly property int spareLines: Math.floor((room - oneLineEach()) / DarkUI.note.line)
+    readonly property int mostLines: longNotes() <= spareLines ? 2 : 1
 
     function oneLineEach(): real {
         const row = DarkUI.note.line + DarkUI.space4 + DarkUI.caption.line;
         const between = 2 * gap + DarkUI.hairlineWidth;
         return content.highlights.length * (row + between) - between;
     }
-    function isLong(index: int): bool {
-        return metrics.advanceWidth(content.highlights[index].text) > width;
-    }
-    function linesOf(index: int): int {
+    function longNotes(): int {
         let longOnes = 0;
-        for (let i = 0; i <= index; ++i)
-            longOnes += isLong(i) ? 1 : 0;
-        return isLong(index) && longOnes <= spareLines ? 2 : 1;
+        for (let i = 0; i < content.highlights.length; ++i)
+            longOnes += metrics.advanceWidth(content.highlights[i].text) > width ? 1 : 0;
+        return longOnes;
     }
 
     kicker: content.kicker
@@ -99,7 +97,7 @@ ReviewPage {
                 NoteHighlightRow {
                     width: page.width
                     note: entrance.modelData
-                    mostLines: page.linesOf(entrance.index)
+                    mostLines: page.mostLines
                     gap: page.gap
                     last: entrance.index === page.content.highlights.length - 1
                 }

@@ -8,6 +8,7 @@ Item {
 
     property list<string> lines
     property bool ruled: false
+    property real leastHeight: 0
     property bool animated: false
     property int order: 0
     default property alias content: above.data // between hairline and lines
@@ -15,7 +16,7 @@ Item {
     anchors.left: parent ? parent.left : undefined
     anchors.right: parent ? parent.right : undefined
     anchors.bottom: parent ? parent.bottom : undefined
-    implicitHeight: inside.implicitHeight
+    implicitHeight: Math.max(inside.implicitHeight, leastHeight)
 
     CascadeIn {
         id: inside

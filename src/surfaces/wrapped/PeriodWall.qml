@@ -29,6 +29,7 @@ Column {
         rows: wall.rowCount
         colors: wall.content.wallColors
         sockets: false
+        flush: true
         Accessible.ignored: true
     }
 

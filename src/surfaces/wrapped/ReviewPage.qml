@@ -15,6 +15,11 @@ FocusScope {
     property bool leaving: false
     property string lines // the page's texts, for screen readers
     readonly property real kickerHeight: DarkUI.kicker.line
+    // The quiet block below the hours: always as high as with three lines, so that what stands
+    // above it stays where it is from one period to the next.
+    readonly property real quietHeight: DarkUI.hairlineWidth + DarkUI.space14
+                                        + quietLines * DarkUI.body.line
+    readonly property int quietLines: 3
     readonly property alias kickerWidth: heading.width
 
     width: parent ? parent.width : 0

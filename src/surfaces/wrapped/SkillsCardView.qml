@@ -13,6 +13,10 @@ ReviewPage {
 
     // Sessions without time have no top skill: the line says so, without a dot.
     readonly property bool hasTop: content.top.share !== ""
+    // A skill that is alone stands where the hours do on their page.
+    readonly property bool alone: content.others.length === 0
+    readonly property real aloneTop: Math.round((height - quietHeight - name.height
+                                                 - DarkUI.space14 - figures.height) / 2)
 
     PopIn {
         id: dot
@@ -31,13 +35,21 @@ ReviewPage {
     CascadeIn {
         id: name
         x: page.hasTop ? dot.width + DarkUI.space16 : 0
-        y: page.kickerHeight + DarkUI.space20
+        y: page.alone ? page.aloneTop : page.kickerHeight + DarkUI.space20
         width: page.width - x
         animated: page.animated
         order: 1
         slam: true
 
+        FontMetrics {
+            id: full
+            font: DarkUI.nameReview.font
+        }
+
         DarkText {
+            readonly property real capitals: full.ascent - full.tightBoundingRect("H").height / 2
+            // A name that is set smaller keeps the middle of its capitals beside the dot.
+            y: Math.round(capitals * (1 - fontInfo.pixelSize / DarkUI.nameReview.size))
             width: name.width
             text: page.content.top.name
             role: DarkUI.nameReview
@@ -48,6 +60,7 @@ ReviewPage {
     }
 
     CascadeIn {
+        id: figures
         y: name.y + name.height + DarkUI.space14
         animated: page.animated
         order: 2

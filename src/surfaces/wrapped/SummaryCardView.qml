@@ -11,12 +11,16 @@ ReviewPage {
     readonly property summaryCard content: texts.summary
     readonly property sharePoster poster: texts.poster
     readonly property real footWidth: 112
+    // A year's poster is too high for the page at the usual width: it takes the room of the line
+    // above it, which the poster repeats.
+    property bool tall: false
 
     kicker: content.title
 
     CascadeIn {
         id: closing
         y: page.kickerHeight + DarkUI.space8
+        visible: !page.tall
         animated: page.animated
         order: 1
 
@@ -33,10 +37,16 @@ ReviewPage {
 
     CascadeIn {
         id: picture
-        readonly property real highest: closing.y + closing.height + DarkUI.space10
-        readonly property real room: share.y - DarkUI.space12 - highest
+        readonly property real beside: share.y - DarkUI.space12 - aboveOf(closing) // with the line
+        readonly property real alone: share.y - DarkUI.space12 - aboveOf(null)
+        readonly property real room: page.tall ? alone : beside
+
+        function aboveOf(line: Item): real {
+            return DarkUI.space10 + (line ? line.y + line.height : page.kickerHeight);
+        }
+
         x: Math.round((page.width - width) / 2)
-        y: Math.round(highest + (room - height) / 2)
+        y: Math.round(share.y - DarkUI.space12 - (room + height) / 2)
         animated: page.animated
         order: 2
         slam: true
@@ -49,19 +59,19 @@ ReviewPage {
 
         SharePosterPicture {
             id: poster
-            readonly property real room: picture.room
+            readonly property real beside: picture.beside
 
-            // A year's poster is too high for the page at the usual width.
             function fit(): void {
                 width = DarkUI.posterWidth;
-                if (room > 0 && implicitHeight > room)
-                    width = Math.floor(width * room / implicitHeight);
+                page.tall = beside > 0 && implicitHeight > beside;
+                if (page.tall && implicitHeight > picture.alone)
+                    width = Math.floor(width * picture.alone / implicitHeight);
             }
 
             height: implicitHeight
             radius: DarkUI.radiusWindow
             poster: page.poster
-            onRoomChanged: fit()
+            onBesideChanged: fit()
             Component.onCompleted: fit()
             Accessible.role: Accessible.Graphic
             Accessible.name: page.poster.title + ". " + page.poster.closing

@@ -10,6 +10,7 @@
 #include "surfaces/wrapped/WrappedView.h"
 #include "tracking/NotificationCenter.h"
 
+#include <map>
 #include <optional>
 
 namespace vantle::tests {
@@ -76,6 +77,7 @@ protected:
     fakes::FakeLanguageModel model;
     NotificationCenter notifications;
     std::vector<Session> log;
+    std::map<std::size_t, QString> skillNames; ///< in place of those that a new user starts with
     int entered = 0;
     QList<QByteArray> copied;
     std::unique_ptr<WrappedView> view;
@@ -93,7 +95,13 @@ private:
             .scheduler = time,
             .calendar = [] { return samples::calendarIn(QStringLiteral("UTC")); },
             .allSessions = [this] { return log; },
-            .skills = [] { return samples::seeds(); },
+            .skills =
+                [this] {
+                    std::vector<Skill> skills = samples::seeds();
+                    for (const auto& [index, name] : skillNames)
+                        skills.at(index).name = name;
+                    return skills;
+                },
             .initialPeriod = {},
             .enterVantle = [this] { ++entered; },
             .renderPng = [](const SharePoster&) { return QByteArray("png"); },

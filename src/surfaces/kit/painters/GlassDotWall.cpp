@@ -9,13 +9,14 @@
 namespace vantle {
 
 WallGrid GlassDotWall::grid() const {
-    return {std::max(m_columns, 1), std::max(m_rows, 1), size()};
+    return {std::max(m_columns, 1), std::max(m_rows, 1), size(), m_isFlush};
 }
 
 QMarginsF GlassDotWall::bleed() const {
     const double glow = grid().radius() * glassdotpainter::kGlowReach;
     const QSizeF cell = grid().cellSize();
-    const double sides = std::max(0.0, glow - cell.width() / 2) + 1.0;
+    const double inside = m_isFlush ? grid().radius() : cell.width() / 2;
+    const double sides = std::max(0.0, glow - inside) + 1.0;
     const double ends = std::max(0.0, glow - cell.height() / 2) + 1.0;
     return {sides, ends, sides, ends};
 }

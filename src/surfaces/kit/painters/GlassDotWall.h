@@ -26,6 +26,8 @@ class GlassDotWall : public vantle::BakedItem {
     Q_PROPERTY(QColor sliceColor MEMBER m_sliceColor NOTIFY changed)
     /// Whether future hours show sockets.
     Q_PROPERTY(bool sockets MEMBER m_hasSockets NOTIFY changed)
+    /// Whether the outer dots touch the sides of the wall.
+    Q_PROPERTY(bool flush MEMBER m_isFlush NOTIFY changed)
     /// The dot radius in px.
     Q_PROPERTY(double dotRadius READ dotRadius NOTIFY changed)
 
@@ -54,6 +56,7 @@ private:
     double m_sliceFraction = 0.0;
     QColor m_sliceColor;
     bool m_hasSockets = true;
+    bool m_isFlush = false;
     GlassDotImages m_images;
 };
 

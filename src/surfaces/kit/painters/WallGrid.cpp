@@ -15,7 +15,9 @@ QPointF WallGrid::center(int index) const {
     const QSizeF cell = cellSize();
     const int column = index % columns;
     const int row = index / columns;
-    return {(column + 0.5) * cell.width(), (row + 0.5) * cell.height()};
+    const double y = (row + 0.5) * cell.height();
+    if (!isFlush || columns < 2) return {(column + 0.5) * cell.width(), y};
+    return {radius() + column * (size.width() - 2 * radius()) / (columns - 1), y};
 }
 
 int WallGrid::cellAt(QPointF point) const {

@@ -12,6 +12,8 @@ struct WallGrid {
     int columns = 1;
     int rows = 1;
     QSizeF size; ///< of the whole wall, px
+    /// The dots of the outer columns touch the sides, in place of standing in their cells' middle.
+    bool isFlush = false;
 
     /// A dot's radius relative to the shorter side of its cell.
     static constexpr double kDotRatio = 0.36;

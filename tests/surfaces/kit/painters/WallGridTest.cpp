@@ -19,6 +19,14 @@ TEST(WallGrid, FillsRowByRow) {
     EXPECT_EQ(kWall.center(32), QPointF(8.3125, 27.0));
 }
 
+TEST(WallGrid, OuterDotsOfAFlushWallTouchItsSides) {
+    const WallGrid flush{12, 1, {368.0, 28.0}, true};
+    EXPECT_DOUBLE_EQ(flush.center(0).x(), flush.radius());
+    EXPECT_DOUBLE_EQ(flush.center(11).x(), 368.0 - flush.radius());
+    for (int i = 0; i < flush.cells(); ++i)
+        EXPECT_EQ(flush.cellAt(flush.center(i)), i);
+}
+
 TEST(WallGrid, FindsTheCellOfEachCentre) {
     for (int i = 0; i < kWall.cells(); ++i)
         EXPECT_EQ(kWall.cellAt(kWall.center(i)), i);
