@@ -50,7 +50,7 @@ Date sampleMoment(const char* text) { return iso8601::parse(text).value_or(dateF
 
 Date sampleNow() { return sampleMoment("2025-11-21T15:30:00Z"); }
 
-QByteArray sampleLog() {
+QByteArray sampleLog(int days) {
     constexpr std::array skills = {"building",    "building",    "product_design", "building",
                                    "founder_ops", "marketing",   "product_design", "building",
                                    "connections", "distribution"};
@@ -60,7 +60,7 @@ QByteArray sampleLog() {
     };
     // Two sessions a workday before the ones with notes, of 30 to 75 minutes.
     int number = 0;
-    for (int day = 32; day > 4; --day)
+    for (int day = days; day > 4; --day)
         for (int half = 0; half < 2; ++half) {
             ++number;
             const Date start = sampleMoment("2025-11-21T09:00:00Z") - Seconds(86400.0 * day) +

@@ -13,7 +13,8 @@ namespace vantle {
 /// A moment as it stands in records: "2025-11-21T15:30:00Z".
 [[nodiscard]] Date sampleMoment(const char* text);
 
-/// Sessions over 46 hours, the newest of them with notes, as the log file holds them.
-[[nodiscard]] QByteArray sampleLog();
+/// Sessions of so many days, 58 hours of 32, the newest of them with notes, as the log file holds
+/// them.
+[[nodiscard]] QByteArray sampleLog(int days = 32);
 
 } // namespace vantle

@@ -1,6 +1,7 @@
 #include "app/ModelWorld.h"
 #include "base/Words.h"
 #include "gallery/Scenes.h"
+#include "support/ShownItems.h"
 #include "surfaces/alert/AlertModel.h"
 #include "surfaces/dashboard/DashboardView.h"
 #include "surfaces/notes/LogView.h"
@@ -69,6 +70,19 @@ Scene dashboard(const char* name, Prepare prepare, std::function<void(DemoWorld&
                                                 world.notifications, world.preferences, world.time,
                                                 world.time, world.calendarSource(), [] {}, [] {}});
                   });
+}
+
+/// The note under the pointer.
+Scene hovered(Scene scene, const char* note) {
+    scene.arrange = [words = QString::fromUtf8(note)](QQuickItem& view) {
+        const QQuickItem* const row = tests::shownItem(&view, [&](const QQuickItem& item) {
+            return item.property("note").toString() == words;
+        });
+        if (row == nullptr) return;
+        const QPointF middle = row->mapToScene(row->boundingRect().center());
+        tests::sendMouse(*view.window(), QEvent::MouseMove, middle, Qt::NoButton, Qt::NoButton);
+    };
+    return scene;
 }
 
 Scene notes(const char* name, Prepare prepare, std::function<void(LogView&)> then = {},
@@ -159,7 +173,7 @@ QList<Scene> dashboards() {
     Scene ordinary = dashboard("dashboard", fill);
     ordinary.twice = true;
     Scene full = dashboard("dashboard-full-wall", [](World& world) {
-        world.disk.setContent(World::file("sessions.jsonl"), sampleLog().repeated(3));
+        world.disk.setContent(World::file("sessions.jsonl"), sampleLog(72));
     });
     return {dashboard("dashboard-empty", [](World&) {}),
             ordinary,
@@ -210,12 +224,20 @@ constexpr auto kLongNote =
 constexpr auto kLongWord =
     "https://example.org/a/very/long/address/without/any/place/to/break/it/at/all/in/a/line";
 
+constexpr auto kNoted = "Webhook retries land in order now; the queue survives a restart.";
+
 QList<Scene> noteScenes() {
     Scene list = notes("notes", fill);
     list.twice = true;
     return {
         notes("notes-empty", [](World&) {}),
         list,
+        hovered(notes("notes-hover", fill), kNoted),
+        notes("notes-copied", fill,
+              [](LogView& view) {
+                  view.copyNote(
+                      view.rows()->data(view.rows()->index(0), NoteRows::IdRole).toString());
+              }),
         notes("notes-editing", fill,
               [](LogView& view) {
                   view.beginEdit(
