@@ -13,8 +13,8 @@
 
 namespace vantle::ceremonypage {
 
-/// Returns the page's configuration as an ASCII JSON object, safe inside a script. `blackout` is
-/// the maximum darkness of the screen, 0 to 1. A title that is not valid Unicode is replaced by the
+/// Returns the page's configuration as an ASCII JSON object, safe inside a script. `blackout` tells
+/// whether the page may darken the screen. A title that is not valid Unicode is replaced by the
 /// plain one.
 [[nodiscard]] QByteArray configuration(CeremonyShow show, CeremonyVariant variant,
                                        std::uint32_t hexRGB,
