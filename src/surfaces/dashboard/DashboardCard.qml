@@ -40,8 +40,9 @@ DarkCard {
         id: quiet
         x: card.split ? DarkUI.space16 : card.width - DarkUI.space16 - width
         y: card.split ? title.y + title.height : title.y + title.baselineOffset - baselineOffset
-        width: card.split ? card.innerWidth
-                          : Math.min(implicitWidth, card.innerWidth - title.width - DarkUI.space12)
+        // Reads its implicit width from the start: asked for later, that would loop.
+        width: Math.min(implicitWidth,
+                        card.innerWidth - (card.split ? 0 : title.width + DarkUI.space12))
         text: card.detail
         role: DarkUI.caption
         color: DarkUI.textTertiary
