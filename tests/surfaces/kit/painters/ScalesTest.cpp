@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <numeric>
+#include <vector>
 
 namespace vantle::tests {
 namespace {
@@ -226,6 +228,104 @@ TEST_P(Scales, NoGroundShowsBetweenASurfaceAndItsShadow) {
     for (int left = surface.left(); left > surface.left() - 8; --left)
         EXPECT_LE(shown.pixelColor(left, row).red(), shown.pixelColor(left - 1, row).red() + 1)
             << left - surface.left() << " at " << scale;
+}
+
+/// The light of each device pixel of an icon, 0 to 1.
+struct Light {
+    explicit Light(const QImage& picture, QRect area) : side(area.width()) {
+        for (int y = 0; y < side; ++y)
+            for (int x = 0; x < side; ++x)
+                at.push_back(
+                    (picture.pixelColor(area.x() + x, area.y() + y).red() - kGround.red()) /
+                    double(255 - kGround.red()));
+    }
+    [[nodiscard]] double of(int x, int y) const {
+        return at[static_cast<std::size_t>(y * side + x)];
+    }
+    [[nodiscard]] double ink() const { return std::accumulate(at.begin(), at.end(), 0.0); }
+
+    int side;
+    std::vector<double> at;
+};
+
+Light lightOf(QScreen& screen, const char* name, int size) {
+    ScaledWindow window(screen, QStringLiteral("KitIcon { x: 20; y: 20; width: %1; height: %1; "
+                                               "name: \"%2\"; color: \"#ffffff\" }")
+                                    .arg(size)
+                                    .arg(QLatin1String(name))
+                                    .toUtf8());
+    const double scale = window.scale();
+    const int side = qRound(size * scale);
+    const int corner = qRound(20 * scale);
+    return Light(window.picture(), QRect(corner, corner, side, side));
+}
+
+TEST_P(Scales, LevelMarksCoverWholePixels) {
+    for (const int size : {10, 12, 16}) {
+        const Light light = lightOf(*m_screen, "minus", size);
+        const double stroke = 1.5 * m_screen->name().toDouble();
+        const int middle = light.side / 2;
+        int rows = 0;
+        double sum = 0;
+        for (int y = 0; y < light.side; ++y) {
+            sum += light.of(middle, y);
+            if (light.of(middle, y) < 0.02) continue;
+            ++rows;
+            EXPECT_GT(light.of(middle, y), 0.7)
+                << size << " px at " << m_screen->name().toStdString();
+        }
+        EXPECT_EQ(rows, qRound(stroke)) << size << " px at " << m_screen->name().toStdString();
+        EXPECT_NEAR(sum, stroke, 0.25) << size;
+    }
+}
+
+TEST_P(Scales, SlantingMarksAreAsThickAsTheirStroke) {
+    const double scale = m_screen->name().toDouble();
+    for (const int size : {10, 12}) {
+        const Light light = lightOf(*m_screen, "close", size);
+        // Two strokes of half the side each way, round at their ends, less where they cross.
+        const double stroke = 1.5 * scale;
+        const double length = M_SQRT2 * size * scale / 2;
+        const double ink = 2 * length * stroke + M_PI * stroke * stroke / 2 - stroke * stroke;
+        EXPECT_NEAR(light.ink() / ink, 1, 0.15) << size << " px at " << scale;
+        double brightest = 0;
+        for (const double each : light.at)
+            brightest = std::max(brightest, each);
+        EXPECT_GT(brightest, 0.9) << size << " px at " << scale;
+    }
+}
+
+TEST_P(Scales, MarksAreAlikeOnBothSides) {
+    for (const char* name : {"close", "plus", "pause", "stop", "chevron-down"})
+        for (const int size : {10, 12, 16}) {
+            const Light light = lightOf(*m_screen, name, size);
+            // A stroke of even thickness stands a pixel beside the middle of an odd number.
+            const auto differs = [&](int mirror) {
+                double most = 0;
+                for (int y = 0; y < light.side; ++y)
+                    for (int x = 0; x < light.side; ++x) {
+                        const int other = mirror - x;
+                        const double there =
+                            other < 0 || other >= light.side ? 0 : light.of(other, y);
+                        most = std::max(most, std::abs(light.of(x, y) - there));
+                    }
+                return most;
+            };
+            EXPECT_LT(std::min({differs(light.side - 1), differs(light.side - 2)}), 0.03)
+                << name << ", " << size << " px at " << m_screen->name().toStdString();
+        }
+}
+
+TEST_P(Scales, APlayMarkHasItsWeightInTheMiddle) {
+    for (const int size : {10, 13, 16}) {
+        const Light light = lightOf(*m_screen, "play", size);
+        double across = 0;
+        for (int y = 0; y < light.side; ++y)
+            for (int x = 0; x < light.side; ++x)
+                across += light.of(x, y) * (x + 0.5);
+        EXPECT_NEAR(across / light.ink(), light.side / 2.0, 0.6)
+            << size << " px at " << m_screen->name().toStdString();
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(OfScreens, Scales, testing::Range(0, 5));
