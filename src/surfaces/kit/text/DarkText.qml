@@ -7,6 +7,27 @@ Text {
     id: label
 
     property TypeRole role: DarkUI.body
+    property bool balanced: true // even lines, and no last line of a single word
+    property real firstLineRoom: 0 // px kept free at the end of the first line
+    property bool breaks: false // lineLaidOut is connected
+    property real breadth: 0 // px, the width that lines break at
+
+    function setLine(line: var): void {
+        const room = line.number === 0 ? firstLineRoom : 0;
+        const width = line.width;
+        const words = textFormat === Text.StyledText ? KitText.unstyled(text) : text;
+        if (line.number === 0)
+            breadth = !balanced ? width
+                    : KitText.breadth(words, font, width, firstLineRoom,
+                                      renderType === Text.QtRendering, maximumLineCount);
+        line.width = Math.min(breadth, width - room);
+        // Aligns within the full width.
+        const left = width - room - line.width;
+        if (effectiveHorizontalAlignment === Text.AlignRight)
+            line.x += left;
+        else if (effectiveHorizontalAlignment === Text.AlignHCenter)
+            line.x += left / 2;
+    }
 
     color: DarkUI.textPrimary
     font: role.font
@@ -23,6 +44,14 @@ Text {
     // would jump.
     renderType: role.size <= 15 && Screen.devicePixelRatio === 1 ? Text.NativeRendering
                                                                  : Text.QtRendering
+
+    onWrapModeChanged: {
+        if (breaks || wrapMode === Text.NoWrap)
+            return;
+        breaks = true;
+        lineLaidOut.connect(setLine);
+    }
+    onFirstLineRoomChanged: forceLayout()
 
     Accessible.role: Accessible.StaticText
     Accessible.name: KitText.spoken(text)

@@ -5,12 +5,15 @@
 #include "base/KeySigns.h"
 #include "base/Text.h"
 #include "base/Words.h"
+#include "surfaces/kit/text/Breadth.h"
 
 #include <QColor>
 #include <QFont>
 #include <QList>
 #include <QObject>
+#include <QString>
 #include <QStringList>
+#include <QTextDocumentFragment>
 #include <QtQml/qqmlregistration.h>
 
 namespace vantle {
@@ -55,6 +58,16 @@ public:
     Q_INVOKABLE [[nodiscard]] static QString swatch(const QColor& color, bool chosen) {
         return (chosen ? Words::tr("%1, selected") : Words::tr("%1, not selected"))
             .arg(digits(color));
+    }
+    /// balancedBreadth() for views.
+    Q_INVOKABLE [[nodiscard]] static double breadth(const QString& text, const QFont& font,
+                                                    double width, double firstLineRoom,
+                                                    bool designMetrics, int mostLines) {
+        return balancedBreadth(text, font, {width, firstLineRoom, designMetrics, mostLines});
+    }
+    /// Returns styled text without its tags.
+    Q_INVOKABLE [[nodiscard]] static QString unstyled(const QString& text) {
+        return QTextDocumentFragment::fromHtml(text).toPlainText();
     }
     /// Returns the position of `page` (from 0) among `count` pages.
     Q_INVOKABLE [[nodiscard]] static QString place(int page, int count) {
