@@ -26,7 +26,7 @@ FocusScope {
         id: scroll
         anchors.fill: parent
         focus: true
-        faded: false // rows scroll under the title strip
+        atWindowBottom: true
         // Scrolls the whole erase confirmation into view.
         onContentHeightChanged: if (page.model.confirmingErase) scrollTo(contentHeight)
 

@@ -61,6 +61,26 @@ FrameRoot {
         }
     }
 
+    EdgeFade {
+        readonly property real beside: DarkUI.hairlineWidth
+        y: area.y
+        x: beside
+        width: parent.width - 2 * beside
+        height: DarkUI.edgeFadeTop
+        visible: !area.atYBeginning
+        edge: Qt.TopEdge
+    }
+
+    EdgeFade {
+        readonly property real beside: DarkUI.hairlineWidth
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: beside
+        x: beside
+        width: parent.width - 2 * beside
+        visible: area.interactive && !area.atYEnd
+        radius: frame.rounded ? DarkUI.radiusWindow - beside : 0
+    }
+
     FocusInSight {
         view: area
     }

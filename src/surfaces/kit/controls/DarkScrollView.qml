@@ -13,7 +13,8 @@ FocusScope {
     property alias contentY: flickable.contentY
     property bool faded: true // whether its edges fade out
     property color ground: DarkUI.windowGround
-    property bool atWindowBottom: false // keeps the fade off the window's edge and corners
+    property bool atWindowBottom: false // keeps fade and bar off the window's edge and corners
+    readonly property real beside: atWindowBottom ? DarkUI.hairlineWidth : 0
     property bool scrollbarShown: false
 
     function scrollTo(y: real): void {
@@ -35,34 +36,29 @@ FocusScope {
 
     EdgeFade {
         anchors.top: parent.top
-        width: parent.width
+        x: view.beside
+        width: parent.width - 2 * view.beside
+        height: DarkUI.edgeFadeTop
         visible: view.faded && !flickable.atYBeginning
         edge: Qt.TopEdge
         ground: view.ground
     }
 
     EdgeFade {
-        readonly property real corner: view.atWindowBottom ? DarkUI.radiusWindow : 0
         anchors.bottom: parent.bottom
-        x: corner
-        width: parent.width - 2 * corner
+        anchors.bottomMargin: view.beside
+        x: view.beside
+        width: parent.width - 2 * view.beside
         visible: view.faded && !flickable.atYEnd
-        edge: Qt.BottomEdge
         ground: view.ground
-
-        Rectangle { // the window's edge, which the fade covers
-            anchors.bottom: parent.bottom
-            width: parent.width
-            height: DarkUI.hairlineWidth
-            visible: view.atWindowBottom
-            color: DarkUI.windowEdge
-        }
+        radius: view.atWindowBottom ? DarkUI.radiusWindow - view.beside : 0
     }
 
     DarkScrollbar {
         anchors.right: parent.right
         anchors.top: parent.top
         anchors.bottom: parent.bottom
+        anchors.bottomMargin: view.atWindowBottom ? DarkUI.radiusWindow : 0
         view: flickable
         shown: view.scrollbarShown
     }

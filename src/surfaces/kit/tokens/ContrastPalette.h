@@ -22,7 +22,8 @@ constexpr Palette contrasted() {
     look.switchKnob.alpha = look.pageDotCurrent.alpha = look.chosenRing.alpha = 1;
 
     look.textPrimary.alpha = look.textChip.alpha = look.iconPrimary.alpha = 1;
-    look.textSecondary.alpha = look.textCaption.alpha = look.textCapsuleName.alpha = 0.92;
+    look.textSecondary.alpha = look.textCaption.alpha = look.textCapsuleName.alpha =
+        look.textCapsulePaused.alpha = 0.92;
     look.textTertiary.alpha = look.textWeekday.alpha = 0.86;
     look.textDisabled.alpha = look.textWeekdayFuture.alpha = 0.74;
     look.iconQuiet.alpha = look.iconStrip.alpha = 0.92;

@@ -112,6 +112,7 @@ struct Palette {
     Color textWeekday{kWhite, 0.55};       ///< weekday letters and month names
     Color textWeekdayFuture{kWhite, 0.30}; ///< for days to come
     Color textCapsuleName{kWhite, 0.62};
+    Color textCapsulePaused{kWhite, 0.74};
     Color textChip{kWhite, 0.90};
     Color iconQuiet{kWhite, 0.54};
     Color iconStrip{kWhite, 0.62};
@@ -180,7 +181,7 @@ struct TypeScale {
     TypeStep panelTitle = display(15, 20, -0.010);
     TypeStep lead = plain(15, 23);
     /// on the wide primary button
-    TypeStep leadButton = plain(15, 20, QFont::DemiBold);
+    TypeStep leadButton = plain(15, 20, QFont::DemiBold, -0.005);
     TypeStep note = plain(14, 20);
     TypeStep body = plain(13, 20);
     /// rows, secondary buttons
@@ -197,6 +198,8 @@ struct TypeScale {
     TypeStep smallMedium = plain(11, 15, QFont::Medium);
     TypeStep kicker = plain(11, 14, QFont::DemiBold, 0.080);
     TypeStep sectionLabel = plain(11, 14, QFont::DemiBold, 0.080, true);
+    /// keys, tracked for legibility
+    TypeStep keycap = plain(11, 15, QFont::Normal, 0.060);
     TypeStep capsuleSkill = plain(10, 13, QFont::Normal, 0.09);
     TypeStep capsuleChip = plain(11, 15, QFont::Medium);
     TypeStep kickerPoster = plain(10, 13, QFont::DemiBold, 0.080);
@@ -292,6 +295,7 @@ struct Lengths {
     int scrollbarWidth = 5;
     int scrollbarInset = 4;
     int edgeFadeLength = 36;
+    int edgeFadeTop = 12; ///< under a title strip
     int stripHeight = 36;
     int stripButtonSize = 24;
     int navRowHeight = 38;
