@@ -89,8 +89,10 @@ Line layOut(const QString& text, const QFont& font) {
         for (const QPointF& advance : advances) {
             const bool digit = isDigit(text[at++]);
             const double room = digit ? cell : advance.x();
-            positions.append({line.width + (room - advance.x()) / 2, 0.0});
-            line.width += room + space;
+            const double before = at == 1 ? 0.0 : (room - advance.x()) / 2;
+            const double behind = (room - advance.x()) / 2;
+            positions.append({line.width + before, 0.0});
+            line.width += before + advance.x() + behind + space;
         }
         run.setPositions(positions);
     }

@@ -22,8 +22,10 @@ struct Line {
 /// Returns the width of a digit's cell, without tracking.
 [[nodiscard]] double cellWidth(const QFont& font);
 
-/// Shapes the text: digits in cells, the rest at its own width, with the font's tracking. Text with
-/// ligatures or combining glyphs is set without cells.
+/// Shapes the text: digits in cells, the rest at its own width, with the font's tracking. A leading
+/// digit starts at its own edge, so that a 1 is flush with the left margin; the width depends on
+/// that digit and on the number of digits alone.
+/// Text with ligatures or combining glyphs is set without cells.
 [[nodiscard]] Line layOut(const QString& text, const QFont& font);
 
 } // namespace vantle::tabular

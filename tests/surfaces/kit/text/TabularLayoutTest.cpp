@@ -38,8 +38,8 @@ TEST(TabularLayout, AnotherFamilyGetsTheCellOfItsWidestDigit) {
 }
 
 TEST(TabularLayout, AClockIsAsWideWhateverItShows) {
-    EXPECT_DOUBLE_EQ(width("1:11:11", kClock), width("0:48:36", kClock));
-    EXPECT_DOUBLE_EQ(width("11.1 h", kRow), width("84.0 h", kRow));
+    EXPECT_DOUBLE_EQ(width("0:11:11", kClock), width("0:48:36", kClock));
+    EXPECT_DOUBLE_EQ(width("81.1 h", kRow), width("84.0 h", kRow));
 }
 
 TEST(TabularLayout, TrackingCountsForEveryCharacter) {
@@ -48,11 +48,25 @@ TEST(TabularLayout, TrackingCountsForEveryCharacter) {
 }
 
 TEST(TabularLayout, ADigitStandsInTheMiddleOfItsCell) {
-    const Line one = layOut(QStringLiteral("1"), kRow);
-    const Line eight = layOut(QStringLiteral("8"), kRow);
+    const Line one = layOut(QStringLiteral(":1"), kRow);
+    const Line eight = layOut(QStringLiteral(":8"), kRow);
     ASSERT_EQ(one.runs.size(), 1);
-    EXPECT_GT(one.runs[0].positions()[0].x(), eight.runs[0].positions()[0].x());
-    EXPECT_NEAR(one.width, cellWidth(kRow), 1e-9);
+    EXPECT_GT(one.runs[0].positions()[1].x(), eight.runs[0].positions()[1].x());
+    EXPECT_NEAR(one.width - width(":", kRow), cellWidth(kRow), 1e-9);
+}
+
+TEST(TabularLayout, ALineBeginsWhereItsFirstDigitDoes) {
+    for (const char* text : {"1:48:36", "8:48:36"}) {
+        const Line line = layOut(QString::fromLatin1(text), kClock);
+        ASSERT_EQ(line.runs.size(), 1);
+        EXPECT_DOUBLE_EQ(line.runs[0].positions()[0].x(), 0.0) << text;
+    }
+    // The digits behind the first one stand where they stood, seen from the end.
+    const Line one = layOut(QStringLiteral("1:48:36"), kClock);
+    const Line two = layOut(QStringLiteral("2:48:36"), kClock);
+    for (qsizetype i = 1; i < 7; ++i)
+        EXPECT_NEAR(one.width - one.runs[0].positions()[i].x(),
+                    two.width - two.runs[0].positions()[i].x(), 1e-9);
 }
 
 TEST(TabularLayout, LettersKeepTheirOwnWidths) { EXPECT_LT(width("i", kRow), width("m", kRow)); }
