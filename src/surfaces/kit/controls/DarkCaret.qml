@@ -3,19 +3,26 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Vantle.Kit
 
-Rectangle {
+Item {
     id: caret
 
     property bool shown: false
     property bool lit: true
+    property bool ahead: false // of an empty field: left of the placeholder's first letter
 
     width: DarkUI.caretWidth
-    color: DarkUI.caret
     visible: shown && lit
     // Moving it restarts the blink.
     onXChanged: {
         lit = true;
         blink.restart();
+    }
+
+    Rectangle {
+        x: caret.ahead ? -DarkUI.space2 : 0
+        width: parent.width
+        height: parent.height
+        color: DarkUI.caret
     }
 
     Timer {

@@ -19,7 +19,7 @@ KitPressable {
     readonly property bool showsPlay: playOnHover && (hovered || ringed)
     readonly property real leading: large ? DarkUI.space10 : DarkUI.space8
     readonly property real gap: large ? DarkUI.space8 : DarkUI.space8
-    signal contextMenuRequested
+    signal contextMenuRequested(bool byKey)
 
     implicitWidth: (hasDot ? leading + DarkUI.chipDotSize + gap : leading + DarkUI.space2)
                    + label.implicitWidth + (check.visible ? gap + check.width : 0)
@@ -91,8 +91,8 @@ KitPressable {
     TapHandler {
         acceptedButtons: Qt.RightButton
         gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: chip.contextMenuRequested()
+        onTapped: chip.contextMenuRequested(false)
     }
 
-    Keys.onMenuPressed: chip.contextMenuRequested()
+    Keys.onMenuPressed: chip.contextMenuRequested(true)
 }

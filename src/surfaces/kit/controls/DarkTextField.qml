@@ -74,8 +74,10 @@ FocusScope {
         TextInput {
             id: input
             anchors.left: parent.left
-            anchors.leftMargin: leading.visible ? leading.x + leading.width + DarkUI.space8
-                                                : field.padding
+            // Room for the caret of an empty field, since the input clips.
+            leftPadding: DarkUI.space2
+            anchors.leftMargin: (leading.visible ? leading.x + leading.width + DarkUI.space8
+                                                 : field.padding) - leftPadding
             anchors.right: parent.right
             anchors.rightMargin: clearing.visible ? DarkUI.fieldHeight : field.padding
             anchors.verticalCenter: parent.verticalCenter
@@ -90,6 +92,7 @@ FocusScope {
             renderType: placeholderText.renderType
             cursorDelegate: DarkCaret {
                 shown: input.cursorVisible
+                ahead: placeholderText.visible
             }
             onTextChanged: {
                 field.keepLimit();
@@ -131,6 +134,7 @@ FocusScope {
         DarkText {
             id: placeholderText
             anchors.left: input.left
+            anchors.leftMargin: input.leftPadding
             anchors.right: input.right
             anchors.verticalCenter: parent.verticalCenter
             visible: input.text === "" && input.preeditText === ""

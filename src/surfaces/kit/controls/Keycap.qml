@@ -8,17 +8,17 @@ Plate {
 
     required property string text
 
-    implicitWidth: label.implicitWidth + 2 * DarkUI.space6
+    implicitWidth: Math.ceil(label.implicitWidth) + 2 * DarkUI.space6
     implicitHeight: DarkUI.keycapHeight
     radius: DarkUI.radiusKeycap
-    color: DarkUI.rowHover
     edge: DarkUI.keycapEdge
 
     DarkText {
         id: label
-        anchors.centerIn: parent
+        anchors.verticalCenter: parent.verticalCenter
+        x: DarkUI.space6
         text: cap.text
-        role: DarkUI.smallMedium
+        role: DarkUI.keycap
         color: DarkUI.textSecondary
     }
 }

@@ -2,10 +2,11 @@ import QtQuick
 import QtTest
 import Vantle.Kit
 
-Item {
+Rectangle {
     id: scene
     width: 400
     height: 200
+    color: DarkUI.windowGround
 
     Column {
         spacing: 20
@@ -51,6 +52,32 @@ Item {
             accepted.clear();
             wanted.clear();
             edited.clear();
+        }
+
+        // The columns in which the picture has a colour of that kind.
+        function columns(picture, fits) {
+            const found = [];
+            for (let x = 0; x < picture.width; ++x) {
+                for (let y = 8; y < picture.height - 8; ++y) {
+                    if (fits(picture.red(x, y), picture.blue(x, y))) {
+                        found.push(x);
+                        break;
+                    }
+                }
+            }
+            return found;
+        }
+
+        function test_caretIsBesideThePlaceholdersFirstLetter() {
+            const resting = columns(grabImage(field), (red, blue) => red > 60);
+            field.input.forceActiveFocus();
+            tryVerify(() => columns(grabImage(field), (red, blue) => blue > red + 40)
+                                .some(x => x > 6 && x < 40));
+            const caret = columns(grabImage(field), (red, blue) => blue > red + 40)
+                .filter(x => x > 6 && x < 290);
+            const letter = resting.find(x => x > 6);
+            verify(caret.length > 0 && caret[caret.length - 1] < letter,
+                   caret + " and the letter at " + letter);
         }
 
         function type(text) {
