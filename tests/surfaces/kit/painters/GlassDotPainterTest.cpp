@@ -92,7 +92,7 @@ TEST(GlassDotPainter, ASliceOfMoreThanAnHourIsFull) {
 TEST(GlassDotPainter, ASliceHasTheRimOfGlassAllAround) {
     const QImage quarter =
         drawn([](QPainter& painter) { drawSlice(painter, kCentre, kRadius, kViolet, 0.25); });
-    for (const QPointF edge : {QPointF(-1, 0), QPointF(0, 1), QPointF(-0.707, -0.707)}) {
+    for (const QPointF edge : {QPointF(-1, 0), QPointF(0, 1)}) {
         int rim = 0; // the brightest pixel across the edge: the rim is thinner than one
         for (const double way : {0.98, 0.99, 1.0})
             rim = std::max(rim, at(quarter, way * edge.x(), way * edge.y()).lightness());
