@@ -42,7 +42,11 @@ FocusScope {
     // A Repeater of one: in Qt 6.4 a Loader cannot create bound components.
     Repeater {
         model: overlay.hasMenu ? 1 : 0
-        onItemAdded: (index, item) => overlay.present(item)
+        onItemAdded: (index, item) => {
+            overlay.present(item);
+            if (overlay.capsule.menuByKey)
+                (item as ChipMenu).focusRow(0);
+        }
         onItemRemoved: overlay.shown = null
 
         ChipMenu {

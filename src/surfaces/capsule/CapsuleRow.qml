@@ -79,7 +79,7 @@ Item {
         y: CapsuleTokens.skillLineTop
         text: row.capsule.skillLine
         role: DarkUI.capsuleSkill
-        color: DarkUI.textCapsuleName
+        color: row.capsule.paused ? DarkUI.textCapsulePaused : DarkUI.textCapsuleName
     }
 
     DarkText {

@@ -13,7 +13,7 @@ QtObject {
     readonly property real roundChip: DarkUI.capsuleChipSize
     readonly property real roundChipTop: 16
     readonly property real stopGlyph: 9
-    readonly property real playGlyph: 13 // on the icon grid; the triangle itself is 8 wide
+    readonly property real playGlyph: 16 // on the icon grid; the triangle itself is 8 wide
     readonly property real glow: 10 // reach of the ring's glow
     readonly property real glowOpacity: 0.55
     readonly property real ringOpacity: 0.6

@@ -205,11 +205,12 @@ QString NotchCapsule::menuSkillName() const {
     return skill != nullptr ? skill->name : QString();
 }
 
-void NotchCapsule::openMenu(const QString& skillId) {
+void NotchCapsule::openMenu(const QString& skillId, bool byKey) {
     if (!chipMayEdit() || m_leaving || find(skillId) == nullptr) return;
     dismissOverlay();
     m_opening.pushCollapseSuspend();
     m_menuSkillId = skillId;
+    m_menuByKey = byKey;
     m_overlayAnchor = chipRect(skillId);
     Q_EMIT overlayChanged();
     if (m_stage != nullptr) m_stage->takeKeyboard();

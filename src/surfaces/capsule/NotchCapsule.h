@@ -58,6 +58,8 @@ class NotchCapsule final : public QObject {
     /// The chip whose menu is open; empty when none is.
     Q_PROPERTY(QString menuSkillId READ menuSkillId NOTIFY overlayChanged)
     Q_PROPERTY(QString menuSkillName READ menuSkillName NOTIFY overlayChanged)
+    /// Whether a key opened the menu, which then highlights its first row.
+    Q_PROPERTY(bool menuByKey READ isMenuByKey NOTIFY overlayChanged)
     Q_PROPERTY(vantle::SkillEditor* editor READ editor CONSTANT)
     /// The owner of the open menu or editor: a chip or the add row.
     Q_PROPERTY(QRectF overlayAnchor READ overlayAnchor NOTIFY overlayChanged)
@@ -111,7 +113,7 @@ public:
     /// A click on the capsule outside its chips.
     Q_INVOKABLE void click();
     Q_INVOKABLE void pickSkill(const QString& skillId);
-    Q_INVOKABLE void openMenu(const QString& skillId);
+    Q_INVOKABLE void openMenu(const QString& skillId, bool byKey = false);
     Q_INVOKABLE void chipRequestsRename();
     Q_INVOKABLE void chipRequestsRecolor();
     Q_INVOKABLE void chipRequestsDelete();
@@ -151,6 +153,7 @@ public:
     [[nodiscard]] bool chipMayEdit() const { return m_form.edit.has_value(); }
     [[nodiscard]] const QString& menuSkillId() const { return m_menuSkillId; }
     [[nodiscard]] QString menuSkillName() const;
+    [[nodiscard]] bool isMenuByKey() const { return m_menuByKey; }
     [[nodiscard]] SkillEditor* editor() { return &m_editor; }
     [[nodiscard]] QRectF overlayAnchor() const { return m_overlayAnchor; }
     [[nodiscard]] QRectF overlayRect() const { return m_overlayRect; }
@@ -200,6 +203,7 @@ private:
     CapsuleStage* m_stage = nullptr;
 
     QString m_menuSkillId;
+    bool m_menuByKey = false;
     SkillEditor m_editor;
     QRectF m_overlayAnchor;
     QRectF m_overlayRect;

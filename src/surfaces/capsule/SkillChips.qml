@@ -33,7 +33,7 @@ Item {
             playOnHover: chips.capsule.idlePrompt
             choosable: !playOnHover
             onClicked: chips.capsule.pickSkill(skillId)
-            onContextMenuRequested: chips.capsule.openMenu(skillId)
+            onContextMenuRequested: byKey => chips.capsule.openMenu(skillId, byKey)
         }
     }
 }

@@ -226,6 +226,16 @@ TEST_F(CapsuleWindowTest, TheMenuWorksByKeysAlone) {
     EXPECT_TRUE(shows(text("Choose a color")));
 }
 
+TEST_F(CapsuleWindowTest, AMenuOpenedByAKeyHasItsFirstRowMarked) {
+    raiseIdle();
+    item(text("Design"))->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Menu);
+    ASSERT_NE(item(text("Rename…")), nullptr);
+    EXPECT_TRUE(item(text("Rename…"))->hasActiveFocus());
+    press(Qt::Key_Return);
+    EXPECT_TRUE(shows(text("Rename skill")));
+}
+
 TEST_F(CapsuleWindowTest, DeletingFromTheMenuReachesTheModel) {
     raiseIdle();
     click(middleOf(text("Design")), Qt::RightButton);
