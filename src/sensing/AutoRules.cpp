@@ -93,11 +93,11 @@ void AutoRules::setRule(const QString& bundleId, const std::optional<QString>& r
     const auto rule = m_state.rules.find(bundleId);
     const bool isThere = rule != m_state.rules.end();
     if (ruling ? isThere && *rule == *ruling : !isThere) return;
+    m_state.automaticRuleBundleIds.remove(bundleId);
     if (ruling)
         m_state.rules.insert(bundleId, *ruling);
     else
-        m_state.rules.erase(rule);
-    m_state.automaticRuleBundleIds.remove(bundleId);
+        m_state.rules.erase(rule); // last: the caller's id may be the rule's own key
     saveRules();
 }
 
