@@ -37,7 +37,8 @@ public:
 private:
     [[nodiscard]] static std::uint32_t firstSeed() {
         if (isOneLife()) return qgetenv("VANTLE_LAB_SEED").toUInt();
-        return std::uint32_t(QDateTime::currentMSecsSinceEpoch() / 100);
+        // A short run plays the same lives each time: it tests a change, not the luck of a day.
+        return isLong() ? std::uint32_t(QDateTime::currentMSecsSinceEpoch() / 100) : 1;
     }
 
     const char* m_experiment;

@@ -4,6 +4,8 @@
 #include "sensing/AutoRules.h"
 #include "tracking/Samples.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <cmath>
 
@@ -280,7 +282,8 @@ void ScriptedLife::erase() {
     world.model->markWelcomeDone();
     m_isErasing = false;
     m_open.reset();
-    if (!problem || !problem->contains(QLatin1String("sessions.jsonl"))) m_acknowledged = {};
+    static const QRegularExpression keptLog(QStringLiteral("(?<!corrupt-)sessions\\.jsonl"));
+    if (!problem || !problem->contains(keptLog)) m_acknowledged = {};
 }
 
 } // namespace vantle::tests
