@@ -126,13 +126,8 @@ KitControl {
             role: DarkUI.note
             wrapMode: Text.Wrap
             Accessible.ignored: true
-            // Reserves the buttons' room beside the first line, so that no line moves under the
-            // pointer.
-            onLineLaidOut: line => {
-                line.y = line.number * lineHeight;
-                if (line.number === 0)
-                    line.width = width - row.buttonsRoom;
-            }
+            balanced: false // as the user's own words come
+            firstLineRoom: row.buttonsRoom // so that no line moves under the pointer
         }
 
         Loader {

@@ -22,8 +22,9 @@ FocusScope {
     property bool focused: input.activeFocus // shows the focused edge
     property alias input: input
     // px; shows all of the placeholder
-    readonly property real placeholderWidth: input.anchors.leftMargin + input.anchors.rightMargin
+    readonly property real placeholderWidth: input.anchors.leftMargin + input.leftPadding
                                              + Math.ceil(placeholderText.implicitWidth)
+                                             + input.anchors.rightMargin
     signal accepted
     signal edited // by the user
     signal keyboardWanted // pressed: a window that does not accept focus must request it now

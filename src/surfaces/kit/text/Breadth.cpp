@@ -52,6 +52,15 @@ public:
         return lines;
     }
 
+    /// Within the px that a view may be narrower than the text that it takes its width from.
+    [[nodiscard]] bool fitsOneLine() {
+        m_layout.beginLayout();
+        m_layout.createLine().setLineWidth(m_column.width - m_column.firstLineRoom + kSlack);
+        const bool fits = !m_layout.createLine().isValid();
+        m_layout.endLayout();
+        return fits;
+    }
+
 private:
     Column m_column;
     QString m_text;
@@ -78,6 +87,7 @@ double balancedBreadth(const QString& text, const QFont& font, const Column& col
     Setter setter(text, font, column);
     const Lines lines = setter.at(column.width);
     if (lines.count < 2 || lines.count > column.mostLines || !lines.fits) return column.width;
+    if (setter.fitsOneLine()) return column.width;
     if (lines.count > 2 && !lines.isLastBare) return column.width;
     const double even = evenBreadth(setter, column.width, lines.count);
     if (lines.count == 2) return std::min(column.width, std::ceil(even + kSlack));

@@ -9,6 +9,11 @@ Text {
     property TypeRole role: DarkUI.body
     property bool balanced: true // even lines, and no last line of a single word
     property real firstLineRoom: 0 // px kept free at the end of the first line
+    // A text whose width follows from its own implicitWidth must not be balanced: its shorter lines
+    // would be its next width.
+    // Without a width each letter would be a line, and what is as high as its texts far too high.
+    readonly property bool lays: wrapMode !== Text.NoWrap && width > 0
+                                 && (balanced || firstLineRoom > 0)
     property bool breaks: false // lineLaidOut is connected
     property real breadth: 0 // px, the width that lines break at
 
@@ -21,6 +26,9 @@ Text {
                     : KitText.breadth(words, font, width, firstLineRoom,
                                       renderType === Text.QtRendering, maximumLineCount);
         line.width = Math.min(breadth, width - room);
+        // A line that is laid out here starts lower than others, by what the type's own height is
+        // more than the fixed one.
+        line.y = line.number * lineHeight;
         // Aligns within the full width.
         const left = width - room - line.width;
         if (effectiveHorizontalAlignment === Text.AlignRight)
@@ -45,11 +53,12 @@ Text {
     renderType: role.size <= 15 && Screen.devicePixelRatio === 1 ? Text.NativeRendering
                                                                  : Text.QtRendering
 
-    onWrapModeChanged: {
-        if (breaks || wrapMode === Text.NoWrap)
+    onLaysChanged: {
+        if (breaks || !lays)
             return;
         breaks = true;
         lineLaidOut.connect(setLine);
+        forceLayout();
     }
     onFirstLineRoomChanged: forceLayout()
 

@@ -89,6 +89,14 @@ TEST(Breadth, OneLineAndWordsThatAreTooLongKeepTheirColumn) {
         100);
 }
 
+TEST(Breadth, AColumnAsWideAsItsTextKeepsItInOneLine) {
+    for (const QString& text : {QStringLiteral("Ready to focus"), kTwoLines, kHebrew}) {
+        const double whole = setAt(text, caption(), 1e6).widths[0];
+        for (const double less : {0.0, 0.3, 0.9})
+            EXPECT_EQ(balancedBreadth(text, caption(), {whole - less, 0}), whole - less);
+    }
+}
+
 TEST(Breadth, RoomAtTheEndOfTheFirstLineIsKeptFree) {
     const double whole = setAt(kTwoLines, caption(), 1e6).widths[0];
     const double width = whole * 0.8;

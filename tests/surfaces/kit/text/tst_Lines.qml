@@ -5,7 +5,7 @@ import Vantle.Kit
 Rectangle {
     id: scene
     width: 420
-    height: 300
+    height: 340
     color: "black"
 
     component Sample: DarkText {
@@ -45,9 +45,51 @@ Rectangle {
         firstLineRoom: 80
     }
 
+    Sample {
+        id: wrapping
+        y: 300
+        width: 60
+        text: "Hxy"
+    }
+    Sample {
+        id: whole
+        x: 60
+        y: 300
+        width: 60
+        text: wrapping.text
+        wrapMode: Text.NoWrap
+    }
+
+    Component {
+        id: column
+
+        Column {
+            width: 300
+
+            Sample {
+                width: parent.width
+                text: english.text
+            }
+        }
+    }
+
     TestCase {
         name: "Lines"
         when: windowShown
+
+        // The row of the topmost ink in a part of the scene.
+        function inkTop(left, right) {
+            const picture = grabImage(scene);
+            for (let y = 300; y < 340; ++y)
+                for (let x = left; x < right; ++x)
+                    if (picture.red(x, y) >= 60)
+                        return y;
+            return -1;
+        }
+        function test_oneThatMayWrapStandsAsHighAsOthers() {
+            verify(inkTop(0, 60) > 0);
+            compare(inkTop(0, 60), inkTop(60, 120));
+        }
 
         // From where to where each line of the text is inked.
         function lines(sample) {
@@ -89,6 +131,11 @@ Rectangle {
                 verify(Math.abs(line.right - 300) < 4, line.right);
             for (const line of lines(centred))
                 verify(Math.abs(line.left + line.right - 300) < 6, line.left + line.right);
+        }
+
+        function test_itsHeightIsRightFromTheStart() {
+            const made = createTemporaryObject(column, scene);
+            compare(made.implicitHeight, 2 * english.lineHeight);
         }
 
         function test_theFirstLineLeavesRoom() {
