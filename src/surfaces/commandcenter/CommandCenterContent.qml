@@ -44,27 +44,27 @@ FocusScope {
             height: headline.height + DarkUI.space2 + explanation.height + DarkUI.space18
 
             TextMetrics {
-                id: wholeTitle
+                id: titleState
                 font: headline.font
-                text: content.model.title
+                text: content.model.titleState
             }
             DarkText {
                 id: headline
                 readonly property real room: parent.width - keycap.width - DarkUI.space12
                 // What does not fit beside the shortcut takes more lines, together with the time.
-                readonly property bool wrapped: wholeTitle.advanceWidth > room
+                readonly property bool wrapped: titleState.advanceWidth + time.implicitWidth > room
                 y: DarkUI.space18
-                width: wrapped ? room : implicitWidth
+                width: wrapped ? room : Math.ceil(titleState.advanceWidth)
                 text: wrapped ? content.model.title : content.model.titleState
                 role: DarkUI.panelTitle
-                wrapMode: Text.Wrap
+                wrapMode: wrapped ? Text.Wrap : Text.NoWrap
                 Accessible.role: Accessible.Heading
                 Accessible.name: content.model.title
             }
-            DarkText {
+            TabularText {
                 id: time
                 anchors.left: headline.right
-                anchors.baseline: headline.baseline
+                y: headline.y
                 visible: !headline.wrapped
                 text: content.model.titleTime === "" ? "" : " · " + content.model.titleTime
                 role: DarkUI.panelTitle

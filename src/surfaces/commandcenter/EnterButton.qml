@@ -68,9 +68,21 @@ KitPressable {
             }
         }
 
+        KitIcon {
+            anchors.right: label.left
+            anchors.rightMargin: DarkUI.space6
+            anchors.verticalCenter: parent.verticalCenter
+            visible: button.paused
+            name: "pause"
+            color: label.color
+        }
+
         DarkText {
+            id: label
+            readonly property real besideSign: button.paused ? DarkUI.iconSize + DarkUI.space6 : 0
             anchors.centerIn: parent
-            width: Math.min(implicitWidth, parent.width - 2 * DarkUI.space14)
+            anchors.horizontalCenterOffset: besideSign / 2
+            width: Math.min(implicitWidth, parent.width - 2 * DarkUI.space14 - besideSign)
             text: button.text
             role: DarkUI.leadButton
             fontSizeMode: Text.HorizontalFit

@@ -8,7 +8,7 @@ KitPressable {
 
     required property bool active // whether the editor is open for a new mode
 
-    implicitWidth: sign.x + sign.width + DarkUI.space8 + label.implicitWidth + DarkUI.space12
+    implicitWidth: label.x + label.implicitWidth + DarkUI.space12
     implicitHeight: DarkUI.largeChipHeight
     name: qsTr("New Mode")
 
@@ -31,8 +31,9 @@ KitPressable {
 
     DarkText {
         id: label
+        readonly property real gap: 5
         anchors.left: sign.right
-        anchors.leftMargin: DarkUI.space8
+        anchors.leftMargin: gap
         anchors.verticalCenter: parent.verticalCenter
         text: chip.name
         role: DarkUI.captionMedium
