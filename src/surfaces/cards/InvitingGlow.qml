@@ -8,6 +8,7 @@ Item {
 
     property real radius: DarkUI.radiusButton
     property real phase: Motion.reduced ? 1 : 0 // 0 dark, 1 bright
+    property bool glows: !Motion.reduced
     readonly property int ringWidth: DarkUI.focusWidth
 
     z: -1
@@ -38,7 +39,7 @@ Item {
 
     // Made of rings, so that nothing lies under the translucent field.
     Repeater {
-        model: Motion.reduced ? 0 : DarkUI.invitationGlow / light.ringWidth
+        model: !light.glows ? 0 : DarkUI.invitationGlow / light.ringWidth
 
         Plate {
             required property int index

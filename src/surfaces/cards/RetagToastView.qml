@@ -19,6 +19,8 @@ FloatingSurface {
     groundHeight: height40
 
     readonly property int height40: 40
+    readonly property real checkStroke: 1.75
+    readonly property real checkLight: 0.35 // lighter than the skill
 
     Accessible.role: Accessible.Notification
     Accessible.name: view.model.spoken
@@ -38,10 +40,11 @@ FloatingSurface {
 
             KitIcon {
                 anchors.centerIn: parent
-                width: DarkUI.iconTiny
-                height: DarkUI.iconTiny
+                width: DarkUI.iconSmall
+                height: DarkUI.iconSmall
                 name: "check"
-                color: view.model.skillColor
+                stroke: view.checkStroke
+                color: Tint.lightened(view.model.skillColor, view.checkLight)
             }
         }
 

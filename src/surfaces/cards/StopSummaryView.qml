@@ -94,9 +94,12 @@ FloatingSurface {
 
         Flow {
             width: parent.width
-            spacing: view.model.dotCount > 0 ? DarkUI.space10 : DarkUI.space8
+            // A result too wide to stand beside its dots wraps below them.
+            spacing: view.model.dotCount > 0 && !wraps ? DarkUI.space10 : DarkUI.space8
+            readonly property bool wraps: hours.width + DarkUI.space10 + result.width > width
 
             Row {
+                id: hours
                 visible: view.model.dotCount > 0
                 height: result.height
                 spacing: dotGap
@@ -136,6 +139,7 @@ FloatingSurface {
                 width: Math.min(implicitWidth, said.width - (slice.visible ? slice.width
                                                              + DarkUI.space8 : 0))
                 text: view.model.resultText
+                balanced: false
                 wrapMode: Text.Wrap
                 role: view.model.dotCount > 0 ? DarkUI.bodyMedium : DarkUI.body
                 color: view.model.dotCount > 0 ? DarkUI.textPrimary : DarkUI.textSecondary
@@ -189,16 +193,19 @@ FloatingSurface {
         KitIcon {
             id: lockIcon
             anchors.verticalCenter: parent.verticalCenter
-            width: DarkUI.iconSmall
-            height: DarkUI.iconSmall
+            readonly property real bearing: 1.5 // of the icon's shape within its box
+            x: -bearing
+            width: DarkUI.iconTiny
+            height: DarkUI.iconTiny
             name: "lock"
             color: DarkUI.textTertiary
         }
 
         DarkText {
             id: lockText
-            x: lockIcon.width + DarkUI.space4
+            x: textLeft
             width: parent.width - x - (counter.text === "" ? 0 : counter.width + DarkUI.space8)
+            readonly property real textLeft: 13 // leaves 6 px after the lock
             text: view.model.lockText
             role: DarkUI.small
             color: DarkUI.textTertiary

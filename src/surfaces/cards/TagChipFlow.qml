@@ -16,7 +16,7 @@ ArrowGroup {
     Flow {
         id: flow
         width: parent.width
-        spacing: DarkUI.space8
+        spacing: DarkUI.space6
 
         Repeater {
             model: chips.choices

@@ -26,7 +26,7 @@ FloatingSurface {
         spacing: DarkUI.space4
 
         DarkText {
-            width: parent.width - close.width
+            width: close.x - DarkUI.space12 - asked.x
             text: view.model.headline
             role: DarkUI.cardTitle
             wrapMode: Text.Wrap
@@ -44,7 +44,7 @@ FloatingSurface {
         id: chips
         x: asked.x
         y: asked.y + asked.height + DarkUI.space16
-        width: asked.width + DarkUI.space8 // a row slightly too wide may extend into the margin
+        width: asked.width
         focus: true
         choices: view.model.choices
         onPicked: index => view.model.pick(index)

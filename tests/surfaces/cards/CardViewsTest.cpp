@@ -64,7 +64,7 @@ TEST_F(CardViewsTest, ReturnKeepsTheSessionAndTabThenSpaceDiscards) {
 
 TEST_F(CardViewsTest, AQuestionIsAnsweredByAChip) {
     ask();
-    EXPECT_EQ(feltSize(), QSize(380, 202));
+    EXPECT_EQ(feltSize(), QSize(380, 200));
     click(text("Founder Ops"));
     EXPECT_EQ(answers, QStringList(skills.all()[4].id));
 }
