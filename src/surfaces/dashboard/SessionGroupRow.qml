@@ -53,7 +53,7 @@ ReadableStop {
         visible: row.line.isManual
     }
 
-    TabularText {
+    DarkText {
         id: duration
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter

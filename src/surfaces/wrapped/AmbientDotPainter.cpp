@@ -19,6 +19,8 @@ constexpr double kTintedLight = 0.34;
 constexpr double kWhiteReach = 3.4; // radii
 constexpr double kTintedReach = 5;
 constexpr double kHaloLight = 0.45; // of the dot's own
+constexpr double kWhiteDarkest = 0.4;
+constexpr double kTintedDarkest = 0.65;
 
 // The star falls gently to the right.
 constexpr QPointF kStarWay{300, 96};
@@ -54,6 +56,13 @@ double fraction(double value) { return value - std::floor(value); }
 double reach(const AmbientDot& dot) {
     return std::ceil(dot.radius * (isWhite(dot) ? kWhiteReach : kTintedReach));
 }
+
+double strength(const AmbientDot& dot) {
+    const double light = isWhite(dot) ? kWhiteLight : kTintedLight;
+    return 1 - (1 - light) * (1 - light * kHaloLight); // the dot over its halo
+}
+
+double darkest(const AmbientDot& dot) { return isWhite(dot) ? kWhiteDarkest : kTintedDarkest; }
 
 QImage image(const AmbientDot& dot, double scale) {
     const double edge = reach(dot);

@@ -16,6 +16,12 @@ namespace vantle::ambientdot {
 /// Returns the distance from the dot's centre to the edge of its halo.
 [[nodiscard]] double reach(const wrappedmotion::AmbientDot& dot);
 
+/// Returns the opacity of the dot's centre at its brightest, 0 to 1.
+[[nodiscard]] double strength(const wrappedmotion::AmbientDot& dot);
+
+/// Returns the lowest light of the dot, relative to its brightest.
+[[nodiscard]] double darkest(const wrappedmotion::AmbientDot& dot);
+
 /// Returns the dot at its brightest, centred; the image has its scale as device pixel ratio.
 [[nodiscard]] QImage image(const wrappedmotion::AmbientDot& dot, double scale);
 

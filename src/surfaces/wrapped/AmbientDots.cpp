@@ -6,6 +6,7 @@
 #include <QSGImageNode>
 #include <QSGOpacityNode>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -25,7 +26,27 @@ const std::array<AmbientDot, wrappedmotion::ambientDots>& dots() {
     return made;
 }
 
-constexpr double kDarkest = 0.4; // relative to the brightest
+constexpr double kQuietLight = 0.055; // opacity
+constexpr double kQuietReach = 8;     // px from it
+constexpr double kQuietEnd = 20;      // px from it, the end of the ramp to full light
+
+/// Returns the distance in px from the point to the nearest quiet area, at most kQuietEnd.
+double distance(QPointF point, const QList<QRectF>& quiet) {
+    double nearest = kQuietEnd;
+    for (const QRectF& area : quiet) {
+        const double x = std::max({area.left() - point.x(), 0.0, point.x() - area.right()});
+        const double y = std::max({area.top() - point.y(), 0.0, point.y() - area.bottom()});
+        nearest = std::min(nearest, std::hypot(x, y));
+    }
+    return nearest;
+}
+
+/// Returns the highest light of the dot there, relative to its brightest.
+double allowed(const AmbientDot& dot, QPointF point, const QList<QRectF>& quiet) {
+    const double held = kQuietLight / ambientdot::strength(dot);
+    const double way = (distance(point, quiet) - kQuietReach) / (kQuietEnd - kQuietReach);
+    return held + (1 - held) * std::clamp(way, 0.0, 1.0);
+}
 
 /// An image with its own opacity.
 class LitImage : public QSGOpacityNode {
@@ -91,22 +112,26 @@ double AmbientDots::scale() const { return window() ? window()->effectiveDeviceP
 
 bool AmbientDots::hasStar() const { return wrappedmotion::shootingStar(m_seconds).has_value(); }
 
-AmbientDots::Looks AmbientDots::looksAt(double seconds, QSizeF size, double scale) {
+AmbientDots::Looks AmbientDots::looksAt(double seconds, QSizeF size, double scale,
+                                        const QList<QRectF>& quiet) {
     Looks looks;
     for (std::size_t i = 0; i < looks.size(); ++i) {
         const AmbientDot& dot = dots()[i];
         const auto place = wrappedmotion::place(dot, size.width(), size.height(), seconds);
         const double edge = ambientdot::reach(dot);
         const auto snapped = [&](double at) { return std::round((at - edge) * scale) / scale; };
-        const double light = kDarkest + (1 - kDarkest) * place.twinkle;
+        const double darkest = ambientdot::darkest(dot);
+        const double light = darkest + (1 - darkest) * place.twinkle;
+        const double most = allowed(dot, {place.x, place.y}, quiet);
         looks[i] = {{snapped(place.x), snapped(place.y)},
-                    static_cast<int>(std::lround(light * lightSteps))};
+                    std::min(static_cast<int>(std::lround(light * lightSteps)),
+                             static_cast<int>(most * lightSteps))};
     }
     return looks;
 }
 
 bool AmbientDots::refresh() {
-    const Looks looks = looksAt(m_seconds, size(), scale());
+    const Looks looks = looksAt(m_seconds, size(), scale(), m_quiet);
     if (looks == m_looks) return false;
     m_looks = looks;
     return true;
@@ -118,6 +143,13 @@ void AmbientDots::setSeconds(double seconds) {
     m_seconds = seconds;
     if (refresh() || hadStar || hasStar()) update();
     Q_EMIT secondsChanged();
+}
+
+void AmbientDots::setQuiet(const QList<QRectF>& quiet) {
+    if (m_quiet == quiet) return;
+    m_quiet = quiet;
+    if (refresh()) update();
+    Q_EMIT quietChanged();
 }
 
 QSGNode* AmbientDots::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/) {

@@ -3,7 +3,9 @@
 
 #include "review/WrappedMotion.h"
 
+#include <QList>
 #include <QQuickItem>
+#include <QRectF>
 
 #include <array>
 
@@ -17,6 +19,8 @@ class AmbientDots : public QQuickItem {
     QML_ELEMENT
     /// The age of the field.
     Q_PROPERTY(double seconds READ seconds WRITE setSeconds NOTIFY secondsChanged)
+    /// Areas to read or press: on them and within 8 px dots have an opacity below 0.06.
+    Q_PROPERTY(QList<QRectF> quiet READ quiet WRITE setQuiet NOTIFY quietChanged)
     /// Whether a star is visible, which needs more frames a second than the dots.
     Q_PROPERTY(bool hasStar READ hasStar NOTIFY secondsChanged)
 
@@ -26,6 +30,8 @@ public:
     [[nodiscard]] double seconds() const { return m_seconds; }
     void setSeconds(double seconds);
     [[nodiscard]] bool hasStar() const;
+    [[nodiscard]] QList<QRectF> quiet() const { return m_quiet; }
+    void setQuiet(const QList<QRectF>& quiet);
 
     /// A dot's position and brightness on the screen.
     struct Look {
@@ -35,10 +41,12 @@ public:
     };
     static constexpr int lightSteps = 24;
     using Looks = std::array<Look, wrappedmotion::ambientDots>;
-    [[nodiscard]] static Looks looksAt(double seconds, QSizeF size, double scale);
+    [[nodiscard]] static Looks looksAt(double seconds, QSizeF size, double scale,
+                                       const QList<QRectF>& quiet = {});
 
 Q_SIGNALS:
     void secondsChanged();
+    void quietChanged();
 
 protected:
     QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
@@ -50,6 +58,7 @@ private:
     [[nodiscard]] bool refresh();
 
     double m_seconds = 0;
+    QList<QRectF> m_quiet;
     Looks m_looks;
 };
 

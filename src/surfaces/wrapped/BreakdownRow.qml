@@ -25,7 +25,7 @@ Item {
         Accessible.ignored: true
     }
 
-    TabularText {
+    DarkText {
         id: hours
         anchors.right: parent.right
         anchors.rightMargin: row.shareWidth
@@ -35,7 +35,7 @@ Item {
         Accessible.ignored: true
     }
 
-    TabularText {
+    DarkText {
         anchors.right: parent.right
         text: row.line.share
         role: DarkUI.note

@@ -10,6 +10,7 @@ ReviewPage {
     readonly property heroCard content: texts.hero
 
     kicker: content.kicker
+    ruledFoot: foot.ruled ? foot : null
 
     Column {
         y: Math.round((foot.y - height) / 2)

@@ -12,6 +12,7 @@ ReviewPage {
     readonly property bool known: content.name !== ""
 
     kicker: content.kicker
+    ruledFoot: foot.ruled ? foot : null
 
     Column {
         y: Math.round((foot.y - height) / 2)

@@ -13,6 +13,7 @@ FocusScope {
     property string kicker
     property bool animated: false // whether its parts enter in sequence
     property bool leaving: false
+    property Item ruledFoot: null // a foot that begins with a hairline
     property string lines // the page's texts, for screen readers
     readonly property real kickerHeight: DarkUI.kicker.line
     // The quiet block below the hours: always as high as with three lines, so that what stands

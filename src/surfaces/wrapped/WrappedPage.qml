@@ -55,6 +55,16 @@ FocusScope {
     AmbientDotField {
         anchors.fill: parent
         clip: true // keeps halos off the window's edge
+        quiet: {
+            const across = (y, height) => Qt.rect(stack.x, y, stack.width, height);
+            const found = [across(stack.y, DarkUI.kicker.line)];
+            if (pager.visible)
+                found.push(Qt.rect(pager.x, pager.y, pager.width, pager.height));
+            const foot = stack.current?.ruledFoot;
+            if (foot)
+                found.push(across(stack.y + foot.y, DarkUI.hairlineWidth));
+            return found;
+        }
     }
 
     SegmentedPicker {

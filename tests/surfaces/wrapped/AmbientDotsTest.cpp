@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace vantle {
@@ -35,6 +36,41 @@ TEST(AmbientDots, AreNeverDarkAndNeverBrighterThanTheirImage) {
             EXPECT_GT(look.light, 0);
             EXPECT_LE(look.light, AmbientDots::lightSteps);
         }
+}
+
+TEST(AmbientDots, KeepOutOfWhatIsRead) {
+    const QList<QRectF> quiet = {{36, 64, 368, 14}, {32, 608, 376, 32}, {36, 560, 368, 1}};
+    int near = 0;
+    for (int step = 0; step < 400; ++step) {
+        const Looks looks = AmbientDots::looksAt(step * 0.1, kField, 2, quiet);
+        for (std::size_t i = 0; i < looks.size(); ++i) {
+            const auto dot = wrappedmotion::ambientDot(static_cast<int>(i));
+            const double reach = ambientdot::reach(dot);
+            const QPointF middle = looks[i].corner + QPointF(reach, reach);
+            const bool isNear = std::any_of(quiet.begin(), quiet.end(), [&](const QRectF& area) {
+                return area.adjusted(-7, -7, 7, 7).contains(middle);
+            });
+            if (!isNear) continue;
+            ++near;
+            const QImage image = ambientdot::image(dot, 2);
+            const double brightest =
+                image.pixelColor(image.width() / 2, image.height() / 2).alphaF();
+            EXPECT_LT(brightest * looks[i].light / AmbientDots::lightSteps, 0.06) << i;
+        }
+    }
+    EXPECT_GT(near, 400) << "some dots are there";
+}
+
+TEST(AmbientDots, TintedOnesAreNeverFaint) {
+    for (int step = 0; step < 200; ++step) {
+        const Looks looks = AmbientDots::looksAt(step * 0.1, kField, 1);
+        for (std::size_t i = 0; i < looks.size(); ++i) {
+            if (wrappedmotion::ambientDot(static_cast<int>(i)).group ==
+                wrappedmotion::AmbientDot::Group::White)
+                continue;
+            EXPECT_GE(looks[i].light, 0.6 * AmbientDots::lightSteps) << i;
+        }
+    }
 }
 
 TEST(AmbientDots, OnlyAFewChangeFromOneMomentToTheNext) {
