@@ -9,10 +9,13 @@
 #include <QPen>
 #include <QRawFont>
 #include <QTextLayout>
+#include <QTransform>
 
 namespace vantle::postertext {
 
 namespace {
+
+constexpr double kOutlineSize = 512; // px
 
 /// Whether the font's glyphs are outlines; emoji fonts and bitmap fonts have none.
 bool hasOutlines(const QRawFont& face) {
@@ -54,8 +57,13 @@ private:
         }
         const auto glyphs = run.glyphIndexes();
         const auto places = run.positions();
+        // Small outlines are rounded depending on the size that the face was used at before.
+        QRawFont large = face;
+        large.setPixelSize(kOutlineSize);
+        const double scale = face.pixelSize() / kOutlineSize;
+        const auto shrink = QTransform::fromScale(scale, scale);
         for (qsizetype i = 0; i < glyphs.size(); ++i)
-            outlines.addPath(face.pathForGlyph(glyphs[i]).translated(places[i]));
+            outlines.addPath(shrink.map(large.pathForGlyph(glyphs[i])).translated(places[i]));
         outlines.setFillRule(Qt::WindingFill);
     }
 };

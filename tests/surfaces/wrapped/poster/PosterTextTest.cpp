@@ -1,6 +1,7 @@
 #include "surfaces/wrapped/poster/PosterText.h"
 
 #include "support/QtPrinters.h"
+#include "surfaces/kit/text/Typeface.h"
 
 #include <QFontDatabase>
 #include <QImage>
@@ -34,6 +35,21 @@ int litColumns(const QImage& image, int from, int to) {
                 break;
             }
     return count;
+}
+
+TEST(PosterText, IsTheSameWhateverElseWasDrawnInItsFace) {
+    const QString words = QStringLiteral("Rewriting the importer, 718.9 h");
+    const QImage before = drawn(words);
+    QImage other(300, 60, QImage::Format_RGB32);
+    QPainter painter(&other);
+    for (const int size : {11, 12, 17, 23, 40}) {
+        QFont face = fontOf(kSkill);
+        face.setPixelSize(size);
+        painter.setFont(face);
+        painter.drawText(20, 40, words);
+    }
+    painter.end();
+    EXPECT_EQ(drawn(words), before);
 }
 
 TEST(PosterText, IsMadeSmallerUntilItFits) {
