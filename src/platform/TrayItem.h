@@ -42,10 +42,14 @@ public:
     /// shows the item. May stay true without a tray.
     [[nodiscard]] virtual bool isPlacePending() const { return false; }
 
+    /// Whether the bar is light; where its colour is unknown, whether the theme is.
+    [[nodiscard]] virtual bool isOnLightGround() const { return false; }
+
 Q_SIGNALS:
     /// A left or right click at that position; (0, 0) where unknown.
     void clicked(QPoint place);
     void shownChanged();
+    void groundChanged();
     /// geometry() or isPlacePending() changed.
     void placeChanged();
 };

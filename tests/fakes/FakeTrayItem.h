@@ -21,12 +21,19 @@ public:
     [[nodiscard]] bool isShown() const override { return m_shown && m_hasImage; }
     [[nodiscard]] QRect geometry() const override { return place; }
     [[nodiscard]] bool isPlacePending() const override { return placePending; }
+    [[nodiscard]] bool isOnLightGround() const override { return m_onLightGround; }
 
     /// The tray moves the item there.
     void moveTo(const QRect& frame) {
         place = frame;
         placePending = false;
         Q_EMIT placeChanged();
+    }
+
+    /// The bar becomes light or dark.
+    void setOnLightGround(bool light) {
+        m_onLightGround = light;
+        Q_EMIT groundChanged();
     }
 
     /// The tray appears or disappears.
@@ -66,6 +73,7 @@ public:
 private:
     bool m_shown = true;
     bool m_hasImage = true;
+    bool m_onLightGround = false;
 };
 
 } // namespace vantle::fakes

@@ -43,7 +43,8 @@ void DesktopTrayItem::choose() {
         m_window = std::make_unique<XEmbedTrayItem>(drawnImage(), m_toolTip);
         connect(m_window.get(), &XEmbedTrayItem::clicked, this, &TrayItem::clicked);
         connect(m_window.get(), &XEmbedTrayItem::shownChanged, this, &DesktopTrayItem::updateShown);
-        connect(m_window.get(), &XEmbedTrayItem::groundChanged, this, &DesktopTrayItem::showImage);
+        connect(m_window.get(), &XEmbedTrayItem::groundChanged, this,
+                &DesktopTrayItem::followGround);
         connect(m_window.get(), &XEmbedTrayItem::placeChanged, this, &TrayItem::placeChanged);
     } else {
         m_window.reset();
@@ -51,6 +52,7 @@ void DesktopTrayItem::choose() {
     }
     updateShown();
     Q_EMIT placeChanged();
+    Q_EMIT groundChanged();
 }
 
 void DesktopTrayItem::updateShown() {
@@ -71,6 +73,17 @@ void DesktopTrayItem::showImage() {
     const QIcon& drawn = drawnImage();
     m_notifier.setImage(drawn);
     if (m_window) m_window->setImage(drawn);
+}
+
+bool DesktopTrayItem::isOnLightGround() const {
+    // StatusNotifierItem hosts do not report their panel's colour; the theme's text stands in.
+    const std::optional<QColor> ground = m_window ? m_window->ground() : std::nullopt;
+    return isDark(barTextColour(ground));
+}
+
+void DesktopTrayItem::followGround() {
+    if (m_isTemplate) showImage();
+    Q_EMIT groundChanged();
 }
 
 const QIcon& DesktopTrayItem::drawnImage() {
@@ -101,9 +114,9 @@ bool DesktopTrayItem::isPlacePending() const {
 }
 
 bool DesktopTrayItem::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::ApplicationPaletteChange && m_isTemplate &&
+    if (event->type() == QEvent::ApplicationPaletteChange &&
         watched == QCoreApplication::instance())
-        showImage();
+        followGround();
     return TrayItem::eventFilter(watched, event);
 }
 

@@ -27,6 +27,7 @@ public:
     [[nodiscard]] bool isShown() const override { return m_shown; }
     [[nodiscard]] QRect geometry() const override;
     [[nodiscard]] bool isPlacePending() const override;
+    [[nodiscard]] bool isOnLightGround() const override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -36,6 +37,7 @@ private:
     void choose();
     void updateShown();
     void showImage();
+    void followGround();
     [[nodiscard]] const QIcon& drawnImage();
 
     struct Coloured {

@@ -30,9 +30,7 @@ constexpr double kEdgeOpacity = 0.9;
 constexpr double kEdgedFrom = 0.42;
 constexpr double kFullyEdgedFrom = 0.52;
 
-QColor oppositeOf(const QColor& colour) {
-    return qGray(colour.rgb()) < kMiddleGray ? Qt::white : Qt::black;
-}
+QColor oppositeOf(const QColor& colour) { return isDark(colour) ? Qt::white : Qt::black; }
 
 double edgeWeight(QRgb pixel) {
     return std::clamp((qAlpha(pixel) / 255.0 - kEdgedFrom) / (kFullyEdgedFrom - kEdgedFrom), 0.0,
@@ -77,6 +75,8 @@ QList<QSize> sizesOf(const QIcon& image) {
 }
 
 } // namespace
+
+bool isDark(const QColor& colour) { return qGray(colour.rgb()) < kMiddleGray; }
 
 QIcon inColour(const QIcon& shape, const QColor& colour) {
     QIcon coloured;

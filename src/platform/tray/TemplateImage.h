@@ -16,6 +16,9 @@ namespace vantle {
 /// light colour and white for a dark one.
 [[nodiscard]] QIcon inColourWithEdge(const QIcon& shape, const QColor& colour);
 
+/// Whether the colour is darker than middle gray.
+[[nodiscard]] bool isDark(const QColor& colour);
+
 /// Returns the colour for a bar's text: the window text of the palette, which follows the theme;
 /// white without a palette. On a known background with too little contrast, such as a dark bar
 /// without a theme, black or white.

@@ -47,6 +47,10 @@ constexpr QSizeF kPauseBar{1.2, 4.4};
 constexpr double kPauseGap = 0.8;
 constexpr double kPauseBarAlpha = 0.9;
 
+/// On a light bar a halo loses half of its contrast, and white pause bars all of it.
+constexpr double kHaloOnLight = 2;
+constexpr QColor kInk(0x0A, 0x0A, 0x0F);
+
 /// The plate behind the image while the panel is open, visible on light and dark bars.
 constexpr QColor kPlateColor(0x80, 0x80, 0x80);
 constexpr double kPlateAlpha = 0.4;
@@ -77,9 +81,9 @@ double pauseGap(int pixels) {
     return (pixels % 2 == 0 ? 2.0 : 1.0) / unit;
 }
 
-void fillPauseBars(QPainter& painter, double gap) {
+void fillPauseBars(QPainter& painter, double gap, const QColor& ink) {
     const double top = kCentre.y() - kPauseBar.height() / 2;
-    const QColor color = withAlpha(Qt::white, kPauseBarAlpha);
+    const QColor color = withAlpha(ink, kPauseBarAlpha);
     for (const double left : {kCentre.x() - gap / 2 - kPauseBar.width(), kCentre.x() + gap / 2})
         painter.fillRect(QRectF(QPointF(left, top), kPauseBar), color);
 }
@@ -111,13 +115,14 @@ QImage drawBrick(int pixels) {
     });
 }
 
-QImage drawStatusDot(int pixels, std::uint32_t hexRGB, int phase, bool paused) {
+QImage drawStatusDot(int pixels, std::uint32_t hexRGB, int phase, bool paused, bool onLight) {
     return drawn(pixels, [=](QPainter& painter) {
         const QColor color(QRgb{hexRGB & 0xFFFFFFU});
         const Dot dot = paused ? kPausedDot : breathingDot(phase);
-        fillCircle(painter, dot.haloRadius, withAlpha(color, dot.haloAlpha));
+        const double halo = dot.haloAlpha * (onLight ? kHaloOnLight : 1);
+        fillCircle(painter, dot.haloRadius, withAlpha(color, halo));
         fillCircle(painter, dot.coreRadius, withAlpha(color, dot.coreAlpha));
-        if (paused) fillPauseBars(painter, pauseGap(pixels));
+        if (paused) fillPauseBars(painter, pauseGap(pixels), onLight ? kInk : QColor(Qt::white));
     });
 }
 

@@ -17,8 +17,10 @@ inline constexpr int kPhases = 8;
 [[nodiscard]] QImage drawBrick(int pixels);
 
 /// The dot of an open session in the skill's colour. `phase`, 0 to 7, is the step of the breath, 2
-/// the fullest. Paused: faint, with two white bars, not breathing.
-[[nodiscard]] QImage drawStatusDot(int pixels, std::uint32_t hexRGB, int phase, bool paused);
+/// the fullest. Paused: faint, with two bars, not breathing. On a light bar the halo is twice as
+/// strong and the bars are dark instead of white.
+[[nodiscard]] QImage drawStatusDot(int pixels, std::uint32_t hexRGB, int phase, bool paused,
+                                   bool onLight = false);
 
 /// The image on a plate, for the open panel.
 [[nodiscard]] QImage onPlate(const QImage& image);

@@ -27,12 +27,14 @@ MenuBarIcon::MenuBarIcon()
     m_open.setIsMask(true);
 }
 
-QIcon MenuBarIcon::statusDot(std::uint32_t hexRGB, int phase, bool paused, bool open) {
-    const Key key{hexRGB, paused ? 0 : phase, paused, open};
+QIcon MenuBarIcon::statusDot(std::uint32_t hexRGB, int phase, bool paused, bool open,
+                             bool onLight) {
+    const Key key{hexRGB, paused ? 0 : phase, paused, open, onLight};
     const auto known = m_dotCache.constFind(key);
     if (known != m_dotCache.constEnd()) return *known;
     QIcon icon = iconOf([&](int pixels) {
-        const QImage dot = menubar::drawStatusDot(pixels, key.hexRGB, key.phase, key.paused);
+        const QImage dot =
+            menubar::drawStatusDot(pixels, key.hexRGB, key.phase, key.paused, key.onLight);
         return key.open ? menubar::onPlate(dot) : dot;
     });
     m_dotCache.insert(key, icon);

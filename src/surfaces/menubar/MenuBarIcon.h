@@ -19,11 +19,12 @@ public:
     [[nodiscard]] const QIcon& brick(bool open = false) const { return open ? m_open : m_brick; }
 
     /// The image of an open session in the skill's colour, `phase` 0 to 7, which has no effect
-    /// while paused. Repeated calls are lookups.
-    [[nodiscard]] QIcon statusDot(std::uint32_t hexRGB, int phase, bool paused, bool open = false);
+    /// while paused. `onLight` is for a light bar. Repeated calls are lookups.
+    [[nodiscard]] QIcon statusDot(std::uint32_t hexRGB, int phase, bool paused, bool open = false,
+                                  bool onLight = false);
 
     /// The number of cached dots: per colour at most eight that breathe and a paused one, with and
-    /// without the plate.
+    /// without the plate, on light and dark bars.
     [[nodiscard]] qsizetype dotCount() const { return m_dotCache.size(); }
 
 private:
@@ -32,9 +33,10 @@ private:
         int phase;
         bool paused;
         bool open;
+        bool onLight;
         friend bool operator==(const Key&, const Key&) = default;
         friend size_t qHash(const Key& key, size_t seed) {
-            return qHashMulti(seed, key.hexRGB, key.phase, key.paused, key.open);
+            return qHashMulti(seed, key.hexRGB, key.phase, key.paused, key.open, key.onLight);
         }
     };
 

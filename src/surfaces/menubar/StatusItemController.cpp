@@ -28,6 +28,7 @@ StatusItemController::StatusItemController(const Environment& environment) : m_e
     connect(&m_env.tracker, &TrackerCore::currentSkillIdChanged, this,
             &StatusItemController::applyLater);
     connect(&m_env.item, &TrayItem::shownChanged, this, &StatusItemController::apply);
+    connect(&m_env.item, &TrayItem::groundChanged, this, &StatusItemController::showAgain);
     connect(&m_env.screens, &ScreenPower::slept, this, &StatusItemController::apply);
     connect(&m_env.screens, &ScreenPower::woke, this, &StatusItemController::apply);
     applyLater();
@@ -39,7 +40,10 @@ void StatusItemController::setStatusText(const QString& text) {
 }
 
 void StatusItemController::setPanelOpen(bool open) {
-    if (std::exchange(m_panelOpen, open) == open) return;
+    if (std::exchange(m_panelOpen, open) != open) showAgain();
+}
+
+void StatusItemController::showAgain() {
     if (m_pulseTimer)
         showDot(m_pulsePhase, false);
     else
@@ -107,7 +111,8 @@ void StatusItemController::tickPulse() {
 }
 
 void StatusItemController::showDot(int phase, bool paused) {
-    m_env.item.setImage(m_icons.statusDot(currentSkill().hexRGB, phase, paused, m_panelOpen),
+    m_env.item.setImage(m_icons.statusDot(currentSkill().hexRGB, phase, paused, m_panelOpen,
+                                          m_env.item.isOnLightGround()),
                         false);
 }
 

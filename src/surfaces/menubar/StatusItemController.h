@@ -65,6 +65,7 @@ private:
     void tickPulse();
     void startPulse();
     void showDot(int phase, bool paused);
+    void showAgain(); ///< the same state on another background
     [[nodiscard]] bool isHidden() const;
     [[nodiscard]] Skill currentSkill() const;
 

@@ -113,6 +113,17 @@ TEST_F(DesktopTrayItemTest, DarkTemplateIsWhiteOnADarkBar) {
     expectOnScreen(Qt::white);
 }
 
+TEST_F(DesktopTrayItemTest, TellsWhetherTheBarIsLight) {
+    setTextColour(Qt::black);
+    EXPECT_TRUE(m_item->isOnLightGround()) << "by the theme";
+    setTextColour(Qt::white);
+    EXPECT_FALSE(m_item->isOnLightGround());
+    setTextColour(Qt::black);
+    const Trayer tray(kDarkBar);
+    m_item->setImage(m_red, false);
+    EXPECT_TRUE(await([&] { return !m_item->isOnLightGround(); })) << "by the bar itself";
+}
+
 TEST_F(DesktopTrayItemTest, TemplateHasNoEdgeOnABarWhoseColourIsSeen) {
     setTextColour(Qt::black);
     const Trayer tray(kDarkBar);

@@ -164,6 +164,29 @@ TEST(MenuBarDrawing, PutsTwoWhiteBarsOnAPausedDot) {
         EXPECT_NEAR(alphaAt(dot, 8.0, y), ground, 0.01) << y;
 }
 
+TEST(MenuBarDrawing, OnALightBarTheHaloIsTwiceAsStrong) {
+    for (const bool paused : {false, true}) {
+        const QImage dark = drawStatusDot(kLarge, kBuild, 2, paused);
+        const QImage light = drawStatusDot(kLarge, kBuild, 2, paused, true);
+        EXPECT_NEAR(alphaAt(light, 9 - 5.5, 9), 2 * alphaAt(dark, 9 - 5.5, 9), 0.01);
+    }
+}
+
+TEST(MenuBarDrawing, OnALightBarThePauseIsDark) {
+    for (const int pixels : {16, 18, 22, 24, kLarge}) {
+        QImage bar(pixels, pixels, QImage::Format_RGB32);
+        bar.fill(QColor(0xE8, 0xE9, 0xED));
+        QPainter(&bar).drawImage(0, 0, drawStatusDot(pixels, kBuild, 0, true, true));
+        const int middle = pixels / 2;
+        int darkest = 255;
+        for (int x = 0; x < pixels; ++x)
+            darkest = std::min(darkest, qGray(bar.pixel(x, middle)));
+        const int beside = qGray(bar.pixel(static_cast<int>(pixels * (9 - 5.5) / 18), middle));
+        EXPECT_LT(darkest, 90) << pixels;
+        EXPECT_GT(beside, 180) << pixels;
+    }
+}
+
 TEST(MenuBarDrawing, DrawsAPausedDotFaintAndWithoutBreath) {
     const QImage dot = drawStatusDot(kLarge, kBuild, 0, true);
     EXPECT_NEAR(alphaAt(dot, 9 - 3.2, 9), over(0.45, 0.12), 0.01);

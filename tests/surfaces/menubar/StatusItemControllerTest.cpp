@@ -131,6 +131,19 @@ TEST_F(StatusItemControllerTest, BreathesFromTheStartOfASession) {
     }
 }
 
+TEST_F(StatusItemControllerTest, ImageIsThatOfTheBarsGround) {
+    makeSettledController();
+    startSession();
+    tracker.pause(time.now());
+    time.settle();
+    const std::uint32_t color = designSkill().hexRGB;
+    expectDot(designSkill(), 0, true);
+    item.setOnLightGround(true);
+    EXPECT_EQ(shown(), menubar::drawStatusDot(36, color, 0, true, true)) << "at once";
+    item.setOnLightGround(false);
+    expectDot(designSkill(), 0, true);
+}
+
 TEST_F(StatusItemControllerTest, ImageStandsOnAPlateWhileThePanelIsOpen) {
     makeSettledController();
     const auto expectImage = [&](const QImage& image) {
