@@ -67,6 +67,14 @@ std::function<void(QQuickItem&)> typing(const QString& note) {
     };
 }
 
+/// The light around the note's field as bright as it gets, which stands still here.
+void light(QQuickItem& item) {
+    if (QByteArrayView(item.metaObject()->className()).startsWith("InvitingGlow"))
+        item.setProperty("glows", true);
+    for (QQuickItem* child : item.childItems())
+        light(*child);
+}
+
 QList<Scene> summaries() {
     Scene newHours = summary("stop-summary-new-hours", worked(8640, 2, 1440));
     newHours.arrange = typing(QStringLiteral("Webhook retries land in order"));
@@ -74,7 +82,10 @@ QList<Scene> summaries() {
     Content first = worked(42, 0, 42);
     first.isFirstSession = first.showHotkeyHint = first.spotlightNote = true;
     Scene firstSession = summary("stop-summary-first-session", first);
-    firstSession.arrange = typing(QString());
+    firstSession.arrange = [](QQuickItem& view) {
+        typing(QString())(view);
+        light(view);
+    };
     firstSession.twice = true;
     Scene nearLimit = summary("stop-summary-note-limit", worked(2280, 0, 2280), "Connections");
     nearLimit.arrange =

@@ -1,5 +1,6 @@
 #include "app/ModelWorld.h"
 #include "app/OpenQuestions.h"
+#include "base/Words.h"
 #include "gallery/Scenes.h"
 #include "surfaces/commandcenter/CommandCenterModel.h"
 
@@ -42,10 +43,10 @@ public:
 
 private:
     static QList<CommandCenterModel::Door> doors() {
-        return {{WindowId::Dashboard, {QStringLiteral("Dashboard"), QStringLiteral("D")}},
-                {WindowId::Wrapped, {QStringLiteral("Wrapped")}},
-                {WindowId::Log, {QStringLiteral("Notes")}},
-                {WindowId::Settings, {QStringLiteral("Settings"), QStringLiteral(",")}}};
+        return {{WindowId::Dashboard, {Words::tr("Dashboard"), QStringLiteral("D")}},
+                {WindowId::Wrapped, {Words::tr("Wrapped")}},
+                {WindowId::Log, {Words::tr("Notes")}},
+                {WindowId::Settings, {Words::tr("Settings"), QStringLiteral(",")}}};
     }
     CommandCenterActions actions() {
         AppModel& model = *world.model;
@@ -93,9 +94,25 @@ void makeReviewDue(Desk& desk) {
     desk.world.settle();
 }
 
+/// The name is being typed.
+void focusField(QQuickItem& item) {
+    if (QByteArrayView(item.metaObject()->className()).startsWith("SkillNameField"))
+        item.forceActiveFocus(Qt::TabFocusReason);
+    for (QQuickItem* child : item.childItems())
+        focusField(*child);
+}
+
 } // namespace
 
 QList<Scene> commandCenterScenes() {
+    Scene editor = scene(
+        "command-center-editor",
+        [](Desk& desk) {
+            desk.content->addMode();
+            desk.content->editor()->setName(QStringLiteral("Research"));
+        },
+        true, true);
+    editor.arrange = [](QQuickItem& view) { focusField(view); };
     return {
         scene(
             "command-center-idle", [](Desk&) {}, true, true),
@@ -109,13 +126,7 @@ QList<Scene> commandCenterScenes() {
                   desk.work(48);
                   desk.world.model->tracker().pause(desk.world.time.now());
               }),
-        scene(
-            "command-center-editor",
-            [](Desk& desk) {
-                desk.content->addMode();
-                desk.content->editor()->setName(QStringLiteral("Research"));
-            },
-            true, true),
+        editor,
         scene("command-center-wrapped-ready", makeReviewDue),
         scene("command-center-long-names",
               [](Desk& desk) {

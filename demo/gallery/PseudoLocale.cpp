@@ -32,6 +32,7 @@ QString more(qsizetype length) {
 } // namespace
 
 QString PseudoLocale::text(const QString& source) {
+    if (source.isEmpty()) return {};
     static const QRegularExpression placeholder(QStringLiteral("%\\d|%n|\\{\\w+\\}"));
     QString made = QStringLiteral("[");
     qsizetype from = 0;
@@ -45,8 +46,9 @@ QString PseudoLocale::text(const QString& source) {
 
 QString PseudoLocale::translate(const char* /*context*/, const char* source, const char* comment,
                                 int /*count*/) const {
-    // Not the forms of dates, whose letters stand for figures.
-    if (comment && std::string_view(comment) == "date pattern") return {};
+    // Not the forms of dates and numbers, which stand for figures.
+    const std::string_view about = comment ? comment : "";
+    if (about == "date pattern" || about == "decimal mark") return {};
     return text(QString::fromUtf8(source));
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QImage>
 #include <QList>
 #include <QSize>
 #include <QString>
@@ -28,9 +29,18 @@ struct Scene {
     int margin = 0;
     /// Also drawn at 200 %. Such pictures are large, so few have it.
     bool twice = false;
+    /// Also drawn at 125, 150 and 175 %, where shapes have to meet device pixels.
+    bool everyScale = false;
+    /// Paints a picture without a view; `scale` is its device pixel ratio. Empty for a view.
+    std::function<QImage(double scale)> paint;
     /// Brings the shown view into its state. May be empty.
     std::function<void(QQuickItem& view)> arrange;
 };
+
+/// Returns whether the scene is drawn at that scale.
+[[nodiscard]] inline bool isDrawnAt(const Scene& scene, double scale) {
+    return scale == 1 || scene.everyScale || (scale == 2 && scene.twice);
+}
 
 /// The desktop behind floating surfaces.
 inline const QColor kDesk{0x22, 0x26, 0x30};

@@ -14,6 +14,8 @@ QList<Scene> allScenes() {
     scenes += welcomeScenes();
     scenes += reviewScenes();
     scenes += posterScenes();
+    scenes += trayScenes();
+    scenes += ceremonyScenes();
     return scenes;
 }
 

@@ -28,6 +28,7 @@ QSizeF sizeOf(const QQuickItem& view, const Scene& scene) {
 } // namespace
 
 Stage::Stage(const Scene& scene, bool still) {
+    if (scene.paint) return; // has no view
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
     Motion::of(m_engine)->setReduced(still);
     QQmlComponent component(&m_engine, scene.view);

@@ -3,12 +3,13 @@
 //     vantle_gallery <folder> [scene...]     writes pictures, of all scenes when none is named
 //     vantle_gallery --show <scene>          opens one to be played with
 //     vantle_gallery --list
+//     vantle_gallery --language <language> <folder> [scene...]     pictures in that language
 //     vantle_gallery --pseudo <folder> [scene...]     pictures in the pseudo-locale
 //     vantle_gallery --texts [scene...]     tells what can't be read in the pseudo-locale, one line
 //                                           a fault: "scene: kind: text"
 //
 // Pictures are drawn at the scale that QT_SCALE_FACTOR says; above 1 only the scenes that ask for
-// it, into files named …@2x.png.
+// it, into files named …@1.5x.png. Painted scenes have no --show.
 #include "gallery/PseudoLocale.h"
 #include "gallery/Scenes.h"
 #include "gallery/Stage.h"
@@ -39,7 +40,7 @@ int list() {
 
 int play(const QString& name) {
     for (const Scene& scene : allScenes()) {
-        if (scene.name != name) continue;
+        if (scene.name != name || scene.paint) continue;
         Stage stage(scene, false);
         if (!stage.error().isEmpty()) return fail(stage.error());
         return QCoreApplication::exec();
@@ -49,29 +50,41 @@ int play(const QString& name) {
 
 int tellFaults(const QStringList& wanted) {
     for (const Scene& scene : allScenes()) {
-        if (!wanted.isEmpty() && !wanted.contains(scene.name)) continue;
+        if (scene.paint || (!wanted.isEmpty() && !wanted.contains(scene.name))) continue;
         Stage stage(scene, true);
         if (!stage.error().isEmpty()) return fail(stage.error());
-        for (QString& fault : textFaults(stage.window()))
+        QStringList faults = untranslatedTexts(stage.window());
+        for (QString& text : faults)
+            text.prepend(QStringLiteral("untranslated: "));
+        for (QString& fault : faults + crampedTexts(stage.window()))
             std::printf("%s: %s\n", qUtf8Printable(scene.name),
                         qUtf8Printable(fault.replace(QLatin1Char('\n'), QLatin1Char(' '))));
     }
     return 0;
 }
 
+/// Returns a null image after an error, which it reports.
+QImage pictureOf(const Scene& scene, double scale) {
+    if (scene.paint) return scene.paint(scale);
+    Stage stage(scene, true);
+    if (stage.error().isEmpty()) return stage.picture();
+    fail(stage.error());
+    return {};
+}
+
 int draw(const QDir& folder, const QStringList& wanted) {
+    const double scale = qGuiApp->devicePixelRatio();
     int drawn = 0;
     for (const Scene& scene : allScenes()) {
         if (!wanted.isEmpty() && !wanted.contains(scene.name)) continue;
         ++drawn;
-        Stage stage(scene, true);
-        if (!stage.error().isEmpty()) return fail(stage.error());
-        const double scale = stage.window().effectiveDevicePixelRatio();
-        if (scale > 1.0 && !scene.twice) continue;
-        const QString ending = scale > 1.0 ? QStringLiteral("@2x.png") : QStringLiteral(".png");
-        const QString path = folder.filePath(scene.name + ending);
+        if (!isDrawnAt(scene, scale)) continue;
+        const QImage picture = pictureOf(scene, scale);
+        if (picture.isNull()) return 1;
+        const QString ending = scale == 1 ? QString() : QStringLiteral("@%1x").arg(scale);
+        const QString path = folder.filePath(scene.name + ending + QStringLiteral(".png"));
         constexpr int kSmallest = 0; // the slowest compression
-        if (!stage.picture().save(path, "PNG", kSmallest))
+        if (!picture.save(path, "PNG", kSmallest))
             return fail(QStringLiteral("Can't write %1").arg(path));
     }
     if (!wanted.isEmpty() && drawn < wanted.size())
@@ -92,8 +105,12 @@ int drawPseudo(const QStringList& arguments) {
 int main(int argc, char** argv) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QGuiApplication application(argc, argv);
+    QStringList arguments = QCoreApplication::arguments().mid(1);
+    if (arguments.value(0) == QLatin1String("--language")) {
+        QLocale::setDefault(QLocale(arguments.value(1)));
+        arguments = arguments.mid(2);
+    }
     const vantle::Catalogues catalogues(QLocale().uiLanguages());
-    const QStringList arguments = QCoreApplication::arguments().mid(1);
     if (arguments.isEmpty() || arguments.first() == QLatin1String("--list")) return vantle::list();
     if (arguments.first() == QLatin1String("--show")) return vantle::play(arguments.value(1));
     if (arguments.first() == QLatin1String("--pseudo") ||

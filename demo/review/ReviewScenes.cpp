@@ -81,11 +81,12 @@ public:
 
 Scene page(const char* name, Sample sample, WrappedPeriod period, const char* card,
            std::function<void(WrappedView&)> then = {}, const char* duration = "natural",
-           const char* locale = "en_US") {
+           const char* locale = nullptr) {
     Scene made = framedScene(name);
     made.properties = [=](QObject* owner) {
         auto* const review = new DemoReview(owner, sample ? sample() : std::vector<Session>(),
-                                            period, QLatin1String(duration), QLatin1String(locale));
+                                            period, QLatin1String(duration),
+                                            locale ? QString::fromLatin1(locale) : sampleLocale());
         review->turnTo(QLatin1String(card));
         if (then) then(review->view);
         return QVariantMap{

@@ -1,3 +1,4 @@
+#include "base/Words.h"
 #include "gallery/Scenes.h"
 #include "surfaces/settings/SettingsWorld.h"
 #include "tracking/Settings.h"
@@ -122,7 +123,7 @@ Scene settingsScene(const char* name, Prepare prepare, Place place,
         if (then) then(view);
         return QVariantMap{{QStringLiteral("view"),
                             QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Settings/SettingsPage.qml"))},
-                           {QStringLiteral("title"), QStringLiteral("Settings")},
+                           {QStringLiteral("title"), Words::tr("Settings")},
                            {QStringLiteral("model"), QVariant::fromValue(&view)}};
     };
     made.arrange = [place](QQuickItem& frame) { scrollTo(frame, place); };
@@ -139,7 +140,7 @@ QQuickItem* buttonNamed(QQuickItem* item, const QString& name) {
 Scene eraseQuestion() {
     Scene made = settingsScene("settings-erase-confirm", {}, end);
     made.arrange = [](QQuickItem& frame) {
-        auto* const erase = buttonNamed(&frame, QStringLiteral("Erase everything"));
+        auto* const erase = buttonNamed(&frame, Words::tr("Erase everything"));
         QMetaObject::invokeMethod(erase, "focusByKeyboard");
         QMetaObject::invokeMethod(erase, "clicked");
         settle();

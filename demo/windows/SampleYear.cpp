@@ -3,6 +3,8 @@
 #include "base/Iso8601.h"
 #include "tracking/JsonForm.h"
 
+#include <QLocale>
+
 #include <array>
 #include <vector>
 
@@ -47,6 +49,11 @@ Session session(int number, Date start, int minutes, const char* skill) {
 } // namespace
 
 Date sampleMoment(const char* text) { return iso8601::parse(text).value_or(dateFromEpoch(0)); }
+
+QString sampleLocale() {
+    const QLocale locale;
+    return locale.language() == QLocale::C ? QStringLiteral("en_US") : locale.name();
+}
 
 Date sampleNow() { return sampleMoment("2025-11-21T15:30:00Z"); }
 

@@ -17,4 +17,8 @@ namespace vantle {
 /// them.
 [[nodiscard]] QByteArray sampleLog(int days = 32);
 
+/// The locale of dates where a scene is not of one in particular: that of the language in which the
+/// pictures are drawn.
+[[nodiscard]] QString sampleLocale();
+
 } // namespace vantle

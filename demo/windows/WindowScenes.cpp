@@ -29,7 +29,7 @@ public:
         return [this] { return calendar; };
     }
 
-    Calendar calendar{QStringLiteral("UTC"), 2, 4};
+    Calendar calendar{QStringLiteral("UTC"), 2, 4, sampleLocale()};
 
     std::unique_ptr<QObject> viewModel; ///< goes before what it looks at
 };
