@@ -69,12 +69,14 @@ class StopSummary(CardTest):
         self.desktop.type("still mine\n")
         wait_until("the line in the editor", lambda: typed.read_text() == "still mine\n")
         self.click_note(card)
+        self.desktop.await_keyboard(SUMMARY)
         self.desktop.type("Retries land in order")
         self.desktop.screenshot("note")
         self.desktop.press("Return")
         wait_until("the note in the log",
                    lambda: self.vantle.sessions()[-1]["note"] == "Retries land in order")
         wait_until("the card gone", lambda: not self.is_up(SUMMARY))
+        self.desktop.await_keyboard("editor")
         self.desktop.type("mine again\n")
         wait_until("the keyboard back", lambda: typed.read_text() == "still mine\nmine again\n")
 
@@ -100,6 +102,7 @@ class StopSummary(CardTest):
         wait_until("the note in the log",
                    lambda: self.vantle.sessions()[-1]["note"] == "Retries land in order")
         wait_until("the card gone", lambda: not self.is_up(SUMMARY))
+        self.desktop.await_keyboard("editor")
         self.desktop.type("mine again\n")
         wait_until("the keyboard back", lambda: typed.read_text() == "mine\nmine again\n")
 
@@ -167,6 +170,7 @@ class ScreenThatGoes(CardTest):
         self.end_session()
         x, y, _, height = self.await_card(SUMMARY)
         self.click(x + 120, y + height - 110)
+        self.desktop.await_keyboard(SUMMARY)
         self.desktop.type("half a")
         # As the server does when the screen under the pointer goes.
         self.desktop.tool("xdotool", "mousemove", "400", "500")
@@ -175,6 +179,7 @@ class ScreenThatGoes(CardTest):
         wait_until("the card on the other screen",
                    lambda: self.desktop.frame_of(window)[0] == 800 - RIGHT_INSET - CARD_WIDTH)
         self.desktop.screenshot("moved")
+        self.desktop.await_keyboard(SUMMARY)
         self.desktop.type(" note")
         self.desktop.press("Return")
         wait_until("the note in the log",
