@@ -15,6 +15,12 @@ class Settings(DesktopTest):
 
     def setUp(self):
         super().setUp()
+        # What is installed here may ask which file manager to take, in front of the window.
+        opener = self.desktop.directory / "bin" / "xdg-open"
+        opener.parent.mkdir()
+        opener.write_text("#!/bin/sh\n")
+        opener.chmod(0o755)
+        self.desktop.env["PATH"] = f"{opener.parent}:{self.desktop.env['PATH']}"
         self.launch()
         activate_action(self.desktop, "settings")
         self.await_in_front()
