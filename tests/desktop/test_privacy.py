@@ -17,6 +17,12 @@ MAY_WRITE = ("~/data/Vantle", "~/config/Vantle", "~/config/autostart", "~/cache/
              "/dev/shm", "/dev/null", "/memfd:", "/proc/{id}/")
 
 
+# What the C library and Qt read of the machine itself on some systems: how many processors and how
+# much memory there is (where /sys is not mounted, as in a container), and who the user is.
+SOMETIMES = {"/proc/stat", "/proc/cpuinfo", "/proc/meminfo", "/proc/filesystems", "/etc/passwd",
+             "/etc/nsswitch.conf", "/etc/machine-id", "/lib64", "/usr/lib64"}
+
+
 class Privacy(WindowCase):
 
     def tour(self):
@@ -50,4 +56,5 @@ class Privacy(WindowCase):
         if os.environ.get("VANTLE_KEEP_OPENED"):
             OPENED.write_text("".join(f"{place}\n" for place in sorted(trace.opened())))
             return
-        self.assertLessEqual(trace.opened(), known, "places that were opened are in opened.txt")
+        self.assertLessEqual(trace.opened(), known | SOMETIMES,
+                             "places that were opened are in opened.txt")
