@@ -62,7 +62,7 @@ class OfWindows(ScreenReader):
             ("heading", "Recent sessions"),
             ("list item", "Nov 3 · 09:30, Build, 30 min"),
             ("list item", "Nov 2 · 09:30, Build, 30 min, manual"))
-        self.assertIn("focused", window.find("push button", "Start building").states)
+        self.await_focused("Your hours", "push button", "Start building")
         self.desktop.press("Return")
         chip, = wait_until("the chip with the keyboard", lambda: [
             one for one in self.reader.window("Your hours").all()
@@ -291,9 +291,8 @@ class OfTheWelcome(ScreenReader):
         self.await_told(WELCOME, "heading", "What are you working towards?")
         window = self.reader.window(WELCOME)
         self.assert_nothing_is_nameless(window)
-        field = window.find("text", "Project")
+        field = self.await_focused(WELCOME, "text", "Project")
         self.assertEqual(field.description, "my app, my degree, 10,000 hours of guitar")
-        self.assertIn("focused", field.states)
         self.assert_told(window, ("indicator", "Step 1 of 10"), ("push button", "Continue"),
                          ("push button", "skip the welcome"))
         self.reader.press(window.find("push button", "Continue"))
@@ -350,7 +349,7 @@ class OfFloatingSurfaces(ScreenReader):
             *(("radio button", name, "Not selected") for name in MODES[1:]),
             ("push button", "Dashboard"), ("push button", "Wrapped"), ("push button", "Notes"),
             ("push button", "Settings"), ("push button", "Quit", "Quit Vantle (Ctrl+Q)"))
-        self.assertIn("focused", window.find("push button", "Enter Vantle").states)
+        self.await_focused(PANEL_TITLE, "push button", "Enter Vantle")
         self.reader.press(window.find("push button", "New Mode"))
         self.await_told(PANEL_TITLE, "text", "New mode name")
         window = self.reader.window(PANEL_TITLE)

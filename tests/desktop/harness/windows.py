@@ -78,3 +78,9 @@ class ReaderCase(WindowCase):
             return wait_until(f"{role} {name!r}", told)
         except AssertionError as failure:
             raise AssertionError(f"{failure}:\n{self.reader.window(title).told()}") from None
+
+    def await_focused(self, title, role, name):
+        """The same of an element that has the keyboard, which comes after the window itself."""
+        return wait_until(f"the keyboard on {name!r}", lambda: next((
+            one for one in self.reader.window(title).all()
+            if (one.role, one.name) == (role, name) and "focused" in one.states), None))
