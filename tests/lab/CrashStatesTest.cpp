@@ -132,7 +132,9 @@ private:
         const double least = m_moment.open->counted - kMarkerLag;
         if (records.isEmpty()) {
             const bool isFused = m_left.isTorn() && m_found.log.size() > m_left.log.size();
-            expect(isFused || least < kLeastOffer, QStringLiteral("the open session is kept"));
+            expect(isFused || least < kLeastOffer,
+                   QStringLiteral("the open session is kept: %1 s were counted")
+                       .arg(m_moment.open->counted));
             return;
         }
         const double seconds = records.first().value(QStringLiteral("activeSeconds")).toDouble();

@@ -136,6 +136,7 @@ private:
             EXPECT_EQ(account.records.size(), m_life.acknowledged().records);
         }
         EXPECT_GE(account.records.size(), m_life.acknowledged().records);
+        EXPECT_TRUE(m_life.hasOldLog());
         if (!m_life.world.skills->readError() && account.skills.isArray()) {
             EXPECT_EQ(QJsonDocument(account.skills.toArray()).toJson(),
                       QJsonDocument::fromJson(json::encode(m_life.world.skills->all())).toJson());

@@ -69,6 +69,7 @@ void ScriptedLife::prepareDisk() {
     world.disk.setContent(pathIn(directory, "skills.json"), json::encode(samples::seeds()));
     settings::skillsMigrationVersion.write(world.preferences, 1);
     m_acknowledged.records = count;
+    if (home == Home::Upgrade) m_oldLog = log;
 }
 
 void ScriptedLife::chooseDeeds() {
@@ -148,6 +149,18 @@ void ScriptedLife::noteEnd() {
 void ScriptedLife::launch() {
     world.launch();
     followSessions();
+    // A directory that could not be moved stays behind with its records, and is not looked at
+    // again.
+    const bool isFirst = m_acknowledged.ended.empty() && !m_isLeftBehind;
+    if (isFirst && !m_oldLog.isEmpty() &&
+        world.disk.content(pathIn("Hourfold", "sessions.jsonl"))) {
+        m_isLeftBehind = true;
+        m_acknowledged = {};
+    }
+}
+
+bool ScriptedLife::hasOldLog() const {
+    return !m_isLeftBehind || world.disk.content(pathIn("Hourfold", "sessions.jsonl")) == m_oldLog;
 }
 
 void ScriptedLife::start() {
@@ -268,6 +281,7 @@ void ScriptedLife::killAndAnswer() {
                 {worked->start, worked->seconds, worked->tolerance + 61});
         }
     } else {
+        m_offered.reset(); // from here on it may be gone
         world.told.recoveryDiscard();
     }
     world.settle();

@@ -57,6 +57,8 @@ public:
         std::vector<Worked> ended; ///< the sessions among them
     };
     [[nodiscard]] const Acknowledged& acknowledged() const { return m_acknowledged; }
+    /// Whether an older directory that could not be moved has its log byte for byte.
+    [[nodiscard]] bool hasOldLog() const;
 
     ModelWorld world;
     const Home home;
@@ -95,6 +97,8 @@ private:
     Acknowledged m_acknowledged;
     std::optional<OpenSession> m_offered; ///< after a kill, until it is answered
     std::optional<Worked> m_open;         ///< by the life's own clock
+    QByteArray m_oldLog;                  ///< of an upgrade, as it was before
+    bool m_isLeftBehind = false;
     bool m_isErasing = false;
     int m_skillsMade = 0;
 };
