@@ -13,8 +13,7 @@ namespace {
 constexpr int kPrivateFile = 0600;
 constexpr int kPrivateDirectory = 0700;
 
-template <typename Name>
-QString fileIn(const QString& directory, const Name& name) {
+QString fileIn(const QString& directory, const QString& name) {
     return directory + QLatin1Char('/') + name;
 }
 
@@ -29,11 +28,11 @@ AppPaths::AppPaths(FileSystem& fileSystem, QString baseDirectory)
     , m_base(std::move(baseDirectory)) {}
 
 QString AppPaths::supportDir() const {
-    const QString primary = fileIn(m_base, QLatin1String("Vantle"));
+    const QString primary = fileIn(m_base, QStringLiteral("Vantle"));
     if (m_fileSystem.exists(primary)) return primary;
     // Earlier versions used another name. Once the new directory exists the old one is never looked
     // at again, even when moving it failed.
-    const QString old = fileIn(m_base, QLatin1String("Hourfold"));
+    const QString old = fileIn(m_base, QStringLiteral("Hourfold"));
     if (m_fileSystem.exists(old) && m_fileSystem.rename(old, primary).ok()) return primary;
     // The directory above each new one is synced, since a power loss could otherwise remove it with
     // its content.
@@ -47,25 +46,25 @@ QString AppPaths::supportDir() const {
 }
 
 QString AppPaths::sessionsFile() const {
-    return fileIn(supportDir(), QLatin1String("sessions.jsonl"));
+    return fileIn(supportDir(), QStringLiteral("sessions.jsonl"));
 }
 
 QString AppPaths::openSessionMarker() const {
-    return fileIn(supportDir(), QLatin1String("open-session.json"));
+    return fileIn(supportDir(), QStringLiteral("open-session.json"));
 }
 
-QString AppPaths::skillsFile() const { return fileIn(supportDir(), QLatin1String("skills.json")); }
+QString AppPaths::skillsFile() const { return fileIn(supportDir(), QStringLiteral("skills.json")); }
 
 QString AppPaths::autoRulesFile() const {
-    return fileIn(supportDir(), QLatin1String("auto-rules.json"));
+    return fileIn(supportDir(), QStringLiteral("auto-rules.json"));
 }
 
 QString AppPaths::corruptSessionsFile() const {
-    return fileIn(supportDir(), QLatin1String("corrupt-sessions.jsonl"));
+    return fileIn(supportDir(), QStringLiteral("corrupt-sessions.jsonl"));
 }
 
 QString AppPaths::instanceLock() const {
-    return fileIn(supportDir(), QLatin1String(".instance.lock"));
+    return fileIn(supportDir(), QStringLiteral(".instance.lock"));
 }
 
 QStringList AppPaths::allDataFiles() const {
@@ -103,20 +102,17 @@ void AppPaths::enforcePrivatePermissions() const {
     m_fileSystem.setMode(directory, kPrivateDirectory).ignore();
     for (const QString& file : allDataFiles())
         if (m_fileSystem.exists(file)) restrictToOwner(file);
-    removeIfPresent(fileIn(directory, QLatin1String("sync-queue.json"))).ignore();
+    removeIfPresent(fileIn(directory, QStringLiteral("sync-queue.json"))).ignore();
     removeHalfWrittenFiles(directory);
 }
 
 void AppPaths::removeHalfWrittenFiles(const QString& directory) const {
     const auto names = m_fileSystem.names(directory);
     if (!names) return;
-    for (const QString& name : names.value()) {
-        const QString target = temporaryFileTarget(name);
-        const bool isOurs = std::ranges::any_of(allDataFiles(), [&](const QString& file) {
-            return file.sliced(directory.size() + 1) == target;
-        });
-        if (isOurs) m_fileSystem.remove(fileIn(directory, name)).ignore();
-    }
+    const QStringList targets = allDataFiles();
+    for (const QString& name : names.value())
+        if (targets.contains(fileIn(directory, temporaryFileTarget(name))))
+            m_fileSystem.remove(fileIn(directory, name)).ignore();
 }
 
 } // namespace vantle
