@@ -17,14 +17,16 @@ Text {
     property bool breaks: false // lineLaidOut is connected
     property real breadth: 0 // px, the width that lines break at
 
+    function balancedWithin(width: real): real {
+        const words = textFormat === Text.StyledText ? KitText.unstyled(text) : text;
+        return KitText.breadth(words, font, width, firstLineRoom, renderType === Text.QtRendering,
+                               maximumLineCount);
+    }
     function setLine(line: var): void {
         const room = line.number === 0 ? firstLineRoom : 0;
         const width = line.width;
-        const words = textFormat === Text.StyledText ? KitText.unstyled(text) : text;
         if (line.number === 0)
-            breadth = !balanced ? width
-                    : KitText.breadth(words, font, width, firstLineRoom,
-                                      renderType === Text.QtRendering, maximumLineCount);
+            breadth = balanced ? balancedWithin(width) : width;
         line.width = Math.min(breadth, width - room);
         // A line that is laid out here starts lower than others, by what the type's own height is
         // more than the fixed one.
