@@ -37,6 +37,16 @@ protected:
         QCoreApplication::processEvents();
         return *m_window.rootObject();
     }
+    /// The picture of the capsule alone, without its page.
+    void showSampleCapsule() {
+        open();
+        walkTo(Notch);
+        m_window.engine()->addImportPath(text("qrc:/qt/qml"));
+        m_window.setInitialProperties({{text("samples"), QVariant::fromValue(view->samples())}});
+        m_window.setSource(QUrl(text("qrc:/qt/qml/Vantle/Welcome/SampleCapsule.qml")));
+        m_window.show();
+        (void)m_window.grabWindow();
+    }
     [[nodiscard]] bool shows(const char* words) { return tests::showsText(m_window, text(words)); }
     [[nodiscard]] QQuickItem* control(const char* name) {
         return tests::shownControl(m_window, text(name));
@@ -197,13 +207,7 @@ TEST_F(WelcomePageTest, ClockOfThePracticeStandsCloseBelowItsMode) {
 }
 
 TEST_F(WelcomePageTest, PointerOfTheSampleStandsBesideTheNames) {
-    open();
-    walkTo(Notch);
-    m_window.engine()->addImportPath(text("qrc:/qt/qml"));
-    m_window.setInitialProperties({{text("samples"), QVariant::fromValue(view->samples())}});
-    m_window.setSource(QUrl(text("qrc:/qt/qml/Vantle/Welcome/SampleCapsule.qml")));
-    m_window.show();
-    (void)m_window.grabWindow();
+    showSampleCapsule();
     const QQuickItem* const pointer =
         tests::shownItem(m_window.contentItem(), [](const QQuickItem& item) {
             return item.property("source").toString().contains(text("pointer.svg"));
@@ -222,13 +226,7 @@ TEST_F(WelcomePageTest, PointerOfTheSampleStandsBesideTheNames) {
 }
 
 TEST_F(WelcomePageTest, StillClockHasTheWidthsOfItsTypeface) {
-    open();
-    walkTo(Notch);
-    m_window.engine()->addImportPath(text("qrc:/qt/qml"));
-    m_window.setInitialProperties({{text("samples"), QVariant::fromValue(view->samples())}});
-    m_window.setSource(QUrl(text("qrc:/qt/qml/Vantle/Welcome/SampleCapsule.qml")));
-    m_window.show();
-    (void)m_window.grabWindow();
+    showSampleCapsule();
     const QQuickItem* const clock = shownText(view->samples()->capsule()->clock());
     ASSERT_NE(clock, nullptr);
     const QFontMetricsF widths(clock->property("font").value<QFont>());
