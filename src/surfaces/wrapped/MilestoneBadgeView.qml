@@ -38,7 +38,14 @@ Plate {
         DarkText {
             anchors.centerIn: parent
             width: ring.width - card.ringDots * ring.dotRadius
+            height: ring.height
             horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+            // A figure that is drawn smaller to fit would stand at the top of its role's line.
+            lineHeightMode: Text.ProportionalHeight
+            lineHeight: 1
+            topPadding: 0
+            bottomPadding: 0
             text: card.badge.hours
             role: card.tiny ? DarkUI.cardTitle : card.small ? DarkUI.titleM : DarkUI.titleXL
             fontSizeMode: Text.HorizontalFit

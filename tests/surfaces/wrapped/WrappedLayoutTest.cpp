@@ -46,6 +46,13 @@ protected:
     void work(const char* day, int minutes, const QString& skill = QStringLiteral("building")) {
         log.push_back(samples::worked(day, minutes, skill));
     }
+    void crossTenMilestones() {
+        for (int day = 0; day < 440; ++day) {
+            work("2024-01-02T00:00:00Z", 1440);
+            log.back().startedAt += Seconds(86400.0 * day);
+            log.back().endedAt += Seconds(86400.0 * day);
+        }
+    }
 };
 
 TEST_F(WrappedLayoutTest, WallReachesBothMargins) {
@@ -61,11 +68,7 @@ TEST_F(WrappedLayoutTest, WallReachesBothMargins) {
 }
 
 TEST_F(WrappedLayoutTest, TenMilestonesStandInTwoRowsOfFive) {
-    for (int day = 0; day < 440; ++day) {
-        work("2024-01-02T00:00:00Z", 1440);
-        log.back().startedAt += Seconds(86400.0 * day);
-        log.back().endedAt += Seconds(86400.0 * day);
-    }
+    crossTenMilestones();
     showPage("All time", "milestones");
     std::set<double> columns;
     std::set<double> rows;
@@ -82,6 +85,20 @@ TEST_F(WrappedLayoutTest, TenMilestonesStandInTwoRowsOfFive) {
     EXPECT_EQ(rows.size(), 2U);
     EXPECT_EQ(driver->overlappingTexts(), QStringList());
     EXPECT_EQ(driver->cutTexts(), QStringList());
+}
+
+// Those of four and five digits are drawn smaller, to fit.
+TEST_F(WrappedLayoutTest, FiguresOfMilestonesStandInTheMiddleOfTheirRings) {
+    crossTenMilestones();
+    showPage("All time", "milestones");
+    for (const char* hours : {"500", "1000", "10000"}) {
+        const QQuickItem* const figure = text(QLatin1String(hours));
+        ASSERT_NE(figure, nullptr);
+        const QRectF ring = driver->frameOf(*figure->parentItem());
+        const QRectF inside = ring.marginsRemoved({14, 9, 14, 9}); // px, clear of the dots
+        const QRect lit = litIn(inside.toRect());
+        EXPECT_NEAR((lit.top() + lit.bottom() + 1) / 2.0, ring.center().y(), 0.75) << hours;
+    }
 }
 
 TEST_F(WrappedLayoutTest, SentenceInWordsStandsWellAboveTheMiddle) {
