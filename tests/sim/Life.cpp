@@ -55,6 +55,7 @@ void Life::countSuggestions() {
     AutoSkillMonitor& monitor = *world.autoSkill;
     monitor.onAutoStart = [this, start = std::move(monitor.onAutoStart)](const QString& id) {
         ++sessionsByItself;
+        promises.noteInexact(); // it may count from earlier on
         start(id);
     };
     monitor.onRetagSuggested = [this,
@@ -118,16 +119,21 @@ QStringList Life::perform(const Deed& deed) {
 void Life::work() {
     switchApplication();
     for (double left = seconds(60, 4000); left > 0; left -= 20.0) {
-        world.idleSource.touch();
+        touch();
         world.time.advance(std::min(left, 20.0));
         if (pick(20) == 0) switchApplication();
     }
 }
 
+void Life::touch() {
+    world.idleSource.touch();
+    promises.noteInput();
+}
+
 void Life::switchApplication() { world.frontmost.activate(application(pick(7))); }
 
 void Life::press() {
-    world.idleSource.touch();
+    touch();
     world.press();
 }
 
@@ -142,7 +148,7 @@ void Life::lock() {
     world.screens.sleep();
     promises.noteUnable(true);
     world.time.advance(seconds(1, 4000));
-    if (pick(2) == 0) world.idleSource.touch(); // the password
+    if (pick(2) == 0) touch(); // the password
     world.time.advance(seconds(0, 8));
     promises.noteUnable(false);
     world.screens.wake();
@@ -159,8 +165,9 @@ void Life::lockAndSuspend() {
 }
 
 void Life::suspend() {
+    promises.noteInexact();
     world.time.suspend(seconds(2, 3 * kHour));
-    if (pick(2) == 0) world.idleSource.touch(); // before any timer
+    if (pick(2) == 0) touch(); // before any timer
     if (pick(4) == 0) press();
     world.time.advance(seconds(0, 20));
 }
@@ -174,10 +181,11 @@ void Life::freeze() {
 }
 
 void Life::loseCounter() {
+    promises.noteInexact();
     world.idleSource.becomeUnknown();
     world.time.advance(seconds(0, 1000));
     if (pick(2) == 0) lock();
-    world.idleSource.touch();
+    touch();
 }
 
 void Life::setClock() {
@@ -215,6 +223,7 @@ void Life::failOneOperation() {
 }
 
 void Life::changePreferences() {
+    promises.noteInexact();
     auto& preferences = world.preferences;
     settings::autoStart.write(preferences, pick(2) == 0);
     settings::autoMode.write(preferences, pick(4) != 0);
@@ -243,7 +252,7 @@ void Life::die() {
         press();
         // Longer than any stay after which auto mode splits it, and worth an offer after that.
         for (double left = seconds(300, 1500); left > 0; left -= 20.0) {
-            world.idleSource.touch();
+            touch();
             world.time.advance(20.0);
         }
     }
@@ -277,6 +286,7 @@ QStringList Life::killAndReturn(const std::function<void()>& meanwhile) {
 
 void Life::answerOffer() {
     if (!world.told.recoveryKeep || tracker().state() != State::Idle) return;
+    promises.noteInexact(); // it counts by the marker
     (pick(2) == 0 ? world.told.recoveryKeep : world.told.recoveryDiscard)();
     // A keep that can't be written leaves the offer open.
     if (!world.hasMarker()) loseOffer();
@@ -324,6 +334,7 @@ void Life::quitAndReturn() {
 }
 
 void Life::sleepThroughNight() {
+    promises.noteInexact();
     const bool locks = pick(3) != 0;
     if (locks) {
         world.screens.sleep();

@@ -34,6 +34,7 @@ public:
     // Actions that tests of the promises use directly.
     void press();
     void work();
+    void touch();
     void launch();
     /// Kills and restarts the program; `meanwhile` may change the disk. Returns the promises that
     /// this broke.

@@ -33,6 +33,7 @@ TEST(Life, KeepsItsPromises) {
     std::cout << "first seed: VANTLE_SIM_SEED=" << first << std::endl;
     const QDeadlineTimer end(1000 * seconds);
     int kills = 0;
+    int accounts = 0;
     int started = 0;
     int splits = 0;
     int days = 0;
@@ -48,6 +49,7 @@ TEST(Life, KeepsItsPromises) {
             ++days;
         }
         kills += user.promises.killsChecked;
+        accounts += user.promises.accountsChecked;
         started += user.sessionsByItself;
         splits += user.splits;
     }
@@ -56,11 +58,13 @@ TEST(Life, KeepsItsPromises) {
     };
     tell("days", days);
     tell("kills", kills);
+    tell("stretches of work", accounts);
     tell("auto starts", started);
     tell("splits", splits);
     if (one) return;
     // A life in which these never happen checks nothing.
     EXPECT_GE(kills, 20);
+    EXPECT_GE(accounts, 10);
     EXPECT_GE(started, 20);
     EXPECT_GE(splits, 20);
 }
@@ -69,14 +73,14 @@ TEST(Life, KeepsItsPromises) {
 class PromisesTest : public testing::Test {
 protected:
     PromisesTest() {
-        life.world.press();
+        life.press();
         advance(600);
-        life.world.press();
+        life.press();
         EXPECT_TRUE(life.promises.broken().isEmpty());
     }
     void advance(double seconds) {
         for (; seconds > 0; seconds -= 20) {
-            life.world.idleSource.touch();
+            life.touch();
             life.world.time.advance(20);
         }
     }
@@ -89,6 +93,12 @@ protected:
     void expectBroken(const char* promise) {
         const QStringList broken = life.promises.broken();
         EXPECT_TRUE(broken.contains(QLatin1String(promise)))
+            << broken.join(QStringLiteral("; ")).toStdString();
+    }
+
+    void expectBrokenWith(const char* beginning) {
+        const QStringList broken = life.promises.broken();
+        EXPECT_FALSE(broken.filter(QLatin1String(beginning)).isEmpty())
             << broken.join(QStringLiteral("; ")).toStdString();
     }
 
@@ -140,6 +150,35 @@ TEST_F(PromisesTest, FindTimeWithoutWork) {
     for (const char* promise : {"a record counts only time in which one can work",
                                 "a record counts no more than its length"})
         EXPECT_TRUE(broken.contains(QLatin1String(promise))) << promise;
+}
+
+TEST_F(PromisesTest, FindTimeWithoutInput) {
+    life.press();
+    advance(600);
+    life.world.model->tracker().debugAdvance(30);
+    life.press();
+    expectBrokenWith("the log holds what was worked: 630 s");
+}
+
+TEST_F(PromisesTest, FindAnAbsenceThatWasCounted) {
+    life.press();
+    advance(600);
+    life.world.idleSource.fix(0); // a desktop that takes every moment for an input
+    life.world.time.advance(400);
+    life.press();
+    expectBrokenWith("the log holds what was worked: 1000 s");
+}
+
+TEST_F(PromisesTest, FindWorkThatWasNotCounted) {
+    life.press();
+    advance(300);
+    life.world.idleSource.fix(1000); // a desktop that sees no input
+    for (int step = 0; step < 15; ++step) {
+        life.promises.noteInput();
+        life.world.time.advance(20);
+    }
+    life.press();
+    expectBrokenWith("the log holds what was worked");
 }
 
 TEST_F(PromisesTest, FindTheMinutesThatAKillTookOrInvented) {

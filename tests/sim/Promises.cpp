@@ -1,8 +1,11 @@
 #include "sim/Promises.h"
 
+#include "tracking/Settings.h"
+
 #include <QSet>
 
 #include <cmath>
+#include <utility>
 
 namespace vantle::tests {
 
@@ -20,10 +23,16 @@ constexpr double kMarkerLag = 61.0;
 
 constexpr double kWorthAnOffer = 180.0;
 
+/// An absence is noticed by the monitor's next look, and so is its end.
+constexpr double kBetweenLooks = 11.0;
+
 } // namespace
 
 void Promises::noteLaunch() {
     m_open = {};
+    m_account = {};
+    noteInexact(); // a start may take over what an end has written
+    QObject::connect(&tracker(), &TrackerCore::stateChanged, &tracker(), [this] { noteState(); });
     QObject::connect(&tracker(), &TrackerCore::startedAtChanged, &tracker(),
                      [this] { noteStart(); });
 }
@@ -36,7 +45,48 @@ void Promises::noteStart() {
     if (!m_sessions.contains(start)) m_sessions[start] = m_open;
 }
 
+void Promises::noteState() {
+    const bool isOpen = tracker().state() != State::Idle;
+    if (isOpen == m_account.countsFrom.has_value()) return;
+    const double now = m_world.time.timerClock();
+    if (isOpen) {
+        m_account.countsFrom = now;
+        return;
+    }
+    // Who ends a session by a key has just touched the machine; else this may be work or not.
+    m_account.most += now - *m_account.countsFrom;
+    m_account.countsFrom.reset();
+}
+
+void Promises::noteInput() {
+    if (!m_account.countsFrom) return;
+    const double now = m_world.time.timerClock();
+    const double length = now - std::exchange(*m_account.countsFrom, now);
+    const double absence = settings::idleThresholdSeconds.read(m_world.preferences);
+    if (length < absence) {
+        m_account.least += length;
+        m_account.most += length;
+    } else {
+        m_account.least -= kBetweenLooks;
+        if (length < absence + kBetweenLooks) m_account.most += length;
+    }
+}
+
+void Promises::checkAccount() {
+    if (tracker().state() != State::Idle) return;
+    const Account account = std::exchange(m_account, {});
+    if (!account.isExact || (account.most == 0 && account.records == 0)) return;
+    ++accountsChecked;
+    const double rounding = kRounding * (1 + account.records);
+    expect(account.logged >= account.least - rounding && account.logged <= account.most + rounding,
+           QStringLiteral("the log holds what was worked: %1 s of %2 to %3")
+               .arg(account.logged)
+               .arg(account.least)
+               .arg(account.most));
+}
+
 void Promises::noteClockSet() {
+    noteInexact();
     m_open.clockSet = true;
     for (Circumstances& session : m_sessions)
         session.clockSet = true; // two sessions may now share a start
@@ -44,10 +94,12 @@ void Promises::noteClockSet() {
 
 void Promises::noteDiskBroken(bool broken) {
     m_diskIsBroken = broken;
+    noteInexact();
     if (broken) m_open.diskBroken = true;
 }
 
 void Promises::noteUnable(bool unable) {
+    noteInexact();
     const double now = m_world.time.timerClock();
     if (m_unable) m_unableTotal += now - m_unableSince;
     m_unable = unable;
@@ -72,6 +124,7 @@ QStringList Promises::broken() {
     checkTracker();
     checkLog();
     checkMarker();
+    checkAccount();
     return m_broken;
 }
 
@@ -123,7 +176,11 @@ void Promises::checkLog() {
     std::map<QUuid, Session> now;
     for (const Session& session : m_world.log()) {
         now[session.id] = session;
-        if (!m_known.contains(session.id)) checkRecord(session);
+        if (m_known.contains(session.id)) continue;
+        checkRecord(session);
+        if (session.source != sourceApp()) continue;
+        m_account.logged += double(session.activeSeconds);
+        ++m_account.records;
     }
     for (const auto& [id, known] : m_known) {
         const auto found = now.find(id);

@@ -28,6 +28,11 @@ public:
     /// program is stopped.
     void noteUnable(bool unable);
 
+    /// The user touched the machine.
+    void noteInput();
+    /// From here to the next moment without a session, inputs do not tell what must be counted.
+    void noteInexact() { m_account.isExact = false; }
+
     /// The seconds in which the user could work, since the start.
     [[nodiscard]] double ableSeconds() const;
 
@@ -38,8 +43,8 @@ public:
     /// offer any.
     [[nodiscard]] std::optional<double> leastOffer() const;
 
-    /// The number of kills checked.
     int killsChecked = 0;
+    int accountsChecked = 0; ///< stretches of work of which the log was compared with the inputs
 
 private:
     /// The external influences on a session.
@@ -49,8 +54,21 @@ private:
         bool diskBroken = false; ///< at any time during it
     };
 
+    /// What the log must hold of the time since there was no session, counted by inputs alone. The
+    /// time between two inputs is work, unless it is long enough to be an absence.
+    struct Account {
+        double least = 0; ///< seconds
+        double most = 0;
+        double logged = 0;
+        int records = 0;
+        std::optional<double> countsFrom; ///< on the timer clock; set while a session is open
+        bool isExact = true;
+    };
+
     [[nodiscard]] TrackerCore& tracker() const { return m_world.model->tracker(); }
     void noteStart();
+    void noteState();
+    void checkAccount();
     void checkTracker();
     void checkLog();
     void checkRecord(const Session& session);
@@ -66,6 +84,7 @@ private:
     QByteArray m_log;                        ///< as last read
     QHash<qint64, Circumstances> m_sessions; ///< by the whole second of their start
     Circumstances m_open;
+    Account m_account;
     bool m_diskIsBroken = false;
     bool m_unable = false;
     double m_unableSince = 0;
