@@ -85,7 +85,12 @@ bool isOfInterpreter(const QString& mark, const ProcessScope& scope) {
             mark.compare(QLatin1String("tk"), Qt::CaseInsensitive) == 0);
 }
 
-QString tidied(const QString& text) { return text.simplified().left(kMaxText); }
+/// One line of limited length, of whole characters: half of one can't be stored.
+QString tidied(const QString& text) {
+    QString tidy = text.simplified().left(kMaxText);
+    if (!tidy.isEmpty() && tidy.back().isHighSurrogate()) tidy.chop(1);
+    return tidy.trimmed();
+}
 
 QString firstOf(std::initializer_list<QString> texts) {
     for (const QString& text : texts)

@@ -240,6 +240,15 @@ TEST_F(ApplicationIdentityTest, OddClassesAreOneLineOfBearableLength) {
     EXPECT_EQ(resolve(), (Application{text("two lines"), text("two lines")}));
 }
 
+TEST_F(ApplicationIdentityTest, LongClassesEndWithAWholeCharacter) {
+    // Half a character can't be written to a file, so its rule would be lost at the next start.
+    const QString most(199, QLatin1Char('x'));
+    m_window.windowClass = most + text("\U0001F600");
+    EXPECT_EQ(resolve(), (Application{most, most}));
+    m_window.windowClass = most + text(" y");
+    EXPECT_EQ(resolve(), (Application{most, most}));
+}
+
 TEST_F(ApplicationIdentityTest, WellKnownToolsHaveTheIdentityOfTheTablesAndTheEntrysName) {
     install(entry("code", "Visual Studio Code", "Code"));
     m_window.windowClass = text("Code");
