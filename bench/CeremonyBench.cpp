@@ -1,5 +1,5 @@
 // The ceremony on a screen of 1440 x 900, as its overlay has it: all scripts, 60 frames a second.
-// The bound is a memset of a frame, in turn with the frames and as cold as they are.
+// The frames are as cold as a show's; the bound is a memset of a frame that lies in the cache.
 #include "Comparison.h"
 #include "base/RandomSource.h"
 #include "ceremony/show/CeremonyFrameRenderer.h"
@@ -71,7 +71,7 @@ struct Show {
         for (std::size_t i = 0; i < frames.size(); ++i) {
             stretchOverWindow();
             frames[i].time([&] { renderer.fillField(static_cast<double>(i) * kFrame); });
-            stretchOverWindow();
+            clearFrame();
             bounds[i].time(clearFrame);
         }
     }
@@ -149,7 +149,8 @@ void add(const char* what, CeremonyVariant variant, Function function, const Goa
 [[maybe_unused]] const bool kRegistered = [] {
     constexpr double kMillisecond = 1e6; // nanoseconds
     for (const CeremonyVariant variant : ceremonyvariant::all) {
-        add("frame, mean of a show", variant, meanFrame, {Goal::Kind::Ratio, 12, 1});
+        const double memsets = variant == CeremonyVariant::Nova ? 13 : 10;
+        add("frame, mean of a show", variant, meanFrame, {Goal::Kind::Ratio, memsets, 1});
         add("worst frame", variant, worstFrame,
             {Goal::Kind::NanosecondsEach, 2.5 * kMillisecond, 1});
         add("model and renderer", variant, construction,

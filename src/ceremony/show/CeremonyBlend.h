@@ -7,11 +7,9 @@
 //     highest. Any thread.
 #pragma once
 
-#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 namespace vantle::ceremonyblend {
 
@@ -26,14 +24,6 @@ inline constexpr int kLeastStrength = 2;
     return strength > 254 ? 255 : strength;
 }
 
-/// 16-bit products, so that eight fit into a vector register.
-[[nodiscard]] inline std::uint8_t blended(std::uint8_t picture, std::uint8_t source,
-                                          std::uint16_t strength) {
-    const auto kept = static_cast<std::uint16_t>((256 - strength) * picture);
-    const auto added = static_cast<std::uint16_t>((strength + 1) * source);
-    return static_cast<std::uint8_t>((kept >> 8) + (added >> 8));
-}
-
 /// Blends one pixel, two channels per multiplication.
 inline void blend(std::uint32_t& pixel, std::uint32_t color, unsigned strength) {
     constexpr std::uint32_t kPair = 0x00FF00FF;
@@ -46,46 +36,35 @@ inline void blend(std::uint32_t& pixel, std::uint32_t color, unsigned strength) 
     pixel = even | odd << 8;
 }
 
-/// A colour repeated to fill a vector register.
-using Pattern = std::array<std::uint8_t, 16>;
-inline constexpr std::size_t kPatternPixels = 4;
+/// The loops over many pixels. Every set gives the same bytes.
+struct Loops {
+    /// Blends `count` pixels at one strength.
+    void (*blendEvenly)(std::uint32_t* pixels, std::size_t count, std::uint32_t color,
+                        unsigned strength);
+    /// Blends `count` pixels with their own strengths.
+    void (*blendEach)(std::uint32_t* pixels, const std::uint8_t* strengths, std::size_t count,
+                      std::uint32_t color);
+    /// Blends rows of eight pixels, `stride` pixels apart. A pixel's strength is `strength` times
+    /// its weight (0 to 256) / 256, or 0 below kLeastStrength. `weights` has kRowWeights for each
+    /// row, in the order of weightIndex().
+    void (*stampRows)(std::uint32_t* corner, std::size_t stride, const std::uint16_t* weights,
+                      int rows, std::uint32_t color, unsigned strength);
+};
 
-[[nodiscard]] inline Pattern patternOf(std::uint32_t color) {
-    Pattern pattern{};
-    for (std::size_t i = 0; i < pattern.size(); ++i)
-        pattern[i] = static_cast<std::uint8_t>(color >> (8 * (i % 4)));
-    return pattern;
+inline constexpr int kRowPixels = 8;
+inline constexpr std::size_t kRowWeights = std::size_t{kRowPixels} * 4; ///< one for each channel
+
+/// Returns where the weight of a row's channel stands: pairs of pixels in the order 0, 2, 1, 3, in
+/// which a vector register unpacks eight pixels.
+[[nodiscard]] constexpr std::size_t weightIndex(std::size_t channel) {
+    const std::size_t pair = channel / 8;
+    const std::size_t place = pair == 1 ? 2 : pair == 2 ? 1 : pair;
+    return place * 8 + channel % 8;
 }
 
-/// Blends `count` pixels at one strength.
-inline void blendSpan(std::uint32_t* pixels, std::size_t count, std::uint32_t color,
-                      unsigned strength) {
-    const Pattern pattern = patternOf(color);
-    const auto even = static_cast<std::uint16_t>(strength);
-    std::size_t done = 0;
-    for (; done + kPatternPixels <= count; done += kPatternPixels) {
-        auto* bytes = reinterpret_cast<std::uint8_t*>(pixels + done);
-        for (std::size_t i = 0; i < pattern.size(); ++i)
-            bytes[i] = blended(bytes[i], pattern[i], even);
-    }
-    for (; done < count; ++done)
-        blend(pixels[done], color, strength);
-}
-
-/// Blends `count` pixels with their own strengths. Each strength is repeated four times, once per
-/// channel.
-inline void blendSpan(std::uint32_t* __restrict pixels, const std::uint32_t* __restrict strengths,
-                      std::size_t count, std::uint32_t color) {
-    const Pattern pattern = patternOf(color);
-    std::size_t done = 0;
-    for (; done + kPatternPixels <= count; done += kPatternPixels) {
-        auto* bytes = reinterpret_cast<std::uint8_t*>(pixels + done);
-        const auto* strength = reinterpret_cast<const std::uint8_t*>(strengths + done);
-        for (std::size_t i = 0; i < pattern.size(); ++i)
-            bytes[i] = blended(bytes[i], pattern[i], strength[i]);
-    }
-    for (; done < count; ++done)
-        blend(pixels[done], color, strengths[done] & 0xFF);
-}
+/// The fastest set that this processor has.
+[[nodiscard]] const Loops& loops();
+/// The set for any processor.
+[[nodiscard]] const Loops& plainLoops();
 
 } // namespace vantle::ceremonyblend

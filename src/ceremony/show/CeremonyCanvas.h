@@ -4,6 +4,7 @@
 // canvas. Does not allocate after construction. One thread at a time.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -65,6 +66,14 @@ public:
     [[nodiscard]] Box centeredBox(double radius) const;
 
 private:
+    /// A glow as last drawn: many frames in a row have the same one.
+    struct Glow {
+        double radius = 0; ///< pixels
+        double centerAlpha = 0;
+        std::vector<std::uint8_t> strengths; ///< of its box, row by row; as large as the canvas
+    };
+    [[nodiscard]] const std::vector<std::uint8_t>& glowOf(double radius, double centerAlpha,
+                                                          const Box& box);
     [[nodiscard]] std::size_t offset(int column, int row) const;
 
     int m_width = 0;
@@ -77,7 +86,8 @@ private:
     PixelOrder m_order;
     std::vector<std::uint32_t> m_pixels;
     std::vector<float> m_distances;
-    std::vector<std::uint32_t> m_strengths; ///< of a row, each repeated four times
+    std::array<Glow, 2> m_glows;
+    std::size_t m_oldestGlow = 0;
 };
 
 } // namespace vantle

@@ -1,6 +1,5 @@
 #include "ceremony/show/CeremonyDotMasks.h"
 
-#include "ceremony/show/CeremonyBlend.h"
 #include "ceremony/show/CeremonyCanvas.h"
 
 #include <algorithm>
@@ -12,8 +11,9 @@ namespace {
 
 constexpr int kSamples = 4;       // per pixel, in each direction
 constexpr int kLeastCoverage = 3; // fainter coverage is not painted
-constexpr int kRowPixels = 8;
-constexpr std::size_t kRowBytes = std::size_t{kRowPixels} * 4;
+
+using ceremonyblend::kRowPixels;
+using ceremonyblend::kRowWeights;
 
 double sample(double x, double y, double center, double radius, double halo) {
     const double distance = std::hypot(x - center, y - center);
@@ -31,13 +31,10 @@ std::uint8_t coverageOf(int x, int y, double center, double radius, double halo)
     return static_cast<std::uint8_t>(std::min(byte, 255));
 }
 
-/// Returns the strength of a covered pixel of a dot with `strength`. Masks weak ones by bits, since
-/// a branch takes twice as long in vector code.
-std::uint16_t strengthAt(std::uint16_t weight, std::uint8_t strength) {
-    const auto scaled =
-        static_cast<std::uint16_t>(static_cast<std::uint16_t>(strength * weight) >> 8);
-    const bool seen = static_cast<std::int16_t>(scaled) >= ceremonyblend::kLeastStrength;
-    return static_cast<std::uint16_t>(scaled & -std::uint16_t{seen});
+/// Returns the strength of a covered pixel of a dot with `strength`.
+unsigned strengthAt(unsigned weight, unsigned strength) {
+    const unsigned scaled = strength * weight >> 8;
+    return scaled < ceremonyblend::kLeastStrength ? 0 : scaled;
 }
 
 std::uint16_t weightOf(std::uint8_t coverage) {
@@ -46,7 +43,9 @@ std::uint16_t weightOf(std::uint8_t coverage) {
 
 } // namespace
 
-CeremonyDotMask::CeremonyDotMask(int side, double radius, double halo) : m_side(side) {
+CeremonyDotMask::CeremonyDotMask(int side, double radius, double halo)
+    : m_side(side)
+    , m_loops(&ceremonyblend::loops()) {
     m_coverage.reserve(static_cast<std::size_t>(side) * static_cast<std::size_t>(side));
     for (int y = 0; y < side; ++y)
         for (int x = 0; x < side; ++x)
@@ -74,10 +73,11 @@ void CeremonyDotMask::prepareRows() {
     if (m_left < 0 || right >= m_left + kRowPixels) return;
     m_top = top;
     m_rows = bottom - top + 1;
-    m_weights.reserve(static_cast<std::size_t>(m_rows) * kRowBytes);
-    for (int y = top; y <= bottom; ++y)
-        for (int x = m_left; x < m_left + kRowPixels; ++x)
-            m_weights.insert(m_weights.end(), 4, weight(x, y));
+    m_weights.resize(static_cast<std::size_t>(m_rows) * kRowWeights);
+    std::uint16_t* row = m_weights.data();
+    for (int y = top; y <= bottom; ++y, row += kRowWeights)
+        for (std::size_t i = 0; i < kRowWeights; ++i)
+            row[ceremonyblend::weightIndex(i)] = weight(m_left + static_cast<int>(i / 4), y);
 }
 
 void CeremonyDotMask::stamp(CeremonyCanvas& canvas, int x, int y, std::uint32_t color,
@@ -85,32 +85,18 @@ void CeremonyDotMask::stamp(CeremonyCanvas& canvas, int x, int y, std::uint32_t 
     const bool inside =
         x >= 0 && y >= 0 && x + m_side <= canvas.width() && y + m_side <= canvas.height();
     if (!inside || m_weights.empty()) {
-        stampClipped(canvas, x, y, color, static_cast<std::uint8_t>(strength));
+        stampClipped(canvas, x, y, color, static_cast<unsigned>(strength));
         return;
     }
     const auto stride = static_cast<std::size_t>(canvas.width());
     std::uint32_t* corner = canvas.pixels().data() + static_cast<std::size_t>(y + m_top) * stride +
                             static_cast<std::size_t>(x + m_left);
-    stampRows(corner, stride, color, static_cast<std::uint8_t>(strength));
-}
-
-void CeremonyDotMask::stampRows(std::uint32_t* corner, std::size_t stride, std::uint32_t color,
-                                std::uint8_t strength) const {
-    const ceremonyblend::Pattern pattern = ceremonyblend::patternOf(color);
-    std::array<std::uint8_t, kRowBytes> source{};
-    std::ranges::copy(pattern, source.begin());
-    std::ranges::copy(pattern, source.begin() + pattern.size());
-    const std::uint16_t* weights = m_weights.data();
-    for (int row = 0; row < m_rows; ++row, corner += stride, weights += kRowBytes) {
-        auto* bytes = reinterpret_cast<std::uint8_t*>(corner);
-        for (std::size_t i = 0; i < kRowBytes; ++i)
-            bytes[i] =
-                ceremonyblend::blended(bytes[i], source[i], strengthAt(weights[i], strength));
-    }
+    m_loops->stampRows(corner, stride, m_weights.data(), m_rows, color,
+                       static_cast<unsigned>(strength));
 }
 
 void CeremonyDotMask::stampClipped(CeremonyCanvas& canvas, int x, int y, std::uint32_t color,
-                                   std::uint8_t strength) const {
+                                   unsigned strength) const {
     const int firstColumn = std::max(0, -x);
     const int endColumn = std::min(m_side, canvas.width() - x);
     const int firstRow = std::max(0, -y);

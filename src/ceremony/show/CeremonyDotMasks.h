@@ -3,6 +3,8 @@
 // Plain values, any thread.
 #pragma once
 
+#include "ceremony/show/CeremonyBlend.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -31,16 +33,15 @@ private:
                static_cast<std::size_t>(x);
     }
     void prepareRows();
-    void stampRows(std::uint32_t* corner, std::size_t stride, std::uint32_t color,
-                   std::uint8_t strength) const;
     void stampClipped(CeremonyCanvas& canvas, int x, int y, std::uint32_t color,
-                      std::uint8_t strength) const;
+                      unsigned strength) const;
 
     int m_side;
+    const ceremonyblend::Loops* m_loops; ///< never null
     std::vector<std::uint8_t> m_coverage;
 
-    // The covered rows for vector code: eight pixels from m_left on, with a weight (coverage + 1,
-    // or 0) for each channel. Empty when the dot is wider than eight pixels.
+    // The covered rows for ceremonyblend's stampRows: eight pixels from m_left on, with a weight
+    // (coverage + 1, or 0) for each channel. Empty when the dot is wider than eight pixels.
     std::vector<std::uint16_t> m_weights;
     int m_left = 0;
     int m_top = 0;

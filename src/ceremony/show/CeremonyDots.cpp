@@ -89,10 +89,12 @@ std::uint32_t CeremonyDots::flashColor(std::uint32_t rgb) {
 void CeremonyDots::drawBack(CeremonyCanvas& canvas, const CeremonyGridModel& model,
                             double t) const {
     const SharedSine sine(3 * t);
-    for (std::size_t i = 0; i < m_backPlaces.size(); ++i) {
-        const double born = model.backBorn[i];
+    const float* const births = model.backBorn.data();
+    const float* const ends = model.backVanish.data();
+    for (std::size_t i = 0, count = m_backPlaces.size(); i < count; ++i) {
+        const double born = births[i];
         if (born > t) continue;
-        const double past = t - double{model.backVanish[i]};
+        const double past = t - double{ends[i]};
         if (past > kFading) continue;
         double alpha = 0;
         if (past > 0)
@@ -107,9 +109,13 @@ void CeremonyDots::drawBack(CeremonyCanvas& canvas, const CeremonyGridModel& mod
 void CeremonyDots::drawFront(CeremonyCanvas& canvas, const CeremonyGridModel& model,
                              double t) const {
     const SharedSine sine(5 * t);
-    for (std::size_t i = 0; i < m_frontPlaces.size(); ++i) {
-        const double age = t - double{model.fieldBorn[i]};
-        const double past = t - double{model.fieldVanish[i]};
+    // Held in registers: the stamps write through a pointer that might be to the vectors
+    // themselves.
+    const float* const births = model.fieldBorn.data();
+    const float* const ends = model.fieldVanish.data();
+    for (std::size_t i = 0, count = m_frontPlaces.size(); i < count; ++i) {
+        const double age = t - double{births[i]};
+        const double past = t - double{ends[i]};
         if (age < 0 || past > kDying) continue;
         const auto stamp = [&](const CeremonyDotMask& mask, std::uint32_t color, double alpha) {
             mask.stamp(canvas, m_frontPlaces[i].x, m_frontPlaces[i].y, color, stampStrength(alpha));

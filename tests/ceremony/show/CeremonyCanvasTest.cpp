@@ -3,10 +3,15 @@
 
 #include "ceremony/show/CeremonyBlend.h"
 #include "ceremony/show/CeremonyDotMasks.h"
+#include "fakes/SplitMixRandom.h"
+
+#include <QSizeF>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <vector>
 
 namespace vantle {
 namespace {
@@ -37,19 +42,54 @@ TEST(CeremonyBlend, IsTheFormulaForEveryStrengthAndChannel) {
 }
 
 TEST(CeremonyBlend, ManyPixelsAtOnceAreTheSameAsOneByOne) {
-    for (std::size_t count = 0; count < 40; ++count) {
-        std::vector<std::uint32_t> pixels(count), strengths(count);
-        for (std::size_t i = 0; i < count; ++i) {
-            pixels[i] = static_cast<std::uint32_t>(i * 0x9E3779B1U);
-            strengths[i] = static_cast<std::uint32_t>(i * 37 % 256) * 0x01010101U;
+    for (const auto* loops : {&ceremonyblend::loops(), &ceremonyblend::plainLoops()}) {
+        for (std::size_t count = 0; count < 40; ++count) {
+            std::vector<std::uint32_t> pixels(count);
+            std::vector<std::uint8_t> strengths(count);
+            for (std::size_t i = 0; i < count; ++i) {
+                pixels[i] = static_cast<std::uint32_t>(i * 0x9E3779B1U);
+                strengths[i] = static_cast<std::uint8_t>(i * 37 % 256);
+            }
+            std::vector<std::uint32_t> each = pixels;
+            std::vector<std::uint32_t> even = pixels;
+            loops->blendEach(each.data(), strengths.data(), count, 0xFF30D158);
+            loops->blendEvenly(even.data(), count, 0xFF30D158, 77);
+            for (std::size_t i = 0; i < count; ++i) {
+                EXPECT_EQ(each[i], reference(pixels[i], 0xFF30D158, strengths[i]));
+                EXPECT_EQ(even[i], reference(pixels[i], 0xFF30D158, 77));
+            }
         }
-        std::vector<std::uint32_t> each = pixels;
-        std::vector<std::uint32_t> even = pixels;
-        ceremonyblend::blendSpan(each.data(), strengths.data(), count, 0xFF30D158);
-        ceremonyblend::blendSpan(even.data(), count, 0xFF30D158, 77);
-        for (std::size_t i = 0; i < count; ++i) {
-            EXPECT_EQ(each[i], reference(pixels[i], 0xFF30D158, strengths[i] & 0xFF));
-            EXPECT_EQ(even[i], reference(pixels[i], 0xFF30D158, 77));
+    }
+}
+
+TEST(CeremonyBlend, RowsAreStampedPixelByPixel) {
+    constexpr std::size_t kStride = 11;
+    constexpr std::size_t kRows = 5;
+    std::vector<std::uint32_t> weights(kRows * ceremonyblend::kRowPixels);
+    for (std::size_t i = 0; i < weights.size(); ++i)
+        weights[i] = static_cast<std::uint32_t>(i * 41 % 257);
+    std::vector<std::uint16_t> placed(kRows * ceremonyblend::kRowWeights);
+    for (std::size_t row = 0; row < kRows; ++row)
+        for (std::size_t i = 0; i < ceremonyblend::kRowWeights; ++i)
+            placed[row * ceremonyblend::kRowWeights + ceremonyblend::weightIndex(i)] =
+                static_cast<std::uint16_t>(weights[row * ceremonyblend::kRowPixels + i / 4]);
+    for (const auto* loops : {&ceremonyblend::loops(), &ceremonyblend::plainLoops()}) {
+        for (const unsigned strength : {0U, 1U, 2U, 100U, 255U}) {
+            std::vector<std::uint32_t> pixels(kStride * kRows);
+            for (std::size_t i = 0; i < pixels.size(); ++i)
+                pixels[i] = static_cast<std::uint32_t>(i * 0x9E3779B1U);
+            const std::vector<std::uint32_t> before = pixels;
+            loops->stampRows(pixels.data(), kStride, placed.data(), kRows, 0xFF64D2FF, strength);
+            for (std::size_t i = 0; i < pixels.size(); ++i) {
+                const std::size_t column = i % kStride;
+                std::uint32_t expected = before[i];
+                if (column < ceremonyblend::kRowPixels) {
+                    const std::uint32_t seen =
+                        strength * weights[i / kStride * ceremonyblend::kRowPixels + column] >> 8;
+                    if (seen >= 2) expected = reference(expected, 0xFF64D2FF, seen);
+                }
+                ASSERT_EQ(pixels[i], expected) << strength << ' ' << i;
+            }
         }
     }
 }
@@ -85,6 +125,99 @@ TEST(CeremonyCanvas, APointBetweenPixelsIsSpreadOverFour) {
     canvas.plot(11, 21, 0xFFFFFFFF, 1);
     for (const std::size_t place : {2010U, 2011U, 2110U, 2111U})
         EXPECT_EQ(canvas.pixels()[place] >> 24, 63U);
+}
+
+/// The four pixels of a point, each by itself.
+void plotOneByOne(CeremonyCanvas& canvas, double x, double y, std::uint32_t color, double alpha) {
+    const double left = std::floor(x - 0.5);
+    const double top = std::floor(y - 0.5);
+    const double right = x - 0.5 - left;
+    const double lower = y - 0.5 - top;
+    const int column = static_cast<int>(left);
+    const int row = static_cast<int>(top);
+    canvas.blendAt(column, row, color, (1 - right) * (1 - lower) * alpha);
+    canvas.blendAt(column + 1, row, color, right * (1 - lower) * alpha);
+    canvas.blendAt(column, row + 1, color, (1 - right) * lower * alpha);
+    canvas.blendAt(column + 1, row + 1, color, right * lower * alpha);
+}
+
+bool areEqual(const CeremonyCanvas& one, const CeremonyCanvas& other) {
+    return std::ranges::equal(one.pixels(), other.pixels());
+}
+
+TEST(CeremonyCanvas, AnyPointIsItsPixelsOneByOne) {
+    CeremonyCanvas atOnce(120, 90, PixelOrder::Bgra);
+    CeremonyCanvas oneByOne(120, 90, PixelOrder::Bgra);
+    fakes::SplitMixRandom random(7);
+    for (int i = 0; i < 20000; ++i) {
+        const double x = random.below(44) - 2;
+        const double y = random.below(34) - 2;
+        const double alpha = i % 5 == 0 ? 1 : random.below(1) * random.below(1);
+        const auto color = 0xFF000000U | static_cast<std::uint32_t>(random.below(0x1000000));
+        atOnce.plot(x, y, color, alpha);
+        plotOneByOne(oneByOne, x, y, color, alpha);
+    }
+    EXPECT_TRUE(areEqual(atOnce, oneByOne));
+}
+
+/// A ring with every one of its points, on the canvas or not.
+void stampAllPoints(CeremonyCanvas& canvas, double radius, double lineWidth, double alpha) {
+    const double r = radius / canvas.scale();
+    const int steps = std::max(static_cast<int>(r * 6.283), 24);
+    const double step = 6.28318 / steps;
+    const double half = std::max(lineWidth / canvas.scale() * 0.5, 0.35);
+    double angle = 0;
+    for (int i = 0; i < steps; ++i, angle += step) {
+        const auto at = [&](double distance, double opacity) {
+            plotOneByOne(canvas, canvas.centerX() + std::cos(angle) * distance,
+                         canvas.centerY() + std::sin(angle) * distance, 0xFFFF375F, opacity);
+        };
+        at(r, alpha);
+        at(r - 0.8 * half, alpha * 0.5);
+        at(r + 0.8 * half, alpha * 0.5);
+        at(r - 1.6 * half, alpha * 0.14);
+        at(r + 1.6 * half, alpha * 0.14);
+    }
+}
+
+TEST(CeremonyCanvas, ARingIsAllOfItsPoints) {
+    for (const QSizeF screen : {QSizeF(300, 200), QSizeF(200, 301), QSizeF(600, 60)}) {
+        for (int i = 0; i < 120; ++i) {
+            const double radius = 2 + 3.1 * i; // far beyond the corners at the end
+            const double alpha = 0.65 * (1 - i / 125.0);
+            CeremonyCanvas quick(screen.width(), screen.height(), PixelOrder::Bgra);
+            CeremonyCanvas whole(screen.width(), screen.height(), PixelOrder::Bgra);
+            quick.clear(133);
+            whole.clear(133);
+            quick.stampRing(radius, 3.5 - i / 90.0, 0xFFFF375F, alpha);
+            stampAllPoints(whole, radius, 3.5 - i / 90.0, alpha);
+            ASSERT_TRUE(areEqual(quick, whole)) << screen.width() << ' ' << radius;
+            quick.stampRing(radius, 2, 0xFFFF375F, 0.012); // fainter than its halo can show
+            stampAllPoints(whole, radius, 2, 0.012);
+            ASSERT_TRUE(areEqual(quick, whole)) << screen.width() << ' ' << radius;
+        }
+    }
+}
+
+TEST(CeremonyCanvas, AGlowIsTheSameWhateverGlowedBefore) {
+    struct Glow {
+        double radius, alpha;
+    };
+    CeremonyCanvas used(300, 200, PixelOrder::Bgra);
+    for (const Glow& glow : {Glow{90, 0.5}, Glow{40, 0.22}, Glow{90, 0.5}, Glow{90, 0.3},
+                             Glow{40, 0.22}, Glow{500, 0.14}, Glow{90, 0.5}}) {
+        CeremonyCanvas fresh(300, 200, PixelOrder::Bgra);
+        fresh.drawCenteredGlow(glow.radius, 0xFF7A78FF, glow.alpha);
+        used.clear(0);
+        fresh.clear(0);
+        used.drawCenteredGlow(glow.radius, 0xFF7A78FF, glow.alpha);
+        fresh.drawCenteredGlow(glow.radius, 0xFF7A78FF, glow.alpha);
+        CeremonyCanvas first(300, 200, PixelOrder::Bgra);
+        first.clear(0);
+        first.drawCenteredGlow(glow.radius, 0xFF7A78FF, glow.alpha);
+        EXPECT_TRUE(areEqual(used, first)) << glow.radius << ' ' << glow.alpha;
+        EXPECT_TRUE(areEqual(fresh, first)) << glow.radius << ' ' << glow.alpha;
+    }
 }
 
 TEST(CeremonyCanvas, WhatLiesOutsideIsLeftOut) {
