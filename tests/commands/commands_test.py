@@ -30,11 +30,11 @@ class Commands(unittest.TestCase):
         file.write_text(f"#!/bin/sh\n{f'echo {says!r}' if says else ''}\nexit {code}\n")
         file.chmod(0o755)
 
-    def run_command(self, name):
+    def run_command(self, name, *options):
         """Its exit code and the lines that it printed."""
         shutil.copy(ROOT / name, self.root)
         path = f"{self.root / 'bin'}:{os.environ['PATH']}"
-        done = subprocess.run([self.root / name], env={**os.environ, "PATH": path}, check=False,
+        done = subprocess.run([self.root / name, *options], env={**os.environ, "PATH": path}, check=False,
                               stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                               stderr=subprocess.STDOUT, text=True, timeout=60)
         return done.returncode, done.stdout.splitlines()
@@ -108,6 +108,52 @@ class Measure(Commands):
                 code, lines = self.run_command("measure")
                 self.assertEqual(code, 1)
                 self.assertEqual([line for line in lines if line.startswith("|")], self.TABLES)
+
+    def put_document(self):
+        """The document with both rows, and the tool that writes it."""
+        (self.root / "docs").mkdir()
+        self.document = self.root / "docs/performance.md"
+        self.document.write_text(
+            "# Cost\n\n<!-- measured -->\nlong ago\n<!-- /measured -->\n\nProse.\n\n"
+            "| measure | ours | bound | ratio | goal | met |\n|---|---|---|---|---|---|\n"
+            "| parse | 9 ms | 9 ms | 1 | 2 | yes |\n\nMore prose.\n\n"
+            "| start | 9 ms | the goal | | 9 ms | no |\n")
+        (self.root / "bench").mkdir(exist_ok=True)
+        shutil.copy(ROOT / "bench/record", self.root / "bench")
+
+    def test_writes_the_document_only_when_told_to(self):
+        self.TABLES = ["| parse | 5 ms | 4 ms | 1.25 | 2 | yes |",
+                       "| start | 7 ms | the goal |  | 9 ms | yes |"]
+        self.put_tables()
+        self.put_document()
+        before = self.document.read_text()
+        self.assertEqual(self.run_command("measure")[0], 0)
+        self.assertEqual(self.document.read_text(), before)
+        self.assertEqual(self.run_command("measure", "--record")[0], 0)
+        written = self.document.read_text().splitlines()
+        self.assertIn("| parse | 5 ms | 4 ms | 1.25 | 2 | yes |", written)
+        self.assertIn("| start | 7 ms | the goal | | 9 ms | yes |", written)
+        for line in ("# Cost", "Prose.", "More prose."):
+            self.assertIn(line, written)
+        self.assertNotIn("long ago", written)
+        self.assertRegex(written[3], rf"{os.cpu_count()} cores.*\d{{4}}; load \d+\.\d at the start")
+
+    def test_tells_of_rows_that_the_document_and_the_measures_do_not_share(self):
+        self.TABLES = ["| parse | 5 ms | 4 ms | 1.25 | 2 | yes |",
+                       "| frame | 7 ms | the goal |  | 9 ms | yes |"]
+        self.put_tables()
+        self.put_document()
+        code, lines = self.run_command("measure", "--record")
+        self.assertEqual(code, 1)
+        self.assertIn("record: not in docs/performance.md: frame", lines)
+        self.assertIn("record: not measured: start", lines)
+
+    def test_other_programs_are_measured_by_themselves(self):
+        self.put("bench/peers", "| beside |")
+        self.assertEqual(self.run_command("measure", "--peers"), (0, ["| beside |"]))
+
+    def test_knows_no_other_option(self):
+        self.assertEqual(self.run_command("measure", "--peer")[0], 2)
 
 
 if __name__ == "__main__":
