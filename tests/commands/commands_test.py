@@ -34,8 +34,8 @@ class Commands(unittest.TestCase):
         """Its exit code and the lines that it printed."""
         shutil.copy(ROOT / name, self.root)
         path = f"{self.root / 'bin'}:{os.environ['PATH']}"
-        done = subprocess.run([self.root / name, *options], env={**os.environ, "PATH": path}, check=False,
-                              stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+        done = subprocess.run([self.root / name, *options], env={**os.environ, "PATH": path},
+                              check=False, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                               stderr=subprocess.STDOUT, text=True, timeout=60)
         return done.returncode, done.stdout.splitlines()
 
