@@ -247,6 +247,9 @@ class LetsPressesThrough(CapsuleTest):
 
     def test_with_a_button_down_it_stays_closed(self):
         self.launch()
+        self.open_capsule()  # by now it feels the pointer
+        self.turn_away()
+        wait_until("a closed capsule", lambda: not self.is_open())
         self.desktop.tool("xdotool", "mousemove", "400", "700", "mousedown", "1")
         self.desktop.tool("xdotool", "mousemove", str(MIDDLE), str(STRIP[1]))
         time.sleep(1)

@@ -4,7 +4,7 @@ import time
 from pathlib import Path
 
 from harness.case import FIRST_SKILL_COLOUR, SHORTCUT
-from harness.ceremony import ALL_GONE, GROUND_RGB, CeremonyCase
+from harness.ceremony import ALL_GONE, GROUND_RGB, MAY_BE_LATE, CeremonyCase
 from harness.picture import is_near, rgb_of
 from harness.waiting import wait_until
 
@@ -47,7 +47,7 @@ class Show(CeremonyCase):
         pressed = time.monotonic()
         self.desktop.press(SHORTCUT)
         # A strip from the middle to the right edge, which the ring crosses on its way.
-        pictures = self.watch((720, 448, 720, 4), pressed + 1.0, every=0.01)
+        pictures = self.watch((720, 448, 720, 4), pressed + 1.0 + MAY_BE_LATE, every=0.01)
         accent = rgb_of(FIRST_SKILL_COLOUR)
         bluest = max((colour for picture in pictures for colour in picture.colours()),
                      key=lambda colour: colour[2] - colour[0])
@@ -131,16 +131,21 @@ class Show(CeremonyCase):
         settings.mkdir()
         (settings / "settings.ini").write_text("[Settings]\ngtk-enable-animations=false\n")
         self.launch()
-        for _ in range(2):
-            pressed = self.press_and_play()
-            seen = [next(picture.pixels())
-                    for picture in self.watch((20, 700, 1, 1), pressed + 1.2, every=0.01)]
-            dims = [colour for colour in seen if colour != GROUND_RGB]
-            self.assertTrue(dims)
-            for colour in dims:
+        dims = {"start": [], "end": []}
+        for _ in range(4):  # a busy machine may draw no frame of a fade
+            for colours in dims.values():
+                pressed = self.press_and_play()
+                seen = [next(picture.pixels())
+                        for picture in self.watch((20, 700, 1, 1), pressed + 1.2, every=0.01)]
+                colours += [colour for colour in seen if colour != GROUND_RGB]
+                self.assert_all_gone(pressed, after=1.3)
+            if all(dims.values()):
+                break
+        for end, colours in dims.items():
+            self.assertTrue(colours, end)
+            for colour in colours:
                 self.assertGreaterEqual(min(a - b for a, b in zip(
                     colour, dimmed(GROUND_RGB, 0.24))), 0, "never darker than a soft fade")
-            self.assert_all_gone(pressed, after=1.3)
 
 
 class TwoScreens(CeremonyCase):
@@ -202,7 +207,7 @@ class NoCompositor(CeremonyCase):
         time.sleep(ALL_GONE)
         pressed = time.monotonic()
         self.desktop.press(SHORTCUT)
-        strips = self.watch((720, 448, 720, 4), pressed + 1.0, every=0.01)
+        strips = self.watch((720, 448, 720, 4), pressed + 1.0 + MAY_BE_LATE, every=0.01)
         self.assertTrue(any(strip.inked(6) > 0 for strip in strips))
         for strip in strips:
             self.assertGreater(strip.colours().get(GROUND_RGB, 0), strip.size * 0.9)
