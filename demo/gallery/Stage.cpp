@@ -56,6 +56,12 @@ void Stage::show(QQuickItem& view, const Scene& scene) {
     }
 }
 
-QImage Stage::picture() { return m_window.grabWindow().convertToFormat(QImage::Format_RGB32); }
+QImage Stage::picture() {
+    // At 150 % an odd size ends within a device pixel, which is not drawn.
+    const QSizeF drawn = QSizeF(m_window.size()) * m_window.devicePixelRatio();
+    return m_window.grabWindow()
+        .copy(0, 0, static_cast<int>(drawn.width()), static_cast<int>(drawn.height()))
+        .convertToFormat(QImage::Format_RGB32);
+}
 
 } // namespace vantle

@@ -5,11 +5,12 @@
 //     vantle_gallery --list
 //     vantle_gallery --language <language> <folder> [scene...]     pictures in that language
 //     vantle_gallery --pseudo <folder> [scene...]     pictures in the pseudo-locale
+//     vantle_gallery --scaled <folder> [scene...]     pictures of all scenes at any scale
 //     vantle_gallery --texts [scene...]     tells what can't be read in the pseudo-locale, one line
 //                                           a fault: "scene: kind: text"
 //
 // Pictures are drawn at the scale that QT_SCALE_FACTOR says; above 1 only the scenes that ask for
-// it, into files named …@1.5x.png. Painted scenes have no --show.
+// it or, after --scaled, all, into files named …@1.5x.png. Painted scenes have no --show.
 #include "gallery/PseudoLocale.h"
 #include "gallery/Scenes.h"
 #include "gallery/Stage.h"
@@ -72,13 +73,15 @@ QImage pictureOf(const Scene& scene, double scale) {
     return {};
 }
 
-int draw(const QDir& folder, const QStringList& wanted) {
+enum class AboveOne { ScenesThatAsk, AllScenes };
+
+int draw(const QDir& folder, const QStringList& wanted, AboveOne above = AboveOne::ScenesThatAsk) {
     const double scale = qGuiApp->devicePixelRatio();
     int drawn = 0;
     for (const Scene& scene : allScenes()) {
         if (!wanted.isEmpty() && !wanted.contains(scene.name)) continue;
         ++drawn;
-        if (!isDrawnAt(scene, scale)) continue;
+        if (above == AboveOne::ScenesThatAsk && !isDrawnAt(scene, scale)) continue;
         const QImage picture = pictureOf(scene, scale);
         if (picture.isNull()) return 1;
         const QString ending = scale == 1 ? QString() : QStringLiteral("@%1x").arg(scale);
@@ -116,5 +119,8 @@ int main(int argc, char** argv) {
     if (arguments.first() == QLatin1String("--pseudo") ||
         arguments.first() == QLatin1String("--texts"))
         return vantle::drawPseudo(arguments);
+    if (arguments.first() == QLatin1String("--scaled"))
+        return vantle::draw(QDir(arguments.value(1)), arguments.mid(2),
+                            vantle::AboveOne::AllScenes);
     return vantle::draw(QDir(arguments.first()), arguments.mid(1));
 }
