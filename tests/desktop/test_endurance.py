@@ -54,7 +54,7 @@ class Endurance(CeremonyCase):
 
         for _ in range(SESSIONS):
             self.play_session()
-        print(f"lab: endurance: sessions: {SESSIONS}")
+        print(f"\nlab: endurance: sessions: {SESSIONS}")
         # What the last session took is given back a moment later.
         try:
             wait_until("all given back", lambda: not grown())

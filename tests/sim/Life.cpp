@@ -55,7 +55,6 @@ void Life::countSuggestions() {
     AutoSkillMonitor& monitor = *world.autoSkill;
     monitor.onAutoStart = [this, start = std::move(monitor.onAutoStart)](const QString& id) {
         ++sessionsByItself;
-        promises.noteInexact(); // it may count from earlier on
         start(id);
     };
     monitor.onRetagSuggested = [this,
