@@ -129,6 +129,9 @@ void AppDelegate::makeModel() {
     m_model->showCommandCenter = [this] { showCommandCenter(); };
     m_spoken = std::make_unique<SpokenEvents>(
         SpokenEvents::Environment{*m_model, m_skills, m_questions, m_env.scheduler});
+    m_report = std::make_unique<SessionReport>(
+        SessionReport::Environment{m_env.clock, m_env.calendar, m_model->tracker(), m_skills,
+                                   m_notifications, m_platform.sessionStatus});
 }
 
 void AppDelegate::makeCards(Collaborators& collaborators) {

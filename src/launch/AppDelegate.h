@@ -3,6 +3,7 @@
 
 #include "app/AppModel.h"
 #include "app/OpenQuestions.h"
+#include "app/SessionReport.h"
 #include "launch/MissingTray.h"
 #include "launch/SpokenEvents.h"
 #include "platform/HeldKey.h"
@@ -106,6 +107,7 @@ private:
     StopSummaryController* m_summary = nullptr;     ///< owned by the model
     std::unique_ptr<AppModel> m_model;
     std::unique_ptr<SpokenEvents> m_spoken;
+    std::unique_ptr<SessionReport> m_report;
     std::unique_ptr<WindowRouter> m_router;
     std::unique_ptr<CommandCenterController> m_commandCenter;
     std::unique_ptr<StatusItemController> m_statusItem;

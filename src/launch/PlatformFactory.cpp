@@ -29,7 +29,8 @@ Platform PlatformOwner::ports() const {
             .imageClipboard = *session.imageClipboard,
             .saveDialog = *session.saveDialog,
             .fileManager = *session.fileManager,
-            .runningCopy = *session.runningCopy};
+            .runningCopy = *session.runningCopy,
+            .sessionStatus = *session.sessionStatus};
 }
 
 namespace platformfactory {

@@ -26,6 +26,7 @@
 #include "platform/SaveDialog.h"
 #include "platform/ScreenPower.h"
 #include "platform/Screens.h"
+#include "platform/SessionStatus.h"
 #include "platform/TrayItem.h"
 #include "platform/WindowHints.h"
 #include "platform/WindowManager.h"
@@ -95,6 +96,7 @@ struct Session {
     std::unique_ptr<SaveDialog> saveDialog;
     std::unique_ptr<FileManager> fileManager;
     std::unique_ptr<RunningCopy> runningCopy;
+    std::unique_ptr<SessionStatus> sessionStatus; ///< stands on the former's object
 };
 
 /// Child processes get `environment`.

@@ -2,6 +2,7 @@
 #include "launch/PlatformParts.h"
 #include "platform/FirstOverlayStage.h"
 #include "platform/session/ApplicationService.h"
+#include "platform/session/BusSessionStatus.h"
 #include "platform/session/DesktopFileManager.h"
 #include "platform/session/DesktopReadingWishes.h"
 #include "platform/session/DesktopReducedMotion.h"
@@ -38,6 +39,9 @@ public:
                          [act = events.actionActivated](const QString& name) { act(name); });
     }
 
+    /// What the program exports on the bus.
+    [[nodiscard]] QObject& object() { return m_service; }
+
     void listen() override {
         // Without the bus name other copies cannot reach this one; everything else works.
         m_service.start();
@@ -72,6 +76,8 @@ Session makeSession(Scheduler& scheduler, const PlatformEvents& events, const Po
     SaveDialog& otherwise = *otherSaveDialog;
     auto screens = std::make_unique<QtScreens>(*display.reservedStrips, !display.isXwayland);
     auto clock = std::make_unique<SystemClock>();
+    auto runningCopy = std::make_unique<BusRunningCopy>(bus, scheduler, events);
+    auto sessionStatus = std::make_unique<BusSessionStatus>(bus, runningCopy->object());
     std::vector<std::unique_ptr<OverlayStage>> overlays;
     overlays.reserve(2);
     if (display.overlayStage) overlays.push_back(std::move(display.overlayStage));
@@ -88,7 +94,8 @@ Session makeSession(Scheduler& scheduler, const PlatformEvents& events, const Po
             .otherSaveDialog = std::move(otherSaveDialog),
             .saveDialog = std::make_unique<PortalSaveDialog>(bus, otherwise),
             .fileManager = std::make_unique<DesktopFileManager>(bus, *posix.processRunner),
-            .runningCopy = std::make_unique<BusRunningCopy>(bus, scheduler, events)};
+            .runningCopy = std::move(runningCopy),
+            .sessionStatus = std::move(sessionStatus)};
 }
 
 } // namespace vantle::platformparts

@@ -24,6 +24,7 @@ class RunningCopy;
 class SaveDialog;
 class ScreenPower;
 class Screens;
+class SessionStatus;
 class TrayItem;
 class WindowManager;
 
@@ -59,6 +60,7 @@ struct Platform {
     SaveDialog& saveDialog;
     FileManager& fileManager;
     RunningCopy& runningCopy;
+    SessionStatus& sessionStatus;
 };
 
 } // namespace vantle

@@ -26,6 +26,7 @@
 #include "platform/SaveDialog.h"
 #include "platform/ScreenPower.h"
 #include "platform/Screens.h"
+#include "platform/SessionStatus.h"
 #include "platform/ToggleCommand.h"
 #include "platform/TrayItem.h"
 #include "platform/WindowHints.h"

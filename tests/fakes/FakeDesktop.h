@@ -18,6 +18,7 @@
 #include "fakes/FakeSaveDialog.h"
 #include "fakes/FakeScreenPower.h"
 #include "fakes/FakeScreens.h"
+#include "fakes/FakeSessionStatus.h"
 #include "fakes/FakeTrayItem.h"
 #include "fakes/FakeWindowManager.h"
 #include "fakes/MemoryFileSystem.h"
@@ -50,6 +51,7 @@ struct FakeDesktop {
     FakeSaveDialog saveDialog;
     FakeFileManager fileManager;
     FakeRunningCopy runningCopy;
+    FakeSessionStatus sessionStatus;
 
     const Platform platform{.fileSystem = disk,
                             .folders = {QStringLiteral("/config"), QStringLiteral("/data")},
@@ -72,7 +74,8 @@ struct FakeDesktop {
                             .imageClipboard = clipboard,
                             .saveDialog = saveDialog,
                             .fileManager = fileManager,
-                            .runningCopy = runningCopy};
+                            .runningCopy = runningCopy,
+                            .sessionStatus = sessionStatus};
 };
 
 } // namespace vantle::fakes

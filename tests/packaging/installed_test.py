@@ -60,6 +60,9 @@ class Installed(unittest.TestCase):
             f"{icons}/scalable/apps/{ID}.svg", f"{icons}/symbolic/apps/{ID}-symbolic.svg",
             "share/man/man1/vantle.1.gz", "share/man/man1/vantle-shortcuts.1.gz",
             f"share/metainfo/{ID}.metainfo.xml",
+            "share/dbus-1/interfaces/local.vantle.Session1.xml",
+            *(f"share/vantle/bars/{name}" for name in ("clock", "i3blocks.conf", "polybar.ini",
+                                                       "vantle.1s.sh", "waybar.jsonc")),
             "share/vantle/shortcuts/Do Not Disturb on",
             "share/vantle/shortcuts/Do Not Disturb off",
         } | {f"{icons}/{size}x{size}/apps/{ID}.png" for size in SIZES})

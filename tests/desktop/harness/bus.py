@@ -34,6 +34,12 @@ def call(desktop, service, path, interface, method, *arguments):
         return dbus.Interface(target, interface).get_dbus_method(method)(*arguments, timeout=25)
 
 
+def session_of(desktop):
+    """What the program tells bars of the session."""
+    return call(desktop, PROGRAM_NAME, PROGRAM_PATH, "org.freedesktop.DBus.Properties", "GetAll",
+                "local.vantle.Session1")
+
+
 def activate(desktop):
     """Activates the program, as a launcher does for one that runs already."""
     call(desktop, PROGRAM_NAME, PROGRAM_PATH, APPLICATION, "Activate",
