@@ -1201,6 +1201,18 @@ Sie zählt zu deinen Summen und wird als Eintrag von Hand markiert.</translation
         <translation>Willkommen</translation>
     </message>
     <message>
+        <source>Calls and videos count as being here</source>
+        <translation>Anrufe und Videos zählen als Anwesenheit</translation>
+    </message>
+    <message>
+        <source>While an app keeps the screen awake, the clock goes on without a keystroke or click, for four hours in a row at most. Vantle learns only that an app does so, never what you hear or see.</source>
+        <translation>Solange eine App den Bildschirm wach hält, läuft die Uhr auch ohne Tastendruck und Klick weiter, höchstens vier Stunden am Stück. Vantle erfährt nur, dass eine App das tut, nie was du hörst oder siehst.</translation>
+    </message>
+    <message>
+        <source>This desktop doesn&apos;t tell apps most of what keeps the screen awake, so calls and videos may count as being away all the same.</source>
+        <translation>Dieser Desktop sagt Apps das meiste nicht, was den Bildschirm wach hält. Anrufe und Videos können deshalb trotzdem als Abwesenheit zählen.</translation>
+    </message>
+    <message>
         <source>Runs a Shortcut of yours when a session starts, and another when it stops. Make them in the Shortcuts app with the Set Focus action; macOS does the silencing, and Vantle never sees your notifications. Nothing is blocked.</source>
         <translation>Führt einen Befehl von dir aus, wenn eine Sitzung startet, und einen anderen, wenn sie stoppt. Leg ausführbare Dateien in den Ordner der Kurzbefehle oder nimm die, die mit Vantle kommen; für die Ruhe sorgt dein Desktop, und Vantle sieht deine Benachrichtigungen nie. Nichts wird blockiert.</translation>
     </message>

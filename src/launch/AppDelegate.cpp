@@ -42,8 +42,10 @@ AppDelegate::AppDelegate(const Environment& environment)
     : m_env(environment)
     , m_platform(m_env.platform)
     , m_skills(m_env.paths, m_env.ioQueue, m_platform.preferences)
+    , m_idleSource(m_env.clock, m_platform.preferences, m_platform.idleSource,
+                   m_platform.idleInhibition)
     , m_autoSkill({m_env.clock, m_env.scheduler, m_env.autoSkillQueue, m_env.paths,
-                   m_platform.preferences, m_skills, m_platform.frontmostApp, m_platform.idleSource,
+                   m_platform.preferences, m_skills, m_platform.frontmostApp, m_idleSource,
                    ownBundleId()})
     , m_focusLink(m_platform.preferences, m_platform.processRunner, m_env.shortcutsTool)
     , m_missingTray({m_env.scheduler, m_platform.preferences, m_platform.trayItem,
@@ -115,7 +117,7 @@ void AppDelegate::makeModel() {
                                                          .preferences = m_platform.preferences,
                                                          .skills = m_skills,
                                                          .notifications = m_notifications,
-                                                         .idleSource = m_platform.idleSource,
+                                                         .idleSource = m_idleSource,
                                                          .screenPower = m_platform.screenPower,
                                                          .hotKeyPort = m_platform.hotKeyPort,
                                                          .reducedMotion = m_platform.reducedMotion,

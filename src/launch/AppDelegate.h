@@ -9,6 +9,7 @@
 #include "platform/HeldKey.h"
 #include "platform/Platform.h"
 #include "sensing/AutoSkillMonitor.h"
+#include "sensing/CallPresence.h"
 #include "sensing/FocusLink.h"
 #include "surfaces/commandcenter/CommandCenterController.h"
 #include "surfaces/menubar/StatusItemController.h"
@@ -99,6 +100,7 @@ private:
     SingleInstanceLock m_lock;
     NotificationCenter m_notifications;
     SkillList m_skills;
+    CallPresence m_idleSource; ///< of the platform, and of calls
     AutoSkillMonitor m_autoSkill;
     FocusLink m_focusLink;
     TopRightCardSlot m_cardSlot;

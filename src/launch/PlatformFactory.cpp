@@ -15,6 +15,7 @@ Platform PlatformOwner::ports() const {
             .languageModel = *posix.languageModel,
             .autostart = *posix.autostart,
             .idleSource = *display.idleSource,
+            .idleInhibition = *session.idleInhibition,
             .frontmostApp = *display.frontmostApp,
             .hotKeyPort = *display.hotKeyPort,
             .panelHost = *display.panelHost,

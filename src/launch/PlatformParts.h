@@ -10,6 +10,7 @@
 #include "platform/FileSystem.h"
 #include "platform/FrontmostApp.h"
 #include "platform/HotKeyPort.h"
+#include "platform/IdleInhibition.h"
 #include "platform/IdleSource.h"
 #include "platform/ImageClipboard.h"
 #include "platform/LanguageModel.h"
@@ -84,6 +85,7 @@ struct Display {
 
 /// What the session bus and the toolkit implement on every display.
 struct Session {
+    std::unique_ptr<IdleInhibition> idleInhibition;
     std::unique_ptr<ScreenPower> screenPower;
     std::unique_ptr<Screens> screens;
     std::unique_ptr<Clock> clock;

@@ -4,6 +4,7 @@
 #include "platform/session/ApplicationService.h"
 #include "platform/session/BusSessionStatus.h"
 #include "platform/session/DesktopFileManager.h"
+#include "platform/session/DesktopIdleInhibition.h"
 #include "platform/session/DesktopReadingWishes.h"
 #include "platform/session/DesktopReducedMotion.h"
 #include "platform/session/LoginScreenPower.h"
@@ -83,7 +84,9 @@ Session makeSession(Scheduler& scheduler, const PlatformEvents& events, const Po
     if (display.overlayStage) overlays.push_back(std::move(display.overlayStage));
     overlays.push_back(
         std::make_unique<QtOverlayStage>(*clock, scheduler, *screens, *display.panelHost));
-    return {.screenPower = unite(std::move(display.screenPower), bus),
+    return {.idleInhibition =
+                std::make_unique<DesktopIdleInhibition>(bus, LateBus::systemAddress()),
+            .screenPower = unite(std::move(display.screenPower), bus),
             .screens = std::move(screens),
             .clock = std::move(clock),
             .overlayStage = std::make_unique<FirstOverlayStage>(std::move(overlays)),

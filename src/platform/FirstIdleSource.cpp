@@ -20,6 +20,12 @@ std::optional<double> FirstIdleSource::secondsSinceLastInput() {
     return first == m_sources.end() ? std::nullopt : (*first)->secondsSinceLastInput();
 }
 
+std::optional<bool> FirstIdleSource::isInhibited() const {
+    const auto first =
+        std::ranges::find_if(m_sources, [](const auto& source) { return source->canTell(); });
+    return first == m_sources.end() ? std::nullopt : (*first)->isInhibited();
+}
+
 bool FirstIdleSource::canTell() const {
     return std::ranges::any_of(m_sources, [](const auto& source) { return source->canTell(); });
 }

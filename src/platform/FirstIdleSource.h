@@ -16,6 +16,7 @@ public:
 
     [[nodiscard]] std::optional<double> secondsSinceLastInput() override;
     [[nodiscard]] bool canTell() const override;
+    [[nodiscard]] std::optional<bool> isInhibited() const override;
 
 private:
     std::vector<std::unique_ptr<IdleSource>> m_sources;

@@ -21,6 +21,15 @@ public:
     /// Whether this desktop can report the idle time. True even where one reading is empty.
     [[nodiscard]] virtual bool canTell() const = 0;
 
+    /// The same, without calls and videos where those count as input.
+    [[nodiscard]] virtual std::optional<double> secondsSinceKeyOrPointer() {
+        return secondsSinceLastInput();
+    }
+
+    /// Whether an application keeps the session awake, as of the last reading. Empty where this
+    /// source does not show that.
+    [[nodiscard]] virtual std::optional<bool> isInhibited() const { return std::nullopt; }
+
 Q_SIGNALS:
     void canTellChanged();
 };

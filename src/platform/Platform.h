@@ -10,6 +10,7 @@ class FileManager;
 class FileSystem;
 class FrontmostApp;
 class HotKeyPort;
+class IdleInhibition;
 class IdleSource;
 class ImageClipboard;
 class LanguageModel;
@@ -44,6 +45,7 @@ struct Platform {
     Autostart& autostart;
 
     IdleSource& idleSource;
+    IdleInhibition& idleInhibition;
     FrontmostApp& frontmostApp;
     HotKeyPort& hotKeyPort;
     PanelHost& panelHost;

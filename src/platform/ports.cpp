@@ -7,6 +7,7 @@
 #include "platform/GuestSession.h"
 #include "platform/HeldKey.h"
 #include "platform/HotKeyPort.h"
+#include "platform/IdleInhibition.h"
 #include "platform/IdleSource.h"
 #include "platform/ImageClipboard.h"
 #include "platform/LanguageModel.h"

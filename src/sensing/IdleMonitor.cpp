@@ -15,6 +15,11 @@ constexpr Seconds kPollTolerance{2.0};
 // next reading always shows input.
 constexpr double kScreenSleepSample = std::numeric_limits<double>::max();
 
+std::optional<double> checked(std::optional<double> reading) {
+    if (!reading || !std::isfinite(*reading)) return std::nullopt;
+    return std::max(*reading, 0.0);
+}
+
 } // namespace
 
 IdleMonitor::IdleMonitor(const Clock& clock, Scheduler& scheduler, IdleSource& source,
@@ -50,13 +55,13 @@ void IdleMonitor::stop() {
 }
 
 std::optional<double> IdleMonitor::systemIdleSeconds(IdleSource& source) {
-    const std::optional<double> reading = source.secondsSinceLastInput();
-    if (!reading || !std::isfinite(*reading)) return std::nullopt;
-    return std::max(*reading, 0.0);
+    return checked(source.secondsSinceLastInput());
 }
 
 bool IdleMonitor::poll() {
-    const std::optional<double> idle = systemIdleSeconds(m_source);
+    // A call goes on behind a locked screen, where it says nothing about the user.
+    const std::optional<double> idle =
+        m_screensSleep ? checked(m_source.secondsSinceKeyOrPointer()) : systemIdleSeconds(m_source);
     const IdleSample sample{m_clock.now(), idle.value_or(0.0)};
     const bool missed = m_missed.sinceLastLook().has_value();
     m_missed.look();

@@ -15,6 +15,7 @@ inline constexpr Preference<double> dailyGoalHours{
     "goal.dailyHours", 2.0, {.least = PreferenceLimits<double>::aboveZero, .most = 24.0}};
 inline constexpr Preference<double> idleThresholdSeconds{
     "idle.thresholdSeconds", 180.0, {.least = 10.0}};
+inline constexpr Preference<bool> callsCount{"idle.callsCount", false};
 inline constexpr Preference<QString> projectName{"project.name"};
 inline constexpr Preference<bool> autoMode{"auto.enabled", true};
 inline constexpr Preference<bool> autoStart{"auto.autostart", false};

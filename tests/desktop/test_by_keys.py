@@ -150,7 +150,8 @@ class ByKeys(ByKeysCase):
         self.open(*SETTINGS)
         self.assertEqual(
             self.tour("Settings"),
-            ["Auto-pause after 3 min", "Daily goal, half an hour less",
+            ["Auto-pause after 3 min", "Calls and videos count as being here",
+             "Daily goal, half an hour less",
              "Daily goal, half an hour more",
              "Focus with sessions", "Ripple ceremony", "Black out the screen", "Auto mode",
              "Start sessions automatically", "Launch at login", "How time reads",

@@ -61,6 +61,9 @@ class Settings(DesktopTest):
         self.tab()
         self.desktop.press("Right")
         self.await_stored("idle.thresholdSeconds", "240")
+        self.tab()
+        self.desktop.press("space")
+        self.await_stored("idle.callsCount", "true")
         self.tab(2)
         self.desktop.press("space")
         self.await_stored("goal.dailyHours", "2.5")
@@ -104,7 +107,7 @@ class Settings(DesktopTest):
 
     def test_the_folder_of_shortcuts_is_made_and_what_is_put_there_is_found(self):
         folder = self.config / "Vantle" / "shortcuts"
-        self.tab(4)
+        self.tab(5)
         self.desktop.press("space")
         self.await_stored("focus.linked", "true")
         self.await_rest()

@@ -5,6 +5,7 @@
 #include "fakes/FakeFileManager.h"
 #include "fakes/FakeFrontmostApp.h"
 #include "fakes/FakeHotKeyPort.h"
+#include "fakes/FakeIdleInhibition.h"
 #include "fakes/FakeIdleSource.h"
 #include "fakes/FakeImageClipboard.h"
 #include "fakes/FakeLanguageModel.h"
@@ -36,6 +37,7 @@ struct FakeDesktop {
     FakeLanguageModel languageModel;
     FakeAutostart autostart;
     FakeIdleSource idleSource{time};
+    FakeIdleInhibition idleInhibition;
     FakeFrontmostApp frontmostApp;
     FakeHotKeyPort hotKeyPort;
     FakePanelHost panelHost;
@@ -60,6 +62,7 @@ struct FakeDesktop {
                             .languageModel = languageModel,
                             .autostart = autostart,
                             .idleSource = idleSource,
+                            .idleInhibition = idleInhibition,
                             .frontmostApp = frontmostApp,
                             .hotKeyPort = hotKeyPort,
                             .panelHost = panelHost,

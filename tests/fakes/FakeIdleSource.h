@@ -24,6 +24,9 @@ public:
     /// Makes the counter unknown.
     void becomeUnknown() { m_base.reset(); }
 
+    /// Sets whether an application keeps the session awake; empty where the counter shows none.
+    void showInhibitor(std::optional<bool> shown) { m_inhibitor = shown; }
+
     /// Sets whether the desktop can tell at all.
     void setCanTell(bool canTell) {
         if (std::exchange(m_canTell, canTell) != canTell) Q_EMIT canTellChanged();
@@ -34,6 +37,7 @@ public:
         return m_grows ? *m_base + m_time.uptime().total.count() - m_setAt : *m_base;
     }
     [[nodiscard]] bool canTell() const override { return m_canTell; }
+    [[nodiscard]] std::optional<bool> isInhibited() const override { return m_inhibitor; }
 
 private:
     void set(double seconds, bool grows) {
@@ -47,6 +51,7 @@ private:
     bool m_grows = false;
     double m_setAt = 0;
     bool m_canTell = true;
+    std::optional<bool> m_inhibitor;
 };
 
 } // namespace vantle::fakes

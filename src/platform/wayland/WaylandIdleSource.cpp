@@ -138,12 +138,18 @@ void WaylandIdleSource::probe() {
     m_connection.flush();
 }
 
+std::optional<bool> WaylandIdleSource::isInhibited() const {
+    if (!m_base || m_tellsInput) return std::nullopt;
+    return !m_base->events.isIdle() &&
+           (m_isInhibited || m_base->events.sinceLastEvent() > longestActivity);
+}
+
 std::optional<double> WaylandIdleSource::secondsSinceLastInput() {
     if (!m_base) return std::nullopt;
     IdleEvents& events = m_base->events;
     if (m_tellsInput) return events.secondsSinceLastInput();
     if (!events.isIdle()) {
-        if (m_isInhibited || events.sinceLastEvent() > longestActivity) return std::nullopt;
+        if (isInhibited().value_or(false)) return std::nullopt;
         return events.secondsSinceLastInput();
     }
     if (m_clock.uptime().awake - m_probeMadeAt < probeCounts) {

@@ -38,6 +38,8 @@ public:
 
     [[nodiscard]] std::optional<double> secondsSinceLastInput() override;
     [[nodiscard]] bool canTell() const override { return m_base != nullptr; }
+    /// Told by notifications that stay silent. Those of version 2 of the notifier never do.
+    [[nodiscard]] std::optional<bool> isInhibited() const override;
 
 private:
     class Notification;

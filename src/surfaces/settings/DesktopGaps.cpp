@@ -3,6 +3,7 @@
 #include "base/Words.h"
 #include "platform/FrontmostApp.h"
 #include "platform/GuestSession.h"
+#include "platform/IdleInhibition.h"
 #include "platform/IdleSource.h"
 #include "platform/OverlayStage.h"
 #include "platform/ToggleCommand.h"
@@ -18,6 +19,7 @@ DesktopGaps::DesktopGaps(Environment environment) : m_env(std::move(environment)
     connect(&m_env.tray, &TrayItem::shownChanged, this, &DesktopGaps::trayChanged);
     connect(&m_env.idleSource, &IdleSource::canTellChanged, this, &DesktopGaps::idleChanged);
     connect(&m_env.idleSource, &IdleSource::canTellChanged, this, &DesktopGaps::autoModeChanged);
+    connect(&m_env.idleInhibition, &IdleInhibition::changed, this, &DesktopGaps::idleChanged);
     connect(&m_env.frontmostApp, &FrontmostApp::coverageChanged, this,
             &DesktopGaps::autoModeChanged);
     connect(&m_env.frontmostApp, &FrontmostApp::helpChanged, this, &DesktopGaps::autoModeChanged);
@@ -76,6 +78,12 @@ QString DesktopGaps::idleAdvice() const {
     if (m_env.idleSource.canTell()) return {};
     return Words::tr("This desktop doesn't tell apps when you last used keyboard or mouse, so "
                      "Vantle can't pause by that. Stop the session when you step away.");
+}
+
+QString DesktopGaps::callsAdvice() const {
+    if (m_env.idleInhibition.canTell() || m_env.idleSource.isInhibited()) return {};
+    return Words::tr("This desktop doesn't tell apps most of what keeps the screen awake, so calls "
+                     "and videos may count as being away all the same.");
 }
 
 QString DesktopGaps::autoModeAdvice() const {

@@ -10,6 +10,7 @@ namespace vantle {
 
 class FrontmostApp;
 class HotKey;
+class IdleInhibition;
 class IdleSource;
 class OverlayStage;
 class TrayItem;
@@ -42,6 +43,7 @@ public:
         HotKey& hotKey;
         const TrayItem& tray;
         const IdleSource& idleSource;
+        const IdleInhibition& idleInhibition;
         FrontmostApp& frontmostApp;
         const OverlayStage& overlayStage;
         std::function<void(const QString& text)> copy; ///< copies to the clipboard
@@ -57,6 +59,8 @@ public:
     [[nodiscard]] QString trayAdvice() const;
     /// What replaces the pause by absence.
     [[nodiscard]] QString idleAdvice() const;
+    /// Why a call counts as an absence all the same.
+    [[nodiscard]] QString callsAdvice() const;
     [[nodiscard]] QString autoModeAdvice() const;
     [[nodiscard]] QString autoModeRemedy() const;
     void applyAutoModeRemedy();

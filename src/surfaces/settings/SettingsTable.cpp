@@ -30,6 +30,15 @@ QList<Entry> focusRows() {
          .gap = &DesktopGaps::idleAdvice,
          .gapReplacesCaption = true},
         {.section = PreferenceRowModel::Focus,
+         .kind = PreferenceRowModel::Switch,
+         .setting = OnOff{settings::callsCount},
+         .title = QT_TRANSLATE_NOOP("Words", "Calls and videos count as being here"),
+         .caption = QT_TRANSLATE_NOOP(
+             "Words", "While an app keeps the screen awake, the clock goes on without a keystroke "
+                      "or click, for four hours in a row at most. Vantle learns only that an app "
+                      "does so, never what you hear or see."),
+         .gap = &DesktopGaps::callsAdvice},
+        {.section = PreferenceRowModel::Focus,
          .kind = PreferenceRowModel::Stepper,
          .setting = Range{settings::dailyGoalHours, 1, 0.5, 12, 0.5, &dashformat::inlineHours,
                           QT_TRANSLATE_NOOP("Words", "Daily goal, half an hour less"),

@@ -15,8 +15,8 @@ namespace vantle {
 
 SettingsView::SettingsView(Environment environment)
     : m_env(std::move(environment))
-    , m_gaps({m_env.model.hotKey(), m_env.tray, m_env.idleSource, m_env.frontmostApp,
-              m_env.overlayStage, m_env.copy}) {
+    , m_gaps({m_env.model.hotKey(), m_env.tray, m_env.idleSource, m_env.idleInhibition,
+              m_env.frontmostApp, m_env.overlayStage, m_env.copy}) {
     m_env.rules.loadIfNeeded();
     for (const PreferenceRowModel::Entry& entry : settingsTable())
         m_rows << new PreferenceRowModel(entry, m_env.preferences, m_gaps, this);

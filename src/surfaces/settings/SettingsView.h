@@ -23,6 +23,7 @@ class AutoRules;
 class Autostart;
 class FocusLink;
 class FrontmostApp;
+class IdleInhibition;
 class IdleSource;
 class OverlayStage;
 class NotificationCenter;
@@ -109,6 +110,7 @@ public:
         std::function<Result<>()> openShortcuts;         ///< opens the shortcuts folder
         const TrayItem& tray;
         const IdleSource& idleSource;
+        const IdleInhibition& idleInhibition;
         FrontmostApp& frontmostApp;
         const OverlayStage& overlayStage;
         std::function<void(const QString& text)> copy; ///< copies to the clipboard

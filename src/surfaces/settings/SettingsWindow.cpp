@@ -48,6 +48,7 @@ std::unique_ptr<QObject> makeModel(const WindowParts& parts) {
         .openShortcuts = [&platform = parts.platform] { return openShortcuts(platform); },
         .tray = parts.platform.trayItem,
         .idleSource = parts.platform.idleSource,
+        .idleInhibition = parts.platform.idleInhibition,
         .frontmostApp = parts.platform.frontmostApp,
         .overlayStage = parts.platform.overlayStage,
         .copy = parts.copy,

@@ -57,6 +57,21 @@ TEST_F(DesktopGapsTest, WithoutAnIdleCounterNoPauseIsPromised) {
     EXPECT_EQ(view->gaps()->autoStartAdvice(), QString());
 }
 
+TEST_F(DesktopGapsTest, ADesktopThatTellsOfNoCallIsNamedOnceTheSwitchIsOn) {
+    idleInhibition.setCanTell(false);
+    open();
+    EXPECT_EQ(view->gaps()->callsAdvice(), QString());
+    int times = 0;
+    QObject::connect(&row("Calls and videos"), &PreferenceRowModel::changed, [&] { ++times; });
+    idleInhibition.setFollowed(true);
+    EXPECT_GT(times, 0);
+    EXPECT_EQ(view->gaps()->callsAdvice(),
+              text("This desktop doesn't tell apps most of what keeps the screen awake, so calls "
+                   "and videos may count as being away all the same."));
+    idleSource.showInhibitor(false);
+    EXPECT_EQ(view->gaps()->callsAdvice(), QString()) << "the compositor shows it";
+}
+
 TEST_F(DesktopGapsTest, AdviceSaysWhichApplicationsAutoModeMisses) {
     frontmost.setCoverage(AppCoverage::None);
     open();

@@ -3,6 +3,7 @@
 #include "support/Text.h"
 #include "surfaces/settings/SettingsWindow.h"
 #include "surfaces/settings/SettingsWorld.h"
+#include "tracking/Settings.h"
 
 #include <QFont>
 #include <QFontInfo>
@@ -42,6 +43,26 @@ protected:
 
     std::optional<tests::ShownView> m_shown;
 };
+
+TEST_F(SettingsLayoutTest, RowOfCallsSaysWhatADesktopDoesNotTellOnceItIsOn) {
+    idleInhibition.setCanTell(false);
+    show();
+    QQuickItem* const row = m_shown->control(text("Calls and videos count as being here"));
+    ASSERT_NE(row, nullptr);
+    const char* const advice = "This desktop doesn't tell apps most of what keeps the screen awake";
+    EXPECT_EQ(item(text(advice)), nullptr);
+    m_shown->click(row);
+    EXPECT_TRUE(settings::callsCount.read(preferences));
+    idleInhibition.setFollowed(true); // as the program does then
+    m_shown->settle();
+    QQuickItem* const said = item(text(advice));
+    ASSERT_NE(said, nullptr);
+    const QRectF lines = m_shown->frameOf(*said);
+    EXPECT_GE(lines.top(), m_shown->frameOf(*item(text("While an app keeps"))).bottom());
+    EXPECT_LE(lines.bottom(), m_shown->frameOf(*item(text("Daily goal"))).top());
+    EXPECT_EQ(m_shown->cutTexts(), QStringList());
+    EXPECT_EQ(m_shown->overlappingTexts(), QStringList());
+}
 
 TEST_F(SettingsLayoutTest, CommandIsOneLineInAWellThatScrollsUnderTheArrowKeys) {
     hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};

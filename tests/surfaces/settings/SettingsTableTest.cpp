@@ -15,6 +15,10 @@ const std::map<QString, QString> kCaptions = {
     {text("Auto-pause after 3 min"),
      text("No input for 3 minutes pauses the clock, backdated to your last keystroke or click so "
           "away time is never counted. Default is 3.")},
+    {text("Calls and videos count as being here"),
+     text("While an app keeps the screen awake, the clock goes on without a keystroke or click, "
+          "for four hours in a row at most. Vantle learns only that an app does so, never what you "
+          "hear or see.")},
     {text("Daily goal"), text("The dashboard's Today card measures against this goal, and This "
                               "week against seven of it. Default is 2 hours.")},
     {text("Ripple ceremony"),

@@ -3,6 +3,7 @@
 
 #include "app/ModelWorld.h"
 #include "fakes/FakeAutostart.h"
+#include "fakes/FakeIdleInhibition.h"
 #include "fakes/FakeOverlayStage.h"
 #include "fakes/FakeTrayItem.h"
 #include "sensing/AutoRules.h"
@@ -53,6 +54,7 @@ public:
                 },
                 tray,
                 idleSource,
+                idleInhibition,
                 frontmost,
                 overlayStage,
                 [this](const QString& text) { copied << text; },
@@ -68,6 +70,7 @@ public:
     fakes::FakeAutostart autostart;
     AutoRules* rules = nullptr; ///< of the running program
     fakes::FakeTrayItem tray;
+    fakes::FakeIdleInhibition idleInhibition;
     fakes::FakeOverlayStage overlayStage;
     QStringList revealed;
     QStringList copied;
