@@ -1213,6 +1213,10 @@ Sie zählt zu deinen Summen und wird als Eintrag von Hand markiert.</translation
         <translation>Dieser Desktop sagt Apps das meiste nicht, was den Bildschirm wach hält. Anrufe und Videos können deshalb trotzdem als Abwesenheit zählen.</translation>
     </message>
     <message>
+        <source>Vantle counts from the moment you log in.</source>
+        <translation>Vantle zählt ab der Anmeldung.</translation>
+    </message>
+    <message>
         <source>Runs a Shortcut of yours when a session starts, and another when it stops. Make them in the Shortcuts app with the Set Focus action; macOS does the silencing, and Vantle never sees your notifications. Nothing is blocked.</source>
         <translation>Führt einen Befehl von dir aus, wenn eine Sitzung startet, und einen anderen, wenn sie stoppt. Leg ausführbare Dateien in den Ordner der Kurzbefehle oder nimm die, die mit Vantle kommen; für die Ruhe sorgt dein Desktop, und Vantle sieht deine Benachrichtigungen nie. Nichts wird blockiert.</translation>
     </message>

@@ -6,9 +6,16 @@
 #include "platform/posix/PosixProcessRunner.h"
 #include "platform/posix/SettingsPreferences.h"
 #include "platform/posix/TerminationSignals.h"
+#include "platform/session/PortalAutostart.h"
+#include "tracking/Settings.h"
 
 #include <QCoreApplication>
+#include <QDBusConnection>
 #include <QDir>
+#include <QFile>
+
+#include <memory>
+#include <utility>
 
 namespace vantle::platformparts {
 
@@ -21,6 +28,16 @@ QString xdgDirectory(const char* variable, const QString& underHome) {
     return path.startsWith(QLatin1Char('/')) ? path : QDir::homePath() + underHome;
 }
 
+std::unique_ptr<Autostart> makeAutostart(FileSystem& disk, Preferences& preferences,
+                                         const QString& config) {
+    if (QFile::exists(QStringLiteral("/.flatpak-info")))
+        return std::make_unique<PortalAutostart>(QDBusConnection::sessionBus(), preferences,
+                                                 settings::loginByPortal);
+    return std::make_unique<DesktopAutostart>(
+        disk, config + QStringLiteral("/autostart/local.vantle.Vantle.desktop"),
+        QCoreApplication::applicationFilePath());
+}
+
 } // namespace
 
 Posix makePosix(Scheduler& scheduler, const QProcessEnvironment& environment) {
@@ -28,18 +45,18 @@ Posix makePosix(Scheduler& scheduler, const QProcessEnvironment& environment) {
                               xdgDirectory("XDG_DATA_HOME", QStringLiteral("/.local/share"))};
     auto files = std::make_unique<PosixFileSystem>();
     PosixFileSystem& disk = *files;
+    auto preferences = std::make_unique<SettingsPreferences>(
+        disk, folders.config + QStringLiteral("/Vantle/preferences.ini"));
+    auto autostart = makeAutostart(disk, *preferences, folders.config);
     const auto applications =
         std::make_shared<DesktopApplications>(DesktopApplications::standardFolders());
     return {.folders = folders,
             .fileSystem = std::move(files),
-            .preferences = std::make_unique<SettingsPreferences>(
-                disk, folders.config + QStringLiteral("/Vantle/preferences.ini")),
+            .preferences = std::move(preferences),
             .processRunner = std::make_unique<PosixProcessRunner>(environment),
             .languageModel = std::make_unique<SocketLanguageModel>(
                 disk, folders.config + QStringLiteral("/Vantle/language-model.conf"), scheduler),
-            .autostart = std::make_unique<DesktopAutostart>(
-                disk, folders.config + QStringLiteral("/autostart/local.vantle.Vantle.desktop"),
-                QCoreApplication::applicationFilePath()),
+            .autostart = std::move(autostart),
             .identify = [applications](const WindowHints& hints) {
                 return applications->identify(hints);
             }};

@@ -32,6 +32,7 @@ inline constexpr Preference<qint64> skillsMigrationVersion{"skills.taxonomyMigra
 inline constexpr Preference<bool> hotKeyHintShown{"hint.hotkey.shown", false};
 inline constexpr Preference<QString> hotKeyAllowed{"hotkey.allowed"};
 inline constexpr Preference<bool> loginAutoRegistered{"login.autoRegistered", false};
+inline constexpr Preference<bool> loginByPortal{"login.byPortal", false};
 inline constexpr Preference<bool> notchIntroFlashed{"notch.intro.flashed", false};
 inline constexpr Preference<bool> welcomeDone{"onboard.done", false};
 inline constexpr Preference<QString> welcomeStage{"onboard.stage"}; ///< only ever removed

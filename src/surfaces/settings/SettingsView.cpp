@@ -36,6 +36,8 @@ void SettingsView::follow() {
     connect(&m_env.rules, &AutoRules::persistenceErrorChanged, this,
             &SettingsView::appsFailureChanged);
     connect(&m_env.model, &AppModel::skillsChanged, this, &SettingsView::refreshApps);
+    // In a sandbox the answer to a change comes later.
+    settings::loginByPortal.watch(m_env.preferences, this, [this] { readState(); });
     // Other windows write preferences too.
     connect(&m_env.preferences, &Preferences::changed, this, &SettingsView::readPreferences);
 }

@@ -1,5 +1,6 @@
 #include "support/Text.h"
 #include "surfaces/settings/SettingsWorld.h"
+#include "tracking/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -149,6 +150,16 @@ TEST_F(SettingsViewTest, LoginSwitchFlipsBackWhenTheDesktopRefuses) {
     SettingsView& again = open();
     again.setLaunchAtLogin(false);
     EXPECT_TRUE(again.launchAtLogin());
+}
+
+TEST_F(SettingsViewTest, LoginSwitchFlipsBackWhenThePortalRefusesLater) {
+    SettingsView& settings = open();
+    settings::loginByPortal.write(preferences, true);
+    settings.setLaunchAtLogin(true);
+    ASSERT_TRUE(settings.launchAtLogin());
+    autostart.registered = false;
+    settings::loginByPortal.write(preferences, false);
+    EXPECT_FALSE(settings.launchAtLogin());
 }
 
 TEST_F(SettingsViewTest, ShortcutInUseIsActive) {
