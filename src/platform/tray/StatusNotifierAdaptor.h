@@ -40,7 +40,7 @@ public:
     [[nodiscard]] QString id() const { return QStringLiteral("local.vantle.Vantle"); }
     [[nodiscard]] QString title() const { return QStringLiteral("Vantle"); }
     [[nodiscard]] QString status() const { return QStringLiteral("Active"); }
-    [[nodiscard]] TrayPixmaps iconPixmap() const { return m_item.m_pixmaps; }
+    [[nodiscard]] TrayPixmaps iconPixmap() const { return m_item.pixmaps(); }
     [[nodiscard]] TrayToolTip toolTip() const { return m_item.m_toolTip; }
     [[nodiscard]] bool itemIsMenu() const { return false; }
     /// Without a menu this name tells hosts to call ContextMenu.

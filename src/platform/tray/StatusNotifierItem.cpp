@@ -97,7 +97,7 @@ void StatusNotifierItem::setImage(const QIcon& image) {
     if (image.cacheKey() == m_imageKey) return;
     const bool isFirst = m_imageKey == 0;
     m_imageKey = image.cacheKey();
-    m_pixmaps = pixmapsOf(image);
+    m_image = image;
     if (m_announced) Q_EMIT m_adaptor->NewIcon();
     if (isFirst && m_hasWatcher.value_or(false)) announce();
 }
@@ -108,13 +108,13 @@ void StatusNotifierItem::setToolTip(const QString& text) {
     if (m_announced) Q_EMIT m_adaptor->NewToolTip();
 }
 
-const TrayPixmaps& StatusNotifierItem::pixmapsOf(const QIcon& image) {
-    const auto known = std::ranges::find(m_serialised, image.cacheKey(), &Serialised::cacheKey);
+const TrayPixmaps& StatusNotifierItem::pixmaps() {
+    const auto known = std::ranges::find(m_serialised, m_imageKey, &Serialised::cacheKey);
     if (known != m_serialised.end()) {
         m_serialised.splice(m_serialised.begin(), m_serialised, known);
     } else {
         if (m_serialised.size() == kKeptImages) m_serialised.pop_back();
-        m_serialised.push_front({image.cacheKey(), trayPixmaps(image)});
+        m_serialised.push_front({m_imageKey, trayPixmaps(m_image)});
     }
     return m_serialised.front().pixmaps;
 }

@@ -6,6 +6,7 @@
 #include "platform/tray/TrayPixmaps.h"
 
 #include <QDBusConnection>
+#include <QIcon>
 #include <QObject>
 #include <QPoint>
 
@@ -61,7 +62,8 @@ private:
     void announce();
     void askForHost();
     void setState(bool announced, bool hosted);
-    [[nodiscard]] const TrayPixmaps& pixmapsOf(const QIcon& image);
+    /// Serialises the image when a host asks for it: without a host it would be in vain.
+    [[nodiscard]] const TrayPixmaps& pixmaps();
 
     struct Serialised {
         qint64 cacheKey = 0;
@@ -77,8 +79,8 @@ private:
     bool m_hosted = false;
 
     std::list<Serialised> m_serialised; ///< recent images, latest first
-    qint64 m_imageKey = 0;              ///< 0 before the first image
-    TrayPixmaps m_pixmaps;
+    qint64 m_imageKey = 0;              ///< of m_image; 0 before the first one
+    QIcon m_image;
     TrayToolTip m_toolTip;
 };
 
