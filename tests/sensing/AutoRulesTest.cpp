@@ -85,6 +85,22 @@ TEST_F(AutoRulesTest, DropRulesForSkillsThatAreGoneAndWriteTheFileCleaned) {
     EXPECT_EQ(stored().rules.size(), 2);
 }
 
+TEST_F(AutoRulesTest, KeepTheLatestOfAnApplicationThatIsStoredTwice) {
+    const Date now = time.now();
+    put(AutoRulesState{
+        {}, {{xcode, text("Earlier"), now - Seconds(60)}, {xcode, text("Later"), now}}, {}});
+    rules->loadIfNeeded();
+    ASSERT_THAT(seenIds(), ElementsAre(xcode));
+    EXPECT_EQ(rules->seenApps().front().name, text("Later"));
+}
+
+TEST_F(AutoRulesTest, AreNotReadAfterAnEraseBeforeTheFirstUse) {
+    storeRules({{xcode, building}});
+    rules->eraseAllData();
+    rules->loadIfNeeded();
+    EXPECT_TRUE(rules->rules().isEmpty());
+}
+
 TEST_F(AutoRulesTest, ForgetApplicationsNotSeenForNinetyDays) {
     const Date now = time.now();
     const auto daysAgo = [&](double days) { return now - Seconds(days * 86400); };

@@ -39,6 +39,11 @@ TEST(DashFormat, TheClockHasHoursOnlyFromAnHourOn) {
     EXPECT_EQ(dashformat::clock(std::numeric_limits<std::int64_t>::min()), QStringLiteral("0:00"));
 }
 
+TEST(DashFormat, LongDurationsAreExact) {
+    for (const DurationStyle style : {HoursMinutes, Minutes})
+        EXPECT_EQ(duration(1000 * 3600, style), inlineText(1000, style));
+}
+
 TEST(DashFormat, HoursInALineReadInEachStyle) {
     expectInline(0, {"0 min", "0 min", "0 min", "0:00"});
     expectInline(10.0 / 3600, {"10 sec", "<1 min", "<1 min", "0:10"});

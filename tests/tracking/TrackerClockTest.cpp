@@ -12,6 +12,18 @@ protected:
     const Date begin = samples::morning();
 };
 
+TEST_F(TrackerClockTest, SessionAfterAnotherBeginsWhereThatEndedUnlessOneIsOpen) {
+    time.advance(600.0);
+    const auto first = tracker.stop();
+    ASSERT_TRUE(first);
+    const Skill skill = samples::skill(QStringLiteral("building"));
+    ASSERT_TRUE(tracker.startAfter(*first, skill));
+    EXPECT_EQ(tracker.startedAt(), first->endedAt);
+    time.advance(600.0);
+    EXPECT_FALSE(tracker.startAfter(*first, skill));
+    EXPECT_EQ(tracker.displayActiveSeconds(), 600);
+}
+
 TEST_F(TrackerClockTest, SleepOfTheMachineIsCutOutByTheNextTick) {
     time.advance(100);
     time.suspend(8 * 3600);
