@@ -1,6 +1,8 @@
 // The ends: quitting, a crash and what follows it, and the erase of all data.
 #include "app/ModelWorld.h"
+#include "sensing/IdleMonitor.h"
 #include "support/Text.h"
+#include "tracking/Samples.h"
 
 #include <gtest/gtest.h>
 
@@ -332,6 +334,25 @@ TEST_F(AppModelEndTest, AnUndeletableFileIsReportedWithItsReasonAndAsStillThere)
                                          "Permission denied")));
     EXPECT_TRUE(message->endsWith(text("; sessions.jsonl still exists")));
     EXPECT_EQ(world.note(), *message);
+}
+
+TEST_F(AppModelEndTest, EndStopsTheLookForAbsences) {
+    AppModel& model = world.launch();
+    EXPECT_EQ(world.time.repeatingTimers(IdleMonitor::pollInterval), 1u);
+    model.prepareForTermination();
+    EXPECT_EQ(world.time.repeatingTimers(IdleMonitor::pollInterval), 0u);
+}
+
+TEST_F(AppModelEndTest, EraseTakesTheUsersSkillsAndTheLastFailureAway) {
+    AppModel& model = world.launch();
+    model.addSkill(text("Mine"), 0x112233);
+    world.breakWrites(text("sessions.jsonl"), true);
+    EXPECT_FALSE(model.quickLog(text("building"), 5, {}));
+    ASSERT_TRUE(model.tracker().storageError());
+    world.breakWrites(text("sessions.jsonl"), false);
+    EXPECT_EQ(model.eraseEverything(), std::nullopt);
+    EXPECT_EQ(model.skills(), samples::seeds());
+    EXPECT_EQ(model.tracker().storageError(), std::nullopt);
 }
 
 TEST_F(AppModelEndTest, TheUserCanGoOnAfterAnErase) {

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace vantle::tests {
 namespace {
 
@@ -88,6 +90,28 @@ TEST_F(AppModelTest, QuickLogClampsItsMinutes) {
     EXPECT_TRUE(model.quickLog(text("building"), 2000, QString()));
     EXPECT_EQ(world.note(), text("Logged 960 min manually (stays on this Mac)"));
     EXPECT_EQ(world.log()[1].activeSeconds + world.log()[0].activeSeconds, 60 + 57600);
+}
+
+TEST_F(AppModelTest, NoteOfACommandGoesWithTheNextCommand) {
+    AppModel& model = launched();
+    const auto expectGone = [&](const char* command, const std::function<void()>& run) {
+        model.quickLog(text("building"), 5, {});
+        ASSERT_FALSE(world.note().isEmpty());
+        run();
+        EXPECT_EQ(world.note(), QString()) << command;
+    };
+    expectGone("select",
+               [&] { model.selectSkill(text("building"), AppModel::SkillSelectionOrigin::Human); });
+    expectGone("discard", [&] { model.discardPracticeSession(); });
+    expectGone("start", [&] { model.startWithBackfill(0); });
+}
+
+TEST_F(AppModelTest, EachNoteIsTold) {
+    AppModel& model = launched();
+    int told = 0;
+    QObject::connect(&model, &AppModel::lastActionNoteChanged, [&] { ++told; });
+    model.quickLog(text("building"), 5, {});
+    EXPECT_EQ(told, 1);
 }
 
 TEST_F(AppModelTest, QuickLogReportsFailure) {

@@ -111,6 +111,16 @@ TEST_F(AutoModeAnswersTest, AnswersToTheTagPromptBecomeRules) {
     EXPECT_EQ(world.log().size(), 1u);
 }
 
+TEST_F(AutoModeAnswersTest, AnswerAfterTheSessionChoosesNoSkill) {
+    model.toggleVantle();
+    world.workIn(unheard, kPromptDwell);
+    model.toggleVantle();
+    const QString before = model.selectedSkillId();
+    world.told.resolveTag({Outcome::Kind::Tagged, text("marketing")});
+    EXPECT_EQ(rules().ruling(unheard.bundleId), text("marketing"));
+    EXPECT_EQ(model.selectedSkillId(), before);
+}
+
 TEST_F(AutoModeAnswersTest, TagPromptThatFoundNoPlaceComesAgain) {
     world.told.promptsTaken = false;
     world.workIn(unheard, kPromptDwell);

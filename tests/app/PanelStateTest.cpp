@@ -48,6 +48,16 @@ TEST_F(PanelStateTest, CoverageIsThatOfTheLastRefresh) {
     EXPECT_EQ(told, 1);
 }
 
+TEST_F(PanelStateTest, PulseIsToldWhenItChanges) {
+    int told = 0;
+    QObject::connect(&panel, &PanelState::pulsePrimaryOnceChanged, [&] { ++told; });
+    panel.setPulsePrimaryOnce(false);
+    EXPECT_EQ(told, 0);
+    panel.setPulsePrimaryOnce(true);
+    panel.setPulsePrimaryOnce(true);
+    EXPECT_EQ(told, 1);
+}
+
 TEST_F(PanelStateTest, ReviewIsDueInTheWeekAfterTwoSessions) {
     int told = 0;
     QObject::connect(&panel, &PanelState::wrappedReadyChanged, [&] { ++told; });

@@ -31,6 +31,23 @@ TEST_F(TopRightCardSlotTest, APromptIsRefusedWhileAnotherPromptIsUpAndDoesNotWai
     EXPECT_FALSE(slot.hasQueued());
 }
 
+TEST_F(TopRightCardSlotTest, ReleasedCornerIsFree) {
+    request(a, Kind::Prompt, "a");
+    slot.release(&a);
+    EXPECT_TRUE(request(b, Kind::Prompt, "b"));
+    EXPECT_TRUE(events.empty());
+}
+
+TEST_F(TopRightCardSlotTest, EvictedCardThatLeavesTheCornerDoesNotComeBackAtOnce) {
+    slot.request(
+        &a, Kind::Recovery, [this] { slot.release(&a); },
+        [this] { events.emplace_back("show a"); });
+    slot.takeForSummary(&b, [] {});
+    EXPECT_TRUE(events.empty());
+    slot.release(&b);
+    EXPECT_EQ(events, std::vector<std::string>{"show a"});
+}
+
 TEST_F(TopRightCardSlotTest, ARecoveryEvictsAPromptThatDoesNotReturn) {
     request(a, Kind::Prompt, "a");
     EXPECT_TRUE(request(b, Kind::Recovery, "b"));
