@@ -45,6 +45,10 @@ TEST(StartRhythm, EvenCountTakesTheLaterOfTheTwoMiddleStarts) {
     EXPECT_EQ(Starts({"0700", "0800", "0930"}).times().medianMinutes(), 8 * 60);
 }
 
+TEST(StartRhythm, MidnightIsTheFirstMinute) {
+    EXPECT_EQ(Starts({"0000", "0000", "0001"}).times().medianMinutes(), 0);
+}
+
 TEST(StartRhythm, TypicalStartIsTheHourAlone) {
     // ICU writes a narrow blank before the mark.
     EXPECT_EQ(Starts({"0859", "0859", "0859"}).typical(), QStringLiteral("8\u202FAM"));
@@ -80,6 +84,21 @@ TEST(StartRhythm, EachBandHasItsHeadline) {
     const auto evening = Starts({"1800", "2259", "2000"}).rhythm();
     EXPECT_EQ(evening->headline, QStringLiteral("Most sessions started after dark."));
     EXPECT_EQ(evening->detail, QStringLiteral("3 of 3 sessions started after 6 PM."));
+}
+
+TEST(StartRhythm, EachHourBelongsToOneBand) {
+    const auto bandOf = [](int hour) {
+        if (hour >= 5 && hour <= 11) return "Most sessions started before noon.";
+        if (hour >= 12 && hour <= 17) return "Most sessions started in the afternoon.";
+        if (hour >= 18 && hour <= 22) return "Most sessions started after dark.";
+        return "Most sessions started late at night.";
+    };
+    for (int hour = 0; hour < 24; ++hour) {
+        const std::string time = (hour < 10 ? "0" : "") + std::to_string(hour) + "30";
+        const auto rhythm = Starts({time.c_str(), time.c_str(), time.c_str()}).rhythm();
+        EXPECT_EQ(rhythm->headline, QLatin1String(bandOf(hour))) << hour;
+        EXPECT_TRUE(rhythm->detail->startsWith(QStringLiteral("3 of 3 "))) << hour;
+    }
 }
 
 TEST(StartRhythm, NightDetailIncludesTheHourFromTen) {

@@ -181,6 +181,34 @@ TEST(WrappedStats, OnlyWeeksHaveTheHoursOfTheWeekBefore) {
     EXPECT_EQ(before(WrappedPeriod::Today), std::nullopt);
 }
 
+TEST(WrappedStats, DayOfOneSecondIsActive) {
+    Session second = worked("2026-03-10T08:00:00Z", 1);
+    second.activeSeconds = 1;
+    const auto stats =
+        WrappedStats::compute({second}, WrappedPeriod::Week, settingsAt("2026-03-11T14:00:00Z"));
+    EXPECT_EQ(stats.activeDays, 1);
+}
+
+TEST(WrappedStats, SuperlativesTellTheLongestSessionAndThePassedHours) {
+    const std::vector sessions = {worked("2026-03-09T08:00:00Z", 120),
+                                  worked("2026-03-10T08:00:00Z", 500)};
+    const auto stats =
+        WrappedStats::compute(sessions, WrappedPeriod::Week, settingsAt("2026-03-13T14:00:00Z"));
+    QStringList lines;
+    for (const SuperlativeLine& line : stats.superlatives)
+        lines << line.text;
+    EXPECT_EQ(lines.filter(QStringLiteral("Longest session: ")).size(), 1);
+    EXPECT_EQ(lines.filter(QStringLiteral("10 hour mark")).size(), 1);
+}
+
+TEST(WrappedStats, NotesAreDigested) {
+    Session noted = worked("2026-03-10T08:00:00Z", 60);
+    noted.note = QStringLiteral("Wrote the parser");
+    const auto stats =
+        WrappedStats::compute({noted}, WrappedPeriod::Week, settingsAt("2026-03-11T14:00:00Z"));
+    EXPECT_TRUE(stats.noteDigest.has_value());
+}
+
 TEST(WrappedStats, RankNeedsTwoEarlierWeeks) {
     std::vector sessions = {worked("2026-03-03T08:00:00Z", 30), worked("2026-03-10T08:00:00Z", 60)};
     const auto bestLine = [&] {
