@@ -11,10 +11,31 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 
 namespace vantle {
+
+/// The state of an open file by its file system's record. Times are nanoseconds since 1970.
+///
+/// Each write, truncation and change of mode or name sets `changedAt`, which no program can choose.
+/// Its clock is coarse, so two changes within a tick share a value. A write through a memory map
+/// sets it once until the kernel has written the page back.
+struct FileStamp {
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
+    qint64 size = 0; ///< in bytes
+    int mode = 0;
+    std::int64_t modifiedAt = 0;
+    std::int64_t changedAt = 0;
+    std::int64_t takenAt = 0; ///< time of this stamp
+
+    [[nodiscard]] bool isOfSameState(const FileStamp& other) const {
+        return device == other.device && inode == other.inode && size == other.size &&
+               mode == other.mode && modifiedAt == other.modifiedAt && changedAt == other.changedAt;
+    }
+};
 
 /// An open file. The destructor closes it and ignores failures.
 class File {
@@ -30,6 +51,9 @@ public:
 
     /// The length in bytes.
     virtual Result<qint64> size() = 0;
+
+    /// The state of the file; empty when the file system does not keep it reliably.
+    [[nodiscard]] virtual std::optional<FileStamp> stamp() { return std::nullopt; }
 
     /// Cuts the file to `size` bytes.
     virtual Result<> truncate(qint64 size) = 0;

@@ -40,6 +40,10 @@ public:
         if (const auto error = fault(Operation::Size)) return *error;
         return m_inner->size();
     }
+    [[nodiscard]] std::optional<FileStamp> stamp() override {
+        if (fault(Operation::Stamp)) return std::nullopt;
+        return m_inner->stamp();
+    }
     Result<> truncate(qint64 size) override {
         if (const auto error = fault(Operation::Truncate)) return *error;
         return m_inner->truncate(size);

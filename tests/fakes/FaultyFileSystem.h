@@ -23,6 +23,7 @@ public:
         Read,
         Write,
         Size,
+        Stamp, ///< a fault makes it empty
         Truncate,
         Sync,
         Close,

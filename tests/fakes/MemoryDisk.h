@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <cstdint>
 #include <functional>
 #include <limits>
 #include <map>
@@ -23,6 +24,8 @@ struct MemoryNode {
     Entries entries;
     Entries diskEntries;
     const void* lockHolder = nullptr;
+    std::int64_t modifiedAt = 0; ///< of the content, in nanoseconds since 1970
+    std::int64_t changedAt = 0;  ///< of content, mode or name
 
     [[nodiscard]] static Pointer file(int mode);
     [[nodiscard]] static Pointer directory(int mode);
@@ -57,11 +60,15 @@ struct DiskChange {
 struct MemoryDisk {
     MemoryNode::Pointer root = MemoryNode::directory(0755);
     qint64 capacity = std::numeric_limits<qint64>::max();
-    int starts = 0; ///< number of crashes: files opened before the last one are dead
+    std::int64_t now = 0; ///< clock of the file system, in nanoseconds since 1970
+    int starts = 0;       ///< number of crashes: files opened before the last one are dead
     std::function<void(const DiskChange&)> onChange = [](const DiskChange&) {};
 
     /// Returns how many bytes can still be written.
     [[nodiscard]] qint64 room() const;
+
+    /// Sets the times of a node whose content has changed.
+    void touch(MemoryNode& node) const { node.modifiedAt = node.changedAt = now; }
 };
 
 } // namespace vantle::fakes

@@ -45,6 +45,7 @@ Result<> MemoryFile::write(QByteArrayView bytes) {
     const qint64 fitting = std::min<qint64>(bytes.size(), overwritten + m_disk->room());
     content.replace(m_position, overwritten, bytes.first(fitting));
     m_position += fitting;
+    m_disk->touch(*m_node);
     tell(DiskChange::Kind::Write);
     if (fitting < bytes.size()) return failure(ENOSPC, QStringLiteral("write"));
     return {};
@@ -55,11 +56,23 @@ Result<qint64> MemoryFile::size() {
     return m_node->content.size();
 }
 
+std::optional<FileStamp> MemoryFile::stamp() {
+    if (!isUsable()) return std::nullopt;
+    return FileStamp{1,
+                     reinterpret_cast<std::uintptr_t>(m_node.get()),
+                     m_node->content.size(),
+                     m_node->mode,
+                     m_node->modifiedAt,
+                     m_node->changedAt,
+                     m_disk->now};
+}
+
 Result<> MemoryFile::truncate(qint64 size) {
     if (!isUsable()) return failure(EBADF, QStringLiteral("truncate"));
     if (isForReading() || size < 0) return failure(EINVAL, QStringLiteral("truncate"));
     m_node->content.resize(std::min<qint64>(size, m_node->content.size()));
     m_node->content.append(size - m_node->content.size(), '\0');
+    m_disk->touch(*m_node);
     tell(DiskChange::Kind::Write);
     return {};
 }

@@ -16,6 +16,7 @@ public:
     Result<qint64> read(char* buffer, qint64 capacity) override;
     Result<> write(QByteArrayView bytes) override;
     Result<qint64> size() override;
+    [[nodiscard]] std::optional<FileStamp> stamp() override;
     Result<> truncate(qint64 size) override;
     Result<> sync() override;
     Result<> close() override;

@@ -97,6 +97,7 @@ Result<std::unique_ptr<File>> MemoryFileSystem::open(const QString& path, OpenMo
         if (place.node) return failure(EEXIST, operation, path);
         if (!place.parent) return failure(place.code, operation, path);
         place.node = place.parent->entries[place.name] = MemoryNode::file(0600);
+        m_disk->touch(*place.node);
         m_disk->onChange(
             {DiskChange::Kind::Enter, place.node, place.parent, place.name, {}, {}, {}});
     }
@@ -149,6 +150,7 @@ Result<> MemoryFileSystem::rename(const QString& from, const QString& to) {
     if (target.node && !target.node->entries.empty()) return failure(ENOTEMPTY, operation, to);
     target.parent->entries[target.name] = source.node;
     source.parent->entries.erase(source.name);
+    source.node->changedAt = m_disk->now;
     m_disk->onChange({DiskChange::Kind::Move,
                       source.node,
                       source.parent,
@@ -171,6 +173,7 @@ Result<> MemoryFileSystem::setMode(const QString& path, int mode) {
     const Place place = find(m_disk->root, path);
     if (!place.node) return failure(place.code, QStringLiteral("set mode of"), path);
     place.node->mode = mode;
+    place.node->changedAt = m_disk->now;
     return {};
 }
 
@@ -194,6 +197,7 @@ FileSystem::LockAttempt MemoryFileSystem::lock(const QString& path) {
     Place place = find(m_disk->root, path);
     if (!place.node && place.parent) {
         place.node = place.parent->entries[place.name] = MemoryNode::file(0600);
+        m_disk->touch(*place.node);
         m_disk->onChange(
             {DiskChange::Kind::Enter, place.node, place.parent, place.name, {}, {}, {}});
     }
@@ -209,6 +213,21 @@ void MemoryFileSystem::setContent(const QString& path, const QByteArray& bytes, 
     node->mode = mode;
     node->content = node->diskContent = bytes;
     place.parent->entries[place.name] = place.parent->diskEntries[place.name] = node;
+    m_disk->touch(*node);
+}
+
+void MemoryFileSystem::setBytesUnnoticed(const QString& path, qsizetype at, QByteArrayView bytes) {
+    find(m_disk->root, path).node->content.replace(at, bytes.size(), bytes);
+}
+
+void MemoryFileSystem::setModified(const QString& path, std::int64_t nanoseconds) {
+    const Place place = find(m_disk->root, path);
+    m_disk->touch(*place.node);
+    place.node->modifiedAt = nanoseconds;
+}
+
+std::int64_t MemoryFileSystem::modified(const QString& path) const {
+    return find(m_disk->root, path).node->modifiedAt;
 }
 
 void MemoryFileSystem::setDirectory(const QString& path, int mode) {

@@ -12,6 +12,8 @@
 
 #include <QStringList>
 
+#include <chrono>
+
 namespace vantle::fakes {
 
 class MemoryFileSystem final : public FileSystem {
@@ -34,6 +36,18 @@ public:
     /// Adds a file that is already on disk, with its parent directories. Replaces the content of an
     /// existing one. The path must not be a directory.
     void setContent(const QString& path, const QByteArray& bytes, int mode = 0600);
+
+    /// Overwrites bytes of an existing file through a memory map, of whose later writes the file
+    /// system takes no note.
+    void setBytesUnnoticed(const QString& path, qsizetype at, QByteArrayView bytes);
+
+    /// Sets the time of the last change of the content, as programs may.
+    void setModified(const QString& path, std::int64_t nanoseconds);
+    [[nodiscard]] std::int64_t modified(const QString& path) const;
+
+    /// Advances the clock of the file system, which stands still otherwise: the changes until then
+    /// fall into one tick.
+    void passTime(std::chrono::nanoseconds time) { m_disk->now += time.count(); }
 
     /// Adds a directory that is already on disk.
     void setDirectory(const QString& path, int mode = kUsualDirectoryMode);

@@ -15,6 +15,8 @@ public:
     Result<qint64> read(char* buffer, qint64 capacity) override;
     Result<> write(QByteArrayView bytes) override;
     Result<qint64> size() override;
+    /// Empty on network and FUSE file systems, whose times may be cached or another machine's.
+    [[nodiscard]] std::optional<FileStamp> stamp() override;
     Result<> truncate(qint64 size) override;
     Result<> sync() override;
     Result<> close() override;
