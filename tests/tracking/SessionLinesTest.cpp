@@ -3,6 +3,7 @@
 #include "tracking/Samples.h"
 
 #include <gmock/gmock.h>
+#include <simdjson.h>
 
 namespace vantle {
 namespace {
@@ -94,6 +95,83 @@ TEST(SessionLines, NumbersAreReadToTheLastDigit) {
         ASSERT_TRUE(session.has_value()) << number;
         EXPECT_EQ(session->activeSeconds, QByteArray(number).toLongLong());
     }
+}
+
+/// Compares the quick way with the full decoder, alone and between two good lines.
+void expectOneResult(const QByteArray& line) {
+    if (!simdjson::validate_utf8(line.constData(), std::size_t(line.size()))) return;
+    if (linesOf(line) != std::vector{line.toStdString()}) return;
+    const auto expected = json::decodeSession(line);
+    ASSERT_EQ(sessionlines::decode(line), expected) << line.toStdString();
+    const Session other = samples::session(2);
+    ASSERT_THAT(recordsOf(samples::line(other) + line + '\n' + samples::line(other)),
+                ElementsAre(other, expected, other))
+        << line.toStdString();
+}
+
+TEST(SessionLines, AnyOtherByteAnywhereGivesWhatTheFullDecoderGives) {
+    const QByteArray good = samples::line(samples::session()).chopped(1);
+    for (qsizetype at = 0; at < good.size(); ++at) {
+        QByteArray line = good;
+        for (int byte = 0; byte < 256; ++byte) {
+            line[at] = static_cast<char>(byte);
+            expectOneResult(line);
+        }
+    }
+}
+
+TEST(SessionLines, AMissingOrAnAddedByteAnywhereGivesWhatTheFullDecoderGives) {
+    const QByteArray good = samples::line(samples::session()).chopped(1);
+    for (qsizetype at = 0; at <= good.size(); ++at) {
+        expectOneResult(good.first(at));
+        expectOneResult(QByteArray(good).remove(at, 1));
+        for (const char byte : {'0', '"', ' ', '\\', '}', 'a'})
+            expectOneResult(QByteArray(good).insert(at, byte));
+    }
+}
+
+TEST(SessionLines, ANoteOfAnyLengthIsReadUpToItsQuote) {
+    const std::vector<QByteArray> parts = {
+        "",       "\\n",    "\\\"",   "\"",         "\\",     "\t",      "\x7F",    "\u00E9",
+        "\u0086", "\u2027", "\u65E5", "\U0001F600", "\uFEFF", "\\u0041", "\\ud800", "\0x"};
+    for (qsizetype before = 0; before < 18; ++before)
+        for (const QByteArray& part : parts)
+            for (qsizetype after = 0; after < 10; ++after) {
+                const QByteArray note = QByteArray(before, 'b') + part + QByteArray(after, 'a');
+                expectOneResult(samples::line(samples::session())
+                                    .chopped(1)
+                                    .replace("\"note\":\"note\"", "\"note\":\"" + note + "\""));
+            }
+}
+
+TEST(SessionLines, EveryDigitOfAnIdIsRead) {
+    const QByteArray good = samples::line(samples::session()).chopped(1);
+    const qsizetype id = good.indexOf("\"id\":\"") + 6;
+    for (qsizetype at = id; at < id + 36; ++at)
+        for (const char digit : QByteArrayView("0123456789abcdefABCDEF")) {
+            QByteArray line = good;
+            line[at] = digit;
+            expectOneResult(line);
+        }
+    const auto session = sessionlines::decode(
+        QByteArray(good).replace(id, 36, "01234567-89ab-CDEF-fedc-BA9876543210"));
+    ASSERT_TRUE(session.has_value());
+    EXPECT_EQ(session->id.toByteArray(QUuid::WithoutBraces),
+              "01234567-89ab-cdef-fedc-ba9876543210");
+}
+
+TEST(SessionLines, EveryTimeOfADayIsReadAndNoOther) {
+    const QByteArray good = samples::line(samples::session()).chopped(1);
+    const qsizetype time = good.indexOf('T') + 1;
+    for (int hour = 0; hour < 100; ++hour)
+        for (int minute = 0; minute < 100; minute += 7)
+            expectOneResult(
+                QByteArray(good).replace(time, 8,
+                                         QStringLiteral("%1:%2:%3")
+                                             .arg(hour, 2, 10, QLatin1Char('0'))
+                                             .arg(minute, 2, 10, QLatin1Char('0'))
+                                             .arg((hour + minute) % 100, 2, 10, QLatin1Char('0'))
+                                             .toLatin1()));
 }
 
 TEST(SessionLines, AReaderKeepsRecordsOfManySkillsApart) {
