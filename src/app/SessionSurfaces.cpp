@@ -28,6 +28,8 @@ constexpr Seconds kFlashAfterFullShow{3.05};
 
 constexpr Seconds kIntroDelay{0.7};
 
+constexpr std::int64_t kHour = 3600; // seconds
+
 } // namespace
 
 SessionSurfaces::SessionSurfaces(const Environment& environment, Collaborators collaborators)
@@ -67,15 +69,17 @@ void SessionSurfaces::showEnd(const Session& session) {
 
 void SessionSurfaces::showSummary(const Session& session, bool isPractice, bool suppressHint) {
     const Date now = m_env.clock.now();
-    std::vector<Session> sessions = m_env.tracker.allSessions();
+    const SessionList sessions = m_env.tracker.allSessions();
     collaborators::StopSummary::Content content;
     content.session = session;
-    content.carrySeconds = totals::secondsAllTime(sessions, now) % 3600;
+    const std::int64_t seconds = totals::secondsAllTime(sessions, now);
+    content.carrySeconds = seconds % kHour;
     content.isFirstSession = sessions.size() == 1;
-    const std::int64_t dotsNow = totals::hourDotCount(sessions, now);
-    std::erase_if(sessions, [&](const Session& other) { return other.id == session.id; });
-    const std::int64_t dotsBefore = totals::hourDotCount(sessions, now);
-    content.newHours = std::max<std::int64_t>(dotsNow - dotsBefore, 0);
+    std::int64_t secondsBefore = seconds;
+    for (const Session& other : sessions)
+        if (other.id == session.id && TrackerCore::countsInTotals(other, now))
+            secondsBefore -= other.activeSeconds;
+    content.newHours = std::max<std::int64_t>(seconds / kHour - secondsBefore / kHour, 0);
     content.showHotkeyHint = !suppressHint && !settings::hotKeyHintShown.read(m_env.preferences);
     if (content.showHotkeyHint) settings::hotKeyHintShown.write(m_env.preferences, true);
     content.spotlightNote = isPractice;

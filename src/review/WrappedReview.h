@@ -2,16 +2,17 @@
 #pragma once
 
 #include "review/WrappedCards.h"
+#include "tracking/SessionList.h"
 
 namespace vantle {
 
 class Preferences;
 
-/// Works on a copy of the log. Has no clock: the caller passes the current settings. Plain value,
-/// one thread at a time.
+/// Shares the records of the log. Has no clock: the caller passes the current settings. Plain
+/// value, one thread at a time.
 class WrappedReview {
 public:
-    using Sessions = std::vector<Session>;
+    using Sessions = SessionList;
 
     /// The window opened. The first call also sets the period: `initial`, else this week, or last
     /// week when only that has sessions.

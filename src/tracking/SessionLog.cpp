@@ -3,61 +3,23 @@
 #include "platform/FileSystem.h"
 #include "tracking/AppPaths.h"
 #include "tracking/JsonForm.h"
+#include "tracking/LogBlocks.h"
+#include "tracking/LogReader.h"
 #include "tracking/SessionLines.h"
 
-#include <simdjson.h>
-
-#include <algorithm>
 #include <cerrno>
+#include <utility>
 
 namespace vantle {
 
 namespace {
 
-/// Block size for reading the log, in bytes. Longer lines enlarge it.
-constexpr qsizetype kBlockSize = 1 << 20;
-
 /// Reserve for the growth of a rewritten log, in bytes.
 constexpr qint64 kRoomForANote = 4096;
-
-bool isUtf8(QByteArrayView bytes) {
-    return simdjson::validate_utf8(bytes.data(), static_cast<std::size_t>(bytes.size()));
-}
 
 Error recordRefused(const QString& path) {
     return {0, QStringLiteral("check"), path,
             QStringLiteral("The record breaks the rules of the log")};
-}
-
-/// Estimates the records in a file of `fileSize` bytes, given `count` in its first `bytes`.
-/// Slightly high, so that the vector does not grow for a few more.
-std::size_t expectedCount(std::size_t count, qsizetype bytes, qint64 fileSize) {
-    const double density = static_cast<double>(count) / static_cast<double>(bytes);
-    return count + static_cast<std::size_t>(density * 1.03 * static_cast<double>(fileSize));
-}
-
-/// Calls `visit` with the file in blocks of whole lines; the last may lack its line feed. Returns
-/// false when the file cannot be read or `visit` returns false.
-template <typename Visit>
-bool forEachBlock(File& file, Visit visit) {
-    QByteArray buffer(kBlockSize, Qt::Uninitialized);
-    qsizetype filled = 0;
-    for (;;) {
-        if (filled == buffer.size()) buffer.resize(buffer.size() * 2);
-        const auto count = file.read(buffer.data() + filled, buffer.size() - filled);
-        if (!count) return false;
-        if (count.value() == 0) break;
-        // Only the new bytes can hold the last line feed of a line that spans blocks.
-        const QByteArrayView fresh(buffer.constData() + filled, count.value());
-        filled += count.value();
-        const qsizetype feed = fresh.lastIndexOf('\n');
-        if (feed < 0) continue;
-        const qsizetype whole = fresh.data() + feed + 1 - buffer.constData();
-        if (!visit(QByteArrayView(buffer.constData(), whole))) return false;
-        filled -= whole;
-        std::memmove(buffer.data(), buffer.constData() + whole, static_cast<std::size_t>(filled));
-    }
-    return filled == 0 || visit(QByteArrayView(buffer.constData(), filled));
 }
 
 /// Copies lines byte for byte, each with a line feed; adjacent lines in one piece.
@@ -124,33 +86,10 @@ Result<> SessionLog::append(const Session& session) const {
 }
 
 LogRead SessionLog::readAll() const {
-    auto file = m_paths.fileSystem().open(m_paths.sessionsFile(), FileSystem::OpenMode::Read);
-    if (!file) return {};
-    const auto size = file.value()->size();
-    LogRead log;
-    sessionlines::Reader reader;
-    const auto take = [&log](QByteArrayView, std::optional<Session>&& session) {
-        if (session && isAcceptable(*session))
-            log.sessions.push_back(std::move(*session));
-        else
-            ++log.unreadable;
-    };
-    const bool complete = forEachBlock(*file.value(), [&](QByteArrayView block) {
-        // One invalid byte makes the whole log unreadable: a damaged disk's content is not guessed.
-        if (!isUtf8(block)) return false;
-        const bool isFirst = log.sessions.empty();
-        reader.read(block, take);
-        if (isFirst && size)
-            log.sessions.reserve(expectedCount(log.sessions.size(), block.size(), size.value()));
-        return true;
-    });
-    if (!complete) return {};
-
-    std::vector<Session>& sessions = log.sessions;
-    if (!std::ranges::is_sorted(sessions, {}, &Session::endedAt))
-        std::ranges::stable_sort(sessions, {}, &Session::endedAt);
-    if (sessions.capacity() > sessions.size() + sessions.size() / 8) sessions.shrink_to_fit();
-    return log;
+    LogReader reader(m_paths);
+    LogReader::Log log = reader.read();
+    reader.forget();
+    return {std::move(log.sessions).take(), log.unreadable};
 }
 
 Result<bool> SessionLog::rewrite(const QUuid& id, const Transform& transform) const {
@@ -180,8 +119,8 @@ Result<bool> SessionLog::rewrite(const QUuid& id, const Transform& transform) co
         else if (!failure)
             failure = encoded.error();
     };
-    const bool complete = forEachBlock(*file.value(), [&](QByteArrayView block) {
-        if (!isUtf8(block)) return false;
+    const bool complete = logblocks::forEach(*file.value(), [&](QByteArrayView block) {
+        if (!logblocks::isUtf8(block)) return false;
         reader.read(block, take);
         kept.flush(); // the block is reused after this
         return true;

@@ -30,8 +30,8 @@ public:
     /// with a torn one. When only setting the mode fails, the record stays in the file.
     Result<> append(const Session& session) const;
 
-    /// Returns all valid records. A missing, unreadable or non-UTF-8 file gives none and a count of
-    /// 0.
+    /// Returns all valid records, read from the first line on. A missing, unreadable or non-UTF-8
+    /// file gives none and a count of 0.
     [[nodiscard]] LogRead readAll() const;
 
     using Transform = std::function<std::optional<Session>(const Session&)>;

@@ -27,6 +27,7 @@ Seconds minutesAsSeconds(int minutes) { return Seconds(60.0 * minutes); }
 TrackerCore::TrackerCore(const Environment& environment)
     : m_env(environment)
     , m_log(environment.paths)
+    , m_reader(environment.paths)
     , m_missed(environment.clock, kTickInterval) {
     if (!m_env.encodeMarker)
         m_env.encodeMarker = [](const OpenSessionMarker& marker) { return json::encode(marker); };

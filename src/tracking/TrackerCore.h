@@ -8,7 +8,9 @@
 #include "base/Result.h"
 #include "base/Scheduler.h"
 #include "tracking/ActivityEvidence.h"
+#include "tracking/LogReader.h"
 #include "tracking/Session.h"
+#include "tracking/SessionList.h"
 #include "tracking/SessionLog.h"
 #include "tracking/Skill.h"
 
@@ -106,8 +108,9 @@ public:
 
     // The log
 
-    /// Returns every valid record, oldest end first. Updates `dataWarning`. [blocks]
-    std::vector<Session> allSessions();
+    /// Returns every valid record, oldest end first. Updates `dataWarning`. Keeps the records for a
+    /// minute: reading an unchanged log again takes microseconds. [blocks]
+    SessionList allSessions();
 
     /// Stores the note, trimmed and cut to 500 characters. Returns false when there is no such
     /// record or writing fails. [blocks]
@@ -224,6 +227,8 @@ private:
 
     Environment m_env;
     SessionLog m_log;
+    LogReader m_reader; ///< on the I/O queue
+    TimerHandle m_forgetLog;
     QPointer<ActivityEvidence> m_idleMonitor;
 
     State m_state = State::Idle;

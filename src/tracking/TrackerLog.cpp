@@ -1,4 +1,5 @@
 // The tracker's operations on the log, and the recovery after a crash.
+#include "base/Heap.h"
 #include "base/SerialQueue.h"
 #include "base/Words.h"
 #include "platform/FileSystem.h"
@@ -16,6 +17,9 @@ namespace vantle {
 namespace {
 
 constexpr int kMaxManualMinutes = 960;
+
+/// How long the records are kept after the last reading.
+constexpr Seconds kLogKept{60};
 
 QString warningFor(int unreadable) {
     return unreadable == 1 ? Words::tr("1 unreadable session record is preserved in the export but "
@@ -38,9 +42,13 @@ bool TrackerCore::appendToLog(const Session& session) {
     return true;
 }
 
-std::vector<Session> TrackerCore::allSessions() {
-    LogRead log = m_env.ioQueue.run([this] { return m_log.readAll(); });
+SessionList TrackerCore::allSessions() {
+    LogReader::Log log = m_env.ioQueue.run([this] { return m_reader.read(); });
     setDataWarning(log.unreadable > 0 ? std::optional(warningFor(log.unreadable)) : std::nullopt);
+    m_forgetLog = m_env.scheduler.scheduleOnce(kLogKept, [this] {
+        m_env.ioQueue.sync([this] { m_reader.forget(); });
+        trimHeap();
+    });
     return std::move(log.sessions);
 }
 
@@ -128,7 +136,8 @@ std::optional<Session> TrackerCore::recoverSession(const OpenSessionMarker& mark
     const auto candidate = recovery::recoveryCandidate(marker);
     if (!candidate) return std::nullopt;
     // The crash may have come between logging the record and removing the marker.
-    const std::vector<Session> sessions = allSessions();
+    m_env.ioQueue.sync([this] { m_reader.forget(); }); // the whole file decides
+    const SessionList sessions = allSessions();
     const auto logged = std::ranges::find(sessions, candidate->id, &Session::id);
     const bool isLogged = logged != sessions.end();
     if (!isLogged && !appendToLog(*candidate)) return std::nullopt;

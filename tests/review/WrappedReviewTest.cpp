@@ -15,7 +15,7 @@ constexpr auto kNow = "2026-03-11T14:00:00Z"; // a Wednesday, in a week that beg
 
 class WrappedReviewTest : public testing::Test {
 protected:
-    void open(WrappedReview::Sessions log, std::optional<WrappedPeriod> initial = {}) {
+    void open(std::vector<Session> log, std::optional<WrappedPeriod> initial = {}) {
         review.open(std::move(log), settings, initial);
     }
     void pick(WrappedPeriod period) { review.pick(period, settings); }
@@ -60,7 +60,7 @@ TEST_F(WrappedReviewTest, GoingBackToThisWeekDoesNotLeadToLastWeekAgain) {
     EXPECT_EQ(review.period(), WrappedPeriod::Week);
     open({lastMonday});
     EXPECT_EQ(review.period(), WrappedPeriod::Week);
-    review.reload({lastMonday}, settings);
+    review.reload(std::vector{lastMonday}, settings);
     EXPECT_EQ(review.period(), WrappedPeriod::Week);
 }
 

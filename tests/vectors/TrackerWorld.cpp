@@ -184,7 +184,7 @@ std::optional<QJsonValue> TrackerWorld::performOnSession(const QString& operatio
 std::optional<QJsonValue> TrackerWorld::performOnLog(const QString& operation,
                                                      const QJsonObject& event) {
     TrackerCore& tracker = *m_tracker;
-    if (operation == QLatin1String("allSessions")) return toJson(tracker.allSessions());
+    if (operation == QLatin1String("allSessions")) return toJson(tracker.allSessions().records());
     if (operation == QLatin1String("append"))
         return tracker.appendToLog(sessionFromJson(event[QLatin1String("session")]));
     if (operation == QLatin1String("updateNote"))

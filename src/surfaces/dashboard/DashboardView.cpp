@@ -68,7 +68,7 @@ DashboardSetting DashboardView::setting() const {
 }
 
 void DashboardView::reload() {
-    const std::vector<Session> sessions = tracker().allSessions();
+    const SessionList sessions = tracker().allSessions();
     const DashboardSetting now = setting();
     m_stats = asList(dashboard::stats(sessions, now));
     m_skillTotals = asList(dashboard::skillTotals(sessions, now));

@@ -1,5 +1,6 @@
 #include "surfaces/window/ManagedWindow.h"
 
+#include "base/Heap.h"
 #include "platform/PanelHost.h"
 #include "platform/Preferences.h"
 #include "platform/Screens.h"
@@ -11,11 +12,6 @@
 
 #include <QQmlEngine>
 
-#include <cstdlib>
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-
 namespace vantle {
 
 namespace {
@@ -25,14 +21,6 @@ constexpr int kMinContentHeight = 320; // of a resizable window
 
 /// How long a window must rest before its frame is saved, which is what a crash can lose.
 constexpr Seconds kFrameRest{1.0};
-
-/// Returns the allocator's free memory to the system, which it mostly keeps otherwise. Takes about
-/// a millisecond.
-void trimHeap() {
-#ifdef __GLIBC__
-    malloc_trim(0);
-#endif
-}
 
 } // namespace
 

@@ -107,7 +107,7 @@ public:
         const Clock& clock;
         Scheduler& scheduler;
         std::function<Calendar()> calendar;
-        std::function<std::vector<Session>()> allSessions;
+        std::function<SessionList()> allSessions;
         std::function<std::vector<Skill>()> skills;
         std::optional<WrappedPeriod> initialPeriod; ///< empty: chosen from the log
         /// Starts or stops a session; empty hides the button.
