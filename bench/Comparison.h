@@ -54,16 +54,23 @@ double processorSecondsFor(Work& work) {
 }
 
 /// Like `compare`, with processor time, for computations on one thread.
-template <typename Ours, typename Bound>
-void compareComputing(benchmark::State& state, const Goal& goal, Ours ours, Bound bound) {
+template <typename Ours, typename Bound, typename CleanUp>
+void compareComputing(benchmark::State& state, const Goal& goal, Ours ours, Bound bound,
+                      CleanUp cleanUp) {
     std::vector<double> oursTook;
     std::vector<double> boundTook;
     for (auto _ : state) {
         oursTook.push_back(processorSecondsFor(ours));
+        cleanUp();
         boundTook.push_back(processorSecondsFor(bound));
         state.SetIterationTime(oursTook.back());
     }
     report(state, medianOf(oursTook) / goal.items, medianOf(boundTook) / goal.items, goal);
+}
+
+template <typename Ours, typename Bound>
+void compareComputing(benchmark::State& state, const Goal& goal, Ours ours, Bound bound) {
+    compareComputing(state, goal, ours, bound, [] {});
 }
 
 /// Alternates between the two, so that load affects both, and reports the medians. `cleanUp` runs

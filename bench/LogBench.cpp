@@ -1,8 +1,11 @@
 // Reading, adding to and changing a log on a real disk.
 #include "BareParse.h"
 #include "Comparison.h"
+#include "FormatScan.h"
 #include "SampleLog.h"
 #include "Workshop.h"
+#include "tracking/LogReader.h"
+#include "tracking/SessionLog.h"
 
 #include <fcntl.h>
 #include <malloc.h>
@@ -14,17 +17,63 @@ namespace {
 constexpr int kMany = 1'000'000;
 constexpr int kSome = 100'000;
 
-void readAMillion(benchmark::State& state) {
-    Workshop workshop(kMany);
+/// The whole log, on this thread; the bounds drop what they read.
+void readWhole(benchmark::State& state, int count, double limit,
+               std::uint64_t (*bound)(const QString&)) {
+    Workshop workshop(count);
     const QString path = workshop.log();
+    const SessionLog log(workshop.paths());
     std::vector<Session> sessions;
-    compare(
-        state, {Goal::Kind::Ratio, 1.0}, [&] { sessions = workshop.tracker().allSessions(); },
-        [&] { benchmark::DoNotOptimize(bareParse(path)); },
+    compareComputing(
+        state, {Goal::Kind::Ratio, limit, static_cast<double>(count)},
+        [&] { sessions = log.readAll().sessions; }, [&] { benchmark::DoNotOptimize(bound(path)); },
         [&] {
-            if (sessions.size() != kMany) state.SkipWithError("records are missing");
+            if (static_cast<int>(sessions.size()) != count)
+                state.SkipWithError("records are missing");
             sessions = {};
         });
+}
+
+/// A log that is known and has not changed for long, against opening a file and taking its state.
+void readUnchanged(benchmark::State& state) {
+    Workshop workshop(kSome);
+    LogReader reader(workshop.paths());
+    static_cast<void>(reader.read());
+    ::sleep(3); // until the time of the last change is certain
+    static_cast<void>(reader.read());
+    compareComputing(
+        state, {Goal::Kind::NanosecondsEach, 100'000},
+        [&] { benchmark::DoNotOptimize(reader.read()); },
+        [&] {
+            PosixFileSystem files;
+            const auto file = files.open(workshop.log(), FileSystem::OpenMode::Read);
+            benchmark::DoNotOptimize(file.value()->stamp());
+        });
+}
+
+/// A known log with one more line, against reading all of it.
+void readGrown(benchmark::State& state) {
+    Workshop workshop(kSome);
+    LogReader reader(workshop.paths());
+    const SessionLog log(workshop.paths());
+    static_cast<void>(reader.read());
+    int count = kSome;
+    std::vector<Session> whole;
+    std::vector<double> ours;
+    std::vector<double> bound;
+    const auto again = [&] {
+        if (static_cast<int>(reader.read().sessions.size()) != count)
+            state.SkipWithError("records are missing");
+    };
+    const auto all = [&] { whole = log.readAll().sessions; };
+    for (auto _ : state) {
+        log.append(sampleSession(count++)).ignore();
+        ours.push_back(processorSecondsFor(again));
+        whole = {};
+        bound.push_back(processorSecondsFor(all));
+        state.SetIterationTime(ours.back());
+    }
+    report(state, medianOf(ours), medianOf(bound), {Goal::Kind::Ratio, 0.25});
 }
 
 /// The bytes that are allocated now, large blocks included.
@@ -40,7 +89,7 @@ void holdAMillion(benchmark::State& state) {
     for (auto _ : state) {
         state.SetIterationTime(1);
         const double empty = allocatedBytes();
-        const std::vector<Session> sessions = workshop.tracker().allSessions();
+        const std::vector<Session> sessions = SessionLog(workshop.paths()).readAll().sessions;
         const double filled = allocatedBytes();
         std::vector<QString> notes;
         notes.reserve(sessions.size());
@@ -103,11 +152,25 @@ void changeANote(benchmark::State& state) {
         });
 }
 
-BENCHMARK(readAMillion)
-    ->Name("allSessions() of 1,000,000 lines, against a bare parse")
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond)
-    ->Iterations(9);
+[[maybe_unused]] const bool kRegistered = [] {
+    const auto add = [](const std::string& name, auto measure) {
+        benchmark::RegisterBenchmark(name.c_str(), measure)
+            ->UseManualTime()
+            ->Unit(benchmark::kMillisecond)
+            ->Iterations(9);
+    };
+    const auto addWhole = [&](const std::string& name, int count, double limit, auto bound) {
+        add(name, [=](benchmark::State& state) { readWhole(state, count, limit, bound); });
+    };
+    addWhole("reading 1,000,000 lines, a line, against a bare parse", kMany, 1.0, bareParse);
+    addWhole("reading 1,000,000 lines, a line, against a scan of their form", kMany, 2.0,
+             formatScan);
+    addWhole("reading 10,000 lines, a line, against a scan of their form", 10'000, 2.0, formatScan);
+    add("reading 100,000 lines again, none changed", readUnchanged);
+    add("reading 100,000 lines again, one added, against reading all", readGrown);
+    return true;
+}();
+
 BENCHMARK(holdAMillion)
     ->Name("memory of a record, without its note")
     ->UseManualTime()

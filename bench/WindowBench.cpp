@@ -41,7 +41,7 @@ void search(benchmark::State& state) {
 
 void figures(benchmark::State& state) {
     Workshop workshop(kMany);
-    const std::vector<Session> sessions = workshop.tracker().allSessions();
+    const SessionList sessions = workshop.tracker().allSessions();
     const DashboardSetting setting{
         sessions.back().endedAt, berlin(), {Skill::defaults().begin(), Skill::defaults().end()}};
     compare(

@@ -36,6 +36,7 @@ public:
     [[nodiscard]] Preferences& preferences() { return m_preferences; }
     [[nodiscard]] const Clock& clock() const { return m_clock; }
     [[nodiscard]] Scheduler& scheduler() { return m_scheduler; }
+    [[nodiscard]] const AppPaths& paths() const { return m_paths; }
     [[nodiscard]] QString log() const { return m_paths.sessionsFile(); }
     /// Makes a model over them, on fake ports and without surfaces.
     [[nodiscard]] std::unique_ptr<AppModel> makeModel(std::function<Calendar()> calendar);

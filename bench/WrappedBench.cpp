@@ -4,6 +4,7 @@
 #include "Workshop.h"
 #include "platform/LanguageModel.h"
 #include "surfaces/wrapped/WrappedView.h"
+#include "tracking/SessionLog.h"
 
 namespace vantle::bench {
 namespace {
@@ -34,7 +35,7 @@ void opening(benchmark::State& state, WrappedPeriod period) {
                      [] {
                          return Calendar{QStringLiteral("Europe/Berlin"), 2, 4};
                      },
-                 .allSessions = [&] { return workshop.tracker().allSessions(); },
+                 .allSessions = [&] { return SessionLog(workshop.paths()).readAll().sessions; },
                  .skills = [&] { return workshop.skills().all(); },
                  .initialPeriod = period,
                  .enterVantle = {},
@@ -43,7 +44,7 @@ void opening(benchmark::State& state, WrappedPeriod period) {
                  .savePng = [](const QByteArray&, const QString&, const auto&) {}});
             benchmark::DoNotOptimize(view.texts().poster);
         },
-        [&] { benchmark::DoNotOptimize(workshop.tracker().allSessions()); });
+        [&] { benchmark::DoNotOptimize(SessionLog(workshop.paths()).readAll()); });
 }
 
 [[maybe_unused]] const bool kRegistered = [] {
