@@ -164,6 +164,14 @@ QList<Scene> settingsScenes() {
                 "settings-no-shortcuts", [](DemoSettings& world) { world.shortcuts.clear(); },
                 section(0)),
             settingsScene(
+                "settings-calls-untold",
+                [](DemoSettings& world) {
+                    settings::callsCount.write(world.preferences, true);
+                    world.idleInhibition.setCanTell(false);
+                    world.idleInhibition.setFollowed(true);
+                },
+                section(0)),
+            settingsScene(
                 "settings-plain-desktop",
                 [](DemoSettings& world) {
                     world.hotKeyPort.outcome = {HotKeyPort::Registration::HeldByAnother, 0};
