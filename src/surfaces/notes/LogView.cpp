@@ -28,7 +28,7 @@ void LogView::reload() {
     m_filters.setSkills(m_rows.content().log.skills);
     if (!m_editingId.isEmpty() && !entry(m_editingId)) cancelEdit();
 
-    const auto& [log, visible, now, calendar, style] = m_rows.content();
+    const auto& [log, visible, now, calendar, style, filter] = m_rows.content();
     m_dayEnds =
         m_env.scheduler.scheduleOnce(LocalTime(calendar).endOfDay(now) - now, [this] { reload(); });
     Q_EMIT shownChanged();
@@ -36,8 +36,12 @@ void LogView::reload() {
 
 NoteRows::Content LogView::content(NotesLog log) const {
     noteslog::Places visible = noteslog::visible(log, m_filter);
-    return {std::move(log), std::move(visible), m_env.clock.now(), m_env.calendar(),
-            settings::durationStyle.read(m_env.preferences)};
+    return {std::move(log),
+            std::move(visible),
+            m_env.clock.now(),
+            m_env.calendar(),
+            settings::durationStyle.read(m_env.preferences),
+            m_filter};
 }
 
 void LogView::narrow(LogFilter filter) {
@@ -67,12 +71,12 @@ QString LogView::countText() const {
 }
 
 QString LogView::subtitleText() const {
-    const auto& [log, visible, now, calendar, style] = m_rows.content();
+    const auto& [log, visible, now, calendar, style, filter] = m_rows.content();
     return noteslog::subtitleText(log, visible, m_filter.isFiltering(), style);
 }
 
 QString LogView::footerText() const {
-    const auto& [log, visible, now, calendar, style] = m_rows.content();
+    const auto& [log, visible, now, calendar, style, filter] = m_rows.content();
     return noteslog::footerText(log, visible, style);
 }
 

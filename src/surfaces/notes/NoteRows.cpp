@@ -61,18 +61,25 @@ void NoteRows::insertRange(std::ptrdiff_t first, std::ptrdiff_t count, const Lin
     if (count > 0) endInsertRows();
 }
 
+void NoteRows::replaceRows(Lines lines) {
+    removeRange(0, std::ssize(m_lines.rows));
+    const int count = static_cast<int>(lines.rows.size());
+    if (count > 0) beginInsertRows({}, 0, count - 1);
+    m_lines = std::move(lines);
+    if (count > 0) endInsertRows();
+}
+
 void NoteRows::narrow(const LogFilter& filter, const QUuid& kept) {
-    m_content.visible = noteslog::visible(m_content.log, filter);
-    const Lines lines = linesOf(m_content);
+    m_content.visible =
+        noteslog::visible(m_content.log, filter, m_content.filter, m_content.visible);
+    m_content.filter = filter;
+    Lines lines = linesOf(m_content);
+    if (kept.isNull()) return replaceRows(std::move(lines));
     const std::ptrdiff_t count = std::ssize(lines.rows);
     const std::ptrdiff_t place = placeOf(kept, lines);
     const std::ptrdiff_t before = placeOf(kept, m_lines);
     // No reset: the view reuses its items for removed and inserted rows, which is much less work.
-    if (place == count || before == std::ssize(m_lines.rows)) {
-        removeRange(0, std::ssize(m_lines.rows));
-        insertRange(0, count, lines, count);
-        return;
-    }
+    if (place == count || before == std::ssize(m_lines.rows)) return replaceRows(std::move(lines));
     removeRange(before + 1, std::ssize(m_lines.rows) - before - 1);
     removeRange(0, before);
     insertRange(0, place, lines, place + 1);

@@ -37,6 +37,7 @@ public:
         Date now; ///< for "Today"
         Calendar calendar;
         DurationStyle style = DurationStyle::Natural;
+        LogFilter filter = {}; ///< whose matches are visible
     };
 
     NoteRows();
@@ -75,6 +76,8 @@ private:
     /// Shows the first `upTo` rows, of which `count` from `first` on are new.
     void insertRange(std::ptrdiff_t first, std::ptrdiff_t count, const Lines& lines,
                      std::ptrdiff_t upTo);
+    /// Puts `lines` in place of all rows.
+    void replaceRows(Lines lines);
     [[nodiscard]] QString spoken(std::size_t number) const;
     [[nodiscard]] const LogEntry& entryOf(const Row& row) const {
         return m_content.log.entries[row.place];

@@ -9,6 +9,8 @@
 #include <QHash>
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
 #include <map>
 #include <ranges>
 
@@ -40,6 +42,31 @@ std::vector<std::size_t> notesPerSkill(const NotesLog& log, const Places& visibl
     return counts;
 }
 
+QString soughtBy(const LogFilter& filter) { return text::lowerCased(text::trimmed(filter.query)); }
+
+/// Decides which entries match. Skills are looked at once each instead of once per note.
+class Match {
+public:
+    Match(const NotesLog& log, const LogFilter& filter) : m_log(log), m_sought(soughtBy(filter)) {
+        for (const Skill& skill : log.skills) {
+            m_isShown.push_back(!filter.skillId || *filter.skillId == skill.id);
+            m_isFound.push_back(m_sought.isEmpty() ||
+                                text::lowerCased(skill.name).contains(m_sought));
+        }
+    }
+    [[nodiscard]] bool operator()(std::size_t place) const {
+        const LogEntry& entry = m_log.entries[place];
+        return m_isShown[entry.skill] &&
+               (m_isFound[entry.skill] || entry.searchable.contains(m_sought));
+    }
+
+private:
+    const NotesLog& m_log;
+    const QString m_sought;
+    std::vector<bool> m_isShown;
+    std::vector<bool> m_isFound;
+};
+
 struct CodePointLess {
     bool operator()(const QString& left, const QString& right) const {
         return text::codePointLess(left, right);
@@ -68,20 +95,22 @@ NotesLog read(const std::vector<Session>& sessions, const SkillLookup& skillOf) 
 }
 
 Places visible(const NotesLog& log, const LogFilter& filter) {
-    const QString sought = text::lowerCased(text::trimmed(filter.query));
-    // Evaluated once per skill instead of once per note.
-    std::vector<bool> isShown;
-    std::vector<bool> isFound;
-    for (const Skill& skill : log.skills) {
-        isShown.push_back(!filter.skillId || *filter.skillId == skill.id);
-        isFound.push_back(sought.isEmpty() || text::lowerCased(skill.name).contains(sought));
-    }
+    const Match matches(log, filter);
     Places places;
-    for (std::size_t place = 0; place < log.entries.size(); ++place) {
-        const LogEntry& entry = log.entries[place];
-        if (isShown[entry.skill] && (isFound[entry.skill] || entry.searchable.contains(sought)))
-            places.push_back(place);
-    }
+    for (std::size_t place = 0; place < log.entries.size(); ++place)
+        if (matches(place)) places.push_back(place);
+    return places;
+}
+
+Places visible(const NotesLog& log, const LogFilter& filter, const LogFilter& before,
+               const Places& visibleBefore) {
+    // What holds the longer text holds each part of it.
+    const bool isNarrower = before.isFiltering() && filter.skillId == before.skillId &&
+                            soughtBy(filter).contains(soughtBy(before));
+    if (!isNarrower) return visible(log, filter);
+    const Match matches(log, filter);
+    Places places;
+    std::ranges::copy_if(visibleBefore, std::back_inserter(places), std::cref(matches));
     return places;
 }
 

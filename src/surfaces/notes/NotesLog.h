@@ -58,6 +58,10 @@ using Places = std::vector<std::size_t>;
 /// Returns the entries that match. Ignores case, but not diacritics.
 [[nodiscard]] Places visible(const NotesLog& log, const LogFilter& filter);
 
+/// The same, given the entries that matched `before`: another letter of a word looks at these only.
+[[nodiscard]] Places visible(const NotesLog& log, const LogFilter& filter, const LogFilter& before,
+                             const Places& visibleBefore);
+
 /// The entries of one day.
 struct LogDay {
     Date day; ///< its first moment

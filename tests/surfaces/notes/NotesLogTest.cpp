@@ -99,6 +99,22 @@ TEST(NotesLog, FilterAndSearchHaveToFitBoth) {
     EXPECT_TRUE(found(log, "", QStringLiteral("gone")).isEmpty());
 }
 
+// A letter more looks only at what was found before.
+TEST(NotesLog, SearchAfterAnotherFindsTheSameAsTheFirst) {
+    const NotesLog log = threeNotes();
+    std::vector<LogFilter> filters;
+    for (const char* query :
+         {"", " ", "i", "ir", "second", "sec", "café", "é", "design", "sign", "d"})
+        for (const std::optional<QString>& skill :
+             {std::optional<QString>(), std::optional(QStringLiteral("design"))})
+            filters.push_back({QString::fromUtf8(query), skill});
+    for (const LogFilter& before : filters)
+        for (const LogFilter& filter : filters)
+            EXPECT_EQ(noteslog::visible(log, filter, before, noteslog::visible(log, before)),
+                      noteslog::visible(log, filter))
+                << before.query.toStdString() << " then " << filter.query.toStdString();
+}
+
 TEST(NotesLog, SkillsStandInTheOrderOfTheirNewestNotes) {
     const NotesLog log = threeNotes();
     ASSERT_EQ(log.skills.size(), 2U);
