@@ -53,7 +53,8 @@ class BoundKey(DesktopTest):
         self.launch()
         runs = self.desktop.directory / "runs"
         script = self.desktop.directory / "bound"
-        script.write_text(f"#!/bin/sh\necho run >>{runs}\n{self.command_of_the_readme()}\n")
+        script.write_text(f"#!/bin/sh\necho begun >>{runs}\n{self.command_of_the_readme()}\n"
+                          f"echo done >>{runs}\n")
         script.chmod(0o755)
         rules = Path(self.desktop.env["XDG_CONFIG_HOME"], "openbox", "rc.xml")
         rules.parent.mkdir()
@@ -62,22 +63,28 @@ class BoundKey(DesktopTest):
         self.desktop.tool("xset", "r", "rate", "400", "25")
 
         def runs_so_far():
-            return len(runs.read_text().splitlines()) if runs.exists() else 0
+            lines = runs.read_text().splitlines() if runs.exists() else []
+            return lines.count("begun"), lines.count("done")
 
         def hold():
-            before = runs_so_far()
+            before, _ = runs_so_far()
             self.desktop.tool("xdotool", "keydown", "alt", "keydown", "F9")
-            wait_until("repeats of the key", lambda: runs_so_far() > before + 10)
+            wait_until("repeats of the key", lambda: runs_so_far()[0] > before + 10)
             self.desktop.tool("xdotool", "keyup", "F9", "keyup", "alt")
+
+        def has_rested():
+            before = runs_so_far()
+            time.sleep(1.5)  # a press within a second of the last one is a repeat
+            return before[0] == before[1] and before == runs_so_far()
 
         hold()
         wait_until("a marker", self.vantle.marker)
         session = self.vantle.marker()["id"]
-        time.sleep(1.5)  # a press within a second of the last one is a repeat
+        wait_until("the last of the repeats", has_rested)
         self.assertEqual(self.vantle.marker()["id"], session)
         hold()
         wait_until("a record", self.vantle.sessions)
-        time.sleep(1.5)
+        wait_until("the last of the repeats", has_rested)
         self.assert_one_record_and_no_marker()
 
     @staticmethod

@@ -6,7 +6,7 @@ import random
 import time
 from concurrent.futures import ThreadPoolExecutor
 
-from harness.bus import PROGRAM_NAME, activate_action, owner_of
+from harness.bus import PROGRAM_NAME, activate_action, process_of
 from harness.case import PICTURES, SHORTCUT, DesktopTest
 from harness.desktop import Desktop
 from harness.waiting import wait_until
@@ -29,7 +29,9 @@ class Victim:
     def start(self):
         """Waits until the keys of the shortcut reach it: it has its name on the bus after that."""
         self.program.start()
-        wait_until("the program on the bus", lambda: owner_of(self.desktop, PROGRAM_NAME))
+        # The bus may not have noticed the death of the one before.
+        wait_until("the program on the bus", lambda: process_of(
+            self.desktop, PROGRAM_NAME) == self.program.pid)
 
     def some_deeds(self):
         """Presses keys and runs actions, without waiting for what comes of them."""
@@ -70,9 +72,9 @@ class Victim:
         self.start()
         left = [path.name for path in self.program.data_directory.glob(".*.tmp")]
         self.test.assertEqual(left, [], "what was half written is swept at the next start")
-        before = len(self.program.sessions())
+        before, marker = len(self.program.sessions()), self.program.marker()
         self.desktop.press(SHORTCUT)
-        wait_until("a marker", self.program.marker)
+        wait_until("a marker", lambda: self.program.marker() not in (None, marker))
         self.desktop.press(SHORTCUT)
         wait_until("a record", lambda: len(self.program.sessions()) > before)
         self.test.assertEqual(self.program.stop(), 0)

@@ -27,6 +27,17 @@ def owner_of(desktop, name):
         return connection.get_name_owner(name) if connection.name_has_owner(name) else None
 
 
+def process_of(desktop, name):
+    """The process that owns the name; None without an owner."""
+    with connected(desktop) as connection:
+        try:
+            return int(connection.call_blocking(
+                dbus.BUS_DAEMON_NAME, dbus.BUS_DAEMON_PATH, dbus.BUS_DAEMON_IFACE,
+                "GetConnectionUnixProcessID", "s", (name,)))
+        except dbus.DBusException:
+            return None
+
+
 def call(desktop, service, path, interface, method, *arguments):
     """Calls a method and returns its answer."""
     with connected(desktop) as connection:
