@@ -25,7 +25,21 @@ void ThreadQueue::async(std::function<void()> job) {
     m_wake.notify_one();
 }
 
+bool ThreadQueue::runHere(const std::function<void()>& job) {
+    std::unique_lock lock(m_mutex);
+    if (m_isRunning || !m_jobs.empty()) return false;
+    m_isRunning = true;
+    lock.unlock();
+    job();
+    lock.lock();
+    m_isRunning = false;
+    lock.unlock();
+    m_wake.notify_one(); // jobs may have been queued meanwhile
+    return true;
+}
+
 void ThreadQueue::sync(const std::function<void()>& job) {
+    if (runHere(job)) return;
     std::promise<void> done;
     async([&] {
         job();
@@ -39,13 +53,15 @@ void ThreadQueue::work() {
     pthread_setname_np(pthread_self(), m_label.right(15).toLatin1().constData());
     std::unique_lock lock(m_mutex);
     for (;;) {
-        m_wake.wait(lock, [this] { return m_closing || !m_jobs.empty(); });
+        m_wake.wait(lock, [this] { return !m_isRunning && (m_closing || !m_jobs.empty()); });
         if (m_jobs.empty()) return;
         const std::function<void()> job = std::move(m_jobs.front());
         m_jobs.pop_front();
+        m_isRunning = true;
         lock.unlock();
         job();
         lock.lock();
+        m_isRunning = false;
     }
 }
 

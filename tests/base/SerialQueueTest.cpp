@@ -80,11 +80,37 @@ TEST(ThreadQueue, RunsOneJobAtATimeFromAnyThread) {
     EXPECT_EQ(most, 1);
 }
 
-TEST(ThreadQueue, RunsJobsOffTheCallersThreadAndAlwaysOnTheSame) {
+TEST(ThreadQueue, RunsQueuedJobsOffTheCallersThreadAndAlwaysOnTheSame) {
     ThreadQueue queue(kLabel);
-    const std::thread::id first = queue.run([] { return std::this_thread::get_id(); });
-    EXPECT_NE(first, std::this_thread::get_id());
-    EXPECT_EQ(queue.run([] { return std::this_thread::get_id(); }), first);
+    std::array<std::thread::id, 2> threads;
+    for (std::thread::id& thread : threads)
+        queue.async([&thread] { thread = std::this_thread::get_id(); });
+    queue.drain();
+    EXPECT_NE(threads[0], std::this_thread::get_id());
+    EXPECT_EQ(threads[1], threads[0]);
+}
+
+TEST(ThreadQueue, RunsAJobOnTheThreadThatWaitsForItWhenNothingElseIsQueued) {
+    ThreadQueue queue(kLabel);
+    EXPECT_EQ(queue.run([] { return std::this_thread::get_id(); }), std::this_thread::get_id());
+}
+
+TEST(ThreadQueue, AJobOnTheWaitingThreadKeepsTheOthersWaiting) {
+    ThreadQueue queue(kLabel);
+    std::latch queued(1);
+    std::atomic<bool> ran = false;
+    std::thread sender;
+    queue.sync([&] {
+        sender = std::thread([&] {
+            queue.async([&] { ran = true; });
+            queued.count_down();
+            queue.sync([&] { EXPECT_TRUE(ran); });
+        });
+        queued.wait();
+        EXPECT_FALSE(ran);
+    });
+    sender.join();
+    EXPECT_TRUE(ran);
 }
 
 TEST(ThreadQueue, AnswersWithValuesThatCanOnlyBeMoved) {
@@ -129,12 +155,10 @@ TEST(ThreadQueue, WithoutAJobEndsWithoutBlocking) {
 
 TEST(ThreadQueue, ShowsTheEndOfItsLabelToDebuggers) {
     ThreadQueue queue(kLabel);
-    const std::string name = queue.run([] {
-        std::array<char, 16> text{};
-        ::pthread_getname_np(::pthread_self(), text.data(), text.size());
-        return std::string(text.data());
-    });
-    EXPECT_EQ(name, "ntle.tracker-io");
+    std::array<char, 16> name{};
+    queue.async([&name] { ::pthread_getname_np(::pthread_self(), name.data(), name.size()); });
+    queue.drain();
+    EXPECT_STREQ(name.data(), "ntle.tracker-io");
 }
 
 } // namespace
