@@ -99,9 +99,10 @@ bool unitsAreCharacters(QStringView text) {
 bool hasSingleBlanks(QStringView text) {
     bool afterPiece = false;
     for (const QChar unit : text) {
-        const bool gap = isWhiteSpace(unit.unicode()); // no surrogate or pair is white space
-        if (gap && (unit != QLatin1Char(' ') || !afterPiece)) return false;
-        afterPiece = !gap;
+        const bool isBlank = unit == QLatin1Char(' ');
+        if (isBlank ? !afterPiece : isWhiteSpace(unit.unicode())) // no surrogate is white space
+            return false;
+        afterPiece = !isBlank;
     }
     return afterPiece || text.isEmpty();
 }
