@@ -1,6 +1,7 @@
 #include "ceremony/RippleOverlayController.h"
 
 #include "base/Clock.h"
+#include "base/Heap.h"
 #include "base/RandomSource.h"
 #include "base/SerialQueue.h"
 #include "ceremony/CeremonyLayerView.h"
@@ -15,7 +16,6 @@
 #include <QPointer>
 
 #include <algorithm>
-#include <malloc.h>
 #include <utility>
 
 namespace vantle {
@@ -106,7 +106,7 @@ void RippleOverlayController::dismiss() {
     // Emptied first: a window may report something during its destruction.
     const auto windows = std::exchange(m_windows, {});
     // malloc keeps what windows and views freed between other blocks, until trimmed.
-    if (!windows.empty()) m_env.scheduler.post([] { malloc_trim(0); });
+    if (!windows.empty()) m_env.scheduler.post(&trimHeap);
 }
 
 template <typename View>
