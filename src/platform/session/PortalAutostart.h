@@ -3,11 +3,11 @@
 
 #include "platform/Autostart.h"
 #include "platform/Preference.h"
+#include "platform/session/PortalRequest.h"
 
 #include <QDBusConnection>
-#include <QObject>
-#include <QString>
-#include <QVariantMap>
+
+#include <memory>
 
 namespace vantle {
 
@@ -15,9 +15,7 @@ namespace vantle {
 /// own, and no desktop reads it. The portal may ask the user, answers when that is done, and never
 /// tells what it was asked before: so the last answer is kept in a preference. Until there is one,
 /// what was asked for counts. Main thread; nothing is waited for.
-class PortalAutostart final : public QObject, public Autostart {
-    Q_OBJECT
-
+class PortalAutostart final : public Autostart {
 public:
     /// `preferences` must outlive this.
     PortalAutostart(const QDBusConnection& session, Preferences& preferences,
@@ -27,17 +25,13 @@ public:
     Result<> registerItem() override { return ask(true); }
     Result<> unregisterItem() override { return ask(false); }
 
-private Q_SLOTS:
-    void takeResponse(uint response, const QVariantMap& results);
-
 private:
     Result<> ask(bool autostart);
-    void listenAt(const QString& path);
 
-    QDBusConnection m_session;
+    const QDBusConnection m_session;
     Preferences& m_preferences;
     const Preference<bool> m_kept;
-    QString m_request; ///< path of the object that reports the answer to the last question
+    std::unique_ptr<PortalRequest> m_request; ///< the last one, which alone counts
 };
 
 } // namespace vantle

@@ -3,12 +3,12 @@
 #include "base/Words.h"
 #include "platform/AcceleratorText.h"
 #include "platform/session/LateBus.h"
+#include "platform/session/PortalRequest.h"
 
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
-#include <QUuid>
 #include <QVariant>
 
 #include <algorithm>
@@ -18,18 +18,11 @@ namespace vantle {
 
 namespace {
 
-const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kInterface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
-const QString kRequest = QStringLiteral("org.freedesktop.portal.Request");
 const QString kSession = QStringLiteral("org.freedesktop.portal.Session");
 const QString kRegistry = QStringLiteral("org.freedesktop.host.portal.Registry");
 
 const QString kShortcut = QStringLiteral("toggle");
-
-QString newToken() {
-    return QStringLiteral("vantle_") + QUuid::createUuid().toString(QUuid::Id128);
-}
 
 PortalShortcuts shortcutsOf(const QVariant& value) { return qdbus_cast<PortalShortcuts>(value); }
 
@@ -47,21 +40,20 @@ private:
     using Take = std::function<void(const QVariantMap& results)>;
 
     void open(const QDBusConnection& bus) {
-        m_sender = bus.baseService().mid(1); // without the colon
-        m_sender.replace(QLatin1Char('.'), QLatin1Char('_'));
-        m_portal = std::make_unique<FollowedService>(bus, kService);
+        m_name = bus.baseService();
+        m_portal = std::make_unique<FollowedService>(bus, portal::kService);
         QObject::connect(m_portal.get(), &FollowedService::came, m_portal.get(),
                          [this] { introduce(); });
-        m_portal->hear(kPath, kInterface, QStringLiteral("Activated"),
+        m_portal->hear(portal::kPath, kInterface, QStringLiteral("Activated"),
                        [this](const QDBusMessage& signal) {
                            if (!isOurs(signal) || !m_owner.m_held.pressed()) return;
                            if (m_owner.m_pressed) m_owner.m_pressed();
                        });
-        m_portal->hear(kPath, kInterface, QStringLiteral("Deactivated"),
+        m_portal->hear(portal::kPath, kInterface, QStringLiteral("Deactivated"),
                        [this](const QDBusMessage& signal) {
                            if (isOurs(signal)) m_owner.m_held.released();
                        });
-        m_portal->hear(kPath, kInterface, QStringLiteral("ShortcutsChanged"),
+        m_portal->hear(portal::kPath, kInterface, QStringLiteral("ShortcutsChanged"),
                        [this](const QDBusMessage& signal) {
                            if (isOfOurSession(signal))
                                m_owner.takeShortcuts(shortcutsOf(signal.arguments().value(1)),
@@ -73,7 +65,7 @@ private:
     /// return an error, which is ignored.
     void introduce() {
         const auto next = [this] { createSession(); };
-        auto call = m_portal->call(kPath, kRegistry, QStringLiteral("Register"));
+        auto call = m_portal->call(portal::kPath, kRegistry, QStringLiteral("Register"));
         m_portal->ask<QString>(
             call << QStringLiteral("local.vantle.Vantle") << QVariantMap(),
             [next](const QString&) { next(); }, next);
@@ -81,7 +73,7 @@ private:
 
     void createSession() {
         request(QStringLiteral("CreateSession"), {},
-                {{QStringLiteral("session_handle_token"), newToken()}},
+                {{QStringLiteral("session_handle_token"), portal::newToken()}},
                 [this](const QVariantMap& results) {
                     m_session = results.value(QStringLiteral("session_handle")).toString();
                     if (m_session.isEmpty()) return fail();
@@ -109,15 +101,15 @@ private:
     /// Calls `take` with the portal's result, which may follow a dialog with the user.
     void request(const QString& method, const QVariantList& arguments, QVariantMap options,
                  Take take) {
-        const QString token = newToken();
+        const QString token = portal::newToken();
         options.insert(QStringLiteral("handle_token"), token);
         // Subscribes before the call, so that no response is missed.
-        m_portal->hear(QStringLiteral("%1/request/%2/%3").arg(kPath, m_sender, token), kRequest,
+        m_portal->hear(portal::requestPath(m_name, token), portal::kRequest,
                        QStringLiteral("Response"),
                        [take = std::move(take)](const QDBusMessage& signal) {
                            take(qdbus_cast<QVariantMap>(signal.arguments().value(1)));
                        });
-        auto call = m_portal->call(kPath, kInterface, method);
+        auto call = m_portal->call(portal::kPath, kInterface, method);
         call.setArguments(arguments + QVariantList{options});
         m_portal->ask<QDBusObjectPath>(
             call, [](const QDBusObjectPath&) {}, [this] { fail(); });
@@ -137,12 +129,12 @@ private:
     PortalHotKey& m_owner;
     LateBus m_bus;
     std::unique_ptr<FollowedService> m_portal; ///< on the connection
-    QString m_sender;                          ///< the connection's name in object paths
+    QString m_name;                            ///< of the connection
     QString m_session;                         ///< object path, once created
 };
 
 PortalHotKey::PortalHotKey(const QDBusConnection& session, QByteArray address, const Clock& clock)
-    : m_portal(session, kService)
+    : m_portal(session, portal::kService)
     , m_address(std::move(address))
     , m_held(clock) {
     qDBusRegisterMetaType<PortalShortcut>();
@@ -156,7 +148,7 @@ PortalHotKey::~PortalHotKey() = default;
 
 void PortalHotKey::askForVersion() {
     m_portal.ask<QDBusVariant>(
-        m_portal.get(kPath, kInterface, QStringLiteral("version")),
+        m_portal.get(portal::kPath, kInterface, QStringLiteral("version")),
         [this](const QDBusVariant& version) { setOffered(version.variant().toUInt() > 0); },
         [this] { setOffered(false); });
 }

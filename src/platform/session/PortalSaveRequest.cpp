@@ -2,15 +2,12 @@
 
 #include "platform/session/PortalFilter.h"
 
-#include <QDBusMessage>
 #include <QDBusMetaType>
-#include <QDBusObjectPath>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QFile>
 #include <QFileInfo>
+#include <QStringList>
 #include <QUrl>
-#include <QUuid>
+#include <QVariantMap>
 #include <QWindow>
 
 #include <utility>
@@ -18,23 +15,6 @@
 namespace vantle {
 
 namespace {
-
-const QString kChooserService = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString kChooserPath = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString kChooserInterface = QStringLiteral("org.freedesktop.portal.FileChooser");
-const QString kRequestInterface = QStringLiteral("org.freedesktop.portal.Request");
-
-// The call may start the portal and its backend.
-constexpr int kChooserLimitMs = 5000;
-
-constexpr uint kChosen = 0; // response code; all others mean that the user cancelled
-
-/// The object that will report the choice. Known before the call, so that no response is missed.
-QString requestPath(const QDBusConnection& session, const QString& token) {
-    QString sender = session.baseService().mid(1); // without the colon
-    sender.replace(QLatin1Char('.'), QLatin1Char('_'));
-    return QStringLiteral("%1/request/%2/%3").arg(kChooserPath, sender, token);
-}
 
 /// The portal's identifier of an X11 window.
 QString nameOf(const QWindow* window) {
@@ -57,26 +37,30 @@ std::optional<QString> chosenPath(const QVariantMap& results, const QString& end
 PortalSaveRequest::PortalSaveRequest(const QDBusConnection& session, SaveDialog& otherwise,
                                      SaveQuestion question, QWindow* above,
                                      SaveDialog::Answer answer)
-    : m_session(session)
-    , m_otherwise(otherwise)
+    : m_otherwise(otherwise)
     , m_question(std::move(question))
     , m_above(above)
     , m_answer(std::move(answer))
-    , m_portal(kChooserService, m_session, QDBusServiceWatcher::WatchForUnregistration) {
+    , m_request(session, call())
+    , m_portal(portal::kService, session, QDBusServiceWatcher::WatchForUnregistration) {
+    connect(&m_request, &PortalRequest::answered, this,
+            [this](uint response, const QVariantMap& results) {
+                finish(response == portal::kGranted ? chosenPath(results, m_question.ending)
+                                                    : std::nullopt);
+            });
+    connect(&m_request, &PortalRequest::refused, this, &PortalSaveRequest::askOtherwise);
     connect(&m_portal, &QDBusServiceWatcher::serviceUnregistered, this,
             [this] { finish(std::nullopt); });
     if (above) connect(above, &QObject::destroyed, this, &PortalSaveRequest::abandon);
-    ask(QStringLiteral("vantle_") + QUuid::createUuid().toString(QUuid::Id128));
 }
 
-QVariantMap PortalSaveRequest::options(const QString& token) const {
+PortalRequest::Call PortalSaveRequest::call() const {
     qDBusRegisterMetaType<PortalPattern>();
     qDBusRegisterMetaType<QList<PortalPattern>>();
     qDBusRegisterMetaType<PortalFilter>();
     qDBusRegisterMetaType<PortalFilters>();
     const PortalFilter filter{m_question.kind, {{0, QStringLiteral("*.") + m_question.ending}}};
     QVariantMap options{
-        {QStringLiteral("handle_token"), token},
         {QStringLiteral("modal"), true},
         {QStringLiteral("current_name"), m_question.suggestedName},
         {QStringLiteral("filters"), QVariant::fromValue(PortalFilters{filter})},
@@ -84,38 +68,14 @@ QVariantMap PortalSaveRequest::options(const QString& token) const {
     if (!m_question.folder.isEmpty()) // as the bytes of a C string
         options.insert(QStringLiteral("current_folder"),
                        QFile::encodeName(m_question.folder) + '\0');
-    return options;
-}
-
-void PortalSaveRequest::ask(const QString& token) {
-    listenAt(requestPath(m_session, token));
-    auto call = QDBusMessage::createMethodCall(kChooserService, kChooserPath, kChooserInterface,
-                                               QStringLiteral("SaveFile"));
-    call << nameOf(m_above) << m_question.title << options(token);
-    auto* const answer =
-        new QDBusPendingCallWatcher(m_session.asyncCall(call, kChooserLimitMs), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        answer->deleteLater();
-        if (!m_answer) return;
-        const QDBusPendingReply<QDBusObjectPath> reply = *answer;
-        if (reply.isError())
-            askOtherwise();
-        else if (reply.value().path() != m_path) // very old portals choose their own path
-            listenAt(reply.value().path());
-    });
-}
-
-void PortalSaveRequest::listenAt(const QString& path) {
-    m_path = path;
-    m_session.connect(kChooserService, m_path, kRequestInterface, QStringLiteral("Response"), this,
-                      SLOT(takeResponse(uint, QVariantMap)));
-}
-
-void PortalSaveRequest::takeResponse(uint response, const QVariantMap& results) {
-    finish(response == kChosen ? chosenPath(results, m_question.ending) : std::nullopt);
+    return {QStringLiteral("org.freedesktop.portal.FileChooser"),
+            QStringLiteral("SaveFile"),
+            {nameOf(m_above), m_question.title},
+            options};
 }
 
 void PortalSaveRequest::askOtherwise() {
+    if (!m_answer) return;
     m_other = m_otherwise.ask(m_question, m_above,
                               [this](const std::optional<QString>& path) { finish(path); });
 }
@@ -131,8 +91,7 @@ void PortalSaveRequest::abandon() {
     if (!m_answer) return;
     m_answer = nullptr;
     m_other.reset();
-    m_session.asyncCall(QDBusMessage::createMethodCall(kChooserService, m_path, kRequestInterface,
-                                                       QStringLiteral("Close")));
+    m_request.close();
     deleteLater();
 }
 

@@ -2,12 +2,15 @@
 #pragma once
 
 #include "platform/SaveDialog.h"
+#include "platform/session/PortalRequest.h"
 
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>
 #include <QObject>
 #include <QPointer>
-#include <QVariantMap>
+
+#include <memory>
+#include <optional>
 
 namespace vantle {
 
@@ -22,23 +25,17 @@ public:
     /// Closes the dialog without an answer.
     void abandon();
 
-private Q_SLOTS:
-    void takeResponse(uint response, const QVariantMap& results);
-
 private:
-    void ask(const QString& token);
-    void listenAt(const QString& path);
     void askOtherwise();
     void finish(const std::optional<QString>& path);
-    [[nodiscard]] QVariantMap options(const QString& token) const;
+    [[nodiscard]] PortalRequest::Call call() const;
 
-    QDBusConnection m_session;
     SaveDialog& m_otherwise;
     const SaveQuestion m_question;
     const QPointer<QWindow> m_above;
     SaveDialog::Answer m_answer; ///< empty when no answer is due
-    QString m_path;              ///< of the request object
-    QDBusServiceWatcher m_portal;
+    PortalRequest m_request;
+    const QDBusServiceWatcher m_portal;
     std::unique_ptr<OpenSaveDialog> m_other; ///< set where there is no portal
 };
 

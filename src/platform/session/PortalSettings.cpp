@@ -1,5 +1,7 @@
 #include "platform/session/PortalSettings.h"
 
+#include "platform/session/PortalRequest.h"
+
 #include <QDBusMessage>
 #include <QDBusVariant>
 
@@ -9,8 +11,6 @@ namespace vantle {
 
 namespace {
 
-const QString kPortalName = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString kPortalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kSettingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
 
 /// Unwraps nested variants: Read wraps the value twice, a signal once.
@@ -23,20 +23,20 @@ QVariant unwrapped(QVariant value) {
 } // namespace
 
 PortalSettings::PortalSettings(const QDBusConnection& session, QList<Key> keys)
-    : m_portal(session, kPortalName)
+    : m_portal(session, portal::kService)
     , m_keys(std::move(keys)) {
     connect(&m_portal, &FollowedService::came, this, [this] {
         for (const Key& key : m_keys)
             ask(key);
     });
-    m_portal.hear(kPortalPath, kSettingsInterface, QStringLiteral("SettingChanged"),
+    m_portal.hear(portal::kPath, kSettingsInterface, QStringLiteral("SettingChanged"),
                   [this](const QDBusMessage& signal) { takeChange(signal.arguments()); });
     m_portal.start();
 }
 
 void PortalSettings::ask(const Key& key) {
     m_portal.ask<QDBusVariant>(
-        m_portal.call(kPortalPath, kSettingsInterface, QStringLiteral("Read"))
+        m_portal.call(portal::kPath, kSettingsInterface, QStringLiteral("Read"))
             << key.space << key.name,
         [this, key](const QDBusVariant& value) { Q_EMIT told(key, unwrapped(value.variant())); });
 }
