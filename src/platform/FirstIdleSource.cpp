@@ -15,19 +15,21 @@ FirstIdleSource::FirstIdleSource(std::vector<std::unique_ptr<IdleSource>> source
 }
 
 std::optional<double> FirstIdleSource::secondsSinceLastInput() {
-    const auto first =
-        std::ranges::find_if(m_sources, [](const auto& source) { return source->canTell(); });
-    return first == m_sources.end() ? std::nullopt : (*first)->secondsSinceLastInput();
+    IdleSource* const source = first();
+    return source ? source->secondsSinceLastInput() : std::nullopt;
 }
 
 std::optional<bool> FirstIdleSource::isInhibited() const {
-    const auto first =
-        std::ranges::find_if(m_sources, [](const auto& source) { return source->canTell(); });
-    return first == m_sources.end() ? std::nullopt : (*first)->isInhibited();
+    const IdleSource* const source = first();
+    return source ? source->isInhibited() : std::nullopt;
 }
 
-bool FirstIdleSource::canTell() const {
-    return std::ranges::any_of(m_sources, [](const auto& source) { return source->canTell(); });
+bool FirstIdleSource::canTell() const { return first() != nullptr; }
+
+IdleSource* FirstIdleSource::first() const {
+    const auto found =
+        std::ranges::find_if(m_sources, [](const auto& source) { return source->canTell(); });
+    return found == m_sources.end() ? nullptr : found->get();
 }
 
 } // namespace vantle

@@ -19,6 +19,9 @@ public:
     [[nodiscard]] std::optional<bool> isInhibited() const override;
 
 private:
+    /// The source that tells now; null without one.
+    [[nodiscard]] IdleSource* first() const;
+
     std::vector<std::unique_ptr<IdleSource>> m_sources;
     bool m_could = false;
 };

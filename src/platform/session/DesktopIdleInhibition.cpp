@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
 #include <unistd.h>
 #include <utility>
 
@@ -14,13 +15,30 @@ namespace vantle {
 
 namespace {
 
-const QString kGnome = QStringLiteral("org.gnome.SessionManager");
-const QString kGnomePath = QStringLiteral("/org/gnome/SessionManager");
-constexpr uint kGnomeIdle = 8; // of the flags that IsInhibited takes
+/// A service of the session bus that tells all that applications ask for on its desktop. Its
+/// interface has its name.
+struct SessionTeller {
+    QString name;
+    QString path;
+    QString method; ///< takes the kind of inhibition, returns whether there is one
+    uint kind;
+    QStringList changes; ///< signals
+};
 
-const QString kKde = QStringLiteral("org.kde.Solid.PowerManagement.PolicyAgent");
-const QString kKdePath = QStringLiteral("/org/kde/Solid/PowerManagement/PolicyAgent");
-constexpr uint kKdeScreen = 4; // ChangeScreenSettings: what videos and calls inhibit
+const std::array kSessionTellers{
+    // MATE's lacks the property InhibitedActions. The kind is a flag: the session may not go idle.
+    SessionTeller{QStringLiteral("org.gnome.SessionManager"),
+                  QStringLiteral("/org/gnome/SessionManager"),
+                  QStringLiteral("IsInhibited"),
+                  8,
+                  {QStringLiteral("InhibitorAdded"), QStringLiteral("InhibitorRemoved")}},
+    // The kind is ChangeScreenSettings, which videos and calls inhibit.
+    SessionTeller{QStringLiteral("org.kde.Solid.PowerManagement.PolicyAgent"),
+                  QStringLiteral("/org/kde/Solid/PowerManagement/PolicyAgent"),
+                  QStringLiteral("HasInhibition"),
+                  4,
+                  {QStringLiteral("InhibitionsChanged")}},
+};
 
 const QString kInhibitorsLogin = QStringLiteral("org.freedesktop.login1");
 const QString kInhibitorsPath = QStringLiteral("/org/freedesktop/login1");
@@ -75,8 +93,7 @@ void DesktopIdleInhibition::setFollowed(bool followed) {
     m_tellers.clear();
     m_system.reset();
     if (followed) {
-        followGnome();
-        followKde();
+        followSession();
         m_system = std::make_unique<LateBus>(m_systemBusAddress);
         connect(m_system.get(), &LateBus::connected, this, &DesktopIdleInhibition::followLogin);
     }
@@ -98,33 +115,20 @@ DesktopIdleInhibition::Teller& DesktopIdleInhibition::follow(const QDBusConnecti
     return teller;
 }
 
-void DesktopIdleInhibition::followGnome() {
-    const auto ask = [this](Teller& teller) {
-        // MATE's lacks the property InhibitedActions.
-        teller.service.ask<bool>(
-            teller.service.call(kGnomePath, kGnome, QStringLiteral("IsInhibited")) << kGnomeIdle,
-            [this, &teller](bool held) { take(teller, held); },
-            [this, &teller] { giveUp(teller); });
-    };
-    Teller& teller = follow(m_session, kGnome, ask);
-    teller.tellsAll = true;
-    for (const auto& signal :
-         {QStringLiteral("InhibitorAdded"), QStringLiteral("InhibitorRemoved")})
-        teller.service.hear(kGnomePath, kGnome, signal,
-                            [&teller, ask](const auto&) { ask(teller); });
-}
-
-void DesktopIdleInhibition::followKde() {
-    const auto ask = [this](Teller& teller) {
-        teller.service.ask<bool>(
-            teller.service.call(kKdePath, kKde, QStringLiteral("HasInhibition")) << kKdeScreen,
-            [this, &teller](bool held) { take(teller, held); },
-            [this, &teller] { giveUp(teller); });
-    };
-    Teller& teller = follow(m_session, kKde, ask);
-    teller.tellsAll = true;
-    teller.service.hear(kKdePath, kKde, QStringLiteral("InhibitionsChanged"),
-                        [&teller, ask](const auto&) { ask(teller); });
+void DesktopIdleInhibition::followSession() {
+    for (const SessionTeller& asked : kSessionTellers) {
+        const auto ask = [this, &asked](Teller& teller) {
+            teller.service.ask<bool>(
+                teller.service.call(asked.path, asked.name, asked.method) << asked.kind,
+                [this, &teller](bool held) { take(teller, held); },
+                [this, &teller] { giveUp(teller); });
+        };
+        Teller& teller = follow(m_session, asked.name, ask);
+        teller.tellsAll = true;
+        for (const QString& change : asked.changes)
+            teller.service.hear(asked.path, asked.name, change,
+                                [&teller, ask](const auto&) { ask(teller); });
+    }
 }
 
 void DesktopIdleInhibition::followLogin(const QDBusConnection& system) {

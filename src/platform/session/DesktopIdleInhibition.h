@@ -63,8 +63,7 @@ private:
 
     Teller& follow(const QDBusConnection& bus, const QString& name,
                    std::function<void(Teller&)> ask);
-    void followGnome();
-    void followKde();
+    void followSession();
     void followLogin(const QDBusConnection& system);
     void take(Teller& teller, bool held);
     void giveUp(Teller& teller);
