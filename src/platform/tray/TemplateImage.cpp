@@ -10,7 +10,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <cstdlib>
+#include <vector>
 
 namespace vantle {
 
@@ -37,29 +39,59 @@ double edgeWeight(QRgb pixel) {
                       1.0);
 }
 
-/// Returns the strength of the outline at a pixel, 0 to 1.
-double edgeAt(const QImage& image, const QPoint& place, double reach) {
-    const int around = static_cast<int>(std::ceil(reach));
-    double most = 0;
+/// Returns the strength of the outline around a full pixel, by distance: a square of 2 * around + 1
+/// values a side.
+std::vector<double> outlineOfOnePixel(double reach, int around) {
+    std::vector<double> strengths;
+    const std::size_t side = 2 * static_cast<std::size_t>(around) + 1;
+    strengths.reserve(side * side);
     for (int dy = -around; dy <= around; ++dy)
-        for (int dx = -around; dx <= around; ++dx) {
-            const QPoint other = place + QPoint(dx, dy);
-            if (!image.valid(other)) continue;
-            const double near = std::clamp(reach + 0.5 - std::hypot(dx, dy), 0.0, 1.0);
-            most = std::max(most, near * edgeWeight(image.pixel(other)));
-        }
-    return most;
+        for (int dx = -around; dx <= around; ++dx)
+            strengths.push_back(std::clamp(reach + 0.5 - std::hypot(dx, dy), 0.0, 1.0));
+    return strengths;
 }
 
+/// Returns the strength of the outline at each pixel, 0 to 1, row by row. Goes by the pixels of the
+/// shape, since most of an image is empty: the image is drawn before the item stands in the tray.
+std::vector<double> outlineOf(const QImage& image, double reach) {
+    const int width = image.width();
+    const int height = image.height();
+    const int around = static_cast<int>(std::ceil(reach));
+    const int side = 2 * around + 1;
+    const std::vector<double> one = outlineOfOnePixel(reach, around);
+    std::vector<double> strengths(static_cast<std::size_t>(width) *
+                                  static_cast<std::size_t>(height));
+    for (int y = 0; y < height; ++y) {
+        const auto* const row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < width; ++x) {
+            const double weight = edgeWeight(row[x]);
+            if (weight == 0) continue;
+            for (int dy = std::max(-around, -y); dy <= std::min(around, height - 1 - y); ++dy) {
+                double* const line = strengths.data() + std::ptrdiff_t{width} * (y + dy) + x;
+                const double* const near =
+                    one.data() + std::ptrdiff_t{side} * (dy + around) + around;
+                for (int dx = std::max(-around, -x); dx <= std::min(around, width - 1 - x); ++dx)
+                    line[dx] = std::max(line[dx], weight * near[dx]);
+            }
+        }
+    }
+    return strengths;
+}
+
+/// Requires an image of the format ARGB32.
 QImage withEdge(const QImage& image, const QColor& edgeColour) {
     const double reach = kEdgeReach * std::max(1.0, image.width() / kEdgeGrowsFrom);
+    const std::vector<double> outline = outlineOf(image, reach);
     QImage edged(image.size(), QImage::Format_ARGB32);
     QColor colour = edgeColour;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x) {
-            colour.setAlphaF(static_cast<float>(kEdgeOpacity * edgeAt(image, {x, y}, reach)));
-            edged.setPixelColor(x, y, colour);
+    auto strength = outline.begin();
+    for (int y = 0; y < edged.height(); ++y) {
+        auto* const row = reinterpret_cast<QRgb*>(edged.scanLine(y));
+        for (int x = 0; x < edged.width(); ++x, ++strength) {
+            colour.setAlphaF(static_cast<float>(kEdgeOpacity * *strength));
+            row[x] = colour.rgba();
         }
+    }
     QPainter painter(&edged);
     painter.drawImage(0, 0, image);
     painter.end();

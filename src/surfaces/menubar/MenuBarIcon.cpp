@@ -20,11 +20,15 @@ QIcon iconOf(Draw draw) {
 
 } // namespace
 
-MenuBarIcon::MenuBarIcon()
-    : m_brick(iconOf(menubar::drawBrick))
-    , m_open(iconOf([](int pixels) { return menubar::onPlate(menubar::drawBrick(pixels)); })) {
-    m_brick.setIsMask(true);
-    m_open.setIsMask(true);
+const QIcon& MenuBarIcon::brick(bool open) {
+    QIcon& icon = open ? m_open : m_brick;
+    if (!icon.isNull()) return icon;
+    icon = iconOf([open](int pixels) {
+        const QImage brick = menubar::drawBrick(pixels);
+        return open ? menubar::onPlate(brick) : brick;
+    });
+    icon.setIsMask(true);
+    return icon;
 }
 
 QIcon MenuBarIcon::statusDot(std::uint32_t hexRGB, int phase, bool paused, bool open,

@@ -12,11 +12,9 @@ namespace vantle {
 /// QGuiApplication. Main thread.
 class MenuBarIcon {
 public:
-    MenuBarIcon();
-
     /// The image without a session: the wall, a template image (QIcon::isMask) in the bar's text
-    /// colour. `open` adds the plate.
-    [[nodiscard]] const QIcon& brick(bool open = false) const { return open ? m_open : m_brick; }
+    /// colour. `open` adds the plate. Repeated calls are lookups.
+    [[nodiscard]] const QIcon& brick(bool open = false);
 
     /// The image of an open session in the skill's colour, `phase` 0 to 7, which has no effect
     /// while paused. `onLight` is for a light bar. Repeated calls are lookups.
