@@ -70,8 +70,9 @@ void SessionFlow::begin() {
 // Commands
 
 void SessionFlow::onHotKeyPressed() {
-    settings::hotKeyHintShown.write(m_env.preferences, true);
     toggle(SessionCause::HotKey);
+    // Afterwards: the file of the preferences would delay the session's own.
+    settings::hotKeyHintShown.write(m_env.preferences, true);
 }
 
 void SessionFlow::toggle(SessionCause cause) {

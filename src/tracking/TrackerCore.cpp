@@ -78,12 +78,18 @@ bool TrackerCore::open(const Skill& skill, Date from, int backfillMinutes) {
     m_segmentStart = from;
     m_lastKnownGoodAt = m_env.clock.now();
     m_missed.look();
-    setCurrentSkillId(skill.id);
-    setStartedAt(from - minutesAsSeconds(backfillMinutes));
-    setState(State::Running);
+    m_currentSkillId = skill.id;
+    m_startedAt = from - minutesAsSeconds(backfillMinutes);
+    m_state = State::Running;
+    // The marker before anything is told: what views do on the signals, and the file of the
+    // preferences, would only delay it.
+    const bool hasMarker = writeMarker();
+    Q_EMIT currentSkillIdChanged();
+    Q_EMIT startedAtChanged();
+    Q_EMIT stateChanged();
     settings::lastUsedSkill.write(m_env.preferences, skill.id);
     startTicking();
-    if (!writeMarker()) {
+    if (!hasMarker) {
         resetToIdle();
         return false;
     }
