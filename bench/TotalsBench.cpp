@@ -49,11 +49,7 @@ void overAll(benchmark::State& state, Ours ours) {
 
 void threeTotals(benchmark::State& state) {
     const Calendar calendar{QStringLiteral("Europe/Berlin"), 2, 4};
-    overAll(state, [&] {
-        benchmark::DoNotOptimize(totals::hoursToday(sessions(), now(), calendar));
-        benchmark::DoNotOptimize(totals::hoursThisWeek(sessions(), now(), calendar));
-        benchmark::DoNotOptimize(totals::hoursAllTime(sessions(), now()));
-    });
+    overAll(state, [&] { benchmark::DoNotOptimize(totals::hours(sessions(), now(), calendar)); });
 }
 
 void skillTotals(benchmark::State& state) {

@@ -60,7 +60,7 @@ std::int64_t SessionReport::loggedToday(Date now) {
     const Calendar calendar = m_env.calendar();
     const Date dayStart = calendar.startOfDay(now);
     if (!m_logged || m_logged->dayStart != dayStart) {
-        const double hours = totals::hoursToday(m_env.tracker.allSessions(), now, calendar);
+        const double hours = totals::hours(m_env.tracker.allSessions(), now, calendar).today;
         m_logged = LoggedToday{dayStart, std::llround(hours * 3600.0)};
     }
     return m_logged->seconds;

@@ -9,6 +9,27 @@
 
 namespace vantle {
 
+/// Writes what a tile says of its day.
+class DayWords {
+public:
+    explicit DayWords(const WrappedSettings& settings)
+        : m_style(settings.durationStyle)
+        , m_date(DateText::fixed(Words::tr("EEE, MMM d", "date pattern"), settings.calendar)) {}
+
+    [[nodiscard]] QString of(Date date, double hours) const {
+        QString text = bidi::isolated(m_date(date));
+        if (rhythmmap::opacity(hours))
+            text += QStringLiteral(" · ") + dashformat::inlineHours(hours, m_style);
+        return text;
+    }
+
+private:
+    DurationStyle m_style;
+    DateText m_date;
+};
+
+QString DayTile::help() const { return words ? words->of(date, hours) : QString(); }
+
 namespace {
 
 constexpr double kHairline = 1;
@@ -26,8 +47,7 @@ class TileMaker {
 public:
     TileMaker(const WrappedStats& stats, const WrappedSettings& settings)
         : m_accent(cardwords::leadingColor(stats))
-        , m_style(settings.durationStyle)
-        , m_date(DateText::fixed(Words::tr("EEE, MMM d", "date pattern"), settings.calendar)) {}
+        , m_words(std::make_shared<DayWords>(settings)) {}
 
     [[nodiscard]] std::vector<RhythmPicture::Week>
     weeks(const std::vector<rhythmshape::Week>& grid) const {
@@ -52,15 +72,14 @@ private:
             made.outline = cardwords::withOpacity(0xFFFFFF, look.outline->opacity);
             made.outlineWidth = look.outline->width.value_or(kHairline);
         }
-        made.help = bidi::isolated(m_date(day.date));
-        if (rhythmmap::opacity(day.hours))
-            made.help += QStringLiteral(" · ") + dashformat::inlineHours(day.hours, m_style);
+        made.date = day.date;
+        made.hours = day.hours;
+        made.words = m_words;
         return made;
     }
 
     std::uint32_t m_accent;
-    DurationStyle m_style;
-    DateText m_date;
+    std::shared_ptr<const DayWords> m_words;
 };
 
 std::vector<rhythmshape::Week> weekStrip(WrappedPeriod period, const RhythmDays& days) {

@@ -6,7 +6,11 @@
 #include "review/CardWords.h"
 #include "review/RhythmMap.h"
 
+#include <memory>
+
 namespace vantle {
+
+class DayWords;
 
 /// A day of the calendar, or a blank. Colours include their opacity.
 struct DayTile {
@@ -19,7 +23,7 @@ struct DayTile {
     Q_PROPERTY(QColor fill MEMBER fill CONSTANT)
     Q_PROPERTY(QColor outline MEMBER outline CONSTANT)
     Q_PROPERTY(double outlineWidth MEMBER outlineWidth CONSTANT)
-    Q_PROPERTY(QString help MEMBER help CONSTANT)
+    Q_PROPERTY(QString help READ help CONSTANT)
 
 public:
     bool isDay = false;
@@ -29,7 +33,13 @@ public:
     QColor fill = Qt::transparent;
     QColor outline = Qt::transparent;
     double outlineWidth = 0; ///< px
-    QString help;            ///< "Mon, Mar 9 · 1.5 h"
+    Date date;
+    double hours = 0;
+    std::shared_ptr<const DayWords> words; ///< of all tiles of a picture; null for a blank
+
+    /// Returns "Mon, Mar 9 · 1.5 h"; empty for a blank. Written when the user points at a day,
+    /// since a year has hundreds.
+    [[nodiscard]] QString help() const;
 };
 
 struct YearChoice {

@@ -12,17 +12,15 @@ namespace vantle {
 
 void WrappedReview::open(Sessions log, const WrappedSettings& settings,
                          std::optional<WrappedPeriod> initial) {
+    const bool isFirst = !std::exchange(m_isSettled, true);
+    if (isFirst && initial) m_period = *initial;
     reload(std::move(log), settings);
-    if (std::exchange(m_isSettled, true)) return;
-    settle(initial);
+    if (!isFirst) return;
+    if (!initial) fallBackToLastWeek();
     m_page = 0;
 }
 
-void WrappedReview::settle(std::optional<WrappedPeriod> initial) {
-    if (initial) {
-        if (std::exchange(m_period, *initial) != *initial) recompute(m_settings);
-        return;
-    }
+void WrappedReview::fallBackToLastWeek() {
     if (m_period != WrappedPeriod::Week || m_stats.sessionCount > 0) return;
     auto lastWeek = WrappedStats::compute(m_log, WrappedPeriod::LastWeek, m_settings);
     if (lastWeek.sessionCount < 1) return;

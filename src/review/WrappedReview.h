@@ -58,7 +58,7 @@ public:
 
 private:
     void recompute(const WrappedSettings& settings);
-    void settle(std::optional<WrappedPeriod> initial);
+    void fallBackToLastWeek();
     void clampPage();
     void keepCard(std::optional<WrappedCard> card);
     [[nodiscard]] std::optional<WrappedCard> card() const; ///< empty without pages

@@ -32,7 +32,7 @@ Result<QByteArray> encode(const Session& session) {
     appendKey(out, "skillId");
     appendString(out, session.skillId);
     appendKey(out, "source");
-    appendString(out, session.source);
+    appendString(out, session.source.text());
     appendKey(out, "startedAt");
     datesFit = appendDate(out, session.startedAt) && datesFit;
     out += '}';

@@ -2,7 +2,6 @@
 
 #include "tracking/SkillList.h"
 
-#include <algorithm>
 #include <limits>
 
 namespace vantle::totals {
@@ -30,7 +29,7 @@ void DotTally::add(const Session& session) {
     const std::int64_t finished = m_carry / kHour;
     if (finished == 0) return;
     m_carry %= kHour;
-    const std::size_t skill = placeOf(session.skillId);
+    const std::size_t skill = m_skills.of(session.skillId);
     if (!m_runs.empty() && m_runs.back().skill == skill)
         m_runs.back().count += finished;
     else
@@ -39,24 +38,14 @@ void DotTally::add(const Session& session) {
 
 std::vector<DotRun> DotTally::runs(const std::vector<Skill>& skills) const {
     std::vector<Skill> shown;
-    for (const QString& id : m_ids)
-        shown.push_back(SkillList::display(id, skills));
+    shown.reserve(m_skills.count());
+    for (std::size_t number = 0; number < m_skills.count(); ++number)
+        shown.push_back(SkillList::display(m_skills.idOf(number), skills));
     std::vector<DotRun> runs;
     runs.reserve(m_runs.size());
     for (const Run& run : m_runs)
         runs.push_back({shown[run.skill], run.count});
     return runs;
-}
-
-std::size_t DotTally::placeOf(const QString& skillId) {
-    // Records of one log share their skill texts, so comparing addresses mostly suffices.
-    const auto found = std::ranges::find_if(m_ids, [&](const QString& id) {
-        return id.size() == skillId.size() &&
-               (id.constData() == skillId.constData() || id == skillId);
-    });
-    if (found != m_ids.end()) return static_cast<std::size_t>(found - m_ids.begin());
-    m_ids.push_back(skillId);
-    return m_ids.size() - 1;
 }
 
 } // namespace vantle::totals

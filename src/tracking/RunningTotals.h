@@ -5,6 +5,7 @@
 #pragma once
 
 #include "tracking/Session.h"
+#include "tracking/SkillNumbers.h"
 #include "tracking/Totals.h"
 
 #include <vector>
@@ -31,6 +32,7 @@ private:
     [[nodiscard]] static std::int64_t rungSeconds(std::size_t rung);
 };
 
+/// The records must outlive it unchanged.
 class DotTally {
 public:
     void add(const Session& session);
@@ -39,15 +41,13 @@ public:
     [[nodiscard]] std::vector<DotRun> runs(const std::vector<Skill>& skills) const;
 
 private:
-    /// A run with its skill as an index into `m_ids`, since there are very many.
+    /// A run with its skill's number, since there are very many.
     struct Run {
         std::size_t skill = 0;
         std::int64_t count = 0;
     };
 
-    [[nodiscard]] std::size_t placeOf(const QString& skillId);
-
-    std::vector<QString> m_ids;
+    SkillNumbers m_skills;
     std::vector<Run> m_runs;
     std::int64_t m_carry = 0; ///< seconds of the hour in progress
 };

@@ -5,13 +5,27 @@
 
 namespace vantle {
 
-const QString& sourceApp() {
-    static const QString source = QStringLiteral("mac_app");
+namespace {
+
+const QString& textOfApp() {
+    static const QString text = QStringLiteral("mac_app");
+    return text;
+}
+
+} // namespace
+
+SessionSource::SessionSource(const QString& text)
+    : m_other(text == textOfApp() ? nullptr : new Other(text)) {}
+
+QString SessionSource::text() const { return m_other ? m_other->text : textOfApp(); }
+
+const SessionSource& sourceApp() {
+    static const SessionSource source;
     return source;
 }
 
-const QString& sourceManual() {
-    static const QString source = QStringLiteral("manual");
+const SessionSource& sourceManual() {
+    static const SessionSource source(QStringLiteral("manual"));
     return source;
 }
 

@@ -5,6 +5,7 @@
 
 #include "base/Date.h"
 
+#include <QSharedData>
 #include <QString>
 #include <QUuid>
 
@@ -15,6 +16,33 @@ namespace vantle {
 /// The longest record, in seconds: seven days.
 inline constexpr std::int64_t kMaxSessionSeconds = 604800;
 
+/// Where a record came from: "mac_app", "manual", or any text of another program. As large as a
+/// pointer, since a log holds a million of them and mostly the same.
+class SessionSource {
+public:
+    /// "mac_app".
+    SessionSource() = default;
+    // NOLINTNEXTLINE(google-explicit-constructor): any text is a source
+    SessionSource(const QString& text);
+
+    [[nodiscard]] QString text() const;
+
+    friend bool operator==(const SessionSource& left, const SessionSource& right) {
+        return left.m_other == right.m_other ||
+               (left.m_other && right.m_other && left.m_other->text == right.m_other->text);
+    }
+
+private:
+    struct Other : QSharedData {
+        explicit Other(const QString& other) : text(other) {}
+        const QString text;
+    };
+    QExplicitlySharedDataPointer<const Other> m_other; ///< null for "mac_app"
+};
+
+[[nodiscard]] const SessionSource& sourceApp();    ///< "mac_app": tracked or recovered
+[[nodiscard]] const SessionSource& sourceManual(); ///< "manual": added by hand
+
 /// A finished session. Immutable once logged, except for note and deletion.
 struct Session {
     QUuid id;        ///< same id as its marker's
@@ -23,7 +51,7 @@ struct Session {
     Date endedAt;
     std::int64_t activeSeconds = 0; ///< counted time, without pauses and absences
     QString note;                   ///< empty if none
-    QString source;                 ///< kSourceApp or kSourceManual
+    SessionSource source;           ///< sourceApp() or sourceManual() in a valid record
 
     friend bool operator==(const Session&, const Session&) = default;
 };
@@ -38,9 +66,6 @@ struct OpenSessionMarker {
 
     friend bool operator==(const OpenSessionMarker&, const OpenSessionMarker&) = default;
 };
-
-[[nodiscard]] const QString& sourceApp();    ///< "mac_app": tracked or recovered
-[[nodiscard]] const QString& sourceManual(); ///< "manual": added by hand
 
 /// The longest note in a record, and the longest that the program stores, in user-perceived
 /// characters.

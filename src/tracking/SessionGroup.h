@@ -5,6 +5,8 @@
 
 #include "tracking/Session.h"
 
+#include <cstddef>
+#include <limits>
 #include <vector>
 
 namespace vantle {
@@ -17,8 +19,11 @@ struct SessionGroup {
     bool allManual = true;    ///< whether all were logged by hand
 
     /// Merges each session that begins less than three minutes after one of the same skill. Keeps
-    /// the order; only the newest group can grow.
-    [[nodiscard]] static std::vector<SessionGroup> grouped(const std::vector<Session>& sessions);
+    /// the order; only the newest group can grow. With `newest` returns no more than so many groups
+    /// from the end, and costs no more than those.
+    [[nodiscard]] static std::vector<SessionGroup>
+    grouped(const std::vector<Session>& sessions,
+            std::size_t newest = std::numeric_limits<std::size_t>::max());
 };
 
 } // namespace vantle

@@ -55,11 +55,12 @@ public:
     template <typename Visit>
     void read(QByteArrayView text, Visit visit);
 
-private:
-    /// Returns the canonical record at the front of `text`, ended by a line feed or the end, and
-    /// sets `length` to that of its line. Empty says nothing about the line.
+    /// The fast path of both. Returns the canonical record at the front of `text`, ended by a line
+    /// feed or the end, and sets `length` to that of its line. Empty says nothing about the line:
+    /// a mistake in the other direction costs speed only, so tests ask here.
     [[nodiscard]] std::optional<Session> decodeCanonical(QByteArrayView text, qsizetype& length);
 
+private:
     /// A skill id as bytes of a line, and as the text that records share.
     struct KnownSkill {
         QByteArray utf8; ///< with the closing quote

@@ -19,8 +19,8 @@ struct LogRead {
 };
 
 /// The operations on "sessions.jsonl". Unreadable lines keep their bytes and their place through
-/// every operation. Stateless: each call accesses the file. Blocks; runs on the
-/// thread of the I/O queue.
+/// every operation. Stateless: each call accesses the file. Blocks; call from jobs of the I/O
+/// queue.
 class SessionLog {
 public:
     explicit SessionLog(const AppPaths& paths) : m_paths(paths) {}

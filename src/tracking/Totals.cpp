@@ -1,7 +1,10 @@
 #include "tracking/Totals.h"
 
 #include "tracking/RunningTotals.h"
+#include "tracking/SkillNumbers.h"
 #include "tracking/TrackerCore.h"
+
+#include <algorithm>
 
 namespace vantle::totals {
 
@@ -11,27 +14,21 @@ constexpr std::int64_t kHour = 3600;
 
 double asHours(std::int64_t seconds) { return static_cast<double>(seconds) / 3600.0; }
 
-double hoursSince(const std::vector<Session>& sessions, Date now, Date since) {
-    std::int64_t seconds = 0;
-    for (const Session& session : sessions)
-        if (session.endedAt >= since && TrackerCore::countsInTotals(session, now))
-            seconds += session.activeSeconds;
-    return asHours(seconds);
-}
-
 } // namespace
 
-double hoursToday(const std::vector<Session>& sessions, Date now, const Calendar& calendar) {
-    return hoursSince(sessions, now, calendar.startOfDay(now));
-}
-
-double hoursThisWeek(const std::vector<Session>& sessions, Date now, const Calendar& calendar) {
-    const auto week = calendar.startOfWeek(now);
-    return hoursSince(sessions, now, week ? *week : calendar.startOfDay(now));
-}
-
-double hoursAllTime(const std::vector<Session>& sessions, Date now) {
-    return asHours(secondsAllTime(sessions, now));
+Hours hours(const std::vector<Session>& sessions, Date now, const Calendar& calendar) {
+    const Date day = calendar.startOfDay(now);
+    const Date week = calendar.startOfWeek(now).value_or(day);
+    std::int64_t today = 0;
+    std::int64_t thisWeek = 0;
+    std::int64_t allTime = 0;
+    for (const Session& session : sessions) {
+        if (!TrackerCore::countsInTotals(session, now)) continue;
+        allTime += session.activeSeconds;
+        if (session.endedAt >= week) thisWeek += session.activeSeconds;
+        if (session.endedAt >= day) today += session.activeSeconds;
+    }
+    return {asHours(today), asHours(thisWeek), asHours(allTime)};
 }
 
 std::int64_t secondsAllTime(const std::vector<Session>& sessions, Date now) {
@@ -43,18 +40,24 @@ std::int64_t secondsAllTime(const std::vector<Session>& sessions, Date now) {
 
 std::vector<SkillTotal> perSkillTotals(const std::vector<Session>& sessions, Date now,
                                        const std::vector<Skill>& skills) {
-    std::vector<std::int64_t> seconds(skills.size(), 0);
+    SkillNumbers numbers;
+    std::vector<std::int64_t> seconds; // by number
     for (const Session& session : sessions) {
         if (!TrackerCore::countsInTotals(session, now)) continue;
-        for (std::size_t i = 0; i < skills.size(); ++i) {
-            if (skills[i].id != session.skillId) continue;
-            seconds[i] += session.activeSeconds;
-            break;
-        }
+        const std::size_t number = numbers.of(session.skillId);
+        if (number == seconds.size()) seconds.push_back(0);
+        seconds[number] += session.activeSeconds;
     }
     std::vector<SkillTotal> entries;
-    for (std::size_t i = 0; i < skills.size(); ++i)
-        entries.push_back({skills[i], asHours(seconds[i])});
+    entries.reserve(skills.size());
+    for (const Skill& skill : skills)
+        entries.push_back({skill, 0});
+    for (std::size_t number = 0; number < seconds.size(); ++number) {
+        const QString& id = numbers.idOf(number);
+        const auto entry = std::ranges::find_if(
+            entries, [&](const SkillTotal& total) { return total.skill.id == id; });
+        if (entry != entries.end()) entry->hours = asHours(seconds[number]);
+    }
     return entries;
 }
 

@@ -17,16 +17,14 @@ namespace vantle::totals {
 inline constexpr std::array<int, 10> milestoneLadder = {10,  25,   50,   100,  250,
                                                         500, 1000, 2500, 5000, 10000};
 
-/// Hours of the records that ended on the day of `now`. A record counts entirely on the day of its
-/// end.
-[[nodiscard]] double hoursToday(const std::vector<Session>& sessions, Date now,
-                                const Calendar& calendar);
+struct Hours {
+    double today = 0;    ///< of the records that ended on the day of `now`
+    double thisWeek = 0; ///< of those that ended in the calendar week of `now`
+    double allTime = 0;
+};
 
-/// Hours of the records that ended in the calendar week of `now`.
-[[nodiscard]] double hoursThisWeek(const std::vector<Session>& sessions, Date now,
-                                   const Calendar& calendar);
-
-[[nodiscard]] double hoursAllTime(const std::vector<Session>& sessions, Date now);
+/// A record counts entirely on the day of its end.
+[[nodiscard]] Hours hours(const std::vector<Session>& sessions, Date now, const Calendar& calendar);
 
 struct SkillTotal {
     Skill skill;

@@ -98,6 +98,14 @@ TEST_F(SessionReportTest, YesterdayIsOverAtMidnight) {
     EXPECT_EQ(values().todaySeconds, 0);
 }
 
+TEST_F(SessionReportTest, TellsOfASkillThatIsRenamed) {
+    m_world.press();
+    const int before = m_status.changes;
+    m_model.updateSkill(QStringLiteral("building"), QStringLiteral("Carpentry"), 0x30D158);
+    EXPECT_GT(m_status.changes, before);
+    EXPECT_EQ(values().skillName, QStringLiteral("Carpentry"));
+}
+
 TEST_F(SessionReportTest, TellsOfEachChangeOfStateAndOfNoSecond) {
     const int before = m_status.changes;
     m_world.press();

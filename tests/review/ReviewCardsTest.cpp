@@ -47,6 +47,31 @@ TEST(HeroCard, SessionsOfNoTimeAreNeitherTrackedNorLogged) {
         reviewcards::hero(week({worked("2026-03-10T09:00:00Z", 0)}), settings()).quiet.isEmpty());
 }
 
+TEST(HeroCard, TellsHowTheTimeCameIntoTheLog) {
+    const Session tracked = worked("2026-03-10T09:00:00Z", 60);
+    Session logged = worked("2026-03-10T12:00:00Z", 120);
+    logged.source = sourceManual();
+    const auto quiet = [](const std::vector<Session>& log) {
+        return reviewcards::hero(week(log), settings()).quiet;
+    };
+    EXPECT_EQ(quiet({tracked}), QStringList{QStringLiteral("All of it tracked live")});
+    EXPECT_EQ(quiet({logged}), QStringList{QStringLiteral("All of it logged by hand")});
+    EXPECT_EQ(quiet({tracked, logged}),
+              QStringList{QStringLiteral("1 h tracked live · 2 h logged by hand")});
+}
+
+TEST(HeroCard, CountsTheSessionsWithANote) {
+    Session first = worked("2026-03-10T09:00:00Z", 60);
+    first.note = QStringLiteral("one");
+    Session second = worked("2026-03-10T12:00:00Z", 60);
+    second.note = QStringLiteral("two");
+    const auto noted = [](const std::vector<Session>& log) {
+        return reviewcards::hero(week(log), settings()).quiet.value(1);
+    };
+    EXPECT_EQ(noted({first}), QStringLiteral("1 session has a note"));
+    EXPECT_EQ(noted({first, second}), QStringLiteral("2 sessions have notes"));
+}
+
 TEST(SkillsCard, ShowsTheTopSkillAndTheOthersBelowIt) {
     const auto stats = week(sixSkills());
     const auto card = reviewcards::skills(stats, settings(), 6).value();
@@ -125,11 +150,11 @@ TEST(RhythmCard, TilesCarryTheirColourTheirOutlineAndTheirWords) {
     EXPECT_EQ(picture.letters.join(u' '), QStringLiteral("M T W T F S S"));
     ASSERT_EQ(picture.weeks.size(), 1U);
     const auto& tiles = picture.weeks.front();
-    EXPECT_EQ(tiles[0].help, QStringLiteral("Mon, Mar 9 · 1.5 h"));
+    EXPECT_EQ(tiles[0].help(), QStringLiteral("Mon, Mar 9 · 1.5 h"));
     EXPECT_EQ(tiles[0].fill.rgb(), QColor::fromRgb(0x7A78FF).rgb());
     EXPECT_NEAR(tiles[0].fill.alphaF(), 0.78, 0.001);
     EXPECT_FALSE(tiles[1].hasFill);
-    EXPECT_EQ(tiles[1].help, QStringLiteral("Tue, Mar 10"));
+    EXPECT_EQ(tiles[1].help(), QStringLiteral("Tue, Mar 10"));
     EXPECT_TRUE(tiles[2].isToday);
     EXPECT_EQ(tiles[2].outlineWidth, 1.5);
     EXPECT_TRUE(tiles[3].isFuture);
@@ -148,7 +173,7 @@ TEST(RhythmCard, YearComesAsOneMapAndMonthByMonth) {
     ASSERT_EQ(card.picture.months.size(), 12U);
     // 2024-02-01 was a Thursday.
     EXPECT_FALSE(card.picture.months[1].front()[2].isDay);
-    EXPECT_EQ(card.picture.months[1].front()[3].help, QStringLiteral("Thu, Feb 1"));
+    EXPECT_EQ(card.picture.months[1].front()[3].help(), QStringLiteral("Thu, Feb 1"));
     EXPECT_EQ(card.picture.monthList().size(), 12);
     ASSERT_EQ(card.years.size(), 2U);
     EXPECT_EQ(card.years[1].label, QStringLiteral("Show 2024"));
@@ -231,6 +256,17 @@ TEST(NotesCard, NotesThatSayTheSameAreInTheLogNevertheless) {
     EXPECT_EQ(card.more, QStringLiteral("2 more notes are in your log"));
 }
 
+TEST(NotesCard, IsNotThereWithoutNotesAndTellsOfASingleOneBeyond) {
+    EXPECT_FALSE(reviewcards::notes(week({worked("2026-03-10T09:00:00Z", 60)}), settings(), 4));
+    std::vector<Session> log;
+    for (const char* note : {"drew the map", "called the bank", "fixed the door"}) {
+        log.push_back(worked("2026-03-10T09:00:00Z", 60));
+        log.back().note = QString::fromUtf8(note);
+    }
+    EXPECT_EQ(reviewcards::notes(week(log), settings(), 2)->more,
+              QStringLiteral("1 more note is in your log"));
+}
+
 TEST(NarrativeCard, NamesItsPeriodInCapitals) {
     const auto card = reviewcards::narrative(WrappedPeriod::AllTime, QStringLiteral("You did."));
     EXPECT_EQ(card.kicker, QStringLiteral("ALL TIME, IN WORDS"));
@@ -267,6 +303,15 @@ TEST(MilestonesCard, RingGoesThroughTheHoursThatMadeTheMilestone) {
     QList<QColor> half(10, QColor::fromRgb(0x7A78FF));
     half += QList<QColor>(10, QColor::fromRgb(0xFF375F));
     EXPECT_EQ(card.badges[0].ring, half);
+}
+
+TEST(MilestonesCard, CountsWhatWasCrossedAndIsNotThereWithoutAny) {
+    EXPECT_FALSE(reviewcards::milestones(week({worked("2026-03-10T09:00:00Z", 60)}), settings()));
+    const auto one =
+        reviewcards::milestones(week({worked("2026-03-09T01:00:00Z", 11 * 60)}), settings());
+    ASSERT_TRUE(one);
+    EXPECT_EQ(one->badges.size(), 1U);
+    EXPECT_EQ(one->sentence, QStringLiteral("You crossed a milestone this week"));
 }
 
 TEST(ReviewWords, NamesAndNotesAreSpokenAsTheyStand) {

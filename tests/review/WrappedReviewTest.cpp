@@ -200,6 +200,40 @@ TEST(WrappedCards, EmptyCardKnowsWhyItIsEmpty) {
               QStringLiteral("Nothing this month yet"));
 }
 
+TEST(WrappedReviewNarrative, AsksAboutNotesOnlyWhereThereAreSome) {
+    const WrappedSettings settings = samples::settingsAt(kNow);
+    const auto questionOf = [&](const std::vector<Session>& log) {
+        return wrappedreview::narrativeQuestion(
+            WrappedStats::compute(log, WrappedPeriod::Week, settings), DurationStyle::Natural);
+    };
+    Session session = worked("2026-03-10T09:00:00Z", 60);
+    EXPECT_FALSE(questionOf({session}));
+    session.note = QStringLiteral("drew the map");
+    const auto question = questionOf({session});
+    ASSERT_TRUE(question);
+    EXPECT_EQ(question->hoursSummary, QStringLiteral("1 h"));
+    EXPECT_EQ(question->topSkill, settings.skills.front().name);
+}
+
+TEST_F(WrappedReviewTest, ANarrativeThatIsClearedTakesItsCardAwayAndLeavesTheOthers) {
+    Session session = today;
+    session.note = QStringLiteral("drew the map");
+    open({monday, session});
+    review.narrativeArrived(WrappedPeriod::Week, QStringLiteral("You drew the map."));
+    ASSERT_TRUE(has(Narrative));
+    const auto shown = [this] { return review.cards().at(std::size_t(review.page())); };
+    turnToTheEnd();
+    const WrappedCard last = shown();
+    review.clearNarrative();
+    EXPECT_FALSE(has(Narrative));
+    EXPECT_EQ(shown(), last);
+    review.narrativeArrived(WrappedPeriod::Week, QStringLiteral("You drew the map."));
+    while (shown() != Narrative)
+        ASSERT_TRUE(review.turn(-1));
+    review.clearNarrative();
+    EXPECT_NE(shown(), Narrative) << "another card is in its place";
+}
+
 TEST(WrappedReviewSeen, OpeningMarksTheWeekBefore) {
     fakes::MemoryPreferences preferences;
     const Calendar calendar = samples::calendarIn(QStringLiteral("UTC"));

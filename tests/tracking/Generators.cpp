@@ -71,9 +71,10 @@ rc::Gen<std::int64_t> seconds() {
          {1, rc::gen::arbitrary<std::int64_t>()}});
 }
 
-rc::Gen<QString> source() {
-    return rc::gen::weightedOneOf<QString>(
-        {{5, rc::gen::elementOf(std::vector{sourceApp(), sourceManual()})}, {1, text(6)}});
+rc::Gen<SessionSource> source() {
+    return rc::gen::weightedOneOf<SessionSource>(
+        {{5, rc::gen::elementOf(std::vector{sourceApp(), sourceManual()})},
+         {1, rc::gen::map(text(6), [](const QString& other) { return SessionSource(other); })}});
 }
 
 rc::Gen<QString> skillId() {
@@ -175,7 +176,7 @@ rc::Gen<Session> session() {
 rc::Gen<Session> acceptableSession() {
     const auto make = [](const QUuid& sessionId, const QString& skill, std::int64_t end,
                          std::int64_t length, std::int64_t active, const QString& note,
-                         const QString& from) {
+                         const SessionSource& from) {
         const Date endedAt = dateFromEpoch(1'772'000'000.0 + static_cast<double>(end));
         return Session{sessionId,
                        skill,

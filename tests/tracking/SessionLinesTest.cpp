@@ -174,6 +174,101 @@ TEST(SessionLines, EveryTimeOfADayIsReadAndNoOther) {
                                              .toLatin1()));
 }
 
+/// Records as the program writes them, without a character that JSON escapes.
+std::vector<Session> plainRecords() {
+    std::vector<Session> records;
+    int number = 0;
+    const auto add = [&](std::int64_t seconds, const QString& note, const SessionSource& source) {
+        Session session = samples::session(++number);
+        session.activeSeconds = seconds;
+        session.note = note;
+        session.source = source;
+        records.push_back(session);
+    };
+    for (const std::int64_t seconds : {0, 1, 9, 10, 59, 1800, 43'200, 999'999'999})
+        add(seconds, QStringLiteral("note"), sourceApp());
+    for (qsizetype length = 0; length < 20; ++length)
+        add(1800, QString(length, QLatin1Char('n')), sourceManual());
+    // A space, and characters that begin with the same bytes as a newline, or end the ASCII range.
+    for (const char* note : {" ", "a b", "~", "\u007F", "\u00A9", "\u00E9", "\u0084\u0086",
+                             "\u2026", "\u2027\u202A", "\u65E5\u672C", "\U0001F600"})
+        for (int before = 0; before < 9; ++before)
+            add(1800, QString(before, QLatin1Char('n')) + QString::fromUtf8(note), sourceApp());
+    return records;
+}
+
+TEST(SessionLines, WhatTheProgramWritesTakesTheFastPath) {
+    sessionlines::Reader reader;
+    for (const Session& session : plainRecords()) {
+        const QByteArray line = samples::line(session);
+        for (const QByteArray& text : {line, line.chopped(1), line + line}) {
+            qsizetype length = 0;
+            ASSERT_EQ(reader.decodeCanonical(text, length), session) << text.toStdString();
+            ASSERT_EQ(length, line.size() - 1);
+        }
+        ASSERT_EQ(json::decodeSession(line), session);
+    }
+}
+
+TEST(SessionLines, IdsOfEitherCaseAndTheLargestNumberTakeTheFastPath) {
+    const QByteArray good = samples::line(samples::session()).chopped(1);
+    const QByteArray id = good.sliced(good.indexOf("\"id\":\"") + 6, 36);
+    for (const char* other :
+         {"01234567-89ab-cdef-fedc-ba9876543210", "01234567-89AB-CDEF-FEDC-BA9876543210"}) {
+        qsizetype length = 0;
+        const QByteArray line = QByteArray(good).replace(id, other);
+        const auto session = sessionlines::Reader().decodeCanonical(line, length);
+        ASSERT_EQ(session, json::decodeSession(line));
+        EXPECT_EQ(session->id, QUuid::fromString(QLatin1String(other)));
+    }
+    qsizetype length = 0;
+    const auto session = sessionlines::Reader().decodeCanonical(
+        QByteArray(good).replace("1800", "999999999999999999"), length);
+    ASSERT_TRUE(session.has_value());
+    EXPECT_EQ(session->activeSeconds, 999'999'999'999'999'999);
+}
+
+TEST(SessionLines, WhatTheFastPathMayNotTakeIsLeftToTheFullDecoder) {
+    const QByteArray good = samples::line(samples::session()).chopped(1);
+    const auto with = [&](const char* part, const char* other) {
+        return QByteArray(good).replace(part, other);
+    };
+    for (const QByteArray& line :
+         {with("1800", "01800"), with("1800", "1000000000000000000"), with("1800", "-1"),
+          with("1800", "1800.0"), with("1800", ""), with("note\":\"note", "note\":\"no\\u0074e"),
+          with("note\":\"note", "note\":\"no\tte"), with("note\":\"note", "note\":\"no\u2028te"),
+          with("note\":\"note", "note\":\"no\u0085te"), with("mac_app", "other"),
+          with("\"}", "\"} "), with("{", " {"), with("-4A52-", "-4AX2-"), with("-4A52-", "04A52-"),
+          with("T1", "T9"), with("}", "")}) {
+        qsizetype length = 0;
+        EXPECT_FALSE(sessionlines::Reader().decodeCanonical(line, length)) << line.toStdString();
+    }
+}
+
+TEST(SessionLines, RecordsOfOneSkillShareItsTextAmongManySkills) {
+    sessionlines::Reader reader;
+    const auto idOf = [&reader](int skill) {
+        Session session = samples::session();
+        session.skillId = QStringLiteral("skill %1").arg(skill);
+        const auto read = reader.decode(samples::line(session).chopped(1));
+        EXPECT_EQ(read, session);
+        return read ? read->skillId : QString();
+    };
+    constexpr int kKept = 16;
+    std::vector<QString> ids;
+    for (int skill = 0; skill < kKept; ++skill)
+        ids.push_back(idOf(skill));
+    for (int round = 0; round < 3; ++round)
+        for (int skill = 0; skill < kKept; ++skill)
+            EXPECT_EQ(idOf(skill).constData(), ids[std::size_t(skill)].constData()) << skill;
+    // More than are kept: the oldest makes room for one, and the others stay.
+    static_cast<void>(idOf(kKept));
+    int shared = 0;
+    for (int skill = 0; skill < kKept; ++skill)
+        shared += idOf(skill).constData() == ids[std::size_t(skill)].constData() ? 1 : 0;
+    EXPECT_GE(shared, kKept - 2);
+}
+
 TEST(SessionLines, AReaderKeepsRecordsOfManySkillsApart) {
     Session first = samples::session(1);
     Session second = samples::session(2);

@@ -77,12 +77,29 @@ TEST(SessionRules, OnlyTheTwoKnownSourcesAreAcceptable) {
     EXPECT_TRUE(isAcceptable(with([](Session& s) { s.source = sourceManual(); })));
     EXPECT_EQ(firstFailingRule(with([](Session& s) { s.source = QStringLiteral("import"); })), 6);
     EXPECT_EQ(firstFailingRule(with([](Session& s) { s.source = QStringLiteral("Manual"); })), 6);
-    EXPECT_EQ(firstFailingRule(with([](Session& s) { s.source.clear(); })), 6);
+    EXPECT_EQ(firstFailingRule(with([](Session& s) { s.source = QString(); })), 6);
+}
+
+TEST(SessionSource, AnyTextIsKeptAsItIs) {
+    EXPECT_EQ(SessionSource().text(), QStringLiteral("mac_app"));
+    EXPECT_EQ(sourceManual().text(), QStringLiteral("manual"));
+    for (const QString& text : {QStringLiteral("mac_app"), QStringLiteral("manual"),
+                                QStringLiteral("Manual"), QStringLiteral("café\u0000☃"), QString()})
+        EXPECT_EQ(SessionSource(text).text(), text);
+}
+
+TEST(SessionSource, EqualTextsAreEqualSources) {
+    EXPECT_EQ(SessionSource(QStringLiteral("mac_app")), sourceApp());
+    EXPECT_EQ(SessionSource(QStringLiteral("manual")), sourceManual());
+    EXPECT_EQ(SessionSource(QStringLiteral("import")), SessionSource(QStringLiteral("import")));
+    EXPECT_FALSE(SessionSource(QStringLiteral("import")) == SessionSource(QString()));
+    EXPECT_FALSE(sourceApp() == sourceManual());
+    EXPECT_FALSE(sourceApp() == SessionSource(QString()));
 }
 
 TEST(SessionRules, TheFirstBrokenRuleIsNamed) {
     Session session = samples::session();
-    session.source.clear();
+    session.source = QString();
     session.note = repeated("x", 2001);
     EXPECT_EQ(firstFailingRule(session), 5);
     session.skillId.clear();

@@ -71,11 +71,11 @@ RC_GTEST_PROP(TotalsProperties, TodayIsPartOfTheWeekAndTheWeekOfAllTime, ()) {
     const Sessions sessions = *generators::history();
     const Date now = dateFromEpoch(1'772'000'000.0 + *rc::gen::inRange(0, 3'000'000));
     const Calendar calendar{QStringLiteral("America/New_York"), *rc::gen::inRange(1, 8), 1};
-    const double today = totals::hoursToday(sessions, now, calendar);
-    const double week = totals::hoursThisWeek(sessions, now, calendar);
+    const double today = totals::hours(sessions, now, calendar).today;
+    const double week = totals::hours(sessions, now, calendar).thisWeek;
     RC_ASSERT(today >= 0);
     RC_ASSERT(today <= week);
-    RC_ASSERT(week <= totals::hoursAllTime(sessions, now));
+    RC_ASSERT(week <= totals::hours(sessions, now, calendar).allTime);
 }
 
 RC_GTEST_PROP(TotalsProperties, TheSkillsTogetherAreAllTimeWhenAllOfThemAreKnown, ()) {
@@ -87,10 +87,11 @@ RC_GTEST_PROP(TotalsProperties, TheSkillsTogetherAreAllTimeWhenAllOfThemAreKnown
             hours += entry.hours;
         return hours;
     };
-    RC_ASSERT(sum() <= totals::hoursAllTime(sessions, kNow) + 1e-9);
+    const double all = static_cast<double>(totals::secondsAllTime(sessions, kNow)) / 3600;
+    RC_ASSERT(sum() <= all + 1e-9);
     skills.push_back(samples::skill(QStringLiteral("code")));
     skills.push_back(samples::skill(QStringLiteral("old_thing")));
-    RC_ASSERT(std::abs(sum() - totals::hoursAllTime(sessions, kNow)) < 1e-9);
+    RC_ASSERT(std::abs(sum() - all) < 1e-9);
 }
 
 RC_GTEST_PROP(TotalsProperties, BadgesAreTheRungsThatTheTotalHasReached, ()) {
@@ -116,7 +117,7 @@ RC_GTEST_PROP(TotalsProperties, ASplitSessionKeepsEveryTotal, ()) {
     parts.insert(parts.end(), pieces.begin(), pieces.end());
     parts.insert(parts.end(), whole.begin() + std::ptrdiff_t(index) + 1, whole.end());
     RC_ASSERT(sumOf(parts) == sumOf(whole));
-    RC_ASSERT(totals::hoursAllTime(parts, kNow) == totals::hoursAllTime(whole, kNow));
+    RC_ASSERT(totals::secondsAllTime(parts, kNow) == totals::secondsAllTime(whole, kNow));
     RC_ASSERT(totals::hourDotCount(parts, kNow) == totals::hourDotCount(whole, kNow));
     RC_ASSERT(badgeHours(parts) == badgeHours(whole));
 }
@@ -129,6 +130,16 @@ RC_GTEST_PROP(TotalsProperties, GroupsLoseNoSecondAndMergeWhatASplitCut, ()) {
     for (const SessionGroup& group : groups)
         seconds += group.seconds;
     RC_ASSERT(seconds == sumOf(sessions));
+
+    const auto wanted = *rc::gen::inRange<std::size_t>(0, groups.size() + 2);
+    const auto newest = SessionGroup::grouped(sessions, wanted);
+    RC_ASSERT(newest.size() == std::min(wanted, groups.size()));
+    RC_ASSERT(std::equal(newest.rbegin(), newest.rend(), groups.rbegin(),
+                         [](const SessionGroup& one, const SessionGroup& other) {
+                             return one.id == other.id && one.seconds == other.seconds &&
+                                    one.endedAt == other.endedAt &&
+                                    one.allManual == other.allManual;
+                         }));
 
     Session one = *generators::acceptableSession();
     one.activeSeconds = static_cast<std::int64_t>((one.endedAt - one.startedAt).count());

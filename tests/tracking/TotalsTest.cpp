@@ -34,9 +34,9 @@ protected:
 };
 
 TEST_F(TotalsTest, AnEmptyLogHasNothingButTheSkills) {
-    EXPECT_EQ(totals::hoursToday({}, now, calendar), 0);
-    EXPECT_EQ(totals::hoursThisWeek({}, now, calendar), 0);
-    EXPECT_EQ(totals::hoursAllTime({}, now), 0);
+    EXPECT_EQ(totals::hours({}, now, calendar).today, 0);
+    EXPECT_EQ(totals::hours({}, now, calendar).thisWeek, 0);
+    EXPECT_EQ(totals::hours({}, now, calendar).allTime, 0);
     EXPECT_THAT(totals::badges({}, now), IsEmpty());
     EXPECT_THAT(totals::hourDots({}, now, seeds), IsEmpty());
     EXPECT_EQ(totals::hourDotCount({}, now), 0);
@@ -50,21 +50,21 @@ TEST_F(TotalsTest, AnEmptyLogHasNothingButTheSkills) {
 
 TEST_F(TotalsTest, ASessionAcrossMidnightCountsEntirelyForTheDayOfItsEnd) {
     // Midnight in Berlin is 23:00 UTC of the day before.
-    EXPECT_EQ(totals::hoursToday({sessionEnding(at("2026-02-28T23:30:00Z"), 3600)}, now, calendar),
+    EXPECT_EQ(totals::hours({sessionEnding(at("2026-02-28T23:30:00Z"), 3600)}, now, calendar).today,
               1.0);
-    EXPECT_EQ(totals::hoursToday({sessionEnding(at("2026-02-28T23:00:00Z"), 3600)}, now, calendar),
+    EXPECT_EQ(totals::hours({sessionEnding(at("2026-02-28T23:00:00Z"), 3600)}, now, calendar).today,
               1.0);
-    EXPECT_EQ(totals::hoursToday({sessionEnding(at("2026-02-28T22:59:59Z"), 3600)}, now, calendar),
+    EXPECT_EQ(totals::hours({sessionEnding(at("2026-02-28T22:59:59Z"), 3600)}, now, calendar).today,
               0.0);
 }
 
 TEST_F(TotalsTest, TheWeekBeginsOnTheFirstWeekdayOfTheUser) {
     const std::vector<Session> friday = {sessionEnding(at("2026-02-27T12:00:00Z"), 3600)};
-    EXPECT_EQ(totals::hoursThisWeek(friday, now, calendar), 1.0);
+    EXPECT_EQ(totals::hours(friday, now, calendar).thisWeek, 1.0);
     const Calendar american{QStringLiteral("Europe/Berlin"), 1, 1};
-    EXPECT_EQ(totals::hoursThisWeek(friday, now, american), 0.0);
+    EXPECT_EQ(totals::hours(friday, now, american).thisWeek, 0.0);
     const std::vector<Session> sundayBefore = {sessionEnding(at("2026-02-22T12:00:00Z"), 3600)};
-    EXPECT_EQ(totals::hoursThisWeek(sundayBefore, now, calendar), 0.0);
+    EXPECT_EQ(totals::hours(sundayBefore, now, calendar).thisWeek, 0.0);
 }
 
 TEST_F(TotalsTest, ASessionThatStartsInTheFutureCountsNowhere) {
@@ -72,16 +72,16 @@ TEST_F(TotalsTest, ASessionThatStartsInTheFutureCountsNowhere) {
     future.startedAt = now + Seconds(301);
     future.endedAt = future.startedAt + Seconds(7200);
     const std::vector<Session> sessions = {future};
-    EXPECT_EQ(totals::hoursToday(sessions, now, calendar), 0);
-    EXPECT_EQ(totals::hoursThisWeek(sessions, now, calendar), 0);
-    EXPECT_EQ(totals::hoursAllTime(sessions, now), 0);
+    EXPECT_EQ(totals::hours(sessions, now, calendar).today, 0);
+    EXPECT_EQ(totals::hours(sessions, now, calendar).thisWeek, 0);
+    EXPECT_EQ(totals::hours(sessions, now, calendar).allTime, 0);
     EXPECT_EQ(totals::perSkillTotals(sessions, now, seeds).front().hours, 0);
     EXPECT_THAT(dotIds(sessions), IsEmpty());
     EXPECT_EQ(totals::hourDotCount(sessions, now), 0);
     EXPECT_THAT(totals::badges(std::vector<Session>(30, future), now), IsEmpty());
 
     future.startedAt = now + Seconds(300);
-    EXPECT_EQ(totals::hoursAllTime({future}, now), 2);
+    EXPECT_EQ(totals::hours({future}, now, calendar).allTime, 2);
     EXPECT_EQ(dotIds({future}).size(), 2u);
 }
 
@@ -96,7 +96,7 @@ TEST_F(TotalsTest, TimeUnderOtherSkillsIsInNoEntry) {
     EXPECT_EQ(perSkill[0].hours, 2);
     EXPECT_EQ(perSkill[2].hours, 0.5);
     EXPECT_EQ(sum, 2.5);
-    EXPECT_EQ(totals::hoursAllTime(sessions, now), 3);
+    EXPECT_EQ(totals::hours(sessions, now, calendar).allTime, 3);
 }
 
 TEST_F(TotalsTest, ADotTakesTheColourOfTheSessionThatFinishedTheHour) {

@@ -84,7 +84,7 @@ QJsonValue toJson(const Session& session) {
                        {QStringLiteral("endedAt"), toJson(session.endedAt)},
                        {QStringLiteral("activeSeconds"), toJson(session.activeSeconds)},
                        {QStringLiteral("note"), session.note},
-                       {QStringLiteral("source"), session.source}};
+                       {QStringLiteral("source"), session.source.text()}};
 }
 
 QJsonValue toJson(const OpenSessionMarker& marker) {

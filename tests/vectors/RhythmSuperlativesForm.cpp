@@ -1,4 +1,5 @@
 // When sessions begin, and the high points of a period.
+#include "base/LocalTime.h"
 #include "vectors/NeutralRecords.h"
 #include "vectors/StatsJson.h"
 #include "vectors/forms.h"
@@ -24,7 +25,10 @@ QJsonValue typicalStart(const StartTimes& starts) {
 
 QJsonValue rhythm(const QJsonObject& input) {
     const auto sessions = sessionsFromJson(input[QLatin1String("sessions")]);
-    const StartTimes starts(refsTo(sessions), calendarFromJson(input[QLatin1String("calendar")]));
+    LocalTime local(calendarFromJson(input[QLatin1String("calendar")]));
+    StartTimes starts;
+    for (const Session& session : sessions)
+        starts.add(local.at(session.startedAt));
     return QJsonObject{{QStringLiteral("typicalStart"), typicalStart(starts)},
                        {QStringLiteral("startRhythm"), toJson(StartRhythm::compute(starts))}};
 }

@@ -3,8 +3,8 @@
 #include "base/LocalTime.h"
 #include "base/Rounding.h"
 #include "base/Words.h"
-#include "review/stats/SkillNumbers.h"
 #include "tracking/DashFormat.h"
+#include "tracking/SkillNumbers.h"
 
 #include <algorithm>
 

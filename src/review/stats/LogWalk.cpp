@@ -1,11 +1,18 @@
 #include "review/stats/LogWalk.h"
 
-#include "tracking/RunningTotals.h"
 #include "tracking/TrackerCore.h"
 
 #include <algorithm>
 
 namespace vantle {
+
+void PeriodSums::add(const Session& session, LocalTime& local) {
+    (session.source == sourceManual() ? manualSeconds : trackedSeconds) += session.activeSeconds;
+    if (!session.note.isEmpty()) noted.push_back(&session);
+    if (!longest || session.activeSeconds > longest->activeSeconds) longest = &session;
+    starts.add(local.at(session.startedAt));
+    dots.add(session);
+}
 
 LogWalk::LogWalk(const std::vector<Session>& sessions, const Plan& plan, LocalTime& local) {
     totals::BadgeTally badgeTally;
@@ -16,7 +23,10 @@ LogWalk::LogWalk(const std::vector<Session>& sessions, const Plan& plan, LocalTi
     for (const Session& session : sessions) {
         const bool counts = TrackerCore::countsInTotals(session, plan.now);
         if (session.endedAt >= first) {
-            if (counts && plan.period.contains(session.endedAt)) period.push_back(&session);
+            if (counts && plan.period.contains(session.endedAt)) {
+                period.push_back(&session);
+                sums.add(session, local);
+            }
             if (plan.thisWeek.contains(session.endedAt)) thisWeek.push_back(&session);
             if (plan.earlierWeek.contains(session.endedAt)) earlierWeek.push_back(&session);
         }

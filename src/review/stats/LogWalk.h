@@ -7,9 +7,11 @@
 
 #include "review/stats/DayLedger.h"
 #include "review/stats/SessionRefs.h"
-#include "review/stats/SkillNumbers.h"
-#include "tracking/Totals.h"
+#include "review/stats/StartRhythm.h"
+#include "tracking/RunningTotals.h"
+#include "tracking/SkillNumbers.h"
 
+#include <cstdint>
 #include <limits>
 #include <vector>
 
@@ -25,8 +27,22 @@ struct Interval {
     [[nodiscard]] static Interval none() { return {Interval().end, Interval().start}; }
 };
 
+/// Sums over the records of a period.
+struct PeriodSums {
+    std::int64_t trackedSeconds = 0;
+    std::int64_t manualSeconds = 0;
+    const Session* longest = nullptr;  ///< the first of equal ones
+    std::vector<const Session*> noted; ///< records with a note, even a blank one
+    StartTimes starts;
+    totals::DotTally dots;
+
+    /// Adds a record that counts; call oldest first.
+    void add(const Session& session, LocalTime& local);
+};
+
 struct LogWalk {
     std::vector<const Session*> period;      ///< records that count and ended in the period
+    PeriodSums sums;                         ///< of these
     std::vector<const Session*> thisWeek;    ///< ended in that week, counting or not
     std::vector<const Session*> earlierWeek; ///< the same
     std::vector<totals::Badge> badges;       ///< of all records that count

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstring>
 #include <tuple>
+#include <utility>
 
 namespace vantle {
 
@@ -15,11 +16,6 @@ namespace {
 constexpr std::size_t kMostThemes = 3;
 constexpr std::size_t kMostHighlights = 4;
 
-struct Note {
-    const Session* session;
-    QString text; ///< with single blanks, not empty
-};
-
 /// Orders by the ids' text without making it. QUuid's `<` compares the variant first.
 bool textComesBefore(const QUuid& left, const QUuid& right) {
     const auto head = [](const QUuid& id) { return std::tie(id.data1, id.data2, id.data3); };
@@ -27,39 +23,45 @@ bool textComesBefore(const QUuid& left, const QUuid& right) {
     return std::memcmp(left.data4, right.data4, sizeof left.data4) < 0;
 }
 
-bool isNewer(const Note& left, const Note& right) {
-    if (left.session->endedAt != right.session->endedAt)
-        return left.session->endedAt > right.session->endedAt;
-    return textComesBefore(left.session->id, right.session->id);
+bool isNewer(const Session* left, const Session* right) {
+    if (left->endedAt != right->endedAt) return left->endedAt > right->endedAt;
+    return textComesBefore(left->id, right->id);
 }
 
-std::vector<Note> notesNewestFirst(SessionRefs sessions) {
-    std::vector<Note> notes;
-    notes.reserve(sessions.size());
-    // The log is oldest first, so a walk from its end leaves little to sort.
-    for (auto at = sessions.rbegin(); at != sessions.rend(); ++at) {
-        QString text = text::withSingleBlanks((*at)->note);
-        if (!text.isEmpty()) notes.push_back({*at, std::move(text)});
-    }
-    if (!std::ranges::is_sorted(notes, isNewer)) std::ranges::sort(notes, isNewer);
-    return notes;
+std::vector<const Session*> newestFirst(SessionRefs sessions) {
+    // The log is oldest first, so its reverse is mostly in order.
+    std::vector<const Session*> ordered(sessions.rbegin(), sessions.rend());
+    if (!std::ranges::is_sorted(ordered, isNewer)) std::ranges::stable_sort(ordered, isNewer);
+    return ordered;
 }
 
-/// Returns the latest notes that differ in more than case.
-std::vector<WrappedNoteDigest::Highlight> highlightsOf(const std::vector<Note>& notes,
-                                                       const std::vector<Skill>& skills) {
-    std::vector<WrappedNoteDigest::Highlight> highlights;
-    QStringList shown; // in lower case
-    for (const auto& [session, text] : notes) {
-        if (highlights.size() == kMostHighlights) break;
+/// The first notes that differ in more than case.
+class Highlights {
+public:
+    explicit Highlights(const std::vector<Skill>& skills) : m_skills(skills) {}
+
+    void add(const Session& session, const QString& text) {
+        if (m_chosen.size() == kMostHighlights) return;
+        // Notes that recur are mostly written alike, which saves lower-casing them.
+        if (std::ranges::find(m_chosen, text, &WrappedNoteDigest::Highlight::text) !=
+            m_chosen.end())
+            return;
         const QString key = text::lowerCased(text);
-        if (shown.contains(key)) continue;
-        shown += key;
-        highlights.push_back(
-            {session->id, text, SkillList::display(session->skillId, skills), session->endedAt});
+        if (m_keys.contains(key)) return;
+        m_keys += key;
+        m_chosen.push_back(
+            {session.id, text, SkillList::display(session.skillId, m_skills), session.endedAt});
     }
-    return highlights;
-}
+
+    [[nodiscard]] std::vector<WrappedNoteDigest::Highlight> take() && {
+        return std::move(m_chosen);
+    }
+
+private:
+    const std::vector<Skill>& m_skills;
+    std::vector<WrappedNoteDigest::Highlight> m_chosen;
+    QStringList m_keys; ///< the chosen notes in lower case
+};
 
 /// "a", "a and b", "a, b, and c".
 QString enumerated(const QStringList& words) {
@@ -73,19 +75,21 @@ QString enumerated(const QStringList& words) {
 
 std::optional<WrappedNoteDigest> WrappedNoteDigest::compute(SessionRefs sessions,
                                                             const std::vector<Skill>& skills) {
-    std::vector<Note> notes = notesNewestFirst(sessions);
-    if (notes.empty()) return std::nullopt;
-
     WrappedNoteDigest digest;
-    digest.noteCount = static_cast<int>(notes.size());
+    digest.allNotes.reserve(static_cast<qsizetype>(sessions.size()));
     NoteThemes themes;
-    for (const Note& note : notes)
-        themes.addNote(note.text);
+    Highlights highlights(skills);
+    for (const Session* session : newestFirst(sessions)) {
+        QString text = text::withSingleBlanks(session->note);
+        if (text.isEmpty()) continue;
+        themes.addNote(text);
+        highlights.add(*session, text);
+        digest.allNotes += std::move(text);
+    }
+    if (digest.allNotes.isEmpty()) return std::nullopt;
+    digest.noteCount = static_cast<int>(digest.allNotes.size());
     digest.themes = themes.mostFrequent(kMostThemes);
-    digest.highlights = highlightsOf(notes, skills);
-    digest.allNotes.reserve(digest.noteCount);
-    for (Note& note : notes)
-        digest.allNotes += std::move(note.text);
+    digest.highlights = std::move(highlights).take();
     return digest;
 }
 

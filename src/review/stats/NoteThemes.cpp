@@ -5,6 +5,8 @@
 #include <QSet>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <vector>
 
 namespace vantle {
@@ -28,23 +30,26 @@ bool isStopWord(QStringView key) {
     return words.contains(key);
 }
 
-std::u16string_view unitsOf(QStringView text) {
-    return {text.utf16(), static_cast<std::size_t>(text.size())};
+/// Takes four units at a time, since each step waits for the one before.
+std::size_t hashOf(std::u16string_view text) {
+    constexpr std::uint64_t kOdd = 0x9E3779B97F4A7C15;
+    std::uint64_t hash = text.size();
+    const auto add = [&hash](std::uint64_t units) {
+        hash = (hash ^ units) * kOdd;
+        hash ^= hash >> 32;
+    };
+    constexpr std::size_t kUnits = sizeof(std::uint64_t) / sizeof(char16_t);
+    for (; text.size() >= kUnits; text.remove_prefix(kUnits)) {
+        std::uint64_t units = 0;
+        std::memcpy(&units, text.data(), sizeof units);
+        add(units);
+    }
+    std::uint64_t rest = 0;
+    for (const char16_t unit : text)
+        rest = rest << 16 | unit;
+    add(rest);
+    return hash;
 }
-
-char16_t asciiLower(char16_t unit) {
-    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit | 0x20) : unit;
-}
-
-/// FNV-1a over UTF-16 units.
-class Hash {
-public:
-    void add(char16_t unit) { m_value = (m_value ^ unit) * 0x100000001B3u; }
-    [[nodiscard]] std::size_t value() const { return m_value; }
-
-private:
-    std::size_t m_value = 0xCBF29CE484222325u;
-};
 
 template <typename Holds>
 bool allCharacters(const QString& text, Holds holds) {
@@ -65,6 +70,10 @@ bool isAcronym(const QString& piece) {
 
 } // namespace
 
+NoteThemes::Key::Key(QStringView view)
+    : text(view.utf16(), static_cast<std::size_t>(view.size()))
+    , hash(hashOf(text)) {}
+
 void NoteThemes::addNote(QStringView note) {
     for (QStringView word = text::takeWord(note); !word.isEmpty(); word = text::takeWord(note))
         addWord(word);
@@ -74,41 +83,25 @@ void NoteThemes::addNote(QStringView note) {
 void NoteThemes::addWord(QStringView piece) {
     // A character has at least one unit, which rules short pieces out at once.
     if (piece.size() < kFewestCharacters) return;
-    Word& word = entryFor(keyOf(piece), piece);
-    if (word.lastNote == m_note) return;
-    word.lastNote = m_note;
-    ++word.noteCount;
-}
-
-NoteThemes::Key NoteThemes::keyOf(QStringView piece) {
-    const std::u16string_view units = unitsOf(piece);
-    m_key.resize(units.size());
-    Hash hash;
-    char16_t allBits = 0;
-    for (std::size_t i = 0; i < units.size(); ++i) {
-        m_key[i] = asciiLower(units[i]);
-        allBits |= units[i];
-        hash.add(m_key[i]);
+    Word* word = m_bySpelling.value(Key(piece));
+    if (!word) {
+        const QString& spelling = m_spellings.emplace_back(piece.toString());
+        word = &wordWritten(spelling);
+        m_bySpelling.insert(Key(spelling), word);
     }
-    if (allBits < 0x80) return {m_key, hash.value()};
-
-    m_key = text::lowerCased(piece.toString()).toStdU16String();
-    hash = {};
-    for (const char16_t unit : m_key)
-        hash.add(unit);
-    return {m_key, hash.value()};
+    if (word->lastNote == m_note) return;
+    word->lastNote = m_note;
+    ++word->noteCount;
 }
 
-NoteThemes::Word& NoteThemes::entryFor(const Key& key, QStringView piece) {
-    if (Word* const known = m_index.value(key)) return *known;
+NoteThemes::Word& NoteThemes::wordWritten(const QString& spelling) {
+    const QString key = text::lowerCased(spelling);
+    if (Word* const known = m_byKey.value(Key(key))) return *known;
     Word& word = m_words.emplace_back();
-    word.key = QString::fromStdU16String(m_key);
+    word.key = key;
     word.firstNote = m_note;
-    if (countsAsTheme(word.key)) {
-        const QString written = piece.toString();
-        word.display = isAcronym(written) ? written : word.key;
-    }
-    m_index.insert({unitsOf(word.key), key.hash}, &word);
+    if (countsAsTheme(key)) word.display = isAcronym(spelling) ? spelling : key;
+    m_byKey.insert(Key(word.key), &word);
     return word;
 }
 

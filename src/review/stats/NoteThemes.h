@@ -7,8 +7,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <algorithm>
+#include <cstddef>
 #include <deque>
-#include <string>
 #include <string_view>
 
 namespace vantle {
@@ -19,7 +20,7 @@ namespace vantle {
 class NoteThemes {
 public:
     NoteThemes() = default;
-    NoteThemes(const NoteThemes&) = delete; // m_index points into the object
+    NoteThemes(const NoteThemes&) = delete; // the indices point into the object
     NoteThemes& operator=(const NoteThemes&) = delete;
 
     /// Counts each word of the note once.
@@ -39,26 +40,28 @@ private:
         int lastNote = -1; ///< the note that counted it last
     };
 
-    /// A key with its hash, which is computed while the key is put in lower case. This and the
-    /// plain comparison halve the lookup time, which dominates a digest.
+    /// A text with its hash. Lookups dominate a digest, and Qt's hash and comparison of short texts
+    /// take twice as long.
     struct Key {
-        std::u16string_view text;
+        explicit Key(QStringView view);
+
+        std::u16string_view text; ///< not owned
         std::size_t hash;
         friend bool operator==(const Key& left, const Key& right) {
-            return left.text == right.text;
+            return std::ranges::equal(left.text, right.text); // as memory, unlike ==
         }
         friend std::size_t qHash(const Key& key, std::size_t seed) { return key.hash ^ seed; }
     };
 
     void addWord(QStringView piece);
-    [[nodiscard]] Key keyOf(QStringView piece);
-    [[nodiscard]] Word& entryFor(const Key& key, QStringView piece);
+    [[nodiscard]] Word& wordWritten(const QString& spelling);
     [[nodiscard]] static bool comesBefore(const Word& left, const Word& right);
 
     int m_note = 0;           ///< index of the current note
-    std::deque<Word> m_words; ///< a deque, since m_index points to its elements
-    QHash<Key, Word*> m_index;
-    std::u16string m_key; ///< the current word; kept to avoid an allocation for each
+    std::deque<Word> m_words; ///< deques, since the indices point to their elements
+    std::deque<QString> m_spellings;
+    QHash<Key, Word*> m_byKey;
+    QHash<Key, Word*> m_bySpelling; ///< saves lower-casing a word that was met before
 };
 
 } // namespace vantle

@@ -1,7 +1,6 @@
 #include "review/stats/StartRhythm.h"
 
 #include "base/HourLabel.h"
-#include "base/LocalTime.h"
 #include "base/Words.h"
 
 #include <algorithm>
@@ -60,13 +59,6 @@ void putIntoWords(StartRhythm& rhythm, const Hours& perHour, int total) {
 }
 
 } // namespace
-
-StartTimes::StartTimes(SessionRefs sessions, const Calendar& calendar)
-    : m_total(static_cast<int>(sessions.size())) {
-    LocalTime local(calendar);
-    for (const Session* session : sessions)
-        ++m_perMinute[static_cast<std::size_t>(local.at(session->startedAt).second / 60)];
-}
 
 std::optional<int> StartTimes::medianMinutes() const {
     if (m_total < kLeastSessions) return std::nullopt;

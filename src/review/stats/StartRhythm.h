@@ -3,12 +3,12 @@
 // Plain values and pure functions, any thread.
 #pragma once
 
-#include "base/Calendar.h"
-#include "review/stats/SessionRefs.h"
+#include "base/LocalTime.h"
 
 #include <QString>
 
 #include <array>
+#include <cstddef>
 #include <optional>
 
 namespace vantle {
@@ -16,7 +16,11 @@ namespace vantle {
 /// The starts by minute of the day.
 class StartTimes {
 public:
-    StartTimes(SessionRefs sessions, const Calendar& calendar);
+    /// Adds a start by the wall clock.
+    void add(LocalTime::Moment start) {
+        ++m_perMinute[static_cast<std::size_t>(start.second / 60)];
+        ++m_total;
+    }
 
     [[nodiscard]] int total() const { return m_total; }
 

@@ -5,7 +5,6 @@
 #include "review/stats/LogWalk.h"
 #include "review/stats/PersonaWindow.h"
 #include "review/stats/WrappedStats.h"
-#include "tracking/RunningTotals.h"
 #include "tracking/SkillList.h"
 
 #include <algorithm>
@@ -68,24 +67,19 @@ void addDays(WrappedStats& stats, const LogWalk& walk, const std::vector<Skill>&
     std::ranges::reverse(stats.activeYears);
 }
 
-/// Sums over the period's records, one by one.
-void addRecords(WrappedStats& stats, SessionRefs sessions, const std::vector<Skill>& skills) {
-    std::int64_t tracked = 0;
-    std::int64_t manual = 0;
-    const Session* longest = nullptr;
-    totals::DotTally dots;
-    for (const Session* session : sessions) {
-        (session->source == sourceManual() ? manual : tracked) += session->activeSeconds;
-        if (!session->note.isEmpty()) ++stats.notedSessionCount;
-        if (!longest || session->activeSeconds > longest->activeSeconds) longest = session;
-        dots.add(*session);
-    }
-    stats.sessionCount = static_cast<int>(sessions.size());
-    stats.totalHours = asHours(tracked + manual);
-    stats.verifiedHours = asHours(tracked);
-    stats.manualHours = asHours(manual);
-    if (longest) stats.longest = *longest;
-    stats.hourDots = dots.runs(skills);
+/// Adds the sums over the period's records.
+void addRecords(WrappedStats& stats, const LogWalk& walk, const WrappedSettings& settings) {
+    const PeriodSums& sums = walk.sums;
+    stats.sessionCount = static_cast<int>(walk.period.size());
+    stats.notedSessionCount = static_cast<int>(sums.noted.size());
+    stats.totalHours = asHours(sums.trackedSeconds + sums.manualSeconds);
+    stats.verifiedHours = asHours(sums.trackedSeconds);
+    stats.manualHours = asHours(sums.manualSeconds);
+    if (sums.longest) stats.longest = *sums.longest;
+    stats.hourDots = sums.dots.runs(settings.skills);
+    stats.typicalStart = sums.starts.typicalStart(settings.calendar.locale);
+    stats.startRhythm = StartRhythm::compute(sums.starts);
+    stats.noteDigest = WrappedNoteDigest::compute(sums.noted, settings.skills);
 }
 
 void addSkillHours(WrappedStats& stats, const DayLedger& days, const SkillNumbers& numbers,
@@ -130,12 +124,6 @@ std::vector<totals::Badge> earnedIn(const Interval& period, std::vector<totals::
     return badges;
 }
 
-void addStarts(WrappedStats& stats, SessionRefs sessions, const Calendar& calendar) {
-    const StartTimes starts(sessions, calendar);
-    stats.typicalStart = starts.typicalStart(calendar.locale);
-    stats.startRhythm = StartRhythm::compute(starts);
-}
-
 /// Adds the figures of the period's ledger; `numbers` maps its skills.
 void addLedger(WrappedStats& stats, const DayLedger& days, const SkillNumbers& numbers,
                const WrappedSettings& settings, LocalTime& local) {
@@ -172,6 +160,7 @@ void addSuperlatives(WrappedStats& stats, std::optional<int> weekRank,
 WrappedStats WrappedStats::compute(const std::vector<Session>& allSessions, WrappedPeriod period,
                                    const WrappedSettings& settings) {
     const Calendar& calendar = settings.calendar;
+    const bool isAllTime = period == WrappedPeriod::AllTime;
     LocalTime local(calendar);
     LogWalk::Plan plan{settings.now, intervalOf(period, settings)};
     PersonaWindow::addWeeks(plan, period, calendar);
@@ -180,8 +169,8 @@ WrappedStats WrappedStats::compute(const std::vector<Session>& allSessions, Wrap
     WrappedStats stats;
     stats.period = period;
     addDays(stats, walk, settings.skills, local);
-    addRecords(stats, walk.period, settings.skills);
-    if (period == WrappedPeriod::AllTime) {
+    addRecords(stats, walk, settings);
+    if (isAllTime) {
         addLedger(stats, walk.days, walk.skills, settings, local);
     } else {
         SkillNumbers numbers;
@@ -190,9 +179,9 @@ WrappedStats WrappedStats::compute(const std::vector<Session>& allSessions, Wrap
     }
     stats.milestones = earnedIn(plan.period, walk.badges);
     if (!stats.milestones.empty())
-        stats.milestoneDots = totals::hourDotRuns(allSessions, settings.now, settings.skills);
-    addStarts(stats, walk.period, calendar);
-    stats.noteDigest = WrappedNoteDigest::compute(walk.period, settings.skills);
+        stats.milestoneDots = isAllTime
+                                  ? stats.hourDots
+                                  : totals::hourDotRuns(allSessions, settings.now, settings.skills);
     addPersona(stats, walk, settings, local);
 
     std::optional<int> weekRank;

@@ -70,15 +70,14 @@ StatBlock goalBlock(const QString& title, double hours, double goal, std::uint32
 
 std::vector<StatBlock> stats(const Sessions& sessions, const DashboardSetting& setting) {
     const auto& [now, calendar, skills, style, goal] = setting;
-    const double allTime = totals::hoursAllTime(sessions, now);
-    const double milestone = dashformat::nextMilestone(allTime);
-    StatBlock all = block(Words::tr("All time"), allTime, milestone, kSky, style);
+    const totals::Hours hours = totals::hours(sessions, now, calendar);
+    const double milestone = dashformat::nextMilestone(hours.allTime);
+    StatBlock all = block(Words::tr("All time"), hours.allTime, milestone, kSky, style);
     all.context = Words::tr("next milestone %1").arg(dashformat::inlineHours(milestone, style));
     all.invitation = Words::tr("Your first dot lights at 1 h");
-    return {goalBlock(Words::tr("Today"), totals::hoursToday(sessions, now, calendar), goal, kPink,
-                      Words::tr("of %1 goal"), style),
-            goalBlock(Words::tr("This week"), totals::hoursThisWeek(sessions, now, calendar),
-                      goal * 7, kViolet, Words::tr("of %1"), style),
+    return {goalBlock(Words::tr("Today"), hours.today, goal, kPink, Words::tr("of %1 goal"), style),
+            goalBlock(Words::tr("This week"), hours.thisWeek, goal * 7, kViolet, Words::tr("of %1"),
+                      style),
             std::move(all)};
 }
 
@@ -133,12 +132,12 @@ QString shareText(double part, double whole) {
 }
 
 std::vector<RecentLine> recent(const Sessions& sessions, const DashboardSetting& setting) {
-    const auto groups = SessionGroup::grouped(sessions);
+    const auto groups = SessionGroup::grouped(sessions, recentGroups);
     const DateText date =
         DateText::fixed(Words::tr("MMM d · HH:mm", "date pattern"), setting.calendar);
     std::vector<RecentLine> lines;
-    for (auto group = groups.rbegin(); group != groups.rend() && lines.size() < recentGroups;
-         ++group) {
+    lines.reserve(groups.size());
+    for (auto group = groups.rbegin(); group != groups.rend(); ++group) {
         const Skill skill = SkillList::display(group->skillId, setting.skills);
         lines.push_back({date(group->endedAt), QColor::fromRgb(skill.hexRGB), skill.name,
                          dashformat::sessionDuration(group->seconds, setting.style),

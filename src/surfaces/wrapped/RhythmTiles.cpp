@@ -21,7 +21,7 @@ int RhythmTiles::dayAt(double x, double y) const { return m_layout.spotAt({x, y}
 QRectF RhythmTiles::dayArea(int day) const { return isDay(day) ? m_layout.area(day) : QRectF(); }
 
 QString RhythmTiles::dayHelp(int day) const {
-    return isDay(day) ? m_layout.spots[static_cast<std::size_t>(day)].tile.help : QString();
+    return isDay(day) ? m_layout.spots[static_cast<std::size_t>(day)].tile.help() : QString();
 }
 
 void RhythmTiles::paint(QPainter& painter, double /*scale*/) {

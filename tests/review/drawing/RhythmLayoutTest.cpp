@@ -99,7 +99,7 @@ TEST(RhythmLayout, TheDayUnderThePointerIsFoundByItsTile) {
     EXPECT_EQ(month.spotAt(month.area(3).topLeft() - QPointF(0.5, 0.5)), 3) << "nearly";
     EXPECT_EQ(month.spotAt({49, 100}), -1) << "between two";
     EXPECT_EQ(month.spotAt({10, 40}), -1) << "a blank";
-    EXPECT_EQ(month.spots[9].tile.help, QStringLiteral("Tue, Mar 10 · 1.5 h"));
+    EXPECT_EQ(month.spots[9].tile.help(), QStringLiteral("Tue, Mar 10 · 1.5 h"));
 }
 
 TEST(RhythmLayout, WeeksBeginWhereTheLocaleBeginsThemAndRunFromLeftToRightEverywhere) {

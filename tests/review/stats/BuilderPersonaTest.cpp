@@ -31,6 +31,15 @@ TEST(BuilderPersona, NoSessionsHaveNoPersona) {
     EXPECT_EQ(compute({}, kUtc, DurationStyle::Natural), std::nullopt);
 }
 
+TEST(BuilderPersona, AGradientGoesFromOneColourToAnother) {
+    const std::vector<Session> sessions = ofSkills({3600, 3600, 3600});
+    const auto persona = compute(refsTo(sessions), kUtc, DurationStyle::Natural);
+    ASSERT_TRUE(persona);
+    EXPECT_NE(persona->startHex, 0U);
+    EXPECT_NE(persona->endHex, 0U);
+    EXPECT_NE(persona->startHex, persona->endHex);
+}
+
 TEST(BuilderPersona, TheEarlierOfTwoEqualPartsOfTheDayWins) {
     const std::vector sessions = {worked("2026-03-10T19:00:00Z", 30),
                                   worked("2026-03-10T07:00:00Z", 30)};

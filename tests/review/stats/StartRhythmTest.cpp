@@ -7,30 +7,28 @@
 namespace vantle {
 namespace {
 
-using samples::worked;
 using testing::ElementsAre;
 
 /// One start per time of day in UTC, as in "0730".
 class Starts {
 public:
     explicit Starts(const std::vector<const char*>& times) {
+        LocalTime local(samples::calendarIn(QStringLiteral("UTC")));
         for (const std::string time : times)
-            m_sessions.push_back(
-                worked("2026-03-10T" + time.substr(0, 2) + ":" + time.substr(2) + ":00Z", 10));
+            m_times.add(local.at(
+                samples::at("2026-03-10T" + time.substr(0, 2) + ":" + time.substr(2) + ":00Z")));
     }
 
-    [[nodiscard]] StartTimes times() const {
-        return {refsTo(m_sessions), samples::calendarIn(QStringLiteral("UTC"))};
-    }
+    [[nodiscard]] const StartTimes& times() const { return m_times; }
     [[nodiscard]] std::optional<StartRhythm> rhythm() const {
-        return StartRhythm::compute(times());
+        return StartRhythm::compute(m_times);
     }
     [[nodiscard]] std::optional<QString> typical(const char* locale = "en_US") const {
-        return times().typicalStart(QLatin1String(locale));
+        return m_times.typicalStart(QLatin1String(locale));
     }
 
 private:
-    std::vector<Session> m_sessions;
+    StartTimes m_times;
 };
 
 TEST(StartRhythm, TwoSessionsGiveNoRhythm) {
@@ -121,10 +119,11 @@ TEST(StartRhythm, StartsWithoutADominantBandAreSpread) {
 
 TEST(StartRhythm, UsesTheWallClockAcrossAClockChange) {
     // 02:30 in Berlin, twice: the night on which clocks went back.
-    const std::vector sessions = {worked("2026-10-25T00:30:00Z", 10),
-                                  worked("2026-10-25T01:30:00Z", 10),
-                                  worked("2026-10-25T00:30:00Z", 10)};
-    const StartTimes times(refsTo(sessions), samples::calendarIn(QStringLiteral("Europe/Berlin")));
+    LocalTime berlin(samples::calendarIn(QStringLiteral("Europe/Berlin")));
+    StartTimes times;
+    for (const char* const start :
+         {"2026-10-25T00:30:00Z", "2026-10-25T01:30:00Z", "2026-10-25T00:30:00Z"})
+        times.add(berlin.at(samples::at(start)));
     EXPECT_EQ(times.perHour()[2], 3);
 }
 

@@ -74,6 +74,18 @@ RC_GTEST_PROP(WrappedStatsProperties, APeriodIsTheSumOfItsDays, ()) {
     RC_ASSERT(stats.goalHitDays <= stats.activeDays);
 }
 
+RC_GTEST_PROP(WrappedStatsProperties, MilestonesShowTheDotsOfTheWholeLog, ()) {
+    const Sessions sessions = *generators::history();
+    const WrappedSettings settings = someSettings();
+    const auto stats = WrappedStats::compute(sessions, somePeriod(), settings);
+    auto all = totals::hourDotRuns(sessions, settings.now, settings.skills);
+    if (stats.milestones.empty()) all.clear();
+    const auto isSame = [](const totals::DotRun& left, const totals::DotRun& right) {
+        return left.count == right.count && left.skill == right.skill;
+    };
+    RC_ASSERT(std::ranges::equal(stats.milestoneDots, all, isSame));
+}
+
 RC_GTEST_PROP(WrappedStatsProperties, NoPeriodCountsASessionTwice, ()) {
     const Sessions sessions = *generators::history();
     const WrappedSettings settings = someSettings();

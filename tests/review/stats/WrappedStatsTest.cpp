@@ -51,6 +51,16 @@ TEST(WrappedStats, EmptyLogGivesEmptyStats) {
     }
 }
 
+TEST(WrappedStats, ThreeStartsMakeARhythm) {
+    const std::vector sessions = {worked("2026-03-09T09:00:00Z", 60),
+                                  worked("2026-03-10T09:00:00Z", 60),
+                                  worked("2026-03-11T09:00:00Z", 60)};
+    const auto stats =
+        WrappedStats::compute(sessions, WrappedPeriod::Week, settingsAt("2026-03-11T14:00:00Z"));
+    ASSERT_TRUE(stats.startRhythm);
+    EXPECT_EQ(stats.startRhythm->peakHour, 9);
+}
+
 TEST(WrappedStats, ASessionAcrossMidnightBelongsToTheDayOfItsEndButStartsBefore) {
     // 23:50 to 00:20 in Berlin, three times over.
     const std::vector sessions(3, worked("2026-03-10T22:50:00Z", 30));

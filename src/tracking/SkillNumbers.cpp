@@ -1,4 +1,4 @@
-#include "review/stats/SkillNumbers.h"
+#include "tracking/SkillNumbers.h"
 
 namespace vantle {
 
