@@ -24,7 +24,7 @@ namespace {
 constexpr int kRounds = 12;
 constexpr int kOpening = 700; // ms, in which the spring comes to rest
 constexpr int kClosing = 400;
-constexpr int kClosed = 10'000;
+constexpr int kClosed = 10'000; // ends after the view is gone
 
 class Moving final : public ReducedMotion {
 public:
@@ -48,14 +48,16 @@ int run() {
     X11Connection x11;
     X11RawPresses presses(x11);
     X11PanelHost host(x11, scheduler, presses);
-    QQmlEngine engine;
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    const auto engine = std::make_shared<QQmlEngine>();
+    engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
     const ScreenShape screen{.frame = QRectF(0, 0, 1440, 900),
                              .available = QRectF(0, 0, 1440, 900)};
     auto capsule = makeCapsule({scheduler, preferences, motion, text}, screen);
     const Placement place = capsule::placement(capsule->metrics(), screen);
-    auto window = CapsuleWindow::raise(std::move(capsule), place, engine, host);
-    if (!window) return 1;
+    auto window = std::make_unique<CapsuleWindow>(
+        CapsuleWindow::Environment{scheduler, host, [engine] { return engine; }},
+        std::move(capsule), place);
+    window->prepare();
     runFor(1000);
 
     std::vector<double> frames;

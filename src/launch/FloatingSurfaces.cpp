@@ -13,9 +13,7 @@ FloatingSurfaces::FloatingSurfaces(const Platform& platform, Scheduler& schedule
     : m_platform(platform)
     , m_scheduler(scheduler)
     , m_engines(engine)
-    , m_engine(engine.acquire())
-    , m_cardStage({[this]() -> QQmlEngine& { return *m_engines.acquire(); }, platform.panelHost,
-                   platform.screens}) {}
+    , m_cardStage({[this] { return m_engines.acquire(); }, platform.panelHost, platform.screens}) {}
 
 FloatingSurfaces::~FloatingSurfaces() {
     // deleteLater() needs an event loop, and it has ended.
@@ -29,8 +27,10 @@ std::unique_ptr<collaborators::Notch> FloatingSurfaces::makeNotch() {
         .reducedMotion = m_platform.reducedMotion,
         .screens = m_platform.screens,
         .raise = [this](std::unique_ptr<NotchCapsule> capsule, const Placement& placement) {
-            return CapsuleWindow::raise(std::move(capsule), placement, *m_engines.acquire(),
-                                        m_platform.panelHost);
+            return std::make_unique<CapsuleWindow>(
+                CapsuleWindow::Environment{m_scheduler, m_platform.panelHost,
+                                           [this] { return m_engines.acquire(); }},
+                std::move(capsule), placement);
         }});
 }
 

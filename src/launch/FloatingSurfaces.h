@@ -4,8 +4,6 @@
 #include "app/Collaborators.h"
 #include "surfaces/cards/QuickCardStage.h"
 
-#include <QQmlEngine>
-
 #include <memory>
 
 namespace vantle {
@@ -28,7 +26,6 @@ private:
     const Platform& m_platform;
     Scheduler& m_scheduler;
     SharedEngine& m_engines;
-    const std::shared_ptr<QQmlEngine> m_engine; ///< kept, since the capsule nearly always exists
     QuickCardStage m_cardStage;
 };
 

@@ -85,13 +85,14 @@ Program::Program(const Platform& platform, const Process& process)
     , m_ceremony(m_platform, process.clock, process.scheduler,
                  process.makeQueue(QLatin1String(RippleOverlayController::prepQueueLabel)))
     , m_textScale(qGuiApp->devicePixelRatio())
-    , m_viewEngine([this](QQmlEngine& engine) {
-        Motion::of(engine)->setReduced(m_platform.reducedMotion.enabled());
-        const ReadingWishes& wishes = m_platform.readingWishes;
-        DarkUI* const tokens = DarkUI::of(engine);
-        tokens->setPalette(wishes.moreContrast() ? look::kContrasted : look::kDark);
-        tokens->setTextScale(m_textScale.beyondScreen(wishes.textScale()));
-    })
+    , m_viewEngine(process.scheduler,
+                   [this](QQmlEngine& engine) {
+                       Motion::of(engine)->setReduced(m_platform.reducedMotion.enabled());
+                       const ReadingWishes& wishes = m_platform.readingWishes;
+                       DarkUI* const tokens = DarkUI::of(engine);
+                       tokens->setPalette(wishes.moreContrast() ? look::kContrasted : look::kDark);
+                       tokens->setTextScale(m_textScale.beyondScreen(wishes.textScale()));
+                   })
     , m_surfaces(m_platform, process.scheduler, m_viewEngine)
     , m_delegate(environment()) {
     QObject::connect(&platform.reducedMotion, &ReducedMotion::changed, &m_context,

@@ -103,7 +103,7 @@ protected:
     fakes::ManualQueue ioQueue;
     fakes::ManualQueue autoSkillQueue;
     fakes::FakeCardStage cardStage;
-    SharedEngine viewEngine;
+    SharedEngine viewEngine{time};
     AppPaths paths{disk, platform.folders.data};
     PosterSharing posterSharing{{clipboard, saveDialog, disk, time, ioQueue}};
     QString capsule; ///< what it shows; empty when there is none

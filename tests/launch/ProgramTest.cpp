@@ -92,10 +92,13 @@ protected:
     std::unique_ptr<Program> program;
 };
 
-TEST_F(ProgramTest, ShowsPanelAndCapsuleAtAStartByHand) {
+TEST_F(ProgramTest, ShowsThePanelAtAStartByHandAndTheCapsuleWhereThePointerRests) {
     start();
-    EXPECT_EQ(floating(), (QStringList{text("Vantle Capsule"), text("Vantle Command Center")}));
+    EXPECT_EQ(floating(), QStringList{text("Vantle Command Center")});
     Q_EMIT trayItem.clicked({1000, 14});
+    EXPECT_EQ(floating(), QStringList());
+    ASSERT_TRUE(panelHost.sensor);
+    panelHost.movePointer(panelHost.sensor->part.center());
     EXPECT_EQ(floating(), QStringList{text("Vantle Capsule")});
 }
 

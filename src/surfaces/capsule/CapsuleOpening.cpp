@@ -12,6 +12,7 @@ constexpr Seconds kWatch{0.1};
 
 void CapsuleOpening::expand() {
     if (m_isExpanded) return;
+    m_env.opens();
     m_isExpanded = true;
     m_collapseWork.reset();
     m_env.changed();

@@ -16,6 +16,8 @@ public:
         Scheduler& scheduler;
         /// Whether the pointer is in the input area now. False without a window.
         std::function<bool()> pointerInside;
+        /// Called before isExpanded() becomes true.
+        std::function<void()> opens;
         /// Called after each change of isExpanded().
         std::function<void()> changed;
     };

@@ -15,58 +15,88 @@ constexpr double kOverlayRoom = 56; // below the menu or the editor, for their s
 
 } // namespace
 
-std::unique_ptr<CapsuleWindow> CapsuleWindow::raise(std::unique_ptr<NotchCapsule> capsule,
-                                                    const Placement& placement, QQmlEngine& engine,
-                                                    PanelHost& host) {
-    std::unique_ptr<CapsuleWindow> window(
-        new CapsuleWindow(std::move(capsule), placement, engine, host));
-    NotchCapsule& shown = window->capsule();
-    if (!window->panel().load(
-            QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Capsule/NotchCapsuleView.qml")),
-            {{QStringLiteral("capsule"), QVariant::fromValue(&shown)}}))
-        return nullptr;
-    window->follow();
-    return window;
+CapsuleWindow::CapsuleWindow(Environment environment, std::unique_ptr<NotchCapsule> capsule,
+                             const Placement& placement)
+    : m_env(std::move(environment))
+    , m_placement(placement)
+    , m_capsule(capsule.release()) {
+    m_capsule->setStage(this);
+    follow();
 }
 
-CapsuleWindow::CapsuleWindow(std::unique_ptr<NotchCapsule> capsule, const Placement& placement,
-                             QQmlEngine& engine, PanelHost& host)
-    : m_host(host)
-    , m_placement(placement)
-    , m_capsule(capsule.release())
-    , m_panel(new FloatingPanel(engine, host)) {
+CapsuleWindow::~CapsuleWindow() {
+    if (m_panel) m_panel->disconnect(m_capsule.get());
+    m_capsule->retire();
+    m_capsule->setStage(nullptr);
+    if (m_panel) m_panel->hide();
+}
+
+void CapsuleWindow::prepare() {
+    if (!m_panel) loadView();
+    follow();
+}
+
+void CapsuleWindow::loadView() {
+    auto engine = m_env.engine();
+    m_panel.reset(new FloatingPanel(*engine, m_env.host));
+    QObject::connect(m_panel.get(), &QObject::destroyed, [kept = std::move(engine)] {});
     m_panel->setTitle(Words::tr("Vantle Capsule"));
-    m_capsule->setStage(this);
     QObject::connect(m_panel.get(), &FloatingPanel::keyboardLost, m_capsule.get(),
                      &NotchCapsule::dismissOverlay);
     QObject::connect(m_panel.get(), &FloatingPanel::compositedChanged, m_capsule.get(),
                      [this] { follow(); });
+    const bool isLoaded =
+        m_panel->load(QUrl(QStringLiteral("qrc:/qt/qml/Vantle/Capsule/NotchCapsuleView.qml")),
+                      {{QStringLiteral("capsule"), QVariant::fromValue(m_capsule.get())}});
+    if (!isLoaded) m_panel.reset();
 }
 
-CapsuleWindow::~CapsuleWindow() {
+void CapsuleWindow::dropView() {
     m_panel->disconnect(m_capsule.get());
-    m_capsule->retire();
-    m_capsule->setStage(nullptr);
     m_panel->hide();
+    m_panel.reset();
 }
 
 bool CapsuleWindow::pointerInside(const QRectF& part) const {
-    return m_panel->pointerInside(part.toAlignedRect());
+    return m_panel && m_panel->pointerInside(part.toAlignedRect());
+}
+
+void CapsuleWindow::takeKeyboard() {
+    if (m_panel) m_panel->takeKeyboard();
+}
+
+void CapsuleWindow::returnKeyboard() {
+    if (m_panel) m_panel->returnKeyboard();
 }
 
 void CapsuleWindow::follow() {
-    if (m_panel->rootObject() == nullptr) return; // the view is still loading
+    if (m_panel && m_panel->rootObject() == nullptr) return; // the view is still loading
     sensePointer();
+    if (needsView()) {
+        m_drop.reset();
+        if (!m_panel) loadView();
+    } else if (m_panel && !m_drop) {
+        m_drop = m_env.scheduler.scheduleOnce(viewKept, [this] {
+            const TimerHandle spent = std::move(m_drop);
+            dropView();
+        });
+    }
+    if (!m_panel) return;
     if (mustHide())
         m_panel->hide();
     else
         m_panel->showAt(placement());
 }
 
-/// Without a compositor the window exists only while the capsule is open; without input regions it
-/// does not stay for the fade.
+bool CapsuleWindow::needsView() const {
+    return m_capsule->isExpanded() || m_capsule->hasNotch() ||
+           (!m_sensor && !m_capsule->freeStrip().isEmpty());
+}
+
+/// Without a compositor the window is shown only while the capsule is open; without input regions
+/// it does not stay for the fade.
 bool CapsuleWindow::mustHide() const {
-    if (m_capsule->isLeaving() && !m_host.hasInputRegions()) return true;
+    if (m_capsule->isLeaving() && !m_env.host.hasInputRegions()) return true;
     return !m_panel->isComposited() && !m_capsule->isExpanded();
 }
 
@@ -75,7 +105,7 @@ void CapsuleWindow::sensePointer() {
     if (strip.isEmpty())
         m_sensor.reset();
     else if (!m_sensor)
-        m_sensor = m_host.senseAt(m_placement, strip, [this] { m_capsule->pointerRested(); });
+        m_sensor = m_env.host.senseAt(m_placement, strip, [this] { m_capsule->pointerRested(); });
 }
 
 /// The window covers the strip only without a pointer sensor: it takes the presses there.

@@ -44,6 +44,9 @@ NotchCapsule::NotchCapsule(const Environment& environment, Form form, const Scre
         commitEdit(id, name, hexRGB);
     })
     , m_opening({environment.scheduler, [this] { return pointerInHoverRegion(); },
+                 [this] {
+                     if (m_stage != nullptr) m_stage->prepare();
+                 },
                  [this] { openedOrClosed(); }}) {
     m_chips.show(m_form.skills, m_form.skill.id);
     connect(&m_editor, &SkillEditor::opened, this, [this] {

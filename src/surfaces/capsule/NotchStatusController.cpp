@@ -63,8 +63,9 @@ void NotchStatusController::present(NotchCapsule::Form form) {
     const auto chosen = NotchMetrics::chooseScreen(screens);
     if (!chosen) return;
     const ScreenShape& screen = screens[*chosen];
+    if (!m_text) m_text.emplace();
     auto made = std::make_unique<NotchCapsule>(
-        NotchCapsule::Environment{m_env.scheduler, m_env.preferences, m_env.reducedMotion, m_text},
+        NotchCapsule::Environment{m_env.scheduler, m_env.preferences, m_env.reducedMotion, *m_text},
         form, screen);
     const Placement placement = capsule::placement(made->metrics(), screen);
     m_panel = m_env.raise(std::move(made), placement);

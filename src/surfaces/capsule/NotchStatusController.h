@@ -62,7 +62,9 @@ private:
     void flash(Seconds hold);
 
     Environment m_env;
-    CapsuleText m_text;
+    /// Made for the first capsule: its typefaces load fontconfig, which the tray item should not
+    /// wait for.
+    std::optional<CapsuleText> m_text;
     std::unique_ptr<CapsulePanel> m_panel;
     /// What is shown, to rebuild it on another screen.
     std::optional<NotchCapsule::Form> m_lastForm;

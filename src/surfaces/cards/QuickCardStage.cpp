@@ -165,14 +165,16 @@ std::unique_ptr<CardPanel> QuickCardStage::raise(CardView view, std::shared_ptr<
     if (!isToast)
         properties.insert(QStringLiteral("groundWidth"),
                           cardplacement::cardWidth(chosen->available.toRect()));
-    auto panel = std::make_unique<FloatingPanel>(m_env.engine(), m_env.panelHost);
+    auto engine = m_env.engine();
+    auto panel = std::make_unique<FloatingPanel>(*engine, m_env.panelHost);
     if (!panel->load(sourceOf(view), properties)) return nullptr;
     arrange(*panel->rootObject());
     panel->setTitle(titleOf(view));
     std::erase_if(m_windows, [](const auto& window) { return window.isNull(); });
     m_windows.emplace_back(panel.get());
-    // Keeps the model until the view has faded out.
-    QObject::connect(panel.get(), &QObject::destroyed, [model = std::move(model)] {});
+    // Keeps both until the view has faded out.
+    QObject::connect(panel.get(), &QObject::destroyed,
+                     [model = std::move(model), engine = std::move(engine)] {});
     return std::make_unique<QuickCardPanel>(*panel.release(), !isToast);
 }
 

@@ -21,8 +21,9 @@ class PanelHost;
 class QuickCardStage final : public CardStage {
 public:
     struct Environment {
-        /// Returns the engine for another view; it must find the program's modules.
-        std::function<QQmlEngine&()> engine;
+        /// Returns the engine for another view, which keeps it until destroyed; it must find the
+        /// program's modules.
+        std::function<std::shared_ptr<QQmlEngine>()> engine;
         PanelHost& panelHost;
         const Screens& screens;
     };

@@ -28,9 +28,9 @@ void LogView::reload() {
     m_filters.setSkills(m_rows.content().log.skills);
     if (!m_editingId.isEmpty() && !entry(m_editingId)) cancelEdit();
 
-    const auto& [log, visible, now, calendar, style, filter] = m_rows.content();
-    m_dayEnds =
-        m_env.scheduler.scheduleOnce(LocalTime(calendar).endOfDay(now) - now, [this] { reload(); });
+    const NoteRows::Content& shown = m_rows.content();
+    m_dayEnds = m_env.scheduler.scheduleOnce(
+        LocalTime(shown.calendar).endOfDay(shown.now) - shown.now, [this] { reload(); });
     Q_EMIT shownChanged();
 }
 
@@ -71,13 +71,13 @@ QString LogView::countText() const {
 }
 
 QString LogView::subtitleText() const {
-    const auto& [log, visible, now, calendar, style, filter] = m_rows.content();
-    return noteslog::subtitleText(log, visible, m_filter.isFiltering(), style);
+    const NoteRows::Content& shown = m_rows.content();
+    return noteslog::subtitleText(shown.log, shown.visible, m_filter.isFiltering(), shown.style);
 }
 
 QString LogView::footerText() const {
-    const auto& [log, visible, now, calendar, style, filter] = m_rows.content();
-    return noteslog::footerText(log, visible, style);
+    const NoteRows::Content& shown = m_rows.content();
+    return noteslog::footerText(shown.log, shown.visible, shown.style);
 }
 
 const LogEntry* LogView::entry(const QString& id) const {

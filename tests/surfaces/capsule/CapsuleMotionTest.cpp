@@ -42,8 +42,12 @@ protected:
                                                       world.screens.shapes.front());
         const Placement place =
             capsule::placement(capsule->metrics(), world.screens.shapes.front());
-        window = CapsuleWindow::raise(std::move(capsule), place, *engine, host);
-        ASSERT_TRUE(window);
+        window = std::make_unique<CapsuleWindow>(
+            CapsuleWindow::Environment{
+                world.tracking.time, host,
+                [] { return std::shared_ptr<QQmlEngine>(engine, [](QQmlEngine*) {}); }},
+            std::move(capsule), place);
+        window->prepare();
         window->panel().setColor(Qt::green); // what lies below; the capsule has no green
         animations.pass(50);
     }
@@ -113,6 +117,18 @@ protected:
     static inline QQmlEngine* engine = nullptr;
     std::unique_ptr<CapsuleWindow> window;
 };
+
+TEST_F(CapsuleMotionTest, OpensByItsSpringAlsoWhenTheViewIsMadeForIt) {
+    raise(world.idleForm());
+    world.tracking.time.advance(CapsuleWindow::viewKept.count());
+    ASSERT_FALSE(window->hasView());
+    window->capsule().expand();
+    ASSERT_TRUE(window->hasView());
+    window->panel().setColor(Qt::green);
+    const std::vector<int> widths = over(kOpened, [this] { return width(); });
+    EXPECT_LT(widths[5], openFrame().width() - 20) << "on its way after 60 ms";
+    EXPECT_EQ(widths.back(), openFrame().width());
+}
 
 TEST_F(CapsuleMotionTest, OpensByASpringThatGoesALittleTooFar) {
     raise(world.idleForm());

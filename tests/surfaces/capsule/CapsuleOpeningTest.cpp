@@ -30,7 +30,7 @@ protected:
     fakes::VirtualTime time;
     bool pointerInside = false;
     int changes = 0;
-    CapsuleOpening opening{{time, [this] { return pointerInside; }, [this] { ++changes; }}};
+    CapsuleOpening opening{{time, [this] { return pointerInside; }, [] {}, [this] { ++changes; }}};
 };
 
 TEST_F(CapsuleOpeningTest, ItRestsUntilThePointerComes) {

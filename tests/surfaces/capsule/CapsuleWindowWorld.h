@@ -43,13 +43,20 @@ protected:
     }
 
     void raise(NotchCapsule::Form form) {
+        raiseClosed(std::move(form));
+        window->capsule().expand();
+        settle();
+    }
+    void raiseClosed(NotchCapsule::Form form) {
         auto capsule = std::make_unique<NotchCapsule>(world.environment(), std::move(form),
                                                       world.screens.shapes.front());
         const Placement place =
             capsule::placement(capsule->metrics(), world.screens.shapes.front());
-        window = CapsuleWindow::raise(std::move(capsule), place, *engine, host);
-        ASSERT_TRUE(window);
-        window->capsule().expand();
+        window = std::make_unique<CapsuleWindow>(
+            CapsuleWindow::Environment{
+                world.tracking.time, host,
+                [] { return std::shared_ptr<QQmlEngine>(engine, [](QQmlEngine*) {}); }},
+            std::move(capsule), place);
         settle();
     }
     void raiseIdle() { raise(world.idleForm()); }

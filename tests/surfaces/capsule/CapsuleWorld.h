@@ -15,6 +15,7 @@ struct FakeStage final : CapsuleStage {
     [[nodiscard]] bool pointerInside(const QRectF& part) const override {
         return part.contains(pointer);
     }
+    void prepare() override {}
     void follow() override { ++follows; }
     void takeKeyboard() override { hasKeyboard = true; }
     void returnKeyboard() override { hasKeyboard = false; }

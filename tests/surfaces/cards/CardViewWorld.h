@@ -84,7 +84,9 @@ protected:
     QQmlEngine engine;
     fakes::FakePanelHost host;
     fakes::FakeScreens screens;
-    QuickCardStage windowStage{{[this]() -> QQmlEngine& { return engine; }, host, screens}};
+    QuickCardStage windowStage{
+        {[this] { return std::shared_ptr<QQmlEngine>(&engine, [](QQmlEngine*) {}); }, host,
+         screens}};
     CardEnvironment windowEnvironment{time, preferences, skills,   notifications,
                                       slot, windowStage, questions};
 };

@@ -55,7 +55,7 @@ protected:
     fakes::FakeWindowManager manager;
     fakes::FakePointerPresses presses;
     OpenQuestions questions;
-    SharedEngine engine;
+    SharedEngine engine{world.time};
     QRect item = kItem;
     WindowRouter router{{engine, world.preferences, screens, host, manager, world.time, {}},
                         world.notifications};
@@ -143,6 +143,7 @@ TEST_F(CommandCenterControllerTest, AHiddenPanelLeavesNothing) {
     EXPECT_TRUE(engine.isAlive());
     controller->hide();
     deleteWhatIsHidden();
+    world.time.advance(SharedEngine::kept.count());
     EXPECT_FALSE(engine.isAlive());
 }
 

@@ -65,13 +65,13 @@ protected:
     fakes::FakePanelHost host;
     fakes::FakeWindowManager manager;
     fakes::MemoryPreferences preferences;
-    SharedEngine engine;
+    fakes::VirtualTime time;
+    SharedEngine engine{time};
     WindowRules fixed;
     WindowRules filling;
     bool tall = false;
     QPointer<QObject> model; ///< of the window that was opened last
     std::function<void()> closeFromView;
-    fakes::VirtualTime time;
     WindowEnvironment environment{engine, preferences, screens, host, manager, time, {}};
 };
 
@@ -108,7 +108,23 @@ TEST_F(ManagedWindowTest, AClosedWindowLeavesNothingOfItsView) {
     deleteWhatIsClosed();
     EXPECT_TRUE(shell.isNull());
     EXPECT_TRUE(model.isNull());
+    time.advance(SharedEngine::kept.count());
     EXPECT_FALSE(engine.isAlive());
+}
+
+TEST_F(ManagedWindowTest, WindowOpenedSoonAfterAnotherClosedFindsItsEngine) {
+    ManagedWindow window(environment, fixed, content("Fixed.qml"));
+    ASSERT_TRUE(window.show());
+    const QPointer<QObject> before = engine.acquire().get();
+    for (int round = 0; round < 3; ++round) {
+        window.close();
+        deleteWhatIsClosed();
+        time.advance(SharedEngine::kept.count() - 1);
+        ASSERT_TRUE(window.show());
+        EXPECT_EQ(engine.acquire().get(), before);
+    }
+    time.advance(10 * SharedEngine::kept.count());
+    EXPECT_FALSE(before.isNull()) << "the window has it";
 }
 
 TEST_F(ManagedWindowTest, AReopenedWindowHasAFreshViewTree) {

@@ -43,9 +43,9 @@ protected:
     fakes::FakePanelHost host;
     fakes::FakeWindowManager manager;
     fakes::MemoryPreferences preferences;
-    SharedEngine engine;
-    NotificationCenter notifications;
     fakes::VirtualTime time;
+    SharedEngine engine{time};
+    NotificationCenter notifications;
     WindowRouter router{{engine, preferences, screens, host, manager, time, {}}, notifications};
 };
 
