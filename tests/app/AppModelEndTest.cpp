@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 
 namespace vantle::tests {
@@ -186,6 +187,14 @@ TEST_F(AppModelEndTest, UnansweredOfferOutlivesASplitSession) {
     EXPECT_TRUE(isOfferedNext());
 }
 
+TEST_F(AppModelEndTest, WhatWasChosenLastIsOnDiskWhenTheEndReturns) {
+    AppModel& model = world.launch();
+    model.selectSkill(text("marketing"), AppModel::SkillSelectionOrigin::Human);
+    model.prepareForTermination();
+    EXPECT_EQ(world.preferences.saved(), world.preferences.texts());
+    EXPECT_EQ(world.preferences.saved().value(settings::lastUsedSkill.key()), text("marketing"));
+}
+
 TEST_F(AppModelEndTest, OfferWhoseKeepFailsStaysUnanswered) {
     leaveKilledSession();
     AppModel& model = world.launch();
@@ -290,6 +299,21 @@ TEST_F(AppModelEndTest, EraseInASessionLeavesNothing) {
     EXPECT_EQ(world.preferences.string(text("skill.lastUsed")), std::nullopt);
     EXPECT_EQ(world.told.calls,
               (QStringList{text("recovery hide"), text("notch idle building flash 0")}));
+}
+
+TEST_F(AppModelEndTest, ErasedFilesStayAwayAfterALossOfPower) {
+    AppModel& model = world.launch();
+    world.press();
+    world.press();
+    world.files.forgetCalls();
+    EXPECT_EQ(model.eraseEverything(), std::nullopt);
+    using Call = fakes::FaultyFileSystem::Call;
+    const auto& calls = world.files.calls();
+    const auto lastOf = [&](Operation operation) {
+        return std::ranges::find(calls.rbegin(), calls.rend(), operation, &Call::operation);
+    };
+    ASSERT_NE(lastOf(Operation::SyncDirectory), calls.rend());
+    EXPECT_LT(lastOf(Operation::SyncDirectory), lastOf(Operation::Remove)) << "synced last";
 }
 
 TEST_F(AppModelEndTest, ErasedRulesDoNotComeBackFromAQueuedWrite) {

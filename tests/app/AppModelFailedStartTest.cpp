@@ -51,7 +51,9 @@ TEST_F(AppModelFailedStartTest, BackdatedFailedStartShowsTheReasonAndCountsNothi
 TEST_F(AppModelFailedStartTest, SplitWithAFailedSecondHalfKeepsTheFirstAndEndsTheSession) {
     AppModel& model = launched();
     world.linkShortcuts();
+    world.frontmost.application = Application{text("editor"), text("Editor")};
     world.press();
+    EXPECT_EQ(model.sessionBundleId(), text("editor"));
     world.time.advance(90.0);
     world.told.calls.clear();
     // Sets the clock between the end of the first half and the start of the second.

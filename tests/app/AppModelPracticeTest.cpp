@@ -30,6 +30,21 @@ TEST_F(AppModelPracticeTest, APracticeSessionIsShownButLeavesNoTraceInTheLog) {
     EXPECT_EQ(world.note(), QString());
 }
 
+TEST_F(AppModelPracticeTest, TheIdleCapsuleComesBackOnlyAfterTheWelcome) {
+    settings::welcomeDone.remove(world.preferences);
+    AppModel& model = launched();
+    const auto endASession = [this] {
+        world.press();
+        world.time.advance(60.0);
+        world.told.calls.clear();
+        world.press();
+        return !world.told.calls.filter(text("notch idle")).isEmpty();
+    };
+    EXPECT_FALSE(endASession());
+    model.markWelcomeDone();
+    EXPECT_TRUE(endASession());
+}
+
 TEST_F(AppModelPracticeTest, PracticeAfterTheWelcomeLeavesNoRecordEither) {
     AppModel& model = launched();
     model.startPractice();

@@ -189,6 +189,14 @@ TEST_F(AppModelTest, TheSummaryTellsNewHoursAndTheCarry) {
     EXPECT_EQ(world.told.summary->carrySeconds, (3000 + 1500) % 3600);
     EXPECT_FALSE(world.told.summary->isFirstSession);
     EXPECT_FALSE(world.told.summary->spotlightNote);
+    EXPECT_EQ(world.told.summary->session, world.log().back());
+    // Within the second hour none is new.
+    model.toggleVantle();
+    world.idleSource.touch();
+    world.time.advance(10.0);
+    model.toggleVantle();
+    EXPECT_EQ(world.told.summary->newHours, 0);
+    EXPECT_EQ(world.told.summary->session, world.log().back());
 }
 
 TEST_F(AppModelTest, TheHotkeyHintIsGivenOnceAndNotToThoseWhoUseIt) {

@@ -78,6 +78,7 @@ public:
         m_told.summary = content;
         m_told.closeSummary = std::move(onClose);
     }
+    void forgetNote() override { ++m_told.notesForgotten; }
 
 private:
     Told& m_told;
@@ -145,7 +146,9 @@ Collaborators recordingCollaborators(Told& told) {
     return all;
 }
 
-ModelWorld::ModelWorld() {
+ModelWorld::ModelWorld() : ModelWorld(disk) {}
+
+ModelWorld::ModelWorld(FileSystem& other) : storage(other) {
     time.attach(ioQueue);
     time.attach(autoQueue);
     runner.onStart = [this](const Command& command) {
@@ -222,7 +225,7 @@ void ModelWorld::breakWrites(const QString& fileName, bool broken) {
 
 std::vector<Session> ModelWorld::log() { return SessionLog(paths).readAll().sessions; }
 
-bool ModelWorld::hasMarker() const { return disk.content(file("open-session.json")).has_value(); }
+bool ModelWorld::hasMarker() const { return storage.exists(file("open-session.json")); }
 
 QString ModelWorld::note() const { return model->lastActionNote().value_or(QString()); }
 

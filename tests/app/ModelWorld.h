@@ -41,6 +41,7 @@ struct Told {
     std::function<void(const collaborators::TagPrompt::Outcome&)> resolveTag;
     std::function<void(bool)> resolveCorrection;
     bool promptsTaken = true; ///< whether cards may show prompts
+    int notesForgotten = 0;   ///< how often the summary had to drop what was typed into it
 
     [[nodiscard]] int count(const QString& call) const {
         return static_cast<int>(calls.count(call));
@@ -54,6 +55,8 @@ struct Told {
 class ModelWorld {
 public:
     ModelWorld();
+    /// On that file system in place of `disk`, which stays empty. It must outlive the world.
+    explicit ModelWorld(FileSystem& other);
     ~ModelWorld();
 
     /// Starts the program on the disk as it is now.
@@ -83,7 +86,8 @@ public:
     fakes::ManualQueue ioQueue;
     fakes::ManualQueue autoQueue; ///< for auto mode's file
     fakes::MemoryFileSystem disk;
-    fakes::FaultyFileSystem files{disk};
+    FileSystem& storage; ///< what the program's files are on: `disk` or the other one
+    fakes::FaultyFileSystem files{storage};
     fakes::MemoryPreferences preferences;
     fakes::FakeIdleSource idleSource{time};
     fakes::FakeScreenPower screens;

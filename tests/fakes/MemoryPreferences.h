@@ -23,7 +23,7 @@ public:
     void setString(const QString& key, const QString& value) override;
     void remove(const QString& key) override;
     void removeAll() override;
-    void synchronize() override {}
+    void synchronize() override { m_saved = m_texts; }
 
     /// Stores a text without a signal, like an editor outside the program.
     void setRaw(const QString& key, const QString& text) { m_texts[key] = text; }
@@ -34,11 +34,17 @@ public:
     /// Returns the stored text; empty when missing.
     [[nodiscard]] std::optional<QString> raw(const QString& key) const { return string(key); }
 
+    /// All texts by their keys.
+    [[nodiscard]] const QMap<QString, QString>& texts() const { return m_texts; }
+    /// The texts as they were at the last synchronize(), which a loss of power leaves.
+    [[nodiscard]] const QMap<QString, QString>& saved() const { return m_saved; }
+
     /// All keys, sorted.
     [[nodiscard]] QStringList keys() const { return m_texts.keys(); }
 
 private:
     QMap<QString, QString> m_texts;
+    QMap<QString, QString> m_saved;
 };
 
 } // namespace vantle::fakes

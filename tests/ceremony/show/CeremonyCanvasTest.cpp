@@ -241,6 +241,15 @@ TEST(CeremonyCanvas, WhatIsTooFaintIsNotPainted) {
     EXPECT_EQ(canvas.pixels()[36] >> 24, 2U);
 }
 
+TEST(CeremonyCanvas, TheFaintestFlashIsPaintedAndNoneIsNot) {
+    CeremonyCanvas canvas(300, 300, PixelOrder::Bgra);
+    canvas.blendAll(0xFFFFFFFF, 0);
+    EXPECT_TRUE(std::ranges::all_of(canvas.pixels(), [](auto pixel) { return pixel == 0; }));
+    canvas.blendAll(0xFFFFFFFF, 1);
+    EXPECT_TRUE(
+        std::ranges::all_of(canvas.pixels(), [](auto pixel) { return pixel == 0x01010101; }));
+}
+
 TEST(CeremonyCanvas, TheGlowFadesFromTheCentreToItsRadius) {
     CeremonyCanvas canvas(300, 300, PixelOrder::Bgra);
     canvas.drawCenteredGlow(90, 0xFF7A78FF, 0.5);

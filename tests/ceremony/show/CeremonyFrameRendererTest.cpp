@@ -163,6 +163,28 @@ TEST(CeremonyFrame, TheBandOfTheWallTrailsBelowItsLine) {
     EXPECT_EQ(pixel(renderer, 10, 52).red, 0);
 }
 
+TEST(CeremonyFrame, TheLineOfTheWallIsThereOnlyWhileItRises) {
+    CeremonyFrameRenderer renderer(emptyModel(CeremonyVariant::Wall));
+    for (const double t : {0.151, 0.9, 1.54}) {
+        renderer.fillField(t);
+        EXPECT_FALSE(isUniform(renderer)) << t;
+    }
+    for (const double t : {0.149, 1.551, 1.6}) {
+        renderer.fillField(t);
+        EXPECT_TRUE(isUniform(renderer)) << t;
+    }
+}
+
+TEST(CeremonyFrame, TheArmsOfTheSpiralTurnUntil2Point4) {
+    CeremonyFrameRenderer renderer(emptyModel(CeremonyVariant::Spiral));
+    for (const double t : {0.0, 1.2, 2.39}) {
+        renderer.fillField(t);
+        EXPECT_FALSE(isUniform(renderer)) << t;
+    }
+    renderer.fillField(2.4);
+    EXPECT_TRUE(isUniform(renderer));
+}
+
 TEST(CeremonyFrame, TheBurstFlashesOverTheWholeScreen) {
     CeremonyFrameRenderer renderer(emptyModel(CeremonyVariant::Nova, {1440, 900}));
     renderer.fillField(0.5);
@@ -211,12 +233,16 @@ TEST(CeremonyFrame, OnlyATitleGlows) {
 }
 
 TEST(CeremonyFrame, DependsOnItsTimeAlone) {
-    CeremonyFrameRenderer fresh = tests::sampleShow(CeremonyVariant::Nova, {600, 400});
-    CeremonyFrameRenderer used = tests::sampleShow(CeremonyVariant::Nova, {600, 400});
-    for (const double t : {0.7, 3.0, 0.3, 1.2})
-        used.fillField(t);
-    fresh.fillField(1.2);
-    EXPECT_TRUE(std::ranges::equal(fresh.fieldBuffer(), used.fieldBuffer()));
+    for (const CeremonyVariant variant : ceremonyvariant::all) {
+        CeremonyFrameRenderer used = tests::sampleShow(variant, {600, 400});
+        // Glows of other strengths come before each: of the burst, and of the title.
+        for (const double t : {0.7, 3.0, 0.3, 0.55, 0.6, 1.2, 1.8, 1.9, 2.8, 2.9}) {
+            CeremonyFrameRenderer fresh = tests::sampleShow(variant, {600, 400});
+            fresh.fillField(t);
+            used.fillField(t);
+            EXPECT_TRUE(std::ranges::equal(fresh.fieldBuffer(), used.fieldBuffer())) << t;
+        }
+    }
 }
 
 TEST(CeremonyFrame, OnlyTheBurstShakes) {

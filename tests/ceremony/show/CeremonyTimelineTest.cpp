@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace vantle {
@@ -56,6 +57,42 @@ TEST(CeremonyTimeline, TheCaptionShowsFrom0Point3To1Point6) {
     EXPECT_EQ(captionOpacity(1), 0.4);
     EXPECT_NEAR(captionOpacity(1.475), 0.2, 1e-9);
     EXPECT_EQ(captionOpacity(1.6), 0);
+}
+
+/// The largest change of a curve within a thousandth of a second.
+template <typename Curve>
+double largestStep(Curve curve) {
+    double largest = 0;
+    for (int i = -100; i < 3200; ++i)
+        largest = std::max(largest, std::abs(curve((i + 1) / 1000.0) - curve(i / 1000.0)));
+    return largest;
+}
+
+TEST(CeremonyTimeline, NothingJumps) {
+    for (const CeremonyVariant variant : ceremonyvariant::all)
+        EXPECT_LT(largestStep([&](double t) { return plateAlpha(variant, t); }), 0.004);
+    // The title stops breathing where it lifts off, which is too little to be seen.
+    EXPECT_LT(largestStep(titleOpacity), 0.06);
+    EXPECT_LT(largestStep(titleRise), 0.16);
+    EXPECT_LT(largestStep(titleGlow), 0.0034);
+    EXPECT_LT(largestStep(captionOpacity), 0.0017);
+}
+
+TEST(CeremonyTimeline, TheGlowComesAndGoesWithTheTitle) {
+    EXPECT_EQ(titleGlow(1.69), 0);
+    EXPECT_NEAR(titleGlow(1.875), 0.5, 1e-9);
+    EXPECT_EQ(titleGlow(2.05), 1);
+    EXPECT_EQ(titleGlow(2.74), 1);
+    EXPECT_NEAR(titleGlow(2.9), 0.5, 1e-9);
+    EXPECT_NEAR(titleGlow(3.05), 0, 1e-9);
+    EXPECT_EQ(titleGlow(3.2), 0);
+}
+
+TEST(CeremonyTimeline, TheTitleStaysUpUntilTheEnd) {
+    EXPECT_EQ(titleRise(0), -4);
+    EXPECT_NEAR(titleRise(1.85), -4 * 0.125, 1e-9);
+    EXPECT_EQ(titleRise(2.74), 0);
+    EXPECT_EQ(titleRise(3.09), 46);
 }
 
 TEST(CeremonyShake, IsStillOutsideItsThirdOfASecond) {

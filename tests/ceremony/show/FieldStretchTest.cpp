@@ -118,11 +118,11 @@ TEST(FieldStretch, MovesAsAPainterDoesAndLeavesTheRestClear) {
         EXPECT_LE(difference.largest, 5) << shift.x();
         const QPoint left(0, target.height() / 2);
         const QPoint right(target.width() - 1, target.height() / 2);
-        EXPECT_EQ(qAlpha(moved.pixel(shift.x() > 0 ? left : right)), 0) << shift.x();
+        EXPECT_EQ(moved.pixel(shift.x() > 0 ? left : right), 0U) << shift.x();
         EXPECT_NE(qAlpha(moved.pixel(shift.x() > 0 ? right : left)), 0) << shift.x();
         const QPoint top(target.width() / 2, 0);
         const QPoint bottom(target.width() / 2, target.height() - 1);
-        EXPECT_EQ(qAlpha(moved.pixel(shift.y() > 0 ? top : bottom)), 0) << shift.y();
+        EXPECT_EQ(moved.pixel(shift.y() > 0 ? top : bottom), 0U) << shift.y();
         EXPECT_NE(qAlpha(moved.pixel(shift.y() > 0 ? bottom : top)), 0) << shift.y();
     }
 }
@@ -142,6 +142,20 @@ TEST(FieldStretch, OnePixelFillsAll) {
     const QImage image = stretched(single, 9, {}, QSize(9, 9));
     EXPECT_EQ(image.pixel(0, 0), 0x7F102030U);
     EXPECT_EQ(image.pixel(8, 8), 0x7F102030U);
+}
+
+TEST(FieldStretch, HalfOfALevelIsRoundedUp) {
+    const std::vector<std::uint32_t> levels = {0xFF646464U, 0xFF656565U}; // 100 and 101
+    for (const auto instructions :
+         {FieldStretch::Instructions::Best, FieldStretch::Instructions::Plain}) {
+        const QImage across =
+            stretched({QSize(2, 1), levels}, 1, QPointF(0.5, 0), QSize(8, 1), instructions);
+        EXPECT_EQ(across.pixel(1, 0), 0xFF656565U);
+        const QImage down =
+            stretched({QSize(1, 2), levels}, 1, QPointF(0, 0.5), QSize(1, 8), instructions);
+        EXPECT_EQ(down.pixel(0, 1), 0xFF656565U);
+        EXPECT_EQ(down.pixel(0, 0), 0xFF646464U);
+    }
 }
 
 TEST(FieldStretch, WritesIntoAPartOfALargerPictureAlone) {
@@ -167,6 +181,11 @@ TEST(FieldStretch, TheNextFrameOwesNothingToTheOneBefore) {
     EXPECT_EQ(image, stretched(second, 4.1, {}, target));
     kept.stretch(first.pixels, first.size, 3, {}, image);
     EXPECT_EQ(image, stretched(first, 3, {}, target));
+    // As at the end of a shake: nothing else changes.
+    for (const QPointF shift : {QPointF(2, -1), QPointF(-3, 0), QPointF(), QPointF()}) {
+        kept.stretch(first.pixels, first.size, 3, shift, image);
+        EXPECT_EQ(image, stretched(first, 3, shift, target)) << shift.x();
+    }
 }
 
 RC_GTEST_PROP(FieldStretch, VectorInstructionsAnswerAsPlainOnesDo, ()) {
