@@ -9,15 +9,31 @@ namespace vantle::tests {
 
 namespace {
 
-std::optional<QByteArray> dataFile(const fakes::MemoryFileSystem& disk, const QString& name) {
+std::optional<QByteArray> content(FileSystem& disk, const QString& path) {
+    if (auto read = disk.readAll(path)) return read.value();
+    return std::nullopt;
+}
+
+std::optional<QByteArray> dataFile(FileSystem& disk, const QString& name) {
     const QString base = QStringLiteral("/home/ada/.local/share/");
-    if (auto content = disk.content(base + QStringLiteral("Vantle/") + name)) return content;
-    return disk.content(base + QStringLiteral("Hourfold/") + name);
+    if (auto found = content(disk, base + QStringLiteral("Vantle/") + name)) return found;
+    return content(disk, base + QStringLiteral("Hourfold/") + name);
+}
+
+void list(FileSystem& disk, const QString& directory, QStringList& files) {
+    auto names = disk.names(directory);
+    if (!names) {
+        files.append(directory);
+        return;
+    }
+    names.value().sort();
+    for (const QString& name : names.value())
+        list(disk, directory + QLatin1Char('/') + name, files);
 }
 
 } // namespace
 
-Account Account::of(const fakes::MemoryFileSystem& disk) {
+Account Account::of(FileSystem& disk) {
     Account account;
     account.log = dataFile(disk, QStringLiteral("sessions.jsonl")).value_or(QByteArray());
     for (const QByteArray& line : account.log.split('\n')) {
@@ -39,8 +55,9 @@ Account Account::of(const fakes::MemoryFileSystem& disk) {
     account.rules = QJsonValue(QJsonValue::Undefined);
     if (const auto rules = dataFile(disk, QStringLiteral("auto-rules.json")))
         account.rules = QJsonDocument::fromJson(*rules).object().value(QStringLiteral("rules"));
-    account.exported = disk.content(QLatin1String(kExportedFile));
-    account.temporaries = disk.paths().filter(QStringLiteral(".tmp"));
+    account.exported = content(disk, QLatin1String(kExportedFile));
+    list(disk, QStringLiteral("/home/ada"), account.files);
+    account.temporaries = account.files.filter(QStringLiteral(".tmp"));
     return account;
 }
 

@@ -1,7 +1,7 @@
 // What a disk holds, read without a line of the program's own readers.
 #pragma once
 
-#include "fakes/MemoryFileSystem.h"
+#include "platform/FileSystem.h"
 
 #include <QByteArrayList>
 #include <QJsonObject>
@@ -21,10 +21,11 @@ struct Account {
     QJsonValue skills;      ///< undefined without a readable file
     QJsonValue rules;       ///< likewise: `{application: ruling}`
     std::optional<QByteArray> exported;
-    QStringList temporaries; ///< files that no operation should leave behind
+    QStringList files;       ///< paths below the home
+    QStringList temporaries; ///< those of them that no operation should leave behind
 
-    /// Of the data home of ModelWorld, under the present name of the directory or the old one.
-    [[nodiscard]] static Account of(const fakes::MemoryFileSystem& disk);
+    /// Of the home of ModelWorld, under the present name of the data directory or the old one.
+    [[nodiscard]] static Account of(FileSystem& disk);
 
     /// The records that start in that whole second.
     [[nodiscard]] QList<QJsonObject> startingAt(qint64 second) const;

@@ -2,12 +2,13 @@
 #pragma once
 
 #include "lab/CrashStates.h"
+#include "lab/Restart.h"
 #include "lab/Sabotage.h"
-#include "lab/ScriptedLife.h"
 
 #include <functional>
 #include <limits>
 #include <random>
+#include <utility>
 
 namespace vantle::tests {
 
@@ -34,27 +35,6 @@ public:
     void run(double share, std::size_t most = std::numeric_limits<std::size_t>::max());
 
 private:
-    friend class Restart;
-    using OpenSession = ScriptedLife::OpenSession;
-
-    /// What was known when a state was possible.
-    struct Moment {
-        Date now;
-        std::optional<OpenSession> open;
-        std::vector<DiskState> states;
-    };
-
-    /// One deed of a life: what was there before and after it.
-    struct Step {
-        const char* deed;
-        Account before;
-        Account after;
-        QMap<QString, QString> preferences;
-        std::vector<OpenSession> open; ///< at any time of it
-        std::vector<Moment> moments;
-    };
-
-    [[nodiscard]] QMap<QString, QString> preferences() const;
     void noteOpen();
     void follow(fakes::DiskChange change);
     void tell(const QStringList& broken, const QByteArray& story);
@@ -68,7 +48,8 @@ private:
     const Sabotage m_sabotage;
     Saboteur m_saboteur;
     CrashStates m_disk;
-    Step m_step;
+    Step m_step; ///< the one that is being lived
+    std::vector<std::pair<Moment, std::vector<DiskState>>> m_moments; ///< of it
     double m_share = 1;
     std::size_t m_most = 0;
     bool m_goesOn = true;

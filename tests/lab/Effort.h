@@ -30,8 +30,9 @@ public:
     [[nodiscard]] static bool isOneLife() { return qEnvironmentVariableIsSet("VANTLE_LAB_SEED"); }
 
     /// Says how much was done, in the form that `./prove` reads.
-    void tell(const char* what, qint64 count) const {
-        std::cout << "lab: " << m_experiment << ": " << what << ": " << count << std::endl;
+    void tell(const QByteArray& what, qint64 count) const {
+        std::cout << "lab: " << m_experiment << ": " << what.constData() << ": " << count
+                  << std::endl;
     }
 
 private:

@@ -1,11 +1,13 @@
 // Faults that are planted on purpose, each of which the checkers of the lab must find: a checker
 // that nothing can trip proves nothing.
 #include "lab/CrashedLife.h"
+#include "lab/FaultyLife.h"
 #include "support/QtPrinters.h"
 #include "tracking/JsonForm.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <ostream>
 
 namespace vantle::tests {
@@ -141,6 +143,120 @@ TEST_P(PlantedFaultTest, IsFound) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Lab, PlantedFaultTest, testing::ValuesIn(faults()),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+/// A fault for the checker of lives in which the file system fails.
+struct PlantedError {
+    using Fault = FaultyLife::Fault;
+
+    const char* name;
+    const char* promise; ///< the one that must be reported
+    Sabotage sabotage;
+    Fault fault{EIO, -1, 0, {}}; ///< one that the checker knows of
+    /// Anything else; lasts as long as what it returns.
+    std::function<TimerHandle(FaultyLife&)> plant = [](auto&) { return TimerHandle(); };
+    ScriptedLife::Home home = ScriptedLife::Home::Used;
+    friend void PrintTo(const PlantedError& error, std::ostream* out) { *out << error.name; }
+};
+
+/// The clock is set back by what passes, second for second.
+TimerHandle stopClock(FaultyLife& life) {
+    fakes::VirtualTime& time = life.life.world.time;
+    return time.scheduleRepeatingTimer(Seconds(1), Seconds(0), [&time] { time.shiftWall(-1.0); });
+}
+
+/// Fails by itself, with other words than those of the error that the checker knows of.
+TimerHandle failUnknown(FaultyLife& life) {
+    life.life.world.files.fail(FaultyLife::Operation::Sync, QLatin1String(kLog), ENOSPC);
+    return {};
+}
+
+/// Fails after everything was healed too.
+TimerHandle failForGood(FaultyLife& life) {
+    fakes::FaultyFileSystem& files = life.life.world.files;
+    files.onCall = [&files](auto) {
+        files.fail(FaultyLife::Operation::Sync, QLatin1String(kLog), EIO);
+    };
+    return {};
+}
+
+/// Empties the log that an upgrade had to leave behind.
+TimerHandle emptyOldLog(FaultyLife& life) {
+    life.onDeed = [&life](std::size_t deed) {
+        if (deed + 1 == life.life.deeds().size())
+            life.life.world.disk.setContent(
+                QStringLiteral("/home/ada/.local/share/Hourfold/sessions.jsonl"), QByteArray());
+    };
+    return {};
+}
+
+std::vector<PlantedError> errors() {
+    const auto otherName = [](const QByteArray& content) {
+        return QByteArray(content).replace("Mine", "Ours").replace("Called", "Named");
+    };
+    const auto otherApplication = [](const QByteArray& content) {
+        return QByteArray(content).replace("org.example.", "com.example.");
+    };
+    return {
+        {"ClockStandsStill", "the clock goes on", {}, {EIO, -1, 0, {}}, stopClock},
+        {"WordsOfAnotherError",
+         "the text has the system's own words",
+         {},
+         {EIO, -1, 0, {}},
+         failUnknown},
+        {"TextStays", "the next success takes the text away", {}, {EIO, -1, 0, {}}, failForGood},
+        {"RecordWrittenTwice",
+         "a record is logged once",
+         {Effect::Altered, Kind::Write, kLog, withLastLineTwice}},
+        {"RecordNotWritten",
+         "the log holds what was acknowledged",
+         {Effect::Altered, Kind::Write, kLog, withoutLastLine}},
+        {"OldLogEmptied",
+         "an older log stays",
+         {},
+         {EACCES, 0, 0, FaultyLife::Operation::Rename},
+         emptyOldLog,
+         ScriptedLife::Home::Upgrade},
+        {"SkillsAltered",
+         "the skills in memory are those of the file",
+         {Effect::Altered, Kind::Write, "skills.json", otherName}},
+        {"RulesAltered",
+         "the rules in memory are those of the file",
+         {Effect::Altered, Kind::Write, "auto-rules.json", otherApplication}},
+        {"HalfWrittenFileNotRemoved",
+         "half-written files are removed",
+         {Effect::Undone, Kind::Leave, ".tmp", {}},
+         {ENOSPC, 0, 1, FaultyLife::Operation::Write}},
+    };
+}
+
+class PlantedErrorTest : public testing::TestWithParam<PlantedError> {};
+
+TEST_P(PlantedErrorTest, IsFound) {
+    const PlantedError& error = GetParam();
+    QStringList others;
+    bool isFound = false;
+    for (std::uint32_t number = 0; number < kMostLives && !isFound; ++number) {
+        PlantedError::Fault fault = error.fault;
+        // One that lasts for a deed is tried at each deed but the first, if that is not its own.
+        if (fault.call == 0 && fault.deed > 0) fault.deed += number;
+        std::optional<Saboteur> saboteur; // outlives the life
+        const auto seed = std::uint32_t(number * ScriptedLife::kHomes + std::size_t(error.home));
+        FaultyLife life(seed, fault);
+        saboteur.emplace(error.sabotage, life.life.world.disk);
+        life.life.world.disk.observe(
+            [&](fakes::DiskChange change) { static_cast<void>(saboteur->pass(change)); });
+        const TimerHandle lasting = error.plant(life);
+        const QStringList broken = life.run();
+        for (const QString& promise : broken)
+            isFound = isFound || promise.startsWith(QLatin1String(error.promise));
+        if (others.size() < 5) others += broken;
+    }
+    EXPECT_TRUE(isFound) << "not reported: " << error.promise
+                         << "\nbut: " << others.join(QStringLiteral("; ")).toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(Lab, PlantedErrorTest, testing::ValuesIn(errors()),
                          [](const auto& test) { return std::string(test.param.name); });
 
 } // namespace

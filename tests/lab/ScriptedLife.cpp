@@ -1,5 +1,6 @@
 #include "lab/ScriptedLife.h"
 
+#include "lab/SeededIds.h"
 #include "platform/WholeFile.h"
 #include "sensing/AutoRules.h"
 #include "tracking/Samples.h"
@@ -30,9 +31,35 @@ QString pathIn(const char* directory, const char* name) {
         .arg(QLatin1String(directory), QLatin1String(name));
 }
 
+/// Adds a directory with its parents. Their names are safe, as are those of `addFile`.
+void addDirectory(FileSystem& disk, const QString& path, int mode) {
+    disk.makeDirectories(path, mode).ignore();
+    for (QString above = path; !above.isEmpty();
+         above.truncate(above.lastIndexOf(QLatin1Char('/'))))
+        disk.syncDirectory(above).ignore();
+    disk.syncDirectory(QStringLiteral("/")).ignore();
+}
+
+void addFile(FileSystem& disk, const QString& path, const QByteArray& content) {
+    createFile(disk, path, content).ignore();
+    disk.syncDirectory(path.left(path.lastIndexOf(QLatin1Char('/')))).ignore();
+}
+
 } // namespace
 
 ScriptedLife::ScriptedLife(std::uint32_t seed, Home begins) : home(begins), m_random(seed) {
+    prepare(seed);
+}
+
+ScriptedLife::ScriptedLife(std::uint32_t seed, Home begins, FileSystem& storage)
+    : world(storage)
+    , home(begins)
+    , m_random(seed) {
+    prepare(seed);
+}
+
+void ScriptedLife::prepare(std::uint32_t seed) {
+    seedIds(seed);
     prepareDisk();
     chooseDeeds();
 }
@@ -49,12 +76,13 @@ std::size_t ScriptedLife::pick(std::size_t count) {
 QString ScriptedLife::noteText() { return QStringLiteral("note ").repeated(qsizetype(pick(90))); }
 
 void ScriptedLife::prepareDisk() {
-    world.disk.setDirectory(QStringLiteral("/home/ada/Pictures"));
+    FileSystem& disk = world.storage;
+    addDirectory(disk, QStringLiteral("/home/ada/Pictures"), 0755);
     if (home == Home::Nothing) return;
-    world.disk.setDirectory(QStringLiteral("/home/ada/.local/share"));
+    addDirectory(disk, QStringLiteral("/home/ada/.local/share"), 0755);
     if (home == Home::New) return;
     const char* directory = home == Home::Upgrade ? "Hourfold" : "Vantle";
-    world.disk.setDirectory(pathIn(directory, "").chopped(1), 0700);
+    addDirectory(disk, pathIn(directory, "").chopped(1), 0700);
     if (home == Home::Empty) return;
     const int count = 4 + int(pick(24));
     QByteArray log;
@@ -65,8 +93,8 @@ void ScriptedLife::prepareDisk() {
         if (number % 7 == 3)
             log += "a line of another program " + QByteArray::number(number) + '\n';
     }
-    world.disk.setContent(pathIn(directory, "sessions.jsonl"), log);
-    world.disk.setContent(pathIn(directory, "skills.json"), json::encode(samples::seeds()));
+    addFile(disk, pathIn(directory, "sessions.jsonl"), log);
+    addFile(disk, pathIn(directory, "skills.json"), json::encode(samples::seeds()));
     settings::skillsMigrationVersion.write(world.preferences, 1);
     m_acknowledged.records = count;
     if (home == Home::Upgrade) m_oldLog = log;
@@ -126,6 +154,13 @@ bool ScriptedLife::isOpen() const {
     return world.model && tracker().state() != State::Idle && tracker().startedAt();
 }
 
+QMap<QString, QString> ScriptedLife::preferences() const {
+    QMap<QString, QString> texts;
+    for (const QString& key : world.preferences.keys())
+        texts[key] = world.preferences.raw(key).value_or(QString());
+    return texts;
+}
+
 void ScriptedLife::followSessions() {
     QObject::connect(&tracker(), &TrackerCore::stateChanged, &tracker(), [this] {
         if (tracker().state() == State::Idle)
@@ -153,14 +188,16 @@ void ScriptedLife::launch() {
     // again.
     const bool isFirst = m_acknowledged.ended.empty() && !m_isLeftBehind;
     if (isFirst && !m_oldLog.isEmpty() &&
-        world.disk.content(pathIn("Hourfold", "sessions.jsonl"))) {
+        world.storage.exists(pathIn("Hourfold", "sessions.jsonl"))) {
         m_isLeftBehind = true;
         m_acknowledged = {};
     }
 }
 
 bool ScriptedLife::hasOldLog() const {
-    return !m_isLeftBehind || world.disk.content(pathIn("Hourfold", "sessions.jsonl")) == m_oldLog;
+    if (!m_isLeftBehind) return true;
+    const auto log = world.storage.readAll(pathIn("Hourfold", "sessions.jsonl"));
+    return log && log.value() == m_oldLog;
 }
 
 void ScriptedLife::start() {
@@ -208,13 +245,13 @@ void ScriptedLife::logByHand() {
 }
 
 void ScriptedLife::editNote() {
-    const auto ids = Account::of(world.disk).records.keys();
+    const auto ids = Account::of(world.storage).records.keys();
     if (ids.isEmpty()) return;
     (void)tracker().updateNote(QUuid(ids[qsizetype(pick(std::size_t(ids.size())))]), noteText());
 }
 
 void ScriptedLife::deleteRecord() {
-    const Account account = Account::of(world.disk);
+    const Account account = Account::of(world.storage);
     if (account.records.isEmpty()) return;
     const QString id = account.records.keys()[qsizetype(pick(std::size_t(account.records.size())))];
     if (!tracker().deleteSession(QUuid(id))) return;

@@ -21,14 +21,19 @@ public:
         Upgrade, ///< data of a version that used another directory name
     };
     static constexpr std::size_t kHomes = 5;
+    /// Lives of as many seeds in a row begin with each.
+    [[nodiscard]] static Home homeOf(std::uint32_t seed) { return Home(seed % kHomes); }
 
     struct Deed {
         const char* name;
         void (ScriptedLife::*act)();
     };
 
-    /// Prepares the disk; `launch` is the first of the deeds.
+    /// Prepares the disk; `launch` is the first of the deeds. The same seed gives the same life
+    /// down to the ids of its records.
     ScriptedLife(std::uint32_t seed, Home begins);
+    /// On that file system in place of the one in memory.
+    ScriptedLife(std::uint32_t seed, Home begins, FileSystem& storage);
     ~ScriptedLife();
     ScriptedLife(const ScriptedLife&) = delete;
     ScriptedLife& operator=(const ScriptedLife&) = delete;
@@ -45,6 +50,9 @@ public:
     };
     [[nodiscard]] std::optional<OpenSession> openSession() const;
     [[nodiscard]] bool isOpen() const;
+
+    /// As they are now, by key.
+    [[nodiscard]] QMap<QString, QString> preferences() const;
 
     /// What the program acknowledged, as the life itself counted it.
     struct Worked {
@@ -64,6 +72,7 @@ public:
     const Home home;
 
 private:
+    void prepare(std::uint32_t seed);
     void prepareDisk();
     void chooseDeeds();
     void followSessions();
