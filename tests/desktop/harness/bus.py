@@ -5,6 +5,8 @@ import contextlib
 import dbus
 import dbus.bus
 
+from .waiting import PATIENCE
+
 PROGRAM_NAME = "local.vantle.Vantle"
 PROGRAM_PATH = "/local/vantle/Vantle"
 APPLICATION = "org.freedesktop.Application"
@@ -42,7 +44,8 @@ def call(desktop, service, path, interface, method, *arguments):
     """Calls a method and returns its answer."""
     with connected(desktop) as connection:
         target = connection.get_object(service, path, introspect=False)
-        return dbus.Interface(target, interface).get_dbus_method(method)(*arguments, timeout=25)
+        return dbus.Interface(target, interface).get_dbus_method(method)(
+            *arguments, timeout=25 * PATIENCE)
 
 
 def session_of(desktop):

@@ -1,61 +1,33 @@
 """A session manager that applications ask to keep the session awake, as GNOME's is asked.
 
-It and the application in a call are processes of their own (this file as a program). An inhibitor
-lasts until its application gives it back or leaves the bus.
+It and the application in a call are processes of their own. An inhibitor lasts until its
+application gives it back or leaves the bus.
 """
 
-import subprocess
 import sys
-from pathlib import Path
 
 import dbus
-import dbus.mainloop.glib
 import dbus.service
-from gi.repository import GLib
+
+from .service import Service, serve
 
 NAME = "org.gnome.SessionManager"
 PATH = "/org/gnome/SessionManager"
 IDLE = 8
 
 
-class _Process:
-    """Lives from start() to stop()."""
-
-    role = None
-
-    def __init__(self, desktop):
-        self._desktop = desktop
-        self._process = None
-
-    def start(self):
-        self._process = subprocess.Popen([sys.executable, "-m", __name__, self.role],
-                                         cwd=Path(__file__).resolve().parents[1],
-                                         env=self._desktop.env, stdin=subprocess.PIPE,
-                                         stdout=subprocess.PIPE)
-        if self._process.stdout.readline() != b"ready\n":
-            raise RuntimeError(f"the {self.role} did not come up")
-
-    def kill(self):
-        self._process.kill()
-
-    def stop(self):
-        if self._process is not None:
-            self._process.stdin.close()
-            self._process.wait(10)
-            self._process.stdout.close()
-            self._process = None
-
-
-class SessionManager(_Process):
+class SessionManager(Service):
     """Started without anything that keeps the session awake."""
 
-    role = "manager"
+    def __init__(self, desktop):
+        super().__init__(desktop, __name__, "manager")
 
 
-class Phone(_Process):
+class Phone(Service):
     """An application that is in a call while it runs."""
 
-    role = "phone"
+    def __init__(self, desktop):
+        super().__init__(desktop, __name__, "phone")
 
 
 class _Manager(dbus.service.Object):
@@ -102,16 +74,5 @@ def _call(connection):
     manager.Inhibit("a phone", dbus.UInt32(0), "in a call", dbus.UInt32(IDLE))
 
 
-def _serve(role):
-    dbus.mainloop.glib.DBusGMainLoop(set_as_default=True)
-    connection = dbus.SessionBus()
-    kept = (_manage if role == SessionManager.role else _call)(connection)
-    print("ready", flush=True)
-    loop = GLib.MainLoop()
-    GLib.io_add_watch(sys.stdin.fileno(), GLib.IO_HUP, lambda *_: loop.quit())
-    loop.run()
-    del kept
-
-
 if __name__ == "__main__":
-    _serve(sys.argv[1])
+    serve({"manager": _manage, "phone": _call}[sys.argv[1]])

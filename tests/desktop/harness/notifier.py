@@ -1,19 +1,16 @@
 """A tray of the StatusNotifierItem kind, which tells what is in it.
 
-The watcher with its host is a process of its own (this file as a program); what the item says of
-itself is read from it over the bus, as a panel reads it.
+The watcher with its host is a process of its own; what the item says of itself is read from it over
+the bus, as a panel reads it.
 """
 
-import subprocess
-import sys
 from dataclasses import dataclass
 
 import dbus
-import dbus.mainloop.glib
 import dbus.service
-from gi.repository import GLib
 
 from .bus import call
+from .service import Service, serve
 from .waiting import wait_until
 
 WATCHER = "org.kde.StatusNotifierWatcher"
@@ -39,26 +36,11 @@ class Pixmap:
         return self.pixel(self.width // 2, self.height // 2)
 
 
-class Notifier:
+class Notifier(Service):
     """The tray from start() to stop(). To be started before the program that is to show in it."""
 
     def __init__(self, desktop):
-        self._desktop = desktop
-        self._process = None
-
-    def start(self):
-        self._process = subprocess.Popen([sys.executable, "-m", __name__],
-                                         cwd=sys.path[0], env=self._desktop.env,
-                                         stdin=subprocess.PIPE, stdout=subprocess.PIPE)
-        if self._process.stdout.readline() != b"ready\n":
-            raise RuntimeError("the tray host did not come up")
-
-    def stop(self):
-        if self._process is not None:
-            self._process.stdin.close()
-            self._process.wait(10)
-            self._process.stdout.close()
-            self._process = None
+        super().__init__(desktop, __name__)
 
     def items(self):
         """The items in the tray, each as service and path."""
@@ -156,17 +138,11 @@ class _Watcher(dbus.service.Object):
 </interface></node>"""
 
 
-def _serve():
-    dbus.mainloop.glib.DBusGMainLoop(set_as_default=True)
-    connection = dbus.SessionBus()
+def _watch(connection):
     watcher = _Watcher(connection)  # answers for as long as it is held
     connection.request_name(WATCHER)
-    print("ready", flush=True)
-    loop = GLib.MainLoop()
-    GLib.io_add_watch(sys.stdin.fileno(), GLib.IO_HUP, lambda *_: loop.quit())
-    loop.run()
-    del watcher
+    return watcher
 
 
 if __name__ == "__main__":
-    _serve()
+    serve(_watch)

@@ -2,11 +2,15 @@
 
 import json
 import os
+import shlex
 import signal
 import subprocess
 from pathlib import Path
 
 from .waiting import wait_until
+
+# A command that every copy is started through, as valgrind is.
+THROUGH = shlex.split(os.environ.get("VANTLE_THROUGH", ""))
 
 
 class Program:
@@ -34,7 +38,7 @@ class Program:
         self._output = self._desktop.directory / name
         with self._output.open("wb") as output:
             self._process = subprocess.Popen(
-                [*through, str(self._executable)], env=self._desktop.env,
+                [*THROUGH, *through, str(self._executable)], env=self._desktop.env,
                 cwd=self._desktop.env["HOME"], stdin=subprocess.DEVNULL, stdout=output,
                 stderr=output, start_new_session=True, restore_signals=restore_signals,
                 preexec_fn=_hear_signals)
