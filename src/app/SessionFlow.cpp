@@ -82,8 +82,14 @@ void SessionFlow::toggle(SessionCause cause) {
         if (!m_env.tracker.stop()) m_env.note.report(Words::tr("Couldn’t save this session"));
         return;
     }
-    if (!m_env.tracker.start(m_env.skills.by(m_selectedSkillId), 0))
-        m_env.note.report(Words::tr("Couldn’t start vantle"));
+    if (!start(0)) m_env.note.report(Words::tr("Couldn’t start vantle"));
+}
+
+std::optional<int> SessionFlow::start(int backfillMinutes) {
+    // The input that starts a session may end an absence. Seen first at the next sample, up to ten
+    // seconds later, it would cut the work between the two.
+    m_idle.poll();
+    return m_env.tracker.start(m_env.skills.by(m_selectedSkillId), backfillMinutes);
 }
 
 void SessionFlow::startWithBackfill(int minutes) {
@@ -94,7 +100,7 @@ void SessionFlow::startWithBackfill(int minutes) {
                            : Words::tr("Backfill skipped · couldn't confirm this Mac was active"));
         return;
     }
-    const auto applied = m_env.tracker.start(m_env.skills.by(m_selectedSkillId), minutes);
+    const auto applied = start(minutes);
     if (!applied)
         m_env.note.report(Words::tr("Couldn’t start vantle"));
     else if (*applied < minutes)

@@ -118,6 +118,7 @@ Q_SIGNALS:
 private:
     void wireIdle();
     void onHotKeyPressed();
+    [[nodiscard]] std::optional<int> start(int backfillMinutes);
     void onSessionStarted(const Skill& skill);
     void onSessionEnded(const Session& session);
     [[nodiscard]] std::optional<QString> bundleIdInFront() const;

@@ -46,6 +46,9 @@ public:
 
     [[nodiscard]] bool isStarted() const { return m_pollTimer != nullptr; }
 
+    /// Takes a sample now, as the timer does. Returns whether the counter is known.
+    bool poll();
+
     /// Whether the screens sleep or are locked, which counts as absence whatever the counter says.
     [[nodiscard]] bool screensSleep() const { return m_screensSleep; }
 
@@ -86,7 +89,6 @@ public:
     static constexpr int readingsThatWakeScreens = 6;
 
 private:
-    bool poll();
     void noteScreenSleep();
     void noteScreenWake();
     void doubtScreenSleep(double idle);

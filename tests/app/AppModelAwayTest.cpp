@@ -31,6 +31,17 @@ TEST_F(AppModelAwayTest, LockedScreenIsNotCountedHoweverShort) {
     EXPECT_EQ(model.tracker().displayActiveSeconds(), 40);
 }
 
+TEST_F(AppModelAwayTest, PressAfterAnAbsenceCountsFromThePress) {
+    AppModel& model = launched();
+    world.idleSource.touch();
+    world.time.advance(175.0); // the next look would find three minutes without input
+    world.idleSource.touch();
+    world.press();
+    world.time.advance(60.0);
+    EXPECT_EQ(model.tracker().state(), State::Running);
+    EXPECT_EQ(model.tracker().displayActiveSeconds(), 60);
+}
+
 TEST_F(AppModelAwayTest, LockWithoutACounterEndsWithTheUnlock) {
     AppModel& model = launched();
     world.idleSource.becomeUnknown();

@@ -312,7 +312,8 @@ void ScriptedLife::killAndAnswer() {
     }
     if (pick(2) == 0) {
         world.told.recoveryKeep();
-        if (!world.hasMarker() && worked) {
+        // By what the user reads: the marker of a session that is logged may stay behind.
+        if (!tracker().storageError() && worked) {
             ++m_acknowledged.records;
             m_acknowledged.ended.push_back(
                 {worked->start, worked->seconds, worked->tolerance + 61});
