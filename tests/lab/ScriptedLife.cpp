@@ -5,6 +5,8 @@
 #include "sensing/AutoRules.h"
 #include "tracking/Samples.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -311,12 +313,16 @@ void ScriptedLife::killAndAnswer() {
         return;
     }
     if (pick(2) == 0) {
+        // A marker that could not be removed offers a session that has ended. Its record is in the
+        // log, or was deleted and is wanted again.
+        const bool isLogged = Account::of(world.storage).records.contains(offeredId());
         world.told.recoveryKeep();
-        // By what the user reads: the marker of a session that is logged may stay behind.
-        if (!tracker().storageError() && worked) {
+        // By what the user reads: the marker may stay behind once more.
+        if (!isLogged && !tracker().storageError()) {
             ++m_acknowledged.records;
-            m_acknowledged.ended.push_back(
-                {worked->start, worked->seconds, worked->tolerance + 61});
+            if (worked)
+                m_acknowledged.ended.push_back(
+                    {worked->start, worked->seconds, worked->tolerance + 61});
         }
     } else {
         m_offered.reset(); // from here on it may be gone
@@ -324,6 +330,12 @@ void ScriptedLife::killAndAnswer() {
     }
     world.settle();
     m_offered.reset();
+}
+
+QString ScriptedLife::offeredId() const {
+    const auto marker = world.storage.readAll(ModelWorld::file("open-session.json"));
+    if (!marker) return {};
+    return QJsonDocument::fromJson(marker.value()).object().value(QStringLiteral("id")).toString();
 }
 
 void ScriptedLife::erase() {

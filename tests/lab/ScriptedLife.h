@@ -80,6 +80,8 @@ private:
     void noteEnd();
     [[nodiscard]] std::size_t pick(std::size_t count);
     [[nodiscard]] QString noteText();
+    /// The id of the session that the marker on the disk is of.
+    [[nodiscard]] QString offeredId() const;
     [[nodiscard]] TrackerCore& tracker() const { return world.model->tracker(); }
 
     void launch();
