@@ -1,6 +1,7 @@
 """What a crash leaves behind, and what the next run makes of it."""
 
 import signal
+import time
 from datetime import datetime, timedelta, timezone
 
 from harness.bus import activate, activate_action
@@ -36,6 +37,21 @@ class Recovery(DesktopTest):
         self.assertEqual(self.vantle.stop(), 0)
         self.assertEqual(self.vantle.marker(), left)
         self.assertEqual(self.vantle.log_bytes(), b"")
+
+    def test_after_a_crash_in_the_writing_of_preferences_it_answers_at_once(self):
+        self.vantle.write_preferences()
+        # Of the moment in which the program had made its lock and not yet signed it.
+        self.vantle.preferences_file.with_name("preferences.ini.lock").touch()
+        self.launch()
+        self.begin_session()  # changes the skill that was used last
+        began = time.monotonic()
+        activate(self.desktop)
+        wait_until("the panel", lambda: self.desktop.windows_named(PANEL_TITLE))
+        self.assertLess(time.monotonic() - began, 15)  # the lock would hold it for half a minute
+        self.desktop.press(SHORTCUT)
+        wait_until("a record", self.vantle.sessions)
+        self.assertEqual(self.vantle.stop(), 0)
+        self.assertFalse(self.vantle.preferences_file.with_name("preferences.ini.lock").exists())
 
     def test_an_offer_without_an_answer_outlives_a_session_and_a_quit(self):
         self._crash_that_left(seconds=125)

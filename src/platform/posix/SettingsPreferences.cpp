@@ -3,6 +3,8 @@
 #include "platform/PreferenceText.h"
 #include "platform/WholeFile.h"
 
+#include <QCoreApplication>
+
 #include <cerrno>
 
 namespace vantle {
@@ -18,10 +20,23 @@ SettingsPreferences::SettingsPreferences(FileSystem& files, QString path)
     : m_files(files)
     , m_path(std::move(path))
     , m_settings(m_path, QSettings::IniFormat) {
+    removeLeftLock();
     load();
 }
 
 SettingsPreferences::~SettingsPreferences() { passOnChanges(); }
+
+/// QSettings locks the file while it writes, and waits half a minute on the main thread for a lock
+/// that looks like another process's. A crash leaves it empty, before it was signed with the
+/// process's number, or with a number that is taken again: in a sandbox it may be this one's.
+void SettingsPreferences::removeLeftLock() {
+    const QString lock = m_path + QStringLiteral(".lock");
+    const auto signature = m_files.readAll(lock);
+    if (!signature) return;
+    const QByteArray own = QByteArray::number(QCoreApplication::applicationPid()) + '\n';
+    if (signature.value().isEmpty() || signature.value().startsWith(own))
+        m_files.remove(lock).ignore();
+}
 
 void SettingsPreferences::load() {
     for (const QString& key : m_settings.childKeys()) {

@@ -17,7 +17,10 @@ namespace vantle {
 ///
 /// A file that cannot be parsed is copied to `{name}.damaged`, or the next free `{name}.damaged.2`,
 /// before it is first replaced, and readable values stay in use; an unreadable file is moved there.
-/// When that fails too, the file is left alone and changes apply to this run only. Main thread.
+/// When that fails too, the file is left alone and changes apply to this run only.
+///
+/// For one writer at a time, as the program is: a lock that a crash left is removed at
+/// construction. Main thread.
 class SettingsPreferences final : public Preferences {
     Q_OBJECT
 
@@ -44,6 +47,7 @@ private:
     /// What must be preserved of the file before it may be replaced.
     enum class Original { Sound, Unparsed, Unreadable };
 
+    void removeLeftLock();
     void load();
     void changeInFile(const QString& key);
     void passOnChanges();

@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
+#include <QLockFile>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -66,6 +68,24 @@ TEST_F(SettingsPreferencesTest, WritesKeysAsTheyAreNamedInOneGroup) {
     preferences->synchronize();
     EXPECT_EQ(contentOf("preferences.ini"), "[General]\ngoal.dailyHours=2.5\n"
                                             "skill.lastUsed=building\nwrapped.seen.2026-9=true\n");
+}
+
+TEST_F(SettingsPreferencesTest, DoNotWaitForTheLockOfACrash) {
+    writeAValue();
+    QLockFile other(at("preferences.ini.lock")); // of a process that had this one's number
+    ASSERT_TRUE(other.lock());
+    const QByteArray signedByIt = contentOf("preferences.ini.lock");
+    other.unlock();
+    for (const QByteArray& signature : {QByteArray(), signedByIt}) {
+        put(signature, "preferences.ini.lock");
+        QElapsedTimer taken;
+        taken.start();
+        writeAValue();
+        EXPECT_LT(taken.elapsed(), 10'000) << "half a minute, were it someone's";
+        EXPECT_EQ(contentOf("preferences.ini"), "[General]\nskill.lastUsed=building\n");
+        EXPECT_EQ(names(), QStringList{QStringLiteral("preferences.ini")});
+        ASSERT_TRUE(m_disk.remove(m_path));
+    }
 }
 
 TEST_F(SettingsPreferencesTest, AreForTheirOwnerOnly) {
