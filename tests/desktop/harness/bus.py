@@ -5,6 +5,7 @@ import contextlib
 import dbus
 import dbus.bus
 
+from .threads import threads_of
 from .waiting import PATIENCE
 
 PROGRAM_NAME = "local.vantle.Vantle"
@@ -41,11 +42,17 @@ def process_of(desktop, name):
 
 
 def call(desktop, service, path, interface, method, *arguments):
-    """Calls a method and returns its answer."""
+    """Calls a method and returns its answer. Without one, tells what the service is at."""
     with connected(desktop) as connection:
         target = connection.get_object(service, path, introspect=False)
-        return dbus.Interface(target, interface).get_dbus_method(method)(
-            *arguments, timeout=25 * PATIENCE)
+        try:
+            return dbus.Interface(target, interface).get_dbus_method(method)(
+                *arguments, timeout=25 * PATIENCE)
+        except dbus.DBusException as error:
+            if error.get_dbus_name() != "org.freedesktop.DBus.Error.NoReply":
+                raise
+            pid = process_of(desktop, service)
+            raise AssertionError(f"{error}\n{threads_of(pid) if pid else 'gone'}") from error
 
 
 def session_of(desktop):
