@@ -10,6 +10,7 @@
 
 #include <cmath>
 #include <memory>
+#include <type_traits>
 
 namespace vantle {
 
@@ -23,21 +24,26 @@ double milliseconds(Date date) { return std::floor(epochSeconds(date) * 1000.0);
 
 Date fromMilliseconds(double ms) { return dateFromEpoch(ms / 1000.0); }
 
-/// Returns ICU's calendar with these rules, set to `date`; null when ICU cannot make one.
-std::unique_ptr<icu::Calendar> icuCalendar(const Calendar& rules, Date date) {
+/// Returns what `question` asks ICU's calendar with these rules, set to `date`; empty in an unknown
+/// zone and when ICU cannot compute it. Only the last status is checked: after an error ICU's calls
+/// do nothing and return 0.
+template <typename Question>
+auto answered(const Calendar& rules, Date date, Question question)
+    -> std::optional<std::invoke_result_t<Question, icu::Calendar&, UErrorCode&>> {
     UErrorCode status = U_ZERO_ERROR;
     std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createTimeZone(toIcu(rules.timeZone)));
-    if (*zone == icu::TimeZone::getUnknown()) return nullptr;
-    std::unique_ptr<icu::Calendar> calendar(icu::Calendar::createInstance(
+    if (*zone == icu::TimeZone::getUnknown()) return std::nullopt;
+    const std::unique_ptr<icu::Calendar> calendar(icu::Calendar::createInstance(
         zone.release(), icutext::calendarLocaleNamed(rules.locale), status));
-    if (U_FAILURE(status)) return nullptr;
     // Proleptic Gregorian throughout, as in files.
     if (auto* const gregorian = dynamic_cast<icu::GregorianCalendar*>(calendar.get()))
         gregorian->setGregorianChange(-1e18, status);
     calendar->setFirstDayOfWeek(static_cast<UCalendarDaysOfWeek>(rules.firstWeekday));
     calendar->setMinimalDaysInFirstWeek(static_cast<uint8_t>(rules.minimalDays));
     calendar->setTime(milliseconds(date), status);
-    return U_FAILURE(status) ? nullptr : std::move(calendar);
+    const auto answer = question(*calendar, status);
+    if (U_FAILURE(status)) return std::nullopt;
+    return answer;
 }
 
 bool isKnownZone(const QString& id) {
@@ -76,9 +82,8 @@ icu::Locale localeOfTimes() {
     return icu::Locale::getDefault();
 }
 
-/// Moves `calendar` to the first moment of its day.
-std::optional<Date> firstMomentOfDay(icu::Calendar& calendar) {
-    UErrorCode status = U_ZERO_ERROR;
+/// Returns the first moment of the day of `calendar`, and moves it there.
+Date firstMomentOfDay(icu::Calendar& calendar, UErrorCode& status) {
     calendar.set(UCAL_HOUR_OF_DAY, 0);
     calendar.set(UCAL_MINUTE, 0);
     calendar.set(UCAL_SECOND, 0);
@@ -87,9 +92,7 @@ std::optional<Date> firstMomentOfDay(icu::Calendar& calendar) {
     // first one.
     calendar.setSkippedWallTimeOption(UCAL_WALLTIME_NEXT_VALID);
     calendar.setRepeatedWallTimeOption(UCAL_WALLTIME_FIRST);
-    const double ms = calendar.getTime(status);
-    if (U_FAILURE(status)) return std::nullopt;
-    return fromMilliseconds(ms);
+    return fromMilliseconds(calendar.getTime(status));
 }
 
 } // namespace
@@ -102,51 +105,39 @@ Calendar Calendar::current() {
     Calendar calendar;
     calendar.timeZone = systemZone();
     calendar.locale = QString::fromLatin1(locale.getName());
-    if (U_SUCCESS(status)) {
-        calendar.firstWeekday = system->getFirstDayOfWeek();
-        calendar.minimalDays = system->getMinimalDaysInFirstWeek();
-    }
+    calendar.firstWeekday = system->getFirstDayOfWeek();
+    calendar.minimalDays = system->getMinimalDaysInFirstWeek();
     return calendar;
 }
 
 Date Calendar::startOfDay(Date date) const {
-    const auto calendar = icuCalendar(*this, date);
-    return calendar ? firstMomentOfDay(*calendar).value_or(date) : date;
+    return answered(*this, date, firstMomentOfDay).value_or(date);
 }
 
 std::optional<Date> Calendar::startOfWeek(Date date) const {
-    const auto calendar = icuCalendar(*this, date);
-    if (!calendar) return std::nullopt;
-    UErrorCode status = U_ZERO_ERROR;
-    const int weekday = calendar->get(UCAL_DAY_OF_WEEK, status);
-    if (U_FAILURE(status)) return std::nullopt;
-    const int daysIntoWeek = (weekday - firstWeekday + 7) % 7;
-    // Starts at noon, which exists every day: stepping back cannot land in a gap and change the
-    // day.
-    calendar->set(UCAL_HOUR_OF_DAY, 12);
-    calendar->add(UCAL_DAY_OF_MONTH, -daysIntoWeek, status);
-    if (U_FAILURE(status)) return std::nullopt;
-    return firstMomentOfDay(*calendar);
+    return answered(*this, date, [this](icu::Calendar& calendar, UErrorCode& status) {
+        const int weekday = calendar.get(UCAL_DAY_OF_WEEK, status);
+        const int daysIntoWeek = (weekday - firstWeekday + 7) % 7;
+        // Starts at noon, which exists every day: stepping back cannot land in a gap and change the
+        // day.
+        calendar.set(UCAL_HOUR_OF_DAY, 12);
+        calendar.add(UCAL_DAY_OF_MONTH, -daysIntoWeek, status);
+        return firstMomentOfDay(calendar, status);
+    });
 }
 
 std::optional<Date> Calendar::addingWeeks(Date date, int weeks) const {
-    const auto calendar = icuCalendar(*this, date);
-    if (!calendar) return std::nullopt;
-    UErrorCode status = U_ZERO_ERROR;
-    calendar->add(UCAL_WEEK_OF_YEAR, weeks, status);
-    const double ms = calendar->getTime(status);
-    if (U_FAILURE(status)) return std::nullopt;
-    return fromMilliseconds(ms);
+    return answered(*this, date, [weeks](icu::Calendar& calendar, UErrorCode& status) {
+        calendar.add(UCAL_WEEK_OF_YEAR, weeks, status);
+        return fromMilliseconds(calendar.getTime(status));
+    });
 }
 
 std::optional<Calendar::WeekOfYear> Calendar::weekOfYear(Date date) const {
-    const auto calendar = icuCalendar(*this, date);
-    if (!calendar) return std::nullopt;
-    UErrorCode status = U_ZERO_ERROR;
-    const WeekOfYear week{calendar->get(UCAL_YEAR_WOY, status),
-                          calendar->get(UCAL_WEEK_OF_YEAR, status)};
-    if (U_FAILURE(status)) return std::nullopt;
-    return week;
+    return answered(*this, date, [](const icu::Calendar& calendar, UErrorCode& status) {
+        return WeekOfYear{calendar.get(UCAL_YEAR_WOY, status),
+                          calendar.get(UCAL_WEEK_OF_YEAR, status)};
+    });
 }
 
 } // namespace vantle

@@ -9,7 +9,7 @@
 namespace vantle {
 
 struct DateText::Format {
-    std::unique_ptr<icu::SimpleDateFormat> icu; ///< null where ICU can't make one
+    icu::SimpleDateFormat icu;
 };
 
 namespace {
@@ -18,13 +18,10 @@ using icutext::calendarLocaleNamed;
 using icutext::localeNamed;
 using icutext::toIcu;
 
-std::unique_ptr<icu::SimpleDateFormat> make(const icu::UnicodeString& pattern,
-                                            const Calendar& calendar) {
+icu::SimpleDateFormat make(const icu::UnicodeString& pattern, const Calendar& calendar) {
     UErrorCode status = U_ZERO_ERROR;
-    auto format = std::make_unique<icu::SimpleDateFormat>(
-        pattern, calendarLocaleNamed(calendar.locale), status);
-    if (U_FAILURE(status)) return nullptr;
-    format->adoptTimeZone(icu::TimeZone::createTimeZone(toIcu(calendar.timeZone)));
+    icu::SimpleDateFormat format(pattern, calendarLocaleNamed(calendar.locale), status);
+    format.adoptTimeZone(icu::TimeZone::createTimeZone(toIcu(calendar.timeZone)));
     return format;
 }
 
@@ -36,22 +33,20 @@ DateText::DateText(DateText&&) noexcept = default;
 DateText& DateText::operator=(DateText&&) noexcept = default;
 
 DateText DateText::fixed(const QString& pattern, const Calendar& calendar) {
-    return DateText(std::make_unique<Format>(Format{make(toIcu(pattern), calendar)}));
+    return DateText(std::unique_ptr<Format>(new Format{make(toIcu(pattern), calendar)}));
 }
 
 DateText DateText::time(const Calendar& calendar) {
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<icu::DateTimePatternGenerator> patterns(
         icu::DateTimePatternGenerator::createInstance(localeNamed(calendar.locale), status));
-    icu::UnicodeString pattern = u"HH:mm";
-    if (U_SUCCESS(status)) pattern = patterns->getBestPattern(u"jmm", status);
-    return DateText(std::make_unique<Format>(Format{make(pattern, calendar)}));
+    const icu::UnicodeString pattern = patterns->getBestPattern(u"jmm", status);
+    return DateText(std::unique_ptr<Format>(new Format{make(pattern, calendar)}));
 }
 
 QString DateText::operator()(Date date) const {
-    if (!m_format->icu) return {};
     icu::UnicodeString text;
-    m_format->icu->format(epochSeconds(date) * 1000.0, text);
+    m_format->icu.format(epochSeconds(date) * 1000.0, text);
     return icutext::fromIcu(text);
 }
 

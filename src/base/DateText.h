@@ -25,7 +25,6 @@ public:
     DateText(DateText&&) noexcept;
     DateText& operator=(DateText&&) noexcept;
 
-    /// Returns the text; empty when ICU cannot format it.
     [[nodiscard]] QString operator()(Date date) const;
 
 private:

@@ -13,7 +13,6 @@ QString hourLabel(int hour, const QString& locale) {
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<icu::DateFormat> format(
         icu::DateFormat::createInstanceForSkeleton(u"j", icutext::localeNamed(locale), status));
-    if (U_FAILURE(status)) return QString::number(hour);
     // Day 0 in UTC: every hour exists there once.
     format->setTimeZone(*icu::TimeZone::getGMT());
     icu::UnicodeString text;

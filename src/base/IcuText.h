@@ -1,6 +1,7 @@
 // Conversions between Qt's and ICU's strings.
 //
-// For this folder only: no other code uses ICU. Any thread.
+// For this folder only: no other code uses ICU. Any thread. What ICU makes for a locale is not
+// checked for null: its data are part of its library, so it has something for every locale.
 #pragma once
 
 #include <QString>
@@ -25,7 +26,8 @@ namespace vantle::icutext {
 
 /// Returns the locale of a name such as "de_DE"; ICU's root locale for an unknown name.
 [[nodiscard]] inline icu::Locale localeNamed(const QString& name) {
-    return icu::Locale::createFromName(name.toLatin1().constData());
+    const auto locale = icu::Locale::createFromName(name.toLatin1().constData());
+    return locale.isBogus() ? icu::Locale::getRoot() : locale; // ICU may crash on a bogus one
 }
 
 /// Returns the locale with its calendar for dates: the locale's own where that has its own years
@@ -35,10 +37,10 @@ namespace vantle::icutext {
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<const icu::Calendar> calendar(
         icu::Calendar::createInstance(*icu::TimeZone::getGMT(), locale, status));
-    const std::string type = U_SUCCESS(status) ? calendar->getType() : "";
+    const std::string type = calendar->getType();
     if (type != "persian" && type != "buddhist" && type.rfind("islamic", 0) != 0) {
-        UErrorCode ignored = U_ZERO_ERROR; // on failure ICU's default stays
-        locale.setKeywordValue("calendar", "gregorian", ignored);
+        // On failure ICU's default stays.
+        locale.setKeywordValue("calendar", "gregorian", status);
     }
     return locale;
 }

@@ -34,17 +34,14 @@ struct LocalTime::Years {
         UErrorCode status = U_ZERO_ERROR;
         calendar.reset(icu::Calendar::createInstance(*icu::TimeZone::getGMT(),
                                                      icutext::calendarLocaleNamed(locale), status));
-        if (U_FAILURE(status) || calendar->getType() == std::string_view("gregorian"))
-            calendar.reset();
+        if (calendar->getType() == std::string_view("gregorian")) calendar.reset();
     }
 
-    /// Returns a field of the day; 1 when ICU cannot compute it, as beyond the range of its
-    /// calendars.
+    /// Returns a field of the day. ICU's calendars reach further than days do here.
     [[nodiscard]] int field(UCalendarDateFields which, Day day) const {
         UErrorCode status = U_ZERO_ERROR;
         calendar->setTime(static_cast<double>(day * localtime::kSecondsPerDay) * 1000.0, status);
-        const int value = calendar->get(which, status);
-        return U_SUCCESS(status) ? value : 1;
+        return calendar->get(which, status);
     }
 
     [[nodiscard]] Day firstOfYear(int year) const {
@@ -54,8 +51,7 @@ struct LocalTime::Years {
         calendar->set(UCAL_MONTH, 0);
         calendar->set(UCAL_DATE, 1);
         const double ms = calendar->getTime(status);
-        const double day = std::floor(ms / 1000.0 / localtime::kSecondsPerDay);
-        return U_SUCCESS(status) ? static_cast<Day>(day) : 0;
+        return static_cast<Day>(std::floor(ms / 1000.0 / localtime::kSecondsPerDay));
     }
 };
 
@@ -70,10 +66,8 @@ LocalTime::LocalTime(const Calendar& calendar)
         icu::TimeZone::createTimeZone(icutext::toIcu(calendar.timeZone)));
     if (*zone == icu::TimeZone::getUnknown()) return;
     // ICU's zones made from an id all have this base class.
-    if (const auto* rules = dynamic_cast<const icu::BasicTimeZone*>(zone.get())) {
-        static_cast<void>(zone.release());
-        m_zone.reset(new Zone{std::unique_ptr<const icu::BasicTimeZone>(rules)});
-    }
+    const auto* const rules = static_cast<const icu::BasicTimeZone*>(zone.release());
+    m_zone.reset(new Zone{std::unique_ptr<const icu::BasicTimeZone>(rules)});
 }
 
 LocalTime::~LocalTime() = default;
@@ -138,11 +132,11 @@ LocalTime::Stretch LocalTime::askedStretch(std::int64_t seconds) const {
     const auto changeSeconds = [&] { return static_cast<std::int64_t>(change.getTime() / 1000.0); };
     if (zone.getPreviousTransition(ms, true, change)) stretch.from = changeSeconds();
     if (zone.getNextTransition(ms, false, change)) stretch.until = changeSeconds();
-    UErrorCode status = U_ZERO_ERROR;
+    UErrorCode ignored = U_ZERO_ERROR; // on failure both offsets stay 0
     int32_t raw = 0;
     int32_t saving = 0;
-    zone.getOffset(ms, false, raw, saving, status);
-    if (U_SUCCESS(status)) stretch.offset = (raw + saving) / 1000;
+    zone.getOffset(ms, false, raw, saving, ignored);
+    stretch.offset = (raw + saving) / 1000;
     return stretch;
 }
 

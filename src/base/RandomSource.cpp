@@ -16,8 +16,8 @@ void SystemRandom::refill() {
     m_taken = 0;
     static_assert(sizeof(m_pool) <= 256, "the kernel gives no more at once");
     if (getentropy(m_pool.data(), sizeof(m_pool)) == 0) return;
-    for (std::uint64_t& number : m_pool) // the kernel lacks getrandom()
-        number = QRandomGenerator::system()->generate64();
+    // The kernel lacks getrandom().
+    QRandomGenerator::system()->fillRange(m_pool.data(), static_cast<qsizetype>(m_pool.size()));
 }
 
 } // namespace vantle

@@ -5,7 +5,7 @@
 namespace vantle {
 
 QString Error::description() const {
-    if (operation.isEmpty() && path.isEmpty()) return text;
+    if (operation.isEmpty()) return text;
     if (path.isEmpty()) return QStringLiteral("%1 (%2)").arg(text, operation);
     return QStringLiteral("%1 (%2 %3)").arg(text, operation, path);
 }

@@ -186,7 +186,6 @@ QString foldedCaseAndDiacritics(const QString& text) {
     UErrorCode status = U_ZERO_ERROR;
     const icu::Normalizer2* nfd = icu::Normalizer2::getNFDInstance(status);
     const icu::Normalizer2* nfc = icu::Normalizer2::getNFCInstance(status);
-    if (U_FAILURE(status)) return text;
     const icu::UnicodeString decomposed = nfd->normalize(viewOf(text), status);
     icu::UnicodeString bare;
     for (int32_t at = 0; at < decomposed.length(); at = decomposed.moveIndex32(at, 1)) {
@@ -194,8 +193,7 @@ QString foldedCaseAndDiacritics(const QString& text) {
         if (u_charType(scalar) != U_NON_SPACING_MARK) bare.append(scalar);
     }
     bare.foldCase(U_FOLD_CASE_DEFAULT);
-    const icu::UnicodeString composed = nfc->normalize(bare, status);
-    return U_FAILURE(status) ? text : fromIcu(composed);
+    return fromIcu(nfc->normalize(bare, status));
 }
 
 QString lowerCased(const QString& text) {

@@ -78,6 +78,16 @@ TEST(Calendar, ReturnsTheDateInAnUnknownZone) {
     EXPECT_EQ(calendarIn("Middle/Earth").weekOfYear(date), std::nullopt);
 }
 
+TEST(Calendar, StartsTheSameDaysAndWeeksInALocaleWithYearsOfItsOwn) {
+    const Calendar berlin = calendarIn("Europe/Berlin");
+    Calendar persian = berlin;
+    persian.locale = QStringLiteral("fa_IR");
+    for (const char* text : {"2026-03-20T23:30:00Z", "2026-03-29T12:00:00Z"}) {
+        EXPECT_EQ(persian.startOfDay(at(text)), berlin.startOfDay(at(text))) << text;
+        EXPECT_EQ(persian.startOfWeek(at(text)), berlin.startOfWeek(at(text))) << text;
+    }
+}
+
 TEST(Calendar, SurvivesDatesThatAreNotNumbers) {
     const Calendar berlin = calendarIn("Europe/Berlin");
     for (const double epoch : {std::numeric_limits<double>::infinity(),
@@ -122,6 +132,8 @@ TEST(Calendar, NumbersWeeksByTheRules) {
     const Calendar american = calendarIn("UTC", kSunday, 1);
     EXPECT_EQ(week(iso, "2021-01-03T12:00:00Z"), (Week{2020, 53}));
     EXPECT_EQ(week(iso, "2021-01-04T12:00:00Z"), (Week{2021, 1}));
+    EXPECT_NE(week(iso, "2021-01-04T12:00:00Z"), week(iso, "2021-01-11T12:00:00Z"));
+    EXPECT_NE(week(iso, "2021-01-04T12:00:00Z"), week(iso, "2022-01-03T12:00:00Z"));
     EXPECT_EQ(week(iso, "2024-12-30T12:00:00Z"), (Week{2025, 1}));
     EXPECT_EQ(week(american, "2021-01-02T12:00:00Z"), (Week{2021, 1}));
     EXPECT_EQ(week(american, "2019-12-31T12:00:00Z"), (Week{2020, 1}));
@@ -174,6 +186,10 @@ TEST(Calendar, WorksWithoutALocale) {
         const Calendar calendar = Calendar::current();
         EXPECT_NE(calendar.startOfWeek(at("2026-03-01T12:00:00Z")), std::nullopt) << name;
     }
+    const EnvironmentVariable all("LC_ALL", {});
+    const EnvironmentVariable times("LC_TIME", {});
+    const EnvironmentVariable language("LANG", {});
+    EXPECT_FALSE(Calendar::current().locale.isEmpty()) << "ICU's default";
 }
 
 RC_GTEST_PROP(Calendar, EveryMomentLiesInItsDayAndItsWeek, ()) {
@@ -193,6 +209,7 @@ RC_GTEST_PROP(Calendar, EveryMomentLiesInItsDayAndItsWeek, ()) {
     RC_ASSERT((date - week).count() < 7 * kDay + 3600);
     RC_ASSERT(calendar.startOfWeek(week) == week);
     RC_ASSERT(calendar.weekOfYear(week) == calendar.weekOfYear(date));
+    RC_ASSERT(calendar.weekOfYear(week - Seconds(1)) != calendar.weekOfYear(week));
 }
 
 } // namespace

@@ -38,6 +38,9 @@ TEST(DateText, TimeIsInTheClockOfTheLocale) {
 
 TEST(DateText, NonsenseForALocaleIsWrittenInSomeForm) {
     EXPECT_FALSE(DateText::time(calendar("UTC", "xx_YY"))(kMoment).isEmpty());
+    const QByteArray tooLong(200, 'x');
+    EXPECT_EQ(DateText::time(calendar("UTC", tooLong.constData()))(kMoment),
+              DateText::time(calendar("UTC", ""))(kMoment));
 }
 
 } // namespace

@@ -47,5 +47,19 @@ TEST(Iso8601, RefusesEveryOtherForm) {
         EXPECT_FALSE(iso8601::parse(text)) << text;
 }
 
+TEST(Iso8601, RefusesOtherMarksAndWhatIsNoDigit) {
+    for (const char* text : {"2026/03-01T09:30:05Z", "2026-03/01T09:30:05Z", "2026-03-01T09.30:05Z",
+                             "2026-03-01T09:30.05Z", "2026-03-01T-9:30:05Z", "2026-03-01T09:3x:05Z",
+                             "2026-03-01T09:30: 5Z"})
+        EXPECT_FALSE(iso8601::parse(text)) << text;
+}
+
+TEST(Iso8601, ParserReadsEachDateOfARunLikeTheFirst) {
+    iso8601::Parser parser;
+    for (const char* text : {"2026-03-01T09:30:05Z", "2026-03-01T23:59:59Z", "2026-02-30T09:30:05Z",
+                             "2026-03-01T00:00:00Z", "2026-03-02T00:00:00Z"})
+        EXPECT_EQ(parser.parse(text), iso8601::parse(text)) << text;
+}
+
 } // namespace
 } // namespace vantle

@@ -15,6 +15,8 @@ TEST(KeySigns, AreTheKeysThatWorkOnThisKeyboard) {
     EXPECT_EQ(keySignsInWords(text("⌘,")), text("Ctrl+Comma"));
     EXPECT_EQ(keySignsInWords(text("Ctrl+,")), text("Ctrl+Comma"));
     EXPECT_EQ(keySignsInWords(text("⌥⌘B")), text("Alt+Super+B"));
+    EXPECT_EQ(keySignsInWords(text("⌥B")), text("Alt+B"));
+    EXPECT_EQ(keySignsInWords(text("Hold ⌥⌘")), text("Hold Alt+Super+"));
     EXPECT_EQ(keySignsInWords(text("Press ⌘⌥B again to stop.")),
               text("Press Alt+Super+B again to stop."));
     EXPECT_EQ(keySignsInWords(text("Quit Vantle (⌘Q)")), text("Quit Vantle (Ctrl+Q)"));

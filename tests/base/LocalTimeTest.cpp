@@ -69,6 +69,19 @@ TEST(LocalTime, CountsYearsAndMonthsByTheCalendarOfTheLocale) {
     }
 }
 
+TEST(LocalTime, EveryCalendarReachesAsFarAsItsDays) {
+    constexpr double kForever = std::numeric_limits<double>::infinity();
+    for (const char* locale : {"en_US", "fa_IR", "th_TH", "ar_SA"})
+        for (const double epoch : {-kForever, kForever}) {
+            LocalTime local({QStringLiteral("UTC"), 1, 1, QLatin1String(locale)});
+            const auto day = local.at(dateFromEpoch(epoch)).day;
+            const int year = local.yearOf(day);
+            EXPECT_LE(local.firstOfYear(year), local.firstOfMonth(day)) << locale;
+            EXPECT_LE(local.firstOfMonth(day), day) << locale;
+            EXPECT_GT(local.firstOfYear(year + 1), day) << locale;
+        }
+}
+
 TEST(LocalTime, ASkippedDayStartsWithTheNextOne) {
     // Samoa went over the date line, and had no 30 December.
     LocalTime apia(weeksFrom("Pacific/Apia"));

@@ -77,6 +77,15 @@ TEST_F(QtSchedulerTest, RepeatsUntilTheHandleIsDestroyed) {
     EXPECT_EQ(fired, atTheEnd);
 }
 
+TEST_F(QtSchedulerTest, RepeatsNoEarlierThanTheToleranceAllows) {
+    QElapsedTimer clock;
+    clock.start();
+    int fired = 0;
+    const TimerHandle timer = m_scheduler.scheduleRepeatingTimer(40ms, 4ms, [&] { ++fired; });
+    EXPECT_TRUE(tests::await([&] { return fired >= 2; }));
+    EXPECT_GE(clock.elapsed(), 2 * 36);
+}
+
 TEST_F(QtSchedulerTest, DoesNotFireWhenTheHandleIsDestroyedBefore) {
     bool fired = false;
     TimerHandle timer = m_scheduler.scheduleOnce(1ms, [&] { fired = true; });

@@ -31,6 +31,13 @@ rc::Gen<QString> anyText() {
     });
 }
 
+TEST(Text, DecodesALeadingByteOrderMarkAsACharacter) {
+    const QString mark(QChar(0xFEFF));
+    EXPECT_EQ(fromUtf8("abc"), QStringLiteral("abc"));
+    EXPECT_EQ(fromUtf8("\xEF\xBB\xBF"), mark);
+    EXPECT_EQ(fromUtf8("\xEF\xBB\xBF\xEF\xBB\xBFz"), mark + mark + QLatin1Char('z'));
+}
+
 TEST(Text, CountsCharactersAsPeopleSeeThem) {
     EXPECT_EQ(characterCount(u""), 0);
     EXPECT_EQ(characterCount(u"abc"), 3);
