@@ -35,6 +35,7 @@ std::unique_ptr<AppModel> Workshop::makeModel(std::function<Calendar()> calendar
                                                             .cardSlot = m_cardSlot,
                                                             .autoSkill = m_autoSkill,
                                                             .focusLink = m_focusLink,
+                                                            .frontmostApp = m_frontmost,
                                                             .calendar = std::move(calendar)},
                                       Collaborators());
 }

@@ -79,7 +79,7 @@ void AppModel::prepareForTerminationUnseen() {
 
 void AppModel::quit() {
     prepareForTermination();
-    if (m_env.terminate) m_env.terminate();
+    m_env.terminate();
 }
 
 std::optional<QString> AppModel::projectName() const {

@@ -46,9 +46,9 @@ public:
         TopRightCardSlot& cardSlot; ///< arbitrates the corner among the cards
         AutoSkillMonitor& autoSkill;
         FocusLink& focusLink;
-        FrontmostApp* frontmostApp = nullptr; ///< null where the desktop has no such interface
-        std::function<Calendar()> calendar;   ///< returns the user's current calendar
-        std::function<void()> terminate = {}; ///< ends the process once the model has stopped
+        FrontmostApp& frontmostApp;
+        std::function<Calendar()> calendar;      ///< returns the user's current calendar
+        std::function<void()> terminate = [] {}; ///< ends the process once the model has stopped
     };
 
     /// Tightens file permissions, loads the skills, starts the monitors, registers the shortcut,

@@ -14,30 +14,30 @@
 namespace vantle {
 
 AutoModeAnswers::AutoModeAnswers(const Environment& environment) : m_env(environment) {
-    const QPointer self(this);
+    const SessionFlow& flow = m_env.flow;
     AutoSkillMonitor& monitor = m_env.monitor;
-    monitor.sessionState = [self] {
-        return self ? self->m_env.flow.tracker().state() : TrackerCore::State::Idle;
+    monitor.sessionState = [&flow] { return flow.tracker().state(); };
+    monitor.sessionSkillId = [&flow] { return flow.tracker().currentSkillId(); };
+    monitor.sessionBundleId = [&flow] {
+        return flow.isIdle() ? std::optional<QString>() : flow.sessionBundleId();
     };
-    monitor.sessionSkillId = [self] {
-        return self ? self->m_env.flow.tracker().currentSkillId() : std::optional<QString>();
+    monitor.onRetagSuggested = [this](const QString& skillId) { changeSkill(skillId); };
+    monitor.onAutoStart = [this](const QString& skillId) { startSession(skillId); };
+    monitor.onTagPromptSuggested = [this](const QString& bundleId, const QString& appName) {
+        askForTag(bundleId, appName);
     };
-    monitor.sessionBundleId = [self] {
-        return self && !self->m_env.flow.isIdle() ? self->m_env.flow.sessionBundleId()
-                                                  : std::optional<QString>();
-    };
-    monitor.onRetagSuggested = [self](const QString& skillId) {
-        if (self) self->changeSkill(skillId);
-    };
-    monitor.onAutoStart = [self](const QString& skillId) {
-        if (self) self->startSession(skillId);
-    };
-    monitor.onTagPromptSuggested = [self](const QString& bundleId, const QString& appName) {
-        if (self) self->askForTag(bundleId, appName);
-    };
-    m_env.skills.onSplitByHand = [self](const QString& skillId) {
-        if (self) self->offerRule(skillId);
-    };
+    m_env.skills.onSplitByHand = [this](const QString& skillId) { offerRule(skillId); };
+}
+
+AutoModeAnswers::~AutoModeAnswers() {
+    AutoSkillMonitor& monitor = m_env.monitor;
+    monitor.sessionState = nullptr;
+    monitor.sessionSkillId = nullptr;
+    monitor.sessionBundleId = nullptr;
+    monitor.onRetagSuggested = nullptr;
+    monitor.onAutoStart = nullptr;
+    monitor.onTagPromptSuggested = nullptr;
+    m_env.skills.onSplitByHand = nullptr;
 }
 
 void AutoModeAnswers::changeSkill(const QString& skillId) {

@@ -14,7 +14,7 @@ class SessionFlow;
 class SkillCommands;
 class SkillList;
 
-/// Sets the monitor's hooks, which hold this object weakly. Does not fail: a question that no card
+/// Sets the monitor's hooks and takes them away at its end. Does not fail: a question that no card
 /// can show now is forgotten, so that auto mode may ask it again. Main thread.
 class AutoModeAnswers final : public QObject {
     Q_OBJECT
@@ -31,6 +31,7 @@ public:
         collaborators::TagPrompt& tagPrompt;
     };
     explicit AutoModeAnswers(const Environment& environment);
+    ~AutoModeAnswers() override;
 
 private:
     void changeSkill(const QString& skillId);

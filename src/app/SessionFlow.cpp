@@ -192,8 +192,7 @@ void SessionFlow::onSessionEnded(const Session& session) {
 }
 
 std::optional<QString> SessionFlow::bundleIdInFront() const {
-    if (!m_env.frontmostApp) return std::nullopt;
-    const auto application = m_env.frontmostApp->frontmost();
+    const auto application = m_env.frontmostApp.frontmost();
     if (!application || application->bundleId.isEmpty()) return std::nullopt;
     return application->bundleId;
 }

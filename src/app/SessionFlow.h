@@ -45,7 +45,7 @@ public:
         IdleSource& idleSource;
         ScreenPower& screenPower;
         HotKeyPort& hotKeyPort;
-        FrontmostApp* frontmostApp = nullptr; ///< null where the desktop has no such interface
+        FrontmostApp& frontmostApp;
         AutoSkillMonitor& autoSkill;
         FocusLink& focusLink;
         TrackerCore& tracker;

@@ -15,8 +15,7 @@ constexpr std::ptrdiff_t kMinSessions = 2;
 
 std::optional<WeekInterval> lastWeekInterval(Date now, const Calendar& calendar) {
     const auto thisWeek = calendar.startOfWeek(now);
-    if (!thisWeek) return std::nullopt;
-    const auto lastWeek = calendar.addingWeeks(*thisWeek, -1);
+    const auto lastWeek = thisWeek ? calendar.addingWeeks(*thisWeek, -1) : std::nullopt;
     if (!lastWeek) return std::nullopt;
     return WeekInterval{*lastWeek, *thisWeek};
 }

@@ -124,7 +124,7 @@ void AppDelegate::makeModel() {
                                                          .cardSlot = m_cardSlot,
                                                          .autoSkill = m_autoSkill,
                                                          .focusLink = m_focusLink,
-                                                         .frontmostApp = &m_platform.frontmostApp,
+                                                         .frontmostApp = m_platform.frontmostApp,
                                                          .calendar = m_env.calendar,
                                                          .terminate = m_env.terminate},
                                    std::move(collaborators));

@@ -82,14 +82,16 @@ public:
     /// Erases memory and file until the next launch.
     void eraseAllData();
 
-    // Hooks, set by the owner, which they must hold weakly. An unset hook is not called.
+    // Hooks, set by the owner, which takes them away at its end. An unset hook is not called.
 
     std::function<TrackerCore::State()> sessionState;
     std::function<std::optional<QString>()> sessionSkillId;
     /// The application in which the open session began; empty when none is open.
     std::function<std::optional<QString>()> sessionBundleId;
 
+    /// Called while a session runs under another skill. The skill exists.
     std::function<void(const QString& skillId)> onRetagSuggested;
+    /// Called while no session is open. The skill exists.
     std::function<void(const QString& skillId)> onAutoStart;
     std::function<void(const QString& bundleId, const QString& appName)> onTagPromptSuggested;
 

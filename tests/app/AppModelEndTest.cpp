@@ -12,7 +12,6 @@
 namespace vantle::tests {
 namespace {
 
-using State = TrackerCore::State;
 using Operation = fakes::FaultyFileSystem::Operation;
 
 class AppModelEndTest : public testing::Test {
@@ -101,7 +100,7 @@ TEST_F(AppModelEndTest, AKilledSessionIsOfferedAndKept) {
     ASSERT_EQ(world.log().size(), 1u);
     EXPECT_EQ(world.log().front().activeSeconds, 120);
     EXPECT_FALSE(world.hasMarker());
-    EXPECT_EQ(model.tracker().state(), State::Idle);
+    EXPECT_EQ(model.tracker().state(), TrackerCore::State::Idle);
 }
 
 TEST_F(AppModelEndTest, TheOfferComesBeforeTheIdleCapsule) {
@@ -137,6 +136,14 @@ TEST_F(AppModelEndTest, AnOfferThatIsNotAnsweredComesAgain) {
     world.told.calls.clear();
     world.launch();
     EXPECT_TRUE(world.told.has(text("recovery 120")));
+}
+
+TEST_F(AppModelEndTest, RunThatEndsInItsFirstTurnShowsNothingAndLeavesTheOfferToTheNext) {
+    leaveKilledSession();
+    world.construct();
+    world.kill();
+    EXPECT_EQ(world.told.calls, QStringList());
+    EXPECT_TRUE(isOfferedNext());
 }
 
 TEST_F(AppModelEndTest, UnansweredOfferOutlivesASessionAndAQuit) {
@@ -289,7 +296,7 @@ TEST_F(AppModelEndTest, EraseInASessionLeavesNothing) {
     EXPECT_EQ(model.eraseEverything(), std::nullopt);
     world.settle();
     EXPECT_EQ(world.note(), text("All local Vantle data was erased"));
-    EXPECT_EQ(model.tracker().state(), State::Idle);
+    EXPECT_EQ(model.tracker().state(), TrackerCore::State::Idle);
     EXPECT_EQ(model.selectedSkillId(), text("building"));
     EXPECT_FALSE(world.told.has(text("focus ended")));
     EXPECT_FALSE(world.told.has(text("summary")));

@@ -45,6 +45,17 @@ TEST_F(AppModelPracticeTest, TheIdleCapsuleComesBackOnlyAfterTheWelcome) {
     EXPECT_TRUE(endASession());
 }
 
+TEST_F(AppModelPracticeTest, ScreenThatComesInTheWelcomeGetsNoIdleCapsule) {
+    settings::welcomeDone.remove(world.preferences);
+    AppModel& model = launched();
+    world.told.calls.clear();
+    model.ensureIdleNotch();
+    EXPECT_TRUE(world.told.calls.isEmpty());
+    model.markWelcomeDone();
+    model.ensureIdleNotch();
+    EXPECT_EQ(world.told.calls, QStringList{text("notch idle building flash 0")});
+}
+
 TEST_F(AppModelPracticeTest, PracticeAfterTheWelcomeLeavesNoRecordEither) {
     AppModel& model = launched();
     model.startPractice();

@@ -161,6 +161,12 @@ ModelWorld::ModelWorld(FileSystem& other) : storage(other) {
 ModelWorld::~ModelWorld() = default;
 
 AppModel& ModelWorld::launch() {
+    construct();
+    settle();
+    return *model;
+}
+
+void ModelWorld::construct() {
     skills = std::make_unique<SkillList>(paths, ioQueue, preferences);
     autoSkill = std::make_unique<AutoSkillMonitor>(
         AutoSkillMonitor::Environment{time, time, autoQueue, paths, preferences, *skills, frontmost,
@@ -180,12 +186,10 @@ AppModel& ModelWorld::launch() {
                                                          .cardSlot = cardSlot,
                                                          .autoSkill = *autoSkill,
                                                          .focusLink = focusLink,
-                                                         .frontmostApp = &frontmost,
+                                                         .frontmostApp = frontmost,
                                                          .calendar = [this] { return calendar; },
                                                          .terminate = [this] { ++terminations; }},
                                    recordingCollaborators(told));
-    settle();
-    return *model;
 }
 
 void ModelWorld::kill() {

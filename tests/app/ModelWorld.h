@@ -61,6 +61,8 @@ public:
 
     /// Starts the program on the disk as it is now.
     AppModel& launch();
+    /// Starts the program as far as its first turn of the event loop.
+    void construct();
     /// Kills the program: queued work is lost.
     void kill();
     /// Runs work posted to the main loop.

@@ -27,12 +27,12 @@ protected:
         return !files.calls().empty();
     }
 
-    const Calendar utc{text("UTC"), 2, 4};
+    Calendar calendar{text("UTC"), 2, 4};
     fakes::FakeIdleSource idleSource{time};
     fakes::FakeScreenPower screens;
     IdleMonitor idle{time, time, idleSource, screens, preferences};
     PanelState panel{
-        {time, [this] { return utc; }, preferences, process.notifications, tracker, idle}};
+        {time, [this] { return calendar; }, preferences, process.notifications, tracker, idle}};
 };
 
 TEST_F(PanelStateTest, CoverageIsThatOfTheLastRefresh) {
@@ -71,10 +71,31 @@ TEST_F(PanelStateTest, ReviewIsDueInTheWeekAfterTwoSessions) {
     EXPECT_EQ(told, 1);
 }
 
+TEST_F(PanelStateTest, ReviewIsDueForLastWeekAlone) {
+    logByHand();
+    logByHand();
+    time.advance(2 * kWeek);
+    panel.refresh();
+    EXPECT_FALSE(panel.wrappedReady()) << "the week before the last";
+    logByHand();
+    logByHand();
+    panel.refresh();
+    EXPECT_FALSE(panel.wrappedReady()) << "this week";
+}
+
+TEST_F(PanelStateTest, WithoutWeeksNoReviewIsDueAndNoLogIsRead) {
+    logByHand();
+    logByHand();
+    time.advance(kWeek);
+    calendar.timeZone = text("No/Where");
+    EXPECT_FALSE(readsToRefresh());
+    EXPECT_FALSE(panel.wrappedReady());
+}
+
 TEST_F(PanelStateTest, WeekThatWasSeenReadsNoLog) {
-    const auto week = weeklyreview::lastWeekInterval(time.now(), utc);
+    const auto week = weeklyreview::lastWeekInterval(time.now(), calendar);
     ASSERT_TRUE(week);
-    settings::reviewSeen.write(preferences, weeklyreview::weekOf(week->start, utc), true);
+    settings::reviewSeen.write(preferences, weeklyreview::weekOf(week->start, calendar), true);
     EXPECT_FALSE(readsToRefresh());
 }
 

@@ -66,6 +66,16 @@ TEST_F(SessionReportTest, ClocksFromTwoReadingsOfARunAgree) {
     }
 }
 
+TEST_F(SessionReportTest, SleepOfTheMachineIsNotInTheCount) {
+    m_world.press();
+    workFor(90);
+    EXPECT_EQ(values().activeSeconds, 90);
+    m_world.time.suspend(3600);
+    workFor(10);
+    EXPECT_EQ(m_model.tracker().state(), TrackerCore::State::Running);
+    EXPECT_NEAR(static_cast<double>(values().activeSeconds), 100, 1) << "cut out to the second";
+}
+
 TEST_F(SessionReportTest, TodayHoldsWhatWasLoggedAndWhatRuns) {
     m_world.press();
     workFor(600);

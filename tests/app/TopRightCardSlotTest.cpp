@@ -85,6 +85,12 @@ TEST_F(TopRightCardSlotTest, TheHolderMayChangeItsKindWithoutBeingEvicted) {
     EXPECT_TRUE(events.empty());
 }
 
+TEST_F(TopRightCardSlotTest, ASummaryEvictsNoSummary) {
+    for (const int* owner : {&a, &a, &b})
+        slot.takeForSummary(owner, [this] { events.emplace_back("evicted"); });
+    EXPECT_TRUE(events.empty());
+}
+
 TEST_F(TopRightCardSlotTest, ASummaryPushesARecoveryOutAndLetsItReturn) {
     request(a, Kind::Recovery, "a");
     slot.takeForSummary(&b, [] {});
