@@ -50,14 +50,11 @@ QString noted(int count) {
 /// The colours of the log's first `hours` hours, scaled to the dots of a ring.
 QList<QColor> ringOf(int hours, const std::vector<totals::DotRun>& log) {
     QList<QColor> ring;
-    auto run = log.begin();
-    std::int64_t before = 0; // hours in earlier runs
-    for (int dot = 0; dot < ringDots; ++dot) {
-        const std::int64_t hour = static_cast<std::int64_t>(dot) * hours / ringDots;
-        while (run != log.end() && hour >= before + run->count)
-            before += (run++)->count;
-        if (run == log.end()) break;
-        ring << QColor::fromRgb(run->skill.hexRGB);
+    std::int64_t end = 0; // in hours, of the runs so far
+    for (const totals::DotRun& run : log) {
+        end += run.count;
+        while (ring.size() < ringDots && ring.size() * hours / ringDots < end)
+            ring << QColor::fromRgb(run.skill.hexRGB);
     }
     return ring;
 }

@@ -58,9 +58,8 @@ std::vector<Week> inWeeks(const std::vector<GridDay>& days, const Calendar& cale
     if (days.empty()) return {};
     LocalTime local(calendar);
     const Day first = local.at(days.front().date).day;
-    const auto firstOfWeek = local.firstOfWeek(first);
-    if (!firstOfWeek) return {};
-    auto place = static_cast<std::size_t>(first - *firstOfWeek);
+    // Only an unknown zone has no weeks; there the first day begins one.
+    auto place = static_cast<std::size_t>(first - local.firstOfWeek(first).value_or(first));
     std::vector<Week> weeks((place + days.size() + 6) / 7);
     for (const GridDay& day : days) {
         weeks[place / 7][place % 7] = day;

@@ -21,7 +21,7 @@ void WrappedReview::open(Sessions log, const WrappedSettings& settings,
 }
 
 void WrappedReview::fallBackToLastWeek() {
-    if (m_period != WrappedPeriod::Week || m_stats.sessionCount > 0) return;
+    if (m_stats.sessionCount > 0) return;
     auto lastWeek = WrappedStats::compute(m_log, WrappedPeriod::LastWeek, m_settings);
     if (lastWeek.sessionCount < 1) return;
     m_period = WrappedPeriod::LastWeek;

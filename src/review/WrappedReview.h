@@ -58,6 +58,7 @@ public:
 
 private:
     void recompute(const WrappedSettings& settings);
+    /// For a review that opened on this week: shows last week when only that has sessions.
     void fallBackToLastWeek();
     void clampPage();
     void keepCard(std::optional<WrappedCard> card);

@@ -133,6 +133,32 @@ TEST(RhythmCard, WallShowsTheNewestDotsThatFit) {
               QStringLiteral("One dot per finished hour, in the skill that earned it."));
 }
 
+TEST(RhythmCard, WallCountsTheHoursThatDoNotFit) {
+    const auto stats = week({worked("2026-03-09T09:00:00Z", 300)});
+    EXPECT_EQ(reviewcards::rhythm(stats, settings(), std::nullopt, 2).wallCaption,
+              QStringLiteral("One dot per finished hour. 3 earlier hours off the top."));
+}
+
+TEST(RhythmCard, WeekWithoutAFinishedHourHasNoWall) {
+    const auto card = reviewcards::rhythm(week({worked("2026-03-09T09:00:00Z", 59)}), settings(),
+                                          std::nullopt, 9);
+    EXPECT_TRUE(card.picture.isWeek());
+    EXPECT_TRUE(card.wallKicker.isEmpty());
+    EXPECT_TRUE(card.wallCaption.isEmpty());
+}
+
+TEST(RhythmCard, CalendarWithoutWeeksHasNoTilesAndNoNamesForThem) {
+    WrappedSettings nowhere = settings();
+    nowhere.calendar.timeZone = QStringLiteral("No/Where");
+    WrappedStats stats;
+    for (const auto period : {WrappedPeriod::Week, WrappedPeriod::Month, WrappedPeriod::AllTime}) {
+        stats.period = period;
+        const auto picture = reviewcards::rhythmPicture(stats, nowhere, 2026);
+        EXPECT_TRUE(picture.tileList().isEmpty());
+        EXPECT_TRUE(picture.monthNames.join(QString()).isEmpty());
+    }
+}
+
 TEST(RhythmCard, MonthAndAllTimeHaveNoWall) {
     const std::vector<Session> log = {worked("2026-03-09T09:00:00Z", 120)};
     for (const auto period : {WrappedPeriod::Month, WrappedPeriod::AllTime}) {
@@ -173,10 +199,13 @@ TEST(RhythmCard, YearComesAsOneMapAndMonthByMonth) {
     ASSERT_EQ(card.picture.months.size(), 12U);
     // 2024-02-01 was a Thursday.
     EXPECT_FALSE(card.picture.months[1].front()[2].isDay);
+    EXPECT_EQ(card.picture.months[1].front()[2].help(), QString());
     EXPECT_EQ(card.picture.months[1].front()[3].help(), QStringLiteral("Thu, Feb 1"));
     EXPECT_EQ(card.picture.monthList().size(), 12);
     ASSERT_EQ(card.years.size(), 2U);
     EXPECT_EQ(card.years[1].label, QStringLiteral("Show 2024"));
+    ASSERT_EQ(card.yearList().size(), 2);
+    EXPECT_EQ(card.yearList()[0].value<YearChoice>().year, 2026);
     EXPECT_TRUE(reviewcards::rhythm(week(log), settings(), std::nullopt, 9).years.empty());
 }
 
@@ -204,6 +233,40 @@ TEST(WhenCard, NeedsThreeStarts) {
     EXPECT_EQ(card.facts[1].value, QStringLiteral("1 h 30 min"));
     EXPECT_EQ(card.facts[2].value, QStringLiteral("2 h"));
     EXPECT_EQ(card.facts[2].detail, QStringLiteral("Tue, Mar 10"));
+    EXPECT_EQ(card.factList().value(2).value<FactBox>().detail, card.facts[2].detail);
+}
+
+TEST(WhenCard, FactThatIsNotKnownHasNoBox) {
+    WrappedStats stats = week(std::vector<Session>(3, worked("2026-03-09T09:00:00Z", 60)));
+    const auto titles = [&stats] {
+        QStringList titles;
+        const auto card = reviewcards::when(stats, settings()).value();
+        for (const FactBox& box : card.facts)
+            titles << box.title;
+        return titles.join(QStringLiteral(", "));
+    };
+    EXPECT_EQ(titles(), QStringLiteral("TYPICAL START, LONGEST SESSION, BIGGEST DAY"));
+    stats.longest.reset();
+    EXPECT_EQ(titles(), QStringLiteral("TYPICAL START, BIGGEST DAY"));
+    stats.typicalStart.reset();
+    stats.biggestDay.reset();
+    EXPECT_EQ(titles(), QString());
+}
+
+TEST(HighPointsCard, EachHighPointIsALineWithItsSymbolAndColour) {
+    const auto stats = week(sixSkills());
+    ASSERT_FALSE(stats.superlatives.empty());
+    const auto card = reviewcards::highPoints(stats);
+    EXPECT_EQ(card.sentence, QStringLiteral("The numbers worth saying out loud this week"));
+    const QVariantList lines = card.lineList();
+    ASSERT_EQ(static_cast<std::size_t>(lines.size()), stats.superlatives.size());
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const auto line = lines[i].value<HighPoint>();
+        const SuperlativeLine& told = stats.superlatives[static_cast<std::size_t>(i)];
+        EXPECT_EQ(line.text, told.text);
+        EXPECT_EQ(line.icon, told.icon);
+        EXPECT_EQ(line.tint, QColor::fromRgb(told.tintHex));
+    }
 }
 
 TEST(WhenCard, HoursHaveASpaceThatCloseLettersLeave) {

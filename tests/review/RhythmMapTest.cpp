@@ -116,6 +116,7 @@ TEST(RhythmMap, LettersBeginWithTheFirstWeekday) {
 TEST(RhythmMap, BarsAreRelativeToTheHighest) {
     EXPECT_EQ(rhythmmap::startBars(std::array{1, 0, 4, 2}), (std::vector<double>{0.25, 0, 1, 0.5}));
     EXPECT_EQ(rhythmmap::startBars(std::array{0, 0}), (std::vector<double>{0, 0}));
+    EXPECT_TRUE(rhythmmap::startBars({}).empty());
 }
 
 TEST(RhythmMap, TilesOfAWeekGrowOneAfterTheOther) {

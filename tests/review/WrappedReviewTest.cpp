@@ -161,6 +161,23 @@ TEST_F(WrappedReviewTest, WordsAboutSharingGoWithThePeriod) {
     EXPECT_FALSE(review.shareFeedback());
 }
 
+TEST_F(WrappedReviewTest, WordsAboutSharingStayUntilThePosterIsCopied) {
+    open({monday});
+    review.setShareFeedback(QStringLiteral("no"));
+    review.setCopied(false);
+    EXPECT_EQ(review.shareFeedback(), QStringLiteral("no"));
+    review.setCopied(true);
+    EXPECT_FALSE(review.shareFeedback());
+}
+
+TEST_F(WrappedReviewTest, NarrativeOfAnEmptiedReviewHasNoPage) {
+    open({monday});
+    review.reload({}, settings);
+    review.narrativeArrived(WrappedPeriod::Week, QStringLiteral("You did."));
+    EXPECT_TRUE(review.cards().empty());
+    EXPECT_EQ(review.page(), 0);
+}
+
 TEST(WrappedCards, OneHighPointWithoutADayThatReachedTheGoalIsNoPage) {
     wrappedcards::Facts facts;
     facts.sessionCount = 3;
@@ -213,6 +230,9 @@ TEST(WrappedReviewNarrative, AsksAboutNotesOnlyWhereThereAreSome) {
     ASSERT_TRUE(question);
     EXPECT_EQ(question->hoursSummary, QStringLiteral("1 h"));
     EXPECT_EQ(question->topSkill, settings.skills.front().name);
+    session.activeSeconds = 0;
+    ASSERT_TRUE(questionOf({session}));
+    EXPECT_EQ(questionOf({session})->topSkill, std::nullopt) << "a note without time";
 }
 
 TEST_F(WrappedReviewTest, ANarrativeThatIsClearedTakesItsCardAwayAndLeavesTheOthers) {
