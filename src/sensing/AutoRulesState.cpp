@@ -37,11 +37,10 @@ QString nameOf(const QString& bundleId, const std::vector<SeenApp>& apps) {
     return app == apps.end() ? bundleId : app->name;
 }
 
-/// Moves automatic rules to the skill "building" where today's seed names it. Leaves the user's
-/// choices alone.
+/// Moves automatic rules to the skill "building" where today's seed names it, which it does only
+/// while that skill exists. Leaves the user's choices alone.
 void moveToBuilding(AutoRulesState& state, const std::vector<Skill>& skills) {
     const QLatin1String building("building");
-    if (!hasSkill(skills, building)) return;
     for (const QString& bundleId : std::as_const(state.automaticRuleBundleIds)) {
         QString& ruling = state.rules[bundleId];
         if (ruling == QLatin1String(ignoreRuling)) continue;

@@ -64,6 +64,17 @@ TEST_F(AutoRulesTest, UseTheOlderTableForTheOlderSkills) {
     EXPECT_EQ(rules->ruling(figma), std::nullopt);
 }
 
+TEST_F(AutoRulesTest, EachOfTheOlderSkillsHasItsOwnApplications) {
+    for (const auto& [id, app] :
+         {std::pair("design", figma), std::pair("code", xcode), std::pair("business", slack)}) {
+        setSkills({namedSkill(id, "Older"), namedSkill("connections", "Connections")});
+        relaunch();
+        disk.remove(file).ignore();
+        EXPECT_EQ(rules->ruling(app), text(id));
+        EXPECT_FALSE(rules->rules().values().contains(text("connections"))) << id;
+    }
+}
+
 TEST_F(AutoRulesTest, AreReadOnceAtFirstUseAndNotBefore) {
     time.settle();
     EXPECT_FALSE(hasFile());
@@ -123,6 +134,33 @@ TEST_F(AutoRulesTest, MoveAutomaticRulesOfTheOlderSkillsToBuildingAndLeaveChosen
     EXPECT_EQ(rules->ruling(text("x")), building) << "guessed by the name it was seen under";
     EXPECT_EQ(rules->ruling(text("y")), text("ignore"));
     EXPECT_EQ(rules->ruling(text("dev.zed.Zed")), text("code")) << "somebody chose that";
+}
+
+TEST_F(AutoRulesTest, LeaveAutomaticRulesAloneThatNowSpeakOfAnotherSkillOrOfNone) {
+    setSkills({namedSkill("building", "Build"), namedSkill("marketing", "Marketing"),
+               namedSkill("product_design", "Design")});
+    put(R"({"automaticRuleBundleIds":["com.figma.Desktop","org.viewer"],"rules":)"
+        R"({"com.figma.Desktop":"marketing","org.viewer":"marketing"},"seenApps":[]})");
+    EXPECT_EQ(rules->ruling(figma), text("marketing"));
+    EXPECT_EQ(rules->ruling(text("org.viewer")), text("marketing"));
+}
+
+TEST_F(AutoRulesTest, MoveNothingToASkillThatTheUserDeleted) {
+    setSkills({namedSkill("code", "Code")});
+    put(R"({"automaticRuleBundleIds":["com.apple.dt.Xcode"],"rules":)"
+        R"({"com.apple.dt.Xcode":"code"},"seenApps":[]})");
+    EXPECT_EQ(rules->ruling(xcode), text("code"));
+    EXPECT_TRUE(rules->isAutomaticallyCategorized(xcode));
+}
+
+TEST_F(AutoRulesTest, ForgetApplicationsThatAreStoredWithoutIdentityOrName) {
+    put(AutoRulesState{{},
+                       {{QString(), text("Nameless"), time.now()},
+                        {xcode, QString(), time.now()},
+                        {figma, text("Figma"), time.now()}},
+                       {}});
+    rules->loadIfNeeded();
+    EXPECT_THAT(seenIds(), ElementsAre(figma));
 }
 
 TEST_F(AutoRulesTest, MoveNothingOnceTheFileIsOfTheNewSkills) {

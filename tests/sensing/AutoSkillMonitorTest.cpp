@@ -51,6 +51,22 @@ TEST_F(AutoSkillMonitorTest, SwitchedOffForgetsWhatItWaitedForAndHearsOfNoSwitch
     EXPECT_THAT(takeCalls(), IsEmpty()) << "the thirty seconds are forgotten";
 }
 
+TEST_F(AutoSkillMonitorTest, SwitchedOffSeesNoApplicationMoreFromThatMoment) {
+    start();
+    settings::autoMode.write(preferences, false);
+    activate(xcode);
+    EXPECT_TRUE(monitor->rules().seenApps().empty());
+}
+
+TEST_F(AutoSkillMonitorTest, SwitchThatComesAfterItsEndIsForgotten) {
+    set(settings::autoMode, false);
+    frontmost.application = xcode;
+    settings::autoMode.write(preferences, true);
+    monitor.reset();
+    time.settle();
+    EXPECT_FALSE(hasFile()) << "started, it would have written its first rules";
+}
+
 TEST_F(AutoSkillMonitorTest, WaitsForNothingBetweenSwitches) {
     start();
     EXPECT_EQ(time.timerCount(), 0u);
@@ -242,11 +258,29 @@ TEST_F(AutoSkillMonitorTest, ChangesNothingForAnApplicationThatVanished) {
     EXPECT_THAT(takeCalls(), IsEmpty());
 }
 
+TEST_F(AutoSkillMonitorTest, ChangesNothingWhenAnotherCameToTheFrontUntold) {
+    beRunning("marketing");
+    start();
+    activate(xcode);
+    frontmost.application = viewer;
+    time.advance(45);
+    EXPECT_THAT(takeCalls(), IsEmpty());
+}
+
 TEST_F(AutoSkillMonitorTest, ChangesNothingWhenTheRuleChangedInTheMeantime) {
     beRunning("marketing");
     start();
     activate(xcode);
     monitor->rules().setRule(xcode.bundleId, text("founder_ops"));
+    time.advance(45);
+    EXPECT_THAT(takeCalls(), IsEmpty());
+}
+
+TEST_F(AutoSkillMonitorTest, ChangesNothingWhenTheUserChoseThatSkillInTheMeantime) {
+    beRunning("marketing");
+    start();
+    activate(xcode);
+    beRunning("building");
     time.advance(45);
     EXPECT_THAT(takeCalls(), IsEmpty());
 }
@@ -274,6 +308,19 @@ TEST_F(AutoSkillMonitorTest, LeavesAnApplicationAloneWhoseSkillTheUserOverruled)
     activate(xcode);
     time.advance(45);
     EXPECT_THAT(takeCalls(), ElementsAre("retag building"));
+}
+
+TEST_F(AutoSkillMonitorTest, ChoiceByHandWithNoApplicationInFrontOverrulesNone) {
+    beRunning("marketing");
+    start();
+    for (const auto& app :
+         {std::optional<Application>(), std::optional(Application{QString(), text("Nameless")})}) {
+        frontmost.application = app;
+        monitor->noteManualSkillChoice();
+        activate(xcode);
+        time.advance(45);
+        EXPECT_THAT(takeCalls(), ElementsAre("retag building"));
+    }
 }
 
 TEST_F(AutoSkillMonitorTest, SurvivesAClockThatIsSetBackDuringAStay) {
@@ -374,6 +421,28 @@ TEST_F(AutoSkillMonitorTest, DoesNothingWithoutHooks) {
     activate(xcode);
     time.advance(120);
     EXPECT_THAT(takeCalls(), IsEmpty());
+}
+
+TEST_F(AutoSkillMonitorTest, HooksThatGoDuringAStayAreNotCalled) {
+    start();
+    beRunning("marketing");
+    activate(xcode);
+    monitor->onRetagSuggested = {};
+    time.advance(45);
+    activate(finder);
+    monitor->onTagPromptSuggested = {};
+    monitor->sessionBundleId = {};
+    time.advance(90);
+    EXPECT_THAT(takeCalls(), IsEmpty());
+}
+
+TEST_F(AutoSkillMonitorTest, SessionWhoseSkillIsNotToldIsUnderAnother) {
+    monitor->sessionSkillId = {};
+    beRunning("building");
+    start();
+    activate(xcode);
+    time.advance(45);
+    EXPECT_THAT(takeCalls(), ElementsAre("retag building"));
 }
 
 // Erasing

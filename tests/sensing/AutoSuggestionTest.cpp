@@ -48,6 +48,12 @@ TEST(AutoSuggestion, TakesAWordAnywhereInTheText) {
     EXPECT_EQ(suggestion("com.example.Organized", "x"), text("building"));
 }
 
+TEST(AutoSuggestion, CaseDoesNotMatterInNamesBeyondAsciiEither) {
+    EXPECT_EQ(suggestion("x", "Überblick · PHOTOSHOP"), suggestion("x", "photoshop"));
+    EXPECT_EQ(suggestion("x", "photoshop"), text("product_design"));
+    EXPECT_EQ(suggestion("x", "S\u212AETCH"), text("product_design")) << "with a Kelvin sign";
+}
+
 TEST(AutoSuggestion, SiteThatHostsAProjectSaysNothingOfWhatItIsFor) {
     EXPECT_EQ(suggestion("io.github.Hexchat", "HexChat"), std::nullopt);
     EXPECT_EQ(suggestion("com.github.johnfactotum.Foliate", "Foliate"), std::nullopt);

@@ -231,6 +231,13 @@ TEST_F(HotKeyTest, ConsentSurvivesADesktopWithAnotherWay) {
     EXPECT_EQ(settings::hotKeyAllowed.read(preferences), QStringLiteral("gnome"));
 }
 
+TEST_F(HotKeyTest, ConsentIsNotAskedForBeforeARegistration) {
+    port.way = QStringLiteral("portal");
+    hotKey->allow(true);
+    EXPECT_EQ(port.isAllowed, std::nullopt);
+    EXPECT_EQ(settings::hotKeyAllowed.read(preferences), QString());
+}
+
 TEST_F(HotKeyTest, ConsentIsIgnoredWhereNoneIsNeeded) {
     hotKey->registerHotKey();
     hotKey->allow(true);

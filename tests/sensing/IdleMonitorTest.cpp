@@ -134,6 +134,7 @@ TEST_F(IdleMonitorTest, WorksWithoutCallbacks) {
     monitor->onIdleBegan = nullptr;
     monitor->onActivityResumed = nullptr;
     monitor->onScreensSlept = nullptr;
+    monitor->onScreensWoke = nullptr;
     source.fix(500);
     monitor->start();
     screens.sleep();
@@ -141,6 +142,12 @@ TEST_F(IdleMonitorTest, WorksWithoutCallbacks) {
     source.fix(1);
     time.advance(kPoll);
     EXPECT_FALSE(monitor->isIdle());
+    screens.sleep();
+    screens.wake();
+    EXPECT_FALSE(monitor->screensSleep());
+    screens.sleep();
+    time.advance(IdleMonitor::readingsThatWakeScreens * kPoll);
+    EXPECT_FALSE(monitor->screensSleep()) << "a minute of input";
 }
 
 TEST_F(IdleMonitorTest, MayBeStoppedFromItsOwnCallback) {
@@ -307,6 +314,30 @@ TEST_F(IdleMonitorTest, AMinuteOfInputEndsTheSleepOfTheScreens) {
     time.advance(300);
     screens.wake();
     EXPECT_THAT(takeCalls(), ElementsAre("screens woke")) << "the late wake changes nothing";
+}
+
+TEST_F(IdleMonitorTest, WakeWithoutACounterTellsNoSecondReturn) {
+    source.fix(0.25);
+    monitor->start();
+    screens.sleep();
+    time.advance(kPoll);
+    EXPECT_THAT(takeCalls(), ElementsAre("screens slept", "back"));
+    source.becomeUnknown();
+    screens.wake();
+    EXPECT_THAT(takeCalls(), ElementsAre("screens woke"));
+}
+
+TEST_F(IdleMonitorTest, StartedAgainItAsksWhetherTheScreensStillSleep) {
+    source.fix(0.25);
+    monitor->start();
+    screens.sleep();
+    monitor->stop();
+    monitor->start();
+    EXPECT_TRUE(monitor->screensSleep());
+    monitor->stop();
+    screens.wake();
+    monitor->start();
+    EXPECT_FALSE(monitor->screensSleep());
 }
 
 // What can be confirmed
