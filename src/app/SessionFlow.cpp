@@ -89,7 +89,9 @@ std::optional<int> SessionFlow::start(int backfillMinutes) {
     // The input that starts a session may end an absence. Seen first at the next sample, up to ten
     // seconds later, it would cut the work between the two.
     m_idle.poll();
-    return m_env.tracker.start(m_env.skills.by(m_selectedSkillId), backfillMinutes);
+    const auto applied = m_env.tracker.start(m_env.skills.by(m_selectedSkillId), backfillMinutes);
+    m_idle.reportAgain();
+    return applied;
 }
 
 void SessionFlow::startWithBackfill(int minutes) {
@@ -131,8 +133,10 @@ void SessionFlow::discardPractice() {
 
 SessionFlow::Split SessionFlow::split(const Skill& skill) {
     const CauseScope scope(m_cause, SessionCause::Split);
+    m_idle.poll(); // as for a start
     Split halves{m_env.tracker.stop()};
     if (halves.ended) halves.hasStarted = m_env.tracker.startAfter(*halves.ended, skill);
+    m_idle.reportAgain();
     return halves;
 }
 

@@ -87,7 +87,7 @@ bool IdleMonitor::poll() {
 
     // Presence or absence by this reading alone.
     if (*idle >= thresholdSeconds()) {
-        if (!m_isIdle) beginIdle(*idle);
+        if (!m_isIdle || m_reportsAgain) beginIdle(*idle);
     } else if (m_isIdle) {
         resumeActivity();
     }
@@ -126,11 +126,13 @@ void IdleMonitor::noteScreenWake() {
 
 void IdleMonitor::beginIdle(double seconds) {
     m_isIdle = true;
+    m_reportsAgain = false;
     if (onIdleBegan) onIdleBegan(seconds);
 }
 
 void IdleMonitor::resumeActivity() {
     m_isIdle = false;
+    m_reportsAgain = false;
     if (onActivityResumed) onActivityResumed();
 }
 

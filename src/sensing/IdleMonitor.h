@@ -49,6 +49,10 @@ public:
     /// Takes a sample now, as the timer does. Returns whether the counter is known.
     bool poll();
 
+    /// Makes the next sample report an absence that still goes on as one that begins: for work that
+    /// was started in the middle of it, without input. Has no effect when the user is there.
+    void reportAgain() { m_reportsAgain = m_isIdle; }
+
     /// Whether the screens sleep or are locked, which counts as absence whatever the counter says.
     [[nodiscard]] bool screensSleep() const { return m_screensSleep; }
 
@@ -102,6 +106,7 @@ private:
     const Preferences& m_preferences;
 
     bool m_isIdle = false;
+    bool m_reportsAgain = false;
     IdleHistory m_history;
     std::optional<Date> m_lastScreenSleepAt;
     std::optional<Date> m_lastUnknownAt; ///< end of the last unknown period

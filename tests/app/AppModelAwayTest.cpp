@@ -42,6 +42,30 @@ TEST_F(AppModelAwayTest, PressAfterAnAbsenceCountsFromThePress) {
     EXPECT_EQ(model.tracker().displayActiveSeconds(), 60);
 }
 
+TEST_F(AppModelAwayTest, StartWithoutInputCountsNoneOfAnAbsence) {
+    AppModel& model = launched();
+    world.time.advance(400.0);
+    model.toggleVantle(); // by a command of another program
+    world.time.advance(8 * 3600.0);
+    EXPECT_EQ(model.tracker().state(), State::Paused);
+    EXPECT_EQ(model.tracker().displayActiveSeconds(), 0);
+    world.idleSource.touch();
+    world.time.advance(10.0);
+    EXPECT_EQ(model.tracker().state(), State::Running);
+}
+
+TEST_F(AppModelAwayTest, SkillChangedWithoutInputCountsNoneOfAnAbsence) {
+    AppModel& model = launched();
+    world.idleSource.touch();
+    world.press();
+    world.time.advance(400.0);
+    ASSERT_EQ(model.tracker().state(), State::Paused);
+    model.selectSkill(model.skills().back().id, AppModel::SkillSelectionOrigin::Human);
+    world.time.advance(8 * 3600.0);
+    EXPECT_EQ(model.tracker().state(), State::Paused);
+    EXPECT_EQ(model.tracker().displayActiveSeconds(), 0);
+}
+
 TEST_F(AppModelAwayTest, LockWithoutACounterEndsWithTheUnlock) {
     AppModel& model = launched();
     world.idleSource.becomeUnknown();
