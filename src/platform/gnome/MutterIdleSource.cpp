@@ -1,6 +1,6 @@
 #include "platform/gnome/MutterIdleSource.h"
 
-#include <QVariant>
+#include "platform/bus/BusValue.h"
 
 namespace vantle {
 
@@ -21,8 +21,8 @@ MutterIdleSource::MutterIdleSource(const QDBusConnection& session, const Clock& 
     connect(&m_monitor, &FollowedService::gone, this, &MutterIdleSource::lose);
     m_monitor.hear(kMonitorPath, kMonitor, QStringLiteral("WatchFired"),
                    [this](const QDBusMessage& signal) {
-                       const QVariantList values = signal.arguments();
-                       if (!values.isEmpty()) takeWatch(values.constFirst().toUInt());
+                       const auto id = busValue<uint>(signal.arguments().value(0));
+                       if (id) takeWatch(*id);
                    });
 }
 

@@ -1,8 +1,10 @@
 #include "platform/gnome/MutterScreenPower.h"
 
-#include <QDBusArgument>
+#include "platform/bus/BusValue.h"
+
 #include <QDBusMessage>
 #include <QDBusVariant>
+#include <QStringList>
 #include <QVariantMap>
 
 namespace vantle {
@@ -33,17 +35,17 @@ void MutterScreenPower::ask() {
 }
 
 void MutterScreenPower::takeProperties(const QVariantList& arguments) {
-    if (arguments.size() < 3) return;
-    const auto changed = qdbus_cast<QVariantMap>(arguments[1]);
-    if (changed.contains(kMode))
-        take(changed.value(kMode));
-    else if (arguments[2].toStringList().contains(kMode))
+    const auto changed = busValue<QVariantMap>(arguments.value(1));
+    const auto outdated = busValue<QStringList>(arguments.value(2));
+    if (changed && changed->contains(kMode))
+        take(changed->value(kMode));
+    else if (outdated && outdated->contains(kMode))
         ask();
 }
 
 void MutterScreenPower::take(const QVariant& mode) {
     // 0 is on, -1 unknown; 1 to 3 are power saving modes.
-    setCause(kSavesPower, mode.toInt() > 0);
+    setCause(kSavesPower, busValue<int>(mode).value_or(-1) > 0);
 }
 
 } // namespace vantle

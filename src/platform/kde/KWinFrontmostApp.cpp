@@ -89,7 +89,9 @@ void KWinFrontmostApp::load() {
     if (!m_script->open() || m_script->write(sourceFor(m_session.baseService())) < 0) return;
     m_script->close();
     m_kwin.ask<int>(scripting(QStringLiteral("loadScript")) << m_script->fileName() << kScript,
-                    [this](int script) { run(script); });
+                    [this](int script) {
+                        if (script >= 0) run(script); // otherwise it was not loaded
+                    });
 }
 
 void KWinFrontmostApp::run(int script) {

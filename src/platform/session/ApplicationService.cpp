@@ -1,6 +1,7 @@
 #include "platform/session/ApplicationService.h"
 
 #include "base/Scheduler.h"
+#include "platform/bus/BusValue.h"
 #include "platform/session/ApplicationAdaptor.h"
 
 #include <QDBusPendingCallWatcher>
@@ -58,14 +59,12 @@ void ApplicationService::start() {
 }
 
 void ApplicationService::take(const QDBusMessage& answer) {
-    const bool answered =
-        answer.type() == QDBusMessage::ReplyMessage && !answer.arguments().isEmpty();
-    const uint result = answered ? answer.arguments().constFirst().toUInt() : 0;
+    const auto result = busValue<uint>(answer.arguments().value(0)); // an error has a text
     if (result == kPrimaryOwner || result == kAlreadyOwner) {
         m_state = State::Serving;
         return;
     }
-    m_state = answered ? State::NameTaken : State::NoBus;
+    m_state = result ? State::NameTaken : State::NoBus;
     m_session.unregisterObject(kObjectPath);
 }
 

@@ -1,5 +1,7 @@
 #include "platform/session/DesktopReadingWishes.h"
 
+#include "platform/bus/BusValue.h"
+
 #include <algorithm>
 #include <tuple>
 
@@ -28,11 +30,11 @@ void DesktopReadingWishes::take(const PortalSettings::Key& key, const QVariant& 
     const auto wishes = [this] { return std::tuple(moreContrast(), textScale()); };
     const auto before = wishes();
     if (key == kContrast) {
-        m_appearance = value.toUInt() == 1;
+        m_appearance = busValue<uint>(value) == 1U;
     } else if (key == kHighContrast) {
-        m_highContrast = value.toBool();
+        m_highContrast = busValue<bool>(value) == true;
     } else {
-        const double factor = value.toDouble();
+        const double factor = busValue<double>(value).value_or(0);
         m_textScale = factor > 0 ? std::clamp(factor, kSmallestText, kLargestText) : 1.0;
     }
     if (wishes() != before) Q_EMIT changed();

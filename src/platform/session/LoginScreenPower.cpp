@@ -1,5 +1,7 @@
 #include "platform/session/LoginScreenPower.h"
 
+#include "platform/bus/BusValue.h"
+
 #include <QDBusArgument>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
@@ -35,8 +37,8 @@ void LoginScreenPower::follow(const QDBusConnection& bus) {
     connect(m_login.get(), &FollowedService::came, this, &LoginScreenPower::meetManager);
     m_login->hear(kLoginPath, kLoginManager, QStringLiteral("PrepareForSleep"),
                   [this](const QDBusMessage& signal) {
-                      const QVariantList values = signal.arguments();
-                      if (!values.isEmpty()) takeSuspension(values.constFirst().toBool());
+                      const auto begins = busValue<bool>(signal.arguments().value(0));
+                      if (begins) takeSuspension(*begins);
                   });
     // From every session, since the user's session is not known yet.
     for (const auto& name : {QStringLiteral("Lock"), QStringLiteral("Unlock")})
@@ -117,7 +119,7 @@ void LoginScreenPower::takeSession(const QString& path) {
     m_sessionPath = path;
     m_login->ask<QDBusVariant>(
         m_login->get(path, kLoginSession, kLockedHint),
-        [this](const QDBusVariant& hint) { setLockedHint(hint.variant().toBool()); });
+        [this](const QDBusVariant& hint) { takeLockedHint(hint.variant()); });
 }
 
 void LoginScreenPower::takeLock(const QDBusMessage& signal) {
@@ -128,16 +130,17 @@ void LoginScreenPower::takeLock(const QDBusMessage& signal) {
 }
 
 void LoginScreenPower::takeProperties(const QDBusMessage& signal) {
-    if (signal.path() != m_sessionPath || signal.arguments().size() < 2) return;
-    const auto changed = qdbus_cast<QVariantMap>(signal.arguments().at(1));
-    const auto hint = changed.constFind(kLockedHint);
-    if (hint != changed.cend()) setLockedHint(hint->toBool());
+    if (signal.path() != m_sessionPath) return;
+    if (const auto changed = busValue<QVariantMap>(signal.arguments().value(1)))
+        takeLockedHint(changed->value(kLockedHint));
 }
 
-void LoginScreenPower::setLockedHint(bool locked) {
-    setCause(LockHintCause, locked);
+void LoginScreenPower::takeLockedHint(const QVariant& hint) {
+    const auto locked = busValue<bool>(hint);
+    if (!locked) return;
+    setCause(LockHintCause, *locked);
     // A locker that maintains the hint also ends what the signal began.
-    if (!locked) setCause(LockSignalCause, false);
+    if (!*locked) setCause(LockSignalCause, false);
 }
 
 } // namespace vantle

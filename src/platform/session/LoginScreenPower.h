@@ -7,6 +7,7 @@
 
 #include <QDBusMessage>
 #include <QDBusUnixFileDescriptor>
+#include <QVariant>
 
 #include <memory>
 
@@ -39,7 +40,7 @@ private:
     void askForSessionOfUser();
     void askForDisplay(const QString& userPath);
     void takeSession(const QString& path);
-    void setLockedHint(bool locked);
+    void takeLockedHint(const QVariant& hint);
 
     const QString m_sessionId;
     LateBus m_late;

@@ -1,6 +1,7 @@
 #include "platform/session/PortalAutostart.h"
 
 #include "base/Words.h"
+#include "platform/bus/BusValue.h"
 
 #include <QStringList>
 #include <QVariantMap>
@@ -34,9 +35,9 @@ Result<> PortalAutostart::ask(bool autostart) {
                           QStringLiteral("vantle")}}}});
     QObject::connect(m_request.get(), &PortalRequest::answered, m_request.get(),
                      [this](uint response, const QVariantMap& results) {
-                         m_kept.write(m_preferences,
-                                      response == portal::kGranted &&
-                                          results.value(QStringLiteral("autostart")).toBool());
+                         m_kept.write(m_preferences, response == portal::kGranted &&
+                                                         busValue<bool>(results.value(
+                                                             QStringLiteral("autostart"))) == true);
                      });
     QObject::connect(m_request.get(), &PortalRequest::refused, m_request.get(),
                      [this, before] { m_kept.write(m_preferences, before); });

@@ -2,6 +2,7 @@
 
 #include "base/Words.h"
 #include "platform/AcceleratorText.h"
+#include "platform/bus/BusValue.h"
 #include "platform/session/LateBus.h"
 #include "platform/session/PortalRequest.h"
 
@@ -24,7 +25,9 @@ const QString kRegistry = QStringLiteral("org.freedesktop.host.portal.Registry")
 
 const QString kShortcut = QStringLiteral("toggle");
 
-PortalShortcuts shortcutsOf(const QVariant& value) { return qdbus_cast<PortalShortcuts>(value); }
+PortalShortcuts shortcutsOf(const QVariant& value) {
+    return busValue<PortalShortcuts>(value).value_or(PortalShortcuts());
+}
 
 } // namespace
 
@@ -76,7 +79,7 @@ private:
                 {{QStringLiteral("session_handle_token"), portal::newToken()}},
                 [this](const QVariantMap& results) {
                     m_session = results.value(QStringLiteral("session_handle")).toString();
-                    if (m_session.isEmpty()) return fail();
+                    if (!isObjectPath(m_session)) return fail();
                     m_portal->hear(m_session, kSession, QStringLiteral("Closed"),
                                    [this](const QDBusMessage&) { fail(); });
                     bind();
@@ -104,11 +107,11 @@ private:
         const QString token = portal::newToken();
         options.insert(QStringLiteral("handle_token"), token);
         // Subscribes before the call, so that no response is missed.
-        m_portal->hear(portal::requestPath(m_name, token), portal::kRequest,
-                       QStringLiteral("Response"),
-                       [take = std::move(take)](const QDBusMessage& signal) {
-                           take(qdbus_cast<QVariantMap>(signal.arguments().value(1)));
-                       });
+        m_portal->hear(
+            portal::requestPath(m_name, token), portal::kRequest, QStringLiteral("Response"),
+            [take = std::move(take)](const QDBusMessage& signal) {
+                take(busValue<QVariantMap>(signal.arguments().value(1)).value_or(QVariantMap()));
+            });
         auto call = m_portal->call(portal::kPath, kInterface, method);
         call.setArguments(arguments + QVariantList{options});
         m_portal->ask<QDBusObjectPath>(
@@ -149,7 +152,9 @@ PortalHotKey::~PortalHotKey() = default;
 void PortalHotKey::askForVersion() {
     m_portal.ask<QDBusVariant>(
         m_portal.get(portal::kPath, kInterface, QStringLiteral("version")),
-        [this](const QDBusVariant& version) { setOffered(version.variant().toUInt() > 0); },
+        [this](const QDBusVariant& version) {
+            setOffered(busValue<uint>(version.variant()).value_or(0) > 0);
+        },
         [this] { setOffered(false); });
 }
 

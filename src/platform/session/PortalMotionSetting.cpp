@@ -1,5 +1,7 @@
 #include "platform/session/PortalMotionSetting.h"
 
+#include "platform/bus/BusValue.h"
+
 namespace vantle {
 
 namespace {
@@ -22,9 +24,9 @@ void PortalMotionSetting::take(const PortalSettings::Key& key, const QVariant& v
     const std::optional<bool> before = reduced();
     if (key == kReducedMotion) {
         m_reducedMotion.reset();
-        if (value.toUInt() == 1) m_reducedMotion = true;
-    } else if (value.userType() == QMetaType::Bool) {
-        m_animationsOff = !value.toBool();
+        if (busValue<uint>(value) == 1U) m_reducedMotion = true;
+    } else if (const auto animations = busValue<bool>(value)) {
+        m_animationsOff = !*animations;
     }
     if (reduced() != before) Q_EMIT changed();
 }

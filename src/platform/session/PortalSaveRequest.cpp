@@ -1,8 +1,10 @@
 #include "platform/session/PortalSaveRequest.h"
 
+#include "platform/bus/BusValue.h"
 #include "platform/session/PortalFilter.h"
 
 #include <QDBusMetaType>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStringList>
@@ -21,12 +23,12 @@ QString nameOf(const QWindow* window) {
     return window ? QStringLiteral("x11:%1").arg(window->winId(), 0, 16) : QString();
 }
 
-/// Returns the chosen file. Portals do not append a suffix to a name typed without one.
+/// Returns the chosen file. Portals do not append a suffix to a name typed without one. A relative
+/// path would lead to the working directory, and the system would read a path up to its first zero.
 std::optional<QString> chosenPath(const QVariantMap& results, const QString& ending) {
-    const QStringList uris = results.value(QStringLiteral("uris")).toStringList();
-    if (uris.isEmpty()) return std::nullopt;
-    const QString path = QUrl(uris.first()).toLocalFile();
-    if (path.isEmpty()) return std::nullopt;
+    const auto uris = busValue<QStringList>(results.value(QStringLiteral("uris")));
+    const QString path = QUrl(uris.value_or(QStringList()).value(0)).toLocalFile();
+    if (!QDir::isAbsolutePath(path) || path.contains(QChar::Null)) return std::nullopt;
     const QString whole = path + QLatin1Char('.') + ending;
     // The user was not asked about replacing a file of the completed name.
     return QFileInfo(path).suffix().isEmpty() && !QFileInfo::exists(whole) ? whole : path;

@@ -1,10 +1,10 @@
 #include "platform/session/SessionScreenPower.h"
 
+#include "platform/bus/BusValue.h"
 #include "platform/bus/FollowedService.h"
 
 #include <QDBusMessage>
 #include <QStringList>
-#include <QVariant>
 
 namespace vantle {
 
@@ -37,8 +37,8 @@ void SessionScreenPower::follow(const QDBusConnection& session, unsigned cause,
     // Any path: some services signal from an older one.
     saver->hear(QString(), name, QStringLiteral("ActiveChanged"),
                 [this, cause](const QDBusMessage& signal) {
-                    const QVariantList values = signal.arguments();
-                    if (!values.isEmpty()) setCause(cause, values.constFirst().toBool());
+                    const auto active = busValue<bool>(signal.arguments().value(0));
+                    if (active) setCause(cause, *active);
                 });
 }
 

@@ -1,5 +1,6 @@
 #include "platform/tray/StatusNotifierItem.h"
 
+#include "platform/bus/BusValue.h"
 #include "platform/tray/StatusNotifierAdaptor.h"
 
 #include <QDBusMessage>
@@ -81,8 +82,10 @@ void StatusNotifierItem::askForHost() {
     if (!m_announced) return;
     m_watcher.ask<QDBusVariant>(
         m_watcher.get(kWatcherPath, kWatcher, QStringLiteral("IsStatusNotifierHostRegistered")),
-        [this](const QDBusVariant& isThere) { setState(true, isThere.variant().toBool()); },
-        // The watcher accepted the item but cannot report hosts; assumes one.
+        // A watcher that accepted the item but cannot report hosts: assumes one.
+        [this](const QDBusVariant& isThere) {
+            setState(true, busValue<bool>(isThere.variant()).value_or(true));
+        },
         [this] { setState(true, true); });
 }
 

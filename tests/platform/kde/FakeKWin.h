@@ -111,7 +111,7 @@ public:
 
     Q_INVOKABLE int loadScript(const QString& file, const QString& name) {
         calls.append(QStringLiteral("load"));
-        if (m_script) return -1; // that name is loaded already
+        if (m_script || refuses) return -1; // that name is loaded already
         m_name = name;
         m_script = std::make_unique<FakeKWinScript>(m_client, m_version, file);
         m_client.bus().registerObject(m_version == KWinVersion::Six
@@ -130,6 +130,7 @@ public:
     [[nodiscard]] bool isScriptRunning() const { return m_script && m_script->isRunning(); }
     [[nodiscard]] FakeKWinScript* script() const { return m_script.get(); }
     QStringList calls;
+    bool refuses = false; ///< loads nothing
 
 private:
     const KWinVersion m_version;

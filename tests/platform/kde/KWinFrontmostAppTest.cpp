@@ -3,6 +3,7 @@
 #include "fakes/VirtualTime.h"
 #include "platform/kde/FakeKWin.h"
 #include "support/Await.h"
+#include "support/PrintedWarnings.h"
 #include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
@@ -59,6 +60,16 @@ INSTANTIATE_TEST_SUITE_P(, KWinFrontmostAppTest,
                          [](const auto& version) {
                              return version.param == KWinVersion::Five ? "Five" : "Six";
                          });
+
+TEST_P(KWinFrontmostAppTest, ScriptThatIsNotLoadedIsNotRun) {
+    const tests::PrintedWarnings printed;
+    m_kwin.refuses = true;
+    m_kwin.appear();
+    ASSERT_TRUE(await([this] { return m_kwin.calls.contains(QStringLiteral("load")); }));
+    tests::runFor(50);
+    EXPECT_EQ(printed.count(), 0);
+    EXPECT_EQ(m_front->coverage(), AppCoverage::None);
+}
 
 TEST_P(KWinFrontmostAppTest, EachSwitchIsToldWithAllThatNamesTheApplication) {
     ASSERT_TRUE(meet());

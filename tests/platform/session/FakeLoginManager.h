@@ -90,7 +90,8 @@ public:
         if (m_readEnd >= 0) ::close(m_readEnd);
     }
 
-    void prepareForSleep(bool begins) {
+    /// `begins` is a truth value unless a test says otherwise.
+    void prepareForSleep(const QVariant& begins) {
         auto signal = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/login1"),
                                                  QStringLiteral("org.freedesktop.login1.Manager"),
                                                  QStringLiteral("PrepareForSleep"));
@@ -104,11 +105,14 @@ public:
     }
     void hintLocked(bool to, const QString& path = sessionPath()) {
         if (path == sessionPath()) session.locked = to;
+        tellProperties(QVariantMap{{QStringLiteral("LockedHint"), to}}, path);
+    }
+    /// Signals changed properties, of the right type or not.
+    void tellProperties(const QVariant& changed, const QString& path = sessionPath()) {
         auto signal =
             QDBusMessage::createSignal(path, QStringLiteral("org.freedesktop.DBus.Properties"),
                                        QStringLiteral("PropertiesChanged"));
-        m_client.bus().send(signal << QStringLiteral("org.freedesktop.login1.Session")
-                                   << QVariantMap{{QStringLiteral("LockedHint"), to}}
+        m_client.bus().send(signal << QStringLiteral("org.freedesktop.login1.Session") << changed
                                    << QStringList());
     }
     /// Whether the inhibitor that was given out last is still held.

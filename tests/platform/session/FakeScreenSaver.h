@@ -6,6 +6,7 @@
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QObject>
+#include <QVariant>
 
 #include <gtest/gtest.h>
 
@@ -29,6 +30,10 @@ public:
 
     void change(bool to, const QString& path = {}) {
         active = to;
+        tell(to, path);
+    }
+    /// Signals a change to a value of any type.
+    void tell(const QVariant& to, const QString& path = {}) {
         auto signal = QDBusMessage::createSignal(path.isEmpty() ? m_path : path, m_name,
                                                  QStringLiteral("ActiveChanged"));
         signal << to;

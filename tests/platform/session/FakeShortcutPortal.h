@@ -35,6 +35,8 @@ public:
     bool asksNothing = false;         ///< binds at once, as for who was granted the keys before
     bool refuses = false;             ///< answers by errors
     QMap<QString, QStringList> calls; ///< by the connection they came from, in their order
+    /// Of the session that it gives out.
+    QString handle = QStringLiteral("/org/freedesktop/portal/desktop/session/1");
 
     [[nodiscard]] bool isAsking() const { return !m_question.isEmpty(); }
     [[nodiscard]] const PortalShortcuts& wanted() const { return m_wanted; }
@@ -58,6 +60,11 @@ public:
         send(QStringLiteral("ShortcutsChanged"),
              {QVariant::fromValue(QDBusObjectPath(m_session)),
               m_isBound ? bound(keys) : QVariant::fromValue(PortalShortcuts())});
+    }
+    /// The same with anything in the place of the shortcuts.
+    void tellShortcuts(const QVariant& shortcuts) {
+        send(QStringLiteral("ShortcutsChanged"),
+             {QVariant::fromValue(QDBusObjectPath(m_session)), shortcuts});
     }
     void press(const QString& shortcut = QStringLiteral("toggle"), int times = 1) {
         if (!m_isBound) return;
@@ -90,7 +97,7 @@ public:
             bus.send(call.createReply());
         } else if (member == QLatin1String("CreateSession")) {
             const QString request = accept(call, bus, given.value(0));
-            m_session = kPath + QStringLiteral("/session/1");
+            m_session = handle;
             respond(request, 0, {{QStringLiteral("session_handle"), m_session}});
         } else if (member == QLatin1String("BindShortcuts")) {
             m_wanted = qdbus_cast<PortalShortcuts>(given.value(1));

@@ -4,7 +4,9 @@
 #include "platform/session/MuteBus.h"
 #include "support/Await.h"
 
+#include <QDBusMetaType>
 #include <QElapsedTimer>
+#include <QMap>
 
 #include <gtest/gtest.h>
 
@@ -102,6 +104,23 @@ TEST_F(LoginScreenPowerTest, HintThatGoesEndsTheLockThatASignalBegan) {
     m_manager.hintLocked(false);
     EXPECT_TRUE(await([&] { return !power->asleep(); }));
     EXPECT_EQ(m_slept, 1);
+}
+
+TEST_F(LoginScreenPowerTest, SignalsOfOtherTypesDoNotCount) {
+    qDBusRegisterMetaType<QMap<QString, QString>>();
+    m_manager.appear();
+    const auto power = met();
+    m_manager.prepareForSleep(QStringLiteral("soon"));
+    m_manager.tellProperties(QVariantMap{{QStringLiteral("LockedHint"), 1}});
+    for (const QVariant& changed :
+         {QVariant::fromValue(QList<int>{1, 2, 3}),
+          QVariant::fromValue(tests::FakeDisplay{QStringLiteral("2"), QDBusObjectPath(kOther)}),
+          QVariant::fromValue(QMap<QString, QString>{{kOther, kOther}}), QVariant(1)})
+        m_manager.tellProperties(changed);
+    catchUp();
+    EXPECT_FALSE(power->asleep());
+    m_manager.signalLock(true);
+    EXPECT_TRUE(await([&] { return power->asleep(); })) << "and what is right still does";
 }
 
 TEST_F(LoginScreenPowerTest, SessionThatIsLockedAtTheStartIsNoticed) {

@@ -3,6 +3,10 @@
 #include "fakes/VirtualTime.h"
 #include "platform/session/FakeShortcutPortal.h"
 #include "support/Await.h"
+#include "support/PrintedWarnings.h"
+
+#include <QDBusMetaType>
+#include <QMap>
 
 #include <gtest/gtest.h>
 
@@ -71,6 +75,33 @@ TEST_F(PortalHotKeyTest, TellsWhoItIsBeforeAnythingElseOnItsConnection) {
     EXPECT_TRUE(m_desktop.calls.values().contains(QStringList{QStringLiteral("Register"),
                                                               QStringLiteral("CreateSession"),
                                                               QStringLiteral("BindShortcuts")}));
+}
+
+TEST_F(PortalHotKeyTest, SessionWhoseHandleIsNoPathIsNone) {
+    const tests::PrintedWarnings printed;
+    m_desktop.handle = QStringLiteral("session 1");
+    appear();
+    EXPECT_EQ(m_key->registerKey().registration, Registration::NotAllowed);
+    m_outcome = m_key->allow(true);
+    EXPECT_EQ(m_outcome.registration, Registration::Waiting);
+    EXPECT_TRUE(comesTo(Registration::Failed));
+    EXPECT_EQ(printed.count(), 0);
+}
+
+TEST_F(PortalHotKeyTest, ShortcutsOfAnotherTypeAreNone) {
+    qDBusRegisterMetaType<QMap<QString, QString>>();
+    setUp();
+    m_desktop.grant();
+    ASSERT_TRUE(comesTo(Registration::Registered));
+    for (const QVariant& shortcuts :
+         {QVariant::fromValue(QList<int>{1, 2, 3}), QVariant(QStringLiteral("toggle")),
+          QVariant::fromValue(QMap<QString, QString>{{kAllowed, kAllowed}}),
+          QVariant(QStringList{kAllowed})}) {
+        m_desktop.tellShortcuts(shortcuts);
+        EXPECT_TRUE(comesTo(Registration::KeysRemoved)) << shortcuts.typeName();
+        m_desktop.change(QStringLiteral("Press <Alt><Super>b"));
+        EXPECT_TRUE(comesTo(Registration::Registered));
+    }
 }
 
 TEST_F(PortalHotKeyTest, PortalWithoutARegistryServesAsWell) {

@@ -57,6 +57,19 @@ TEST_F(PortalSaveDialogTest, TellsThePortalWhatIsSavedAndAnswersWithThePath) {
     EXPECT_TRUE(m_otherwise.asked.empty());
 }
 
+TEST_F(PortalSaveDialogTest, AddressWithoutAWholePathIsNoAnswer) {
+    FakeFileChooser portal;
+    for (const char* uri : {"file:mine.png", "file:///tmp/mine%00.png", "https://example.org/a"}) {
+        portal.asked = false;
+        m_answers = 0;
+        ask();
+        ASSERT_TRUE(await([&] { return portal.asked; }));
+        portal.respond(0, QString::fromLatin1(uri));
+        ASSERT_TRUE(awaitAnswer());
+        EXPECT_EQ(m_path, std::nullopt) << uri;
+    }
+}
+
 TEST_F(PortalSaveDialogTest, NamesTheWindowThatTheDialogBelongsTo) {
     FakeFileChooser portal;
     QWindow window;

@@ -58,6 +58,16 @@ TEST_F(SessionScreenPowerTest, SignalFromAnOlderPathCounts) {
     EXPECT_TRUE(await([&] { return power.asleep(); }));
 }
 
+TEST_F(SessionScreenPowerTest, SignalWithoutATruthValueDoesNotCount) {
+    m_freedesktop.appear();
+    SessionScreenPower power(m_session.bus());
+    ASSERT_TRUE(await([&] { return m_freedesktop.asked == 1; }));
+    for (const QVariant& value : {QVariant(1), QVariant(QStringLiteral("no"))})
+        m_freedesktop.tell(value);
+    catchUp();
+    EXPECT_FALSE(power.asleep());
+}
+
 TEST_F(SessionScreenPowerTest, SignalOfAnotherSenderDoesNotCount) {
     m_freedesktop.appear();
     SessionScreenPower power(m_session.bus());
