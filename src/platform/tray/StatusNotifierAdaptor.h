@@ -6,6 +6,8 @@
 #include <QDBusAbstractAdaptor>
 #include <QDBusObjectPath>
 
+#include <algorithm>
+
 namespace vantle {
 
 /// org.kde.StatusNotifierItem; names and types are the protocol's. Main thread.
@@ -64,10 +66,16 @@ Q_SIGNALS:
     void NewToolTip();
 
 private:
+    /// Farther than any desktop reaches, in px. Any program may call with any numbers, of which
+    /// listeners take differences and sums.
+    static constexpr int kFarthest = 1 << 20;
+
     // Deferred until the reply has been sent, since the listener may take long.
     void click(int x, int y) {
+        const QPoint place(std::clamp(x, -kFarthest, kFarthest),
+                           std::clamp(y, -kFarthest, kFarthest));
         QMetaObject::invokeMethod(
-            &m_item, [item = &m_item, place = QPoint(x, y)] { Q_EMIT item->clicked(place); },
+            &m_item, [item = &m_item, place] { Q_EMIT item->clicked(place); },
             Qt::QueuedConnection);
     }
 

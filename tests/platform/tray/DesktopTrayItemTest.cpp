@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <limits>
 #include <optional>
 
 namespace vantle {
@@ -277,6 +278,18 @@ TEST_F(DesktopTrayItemTest, HostThatGivesTheSamePlaceForEveryClickIsNotBelieved)
     watcher.callItem(tests::kItemInterface, QStringLiteral("Activate"), {0, 25});
     ASSERT_TRUE(await([&] { return m_clicks.size() == 1; }));
     EXPECT_EQ(m_clicks.first(), QPoint(1300, 10));
+}
+
+TEST_F(DesktopTrayItemTest, PlaceBeyondEveryScreenIsNotBelieved) {
+    FakeStatusNotifierWatcher watcher;
+    watcher.appear();
+    m_item->setImage(m_red, false);
+    ASSERT_TRUE(await([&] { return isShownBy(watcher); }));
+    QCursor::setPos(15, 30);
+    constexpr int kLeast = std::numeric_limits<int>::min();
+    watcher.callItem(tests::kItemInterface, QStringLiteral("Activate"), {kLeast, kLeast});
+    ASSERT_TRUE(await([&] { return m_clicks.size() == 1; }));
+    EXPECT_EQ(m_clicks.first(), QPoint(15, 30));
 }
 
 TEST_F(DesktopTrayItemTest, ChangesOverWhenAWatcherComesAndBackWhenItGoes) {
