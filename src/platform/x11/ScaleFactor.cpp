@@ -14,21 +14,12 @@ namespace vantle::scalefactor {
 namespace {
 
 constexpr double kTenth = 0.1;
+/// Far above that of any monitor. Any client may write any number into the resources.
+constexpr double kMostFactor = 64;
 constexpr double kMmPerInch = 25.4;
 
 /// Longest resource property read, in 32-bit units.
 constexpr std::uint32_t kMostResources = 65536;
-
-std::optional<double> dpiAmong(const QByteArray& resources) {
-    for (const QByteArray& line : resources.split('\n')) {
-        const qsizetype colon = line.indexOf(':');
-        if (colon < 0 || line.first(colon).trimmed() != "Xft.dpi") continue;
-        bool isNumber = false;
-        const double dpi = line.sliced(colon + 1).trimmed().toDouble(&isNumber);
-        if (isNumber && dpi > 0) return dpi;
-    }
-    return std::nullopt;
-}
 
 double dpiOf(const xcb_screen_t& screen) {
     if (screen.width_in_millimeters == 0) return kUnscaled;
@@ -38,10 +29,22 @@ double dpiOf(const xcb_screen_t& screen) {
 
 } // namespace
 
+std::optional<double> dpiAmong(QByteArrayView resources) {
+    for (const QByteArray& line : resources.toByteArray().split('\n')) {
+        const qsizetype colon = line.indexOf(':');
+        if (colon < 0 || line.first(colon).trimmed() != "Xft.dpi") continue;
+        bool isNumber = false;
+        const double dpi = line.sliced(colon + 1).trimmed().toDouble(&isNumber);
+        if (isNumber && std::isfinite(dpi) && dpi > 0) return dpi;
+    }
+    return std::nullopt;
+}
+
 std::optional<int> settledDpi(double dpi) {
     const double factor = dpi / kUnscaled;
     const double whole = std::round(factor);
-    if (whole < 1 || factor == whole || std::abs(factor - whole) > kTenth) return std::nullopt;
+    if (whole < 1 || whole > kMostFactor || factor == whole || std::abs(factor - whole) > kTenth)
+        return std::nullopt;
     return static_cast<int>(whole * kUnscaled);
 }
 
@@ -60,11 +63,7 @@ double desktopDpi() {
                                    xcb_get_property(connection, 0, root, XCB_ATOM_RESOURCE_MANAGER,
                                                     XCB_ATOM_STRING, 0, kMostResources),
                                    nullptr));
-        QByteArray resources;
-        if (answer)
-            resources = QByteArray(static_cast<const char*>(xcb_get_property_value(answer.get())),
-                                   xcb_get_property_value_length(answer.get()));
-        dpi = dpiAmong(resources).value_or(dpiOf(*screens.data));
+        dpi = dpiAmong(bytesOf(answer.get())).value_or(dpiOf(*screens.data));
     }
     xcb_disconnect(connection);
     return dpi;

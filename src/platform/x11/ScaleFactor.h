@@ -3,12 +3,17 @@
 // Any thread.
 #pragma once
 
+#include <QByteArrayView>
+
 #include <optional>
 
 namespace vantle::scalefactor {
 
 /// Dots per inch at a factor of 1.
 inline constexpr double kUnscaled = 96.0;
+
+/// Returns `Xft.dpi` among the server's resources; empty without a number above 0. Pure.
+[[nodiscard]] std::optional<double> dpiAmong(QByteArrayView resources);
 
 /// Returns the dots per inch of the next whole factor if that of `dpi` is within a tenth of it;
 /// empty otherwise. Pure.

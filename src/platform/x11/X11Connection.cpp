@@ -27,6 +27,12 @@ std::span<const std::uint32_t> numbersOf(const xcb_get_property_reply_t* propert
             property->value_len};
 }
 
+QByteArrayView bytesOf(const xcb_get_property_reply_t* property) {
+    if (property == nullptr || property->format != 8) return {};
+    return {static_cast<const char*>(xcb_get_property_value(property)),
+            xcb_get_property_value_length(property)};
+}
+
 X11Connection::X11Connection(const QByteArray& display)
     : m_subscribers(std::make_shared<Subscribers>()) {
     m_xcb = xcb_connect(display.isEmpty() ? nullptr : display.constData(), &m_screen);

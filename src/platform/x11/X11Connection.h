@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QObject>
 
 #include <xcb/xcb.h>
@@ -32,9 +33,10 @@ struct FreeXcb {
 template <typename T>
 using XcbOwned = std::unique_ptr<T, FreeXcb>;
 
-/// Returns the values of a 32-bit property, valid as long as the reply; empty for another format or
-/// a missing property.
+/// Return the values of a property in 32-bit units and in bytes, valid as long as the reply; empty
+/// for another format or a missing property. Any client may set any value on any window.
 [[nodiscard]] std::span<const std::uint32_t> numbersOf(const xcb_get_property_reply_t* property);
+[[nodiscard]] QByteArrayView bytesOf(const xcb_get_property_reply_t* property);
 
 /// A missing or lost server is no failure: isAlive() is false then, and replies are empty. Requests
 /// with a reply block for one round trip.

@@ -15,6 +15,30 @@ constexpr std::uint32_t kMostWindows = 1024;
 
 } // namespace
 
+std::vector<ReservedStrip> stripsOf(std::span<const std::uint32_t> numbers, const QSize& desktop) {
+    if (numbers.size() < 4) return {};
+    const bool isPart = numbers.size() == 12;
+    constexpr std::array kEdges{Qt::LeftEdge, Qt::RightEdge, Qt::TopEdge, Qt::BottomEdge};
+    std::vector<ReservedStrip> strips;
+    for (std::size_t i = 0; i < kEdges.size(); ++i) {
+        const bool isUpright = i < 2;
+        const int length = isUpright ? desktop.height() : desktop.width();
+        const int across = isUpright ? desktop.width() : desktop.height();
+        const int depth = std::min(static_cast<int>(numbers[i]), across);
+        // The end is inclusive. Without partial struts the strip is as long as the desktop.
+        const int begin = isPart ? std::max(static_cast<int>(numbers[4 + 2 * i]), 0) : 0;
+        const int end =
+            isPart ? std::min(static_cast<int>(numbers[5 + 2 * i]), length - 1) : length - 1;
+        if (depth <= 0 || begin > end) continue;
+        QRect area = isUpright ? QRect(0, begin, depth, end - begin + 1)
+                               : QRect(begin, 0, end - begin + 1, depth);
+        if (kEdges[i] == Qt::RightEdge) area.moveLeft(across - depth);
+        if (kEdges[i] == Qt::BottomEdge) area.moveTop(across - depth);
+        strips.push_back({kEdges[i], area});
+    }
+    return strips;
+}
+
 X11Struts::X11Struts(X11Connection& x11) : m_x11(x11) {
     if (!m_x11.isAlive()) return;
     static_assert(kStrutAtoms.size() == AtomCount);
@@ -109,33 +133,10 @@ std::vector<X11Struts::Bar> X11Struts::barsAmong(const std::vector<xcb_window_t>
         const auto partial = m_x11.reply<xcb_get_property_reply>(cookies[i].first);
         const auto whole = m_x11.reply<xcb_get_property_reply>(cookies[i].second);
         const auto better = numbersOf(partial.get());
-        auto strips = stripsOf(better.size() == 12 ? better : numbersOf(whole.get()));
+        auto strips = stripsOf(better.size() == 12 ? better : numbersOf(whole.get()), m_desktop);
         if (!strips.empty()) bars.push_back({windows[i], std::move(strips)});
     }
     return bars;
-}
-
-std::vector<ReservedStrip> X11Struts::stripsOf(std::span<const std::uint32_t> numbers) const {
-    if (numbers.size() < 4) return {};
-    constexpr std::array kEdges{Qt::LeftEdge, Qt::RightEdge, Qt::TopEdge, Qt::BottomEdge};
-    std::vector<ReservedStrip> strips;
-    for (std::size_t i = 0; i < kEdges.size(); ++i) {
-        const int depth = static_cast<int>(numbers[i]);
-        if (depth <= 0) continue;
-        // The end is inclusive. Without partial struts the strip is as long as the desktop.
-        const bool isPart = numbers.size() == 12;
-        const bool isUpright = i < 2;
-        const int begin = isPart ? static_cast<int>(numbers[4 + 2 * i]) : 0;
-        const int end = isPart      ? static_cast<int>(numbers[5 + 2 * i])
-                        : isUpright ? m_desktop.height() - 1
-                                    : m_desktop.width() - 1;
-        QRect area = isUpright ? QRect(0, begin, depth, end - begin + 1)
-                               : QRect(begin, 0, end - begin + 1, depth);
-        if (kEdges[i] == Qt::RightEdge) area.moveLeft(m_desktop.width() - depth);
-        if (kEdges[i] == Qt::BottomEdge) area.moveTop(m_desktop.height() - depth);
-        if (area.isValid()) strips.push_back({kEdges[i], area});
-    }
-    return strips;
 }
 
 void X11Struts::follow(const std::vector<Bar>& bars) {

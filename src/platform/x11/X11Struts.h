@@ -4,13 +4,22 @@
 #include "platform/ReservedStrips.h"
 #include "platform/x11/X11Connection.h"
 
+#include <QSize>
+
 #include <xcb/xcb.h>
 
 #include <array>
 #include <optional>
 #include <span>
+#include <vector>
 
 namespace vantle {
+
+/// Returns the strips that a window's strut reserves on a desktop of that size, in device pixels:
+/// 12 numbers with the begin and end of each strip, or at least 4 without. Limited to the desktop,
+/// whatever the numbers are. Pure; any thread.
+[[nodiscard]] std::vector<ReservedStrip> stripsOf(std::span<const std::uint32_t> numbers,
+                                                  const QSize& desktop);
 
 /// Examines the windows themselves, so it needs no window manager that sums struts up: managed
 /// windows, and children of the root window, among them the bars of window managers that draw their
@@ -39,7 +48,6 @@ private:
     void refresh();
     [[nodiscard]] std::vector<xcb_window_t> windows();
     [[nodiscard]] std::vector<Bar> barsAmong(const std::vector<xcb_window_t>& windows);
-    [[nodiscard]] std::vector<ReservedStrip> stripsOf(std::span<const std::uint32_t> numbers) const;
     void follow(const std::vector<Bar>& bars);
 
     X11Connection& m_x11;

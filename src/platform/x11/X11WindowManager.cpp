@@ -78,9 +78,7 @@ bool X11WindowManager::servesMinimise() {
     if (!lists(StateHidden)) return false;
     const auto answer = m_x11.reply<xcb_get_property_reply>(
         xcb_get_property(m_x11.xcb(), 0, m_check, m_atoms[Name], XCB_GET_PROPERTY_TYPE_ANY, 0, 16));
-    if (!answer || answer->format != 8) return false;
-    const QByteArrayView name(static_cast<const char*>(xcb_get_property_value(answer.get())),
-                              xcb_get_property_value_length(answer.get()));
+    const QByteArrayView name = bytesOf(answer.get());
     return std::ranges::any_of(kMinimiseSilently, [&](QByteArrayView known) {
         return name.size() == known.size() &&
                qstrnicmp(name.data(), known.data(), static_cast<std::size_t>(name.size())) == 0;

@@ -31,15 +31,9 @@ std::optional<std::uint32_t> number(const xcb_get_property_reply_t* property) {
     return numbers.empty() ? std::nullopt : std::optional(numbers.front());
 }
 
-QByteArray bytes(const xcb_get_property_reply_t* property) {
-    if (property == nullptr || property->format != 8) return {};
-    return {static_cast<const char*>(xcb_get_property_value(property)),
-            xcb_get_property_value_length(property)};
-}
-
 /// Returns a text, without a terminating zero.
 QString text(const xcb_get_property_reply_t* property) {
-    const QByteArray all = bytes(property);
+    const QByteArrayView all = bytesOf(property);
     const qsizetype end = all.indexOf('\0');
     return QString::fromUtf8(end < 0 ? all : all.first(end)).trimmed();
 }
@@ -62,6 +56,21 @@ std::optional<std::uint32_t> processOf(const xcb_res_query_client_ids_reply_t* a
 }
 
 } // namespace
+
+WindowHints hintsOf(const WindowReplies& replies, const QByteArray& host) {
+    WindowHints hints;
+    const QList<QByteArray> classParts = bytesOf(replies.windowClass).toByteArray().split('\0');
+    hints.instance = QString::fromUtf8(classParts.value(0)).trimmed();
+    hints.windowClass = QString::fromUtf8(classParts.value(1)).trimmed();
+    hints.applicationId = text(replies.gtkApplication);
+    if (hints.applicationId.isEmpty()) hints.applicationId = text(replies.kdeDesktopFile);
+    const auto id = replies.processOfServer ? replies.processOfServer : number(replies.process);
+    // A process id from another machine would name the wrong process here, and the server knows
+    // only the forwarding program.
+    if (id && *id > 0 && text(replies.machine) == QString::fromLocal8Bit(host))
+        hints.processId = *id;
+    return hints;
+}
 
 X11WindowReader::X11WindowReader(X11Connection& connection)
     : m_connection(connection)
@@ -145,24 +154,21 @@ std::optional<X11WindowReader::Window> X11WindowReader::readOne(xcb_window_t win
     const Property type = answer(typeCookie);
     const Property gtk = answer(gtkCookie);
     const Property kde = answer(kdeCookie);
-    std::optional<std::uint32_t> id;
+    std::optional<std::uint32_t> owner;
     if (ownerCookie)
-        id = processOf(m_connection.reply<xcb_res_query_client_ids_reply>(*ownerCookie).get());
-    if (!id) id = number(process.get());
+        owner = processOf(m_connection.reply<xcb_res_query_client_ids_reply>(*ownerCookie).get());
     if (!attributes) return std::nullopt;
 
     Window read;
     read.isApplication = attributes->override_redirect == 0 && isApplicationType(type.get());
     read.transientFor = number(transient.get()).value_or(XCB_NONE);
-    const QList<QByteArray> classParts = bytes(classAnswer.get()).split('\0');
-    read.hints.instance = QString::fromUtf8(classParts.value(0)).trimmed();
-    read.hints.windowClass = QString::fromUtf8(classParts.value(1)).trimmed();
-    read.hints.applicationId = text(gtk.get());
-    if (read.hints.applicationId.isEmpty()) read.hints.applicationId = text(kde.get());
-    // A process id from another machine would name the wrong process here, and the server knows
-    // only the forwarding program.
-    if (id && *id > 0 && text(machine.get()) == QString::fromLocal8Bit(m_host))
-        read.hints.processId = *id;
+    read.hints = hintsOf({.windowClass = classAnswer.get(),
+                          .machine = machine.get(),
+                          .gtkApplication = gtk.get(),
+                          .kdeDesktopFile = kde.get(),
+                          .process = process.get(),
+                          .processOfServer = owner},
+                         m_host);
     return read;
 }
 

@@ -8,11 +8,25 @@
 #include <xcb/xcb.h>
 
 #include <array>
+#include <cstdint>
 #include <optional>
 
 namespace vantle {
 
 class X11Connection;
+
+/// What a window's properties and the server tell of its application; null for none.
+struct WindowReplies {
+    const xcb_get_property_reply_t* windowClass = nullptr;
+    const xcb_get_property_reply_t* machine = nullptr;
+    const xcb_get_property_reply_t* gtkApplication = nullptr;
+    const xcb_get_property_reply_t* kdeDesktopFile = nullptr;
+    const xcb_get_property_reply_t* process = nullptr;
+    std::optional<std::uint32_t> processOfServer;
+};
+
+/// Returns the hints in them, for a machine of that name. Pure; any thread.
+[[nodiscard]] WindowHints hintsOf(const WindowReplies& replies, const QByteArray& host);
 
 /// Requests all properties of a window at once: one round trip per window, and one more for each
 /// dialog above another. Main thread.

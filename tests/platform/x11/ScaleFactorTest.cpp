@@ -20,5 +20,18 @@ TEST(ScaleFactor, WholeOnesAndThoseBetweenStayAsTheyAre) {
         EXPECT_EQ(settledDpi(dpi), std::nullopt) << dpi;
 }
 
+TEST(ScaleFactor, NumberOfNoMonitorStaysAsItIs) {
+    for (const double dpi : {96.0 * 65 + 1, 96.0 * 3e9 + 1, 1e300})
+        EXPECT_EQ(settledDpi(dpi), std::nullopt) << dpi;
+}
+
+TEST(ScaleFactor, DotsAreANumberAmongTheResources) {
+    EXPECT_EQ(dpiAmong("Xcursor.size:\t24\nXft.dpi:\t144\n"), 144.0);
+    EXPECT_EQ(dpiAmong("Xft.dpi: much\nXft.dpi: 120"), 120.0);
+    for (const char* none : {"", "Xft.dpi", "Xft.dpi: 0", "Xft.dpi: -96", "Xft.dpi: inf",
+                             "Xft.dpi: nan", "Xft.dpi.x: 96"})
+        EXPECT_EQ(dpiAmong(none), std::nullopt) << none;
+}
+
 } // namespace
 } // namespace vantle::scalefactor

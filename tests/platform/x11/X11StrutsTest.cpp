@@ -77,6 +77,20 @@ TEST_F(X11StrutsTest, OlderFormReservesTheWholeEdge) {
     EXPECT_EQ(m_struts.all().back(), (ReservedStrip{Qt::LeftEdge, {0, 0, 30, 1024}}));
 }
 
+TEST_F(X11StrutsTest, NumbersThatLeaveTheDesktopAreLimitedToIt) {
+    constexpr std::uint32_t kMost = 0x7FFFFFFF;
+    constexpr std::uint32_t kLeast = 0x80000000;
+    const xcb_window_t bar =
+        makeBar("_NET_WM_STRUT_PARTIAL", {0, 0, 28, 0, 0, 0, 0, 0, kLeast, kMost, 0, 0});
+    EXPECT_EQ(m_struts.all(), (Strips{{Qt::TopEdge, QRect(0, 0, 1280, 28)}}));
+    set(bar, "_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL,
+        {kMost, 0, 0, 0, 100, 199, 0, 0, 0, 0, 0, 0});
+    EXPECT_EQ(m_struts.all(), (Strips{{Qt::LeftEdge, QRect(0, 100, 1280, 100)}}));
+    set(bar, "_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL,
+        {0, kLeast, 28, 0, 0, kMost, 0, 0, 1280, kMost, 0, 0});
+    EXPECT_EQ(m_struts.all(), Strips()) << "negative, and beside the desktop";
+}
+
 TEST_F(X11StrutsTest, ManagedBarInItsFrameIsFoundByTheListOfWindows) {
     const xcb_window_t bar = makeWindow(makeWindow());
     set(bar, "_NET_WM_STRUT_PARTIAL", XCB_ATOM_CARDINAL, {0, 0, 28, 0, 0, 0, 0, 0, 0, 1279, 0, 0});
