@@ -1,6 +1,7 @@
 // What windows and processes tell of themselves, of any bytes: the application that comes of it can
 // be kept in a file, and is the same each time. Fields are separated by a byte that no UTF-8 has.
 #include "Input.h"
+#include "base/Text.h"
 #include "platform/AcceleratorText.h"
 #include "platform/applications/ApplicationIdentity.h"
 #include "platform/applications/Interpreters.h"
@@ -32,10 +33,10 @@ DesktopEntryIndex someEntries() {
     return DesktopEntryIndex(std::move(entries));
 }
 
-void checkText(const QString& text) {
-    promise(text.size() <= kMaxText, "a text of limited length");
-    promise(text == text.simplified(), "a text without spaces at its ends");
-    promise(QString::fromUtf8(text.toUtf8()) == text, "a text that a file can hold");
+void checkText(const QString& shown) {
+    promise(shown.size() <= kMaxText, "a text of limited length");
+    promise(shown == shown.simplified(), "a text without spaces at its ends");
+    promise(text::fromUtf8(shown.toUtf8()) == shown, "a text that a file can hold");
 }
 
 } // namespace
