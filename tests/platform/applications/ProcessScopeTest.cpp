@@ -78,11 +78,11 @@ TEST(ProcessScope, ProcessOfAnInterpreterTellsItsScript) {
     const QTemporaryDir folder;
     QFile script(folder.filePath(QStringLiteral("ledger.py")));
     ASSERT_TRUE(script.open(QIODevice::WriteOnly));
-    script.write("input()");
+    script.write("print('here')\ninput()");
     script.close();
     QProcess process;
     process.start(QStringLiteral("/usr/bin/python3"), {QStringLiteral("-u"), script.fileName()});
-    ASSERT_TRUE(process.waitForStarted());
+    ASSERT_TRUE(process.waitForReadyRead()); // its command line comes a little later than itself
     const ProcessScope scope = ProcessScope::read(process.processId());
     EXPECT_TRUE(scope.program.startsWith(QStringLiteral("python3"))) << scope.program.toStdString();
     EXPECT_EQ(scope.script, QStringLiteral("ledger.py"));
