@@ -197,9 +197,15 @@ class Programs(unittest.TestCase):
 
 
 def places(program):
-    """Where a program is installed, by all the names of the file."""
+    """Where a program is installed, by all the names of the file, and where those are that the
+    machine could have under its name instead."""
     path = shutil.which(program, path="/usr/bin:/bin:/usr/sbin:/sbin:/usr/libexec")
-    return {path, path.removeprefix("/usr"), os.path.realpath(path)} if path else set()
+    if not path:
+        return set()
+    choices = Path("/var/lib/dpkg/alternatives", program)
+    others = choices.read_text(encoding="utf-8").splitlines() if choices.is_file() else []
+    return {path, path.removeprefix("/usr"), os.path.realpath(path),
+            *(other for other in others if other.startswith("/"))}
 
 
 class Command(unittest.TestCase):
