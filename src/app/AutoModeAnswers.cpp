@@ -54,8 +54,8 @@ void AutoModeAnswers::startSession(const QString& skillId) {
     m_env.skills.select(skillId, SkillCommands::Origin::Auto);
     m_env.flow.toggle(SessionCause::AutoMode);
     // When the idle threshold is shorter than auto mode's own delay, the user may already be away.
-    // The monitor reported that absence once, before the session, so without this pause all of it
-    // would count.
+    // The monitor reports that absence again with its next sample; until then the session
+    // would seem to run.
     if (m_env.flow.idle().isIdle()) m_env.flow.tracker().pause(m_env.clock.now());
 }
 
